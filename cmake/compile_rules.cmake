@@ -1,0 +1,35 @@
+# Compile rules for every target of the project.
+if(MSVC)
+  add_compile_options(/W4 /utf-8 /fp:strict)
+else()
+  add_compile_options(
+    -Wall -Wextra -Wno-unused-parameter
+    # An operation called on a null object answers its failure value; the compiler must keep the test.
+    -fno-delete-null-pointer-checks
+    # Float arithmetic is what is written: no fused multiply-add.
+    -ffp-contract=off)
+  if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+    add_compile_options(-Wno-tautological-undefined-compare -Wno-undefined-bool-conversion)
+  else()
+    add_compile_options(-Wno-nonnull-compare)
+  endif()
+endif()
+
+if(ZOPWNT_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+# The compiler's runtime DLLs, kept beside the programs and installed with them.
+set(ZOPWNT_RUNTIME_DLLS)
+if(MINGW)
+  foreach(dll libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
+    execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${dll}
+      OUTPUT_VARIABLE path OUTPUT_STRIP_TRAILING_WHITESPACE)
+    if(NOT EXISTS ${path})
+      set(path /usr/x86_64-w64-mingw32/lib/${dll})
+    endif()
+    list(APPEND ZOPWNT_RUNTIME_DLLS ${path})
+    configure_file(${path} ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${dll} COPYONLY)
+  endforeach()
+endif()
