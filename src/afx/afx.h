@@ -7,3 +7,5 @@
 #include "atltypes.h"
 #include "afx_module.h"
 #include "afx_exception.h"
+#include "afx_file.h"
+#include "atltime.h"

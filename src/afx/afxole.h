@@ -1,0 +1,5 @@
+// OLE: the exception with a result code.
+#pragma once
+
+#include "afxwin.h"
+#include "atlexcept.h"
