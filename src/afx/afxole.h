@@ -2,4 +2,3 @@
 #pragma once
 
 #include "afxwin.h"
-#include "atlexcept.h"
