@@ -1,0 +1,180 @@
+#include "widgets/gauge_model.h"
+#include "widgets/gauge_scale.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <initializer_list>
+#include <limits>
+#include <string_view>
+#include <utility>
+
+using namespace wnt;
+
+namespace {
+
+constexpr int lowest = std::numeric_limits<int>::min();
+constexpr int highest = std::numeric_limits<int>::max();
+
+template <class Lines = std::initializer_list<std::string_view>> GaugeModel model_of(const Lines& lines) {
+    GaugeModel model(0xC8D0D4, 0xFFFFFF, 0x404040);
+    for (std::string_view line : lines)
+        model.load_line(line);
+    return model;
+}
+
+TEST(GaugeModel, BuiltInScriptShowsTheSample) {
+    const GaugeModel model = model_of(gauge_built_in_script);
+    EXPECT_EQ(model.id_text(), "GAUGE01");
+    EXPECT_EQ(model.unit_text(), "Unit");
+    EXPECT_EQ(model.type, gauge_peak_line);
+    EXPECT_EQ(model.current, 76);
+    EXPECT_EQ(model.mark_count, 7);
+    EXPECT_EQ(model.border_height, 0);
+    EXPECT_EQ(model.background, 0xC8D0D4u);   // its colour lines are switched off
+    EXPECT_EQ(model.getmarkercolour(99), 12); // the first mark, 100, holds everything below it
+    EXPECT_EQ(model.getmarkercolour(100), 1);
+}
+
+TEST(GaugeModel, EveryKeyMarksItsPartForRepaint) {
+    const std::pair<std::string_view, int> cases[] = {{":MSG=x", 0},
+                                                      {":TYPE=ANALOG", 1},
+                                                      {":ID=x", 0},
+                                                      {":TITLE=x", 1},
+                                                      {":UNITTITLE=x", 1},
+                                                      {":MINVAL=1", 1},
+                                                      {":MAXVAL=1", 1},
+                                                      {":CURVAL=1", 2},
+                                                      {":SETMARK=1,RED", 2},
+                                                      {":CLEARMARKS", 2},
+                                                      {":SCALES=999", 1},
+                                                      {":SCALES=1000", 0},
+                                                      {":BORDERTYPE=FLAT", 1},
+                                                      {":BORDERSTYLE=TOP", 0},
+                                                      {":BORDERHEIGHT=1", 1},
+                                                      {":CLRBORDER=RED", 0},
+                                                      {":CLRTEXT=RED", 1},
+                                                      {":CLRBACK=RED", 1},
+                                                      {":CLRSUN=RED", 1},
+                                                      {":CLRSHADOW=RED", 1},
+                                                      {":NOTITLE=X", 1},
+                                                      {":BARTITLE=X", 1},
+                                                      {":DEMO=X", 1},
+                                                      {":UPDATE", 0},
+                                                      {":title=x", 0},
+                                                      {":", 0}};
+    for (const auto& [line, mask] : cases)
+        EXPECT_EQ(model_of({line}).repaint_mask, mask) << line;
+    EXPECT_EQ(model_of({":CURVAL=1", ":MINVAL=1", ":MAXVAL=9"}).repaint_mask, repaint_all); // bits, not a sum
+    EXPECT_EQ(model_of({":TYPE=THERMOMETER", ":CLEARMARKS"}).repaint_mask, repaint_face);
+
+    const GaugeModel model = model_of({":CLRTEXT=BLUE", ":CLRBACK=GRAY", ":CLRSUN=WHITE", ":CLRSHADOW=grau",
+                                       ":NOTITLE=X", ":BORDERTYPE=3DDOWN", ":TYPE=ROUND"});
+    EXPECT_TRUE(model.text_colour == 2 && model.background == 9 && model.sun == 1 && model.shadow == 255);
+    EXPECT_TRUE(model.no_title && !model.bar_title && !model.test_mode);
+    EXPECT_TRUE(model.border_type == 3 && model.type == -1);
+}
+
+TEST(GaugeModel, ScriptClampsWhereSetterIgnores) {
+    GaugeModel model = model_of({":CURVAL=500", ":MINVAL=1000", ":MAXVAL=10"});
+    EXPECT_EQ(model.current, 100); // clamped against the range of before
+    model.end_script();
+    EXPECT_TRUE(model.minimum == 10 && model.maximum == 1000 && model.displayable);
+    for (int refused : {9, 1001, 100})
+        EXPECT_FALSE(model.set_current_value(refused)) << refused;
+    EXPECT_TRUE(model.set_current_value(10));
+    EXPECT_EQ(model.previous, 100);
+    EXPECT_EQ(model.repaint_mask, repaint_value); // the face's bit is gone
+
+    model.set_range(50, 20);
+    EXPECT_EQ(model.minimum, 50); // inverted until a script ends
+    EXPECT_FALSE(model.set_current_value(30));
+    model.end_script();
+    EXPECT_TRUE(model.maximum == 50 && !model.displayable); // 10 is outside
+
+    model.set_titles("Pressure", nullptr);
+    model.clear();
+    EXPECT_TRUE(model.maximum == 100 && model.current == 50 && model.title_text() == "Pressure");
+}
+
+TEST(GaugeModel, MarksStopAtTenAndTheLastZoneHasTheFirstColour) {
+    GaugeModel model = model_of({":SETMARK=10,RED", ":SETMARK=20,GREEN", ":SETMARK=30,BLUE"});
+    const std::pair<int, int> colours[] = {{5, 6}, {10, 4}, {15, 4}, {20, 6}, {25, 6}, {30, 6}, {31, 2}};
+    for (const auto& [value, colour] : colours)
+        EXPECT_EQ(model.getmarkercolour(value), colour) << value;
+    for (int i = 0; i < 7; ++i)
+        model.add_mark(i, i);
+    model.repaint_mask = 0;
+    model.load_line(":SETMARK=99,CYAN");
+    EXPECT_TRUE(model.mark_count == 10 && model.repaint_mask == 0 && model.mark_values[9] == 6);
+}
+
+TEST(GaugeModel, ViewSwitchAndScrollBarStayInBounds) {
+    GaugeModel model;
+    const std::pair<int, int> views[] = {{0, 1}, {5, 0}, {-1, 0}, {17, 0}, {highest, 0}};
+    for (const auto& [from, to] : views) {
+        model.set_type(from);
+        model.switch_view();
+        EXPECT_EQ(model.type, to) << from;
+    }
+    model.set_range(-10, highest);
+    const struct {
+        int request, position, target;
+    } cases[] = {{scroll_line_left, 5, 4},    {scroll_page_left, -10, -10}, {scroll_page_right, highest, highest},
+                 {scroll_thumb_track, 5, 77}, {scroll_left_end, 5, 1},      {scroll_right_end, 5, highest},
+                 {scroll_right_end + 1, 5, 5}};
+    for (const auto& c : cases)
+        EXPECT_EQ(model.scroll_target(c.request, c.position, 77), c.target) << c.request;
+}
+
+TEST(GaugeScale, ConvertsInEveryRange) {
+    const struct {
+        int minimum, maximum, value, span, position;
+    } cases[] = {{0, 100, 25, 200, 50}, {100, 0, 25, 200, 150},        {7, 7, 7, 200, 0},
+                 {0, 100, -5, 200, 0},  {100, 0, 500, 200, 0},         {0, 3, 1, 100, 33},
+                 {0, 100, 25, -1, 0},   {lowest, highest, 0, 100, 50}, {lowest, highest, highest, highest, highest}};
+    for (const auto& c : cases) {
+        EXPECT_EQ(scale_position(c.minimum, c.maximum, c.value, c.span), c.position) << c.minimum << ' ' << c.value;
+        const double fraction = scale_fraction(c.minimum, c.maximum, c.value);
+        EXPECT_TRUE(c.span < 0 || std::abs(fraction - double(c.position) / c.span) < 0.5 / c.span) << fraction;
+    }
+    EXPECT_EQ(division_value(0, 100, 20, 3), 15);
+    EXPECT_EQ(division_value(100, 0, 3, 1), 67);
+    EXPECT_EQ(division_value(highest, lowest, 999, 999), lowest);
+}
+
+TEST(GaugeScale, ThinsToRoundSteps) {
+    const struct {
+        int maximum, divisions, length, minor, major;
+    } cases[] = {
+        {100, 20, 400, 1, 2},     // ticks of 5 fit, labels of 10
+        {100, 100, 150, 5, 20},   // 1.5 pixels a division
+        {360, 12, 40, 2, 12},     // no round value: steps that end on the last division
+        {100, 997, 300, 20, 100}, // a prime number of divisions
+        {0, 10, 0, 10, 10},
+    };
+    for (const auto& c : cases) {
+        const TickSteps steps = tick_steps(0, c.maximum, c.divisions, c.length, 4, 30);
+        EXPECT_TRUE(steps.minor == c.minor && steps.major == c.major) << c.divisions << ": " << steps.minor;
+    }
+}
+
+TEST(GaugeScale, ZonesAgreeWithTheMarkColours) {
+    const std::initializer_list<std::initializer_list<int>> mark_sets = {
+        {}, {40}, {10, 20, 30}, {100, 20, 30, 40}, {50, 50, 10, 90, 50, 200, -4, 7, 7, 8}, {lowest, highest}};
+    for (const auto& marks : mark_sets) {
+        GaugeModel model;
+        model.set_range(120, -20);
+        for (int mark : marks)
+            model.add_mark(mark, model.mark_count % 3);
+        int value = -20;
+        for (const ColourZone& zone : colour_zones(model)) {
+            ASSERT_EQ(zone.from, value);
+            for (; value <= zone.to; ++value)
+                ASSERT_EQ(model.getmarkercolour(value), zone.colour) << value;
+        }
+        EXPECT_EQ(value, 121);
+    }
+}
+
+} // namespace

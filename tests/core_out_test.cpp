@@ -1,0 +1,159 @@
+#include "out/geometry.h"
+#include "out/key_code.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <iterator>
+#include <limits>
+#include <utility>
+
+using namespace wnt;
+
+namespace {
+
+constexpr int lowest = std::numeric_limits<int>::min();
+constexpr int highest = std::numeric_limits<int>::max();
+
+struct Point {
+    int x, y;
+    bool operator==(const Point&) const = default;
+};
+
+struct Rect {
+    int left, top, right, bottom;
+    bool operator==(const Rect&) const = default;
+};
+
+TEST(Geometry, Arithmetic) {
+    EXPECT_EQ(intsin(16384, 100), 100);
+    EXPECT_EQ(intsin(8192, 100), 70); // truncated
+    EXPECT_EQ(intcos(32768, lowest), lowest);
+    EXPECT_EQ(muldiv(-7, 3, 2), -10);
+    EXPECT_EQ(muldiv(1, 1, 0), 0);
+    EXPECT_EQ(muldiv(lowest, lowest, -1), 0); // the quotient's low half
+    EXPECT_EQ(points_center(-10, -4, -3), -6);
+    EXPECT_EQ(points_testincircle(3, 4, 5), 0);
+    EXPECT_EQ(points_testincircle(65536, 0, 1), 1); // the square wraps to 0
+    const std::pair<int, int> roots[] = {{0, 1}, {6, 3}, {8, 3}, {99, 10}, {highest, 46341}, {-9, 1}};
+    for (const auto& [n, root] : roots)
+        EXPECT_EQ(aproxroot(n), root) << n;
+}
+
+TEST(Geometry, AngleOfAVector) {
+    const struct {
+        int dy, dx, num, den, angle;
+    } cases[] = {{1, -1, 1, 1, 135},    {-1, -1, 1, 1, 225}, {-1, 1, 1, 1, 315}, {-1, 0, 1, 1, 270},
+                 {0, 0, 1, 1, 90},      {0, -1, 1, 1, 180},  {1, 2, 1, 1, 26},   {1, 1, 2, 1, 26},
+                 {-1, 1000, 1, 1, 360}, {1, 1, 1, 0, 45},    {1, -1, 1, 3, 90},  {0, lowest, 1, -1, 180}};
+    for (const auto& c : cases)
+        EXPECT_EQ(getangle(c.dy, c.dx, c.num, c.den), c.angle) << c.dy << ' ' << c.dx << ' ' << c.num;
+}
+
+TEST(Geometry, Intersections) {
+    const struct {
+        int x1, y1, x2, y2, x3, y3, x4, y4;
+        Point at;
+    } cases[] = {
+        {0, 0, 10, 10, 0, 10, 10, 0, {5, 5}},
+        {0, 0, 10, 0, 20, -5, 20, 5, {10, 0}},              // clamped to the segment's end
+        {0, 0, 10, 0, 4, 0, 14, 0, {7, 0}},                 // collinear
+        {0, 0, 3000, 0, 1000, -3000, 1000, 3000, {999, 0}}, // shares of 15 bits
+        {lowest, lowest, highest, highest, lowest, highest, highest, lowest, {lowest, lowest}},
+    };
+    for (const auto& c : cases) {
+        Point out{};
+        points_intersect(&out, c.x1, c.y1, c.x2, c.y2, c.x3, c.y3, c.x4, c.y4);
+        EXPECT_EQ(out, c.at) << c.x2 << ' ' << c.x3;
+    }
+}
+
+TEST(Geometry, ClippedLines) {
+    const Rect r = {0, 100, 100, 0};
+    const struct {
+        int x1, y1, x2, y2, inside;
+        Point from, to;
+    } cases[] = {
+        {10, 20, 30, 40, 1, {10, 20}, {30, 40}},
+        {50, -50, 50, 150, 1, {50, 0}, {50, 100}},
+        {-50, -50, 200, 200, 1, {0, 0}, {100, 100}},
+        {-60, 50, 50, 160, 0, {0, 110}, {}}, // past the corner
+        {10, 101, 90, 101, 0, {}, {}},
+    };
+    for (const auto& c : cases) {
+        Point out[2] = {};
+        EXPECT_EQ(points_clipline(out, &r, c.x1, c.y1, c.x2, c.y2), c.inside) << c.x1 << ' ' << c.y1;
+        EXPECT_TRUE(!c.inside || (out[0] == c.from && out[1] == c.to)) << c.x1 << ' ' << c.y1;
+    }
+    Point out{};
+    EXPECT_EQ(points_partclip(&out, &r, 10, 200, 90, 200), 0); // would divide by zero
+    EXPECT_EQ(points_partclip(&out, &r, 200, 10, 200, 90), 0);
+}
+
+TEST(Geometry, HitTests) {
+    const Point clockwise[] = {{0, 0}, {0, 10}, {10, 10}, {10, 0}}, reversed[] = {{0, 0}, {10, 0}, {10, 10}, {0, 10}};
+    EXPECT_EQ(points_testinpoly(5, 5, clockwise, 4), 1);
+    EXPECT_EQ(points_testinpoly(0, 5, clockwise, 4), 0); // on an edge
+    EXPECT_EQ(points_testinpoly(5, 5, reversed, 4), 0);
+    EXPECT_EQ(points_testinpoly(5, 5, reversed, 0), 1);
+    EXPECT_EQ(points_testclock(clockwise, 7), 1); // neither 0 nor 1 is 7
+
+    const Rect r = {10, 40, 20, 30}; // the right edge is outside, the upper and the lower one inside
+    const std::pair<Point, int> hits[] = {{{10, 60}, 1}, {{20, 60}, 0}, {{19, 59}, 1},
+                                          {{19, 58}, 0}, {{19, 69}, 1}, {{19, 70}, 0}};
+    for (const auto& [at, hit] : hits)
+        EXPECT_EQ(points_testinrect(at.x, at.y, r, 99), hit) << at.x << ' ' << at.y;
+
+    const Point scattered[] = {{5, -7}, {-3, 2}, {9, 4}};
+    Rect bounds{};
+    calcpolywind(&bounds, scattered, 3);
+    EXPECT_EQ(bounds, (Rect{-3, 4, 9, -7}));
+    calcpolywind(&bounds, scattered, 1);
+    EXPECT_EQ(bounds, (Rect{5, -7, 5, -7}));
+}
+
+constexpr unsigned key_down = 0x100, character = 0x102, system_character = 0x106;
+constexpr int shift = 0x10, control = 0x11;
+constexpr std::intptr_t alt = 1 << 29, released = std::intptr_t{1} << 31;
+
+int held_keys[2];
+
+short key_state(int key) {
+    return std::ranges::find(held_keys, key) != std::end(held_keys) ? short(-128) : short(0);
+}
+
+TEST(KeyCode, Translates) {
+    const struct {
+        unsigned message;
+        int key, scan;
+        std::intptr_t flags;
+        int held[2]; // keys whose state is down, the message's own one among them
+        int result, category, value;
+    } cases[] = {
+        {character, 9, 0x0F, 0, {9, 0}, 1, 3, 2},
+        {character, 9, 0x0F, 0, {9, shift}, 1, 3, 3},
+        {key_down, 36, 0x47, 0, {36, control}, 1, 3, 15},
+        {key_down, 46, 0x53, 0, {46, control}, 1, 3, 6},
+        {key_down, 37, 0x4B, 0, {}, 1, 1, 37},    // its state is up: a plain character
+        {character, '!', 0x02, 0, {33}, 1, 3, 9}, // its code is Page Up's
+        {character, 3, 0x2E, 0, {control}, 1, 4, 'C'},
+        {key_down, 0x70, 0x3B, 0, {control}, 1, 2, 0x81},
+        {key_down, 0x7B, 0x58, 0, {shift, control}, 1, 2, 24 | 0x80},
+        {key_down, 0x7C, 0x64, 0, {}, 1, 1, 0x7C}, // F13 has no function key's scan code
+        {0x104, 0x73, 0x3E, alt, {}, 0, 0, 0},
+        {system_character, 'x', 0x2D, alt, {}, 1, 5, 'X'},
+        {system_character, '/', 0x35, alt, {}, 0, 0, 0},
+        {character, '@', 0x10, alt, {control}, 1, 1, '@'}, // AltGr is no modifier
+        {key_down, 'A', 0x1E, 0, {'A'}, 0, 0, 0},
+        {key_down, 36, 0x47, released, {36}, 0, 0, 0},
+    };
+    for (const auto& c : cases) {
+        std::ranges::copy(c.held, held_keys);
+        int out[2] = {-1, -1};
+        EXPECT_EQ(translate_key(out, c.message, c.key, c.flags | c.scan << 16, key_state), c.result) << c.key;
+        EXPECT_TRUE(out[0] == c.category && out[1] == c.value) << c.key << ": " << out[0] << ' ' << out[1];
+    }
+}
+
+} // namespace
