@@ -50,6 +50,7 @@ int store_id(GaugeModel& model, std::string_view value) {
 
 int store_current(GaugeModel& model, std::string_view value) {
     model.current = std::min(std::max(integer_value(value), model.minimum), model.maximum);
+    model.history.record(model.current);
     return repaint_value;
 }
 
@@ -114,8 +115,12 @@ static_assert(std::size(key_rules) == std::size(gauge_keys));
 void GaugeModel::load_line(std::string_view line) {
     const ScriptLine parts = split_script_line(line);
     const int key = parts.key.empty() ? -1 : keyword_lookup(gauge_keys, parts.key, std::size(gauge_keys));
-    if (key >= 0)
-        repaint_mask |= key_rules[key](*this, parts.value);
+    if (key < 0)
+        return;
+    const KeyRule rule = key_rules[key];
+    repaint_mask |= rule(*this, parts.value);
+    if (rule != store_current)
+        ++face_revision;
 }
 
 void GaugeModel::end_script() {
@@ -129,6 +134,7 @@ bool GaugeModel::set_current_value(std::int32_t value) {
     if (value < minimum || value > maximum || value == current)
         return false;
     previous = std::exchange(current, value);
+    history.record(value);
     repaint_mask = repaint_value;
     return true;
 }
@@ -137,22 +143,27 @@ void GaugeModel::set_range(std::int32_t low, std::int32_t high) {
     minimum = low;
     maximum = high;
     repaint_mask = repaint_all;
+    ++face_revision;
 }
 
 void GaugeModel::set_type(std::int32_t new_type) {
     type = new_type;
     repaint_mask |= repaint_face;
+    ++face_revision;
 }
 
 void GaugeModel::set_titles(const char* new_title, const char* new_unit_title) {
     copy_title(title, text_of(new_title));
     copy_title(unit_title, text_of(new_unit_title));
     repaint_mask = repaint_all;
+    ++face_revision;
 }
 
 void GaugeModel::clear() {
     set_range(0, 100);
     current = 50;
+    history.clear();
+    history.record(current);
 }
 
 void GaugeModel::clear_marks() {
@@ -160,6 +171,7 @@ void GaugeModel::clear_marks() {
     mark_values.fill(0);
     mark_colours.fill(0);
     repaint_mask |= type == gauge_thermometer ? repaint_face : repaint_value;
+    ++face_revision;
 }
 
 void GaugeModel::add_mark(std::int32_t value, int colour) {
@@ -169,11 +181,13 @@ void GaugeModel::add_mark(std::int32_t value, int colour) {
     mark_colours[mark_count] = colour;
     ++mark_count;
     repaint_mask |= repaint_value;
+    ++face_revision;
 }
 
 void GaugeModel::switch_view() {
     type = type >= gauge_type_count - 1 ? 0 : type + 1;
     repaint_mask = repaint_all;
+    ++face_revision;
 }
 
 std::int32_t GaugeModel::scroll_target(int request, std::int32_t position, std::int32_t given) const {

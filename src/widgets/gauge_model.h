@@ -1,6 +1,7 @@
 #pragma once
 
 #include "script/values.h"
+#include "widgets/value_history.h"
 
 #include <array>
 #include <cstdint>
@@ -63,6 +64,8 @@ struct GaugeModel {
     std::int32_t maximum = 100;
     std::int32_t current = 50;
     std::int32_t previous = 0; ///< The value before the last `set_current_value`.
+    ValueHistory history;      ///< Filled by every change of the current value.
+    unsigned face_revision = 0; ///< Counts the changes that leave a painted face out of date.
     std::int32_t type = gauge_percent_bar;
     std::array<char, id_capacity> id{};
     std::array<char, title_capacity> title{};

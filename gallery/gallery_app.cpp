@@ -1,0 +1,85 @@
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+#include "gallery_frame.h"
+#include "render.h"
+
+// zopgallery [FILE...]                                  shows the pages; each FILE is an attribute script
+// zopgallery --render DIR [--size WxH] [FILE...]        paints pages and scripts into DIR and ends
+
+namespace {
+
+struct CommandLine {
+    std::vector<CString> scripts;
+    CString render_to;
+    CSize size = {0, 0};
+    bool good = true;
+};
+
+bool read_size(const char* text, CSize& size) {
+    int width = 0;
+    int height = 0;
+    if (std::sscanf(text, "%5dx%5d", &width, &height) != 2 || width < 1 || height < 1 || width > 4096 ||
+        height > 4096)
+        return false;
+    size = CSize(width, height);
+    return true;
+}
+
+CommandLine read_command_line(int count, char** arguments) {
+    CommandLine line;
+    for (int i = 1; i < count; ++i) {
+        const bool render = std::strcmp(arguments[i], "--render") == 0;
+        const bool size = std::strcmp(arguments[i], "--size") == 0;
+        if ((render || size) && ++i == count)
+            line.good = false;
+        else if (render)
+            line.render_to = arguments[i];
+        else if (size)
+            line.good = line.good && read_size(arguments[i], line.size);
+        else
+            line.scripts.push_back(arguments[i]);
+    }
+    return line;
+}
+
+class CGalleryApp : public CWinApp {
+public:
+    BOOL InitInstance() override {
+        const CommandLine line = read_command_line(__argc, __argv);
+        if (!line.good) {
+            std::fputs("usage: zopgallery [--render DIR [--size WxH]] [FILE...]\n", stderr);
+            return Fail();
+        }
+        if (!line.render_to.IsEmpty()) {
+            result_ = RenderGallery(line.render_to, line.size, line.scripts) ? 0 : 1;
+            return FALSE;
+        }
+        auto* frame = new CGalleryFrame(line.scripts);
+        m_pMainWnd = frame;
+        if (!frame->Open())
+            return Fail();
+        frame->ShowPage(line.scripts.empty() ? 2 : 3);
+        frame->ShowWindow(m_nCmdShow);
+        frame->UpdateWindow();
+        return TRUE;
+    }
+
+    int ExitInstance() override {
+        const int result = CWinApp::ExitInstance();
+        return result_ ? result_ : result;
+    }
+
+private:
+    BOOL Fail() {
+        result_ = 2;
+        return FALSE;
+    }
+
+    int result_ = 0;
+};
+
+CGalleryApp app;
+
+} // namespace

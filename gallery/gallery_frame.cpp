@@ -1,0 +1,68 @@
+#include "gallery_frame.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int list_width = 150;
+constexpr UINT list_id = 2;
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CGalleryFrame, CFrameWnd)
+    ON_WM_CREATE()
+    ON_WM_SIZE()
+    ON_LBN_SELCHANGE(list_id, &CGalleryFrame::OnSelectPage)
+END_MESSAGE_MAP()
+
+CGalleryFrame::CGalleryFrame(const std::vector<CString>& scripts) : pages_(MakePages(scripts)) {}
+
+bool CGalleryFrame::Open() {
+    return Create(nullptr, "ZOPWNT gallery", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CRect(40, 40, 1000, 680));
+}
+
+int CGalleryFrame::OnCreate(LPCREATESTRUCT create) {
+    if (CFrameWnd::OnCreate(create) == -1)
+        return -1;
+    if (!list_.Create(WS_CHILD | WS_VISIBLE | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL, CRect(0, 0, 0, 0), this,
+                      list_id))
+        return -1;
+    list_.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(::GetStockObject(DEFAULT_GUI_FONT)));
+    for (const auto& page : pages_) {
+        if (!page->Open(this, CRect(0, 0, 10, 10)))
+            return -1;
+        list_.AddString(page->Title());
+    }
+    return 0;
+}
+
+CRect CGalleryFrame::PagePlace() const {
+    CRect client;
+    GetClientRect(&client);
+    client.left = std::min<LONG>(client.right, list_width);
+    return client;
+}
+
+void CGalleryFrame::OnSize(UINT type, int cx, int cy) {
+    CFrameWnd::OnSize(type, cx, cy);
+    if (list_.m_hWnd)
+        list_.SetWindowPos(nullptr, 0, 0, list_width, cy, SWP_NOZORDER | SWP_NOACTIVATE);
+    if (shown_ >= 0)
+        pages_[static_cast<std::size_t>(shown_)]->MoveWindow(PagePlace());
+}
+
+void CGalleryFrame::ShowPage(int index) {
+    if (index < 0 || index >= static_cast<int>(pages_.size()) || index == shown_)
+        return;
+    if (shown_ >= 0)
+        pages_[static_cast<std::size_t>(shown_)]->ShowWindow(SW_HIDE);
+    shown_ = index;
+    CGalleryPage& page = *pages_[static_cast<std::size_t>(index)];
+    page.MoveWindow(PagePlace());
+    page.ShowWindow(SW_SHOW);
+    list_.SetCurSel(index);
+}
+
+void CGalleryFrame::OnSelectPage() {
+    ShowPage(list_.GetCurSel());
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "page.h"
+
+/// The gallery's main window: the list of pages at the left, the chosen one at the right.
+class CGalleryFrame : public CFrameWnd {
+public:
+    explicit CGalleryFrame(const std::vector<CString>& scripts);
+
+    bool Open();
+    void ShowPage(int index);
+
+protected:
+    afx_msg int OnCreate(LPCREATESTRUCT create);
+    afx_msg void OnSize(UINT type, int cx, int cy);
+    afx_msg void OnSelectPage();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    CRect PagePlace() const;
+
+    GalleryPages pages_;
+    CListBox list_;
+    int shown_ = -1;
+};

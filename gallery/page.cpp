@@ -1,0 +1,65 @@
+#include "page.h"
+
+BEGIN_MESSAGE_MAP(CGalleryPage, CWnd)
+    ON_WM_CREATE()
+    ON_WM_SIZE()
+    ON_WM_ERASEBKGND()
+END_MESSAGE_MAP()
+
+bool CGalleryPage::Open(CWnd* parent, const CRect& place) {
+    return Create(nullptr, Title(), WS_CHILD, place, parent, 1);
+}
+
+int CGalleryPage::OnCreate(LPCREATESTRUCT create) {
+    if (CWnd::OnCreate(create) == -1)
+        return -1;
+    return CreateContents() ? 0 : -1;
+}
+
+void CGalleryPage::OnSize(UINT type, int cx, int cy) {
+    CWnd::OnSize(type, cx, cy);
+    Arrange(cx, cy);
+}
+
+BOOL CGalleryPage::OnEraseBkgnd(CDC* dc) {
+    CRect client;
+    GetClientRect(&client);
+    ::FillRect(dc->m_hDC, &client, ::GetSysColorBrush(COLOR_BTNFACE));
+    return TRUE;
+}
+
+BEGIN_MESSAGE_MAP(CSurfacePage, CGalleryPage)
+    ON_WM_PAINT()
+    ON_WM_DESTROY()
+END_MESSAGE_MAP()
+
+bool CSurfacePage::CreateContents() {
+    return out_.Create(nullptr, "Surface", WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), this, 100);
+}
+
+void CSurfacePage::Arrange(int width, int height) {
+    out_.SetWindowPos(nullptr, 0, 0, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+    Invalidate();
+}
+
+void CSurfacePage::OnPaint() {
+    CPaintDC validate(this);
+    if (out_.reset()) {
+        painter_(out_);
+        out_.endpaint();
+    }
+}
+
+void CSurfacePage::OnDestroy() {
+    out_.ReleaseDrawing();
+    CGalleryPage::OnDestroy();
+}
+
+GalleryPages MakePages(const std::vector<CString>& scripts) {
+    GalleryPages pages;
+    pages.push_back(MakeSurfacePage());
+    pages.push_back(MakeTextPage());
+    pages.push_back(MakeGaugesPage());
+    pages.push_back(MakeScriptsPage(scripts));
+    return pages;
+}

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include <zopwnt.h>
+
+/// One page of the gallery: a child window that shows one feature.
+class CGalleryPage : public CWnd {
+public:
+    virtual const char* Title() const = 0;
+    /// Short name for files.
+    virtual const char* Name() const = 0;
+
+    bool Open(CWnd* parent, const CRect& place);
+    /// Brings what moves to a state worth a picture.
+    virtual void Settle() {}
+
+protected:
+    virtual bool CreateContents() { return true; }
+    virtual void Arrange(int width, int height) = 0;
+
+    afx_msg int OnCreate(LPCREATESTRUCT create);
+    afx_msg void OnSize(UINT type, int cx, int cy);
+    afx_msg BOOL OnEraseBkgnd(CDC* dc);
+    DECLARE_MESSAGE_MAP()
+};
+
+/// A page that is one drawing surface, painted by a function of it.
+class CSurfacePage : public CGalleryPage {
+public:
+    using Painter = void (*)(CWntOut& out);
+    CSurfacePage(const char* title, const char* name, Painter painter)
+        : title_(title), name_(name), painter_(painter) {}
+
+    const char* Title() const override { return title_; }
+    const char* Name() const override { return name_; }
+
+protected:
+    bool CreateContents() override;
+    void Arrange(int width, int height) override;
+
+    afx_msg void OnPaint();
+    afx_msg void OnDestroy();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    const char* title_;
+    const char* name_;
+    Painter painter_;
+    CWntOut out_;
+};
+
+using GalleryPages = std::vector<std::unique_ptr<CGalleryPage>>;
+
+std::unique_ptr<CGalleryPage> MakeSurfacePage();
+std::unique_ptr<CGalleryPage> MakeTextPage();
+std::unique_ptr<CGalleryPage> MakeGaugesPage();
+std::unique_ptr<CGalleryPage> MakeScriptsPage(const std::vector<CString>& scripts);
+
+/// All pages, in the order of the list.
+GalleryPages MakePages(const std::vector<CString>& scripts);

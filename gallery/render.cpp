@@ -1,0 +1,95 @@
+#include "render.h"
+
+#include <algorithm>
+#include <cstdio>
+
+#include "page.h"
+#include "png_file.h"
+
+namespace {
+
+const CSize page_size(840, 580);
+const CSize gauge_size(320, 300);
+
+/// A bare window that holds what is to be painted; it must be visible, since hidden windows are not drawn into.
+class CStudio : public CWnd {
+public:
+    bool Open(CSize size) {
+        return CreateEx(WS_EX_TOOLWINDOW | WS_EX_TOPMOST, AfxRegisterWndClass(0), "Studio", WS_POPUP | WS_VISIBLE,
+                        CRect(CPoint(0, 0), size), nullptr, 0);
+    }
+
+    ~CStudio() override { DestroyWindow(); }
+};
+
+void PumpPending() {
+    MSG message;
+    while (::PeekMessage(&message, nullptr, 0, 0, PM_REMOVE)) {
+        ::TranslateMessage(&message);
+        ::DispatchMessage(&message);
+    }
+}
+
+bool Shoot(CWnd& window, CSize size, const CString& file) {
+    PumpPending();
+    window.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    CClientDC from(&window);
+    CDC memory;
+    memory.CreateCompatibleDC(&from);
+    CBitmap bitmap;
+    bitmap.CreateCompatibleBitmap(&from, size.cx, size.cy);
+    CBitmap* previous = memory.SelectObject(&bitmap);
+    memory.BitBlt(0, 0, size.cx, size.cy, &from, 0, 0, SRCCOPY);
+    memory.SelectObject(previous);
+    if (WritePng(static_cast<HBITMAP>(bitmap.m_hObject), file))
+        return true;
+    std::fprintf(stderr, "cannot write %s\n", file.GetString());
+    return false;
+}
+
+CString BaseName(const CString& path) {
+    CString name = path.Mid(std::max(path.ReverseFind('\\'), path.ReverseFind('/')) + 1);
+    const int dot = name.ReverseFind('.');
+    return dot > 0 ? name.Left(dot) : name;
+}
+
+bool RenderPages(const CString& folder, CSize size, const std::vector<CString>& scripts) {
+    bool good = true;
+    for (const auto& page : MakePages(scripts)) {
+        CStudio studio;
+        if (!studio.Open(size) || !page->Open(&studio, CRect(CPoint(0, 0), size)))
+            return false;
+        page->ShowWindow(SW_SHOW);
+        page->Settle();
+        good &= Shoot(*page, size, folder + "\\page-" + page->Name() + ".png");
+        page->DestroyWindow();
+    }
+    return good;
+}
+
+bool RenderScript(const CString& folder, CSize size, const CString& script) {
+    CStudio studio;
+    CWntGauge gauge;
+    if (::GetFileAttributesA(script) == INVALID_FILE_ATTRIBUTES) {
+        std::fprintf(stderr, "no such script: %s\n", script.GetString());
+        return false;
+    }
+    if (!studio.Open(size) ||
+        !gauge.Create(nullptr, "Gauge", WS_CHILD | WS_VISIBLE, CRect(CPoint(0, 0), size), &studio, 1))
+        return false;
+    gauge.LoadFromFile(script);
+    const bool good = Shoot(gauge, size, folder + "\\" + BaseName(script) + ".png");
+    gauge.DestroyWindow();
+    return good;
+}
+
+} // namespace
+
+bool RenderGallery(const CString& folder, CSize size, const std::vector<CString>& scripts) {
+    ::CreateDirectoryA(folder, nullptr);
+    const bool own = size.cx == 0;
+    bool good = RenderPages(folder, own ? page_size : size, scripts);
+    for (const CString& script : scripts)
+        good &= RenderScript(folder, own ? gauge_size : size, script);
+    return good;
+}

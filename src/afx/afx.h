@@ -1,0 +1,9 @@
+// The framework without windows: objects, strings, exceptions, files, times.
+#pragma once
+
+#include "afx_base.h"
+#include "afx_object.h"
+#include "afxstr.h"
+#include "atltypes.h"
+#include "afx_module.h"
+#include "afx_exception.h"

@@ -1,0 +1,53 @@
+// Dialogs, modal and modeless, from templates in the resource chain or in memory.
+#pragma once
+
+#include "afx_data_exchange.h"
+
+class ZOPAFX_API CDialog : public CWnd {
+    DECLARE_DYNAMIC(CDialog)
+    DECLARE_MESSAGE_MAP()
+
+public:
+    CDialog() = default;
+    explicit CDialog(LPCTSTR lpszTemplateName, CWnd* pParentWnd = nullptr);
+    explicit CDialog(UINT nIDTemplate, CWnd* pParentWnd = nullptr);
+    ~CDialog() override;
+
+    // Modeless; OnInitDialog has run when they answer TRUE.
+    virtual BOOL Create(LPCTSTR lpszTemplateName, CWnd* pParentWnd = nullptr);
+    virtual BOOL Create(UINT nIDTemplate, CWnd* pParentWnd = nullptr);
+    using CWnd::Create;
+    BOOL CreateIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd = nullptr, void* lpDialogInit = nullptr,
+                        HINSTANCE hInst = nullptr);
+    // For a DoModal with a template in memory, which the caller keeps until then.
+    BOOL InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd = nullptr, void* lpDialogInit = nullptr);
+
+    // Runs the dialog with its parent disabled; the argument of EndDialog, or -1 where it cannot be created.
+    virtual INT_PTR DoModal();
+    void EndDialog(int nResult);
+    void NextDlgCtrl() const { ::SendMessage(m_hWnd, WM_NEXTDLGCTL, 0, 0); }
+    void GotoDlgCtrl(CWnd* pWndCtrl) {
+        ::SendMessage(m_hWnd, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(pWndCtrl->GetSafeHwnd()), 1);
+    }
+    void SetDefID(UINT nID) { ::SendMessage(m_hWnd, DM_SETDEFID, nID, 0); }
+    void MapDialogRect(LPRECT lpRect) const { ::MapDialogRect(m_hWnd, lpRect); }
+
+    // TRUE lets the system set the focus.
+    virtual BOOL OnInitDialog();
+    BOOL PreTranslateMessage(MSG* pMsg) override;
+    BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
+
+protected:
+    // The handlers of IDOK and IDCANCEL: both end a modal dialog, OK after the exchange of data.
+    virtual void OnOK();
+    virtual void OnCancel();
+
+    UINT m_nIDHelp = 0;
+    LPCTSTR m_lpszTemplateName = nullptr;
+    LPCDLGTEMPLATE m_lpDialogTemplate = nullptr;
+    CWnd* m_pParentWnd = nullptr;
+
+private:
+    LPCDLGTEMPLATE FindTemplate(LPCTSTR name, HINSTANCE& module) const;
+    static INT_PTR CALLBACK DialogProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+};

@@ -1,0 +1,134 @@
+// Exceptions: thrown and caught by pointer, deleted by whoever catches them.
+#pragma once
+
+#include "afx_object.h"
+#include "afxstr.h"
+
+class ZOPAFX_API CException : public CObject {
+    DECLARE_DYNAMIC(CException)
+
+public:
+    // An exception made with bAutoDelete FALSE survives Delete.
+    explicit CException(BOOL bAutoDelete = TRUE) : m_bAutoDelete(bAutoDelete) {}
+    void Delete();
+    // A text for the user; FALSE, with an empty text, where there is none.
+    virtual BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext = nullptr) const;
+    // Shows the text, or the string nMessageID where there is none, in a message box.
+    virtual int ReportError(UINT nType = MB_OK, UINT nMessageID = 0);
+
+    BOOL m_bAutoDelete;
+};
+
+class ZOPAFX_API CSimpleException : public CException {
+    DECLARE_DYNAMIC(CSimpleException)
+
+public:
+    explicit CSimpleException(BOOL bAutoDelete = TRUE) : CException(bAutoDelete) {}
+    CSimpleException(BOOL bAutoDelete, LPCTSTR lpszMessage) : CException(bAutoDelete), m_strMessage(lpszMessage) {}
+    BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext = nullptr) const override;
+
+private:
+    CString m_strMessage;
+};
+
+#define AFX_DECLARE_SIMPLE_EXCEPTION(class_name)                                                                       \
+    class ZOPAFX_API class_name : public CSimpleException {                                                            \
+        DECLARE_DYNAMIC(class_name)                                                                                    \
+                                                                                                                       \
+    public:                                                                                                            \
+        explicit class_name(BOOL bAutoDelete = TRUE);                                                                  \
+    };
+
+AFX_DECLARE_SIMPLE_EXCEPTION(CMemoryException)
+AFX_DECLARE_SIMPLE_EXCEPTION(CNotSupportedException)
+AFX_DECLARE_SIMPLE_EXCEPTION(CResourceException)
+AFX_DECLARE_SIMPLE_EXCEPTION(CInvalidArgException)
+// Raised to stop what the user has already been told about; reported by nobody.
+AFX_DECLARE_SIMPLE_EXCEPTION(CUserException)
+
+// An exception with a result code.
+class ZOPAFX_API COleException : public CException {
+    DECLARE_DYNAMIC(COleException)
+
+public:
+    COleException() = default;
+    BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext = nullptr) const override;
+
+    SCODE m_sc = S_OK;
+};
+
+class ZOPAFX_API CFileException : public CException {
+    DECLARE_DYNAMIC(CFileException)
+
+public:
+    enum {
+        none,
+        genericException,
+        fileNotFound,
+        badPath,
+        tooManyOpenFiles,
+        accessDenied,
+        invalidFile,
+        removeCurrentDir,
+        directoryFull,
+        badSeek,
+        hardIO,
+        sharingViolation,
+        lockViolation,
+        diskFull,
+        endOfFile
+    };
+
+    explicit CFileException(int cause = none, LONG lOsError = -1, LPCTSTR lpszFileName = nullptr)
+        : m_cause(cause), m_lOsError(lOsError), m_strFileName(lpszFileName) {}
+    BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext = nullptr) const override;
+
+    static int PASCAL OsErrorToException(LONG lOsError);
+    [[noreturn]] static void PASCAL ThrowOsError(LONG lOsError, LPCTSTR lpszFileName = nullptr);
+
+    int m_cause;
+    LONG m_lOsError;
+    CString m_strFileName;
+};
+
+[[noreturn]] ZOPAFX_API void AFXAPI AfxThrowMemoryException();
+[[noreturn]] ZOPAFX_API void AFXAPI AfxThrowNotSupportedException();
+[[noreturn]] ZOPAFX_API void AFXAPI AfxThrowResourceException();
+[[noreturn]] ZOPAFX_API void AFXAPI AfxThrowInvalidArgException();
+[[noreturn]] ZOPAFX_API void AFXAPI AfxThrowUserException();
+[[noreturn]] ZOPAFX_API void AFXAPI AfxThrowOleException(SCODE sc);
+[[noreturn]] ZOPAFX_API void AFXAPI AfxThrowFileException(int cause, LONG lOsError = -1,
+                                                          LPCTSTR lpszFileName = nullptr);
+
+// Deletes a caught exception at the end of its handler, unless the handler throws it on.
+class AfxCaught {
+public:
+    explicit AfxCaught(CException* exception) : m_exception(exception) {}
+    ~AfxCaught() {
+        if (m_exception != nullptr)
+            m_exception->Delete();
+    }
+    void release() { m_exception = nullptr; }
+    AfxCaught(const AfxCaught&) = delete;
+    AfxCaught& operator=(const AfxCaught&) = delete;
+
+private:
+    CException* m_exception;
+};
+
+#define THROW(e) throw e
+#define TRY try {
+#define CATCH(class_name, e)                                                                                           \
+    }                                                                                                                  \
+    catch (class_name * e) {                                                                                           \
+        AfxCaught _afxCaught(e);
+#define AND_CATCH(class_name, e) CATCH(class_name, e)
+#define CATCH_ALL(e) CATCH(CException, e)
+#define AND_CATCH_ALL(e) CATCH(CException, e)
+#define END_CATCH }
+#define END_CATCH_ALL }
+#define THROW_LAST()                                                                                                   \
+    do {                                                                                                               \
+        _afxCaught.release();                                                                                          \
+        throw;                                                                                                         \
+    } while (0)

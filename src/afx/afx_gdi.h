@@ -1,0 +1,139 @@
+// Drawing objects: pens, brushes, fonts, bitmaps, regions, palettes.
+#pragma once
+
+#include "afx_module.h"
+#include "afxstr.h"
+#include "atltypes.h"
+
+class CDC;
+
+// Owns a drawing object's handle and deletes it with itself. FromHandle objects are temporary and own nothing.
+class ZOPAFX_API CGdiObject : public CObject {
+    DECLARE_DYNCREATE(CGdiObject)
+
+public:
+    CGdiObject() = default;
+    ~CGdiObject() override;
+
+    HGDIOBJ GetSafeHandle() const { return this == nullptr ? nullptr : m_hObject; }
+    operator HGDIOBJ() const { return GetSafeHandle(); }
+    BOOL Attach(HGDIOBJ hObject);
+    HGDIOBJ Detach();
+    BOOL DeleteObject();
+    int GetObject(int nCount, LPVOID lpObject) const { return ::GetObject(m_hObject, nCount, lpObject); }
+    BOOL CreateStockObject(int nIndex) { return Attach(::GetStockObject(nIndex)); }
+    static CGdiObject* PASCAL FromHandle(HGDIOBJ hObject);
+
+    HGDIOBJ m_hObject = nullptr;
+};
+
+#define AFX_DECLARE_GDI_CLASS(class_name, handle_type)                                                                 \
+    DECLARE_DYNAMIC(class_name)                                                                                        \
+    static class_name* PASCAL FromHandle(handle_type handle);                                                          \
+    operator handle_type() const {                                                                                     \
+        return static_cast<handle_type>(GetSafeHandle());                                                              \
+    }
+
+class ZOPAFX_API CPen : public CGdiObject {
+    AFX_DECLARE_GDI_CLASS(CPen, HPEN)
+
+public:
+    CPen() = default;
+    // Raises CResourceException where the pen cannot be made; so do the constructors of CBrush.
+    CPen(int nPenStyle, int nWidth, COLORREF crColor);
+    BOOL CreatePen(int nPenStyle, int nWidth, COLORREF crColor) {
+        return Attach(::CreatePen(nPenStyle, nWidth, crColor));
+    }
+    BOOL CreatePenIndirect(const LOGPEN* lpLogPen) { return Attach(::CreatePenIndirect(lpLogPen)); }
+    int GetLogPen(LOGPEN* pLogPen) { return GetObject(sizeof(LOGPEN), pLogPen); }
+};
+
+class ZOPAFX_API CBrush : public CGdiObject {
+    AFX_DECLARE_GDI_CLASS(CBrush, HBRUSH)
+
+public:
+    CBrush() = default;
+    explicit CBrush(COLORREF crColor);
+    CBrush(int nIndex, COLORREF crColor);
+    BOOL CreateSolidBrush(COLORREF crColor) { return Attach(::CreateSolidBrush(crColor)); }
+    BOOL CreateHatchBrush(int nIndex, COLORREF crColor) { return Attach(::CreateHatchBrush(nIndex, crColor)); }
+    BOOL CreateBrushIndirect(const LOGBRUSH* lpLogBrush) { return Attach(::CreateBrushIndirect(lpLogBrush)); }
+    BOOL CreatePatternBrush(class CBitmap* pBitmap);
+    BOOL CreateSysColorBrush(int nIndex) { return Attach(::GetSysColorBrush(nIndex)); }
+    int GetLogBrush(LOGBRUSH* pLogBrush) { return GetObject(sizeof(LOGBRUSH), pLogBrush); }
+};
+
+class ZOPAFX_API CFont : public CGdiObject {
+    AFX_DECLARE_GDI_CLASS(CFont, HFONT)
+
+public:
+    CFont() = default;
+    BOOL CreateFontIndirect(const LOGFONT* lpLogFont) { return Attach(::CreateFontIndirect(lpLogFont)); }
+    BOOL CreateFont(int nHeight, int nWidth, int nEscapement, int nOrientation, int nWeight, BYTE bItalic,
+                    BYTE bUnderline, BYTE cStrikeOut, BYTE nCharSet, BYTE nOutPrecision, BYTE nClipPrecision,
+                    BYTE nQuality, BYTE nPitchAndFamily, LPCTSTR lpszFacename);
+    // Height in tenths of a point, converted for pDC, or for the screen where it is null.
+    BOOL CreatePointFont(int nPointSize, LPCTSTR lpszFaceName, CDC* pDC = nullptr);
+    BOOL CreatePointFontIndirect(const LOGFONT* lpLogFont, CDC* pDC = nullptr);
+    int GetLogFont(LOGFONT* pLogFont) { return GetObject(sizeof(LOGFONT), pLogFont); }
+};
+
+class ZOPAFX_API CBitmap : public CGdiObject {
+    AFX_DECLARE_GDI_CLASS(CBitmap, HBITMAP)
+
+public:
+    CBitmap() = default;
+    BOOL LoadBitmap(LPCTSTR lpszResourceName);
+    BOOL LoadBitmap(UINT nIDResource) { return LoadBitmap(MAKEINTRESOURCE(nIDResource)); }
+    BOOL CreateBitmap(int nWidth, int nHeight, UINT nPlanes, UINT nBitcount, const void* lpBits) {
+        return Attach(::CreateBitmap(nWidth, nHeight, nPlanes, nBitcount, lpBits));
+    }
+    BOOL CreateBitmapIndirect(LPBITMAP lpBitmap) { return Attach(::CreateBitmapIndirect(lpBitmap)); }
+    BOOL CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight);
+    int GetBitmap(BITMAP* pBitMap) { return GetObject(sizeof(BITMAP), pBitMap); }
+};
+
+class ZOPAFX_API CRgn : public CGdiObject {
+    AFX_DECLARE_GDI_CLASS(CRgn, HRGN)
+
+public:
+    CRgn() = default;
+    BOOL CreateRectRgn(int x1, int y1, int x2, int y2) { return Attach(::CreateRectRgn(x1, y1, x2, y2)); }
+    BOOL CreateRectRgnIndirect(LPCRECT lpRect) { return Attach(::CreateRectRgnIndirect(lpRect)); }
+    BOOL CreateEllipticRgn(int x1, int y1, int x2, int y2) { return Attach(::CreateEllipticRgn(x1, y1, x2, y2)); }
+    BOOL CreatePolygonRgn(const POINT* lpPoints, int nCount, int nMode) {
+        return Attach(::CreatePolygonRgn(lpPoints, nCount, nMode));
+    }
+    BOOL CreateRoundRectRgn(int x1, int y1, int x2, int y2, int x3, int y3) {
+        return Attach(::CreateRoundRectRgn(x1, y1, x2, y2, x3, y3));
+    }
+    void SetRectRgn(LPCRECT rect) { ::SetRectRgn(*this, rect->left, rect->top, rect->right, rect->bottom); }
+    int CombineRgn(const CRgn* pRgn1, const CRgn* pRgn2, int nCombineMode);
+    int CopyRgn(const CRgn* pRgnSrc);
+    BOOL EqualRgn(const CRgn* pRgn) const;
+    int OffsetRgn(int x, int y) { return ::OffsetRgn(*this, x, y); }
+    int GetRgnBox(LPRECT lpRect) const { return ::GetRgnBox(*this, lpRect); }
+    BOOL PtInRegion(POINT point) const { return ::PtInRegion(*this, point.x, point.y); }
+    BOOL RectInRegion(LPCRECT lpRect) const { return ::RectInRegion(*this, lpRect); }
+};
+
+class ZOPAFX_API CPalette : public CGdiObject {
+    AFX_DECLARE_GDI_CLASS(CPalette, HPALETTE)
+
+public:
+    CPalette() = default;
+    BOOL CreatePalette(LPLOGPALETTE lpLogPalette) { return Attach(::CreatePalette(lpLogPalette)); }
+    BOOL CreateHalftonePalette(CDC* pDC);
+    int GetEntryCount();
+    UINT GetPaletteEntries(UINT nStartIndex, UINT nNumEntries, LPPALETTEENTRY lpPaletteColors) const {
+        return ::GetPaletteEntries(*this, nStartIndex, nNumEntries, lpPaletteColors);
+    }
+    UINT SetPaletteEntries(UINT nStartIndex, UINT nNumEntries, LPPALETTEENTRY lpPaletteColors) {
+        return ::SetPaletteEntries(*this, nStartIndex, nNumEntries, lpPaletteColors);
+    }
+    void AnimatePalette(UINT nStartIndex, UINT nNumEntries, LPPALETTEENTRY lpPaletteColors) {
+        ::AnimatePalette(*this, nStartIndex, nNumEntries, lpPaletteColors);
+    }
+    UINT GetNearestPaletteIndex(COLORREF crColor) const { return ::GetNearestPaletteIndex(*this, crColor); }
+    BOOL ResizePalette(UINT nNumEntries) { return ::ResizePalette(*this, nNumEntries); }
+};

@@ -1,0 +1,45 @@
+// The modules of a process and the search for resources among them.
+#pragma once
+
+#include "afx_object.h"
+
+struct AFX_EXTENSION_MODULE {
+    BOOL bInitialized;
+    HMODULE hModule;
+    HMODULE hResource;
+};
+
+// Remembers the module's handle; FALSE only for a null handle.
+ZOPAFX_API BOOL AFXAPI AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hModule);
+// Takes the module's libraries out of the chain and deletes them.
+ZOPAFX_API void AFXAPI AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL bAll = FALSE);
+
+// Puts an extension library into the resource chain, the latest first. Created with new; the framework owns it.
+class ZOPAFX_API CDynLinkLibrary : public CObject {
+public:
+    explicit CDynLinkLibrary(AFX_EXTENSION_MODULE& state, BOOL bSystem = FALSE);
+    CDynLinkLibrary(HINSTANCE hModule, HINSTANCE hResource);
+    ~CDynLinkLibrary() override;
+
+    HMODULE m_hModule;
+    HMODULE m_hResource;
+    BOOL m_bSystem = FALSE;
+    CDynLinkLibrary* m_pNextDLL;
+};
+
+ZOPAFX_API HINSTANCE AFXAPI AfxGetInstanceHandle();
+// Where resources are looked for first; the program itself unless another module was set.
+ZOPAFX_API HINSTANCE AFXAPI AfxGetResourceHandle();
+ZOPAFX_API void AFXAPI AfxSetResourceHandle(HINSTANCE hInstResource);
+// The module that holds the resource: the current one, the program, then each extension library.
+// Where none does, the current one.
+ZOPAFX_API HINSTANCE AFXAPI AfxFindResourceHandle(LPCTSTR lpszName, LPCTSTR lpszType);
+// The same search for a string; null where none has it.
+ZOPAFX_API HINSTANCE AFXAPI AfxFindStringResourceHandle(UINT nID);
+// Length of the text that was copied, 0 where there is none.
+ZOPAFX_API int AFXAPI AfxLoadString(UINT nIDS, LPTSTR lpszBuf, UINT nMaxBuf = 256);
+
+// All modules of a process share one state, so switching it is a formality.
+struct AFX_MODULE_STATE {};
+ZOPAFX_API AFX_MODULE_STATE* AFXAPI AfxGetStaticModuleState();
+#define AFX_MANAGE_STATE(state) static_cast<void>(state);

@@ -1,0 +1,101 @@
+// CObject and run-time class information.
+#pragma once
+
+#include "afx_base.h"
+
+class CObject;
+class CArchive;
+
+// Describes a class at run time: its name, its base and, where it can be created dynamically, how.
+struct ZOPAFX_API CRuntimeClass {
+    LPCSTR m_lpszClassName;
+    int m_nObjectSize;
+    UINT m_wSchema;
+    CObject*(PASCAL* m_pfnCreateObject)();
+    CRuntimeClass*(PASCAL* m_pfnGetBaseClass)();
+    CRuntimeClass* m_pNextClass;
+
+    // A new object, or null where the class is not dynamically creatable or memory is short.
+    CObject* CreateObject();
+    BOOL IsDerivedFrom(const CRuntimeClass* pBaseClass) const;
+
+    // Looks among the registered classes of the program and of every loaded extension library.
+    static CRuntimeClass* PASCAL FromName(LPCSTR lpszClassName);
+    static CObject* PASCAL CreateObject(LPCSTR lpszClassName);
+};
+
+// Registers a class for FromName as long as its module is loaded.
+class ZOPAFX_API AFX_CLASSINIT {
+public:
+    explicit AFX_CLASSINIT(CRuntimeClass* pNewClass);
+    ~AFX_CLASSINIT();
+    AFX_CLASSINIT(const AFX_CLASSINIT&) = delete;
+    AFX_CLASSINIT& operator=(const AFX_CLASSINIT&) = delete;
+
+private:
+    CRuntimeClass* m_class;
+};
+
+// Root of the class family. Objects are not copied.
+class ZOPAFX_API CObject {
+public:
+    virtual CRuntimeClass* GetRuntimeClass() const;
+    virtual ~CObject();
+    virtual void Serialize(CArchive& ar);
+
+    BOOL IsSerializable() const;
+    BOOL IsKindOf(const CRuntimeClass* pClass) const;
+
+    CObject(const CObject&) = delete;
+    CObject& operator=(const CObject&) = delete;
+
+    static CRuntimeClass classCObject;
+    static CRuntimeClass* PASCAL GetThisClass();
+
+protected:
+    CObject() = default;
+};
+
+#define RUNTIME_CLASS(class_name) (class_name::GetThisClass())
+
+#define DECLARE_DYNAMIC(class_name)                                                                                    \
+protected:                                                                                                             \
+    static CRuntimeClass* PASCAL _GetBaseClass();                                                                      \
+                                                                                                                       \
+public:                                                                                                                \
+    static CRuntimeClass class##class_name;                                                                            \
+    static CRuntimeClass* PASCAL GetThisClass();                                                                       \
+    virtual CRuntimeClass* GetRuntimeClass() const;
+
+#define DECLARE_DYNCREATE(class_name)                                                                                  \
+    DECLARE_DYNAMIC(class_name)                                                                                        \
+    static CObject* PASCAL CreateObject();
+
+#define AFX_IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, schema, create)                                        \
+    CRuntimeClass* PASCAL class_name::_GetBaseClass() {                                                                \
+        return RUNTIME_CLASS(base_class_name);                                                                         \
+    }                                                                                                                  \
+    CRuntimeClass class_name::class##class_name = {#class_name, sizeof(class class_name),   schema,                    \
+                                                   create,      &class_name::_GetBaseClass, nullptr};                  \
+    CRuntimeClass* PASCAL class_name::GetThisClass() {                                                                 \
+        return &class_name::class##class_name;                                                                         \
+    }                                                                                                                  \
+    CRuntimeClass* class_name::GetRuntimeClass() const {                                                               \
+        return &class_name::class##class_name;                                                                         \
+    }
+
+#define IMPLEMENT_DYNAMIC(class_name, base_class_name)                                                                 \
+    AFX_IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, 0xFFFF, nullptr)
+
+#define IMPLEMENT_DYNCREATE(class_name, base_class_name)                                                               \
+    CObject* PASCAL class_name::CreateObject() {                                                                       \
+        return new class_name;                                                                                         \
+    }                                                                                                                  \
+    AFX_IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, 0xFFFF, class_name::CreateObject)                          \
+    static const AFX_CLASSINIT _init_##class_name(RUNTIME_CLASS(class_name));
+
+// The object as class_name, or null where it is of another kind.
+ZOPAFX_API CObject* AFXAPI AfxDynamicDownCast(CRuntimeClass* pClass, CObject* pObject);
+#define DYNAMIC_DOWNCAST(class_name, object)                                                                           \
+    (static_cast<class_name*>(AfxDynamicDownCast(RUNTIME_CLASS(class_name), object)))
+#define STATIC_DOWNCAST(class_name, object) (static_cast<class_name*>(object))

@@ -1,0 +1,4 @@
+// What extension libraries need beside the windows.
+#pragma once
+
+#include "afxwin.h"

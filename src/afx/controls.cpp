@@ -1,0 +1,63 @@
+#include "afx_controls.h"
+
+IMPLEMENT_DYNAMIC(CStatic, CWnd)
+IMPLEMENT_DYNAMIC(CButton, CWnd)
+IMPLEMENT_DYNAMIC(CEdit, CWnd)
+IMPLEMENT_DYNAMIC(CListBox, CWnd)
+IMPLEMENT_DYNAMIC(CComboBox, CWnd)
+IMPLEMENT_DYNAMIC(CScrollBar, CWnd)
+
+BOOL CStatic::Create(LPCTSTR lpszText, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
+    return CWnd::Create("STATIC", lpszText, dwStyle, rect, pParentWnd, nID);
+}
+
+BOOL CButton::Create(LPCTSTR lpszCaption, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
+    return CWnd::Create("BUTTON", lpszCaption, dwStyle, rect, pParentWnd, nID);
+}
+
+BOOL CEdit::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
+    return CWnd::Create("EDIT", nullptr, dwStyle, rect, pParentWnd, nID);
+}
+
+void CEdit::SetSel(int nStartChar, int nEndChar, BOOL bNoScroll) {
+    SendMessage(EM_SETSEL, static_cast<WPARAM>(nStartChar), nEndChar);
+    if (!bNoScroll)
+        SendMessage(EM_SCROLLCARET);
+}
+
+void CEdit::GetSel(int& nStartChar, int& nEndChar) const {
+    DWORD first = 0, last = 0;
+    SendMessage(EM_GETSEL, reinterpret_cast<WPARAM>(&first), reinterpret_cast<LPARAM>(&last));
+    nStartChar = static_cast<int>(first);
+    nEndChar = static_cast<int>(last);
+}
+
+BOOL CListBox::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
+    return CWnd::Create("LISTBOX", nullptr, dwStyle, rect, pParentWnd, nID);
+}
+
+void CListBox::GetText(int nIndex, CString& rString) const {
+    const int length = GetTextLen(nIndex);
+    rString.Empty();
+    if (length <= 0)
+        return;
+    GetText(nIndex, rString.GetBuffer(length + 1));
+    rString.ReleaseBuffer();
+}
+
+BOOL CComboBox::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
+    return CWnd::Create("COMBOBOX", nullptr, dwStyle, rect, pParentWnd, nID);
+}
+
+void CComboBox::GetLBText(int nIndex, CString& rString) const {
+    const int length = static_cast<int>(SendMessage(CB_GETLBTEXTLEN, static_cast<WPARAM>(nIndex)));
+    rString.Empty();
+    if (length <= 0)
+        return;
+    with_text(CB_GETLBTEXT, nIndex, rString.GetBuffer(length + 1));
+    rString.ReleaseBuffer();
+}
+
+BOOL CScrollBar::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
+    return CWnd::Create("SCROLLBAR", nullptr, dwStyle, rect, pParentWnd, nID);
+}

@@ -1,0 +1,304 @@
+#include "afx_dc.h"
+#include "afx_exception.h"
+#include "afx_wnd.h"
+#include "handle_map.h"
+
+IMPLEMENT_DYNCREATE(CDC, CObject)
+IMPLEMENT_DYNAMIC(CClientDC, CDC)
+IMPLEMENT_DYNAMIC(CWindowDC, CDC)
+IMPLEMENT_DYNAMIC(CPaintDC, CDC)
+
+namespace {
+
+struct dc_traits {
+    template <class Wanted> static CDC* make(void* handle) {
+        CDC* dc = new Wanted;
+        dc->m_hDC = dc->m_hAttribDC = static_cast<HDC>(handle);
+        return dc;
+    }
+    static void forget(CDC* dc) { dc->m_hDC = dc->m_hAttribDC = nullptr; }
+    static bool alive(void* handle) { return ::GetObjectType(handle) != 0; }
+};
+
+auto& device_contexts() {
+    static auto& map = *new handle_map<CDC, dc_traits>;
+    return map;
+}
+
+} // namespace
+
+void delete_temporary_device_contexts() {
+    device_contexts().delete_temporary();
+}
+
+CDC::~CDC() {
+    DeleteDC();
+}
+
+BOOL CDC::Attach(HDC hDC) {
+    ASSERT(m_hDC == nullptr);
+    if (hDC == nullptr)
+        return FALSE;
+    m_hDC = hDC;
+    device_contexts().set_permanent(hDC, this);
+    SetAttribDC(hDC);
+    return TRUE;
+}
+
+HDC CDC::Detach() {
+    const HDC handle = m_hDC;
+    if (handle != nullptr)
+        device_contexts().remove_permanent(handle, this);
+    m_hDC = m_hAttribDC = nullptr;
+    return handle;
+}
+
+CDC* PASCAL CDC::FromHandle(HDC hDC) {
+    return device_contexts().any(hDC);
+}
+
+BOOL CDC::CreateDC(LPCTSTR driver, LPCTSTR device, LPCTSTR output, const void* initData) {
+    return Attach(::CreateDC(driver, device, output, static_cast<const DEVMODE*>(initData)));
+}
+
+BOOL CDC::DeleteDC() {
+    const HDC handle = Detach();
+    return handle != nullptr && ::DeleteDC(handle);
+}
+
+CWnd* CDC::GetWindow() const {
+    return CWnd::FromHandle(::WindowFromDC(m_hDC));
+}
+
+int CDC::SaveDC() {
+    if (m_hAttribDC != m_hDC && m_hAttribDC != nullptr)
+        ::SaveDC(m_hAttribDC);
+    return ::SaveDC(m_hDC);
+}
+
+BOOL CDC::RestoreDC(int nSavedDC) {
+    // Both were saved together, but a saved level has a meaning only relative to its own context.
+    if (m_hAttribDC != m_hDC && m_hAttribDC != nullptr)
+        ::RestoreDC(m_hAttribDC, nSavedDC < 0 ? nSavedDC : -1);
+    return ::RestoreDC(m_hDC, nSavedDC);
+}
+
+HGDIOBJ CDC::select(HGDIOBJ handle) {
+    if (handle == nullptr)
+        return nullptr;
+    const HGDIOBJ old = ::SelectObject(m_hDC, handle);
+    if (m_hAttribDC != m_hDC && m_hAttribDC != nullptr)
+        ::SelectObject(m_hAttribDC, handle);
+    return old;
+}
+
+CGdiObject* CDC::SelectStockObject(int nIndex) {
+    return CGdiObject::FromHandle(select(::GetStockObject(nIndex)));
+}
+
+CPen* CDC::SelectObject(CPen* pPen) {
+    return CPen::FromHandle(static_cast<HPEN>(select(pPen->GetSafeHandle())));
+}
+
+CBrush* CDC::SelectObject(CBrush* pBrush) {
+    return CBrush::FromHandle(static_cast<HBRUSH>(select(pBrush->GetSafeHandle())));
+}
+
+CFont* CDC::SelectObject(CFont* pFont) {
+    return CFont::FromHandle(static_cast<HFONT>(select(pFont->GetSafeHandle())));
+}
+
+CBitmap* CDC::SelectObject(CBitmap* pBitmap) {
+    return CBitmap::FromHandle(static_cast<HBITMAP>(::SelectObject(m_hDC, pBitmap->GetSafeHandle())));
+}
+
+int CDC::SelectObject(CRgn* pRgn) {
+    return static_cast<int>(reinterpret_cast<INT_PTR>(select(pRgn->GetSafeHandle())));
+}
+
+CPalette* CDC::SelectPalette(CPalette* pPalette, BOOL bForceBackground) {
+    const HPALETTE handle = static_cast<HPALETTE>(pPalette->GetSafeHandle());
+    return CPalette::FromHandle(::SelectPalette(m_hDC, handle, bForceBackground));
+}
+
+template <class Result, class Setter, class... Values> Result CDC::set_attribute(Setter setter, Values... values) {
+    const Result old = setter(m_hDC, values...);
+    return m_hAttribDC != m_hDC && m_hAttribDC != nullptr ? setter(m_hAttribDC, values...) : old;
+}
+
+COLORREF CDC::SetBkColor(COLORREF crColor) {
+    return set_attribute<COLORREF>(::SetBkColor, crColor);
+}
+
+COLORREF CDC::SetTextColor(COLORREF crColor) {
+    return set_attribute<COLORREF>(::SetTextColor, crColor);
+}
+
+int CDC::SetBkMode(int nBkMode) {
+    return set_attribute<int>(::SetBkMode, nBkMode);
+}
+
+int CDC::SetROP2(int nDrawMode) {
+    return set_attribute<int>(::SetROP2, nDrawMode);
+}
+
+int CDC::SetPolyFillMode(int nPolyFillMode) {
+    return set_attribute<int>(::SetPolyFillMode, nPolyFillMode);
+}
+
+int CDC::SetStretchBltMode(int nStretchMode) {
+    return set_attribute<int>(::SetStretchBltMode, nStretchMode);
+}
+
+UINT CDC::SetTextAlign(UINT nFlags) {
+    return set_attribute<UINT>(::SetTextAlign, nFlags);
+}
+
+int CDC::SetMapMode(int nMapMode) {
+    return set_attribute<int>(::SetMapMode, nMapMode);
+}
+
+CPoint CDC::SetViewportOrg(int x, int y) {
+    CPoint old;
+    set_attribute<BOOL>(::SetViewportOrgEx, x, y, &old);
+    return old;
+}
+
+CPoint CDC::GetViewportOrg() const {
+    CPoint origin;
+    ::GetViewportOrgEx(m_hAttribDC, &origin);
+    return origin;
+}
+
+CSize CDC::SetViewportExt(int cx, int cy) {
+    CSize old;
+    set_attribute<BOOL>(::SetViewportExtEx, cx, cy, &old);
+    return old;
+}
+
+CPoint CDC::SetWindowOrg(int x, int y) {
+    CPoint old;
+    set_attribute<BOOL>(::SetWindowOrgEx, x, y, &old);
+    return old;
+}
+
+CSize CDC::SetWindowExt(int cx, int cy) {
+    CSize old;
+    set_attribute<BOOL>(::SetWindowExtEx, cx, cy, &old);
+    return old;
+}
+
+int CDC::SelectClipRgn(CRgn* pRgn) {
+    return set_attribute<int>(::SelectClipRgn, static_cast<HRGN>(pRgn->GetSafeHandle()));
+}
+
+int CDC::SelectClipRgn(CRgn* pRgn, int nMode) {
+    return set_attribute<int>(::ExtSelectClipRgn, static_cast<HRGN>(pRgn->GetSafeHandle()), nMode);
+}
+
+int CDC::IntersectClipRect(int x1, int y1, int x2, int y2) {
+    return set_attribute<int>(::IntersectClipRect, x1, y1, x2, y2);
+}
+
+int CDC::ExcludeClipRect(int x1, int y1, int x2, int y2) {
+    return set_attribute<int>(::ExcludeClipRect, x1, y1, x2, y2);
+}
+
+CPoint CDC::MoveTo(int x, int y) {
+    CPoint old;
+    set_attribute<BOOL>(::MoveToEx, x, y, &old);
+    return old;
+}
+
+BOOL CDC::LineTo(int x, int y) {
+    if (m_hAttribDC != m_hDC && m_hAttribDC != nullptr)
+        ::MoveToEx(m_hAttribDC, x, y, nullptr);
+    return ::LineTo(m_hDC, x, y);
+}
+
+CPoint CDC::GetCurrentPosition() const {
+    CPoint position;
+    ::GetCurrentPositionEx(m_hAttribDC, &position);
+    return position;
+}
+
+BOOL CDC::FillRgn(CRgn* pRgn, CBrush* pBrush) {
+    return ::FillRgn(m_hDC, static_cast<HRGN>(pRgn->GetSafeHandle()), brush(pBrush));
+}
+
+void CDC::FillSolidRect(LPCRECT lpRect, COLORREF clr) {
+    // The background colour stays set, as documented.
+    ::SetBkColor(m_hDC, clr);
+    ::ExtTextOut(m_hDC, 0, 0, ETO_OPAQUE, lpRect, nullptr, 0, nullptr);
+}
+
+void CDC::FillSolidRect(int x, int y, int cx, int cy, COLORREF clr) {
+    const RECT rect{x, y, x + cx, y + cy};
+    FillSolidRect(&rect, clr);
+}
+
+void CDC::Draw3dRect(LPCRECT lpRect, COLORREF clrTopLeft, COLORREF clrBottomRight) {
+    Draw3dRect(lpRect->left, lpRect->top, lpRect->right - lpRect->left, lpRect->bottom - lpRect->top, clrTopLeft,
+               clrBottomRight);
+}
+
+void CDC::Draw3dRect(int x, int y, int cx, int cy, COLORREF clrTopLeft, COLORREF clrBottomRight) {
+    FillSolidRect(x, y, cx - 1, 1, clrTopLeft);
+    FillSolidRect(x, y, 1, cy - 1, clrTopLeft);
+    FillSolidRect(x + cx - 1, y, 1, cy, clrBottomRight);
+    FillSolidRect(x, y + cy - 1, cx, 1, clrBottomRight);
+}
+
+BOOL CDC::TextOut(int x, int y, LPCTSTR lpszString, int nCount) {
+    return ::TextOut(m_hDC, x, y, lpszString, nCount);
+}
+
+BOOL CDC::ExtTextOut(int x, int y, UINT nOptions, LPCRECT lpRect, LPCTSTR lpszString, UINT nCount, LPINT lpDxWidths) {
+    return ::ExtTextOut(m_hDC, x, y, nOptions, lpRect, lpszString, nCount, lpDxWidths);
+}
+
+BOOL CDC::ExtTextOut(int x, int y, UINT nOptions, LPCRECT lpRect, const CString& str, LPINT lpDxWidths) {
+    return ExtTextOut(x, y, nOptions, lpRect, str, static_cast<UINT>(str.GetLength()), lpDxWidths);
+}
+
+int CDC::DrawText(LPCTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat) {
+    return ::DrawText(m_hDC, lpszString, nCount, lpRect, nFormat);
+}
+
+int CDC::DrawText(const CString& str, LPRECT lpRect, UINT nFormat) {
+    return DrawText(str, str.GetLength(), lpRect, nFormat);
+}
+
+CSize CDC::GetTextExtent(LPCTSTR lpszString, int nCount) const {
+    CSize size;
+    ::GetTextExtentPoint32(m_hAttribDC, lpszString, nCount, &size);
+    return size;
+}
+
+CClientDC::CClientDC(CWnd* pWnd) : m_hWnd(pWnd->GetSafeHwnd()) {
+    if (!Attach(::GetDC(m_hWnd)))
+        AfxThrowResourceException();
+}
+
+CClientDC::~CClientDC() {
+    ::ReleaseDC(m_hWnd, Detach());
+}
+
+CWindowDC::CWindowDC(CWnd* pWnd) : m_hWnd(pWnd->GetSafeHwnd()) {
+    if (!Attach(::GetWindowDC(m_hWnd)))
+        AfxThrowResourceException();
+}
+
+CWindowDC::~CWindowDC() {
+    ::ReleaseDC(m_hWnd, Detach());
+}
+
+CPaintDC::CPaintDC(CWnd* pWnd) : m_hWnd(pWnd->GetSafeHwnd()) {
+    if (!Attach(::BeginPaint(m_hWnd, &m_ps)))
+        AfxThrowResourceException();
+}
+
+CPaintDC::~CPaintDC() {
+    ::EndPaint(m_hWnd, &m_ps);
+    Detach();
+}

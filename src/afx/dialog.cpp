@@ -1,0 +1,180 @@
+#include "afx_dialog.h"
+#include "afx_app.h"
+#include "afx_exception.h"
+#include "afxmsg_.h"
+#include "wnd_state.h"
+
+IMPLEMENT_DYNAMIC(CDialog, CWnd)
+
+BEGIN_MESSAGE_MAP(CDialog, CWnd)
+ON_COMMAND(IDOK, &CDialog::OnOK)
+ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
+END_MESSAGE_MAP()
+
+namespace {
+
+// Keeps a modal dialog's parent disabled, whichever way the dialog ends.
+class disabled_parent {
+public:
+    explicit disabled_parent(HWND parent)
+        : m_parent(parent != nullptr && ::IsWindowEnabled(parent) ? parent : nullptr) {
+        if (m_parent != nullptr)
+            ::EnableWindow(m_parent, FALSE);
+    }
+    ~disabled_parent() { enable(); }
+    disabled_parent(const disabled_parent&) = delete;
+    disabled_parent& operator=(const disabled_parent&) = delete;
+
+    void enable() {
+        if (m_parent != nullptr)
+            ::EnableWindow(m_parent, TRUE);
+        m_parent = nullptr;
+    }
+
+private:
+    HWND m_parent;
+};
+
+// A disabled child cannot hold a dialog: its top-level window does.
+HWND modal_owner(CWnd* parent) {
+    HWND owner = parent->GetSafeHwnd();
+    if (owner == nullptr)
+        owner = AfxGetMainWnd()->GetSafeHwnd();
+    return owner != nullptr ? ::GetAncestor(owner, GA_ROOT) : nullptr;
+}
+
+} // namespace
+
+CDialog::CDialog(LPCTSTR lpszTemplateName, CWnd* pParentWnd)
+    : m_lpszTemplateName(lpszTemplateName), m_pParentWnd(pParentWnd) {
+    if (IS_INTRESOURCE(lpszTemplateName))
+        m_nIDHelp = LOWORD(reinterpret_cast<UINT_PTR>(lpszTemplateName));
+}
+
+CDialog::CDialog(UINT nIDTemplate, CWnd* pParentWnd) : CDialog(MAKEINTRESOURCE(nIDTemplate), pParentWnd) {}
+
+CDialog::~CDialog() {
+    if (m_hWnd != nullptr)
+        CWnd::DestroyWindow();
+}
+
+LPCDLGTEMPLATE CDialog::FindTemplate(LPCTSTR name, HINSTANCE& module) const {
+    module = AfxFindResourceHandle(name, RT_DIALOG);
+    const HRSRC found = ::FindResource(module, name, RT_DIALOG);
+    const HGLOBAL loaded = found != nullptr ? ::LoadResource(module, found) : nullptr;
+    return loaded != nullptr ? static_cast<LPCDLGTEMPLATE>(::LockResource(loaded)) : nullptr;
+}
+
+BOOL CDialog::Create(LPCTSTR lpszTemplateName, CWnd* pParentWnd) {
+    m_lpszTemplateName = lpszTemplateName;
+    HINSTANCE module = nullptr;
+    LPCDLGTEMPLATE found = FindTemplate(lpszTemplateName, module);
+    return found != nullptr && CreateIndirect(found, pParentWnd, nullptr, module);
+}
+
+BOOL CDialog::Create(UINT nIDTemplate, CWnd* pParentWnd) {
+    return Create(MAKEINTRESOURCE(nIDTemplate), pParentWnd);
+}
+
+BOOL CDialog::CreateIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, void* lpDialogInit, HINSTANCE hInst) {
+    if (pParentWnd == nullptr)
+        pParentWnd = AfxGetMainWnd();
+    m_pParentWnd = pParentWnd;
+    AfxHookWindowCreate(this);
+    const HWND hwnd = ::CreateDialogIndirectParam(hInst != nullptr ? hInst : AfxGetResourceHandle(), lpDialogTemplate,
+                                                  pParentWnd->GetSafeHwnd(), &CDialog::DialogProc, 0);
+    if (!AfxUnhookWindowCreate())
+        PostNcDestroy();
+    return hwnd != nullptr;
+}
+
+BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, void* lpDialogInit) {
+    m_lpDialogTemplate = lpDialogTemplate;
+    m_pParentWnd = pParentWnd;
+    return TRUE;
+}
+
+INT_PTR CALLBACK CDialog::DialogProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message != WM_INITDIALOG)
+        return FALSE;
+    CDialog* dialog = DYNAMIC_DOWNCAST(CDialog, CWnd::FromHandlePermanent(hwnd));
+    if (dialog == nullptr)
+        return TRUE;
+    try {
+        return dialog->OnInitDialog();
+    } catch (...) {
+        answer_exception({hwnd, message, wParam, lParam, 0, {0, 0}});
+        dialog->EndDialog(-1);
+        return FALSE;
+    }
+}
+
+INT_PTR CDialog::DoModal() {
+    HINSTANCE module = AfxGetResourceHandle();
+    LPCDLGTEMPLATE form = m_lpDialogTemplate != nullptr ? m_lpDialogTemplate : FindTemplate(m_lpszTemplateName, module);
+    if (form == nullptr)
+        return -1;
+    const HWND owner = modal_owner(m_pParentWnd);
+    disabled_parent disabled(owner);
+    m_modal = true; // OnInitDialog may end the dialog before its loop has begun
+    m_modalResult = -1;
+    if (!CreateIndirect(form, CWnd::FromHandle(owner), nullptr, module)) {
+        m_modal = false;
+        return -1;
+    }
+    const DLGTEMPLATE& placed = *form;
+    if (placed.x == 0 && placed.y == 0 && (GetStyle() & (DS_ABSALIGN | DS_CENTER | DS_CENTERMOUSE)) == 0)
+        CenterWindow();
+    if (m_modal)
+        RunModalLoop((GetStyle() & DS_NOIDLEMSG) != 0 ? MLF_SHOWONIDLE | MLF_NOIDLEMSG : MLF_SHOWONIDLE);
+    const int result = m_modalResult;
+    if (m_hWnd != nullptr)
+        SetWindowPos(nullptr, 0, 0, 0, 0, SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
+    // Before the dialog goes: else the system activates another program's window.
+    disabled.enable();
+    if (owner != nullptr && ::GetActiveWindow() == m_hWnd)
+        ::SetActiveWindow(owner);
+    DestroyWindow();
+    return result;
+}
+
+void CDialog::EndDialog(int nResult) {
+    EndModalLoop(nResult);
+    ::EndDialog(m_hWnd, nResult);
+}
+
+BOOL CDialog::OnInitDialog() {
+    UpdateData(FALSE);
+    return TRUE;
+}
+
+void CDialog::OnOK() {
+    if (UpdateData(TRUE))
+        EndDialog(IDOK);
+}
+
+void CDialog::OnCancel() {
+    EndDialog(IDCANCEL);
+}
+
+BOOL CDialog::PreTranslateMessage(MSG* pMsg) {
+    if (CWnd::PreTranslateMessage(pMsg))
+        return TRUE;
+    const bool input = (pMsg->message >= WM_KEYFIRST && pMsg->message <= WM_KEYLAST) ||
+                       (pMsg->message >= WM_MOUSEFIRST && pMsg->message <= WM_MOUSELAST);
+    return input && IsDialogMessage(pMsg);
+}
+
+BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
+    if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
+        return TRUE;
+    // Commands go on; the ids of controls and of the system menu stay here.
+    const bool command = (nCode == CN_COMMAND || nCode == CN_UPDATE_COMMAND_UI) && nID >= 0x8000 && nID < 0xF000;
+    if (!command)
+        return FALSE;
+    CWnd* owner = GetParent();
+    if (owner != nullptr && owner->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
+        return TRUE;
+    CWinApp* app = AfxGetApp();
+    return app != nullptr && app->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+}

@@ -1,0 +1,178 @@
+#include "afx_exception.h"
+#include "afx_app.h"
+#include "atlexcept.h"
+
+#include <cstdio>
+
+IMPLEMENT_DYNAMIC(CException, CObject)
+IMPLEMENT_DYNAMIC(CSimpleException, CException)
+IMPLEMENT_DYNAMIC(CMemoryException, CSimpleException)
+IMPLEMENT_DYNAMIC(CNotSupportedException, CSimpleException)
+IMPLEMENT_DYNAMIC(CResourceException, CSimpleException)
+IMPLEMENT_DYNAMIC(CInvalidArgException, CSimpleException)
+IMPLEMENT_DYNAMIC(CUserException, CSimpleException)
+IMPLEMENT_DYNAMIC(COleException, CException)
+IMPLEMENT_DYNAMIC(CFileException, CException)
+
+namespace {
+
+void copy_text(LPTSTR to, UINT room, LPCTSTR text) {
+    if (to != nullptr && room > 0)
+        lstrcpyn(to, text, static_cast<int>(room));
+}
+
+BOOL system_message(DWORD code, LPTSTR to, UINT room) {
+    copy_text(to, room, "");
+    return to != nullptr && room > 0 &&
+           FormatMessage(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, code, 0, to, room,
+                         nullptr) != 0;
+}
+
+} // namespace
+
+void CException::Delete() {
+    if (m_bAutoDelete)
+        delete this;
+}
+
+BOOL CException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext) const {
+    if (pnHelpContext != nullptr)
+        *pnHelpContext = 0;
+    copy_text(lpszError, nMaxError, "");
+    return FALSE;
+}
+
+int CException::ReportError(UINT nType, UINT nMessageID) {
+    char text[512];
+    if (GetErrorMessage(text, sizeof(text)))
+        return AfxMessageBox(text, nType);
+    CString stored;
+    if (nMessageID != 0 && stored.LoadString(nMessageID))
+        return AfxMessageBox(stored, nType);
+    return AfxMessageBox("The operation failed.", nType);
+}
+
+BOOL CSimpleException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext) const {
+    if (pnHelpContext != nullptr)
+        *pnHelpContext = 0;
+    copy_text(lpszError, nMaxError, m_strMessage);
+    return !m_strMessage.IsEmpty();
+}
+
+CMemoryException::CMemoryException(BOOL bAutoDelete) : CSimpleException(bAutoDelete, "Out of memory.") {}
+CNotSupportedException::CNotSupportedException(BOOL bAutoDelete)
+    : CSimpleException(bAutoDelete, "The operation is not supported.") {}
+CResourceException::CResourceException(BOOL bAutoDelete)
+    : CSimpleException(bAutoDelete, "A required resource is not available.") {}
+CInvalidArgException::CInvalidArgException(BOOL bAutoDelete)
+    : CSimpleException(bAutoDelete, "An argument is not valid.") {}
+CUserException::CUserException(BOOL bAutoDelete) : CSimpleException(bAutoDelete) {}
+
+BOOL COleException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext) const {
+    if (pnHelpContext != nullptr)
+        *pnHelpContext = 0;
+    if (system_message(static_cast<DWORD>(m_sc), lpszError, nMaxError))
+        return TRUE;
+    CString text;
+    text.Format("Error 0x%08lX.", static_cast<unsigned long>(m_sc));
+    copy_text(lpszError, nMaxError, text);
+    return TRUE;
+}
+
+BOOL CFileException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext) const {
+    if (pnHelpContext != nullptr)
+        *pnHelpContext = 0;
+    char reason[256];
+    if (m_lOsError <= 0 || !system_message(static_cast<DWORD>(m_lOsError), reason, sizeof(reason)))
+        std::snprintf(reason, sizeof(reason), "File error %d.", m_cause);
+    CString text(reason);
+    if (!m_strFileName.IsEmpty())
+        text = m_strFileName + ": " + reason;
+    copy_text(lpszError, nMaxError, text);
+    return TRUE;
+}
+
+int PASCAL CFileException::OsErrorToException(LONG lOsError) {
+    switch (lOsError) {
+    case NO_ERROR:
+        return none;
+    case ERROR_FILE_NOT_FOUND:
+        return fileNotFound;
+    case ERROR_PATH_NOT_FOUND:
+    case ERROR_BAD_PATHNAME:
+    case ERROR_INVALID_NAME:
+    case ERROR_INVALID_DRIVE:
+    case ERROR_FILENAME_EXCED_RANGE:
+        return badPath;
+    case ERROR_TOO_MANY_OPEN_FILES:
+        return tooManyOpenFiles;
+    case ERROR_ACCESS_DENIED:
+    case ERROR_WRITE_PROTECT:
+    case ERROR_FILE_EXISTS:
+    case ERROR_ALREADY_EXISTS:
+        return accessDenied;
+    case ERROR_INVALID_HANDLE:
+        return invalidFile;
+    case ERROR_CURRENT_DIRECTORY:
+        return removeCurrentDir;
+    case ERROR_NEGATIVE_SEEK:
+    case ERROR_SEEK:
+        return badSeek;
+    case ERROR_CRC:
+    case ERROR_IO_DEVICE:
+    case ERROR_READ_FAULT:
+    case ERROR_WRITE_FAULT:
+        return hardIO;
+    case ERROR_SHARING_VIOLATION:
+        return sharingViolation;
+    case ERROR_LOCK_VIOLATION:
+        return lockViolation;
+    case ERROR_DISK_FULL:
+    case ERROR_HANDLE_DISK_FULL:
+        return diskFull;
+    case ERROR_HANDLE_EOF:
+        return endOfFile;
+    default:
+        return genericException;
+    }
+}
+
+void PASCAL CFileException::ThrowOsError(LONG lOsError, LPCTSTR lpszFileName) {
+    AfxThrowFileException(OsErrorToException(lOsError), lOsError, lpszFileName);
+}
+
+void AFXAPI AfxThrowMemoryException() {
+    throw new CMemoryException;
+}
+
+void AFXAPI AfxThrowNotSupportedException() {
+    throw new CNotSupportedException;
+}
+
+void AFXAPI AfxThrowResourceException() {
+    throw new CResourceException;
+}
+
+void AFXAPI AfxThrowInvalidArgException() {
+    throw new CInvalidArgException;
+}
+
+void AFXAPI AfxThrowUserException() {
+    throw new CUserException;
+}
+
+void AFXAPI AfxThrowOleException(SCODE sc) {
+    COleException* exception = new COleException;
+    exception->m_sc = sc;
+    throw exception;
+}
+
+void AFXAPI AfxThrowFileException(int cause, LONG lOsError, LPCTSTR lpszFileName) {
+    throw new CFileException(cause, lOsError, lpszFileName);
+}
+
+void AtlThrow(HRESULT hr) {
+    if (hr == E_OUTOFMEMORY)
+        AfxThrowMemoryException();
+    AfxThrowOleException(hr);
+}

@@ -1,0 +1,157 @@
+#include "afx_gdi.h"
+#include "afx_dc.h"
+#include "afx_exception.h"
+#include "handle_map.h"
+
+#include <cstdlib>
+
+IMPLEMENT_DYNCREATE(CGdiObject, CObject)
+
+namespace {
+
+struct gdi_traits {
+    template <class Wanted> static CGdiObject* make(void* handle) {
+        CGdiObject* object = new Wanted;
+        object->m_hObject = static_cast<HGDIOBJ>(handle);
+        return object;
+    }
+    static void forget(CGdiObject* object) { object->m_hObject = nullptr; }
+    static bool alive(void* handle) { return ::GetObjectType(handle) != 0; }
+};
+
+// Never destroyed: static objects of other modules may let go of their handles later.
+auto& gdi_objects() {
+    static auto& map = *new handle_map<CGdiObject, gdi_traits>;
+    return map;
+}
+
+void attach_or_throw(CGdiObject& object, HGDIOBJ handle) {
+    if (!object.Attach(handle))
+        AfxThrowResourceException();
+}
+
+} // namespace
+
+void delete_temporary_gdi_objects() {
+    gdi_objects().delete_temporary();
+}
+
+#define IMPLEMENT_GDI_CLASS(class_name, handle_type)                                                                   \
+    IMPLEMENT_DYNAMIC(class_name, CGdiObject)                                                                          \
+    class_name* PASCAL class_name::FromHandle(handle_type handle) {                                                    \
+        return static_cast<class_name*>(gdi_objects().any<class_name>(handle));                                        \
+    }
+
+IMPLEMENT_GDI_CLASS(CPen, HPEN)
+IMPLEMENT_GDI_CLASS(CBrush, HBRUSH)
+IMPLEMENT_GDI_CLASS(CFont, HFONT)
+IMPLEMENT_GDI_CLASS(CBitmap, HBITMAP)
+IMPLEMENT_GDI_CLASS(CRgn, HRGN)
+IMPLEMENT_GDI_CLASS(CPalette, HPALETTE)
+
+CGdiObject::~CGdiObject() {
+    DeleteObject();
+}
+
+CGdiObject* PASCAL CGdiObject::FromHandle(HGDIOBJ hObject) {
+    return gdi_objects().any(hObject);
+}
+
+BOOL CGdiObject::Attach(HGDIOBJ hObject) {
+    ASSERT(m_hObject == nullptr);
+    if (hObject == nullptr)
+        return FALSE;
+    m_hObject = hObject;
+    gdi_objects().set_permanent(hObject, this);
+    return TRUE;
+}
+
+HGDIOBJ CGdiObject::Detach() {
+    const HGDIOBJ handle = m_hObject;
+    if (handle != nullptr)
+        gdi_objects().remove_permanent(handle, this);
+    m_hObject = nullptr;
+    return handle;
+}
+
+BOOL CGdiObject::DeleteObject() {
+    const HGDIOBJ handle = Detach();
+    return handle != nullptr && ::DeleteObject(handle);
+}
+
+CPen::CPen(int nPenStyle, int nWidth, COLORREF crColor) {
+    attach_or_throw(*this, ::CreatePen(nPenStyle, nWidth, crColor));
+}
+
+CBrush::CBrush(COLORREF crColor) {
+    attach_or_throw(*this, ::CreateSolidBrush(crColor));
+}
+
+CBrush::CBrush(int nIndex, COLORREF crColor) {
+    attach_or_throw(*this, ::CreateHatchBrush(nIndex, crColor));
+}
+
+BOOL CBrush::CreatePatternBrush(CBitmap* pBitmap) {
+    return Attach(::CreatePatternBrush(static_cast<HBITMAP>(pBitmap->GetSafeHandle())));
+}
+
+BOOL CFont::CreateFont(int nHeight, int nWidth, int nEscapement, int nOrientation, int nWeight, BYTE bItalic,
+                       BYTE bUnderline, BYTE cStrikeOut, BYTE nCharSet, BYTE nOutPrecision, BYTE nClipPrecision,
+                       BYTE nQuality, BYTE nPitchAndFamily, LPCTSTR lpszFacename) {
+    return Attach(::CreateFont(nHeight, nWidth, nEscapement, nOrientation, nWeight, bItalic, bUnderline, cStrikeOut,
+                               nCharSet, nOutPrecision, nClipPrecision, nQuality, nPitchAndFamily, lpszFacename));
+}
+
+BOOL CFont::CreatePointFont(int nPointSize, LPCTSTR lpszFaceName, CDC* pDC) {
+    LOGFONT description{};
+    description.lfCharSet = DEFAULT_CHARSET;
+    description.lfHeight = nPointSize;
+    if (lpszFaceName != nullptr)
+        lstrcpyn(description.lfFaceName, lpszFaceName, LF_FACESIZE);
+    return CreatePointFontIndirect(&description, pDC);
+}
+
+BOOL CFont::CreatePointFontIndirect(const LOGFONT* lpLogFont, CDC* pDC) {
+    const HDC dc = pDC != nullptr ? pDC->m_hAttribDC : ::GetDC(nullptr);
+    // 720 tenths of a point make an inch. The height is a distance, so the origin is converted with it.
+    const long long pixels = static_cast<long long>(::GetDeviceCaps(dc, LOGPIXELSY)) * lpLogFont->lfHeight / 720;
+    POINT height{0, static_cast<LONG>(pixels)}, origin{0, 0};
+    ::DPtoLP(dc, &height, 1);
+    ::DPtoLP(dc, &origin, 1);
+    if (pDC == nullptr)
+        ::ReleaseDC(nullptr, dc);
+    LOGFONT description = *lpLogFont;
+    description.lfHeight = -std::abs(height.y - origin.y);
+    return CreateFontIndirect(&description);
+}
+
+BOOL CBitmap::LoadBitmap(LPCTSTR lpszResourceName) {
+    return Attach(::LoadBitmap(AfxFindResourceHandle(lpszResourceName, RT_BITMAP), lpszResourceName));
+}
+
+BOOL CBitmap::CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight) {
+    return Attach(::CreateCompatibleBitmap(pDC->GetSafeHdc(), nWidth, nHeight));
+}
+
+int CRgn::CombineRgn(const CRgn* pRgn1, const CRgn* pRgn2, int nCombineMode) {
+    return ::CombineRgn(*this, static_cast<HRGN>(pRgn1->GetSafeHandle()), static_cast<HRGN>(pRgn2->GetSafeHandle()),
+                        nCombineMode);
+}
+
+int CRgn::CopyRgn(const CRgn* pRgnSrc) {
+    return ::CombineRgn(*this, static_cast<HRGN>(pRgnSrc->GetSafeHandle()), nullptr, RGN_COPY);
+}
+
+BOOL CRgn::EqualRgn(const CRgn* pRgn) const {
+    return ::EqualRgn(*this, static_cast<HRGN>(pRgn->GetSafeHandle()));
+}
+
+BOOL CPalette::CreateHalftonePalette(CDC* pDC) {
+    return Attach(::CreateHalftonePalette(pDC->GetSafeHdc()));
+}
+
+int CPalette::GetEntryCount() {
+    WORD count = 0;
+    GetObject(sizeof(count), &count);
+    return count;
+}

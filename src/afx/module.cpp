@@ -1,0 +1,108 @@
+#include "afx_module.h"
+
+namespace {
+
+CDynLinkLibrary* first_library = nullptr;
+HINSTANCE resource_handle = nullptr;
+
+// Deletes what is left of the chain when the process ends. A library that was unloaded before is only forgotten.
+struct chain_owner {
+    ~chain_owner() {
+        while (first_library != nullptr)
+            delete first_library;
+    }
+} owner;
+
+// The first module of the chain for which has() is true, or null.
+template <class Has> HINSTANCE find_module(Has has) {
+    const HINSTANCE current = AfxGetResourceHandle(), program = AfxGetInstanceHandle();
+    if (has(current))
+        return current;
+    if (program != current && has(program))
+        return program;
+    for (CDynLinkLibrary* at = first_library; at != nullptr; at = at->m_pNextDLL) {
+        if (at->m_hResource != nullptr && has(at->m_hResource))
+            return at->m_hResource;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+BOOL AFXAPI AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hModule) {
+    if (hModule == nullptr)
+        return FALSE;
+    state.bInitialized = TRUE;
+    state.hModule = hModule;
+    if (state.hResource == nullptr)
+        state.hResource = hModule;
+    return TRUE;
+}
+
+void AFXAPI AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL bAll) {
+    for (CDynLinkLibrary* at = first_library; at != nullptr;) {
+        CDynLinkLibrary* next = at->m_pNextDLL;
+        if (bAll || at->m_hModule == state.hModule)
+            delete at;
+        at = next;
+    }
+    state.bInitialized = FALSE;
+}
+
+CDynLinkLibrary::CDynLinkLibrary(AFX_EXTENSION_MODULE& state, BOOL bSystem)
+    : CDynLinkLibrary(state.hModule, state.hResource) {
+    m_bSystem = bSystem;
+}
+
+CDynLinkLibrary::CDynLinkLibrary(HINSTANCE hModule, HINSTANCE hResource)
+    : m_hModule(hModule), m_hResource(hResource), m_pNextDLL(first_library) {
+    first_library = this;
+}
+
+CDynLinkLibrary::~CDynLinkLibrary() {
+    for (CDynLinkLibrary** at = &first_library; *at != nullptr; at = &(*at)->m_pNextDLL) {
+        if (*at == this) {
+            *at = m_pNextDLL;
+            return;
+        }
+    }
+}
+
+HINSTANCE AFXAPI AfxGetInstanceHandle() {
+    return ::GetModuleHandle(nullptr);
+}
+
+HINSTANCE AFXAPI AfxGetResourceHandle() {
+    return resource_handle != nullptr ? resource_handle : AfxGetInstanceHandle();
+}
+
+void AFXAPI AfxSetResourceHandle(HINSTANCE hInstResource) {
+    resource_handle = hInstResource;
+}
+
+HINSTANCE AFXAPI AfxFindResourceHandle(LPCTSTR lpszName, LPCTSTR lpszType) {
+    const HINSTANCE found =
+        find_module([&](HINSTANCE module) { return ::FindResource(module, lpszName, lpszType) != nullptr; });
+    return found != nullptr ? found : AfxGetResourceHandle();
+}
+
+HINSTANCE AFXAPI AfxFindStringResourceHandle(UINT nID) {
+    // Strings are stored in blocks of sixteen: a module may hold the block and lack the string.
+    return find_module([nID](HINSTANCE module) {
+        LPCWSTR text = nullptr;
+        return ::LoadStringW(module, nID, reinterpret_cast<LPWSTR>(&text), 0) > 0;
+    });
+}
+
+int AFXAPI AfxLoadString(UINT nIDS, LPTSTR lpszBuf, UINT nMaxBuf) {
+    if (lpszBuf == nullptr || nMaxBuf == 0)
+        return 0;
+    *lpszBuf = '\0';
+    const HINSTANCE module = AfxFindStringResourceHandle(nIDS);
+    return module != nullptr ? ::LoadString(module, nIDS, lpszBuf, static_cast<int>(nMaxBuf)) : 0;
+}
+
+AFX_MODULE_STATE* AFXAPI AfxGetStaticModuleState() {
+    static AFX_MODULE_STATE state;
+    return &state;
+}

@@ -1,0 +1,396 @@
+#include "afxstr.h"
+#include "afx_module.h"
+
+#include <algorithm>
+#include <cctype>
+#include <climits>
+#include <cstdio>
+#include <cstring>
+#include <mbstring.h>
+
+namespace {
+
+const unsigned char* bytes(LPCSTR text) {
+    return reinterpret_cast<const unsigned char*>(text);
+}
+
+LPCSTR text_or_empty(LPCSTR text) {
+    return text != nullptr ? text : "";
+}
+
+bool is_space(char c) {
+    return std::isspace(static_cast<unsigned char>(c)) != 0;
+}
+
+std::string to_ansi(LPCWSTR source) {
+    if (source == nullptr)
+        return {};
+    const int length = WideCharToMultiByte(CP_ACP, 0, source, -1, nullptr, 0, nullptr, nullptr);
+    std::string text(static_cast<std::size_t>(std::max(length, 1)), '\0');
+    WideCharToMultiByte(CP_ACP, 0, source, -1, text.data(), length, nullptr, nullptr);
+    text.pop_back(); // the terminator that was counted
+    return text;
+}
+
+} // namespace
+
+std::size_t CString::clamp(int position) const {
+    return std::min(static_cast<std::size_t>(std::max(position, 0)), m_text.size());
+}
+
+CString::CString(LPCSTR source) {
+    if (source != nullptr && IS_INTRESOURCE(source))
+        LoadString(LOWORD(reinterpret_cast<UINT_PTR>(source)));
+    else
+        m_text = text_or_empty(source);
+}
+
+CString::CString(LPCWSTR source) : m_text(to_ansi(source)) {}
+
+CString::CString(LPCSTR source, int length) {
+    SetString(source, length);
+}
+
+CString::CString(char c, int repeat) : m_text(static_cast<std::size_t>(std::max(repeat, 0)), c) {}
+
+CString& CString::operator=(LPCSTR source) {
+    // A copy first: the source may lie inside this text.
+    m_text = std::string(text_or_empty(source));
+    return *this;
+}
+
+CString& CString::operator=(LPCWSTR source) {
+    m_text = to_ansi(source);
+    return *this;
+}
+
+CString& CString::operator=(char c) {
+    m_text.assign(1, c);
+    return *this;
+}
+
+CString& CString::operator+=(const CString& text) {
+    m_text += text.m_text;
+    return *this;
+}
+
+CString& CString::operator+=(LPCSTR text) {
+    m_text += text_or_empty(text);
+    return *this;
+}
+
+CString& CString::operator+=(char c) {
+    m_text += c;
+    return *this;
+}
+
+void CString::Append(LPCSTR text, int length) {
+    if (text != nullptr && length > 0)
+        m_text.append(text, strnlen(text, static_cast<std::size_t>(length)));
+}
+
+char CString::GetAt(int index) const {
+    return index >= 0 && index < GetLength() ? m_text[static_cast<std::size_t>(index)] : '\0';
+}
+
+void CString::SetAt(int index, char c) {
+    if (index >= 0 && index < GetLength())
+        m_text[static_cast<std::size_t>(index)] = c;
+}
+
+void CString::SetString(LPCSTR text, int length) {
+    m_text = text != nullptr && length > 0 ? std::string(text, static_cast<std::size_t>(length)) : std::string();
+}
+
+LPSTR CString::GetBuffer(int minimum) {
+    // The old text stays in front; what lies behind it is null characters, so ReleaseBuffer finds the end.
+    if (minimum > GetLength())
+        m_text.resize(static_cast<std::size_t>(minimum), '\0');
+    return m_text.data();
+}
+
+LPSTR CString::GetBufferSetLength(int length) {
+    m_text.resize(static_cast<std::size_t>(std::max(length, 0)), '\0');
+    return m_text.data();
+}
+
+void CString::ReleaseBuffer(int length) {
+    m_text.resize(length < 0 ? strnlen(m_text.data(), m_text.size()) : clamp(length));
+}
+
+void CString::Truncate(int length) {
+    m_text.resize(clamp(length));
+}
+
+CString CString::Mid(int first) const {
+    return Mid(first, INT_MAX);
+}
+
+CString CString::Mid(int first, int count) const {
+    CString part;
+    part.m_text = m_text.substr(clamp(first), static_cast<std::size_t>(std::max(count, 0)));
+    return part;
+}
+
+CString CString::Left(int count) const {
+    return Mid(0, count);
+}
+
+CString CString::Right(int count) const {
+    return Mid(GetLength() - static_cast<int>(clamp(count)));
+}
+
+CString CString::SpanIncluding(LPCSTR charset) const {
+    return Left(static_cast<int>(_mbsspn(bytes(*this), bytes(text_or_empty(charset)))));
+}
+
+CString CString::SpanExcluding(LPCSTR charset) const {
+    return Left(static_cast<int>(_mbscspn(bytes(*this), bytes(text_or_empty(charset)))));
+}
+
+CString CString::Tokenize(LPCSTR tokens, int& start) const {
+    if (start >= 0 && start < GetLength()) {
+        const unsigned char* separators = bytes(text_or_empty(tokens));
+        const unsigned char* text = bytes(m_text.c_str());
+        const int first = start + static_cast<int>(_mbsspn(text + start, separators));
+        const int count = static_cast<int>(_mbscspn(text + first, separators));
+        if (count > 0) {
+            start = first + count + 1;
+            return Mid(first, count);
+        }
+    }
+    start = -1;
+    return {};
+}
+
+int CString::Find(char c, int start) const {
+    if (start < 0 || start >= GetLength())
+        return -1;
+    const unsigned char* text = bytes(m_text.c_str());
+    const unsigned char* found = _mbschr(text + start, static_cast<unsigned char>(c));
+    return found != nullptr ? static_cast<int>(found - text) : -1;
+}
+
+int CString::Find(LPCSTR text, int start) const {
+    if (text == nullptr || start < 0 || start > GetLength())
+        return -1;
+    const unsigned char* own = bytes(m_text.c_str());
+    const unsigned char* found = _mbsstr(own + start, bytes(text));
+    return found != nullptr ? static_cast<int>(found - own) : -1;
+}
+
+int CString::ReverseFind(char c) const {
+    const unsigned char* text = bytes(m_text.c_str());
+    const unsigned char* found = _mbsrchr(text, static_cast<unsigned char>(c));
+    return found != nullptr ? static_cast<int>(found - text) : -1;
+}
+
+int CString::FindOneOf(LPCSTR charset) const {
+    const unsigned char* text = bytes(m_text.c_str());
+    const unsigned char* found = _mbspbrk(text, bytes(text_or_empty(charset)));
+    return found != nullptr ? static_cast<int>(found - text) : -1;
+}
+
+int CString::Compare(LPCSTR text) const {
+    return _mbscmp(bytes(m_text.c_str()), bytes(text_or_empty(text)));
+}
+
+int CString::CompareNoCase(LPCSTR text) const {
+    return _mbsicmp(bytes(m_text.c_str()), bytes(text_or_empty(text)));
+}
+
+int CString::Collate(LPCSTR text) const {
+    return std::strcoll(m_text.c_str(), text_or_empty(text));
+}
+
+CString& CString::MakeUpper() {
+    CharUpperBuff(m_text.data(), static_cast<DWORD>(m_text.size()));
+    return *this;
+}
+
+CString& CString::MakeLower() {
+    CharLowerBuff(m_text.data(), static_cast<DWORD>(m_text.size()));
+    return *this;
+}
+
+CString& CString::MakeReverse() {
+    _mbsrev(reinterpret_cast<unsigned char*>(m_text.data()));
+    return *this;
+}
+
+CString& CString::TrimLeft() {
+    m_text.erase(m_text.begin(), std::find_if_not(m_text.begin(), m_text.end(), is_space));
+    return *this;
+}
+
+CString& CString::TrimLeft(char c) {
+    m_text.erase(0, std::min(m_text.find_first_not_of(c), m_text.size()));
+    return *this;
+}
+
+CString& CString::TrimLeft(LPCSTR targets) {
+    m_text.erase(0, std::min(m_text.find_first_not_of(text_or_empty(targets)), m_text.size()));
+    return *this;
+}
+
+CString& CString::TrimRight() {
+    m_text.erase(std::find_if_not(m_text.rbegin(), m_text.rend(), is_space).base(), m_text.end());
+    return *this;
+}
+
+CString& CString::TrimRight(char c) {
+    m_text.erase(m_text.find_last_not_of(c) + 1);
+    return *this;
+}
+
+CString& CString::TrimRight(LPCSTR targets) {
+    m_text.erase(m_text.find_last_not_of(text_or_empty(targets)) + 1);
+    return *this;
+}
+
+int CString::Replace(char oldChar, char newChar) {
+    const auto changed = std::count(m_text.begin(), m_text.end(), oldChar);
+    std::replace(m_text.begin(), m_text.end(), oldChar, newChar);
+    return oldChar == newChar ? 0 : static_cast<int>(changed);
+}
+
+int CString::Replace(LPCSTR oldText, LPCSTR newText) {
+    const std::string from = text_or_empty(oldText), to = text_or_empty(newText);
+    if (from.empty())
+        return 0;
+    int changed = 0;
+    std::string result;
+    std::size_t done = 0;
+    for (int at = Find(from.c_str()); at >= 0; at = Find(from.c_str(), static_cast<int>(done))) {
+        result.append(m_text, done, static_cast<std::size_t>(at) - done).append(to);
+        done = static_cast<std::size_t>(at) + from.size();
+        ++changed;
+    }
+    if (changed > 0)
+        m_text = result.append(m_text, done);
+    return changed;
+}
+
+int CString::Remove(char c) {
+    return static_cast<int>(std::erase(m_text, c));
+}
+
+int CString::Insert(int index, char c) {
+    m_text.insert(clamp(index), 1, c);
+    return GetLength();
+}
+
+int CString::Insert(int index, LPCSTR text) {
+    m_text.insert(clamp(index), std::string(text_or_empty(text)));
+    return GetLength();
+}
+
+int CString::Delete(int index, int count) {
+    m_text.erase(clamp(index), static_cast<std::size_t>(std::max(count, 0)));
+    return GetLength();
+}
+
+void CString::FormatV(LPCSTR format, va_list arguments) {
+    if (format == nullptr) {
+        m_text.clear();
+        return;
+    }
+    va_list counted;
+    va_copy(counted, arguments);
+    const int length = std::vsnprintf(nullptr, 0, format, counted);
+    va_end(counted);
+    // Formatted aside: an argument may point into this text.
+    std::string text(static_cast<std::size_t>(std::max(length, 0)) + 1, '\0');
+    std::vsnprintf(text.data(), text.size(), format, arguments);
+    text.pop_back();
+    m_text = std::move(text);
+}
+
+void CString::AppendFormatV(LPCSTR format, va_list arguments) {
+    CString tail;
+    tail.FormatV(format, arguments);
+    m_text += tail.m_text;
+}
+
+void AFX_CDECL CString::Format(LPCSTR format, ...) {
+    va_list arguments;
+    va_start(arguments, format);
+    FormatV(format, arguments);
+    va_end(arguments);
+}
+
+void AFX_CDECL CString::Format(UINT formatId, ...) {
+    const CString format(MAKEINTRESOURCE(formatId));
+    va_list arguments;
+    va_start(arguments, formatId);
+    FormatV(format, arguments);
+    va_end(arguments);
+}
+
+void AFX_CDECL CString::AppendFormat(LPCSTR format, ...) {
+    va_list arguments;
+    va_start(arguments, format);
+    AppendFormatV(format, arguments);
+    va_end(arguments);
+}
+
+void AFX_CDECL CString::AppendFormat(UINT formatId, ...) {
+    const CString format(MAKEINTRESOURCE(formatId));
+    va_list arguments;
+    va_start(arguments, formatId);
+    AppendFormatV(format, arguments);
+    va_end(arguments);
+}
+
+BOOL CString::LoadString(UINT id) {
+    return LoadString(AfxFindStringResourceHandle(id), id);
+}
+
+BOOL CString::LoadString(HINSTANCE instance, UINT id) {
+    m_text.clear();
+    // Length 0 asks for a pointer to the resource itself, whatever its length.
+    LPCWSTR resource = nullptr;
+    const int length = instance != nullptr ? LoadStringW(instance, id, reinterpret_cast<LPWSTR>(&resource), 0) : 0;
+    if (length <= 0)
+        return FALSE;
+    m_text = to_ansi(std::wstring(resource, static_cast<std::size_t>(length)).c_str());
+    return TRUE;
+}
+
+BOOL CString::GetEnvironmentVariable(LPCSTR name) {
+    m_text.clear();
+    const DWORD room = ::GetEnvironmentVariable(name, nullptr, 0);
+    if (room == 0)
+        return FALSE;
+    m_text.resize(room);
+    m_text.resize(std::min(::GetEnvironmentVariable(name, m_text.data(), room), room));
+    return TRUE;
+}
+
+BSTR CString::AllocSysString() const {
+    const int length = MultiByteToWideChar(CP_ACP, 0, m_text.c_str(), GetLength(), nullptr, 0);
+    BSTR text = SysAllocStringLen(nullptr, static_cast<UINT>(length));
+    if (text != nullptr)
+        MultiByteToWideChar(CP_ACP, 0, m_text.c_str(), GetLength(), text, length);
+    return text;
+}
+
+CString AFXAPI operator+(const CString& a, const CString& b) {
+    return CString(a) += b;
+}
+
+CString AFXAPI operator+(const CString& a, LPCSTR b) {
+    return CString(a) += b;
+}
+
+CString AFXAPI operator+(LPCSTR a, const CString& b) {
+    return CString(a) += b;
+}
+
+CString AFXAPI operator+(const CString& a, char b) {
+    return CString(a) += b;
+}
+
+CString AFXAPI operator+(char a, const CString& b) {
+    return CString(a) += b;
+}

@@ -1,0 +1,208 @@
+// Windows and their objects: attachment, creation, destruction.
+#include "afx_app.h"
+#include "afx_exception.h"
+#include "afxmsg_.h"
+#include "handle_map.h"
+#include "wnd_state.h"
+
+#include <map>
+#include <string>
+#include <tuple>
+
+IMPLEMENT_DYNCREATE(CWnd, CCmdTarget)
+
+BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
+ON_WM_NCDESTROY()
+ON_WM_CTLCOLOR()
+ON_WM_DRAWITEM()
+ON_WM_MEASUREITEM()
+ON_WM_HSCROLL()
+ON_WM_VSCROLL()
+END_MESSAGE_MAP()
+
+const CWnd CWnd::wndTop(HWND_TOP);
+const CWnd CWnd::wndBottom(HWND_BOTTOM);
+const CWnd CWnd::wndTopMost(HWND_TOPMOST);
+const CWnd CWnd::wndNoTopMost(HWND_NOTOPMOST);
+
+namespace {
+
+struct wnd_traits {
+    template <class Wanted> static CWnd* make(void* handle) {
+        CWnd* wnd = new Wanted;
+        wnd->m_hWnd = static_cast<HWND>(handle);
+        return wnd;
+    }
+    static void forget(CWnd* wnd) { wnd->m_hWnd = nullptr; }
+    static bool alive(void* handle) { return ::IsWindow(static_cast<HWND>(handle)); }
+};
+
+auto& windows() {
+    static auto& map = *new handle_map<CWnd, wnd_traits>;
+    return map;
+}
+
+} // namespace
+
+void delete_temporary_windows() {
+    windows().delete_temporary();
+}
+
+void delete_temporary_objects() {
+    delete_temporary_windows();
+    delete_temporary_gdi_objects();
+    delete_temporary_device_contexts();
+    delete_temporary_menus();
+}
+
+void PASCAL CWnd::DeleteTempMap() {
+    delete_temporary_objects();
+}
+
+CWnd::~CWnd() {
+    // The derived parts are gone: their handlers no longer see the messages of this destruction.
+    if (m_hWnd != nullptr && FromHandlePermanent(m_hWnd) == this)
+        CWnd::DestroyWindow();
+}
+
+CWnd* PASCAL CWnd::FromHandle(HWND hWnd) {
+    return windows().any(hWnd);
+}
+
+CWnd* PASCAL CWnd::FromHandlePermanent(HWND hWnd) {
+    return windows().permanent(hWnd);
+}
+
+BOOL CWnd::Attach(HWND hWndNew) {
+    ASSERT(m_hWnd == nullptr);
+    if (hWndNew == nullptr)
+        return FALSE;
+    m_hWnd = hWndNew;
+    windows().set_permanent(hWndNew, this);
+    return TRUE;
+}
+
+HWND CWnd::Detach() {
+    const HWND hwnd = m_hWnd;
+    if (hwnd != nullptr)
+        windows().remove_permanent(hwnd, this);
+    m_hWnd = nullptr;
+    return hwnd;
+}
+
+BOOL CWnd::SubclassWindow(HWND hWnd) {
+    if (m_hWnd != nullptr || !::IsWindow(hWnd) || FromHandlePermanent(hWnd) != nullptr)
+        return FALSE;
+    AfxTakeOverWindow(this, hWnd);
+    return TRUE;
+}
+
+BOOL CWnd::SubclassDlgItem(UINT nID, CWnd* pParent) {
+    return SubclassWindow(::GetDlgItem(pParent->GetSafeHwnd(), static_cast<int>(nID)));
+}
+
+HWND CWnd::UnsubclassWindow() {
+    WNDPROC* super = GetSuperWndProcAddr();
+    const WNDPROC original = *super != nullptr ? *super : &::DefWindowProc;
+    ::SetWindowLongPtr(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(original));
+    *super = nullptr;
+    return Detach();
+}
+
+BOOL CWnd::PreCreateWindow(CREATESTRUCT& cs) {
+    if (cs.lpszClass == nullptr)
+        cs.lpszClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW));
+    return TRUE;
+}
+
+void CWnd::PreSubclassWindow() {}
+
+BOOL CWnd::PreTranslateMessage(MSG* pMsg) {
+    return FALSE;
+}
+
+void CWnd::PostNcDestroy() {}
+
+BOOL CWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd,
+                  UINT nID, CCreateContext* pContext) {
+    return CreateEx(0, lpszClassName, lpszWindowName, dwStyle | WS_CHILD, rect, pParentWnd, nID, pContext);
+}
+
+BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
+                    CWnd* pParentWnd, UINT nID, LPVOID lpParam) {
+    return CreateEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, rect.left, rect.top, rect.right - rect.left,
+                    rect.bottom - rect.top, pParentWnd->GetSafeHwnd(),
+                    reinterpret_cast<HMENU>(static_cast<UINT_PTR>(nID)), lpParam);
+}
+
+BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, int x, int y,
+                    int nWidth, int nHeight, HWND hWndParent, HMENU nIDorHMenu, LPVOID lpParam) {
+    CREATESTRUCT cs{lpParam, AfxGetInstanceHandle(),     nIDorHMenu,     hWndParent,    nHeight,  nWidth, y,
+                    x,       static_cast<LONG>(dwStyle), lpszWindowName, lpszClassName, dwExStyle};
+    if (!PreCreateWindow(cs)) {
+        PostNcDestroy();
+        return FALSE;
+    }
+    AfxHookWindowCreate(this);
+    const HWND hwnd = ::CreateWindowEx(cs.dwExStyle, cs.lpszClass, cs.lpszName, static_cast<DWORD>(cs.style), cs.x,
+                                       cs.y, cs.cx, cs.cy, cs.hwndParent, cs.hMenu, cs.hInstance, cs.lpCreateParams);
+    if (!AfxUnhookWindowCreate())
+        PostNcDestroy(); // failed before the object saw anything of it
+    return hwnd != nullptr;
+}
+
+BOOL CWnd::DestroyWindow() {
+    const HWND hwnd = m_hWnd;
+    if (hwnd == nullptr)
+        return FALSE;
+    const bool permanent = FromHandlePermanent(hwnd) == this;
+    const BOOL destroyed = ::DestroyWindow(hwnd);
+    // The last message has detached a permanent object, and may have deleted it: only the map tells.
+    if (!permanent)
+        m_hWnd = nullptr;
+    else if (CWnd* left = FromHandlePermanent(hwnd); left != nullptr && !::IsWindow(hwnd))
+        left->Detach();
+    return destroyed;
+}
+
+void CWnd::OnNcDestroy() {
+    CWinThread* thread = AfxGetThread();
+    if (thread != nullptr && thread->m_pMainWnd == this) {
+        thread->m_pMainWnd = nullptr;
+        ::PostQuitMessage(0);
+    }
+    const LONG_PTR before = ::GetWindowLongPtr(m_hWnd, GWLP_WNDPROC);
+    Default();
+    if (m_pfnSuper != nullptr && ::GetWindowLongPtr(m_hWnd, GWLP_WNDPROC) == before)
+        ::SetWindowLongPtr(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(m_pfnSuper));
+    m_pfnSuper = nullptr;
+    Detach();
+    PostNcDestroy();
+}
+
+LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbrBackground, HICON hIcon) {
+    static auto& names = *new std::map<std::tuple<UINT, HCURSOR, HBRUSH, HICON>, std::string>;
+    const auto [at, added] = names.try_emplace({nClassStyle, hCursor, hbrBackground, hIcon});
+    if (added) {
+        CString name;
+        name.Format("Afx:%p:%x:%p:%p:%p", static_cast<void*>(AfxGetInstanceHandle()), nClassStyle,
+                    static_cast<void*>(hCursor), static_cast<void*>(hbrBackground), static_cast<void*>(hIcon));
+        at->second = name;
+    }
+    WNDCLASS description{};
+    description.style = nClassStyle;
+    description.lpfnWndProc = &::DefWindowProc;
+    description.hInstance = AfxGetInstanceHandle();
+    description.hIcon = hIcon;
+    description.hCursor = hCursor;
+    description.hbrBackground = hbrBackground;
+    description.lpszClassName = at->second.c_str();
+    if (!AfxRegisterClass(&description))
+        AfxThrowResourceException();
+    return at->second.c_str();
+}
+
+BOOL AFXAPI AfxRegisterClass(WNDCLASS* lpWndClass) {
+    WNDCLASS known;
+    return ::GetClassInfo(lpWndClass->hInstance, lpWndClass->lpszClassName, &known) || ::RegisterClass(lpWndClass) != 0;
+}

@@ -1,0 +1,144 @@
+// Operations of CWnd that are more than one platform call.
+#include "afx_app.h"
+#include "afx_data_exchange.h"
+#include "afx_menu.h"
+#include "afx_wnd.h"
+
+#include <algorithm>
+
+namespace {
+
+BOOL change_style(HWND hwnd, int index, DWORD remove, DWORD add, UINT flags) {
+    const DWORD old = static_cast<DWORD>(::GetWindowLongPtr(hwnd, index));
+    const DWORD wanted = (old & ~remove) | add;
+    if (old == wanted)
+        return FALSE;
+    ::SetWindowLongPtr(hwnd, index, static_cast<LONG>(wanted));
+    if (flags != 0)
+        ::SetWindowPos(hwnd, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | flags);
+    return TRUE;
+}
+
+CString text_of(HWND hwnd) {
+    CString text;
+    const int length = ::GetWindowTextLength(hwnd);
+    if (length > 0) {
+        ::GetWindowText(hwnd, text.GetBuffer(length + 1), length + 1);
+        text.ReleaseBuffer();
+    }
+    return text;
+}
+
+RECT work_area(HWND hwnd) {
+    MONITORINFO info{};
+    info.cbSize = sizeof(info);
+    ::GetMonitorInfo(::MonitorFromWindow(hwnd, MONITOR_DEFAULTTONEAREST), &info);
+    return info.rcWork;
+}
+
+// Where something of this length starts so that it is centred, but does not leave the bounds.
+int centred(int low, int high, int length, int least, int most) {
+    const int at = static_cast<int>((static_cast<long long>(low) + high - length) / 2);
+    return std::max(std::min(at, most - length), least);
+}
+
+} // namespace
+
+BOOL CWnd::ModifyStyle(DWORD dwRemove, DWORD dwAdd, UINT nFlags) {
+    return change_style(m_hWnd, GWL_STYLE, dwRemove, dwAdd, nFlags);
+}
+
+BOOL CWnd::ModifyStyleEx(DWORD dwRemove, DWORD dwAdd, UINT nFlags) {
+    return change_style(m_hWnd, GWL_EXSTYLE, dwRemove, dwAdd, nFlags);
+}
+
+CWnd* CWnd::GetOwner() const {
+    return FromHandle(m_hWndOwner != nullptr ? m_hWndOwner : ::GetParent(m_hWnd));
+}
+
+CWnd* CWnd::GetTopLevelParent() const {
+    HWND top = GetSafeHwnd();
+    for (HWND at = top; at != nullptr; at = ::GetParent(at))
+        top = at;
+    return FromHandle(top);
+}
+
+void CWnd::GetWindowText(CString& rString) const {
+    rString = text_of(m_hWnd);
+}
+
+int CWnd::GetDlgItemText(int nID, CString& rString) const {
+    rString = text_of(::GetDlgItem(m_hWnd, nID));
+    return rString.GetLength();
+}
+
+CMenu* CWnd::GetMenu() const {
+    return CMenu::FromHandle(::GetMenu(m_hWnd));
+}
+
+BOOL CWnd::SetMenu(CMenu* pMenu) {
+    return ::SetMenu(m_hWnd, pMenu->GetSafeHmenu());
+}
+
+CMenu* CWnd::GetSystemMenu(BOOL bRevert) const {
+    return CMenu::FromHandle(::GetSystemMenu(m_hWnd, bRevert));
+}
+
+BOOL CWnd::GetWindowPlacement(WINDOWPLACEMENT* placement) const {
+    placement->length = sizeof(WINDOWPLACEMENT);
+    return ::GetWindowPlacement(m_hWnd, placement);
+}
+
+BOOL CWnd::SetScrollInfo(int nBar, LPSCROLLINFO lpScrollInfo, BOOL bRedraw) {
+    lpScrollInfo->cbSize = sizeof(SCROLLINFO);
+    ::SetScrollInfo(m_hWnd, nBar, lpScrollInfo, bRedraw);
+    return TRUE;
+}
+
+BOOL CWnd::GetScrollInfo(int nBar, LPSCROLLINFO lpScrollInfo, UINT nMask) {
+    lpScrollInfo->cbSize = sizeof(SCROLLINFO);
+    lpScrollInfo->fMask |= nMask;
+    return ::GetScrollInfo(m_hWnd, nBar, lpScrollInfo);
+}
+
+int CWnd::MessageBox(LPCTSTR lpszText, LPCTSTR lpszCaption, UINT nType) {
+    const CWinApp* app = AfxGetApp();
+    if (lpszCaption == nullptr && app != nullptr)
+        lpszCaption = app->m_pszAppName;
+    return ::MessageBox(GetSafeHwnd(), lpszText, lpszCaption, nType);
+}
+
+void CWnd::CenterWindow(CWnd* pAlternateOwner) {
+    const bool child = (GetStyle() & WS_CHILD) != 0;
+    HWND over = pAlternateOwner->GetSafeHwnd();
+    if (over == nullptr)
+        over = child ? ::GetParent(m_hWnd) : ::GetWindow(m_hWnd, GW_OWNER);
+    const bool visible = over != nullptr && ::IsWindowVisible(over) && !::IsIconic(over);
+
+    CRect own, target, bounds;
+    GetWindowRect(own);
+    if (child) {
+        ::GetClientRect(::GetParent(m_hWnd), bounds);
+        ::GetClientRect(over, target);
+        ::MapWindowPoints(over, ::GetParent(m_hWnd), reinterpret_cast<LPPOINT>(&target), 2);
+    } else {
+        bounds = work_area(visible ? over : m_hWnd);
+        target = bounds;
+        if (visible)
+            ::GetWindowRect(over, target);
+    }
+    const int x = centred(target.left, target.right, own.Width(), bounds.left, bounds.right);
+    const int y = centred(target.top, target.bottom, own.Height(), bounds.top, bounds.bottom);
+    SetWindowPos(nullptr, x, y, -1, -1, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void CWnd::SendMessageToDescendants(UINT message, WPARAM wParam, LPARAM lParam, BOOL bDeep, BOOL bOnlyPerm) {
+    for (HWND child = ::GetTopWindow(m_hWnd), next; child != nullptr; child = next) {
+        next = ::GetWindow(child, GW_HWNDNEXT); // the child may vanish over the message
+        CWnd* permanent = FromHandlePermanent(child);
+        if (!bOnlyPerm || permanent != nullptr)
+            ::SendMessage(child, message, wParam, lParam);
+        if (bDeep && ::IsWindow(child))
+            FromHandle(child)->SendMessageToDescendants(message, wParam, lParam, bDeep, bOnlyPerm);
+    }
+}

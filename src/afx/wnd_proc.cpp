@@ -1,0 +1,140 @@
+// The one window procedure, and the hook that brings a window under it before its first message.
+#include "afx_app.h"
+#include "afx_exception.h"
+#include "wnd_state.h"
+
+#include <exception>
+
+MSG last_message{};
+
+namespace {
+
+CWnd* wnd_in_creation = nullptr;
+HHOOK creation_hook = nullptr;
+
+// An exception that is not the framework's own, in the shape that the reporting takes.
+class foreign_exception : public CException {
+public:
+    explicit foreign_exception(LPCTSTR text) : m_text(text) {}
+    BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT) const override {
+        lstrcpyn(lpszError, m_text, static_cast<int>(nMaxError));
+        return TRUE;
+    }
+
+private:
+    CString m_text;
+};
+
+LRESULT report(CException* exception, const MSG& message) {
+    CWinThread* thread = AfxGetThread();
+    const LRESULT result = thread != nullptr ? thread->ProcessWndProcException(exception, &message)
+                                             : CWinThread::DefaultWndProcException(exception, &message);
+    exception->Delete();
+    return result;
+}
+
+// Called in a handler: tells what was thrown.
+LRESULT report_current(const MSG& message) {
+    try {
+        throw;
+    } catch (CException* exception) {
+        return report(exception, message);
+    } catch (const std::bad_alloc&) {
+        return report(new CMemoryException, message);
+    } catch (const std::exception& exception) {
+        return report(new foreign_exception(exception.what()), message);
+    } catch (...) {
+        return report(new foreign_exception("An unknown error occurred."), message);
+    }
+}
+
+// Restores the outer message when the inner one has been handled.
+class message_scope {
+public:
+    explicit message_scope(const MSG& message) : m_outer(last_message) { last_message = message; }
+    ~message_scope() { last_message = m_outer; }
+    message_scope(const message_scope&) = delete;
+    message_scope& operator=(const message_scope&) = delete;
+
+private:
+    const MSG m_outer;
+};
+
+bool is_input_method_window(HWND hwnd) {
+    char name[8];
+    return ::GetClassName(hwnd, name, sizeof(name)) != 0 && lstrcmpi(name, "IME") == 0;
+}
+
+} // namespace
+
+LRESULT answer_exception(const MSG& message) {
+    try {
+        return report_current(message);
+    } catch (...) {
+        return 0; // reporting failed as well; nothing may reach the system
+    }
+}
+
+LRESULT AfxCallWndProc(CWnd* wnd, HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    const MSG current{hwnd, message, wParam, lParam, 0, {0, 0}};
+    const message_scope scope(current);
+    try {
+        return wnd->WindowProc(message, wParam, lParam);
+    } catch (...) {
+        return answer_exception(current);
+    }
+}
+
+LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam) {
+    CWnd* wnd = CWnd::FromHandlePermanent(hWnd);
+    if (wnd == nullptr || wnd->m_hWnd != hWnd)
+        return ::DefWindowProc(hWnd, nMsg, wParam, lParam);
+    return AfxCallWndProc(wnd, hWnd, nMsg, wParam, lParam);
+}
+
+void AfxTakeOverWindow(CWnd* wnd, HWND hwnd) {
+    wnd->Attach(hwnd);
+    wnd->PreSubclassWindow();
+    WNDPROC* super = wnd->GetSuperWndProcAddr();
+    const auto old =
+        reinterpret_cast<WNDPROC>(::SetWindowLongPtr(hwnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&AfxWndProc)));
+    // The platform's own procedure is called directly, without the detour over a stored one.
+    if (old != &AfxWndProc && old != &::DefWindowProc)
+        *super = old;
+}
+
+namespace {
+
+LRESULT CALLBACK creation_hook_proc(int code, WPARAM wParam, LPARAM lParam) {
+    const HWND hwnd = reinterpret_cast<HWND>(wParam);
+    if (code == HCBT_CREATEWND && wnd_in_creation != nullptr && !is_input_method_window(hwnd)) {
+        CWnd* wnd = wnd_in_creation;
+        wnd_in_creation = nullptr;
+        try {
+            AfxTakeOverWindow(wnd, hwnd);
+        } catch (...) {
+            answer_exception({hwnd, WM_NULL, 0, 0, 0, {0, 0}});
+            wnd->Detach();
+            return 1; // refuses the creation
+        }
+    }
+    return ::CallNextHookEx(creation_hook, code, wParam, lParam);
+}
+
+} // namespace
+
+void AFXAPI AfxHookWindowCreate(CWnd* pWnd) {
+    if (creation_hook == nullptr)
+        creation_hook = ::SetWindowsHookEx(WH_CBT, &creation_hook_proc, nullptr, ::GetCurrentThreadId());
+    if (creation_hook == nullptr)
+        AfxThrowMemoryException();
+    wnd_in_creation = pWnd;
+}
+
+BOOL AFXAPI AfxUnhookWindowCreate() {
+    ::UnhookWindowsHookEx(creation_hook);
+    creation_hook = nullptr;
+    const bool taken = wnd_in_creation == nullptr;
+    wnd_in_creation = nullptr;
+    return taken;
+}

@@ -1,0 +1,223 @@
+#include "diag/wnt_trace.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <ctime>
+
+#include "diag/trace_state.h"
+#include "library_resources.h"
+#include "res/resource.h"
+#include "script/values.h"
+
+using wnt::trace_state;
+
+namespace {
+
+constexpr int text_limit = 1024;
+constexpr char separator[] = "----------------------------------------------------------------\n";
+static_assert(sizeof separator == 64 + 2);
+
+CString local_time(const char* format) {
+    const std::time_t now = std::time(nullptr);
+    const std::tm* fields = std::localtime(&now);
+    char text[128];
+    return CString(fields && std::strftime(text, sizeof text, format, fields) ? text : "");
+}
+
+void ignore_invalid_parameter(const wchar_t*, const wchar_t*, const wchar_t*, unsigned, uintptr_t) {}
+
+// The runtime ends the process when a format is bad; a trace line is not worth that.
+bool format_secure(char (&text)[text_limit], const char* format, va_list arguments) {
+    const auto previous = _set_invalid_parameter_handler(ignore_invalid_parameter);
+    const int length = _vsnprintf_s(text, text_limit, _TRUNCATE, format, arguments);
+    _set_invalid_parameter_handler(previous);
+    return length >= 0;
+}
+
+void format_line(char (&text)[text_limit], const char* format, va_list arguments) {
+    if (!format || !format_secure(text, format, arguments))
+        AfxMessageBox("Wtrace: buffer too small");
+    text[text_limit - 1] = '\0';
+    trace_state().last_line = text;
+}
+
+void write_line(int indent, const char* text) {
+    const auto& state = trace_state();
+    if (!state.stream || !(state.flags & wnt::trace_to_file))
+        return;
+    for (int i = 0; i < indent; ++i)
+        std::fputs("  ", state.stream);
+    std::fputs(text, state.stream);
+}
+
+// Adds a line and selects it. The list searches from behind the index that it is given.
+void list_line(const char* text) {
+    HWND list = trace_state().list;
+    if (!list)
+        return;
+    ::SendMessageA(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
+    const auto count = static_cast<int>(::SendMessageA(list, LB_GETCOUNT, 0, 0));
+    ::SendMessageA(list, LB_SELECTSTRING, static_cast<WPARAM>(std::max(count - 2, -1)),
+                   reinterpret_cast<LPARAM>(text));
+}
+
+int stored_position(const char* key, const char* settings_file) {
+    char text[20];
+    ::GetPrivateProfileStringA("Position", key, "10", text, sizeof text, settings_file);
+    return wnt::integer_value(text);
+}
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CWntTrace, CWnd)
+    ON_WM_CREATE()
+    ON_WM_DESTROY()
+    ON_WM_SIZE()
+END_MESSAGE_MAP()
+
+CWntTrace::CWntTrace() {
+    auto& state = trace_state();
+    state.filename = "trace.txt";
+    state.title = "Tracer";
+    state.close_stream();
+    state.list = nullptr;
+}
+
+CWntTrace::~CWntTrace() {
+    trace_state().close_stream();
+}
+
+void CWntTrace::setstream(std::FILE* stream) {
+    trace_state().set_stream(stream);
+}
+
+std::FILE* CWntTrace::stream() {
+    return trace_state().stream;
+}
+
+void CWntTrace::SetFilename(const char* name) {
+    auto& state = trace_state();
+    if (!name) {
+        state.filename.Empty();
+        state.flags &= ~wnt::trace_to_file;
+        return;
+    }
+    const CString started = local_time("started at %H:%M:%S on %A, %B %d, %Y\n");
+    state.filename = name;
+    state.flags |= wnt::trace_to_file;
+    // Intended: the banner's file does not become the trace stream. It stays open until the next banner.
+    if (state.banner)
+        std::fclose(state.banner);
+    state.banner = std::fopen(name, "wt");
+    if (state.banner) {
+        std::fprintf(state.banner, "Begin of Trace\n%s%s", started.GetString(), separator);
+        std::fflush(state.banner);
+    }
+}
+
+void CWntTrace::SetFlags(unsigned flags) {
+    auto& state = trace_state();
+    state.flags = flags;
+    if (state.filename.IsEmpty())
+        state.filename = "Wtrace.txt";
+}
+
+void CWntTrace::SetTitle(const char* title) {
+    if (title)
+        trace_state().title = title;
+}
+
+void CWntTrace::Trace(int indent, const char* format, ...) {
+    static char text[text_limit];
+    va_list arguments;
+    va_start(arguments, format);
+    format_line(text, format, arguments);
+    va_end(arguments);
+    write_line(indent, text);
+    if (trace_state().flags & wnt::trace_to_window)
+        display(text);
+}
+
+void CWntTrace::Trace(const char* format, ...) {
+    static char text[text_limit];
+    va_list arguments;
+    va_start(arguments, format);
+    format_line(text, format, arguments);
+    va_end(arguments);
+    write_line(0, text);
+    if (trace_state().flags & wnt::trace_to_window)
+        display(text);
+}
+
+void WntTrace(const char* format, ...) {
+    static char text[text_limit];
+    if (trace_state().flags == 0)
+        trace_state().read_environment();
+    va_list arguments;
+    va_start(arguments, format);
+    format_line(text, format, arguments);
+    va_end(arguments);
+    write_line(0, text);
+    if (trace_state().flags & wnt::trace_to_window)
+        list_line(text);
+}
+
+void CWntTrace::display(const char* text) {
+    list_line(text);
+}
+
+int CWntTrace::OnCreate(LPCREATESTRUCT create) {
+    const int result = CWnd::OnCreate(create);
+    if (result == -1)
+        return result;
+    trace_state().read_environment();
+    if (trace_state().flags & wnt::trace_to_window)
+        createdisplay();
+    return 0;
+}
+
+void CWntTrace::OnDestroy() {
+    destroydisplay();
+    CWnd::OnDestroy();
+    auto& state = trace_state();
+    if (!state.stream)
+        return;
+    std::fprintf(state.stream, "%s%sEnd of Trace\n\n", separator,
+                 local_time("ended at %H:%M:%S on %A, %B %d, %Y\n").GetString());
+    state.close_stream();
+}
+
+void CWntTrace::OnSize(UINT type, int cx, int cy) {
+    CWnd::OnSize(type, cx, cy);
+}
+
+void CWntTrace::createdisplay() {
+    auto& state = trace_state();
+    if (state.dialog)
+        return;
+    auto dialog = std::make_unique<CDialog>();
+    {
+        wnt::LibraryResources current;
+        if (!dialog->Create(IDD_TRACE, this))
+            return;
+    }
+    dialog->SetWindowText(state.title);
+    const CString settings_file = state.title + ".ini";
+    const int x = stored_position("X", settings_file);
+    const int y = stored_position("Y", settings_file);
+    dialog->SetWindowPos(nullptr, x, y, 468, 350, SWP_NOZORDER | SWP_NOACTIVATE);
+    dialog->ShowWindow(SW_SHOW);
+    state.list = ::GetDlgItem(dialog->m_hWnd, IDC_TRACE_LINES);
+    state.second_control = ::GetDlgItem(dialog->m_hWnd, IDC_TRACE_NOTE);
+    state.dialog = std::move(dialog);
+}
+
+void CWntTrace::destroydisplay() {
+    auto& state = trace_state();
+    if (!state.dialog)
+        return;
+    state.dialog->DestroyWindow();
+    state.dialog.reset();
+    state.list = nullptr;
+    state.second_control = nullptr;
+}

@@ -1,0 +1,123 @@
+#include "out/wnt_out.h"
+
+#include <algorithm>
+#include <memory>
+#include <new>
+
+#include "out/device_state.h"
+
+namespace {
+
+constexpr int copied_points = 20;
+constexpr int widest_line = 0x7FFF;
+
+} // namespace
+
+void CWntOut::flip_points(POINT* pts, int n) const {
+    for (int i = 0; i < n; ++i)
+        pts[i].y = flip(pts[i].y);
+}
+
+void CWntOut::dopoly(POINT* pts, int n, long fill) {
+    if (!ready() || !pts || n < 1)
+        return;
+    RECT bounds;
+    calcpolywind(&bounds, pts, n);
+    if (!clipit(bounds.left, bounds.bottom, bounds.right, bounds.top))
+        return;
+    const int mix = ::GetBkMode(dc);
+    flip_points(pts, n);
+    ::SetBkMode(dc, fillcolour_ & 0x1000 ? TRANSPARENT : OPAQUE); // intended: decided by a bit of the colour
+    ::SetPolyFillMode(dc, ALTERNATE);
+    const COLORREF outline = linecolour_;
+    if (!fill)
+        linecolour(fillcolour_, 0);
+    ::Polygon(dc, pts, n);
+    flip_points(pts, n);
+    if (!fill)
+        linecolour(outline, 0);
+    ::SetBkMode(dc, mix);
+}
+
+void CWntOut::poly_copy(const Tpt* pts, int n, long fill) {
+    if (!ready() || !pts || n < 1)
+        return;
+    POINT copy[copied_points];
+    n = std::min(n, copied_points);
+    for (int i = 0; i < n; ++i)
+        copy[i] = {pts[i].x, pts[i].y};
+    dopoly(copy, n, fill);
+}
+
+void CWntOut::fillpoly(Tpt* pts, int n) {
+    poly_copy(pts, n, 1);
+}
+
+void CWntOut::fillpoly(POINT* pts, int n) {
+    dopoly(pts, n, 1);
+}
+
+void CWntOut::solidpoly(Tpt* pts, int n) {
+    poly_copy(pts, n, 0);
+}
+
+void CWntOut::solidpoly(POINT* pts, int n) {
+    dopoly(pts, n, 0);
+}
+
+void CWntOut::geomline(Tpt* pts, int n, int width) {
+    if (!ready() || !pts || n < 1)
+        return;
+    std::unique_ptr<POINT[]> copy(new (std::nothrow) POINT[n]);
+    if (!copy)
+        return;
+    for (int i = 0; i < n; ++i)
+        copy[i] = {pts[i].x, pts[i].y};
+    geomline(copy.get(), n, width);
+}
+
+void CWntOut::geomline(POINT* pts, int n, int width) {
+    if (!ready() || !pts || n < 2)
+        return;
+    flip_points(pts, n);
+    if (width == 0) {
+        ::Polyline(dc, pts, n);
+    } else {
+        wnt::GdiObject<HPEN> wide(::CreatePen(PS_SOLID, std::clamp(width, -1, widest_line - 1) + 1, fillcolour_));
+        wnt::SelectGuard selected(dc, wide.get());
+        ::Polyline(dc, pts, n);
+    }
+    flip_points(pts, n);
+}
+
+void CWntOut::crosslines(Tpt* pts, int n, int step) {
+    if (!ready() || !pts)
+        return;
+    for (int i = 0; i < n; ++i) {
+        ::MoveToEx(dc, pts[i].x, flip(pts[i].y), nullptr);
+        ::LineTo(dc, pts[i + step].x, flip(pts[i + step].y));
+    }
+}
+
+void CWntOut::crosslines(POINT* pts, int n, int step) {
+    if (!ready() || !pts)
+        return;
+    for (int i = 0; i < n; ++i) {
+        ::MoveToEx(dc, pts[i].x, flip(pts[i].y), nullptr);
+        ::LineTo(dc, pts[i + step].x, flip(pts[i + step].y));
+    }
+}
+
+void CWntOut::trackpoly(Tpt* pts, int n) {
+    if (!ready())
+        return;
+    wnt::XorGuard mix(dc);
+    solidpoly(pts, n);
+}
+
+void CWntOut::trackpoly(POINT* pts, int n) {
+    if (!ready())
+        return;
+    wnt::XorGuard mix(dc);
+    solidpoly(pts, n);
+}

@@ -1,0 +1,118 @@
+#include "out/wnt_out.h"
+
+#include <algorithm>
+#include <climits>
+#include <cstdlib>
+#include <cstring>
+
+#include "out/device_state.h"
+#include "out/point_font.h"
+#include "out/text_font.h"
+#include "out/geometry.h"
+
+namespace wrapped = wnt::wrapped;
+
+namespace {
+
+bool single_byte_locale() {
+    return MB_CUR_MAX == 1;
+}
+
+int saturate(std::int64_t value) {
+    return static_cast<int>(std::clamp<std::int64_t>(value, INT_MIN, INT_MAX));
+}
+
+// The service's font, with its height replaced; the system's default face at `fallback_size` without a service.
+HFONT service_font(CWntOut& out, int (*height)(int service_height, int size), int size) {
+    LOGFONTA description;
+    if (!out.getZopguiFont(&description, ZOPFONT_PROPORTIONAL))
+        return wnt::make_point_font(size, nullptr);
+    description.lfHeight = height(description.lfHeight, size);
+    return wnt::make_point_font(description);
+}
+
+struct Alignment {
+    UINT text_align;
+    int drop;
+};
+
+// Where the reference point lies on the string, and how far above y the text hangs. False: leave the device's own.
+bool defined_alignment(int align, int points, Alignment& result) {
+    static constexpr UINT horizontal[3] = {TA_LEFT, TA_RIGHT, TA_CENTER};
+    if (align < 0 || align > 10 || (align & 3) == 3)
+        return false;
+    switch (align >> 2) {
+    case 0:
+        result = {TA_BOTTOM | horizontal[align & 3], 0};
+        return true;
+    case 1:
+        result = {TA_TOP | horizontal[align & 3], points};
+        return true;
+    default:
+        result = {TA_TOP | horizontal[align & 3], points >> 1};
+        return true;
+    }
+}
+
+int undefined_alignment_drop(int align, int points) {
+    if (align & 8)
+        return points >> 1;
+    return align & 4 ? points : 0;
+}
+
+} // namespace
+
+HFONT wnt::make_chars_font(CWntOut& out) {
+    if (single_byte_locale())
+        return make_point_font(out.fontsize, "Arial"); // intended: not `facename`
+    auto height = [](int h, int size) { return saturate(10 * (std::int64_t{h / 10} + 1) - h + size); };
+    return service_font(out, height, out.fontsize);
+}
+
+void CWntOut::settext(int a, int b, int c, int size, int e, int f) {
+    if (!this)
+        return;
+    const int values[6] = {a, b, c, size, e, f};
+    std::copy(std::begin(values), std::end(values), textparams);
+    fontsize = saturate(std::int64_t{size} * 6);
+}
+
+void CWntOut::setdeftext() {}
+
+void CWntOut::setfont(CFont* f) {
+    if (this && f)
+        font = f;
+}
+
+void CWntOut::chars(int x, int y, char* text, int align) {
+    if (text)
+        chars_len(x, y, static_cast<int>(std::min<std::size_t>(std::strlen(text), INT_MAX)), text, align);
+}
+
+void CWntOut::chars_len(int x, int y, int len, char* text, int align) {
+    if (!ready() || !text || len < 0)
+        return;
+    wnt::GdiObject<HFONT> made(wnt::make_chars_font(*this));
+    wnt::SelectGuard selected(dc, made.get());
+
+    const int points = fontsize / 10;
+    Alignment alignment{0, undefined_alignment_drop(align, points)};
+    if (defined_alignment(align, points, alignment))
+        ::SetTextAlign(dc, alignment.text_align);
+    ::TextOutA(dc, x, flip(wrapped::add(y, alignment.drop)), text, len);
+}
+
+void CWntOut::titlechars(int x, int y, int w, int h, char* text) {
+    if (!ready() || !text || w == 0 || h == 0 || !*text)
+        return;
+    const int size = saturate(std::int64_t{h} * 4);
+    wnt::GdiObject<HFONT> made(
+        single_byte_locale()
+            ? wnt::make_point_font(size, facename)
+            : service_font(
+                  *this, [](int, int tenths) { return saturate((std::int64_t{tenths / 10} + 1) * 10); }, size));
+    wnt::SelectGuard selected(dc, made.get());
+    ::SetTextAlign(dc, TA_BASELINE | TA_CENTER);
+    const int length = static_cast<int>(std::min<std::size_t>(std::strlen(text), INT_MAX));
+    ::TextOutA(dc, wrapped::add(x, w / 2), flip(wrapped::add(y, h / 2)), text, length);
+}

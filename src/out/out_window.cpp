@@ -1,0 +1,234 @@
+#include "out/wnt_out.h"
+
+#include "script/colours.h"
+
+BEGIN_MESSAGE_MAP(CWntOut, CWnd)
+    ON_WM_CHAR()
+    ON_WM_CREATE()
+    ON_WM_CLOSE()
+    ON_WM_DESTROY()
+    ON_WM_FONTCHANGE()
+    ON_WM_PAINT()
+    ON_WM_SIZE()
+    ON_WM_SYSCOLORCHANGE()
+    ON_WM_ERASEBKGND()
+    ON_WM_SETFOCUS()
+    ON_WM_KILLFOCUS()
+    ON_WM_MOUSEWHEEL()
+END_MESSAGE_MAP()
+
+namespace {
+
+// The palette pointer is not const for hosts, so each process gets a table that it may not mind them writing to.
+COLORREF default_palette[wnt::colour_count];
+
+COLORREF* fill_default_palette() {
+    for (int i = 0; i < wnt::colour_count; ++i)
+        default_palette[i] = wnt::colour_values[i];
+    return default_palette;
+}
+
+} // namespace
+
+CWntOut::CWntOut()
+    : cliprect(), textparams(), palette(fill_default_palette()), palettecount(wnt::colour_count), font(nullptr),
+      bkbitmap(0) {}
+
+CWntOut::~CWntOut() = default;
+
+void CWntOut::initialise() {}
+
+int CWntOut::reset() {
+    if (!this)
+        return 0;
+    if (!outmode && !targetmode && !dc && m_hWnd && ::IsWindowVisible(m_hWnd)) {
+        if (!windowdc_)
+            windowdc_ = ::GetDC(m_hWnd);
+        dc = windowdc_;
+    }
+    if (!dc)
+        return 0;
+
+    linecolour_ = 0xFFFFFF; // intended: white lines and black fills count as already in force
+    fillcolour_ = 0;
+    ::SetBkMode(dc, TRANSPARENT);
+    ::SetTextAlign(dc, TA_LEFT | TA_BOTTOM);
+
+    ymax = 0;
+    RECT client;
+    if (m_hWnd && ::GetClientRect(m_hWnd, &client)) {
+        ymax = client.bottom - 1;
+        xmax = client.right - 1;
+    }
+    if (!targetmode && !clipset)
+        resetclip();
+    return 1;
+}
+
+int CWntOut::reset(HDC hdc) {
+    if (!this)
+        return 0;
+    if (dc != windowdc_ && dc != hdc)
+        give_back(dc, external_);
+    dc = hdc;
+    externaldc = 1;
+    return reset();
+}
+
+void CWntOut::endpaint() {
+    if (!this || !externaldc)
+        return;
+    if (dc != windowdc_)
+        give_back(dc, external_);
+    pen = static_cast<HPEN>(window_.pen);
+    brush = static_cast<HBRUSH>(window_.brush);
+    dc = nullptr;
+    externaldc = 0;
+}
+
+void CWntOut::ReleaseDrawing() {
+    if (!this)
+        return;
+    give_back(dc != windowdc_ ? dc : nullptr, external_);
+    give_back(windowdc_, window_);
+    if (windowdc_ && m_hWnd)
+        ::ReleaseDC(m_hWnd, windowdc_);
+    windowdc_ = nullptr;
+    dc = nullptr;
+    externaldc = 0;
+    pen = nullptr;
+    brush = nullptr;
+}
+
+// Makes a new pen or brush the selected one. What it replaces is deleted if this surface made it; what the caller
+// had selected is only remembered.
+void CWntOut::select_made(HGDIOBJ made, HGDIOBJ Selection::*ours, HGDIOBJ Selection::*foreign) {
+    Selection& s = selection();
+    if (dc) {
+        HGDIOBJ replaced = ::SelectObject(dc, made);
+        if (replaced != s.*ours)
+            s.*foreign = replaced;
+    }
+    if (s.*ours)
+        ::DeleteObject(s.*ours);
+    s.*ours = made;
+}
+
+void CWntOut::give_back(HDC target, Selection& s) {
+    auto end = [target](HGDIOBJ made, HGDIOBJ foreign, UINT kind, int stock) {
+        if (!made)
+            return;
+        if (target && ::GetCurrentObject(target, kind) == made && !(foreign && ::SelectObject(target, foreign)))
+            ::SelectObject(target, ::GetStockObject(stock));
+        ::DeleteObject(made);
+    };
+    end(s.pen, s.foreign_pen, OBJ_PEN, BLACK_PEN);
+    end(s.brush, s.foreign_brush, OBJ_BRUSH, WHITE_BRUSH);
+    s = Selection();
+}
+
+// A device context dies with its window; an object that gets a new window must not draw into the old one.
+void CWntOut::forget_window_dc() {
+    if (!windowdc_)
+        return;
+    give_back(nullptr, window_);
+    if (dc == windowdc_) {
+        dc = nullptr;
+        pen = nullptr;
+        brush = nullptr;
+    }
+    windowdc_ = nullptr;
+}
+
+int CWntOut::OnCreate(LPCREATESTRUCT create) {
+    if (CWnd::OnCreate(create) == -1)
+        return -1;
+    forget_window_dc();
+    facename = "Arial";
+    ::SetRectEmpty(&cliprect);
+    externaldc = 0;
+    return 0;
+}
+
+void CWntOut::OnPaint() {
+    CPaintDC validate(this);
+}
+
+BOOL CWntOut::OnEraseBkgnd(CDC*) {
+    return TRUE;
+}
+
+void CWntOut::OnSize(UINT type, int cx, int cy) {
+    CWnd::OnSize(type, cx, cy);
+    xmax = cx; // intended: one more than reset() will say
+    ymax = cy;
+}
+
+BOOL CWntOut::OnMouseWheel(UINT, short, CPoint) {
+    return TRUE;
+}
+
+void CWntOut::OnChar(UINT, UINT, UINT) {
+    Default();
+}
+
+void CWntOut::OnClose() {
+    Default();
+}
+
+void CWntOut::OnFontChange() {
+    Default();
+}
+
+void CWntOut::OnKillFocus(CWnd*) {
+    Default();
+}
+
+void CWntOut::OnSetFocus(CWnd* old) {
+    CWnd::OnSetFocus(old);
+}
+
+void CWntOut::OnDestroy() {
+    CWnd::OnDestroy();
+}
+
+void CWntOut::OnSysColorChange() {
+    CWnd::OnSysColorChange();
+}
+
+BOOL CWntOut::OnCommand(WPARAM wParam, LPARAM lParam) {
+    return CWnd::OnCommand(wParam, lParam);
+}
+
+void CWntOut::setbackground(COLORREF colour, int flag) {
+    if (!this)
+        return;
+    bkcolour = colour;
+    bkflag = flag;
+}
+
+void CWntOut::setbackgroundbitmap(unsigned id) {
+    if (this)
+        bkbitmap = id;
+}
+
+void CWntOut::queryupdaterect(RECT* r) {
+    if (!this || !r || !m_hWnd || !::IsWindow(m_hWnd))
+        return;
+    RECT update = {};
+    ::GetUpdateRect(m_hWnd, &update, FALSE);
+    *r = {update.left, flip(update.top), update.right - 1, flip(update.bottom) + 1};
+}
+
+void CWntOut::scroll(int x, int y, int w, int h, int dx, int dy, int) {
+    if (!ready() || outmode)
+        return;
+    if (w == 0)
+        w = xmax + 1;
+    if (h == 0)
+        h = ymax + 1;
+    const std::int64_t top = std::int64_t{ymax} - y - h + 1;
+    const std::int64_t src = top > 0 ? top : 0;
+    ::BitBlt(dc, static_cast<int>(std::int64_t{x} + dx), static_cast<int>(src - dy), w, h, dc, x,
+             static_cast<int>(src), SRCCOPY);
+}

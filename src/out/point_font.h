@@ -1,0 +1,14 @@
+#pragma once
+
+#include <windows.h>
+
+namespace wnt {
+
+/// Makes a font `tenths` tenths of a point high, as the screen's resolution measures them; the caller deletes it.
+/// An empty face name gives the system's default face.
+HFONT make_point_font(int tenths, const char* face);
+
+/// The same from a full description whose height is read as tenths of a point.
+HFONT make_point_font(const LOGFONTA& description);
+
+} // namespace wnt

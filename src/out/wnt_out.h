@@ -1,0 +1,261 @@
+#pragma once
+
+#include <afxwin.h>
+
+#include "out/font_service.h"
+#include "out/tpt.h"
+#include "zopwnt_api.h"
+
+/// The drawing surface: a child window that a widget lays over its client area and paints through.
+///
+/// Units are device pixels of the client area; the origin is the lower-left corner and y grows upwards. A library y
+/// becomes the device y `ymax - y`. In a RECT in library coordinates `top` is the upper, larger y.
+///
+///     if (out.reset()) {                  // or reset(hdc) inside a paint handler or for printing
+///         out.linecolour(6, 0);           // red, solid
+///         out.line(0, 0, out.xmax, out.ymax);
+///         out.endpaint();
+///     }
+///
+/// No operation reports an error: without a device context, with a null argument or on a null object an operation
+/// does nothing and returns 0 where it returns a value. Use it on the thread that owns the window.
+///
+/// Ownership: pens and brushes made by `linecolour` and `fillcolour` belong to the surface; each one is deleted when
+/// the next replaces it, and what the caller had selected is never deleted. On the window's own device context the
+/// last pen and brush stay selected and outlive the object: the owner may end them with `ReleaseDrawing`.
+class ZOPWNT_API CWntOut : public CWnd {
+public:
+    CWntOut();
+    ~CWntOut() override;
+
+    CWntOut(const CWntOut&) = delete;
+    CWntOut& operator=(const CWntOut&) = delete;
+
+    // -- Device context ---------------------------------------------------------------------------------------------
+
+    void initialise();
+    /// Prepares drawing into the window: 1, or 0 when no device context can be had (hidden window, mode word set).
+    /// White lines and black fills count as already in force afterwards.
+    int reset();
+    /// The same on a device context that belongs to the caller, who keeps it alive until endpaint().
+    int reset(HDC hdc);
+    /// Ends a drawing pass; an external device context gets its pen and brush back and is forgotten.
+    void endpaint();
+    /// Gives back the window's device context and the pens and brushes made for it. For the owner, before it goes.
+    void ReleaseDrawing();
+
+    // -- Input and pointer ------------------------------------------------------------------------------------------
+
+    /// Turns a keyboard message into out[0] = category (1 character, 2 function key, 3 editing key, 4 Control+letter,
+    /// 5 Alt+letter or digit) and out[1] = value; 0 when the message is to be ignored.
+    int Whelper_translatekeyboardinput(int* out, unsigned message, WPARAM key, LPARAM flags);
+    /// Pointer position in library coordinates: pt[0] = x, pt[1] = y.
+    void getmousepos(int* pt);
+    /// One of the 29 built-in pointer shapes, 0 to 28; other numbers are ignored.
+    void setmouseshape(short id);
+    /// A pointer of the caller's, who keeps owning it.
+    void setmouseshape(HICON h);
+
+    // -- Background and contents ------------------------------------------------------------------------------------
+
+    /// Stored only: the surface paints no background.
+    void setbackground(COLORREF colour, int flag);
+    void setbackgroundbitmap(unsigned id);
+    /// The window's update rectangle in library coordinates; untouched without a window.
+    void queryupdaterect(RECT* r);
+    /// Moves the w x h block with lower-left corner (x, y) right by dx and up by dy; 0 means the whole width, height.
+    void scroll(int x, int y, int w, int h, int dx, int dy, int unused);
+
+    // -- Colours ----------------------------------------------------------------------------------------------------
+
+    /// Entry i of the built-in table of 16 colours.
+    COLORREF rgbcolor(int i);
+    /// Installs the caller's table, which must outlive its use; null or a negative count means none.
+    void setcolorpalette(COLORREF* table, int count);
+    int getcolorpalette(COLORREF** out);
+    /// Pen colour (and text colour) and style: 0, 1 solid; 2, 5 dotted; 3, 6 dashed; 4 dash-dot; 7 dash-dot-dot.
+    /// A colour that is already in force changes nothing, not even the style.
+    void linecolour(int index, int style);
+    void linecolour(COLORREF colour, int style);
+    /// Brush colour and style: below 2 solid; 2 vertical, 3 horizontal, 4, 5 diagonal cross, 6, 7 cross hatch.
+    void fillcolour(int index, int style);
+    void fillcolour(COLORREF colour, int style);
+
+    // -- Lines and boxes --------------------------------------------------------------------------------------------
+
+    /// Both end points included.
+    void line(int x1, int y1, int x2, int y2);
+    void hline(int x, int y, int len);
+    void vline(int x, int y, int len);
+    /// Boxes cover all pixels between two corners, inclusive; r: corner and size, so (w + 1) x (h + 1) pixels.
+    /// 0 outline only, 1 outline and interior, 2 interior colour throughout.
+    void boxa1(int x1, int y1, int x2, int y2);
+    void boxa2(int x1, int y1, int x2, int y2);
+    void boxr0(int x, int y, int w, int h);
+    void boxr1(int x, int y, int w, int h);
+    void boxr2(int x, int y, int w, int h);
+
+    // -- Polygons ---------------------------------------------------------------------------------------------------
+
+    /// The Tpt forms of fillpoly and solidpoly draw at most the first 20 points. The POINT forms flip the caller's
+    /// array in place during the call and put it back.
+    void fillpoly(Tpt* pts, int n);
+    void fillpoly(POINT* pts, int n);
+    void solidpoly(Tpt* pts, int n);
+    void solidpoly(POINT* pts, int n);
+    void dopoly(POINT* pts, int n, long fill);
+    /// An open polyline; width 0 takes the current pen, otherwise width + 1 pixels in the fill colour.
+    void geomline(Tpt* pts, int n, int width);
+    void geomline(POINT* pts, int n, int width);
+    /// n lines, each from point i to point i + step; the array holds n + step points.
+    void crosslines(Tpt* pts, int n, int step);
+    void crosslines(POINT* pts, int n, int step);
+
+    // -- Circles and pies -------------------------------------------------------------------------------------------
+
+    void drawcircle(int x, int y, int r);
+    void fillcircle(int x, int y, int rx, int ry);
+    /// Counter-clockwise from a1 to a2, in 1/16384 of a turn.
+    void pieslice(int x, int y, int rx, int ry, int a1, int a2);
+    void piesection(int x, int y, int rx, int ry, int a1, int a2, int extra);
+
+    // -- Markers and frames -----------------------------------------------------------------------------------------
+
+    void drawcross(int x, int y, int s);
+    void drawplus(int x, int y, int s);
+    /// 0 cross, 1 plus, 2 circle, 3 star, 4 square, 5 dot; other shapes draw nothing.
+    void drawmarker(int x, int y, int size, int shape);
+    /// A marker of size 5, two pixels wide, at each point.
+    void markers(POINT* pts, int n, int shape);
+    /// A frame lit from the top left when raised, given (x1, y1) as the lower-left corner.
+    void drawshadow(int x1, int y1, int x2, int y2, int raised);
+    /// The surface draws no bitmaps; these two do nothing.
+    void drawbitmap(unsigned id, RECT* src, RECT* dst, int mode);
+    void drawtransparentbitmap(unsigned id, RECT* src, RECT* dst, int mode, COLORREF key, COLORREF other);
+
+    // -- Rubber bands: drawing the same figure twice removes it -----------------------------------------------------
+
+    void trackline(int x1, int y1, int x2, int y2);
+    /// Bits 8 and 9 of flags are the box mode; a box without width or height is a line.
+    void trackbox(int x, int y, int w, int h, int flags);
+    void trackpoly(Tpt* pts, int n);
+    void trackpoly(POINT* pts, int n);
+
+    // -- Integer geometry -------------------------------------------------------------------------------------------
+
+    /// r times the sine or cosine, truncated; 65536 units a turn.
+    int intsin(unsigned short angle, int r);
+    int intcos(unsigned short angle, int r);
+    /// a * b / c with a 64-bit product; 0 for c = 0.
+    int muldiv(int a, int b, int c);
+    /// Square root rounded to nearest, at least 1; 1 for negative n.
+    int aproxroot(long n);
+    /// Direction of (dx * num / den, dy) in whole degrees, 0 to 360, counter-clockwise from +x.
+    int getangle(int dy, int dx, int num, int den);
+    int points_center(int a, int b, int c);
+    void points_intersect(POINT* out, int x1, int y1, int x2, int y2, int x3, int y3, int x4, int y4);
+    int points_partclip(POINT* out, RECT* r, int x1, int y1, int x2, int y2);
+    int points_clipline(POINT* out, RECT* r, int x1, int y1, int x2, int y2);
+    int points_testclock(POINT* p, int sense);
+    int points_testinpoly(int x, int y, POINT* poly, int n);
+    int points_testincircle(int dx, int dy, int r);
+    /// The point's y is flipped to device form while the rectangle is taken as it is; right edge excluded.
+    int points_testinrect(int x, int y, RECT r);
+    void calcpolywind(RECT* out, POINT* pts, int n);
+
+    // -- Clipping ---------------------------------------------------------------------------------------------------
+
+    /// Corners inclusive, y1 the lower edge. `cliprect` then holds device coordinates.
+    void setclip(int x1, int y1, int x2, int y2);
+    void setclip(RECT* r);
+    void resetclip();
+    /// The window's update rectangle in library coordinates, also kept in `cliprect`; the next reset() keeps the clip.
+    void queryclip(RECT* r);
+    int testclip(int x1, int y1, int x2, int y2);
+    int clipit(int x1, int y1, int x2, int y2);
+    void excludeclip(int x1, int y1, int x2, int y2);
+
+    // -- Text -------------------------------------------------------------------------------------------------------
+
+    /// Sets the text size to size / 10 x 6 points; the other values are kept, not used.
+    void settext(int a, int b, int c, int size, int e, int f);
+    void setdeftext();
+    void setfont(CFont* f);
+    /// align: 0, 1, 2 bottom left, right, centre; 4, 5, 6 top; 8, 9, 10 centred on y.
+    void chars(int x, int y, char* text, int align);
+    void chars_len(int x, int y, int len, char* text, int align);
+    /// Centred in the box (x, y, w, h), its size derived from h, the baseline halfway up.
+    void titlechars(int x, int y, int w, int h, char* text);
+    /// Description of a font of the front end's font service; 0 (out untouched) when there is no such service.
+    int getZopguiFont(LOGFONTA* out, tagZopFontId id);
+    unsigned getZopguiFontCodepage();
+
+    // -- State, in the order that hosts rely on ---------------------------------------------------------------------
+
+    int reserved = 0;
+    int xmax = 0;      ///< client width - 1 after reset(); the width itself after a size message
+    int ymax = 0;      ///< client height - 1 after reset(); the height itself after a size message
+    RECT cliprect;     ///< device coordinates after setclip(), library coordinates after queryclip()
+    int clipset = 0;   ///< 1 while an explicit clip is in force
+    int outmode = 0;   ///< non-zero: no device context is fetched
+    int targetmode = 0; ///< non-zero: no device context is fetched and the clip is left alone
+    int textparams[6];
+    COLORREF* palette;
+    int palettecount;
+    HCURSOR cursor = nullptr;
+    HDC dc = nullptr;
+    int externaldc = 0;
+    int bkflag = 0;
+    COLORREF bkcolour = 0xFFFFFF;
+    COLORREF fillcolour_ = 0xFF0000; ///< colour of the last brush
+    HBRUSH brush = nullptr;
+    CFont* font;
+    void* reserved2 = nullptr;
+    COLORREF linecolour_ = 0; ///< colour of the last pen, and the text colour
+    HPEN pen = nullptr;
+    unsigned bkbitmap;
+    CString facename;
+    int fontsize = 80; ///< tenths of a point
+
+protected:
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    afx_msg void OnChar(UINT key, UINT repeat, UINT flags);
+    afx_msg int OnCreate(LPCREATESTRUCT create);
+    afx_msg void OnClose();
+    afx_msg void OnDestroy();
+    afx_msg void OnFontChange();
+    afx_msg void OnPaint();
+    afx_msg void OnSize(UINT type, int cx, int cy);
+    afx_msg void OnSysColorChange();
+    afx_msg BOOL OnEraseBkgnd(CDC* dc);
+    afx_msg void OnSetFocus(CWnd* old);
+    afx_msg void OnKillFocus(CWnd* next);
+    afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    // What this surface made and selected into one device context, and what it found there.
+    struct Selection {
+        HGDIOBJ pen = nullptr;
+        HGDIOBJ brush = nullptr;
+        HGDIOBJ foreign_pen = nullptr;
+        HGDIOBJ foreign_brush = nullptr;
+    };
+
+    bool ready() const { return this && dc; }
+    int flip(int y) const { return static_cast<int>(static_cast<unsigned>(ymax) - static_cast<unsigned>(y)); }
+    COLORREF palette_colour(int index) const;
+    Selection& selection() { return dc && dc == windowdc_ ? window_ : external_; }
+    void select_made(HGDIOBJ made, HGDIOBJ Selection::*ours, HGDIOBJ Selection::*foreign);
+    static void give_back(HDC target, Selection& s);
+    void forget_window_dc();
+    void box(int x1, int y1, int x2, int y2, int mode);
+    void flip_points(POINT* pts, int n) const;
+    void poly_copy(const Tpt* pts, int n, long fill);
+
+    HDC windowdc_ = nullptr; // fetched once; kept while an external one stands in `dc`
+    Selection window_;
+    Selection external_;
+};

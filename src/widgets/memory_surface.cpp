@@ -1,0 +1,53 @@
+#include "widgets/memory_surface.h"
+
+namespace wnt {
+
+bool MemorySurface::create(int width, int height) {
+    release();
+    if (width < 1 || height < 1)
+        return false;
+    BITMAPINFO info = {};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = width;
+    info.bmiHeader.biHeight = -height; // the first row is the upper one
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    void* bits = nullptr;
+    dc_ = ::CreateCompatibleDC(nullptr);
+    bitmap_ = ::CreateDIBSection(dc_, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+    if (!dc_ || !bitmap_) {
+        release();
+        return false;
+    }
+    previous_ = ::SelectObject(dc_, bitmap_);
+    bits_ = static_cast<std::uint32_t*>(bits);
+    width_ = width;
+    height_ = height;
+
+    out_.targetmode = 1; // the clip is set here, not by reset()
+    out_.reset(dc_);
+    out_.xmax = width - 1;
+    out_.ymax = height - 1;
+    // White and black count as in force after reset() without being so.
+    out_.linecolour(COLORREF{0x010101}, 0);
+    out_.fillcolour(COLORREF{0x010101}, 0);
+    return true;
+}
+
+void MemorySurface::release() {
+    out_.ReleaseDrawing();
+    if (previous_)
+        ::SelectObject(dc_, previous_);
+    if (bitmap_)
+        ::DeleteObject(bitmap_);
+    if (dc_)
+        ::DeleteDC(dc_);
+    previous_ = nullptr;
+    bitmap_ = nullptr;
+    dc_ = nullptr;
+    bits_ = nullptr;
+    width_ = 0;
+    height_ = 0;
+}
+
+} // namespace wnt

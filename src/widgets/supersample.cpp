@@ -1,0 +1,59 @@
+#include "widgets/supersample.h"
+
+#include <bit>
+#include <cstring>
+
+namespace wnt {
+
+namespace {
+
+// Two of the four bytes of a pixel, each in a 16-bit lane with room for 16 of them.
+constexpr std::uint32_t lanes = 0x00FF00FF;
+
+template <int scale>
+void average(const std::uint32_t* large, std::size_t pitch, std::uint32_t* small, int count) {
+    constexpr int shift = 2 * std::countr_zero(static_cast<unsigned>(scale));
+    constexpr std::uint32_t half = (1u << shift) / 2 * 0x00010001u;
+    for (int i = 0; i < count; ++i, large += scale) {
+        std::uint32_t even = 0;
+        std::uint32_t odd = 0;
+        for (int y = 0; y < scale; ++y) {
+            for (int x = 0; x < scale; ++x) {
+                const std::uint32_t pixel = large[y * pitch + x];
+                even += pixel & lanes;
+                odd += pixel >> 8 & lanes;
+            }
+        }
+        small[i] = ((even + half) >> shift & lanes) | ((odd + half) >> shift & lanes) << 8;
+    }
+}
+
+template <int scale> void enlarge(const std::uint32_t* small, int count, std::uint32_t* large) {
+    for (int i = 0; i < count; ++i)
+        for (int x = 0; x < scale; ++x)
+            large[i * scale + x] = small[i];
+}
+
+} // namespace
+
+void enlarge_row(const std::uint32_t* small, int count, std::uint32_t* large, std::size_t pitch, int scale) {
+    if (scale == 4)
+        enlarge<4>(small, count, large);
+    else if (scale == 2)
+        enlarge<2>(small, count, large);
+    else
+        enlarge<1>(small, count, large);
+    for (int y = 1; y < scale; ++y)
+        std::memcpy(large + y * pitch, large, sizeof *large * static_cast<std::size_t>(count) * scale);
+}
+
+void average_row(const std::uint32_t* large, std::size_t pitch, std::uint32_t* small, int count, int scale) {
+    if (scale == 4)
+        average<4>(large, pitch, small, count);
+    else if (scale == 2)
+        average<2>(large, pitch, small, count);
+    else
+        average<1>(large, pitch, small, count);
+}
+
+} // namespace wnt

@@ -1,0 +1,138 @@
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+
+#include "widgets/views/view_parts.h"
+
+// The percent bar: a lying bar over its scale, the percentage written on it.
+
+namespace wnt {
+
+namespace {
+
+struct Bar {
+    Layout layout;
+    BoxF readout; ///< empty when there is no room
+    BoxF groove;  ///< the bar's inside
+    BoxF zones;   ///< strip under the bar
+    int label_size;
+    int bar_size; ///< text on the bar
+};
+
+bool title_on_bar(const GaugeModel& model) {
+    return model.bar_title && !model.no_title && !model.title_text().empty();
+}
+
+Bar lay_out_bar(const GaugeModel& model, const Stage& stage) {
+    Bar b = {lay_out(model, stage, title_on_bar(model)), {}, {}, {}, 0, 0};
+    BoxF body = b.layout.body;
+    const float height = body.height();
+    if (height >= 40 && body.width() >= 50)
+        b.label_size = text_size(std::clamp(height * 0.10f, 7.0f, 16.0f));
+    const float labels = b.label_size ? stage.meter.metrics(b.label_size).height() + height * 0.05f + 3 : 0;
+    const float ends = b.label_size ? std::min(widest_label(model, stage.meter, b.label_size) / 2, body.width() / 4) : 0;
+    const float strip = std::clamp(height * 0.07f, 2.0f, 10.0f);
+    float bar_height = std::min(height * 0.40f, body.width() * 0.25f);
+    if (!b.label_size)
+        bar_height = height - strip;
+
+    const bool roomy = height >= 70 && body.width() >= 70;
+    if (roomy) {
+        const float tall = std::clamp(height * 0.17f, 14.0f, 34.0f);
+        const float wide = std::min(std::max(tall * 4.5f, body.width() * 0.35f), body.width());
+        const float x = std::round(body.centre().x - wide / 2);
+        b.readout = {x, std::round(body.top - tall), std::round(x + wide), std::round(body.top)};
+        body.top = b.readout.bottom - 3;
+    }
+    const float used = bar_height + strip + labels;
+    const float bottom = std::max(body.bottom, body.centre().y - used / 2);
+    b.zones = {std::round(body.left + ends), std::round(bottom + labels), std::round(body.right - ends),
+               std::round(bottom + labels + strip)};
+    b.groove = {b.zones.left, b.zones.top + 1, b.zones.right,
+                std::round(std::min(b.zones.top + 1 + bar_height, body.top))};
+    if (b.groove.top < b.groove.bottom + 2)
+        b.groove.top = b.groove.bottom + 2;
+    b.bar_size = text_size(std::clamp(b.groove.height() * 0.55f, 6.0f, 30.0f));
+    return b;
+}
+
+// A value outside the range counts as its end, as the bar shows it.
+long percent_of(const GaugeModel& model) {
+    return static_cast<long>(std::lround(100 * scale_fraction(model.minimum, model.maximum, model.current)));
+}
+
+std::string percent_text(const GaugeModel& model) {
+    char text[16];
+    std::snprintf(text, sizeof text, "%3ld %%", percent_of(model));
+    return text;
+}
+
+// One text over the filled and the empty part, readable on both.
+void write_over(Picture& picture, const Stage& stage, const BoxF& filled, const BoxF& empty, PointF at, HAlign align,
+                const FittedText& text, Colour fill, Colour ink) {
+    const Colour on_fill = brightness(fill) < 140 ? 0xFFFFFF : 0x000000;
+    if (!filled.empty())
+        write(picture, stage.meter, at, align, text.tenths, on_fill, text.text, &filled);
+    if (!empty.empty())
+        write(picture, stage.meter, at, align, text.tenths, ink, text.text, &empty);
+}
+
+} // namespace
+
+void bar_face(Picture& picture, const GaugeModel& model, const Stage& stage) {
+    const Theme theme = theme_of(model);
+    const Bar b = lay_out_bar(model, stage);
+    paint_ground(picture, model, stage);
+    paint_edge(picture, {b.groove.left - 1, b.groove.bottom - 1, b.groove.right + 1, b.groove.top + 1}, theme, false);
+    picture.box(b.groove, theme.groove);
+    paint_zone_strip(picture, model, b.zones, false);
+    paint_title(picture, model, stage, b.layout);
+    if (!b.label_size)
+        return;
+    const float label_gap = widest_label(model, stage.meter, b.label_size) + 6;
+    const float tick = std::max(b.layout.body.height() * 0.045f, 3.0f);
+    const float weight = std::clamp(std::round(b.layout.body.height() / 200), 1.0f, 2.0f);
+    for (const Tick& t : ticks_of(model, b.zones.width(), 4, label_gap)) {
+        const float x = std::round(b.zones.left + b.zones.width() * t.fraction - weight / 2);
+        const float length = t.major ? tick : tick * 0.6f;
+        picture.box({x, std::round(b.zones.bottom - length), x + weight, b.zones.bottom}, theme.text);
+        if (!t.major)
+            continue;
+        const FontMetrics font = stage.meter.metrics(b.label_size);
+        write(picture, stage.meter, {x + weight / 2, b.zones.bottom - tick - 2 - font.cap_height / 2}, HAlign::centre,
+              b.label_size, theme.text, number_text(t.value));
+    }
+}
+
+void bar_value(Picture& picture, const GaugeModel& model, const Stage& stage) {
+    const Theme theme = theme_of(model);
+    const Bar b = lay_out_bar(model, stage);
+    const Colour colour = zone_colour(model, model.current);
+    const float edge = std::round(b.groove.left + b.groove.width() * fraction_of(model, model.current));
+    const BoxF filled = {b.groove.left, b.groove.bottom, edge, b.groove.top};
+    const BoxF empty = {edge, b.groove.bottom, b.groove.right, b.groove.top};
+    // A round bar under light from above: three tones.
+    const float third = b.groove.height() / 3;
+    picture.box(filled, colour);
+    picture.box({filled.left, filled.top - third, filled.right, filled.top}, blend(colour, 0xFFFFFF, 70));
+    picture.box({filled.left, filled.bottom, filled.right, filled.bottom + third * 0.6f}, blend(colour, 0, 50));
+
+    const bool titled = title_on_bar(model);
+    const FittedText percent =
+        fit(stage.meter, percent_text(model), b.bar_size, b.groove.width() * (titled ? 0.35f : 0.9f), text_size(5));
+    const PointF middle = b.groove.centre();
+    if (titled) {
+        const FittedText title =
+            fit(stage.meter, model.title_text(), b.bar_size, b.groove.width() * 0.6f - 4, text_size(6));
+        write_over(picture, stage, filled, empty, {b.groove.left + 4, middle.y}, HAlign::left, title, colour,
+                   theme.text);
+        write_over(picture, stage, filled, empty, {b.groove.right - 4, middle.y}, HAlign::right, percent, colour,
+                   theme.text);
+    } else {
+        write_over(picture, stage, filled, empty, {std::round(middle.x), middle.y}, HAlign::centre, percent, colour,
+                   theme.text);
+    }
+    paint_readout(picture, model, stage, b.readout);
+}
+
+} // namespace wnt

@@ -1,0 +1,118 @@
+#include <algorithm>
+#include <cmath>
+
+#include "widgets/views/view_parts.h"
+
+// The analogue dial: a round scale over three quarters of a turn, with a tapered needle.
+
+namespace wnt {
+
+namespace {
+
+constexpr float least_labelled_radius = 26;
+
+struct Dial {
+    Layout layout;
+    RoundScale scale;
+    float radius;
+    int label_size;
+    BoxF readout;
+};
+
+Dial lay_out_dial(const GaugeModel& model, const Stage& stage) {
+    Dial d;
+    d.layout = lay_out(model, stage);
+    const BoxF& body = d.layout.body;
+    d.radius = std::max(std::min(body.width(), body.height()) / 2 - 1, 1.0f);
+    d.scale = {body.centre(), d.radius};
+    d.label_size = d.radius < least_labelled_radius ? 0 : text_size(std::clamp(d.radius * 0.125f, 6.5f, 22.0f));
+    const PointF c = d.scale.centre;
+    const float half_width = std::max(d.radius * 0.33f, std::min(10.0f, d.radius * 0.6f));
+    d.readout = {std::round(c.x - half_width), std::round(c.y - d.radius * 0.74f), std::round(c.x + half_width),
+                 std::round(c.y - d.radius * 0.50f)};
+    return d;
+}
+
+// The needle points along +x in its own frame, of length 1; it is turned and scaled once.
+constexpr PointF needle_outline[] = {{-0.22f, 0.040f}, {0.0f, 0.056f}, {0.97f, 0.012f}, {1.0f, 0.0f},
+                                     {0.97f, -0.012f}, {0.0f, -0.056f}, {-0.22f, -0.040f}};
+constexpr PointF needle_lit[] = {{-0.20f, 0.0f}, {-0.20f, 0.026f}, {0.0f, 0.040f}, {0.96f, 0.004f}, {0.96f, 0.0f}};
+constexpr PointF needle_dark[] = {{-0.20f, 0.0f}, {0.96f, 0.0f}, {0.96f, -0.004f}, {0.0f, -0.040f}, {-0.20f, -0.026f}};
+
+template <int n>
+void paint_turned(Picture& picture, const PointF (&shape)[n], PointF origin, float length, float angle,
+                  Colour colour) {
+    PointF turned[n];
+    const float c = std::cos(angle) * length;
+    const float s = std::sin(angle) * length;
+    for (int i = 0; i < n; ++i)
+        turned[i] = {origin.x + shape[i].x * c - shape[i].y * s, origin.y + shape[i].x * s + shape[i].y * c};
+    picture.polygon(turned, n, colour);
+}
+
+// The light comes from the top left: the side of the needle that faces it is the bright one.
+void paint_needle(Picture& picture, const Dial& d, float angle, Colour colour) {
+    const float length = d.radius * 0.76f;
+    const bool left_side_lit = std::cos(angle - 2.356f + 1.571f) < 0;
+    const Colour bright = blend(colour, 0xFFFFFF, 70);
+    const Colour dim = blend(colour, 0x000000, 50);
+    paint_turned(picture, needle_outline, d.scale.centre, length, angle, blend(colour, 0x000000, 150));
+    paint_turned(picture, needle_lit, d.scale.centre, length, angle, left_side_lit ? dim : bright);
+    paint_turned(picture, needle_dark, d.scale.centre, length, angle, left_side_lit ? bright : dim);
+}
+
+void paint_hub(Picture& picture, PointF centre, float radius) {
+    picture.disc(centre, radius, 0x303030);
+    paint_bezel(picture, centre, radius * 0.62f, radius * 0.88f, 0x505050, 0xC8C8C8);
+    picture.disc(centre, radius * 0.62f, 0x707070);
+}
+
+// A small mark at the rim shows where the value came from.
+void paint_previous(Picture& picture, const GaugeModel& model, const Dial& d, Colour colour) {
+    const float f = fraction_of(model, model.previous);
+    const float a = d.scale.angle(f);
+    const float half = 0.035f;
+    auto at = [&](float angle, float distance) {
+        return PointF{d.scale.centre.x + std::cos(angle) * distance, d.scale.centre.y + std::sin(angle) * distance};
+    };
+    const PointF mark[3] = {at(a, d.radius * 0.80f), at(a + half, d.radius * 0.885f), at(a - half, d.radius * 0.885f)};
+    picture.polygon(mark, 3, colour);
+}
+
+} // namespace
+
+void dial_face(Picture& picture, const GaugeModel& model, const Stage& stage) {
+    const Theme theme = theme_of(model);
+    const Dial d = lay_out_dial(model, stage);
+    paint_ground(picture, model, stage);
+    const PointF c = d.scale.centre;
+    const float r = d.radius;
+    paint_bezel(picture, c, r * 0.955f, r, theme.shadow, theme.sun);
+    paint_bezel(picture, c, r * 0.92f, r * 0.955f, blend(theme.sun, theme.back, 100), blend(theme.shadow, theme.back, 60));
+    picture.disc(c, r * 0.925f, theme.plate);
+    paint_round_zones(picture, model, d.scale, r * 0.80f, r * 0.885f);
+    paint_round_ticks(picture, model, stage, d.scale,
+                      {r * 0.80f, r * 0.70f, r * 0.75f, r * 0.67f, true, d.label_size});
+    if (!model.no_title && d.label_size) {
+        const FittedText unit = fit(stage.meter, model.unit_text(), d.label_size, r * 0.62f, text_size(6));
+        write(picture, stage.meter, {c.x, c.y - r * 0.36f}, HAlign::centre, unit.tenths, theme.text, unit.text);
+    }
+    if (model.bar_title && !model.no_title && d.label_size) {
+        const FittedText title = fit(stage.meter, model.title_text(), d.label_size, r * 0.80f, text_size(6));
+        write(picture, stage.meter, {c.x, c.y + r * 0.30f}, HAlign::centre, title.tenths, theme.text, title.text);
+    } else {
+        paint_title(picture, model, stage, d.layout);
+    }
+}
+
+void dial_value(Picture& picture, const GaugeModel& model, const Stage& stage) {
+    const Dial d = lay_out_dial(model, stage);
+    const Colour colour = zone_colour(model, model.current);
+    paint_previous(picture, model, d, 0x606060);
+    paint_needle(picture, d, d.scale.angle(fraction_of(model, model.current)), colour);
+    paint_hub(picture, d.scale.centre, std::max(d.radius * 0.10f, 1.5f));
+    if (d.readout.height() >= 7)
+        paint_readout(picture, model, stage, d.readout, false);
+}
+
+} // namespace wnt

@@ -1,0 +1,91 @@
+#include <algorithm>
+#include <cmath>
+
+#include "widgets/views/view_parts.h"
+
+// The turning knob: a round scale around a cap whose notch points at the value.
+
+namespace wnt {
+
+namespace {
+
+constexpr float least_labelled_radius = 30;
+constexpr int ridges = 28;
+
+struct Knob {
+    Layout layout;
+    RoundScale scale;
+    float radius; // of the scale with its labels
+    float cap;
+    int label_size;
+    BoxF readout;
+};
+
+Knob lay_out_knob(const GaugeModel& model, const Stage& stage) {
+    Knob k;
+    k.layout = lay_out(model, stage);
+    const BoxF& body = k.layout.body;
+    k.radius = std::max(std::min(body.width() / 2, body.height() / 2) - 1, 1.0f);
+    k.scale = {body.centre(), k.radius};
+    k.label_size = k.radius < least_labelled_radius ? 0 : text_size(std::clamp(k.radius * 0.125f, 6.5f, 22.0f));
+    k.cap = k.radius * (k.label_size ? 0.52f : 0.66f);
+    const PointF c = k.scale.centre;
+    const float half_width = k.radius * 0.34f;
+    k.readout = {std::round(c.x - half_width), std::round(c.y - k.radius * 0.98f), std::round(c.x + half_width),
+                 std::round(c.y - k.radius * 0.74f)};
+    return k;
+}
+
+void paint_cap(Picture& picture, const Knob& k, const Theme& theme) {
+    const PointF c = k.scale.centre;
+    // A soft shadow to the lower right, the ridged skirt, the rim, and a top that grows lighter towards the light.
+    for (int i = 3; i >= 1; --i) {
+        const float d = k.cap * 0.035f * static_cast<float>(i);
+        picture.disc({c.x + d, c.y - d}, k.cap * 1.01f, blend(theme.back, 0x000000, 28 * (4 - i)));
+    }
+    const Colour light = 0xF2F2F2;
+    const Colour dark = 0x6C6C6C;
+    paint_bezel(picture, c, k.cap * 0.80f, k.cap, dark, light);
+    const float ridge = 3.14159265f / static_cast<float>(ridges);
+    for (int i = 0; i < ridges && k.cap > 12; ++i) {
+        const float a = 2 * ridge * static_cast<float>(i);
+        const int glow = static_cast<int>(128 + 100 * std::cos(a - 2.356f));
+        picture.ring_sector(c, k.cap * 0.86f, k.cap * 0.99f, a, a + ridge, blend(0x505050, 0xD8D8D8, glow));
+    }
+    paint_bezel(picture, c, k.cap * 0.78f, k.cap * 0.83f, light, dark);
+    constexpr int steps = 12;
+    for (int i = 0; i < steps; ++i) {
+        const float t = static_cast<float>(i) / (steps - 1);
+        const float shift = k.cap * 0.20f * t;
+        picture.disc({c.x - shift, c.y + shift}, k.cap * (0.79f - 0.50f * t),
+                     blend(0xB0B0B0, 0xECECEC, static_cast<int>(256 * t)));
+    }
+}
+
+} // namespace
+
+void knob_face(Picture& picture, const GaugeModel& model, const Stage& stage) {
+    const Knob k = lay_out_knob(model, stage);
+    const float r = k.radius;
+    const float ring = k.cap + r * 0.05f;
+    paint_ground(picture, model, stage);
+    paint_round_zones(picture, model, k.scale, ring, ring + r * 0.07f);
+    paint_round_ticks(picture, model, stage, k.scale,
+                      {ring + r * 0.08f, ring + r * 0.16f, ring + r * 0.12f, ring + r * 0.19f, false, k.label_size});
+    paint_cap(picture, k, theme_of(model));
+    paint_title(picture, model, stage, k.layout);
+}
+
+void knob_value(Picture& picture, const GaugeModel& model, const Stage& stage) {
+    const Knob k = lay_out_knob(model, stage);
+    const Colour colour = zone_colour(model, model.current);
+    const float f = fraction_of(model, model.current);
+    auto at = [&](float distance) { return k.scale.at(f, distance); };
+    const float width = std::max(k.cap * 0.11f, 1.5f);
+    picture.stroke(at(k.cap * 0.34f), at(k.cap * 0.78f), width + std::max(width * 0.45f, 1.0f), 0x404040);
+    picture.stroke(at(k.cap * 0.36f), at(k.cap * 0.76f), width, colour);
+    if (k.readout.height() >= 7)
+        paint_readout(picture, model, stage, k.readout);
+}
+
+} // namespace wnt

@@ -1,0 +1,116 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "widgets/gauge_scale.h"
+#include "widgets/views/gauge_view.h"
+
+namespace wnt {
+
+// Parts that the views share. Sizes are pixels; text sizes are tenths of a point.
+
+/// The colours that follow from a model's own, so that everything stays legible on any background.
+struct Theme {
+    Colour back;
+    Colour text;
+    Colour sun;
+    Colour shadow;
+    Colour plate;  ///< where scales and readouts lie
+    Colour groove; ///< the empty part of a bar
+    Colour faint;  ///< minor ticks, grids
+};
+Theme theme_of(const GaugeModel& model);
+
+/// A stored colour index as the surface takes it: past the end of the table it wraps, 255 included.
+Colour indexed_colour(int index);
+/// The colour of the zone that holds a value.
+Colour zone_colour(const GaugeModel& model, std::int32_t value);
+/// A dark or a light ground, whichever this colour can be read on.
+Colour ground_for(Colour colour);
+
+int text_size(float pixels);
+
+struct FittedText {
+    std::string text;
+    int tenths;
+};
+/// Makes a text fit a width: smaller down to `least`, then cut with dots.
+FittedText fit(TextMeter& meter, std::string_view text, int tenths, float width, int least);
+
+/// Writes one line centred on a height.
+void write(Picture& picture, TextMeter& meter, PointF at, HAlign align, int tenths, Colour colour,
+           std::string_view text, const BoxF* clip = nullptr);
+
+/// Background and border; what they leave is the stage of the view.
+void paint_ground(Picture& picture, const GaugeModel& model, const Stage& stage);
+BoxF inside_border(const GaugeModel& model, const Stage& stage);
+
+/// A view's space, with the line of the title taken off at its top.
+struct Layout {
+    BoxF title; ///< empty when there is none
+    BoxF body;
+    int title_size;
+};
+Layout lay_out(const GaugeModel& model, const Stage& stage, bool title_on_bar = false);
+void paint_title(Picture& picture, const GaugeModel& model, const Stage& stage, const Layout& layout,
+                 HAlign align = HAlign::centre);
+
+/// The value in its zone's colour on a sunken plate, the unit behind it when it fits.
+void paint_readout(Picture& picture, const GaugeModel& model, const Stage& stage, const BoxF& plate,
+                   bool with_unit = true);
+
+/// A frame of one pixel, lit from the top left when raised.
+void paint_edge(Picture& picture, const BoxF& box, const Theme& theme, bool raised);
+
+/// The zones of the whole scale as boxes along a straight scale, from its low to its high end.
+void paint_zone_strip(Picture& picture, const GaugeModel& model, const BoxF& strip, bool upright);
+
+/// Where a value lies on the scale, 0 to 1.
+float fraction_of(const GaugeModel& model, std::int32_t value);
+
+struct Tick {
+    float fraction;
+    std::int32_t value;
+    bool major; ///< has a label
+};
+/// The scale's ticks, thinned so that they and the labels keep their least distances on `length` pixels.
+std::vector<Tick> ticks_of(const GaugeModel& model, float length, float least_tick, float least_label);
+
+/// A coloured run of the scale, as a part of it from `from` up to `to`.
+struct ScaleZone {
+    float from;
+    float to;
+    Colour colour;
+};
+std::vector<ScaleZone> zones_of(const GaugeModel& model);
+
+std::string number_text(std::int64_t value);
+/// The widest label of the scale.
+float widest_label(const GaugeModel& model, TextMeter& meter, int tenths);
+
+/// The turn of a round scale, from lower left clockwise to lower right.
+struct RoundScale {
+    PointF centre;
+    float radius;
+
+    float angle(float fraction) const;
+    PointF at(float fraction, float distance) const;
+};
+
+/// Where the ticks and labels of a round scale lie, as distances from the centre.
+struct RoundTicks {
+    float outer;
+    float major_inner;
+    float minor_inner;
+    float label; ///< outer or inner edge of the labels
+    bool labels_inside;
+    int label_size; ///< 0: none
+};
+void paint_round_ticks(Picture& picture, const GaugeModel& model, const Stage& stage, const RoundScale& scale,
+                       const RoundTicks& ticks);
+void paint_round_zones(Picture& picture, const GaugeModel& model, const RoundScale& scale, float inner, float outer);
+/// A ring lit from the top left.
+void paint_bezel(Picture& picture, PointF centre, float inner, float outer, Colour dark, Colour light);
+
+} // namespace wnt
