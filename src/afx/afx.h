@@ -5,5 +5,8 @@
 #include "afx_object.h"
 #include "afxstr.h"
 #include "atltypes.h"
+#include "atlexcept.h"
 #include "afx_module.h"
 #include "afx_exception.h"
+#include "afx_file.h"
+#include "atltime.h"

@@ -25,31 +25,30 @@ bool title_on_bar(const GaugeModel& model) {
 
 Bar lay_out_bar(const GaugeModel& model, const Stage& stage) {
     Bar b = {lay_out(model, stage, title_on_bar(model)), {}, {}, {}, 0, 0};
-    BoxF body = b.layout.body;
+    const BoxF& body = b.layout.body;
     const float height = body.height();
     if (height >= 40 && body.width() >= 50)
-        b.label_size = text_size(std::clamp(height * 0.10f, 7.0f, 16.0f));
+        b.label_size = text_size(std::clamp(std::min(height * 0.10f, body.width() * 0.08f), 6.0f, 16.0f));
     const float labels = b.label_size ? stage.meter.metrics(b.label_size).height() + height * 0.05f + 3 : 0;
-    const float ends = b.label_size ? std::min(widest_label(model, stage.meter, b.label_size) / 2, body.width() / 4) : 0;
+    const float ends = b.label_size ? widest_label(model, stage.meter, b.label_size) / 2 : 0;
     const float strip = std::clamp(height * 0.07f, 2.0f, 10.0f);
-    float bar_height = std::min(height * 0.40f, body.width() * 0.25f);
-    if (!b.label_size)
-        bar_height = height - strip;
+    const float plate = height >= 70 && body.width() >= 56 ? std::clamp(height * 0.17f, 14.0f, 34.0f) : 0;
+    const float gap = plate > 0 ? std::round(height * 0.06f) : 0;
+    const float room = height - strip - labels - plate - gap - 2;
+    const float bar = b.label_size ? std::min({room, height * 0.42f, body.width() * 0.30f}) : room;
 
-    const bool roomy = height >= 70 && body.width() >= 70;
-    if (roomy) {
-        const float tall = std::clamp(height * 0.17f, 14.0f, 34.0f);
-        const float wide = std::min(std::max(tall * 4.5f, body.width() * 0.35f), body.width());
-        const float x = std::round(body.centre().x - wide / 2);
-        b.readout = {x, std::round(body.top - tall), std::round(x + wide), std::round(body.top)};
-        body.top = b.readout.bottom - 3;
-    }
-    const float used = bar_height + strip + labels;
-    const float bottom = std::max(body.bottom, body.centre().y - used / 2);
+    // Readout, bar, zones and labels stand as one block in the middle.
+    const float block = bar + strip + labels + plate + gap + 2;
+    const float bottom = std::max(body.bottom, body.centre().y - block / 2);
     b.zones = {std::round(body.left + ends), std::round(bottom + labels), std::round(body.right - ends),
                std::round(bottom + labels + strip)};
-    b.groove = {b.zones.left, b.zones.top + 1, b.zones.right,
-                std::round(std::min(b.zones.top + 1 + bar_height, body.top))};
+    b.groove = {b.zones.left, b.zones.top + 1, b.zones.right, std::round(b.zones.top + 1 + bar)};
+    if (plate > 0) {
+        const float wide = std::min(std::max(plate * 4.5f, body.width() * 0.35f), body.width());
+        const float x = std::round(body.centre().x - wide / 2);
+        const float y = std::round(b.groove.top + 1 + gap);
+        b.readout = {x, y, std::round(x + wide), std::min(std::round(y + plate), std::floor(body.top))};
+    }
     if (b.groove.top < b.groove.bottom + 2)
         b.groove.top = b.groove.bottom + 2;
     b.bar_size = text_size(std::clamp(b.groove.height() * 0.55f, 6.0f, 30.0f));

@@ -10,6 +10,8 @@ namespace wnt {
 namespace {
 
 constexpr float least_labelled_radius = 26;
+constexpr float least_written_radius = 46; // for unit and title between the labels
+constexpr float small_radius = 42; // below, a readout on the dial could not be read
 
 struct Dial {
     Layout layout;
@@ -17,17 +19,23 @@ struct Dial {
     float radius;
     int label_size;
     BoxF readout;
+    bool readout_beside;
 };
 
 Dial lay_out_dial(const GaugeModel& model, const Stage& stage) {
-    Dial d;
+    Dial d = {};
     d.layout = lay_out(model, stage);
-    const BoxF& body = d.layout.body;
+    BoxF& body = d.layout.body;
+    if (body.height() / 2 < small_radius)
+        d.readout = take_side_readout(body, body.height());
+    d.readout_beside = !d.readout.empty();
     d.radius = std::max(std::min(body.width(), body.height()) / 2 - 1, 1.0f);
     d.scale = {body.centre(), d.radius};
     d.label_size = d.radius < least_labelled_radius ? 0 : text_size(std::clamp(d.radius * 0.125f, 6.5f, 22.0f));
+    if (d.readout_beside)
+        return d;
     const PointF c = d.scale.centre;
-    const float half_width = std::max(d.radius * 0.33f, std::min(10.0f, d.radius * 0.6f));
+    const float half_width = d.radius * 0.33f;
     d.readout = {std::round(c.x - half_width), std::round(c.y - d.radius * 0.74f), std::round(c.x + half_width),
                  std::round(c.y - d.radius * 0.50f)};
     return d;
@@ -93,11 +101,12 @@ void dial_face(Picture& picture, const GaugeModel& model, const Stage& stage) {
     paint_round_zones(picture, model, d.scale, r * 0.80f, r * 0.885f);
     paint_round_ticks(picture, model, stage, d.scale,
                       {r * 0.80f, r * 0.70f, r * 0.75f, r * 0.67f, true, d.label_size});
-    if (!model.no_title && d.label_size) {
+    const bool face_written = !model.no_title && d.radius >= least_written_radius;
+    if (face_written && !d.readout_beside) {
         const FittedText unit = fit(stage.meter, model.unit_text(), d.label_size, r * 0.62f, text_size(6));
         write(picture, stage.meter, {c.x, c.y - r * 0.36f}, HAlign::centre, unit.tenths, theme.text, unit.text);
     }
-    if (model.bar_title && !model.no_title && d.label_size) {
+    if (model.bar_title && face_written) {
         const FittedText title = fit(stage.meter, model.title_text(), d.label_size, r * 0.80f, text_size(6));
         write(picture, stage.meter, {c.x, c.y + r * 0.30f}, HAlign::centre, title.tenths, theme.text, title.text);
     } else {
@@ -112,7 +121,7 @@ void dial_value(Picture& picture, const GaugeModel& model, const Stage& stage) {
     paint_needle(picture, d, d.scale.angle(fraction_of(model, model.current)), colour);
     paint_hub(picture, d.scale.centre, std::max(d.radius * 0.10f, 1.5f));
     if (d.readout.height() >= 7)
-        paint_readout(picture, model, stage, d.readout, false);
+        paint_readout(picture, model, stage, d.readout, d.readout_beside);
 }
 
 } // namespace wnt

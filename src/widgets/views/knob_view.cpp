@@ -10,6 +10,7 @@ namespace wnt {
 namespace {
 
 constexpr float least_labelled_radius = 30;
+constexpr float small_radius = 42; // below, a readout under the cap could not be read
 constexpr int ridges = 28;
 
 struct Knob {
@@ -22,13 +23,18 @@ struct Knob {
 };
 
 Knob lay_out_knob(const GaugeModel& model, const Stage& stage) {
-    Knob k;
+    Knob k = {};
     k.layout = lay_out(model, stage);
-    const BoxF& body = k.layout.body;
+    BoxF& body = k.layout.body;
+    if (body.height() / 2 < small_radius)
+        k.readout = take_side_readout(body, body.height());
+    const bool beside = !k.readout.empty();
     k.radius = std::max(std::min(body.width() / 2, body.height() / 2) - 1, 1.0f);
     k.scale = {body.centre(), k.radius};
     k.label_size = k.radius < least_labelled_radius ? 0 : text_size(std::clamp(k.radius * 0.125f, 6.5f, 22.0f));
     k.cap = k.radius * (k.label_size ? 0.52f : 0.66f);
+    if (beside)
+        return k;
     const PointF c = k.scale.centre;
     const float half_width = k.radius * 0.34f;
     k.readout = {std::round(c.x - half_width), std::round(c.y - k.radius * 0.98f), std::round(c.x + half_width),

@@ -22,7 +22,9 @@ struct Thermometer {
 Thermometer lay_out_thermometer(const GaugeModel& model, const Stage& stage) {
     Thermometer t = {lay_out(model, stage), {}, {}, 0, {}, {}, 0};
     BoxF body = t.layout.body;
-    if (body.height() >= 60 && body.width() >= 36) {
+    if (body.height() < 60) {
+        t.readout = take_side_readout(body, std::min(body.width() * 0.55f, body.height()));
+    } else if (body.width() >= 36) {
         const float tall = std::clamp(body.height() * 0.10f, 12.0f, 30.0f);
         const float wide = std::min(body.width(), tall * 5);
         const float x = std::round(body.centre().x - wide / 2);
@@ -31,7 +33,7 @@ Thermometer lay_out_thermometer(const GaugeModel& model, const Stage& stage) {
     }
     if (body.height() >= 50 && body.width() >= 56)
         t.label_size = text_size(std::clamp(std::min(body.height() * 0.06f, body.width() * 0.11f), 7.0f, 18.0f));
-    t.bulb_radius = std::clamp(std::min(body.width() * 0.16f, body.height() * 0.085f), 2.0f, 40.0f);
+    t.bulb_radius = std::clamp(std::min(body.width() * 0.16f, body.height() * 0.095f), 2.0f, 40.0f);
     const float half = std::max(t.bulb_radius * 0.46f, 1.0f);
     const float x = std::round(body.centre().x + (t.label_size ? body.width() * 0.04f : 0));
     t.bulb = {x, body.bottom + t.bulb_radius + 1};

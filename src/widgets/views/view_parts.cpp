@@ -117,7 +117,7 @@ void paint_ground(Picture& picture, const GaugeModel& model, const Stage& stage)
 Layout lay_out(const GaugeModel& model, const Stage& stage, bool title_on_bar) {
     const BoxF inside = inside_border(model, stage);
     Layout layout = {{}, inside, 0};
-    const float size = std::clamp(inside.height() * 0.085f, 8.0f, 20.0f);
+    const float size = std::clamp(std::min(inside.height() * 0.085f, inside.width() * 0.14f), 8.0f, 20.0f);
     const bool shown = !model.no_title && !model.title_text().empty() && !title_on_bar;
     if (!shown || inside.height() < 48 || inside.width() < 40)
         return layout;
@@ -174,6 +174,20 @@ void paint_readout(Picture& picture, const GaugeModel& model, const Stage& stage
     if (!unit.empty())
         write(picture, stage.meter, {left + value_width, middle.y}, HAlign::left, unit_size,
               blend(ground, colour, 190), unit, &inner);
+}
+
+BoxF take_side_readout(BoxF& body, float instrument_width) {
+    const float gap = std::min(body.height() * 0.08f, 6.0f);
+    const float height = std::clamp(body.height() * 0.38f, 9.0f, 30.0f);
+    const float width = std::min(body.width() - instrument_width - gap, height * 4.2f);
+    if (width < 16 || body.height() < 14)
+        return {};
+    const float left = body.centre().x - (instrument_width + gap + width) / 2;
+    const float middle = body.centre().y;
+    body.left = left;
+    body.right = left + instrument_width;
+    return {std::round(body.right + gap), std::round(middle - height / 2), std::round(body.right + gap + width),
+            std::round(middle + height / 2)};
 }
 
 void paint_zone_strip(Picture& picture, const GaugeModel& model, const BoxF& strip, bool upright) {

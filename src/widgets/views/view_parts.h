@@ -60,6 +60,10 @@ void paint_title(Picture& picture, const GaugeModel& model, const Stage& stage, 
 void paint_readout(Picture& picture, const GaugeModel& model, const Stage& stage, const BoxF& plate,
                    bool with_unit = true);
 
+/// In a wide and low space an instrument of this width goes to the left and the readout beside it: takes its place
+/// off the body. Empty when the space is not wide enough.
+BoxF take_side_readout(BoxF& body, float instrument_width);
+
 /// A frame of one pixel, lit from the top left when raised.
 void paint_edge(Picture& picture, const BoxF& box, const Theme& theme, bool raised);
 

@@ -1,0 +1,4 @@
+// Automation: the exception with a result code.
+#pragma once
+
+#include "afxole.h"

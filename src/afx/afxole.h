@@ -1,0 +1,4 @@
+// OLE: the exception with a result code.
+#pragma once
+
+#include "afxwin.h"

@@ -1,0 +1,72 @@
+// The program object of the framework's tests, and windows that tell what they see.
+#pragma once
+
+#include <afxwin.h>
+#include "afx_test_ids.h"
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+// Answers message boxes by itself and keeps their texts.
+class test_app : public CWinApp {
+public:
+    BOOL InitInstance() override { return start ? start() : FALSE; }
+    BOOL OnIdle(LONG count) override {
+        idle_counts.push_back(count);
+        const BOOL more = CWinApp::OnIdle(count);
+        if (!more && quit_when_idle)
+            ::PostQuitMessage(5);
+        return more;
+    }
+    int DoMessageBox(LPCTSTR text, UINT, UINT) override {
+        boxes.push_back(text);
+        return IDOK;
+    }
+    std::vector<std::string> take_boxes() { return std::exchange(boxes, {}); }
+
+    std::function<BOOL()> start;
+    std::vector<std::string> boxes;
+    std::vector<LONG> idle_counts;
+    bool quit_when_idle = false;
+    int commands = 0;
+
+private:
+    void OnAppCommand() { ++commands; }
+    DECLARE_MESSAGE_MAP()
+};
+
+extern test_app the_app;
+
+inline BOOL create_popup(CWnd& wnd) {
+    return wnd.CreateEx(0, nullptr, "popup", WS_POPUP, CRect(0, 0, 120, 80), nullptr, 0);
+}
+
+// Shown, painted, but not active: without a window manager the system waits for every change of the active window.
+inline BOOL create_visible_popup(CWnd& wnd) {
+    if (!create_popup(wnd))
+        return FALSE;
+    wnd.ShowWindow(SW_SHOWNOACTIVATE);
+    wnd.UpdateWindow();
+    return wnd.IsWindowVisible();
+}
+
+// Keeps the number of every message it gets, and object_released when the framework lets go of it.
+class recorder : public CWnd {
+public:
+    static constexpr UINT object_released = 0x10000;
+
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        seen.push_back(message);
+        had_handle = had_handle && m_hWnd != nullptr;
+        if (message == WM_CREATE && refuse)
+            return -1;
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override { return accept && CWnd::PreCreateWindow(cs); }
+    void PostNcDestroy() override { seen.push_back(object_released); }
+
+    std::vector<UINT> seen;
+    bool refuse = false, accept = true, had_handle = true;
+};
