@@ -131,7 +131,7 @@ TEST(GaugeScale, ConvertsInEveryRange) {
     const struct {
         int minimum, maximum, value, span, position;
     } cases[] = {{0, 100, 25, 200, 50}, {100, 0, 25, 200, 150},        {7, 7, 7, 200, 0},
-                 {0, 100, -5, 200, 0},  {100, 0, 500, 200, 0},         {0, 3, 1, 100, 33},
+                 {0, 100, -5, 200, 0},  {100, 0, 500, 200, 0},         {0, 3, 2, 100, 67},
                  {0, 100, 25, -1, 0},   {lowest, highest, 0, 100, 50}, {lowest, highest, highest, highest, highest}};
     for (const auto& c : cases) {
         EXPECT_EQ(scale_position(c.minimum, c.maximum, c.value, c.span), c.position) << c.minimum << ' ' << c.value;

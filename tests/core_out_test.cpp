@@ -154,6 +154,13 @@ TEST(KeyCode, Translates) {
         EXPECT_EQ(translate_key(out, c.message, c.key, c.flags | c.scan << 16, key_state), c.result) << c.key;
         EXPECT_TRUE(out[0] == c.category && out[1] == c.value) << c.key << ": " << out[0] << ' ' << out[1];
     }
+    const std::pair<int, int> editing_codes[] = {{8, 1},   {13, 4},  {27, 0},  {33, 9},  {34, 10}, {35, 8}, {36, 7},
+                                                 {37, 11}, {38, 13}, {39, 12}, {40, 14}, {45, 5},  {46, 6}};
+    for (const auto& [key, code] : editing_codes) {
+        held_keys[0] = key;
+        int out[2] = {};
+        EXPECT_TRUE(translate_key(out, character, key, 0, key_state) && out[0] == 3 && out[1] == code) << key;
+    }
 }
 
 } // namespace

@@ -3,6 +3,10 @@
 #include <bit>
 #include <cstring>
 
+#if defined(__SSE2__) || defined(_M_X64)
+#include <emmintrin.h>
+#endif
+
 namespace wnt {
 
 namespace {
@@ -27,6 +31,24 @@ void average(const std::uint32_t* large, std::size_t pitch, std::uint32_t* small
         small[i] = ((even + half) >> shift & lanes) | ((odd + half) >> shift & lanes) << 8;
     }
 }
+
+#if defined(__SSE2__) || defined(_M_X64)
+// The hot case, a block of 4 x 4 in four loads.
+template <> void average<4>(const std::uint32_t* large, std::size_t pitch, std::uint32_t* small, int count) {
+    const __m128i zero = _mm_setzero_si128();
+    const __m128i half = _mm_set1_epi16(8);
+    for (int i = 0; i < count; ++i, large += 4) {
+        __m128i sum = half; // four channels, twice
+        for (int y = 0; y < 4; ++y) {
+            const __m128i row = _mm_loadu_si128(reinterpret_cast<const __m128i*>(large + y * pitch));
+            sum = _mm_add_epi16(sum, _mm_add_epi16(_mm_unpacklo_epi8(row, zero), _mm_unpackhi_epi8(row, zero)));
+        }
+        sum = _mm_sub_epi16(_mm_add_epi16(sum, _mm_shuffle_epi32(sum, _MM_SHUFFLE(1, 0, 3, 2))), half);
+        sum = _mm_srli_epi16(sum, 4);
+        small[i] = static_cast<std::uint32_t>(_mm_cvtsi128_si32(_mm_packus_epi16(sum, zero)));
+    }
+}
+#endif
 
 template <int scale> void enlarge(const std::uint32_t* small, int count, std::uint32_t* large) {
     for (int i = 0; i < count; ++i)

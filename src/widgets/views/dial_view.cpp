@@ -18,6 +18,7 @@ struct Dial {
     RoundScale scale;
     float radius;
     int label_size;
+    int writing_size;
     BoxF readout;
     bool readout_beside;
 };
@@ -31,7 +32,9 @@ Dial lay_out_dial(const GaugeModel& model, const Stage& stage) {
     d.readout_beside = !d.readout.empty();
     d.radius = std::max(std::min(body.width(), body.height()) / 2 - 1, 1.0f);
     d.scale = {body.centre(), d.radius};
-    d.label_size = d.radius < least_labelled_radius ? 0 : text_size(std::clamp(d.radius * 0.125f, 6.5f, 22.0f));
+    d.writing_size = text_size(std::clamp(d.radius * 0.125f, 6.5f, 22.0f));
+    if (d.radius >= least_labelled_radius)
+        d.label_size = label_size_for(model, stage.meter, d.writing_size, d.radius * 0.5f);
     if (d.readout_beside)
         return d;
     const PointF c = d.scale.centre;
@@ -103,11 +106,11 @@ void dial_face(Picture& picture, const GaugeModel& model, const Stage& stage) {
                       {r * 0.80f, r * 0.70f, r * 0.75f, r * 0.67f, true, d.label_size});
     const bool face_written = !model.no_title && d.radius >= least_written_radius;
     if (face_written && !d.readout_beside) {
-        const FittedText unit = fit(stage.meter, model.unit_text(), d.label_size, r * 0.62f, text_size(6));
+        const FittedText unit = fit(stage.meter, model.unit_text(), d.writing_size, r * 0.62f, text_size(6));
         write(picture, stage.meter, {c.x, c.y - r * 0.36f}, HAlign::centre, unit.tenths, theme.text, unit.text);
     }
     if (model.bar_title && face_written) {
-        const FittedText title = fit(stage.meter, model.title_text(), d.label_size, r * 0.80f, text_size(6));
+        const FittedText title = fit(stage.meter, model.title_text(), d.writing_size, r * 0.80f, text_size(6));
         write(picture, stage.meter, {c.x, c.y + r * 0.30f}, HAlign::centre, title.tenths, theme.text, title.text);
     } else {
         paint_title(picture, model, stage, d.layout);

@@ -12,6 +12,10 @@ namespace {
 constexpr float least_labelled_radius = 30;
 constexpr float small_radius = 42; // below, a readout under the cap could not be read
 constexpr int ridges = 28;
+// Parts of the radius, from the cap outwards.
+constexpr float labelled_cap = 0.52f;
+constexpr float bare_cap = 0.66f;
+constexpr float labels_from = labelled_cap + 0.24f;
 
 struct Knob {
     Layout layout;
@@ -30,9 +34,17 @@ Knob lay_out_knob(const GaugeModel& model, const Stage& stage) {
         k.readout = take_side_readout(body, body.height());
     const bool beside = !k.readout.empty();
     k.radius = std::max(std::min(body.width() / 2, body.height() / 2) - 1, 1.0f);
+    if (k.radius >= least_labelled_radius) {
+        // Labels stand beside the ring: they take their width off the knob.
+        const float most = body.width() / 2 - k.radius * labels_from * 0.6f;
+        k.label_size = label_size_for(model, stage.meter, text_size(std::clamp(k.radius * 0.125f, 6.5f, 22.0f)), most);
+        if (k.label_size) {
+            const float room = body.width() / 2 - widest_label(model, stage.meter, k.label_size) - 2;
+            k.radius = std::min(k.radius, room / labels_from);
+        }
+    }
     k.scale = {body.centre(), k.radius};
-    k.label_size = k.radius < least_labelled_radius ? 0 : text_size(std::clamp(k.radius * 0.125f, 6.5f, 22.0f));
-    k.cap = k.radius * (k.label_size ? 0.52f : 0.66f);
+    k.cap = k.radius * (k.label_size ? labelled_cap : bare_cap);
     if (beside)
         return k;
     const PointF c = k.scale.centre;

@@ -80,7 +80,7 @@ FittedText fit(TextMeter& meter, std::string_view text, int tenths, float width,
     }
     std::size_t kept = text.size();
     while (kept > 0 && meter.width(fitted.text, fitted.tenths) > width)
-        fitted.text = std::string(text.substr(0, --kept)) + "..";
+        fitted.text.assign(text.substr(0, --kept)).append("..");
     if (kept == 0)
         fitted.text.clear();
     return fitted;
@@ -158,7 +158,7 @@ void paint_readout(Picture& picture, const GaugeModel& model, const Stage& stage
     const std::string number = number_text(model.current);
     std::string unit;
     if (with_unit && !model.no_title && !model.unit_text().empty())
-        unit = " " + std::string(model.unit_text());
+        unit.append(1, ' ').append(model.unit_text());
     const float room = inner.width() - 4;
     const int unit_size = size * 3 / 4;
     float unit_width = stage.meter.width(unit, unit_size);
@@ -242,6 +242,13 @@ std::string number_text(std::int64_t value) {
 
 float widest_label(const GaugeModel& model, TextMeter& meter, int tenths) {
     return std::max(meter.width(number_text(model.minimum), tenths), meter.width(number_text(model.maximum), tenths));
+}
+
+int label_size_for(const GaugeModel& model, TextMeter& meter, int tenths, float width) {
+    const int least = text_size(6);
+    while (tenths >= least && widest_label(model, meter, tenths) > width)
+        tenths -= 5;
+    return tenths >= least ? tenths : 0;
 }
 
 } // namespace wnt

@@ -92,6 +92,8 @@ std::vector<ScaleZone> zones_of(const GaugeModel& model);
 std::string number_text(std::int64_t value);
 /// The widest label of the scale.
 float widest_label(const GaugeModel& model, TextMeter& meter, int tenths);
+/// The size, at most `tenths`, at which no label is wider than this; 0 when that would not be legible.
+int label_size_for(const GaugeModel& model, TextMeter& meter, int tenths, float width);
 
 /// The turn of a round scale, from lower left clockwise to lower right.
 struct RoundScale {
