@@ -19,6 +19,28 @@ int scale_for(HDC dc, int width, int height) {
     return static_cast<long>(width) * height <= small_picture ? 4 : 2;
 }
 
+// True for two boxes of one colour that differ in one side only, as a bar that grew or shrank.
+bool grown(const Picture::Figure& a, const Picture::Figure& b) {
+    const BoxF& p = a.bounds;
+    const BoxF& q = b.bounds;
+    return a.kind == Picture::Kind::box && b.kind == Picture::Kind::box && a.colour == b.colour && !p.empty() &&
+           !q.empty() &&
+           (p.left != q.left) + (p.right != q.right) + (p.bottom != q.bottom) + (p.top != q.top) == 1;
+}
+
+BoxF difference(const BoxF& p, const BoxF& q) {
+    BoxF d = hull(p, q);
+    if (p.left != q.left)
+        d.right = std::max(p.left, q.left);
+    else if (p.right != q.right)
+        d.left = std::min(p.right, q.right);
+    else if (p.bottom != q.bottom)
+        d.top = std::max(p.bottom, q.bottom);
+    else
+        d.bottom = std::min(p.top, q.top);
+    return d;
+}
+
 int nearest(float v) {
     return static_cast<int>(std::lround(v));
 }
@@ -64,6 +86,10 @@ void PictureScreen::collect_changes(const Picture& shown, const Picture& value) 
     for (std::size_t i = 0; i < std::max(before, after); ++i) {
         if (i < before && i < after && Picture::same(shown, value, i))
             continue;
+        if (i < before && i < after && grown(shown.figures()[i], value.figures()[i])) {
+            add_area(pixels_of(difference(shown.figures()[i].bounds, value.figures()[i].bounds)));
+            continue;
+        }
         if (i < before)
             add_area(pixels_of(shown.figures()[i].bounds));
         if (i < after)

@@ -72,10 +72,12 @@ void paint_needle(Picture& picture, const Dial& d, float angle, Colour colour) {
     paint_turned(picture, needle_dark, d.scale.centre, length, angle, left_side_lit ? bright : dim);
 }
 
+// A cap lit from the top left. It lies over the needle, so it is drawn with every value: few figures.
 void paint_hub(Picture& picture, PointF centre, float radius) {
+    const float shift = radius * 0.14f;
     picture.disc(centre, radius, 0x303030);
-    paint_bezel(picture, centre, radius * 0.62f, radius * 0.88f, 0x505050, 0xC8C8C8);
-    picture.disc(centre, radius * 0.62f, 0x707070);
+    picture.disc({centre.x - shift * 0.4f, centre.y + shift * 0.4f}, radius * 0.80f, 0x6A6A6A);
+    picture.disc({centre.x - shift, centre.y + shift}, radius * 0.52f, 0x9A9A9A);
 }
 
 // A small mark at the rim shows where the value came from.
