@@ -28,7 +28,8 @@ Bar lay_out_bar(const GaugeModel& model, const Stage& stage) {
     const BoxF& body = b.layout.body;
     const float height = body.height();
     if (height >= 40 && body.width() >= 50)
-        b.label_size = text_size(std::clamp(std::min(height * 0.10f, body.width() * 0.08f), 6.0f, 16.0f));
+        b.label_size = label_size_for(model, stage.meter, text_size(std::clamp(height * 0.10f, 7.0f, 16.0f)),
+                                      body.width() * 0.30f);
     const float labels = b.label_size ? stage.meter.metrics(b.label_size).height() + height * 0.05f + 3 : 0;
     const float ends = b.label_size ? widest_label(model, stage.meter, b.label_size) / 2 : 0;
     const float strip = std::clamp(height * 0.07f, 2.0f, 10.0f);

@@ -109,7 +109,10 @@ void dial_face(Picture& picture, const GaugeModel& model, const Stage& stage) {
     const bool face_written = !model.no_title && d.radius >= least_written_radius;
     if (face_written && !d.readout_beside) {
         const FittedText unit = fit(stage.meter, model.unit_text(), d.writing_size, r * 0.62f, text_size(6));
-        write(picture, stage.meter, {c.x, c.y - r * 0.36f}, HAlign::centre, unit.tenths, theme.text, unit.text);
+        // Wide labels at the ends of the scale need the place between them.
+        const bool wide = d.label_size && widest_label(model, stage.meter, d.label_size) > r * 0.34f;
+        const float below = wide ? 0.20f : 0.36f;
+        write(picture, stage.meter, {c.x, c.y - r * below}, HAlign::centre, unit.tenths, theme.text, unit.text);
     }
     if (model.bar_title && face_written) {
         const FittedText title = fit(stage.meter, model.title_text(), d.writing_size, r * 0.80f, text_size(6));

@@ -108,7 +108,9 @@ void peak_value(Picture& picture, const GaugeModel& model, const Stage& stage) {
     if (model.history.count() > 0) {
         const float y = std::min(height_of(model, p, model.history.highest()), p.area.top - 1);
         picture.box({p.area.left, y, p.area.right, y + 1}, theme.text);
-        const PointF mark[3] = {{p.area.right, y + 0.5f}, {p.area.right - 6, y + 4.5f}, {p.area.right - 6, y - 3.5f}};
+        const float half = std::clamp(std::min(p.area.height() * 0.03f, p.area.width() * 0.1f), 1.0f, 5.0f);
+        const float back = p.area.right - half * 1.5f;
+        const PointF mark[3] = {{p.area.right, y + 0.5f}, {back, y + 0.5f + half}, {back, y + 0.5f - half}};
         picture.polygon(mark, 3, theme.text);
     }
     paint_readout(picture, model, stage, p.readout);
