@@ -27,7 +27,8 @@ int CGalleryFrame::OnCreate(LPCREATESTRUCT create) {
     if (!list_.Create(WS_CHILD | WS_VISIBLE | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL, CRect(0, 0, 0, 0), this,
                       list_id))
         return -1;
-    list_.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(::GetStockObject(DEFAULT_GUI_FONT)));
+    list_font_.CreatePointFont(100, "Arial");
+    list_.SetFont(&list_font_);
     for (const auto& page : pages_) {
         if (!page->Open(this, CRect(0, 0, 10, 10)))
             return -1;

@@ -21,5 +21,6 @@ private:
 
     GalleryPages pages_;
     CListBox list_;
+    CFont list_font_;
     int shown_ = -1;
 };

@@ -134,6 +134,7 @@ bool GaugeModel::set_current_value(std::int32_t value) {
     if (value < minimum || value > maximum || value == current)
         return false;
     previous = std::exchange(current, value);
+    has_previous = true;
     history.record(value);
     repaint_mask = repaint_value;
     return true;

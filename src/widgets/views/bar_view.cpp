@@ -67,6 +67,20 @@ std::string percent_text(const GaugeModel& model) {
     return text;
 }
 
+// A round bar under light from above: its middle has the colour itself.
+void paint_round_bar(Picture& picture, const BoxF& bar, Colour colour) {
+    constexpr int tones = 4;
+    const float tone = bar.height() * 0.36f / tones;
+    picture.box(bar, colour);
+    for (int i = 0; i < tones; ++i) {
+        const auto k = static_cast<float>(i);
+        picture.box({bar.left, bar.top - tone * (k + 1), bar.right, bar.top - tone * k},
+                    blend(colour, 0xFFFFFF, 24 * (tones - i)));
+        picture.box({bar.left, bar.bottom + tone * k, bar.right, bar.bottom + tone * (k + 1)},
+                    blend(colour, 0x000000, 20 * (tones - i)));
+    }
+}
+
 // One text over the filled and the empty part, readable on both.
 void write_over(Picture& picture, const Stage& stage, const BoxF& filled, const BoxF& empty, PointF at, HAlign align,
                 const FittedText& text, Colour fill, Colour ink) {
@@ -111,11 +125,7 @@ void bar_value(Picture& picture, const GaugeModel& model, const Stage& stage) {
     const float edge = std::round(b.groove.left + b.groove.width() * fraction_of(model, model.current));
     const BoxF filled = {b.groove.left, b.groove.bottom, edge, b.groove.top};
     const BoxF empty = {edge, b.groove.bottom, b.groove.right, b.groove.top};
-    // A round bar under light from above: three tones.
-    const float third = b.groove.height() / 3;
-    picture.box(filled, colour);
-    picture.box({filled.left, filled.top - third, filled.right, filled.top}, blend(colour, 0xFFFFFF, 70));
-    picture.box({filled.left, filled.bottom, filled.right, filled.bottom + third * 0.6f}, blend(colour, 0, 50));
+    paint_round_bar(picture, filled, colour);
 
     const bool titled = title_on_bar(model);
     const FittedText percent =

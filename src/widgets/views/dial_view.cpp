@@ -82,8 +82,11 @@ void paint_hub(Picture& picture, PointF centre, float radius) {
 
 // A small mark at the rim shows where the value came from.
 void paint_previous(Picture& picture, const GaugeModel& model, const Dial& d, Colour colour) {
-    const float f = fraction_of(model, model.previous);
-    const float a = d.scale.angle(f);
+    if (!model.has_previous) {
+        picture.box({}, colour); // keeps the mark's place in the list
+        return;
+    }
+    const float a = d.scale.angle(fraction_of(model, model.previous));
     const float half = 0.035f;
     auto at = [&](float angle, float distance) {
         return PointF{d.scale.centre.x + std::cos(angle) * distance, d.scale.centre.y + std::sin(angle) * distance};
@@ -100,8 +103,9 @@ void dial_face(Picture& picture, const GaugeModel& model, const Stage& stage) {
     paint_ground(picture, model, stage);
     const PointF c = d.scale.centre;
     const float r = d.radius;
-    paint_bezel(picture, c, r * 0.955f, r, theme.shadow, theme.sun);
-    paint_bezel(picture, c, r * 0.92f, r * 0.955f, blend(theme.sun, theme.back, 100), blend(theme.shadow, theme.back, 60));
+    const Colour bright = blend(theme.shadow, theme.sun, 190);
+    paint_bezel(picture, c, r * 0.955f, r, theme.shadow, bright);
+    paint_bezel(picture, c, r * 0.92f, r * 0.955f, theme.sun, blend(theme.shadow, theme.sun, 60));
     picture.disc(c, r * 0.925f, theme.plate);
     paint_round_zones(picture, model, d.scale, r * 0.80f, r * 0.885f);
     paint_round_ticks(picture, model, stage, d.scale,

@@ -62,8 +62,8 @@ void paint_round_zones(Picture& picture, const GaugeModel& model, const RoundSca
 }
 
 void paint_bezel(Picture& picture, PointF centre, float inner, float outer, Colour dark, Colour light) {
-    constexpr int parts = 36;
-    constexpr float part = 2 * pi / parts;
+    const int parts = std::clamp(static_cast<int>(outer * 0.6f), 24, 120);
+    const float part = 2 * pi / static_cast<float>(parts);
     for (int i = 0; i < parts; ++i) {
         const float middle = part * (static_cast<float>(i) + 0.5f);
         const int glow = static_cast<int>(128 + 127 * std::cos(middle - 0.75f * pi));
