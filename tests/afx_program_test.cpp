@@ -1,6 +1,7 @@
 // The program around the windows: message loop, dialogs, frames, drawing, resources.
 #include "afx_test_app.h"
 #include <afxcmn.h>
+#include <afxdlgs.h>
 
 #include <gmock/gmock.h>
 
@@ -149,6 +150,44 @@ TEST(AfxDialog, ExchangesDataAndRefusesWhatItCannotRead) {
         EXPECT_EQ(the_app.take_boxes().size(), 1u);
         EXPECT_EQ(dialog.number, -7);
     }
+}
+
+// Presses its own button as soon as it is open, and refuses the first name.
+class test_file_dialog : public CFileDialog {
+public:
+    explicit test_file_dialog(UINT button)
+        : CFileDialog(FALSE, "dat", "C:\\chosen", OFN_HIDEREADONLY, "Data|*.dat|All|*.*||"), m_button(button) {}
+    BOOL OnInitDialog() override {
+        opened = ::IsWindow(GetParent()->GetSafeHwnd());
+        GetParent()->PostMessage(WM_COMMAND, m_button);
+        return CFileDialog::OnInitDialog();
+    }
+    BOOL OnFileNameOK() override {
+        if (asked++ > 0)
+            return FALSE;
+        GetParent()->PostMessage(WM_COMMAND, m_button);
+        return TRUE;
+    }
+    bool opened = false;
+    int asked = 0;
+
+private:
+    UINT m_button;
+};
+
+TEST(AfxDialog, FileDialogGivesThePartsOfTheName) {
+    test_file_dialog chosen(IDOK), cancelled(IDCANCEL);
+    EXPECT_STREQ(chosen.m_ofn.lpstrFilter + 5, "*.dat");
+    EXPECT_EQ(chosen.DoModal(), IDOK);
+    EXPECT_TRUE(chosen.opened);
+    EXPECT_EQ(chosen.asked, 2) << "the first answer was a refusal";
+    EXPECT_EQ(chosen.m_hWnd, nullptr);
+    EXPECT_STREQ(chosen.GetPathName(), "C:\\chosen.dat");
+    EXPECT_STREQ(chosen.GetFileName(), "chosen.dat");
+    EXPECT_STREQ(chosen.GetFileTitle(), "chosen");
+    EXPECT_STREQ(chosen.GetFileExt(), "dat");
+    EXPECT_EQ(cancelled.DoModal(), IDCANCEL);
+    EXPECT_EQ(cancelled.asked, 0);
 }
 
 class test_frame : public CFrameWnd {

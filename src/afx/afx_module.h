@@ -4,9 +4,9 @@
 #include "afx_object.h"
 
 struct AFX_EXTENSION_MODULE {
-    BOOL bInitialized;
-    HMODULE hModule;
-    HMODULE hResource;
+    BOOL bInitialized = FALSE;
+    HMODULE hModule = nullptr;
+    HMODULE hResource = nullptr;
 };
 
 // Remembers the module's handle; FALSE only for a null handle.

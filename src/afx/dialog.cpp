@@ -53,10 +53,7 @@ CDialog::CDialog(LPCTSTR lpszTemplateName, CWnd* pParentWnd)
 
 CDialog::CDialog(UINT nIDTemplate, CWnd* pParentWnd) : CDialog(MAKEINTRESOURCE(nIDTemplate), pParentWnd) {}
 
-CDialog::~CDialog() {
-    if (m_hWnd != nullptr)
-        CWnd::DestroyWindow();
-}
+CDialog::~CDialog() = default;
 
 LPCDLGTEMPLATE CDialog::FindTemplate(LPCTSTR name, HINSTANCE& module) const {
     module = AfxFindResourceHandle(name, RT_DIALOG);

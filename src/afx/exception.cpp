@@ -2,6 +2,7 @@
 #include "afx_app.h"
 #include "atlexcept.h"
 
+#include <cctype>
 #include <cstdio>
 
 IMPLEMENT_DYNAMIC(CException, CObject)
@@ -22,10 +23,14 @@ void copy_text(LPTSTR to, UINT room, LPCTSTR text) {
 }
 
 BOOL system_message(DWORD code, LPTSTR to, UINT room) {
-    copy_text(to, room, "");
-    return to != nullptr && room > 0 &&
-           FormatMessage(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, code, 0, to, room,
-                         nullptr) != 0;
+    if (to == nullptr || room == 0)
+        return FALSE;
+    *to = '\0';
+    DWORD length = ::FormatMessage(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, code, 0, to,
+                                   room, nullptr);
+    while (length > 0 && std::isspace(static_cast<unsigned char>(to[length - 1])))
+        to[--length] = '\0'; // the system's texts end with a line end
+    return length > 0;
 }
 
 } // namespace
