@@ -1,7 +1,5 @@
 #include <array>
 #include <cmath>
-#include <sstream>
-#include <string>
 
 #include "page.h"
 
@@ -68,9 +66,7 @@ protected:
 
     static void Load(CWntGauge& gauge, const char* script) {
         gauge.LoadLine("", 1);
-        std::istringstream lines(script);
-        for (std::string line; std::getline(lines, line);)
-            gauge.LoadLine(line.c_str(), 0);
+        LoadLines(script, [&](const char* line) { gauge.LoadLine(line, 0); });
         gauge.LoadLine(":BORDERHEIGHT=2", 0);
         gauge.LoadLine("", 2);
     }

@@ -61,5 +61,7 @@ GalleryPages MakePages(const std::vector<CString>& scripts) {
     pages.push_back(MakeTextPage());
     pages.push_back(MakeGaugesPage());
     pages.push_back(MakeScriptsPage(scripts));
+    pages.push_back(MakeButtonsPage());
+    pages.push_back(MakeScrollBarsPage());
     return pages;
 }

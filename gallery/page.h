@@ -1,6 +1,8 @@
 #pragma once
 
 #include <memory>
+#include <sstream>
+#include <string>
 #include <vector>
 
 #include <zopwnt.h>
@@ -53,9 +55,18 @@ private:
 
 using GalleryPages = std::vector<std::unique_ptr<CGalleryPage>>;
 
+/// Hands each line of a script to a widget's line operation.
+template <class Load> void LoadLines(const char* script, Load load) {
+    std::istringstream lines(script);
+    for (std::string line; std::getline(lines, line);)
+        load(line.c_str());
+}
+
 std::unique_ptr<CGalleryPage> MakeSurfacePage();
 std::unique_ptr<CGalleryPage> MakeTextPage();
 std::unique_ptr<CGalleryPage> MakeGaugesPage();
+std::unique_ptr<CGalleryPage> MakeButtonsPage();
+std::unique_ptr<CGalleryPage> MakeScrollBarsPage();
 std::unique_ptr<CGalleryPage> MakeScriptsPage(const std::vector<CString>& scripts);
 
 /// All pages, in the order of the list.

@@ -4,6 +4,8 @@
 
 #include <afxwin.h>
 
+#include "controls/wnt_scroll_bar.h"
 #include "diag/wnt_trace.h"
 #include "out/wnt_out.h"
+#include "widgets/wnt_button.h"
 #include "widgets/wnt_gauge.h"

@@ -1,6 +1,5 @@
 #include "diag/wnt_trace.h"
 
-#include <algorithm>
 #include <cstdlib>
 #include <ctime>
 
@@ -14,6 +13,7 @@ using wnt::trace_state;
 namespace {
 
 constexpr int text_limit = 1024;
+constexpr int deepest_indent = 512;
 constexpr char separator[] = "----------------------------------------------------------------\n";
 static_assert(sizeof separator == 64 + 2);
 
@@ -34,10 +34,21 @@ bool format_secure(char (&text)[text_limit], const char* format, va_list argumen
     return length >= 0;
 }
 
+// A box lets messages through, and their handlers trace, too: one box at a time.
+void report_overflow() {
+    static bool reporting = false;
+    if (reporting)
+        return;
+    reporting = true;
+    AfxMessageBox("Wtrace: buffer too small");
+    reporting = false;
+}
+
 void format_line(char (&text)[text_limit], const char* format, va_list arguments) {
-    if (!format || !format_secure(text, format, arguments))
-        AfxMessageBox("Wtrace: buffer too small");
-    text[text_limit - 1] = '\0';
+    if (!format)
+        text[0] = '\0';
+    else if (!format_secure(text, format, arguments))
+        report_overflow();
     trace_state().last_line = text;
 }
 
@@ -45,7 +56,7 @@ void write_line(int indent, const char* text) {
     const auto& state = trace_state();
     if (!state.stream || !(state.flags & wnt::trace_to_file))
         return;
-    for (int i = 0; i < indent; ++i)
+    for (int i = 0; i < indent && i < deepest_indent; ++i)
         std::fputs("  ", state.stream);
     std::fputs(text, state.stream);
 }
@@ -53,12 +64,18 @@ void write_line(int indent, const char* text) {
 // Adds a line and selects it. The list searches from behind the index that it is given.
 void list_line(const char* text) {
     HWND list = trace_state().list;
-    if (!list)
+    if (!::IsWindow(list))
         return;
     ::SendMessageA(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
     const auto count = static_cast<int>(::SendMessageA(list, LB_GETCOUNT, 0, 0));
-    ::SendMessageA(list, LB_SELECTSTRING, static_cast<WPARAM>(std::max(count - 2, -1)),
-                   reinterpret_cast<LPARAM>(text));
+    if (count > 0)
+        ::SendMessageA(list, LB_SELECTSTRING, static_cast<WPARAM>(count - 2), reinterpret_cast<LPARAM>(text));
+}
+
+void emit(int indent, const char* text) {
+    write_line(indent, text);
+    if (trace_state().flags & wnt::trace_to_window)
+        list_line(text);
 }
 
 int stored_position(const char* key, const char* settings_file) {
@@ -84,6 +101,7 @@ CWntTrace::CWntTrace() {
 }
 
 CWntTrace::~CWntTrace() {
+    DestroyWindow(); // while its handlers still exist
     trace_state().close_stream();
 }
 
@@ -133,9 +151,7 @@ void CWntTrace::Trace(int indent, const char* format, ...) {
     va_start(arguments, format);
     format_line(text, format, arguments);
     va_end(arguments);
-    write_line(indent, text);
-    if (trace_state().flags & wnt::trace_to_window)
-        display(text);
+    emit(indent, text);
 }
 
 void CWntTrace::Trace(const char* format, ...) {
@@ -144,9 +160,7 @@ void CWntTrace::Trace(const char* format, ...) {
     va_start(arguments, format);
     format_line(text, format, arguments);
     va_end(arguments);
-    write_line(0, text);
-    if (trace_state().flags & wnt::trace_to_window)
-        display(text);
+    emit(0, text);
 }
 
 void WntTrace(const char* format, ...) {
@@ -157,9 +171,7 @@ void WntTrace(const char* format, ...) {
     va_start(arguments, format);
     format_line(text, format, arguments);
     va_end(arguments);
-    write_line(0, text);
-    if (trace_state().flags & wnt::trace_to_window)
-        list_line(text);
+    emit(0, text);
 }
 
 void CWntTrace::display(const char* text) {
@@ -214,10 +226,10 @@ void CWntTrace::createdisplay() {
 
 void CWntTrace::destroydisplay() {
     auto& state = trace_state();
-    if (!state.dialog)
-        return;
-    state.dialog->DestroyWindow();
-    state.dialog.reset();
+    // Forgotten first: what runs while the dialog goes may trace.
+    const auto dialog = std::move(state.dialog);
     state.list = nullptr;
     state.second_control = nullptr;
+    if (dialog)
+        dialog->DestroyWindow();
 }

@@ -32,6 +32,7 @@ public:
     /// Caption of the trace window, and stem of the profile file that holds its position.
     void SetTitle(const char* title);
 
+    /// Two blanks for each step of indent, at most 512 steps, go to the file before the text.
     void Trace(int indent, const char* format, ...);
     void Trace(const char* format, ...);
 

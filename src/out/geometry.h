@@ -126,10 +126,10 @@ template <class Point> int points_testclock(const Point* p, int sense) {
 }
 
 /// 1 when (x, y) lies inside the convex polygon of n clockwise vertices; a point on an edge is outside, and a polygon
-/// without vertices holds everything.
+/// without vertices holds everything. 0 without points.
 template <class Point> int points_testinpoly(int x, int y, const Point* poly, int n) {
-    if (!poly)
-        n = 0;
+    if (!poly && n > 0)
+        return 0;
     for (int i = 0; i < n; ++i) {
         Point corner[3] = {poly[i], poly[i == 0 ? n - 1 : i - 1], {}};
         corner[2].x = x;
@@ -147,12 +147,9 @@ template <class Rect> int points_testinrect(int x, int y, const Rect& r, int yma
     return r.left <= x && x < r.right && r.bottom <= flipped && flipped <= r.top;
 }
 
-/// Bounding rectangle of the points; with n below 2 it is the first point. Without points it is all zeros.
+/// Bounding rectangle of the points; with n below 2 it is the first point. Nothing without points.
 template <class Rect, class Point> void calcpolywind(Rect* out, const Point* pts, int n) {
-    if (!out)
-        return;
-    *out = {};
-    if (!pts)
+    if (!out || !pts)
         return;
     out->left = out->right = pts[0].x;
     out->top = out->bottom = pts[0].y;

@@ -7,8 +7,18 @@
 
 namespace wrapped = wnt::wrapped;
 
+namespace {
+
+// The platform walks a curve row by row: beyond this one would be waited for, and shows nowhere as a curve.
+bool drawable_radius(int r) {
+    constexpr int largest = 0xFFFFF;
+    return r >= -largest && r <= largest;
+}
+
+} // namespace
+
 void CWntOut::drawcircle(int x, int y, int r) {
-    if (!ready())
+    if (!ready() || !drawable_radius(r))
         return;
     const int middle = flip(y);
     const int right = wrapped::add(x, r);
@@ -16,7 +26,7 @@ void CWntOut::drawcircle(int x, int y, int r) {
 }
 
 void CWntOut::fillcircle(int x, int y, int rx, int ry) {
-    if (!ready())
+    if (!ready() || !drawable_radius(rx) || !drawable_radius(ry))
         return;
     const int middle = flip(y);
     wnt::GdiObject<HRGN> region(::CreateEllipticRgn(wrapped::subtract(x, rx), wrapped::subtract(middle, ry),
@@ -33,7 +43,7 @@ void CWntOut::fillcircle(int x, int y, int rx, int ry) {
 }
 
 void CWntOut::pieslice(int x, int y, int rx, int ry, int a1, int a2) {
-    if (!ready())
+    if (!ready() || !drawable_radius(rx) || !drawable_radius(ry))
         return;
     const auto b1 = static_cast<unsigned short>(wrapped::multiply(a1, 4));
     const auto b2 = static_cast<unsigned short>(wrapped::multiply(a2, 4));

@@ -34,10 +34,7 @@ void CWntOut::resetclip() {
 void CWntOut::queryclip(RECT* r) {
     if (!ready() || !r)
         return;
-    RECT update = {};
-    if (m_hWnd)
-        ::GetUpdateRect(m_hWnd, &update, FALSE);
-    *r = {update.left, flip(update.top), update.right - 1, flip(update.bottom) + 1};
+    *r = update_rect();
     cliprect = *r;
     clipset = 1;
 }
@@ -50,7 +47,7 @@ int CWntOut::testclip(int x1, int y1, int x2, int y2) {
     RECT clip;
     if (!dc || ::GetClipBox(dc, &clip) == ERROR)
         return 0;
-    if (x1 > clip.right - 1 || x2 < clip.left || y1 > flip(clip.top) || y2 < flip(clip.bottom) + 1)
+    if (x1 > clip.right - 1 || x2 < clip.left || y1 > flip(clip.top) || y2 < wrapped::add(flip(clip.bottom), 1))
         return 0;
     return 1;
 }

@@ -45,9 +45,9 @@ void CWntOut::linecolour(COLORREF colour, int style) {
     if (!ready() || colour == linecolour_)
         return;
     const int pen_style = style >= 0 && style < 8 ? pen_styles[style] : PS_SOLID;
-    if (HPEN made = ::CreatePen(pen_style, 1, colour)) {
-        select_made(made, &Selection::pen, &Selection::foreign_pen);
-        pen = made;
+    pen = ::CreatePen(pen_style, 1, colour);
+    if (pen) {
+        select_made(pen, &Selection::pen, &Selection::foreign_pen);
         ::SetTextColor(dc, colour);
     }
     linecolour_ = colour;
@@ -62,9 +62,8 @@ void CWntOut::fillcolour(COLORREF colour, int style) {
     if (!this || colour == fillcolour_) // intended: a change of style alone is ignored
         return;
     const int hatch = style >= 0 && style < 8 ? hatch_styles[style] : -1;
-    if (HBRUSH made = hatch < 0 ? ::CreateSolidBrush(colour) : ::CreateHatchBrush(hatch, colour)) {
-        select_made(made, &Selection::brush, &Selection::foreign_brush);
-        brush = made;
-    }
+    brush = hatch < 0 ? ::CreateSolidBrush(colour) : ::CreateHatchBrush(hatch, colour);
+    if (brush)
+        select_made(brush, &Selection::brush, &Selection::foreign_brush);
     fillcolour_ = colour;
 }

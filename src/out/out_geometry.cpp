@@ -43,9 +43,7 @@ int CWntOut::points_testclock(POINT* p, int sense) {
 }
 
 int CWntOut::points_testinpoly(int x, int y, POINT* poly, int n) {
-    if (n < 1)
-        return 1;
-    return poly ? wnt::points_testinpoly(x, y, poly, n) : 0;
+    return wnt::points_testinpoly(x, y, poly, n);
 }
 
 int CWntOut::points_testincircle(int dx, int dy, int r) {
@@ -57,6 +55,5 @@ int CWntOut::points_testinrect(int x, int y, RECT r) {
 }
 
 void CWntOut::calcpolywind(RECT* out, POINT* pts, int n) {
-    if (out && pts)
-        wnt::calcpolywind(out, pts, n);
+    wnt::calcpolywind(out, pts, n);
 }

@@ -83,14 +83,14 @@ void CWntOut::geomline(POINT* pts, int n, int width) {
     if (width == 0) {
         ::Polyline(dc, pts, n);
     } else {
-        wnt::GdiObject<HPEN> wide(::CreatePen(PS_SOLID, std::clamp(width, -1, widest_line - 1) + 1, fillcolour_));
+        wnt::GdiObject<HPEN> wide(::CreatePen(PS_SOLID, std::clamp(width, -widest_line, widest_line - 1) + 1, fillcolour_));
         wnt::SelectGuard selected(dc, wide.get());
         ::Polyline(dc, pts, n);
     }
     flip_points(pts, n);
 }
 
-void CWntOut::crosslines(Tpt* pts, int n, int step) {
+template <class Point> void CWntOut::draw_crosslines(const Point* pts, int n, int step) {
     if (!ready() || !pts)
         return;
     for (int i = 0; i < n; ++i) {
@@ -99,13 +99,12 @@ void CWntOut::crosslines(Tpt* pts, int n, int step) {
     }
 }
 
+void CWntOut::crosslines(Tpt* pts, int n, int step) {
+    draw_crosslines(pts, n, step);
+}
+
 void CWntOut::crosslines(POINT* pts, int n, int step) {
-    if (!ready() || !pts)
-        return;
-    for (int i = 0; i < n; ++i) {
-        ::MoveToEx(dc, pts[i].x, flip(pts[i].y), nullptr);
-        ::LineTo(dc, pts[i + step].x, flip(pts[i + step].y));
-    }
+    draw_crosslines(pts, n, step);
 }
 
 void CWntOut::trackpoly(Tpt* pts, int n) {

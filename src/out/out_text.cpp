@@ -22,7 +22,7 @@ int saturate(std::int64_t value) {
     return static_cast<int>(std::clamp<std::int64_t>(value, INT_MIN, INT_MAX));
 }
 
-// The service's font, with its height replaced; the system's default face at `fallback_size` without a service.
+// The service's font, with its height replaced; the system's default face at `size` without a service.
 HFONT service_font(CWntOut& out, int (*height)(int service_height, int size), int size) {
     LOGFONTA description;
     if (!out.getZopguiFont(&description, ZOPFONT_PROPORTIONAL))
@@ -31,33 +31,18 @@ HFONT service_font(CWntOut& out, int (*height)(int service_height, int size), in
     return wnt::make_point_font(description);
 }
 
-struct Alignment {
-    UINT text_align;
-    int drop;
-};
-
-// Where the reference point lies on the string, and how far above y the text hangs. False: leave the device's own.
-bool defined_alignment(int align, int points, Alignment& result) {
-    static constexpr UINT horizontal[3] = {TA_LEFT, TA_RIGHT, TA_CENTER};
-    if (align < 0 || align > 10 || (align & 3) == 3)
-        return false;
-    switch (align >> 2) {
-    case 0:
-        result = {TA_BOTTOM | horizontal[align & 3], 0};
-        return true;
-    case 1:
-        result = {TA_TOP | horizontal[align & 3], points};
-        return true;
-    default:
-        result = {TA_TOP | horizontal[align & 3], points >> 1};
-        return true;
-    }
-}
-
-int undefined_alignment_drop(int align, int points) {
+// How far above y the text hangs: from the middle of its size, its whole size, or not at all.
+int drop_for(int align, int points) {
     if (align & 8)
         return points >> 1;
     return align & 4 ? points : 0;
+}
+
+// Where the reference point lies on the string; other codes leave the device context's own alignment.
+void select_alignment(HDC dc, int align) {
+    static constexpr UINT horizontal[3] = {TA_LEFT, TA_RIGHT, TA_CENTER};
+    if (align >= 0 && align <= 10 && (align & 3) != 3)
+        ::SetTextAlign(dc, (align < 4 ? TA_BOTTOM : TA_TOP) | horizontal[align & 3]);
 }
 
 } // namespace
@@ -95,11 +80,8 @@ void CWntOut::chars_len(int x, int y, int len, char* text, int align) {
     wnt::GdiObject<HFONT> made(wnt::make_chars_font(*this));
     wnt::SelectGuard selected(dc, made.get());
 
-    const int points = fontsize / 10;
-    Alignment alignment{0, undefined_alignment_drop(align, points)};
-    if (defined_alignment(align, points, alignment))
-        ::SetTextAlign(dc, alignment.text_align);
-    ::TextOutA(dc, x, flip(wrapped::add(y, alignment.drop)), text, len);
+    select_alignment(dc, align);
+    ::TextOutA(dc, x, flip(wrapped::add(y, drop_for(align, fontsize / 10))), text, len);
 }
 
 void CWntOut::titlechars(int x, int y, int w, int h, char* text) {

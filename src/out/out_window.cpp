@@ -1,6 +1,9 @@
 #include "out/wnt_out.h"
 
+#include "out/geometry.h"
 #include "script/colours.h"
+
+namespace wrapped = wnt::wrapped;
 
 BEGIN_MESSAGE_MAP(CWntOut, CWnd)
     ON_WM_CHAR()
@@ -19,31 +22,40 @@ END_MESSAGE_MAP()
 
 namespace {
 
-// The palette pointer is not const for hosts, so each process gets a table that it may not mind them writing to.
-COLORREF default_palette[wnt::colour_count];
+struct DefaultPalette {
+    COLORREF entries[wnt::colour_count];
 
-COLORREF* fill_default_palette() {
-    for (int i = 0; i < wnt::colour_count; ++i)
-        default_palette[i] = wnt::colour_values[i];
-    return default_palette;
-}
+    constexpr DefaultPalette() : entries() {
+        for (int i = 0; i < wnt::colour_count; ++i)
+            entries[i] = wnt::colour_values[i];
+    }
+};
+
+// Hosts get it as a pointer that is not const.
+constinit DefaultPalette default_palette;
 
 } // namespace
 
 CWntOut::CWntOut()
-    : cliprect(), textparams(), palette(fill_default_palette()), palettecount(wnt::colour_count), font(nullptr),
+    : cliprect(), textparams(), palette(default_palette.entries), palettecount(wnt::colour_count), font(nullptr),
       bkbitmap(0) {}
 
-CWntOut::~CWntOut() = default;
+CWntOut::~CWntOut() {
+    if (!dc)
+        give_back(nullptr, external_); // a brush made without a device context
+}
 
 void CWntOut::initialise() {}
 
 int CWntOut::reset() {
     if (!this)
         return 0;
+    forget_lost_window();
     if (!outmode && !targetmode && !dc && m_hWnd && ::IsWindowVisible(m_hWnd)) {
-        if (!windowdc_)
+        if (!windowdc_) {
             windowdc_ = ::GetDC(m_hWnd);
+            dcwindow_ = m_hWnd;
+        }
         dc = windowdc_;
     }
     if (!dc)
@@ -68,8 +80,9 @@ int CWntOut::reset() {
 int CWntOut::reset(HDC hdc) {
     if (!this)
         return 0;
-    if (dc != windowdc_ && dc != hdc)
-        give_back(dc, external_);
+    forget_lost_window();
+    if (dc != hdc)
+        end_external();
     dc = hdc;
     externaldc = 1;
     return reset();
@@ -78,10 +91,7 @@ int CWntOut::reset(HDC hdc) {
 void CWntOut::endpaint() {
     if (!this || !externaldc)
         return;
-    if (dc != windowdc_)
-        give_back(dc, external_);
-    pen = static_cast<HPEN>(window_.pen);
-    brush = static_cast<HBRUSH>(window_.brush);
+    end_external();
     dc = nullptr;
     externaldc = 0;
 }
@@ -89,10 +99,11 @@ void CWntOut::endpaint() {
 void CWntOut::ReleaseDrawing() {
     if (!this)
         return;
-    give_back(dc != windowdc_ ? dc : nullptr, external_);
+    forget_lost_window();
+    end_external();
     give_back(windowdc_, window_);
-    if (windowdc_ && m_hWnd)
-        ::ReleaseDC(m_hWnd, windowdc_);
+    if (windowdc_)
+        ::ReleaseDC(dcwindow_, windowdc_);
     windowdc_ = nullptr;
     dc = nullptr;
     externaldc = 0;
@@ -127,9 +138,17 @@ void CWntOut::give_back(HDC target, Selection& s) {
     s = Selection();
 }
 
-// A device context dies with its window; an object that gets a new window must not draw into the old one.
-void CWntOut::forget_window_dc() {
-    if (!windowdc_)
+void CWntOut::end_external() {
+    if (dc == windowdc_ && dc)
+        return;
+    give_back(dc, external_);
+    pen = static_cast<HPEN>(window_.pen);
+    brush = static_cast<HBRUSH>(window_.brush);
+}
+
+// A device context dies with its window: an object that has another one now, or none, must not go on using it.
+void CWntOut::forget_lost_window() {
+    if (!windowdc_ || dcwindow_ == m_hWnd)
         return;
     give_back(nullptr, window_);
     if (dc == windowdc_) {
@@ -143,10 +162,9 @@ void CWntOut::forget_window_dc() {
 int CWntOut::OnCreate(LPCREATESTRUCT create) {
     if (CWnd::OnCreate(create) == -1)
         return -1;
-    forget_window_dc();
     facename = "Arial";
     ::SetRectEmpty(&cliprect);
-    externaldc = 0;
+    endpaint();
     return 0;
 }
 
@@ -213,20 +231,24 @@ void CWntOut::setbackgroundbitmap(unsigned id) {
 }
 
 void CWntOut::queryupdaterect(RECT* r) {
-    if (!this || !r || !m_hWnd || !::IsWindow(m_hWnd))
-        return;
+    if (this && r && ::IsWindow(m_hWnd))
+        *r = update_rect();
+}
+
+RECT CWntOut::update_rect() const {
     RECT update = {};
-    ::GetUpdateRect(m_hWnd, &update, FALSE);
-    *r = {update.left, flip(update.top), update.right - 1, flip(update.bottom) + 1};
+    if (m_hWnd)
+        ::GetUpdateRect(m_hWnd, &update, FALSE);
+    return {update.left, flip(update.top), wrapped::subtract(update.right, 1), wrapped::add(flip(update.bottom), 1)};
 }
 
 void CWntOut::scroll(int x, int y, int w, int h, int dx, int dy, int) {
     if (!ready() || outmode)
         return;
     if (w == 0)
-        w = xmax + 1;
+        w = wrapped::add(xmax, 1);
     if (h == 0)
-        h = ymax + 1;
+        h = wrapped::add(ymax, 1);
     const std::int64_t top = std::int64_t{ymax} - y - h + 1;
     const std::int64_t src = top > 0 ? top : 0;
     ::BitBlt(dc, static_cast<int>(std::int64_t{x} + dx), static_cast<int>(src - dy), w, h, dc, x,

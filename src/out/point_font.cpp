@@ -1,8 +1,11 @@
 #include "out/point_font.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace {
+
+constexpr int highest_font = 4096; // pixels: higher than any screen, and still made in no time
 
 int screen_resolution() {
     static const int dots_per_inch = [] {
@@ -11,14 +14,15 @@ int screen_resolution() {
         ::ReleaseDC(nullptr, screen);
         return dots;
     }();
-    return dots_per_inch;
+    return dots_per_inch ? dots_per_inch : USER_DEFAULT_SCREEN_DPI;
 }
 
 } // namespace
 
 HFONT wnt::make_point_font(const LOGFONTA& description) {
     LOGFONTA pixels = description;
-    pixels.lfHeight = -std::abs(::MulDiv(screen_resolution(), description.lfHeight, 720));
+    const int height = ::MulDiv(screen_resolution(), description.lfHeight, 720);
+    pixels.lfHeight = -std::min(std::abs(height), highest_font);
     return ::CreateFontIndirectA(&pixels);
 }
 

@@ -250,12 +250,16 @@ private:
     Selection& selection() { return dc && dc == windowdc_ ? window_ : external_; }
     void select_made(HGDIOBJ made, HGDIOBJ Selection::*ours, HGDIOBJ Selection::*foreign);
     static void give_back(HDC target, Selection& s);
-    void forget_window_dc();
+    void end_external();
+    void forget_lost_window();
+    RECT update_rect() const;
     void box(int x1, int y1, int x2, int y2, int mode);
     void flip_points(POINT* pts, int n) const;
     void poly_copy(const Tpt* pts, int n, long fill);
+    template <class Point> void draw_crosslines(const Point* pts, int n, int step);
 
     HDC windowdc_ = nullptr; // fetched once; kept while an external one stands in `dc`
+    HWND dcwindow_ = nullptr; // the window that it belongs to
     Selection window_;
     Selection external_;
 };

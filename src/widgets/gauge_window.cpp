@@ -68,7 +68,9 @@ END_MESSAGE_MAP()
 CWntGauge::CWntGauge()
     : model_(std::make_unique<wnt::GaugeModel>()), painter_(std::make_unique<wnt::GaugePainter>()) {}
 
-CWntGauge::~CWntGauge() = default;
+CWntGauge::~CWntGauge() {
+    DestroyWindow(); // while its handlers and what they use still exist
+}
 
 // The gauge paints through its child: with children clipped away it would not be told when they are uncovered.
 BOOL CWntGauge::PreCreateWindow(CREATESTRUCT& create) {
