@@ -1,6 +1,4 @@
-#include <zopwnt.h>
-
-#include <gmock/gmock.h>
+#include "widget_window.h"
 
 #include <algorithm>
 #include <cmath>
@@ -14,68 +12,10 @@
 
 namespace {
 
-class Framework : public testing::Environment {
-    void SetUp() override { ASSERT_TRUE(AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), 0)); }
-};
-const testing::Environment* const environment = testing::AddGlobalTestEnvironment(new Framework);
-
+constexpr int surface_id = 100;
 constexpr const char* types[6] = {"PERCENTBAR", "THERMOMETER", "ANALOG", "DIGITAL", "PEAKLINE", "TURNKNOB"};
-constexpr COLORREF poison = RGB(255, 0, 254); // no gauge paints it
-
-/// The pixels of a window's client area.
-struct Pixels {
-    int width = 0;
-    int height = 0;
-    std::vector<std::uint32_t> values; // 0x00RRGGBB, upper row first
-
-    COLORREF at(int x, int y) const {
-        const std::uint32_t v = values[static_cast<std::size_t>(y) * width + x];
-        return RGB(v >> 16 & 0xFF, v >> 8 & 0xFF, v & 0xFF);
-    }
-    long count(COLORREF colour) const {
-        const std::uint32_t v = GetRValue(colour) << 16 | GetGValue(colour) << 8 | GetBValue(colour);
-        return static_cast<long>(std::count(values.begin(), values.end(), v));
-    }
-    friend bool operator==(const Pixels&, const Pixels&) = default;
-};
-
-Pixels pixels_of(CWnd& window) {
-    CRect client;
-    window.GetClientRect(&client);
-    Pixels p = {client.Width(), client.Height(), {}};
-    p.values.resize(static_cast<std::size_t>(p.width) * p.height);
-    BITMAPINFO info = {};
-    info.bmiHeader = {sizeof info.bmiHeader, p.width, -p.height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-    CClientDC dc(&window);
-    HDC memory = ::CreateCompatibleDC(dc.m_hDC);
-    void* bits = nullptr;
-    HBITMAP bitmap = ::CreateDIBSection(memory, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-    HGDIOBJ previous = ::SelectObject(memory, bitmap);
-    ::BitBlt(memory, 0, 0, p.width, p.height, dc.m_hDC, 0, 0, SRCCOPY);
-    ::GdiFlush();
-    std::copy_n(static_cast<const std::uint32_t*>(bits), p.values.size(), p.values.begin());
-    for (auto& v : p.values)
-        v &= 0xFFFFFF;
-    ::SelectObject(memory, previous);
-    ::DeleteObject(bitmap);
-    ::DeleteDC(memory);
-    return p;
-}
-
-class GaugeTest : public testing::Test {
+class GaugeTest : public WidgetTest {
 protected:
-    void SetUp() override {
-        ASSERT_TRUE(host_.CreateEx(0, nullptr, "host", WS_POPUP, CRect(0, 0, 1010, 1010), nullptr, 0));
-        host_.ShowWindow(SW_SHOWNOACTIVATE);
-    }
-    void TearDown() override { host_.DestroyWindow(); }
-
-    void open(CWntGauge& gauge, int width, int height) {
-        ASSERT_TRUE(gauge.Create(nullptr, "Gauge", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN,
-                                 CRect(0, 0, width, height), &host_, 1));
-        full_repaint(gauge);
-    }
-
     static void script(CWntGauge& gauge, std::initializer_list<std::string> lines) {
         gauge.LoadLine("", 1);
         for (const auto& line : lines)
@@ -83,27 +23,12 @@ protected:
         gauge.LoadLine("", 2);
     }
 
-    static void full_repaint(CWntGauge& gauge) {
-        gauge.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
-    }
-
-    // What is painted next shows as pixels that lost this colour.
-    static void cover(CWntGauge& gauge, COLORREF colour) {
-        CWnd* surface = gauge.GetDlgItem(100);
-        CClientDC dc(surface);
-        CRect area;
-        surface->GetClientRect(&area);
-        dc.FillSolidRect(&area, colour);
-    }
-
     static long painted_by_value(CWntGauge& gauge, int value) {
-        cover(gauge, poison);
+        cover(gauge, surface_id, poison);
         gauge.SetCurVal(value);
         const Pixels after = pixels_of(gauge);
         return static_cast<long>(after.values.size()) - after.count(poison);
     }
-
-    CWnd host_;
 };
 
 } // namespace
@@ -119,7 +44,7 @@ TEST_F(GaugeTest, ValueRepaintsEqualFullRepaints) {
             for (int i = 0; i < 25; ++i)
                 gauge.SetCurVal(static_cast<int>(random() % 301) - 50);
             const Pixels shown = pixels_of(gauge);
-            cover(gauge, poison);
+            cover(gauge, surface_id, poison);
             full_repaint(gauge);
             ASSERT_EQ(shown, pixels_of(gauge)) << type << " " << size.cx << "x" << size.cy;
             gauge.DestroyWindow();
@@ -154,7 +79,7 @@ TEST_F(GaugeTest, StaleFaceIsNotPaintedOver) {
 
     for (const int unknown : {-1, 6, INT_MAX, INT_MIN}) {
         gauge.SetType(unknown);
-        cover(gauge, poison);
+        cover(gauge, surface_id, poison);
         full_repaint(gauge);
         EXPECT_EQ(pixels_of(gauge).count(poison), 180 * 180) << unknown;
         gauge.SendMessage(WM_COMMAND, 104); // the view switch finds its way back from anywhere

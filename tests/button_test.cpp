@@ -1,0 +1,168 @@
+#include "widget_window.h"
+
+#include <climits>
+#include <cstring>
+#include <string>
+
+namespace {
+
+constexpr int surface_id = 101;
+
+class ButtonTest : public WidgetTest {
+protected:
+    static void script(CWntButton& button, std::initializer_list<const char*> lines) {
+        for (const char* line : lines)
+            button.load(line, 0);
+        button.load("", 2);
+    }
+
+    static int border_of(CWntButton& button) {
+        Tcbtn_properties p;
+        EXPECT_EQ(button.getproperties(&p), 1);
+        return p.bordertype;
+    }
+
+    // Through the surface, as a pointer would.
+    static void mouse(CWntButton& button, UINT message, int x, int y) {
+        button.GetDlgItem(surface_id)->SendMessage(message, 0, MAKELPARAM(x, y));
+    }
+};
+
+constexpr COLORREF blue = RGB(0, 0, 255);
+constexpr COLORREF dark_blue = RGB(0, 0, 128);
+constexpr COLORREF black = RGB(0, 0, 0);
+constexpr COLORREF red = RGB(255, 0, 0);
+constexpr COLORREF white = RGB(255, 255, 255);
+
+} // namespace
+
+TEST_F(ButtonTest, BorderIsMitredAndLitFromTheTopLeft) {
+    CWntButton button;
+    open(button, 60, 30);
+    script(button, {":TITLE="});
+    const Pixels up = pixels_of(button);
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(up.at(30, i), blue) << i;
+        EXPECT_EQ(up.at(i, 15), blue) << i;
+        EXPECT_EQ(up.at(30, 29 - i), black) << i;
+        EXPECT_EQ(up.at(59 - i, 15), black) << i;
+        EXPECT_EQ(up.at(i, i), blue) << i;           // upper left corner
+        EXPECT_EQ(up.at(59 - i, 29 - i), black) << i; // lower right corner
+    }
+    EXPECT_EQ(up.at(55, 5), dark_blue);
+
+    script(button, {":BORDERTYPE=FLAT", ":CLRBORDER=RED", ":FRAME=X", ":CLRBACK=BLACK", ":CLRTEXT=WHITE",
+                    ":BORDERHEIGHT=1", ":TITLE=.", ":TITLESTYLE=PLAIN"});
+    full_repaint(button);
+    const Pixels flat = pixels_of(button);
+    EXPECT_EQ(flat.count(red), 2 * (60 + 28) + 2 * (58 + 26)); // frame and border
+    EXPECT_GT(flat.count(white), 0);                           // the title
+    EXPECT_EQ(flat.at(55, 5), black);
+}
+
+TEST_F(ButtonTest, PressMovesThePictureAndReleaseBringsItBack) {
+    CWntButton button;
+    open(button, 120, 40);
+    script(button, {":TITLESTYLE=PLAIN", ":TITLE=o", ":ALIGN=CENTERCENTER"});
+    const Pixels up = pixels_of(button);
+    mouse(button, WM_LBUTTONDOWN, 50, 20);
+    const Pixels down = pixels_of(button);
+    EXPECT_EQ(border_of(button), 3);
+    EXPECT_EQ(down.at(60, 0), black); // the lit edge is dark now
+    const COLORREF yellow = RGB(255, 255, 0);
+    EXPECT_EQ(down.count(yellow), up.count(yellow));
+    for (int y = 6; y < 30; ++y)
+        for (int x = 6; x < 110; ++x)
+            ASSERT_EQ(up.at(x, y) == yellow, down.at(x + 2, y + 2) == yellow) << x << "," << y;
+    mouse(button, WM_LBUTTONDOWN, 50, 20); // a second press finds it sunk
+    EXPECT_EQ(pixels_of(button), down);
+    mouse(button, WM_LBUTTONUP, 50, 20);
+    EXPECT_EQ(pixels_of(button), up);
+}
+
+TEST_F(ButtonTest, EdgesOutsideAndFixedDoNothing) {
+    CWntButton button;
+    open(button, 50, 30);
+    mouse(button, WM_LBUTTONDOWN, 0, 10);
+    mouse(button, WM_LBUTTONDOWN, 10, 0);
+    EXPECT_EQ(border_of(button), 2);
+    mouse(button, WM_LBUTTONDOWN, 10, 10);
+    mouse(button, WM_LBUTTONUP, 60, 10); // released outside: stays sunk
+    EXPECT_EQ(border_of(button), 3);
+    mouse(button, WM_LBUTTONUP, 10, 10);
+    script(button, {":BORDERSTYLE=LEFT TOP", ":FIXED=0"});
+    mouse(button, WM_LBUTTONDOWN, 10, 10);
+    EXPECT_EQ(border_of(button), 2);
+    script(button, {":BORDERSTYLE=LEFT RIGHT TOP BOTTOM", ":FIXED=0", ":VISIBLE=0"});
+    mouse(button, WM_LBUTTONDOWN, 10, 10);
+    EXPECT_EQ(border_of(button), 2); // nothing is drawn, so nothing sinks
+}
+
+TEST_F(ButtonTest, PropertiesRepaintOnlyWhenTheyDiffer) {
+    CWntButton button;
+    open(button, 80, 30);
+    Tcbtn_properties p;
+    EXPECT_EQ(button.getproperties(nullptr), 0);
+    button.getproperties(&p);
+    cover(button, surface_id, poison);
+    EXPECT_EQ(button.setproperties(&p), 1);
+    EXPECT_EQ(pixels_of(button).count(poison), 80 * 30);
+    p.underline = 1;
+    button.setproperties(&p);
+    EXPECT_EQ(pixels_of(button).count(poison), 0);
+}
+
+TEST_F(ButtonTest, AnyBlockAndSizeIsHarmless) {
+    CWntButton button;
+    open(button, 80, 30);
+    Tcbtn_properties p;
+    const int odd[] = {INT_MIN, -7, 0, 3, 255, INT_MAX};
+    for (const int value : odd) {
+        std::memset(&p, 'x', sizeof p); // titles and identifiers without an end
+        p.visible = 1;
+        p.titlestyle = static_cast<std::uint8_t>(value);
+        p.align = static_cast<std::uint8_t>(value & 15);
+        p.bordertype = value & 3;
+        p.borderstyle = 15;
+        p.borderheight = value;
+        p.clrback = p.clrtext = p.clrsun = p.clrshadow = p.clrborder = value;
+        p.fixed = 0;
+        for (const CSize size : {CSize(80, 30), CSize(4, 4), CSize(0, 0), CSize(1, 300)}) {
+            button.SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
+            button.setproperties(&p);
+            mouse(button, WM_LBUTTONDOWN, 2, 2);
+            mouse(button, WM_LBUTTONUP, 2, 2);
+            full_repaint(button);
+        }
+    }
+    CWntButton* volatile none = nullptr;
+    EXPECT_EQ(none->getproperties(&p), 0);
+    EXPECT_EQ(none->load(":TITLE=x", 0), 0);
+}
+
+TEST_F(ButtonTest, ScrollBarMovesItsOwnThumb) {
+    CWntScrollBar bar;
+    CScrollBar other;
+    ASSERT_TRUE(bar.Create(WS_CHILD | WS_VISIBLE | SBS_VERT, CRect(0, 0, 20, 200), &host_, 5));
+    ASSERT_TRUE(other.Create(WS_CHILD | SBS_HORZ, CRect(0, 0, 200, 20), &host_, 6));
+    SCROLLINFO info = {sizeof info, SIF_ALL, 0, 100, 0, 10, 0};
+    bar.SetScrollInfo(&info);
+    other.SetScrollInfo(&info);
+    const struct {
+        UINT code, pos;
+        int expected;
+    } rows[] = {{SB_LINEDOWN, 0, 11}, {SB_LINEUP, 0, 10},    {SB_TOP, 0, 9},      {SB_BOTTOM, 0, 10},
+                {SB_PAGEDOWN, 0, 10}, {SB_THUMBTRACK, 57, 57}, {SB_ENDSCROLL, 3, 57}, {SB_THUMBPOSITION, 900, 100},
+                {99, 4, 100}};
+    for (const auto& row : rows) {
+        bar.SendMessage(WM_VSCROLL, MAKEWPARAM(row.code, row.pos), reinterpret_cast<LPARAM>(bar.m_hWnd));
+        EXPECT_EQ(bar.GetScrollPos(), row.expected) << row.code;
+        bar.SetThumb(row.code, row.pos, &other); // any bar, by whichever object
+        EXPECT_EQ(other.GetScrollPos(), row.expected) << row.code;
+    }
+    info.nPage = 20;
+    bar.SetScrollInfo(&info);
+    bar.SetThumb(SB_PAGEDOWN, 0, &bar);
+    EXPECT_EQ(bar.GetScrollPos(), 30);
+    bar.SetThumb(SB_PAGEUP, 0, nullptr);
+}
