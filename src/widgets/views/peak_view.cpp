@@ -110,7 +110,8 @@ void peak_value(Picture& picture, const GaugeModel& model, const Stage& stage) {
         picture.box({p.area.left, y, p.area.right, y + 1}, theme.text);
         const float half = std::clamp(std::min(p.area.height() * 0.03f, p.area.width() * 0.1f), 1.0f, 5.0f);
         const float back = p.area.right - half * 1.5f;
-        const PointF mark[3] = {{p.area.right, y + 0.5f}, {back, y + 0.5f + half}, {back, y + 0.5f - half}};
+        const PointF mark[3] = {{p.area.right, y + 0.5f}, {back, std::min(y + 0.5f + half, p.area.top)},
+                                {back, std::max(y + 0.5f - half, p.area.bottom)}};
         picture.polygon(mark, 3, theme.text);
     }
     paint_readout(picture, model, stage, p.readout);
