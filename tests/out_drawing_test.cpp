@@ -22,7 +22,8 @@ TEST_F(SurfaceTest, LinesAndBoxesCoverTheirPixels) {
         {"boxr2", [](CWntOut& o) { o.boxr2(1, 1, 2, 1); }, "......\n.FFF..\n.FFF..\n......\n"},
         {"boxa1", [](CWntOut& o) { o.boxa1(5, 0, 2, 3); }, "..LLLL\n..LFFL\n..LFFL\n..LLLL\n"},
         {"boxa2, one pixel", [](CWntOut& o) { o.boxa2(3, 2, 3, 2); }, "......\n...F..\n......\n......\n"},
-        {"flat boxes", [](CWntOut& o) { o.boxr1(0, 0, 0, 2), o.boxr0(2, 3, 3, 0); }, "..LLLL\nL.....\nL.....\nL.....\n"},
+        {"flat boxes", [](CWntOut& o) { o.boxr1(0, 0, 0, 2), o.boxr0(2, 3, 3, 0); },
+         "..LLLL\nL.....\nL.....\nL.....\n"},
         {"crosslines",
          [](CWntOut& o) {
              POINT points[] = {{0, 0}, {1, 3}, {4, 0}, {5, 3}};
@@ -52,7 +53,7 @@ TEST_F(SurfaceTest, PolygonsAreEvenOddAndLeaveTheArrayAsItWas) {
             EXPECT_EQ(::GetBkMode(o.dc), TRANSPARENT);
         };
     };
-    EXPECT_EQ(drawn(9, 9, nested([](CWntOut& o, POINT (&p)[10]) { o.fillpoly(p, 10); })), "LLLLLLLLL\n"
+    EXPECT_EQ(drawn(9, 9, nested([](CWntOut& o, POINT(&p)[10]) { o.fillpoly(p, 10); })), "LLLLLLLLL\n"
                                                                                          "LFFFFFFFL\n"
                                                                                          "LFLLLLLFL\n"
                                                                                          "LFL...LFL\n"
@@ -61,7 +62,7 @@ TEST_F(SurfaceTest, PolygonsAreEvenOddAndLeaveTheArrayAsItWas) {
                                                                                          "LFLLLLLFL\n"
                                                                                          "LLFFFFFFL\n"
                                                                                          "LLLLLLLLL\n");
-    const std::string solid = drawn(9, 9, nested([](CWntOut& o, POINT (&p)[10]) { o.solidpoly(p, 10); }));
+    const std::string solid = drawn(9, 9, nested([](CWntOut& o, POINT(&p)[10]) { o.solidpoly(p, 10); }));
     EXPECT_EQ(std::count(solid.begin(), solid.end(), 'F'), 81 - 9);
     EXPECT_EQ(std::count(solid.begin(), solid.end(), '.'), 9);
 }
@@ -164,8 +165,8 @@ TEST_F(SurfaceTest, PiesRunCounterClockwise) {
     EXPECT_EQ(slice(4096, 16384), ".FFF");
     EXPECT_EQ(slice(-4096, 0), "...F");
     EXPECT_EQ(slice(0, 0), "....");
-    EXPECT_EQ(slice(0, 1), "....");       // too thin to see
-    EXPECT_EQ(slice(0, 16383), "FFFF");   // the ends meet: a whole turn
+    EXPECT_EQ(slice(0, 1), "....");        // too thin to see
+    EXPECT_EQ(slice(0, 16383), "FFFF");    // the ends meet: a whole turn
     EXPECT_EQ(slice(16384, 4096), "F..."); // angles wrap
 }
 

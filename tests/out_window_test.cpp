@@ -100,9 +100,9 @@ TEST_F(SurfaceTest, ParentSeesInputFirst) {
     const struct {
         UINT message;
         bool forwarded;
-    } cases[] = {{WM_KEYDOWN, true},       {WM_KEYUP, false},     {WM_CHAR, true},          {WM_SYSKEYDOWN, true},
-                 {WM_SYSCHAR, true},       {WM_MOUSEMOVE, true},  {WM_LBUTTONDOWN, true},   {WM_LBUTTONUP, true},
-                 {WM_LBUTTONDBLCLK, true}, {WM_RBUTTONUP, true},  {WM_RBUTTONDBLCLK, true}, {WM_RBUTTONDOWN, true},
+    } cases[] = {{WM_KEYDOWN, true},       {WM_KEYUP, false},    {WM_CHAR, true},          {WM_SYSKEYDOWN, true},
+                 {WM_SYSCHAR, true},       {WM_MOUSEMOVE, true}, {WM_LBUTTONDOWN, true},   {WM_LBUTTONUP, true},
+                 {WM_LBUTTONDBLCLK, true}, {WM_RBUTTONUP, true}, {WM_RBUTTONDBLCLK, true}, {WM_RBUTTONDOWN, true},
                  {WM_MBUTTONDOWN, false},  {WM_MBUTTONUP, false}};
     for (const auto& c : cases) {
         parent.seen.clear();
@@ -186,10 +186,11 @@ TEST_F(SurfaceTest, ClipCoversItsCornersAndSurvivesAReset) {
     EXPECT_EQ(drawn(6, 4, [&](CWntOut& o) { o.setclip(1, 0, 4, 2), fill(o); }), "......\n.FFFF.\n.FFFF.\n.FFFF.\n");
     EXPECT_EQ(out.clipset, 1);
     EXPECT_TRUE(same(out.cliprect, {1, 1, 5, 4})); // device coordinates
-    EXPECT_EQ(drawn(6, 4, [&](CWntOut& o) {
-                  RECT upper = {0, 3, 2, 2};
-                  o.setclip(&upper), o.reset(), fill(o);
-              }),
+    EXPECT_EQ(drawn(6, 4,
+                    [&](CWntOut& o) {
+                        RECT upper = {0, 3, 2, 2};
+                        o.setclip(&upper), o.reset(), fill(o);
+                    }),
               "FFF...\nFFF...\n......\n......\n");
     EXPECT_EQ(drawn(6, 4, [&](CWntOut& o) { o.resetclip(), o.excludeclip(1, 1, 2, 2), fill(o); }),
               "FFFFFF\nF..FFF\nF..FFF\nFFFFFF\n");
@@ -337,7 +338,8 @@ TEST_F(SurfaceTest, NullObjectsAndNullArgumentsAreHarmless) {
     none->setbackground(1, 2), none->setbackgroundbitmap(3), none->queryupdaterect(&rect);
     none->scroll(0, 0, 1, 1, 1, 1, 1), none->setcolorpalette(nullptr, 0), none->linecolour(1, 0);
     none->fillcolour(red, 0), none->line(0, 0, 1, 1), none->boxr1(0, 0, 1, 1), none->fillpoly(&point, 1);
-    none->geomline(&point, 1, 1), none->crosslines(&point, 1, 0), none->drawcircle(1, 1, 1), none->markers(&point, 1, 1);
+    none->geomline(&point, 1, 1), none->crosslines(&point, 1, 0), none->drawcircle(1, 1, 1),
+        none->markers(&point, 1, 1);
     none->fillcircle(1, 1, 1, 1), none->pieslice(1, 1, 1, 1, 0, 9999), none->drawmarker(1, 1, 1, 1);
     none->drawshadow(0, 0, 1, 1, 1), none->trackline(0, 0, 1, 1), none->trackbox(0, 0, 1, 1, 0);
     none->trackpoly(&point, 1), none->setclip(&rect), none->resetclip(), none->queryclip(&rect);
