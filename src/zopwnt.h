@@ -9,5 +9,6 @@
 #include "diag/wnt_trace.h"
 #include "out/wnt_objlist.h"
 #include "out/wnt_out.h"
+#include "pulse/wnt_pulse_file.h"
 #include "widgets/wnt_button.h"
 #include "widgets/wnt_gauge.h"
