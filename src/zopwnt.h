@@ -5,7 +5,10 @@
 #include <afxwin.h>
 
 #include "controls/wnt_scroll_bar.h"
+#include "controls/wnt_ulist.h"
 #include "diag/wnt_trace.h"
+#include "out/wnt_objlist.h"
 #include "out/wnt_out.h"
+#include "pulse/wnt_pulse_file.h"
 #include "widgets/wnt_button.h"
 #include "widgets/wnt_gauge.h"

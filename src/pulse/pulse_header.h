@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstdint>
+
+namespace wnt {
+
+inline constexpr int most_curves = 10;
+inline constexpr int word_size = 25; // 24 characters and a terminator
+
+using PulseText = char[word_size];
+
+/// The curves that a pulse file names at its beginning.
+struct PulseHeader {
+    std::int32_t line_count = 0;
+    PulseText titles[most_curves] = {};
+};
+
+} // namespace wnt
