@@ -21,6 +21,7 @@ public:
         const float em = static_cast<float>(tenths) / 7.5f;
         return {std::ceil(em * 0.92f), std::ceil(em * 0.22f), em * 0.72f};
     }
+    int tenths(float pixels) override { return static_cast<int>(std::lround(pixels * 7.5f)); }
 };
 
 void check_inside(const Picture& picture, const Stage& stage) {
