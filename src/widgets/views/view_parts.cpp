@@ -169,12 +169,10 @@ void paint_readout(Picture& picture, const GaugeModel& model, const Stage& stage
     const Colour colour = zone_colour(model, model.current);
     const Colour ground = ground_for(colour);
     const BoxF inner = plate.inset(1);
-    paint_edge(picture, plate, theme_of(model), false);
-    picture.box(inner, ground);
     // Size and places follow from the widest value, so that nothing jumps while the value moves.
     const int size = stage.meter.tenths(plate.height() * 0.72f);
     const int unit_size = size * 3 / 4;
-    const float room = inner.width() - 4;
+    const float room = inner.width() - 2;
     const std::string widest = widest_value(model, stage.meter, size);
     std::string unit;
     if (with_unit && !model.no_title && !model.unit_text().empty() && unit_size >= stage.meter.tenths(least_text))
@@ -184,6 +182,8 @@ void paint_readout(Picture& picture, const GaugeModel& model, const Stage& stage
     const int fitted = fit_number(stage.meter, widest, size, room).tenths;
     if (fitted < stage.meter.tenths(least_text))
         return;
+    paint_edge(picture, plate, theme_of(model), false);
+    picture.box(inner, ground);
     const float slot = stage.meter.width(widest, fitted);
     const float left = std::round(plate.centre().x - (slot + stage.meter.width(unit, unit_size)) / 2);
     const float middle = plate.centre().y;
@@ -280,7 +280,9 @@ std::vector<Tick> ticks_of(const GaugeModel& model, float length, float least_ti
 BoxF take_outer_readout(BoxF& body) {
     if (body.height() / 2 >= small_radius && body.width() / 2 >= small_radius)
         return {};
-    const BoxF beside = take_side_readout(body, body.height());
+    // Where there is little width, the instrument leaves a part of its own to the number.
+    const float share = body.width() < 1.9f * body.height() ? 0.8f : 1.0f;
+    const BoxF beside = take_side_readout(body, body.height() * share);
     return beside.empty() ? take_lower_readout(body) : beside;
 }
 
