@@ -132,16 +132,14 @@ void lines_and_boxes(SurfaceBench& b) {
             ::SelectObject(dc, previous);
         });
     Held pen(dc);
-    const COLORREF light = ::GetSysColor(COLOR_3DHIGHLIGHT);
-    const COLORREF dark = ::GetSysColor(COLOR_3DDKSHADOW);
     b.row(
         "drawshadow", [&](int i) { o.drawshadow(wander(i), 5, wander(i) + 50, 60, 1); },
         [&](int i) {
             const int x = wander(i);
-            pen.replace(::CreatePen(PS_SOLID, 1, light));
+            pen.replace(::CreatePen(PS_SOLID, 1, ::GetSysColor(COLOR_3DHIGHLIGHT)));
             plain_line(dc, x, 5, x, 60);
             plain_line(dc, x, 60, x + 50, 60);
-            pen.replace(::CreatePen(PS_SOLID, 1, dark));
+            pen.replace(::CreatePen(PS_SOLID, 1, ::GetSysColor(COLOR_3DDKSHADOW)));
             plain_line(dc, x + 50, 5, x + 50, 60);
             plain_line(dc, x, 5, x + 50, 5);
         });
