@@ -12,8 +12,9 @@ namespace {
 
 constexpr int longest_number = 63;
 
+// White space, or a zero byte, which no word can hold.
 bool is_space(int c) {
-    return c == ' ' || ('\t' <= c && c <= '\r');
+    return c == ' ' || c == 0 || ('\t' <= c && c <= '\r');
 }
 
 // The first character that is no white space, or EOF.

@@ -1,0 +1,250 @@
+#include "pulse/wnt_pulse_file.h"
+#include "time/local_time.h"
+#include "time/result_error.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <string>
+#include <utility>
+
+using namespace wnt;
+
+namespace {
+
+void set_zone(const char* zone) {
+#ifdef _WIN32
+    _putenv_s("TZ", zone);
+    _tzset();
+#else
+    setenv("TZ", zone, 1);
+    tzset();
+#endif
+}
+
+// Each test in an empty folder of its own, in universal time.
+class PulseFile : public testing::Test {
+protected:
+    PulseFile() {
+        std::filesystem::create_directory(folder_);
+        std::filesystem::current_path(folder_);
+        set_zone("UTC0");
+    }
+    ~PulseFile() override {
+        std::filesystem::current_path(home_);
+        std::filesystem::remove_all(folder_);
+    }
+
+    // The bytes of a text file; lines end as the platform ends them.
+    static std::string text_of(const char* name) {
+        std::ifstream file(name);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+    static void write_text(const char* name, const std::string& text) { std::ofstream(name) << text; }
+
+private:
+    std::filesystem::path home_ = std::filesystem::current_path();
+    std::filesystem::path folder_ =
+        std::filesystem::temp_directory_path() / ("pulse-" + std::to_string(std::random_device()()));
+};
+
+constexpr std::int64_t afternoon = 1'794'837'839; // 16 November 2026, 14:03:59 UTC
+
+// What Get() comes to: the error code, or the result code that it raises.
+std::int32_t get(CWntPulseFile& file, int* curve, float* value, std::int64_t* time) {
+    try {
+        return file.Get(curve, value, time);
+    } catch (const ResultError& error) {
+        return error.code;
+    }
+}
+
+TEST_F(PulseFile, WritesTheHeaderOnceAndASampleALine) {
+    for (int run = 0; run < 2; ++run) {
+        CWntPulseFile file(CWntPulseFile::append);
+        file.SetLineCount(2);
+        file.SetLineTitle(0, "Pressure left");
+        file.SetLineTitle(1, "ABCDEFGHIJKLMNOPQRSTUVWXYZ");
+        ASSERT_EQ(file.Open("a.txt"), 0);
+        EXPECT_EQ(file.Put(2, 17.499F, afternoon), 29);
+        EXPECT_EQ(file.Put(-3, -0.5F, 0), 30);
+        EXPECT_EQ(file.Open("a.txt"), 8);
+        EXPECT_EQ(file.Put(1, 1, 1), 0);
+        EXPECT_EQ(file.GetError(), 9);
+    }
+    const std::string samples = "2;17.50;14:03:59;16/11/2026;\n-3;-0.50;00:00:00;01/01/1970;\n";
+    const std::string header = "2\nPressure left ;\nABCDEFGHIJKLMNOPQRSTUVWX ;\n";
+    EXPECT_EQ(text_of("a.txt"), header + samples + samples);
+#ifdef _WIN32
+    EXPECT_EQ(std::filesystem::file_size("a.txt"), header.size() + 2 * samples.size() + 7);
+#endif
+    CWntPulseFile emptied(CWntPulseFile::write, "a.txt");
+    EXPECT_EQ(text_of("a.txt"), "0\n");
+}
+
+TEST_F(PulseFile, ReadsWithAProtocol) {
+    write_text("a.txt", "2\nPressure  left ;\nabc; ;x\n2;17.50;14:03:59;16/11/2026;\n");
+    CWntPulseFile file(CWntPulseFile::read, "a.txt");
+    EXPECT_EQ(file.GetLineCount(), 2);
+    EXPECT_STREQ(file.GetLineTitle(0), "Pressure left ");
+    EXPECT_STREQ(file.GetLineTitle(1), "abc; ");
+    EXPECT_EQ(text_of("ReadHeader.out"), "Start\nerror: 0\n\nLineCount: 2\n"
+                                         "LineTitle[0]: Pressure  str: Pressure :8\n"
+                                         "LineTitle[0]: Pressure left  str: left :4\n"
+                                         "LineTitle[0]: Pressure left  str: ; :0\n"
+                                         "LineTitle[0]: Pressure left \n"
+                                         "LineTitle[1]: abc;  str: abc; :3\n"
+                                         "LineTitle[1]: abc;  str: ;x :0\n"
+                                         "LineTitle[1]: abc; \n");
+    int curve = 0;
+    float value = 0;
+    std::int64_t time = 0;
+    EXPECT_EQ(file.Get(&curve, &value, &time), 0);
+    EXPECT_TRUE(curve == 2 && value == 17.5F && time == afternoon) << curve << ' ' << value << ' ' << time;
+    EXPECT_EQ(file.Get(&curve, &value, &time), 6);
+    EXPECT_EQ(file.Get(nullptr, nullptr, nullptr), 6);
+    EXPECT_EQ(text_of("Get.out"), "Startd\nerror: 0\ni:3\ny:2026 m:11 d:16  h:14 m:3 s:59\n"
+                                  "Startd\nerror: 0\nStartd\nerror: 6\n");
+}
+
+TEST_F(PulseFile, BoundsEveryHeader) {
+    const std::string word(24, 'w');
+    const struct {
+        std::string text;
+        int error, count;
+        std::string title;
+    } cases[] = {
+        {"", 6, 0, ""},
+        {"many\n", 6, 0, ""},
+        {"99999999999\n", 6, 0, ""},
+        {"11\nA ;\n", 7, 0, ""},
+        {"-1\nA ;\n", 7, 0, ""},
+        {"1\n", 6, 1, ""},
+        {"1\nFlow left", 6, 1, "Flow left "},
+        {"1\n;\n", 0, 1, ""},
+        {"1 Flow\n;", 0, 1, "Flow "},
+        {"1\n" + word + " ;\n", 0, 1, word},
+        {"1\n" + word + "xyz ;\n", 0, 1, word},                                   // no blank fits
+        {"1\n" + word.substr(4) + " a b c d ;\n", 0, 1, word.substr(4) + " a b"}, // more words than fit
+        {"1\n" + std::string(100'000, 'w') + " ;\n", 0, 1, word},
+    };
+    for (const auto& c : cases) {
+        write_text("a.txt", c.text);
+        const CWntPulseFile file(CWntPulseFile::read, "a.txt");
+        EXPECT_TRUE(file.GetError() == c.error && file.GetLineCount() == c.count) << c.text.substr(0, 40);
+        EXPECT_EQ(file.GetLineTitle(0), c.title);
+    }
+}
+
+TEST_F(PulseFile, RefusesFaultySamples) {
+    const struct {
+        const char* text;
+        std::int32_t outcome;
+    } cases[] = {
+        {"+2; \n1e1;1:2:3;4/5/2006", 0},
+        {"1;1;01-02+03;04.05x2006;tail", 0}, // any separator
+        {"1;1;23:59:59;31/12/3000;", 0},
+        {"1;1;10:00:00;30/02/2024;", 0}, // 1 March
+        {"1;1;10:00:00;1/1/3002;", invalid_argument},
+        {"1;1;10:00:00;1/1/2147483647;", invalid_argument},
+        {"1;1;10:00:00;1/1/1969;", general_failure},
+        {"1;1;10:00:00;1/13/2024;", general_failure},
+        {"1;1;10:00:00;1/0/2024;", general_failure},
+        {"1;1;10:00:00;32/1/2024;", general_failure},
+        {"1;1;24:00:00;1/1/2024;", general_failure},
+        {"1;1;10:60:00;1/1/2024;", general_failure},
+        {"1;1;10:00:60;1/1/2024;", general_failure},
+        {"1;1;10:00:-1;1/1/2024;", general_failure},
+        {"1;1;10:00;1/1/2024;", general_failure},
+        {"1;1;10:00:00;1/1;2024", general_failure},
+        {"1;1;10:00:00", general_failure},
+        {"1;1;;;;;", general_failure},
+        {"1;1;100000000000000000000000000;", general_failure},
+        {"1;1;", 6},
+        {"1;1 ;1:2:3;4/5/2006", 6},
+        {"1 ;1;1:2:3;4/5/2006", 6},
+        {"1;;1:2:3;4/5/2006", 6},
+        {"99999999999;1;1:2:3;4/5/2006", 6},
+        {"1;1x;1:2:3;4/5/2006", 6},
+        {"text", 6},
+    };
+    for (const auto& c : cases) {
+        write_text("a.txt", std::string("0\n") + c.text);
+        CWntPulseFile file(CWntPulseFile::read, "a.txt");
+        int curve = -5;
+        std::int64_t time = -5;
+        EXPECT_EQ(get(file, &curve, nullptr, &time), c.outcome) << c.text;
+        EXPECT_EQ(curve != -5 && time != -5, c.outcome == 0) << c.text;
+    }
+    std::filesystem::remove("Get.out"); // would not go, were it still open
+    EXPECT_FALSE(std::filesystem::exists("Get.out"));
+}
+
+TEST_F(PulseFile, KeepsTheFirstError) {
+    CWntPulseFile closed(CWntPulseFile::read);
+    EXPECT_EQ(closed.Get(nullptr, nullptr, nullptr), 5);
+    EXPECT_EQ(closed.Open("a.txt"), 5);
+    EXPECT_EQ(closed.SetLineCount(11), 5);
+    EXPECT_EQ(closed.Put(1, 1, 1), 0);
+    EXPECT_EQ(closed.GetError(), 9);
+    EXPECT_EQ(CWntPulseFile(CWntPulseFile::write).WriteHeader(), 5);
+    EXPECT_EQ(CWntPulseFile(4, "a.txt").GetError(), 4);
+    for (int mode : {1, 2, 3}) {
+        EXPECT_EQ(CWntPulseFile(mode, "none/a.txt").GetError(), 1);
+        EXPECT_EQ(CWntPulseFile(mode, std::string(256, 'n').c_str()).GetError(), 1);
+        EXPECT_EQ(CWntPulseFile(mode, nullptr).GetError(), 1);
+    }
+
+    const struct {
+        int count, index, error;
+    } titles[] = {{3, 3, 0}, {3, 4, 7}, {3, -1, 7}, {10, 9, 0}, {10, 10, 7}, {11, 0, 7}};
+    for (const auto& c : titles) {
+        CWntPulseFile file(CWntPulseFile::write);
+        file.SetLineCount(c.count);
+        EXPECT_EQ(file.SetLineTitle(c.index, "title"), c.error) << c.count << ' ' << c.index;
+    }
+    const std::pair<int, const char*> texts[] = {
+        {2, "wrong use of get"}, {9, "errpr while writing data"}, {1, "undifined error"}, {10, "undifined error"}};
+    for (const auto& [code, text] : texts)
+        EXPECT_STREQ(CWntPulseFile::ErrorText(code), text);
+
+    CWntPulseFile file(CWntPulseFile::write, "a.txt");
+    EXPECT_THROW(file.Put(1, 1, -1), ResultError);
+    EXPECT_EQ(file.GetError(), 0);
+#ifdef __linux__
+    CWntPulseFile full(CWntPulseFile::write, "/dev/full");
+    for (int i = 0; i < 300; ++i) // until the stream's buffer can take no more
+        EXPECT_NE(full.Put(1, 1, 1), 0);
+    EXPECT_EQ(full.GetError(), 0);
+#endif
+}
+
+// A sample put while daylight saving was in effect comes back as standard time.
+TEST_F(PulseFile, ComesBackInEveryZone) {
+    const struct {
+        const char* zone;
+        int share; // of the year with daylight saving, in percent
+    } cases[] = {{"UTC0", 0}, {"CET-1CEST,M3.5.0,M10.5.0/3", 59}, {"EST5EDT,M3.2.0,M11.1.0", 65}, {"NST3:30", 0}};
+    for (const auto& c : cases) {
+        set_zone(c.zone);
+        CWntPulseFile written(CWntPulseFile::write, "a.txt");
+        CWntPulseFile file(CWntPulseFile::read, "a.txt");
+        int saving = 0;
+        for (int i = 0; i < 1200; ++i) {
+            const std::int64_t time = 1'767'225'600 + 1800 + std::int64_t{i} * 365 * 72; // through 2026
+            const bool saves = local_fields(time)->tm_isdst > 0;
+            saving += saves;
+            written.Put(1, 1, time);
+            std::int64_t back = 0;
+            ASSERT_EQ(get(file, nullptr, nullptr, &back), 0);
+            ASSERT_EQ(back, time + (saves ? 3600 : 0)) << c.zone;
+        }
+        EXPECT_NEAR(saving / 12., c.share, 7) << c.zone;
+    }
+}
+
+} // namespace
