@@ -1,5 +1,6 @@
 // Paints every view of a gauge whose size and script are generated, and checks that all ink stays inside. The first
 // two bytes are width and height in steps of four pixels, from 20 on; the rest are script lines.
+#include "even_meter.h"
 #include "widgets/views/gauge_view.h"
 
 #include <algorithm>
@@ -11,18 +12,6 @@
 using namespace wnt;
 
 namespace {
-
-class EvenMeter : public TextMeter {
-public:
-    float width(std::string_view text, int tenths) override {
-        return static_cast<float>(text.size()) * static_cast<float>(tenths) * 0.075f;
-    }
-    FontMetrics metrics(int tenths) override {
-        const float em = static_cast<float>(tenths) / 7.5f;
-        return {std::ceil(em * 0.92f), std::ceil(em * 0.22f), em * 0.72f};
-    }
-    int tenths(float pixels) override { return static_cast<int>(std::lround(pixels * 7.5f)); }
-};
 
 void check_inside(const Picture& picture, const Stage& stage) {
     for (const auto& f : picture.figures()) {

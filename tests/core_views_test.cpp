@@ -1,3 +1,4 @@
+#include "even_meter.h"
 #include "widgets/supersample.h"
 #include "widgets/views/gauge_view.h"
 #include "widgets/views/view_parts.h"
@@ -13,19 +14,6 @@
 using namespace wnt;
 
 namespace {
-
-// A face of even width: layout is judged without a device.
-class EvenMeter : public TextMeter {
-public:
-    float width(std::string_view text, int tenths) override {
-        return static_cast<float>(text.size()) * static_cast<float>(tenths) * 0.075f;
-    }
-    FontMetrics metrics(int tenths) override {
-        const float em = static_cast<float>(tenths) / 7.5f;
-        return {std::ceil(em * 0.92f), std::ceil(em * 0.22f), em * 0.72f};
-    }
-    int tenths(float pixels) override { return static_cast<int>(std::lround(pixels * 7.5f)); }
-};
 
 GaugeModel model_of(int type, std::initializer_list<const char*> lines = {}) {
     GaugeModel model(0xF5F5F5, 0xFFFFFF, 0x6A6A6A);

@@ -6,24 +6,21 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
-#include <cstdint>
 #include <vector>
+
+#include "pixels.h"
 
 inline constexpr COLORREF poison = RGB(255, 0, 254); // no widget paints it
 
-/// The pixels of a window's client area.
+/// What a window's client area shows; positions count from the upper left.
 struct Pixels {
     int width = 0;
     int height = 0;
-    std::vector<std::uint32_t> values; // 0x00RRGGBB, upper row first
+    std::vector<COLORREF> values;
 
-    COLORREF at(int x, int y) const {
-        const std::uint32_t v = values[static_cast<std::size_t>(y) * width + x];
-        return RGB(v >> 16 & 0xFF, v >> 8 & 0xFF, v & 0xFF);
-    }
+    COLORREF at(int x, int y) const { return values[static_cast<std::size_t>(y) * width + x]; }
     long count(COLORREF colour) const {
-        const std::uint32_t v = GetRValue(colour) << 16 | GetGValue(colour) << 8 | GetBValue(colour);
-        return static_cast<long>(std::count(values.begin(), values.end(), v));
+        return static_cast<long>(std::count(values.begin(), values.end(), colour));
     }
     friend bool operator==(const Pixels&, const Pixels&) = default;
 };
@@ -31,24 +28,9 @@ struct Pixels {
 inline Pixels pixels_of(CWnd& window) {
     CRect client;
     window.GetClientRect(&client);
-    Pixels p = {client.Width(), client.Height(), {}};
-    p.values.resize(static_cast<std::size_t>(p.width) * p.height);
-    BITMAPINFO info = {};
-    info.bmiHeader = {sizeof info.bmiHeader, p.width, -p.height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-    CClientDC dc(&window);
-    HDC memory = ::CreateCompatibleDC(dc.m_hDC);
-    void* bits = nullptr;
-    HBITMAP bitmap = ::CreateDIBSection(memory, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-    HGDIOBJ previous = ::SelectObject(memory, bitmap);
-    ::BitBlt(memory, 0, 0, p.width, p.height, dc.m_hDC, 0, 0, SRCCOPY);
-    ::GdiFlush();
-    std::copy_n(static_cast<const std::uint32_t*>(bits), p.values.size(), p.values.begin());
-    for (auto& v : p.values)
-        v &= 0xFFFFFF;
-    ::SelectObject(memory, previous);
-    ::DeleteObject(bitmap);
-    ::DeleteDC(memory);
-    return p;
+    Picture picture(client.Width(), client.Height());
+    picture.capture(window.m_hWnd);
+    return {client.Width(), client.Height(), picture.values()};
 }
 
 inline void full_repaint(CWnd& widget) {

@@ -61,17 +61,20 @@ bool PictureScreen::overlap(const Area& a, const Area& b) {
     return a.left < b.right && b.left < a.right && a.bottom < b.top && b.bottom < a.top;
 }
 
-// Keeps the areas apart from each other: one that meets others swallows them.
+// Areas that meet become one, unless that would cover much more than both: a line across a column, say. Each area is
+// drawn whole, so it does no harm that some lie over each other.
 void PictureScreen::add_area(Area area) {
     if (area.empty())
         return;
     for (std::size_t i = 0; i < areas_.size();) {
-        if (!overlap(areas_[i], area)) {
+        const Area& other = areas_[i];
+        const Area both = {std::min(area.left, other.left), std::min(area.bottom, other.bottom),
+                           std::max(area.right, other.right), std::max(area.top, other.top)};
+        if (!overlap(other, area) || 2 * both.size() > 3 * (area.size() + other.size())) {
             ++i;
             continue;
         }
-        area = {std::min(area.left, areas_[i].left), std::min(area.bottom, areas_[i].bottom),
-                std::max(area.right, areas_[i].right), std::max(area.top, areas_[i].top)};
+        area = both;
         areas_[i] = areas_.back();
         areas_.pop_back();
         i = 0;

@@ -24,6 +24,7 @@ private:
     struct Area { // pixels, y up, right and top exclusive
         int left, bottom, right, top;
         bool empty() const { return left >= right || bottom >= top; }
+        long size() const { return static_cast<long>(right - left) * (top - bottom); }
     };
 
     Area pixels_of(const BoxF& box) const;
