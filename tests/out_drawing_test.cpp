@@ -48,7 +48,6 @@ TEST_F(SurfaceTest, PolygonsAreEvenOddAndLeaveTheArrayAsItWas) {
             EXPECT_EQ(points[2].y, 8);
             EXPECT_EQ(points[7].y, 6);
             EXPECT_EQ(o.linecolour_, red);
-            EXPECT_EQ(::GetBkMode(o.dc), TRANSPARENT);
         };
     };
     const std::string outlined = drawn(9, 9, nested([](CWntOut& o, POINT* p) { o.fillpoly(p, 10); }));
@@ -90,6 +89,7 @@ TEST_F(SurfaceTest, GapsOfAHatchFollowABitOfTheFillColour) {
             ::SetBkColor(o.dc, RGB(0, 0, 255));
             o.fillcolour(colour, 6);
             o.fillpoly(square, 4);
+            EXPECT_EQ(::GetBkMode(o.dc), TRANSPARENT);
         });
         EXPECT_GT(picture.count(colour), 100);
         EXPECT_EQ(picture.count(ground) > 500, colour == RGB(0, 0x10, 0));
@@ -119,7 +119,7 @@ TEST_F(SurfaceTest, RoundFiguresKeepTheirBounds) {
         COLORREF middle;
     } cases[] = {
         {"drawcircle", [](CWntOut& o) { o.drawcircle(40, 40, 20); }, 20, 21, 59, 60, ground},
-        {"fillcircle", [](CWntOut& o) { o.fillcircle(40, 40, 20, 10); }, 20, 30, 61, 50, green},
+        {"fillcircle", [](CWntOut& o) { o.fillcircle(40, 40, 20, 10); }, 20, 31, 60, 50, green},
         {"whole pie", [](CWntOut& o) { o.pieslice(40, 40, 20, 10, 0, 16384); }, 20, 31, 60, 49, green},
         {"dot", [](CWntOut& o) { o.drawmarker(40, 40, 3, 5); }, 38, 39, 41, 42, ground},
         {"larger dot", [](CWntOut& o) { o.drawmarker(40, 40, 12, 5); }, 37, 38, 42, 43, ground},
@@ -131,7 +131,7 @@ TEST_F(SurfaceTest, RoundFiguresKeepTheirBounds) {
         paint(picture, c.draw);
         const RECT ink = picture.ink(ground);
         const LONG misses[] = {ink.left - c.left, ink.bottom - c.bottom, ink.right - c.right, ink.top - c.top};
-        EXPECT_THAT(misses, testing::Each(testing::AllOf(testing::Ge(-1), testing::Le(1)))) << c.name;
+        EXPECT_THAT(misses, testing::Each(0)) << c.name;
         EXPECT_EQ(picture.at(37, 42), c.middle) << c.name;
         EXPECT_EQ(picture.at((ink.left + ink.right) / 2, ink.top), red) << c.name;
         EXPECT_EQ(picture.at(ink.left, ink.bottom), ground) << c.name;
