@@ -12,6 +12,7 @@ namespace {
 
 struct CommandLine {
     std::vector<CString> scripts;
+    bool render = false;
     CString render_to;
     CSize size = {0, 0};
     bool good = true;
@@ -20,9 +21,14 @@ struct CommandLine {
 bool read_size(const char* text, CSize& size) {
     int width = 0;
     int height = 0;
-    if (std::sscanf(text, "%5dx%5d", &width, &height) != 2 || width < 1 || height < 1 || width > 4096 ||
-        height > 4096)
+    char rest = 0;
+    if (std::sscanf(text, "%5dx%5d%c", &width, &height, &rest) != 2 || width < 1 || height < 1)
         return false;
+    // What lies beyond the screen would not be painted.
+    if (width > ::GetSystemMetrics(SM_CXSCREEN) || height > ::GetSystemMetrics(SM_CYSCREEN)) {
+        std::fprintf(stderr, "the screen is smaller than %s\n", text);
+        return false;
+    }
     size = CSize(width, height);
     return true;
 }
@@ -32,15 +38,18 @@ CommandLine read_command_line(int count, char** arguments) {
     for (int i = 1; i < count; ++i) {
         const bool render = std::strcmp(arguments[i], "--render") == 0;
         const bool size = std::strcmp(arguments[i], "--size") == 0;
-        if ((render || size) && ++i == count)
+        if ((render || size) && ++i == count) {
             line.good = false;
-        else if (render)
+        } else if (render) {
+            line.render = true;
             line.render_to = arguments[i];
-        else if (size)
+        } else if (size) {
             line.good = line.good && read_size(arguments[i], line.size);
-        else
+        } else {
             line.scripts.push_back(arguments[i]);
+        }
     }
+    line.good = line.good && (!line.render || !line.render_to.IsEmpty()) && (line.render || line.size.cx == 0);
     return line;
 }
 
@@ -52,14 +61,14 @@ public:
             std::fputs("usage: zopgallery [--render DIR [--size WxH]] [FILE...]\n", stderr);
             return Fail();
         }
-        if (!line.render_to.IsEmpty()) {
+        if (line.render) {
             result_ = RenderGallery(line.render_to, line.size, line.scripts) ? 0 : 1;
             return FALSE;
         }
         auto* frame = new CGalleryFrame(line.scripts);
-        m_pMainWnd = frame;
-        if (!frame->Open())
+        if (!frame->Open()) // it deletes itself
             return Fail();
+        m_pMainWnd = frame;
         frame->ShowPage(line.scripts.empty() ? 2 : 3);
         frame->ShowWindow(m_nCmdShow);
         frame->UpdateWindow();

@@ -63,5 +63,6 @@ GalleryPages MakePages(const std::vector<CString>& scripts) {
     pages.push_back(MakeScriptsPage(scripts));
     pages.push_back(MakeButtonsPage());
     pages.push_back(MakeScrollBarsPage());
+    pages.push_back(MakePulsePage());
     return pages;
 }

@@ -70,7 +70,7 @@ bool RenderPages(const CString& folder, CSize size, const std::vector<CString>& 
 bool RenderScript(const CString& folder, CSize size, const CString& script) {
     CStudio studio;
     CWntGauge gauge;
-    if (::GetFileAttributesA(script) == INVALID_FILE_ATTRIBUTES) {
+    if (::GetFileAttributesA(script) & FILE_ATTRIBUTE_DIRECTORY) { // of a missing file all bits are set
         std::fprintf(stderr, "no such script: %s\n", script.GetString());
         return false;
     }

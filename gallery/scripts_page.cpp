@@ -20,7 +20,6 @@ protected:
         const std::size_t count = std::max<std::size_t>(scripts_.size(), 1);
         for (std::size_t i = 0; i < count; ++i) {
             auto gauge = std::make_unique<CWntGauge>();
-            gauge->SetTestMode(scripts_.empty());
             if (!gauge->Create(nullptr, "Gauge", WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), this,
                                static_cast<UINT>(10 + i)))
                 return false;

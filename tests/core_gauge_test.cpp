@@ -41,7 +41,7 @@ TEST(GaugeModel, EveryKeyMarksItsPartForRepaint) {
                                                       {":TYPE=ANALOG", 1},
                                                       {":ID=x", 0},
                                                       {":TITLE=x", 1},
-                                                      {":UNITTITLE=x", 1},
+                                                      {":UNITTITLE=x", 0},
                                                       {":MINVAL=1", 1},
                                                       {":MAXVAL=1", 1},
                                                       {":CURVAL=1", 2},

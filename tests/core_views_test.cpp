@@ -24,6 +24,7 @@ public:
         const float em = static_cast<float>(tenths) / 7.5f;
         return {std::ceil(em * 0.92f), std::ceil(em * 0.22f), em * 0.72f};
     }
+    int tenths(float pixels) override { return static_cast<int>(std::lround(pixels * 7.5f)); }
 };
 
 GaugeModel model_of(int type, std::initializer_list<const char*> lines = {}) {

@@ -1,3 +1,4 @@
+#include "pixels.h"
 #include "widget_window.h"
 
 #include <algorithm>
@@ -253,6 +254,25 @@ TEST_F(GaugeTest, HoldsAtAnySizeRangeAndCall) {
     gauge.DestroyWindow();
     gauge.SetCurVal(7);
     gauge.LoadLine("", 2);
+}
+
+TEST_F(GaugeTest, LeavesNoDrawingObjectsBehind) {
+    const auto use = [&] {
+        CWntGauge gauge;
+        open(gauge, 90, 90);
+        CWntButton button;
+        open(button, 40, 20);
+        for (const char* type : types) {
+            script(gauge, {std::string(":TYPE=") + type});
+            for (int i = 0; i < 20; ++i)
+                gauge.SetCurVal(i);
+        }
+    };
+    use(); // what is made once for the process
+    const int before = live_gdi_objects();
+    for (int i = 0; i < 20; ++i)
+        use();
+    EXPECT_LE(live_gdi_objects(), before);
 }
 
 TEST_F(GaugeTest, TracesToItsLog) {

@@ -47,7 +47,7 @@ void report_overflow() {
 void format_line(char (&text)[text_limit], const char* format, va_list arguments) {
     if (!format)
         text[0] = '\0';
-    else if (!format_secure(text, format, arguments))
+    if (!format || !format_secure(text, format, arguments))
         report_overflow();
     trace_state().last_line = text;
 }

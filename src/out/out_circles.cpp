@@ -1,7 +1,9 @@
 #include "out/wnt_out.h"
 
 #include <algorithm>
+#include <cstdlib>
 
+#include "out/device_range.h"
 #include "out/device_state.h"
 #include "out/geometry.h"
 
@@ -9,28 +11,28 @@ namespace wrapped = wnt::wrapped;
 
 namespace {
 
-// The platform walks a curve row by row: beyond this one would be waited for, and shows nowhere as a curve.
-bool drawable_radius(int r) {
-    constexpr int largest = 0xFFFFF;
-    return r >= -largest && r <= largest;
+// Devices fail over round figures of a million pixels; such a figure is not drawn.
+bool drawable(int x, int y, int rx, int ry) {
+    const std::int64_t reach_x = std::abs(std::int64_t{rx});
+    const std::int64_t reach_y = std::abs(std::int64_t{ry});
+    return wnt::in_device_range(x - reach_x) && wnt::in_device_range(x + reach_x) &&
+           wnt::in_device_range(y - reach_y) && wnt::in_device_range(y + reach_y);
 }
 
 } // namespace
 
 void CWntOut::drawcircle(int x, int y, int r) {
-    if (!ready() || !drawable_radius(r))
+    if (!ready() || !drawable(x, y, r, r))
         return;
     const int middle = flip(y);
-    const int right = wrapped::add(x, r);
-    ::Arc(dc, wrapped::subtract(x, r), wrapped::subtract(middle, r), right, wrapped::add(middle, r), right, middle, right, middle);
+    ::Arc(dc, x - r, middle - r, x + r, middle + r, x + r, middle, x + r, middle);
 }
 
 void CWntOut::fillcircle(int x, int y, int rx, int ry) {
-    if (!ready() || !drawable_radius(rx) || !drawable_radius(ry))
+    if (!ready() || !drawable(x, y, rx, ry))
         return;
     const int middle = flip(y);
-    wnt::GdiObject<HRGN> region(::CreateEllipticRgn(wrapped::subtract(x, rx), wrapped::subtract(middle, ry),
-                                                    wrapped::add(wrapped::add(x, rx), 2), wrapped::add(wrapped::add(middle, ry), 1)));
+    wnt::GdiObject<HRGN> region(::CreateEllipticRgn(x - rx, middle - ry, x + rx + 2, middle + ry + 1));
     if (!region)
         return;
     // Intended: the colour is handed over as the mix mode; other values than the two modes change nothing.
@@ -43,28 +45,27 @@ void CWntOut::fillcircle(int x, int y, int rx, int ry) {
 }
 
 void CWntOut::pieslice(int x, int y, int rx, int ry, int a1, int a2) {
-    if (!ready() || !drawable_radius(rx) || !drawable_radius(ry))
+    if (!ready() || !drawable(x, y, rx, ry))
         return;
     const auto b1 = static_cast<unsigned short>(wrapped::multiply(a1, 4));
     const auto b2 = static_cast<unsigned short>(wrapped::multiply(a2, 4));
     const int middle = flip(y);
     const int start_rise = intsin(b1, ry);
     const int end_rise = intsin(b2, ry);
-    const int sx = wrapped::add(x, intcos(b1, rx));
-    const int sy = wrapped::subtract(middle, start_rise);
-    int ex = wrapped::add(x, intcos(b2, rx));
-    int ey = wrapped::subtract(middle, end_rise);
+    const int sx = x + intcos(b1, rx);
+    const int sy = middle - start_rise;
+    int ex = x + intcos(b2, rx);
+    int ey = middle - end_rise;
 
-    const int dx = wrapped::subtract(sx, ex);
-    const int dy = wrapped::subtract(end_rise, start_rise);
+    const int dx = sx - ex;
+    const int dy = end_rise - start_rise;
     if (wrapped::add(wrapped::multiply(dx, dx), wrapped::multiply(dy, dy)) < 2) {
         if (wrapped::subtract(a2, a1) < 4097)
             return; // too thin to see
         ex = sx;    // a whole turn
         ey = sy;
     }
-    ::Pie(dc, wrapped::subtract(x, rx), wrapped::add(wrapped::subtract(middle, ry), 1), wrapped::add(wrapped::add(x, rx), 1), wrapped::add(middle, ry),
-          sx, sy, ex, ey);
+    ::Pie(dc, x - rx, middle - ry + 1, x + rx + 1, middle + ry, sx, sy, ex, ey);
 }
 
 void CWntOut::piesection(int x, int y, int rx, int ry, int a1, int a2, int) {

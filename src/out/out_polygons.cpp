@@ -1,15 +1,54 @@
 #include "out/wnt_out.h"
 
 #include <algorithm>
+#include <cmath>
 #include <memory>
 #include <new>
+#include <vector>
 
+#include "out/device_range.h"
 #include "out/device_state.h"
 
 namespace {
 
 constexpr int copied_points = 20;
 constexpr int widest_line = 0x7FFF;
+
+wnt::DevicePoint precise(const POINT& p) {
+    return {static_cast<double>(p.x), static_cast<double>(p.y)};
+}
+
+POINT rounded(const wnt::DevicePoint& p) {
+    return {std::lround(p.x), std::lround(p.y)};
+}
+
+void draw_polygon(HDC dc, const POINT* pts, int n) {
+    if (wnt::in_device_range(pts, n)) {
+        ::Polygon(dc, pts, n);
+        return;
+    }
+    std::vector<wnt::DevicePoint> whole(n);
+    std::transform(pts, pts + n, whole.begin(), precise);
+    const auto kept = wnt::polygon_in_range(std::move(whole));
+    std::vector<POINT> near_points(kept.size());
+    std::transform(kept.begin(), kept.end(), near_points.begin(), rounded);
+    ::Polygon(dc, near_points.data(), static_cast<int>(near_points.size()));
+}
+
+void draw_polyline(HDC dc, const POINT* pts, int n) {
+    if (wnt::in_device_range(pts, n)) {
+        ::Polyline(dc, pts, n);
+        return;
+    }
+    for (int i = 1; i < n; ++i) {
+        wnt::DevicePoint from = precise(pts[i - 1]);
+        wnt::DevicePoint to = precise(pts[i]);
+        if (!wnt::segment_in_range(from, to))
+            continue;
+        const POINT segment[2] = {rounded(from), rounded(to)};
+        ::Polyline(dc, segment, 2);
+    }
+}
 
 } // namespace
 
@@ -32,7 +71,7 @@ void CWntOut::dopoly(POINT* pts, int n, long fill) {
     const COLORREF outline = linecolour_;
     if (!fill)
         linecolour(fillcolour_, 0);
-    ::Polygon(dc, pts, n);
+    draw_polygon(dc, pts, n);
     flip_points(pts, n);
     if (!fill)
         linecolour(outline, 0);
@@ -81,11 +120,11 @@ void CWntOut::geomline(POINT* pts, int n, int width) {
         return;
     flip_points(pts, n);
     if (width == 0) {
-        ::Polyline(dc, pts, n);
+        draw_polyline(dc, pts, n);
     } else {
         wnt::GdiObject<HPEN> wide(::CreatePen(PS_SOLID, std::clamp(width, -widest_line, widest_line - 1) + 1, fillcolour_));
         wnt::SelectGuard selected(dc, wide.get());
-        ::Polyline(dc, pts, n);
+        draw_polyline(dc, pts, n);
     }
     flip_points(pts, n);
 }

@@ -7,7 +7,9 @@ namespace {
 
 constexpr int highest_font = 4096; // pixels: higher than any screen, and still made in no time
 
-int screen_resolution() {
+} // namespace
+
+int wnt::screen_dots_per_inch() {
     static const int dots_per_inch = [] {
         HDC screen = ::GetDC(nullptr);
         const int dots = ::GetDeviceCaps(screen, LOGPIXELSY);
@@ -17,11 +19,9 @@ int screen_resolution() {
     return dots_per_inch ? dots_per_inch : USER_DEFAULT_SCREEN_DPI;
 }
 
-} // namespace
-
 HFONT wnt::make_point_font(const LOGFONTA& description) {
     LOGFONTA pixels = description;
-    const int height = ::MulDiv(screen_resolution(), description.lfHeight, 720);
+    const int height = ::MulDiv(screen_dots_per_inch(), description.lfHeight, 720);
     pixels.lfHeight = -std::min(std::abs(height), highest_font);
     return ::CreateFontIndirectA(&pixels);
 }

@@ -4,6 +4,8 @@
 
 namespace wnt {
 
+int screen_dots_per_inch();
+
 /// Makes a font `tenths` tenths of a point high, as the screen's resolution measures them; the caller deletes it.
 /// An empty face name gives the system's default face.
 HFONT make_point_font(int tenths, const char* face);

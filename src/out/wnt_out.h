@@ -112,6 +112,7 @@ public:
     void crosslines(POINT* pts, int n, int step);
 
     // -- Circles and pies -------------------------------------------------------------------------------------------
+    // Figures that reach farther than 131072 pixels from the origin are not drawn.
 
     void drawcircle(int x, int y, int r);
     void fillcircle(int x, int y, int rx, int ry);

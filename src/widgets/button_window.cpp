@@ -179,4 +179,5 @@ void CWntButton::OnSize(UINT type, int cx, int cy) {
     box_->height = cy;
     out_.SetWindowPos(nullptr, 0, 0, cx, cy, SWP_NOZORDER | SWP_NOACTIVATE);
     out_.ShowWindow(SW_SHOW);
+    Invalidate(FALSE); // a smaller window is laid out anew, too
 }

@@ -18,8 +18,12 @@ int ignore(GaugeModel&, std::string_view) {
     return 0;
 }
 
-template <auto Field> int store_integer(GaugeModel& model, std::string_view value) {
-    model.*Field = integer_value(value);
+// Values that were measured on another scale are no course to show on this one.
+template <auto Field> int store_bound(GaugeModel& model, std::string_view value) {
+    const std::int32_t bound = integer_value(value);
+    if (bound != model.*Field)
+        model.history.clear();
+    model.*Field = bound;
     return repaint_face;
 }
 
@@ -41,6 +45,11 @@ template <auto Field> int store_title(GaugeModel& model, std::string_view value)
 template <auto Field, const auto& Words> int store_keyword(GaugeModel& model, std::string_view value) {
     model.*Field = keyword_lookup(Words, value, std::size(Words));
     return repaint_face;
+}
+
+int store_unit_title(GaugeModel& model, std::string_view value) {
+    copy_title(model.unit_title, value);
+    return 0; // intended: unlike the title, it asks for no repaint of its own
 }
 
 int store_id(GaugeModel& model, std::string_view value) {
@@ -89,9 +98,9 @@ constexpr KeyRule key_rules[] = {
     store_keyword<&GaugeModel::type, gauge_type_words>,         // TYPE
     store_id,                                                   // ID
     store_title<&GaugeModel::title>,                            // TITLE
-    store_title<&GaugeModel::unit_title>,                       // UNITTITLE
-    store_integer<&GaugeModel::minimum>,                        // MINVAL
-    store_integer<&GaugeModel::maximum>,                        // MAXVAL
+    store_unit_title,                                           // UNITTITLE
+    store_bound<&GaugeModel::minimum>,                          // MINVAL
+    store_bound<&GaugeModel::maximum>,                          // MAXVAL
     store_current,                                              // CURVAL
     store_mark,                                                 // SETMARK
     remove_marks,                                               // CLEARMARKS
@@ -119,7 +128,7 @@ void GaugeModel::load_line(std::string_view line) {
         return;
     const KeyRule rule = key_rules[key];
     repaint_mask |= rule(*this, parts.value);
-    if (rule != store_current)
+    if (rule != store_current && rule != ignore && rule != store_id)
         ++face_revision;
 }
 
@@ -141,6 +150,8 @@ bool GaugeModel::set_current_value(std::int32_t value) {
 }
 
 void GaugeModel::set_range(std::int32_t low, std::int32_t high) {
+    if (low != minimum || high != maximum)
+        history.clear();
     minimum = low;
     maximum = high;
     repaint_mask = repaint_all;
@@ -164,7 +175,6 @@ void GaugeModel::clear() {
     set_range(0, 100);
     current = 50;
     history.clear();
-    history.record(current);
 }
 
 void GaugeModel::clear_marks() {

@@ -25,13 +25,14 @@ public:
         : handle_(::CreateFileA(name.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
                                 FILE_ATTRIBUTE_NORMAL, nullptr)) {}
     ~ScriptFile() {
-        if (is_open())
+        if (handle_ != INVALID_HANDLE_VALUE)
             ::CloseHandle(handle_);
     }
     ScriptFile(const ScriptFile&) = delete;
     ScriptFile& operator=(const ScriptFile&) = delete;
 
-    bool is_open() const { return handle_ != INVALID_HANDLE_VALUE; }
+    /// Devices and pipes do not count: reading them might never end.
+    bool is_open() const { return handle_ != INVALID_HANDLE_VALUE && ::GetFileType(handle_) == FILE_TYPE_DISK; }
 
     /// Reads a block; a negative count is a read error.
     int operator()(char* to, int capacity) {
@@ -104,6 +105,7 @@ void CWntGauge::run_built_in_script() {
     LoadLine("", wnt::script_begin);
     for (const std::string_view line : wnt::gauge_built_in_script)
         LoadLine(line.data(), wnt::script_line);
+    model_->history.clear(); // a sample is no measured value
     LoadLine("", wnt::script_end);
 }
 
@@ -246,6 +248,7 @@ void CWntGauge::OnSize(UINT type, int cx, int cy) {
     place(scroll_bar_, 0, test ? height_ : 0, test ? cx - button : 0, strip);
     place(switch_button_, test ? cx - button : 0, test ? height_ : 0, button, strip);
     model_->repaint_mask = wnt::repaint_all;
+    Invalidate(FALSE); // a smaller window is laid out anew, too
 }
 
 void CWntGauge::OnHScroll(UINT request, UINT position, CScrollBar* bar) {

@@ -1,16 +1,18 @@
 #include "widgets/gdi_text_meter.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
 
 #include "out/device_state.h"
+#include "out/point_font.h"
 #include "out/text_font.h"
 
 namespace wnt {
 
 namespace {
 
-constexpr std::size_t remembered_fonts = 16;
+constexpr std::size_t remembered_fonts = 48;
 
 } // namespace
 
@@ -55,6 +57,10 @@ float GdiTextMeter::width(std::string_view text, int tenths) {
     for (unsigned char c : text)
         sum += f.widths[c];
     return static_cast<float>(sum);
+}
+
+int GdiTextMeter::tenths(float pixels) {
+    return static_cast<int>(std::lround(pixels * 720 / static_cast<float>(screen_dots_per_inch())));
 }
 
 FontMetrics GdiTextMeter::metrics(int tenths) {

@@ -12,6 +12,7 @@ class GdiTextMeter : public TextMeter {
 public:
     float width(std::string_view text, int tenths) override;
     FontMetrics metrics(int tenths) override;
+    int tenths(float pixels) override;
 
 private:
     struct Font {

@@ -2,9 +2,15 @@
 
 namespace wnt {
 
+namespace {
+
+constexpr std::int64_t most_pixels = 64 * 1024 * 1024; // far beyond any screen
+
+} // namespace
+
 bool MemorySurface::create(int width, int height) {
     release();
-    if (width < 1 || height < 1)
+    if (width < 1 || height < 1 || std::int64_t{width} * height > most_pixels)
         return false;
     BITMAPINFO info = {};
     info.bmiHeader.biSize = sizeof info.bmiHeader;

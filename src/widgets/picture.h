@@ -54,6 +54,8 @@ public:
     virtual ~TextMeter() = default;
     virtual float width(std::string_view text, int tenths) = 0;
     virtual FontMetrics metrics(int tenths) = 0;
+    /// The size of a text this many pixels high.
+    virtual int tenths(float pixels) = 0;
 };
 
 /// A list of figures: what a view wants to be seen, without a device. Two lists of the same view can be compared, so

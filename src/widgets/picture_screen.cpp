@@ -16,7 +16,7 @@ constexpr long band_subpixels = 512 * 1024; // work area for enlarged shapes
 int scale_for(HDC dc, int width, int height) {
     if (::GetDeviceCaps(dc, BITSPIXEL) * ::GetDeviceCaps(dc, PLANES) <= 8)
         return 1;
-    return static_cast<long>(width) * height <= small_picture ? 4 : 2;
+    return std::int64_t{width} * height <= small_picture ? 4 : 2;
 }
 
 // True for two boxes of one colour that differ in one side only, as a bar that grew or shrank.
@@ -154,11 +154,20 @@ void PictureScreen::render_shapes(MemorySurface& target, const Picture& picture,
         render_band(target, picture, {area.left, bottom, area.right, std::min(bottom + rows, area.top)});
 }
 
+// The work area grows to what bands of different shapes need, but not to the product of the widest and the highest.
+bool PictureScreen::make_scratch(int width, int height) {
+    if (scratch_.width() >= width && scratch_.height() >= height)
+        return true;
+    const int both_width = std::max(scratch_.width(), width);
+    const int both_height = std::max(scratch_.height(), height);
+    return std::int64_t{both_width} * both_height <= 2 * band_subpixels ? scratch_.create(both_width, both_height)
+                                                                        : scratch_.create(width, height);
+}
+
 void PictureScreen::render_band(MemorySurface& target, const Picture& picture, const Area& band) {
     const int width = band.right - band.left;
     const int height = band.top - band.bottom;
-    if ((scratch_.width() < width * scale_ || scratch_.height() < height * scale_) &&
-        !scratch_.create(std::max(scratch_.width(), width * scale_), std::max(scratch_.height(), height * scale_)))
+    if (!make_scratch(width * scale_, height * scale_))
         return;
     const auto pitch = static_cast<std::size_t>(scratch_.width());
     const int first_row = target.height() - band.top;

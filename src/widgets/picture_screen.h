@@ -32,6 +32,7 @@ private:
     void collect_changes(const Picture& shown, const Picture& value);
     void render(MemorySurface& target, const Picture& picture, const Area& area);
     void render_shapes(MemorySurface& target, const Picture& picture, const Area& area);
+    bool make_scratch(int width, int height);
     void render_band(MemorySurface& target, const Picture& picture, const Area& band);
     void render_texts(MemorySurface& target, const Picture& picture, const Area& area);
     void draw_shape(CWntOut& out, const Picture& picture, const Picture::Figure& figure, int left_subpixel);

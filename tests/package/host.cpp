@@ -34,9 +34,9 @@ class HostApp : public CWinApp {
 public:
     BOOL InitInstance() override {
         auto* window = new HostWindow;
-        m_pMainWnd = window;
         if (!window->open())
             return FALSE;
+        m_pMainWnd = window;
         window->gauge.LoadLine(":TYPE=ANALOG", 0);
         window->gauge.LoadLine("", 2);
         window->gauge.SetCurVal(42);

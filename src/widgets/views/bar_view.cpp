@@ -28,12 +28,12 @@ Bar lay_out_bar(const GaugeModel& model, const Stage& stage) {
     const BoxF& body = b.layout.body;
     const float height = body.height();
     if (height >= 40 && body.width() >= 50)
-        b.label_size = label_size_for(model, stage.meter, text_size(std::clamp(height * 0.10f, 7.0f, 16.0f)),
+        b.label_size = label_size_for(model, stage.meter, stage.meter.tenths(std::clamp(height * 0.10f, 7.0f, 26.0f)),
                                       body.width() * 0.30f);
     const float labels = b.label_size ? stage.meter.metrics(b.label_size).height() + height * 0.05f + 3 : 0;
     const float ends = b.label_size ? widest_label(model, stage.meter, b.label_size) / 2 : 0;
     const float strip = std::clamp(height * 0.07f, 2.0f, 10.0f);
-    const float plate = height >= 70 && body.width() >= 56 ? std::clamp(height * 0.17f, 14.0f, 34.0f) : 0;
+    const float plate = height >= 70 && body.width() >= 56 ? std::clamp(height * 0.17f, 14.0f, 60.0f) : 0;
     const float gap = plate > 0 ? std::round(height * 0.06f) : 0;
     const float room = height - strip - labels - plate - gap - 2;
     const float bar = b.label_size ? std::min({room, height * 0.42f, body.width() * 0.30f}) : room;
@@ -52,7 +52,7 @@ Bar lay_out_bar(const GaugeModel& model, const Stage& stage) {
     }
     if (b.groove.top < b.groove.bottom + 2)
         b.groove.top = b.groove.bottom + 2;
-    b.bar_size = text_size(std::clamp(b.groove.height() * 0.55f, 6.0f, 30.0f));
+    b.bar_size = stage.meter.tenths(std::clamp(b.groove.height() * 0.55f, 6.0f, 60.0f));
     return b;
 }
 
@@ -129,11 +129,11 @@ void bar_value(Picture& picture, const GaugeModel& model, const Stage& stage) {
 
     const bool titled = title_on_bar(model);
     const FittedText percent =
-        fit(stage.meter, percent_text(model), b.bar_size, b.groove.width() * (titled ? 0.35f : 0.9f), text_size(5));
+        fit_number(stage.meter, percent_text(model), b.bar_size, b.groove.width() * (titled ? 0.35f : 0.9f));
     const PointF middle = b.groove.centre();
     if (titled) {
         const FittedText title =
-            fit(stage.meter, model.title_text(), b.bar_size, b.groove.width() * 0.6f - 4, text_size(6));
+            fit(stage.meter, model.title_text(), b.bar_size, b.groove.width() * 0.6f - 4, stage.meter.tenths(6));
         write_over(picture, stage, filled, empty, {b.groove.left + 4, middle.y}, HAlign::left, title, colour,
                    theme.text);
         write_over(picture, stage, filled, empty, {b.groove.right - 4, middle.y}, HAlign::right, percent, colour,

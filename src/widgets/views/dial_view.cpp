@@ -11,7 +11,6 @@ namespace {
 
 constexpr float least_labelled_radius = 26;
 constexpr float least_written_radius = 46; // for unit and title between the labels
-constexpr float small_radius = 42; // below, a readout on the dial could not be read
 
 struct Dial {
     Layout layout;
@@ -20,27 +19,46 @@ struct Dial {
     int label_size;
     int writing_size;
     BoxF readout;
-    bool readout_beside;
+    bool readout_on_face;
+    float title_width; ///< of a title on the face; 0: it stands above
+    bool unit_on_face;
 };
 
-Dial lay_out_dial(const GaugeModel& model, const Stage& stage) {
-    Dial d = {};
-    d.layout = lay_out(model, stage);
+void place_dial(Dial& d, const GaugeModel& model, const Stage& stage) {
     BoxF& body = d.layout.body;
-    if (body.height() / 2 < small_radius)
-        d.readout = take_side_readout(body, body.height());
-    d.readout_beside = !d.readout.empty();
+    d.readout = take_outer_readout(body);
+    d.readout_on_face = d.readout.empty();
     d.radius = std::max(std::min(body.width(), body.height()) / 2 - 1, 1.0f);
     d.scale = {body.centre(), d.radius};
-    d.writing_size = text_size(std::clamp(d.radius * 0.125f, 6.5f, 22.0f));
+    d.writing_size = stage.meter.tenths(std::clamp(d.radius * 0.125f, 6.5f, 34.0f));
     if (d.radius >= least_labelled_radius)
         d.label_size = label_size_for(model, stage.meter, d.writing_size, d.radius * 0.5f);
-    if (d.readout_beside)
-        return d;
+    if (!d.readout_on_face)
+        return;
     const PointF c = d.scale.centre;
     const float half_width = d.radius * 0.33f;
     d.readout = {std::round(c.x - half_width), std::round(c.y - d.radius * 0.74f), std::round(c.x + half_width),
                  std::round(c.y - d.radius * 0.50f)};
+}
+
+Dial lay_out_dial(const GaugeModel& model, const Stage& stage) {
+    const bool titled = model.bar_title && !model.no_title && !model.title_text().empty();
+    Dial d = {};
+    d.layout = lay_out(model, stage, titled);
+    place_dial(d, model, stage);
+    float label = d.label_size ? widest_label(model, stage.meter, d.label_size) : 0;
+    d.title_width = 2 * (d.radius * 0.55f - label);
+    if (!titled || d.radius < least_written_radius || d.title_width < d.radius * 0.5f) {
+        d.title_width = 0;
+        if (titled) { // there is no place for it among the labels
+            d.layout = lay_out(model, stage);
+            place_dial(d, model, stage);
+            label = d.label_size ? widest_label(model, stage.meter, d.label_size) : 0;
+        }
+    }
+    // Wide labels at the ends of the scale need the place between them.
+    d.unit_on_face = d.readout_on_face && !model.no_title && d.radius >= least_written_radius &&
+                     label <= d.radius * 0.34f;
     return d;
 }
 
@@ -110,16 +128,13 @@ void dial_face(Picture& picture, const GaugeModel& model, const Stage& stage) {
     paint_round_zones(picture, model, d.scale, r * 0.80f, r * 0.885f);
     paint_round_ticks(picture, model, stage, d.scale,
                       {r * 0.80f, r * 0.70f, r * 0.75f, r * 0.67f, true, d.label_size});
-    const bool face_written = !model.no_title && d.radius >= least_written_radius;
-    if (face_written && !d.readout_beside) {
-        const FittedText unit = fit(stage.meter, model.unit_text(), d.writing_size, r * 0.62f, text_size(6));
-        // Wide labels at the ends of the scale need the place between them.
-        const bool wide = d.label_size && widest_label(model, stage.meter, d.label_size) > r * 0.34f;
-        const float below = wide ? 0.20f : 0.36f;
-        write(picture, stage.meter, {c.x, c.y - r * below}, HAlign::centre, unit.tenths, theme.text, unit.text);
+    if (d.unit_on_face) {
+        const FittedText unit = fit(stage.meter, model.unit_text(), d.writing_size, r * 0.62f, stage.meter.tenths(6));
+        write(picture, stage.meter, {c.x, c.y - r * 0.36f}, HAlign::centre, unit.tenths, theme.text, unit.text);
     }
-    if (model.bar_title && face_written) {
-        const FittedText title = fit(stage.meter, model.title_text(), d.writing_size, r * 0.80f, text_size(6));
+    if (d.title_width > 0) {
+        const FittedText title =
+            fit(stage.meter, model.title_text(), d.writing_size, d.title_width, stage.meter.tenths(6));
         write(picture, stage.meter, {c.x, c.y + r * 0.30f}, HAlign::centre, title.tenths, theme.text, title.text);
     } else {
         paint_title(picture, model, stage, d.layout);
@@ -133,7 +148,7 @@ void dial_value(Picture& picture, const GaugeModel& model, const Stage& stage) {
     paint_needle(picture, d, d.scale.angle(fraction_of(model, model.current)), colour);
     paint_hub(picture, d.scale.centre, std::max(d.radius * 0.10f, 1.5f));
     if (d.readout.height() >= 7)
-        paint_readout(picture, model, stage, d.readout, d.readout_beside);
+        paint_readout(picture, model, stage, d.readout, !d.unit_on_face);
 }
 
 } // namespace wnt

@@ -34,18 +34,18 @@ Display lay_out_display(const GaugeModel& model, const Stage& stage) {
     BoxF space = d.panel.inset(std::clamp(std::min(body.width(), body.height()) * 0.07f, 1.0f, 14.0f));
     if (space.height() >= 36 && space.width() >= 50) {
         const float bar = std::clamp(std::round(space.height() * 0.09f), 4.0f, 14.0f);
-        d.label_size = text_size(std::clamp(space.height() * 0.10f, 7.0f, 15.0f));
+        d.label_size = stage.meter.tenths(std::clamp(space.height() * 0.10f, 7.0f, 26.0f));
         const float labels = std::ceil(stage.meter.metrics(d.label_size).cap_height) + 3;
         d.bar = {std::round(space.left), std::round(space.bottom + labels), std::round(space.right),
                  std::round(space.bottom + labels + bar)};
         space.bottom = d.bar.top + std::max(space.height() * 0.06f, 3.0f);
         if (!model.no_title && !model.unit_text().empty())
-            d.unit_size = text_size(std::clamp(space.height() * 0.22f, 7.0f, 26.0f));
+            d.unit_size = stage.meter.tenths(std::clamp(space.height() * 0.22f, 7.0f, 40.0f));
     }
     float unit = 0;
     if (d.unit_size) {
         const float room = space.width() * 0.25f;
-        const FittedText text = fit(stage.meter, model.unit_text(), d.unit_size, room, text_size(7));
+        const FittedText text = fit(stage.meter, model.unit_text(), d.unit_size, room, stage.meter.tenths(7));
         unit = stage.meter.width(text.text, text.tenths) + 4;
         d.unit_size = text.tenths;
     }
@@ -143,7 +143,7 @@ void digital_value(Picture& picture, const GaugeModel& model, const Stage& stage
     }
     if (d.unit_size) {
         const FittedText unit =
-            fit(stage.meter, model.unit_text(), d.unit_size, d.panel.right - d.figures.right - 3, text_size(6));
+            fit(stage.meter, model.unit_text(), d.unit_size, d.panel.right - d.figures.right - 3, stage.meter.tenths(6));
         write(picture, stage.meter, {d.figures.right + 2, d.figures.bottom + stage.meter.metrics(unit.tenths).cap_height / 2},
               HAlign::left, unit.tenths, ink, unit.text);
     }
@@ -152,8 +152,8 @@ void digital_value(Picture& picture, const GaugeModel& model, const Stage& stage
     paint_lamps(picture, model, d, ground);
     const float y = d.bar.bottom - 3 - stage.meter.metrics(d.label_size).cap_height / 2;
     const float half = d.bar.width() / 2 - 3;
-    const FittedText low = fit(stage.meter, number_text(model.minimum), d.label_size, half, text_size(5));
-    const FittedText high = fit(stage.meter, number_text(model.maximum), d.label_size, half, text_size(5));
+    const FittedText low = fit_number(stage.meter, number_text(model.minimum), d.label_size, half);
+    const FittedText high = fit_number(stage.meter, number_text(model.maximum), d.label_size, half);
     write(picture, stage.meter, {d.bar.left, y}, HAlign::left, low.tenths, ink, low.text);
     write(picture, stage.meter, {d.bar.right, y}, HAlign::right, high.tenths, ink, high.text);
 }

@@ -10,7 +10,6 @@ namespace wnt {
 namespace {
 
 constexpr float least_labelled_radius = 30;
-constexpr float small_radius = 42; // below, a readout under the cap could not be read
 constexpr int ridges = 28;
 // Parts of the radius, from the cap outwards.
 constexpr float labelled_cap = 0.52f;
@@ -30,14 +29,13 @@ Knob lay_out_knob(const GaugeModel& model, const Stage& stage) {
     Knob k = {};
     k.layout = lay_out(model, stage);
     BoxF& body = k.layout.body;
-    if (body.height() / 2 < small_radius)
-        k.readout = take_side_readout(body, body.height());
-    const bool beside = !k.readout.empty();
+    k.readout = take_outer_readout(body);
     k.radius = std::max(std::min(body.width() / 2, body.height() / 2) - 1, 1.0f);
     if (k.radius >= least_labelled_radius) {
-        // Labels stand beside the ring: they take their width off the knob.
-        const float most = body.width() / 2 - k.radius * labels_from * 0.6f;
-        k.label_size = label_size_for(model, stage.meter, text_size(std::clamp(k.radius * 0.125f, 6.5f, 22.0f)), most);
+        // Labels stand beside the ring and take their width off the knob, within reason.
+        const int size = stage.meter.tenths(std::clamp(k.radius * 0.125f, 6.5f, 34.0f));
+        const float most = body.width() / 2 - k.radius * labels_from * 0.72f - 2;
+        k.label_size = label_size_for(model, stage.meter, size, most);
         if (k.label_size) {
             const float room = body.width() / 2 - widest_label(model, stage.meter, k.label_size) - 2;
             k.radius = std::min(k.radius, room / labels_from);
@@ -45,7 +43,7 @@ Knob lay_out_knob(const GaugeModel& model, const Stage& stage) {
     }
     k.scale = {body.centre(), k.radius};
     k.cap = k.radius * (k.label_size ? labelled_cap : bare_cap);
-    if (beside)
+    if (!k.readout.empty())
         return k;
     const PointF c = k.scale.centre;
     const float half_width = k.radius * 0.34f;
@@ -54,13 +52,18 @@ Knob lay_out_knob(const GaugeModel& model, const Stage& stage) {
     return k;
 }
 
-void paint_cap(Picture& picture, const Knob& k, const Theme& theme) {
-    const PointF c = k.scale.centre;
-    // A soft shadow to the lower right, the ridged skirt, the rim, and a top that grows lighter towards the light.
+// Soft, to the lower right; under the zones and ticks.
+void paint_cap_shadow(Picture& picture, const Knob& k, const Theme& theme) {
     for (int i = 3; i >= 1; --i) {
         const float d = k.cap * 0.035f * static_cast<float>(i);
-        picture.disc({c.x + d, c.y - d}, k.cap * 1.01f, blend(theme.back, 0x000000, 28 * (4 - i)));
+        picture.disc({k.scale.centre.x + d, k.scale.centre.y - d}, k.cap * 1.01f,
+                     blend(theme.back, 0x000000, 28 * (4 - i)));
     }
+}
+
+void paint_cap(Picture& picture, const Knob& k) {
+    const PointF c = k.scale.centre;
+    // The ridged skirt, the rim, and a top that grows lighter towards the light.
     const Colour light = 0xF2F2F2;
     const Colour dark = 0x6C6C6C;
     paint_bezel(picture, c, k.cap * 0.80f, k.cap, dark, light);
@@ -87,10 +90,11 @@ void knob_face(Picture& picture, const GaugeModel& model, const Stage& stage) {
     const float r = k.radius;
     const float ring = k.cap + r * 0.05f;
     paint_ground(picture, model, stage);
+    paint_cap_shadow(picture, k, theme_of(model));
     paint_round_zones(picture, model, k.scale, ring, ring + r * 0.07f);
     paint_round_ticks(picture, model, stage, k.scale,
                       {ring + r * 0.08f, ring + r * 0.16f, ring + r * 0.12f, ring + r * 0.19f, false, k.label_size});
-    paint_cap(picture, k, theme_of(model));
+    paint_cap(picture, k);
     paint_title(picture, model, stage, k.layout);
 }
 

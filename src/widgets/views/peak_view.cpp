@@ -24,15 +24,17 @@ Plot lay_out_plot(const GaugeModel& model, const Stage& stage) {
     Plot p = {lay_out(model, stage), {}, {}, {}, 0, 2, 1};
     BoxF body = p.layout.body;
     if (body.height() >= 66 && body.width() >= 60) {
-        const float tall = std::clamp(std::round(body.height() * 0.13f), 13.0f, 30.0f);
+        const float tall = std::clamp(std::round(body.height() * 0.13f), 13.0f, 52.0f);
         const float wide = std::min(std::max(tall * 4.5f, body.width() * 0.3f), body.width());
         const float x = std::round(body.centre().x - wide / 2);
         p.readout = {x, std::round(body.bottom), std::round(x + wide), std::round(body.bottom + tall)};
         body.bottom = p.readout.top + 3;
+    } else {
+        p.readout = take_lower_readout(body);
     }
     float labels = 0;
     if (body.height() >= 40 && body.width() >= 60) {
-        p.label_size = text_size(std::clamp(body.height() * 0.075f, 7.0f, 15.0f));
+        p.label_size = stage.meter.tenths(std::clamp(body.height() * 0.075f, 7.0f, 26.0f));
         labels = std::min(widest_label(model, stage.meter, p.label_size) + 8, body.width() * 0.35f);
         const float cap = std::ceil(stage.meter.metrics(p.label_size).cap_height / 2);
         body.bottom += cap;
@@ -56,8 +58,7 @@ float height_of(const GaugeModel& model, const Plot& p, std::int32_t value) {
 }
 
 // The column after the newest stays empty: it parts the newest values from the oldest.
-void paint_columns(Picture& picture, const GaugeModel& model, const Plot& p) {
-    const ValueHistory& history = model.history;
+void paint_columns(Picture& picture, const GaugeModel& model, const ValueHistory& history, const Plot& p) {
     const std::int64_t newest = history.count() - 1;
     for (int column = 0; column < p.columns; ++column) {
         const std::int64_t age = (newest - column) % p.columns;
@@ -71,6 +72,17 @@ void paint_columns(Picture& picture, const GaugeModel& model, const Plot& p) {
         const float top = std::max(height_of(model, p, value), p.area.bottom + 1);
         picture.box({left, p.area.bottom, left + p.column - 1, top}, zone_colour(model, value));
     }
+}
+
+// A line across the plot, with a pointer at its right end.
+void paint_peak(Picture& picture, const Plot& p, float y, Colour colour) {
+    picture.box({p.area.left, y, p.area.right, y + 1}, colour);
+    const float half = std::clamp(std::min(p.area.height() * 0.03f, p.area.width() * 0.1f), 1.0f, 5.0f);
+    const float back = p.area.right - half * 1.5f;
+    const PointF mark[3] = {{p.area.right, y + 0.5f},
+                            {back, std::min(y + 0.5f + half, p.area.top)},
+                            {back, std::max(y + 0.5f - half, p.area.bottom)}};
+    picture.polygon(mark, 3, colour);
 }
 
 } // namespace
@@ -96,7 +108,7 @@ void peak_face(Picture& picture, const GaugeModel& model, const Stage& stage) {
         if (!t.major)
             continue;
         const FittedText label =
-            fit(stage.meter, number_text(t.value), p.label_size, end - 6 - p.layout.body.left, text_size(5));
+            fit_number(stage.meter, number_text(t.value), p.label_size, end - 6 - p.layout.body.left);
         write(picture, stage.meter, {end - 6, y + 0.5f}, HAlign::right, label.tenths, theme.text, label.text);
     }
 }
@@ -104,15 +116,11 @@ void peak_face(Picture& picture, const GaugeModel& model, const Stage& stage) {
 void peak_value(Picture& picture, const GaugeModel& model, const Stage& stage) {
     const Theme theme = theme_of(model);
     const Plot p = lay_out_plot(model, stage);
-    paint_columns(picture, model, p);
-    if (model.history.count() > 0) {
-        const float y = std::min(height_of(model, p, model.history.highest()), p.area.top - 1);
-        picture.box({p.area.left, y, p.area.right, y + 1}, theme.text);
-        const float half = std::clamp(std::min(p.area.height() * 0.03f, p.area.width() * 0.1f), 1.0f, 5.0f);
-        const float back = p.area.right - half * 1.5f;
-        const PointF mark[3] = {{p.area.right, y + 0.5f}, {back, y + 0.5f + half}, {back, y + 0.5f - half}};
-        picture.polygon(mark, 3, theme.text);
-    }
+    ValueHistory first;
+    first.record(model.current); // what is shown before a value was set
+    const ValueHistory& history = model.history.count() > 0 ? model.history : first;
+    paint_columns(picture, model, history, p);
+    paint_peak(picture, p, std::min(height_of(model, p, history.highest()), p.area.top - 1), theme.text);
     paint_readout(picture, model, stage, p.readout);
 }
 

@@ -25,15 +25,15 @@ Thermometer lay_out_thermometer(const GaugeModel& model, const Stage& stage) {
     if (body.height() < 60) {
         t.readout = take_side_readout(body, std::min(body.width() * 0.55f, body.height()));
     } else if (body.width() >= 36) {
-        const float tall = std::clamp(body.height() * 0.10f, 12.0f, 30.0f);
+        const float tall = std::clamp(body.height() * 0.10f, 12.0f, 56.0f);
         const float wide = std::min(body.width(), tall * 5);
         const float x = std::round(body.centre().x - wide / 2);
         t.readout = {x, std::round(body.bottom), std::round(x + wide), std::round(body.bottom + tall)};
         body.bottom = t.readout.top + 3;
     }
     if (body.height() >= 50 && body.width() >= 56)
-        t.label_size = text_size(std::clamp(std::min(body.height() * 0.06f, body.width() * 0.11f), 7.0f, 18.0f));
-    t.bulb_radius = std::clamp(std::min(body.width() * 0.16f, body.height() * 0.095f), 2.0f, 40.0f);
+        t.label_size = stage.meter.tenths(std::clamp(std::min(body.height() * 0.06f, body.width() * 0.11f), 7.0f, 30.0f));
+    t.bulb_radius = std::clamp(std::min(body.width() * 0.16f, body.height() * 0.095f), 2.0f, 90.0f);
     const float half = std::max(t.bulb_radius * 0.46f, 1.0f);
     const float x = std::round(body.centre().x + (t.label_size ? body.width() * 0.04f : 0));
     t.bulb = {x, body.bottom + t.bulb_radius + 1};
@@ -79,7 +79,7 @@ void thermometer_face(Picture& picture, const GaugeModel& model, const Stage& st
             continue;
         const float end = right - std::round(tick) - 3;
         const FittedText label =
-            fit(stage.meter, number_text(k.value), t.label_size, end - t.layout.body.left, text_size(5));
+            fit_number(stage.meter, number_text(k.value), t.label_size, end - t.layout.body.left);
         write(picture, stage.meter, {end, y + weight / 2}, HAlign::right, label.tenths, theme.text, label.text);
     }
 }

@@ -13,6 +13,8 @@ namespace {
 
 constexpr Colour white = 0xFFFFFF;
 constexpr Colour black = 0x000000;
+constexpr float small_radius = 42; // pixels: below, a readout within a round instrument cannot be read
+constexpr float least_text = 6; // pixels: below, digits cannot be told apart
 
 bool is_dark(Colour colour) {
     return brightness(colour) < 128;
@@ -45,7 +47,6 @@ Theme theme_of(const GaugeModel& model) {
     t.shadow = static_cast<Colour>(model.shadow) & white;
     t.plate = is_dark(t.text) ? blend(t.back, white, 225) : blend(t.back, black, 190);
     t.groove = blend(t.plate, is_dark(t.text) ? black : white, 30);
-    t.faint = blend(t.plate, t.text, 110);
     return t;
 }
 
@@ -60,10 +61,6 @@ Colour zone_colour(const GaugeModel& model, std::int32_t value) {
 
 Colour ground_for(Colour colour) {
     return is_dark(colour) ? Colour{0xF4F8F8} : Colour{0x241E1C};
-}
-
-int text_size(float pixels) {
-    return static_cast<int>(std::lround(pixels * 7.5f)); // 720 tenths of a point at 96 pixels an inch
 }
 
 FittedText fit(TextMeter& meter, std::string_view text, int tenths, float width, int least) {
@@ -84,6 +81,13 @@ FittedText fit(TextMeter& meter, std::string_view text, int tenths, float width,
     if (kept == 0)
         fitted.text.clear();
     return fitted;
+}
+
+FittedText fit_number(TextMeter& meter, std::string_view number, int tenths, float width) {
+    const int least = meter.tenths(least_text);
+    while (tenths >= least && meter.width(number, tenths) > width)
+        tenths -= 5;
+    return {tenths >= least ? std::string(number) : std::string(), tenths};
 }
 
 void write(Picture& picture, TextMeter& meter, PointF at, HAlign align, int tenths, Colour colour,
@@ -117,25 +121,24 @@ void paint_ground(Picture& picture, const GaugeModel& model, const Stage& stage)
 Layout lay_out(const GaugeModel& model, const Stage& stage, bool title_on_bar) {
     const BoxF inside = inside_border(model, stage);
     Layout layout = {{}, inside, 0};
-    const float size = std::clamp(std::min(inside.height() * 0.085f, inside.width() * 0.14f), 8.0f, 20.0f);
+    const float size = std::clamp(std::min(inside.height() * 0.085f, inside.width() * 0.14f), 8.0f, 32.0f);
     const bool shown = !model.no_title && !model.title_text().empty() && !title_on_bar;
     if (!shown || inside.height() < 48 || inside.width() < 40)
         return layout;
-    layout.title_size = text_size(size);
+    layout.title_size = stage.meter.tenths(size);
     const float line = std::ceil(stage.meter.metrics(layout.title_size).height());
     layout.title = {inside.left, inside.top - line, inside.right, inside.top};
     layout.body.top = layout.title.bottom - std::floor(size * 0.25f);
     return layout;
 }
 
-void paint_title(Picture& picture, const GaugeModel& model, const Stage& stage, const Layout& layout, HAlign align) {
+void paint_title(Picture& picture, const GaugeModel& model, const Stage& stage, const Layout& layout) {
     if (layout.title.empty())
         return;
     const FittedText title =
-        fit(stage.meter, model.title_text(), layout.title_size, layout.title.width() - 2, text_size(8));
-    const float x = align == HAlign::centre ? std::round(layout.title.centre().x) : layout.title.left;
-    picture.text(stage.meter, {x, layout.title.bottom}, align, title.tenths, theme_of(model).text, title.text,
-                 &layout.title);
+        fit(stage.meter, model.title_text(), layout.title_size, layout.title.width() - 2, stage.meter.tenths(8));
+    const PointF at = {std::round(layout.title.centre().x), layout.title.bottom};
+    picture.text(stage.meter, at, HAlign::centre, title.tenths, theme_of(model).text, title.text, &layout.title);
 }
 
 void paint_edge(Picture& picture, const BoxF& box, const Theme& theme, bool raised) {
@@ -145,6 +148,20 @@ void paint_edge(Picture& picture, const BoxF& box, const Theme& theme, bool rais
                  raised ? dark : light);
 }
 
+namespace {
+
+std::string widest_value(const GaugeModel& model, TextMeter& meter, int tenths) {
+    std::string widest = number_text(model.current);
+    for (const std::int32_t bound : {model.minimum, model.maximum}) {
+        std::string text = number_text(bound);
+        if (meter.width(text, tenths) > meter.width(widest, tenths))
+            widest = std::move(text);
+    }
+    return widest;
+}
+
+} // namespace
+
 void paint_readout(Picture& picture, const GaugeModel& model, const Stage& stage, const BoxF& plate,
                    bool with_unit) {
     if (plate.empty())
@@ -152,28 +169,42 @@ void paint_readout(Picture& picture, const GaugeModel& model, const Stage& stage
     const Colour colour = zone_colour(model, model.current);
     const Colour ground = ground_for(colour);
     const BoxF inner = plate.inset(1);
+    // Size and places follow from the widest value, so that nothing jumps while the value moves.
+    const int size = stage.meter.tenths(plate.height() * 0.72f);
+    const int unit_size = size * 3 / 4;
+    const float room = inner.width() - 2;
+    const std::string widest = widest_value(model, stage.meter, size);
+    std::string unit;
+    if (with_unit && !model.no_title && !model.unit_text().empty() && unit_size >= stage.meter.tenths(least_text))
+        unit.append(1, ' ').append(model.unit_text());
+    if (stage.meter.width(widest, size) + stage.meter.width(unit, unit_size) > room)
+        unit.clear();
+    const int fitted = fit_number(stage.meter, widest, size, room).tenths;
+    if (fitted < stage.meter.tenths(least_text))
+        return;
     paint_edge(picture, plate, theme_of(model), false);
     picture.box(inner, ground);
-    const int size = text_size(std::min(plate.height() * 0.72f, 40.0f));
-    const std::string number = number_text(model.current);
-    std::string unit;
-    if (with_unit && !model.no_title && !model.unit_text().empty())
-        unit.append(1, ' ').append(model.unit_text());
-    const float room = inner.width() - 4;
-    const int unit_size = size * 3 / 4;
-    float unit_width = stage.meter.width(unit, unit_size);
-    if (stage.meter.width(number, size) + unit_width > room) {
-        unit.clear();
-        unit_width = 0;
-    }
-    const FittedText value = fit(stage.meter, number, size, room, text_size(5));
-    const float value_width = stage.meter.width(value.text, value.tenths);
-    const PointF middle = plate.centre();
-    const float left = std::round(middle.x - (value_width + unit_width) / 2);
-    write(picture, stage.meter, {left, middle.y}, HAlign::left, value.tenths, colour, value.text, &inner);
+    const float slot = stage.meter.width(widest, fitted);
+    const float left = std::round(plate.centre().x - (slot + stage.meter.width(unit, unit_size)) / 2);
+    const float middle = plate.centre().y;
+    const HAlign align = unit.empty() ? HAlign::centre : HAlign::right;
+    const float x = unit.empty() ? std::round(plate.centre().x) : left + slot;
+    write(picture, stage.meter, {x, middle}, align, fitted, colour, number_text(model.current), &inner);
     if (!unit.empty())
-        write(picture, stage.meter, {left + value_width, middle.y}, HAlign::left, unit_size,
-              blend(ground, colour, 190), unit, &inner);
+        write(picture, stage.meter, {left + slot, middle}, HAlign::left, unit_size, blend(ground, colour, 190), unit,
+              &inner);
+}
+
+BoxF take_lower_readout(BoxF& body) {
+    constexpr float strip = 11;
+    if (body.height() < 3.2f * strip || body.width() < 1.6f * strip)
+        return {};
+    const float half = std::min(body.width() / 2, strip * 1.6f);
+    const float x = body.centre().x;
+    const BoxF plate = {std::round(x - half), std::round(body.bottom), std::round(x + half),
+                        std::round(body.bottom + strip)};
+    body.bottom = plate.top + 1;
+    return plate;
 }
 
 BoxF take_side_readout(BoxF& body, float instrument_width) {
@@ -208,15 +239,51 @@ float fraction_of(const GaugeModel& model, std::int32_t value) {
     return static_cast<float>(scale_fraction(model.minimum, model.maximum, value));
 }
 
+namespace {
+
+// A label tells the truth when its whole number lies within half a pixel of the tick.
+bool labelled_truly(const GaugeModel& model, const Tick& tick, float length) {
+    return std::abs(fraction_of(model, tick.value) - tick.fraction) * length <= 0.5f ||
+           model.minimum == model.maximum;
+}
+
+// The scale's end always has its tick and label: they push those before them aside.
+void close_scale(std::vector<Tick>& ticks, const Tick& end, float length, float least_tick, float least_label) {
+    while (ticks.size() > 1 && (end.fraction - ticks.back().fraction) * length < least_tick)
+        ticks.pop_back();
+    for (std::size_t i = ticks.size(); i-- > 1 && (end.fraction - ticks[i].fraction) * length < least_label;)
+        ticks[i].major = false;
+    ticks.push_back(end);
+}
+
+} // namespace
+
 std::vector<Tick> ticks_of(const GaugeModel& model, float length, float least_tick, float least_label) {
     const TickSteps steps = tick_steps(model.minimum, model.maximum, model.scales, static_cast<std::int32_t>(length),
                                        static_cast<std::int32_t>(std::ceil(least_tick)),
                                        static_cast<std::int32_t>(std::ceil(least_label)));
+    const auto tick_at = [&](std::int32_t i) {
+        return Tick{static_cast<float>(i) / static_cast<float>(model.scales),
+                    division_value(model.minimum, model.maximum, model.scales, i), i % steps.major == 0};
+    };
     std::vector<Tick> ticks;
-    for (std::int32_t i = 0; i <= model.scales; i += steps.minor)
-        ticks.push_back({static_cast<float>(i) / static_cast<float>(model.scales),
-                         division_value(model.minimum, model.maximum, model.scales, i), i % steps.major == 0});
+    for (std::int32_t i = 0; i < model.scales; i += steps.minor) {
+        ticks.push_back(tick_at(i));
+        ticks.back().major = ticks.back().major && labelled_truly(model, ticks.back(), length);
+    }
+    Tick end = tick_at(model.scales);
+    end.major = true;
+    close_scale(ticks, end, length, least_tick, least_label);
     return ticks;
+}
+
+BoxF take_outer_readout(BoxF& body) {
+    if (body.height() / 2 >= small_radius && body.width() / 2 >= small_radius)
+        return {};
+    // Where there is little width, the instrument leaves a part of its own to the number.
+    const float share = body.width() < 1.9f * body.height() ? 0.8f : 1.0f;
+    const BoxF beside = take_side_readout(body, body.height() * share);
+    return beside.empty() ? take_lower_readout(body) : beside;
 }
 
 std::vector<ScaleZone> zones_of(const GaugeModel& model) {
@@ -245,7 +312,7 @@ float widest_label(const GaugeModel& model, TextMeter& meter, int tenths) {
 }
 
 int label_size_for(const GaugeModel& model, TextMeter& meter, int tenths, float width) {
-    const int least = text_size(6);
+    const int least = meter.tenths(least_text);
     while (tenths >= least && widest_label(model, meter, tenths) > width)
         tenths -= 5;
     return tenths >= least ? tenths : 0;

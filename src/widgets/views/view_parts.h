@@ -18,7 +18,6 @@ struct Theme {
     Colour shadow;
     Colour plate;  ///< where scales and readouts lie
     Colour groove; ///< the empty part of a bar
-    Colour faint;  ///< minor ticks, grids
 };
 Theme theme_of(const GaugeModel& model);
 
@@ -29,14 +28,15 @@ Colour zone_colour(const GaugeModel& model, std::int32_t value);
 /// A dark or a light ground, whichever this colour can be read on.
 Colour ground_for(Colour colour);
 
-int text_size(float pixels);
-
 struct FittedText {
     std::string text;
     int tenths;
 };
 /// Makes a text fit a width: smaller down to `least`, then cut with dots.
 FittedText fit(TextMeter& meter, std::string_view text, int tenths, float width, int least);
+
+/// The same for a number, which is never cut: empty when it does not fit at a legible size.
+FittedText fit_number(TextMeter& meter, std::string_view number, int tenths, float width);
 
 /// Writes one line centred on a height.
 void write(Picture& picture, TextMeter& meter, PointF at, HAlign align, int tenths, Colour colour,
@@ -53,16 +53,21 @@ struct Layout {
     int title_size;
 };
 Layout lay_out(const GaugeModel& model, const Stage& stage, bool title_on_bar = false);
-void paint_title(Picture& picture, const GaugeModel& model, const Stage& stage, const Layout& layout,
-                 HAlign align = HAlign::centre);
+void paint_title(Picture& picture, const GaugeModel& model, const Stage& stage, const Layout& layout);
 
-/// The value in its zone's colour on a sunken plate, the unit behind it when it fits.
+/// The value in its zone's colour on a sunken plate, the unit behind it when both fit whatever the value.
 void paint_readout(Picture& picture, const GaugeModel& model, const Stage& stage, const BoxF& plate,
                    bool with_unit = true);
 
 /// In a wide and low space an instrument of this width goes to the left and the readout beside it: takes its place
 /// off the body. Empty when the space is not wide enough.
 BoxF take_side_readout(BoxF& body, float instrument_width);
+
+/// Takes a strip for a small number off the lower end of a body that has no other place for one.
+BoxF take_lower_readout(BoxF& body);
+
+/// Either of them, for a round instrument that is too small to carry a readout; empty when it is not.
+BoxF take_outer_readout(BoxF& body);
 
 /// A frame of one pixel, lit from the top left when raised.
 void paint_edge(Picture& picture, const BoxF& box, const Theme& theme, bool raised);

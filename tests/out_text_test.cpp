@@ -1,0 +1,222 @@
+// Text on the surface, judged by the box of its ink, and the front end's font service over COM.
+#include "surface_test.h"
+
+#include <climits>
+#include <clocale>
+#include <cstring>
+#include <ole2.h>
+#include <olectl.h>
+
+namespace {
+
+/// A font service that lives in this program.
+class FontService : public IZopFontService, public IZopFontCollection, public IClassFactory {
+public:
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** out) override {
+        if (id == IID_IZopFontService)
+            *out = static_cast<IZopFontService*>(this);
+        else if (id == IID_IZopFontCollection)
+            *out = static_cast<IZopFontCollection*>(this);
+        else if (id == IID_IClassFactory || id == IID_IUnknown)
+            *out = static_cast<IClassFactory*>(this);
+        else
+            return E_NOINTERFACE;
+        AddRef();
+        return S_OK;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() override { return ++references; }
+    ULONG STDMETHODCALLTYPE Release() override { return --references; }
+    HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown*, REFIID id, void** out) override {
+        return QueryInterface(id, out);
+    }
+    HRESULT STDMETHODCALLTYPE LockServer(BOOL) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE GetFonts(IZopFontCollection** fonts) override {
+        if (!gives_fonts)
+            return E_FAIL;
+        AddRef();
+        *fonts = this;
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE GetFont(tagZopFontId id, IUnknown** font) override {
+        asked = id;
+        if (!gives_font)
+            return QueryInterface(IID_IUnknown, reinterpret_cast<void**>(font)); // an object that is no font
+        wchar_t face[] = L"Liberation Mono";
+        FONTDESC description = {sizeof description, face, {}, FW_BOLD, 128, FALSE, FALSE, FALSE};
+        description.cySize.int64 = 120000; // 12 points
+        return ::OleCreateFontIndirect(&description, IID_IUnknown, reinterpret_cast<void**>(font));
+    }
+
+    LONG references = 0;
+    int asked = 0;
+    bool gives_fonts = true, gives_font = true;
+};
+
+} // namespace
+
+class TextTest : public SurfaceTest {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(SUCCEEDED(::OleInitialize(nullptr)));
+        SurfaceTest::SetUp();
+    }
+    void TearDown() override {
+        std::setlocale(LC_ALL, "C");
+        SurfaceTest::TearDown();
+        ::OleUninitialize();
+    }
+    template <class Draw> RECT ink(Draw draw) {
+        Picture picture(400, 120);
+        picture.clear(ground);
+        paint(picture, draw);
+        return picture.ink(ground);
+    }
+    static bool empty(const RECT& r) { return r.right < r.left; }
+    static LONG height(const RECT& r) { return r.top - r.bottom + 1; }
+    static LONG width(const RECT& r) { return r.right - r.left + 1; }
+
+    /// The box of a text in a font `tenths` tenths of a point high, written by hand.
+    RECT plain_ink(const char* face, int tenths, const char* text, int weight = FW_NORMAL,
+                   BYTE charset = DEFAULT_CHARSET) {
+        HDC screen = ::GetDC(nullptr);
+        const int pixels = ::MulDiv(tenths, ::GetDeviceCaps(screen, LOGPIXELSY), 720);
+        ::ReleaseDC(nullptr, screen);
+        HFONT font = ::CreateFontA(-pixels, 0, 0, 0, weight, 0, 0, 0, charset, 0, 0, 0, 0, face);
+        const RECT box = ink([&](CWntOut& o) {
+            HGDIOBJ previous = ::SelectObject(o.dc, font);
+            ::TextOutA(o.dc, 20, 60, text, static_cast<int>(std::strlen(text)));
+            ::SelectObject(o.dc, previous);
+        });
+        ::DeleteObject(font);
+        return box;
+    }
+
+    char word[8] = "HiigiH";
+};
+
+TEST_F(TextTest, AlignmentPutsTheStringAtItsPoint) {
+    constexpr int left = 1, centre = 2, right = 3;
+    constexpr int on_line = 1, below_cell = 2; // the text stands on y, or hangs `drop` pixels above y
+    const struct {
+        int align, side, edge, drop;
+    } cases[] = {{0, left, on_line, 0},     {1, right, on_line, 0},     {2, centre, on_line, 0},
+                 {4, left, below_cell, 20}, {5, right, below_cell, 20}, {6, centre, below_cell, 20},
+                 {8, left, below_cell, 10}, {9, right, below_cell, 10}, {10, centre, below_cell, 10},
+                 {3, left, on_line, 0},     {7, left, on_line, 20},     {11, left, on_line, 10},
+                 {-1, left, on_line, 10},   {16, left, on_line, 0}};
+    const LONG across = width(plain_ink("Arial", 200, word));
+    for (const auto& c : cases) {
+        const RECT box = ink([&](CWntOut& o) {
+            o.settext(0, 0, 0, 33, 0, 0); // 19.8 points: drop counts whole ones
+            o.fontsize = 200;
+            o.chars(200, 60, word, c.align);
+            EXPECT_EQ(o.linecolour_, ::GetTextColor(o.dc));
+        });
+        const LONG reference = c.side == left ? box.left : c.side == right ? box.right : (box.left + box.right) / 2;
+        EXPECT_NEAR(reference, 200, 4) << c.align;
+        EXPECT_NEAR(width(box), across, 2) << c.align;
+        const bool stands = c.edge == on_line;
+        EXPECT_NEAR(stands ? box.bottom : box.top, 60 + c.drop + (stands ? 2 : -5), 4) << c.align;
+    }
+}
+
+TEST_F(TextTest, SizesAndFaces) {
+    const auto chars = [this](int fontsize, const char* face) {
+        return ink([&](CWntOut& o) {
+            o.facename = face;
+            o.fontsize = fontsize;
+            o.chars(100, 60, word, 0);
+        });
+    };
+    EXPECT_EQ(out.fontsize, 80);
+    EXPECT_EQ(out.facename, "Arial");
+    const RECT plain = plain_ink("Arial", 80, word);
+    EXPECT_EQ(width(chars(80, "Arial")), width(plain));
+    EXPECT_EQ(height(chars(80, "Arial")), height(plain));
+    ASSERT_NE(width(plain_ink("Liberation Mono", 80, word)), width(plain));
+    EXPECT_EQ(width(chars(80, "Liberation Mono")), width(plain)); // the face is for titles alone
+    out.settext(0, 0, 0, 15, 0, 0);
+    EXPECT_EQ(out.fontsize, 90);
+    EXPECT_EQ(width(chars(out.fontsize, "Arial")), width(plain_ink("Arial", 90, word)));
+
+    const auto title = [this](const char* face, int w, int h) {
+        return ink([&](CWntOut& o) {
+            o.facename = face;
+            o.titlechars(20, 30, w, h, word);
+            o.facename = "Arial";
+        });
+    };
+    const RECT arial = title("Arial", 160, 60);
+    EXPECT_EQ(width(arial), width(plain_ink("Arial", 240, word)));
+    EXPECT_EQ(width(title("Liberation Mono", 160, 60)), width(plain_ink("Liberation Mono", 240, word)));
+    EXPECT_NEAR((arial.left + arial.right) / 2, 100, 2);
+    EXPECT_LT(arial.bottom, 60); // the g reaches below the baseline
+    EXPECT_GT(arial.top, 70);
+    EXPECT_TRUE(empty(title("Arial", 0, 60)));
+    EXPECT_TRUE(empty(title("Arial", 160, 0)));
+}
+
+TEST_F(TextTest, LengthsAndSizesAreBounded) {
+    const auto written = [this](int len, int fontsize = 80) {
+        return ink([&](CWntOut& o) { o.fontsize = fontsize, o.chars_len(100, 60, len, word, 0), o.fontsize = 80; });
+    };
+    EXPECT_LT(width(written(2)), width(written(3)));
+    EXPECT_TRUE(empty(written(0)));
+    EXPECT_TRUE(empty(written(-1)));
+    EXPECT_TRUE(empty(written(INT_MIN)));
+    char nothing[] = "";
+    EXPECT_TRUE(empty(ink([&](CWntOut& o) { o.chars(50, 50, nothing, 0), o.titlechars(0, 0, 99, 99, nothing); })));
+    for (const int size : {INT_MAX, INT_MIN, INT_MAX / 6 + 1, -80, 0})
+        ink([&](CWntOut& o) {
+            o.settext(1, 2, 3, size, 5, 6);
+            o.chars(20, 20, word, 6);
+            o.titlechars(0, 0, 50, size, word);
+        });
+    out.settext(0, 0, 0, INT_MAX, 0, 0);
+    EXPECT_EQ(out.fontsize, INT_MAX);
+    EXPECT_EQ(out.textparams[3], INT_MAX);
+    out.settext(0, 0, 0, INT_MIN, 0, 0);
+    EXPECT_EQ(out.fontsize, INT_MIN);
+}
+
+TEST_F(TextTest, FontServiceOfTheFrontEnd) {
+    LOGFONTA font;
+    std::memset(&font, 0x5A, sizeof font);
+    const LOGFONTA untouched = font;
+    EXPECT_EQ(out.getZopguiFont(&font, ZOPFONT_PROPORTIONAL), 0);
+    EXPECT_EQ(std::memcmp(&font, &untouched, sizeof font), 0);
+    EXPECT_EQ(out.getZopguiFontCodepage(), ::GetACP());
+
+    const auto text = [this] { return ink([&](CWntOut& o) { o.chars(100, 60, word, 0); }); };
+    const auto title = [this] { return ink([&](CWntOut& o) { o.titlechars(20, 30, 160, 40, word); }); };
+    ASSERT_TRUE(std::setlocale(LC_ALL, "Japanese_Japan.932"));
+    EXPECT_EQ(width(text()), width(plain_ink("", 80, word))); // no service: the system's default face
+    EXPECT_EQ(width(title()), width(plain_ink("", 160, word)));
+
+    FontService service;
+    DWORD registered = 0;
+    ASSERT_TRUE(SUCCEEDED(::CoRegisterClassObject(CLSID_ZopFontService, static_cast<IClassFactory*>(&service),
+                                                  CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, &registered)));
+    const LONG references = service.references;
+    ASSERT_EQ(out.getZopguiFont(&font, ZOPFONT_PROPORTIONAL), 1);
+    EXPECT_EQ(service.asked, 2);
+    EXPECT_STREQ(font.lfFaceName, "Liberation Mono");
+    EXPECT_EQ(font.lfWeight, FW_BOLD);
+    EXPECT_EQ(out.getZopguiFontCodepage(), 932u); // of the character set
+    // The service's height of -16 pixels enters the sum in its own unit: 10 x (-1 + 1) + 16 + 80.
+    ASSERT_EQ(font.lfHeight, -16);
+    EXPECT_EQ(width(text()), width(plain_ink("Liberation Mono", 96, word, FW_BOLD, SHIFTJIS_CHARSET)));
+    EXPECT_EQ(width(title()), width(plain_ink("Liberation Mono", 170, word, FW_BOLD, SHIFTJIS_CHARSET)));
+
+    service.gives_font = false;
+    EXPECT_EQ(out.getZopguiFont(&font, ZOPFONT_PROPORTIONAL), 0);
+    service.gives_fonts = false;
+    EXPECT_EQ(out.getZopguiFont(&font, ZOPFONT_PROPORTIONAL), 0);
+    EXPECT_EQ(width(text()), width(plain_ink("", 80, word)));
+    EXPECT_EQ(service.references, references); // every interface was released, on every path
+    std::setlocale(LC_ALL, "C");
+    service.asked = 0;
+    text();
+    EXPECT_EQ(service.asked, 0); // a single-byte locale does not ask
+    ::CoRevokeClassObject(registered);
+}

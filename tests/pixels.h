@@ -1,0 +1,117 @@
+// Pictures that tests draw into and read back, and a count of the process's drawing objects.
+#pragma once
+
+#include <windows.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <vector>
+
+/// A 32-bit DIB section in a memory device context. Positions are library coordinates: y grows upwards.
+class Picture {
+public:
+    Picture(int width, int height) : width_(width), height_(height), dc_(::CreateCompatibleDC(nullptr)) {
+        BITMAPINFO info = {};
+        info.bmiHeader = {sizeof info.bmiHeader, width, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+        void* bits = nullptr;
+        bitmap_ = ::CreateDIBSection(dc_, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+        bits_ = static_cast<std::uint32_t*>(bits);
+        previous_ = ::SelectObject(dc_, bitmap_);
+        clear(0);
+    }
+    ~Picture() {
+        ::SelectObject(dc_, previous_);
+        ::DeleteObject(bitmap_);
+        ::DeleteDC(dc_);
+    }
+    Picture(const Picture&) = delete;
+    Picture& operator=(const Picture&) = delete;
+
+    HDC dc() const { return dc_; }
+    int width() const { return width_; }
+    int height() const { return height_; }
+
+    void clear(COLORREF colour) {
+        ::GdiFlush();
+        std::fill_n(bits_, std::size_t(width_) * height_, swapped(colour));
+    }
+    /// Takes what a window's client area shows.
+    void capture(HWND window) {
+        HDC shown = ::GetDC(window);
+        ::BitBlt(dc_, 0, 0, width_, height_, shown, 0, 0, SRCCOPY);
+        ::ReleaseDC(window, shown);
+    }
+
+    /// Outside the picture: CLR_INVALID.
+    COLORREF at(int x, int y) const {
+        if (x < 0 || x >= width_ || y < 0 || y >= height_)
+            return CLR_INVALID;
+        return values()[std::size_t(height_ - 1 - y) * width_ + x];
+    }
+    long count(COLORREF colour) const {
+        const auto all = values();
+        return static_cast<long>(std::count(all.begin(), all.end(), colour));
+    }
+    /// The pixels that differ from the ground, corners inclusive, top the upper y; right < left when there are none.
+    RECT ink(COLORREF ground) const {
+        RECT box = {width_, -1, -1, height_};
+        const auto all = values();
+        for (int i = 0; i < width_ * height_; ++i) {
+            if (all[i] == ground)
+                continue;
+            const LONG x = i % width_;
+            const LONG y = height_ - 1 - i / width_;
+            box = {std::min(box.left, x), std::max(box.top, y), std::max(box.right, x), std::min(box.bottom, y)};
+        }
+        return box;
+    }
+    /// One letter a pixel, '?' for other colours, a line for each row from the upper one.
+    std::string letters(const std::vector<std::pair<COLORREF, char>>& names) const {
+        std::string text;
+        const auto all = values();
+        for (int i = 0; i < width_ * height_; ++i) {
+            const auto named = [&](const auto& name) { return name.first == all[i]; };
+            const auto found = std::find_if(names.begin(), names.end(), named);
+            text += found == names.end() ? '?' : found->second;
+            if (i % width_ == width_ - 1)
+                text += '\n';
+        }
+        return text;
+    }
+    /// The colours, upper row first.
+    std::vector<COLORREF> values() const {
+        ::GdiFlush();
+        std::vector<COLORREF> all(bits_, bits_ + std::size_t(width_) * height_);
+        std::transform(all.begin(), all.end(), all.begin(), swapped);
+        return all;
+    }
+
+private:
+    static std::uint32_t swapped(std::uint32_t v) { return (v & 0xFF) << 16 | (v & 0xFF00) | (v >> 16 & 0xFF); }
+
+    int width_, height_;
+    HDC dc_;
+    HBITMAP bitmap_;
+    HGDIOBJ previous_;
+    std::uint32_t* bits_;
+};
+
+/// Live pens, brushes, fonts, regions and the like of this process. GetGuiResources answers 0 on some systems; the
+/// process's own handle table always tells.
+inline int live_gdi_objects() {
+    struct Entry {
+        void* object;
+        USHORT owner, lock, unique;
+        UCHAR type, flags;
+        void* user;
+    };
+    constexpr int first_entries = 0x4000;
+    constexpr int handle_table = 0xF8; // in the process's environment block
+    using CurrentBlock = const char*(WINAPI*)();
+    static const auto current_block = reinterpret_cast<CurrentBlock>(
+        reinterpret_cast<void*>(::GetProcAddress(::GetModuleHandleA("ntdll"), "RtlGetCurrentPeb")));
+    const auto* table = *reinterpret_cast<const Entry* const*>(current_block() + handle_table);
+    return static_cast<int>(std::count_if(table, table + first_entries, [](const Entry& e) { return e.type != 0; }));
+}
