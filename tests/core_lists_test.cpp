@@ -3,347 +3,243 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <climits>
 #include <cstring>
-#include <optional>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
-
-struct Key {
-    char text[8] = {};
-    Key(const char* from) { std::strncpy(text, from, sizeof text - 1); }
-    operator char*() { return text; }
-};
 
 // Lists that free what they hold, as their own destructors do not.
 template <class List> struct Held : List {
     ~Held() override { this->destroy(); }
 };
 
-// -- Object list ----------------------------------------------------------------------------------------------------
+struct Dice {
+    std::mt19937 random;
+    int operator()(int lowest, int highest) { return std::uniform_int_distribution(lowest, highest)(random); }
+};
 
 struct Record {
-    std::string tag, data;
+    std::string tag, data; // the tag four bytes long
 };
 
-// What the list does, over a vector. The cursor is an index and may stand behind the last record.
-struct RecordModel {
-    std::vector<Record> records;
+// The packed bytes of the first records.
+std::string packed(const std::vector<Record>& records, std::size_t count) {
+    std::string all;
+    for (std::size_t i = 0; i < count; ++i) {
+        const auto length = static_cast<std::uint32_t>(records[i].data.size());
+        all += records[i].tag + std::string(reinterpret_cast<const char*>(&length), 4) + records[i].data;
+    }
+    return all;
+}
+
+// Index of the record that a search finds, or of where it ends.
+std::pair<bool, std::size_t> search(const std::vector<Record>& records, std::size_t at, const std::string& tag) {
+    while (at < records.size() && ++at < records.size()) {
+        if (records[at].tag == tag)
+            return {true, at};
+        if (records[at].tag == std::string(4, '\0') || records[at].data.empty())
+            break;
+    }
+    return {false, at};
+}
+
+// Many random operations on the list and on a vector of records; after each one every byte is compared.
+void compare_objlist(unsigned seed) {
+    constexpr int size = 256;
+    Held<CWntObjlist> list;
+    list.create(nullptr, size);
+    std::vector<Record> model;
     std::size_t cursor = 0;
     bool atstart = false;
-
-    std::optional<std::string> next(const std::string& tag) {
-        if (cursor == records.size())
-            return std::nullopt;
-        if (cursor == 0 && atstart && records[0].tag == tag) {
-            atstart = false;
-            return records[0].data;
-        }
-        do {
-            if (++cursor == records.size())
-                return std::nullopt;
-            if (records[cursor].tag == tag)
-                return records[cursor].data;
-        } while (!records[cursor].tag.empty() && !records[cursor].data.empty());
-        return std::nullopt;
-    }
-
-    bool has_current(const std::string& tag) const { return cursor < records.size() && records[cursor].tag == tag; }
-
-    std::string bytes(std::size_t until) const {
-        std::string all;
-        for (std::size_t i = 0; i < until; ++i) {
-            const auto length = static_cast<std::uint32_t>(records[i].data.size());
-            std::string tag = records[i].tag;
-            tag.resize(4);
-            all += tag + std::string(reinterpret_cast<const char*>(&length), 4) + records[i].data;
-        }
-        return all;
-    }
-};
-
-class ObjlistComparison {
-public:
-    explicit ObjlistComparison(unsigned seed) : random_(seed) { list_.create(nullptr, size); }
-
-    void step() {
-        const std::string tags[] = {"ABCD", "AB", "B", ""};
-        const std::string tag = tags[number(3)];
-        const std::string data(number(30), static_cast<char>(number(255)));
-        switch (number(8)) {
+    Dice dice{std::mt19937(seed)};
+    for (int i = 0; i < 2000 && !testing::Test::HasFailure(); ++i) {
+        char key[][5] = {"ABCD", "AB", "B", ""};
+        char* const text = key[dice(0, 3)];
+        const std::string tag(text, 4);
+        std::string data(dice(0, 30), static_cast<char>(dice(0, 255)));
+        const int length = static_cast<int>(data.size());
+        const bool fits = size - packed(model, model.size()).size() > data.size() + 8;
+        const bool current = cursor < model.size();
+        switch (dice(0, 6)) {
         case 0:
+            EXPECT_EQ(list.additem(text, length, data.data()), fits && length > 0);
+            if (fits && length > 0)
+                model.push_back({tag, data});
+            break;
         case 1:
-            add(tag, data);
+            EXPECT_EQ(list.insertitem(text, length, data.data()), fits ? 0 : -1);
+            if (fits)
+                model.insert(model.begin() + static_cast<std::ptrdiff_t>(cursor++), {tag, data});
             break;
-        case 2:
-        case 3:
-            insert(tag, data);
+        case 2: {
+            const bool taken = current && !model[cursor].data.empty();
+            EXPECT_EQ(list.deleteitem(), taken);
+            if (taken)
+                model.erase(model.begin() + static_cast<std::ptrdiff_t>(cursor));
             break;
+        }
+        case 3: {
+            const int where = dice(0, 3);
+            EXPECT_EQ(list.seek(where, 0), 1);
+            atstart = atstart || where == 1;
+            cursor = where == 1 ? 0 : where == 2 ? model.size() : cursor;
+            break;
+        }
         case 4:
-            remove();
-            break;
         case 5: {
-            const int where = number(3);
-            list_.seek(where, 0);
-            model_.atstart = model_.atstart || where == 1;
-            model_.cursor = where == 1 ? 0 : where == 2 ? model_.records.size() : model_.cursor;
+            const bool first = current && cursor == 0 && atstart && model[0].tag == tag;
+            atstart = atstart && !first;
+            const auto [found, at] = first ? std::pair(true, cursor) : search(model, cursor, tag);
+            cursor = at;
+            const void* place = list.buffer + packed(model, at).size() + 8;
+            EXPECT_EQ(list.nextitem(text), found ? place : nullptr);
             break;
         }
-        case 6:
-        case 7:
-            walk(tag);
-            break;
-        default:
-            update(tag, data);
+        default: {
+            const bool same = current && model[cursor].tag == tag;
+            EXPECT_EQ(list.updateitem(text, length, data.data()), same);
+            if (same && model[cursor].data.size() == data.size())
+                model[cursor].data = data;
+            std::string out(40, '\0'), expected = same ? model[cursor].data.substr(0, length) : "";
+            expected.resize(out.size());
+            EXPECT_TRUE(list.readitem(text, length, out.data()) == same && out == expected);
         }
-    }
-
-    void compare() {
-        const std::string used = model_.bytes(model_.records.size());
-        std::string all = used;
-        all.resize(size); // the free rest is zero
-        ASSERT_EQ(std::string(reinterpret_cast<char*>(list_.buffer), size), all);
-        ASSERT_EQ(list_.queryitemno(), static_cast<int>(model_.records.size()));
-        ASSERT_EQ(list_.end - list_.buffer, static_cast<std::ptrdiff_t>(used.size()));
-        ASSERT_EQ(list_.cursor - list_.buffer, static_cast<std::ptrdiff_t>(model_.bytes(model_.cursor).size()));
-    }
-
-private:
-    static constexpr int size = 256;
-
-    int number(int highest) { return std::uniform_int_distribution(0, highest)(random_); }
-    bool fits(const std::string& data) const {
-        return size - model_.bytes(model_.records.size()).size() > data.size() + 8;
-    }
-
-    void add(const std::string& tag, std::string data) {
-        const bool taken = fits(data) && !data.empty();
-        if (taken)
-            model_.records.push_back({tag, data});
-        EXPECT_EQ(list_.additem(Key(tag.c_str()), static_cast<int>(data.size()), data.data()), taken);
-    }
-    void insert(const std::string& tag, std::string data) {
-        const bool taken = fits(data);
-        if (taken)
-            model_.records.insert(model_.records.begin() + static_cast<std::ptrdiff_t>(model_.cursor++), {tag, data});
-        EXPECT_EQ(list_.insertitem(Key(tag.c_str()), static_cast<int>(data.size()), data.data()), taken ? 0 : -1);
-    }
-    void remove() {
-        const bool taken = model_.cursor < model_.records.size() && !model_.records[model_.cursor].data.empty();
-        if (taken)
-            model_.records.erase(model_.records.begin() + static_cast<std::ptrdiff_t>(model_.cursor));
-        EXPECT_EQ(list_.deleteitem(), taken);
-    }
-    void walk(const std::string& tag) {
-        const auto expected = model_.next(tag);
-        const void* found = list_.nextitem(Key(tag.c_str()));
-        ASSERT_EQ(found != nullptr, expected.has_value());
-        if (found) {
-            EXPECT_EQ(std::memcmp(found, expected->data(), expected->size()), 0);
         }
-    }
-    void update(const std::string& tag, std::string data) {
-        const bool has = model_.has_current(tag);
-        EXPECT_EQ(list_.updateitem(Key(tag.c_str()), static_cast<int>(data.size()), data.data()), has);
-        if (has && model_.records[model_.cursor].data.size() == data.size())
-            model_.records[model_.cursor].data = data;
-        char out[64] = {};
-        const int wanted = number(40);
-        EXPECT_EQ(list_.readitem(Key(tag.c_str()), wanted, out), has);
-        std::string expected = has ? model_.records[model_.cursor].data.substr(0, wanted) : "";
-        expected.resize(sizeof out);
-        EXPECT_EQ(std::string(out, sizeof out), expected);
-    }
-
-    std::mt19937 random_;
-    Held<CWntObjlist> list_;
-    RecordModel model_;
-};
-
-TEST(Objlist, DoesWhatAVectorOfRecordsDoes) {
-    for (unsigned seed = 1; seed <= 20; ++seed) {
-        ObjlistComparison comparison(seed);
-        for (int i = 0; i < 2000 && !testing::Test::HasFailure(); ++i) {
-            comparison.step();
-            comparison.compare();
-        }
+        std::string all = packed(model, model.size());
+        ASSERT_EQ(list.end - list.buffer, static_cast<std::ptrdiff_t>(all.size()));
+        all.resize(size); // what is free is zero
+        ASSERT_EQ(std::string(reinterpret_cast<char*>(list.buffer), size), all);
+        ASSERT_EQ(list.cursor - list.buffer, static_cast<std::ptrdiff_t>(packed(model, cursor).size()));
+        ASSERT_EQ(list.queryitemno(), static_cast<int>(model.size()));
     }
 }
 
-TEST(Objlist, KeepsOneByteFree) {
-    char data[64] = "0123456789";
-    Held<CWntObjlist> list;
-    ASSERT_EQ(list.create(nullptr, 37), 1);
-    EXPECT_EQ(list.additem(Key("A"), 29, data), 0);
-    EXPECT_EQ(list.additem(Key("A"), 10, data), 1);
-    EXPECT_EQ(list.insertitem(Key("A"), 11, data), -1);
-    EXPECT_EQ(list.insertitem(Key("A"), 10, data), 0);
-    EXPECT_EQ(list.previousitem(Key("A")), nullptr);
+TEST(Objlist, DoesWhatAVectorOfRecordsDoes) {
+    for (unsigned seed = 1; seed <= 20; ++seed)
+        compare_objlist(seed);
 }
 
 TEST(Objlist, RefusesMisuse) {
-    char data[16] = {};
+    char key[] = "A", data[16] = {};
     Held<CWntObjlist> list;
     const auto refuses_all = [&](CWntObjlist* each) {
-        return each->additem(Key("A"), 4, data) == 0 && each->insertitem(Key("A"), 4, data) == -1 &&
-               each->deleteitem() == 0 && !each->nextitem(Key("A")) && each->readitem(Key("A"), 4, data) == 0 &&
-               each->updateitem(Key("A"), 4, data) == 0;
+        return each->additem(key, 4, data) == 0 && each->insertitem(key, 4, data) == -1 && each->deleteitem() == 0 &&
+               !each->nextitem(key) && each->readitem(key, 4, data) == 0 && each->updateitem(key, 4, data) == 0;
     };
-    EXPECT_TRUE(refuses_all(&list));
     EXPECT_EQ(list.create(nullptr, -1), 0);
     EXPECT_TRUE(refuses_all(&list));
     for (int i = 0; i < 2; ++i) // the second frees what the first made
         ASSERT_EQ(list.create(nullptr, 100), 1);
-    ASSERT_EQ(list.additem(Key("A"), 4, data), 1);
-
-    for (int length : {-1, INT_MIN, INT_MAX, INT_MAX - 8}) {
-        EXPECT_EQ(list.additem(Key("A"), length, data), 0) << length;
-        EXPECT_EQ(list.insertitem(Key("A"), length, data), -1) << length;
-    }
-    EXPECT_EQ(list.readitem(Key("A"), -1, data), 0);
-    EXPECT_EQ(list.additem(nullptr, 4, data), 0);
-    EXPECT_EQ(list.insertitem(Key("A"), 4, nullptr), -1);
-    EXPECT_EQ(list.readitem(Key("A"), 4, nullptr), 0);
+    ASSERT_EQ(list.additem(key, 4, data), 1);
+    EXPECT_EQ(list.previousitem(key), nullptr);
+    for (int length : {-1, INT_MIN, INT_MAX})
+        EXPECT_TRUE(list.additem(key, length, data) == 0 && list.insertitem(key, length, data) == -1) << length;
+    EXPECT_TRUE(list.additem(nullptr, 4, data) == 0 && list.insertitem(key, 4, nullptr) == -1);
+    EXPECT_TRUE(list.readitem(key, -1, data) == 0 && list.readitem(key, 4, nullptr) == 0 && !list.nextitem(nullptr));
 
     // Lengths that lead out of the list, and cursors that stand outside.
-    for (std::uint32_t length : {5u, 100u, 0x7FFFFFFFu, 0xFFFFFFFFu}) {
+    for (std::uint32_t length : {5u, 0x7FFFFFFFu, 0xFFFFFFFFu}) {
         std::memcpy(list.buffer + 4, &length, sizeof length);
         list.seek(1, 0);
-        EXPECT_TRUE(!list.nextitem(Key("A")) && !list.nextitem(Key("B")) && list.deleteitem() == 0) << length;
+        EXPECT_TRUE(!list.nextitem(key) && list.deleteitem() == 0 && list.readitem(key, 4, data) == 0) << length;
     }
     list.flush();
-    for (std::uint8_t* cursor : {static_cast<std::uint8_t*>(nullptr), list.buffer + 1,
-                                 reinterpret_cast<std::uint8_t*>(data), list.buffer + 100}) {
+    auto* const foreign = reinterpret_cast<std::uint8_t*>(data);
+    for (std::uint8_t* cursor : {static_cast<std::uint8_t*>(nullptr), list.buffer + 1, foreign, list.buffer + 100}) {
         list.cursor = cursor;
-        EXPECT_TRUE(list.insertitem(Key("A"), 4, data) == -1 && list.deleteitem() == 0 && !list.nextitem(Key("A")));
+        EXPECT_TRUE(list.insertitem(key, 4, data) == -1 && list.deleteitem() == 0 && !list.nextitem(key));
     }
-    list.destroy();
-    list.destroy();
-    list.seek(1, 0);
+    for (int i = 0; i < 2; ++i)
+        list.destroy();
     EXPECT_TRUE(refuses_all(&list));
 #ifdef _WIN32 // elsewhere the sanitizer ends the call before the object is asked
     CWntObjlist* volatile none = nullptr;
-    EXPECT_TRUE(refuses_all(none));
-    EXPECT_TRUE(none->create(nullptr, 9) == 0 && none->flush() == 0 && none->seek(1, 0) == 0);
+    EXPECT_TRUE(refuses_all(none) && none->create(nullptr, 9) == 0 && none->flush() == 0 && none->seek(1, 0) == 0);
     EXPECT_EQ(none->queryitemno(), -1);
     none->destroy();
 #endif
 }
 
-// -- Uniform items --------------------------------------------------------------------------------------------------
-
 struct Item {
     char bytes[3]; // an odd size, so that slots are not aligned
-    bool operator==(const Item&) const = default;
 };
 
-class UlistComparison {
-public:
-    explicit UlistComparison(unsigned seed) : random_(seed) {
-        list_.create(nullptr, sizeof(Item), capacity);
-        slots_.resize(capacity + 1);
-    }
-
-    void step() {
-        Item item{{static_cast<char>(number(0, 255)), static_cast<char>(number(0, 255)), 1}};
-        const int index = number(-2, capacity + 2);
-        switch (number(0, 9)) {
+// The same for items. The model keeps every slot, in use or not, and the spare one.
+void compare_ulist(unsigned seed) {
+    constexpr int capacity = 7;
+    Held<CWntUlist> list;
+    list.create(nullptr, sizeof(Item), capacity);
+    std::vector<Item> slots(capacity + 1);
+    int count = 0, cursor = 0;
+    const auto holds = [&](int index) { return 0 <= index && index < count; };
+    const auto at = [&](int index) -> void* { return list.buffer + index * static_cast<int>(sizeof(Item)); };
+    Dice dice{std::mt19937(seed)};
+    for (int i = 0; i < 2000 && !testing::Test::HasFailure(); ++i) {
+        Item item{{static_cast<char>(dice(0, 255)), static_cast<char>(dice(0, 255)), 1}}, out = item;
+        const int index = dice(-2, capacity + 2);
+        switch (dice(0, 7)) {
         case 0:
-        case 1:
-            EXPECT_EQ(list_.additem(&item), count_ < capacity ? count_ : -1);
-            if (count_ < capacity)
-                slots_[count_++] = item;
+            EXPECT_EQ(list.additem(&item), count < capacity ? count : -1);
+            if (count < capacity)
+                slots[count++] = item;
             break;
-        case 2:
-        case 3:
-            insert(item);
+        case 1: {
+            const bool taken = count < capacity - 1 && 0 <= cursor && cursor <= count;
+            EXPECT_EQ(list.insertitem(&item), taken ? count + 1 : -1);
+            for (int each = count; taken && each > cursor; --each)
+                slots[each] = slots[each - 1];
+            if (taken)
+                slots[cursor] = item;
+            count += taken;
             break;
+        }
+        case 2: {
+            const bool taken = count > 0 && cursor >= 0;
+            EXPECT_EQ(list.deleteitem(), taken);
+            for (int each = cursor; taken && each < count - 1; ++each)
+                slots[each] = slots[each + 1];
+            if (taken)
+                slots[count--] = {};
+            break;
+        }
+        case 3: {
+            const int mode = dice(0, 3);
+            EXPECT_EQ(list.seek(mode, index), 1);
+            if (mode == 1 || mode == 2)
+                cursor = mode == 1 ? index : count;
+            else if (mode == 0 && holds(cursor + index))
+                cursor += index;
+            break;
+        }
         case 4:
-            remove();
+            EXPECT_EQ(list.nextitem(), holds(cursor) ? at(cursor++) : nullptr);
             break;
         case 5:
-            seek(number(0, 3), index);
+            EXPECT_EQ(list.previousitem(), 1 <= cursor && cursor <= capacity ? at(cursor--) : nullptr);
             break;
         case 6:
-            EXPECT_EQ(list_.nextitem(), holds(cursor_) ? at(cursor_++) : nullptr);
-            break;
-        case 7:
-            EXPECT_EQ(list_.previousitem(), 1 <= cursor_ && cursor_ <= capacity ? at(cursor_--) : nullptr);
-            break;
-        case 8:
-            EXPECT_EQ(list_.updateitem(&item), holds(cursor_));
-            if (holds(cursor_))
-                slots_[cursor_] = item;
+            EXPECT_EQ(list.updateitem(&item), holds(cursor));
+            if (holds(cursor))
+                slots[cursor] = item;
             break;
         default:
-            EXPECT_EQ(list_.mkptr(index), holds(index) ? at(index) : nullptr);
-            EXPECT_EQ(list_.readitem(), holds(cursor_) ? at(cursor_) : nullptr);
-            EXPECT_EQ(list_.getitem(&item, index), holds(index));
-            if (holds(index)) {
-                EXPECT_TRUE(item == slots_[index]);
-            }
+            EXPECT_EQ(list.mkptr(index), holds(index) ? at(index) : nullptr);
+            EXPECT_EQ(list.readitem(), holds(cursor) ? at(cursor) : nullptr);
+            EXPECT_EQ(list.getitem(&out, index), holds(index));
+            EXPECT_EQ(std::memcmp(&out, holds(index) ? &slots[index] : &item, sizeof out), 0);
         }
+        ASSERT_TRUE(list.queryitemno() == count && list.cursor == cursor);
+        ASSERT_EQ(std::memcmp(list.buffer, slots.data(), slots.size() * sizeof(Item)), 0);
     }
-
-    // Every slot, used or not, and the spare one.
-    void compare() {
-        ASSERT_EQ(list_.queryitemno(), count_);
-        ASSERT_EQ(list_.cursor, cursor_);
-        ASSERT_EQ(std::memcmp(list_.buffer, slots_.data(), slots_.size() * sizeof(Item)), 0);
-    }
-
-private:
-    static constexpr int capacity = 7;
-
-    int number(int lowest, int highest) { return std::uniform_int_distribution(lowest, highest)(random_); }
-    bool holds(int index) const { return 0 <= index && index < count_; }
-    void* at(int index) { return list_.buffer + index * static_cast<int>(sizeof(Item)); }
-
-    void insert(Item item) {
-        const bool taken = count_ < capacity - 1 && 0 <= cursor_ && cursor_ <= count_;
-        EXPECT_EQ(list_.insertitem(&item), taken ? count_ + 1 : -1);
-        if (!taken)
-            return;
-        std::copy_backward(slots_.begin() + cursor_, slots_.begin() + count_, slots_.begin() + count_ + 1);
-        slots_[cursor_] = item;
-        ++count_;
-    }
-    void remove() {
-        const bool taken = count_ > 0 && cursor_ >= 0;
-        EXPECT_EQ(list_.deleteitem(), taken);
-        if (!taken)
-            return;
-        if (cursor_ < count_)
-            std::copy(slots_.begin() + cursor_ + 1, slots_.begin() + count_, slots_.begin() + cursor_);
-        slots_[count_--] = {};
-    }
-    void seek(int mode, int n) {
-        EXPECT_EQ(list_.seek(mode, n), 1);
-        if (mode == 0 && holds(cursor_ + n))
-            cursor_ += n;
-        else if (mode == 1 || mode == 2)
-            cursor_ = mode == 1 ? n : count_;
-    }
-
-    std::mt19937 random_;
-    Held<CWntUlist> list_;
-    std::vector<Item> slots_;
-    int count_ = 0;
-    int cursor_ = 0;
-};
+}
 
 TEST(Ulist, DoesWhatAVectorOfItemsDoes) {
-    for (unsigned seed = 1; seed <= 20; ++seed) {
-        UlistComparison comparison(seed);
-        for (int i = 0; i < 2000 && !testing::Test::HasFailure(); ++i) {
-            comparison.step();
-            comparison.compare();
-        }
-    }
+    for (unsigned seed = 1; seed <= 20; ++seed)
+        compare_ulist(seed);
 }
 
 TEST(Ulist, RefusesMisuse) {
@@ -354,31 +250,26 @@ TEST(Ulist, RefusesMisuse) {
                each->getitem(item, 0) == 0 && !each->mkptr(0) && !each->readitem() && !each->nextitem() &&
                !each->previousitem() && each->updateitem(item) == 0;
     };
-    EXPECT_TRUE(refuses_all(&list));
     const int refused[][2] = {{-1, 4}, {4, -1}, {-4, -4}, {65536, 65536}, {INT_MAX, 2}, {INT_MIN, INT_MIN}};
-    for (const auto& [size, capacity] : refused) {
-        EXPECT_EQ(list.create(nullptr, size, capacity), 0) << size << " x " << capacity;
-        EXPECT_TRUE(refuses_all(&list));
-    }
+    for (const auto& [size, capacity] : refused)
+        EXPECT_TRUE(list.create(nullptr, size, capacity) == 0 && refuses_all(&list)) << size << " x " << capacity;
     for (int i = 0; i < 2; ++i)
         ASSERT_EQ(list.create(nullptr, sizeof item, 4), 1);
     EXPECT_TRUE(list.additem(nullptr) == -1 && list.insertitem(nullptr) == -1 && list.additem(item) == 0);
     EXPECT_TRUE(list.updateitem(nullptr) == 0 && list.getitem(nullptr, 0) == 0);
-    for (int far : {INT_MIN, -1, 5, INT_MAX}) {
-        list.seek(1, far);
-        list.seek(0, far); // the sum is beyond 32 bits
-        EXPECT_TRUE(list.insertitem(item) == -1 && !list.previousitem() && !list.nextitem()) << far;
+    for (int end : {INT_MIN, INT_MAX}) {
+        list.seek(1, end);
+        list.seek(0, end); // the sum is beyond 32 bits
+        EXPECT_TRUE(list.insertitem(item) == -1 && !list.previousitem() && !list.nextitem()) << end;
     }
     list.seek(1, 2);
-    list.flush();
-    EXPECT_EQ(list.cursor, 2);
-    list.destroy();
-    list.destroy();
+    EXPECT_TRUE(list.flush() == 1 && list.cursor == 2 && list.queryitemno() == 0);
+    for (int i = 0; i < 2; ++i)
+        list.destroy();
     EXPECT_TRUE(refuses_all(&list));
-#ifdef _WIN32 // elsewhere the sanitizer ends the call before the object is asked
+#ifdef _WIN32
     CWntUlist* volatile none = nullptr;
-    EXPECT_TRUE(refuses_all(none));
-    EXPECT_TRUE(none->create(nullptr, 1, 1) == 0 && none->flush() == 0 && none->seek(2, 0) == 0);
+    EXPECT_TRUE(refuses_all(none) && none->create(nullptr, 1, 1) == 0 && none->flush() == 0 && none->seek(2, 0) == 0);
     EXPECT_EQ(none->queryitemno(), -1);
     none->destroy();
 #endif
