@@ -35,7 +35,8 @@ void measure(BenchTable& table, CWnd& host, const char* type) {
     const auto by_value = shown(gauge);
     full(0);
     if (shown(gauge) == by_value)
-        table.measure(std::string(type) + " value / full repaint", [&](int i) { gauge.SetCurVal(value_at(i)); }, full);
+        table.measure(
+            std::string(type) + " value / full repaint", [&](int i) { gauge.SetCurVal(value_at(i)); }, full);
     else
         table.wrong(type);
     gauge.DestroyWindow();

@@ -116,7 +116,7 @@ private:
 };
 
 BEGIN_MESSAGE_MAP(CButtonsPage, CGalleryPage)
-    ON_WM_TIMER()
+ON_WM_TIMER()
 END_MESSAGE_MAP()
 
 } // namespace

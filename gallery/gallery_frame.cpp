@@ -10,9 +10,9 @@ constexpr UINT list_id = 2;
 } // namespace
 
 BEGIN_MESSAGE_MAP(CGalleryFrame, CFrameWnd)
-    ON_WM_CREATE()
-    ON_WM_SIZE()
-    ON_LBN_SELCHANGE(list_id, &CGalleryFrame::OnSelectPage)
+ON_WM_CREATE()
+ON_WM_SIZE()
+ON_LBN_SELCHANGE(list_id, &CGalleryFrame::OnSelectPage)
 END_MESSAGE_MAP()
 
 CGalleryFrame::CGalleryFrame(const std::vector<CString>& scripts) : pages_(MakePages(scripts)) {}

@@ -100,7 +100,7 @@ private:
 };
 
 BEGIN_MESSAGE_MAP(CGaugesPage, CGalleryPage)
-    ON_WM_TIMER()
+ON_WM_TIMER()
 END_MESSAGE_MAP()
 
 } // namespace

@@ -1,9 +1,9 @@
 #include "page.h"
 
 BEGIN_MESSAGE_MAP(CGalleryPage, CWnd)
-    ON_WM_CREATE()
-    ON_WM_SIZE()
-    ON_WM_ERASEBKGND()
+ON_WM_CREATE()
+ON_WM_SIZE()
+ON_WM_ERASEBKGND()
 END_MESSAGE_MAP()
 
 bool CGalleryPage::Open(CWnd* parent, const CRect& place) {
@@ -29,8 +29,8 @@ BOOL CGalleryPage::OnEraseBkgnd(CDC* dc) {
 }
 
 BEGIN_MESSAGE_MAP(CSurfacePage, CGalleryPage)
-    ON_WM_PAINT()
-    ON_WM_DESTROY()
+ON_WM_PAINT()
+ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
 bool CSurfacePage::CreateContents() {

@@ -39,8 +39,7 @@ std::wstring wide(const CString& text) {
 
 bool WritePng(HBITMAP bitmap, const CString& file) {
     static GdiplusSession session;
-    static constexpr CLSID png_encoder = {
-        0x557CF406, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}};
+    static constexpr CLSID png_encoder = {0x557CF406, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}};
     if (!session.good())
         return false;
     Gdiplus::Bitmap picture(bitmap, nullptr);

@@ -181,9 +181,9 @@ private:
 };
 
 BEGIN_MESSAGE_MAP(CPulsePage, CGalleryPage)
-    ON_BN_CLICKED(record_id, &CPulsePage::OnRecord)
-    ON_WM_PAINT()
-    ON_WM_DESTROY()
+ON_BN_CLICKED(record_id, &CPulsePage::OnRecord)
+ON_WM_PAINT()
+ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
 } // namespace

@@ -71,8 +71,8 @@ private:
 };
 
 BEGIN_MESSAGE_MAP(CScrollBarsPage, CGalleryPage)
-    ON_WM_HSCROLL()
-    ON_WM_VSCROLL()
+ON_WM_HSCROLL()
+ON_WM_VSCROLL()
 END_MESSAGE_MAP()
 
 } // namespace

@@ -106,8 +106,7 @@ void markers(CWntOut& out, const Cell& c) {
 void curve(CWntOut& out, const Cell& c, int width, int y) {
     POINT points[40];
     for (int i = 0; i < 40; ++i)
-        points[i] = {c.x + i * (c.w - 12) / 39,
-                     c.y + y + out.intsin(static_cast<unsigned short>(i * 3400), c.h / 10)};
+        points[i] = {c.x + i * (c.w - 12) / 39, c.y + y + out.intsin(static_cast<unsigned short>(i * 3400), c.h / 10)};
     out.geomline(points, 40, width);
 }
 
@@ -168,9 +167,8 @@ void paint(CWntOut& out) {
     out.fillcolour(RGB(250, 250, 250), 0);
     out.boxa2(0, 0, out.xmax, out.ymax);
     using Painter = void (*)(CWntOut&, const Cell&);
-    static constexpr Painter painters[columns * rows] = {lines,   fills,     boxes,       polygons,
-                                                         circles, pies,      markers,     polylines,
-                                                         connections, tracking, clipping, palette};
+    static constexpr Painter painters[columns * rows] = {lines,   fills,     boxes,       polygons, circles,  pies,
+                                                         markers, polylines, connections, tracking, clipping, palette};
     const int w = out.xmax / columns;
     const int h = out.ymax / rows;
     for (int i = 0; i < columns * rows; ++i) {

@@ -12,7 +12,7 @@ void alignments(CWntOut& out, int x, int y, int w, int h) {
     static constexpr struct {
         int align;
         const char* name;
-    } all[] = {{4, "top left"},    {6, "top centre"},    {5, "top right"},   {8, "centre left"}, {10, "centre"},
+    } all[] = {{4, "top left"},     {6, "top centre"},  {5, "top right"},     {8, "centre left"}, {10, "centre"},
                {9, "centre right"}, {0, "bottom left"}, {2, "bottom centre"}, {1, "bottom right"}};
     out.settext(0, 0, 0, 18, 0, 0);
     for (int i = 0; i < 9; ++i) {

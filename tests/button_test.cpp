@@ -46,7 +46,7 @@ TEST_F(ButtonTest, BorderIsMitredAndLitFromTheTopLeft) {
         EXPECT_EQ(up.at(i, 15), blue) << i;
         EXPECT_EQ(up.at(30, 29 - i), black) << i;
         EXPECT_EQ(up.at(59 - i, 15), black) << i;
-        EXPECT_EQ(up.at(i, i), blue) << i;           // upper left corner
+        EXPECT_EQ(up.at(i, i), blue) << i;            // upper left corner
         EXPECT_EQ(up.at(59 - i, 29 - i), black) << i; // lower right corner
     }
     EXPECT_EQ(up.at(55, 5), dark_blue);
@@ -56,7 +56,7 @@ TEST_F(ButtonTest, BorderIsMitredAndLitFromTheTopLeft) {
     full_repaint(button);
     const Pixels flat = pixels_of(button);
     EXPECT_EQ(flat.count(red), 2 * (60 + 28) + 2 * (58 + 26) - 1); // frame, border less its upper right corner
-    EXPECT_GT(flat.count(white), 0);                           // the title
+    EXPECT_GT(flat.count(white), 0);                               // the title
     EXPECT_EQ(flat.at(55, 5), black);
 }
 
@@ -151,9 +151,9 @@ TEST_F(ButtonTest, ScrollBarMovesItsOwnThumb) {
     const struct {
         UINT code, pos;
         int expected;
-    } rows[] = {{SB_LINEDOWN, 0, 11}, {SB_LINEUP, 0, 10},    {SB_TOP, 0, 9},      {SB_BOTTOM, 0, 10},
-                {SB_PAGEDOWN, 0, 10}, {SB_THUMBTRACK, 57, 57}, {SB_ENDSCROLL, 3, 57}, {SB_THUMBPOSITION, 900, 100},
-                {99, 4, 100}};
+    } rows[] = {{SB_LINEDOWN, 0, 11},  {SB_LINEUP, 0, 10},           {SB_TOP, 0, 9},
+                {SB_BOTTOM, 0, 10},    {SB_PAGEDOWN, 0, 10},         {SB_THUMBTRACK, 57, 57},
+                {SB_ENDSCROLL, 3, 57}, {SB_THUMBPOSITION, 900, 100}, {99, 4, 100}};
     for (const auto& row : rows) {
         bar.SendMessage(WM_VSCROLL, MAKEWPARAM(row.code, row.pos), reinterpret_cast<LPARAM>(bar.m_hWnd));
         EXPECT_EQ(bar.GetScrollPos(), row.expected) << row.code;

@@ -82,9 +82,9 @@ TEST(ButtonModel, InsideAndAnchors) {
 
     const struct {
         int align, x, y, ux, uy;
-    } rows[] = {{0, 5, 5, 5, 5},      {1, 94, 5, -106, 5},  {2, 49, 5, -51, 5},  {3, 0, 0, 0, 0},
-                {4, 5, 34, 5, 19},    {6, 49, 34, -51, 19}, {7, 0, 0, 0, 0},     {8, 5, 19, 5, 12},
-                {10, 49, 19, -51, 12}, {11, 0, 0, 0, 0},    {255, 0, 0, 0, 0}};
+    } rows[] = {{0, 5, 5, 5, 5},       {1, 94, 5, -106, 5},  {2, 49, 5, -51, 5}, {3, 0, 0, 0, 0},
+                {4, 5, 34, 5, 19},     {6, 49, 34, -51, 19}, {7, 0, 0, 0, 0},    {8, 5, 19, 5, 12},
+                {10, 49, 19, -51, 12}, {11, 0, 0, 0, 0},     {255, 0, 0, 0, 0}};
     for (const auto& row : rows) {
         const TitleAnchor a = title_anchor(row.align, inside);
         EXPECT_TRUE(a.x == row.x && a.y == row.y && a.underline_x == row.ux && a.underline_y == row.uy) << row.align;

@@ -59,9 +59,8 @@ bool writes(const Scene& scene, std::string_view text) {
 
 bool inside(const BoxF& box, int width, int height) {
     constexpr float tolerance = 1.01f;
-    return std::isfinite(box.left) && std::isfinite(box.top) && box.left >= -tolerance &&
-           box.bottom >= -tolerance && box.right <= static_cast<float>(width) + tolerance &&
-           box.top <= static_cast<float>(height) + tolerance;
+    return std::isfinite(box.left) && std::isfinite(box.top) && box.left >= -tolerance && box.bottom >= -tolerance &&
+           box.right <= static_cast<float>(width) + tolerance && box.top <= static_cast<float>(height) + tolerance;
 }
 
 const std::vector<std::vector<const char*>> odd_scripts = {
@@ -77,8 +76,8 @@ const std::vector<std::vector<const char*>> odd_scripts = {
 } // namespace
 
 TEST(GaugeViews, StayInsideTheirStageAtEverySize) {
-    const std::pair<int, int> sizes[] = {{1, 1},     {20, 20},   {60, 40},   {40, 60},   {300, 20},
-                                         {20, 300},  {110, 80},  {200, 200}, {331, 187}, {1000, 1000}};
+    const std::pair<int, int> sizes[] = {{1, 1},    {20, 20},  {60, 40},   {40, 60},   {300, 20},
+                                         {20, 300}, {110, 80}, {200, 200}, {331, 187}, {1000, 1000}};
     for (int type = 0; type < gauge_type_count; ++type) {
         for (const auto& script : odd_scripts) {
             GaugeModel model = model_of(type);
@@ -91,9 +90,9 @@ TEST(GaugeViews, StayInsideTheirStageAtEverySize) {
                 for (const Picture* picture : {&scene.face, &scene.value})
                     for (const auto& f : picture->figures())
                         EXPECT_TRUE(inside(f.bounds, width, height))
-                            << "type " << type << " script " << &script - odd_scripts.data() << " size " << width
-                            << "x" << height << " figure " << f.bounds.left << "," << f.bounds.bottom << " "
-                            << f.bounds.right << "," << f.bounds.top;
+                            << "type " << type << " script " << &script - odd_scripts.data() << " size " << width << "x"
+                            << height << " figure " << f.bounds.left << "," << f.bounds.bottom << " " << f.bounds.right
+                            << "," << f.bounds.top;
             }
             paint(model, 1, 1); // must end, whatever it draws
         }
@@ -146,8 +145,8 @@ TEST(GaugeViews, ShowTheValueInItsZonesColour) {
                              [&](const auto& f) { return f.colour == colour && !f.bounds.empty(); });
     };
     for (int type = 0; type < gauge_type_count; ++type) {
-        GaugeModel model = model_of(type, {":CLEARMARKS", ":SETMARK=40,BLUE", ":SETMARK=70,MAGENTA",
-                                           ":SETMARK=69,CYAN", ":SETMARK=69,CYAN", ":NOTITLE=1"});
+        GaugeModel model = model_of(type, {":CLEARMARKS", ":SETMARK=40,BLUE", ":SETMARK=70,MAGENTA", ":SETMARK=69,CYAN",
+                                           ":SETMARK=69,CYAN", ":NOTITLE=1"});
         model.clear();
         const std::pair<int, Colour> zones[] = {{10, 0xFF0000}, {39, 0xFF0000}, {40, 0xFF00FF}, {70, 0xFFFF00}};
         for (const auto& [value, colour] : zones) {

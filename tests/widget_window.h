@@ -19,9 +19,7 @@ struct Pixels {
     std::vector<COLORREF> values;
 
     COLORREF at(int x, int y) const { return values[static_cast<std::size_t>(y) * width + x]; }
-    long count(COLORREF colour) const {
-        return static_cast<long>(std::count(values.begin(), values.end(), colour));
-    }
+    long count(COLORREF colour) const { return static_cast<long>(std::count(values.begin(), values.end(), colour)); }
     friend bool operator==(const Pixels&, const Pixels&) = default;
 };
 

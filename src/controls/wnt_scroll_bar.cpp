@@ -3,8 +3,8 @@
 #include "out/geometry.h"
 
 BEGIN_MESSAGE_MAP(CWntScrollBar, CScrollBar)
-    ON_WM_HSCROLL()
-    ON_WM_VSCROLL()
+ON_WM_HSCROLL()
+ON_WM_VSCROLL()
 END_MESSAGE_MAP()
 
 namespace {

@@ -87,9 +87,9 @@ int stored_position(const char* key, const char* settings_file) {
 } // namespace
 
 BEGIN_MESSAGE_MAP(CWntTrace, CWnd)
-    ON_WM_CREATE()
-    ON_WM_DESTROY()
-    ON_WM_SIZE()
+ON_WM_CREATE()
+ON_WM_DESTROY()
+ON_WM_SIZE()
 END_MESSAGE_MAP()
 
 CWntTrace::CWntTrace() {

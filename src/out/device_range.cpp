@@ -14,8 +14,7 @@ struct Side {
     double beyond(const DevicePoint& p) const { return sign * p.*coordinate - device_range; }
 };
 
-constexpr Side sides[4] = {
-    {&DevicePoint::x, 1}, {&DevicePoint::x, -1}, {&DevicePoint::y, 1}, {&DevicePoint::y, -1}};
+constexpr Side sides[4] = {{&DevicePoint::x, 1}, {&DevicePoint::x, -1}, {&DevicePoint::y, 1}, {&DevicePoint::y, -1}};
 
 DevicePoint crossing(const DevicePoint& a, const DevicePoint& b, const Side& side) {
     const double t = side.beyond(a) / (side.beyond(a) - side.beyond(b));

@@ -5,8 +5,7 @@
 namespace {
 
 constexpr int pen_styles[8] = {PS_SOLID, PS_SOLID, PS_DOT, PS_DASH, PS_DASHDOT, PS_DOT, PS_DASH, PS_DASHDOTDOT};
-constexpr int hatch_styles[8] = {-1,           -1,           HS_VERTICAL, HS_HORIZONTAL,
-                                 HS_DIAGCROSS, HS_DIAGCROSS, HS_CROSS,    HS_CROSS};
+constexpr int hatch_styles[8] = {-1, -1, HS_VERTICAL, HS_HORIZONTAL, HS_DIAGCROSS, HS_DIAGCROSS, HS_CROSS, HS_CROSS};
 
 } // namespace
 

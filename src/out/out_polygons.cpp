@@ -122,7 +122,8 @@ void CWntOut::geomline(POINT* pts, int n, int width) {
     if (width == 0) {
         draw_polyline(dc, pts, n);
     } else {
-        wnt::GdiObject<HPEN> wide(::CreatePen(PS_SOLID, std::clamp(width, -widest_line, widest_line - 1) + 1, fillcolour_));
+        wnt::GdiObject<HPEN> wide(
+            ::CreatePen(PS_SOLID, std::clamp(width, -widest_line, widest_line - 1) + 1, fillcolour_));
         wnt::SelectGuard selected(dc, wide.get());
         draw_polyline(dc, pts, n);
     }

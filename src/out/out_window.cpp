@@ -6,18 +6,18 @@
 namespace wrapped = wnt::wrapped;
 
 BEGIN_MESSAGE_MAP(CWntOut, CWnd)
-    ON_WM_CHAR()
-    ON_WM_CREATE()
-    ON_WM_CLOSE()
-    ON_WM_DESTROY()
-    ON_WM_FONTCHANGE()
-    ON_WM_PAINT()
-    ON_WM_SIZE()
-    ON_WM_SYSCOLORCHANGE()
-    ON_WM_ERASEBKGND()
-    ON_WM_SETFOCUS()
-    ON_WM_KILLFOCUS()
-    ON_WM_MOUSEWHEEL()
+ON_WM_CHAR()
+ON_WM_CREATE()
+ON_WM_CLOSE()
+ON_WM_DESTROY()
+ON_WM_FONTCHANGE()
+ON_WM_PAINT()
+ON_WM_SIZE()
+ON_WM_SYSCOLORCHANGE()
+ON_WM_ERASEBKGND()
+ON_WM_SETFOCUS()
+ON_WM_KILLFOCUS()
+ON_WM_MOUSEWHEEL()
 END_MESSAGE_MAP()
 
 namespace {
@@ -251,6 +251,6 @@ void CWntOut::scroll(int x, int y, int w, int h, int dx, int dy, int) {
         h = wrapped::add(ymax, 1);
     const std::int64_t top = std::int64_t{ymax} - y - h + 1;
     const std::int64_t src = top > 0 ? top : 0;
-    ::BitBlt(dc, static_cast<int>(std::int64_t{x} + dx), static_cast<int>(src - dy), w, h, dc, x,
-             static_cast<int>(src), SRCCOPY);
+    ::BitBlt(dc, static_cast<int>(std::int64_t{x} + dx), static_cast<int>(src - dy), w, h, dc, x, static_cast<int>(src),
+             SRCCOPY);
 }

@@ -194,11 +194,11 @@ public:
     // -- State, in the order that hosts rely on ---------------------------------------------------------------------
 
     int reserved = 0;
-    int xmax = 0;      ///< client width - 1 after reset(); the width itself after a size message
-    int ymax = 0;      ///< client height - 1 after reset(); the height itself after a size message
-    RECT cliprect;     ///< device coordinates after setclip(), library coordinates after queryclip()
-    int clipset = 0;   ///< 1 while an explicit clip is in force
-    int outmode = 0;   ///< non-zero: no device context is fetched
+    int xmax = 0;       ///< client width - 1 after reset(); the width itself after a size message
+    int ymax = 0;       ///< client height - 1 after reset(); the height itself after a size message
+    RECT cliprect;      ///< device coordinates after setclip(), library coordinates after queryclip()
+    int clipset = 0;    ///< 1 while an explicit clip is in force
+    int outmode = 0;    ///< non-zero: no device context is fetched
     int targetmode = 0; ///< non-zero: no device context is fetched and the clip is left alone
     int textparams[6];
     COLORREF* palette;
@@ -259,7 +259,7 @@ private:
     void poly_copy(const Tpt* pts, int n, long fill);
     template <class Point> void draw_crosslines(const Point* pts, int n, int step);
 
-    HDC windowdc_ = nullptr; // fetched once; kept while an external one stands in `dc`
+    HDC windowdc_ = nullptr;  // fetched once; kept while an external one stands in `dc`
     HWND dcwindow_ = nullptr; // the window that it belongs to
     Selection window_;
     Selection external_;

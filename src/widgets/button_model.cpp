@@ -57,25 +57,25 @@ struct Key {
 
 // One entry a key, in the order of the key table.
 constexpr Key keys[] = {
-    {ignore, false},                                               // MSG
-    {store_keyword<&Properties::type, look_words>, true},          // TYPE
-    {store_id, false},                                             // ID
-    {store_title, true},                                           // TITLE
-    {store_align, true},                                           // ALIGN
-    {store_flag<&Properties::visible>, true},                      // VISIBLE
-    {store_flag<&Properties::fixed>, true},                        // FIXED
-    {ignore, false},                                               // DEPTH
+    {ignore, false},                                                   // MSG
+    {store_keyword<&Properties::type, look_words>, true},              // TYPE
+    {store_id, false},                                                 // ID
+    {store_title, true},                                               // TITLE
+    {store_align, true},                                               // ALIGN
+    {store_flag<&Properties::visible>, true},                          // VISIBLE
+    {store_flag<&Properties::fixed>, true},                            // FIXED
+    {ignore, false},                                                   // DEPTH
     {store_keyword<&Properties::bordertype, border_type_words>, true}, // BORDERTYPE
-    {store_border_sides, true},                                    // BORDERSTYLE
-    {store_border_height, true},                                   // BORDERHEIGHT
-    {store_colour<&Properties::clrtext>, true},                    // CLRTEXT
-    {store_colour<&Properties::clrback>, true},                    // CLRBACK
-    {store_colour<&Properties::clrborder>, true},                  // CLRBORDER
-    {store_colour<&Properties::clrsun>, true},                     // CLRSUN
-    {store_colour<&Properties::clrshadow>, true},                  // CLRSHADOW
-    {store_flag<&Properties::frame>, true},                        // FRAME
+    {store_border_sides, true},                                        // BORDERSTYLE
+    {store_border_height, true},                                       // BORDERHEIGHT
+    {store_colour<&Properties::clrtext>, true},                        // CLRTEXT
+    {store_colour<&Properties::clrback>, true},                        // CLRBACK
+    {store_colour<&Properties::clrborder>, true},                      // CLRBORDER
+    {store_colour<&Properties::clrsun>, true},                         // CLRSUN
+    {store_colour<&Properties::clrshadow>, true},                      // CLRSHADOW
+    {store_flag<&Properties::frame>, true},                            // FRAME
     {store_keyword<&Properties::titlestyle, title_style_words>, true}, // TITLESTYLE
-    {store_flag<&Properties::wordwrap>, true},                     // WORDWRAP
+    {store_flag<&Properties::wordwrap>, true},                         // WORDWRAP
 };
 static_assert(std::size(keys) == std::size(button_keys));
 

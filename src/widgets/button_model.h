@@ -72,12 +72,12 @@ private:
 
 /// The script that a new button runs.
 inline constexpr std::array<const char*, 12> button_built_in_script = {
-    ":ID=WntButton1",     ":VISIBLE=1",
+    ":ID=WntButton1",        ":VISIBLE=1",
     ":TITLE=WntButton Test", ":DEPTH=5",
-    ":CLRBACK=DARKBLUE",  ":CLRSUN=BLUE",
-    ":CLRSHADOW=BLACK",   ":TITLESTYLE=OUTSET",
-    ":BORDERTYPE=3DUP",   ":BORDERSTYLE=LEFT RIGHT TOP BOTTOM",
-    ":BORDERHEIGHT=3",    ":CLRTEXT=YELLOW",
+    ":CLRBACK=DARKBLUE",     ":CLRSUN=BLUE",
+    ":CLRSHADOW=BLACK",      ":TITLESTYLE=OUTSET",
+    ":BORDERTYPE=3DUP",      ":BORDERSTYLE=LEFT RIGHT TOP BOTTOM",
+    ":BORDERHEIGHT=3",       ":CLRTEXT=YELLOW",
 };
 
 } // namespace wnt

@@ -63,8 +63,8 @@ struct GaugeModel {
     std::int32_t minimum = 0;
     std::int32_t maximum = 100;
     std::int32_t current = 50;
-    std::int32_t previous = 0; ///< The value before the last `set_current_value`,
-    bool has_previous = false; ///< once there was one.
+    std::int32_t previous = 0;  ///< The value before the last `set_current_value`,
+    bool has_previous = false;  ///< once there was one.
     ValueHistory history;       ///< Filled by every change of the current value.
     unsigned face_revision = 0; ///< Counts the changes that leave a painted face out of date.
     std::int32_t type = gauge_percent_bar;

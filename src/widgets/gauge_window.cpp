@@ -57,17 +57,16 @@ int thumb_position(CScrollBar& bar, UINT given) {
 } // namespace
 
 BEGIN_MESSAGE_MAP(CWntGauge, CWnd)
-    ON_WM_CREATE()
-    ON_WM_DESTROY()
-    ON_WM_ERASEBKGND()
-    ON_WM_PAINT()
-    ON_WM_SIZE()
-    ON_WM_HSCROLL()
-    ON_WM_DROPFILES()
+ON_WM_CREATE()
+ON_WM_DESTROY()
+ON_WM_ERASEBKGND()
+ON_WM_PAINT()
+ON_WM_SIZE()
+ON_WM_HSCROLL()
+ON_WM_DROPFILES()
 END_MESSAGE_MAP()
 
-CWntGauge::CWntGauge()
-    : model_(std::make_unique<wnt::GaugeModel>()), painter_(std::make_unique<wnt::GaugePainter>()) {}
+CWntGauge::CWntGauge() : model_(std::make_unique<wnt::GaugeModel>()), painter_(std::make_unique<wnt::GaugePainter>()) {}
 
 CWntGauge::~CWntGauge() {
     DestroyWindow(); // while its handlers and what they use still exist
@@ -150,8 +149,7 @@ unsigned char CWntGauge::LoadFromFile(const char* path) {
 void CWntGauge::SetCurVal(int value) {
     if (!this)
         return;
-    trace_.Trace("SetCurVal %d, Range(%d,%d), Current(%d)", value, model_->minimum, model_->maximum,
-                 model_->current);
+    trace_.Trace("SetCurVal %d, Range(%d,%d), Current(%d)", value, model_->minimum, model_->maximum, model_->current);
     if (model_->set_current_value(value))
         Repaint();
 }

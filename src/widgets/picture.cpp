@@ -25,13 +25,11 @@ BoxF bounds_of(const PointF* points, int count) {
 } // namespace
 
 BoxF intersection(const BoxF& a, const BoxF& b) {
-    return {std::max(a.left, b.left), std::max(a.bottom, b.bottom), std::min(a.right, b.right),
-            std::min(a.top, b.top)};
+    return {std::max(a.left, b.left), std::max(a.bottom, b.bottom), std::min(a.right, b.right), std::min(a.top, b.top)};
 }
 
 BoxF hull(const BoxF& a, const BoxF& b) {
-    return {std::min(a.left, b.left), std::min(a.bottom, b.bottom), std::max(a.right, b.right),
-            std::max(a.top, b.top)};
+    return {std::min(a.left, b.left), std::min(a.bottom, b.bottom), std::max(a.right, b.right), std::max(a.top, b.top)};
 }
 
 Colour blend(Colour a, Colour b, int weight) {
@@ -124,15 +122,14 @@ void Picture::text(TextMeter& meter, PointF at, HAlign align, int tenths, Colour
         return;
     const auto first = static_cast<std::uint32_t>(characters_.size());
     characters_.insert(characters_.end(), text.begin(), text.end());
-    figures_.push_back(
-        {Kind::text, align, colour, tenths, first, static_cast<std::uint32_t>(text.size()), cell, at});
+    figures_.push_back({Kind::text, align, colour, tenths, first, static_cast<std::uint32_t>(text.size()), cell, at});
 }
 
 bool Picture::same(const Picture& a, const Picture& b, std::size_t i) {
     const Figure& f = a.figures_[i];
     const Figure& g = b.figures_[i];
-    if (f.kind != g.kind || f.align != g.align || f.colour != g.colour || f.tenths != g.tenths ||
-        f.count != g.count || f.bounds != g.bounds || f.at != g.at)
+    if (f.kind != g.kind || f.align != g.align || f.colour != g.colour || f.tenths != g.tenths || f.count != g.count ||
+        f.bounds != g.bounds || f.at != g.at)
         return false;
     if (f.kind == Kind::text)
         return a.characters(f) == b.characters(g);

@@ -66,13 +66,13 @@ public:
 
     struct Figure {
         Kind kind;
-        HAlign align;      // text
+        HAlign align; // text
         Colour colour;
-        int tenths;        // text: size
+        int tenths;          // text: size
         std::uint32_t first; // polygon: first point; text: first character
         std::uint32_t count;
-        BoxF bounds;       // box: the box itself; text: the cell; nothing is drawn outside
-        PointF at;         // text: the aligned end of the cell's lower edge
+        BoxF bounds; // box: the box itself; text: the cell; nothing is drawn outside
+        PointF at;   // text: the aligned end of the cell's lower edge
     };
 
     void clear();

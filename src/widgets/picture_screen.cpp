@@ -24,8 +24,7 @@ bool grown(const Picture::Figure& a, const Picture::Figure& b) {
     const BoxF& p = a.bounds;
     const BoxF& q = b.bounds;
     return a.kind == Picture::Kind::box && b.kind == Picture::Kind::box && a.colour == b.colour && !p.empty() &&
-           !q.empty() &&
-           (p.left != q.left) + (p.right != q.right) + (p.bottom != q.bottom) + (p.top != q.top) == 1;
+           !q.empty() && (p.left != q.left) + (p.right != q.right) + (p.bottom != q.bottom) + (p.top != q.top) == 1;
 }
 
 BoxF difference(const BoxF& p, const BoxF& q) {
@@ -191,8 +190,7 @@ void PictureScreen::render_band(MemorySurface& target, const Picture& picture, c
         average_row(scratch_.row(y * scale_), pitch, target.row(first_row + y) + band.left, width, scale_);
 }
 
-void PictureScreen::draw_shape(CWntOut& out, const Picture& picture, const Picture::Figure& figure,
-                               int left_subpixel) {
+void PictureScreen::draw_shape(CWntOut& out, const Picture& picture, const Picture::Figure& figure, int left_subpixel) {
     const auto k = static_cast<float>(scale_);
     out.linecolour(COLORREF{figure.colour}, 0);
     out.fillcolour(COLORREF{figure.colour}, 0);

@@ -14,8 +14,7 @@ namespace {
 // Two of the four bytes of a pixel, each in a 16-bit lane with room for 16 of them.
 constexpr std::uint32_t lanes = 0x00FF00FF;
 
-template <int scale>
-void average(const std::uint32_t* large, std::size_t pitch, std::uint32_t* small, int count) {
+template <int scale> void average(const std::uint32_t* large, std::size_t pitch, std::uint32_t* small, int count) {
     constexpr int shift = 2 * std::countr_zero(static_cast<unsigned>(scale));
     constexpr std::uint32_t half = (1u << shift) / 2 * 0x00010001u;
     for (int i = 0; i < count; ++i, large += scale) {

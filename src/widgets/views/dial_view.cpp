@@ -57,20 +57,19 @@ Dial lay_out_dial(const GaugeModel& model, const Stage& stage) {
         }
     }
     // Wide labels at the ends of the scale need the place between them.
-    d.unit_on_face = d.readout_on_face && !model.no_title && d.radius >= least_written_radius &&
-                     label <= d.radius * 0.34f;
+    d.unit_on_face =
+        d.readout_on_face && !model.no_title && d.radius >= least_written_radius && label <= d.radius * 0.34f;
     return d;
 }
 
 // The needle points along +x in its own frame, of length 1; it is turned and scaled once.
-constexpr PointF needle_outline[] = {{-0.22f, 0.040f}, {0.0f, 0.056f}, {0.97f, 0.012f}, {1.0f, 0.0f},
+constexpr PointF needle_outline[] = {{-0.22f, 0.040f}, {0.0f, 0.056f},  {0.97f, 0.012f},  {1.0f, 0.0f},
                                      {0.97f, -0.012f}, {0.0f, -0.056f}, {-0.22f, -0.040f}};
 constexpr PointF needle_lit[] = {{-0.20f, 0.0f}, {-0.20f, 0.026f}, {0.0f, 0.040f}, {0.96f, 0.004f}, {0.96f, 0.0f}};
 constexpr PointF needle_dark[] = {{-0.20f, 0.0f}, {0.96f, 0.0f}, {0.96f, -0.004f}, {0.0f, -0.040f}, {-0.20f, -0.026f}};
 
 template <int n>
-void paint_turned(Picture& picture, const PointF (&shape)[n], PointF origin, float length, float angle,
-                  Colour colour) {
+void paint_turned(Picture& picture, const PointF (&shape)[n], PointF origin, float length, float angle, Colour colour) {
     PointF turned[n];
     const float c = std::cos(angle) * length;
     const float s = std::sin(angle) * length;
@@ -126,8 +125,7 @@ void dial_face(Picture& picture, const GaugeModel& model, const Stage& stage) {
     paint_bezel(picture, c, r * 0.92f, r * 0.955f, theme.sun, blend(theme.shadow, theme.sun, 60));
     picture.disc(c, r * 0.925f, theme.plate);
     paint_round_zones(picture, model, d.scale, r * 0.80f, r * 0.885f);
-    paint_round_ticks(picture, model, stage, d.scale,
-                      {r * 0.80f, r * 0.70f, r * 0.75f, r * 0.67f, true, d.label_size});
+    paint_round_ticks(picture, model, stage, d.scale, {r * 0.80f, r * 0.70f, r * 0.75f, r * 0.67f, true, d.label_size});
     if (d.unit_on_face) {
         const FittedText unit = fit(stage.meter, model.unit_text(), d.writing_size, r * 0.62f, stage.meter.tenths(6));
         write(picture, stage.meter, {c.x, c.y - r * 0.36f}, HAlign::centre, unit.tenths, theme.text, unit.text);

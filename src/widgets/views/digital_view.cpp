@@ -75,12 +75,12 @@ void paint_segment(Picture& picture, PointF from, PointF to, float thick, Colour
     const float h = thick / 2;
     const float gap = h * 0.18f + 0.25f;
     if (from.y == to.y) {
-        const PointF p[6] = {{from.x + gap, from.y},     {from.x + h + gap, from.y + h}, {to.x - h - gap, to.y + h},
-                             {to.x - gap, to.y},         {to.x - h - gap, to.y - h},     {from.x + h + gap, from.y - h}};
+        const PointF p[6] = {{from.x + gap, from.y}, {from.x + h + gap, from.y + h}, {to.x - h - gap, to.y + h},
+                             {to.x - gap, to.y},     {to.x - h - gap, to.y - h},     {from.x + h + gap, from.y - h}};
         picture.polygon(p, 6, colour);
     } else {
-        const PointF p[6] = {{from.x, from.y + gap},     {from.x + h, from.y + h + gap}, {to.x + h, to.y - h - gap},
-                             {to.x, to.y - gap},         {to.x - h, to.y - h - gap},     {from.x - h, from.y + h + gap}};
+        const PointF p[6] = {{from.x, from.y + gap}, {from.x + h, from.y + h + gap}, {to.x + h, to.y - h - gap},
+                             {to.x, to.y - gap},     {to.x - h, to.y - h - gap},     {from.x - h, from.y + h + gap}};
         picture.polygon(p, 6, colour);
     }
 }
@@ -93,17 +93,17 @@ void paint_digit(Picture& picture, const BoxF& cell, int lit, Colour on, Colour 
     const float low = cell.bottom + h;
     const float high = cell.top - h;
     const float middle = (low + high) / 2;
-    const PointF ends[7][2] = {{{left, high}, {right, high}}, {{right, middle}, {right, high}},
-                               {{right, low}, {right, middle}}, {{left, low}, {right, low}},
-                               {{left, low}, {left, middle}}, {{left, middle}, {left, high}},
+    const PointF ends[7][2] = {{{left, high}, {right, high}},    {{right, middle}, {right, high}},
+                               {{right, low}, {right, middle}},  {{left, low}, {right, low}},
+                               {{left, low}, {left, middle}},    {{left, middle}, {left, high}},
                                {{left, middle}, {right, middle}}};
     for (int i = 0; i < 7; ++i)
         paint_segment(picture, ends[i][0], ends[i][1], thick, lit >> i & 1 ? on : off);
 }
 
 void paint_lamps(Picture& picture, const GaugeModel& model, const Display& d, Colour ground) {
-    const TickSteps steps = tick_steps(model.minimum, model.maximum, model.scales,
-                                       static_cast<std::int32_t>(d.bar.width()), 5, 10);
+    const TickSteps steps =
+        tick_steps(model.minimum, model.maximum, model.scales, static_cast<std::int32_t>(d.bar.width()), 5, 10);
     const double shown = scale_fraction(model.minimum, model.maximum, model.current);
     for (int i = 0; i < model.scales; i += steps.minor) {
         const int next = std::min(i + steps.minor, model.scales);
@@ -142,10 +142,11 @@ void digital_value(Picture& picture, const GaugeModel& model, const Stage& stage
         paint_digit(picture, cell, i < blank ? 0 : segments_for(text[static_cast<std::size_t>(i - blank)]), on, off);
     }
     if (d.unit_size) {
-        const FittedText unit =
-            fit(stage.meter, model.unit_text(), d.unit_size, d.panel.right - d.figures.right - 3, stage.meter.tenths(6));
-        write(picture, stage.meter, {d.figures.right + 2, d.figures.bottom + stage.meter.metrics(unit.tenths).cap_height / 2},
-              HAlign::left, unit.tenths, ink, unit.text);
+        const FittedText unit = fit(stage.meter, model.unit_text(), d.unit_size, d.panel.right - d.figures.right - 3,
+                                    stage.meter.tenths(6));
+        write(picture, stage.meter,
+              {d.figures.right + 2, d.figures.bottom + stage.meter.metrics(unit.tenths).cap_height / 2}, HAlign::left,
+              unit.tenths, ink, unit.text);
     }
     if (d.bar.empty())
         return;

@@ -7,12 +7,12 @@ namespace wnt {
 namespace {
 
 constexpr GaugeView views[] = {
-    {bar_face, bar_value},         // PERCENTBAR
+    {bar_face, bar_value},                 // PERCENTBAR
     {thermometer_face, thermometer_value}, // THERMOMETER
-    {dial_face, dial_value},       // ANALOG
-    {digital_face, digital_value}, // DIGITAL
-    {peak_face, peak_value},       // PEAKLINE
-    {knob_face, knob_value},       // TURNKNOB
+    {dial_face, dial_value},               // ANALOG
+    {digital_face, digital_value},         // DIGITAL
+    {peak_face, peak_value},               // PEAKLINE
+    {knob_face, knob_value},               // TURNKNOB
 };
 
 } // namespace

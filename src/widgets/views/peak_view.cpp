@@ -53,8 +53,7 @@ Plot lay_out_plot(const GaugeModel& model, const Stage& stage) {
 }
 
 float height_of(const GaugeModel& model, const Plot& p, std::int32_t value) {
-    return std::round(p.area.bottom + p.area.height() *
-                                          fraction_of(model, value));
+    return std::round(p.area.bottom + p.area.height() * fraction_of(model, value));
 }
 
 // The column after the newest stays empty: it parts the newest values from the oldest.

@@ -55,8 +55,7 @@ void paint_round_ticks(Picture& picture, const GaugeModel& model, const Stage& s
     }
 }
 
-void paint_round_zones(Picture& picture, const GaugeModel& model, const RoundScale& scale, float inner,
-                       float outer) {
+void paint_round_zones(Picture& picture, const GaugeModel& model, const RoundScale& scale, float inner, float outer) {
     for (const ScaleZone& zone : zones_of(model))
         picture.ring_sector(scale.centre, inner, outer, scale.angle(zone.from), scale.angle(zone.to), zone.colour);
 }

@@ -32,7 +32,8 @@ Thermometer lay_out_thermometer(const GaugeModel& model, const Stage& stage) {
         body.bottom = t.readout.top + 3;
     }
     if (body.height() >= 50 && body.width() >= 56)
-        t.label_size = stage.meter.tenths(std::clamp(std::min(body.height() * 0.06f, body.width() * 0.11f), 7.0f, 30.0f));
+        t.label_size =
+            stage.meter.tenths(std::clamp(std::min(body.height() * 0.06f, body.width() * 0.11f), 7.0f, 30.0f));
     t.bulb_radius = std::clamp(std::min(body.width() * 0.16f, body.height() * 0.095f), 2.0f, 90.0f);
     const float half = std::max(t.bulb_radius * 0.46f, 1.0f);
     const float x = std::round(body.centre().x + (t.label_size ? body.width() * 0.04f : 0));
@@ -78,8 +79,7 @@ void thermometer_face(Picture& picture, const GaugeModel& model, const Stage& st
         if (!k.major || !t.label_size)
             continue;
         const float end = right - std::round(tick) - 3;
-        const FittedText label =
-            fit_number(stage.meter, number_text(k.value), t.label_size, end - t.layout.body.left);
+        const FittedText label = fit_number(stage.meter, number_text(k.value), t.label_size, end - t.layout.body.left);
         write(picture, stage.meter, {end, y + weight / 2}, HAlign::right, label.tenths, theme.text, label.text);
     }
 }

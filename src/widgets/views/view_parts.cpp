@@ -14,14 +14,13 @@ namespace {
 constexpr Colour white = 0xFFFFFF;
 constexpr Colour black = 0x000000;
 constexpr float small_radius = 42; // pixels: below, a readout within a round instrument cannot be read
-constexpr float least_text = 6; // pixels: below, digits cannot be told apart
+constexpr float least_text = 6;    // pixels: below, digits cannot be told apart
 
 bool is_dark(Colour colour) {
     return brightness(colour) < 128;
 }
 
-void paint_border(Picture& picture, const BoxF& outer, float height, int sides, Colour top_left,
-                  Colour bottom_right) {
+void paint_border(Picture& picture, const BoxF& outer, float height, int sides, Colour top_left, Colour bottom_right) {
     // Upper and left sides last: the corners belong to the light.
     if (sides & side_right)
         picture.box({outer.right - height, outer.bottom, outer.right, outer.top}, bottom_right);
@@ -162,8 +161,7 @@ std::string widest_value(const GaugeModel& model, TextMeter& meter, int tenths) 
 
 } // namespace
 
-void paint_readout(Picture& picture, const GaugeModel& model, const Stage& stage, const BoxF& plate,
-                   bool with_unit) {
+void paint_readout(Picture& picture, const GaugeModel& model, const Stage& stage, const BoxF& plate, bool with_unit) {
     if (plate.empty())
         return;
     const Colour colour = zone_colour(model, model.current);
@@ -243,8 +241,7 @@ namespace {
 
 // A label tells the truth when its whole number lies within half a pixel of the tick.
 bool labelled_truly(const GaugeModel& model, const Tick& tick, float length) {
-    return std::abs(fraction_of(model, tick.value) - tick.fraction) * length <= 0.5f ||
-           model.minimum == model.maximum;
+    return std::abs(fraction_of(model, tick.value) - tick.fraction) * length <= 0.5f || model.minimum == model.maximum;
 }
 
 // The scale's end always has its tick and label: they push those before them aside.
@@ -259,9 +256,9 @@ void close_scale(std::vector<Tick>& ticks, const Tick& end, float length, float 
 } // namespace
 
 std::vector<Tick> ticks_of(const GaugeModel& model, float length, float least_tick, float least_label) {
-    const TickSteps steps = tick_steps(model.minimum, model.maximum, model.scales, static_cast<std::int32_t>(length),
-                                       static_cast<std::int32_t>(std::ceil(least_tick)),
-                                       static_cast<std::int32_t>(std::ceil(least_label)));
+    const TickSteps steps =
+        tick_steps(model.minimum, model.maximum, model.scales, static_cast<std::int32_t>(length),
+                   static_cast<std::int32_t>(std::ceil(least_tick)), static_cast<std::int32_t>(std::ceil(least_label)));
     const auto tick_at = [&](std::int32_t i) {
         return Tick{static_cast<float>(i) / static_cast<float>(model.scales),
                     division_value(model.minimum, model.maximum, model.scales, i), i % steps.major == 0};
