@@ -97,7 +97,7 @@ void bar_face(Picture& picture, const GaugeModel& model, const Stage& stage) {
     const Theme theme = theme_of(model);
     const Bar b = lay_out_bar(model, stage);
     paint_ground(picture, model, stage);
-    paint_edge(picture, {b.groove.left - 1, b.groove.bottom - 1, b.groove.right + 1, b.groove.top + 1}, theme, false);
+    paint_sunken_edge(picture, {b.groove.left - 1, b.groove.bottom - 1, b.groove.right + 1, b.groove.top + 1}, theme);
     picture.box(b.groove, theme.groove);
     paint_zone_strip(picture, model, b.zones, false);
     paint_title(picture, model, stage, b.layout);

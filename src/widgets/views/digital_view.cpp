@@ -122,7 +122,7 @@ void paint_lamps(Picture& picture, const GaugeModel& model, const Display& d, Co
 void digital_face(Picture& picture, const GaugeModel& model, const Stage& stage) {
     const Display d = lay_out_display(model, stage);
     paint_ground(picture, model, stage);
-    paint_edge(picture, d.panel, theme_of(model), false);
+    paint_sunken_edge(picture, d.panel, theme_of(model));
     paint_title(picture, model, stage, d.layout);
 }
 

@@ -91,7 +91,7 @@ void peak_face(Picture& picture, const GaugeModel& model, const Stage& stage) {
     const Plot p = lay_out_plot(model, stage);
     paint_ground(picture, model, stage);
     paint_title(picture, model, stage, p.layout);
-    paint_edge(picture, p.area.inset(-1), theme, false);
+    paint_sunken_edge(picture, p.area.inset(-1), theme);
     picture.box(p.area, theme.plate);
     paint_zone_strip(picture, model, p.zones, true);
 

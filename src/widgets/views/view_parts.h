@@ -10,6 +10,8 @@ namespace wnt {
 
 // Parts that the views share. Sizes are pixels; text sizes are tenths of a point.
 
+inline constexpr float least_text = 6; ///< pixels: below, digits cannot be told apart
+
 /// The colours that follow from a model's own, so that everything stays legible on any background.
 struct Theme {
     Colour back;
@@ -69,8 +71,8 @@ BoxF take_lower_readout(BoxF& body);
 /// Either of them, for a round instrument that is too small to carry a readout; empty when it is not.
 BoxF take_outer_readout(BoxF& body);
 
-/// A frame of one pixel, lit from the top left when raised.
-void paint_edge(Picture& picture, const BoxF& box, const Theme& theme, bool raised);
+/// A frame of one pixel around something sunk, under light from the top left.
+void paint_sunken_edge(Picture& picture, const BoxF& box, const Theme& theme);
 
 /// The zones of the whole scale as boxes along a straight scale, from its low to its high end.
 void paint_zone_strip(Picture& picture, const GaugeModel& model, const BoxF& strip, bool upright);
