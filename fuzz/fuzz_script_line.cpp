@@ -28,9 +28,8 @@ void check_fields(const GaugeModel& model) {
 }
 
 void check_scale(const GaugeModel& model) {
-    const std::int32_t span = std::max(1, model.current);
-    const std::int32_t position = scale_position(model.minimum, model.maximum, model.current, span);
-    require(position >= 0 && position <= span);
+    const double fraction = scale_fraction(model.minimum, model.maximum, model.current);
+    require(fraction >= 0 && fraction <= 1);
     require(division_value(model.minimum, model.maximum, model.scales, model.scales) == model.maximum);
     const TickSteps steps = tick_steps(model.minimum, model.maximum, model.scales, model.maximum, 4, model.current);
     require(steps.minor >= 1 && steps.major % steps.minor == 0 && steps.major <= model.scales);

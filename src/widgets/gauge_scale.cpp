@@ -72,13 +72,6 @@ double scale_fraction(std::int32_t minimum, std::int32_t maximum, std::int32_t v
     return along.length == 0 ? 0.0 : static_cast<double>(along.way) / static_cast<double>(along.length);
 }
 
-std::int32_t scale_position(std::int32_t minimum, std::int32_t maximum, std::int32_t value, std::int32_t span) {
-    const Along along = along_scale(minimum, maximum, value);
-    if (along.length == 0 || span < 1)
-        return 0;
-    return static_cast<std::int32_t>(share(along.way, span, along.length));
-}
-
 std::int32_t division_value(std::int32_t minimum, std::int32_t maximum, std::int32_t divisions, std::int32_t division) {
     const std::int32_t count = std::max(divisions, 1);
     const std::int64_t length = along_scale(minimum, maximum, minimum).length;

@@ -11,9 +11,6 @@ namespace wnt {
 /// values outside are clamped, and an empty scale gives 0.
 double scale_fraction(std::int32_t minimum, std::int32_t maximum, std::int32_t value);
 
-/// The same as a position 0..span, rounded to the nearest; 0 for a span below 1.
-std::int32_t scale_position(std::int32_t minimum, std::int32_t maximum, std::int32_t value, std::int32_t span);
-
 /// Value at division 0..divisions of the scale, rounded to the nearest; other divisions are clamped.
 std::int32_t division_value(std::int32_t minimum, std::int32_t maximum, std::int32_t divisions, std::int32_t division);
 
