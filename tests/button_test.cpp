@@ -8,6 +8,18 @@ namespace {
 
 constexpr int surface_id = 101;
 
+// Tells when a message went on to the base class, which offers it to the bar itself.
+class HeardScrollBar : public CWntScrollBar {
+public:
+    int passed_on = 0;
+
+protected:
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override {
+        passed_on += message == WM_VSCROLL;
+        return CWntScrollBar::OnChildNotify(message, wParam, lParam, result);
+    }
+};
+
 class ButtonTest : public WidgetTest {
 protected:
     static void script(CWntButton& button, std::initializer_list<const char*> lines) {
@@ -58,6 +70,41 @@ TEST_F(ButtonTest, BorderIsMitredAndLitFromTheTopLeft) {
     EXPECT_EQ(flat.count(red), 2 * (60 + 28) + 2 * (58 + 26) - 1); // frame, border less its upper right corner
     EXPECT_GT(flat.count(white), 0);                               // the title
     EXPECT_EQ(flat.at(55, 5), black);
+}
+
+TEST_F(ButtonTest, TitleStylesShiftTheirUnderlines) {
+    CWntButton button;
+    open(button, 320, 60);
+    // Only the underline is left of a title without a text: colour, row above the inner lower edge, first column,
+    // length.
+    struct Line {
+        COLORREF colour;
+        int row, from, length;
+    };
+    const COLORREF text = RGB(255, 255, 0);
+    const COLORREF sun = RGB(0, 255, 0);
+    const COLORREF shadow = RGB(255, 0, 255);
+    const struct {
+        const char* style;
+        std::vector<Line> lines;
+    } rows[] = {{":TITLESTYLE=PLAIN", {{text, 1, 0, 201}}},
+                {":TITLESTYLE=BOLD", {{text, 1, 0, 202}}},
+                {":TITLESTYLE=OUTSET", {{sun, 2, -1, 201}, {shadow, 0, 1, 201}, {text, 1, 0, 201}}},
+                {":TITLESTYLE=INSET", {{shadow, 2, -1, 201}, {sun, 0, 1, 201}, {text, 1, 0, 201}}}};
+    for (const auto& row : rows) {
+        script(button, {":TITLE=", ":CLRSUN=GREEN", ":CLRSHADOW=MAGENTA", ":BORDERHEIGHT=0", row.style});
+        Tcbtn_properties p;
+        button.getproperties(&p);
+        p.underline = 1;
+        button.setproperties(&p);
+        const Pixels shown = pixels_of(button);
+        for (const Line& line : row.lines) {
+            const int y = 59 - (1 + line.row); // the inner rectangle begins at 1, 1
+            EXPECT_EQ(shown.at(1 + line.from, y), line.colour) << row.style;
+            EXPECT_EQ(shown.at(line.from + line.length, y), line.colour) << row.style;
+            EXPECT_EQ(shown.at(1 + line.from + line.length, y), dark_blue) << row.style;
+        }
+    }
 }
 
 TEST_F(ButtonTest, PressMovesThePictureAndReleaseBringsItBack) {
@@ -116,11 +163,11 @@ TEST_F(ButtonTest, AnyBlockAndSizeIsHarmless) {
     CWntButton button;
     open(button, 80, 30);
     Tcbtn_properties p;
-    const int odd[] = {INT_MIN, -7, 0, 3, 255, INT_MAX};
+    const int odd[] = {INT_MIN, INT_MIN + 1, -7, 0, 3, 255, INT_MAX - 1, INT_MAX};
     for (const int value : odd) {
         std::memset(&p, 'x', sizeof p); // titles and identifiers without an end
         p.visible = 1;
-        p.titlestyle = static_cast<std::uint8_t>(value);
+        p.titlestyle = static_cast<std::uint8_t>(value & 3);
         p.align = static_cast<std::uint8_t>(value & 15);
         p.bordertype = value & 3;
         p.borderstyle = 15;
@@ -141,7 +188,7 @@ TEST_F(ButtonTest, AnyBlockAndSizeIsHarmless) {
 }
 
 TEST_F(ButtonTest, ScrollBarMovesItsOwnThumb) {
-    CWntScrollBar bar;
+    HeardScrollBar bar;
     CScrollBar other;
     ASSERT_TRUE(bar.Create(WS_CHILD | WS_VISIBLE | SBS_VERT, CRect(0, 0, 20, 200), &host_, 5));
     ASSERT_TRUE(other.Create(WS_CHILD | SBS_HORZ, CRect(0, 0, 200, 20), &host_, 6));
@@ -150,13 +197,15 @@ TEST_F(ButtonTest, ScrollBarMovesItsOwnThumb) {
     other.SetScrollInfo(&info);
     const struct {
         UINT code, pos;
-        int expected;
-    } rows[] = {{SB_LINEDOWN, 0, 11},  {SB_LINEUP, 0, 10},           {SB_TOP, 0, 9},
-                {SB_BOTTOM, 0, 10},    {SB_PAGEDOWN, 0, 10},         {SB_THUMBTRACK, 57, 57},
-                {SB_ENDSCROLL, 3, 57}, {SB_THUMBPOSITION, 900, 100}, {99, 4, 100}};
+        int expected, passed_on;
+    } rows[] = {{SB_LINEDOWN, 0, 11, 1},    {SB_LINEUP, 0, 10, 2},    {SB_TOP, 0, 9, 3},
+                {SB_BOTTOM, 0, 10, 4},      {SB_PAGEDOWN, 0, 10, 4},  {SB_THUMBTRACK, 57, 57, 5},
+                {SB_THUMBTRACK, 57, 57, 5}, {SB_ENDSCROLL, 3, 57, 5}, {SB_THUMBPOSITION, 900, 100, 6},
+                {SB_LINEDOWN, 0, 100, 7},   {99, 4, 100, 7}};
     for (const auto& row : rows) {
         bar.SendMessage(WM_VSCROLL, MAKEWPARAM(row.code, row.pos), reinterpret_cast<LPARAM>(bar.m_hWnd));
         EXPECT_EQ(bar.GetScrollPos(), row.expected) << row.code;
+        EXPECT_EQ(bar.passed_on, row.passed_on) << row.code;
         bar.SetThumb(row.code, row.pos, &other); // any bar, by whichever object
         EXPECT_EQ(other.GetScrollPos(), row.expected) << row.code;
     }

@@ -89,7 +89,11 @@ TEST(ButtonModel, InsideAndAnchors) {
         const TitleAnchor a = title_anchor(row.align, inside);
         EXPECT_TRUE(a.x == row.x && a.y == row.y && a.underline_x == row.ux && a.underline_y == row.uy) << row.align;
     }
-    p.borderheight = INT_MAX; // from a block, nothing is checked
+    for (const int height : {INT_MAX, INT_MAX - 1, 1000000}) { // from a block, nothing is checked
+        p.borderheight = height;
+        EXPECT_LE(button_inside(p, box).height(), 0) << height;
+    }
+    p.borderheight = INT_MIN;
     title_anchor(10, button_inside(p, box));
     EXPECT_TRUE(box.holds(1, 39));
     EXPECT_FALSE(box.holds(0, 5) || box.holds(100, 5) || box.holds(5, 40));

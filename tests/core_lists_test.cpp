@@ -188,7 +188,7 @@ void compare_ulist(unsigned seed) {
                 slots[count++] = item;
             break;
         case 1: {
-            const bool taken = count < capacity - 1 && 0 <= cursor && cursor <= count;
+            const bool taken = count < capacity - 1 && 0 <= cursor && cursor < capacity;
             EXPECT_EQ(list.insertitem(&item), taken ? count + 1 : -1);
             for (int each = count; taken && each > cursor; --each)
                 slots[each] = slots[each - 1];

@@ -4,8 +4,9 @@
 
 #include "zopwnt_api.h"
 
-/// A scroll bar that moves its own thumb, so that its owner only has to read the position. Lines step by 1, pages by
-/// the page size; the codes for the ends move by one line only.
+/// A scroll bar that moves its own thumb, so that its owner only has to read the position: the owner hands the scroll
+/// messages that it gets on to the bar, or calls SetThumb. Lines step by 1, pages by the page size; the codes for the
+/// ends move by one line only.
 class ZOPWNT_API CWntScrollBar : public CScrollBar {
 public:
     /// Applies a scroll code to a bar; null changes nothing.

@@ -58,9 +58,9 @@ int CWntUlist::additem(void* item) {
 }
 
 int CWntUlist::insertitem(void* item) {
-    if (!this || !item || count >= capacity - 1 || cursor < 0 || cursor > count)
+    if (!this || !item || count >= capacity - 1 || cursor < 0 || cursor >= capacity)
         return -1;
-    move(cursor, cursor + 1, count - cursor);
+    move(cursor, cursor + 1, std::max(count - cursor, 0));
     std::memmove(slot(cursor), item, itemsize);
     return ++count;
 }

@@ -37,7 +37,7 @@ public:
     /// Appends: the new item's index, or -1 when the list is full.
     int additem(void* item);
     /// Inserts at the cursor: the new number of items, or -1. The last slot is for additem() alone: refused when only
-    /// one is free, and when the cursor is outside the items and not right behind them.
+    /// one is free, and when the cursor is outside the slots. Behind the items nothing moves.
     int insertitem(void* item);
     /// Removes the item at the cursor, the last one when the cursor is behind it; 0 without items. The slot of the
     /// former last item keeps its bytes.

@@ -128,10 +128,13 @@ int CWntObjlist::readitem(char* key, int len, void* out) {
 
 int CWntObjlist::updateitem(char* key, int len, void* data) {
     Header header;
-    if (!this || !key || len < 0 || !data || !current_has(key, header))
+    if (!this || !key || !current_has(key, header))
         return 0;
-    if (static_cast<std::uint32_t>(len) == header.length)
-        std::memmove(cursor + header_size, data, header.length);
+    if (len < 0 || static_cast<std::uint32_t>(len) != header.length)
+        return 1; // intended: another length is accepted and changes nothing
+    if (!data)
+        return 0;
+    std::memmove(cursor + header_size, data, header.length);
     return 1;
 }
 

@@ -16,7 +16,8 @@
 ///     list.destroy();
 ///
 /// A record is its tag (4 bytes), the length of its data (4 bytes) and the data, unaligned and without padding; a tag
-/// or a length of 0 ends a walk. Only the first four characters of a key count, a shorter one is filled up with zeros.
+/// or a length of 0 ends a walk. Only the first four characters of a key count, a shorter one is filled up with zeros:
+/// keys are texts, nothing behind a zero byte counts. Data to be stored must not lie in the list.
 ///
 /// Refusals show in the results only. On a null object, before create() and after destroy() every operation answers
 /// its failure value, or does nothing. A cursor outside the records, or a length that leads out of them, ends a walk

@@ -75,7 +75,10 @@ std::optional<float> whole_float(std::string_view text) {
 
 std::optional<std::int32_t> read_line_count(std::FILE* from) {
     char word[longest_number + 1];
-    return read_word(from, word, sizeof word) ? whole_integer(word) : std::nullopt;
+    if (!read_word(from, word, sizeof word))
+        return std::nullopt;
+    std::string_view text(word);
+    return take_integer(text); // what follows the digits is not looked at
 }
 
 void append(PulseText& title, std::string_view text) {

@@ -1,5 +1,6 @@
 #include "widgets/button_model.h"
 
+#include <algorithm>
 #include <cstring>
 #include <iterator>
 
@@ -99,7 +100,9 @@ int ButtonInside::height() const {
 }
 
 ButtonInside button_inside(const Tcbtn_properties& p, const ButtonBox& box) {
-    const int inset = add(p.borderheight, p.frame ? 2 : 1);
+    // A border beyond any that the button could show changes no pixel, but must not wrap around.
+    const int most = std::max({box.width, box.height, highest_border});
+    const int inset = std::clamp(p.borderheight, -most, most) + (p.frame ? 2 : 1);
     return {add(box.x, inset), add(box.y, inset), subtract(box.x + box.width - 1, inset),
             subtract(box.y + box.height - 1, inset)};
 }
@@ -138,7 +141,7 @@ TitleAnchor title_anchor(int align, const ButtonInside& inside) {
 }
 
 void ButtonModel::clear() {
-    properties_ = {};
+    std::memset(&properties_, 0, sizeof properties_); // what lies between the fields is compared, too
     mask_ = 0;
 }
 

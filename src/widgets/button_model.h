@@ -48,6 +48,8 @@ TitleAnchor title_anchor(int align, const ButtonInside& inside);
 /// A button's attributes and what a script line does to them.
 class ButtonModel {
 public:
+    ButtonModel() { clear(); }
+
     const Tcbtn_properties& properties() const { return properties_; }
     int repaint_mask() const { return mask_; }
     void request(int mask) { mask_ |= mask; }
@@ -66,8 +68,8 @@ public:
     void set_border_type(BorderType type) { properties_.bordertype = type; }
 
 private:
-    Tcbtn_properties properties_ = {};
-    int mask_ = 0;
+    Tcbtn_properties properties_;
+    int mask_;
 };
 
 /// The script that a new button runs.

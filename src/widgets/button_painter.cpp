@@ -140,15 +140,18 @@ void paint_button_title(CWntOut& out, const Tcbtn_properties& p, const ButtonIns
 void move_button_picture(CWntOut& out, const Tcbtn_properties& p, const ButtonInside& inside, bool pressed) {
     const int w = inside.width();
     const int h = inside.height();
-    if (w <= 2 || h <= 2)
-        return; // nothing to move; the surface would take a size of 0 for its own
+    if (w <= 0 || h <= 0)
+        return;
+    const bool movable = w > 2 && h > 2; // the surface would take a size of 0 for its own
     out.fillcolour(p.clrback, 0);
     if (pressed) {
-        out.scroll(inside.left, inside.bottom + 2, w - 2, h, 2, -2, 0);
+        if (movable)
+            out.scroll(inside.left, inside.bottom + 2, w - 2, h, 2, -2, 0);
         out.boxr2(inside.left, inside.top - 2, w, 2);
         out.boxr2(inside.left, inside.bottom, 2, h);
     } else {
-        out.scroll(inside.left + 2, inside.bottom, w - 2, h - 2, -2, 2, 0);
+        if (movable)
+            out.scroll(inside.left + 2, inside.bottom, w - 2, h - 2, -2, 2, 0);
         out.boxr2(inside.left, inside.bottom, w, 2);
         out.boxr2(inside.left + w - 2, inside.bottom, 2, h);
     }

@@ -1,5 +1,7 @@
 #include "widgets/wnt_button.h"
 
+#include <cstring>
+
 #include "script/script_line.h"
 #include "widgets/button_painter.h"
 
@@ -40,7 +42,11 @@ BOOL CWntButton::PreCreateWindow(CREATESTRUCT& create) {
 int CWntButton::OnCreate(LPCREATESTRUCT create) {
     if (const int result = CWnd::OnCreate(create); result != 0)
         return result;
+    if (out_.m_hWnd)
+        return -1; // not a creation
     model_->clear();
+    *box_ = {};
+    *inside_ = {};
     created_ = true;
     if (!out_.Create(nullptr, "Button.Out", WS_CHILD | WS_VISIBLE, CRect(0, 0, 1, 1), this, surface_id))
         return -1;
@@ -72,7 +78,7 @@ unsigned char CWntButton::load(const char* line, int mode) {
 unsigned char CWntButton::getproperties(Tcbtn_properties* block) {
     if (!this || !block)
         return 0;
-    *block = model_->properties();
+    std::memcpy(block, &model_->properties(), sizeof *block);
     return 1;
 }
 
@@ -99,11 +105,11 @@ bool CWntButton::begin_painting() {
 }
 
 void CWntButton::repaint() {
-    if (begin_painting()) {
-        draw_background();
-        draw_foreground();
+    const bool drawable = begin_painting();
+    draw_background(); // measures, even where nothing can be drawn
+    draw_foreground();
+    if (drawable)
         out_.endpaint();
-    }
     model_->painted();
 }
 
@@ -177,6 +183,8 @@ void CWntButton::OnSize(UINT type, int cx, int cy) {
     box_->x = 0;
     box_->width = cx;
     box_->height = cy;
+    if (!out_.m_hWnd)
+        return;
     out_.SetWindowPos(nullptr, 0, 0, cx, cy, SWP_NOZORDER | SWP_NOACTIVATE);
     out_.ShowWindow(SW_SHOW);
     Invalidate(FALSE); // a smaller window is laid out anew, too

@@ -81,6 +81,8 @@ BOOL CWntGauge::PreCreateWindow(CREATESTRUCT& create) {
 int CWntGauge::OnCreate(LPCREATESTRUCT create) {
     if (const int result = CWnd::OnCreate(create); result != 0)
         return result;
+    if (out_.m_hWnd)
+        return -1; // not a creation
     if (!create_children())
         return -1;
     trace_.SetFilename("gaugeocx.log");
@@ -239,6 +241,8 @@ void CWntGauge::OnSize(UINT type, int cx, int cy) {
     width_ = cx;
     height_ = std::max(cy - strip, 0);
     auto place = [](CWnd& child, int x, int y, int w, int h) {
+        if (!child.m_hWnd)
+            return;
         child.SetWindowPos(nullptr, x, y, std::max(w, 0), std::max(h, 0), SWP_NOZORDER | SWP_NOACTIVATE);
         child.ShowWindow(SW_SHOW);
     };
