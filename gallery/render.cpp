@@ -67,7 +67,21 @@ bool RenderPages(const CString& folder, CSize size, const std::vector<CString>& 
     return good;
 }
 
-bool RenderScript(const CString& folder, CSize size, const CString& script) {
+// Pictures of scripts that are named alike are told apart by a number.
+CString PictureName(const CString& script, const std::vector<CString>& scripts) {
+    int same = 0;
+    for (const CString& other : scripts) {
+        if (&other == &script)
+            break;
+        same += BaseName(other).CompareNoCase(BaseName(script)) == 0;
+    }
+    CString name = BaseName(script);
+    if (same > 0)
+        name.AppendFormat("-%d", same + 1);
+    return name;
+}
+
+bool RenderScript(const CString& file, CSize size, const CString& script) {
     CStudio studio;
     CWntGauge gauge;
     if (::GetFileAttributesA(script) & FILE_ATTRIBUTE_DIRECTORY) { // of a missing file all bits are set
@@ -78,7 +92,7 @@ bool RenderScript(const CString& folder, CSize size, const CString& script) {
         !gauge.Create(nullptr, "Gauge", WS_CHILD | WS_VISIBLE, CRect(CPoint(0, 0), size), &studio, 1))
         return false;
     gauge.LoadFromFile(script);
-    const bool good = Shoot(gauge, size, folder + "\\" + BaseName(script) + ".png");
+    const bool good = Shoot(gauge, size, file);
     gauge.DestroyWindow();
     return good;
 }
@@ -90,6 +104,6 @@ bool RenderGallery(const CString& folder, CSize size, const std::vector<CString>
     const bool own = size.cx == 0;
     bool good = RenderPages(folder, own ? page_size : size, scripts);
     for (const CString& script : scripts)
-        good &= RenderScript(folder, own ? gauge_size : size, script);
+        good &= RenderScript(folder + "\\" + PictureName(script, scripts) + ".png", own ? gauge_size : size, script);
     return good;
 }

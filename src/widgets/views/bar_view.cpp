@@ -32,7 +32,7 @@ Bar lay_out_bar(const GaugeModel& model, const Stage& stage) {
                                       body.width() * 0.30f);
     const float labels = b.label_size ? stage.meter.metrics(b.label_size).height() + height * 0.05f + 3 : 0;
     const float ends = b.label_size ? widest_label(model, stage.meter, b.label_size) / 2 : 0;
-    const float strip = std::clamp(height * 0.07f, 2.0f, 10.0f);
+    const float strip = std::clamp(height * 0.07f, 2.0f, 20.0f);
     const float plate = height >= 70 && body.width() >= 56 ? std::clamp(height * 0.17f, 14.0f, 60.0f) : 0;
     const float gap = plate > 0 ? std::round(height * 0.06f) : 0;
     const float room = height - strip - labels - plate - gap - 2;

@@ -40,14 +40,14 @@ Plot lay_out_plot(const GaugeModel& model, const Stage& stage) {
         body.bottom += cap;
         body.top -= cap;
     }
-    const float strip = std::clamp(std::round(body.width() * 0.025f), 2.0f, 8.0f);
+    const float strip = std::clamp(std::round(body.width() * 0.025f), 2.0f, 14.0f);
     p.zones = {std::round(body.left + labels), std::round(body.bottom) + 1, std::round(body.left + labels + strip),
                std::round(body.top) - 1};
     p.area = {p.zones.right + 2, p.zones.bottom, std::round(body.right) - 1, p.zones.top};
     p.area.right = std::max(p.area.right, p.area.left + 1);
     p.area.top = std::max(p.area.top, p.area.bottom + 1);
     p.zones.top = p.area.top;
-    p.column = p.area.width() >= 300 ? 4.0f : p.area.width() >= 60 ? 3.0f : 2.0f;
+    p.column = std::clamp(std::floor(p.area.width() / 80), 2.0f, 6.0f);
     p.columns = std::clamp(static_cast<int>(p.area.width() / p.column), 1, ValueHistory::capacity - 2);
     return p;
 }

@@ -42,7 +42,7 @@ Thermometer lay_out_thermometer(const GaugeModel& model, const Stage& stage) {
     t.tube = {x - half, std::round(t.bulb.y + t.bulb_radius * 1.35f), x + half,
               std::round(body.top - std::max(half + 1, cap))};
     t.tube.top = std::max(t.tube.top, t.tube.bottom + 1);
-    const float strip = std::clamp(body.width() * 0.05f, 2.0f, 10.0f);
+    const float strip = std::clamp(body.width() * 0.05f, 2.0f, 20.0f);
     const float strip_left = std::round(t.tube.right + half * 0.5f + 2);
     t.zones = {strip_left, t.tube.bottom, std::round(strip_left + strip), t.tube.top};
     return t;
