@@ -82,7 +82,8 @@ TEST(Time, NamesTheDayTwoDaysLate) {
                                                          {"Monday", nullptr}};
     set_zone("EST5EDT");
     for (int i = 0; i < 7; ++i) {
-        const CWntTime moment = at(seconds_at(2024y / January / (7 + i)) + 5 * hour_seconds); // from a Sunday's midnight
+        const CWntTime moment =
+            at(seconds_at(2024y / January / (7 + i)) + 5 * hour_seconds); // from a Sunday's midnight
         EXPECT_STREQ(moment.GetWeekdayText(0), names[i].first);
         EXPECT_STREQ(moment.GetWeekdayText(-1), names[i].second);
     }
