@@ -149,8 +149,9 @@ TEST(Time, ChecksItsValuesAndStaysAtZero) {
         set_zone(zone);
         const auto make = [&v = v] { return CWntTime(v[0], v[1], v[2], v[3], v[4], v[5], v[6]); };
         EXPECT_EQ(code_of(make), code) << zone << ' ' << v[0] << '-' << v[1] << '-' << v[2] << ' ' << v[6];
-        if (code == 0)
+        if (code == 0) {
             EXPECT_EQ(make().time, 0);
+        }
     }
     CWntTime moment, moved;
     moment = at(86'400);
