@@ -10,5 +10,6 @@
 #include "out/wnt_objlist.h"
 #include "out/wnt_out.h"
 #include "pulse/wnt_pulse_file.h"
+#include "time/wnt_time.h"
 #include "widgets/wnt_button.h"
 #include "widgets/wnt_gauge.h"

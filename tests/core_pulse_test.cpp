@@ -1,10 +1,10 @@
 #include "pulse/wnt_pulse_file.h"
 #include "time/local_time.h"
 #include "time/result_error.h"
+#include "time_zone.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -15,16 +15,6 @@
 using namespace wnt;
 
 namespace {
-
-void set_zone(const char* zone) {
-#ifdef _WIN32
-    _putenv_s("TZ", zone);
-    _tzset();
-#else
-    setenv("TZ", zone, 1);
-    tzset();
-#endif
-}
 
 // Each test in an empty folder of its own, in universal time.
 class PulseFile : public testing::Test {

@@ -7,18 +7,27 @@
 
 namespace {
 
-// Through the DLL: errors are the framework's, with their result codes.
+// Through the DLL errors are the framework's: the result code that a call raises.
+template <class Call> SCODE code_of(Call call) {
+    try {
+        call();
+    } catch (COleException* error) {
+        const SCODE code = error->m_sc;
+        error->Delete();
+        return code;
+    }
+    return S_OK;
+}
+
+TEST(TimeLibrary, RaisesTheFrameworksException) {
+    EXPECT_EQ(code_of([] { CWntTime(1969, 12, 31, 0, 0, 0, 0); }), E_FAIL);
+    EXPECT_EQ(code_of([] { CWntTime(3001, 12, 31, 0, 0, 0, 0); }), E_INVALIDARG);
+    CWntTime moment;
+    moment.time = 1'704'240'000; // 3 January 2024 in every zone's year
+    EXPECT_EQ(moment.GetFirstWeekend(), 6);
+}
+
 TEST(PulseLibrary, RaisesTheFrameworksException) {
-    const auto code_of = [](auto work) -> SCODE {
-        try {
-            work();
-        } catch (COleException* error) {
-            const SCODE code = error->m_sc;
-            error->Delete();
-            return code;
-        }
-        return S_OK;
-    };
     {
         CWntPulseFile file(CWntPulseFile::write, "pulse_library_test.txt");
         EXPECT_EQ(code_of([&] { file.Put(1, 1, -1); }), E_INVALIDARG);

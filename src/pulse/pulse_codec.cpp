@@ -162,25 +162,8 @@ int write_sample(std::FILE* to, std::int32_t curve, float value, const std::tm& 
     return std::fprintf(to, "%d;%.2f;%s;\n", curve, value, stamp);
 }
 
-bool PulseTime::valid() const {
-    const auto within = [](int number, int low, int high) { return low <= number && number <= high; };
-    return year >= 1970 && within(month, 1, 12) && within(day, 1, 31) && within(hour, 0, 23) && within(minute, 0, 59) &&
-           within(second, 0, 59);
-}
-
-std::tm PulseTime::fields() const {
-    std::tm fields{};
-    fields.tm_year = year - 1900;
-    fields.tm_mon = month - 1;
-    fields.tm_mday = day;
-    fields.tm_hour = hour;
-    fields.tm_min = minute;
-    fields.tm_sec = second;
-    return fields;
-}
-
-PulseTime parse_stamp(std::string_view stamp) {
-    PulseTime time;
+CalendarTime parse_stamp(std::string_view stamp) {
+    CalendarTime time;
     const std::size_t split = std::min(stamp.find(';'), stamp.size());
     std::string_view date = stamp.substr(split);
     date.remove_prefix(std::min<std::size_t>(date.size(), 1));

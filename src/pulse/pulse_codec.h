@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "pulse/pulse_header.h"
+#include "time/calendar_time.h"
 
 /// The text of pulse files: a header that names the curves, then a line for each sample.
 ///
@@ -37,15 +38,7 @@ std::optional<PulseSample> read_sample(std::FILE* from);
 /// Writes a sample: the number of characters, or a negative number when it could not be written.
 int write_sample(std::FILE* to, std::int32_t curve, float value, const std::tm& time);
 
-struct PulseTime {
-    std::int32_t year = -1, month = -1, day = -1, hour = -1, minute = -1, second = -1;
-
-    bool valid() const;
-    /// As local time without daylight saving.
-    std::tm fields() const;
-};
-
 /// Reads "14:03:59;16/11/2026;"; any one character separates two numbers. A part that is missing stays -1.
-PulseTime parse_stamp(std::string_view stamp);
+CalendarTime parse_stamp(std::string_view stamp);
 
 } // namespace wnt

@@ -114,17 +114,13 @@ int CWntPulseFile::Get(int* curve, float* value, std::int64_t* time) {
     const auto sample = wnt::read_sample(stream_.get());
     if (!sample)
         return fail(reading_failed);
-    const wnt::PulseTime stamp = wnt::parse_stamp(sample->stamp);
+    const wnt::CalendarTime stamp = wnt::parse_stamp(sample->stamp);
     note(protocol.get(), "i:%d\ny:%d m:%d d:%d  h:%d m:%d s:%d\n", 3, stamp.year, stamp.month, stamp.day, stamp.hour,
          stamp.minute, stamp.second);
-    if (!stamp.valid())
-        wnt::raise_result(wnt::general_failure);
-    const auto seconds = wnt::seconds_of(stamp.fields());
-    if (!seconds)
-        wnt::raise_result(wnt::invalid_argument);
+    const std::int64_t seconds = wnt::moment_of(stamp, 0);
     store(curve, sample->curve);
     store(value, sample->value);
-    store(time, *seconds);
+    store(time, seconds);
     return error_;
 }
 

@@ -1,0 +1,164 @@
+#include "time/result_error.h"
+#include "time/wnt_time.h"
+#include "time_zone.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <climits>
+#include <utility>
+
+using namespace wnt;
+using namespace std::chrono;
+
+namespace {
+
+constexpr std::int64_t hour_seconds = 3600;
+constexpr std::int64_t last_second = 32'535'215'999; // of the year 3000
+
+CWntTime at(std::int64_t seconds) {
+    CWntTime moment;
+    moment.time = seconds;
+    return moment;
+}
+
+std::int64_t seconds_at(year_month_day date) {
+    return sys_seconds(sys_days(date)).time_since_epoch().count();
+}
+
+// The result code that a call raises, or 0.
+template <class Call> std::int32_t code_of(Call call) {
+    try {
+        call();
+    } catch (const ResultError& error) {
+        return error.code;
+    }
+    return 0;
+}
+
+// What every day of some years comes to, seen at two hours of standard time; the days counted from `lost` up to, but
+// not including, `found` miss the hour that daylight saving took.
+void check_days(const char* zone, double offset, int first_year, int last_year, int lost, int found) {
+    set_zone(zone);
+    for (year y{first_year}; y <= year{last_year}; ++y) {
+        const sys_days start = y / January / 1;
+        const unsigned first = weekday(start).c_encoding();
+        const bool behind = 1 <= first && first <= 4;
+        for (int day = 0; start + days(day) < sys_days((y + years(1)) / January / 1); ++day) {
+            const int expected = day - (lost <= day && day < found);
+            for (int hour : {1, 22}) {
+                const std::int64_t local = seconds_at(start + days(day)) + hour * hour_seconds;
+                const CWntTime moment = at(local - static_cast<std::int64_t>(offset * hour_seconds));
+                ASSERT_EQ(moment.GetJulianDay(), expected) << zone << ' ' << int{y} << ' ' << day << ' ' << hour;
+                ASSERT_EQ(moment.GetCalendarWeek(day), expected / 7 - behind) << zone << ' ' << int{y} << ' ' << day;
+                ASSERT_EQ(weekday(start + days(moment.GetFirstWeekend() - 1)), Saturday) << zone << ' ' << int{y};
+            }
+        }
+    }
+}
+
+TEST(Time, CountsTheDaysOfEveryYear) {
+    check_days("UTC0", 0, 1971, 2110, 0, 0);
+    check_days("JST-9", 9, 1996, 2005, 0, 0);
+    check_days("NST3:30", -3.5, 2019, 2028, 0, 0);
+    check_days("XXX-13", 13, 2996, 2999, 0, 0);
+}
+
+TEST(Time, LosesADayWhileTheClockIsAhead) {
+#ifdef _WIN32
+    check_days("EST5EDT", -5, 2023, 2023, 71, 309);
+    check_days("CET-1CEST", 1, 2023, 2023, 71, 309);
+#else
+    check_days("EST5EDT,M3.2.0,M11.1.0", -5, 2023, 2023, 71, 309);
+    check_days("CET-1CEST,M3.5.0,M10.5.0/3", 1, 2023, 2023, 85, 302);
+    check_days("LHT-10:30LHD-11,M10.1.0,M4.1.0", 10.5, 2023, 2023, 0, 0); // ahead from 1 January
+    check_days("AST-10ADT,M10.1.0,M4.1.0/3", 10, 2024, 2024, 0, 0);
+#endif
+}
+
+TEST(Time, NamesTheDayTwoDaysLate) {
+    const std::pair<const char*, const char*> names[] = {{"Tue", "Tuesday"}, {"Wed", "Wednesday"}, {"Thu", "Thursday"},
+                                                         {"Fri", "Friday"},  {"Sat", "Saturday"},  {"Sun", "Sunday"},
+                                                         {"Monday", nullptr}};
+    set_zone("EST5EDT");
+    for (int i = 0; i < 7; ++i) {
+        const CWntTime moment =
+            at(seconds_at(2024y / January / (7 + i)) + 5 * hour_seconds); // from a Sunday's midnight
+        EXPECT_STREQ(moment.GetWeekdayText(0), names[i].first);
+        EXPECT_STREQ(moment.GetWeekdayText(-1), names[i].second);
+    }
+    for (std::int64_t seconds : {std::int64_t{-1}, last_second + 1, INT64_MIN, INT64_MAX}) {
+        EXPECT_STREQ(at(seconds).GetWeekdayText(0), "Mon");
+        EXPECT_STREQ(at(seconds).GetWeekdayText(1), "Monday");
+    }
+}
+
+TEST(Time, RefusesWhatCannotBeConverted) {
+    const struct {
+        const char* zone;
+        std::int64_t seconds;
+        std::int32_t code;
+    } moments[] = {
+        {"UTC0", 0, 0},
+        {"UTC0", -1, general_failure},
+        {"UTC0", last_second, 0},
+        {"UTC0", last_second + 1, general_failure},
+        {"UTC0", INT64_MIN, general_failure},
+        {"UTC0", INT64_MAX, general_failure},
+        {"EST5EDT", 5 * hour_seconds - 1, general_failure}, // still 1969
+        {"EST5EDT", 5 * hour_seconds, 0},
+        {"JST-9", 0, invalid_argument}, // the year began before the first moment
+        {"JST-9", 364 * 24 * hour_seconds, invalid_argument},
+        {"JST-9", 365 * 24 * hour_seconds, 0},
+    };
+    for (const auto& c : moments) {
+        set_zone(c.zone);
+        const CWntTime moment = at(c.seconds);
+        EXPECT_EQ(code_of([&] { moment.GetJulianDay(); }), c.code) << c.zone << ' ' << c.seconds;
+        EXPECT_EQ(code_of([&] { moment.GetCalendarWeek(0); }), c.code) << c.zone << ' ' << c.seconds;
+        EXPECT_EQ(code_of([&] { moment.GetFirstWeekend(); }), c.code) << c.zone << ' ' << c.seconds;
+    }
+}
+
+TEST(Time, ChecksItsValuesAndStaysAtZero) {
+    const struct {
+        const char* zone;
+        int values[7];
+        std::int32_t code;
+    } cases[] = {
+        {"UTC0", {2024, 2, 30, 0, 0, 0, -1}, 0},
+        {"UTC0", {1970, 1, 1, 0, 0, 0, 0}, 0},
+        {"UTC0", {3000, 12, 31, 23, 59, 59, 0}, 0},
+        {"UTC0", {1969, 12, 31, 0, 0, 0, 0}, general_failure},
+        {"UTC0", {INT_MIN, 1, 1, 0, 0, 0, 0}, general_failure},
+        {"UTC0", {2024, 0, 1, 0, 0, 0, 0}, general_failure},
+        {"UTC0", {2024, 13, 1, 0, 0, 0, 0}, general_failure},
+        {"UTC0", {2024, 1, 0, 0, 0, 0, 0}, general_failure},
+        {"UTC0", {2024, 1, 32, 0, 0, 0, 0}, general_failure},
+        {"UTC0", {2024, 1, 1, -1, 0, 0, 0}, general_failure},
+        {"UTC0", {2024, 1, 1, 24, 0, 0, 0}, general_failure},
+        {"UTC0", {2024, 1, 1, 0, 60, 0, 0}, general_failure},
+        {"UTC0", {2024, 1, 1, 0, 0, 60, 0}, general_failure},
+        {"UTC0", {3001, 1, 1, 0, 0, 0, 0}, invalid_argument},
+        {"UTC0", {INT_MAX, 12, 31, 23, 59, 59, -1}, invalid_argument},
+        {"CET-1CEST", {1970, 1, 1, 0, 59, 59, 0}, invalid_argument},
+        {"CET-1CEST", {1970, 1, 1, 1, 0, 0, -1}, 0},
+        {"CET-1CEST", {1970, 1, 1, 1, 0, 0, 1}, invalid_argument}, // an hour earlier with daylight saving
+    };
+    for (const auto& [zone, v, code] : cases) {
+        set_zone(zone);
+        const auto make = [&v = v] { return CWntTime(v[0], v[1], v[2], v[3], v[4], v[5], v[6]); };
+        EXPECT_EQ(code_of(make), code) << zone << ' ' << v[0] << '-' << v[1] << '-' << v[2] << ' ' << v[6];
+        if (code == 0) {
+            EXPECT_EQ(make().time, 0);
+        }
+    }
+    CWntTime moment, moved;
+    moment = at(86'400);
+    moment.AddDays(5);
+    moment.Eastern();
+    EXPECT_EQ(&(moved = std::move(moment)), &moved);
+    EXPECT_EQ(moved.time, 86'400);
+}
+
+} // namespace

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <cstdlib>
+#include <ctime>
+
+/// Sets the process's time zone, in the notation of the TZ variable. The target's runtime reads no rules behind the
+/// names: there, daylight saving is always in effect from March to November.
+inline void set_zone(const char* zone) {
+#ifdef _WIN32
+    _putenv_s("TZ", zone);
+    _tzset();
+#else
+    setenv("TZ", zone, 1);
+    tzset();
+#endif
+}
