@@ -64,5 +64,6 @@ GalleryPages MakePages(const std::vector<CString>& scripts) {
     pages.push_back(MakeButtonsPage());
     pages.push_back(MakeScrollBarsPage());
     pages.push_back(MakePulsePage());
+    pages.push_back(MakeColoursPage());
     return pages;
 }

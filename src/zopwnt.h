@@ -12,4 +12,5 @@
 #include "pulse/wnt_pulse_file.h"
 #include "time/wnt_time.h"
 #include "widgets/wnt_button.h"
+#include "widgets/wnt_color_sel.h"
 #include "widgets/wnt_gauge.h"

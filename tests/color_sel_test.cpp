@@ -1,0 +1,132 @@
+#include "widget_window.h"
+
+#include <climits>
+#include <vector>
+
+namespace {
+
+constexpr int surface_id = 100;
+constexpr int list_id = 101;
+
+// A host that keeps what it is notified of.
+class PickingHost : public CWnd {
+public:
+    std::vector<NMHDR> notified;
+
+protected:
+    BOOL OnNotify(WPARAM, LPARAM lParam, LRESULT*) override {
+        notified.push_back(*reinterpret_cast<NMHDR*>(lParam));
+        return TRUE;
+    }
+};
+
+class ColorSelTest : public WidgetTest {
+protected:
+    void SetUp() override {
+        WidgetTest::SetUp();
+        ASSERT_TRUE(picker_.Create(nullptr, "picker", WS_CHILD | WS_VISIBLE, CRect(0, 0, 400, 300), &host_, 3));
+        ASSERT_TRUE(selector_.Create(nullptr, "Colours", WS_CHILD | WS_VISIBLE, CRect(0, 0, 160, 90), &picker_, 77));
+        full_repaint(selector_);
+    }
+
+    // The pointer at a position of the surface, counted from its upper left, and a click there.
+    void point_at(int x, int y) {
+        CPoint p(x, y);
+        selector_.GetDlgItem(surface_id)->ClientToScreen(&p);
+        ::SetCursorPos(p.x, p.y);
+    }
+    int pick(int x, int y) {
+        point_at(x, y);
+        selector_.GetDlgItem(surface_id)->SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(x, y));
+        return selector_.GetSelectedColorID();
+    }
+
+    PickingHost picker_;
+    CWntColorSel selector_;
+};
+
+} // namespace
+
+TEST_F(ColorSelTest, ShowsThePaletteAndTellsPicks) {
+    const Pixels shown = pixels_of(selector_);
+    // Cells are 20 x 30, two rows under the strip.
+    EXPECT_EQ(shown.at(50, 45), RGB(0, 0, 255));     // 2, blue
+    EXPECT_EQ(shown.at(130, 45), RGB(255, 0, 0));    // 6, red
+    EXPECT_EQ(shown.at(30, 75), RGB(192, 192, 192)); // 9, grey
+    EXPECT_EQ(shown.at(30, 45), RGB(255, 255, 255));
+    EXPECT_EQ(shown.at(10, 45), RGB(0, 0, 0));
+
+    EXPECT_EQ(pick(50, 45), 2);
+    EXPECT_EQ(pick(155, 85), 15);
+    EXPECT_EQ(pick(50, 10), -1); // the strip
+    ASSERT_EQ(picker_.notified.size(), 3u);
+    EXPECT_EQ(picker_.notified[0].hwndFrom, selector_.m_hWnd);
+    EXPECT_EQ(picker_.notified[0].idFrom, 77u);
+    EXPECT_EQ(picker_.notified[0].code, 1u);
+    EXPECT_EQ(pick(130, 45), 6);
+    EXPECT_EQ(pixels_of(selector_).at(80, 15), RGB(255, 0, 0)); // the sample
+    selector_.SetSelectedColor(5);
+    EXPECT_EQ(selector_.GetSelectedColorID(), 6);
+}
+
+TEST_F(ColorSelTest, ItemsTakeThePickedColour) {
+    char cherry[] = "cherry", apple[] = "apple";
+    char* names[] = {cherry, apple};
+    int colours[] = {3, 4};
+    selector_.SetColorItems(names, nullptr, 2);
+    EXPECT_FALSE(selector_.GetDlgItem(list_id)->IsWindowVisible());
+    selector_.SetColorItems(names, colours, 2);
+    EXPECT_TRUE(selector_.GetDlgItem(list_id)->IsWindowVisible());
+    CRect list;
+    selector_.GetDlgItem(list_id)->GetWindowRect(&list);
+    selector_.ScreenToClient(&list);
+    EXPECT_EQ(list, CRect(80, 0, 160, 90));
+
+    full_repaint(selector_);
+    selector_.GetDlgItem(list_id)->SendMessage(LB_SETCURSEL, 1); // "cherry" after sorting, but the second item
+    selector_.SendMessage(WM_COMMAND, MAKEWPARAM(list_id, LBN_SELCHANGE), 0);
+    EXPECT_EQ(selector_.GetSelectedColorID(), 0); // unchanged by the list
+    EXPECT_EQ(pick(25, 45), 2);
+    EXPECT_EQ(colours[0], 0); // the first paint gave the first item the selected colour
+    EXPECT_EQ(colours[1], 2);
+    EXPECT_EQ(selector_.GetSelectedColor(), 0u); // two items: no colour with the number 2
+    selector_.SetSelectedColorID(1);
+    EXPECT_EQ(selector_.GetSelectedColor(), 1u);
+    EXPECT_EQ(colours[1], 1);
+}
+
+TEST_F(ColorSelTest, SlidersFollowTheMouse) {
+    selector_.ShowSliders(1);
+    selector_.SetWindowPos(nullptr, 0, 0, 220, 90, SWP_NOMOVE | SWP_NOZORDER);
+    full_repaint(selector_);
+    point_at(3 * 27 + 5, 45); // yellow: the panel is as wide as the window, 27 a cell
+    selector_.GetDlgItem(surface_id)->SendMessage(WM_MOUSEMOVE, 0, 0);
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(selector_.GetDlgItem(102 + i)->SendMessage(TBM_GETPOS), i == 2 ? 0 : 255) << i;
+}
+
+TEST_F(ColorSelTest, OddPalettesAndPanelsAreHarmless) {
+    DWORD few[7] = {1, 2, 3, 4, 5, 6, 7};
+    std::vector<DWORD> many(256, RGB(10, 20, 30));
+    char name[] = "x";
+    char* names[] = {name};
+    int colours[] = {INT_MAX};
+    selector_.SetColorItems(names, colours, 1);
+    selector_.Set3DCells(1);
+    selector_.SetHoverSample(1);
+    selector_.ShowSliders(1);
+    const std::pair<DWORD*, int> palettes[] = {{few, 7}, {few, 1}, {many.data(), 256}, {few, -3}, {nullptr, 4}};
+    for (const auto& [table, count] : palettes) {
+        selector_.SetColorPalette(table, count);
+        for (const CSize size : {CSize(160, 90), CSize(7, 7), CSize(0, 0), CSize(70, 3), CSize(390, 290)}) {
+            selector_.SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
+            for (const int id : {INT_MIN, -1, 300, INT_MAX}) {
+                selector_.SetSelectedColorID(id);
+                selector_.GetSelectedColor();
+                full_repaint(selector_);
+            }
+            pick(1, 1);
+            pick(-5, 400);
+        }
+    }
+}
