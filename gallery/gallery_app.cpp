@@ -69,6 +69,7 @@ public:
         if (!frame->Open()) // it deletes itself
             return Fail();
         m_pMainWnd = frame;
+        frame->SetIcon(LoadIcon("ZOP"), TRUE);
         frame->ShowPage(line.scripts.empty() ? 2 : 3);
         frame->ShowWindow(m_nCmdShow);
         frame->UpdateWindow();
