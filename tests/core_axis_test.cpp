@@ -1,0 +1,341 @@
+#include "widgets/axis/axis_labels.h"
+#include "widgets/axis/axis_model.h"
+#include "widgets/axis/saturate.h"
+#include "widgets/axis/time_value.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <random>
+#include <string>
+#include <utility>
+#include <vector>
+
+using namespace wnt;
+
+namespace {
+
+constexpr std::int64_t day = hundredths_per_day;
+constexpr std::int64_t earliest = std::numeric_limits<std::int64_t>::min();
+constexpr std::int64_t latest = std::numeric_limits<std::int64_t>::max();
+constexpr float infinity = std::numeric_limits<float>::infinity();
+constexpr float nan_value = std::numeric_limits<float>::quiet_NaN();
+
+AxisModel axis_of(int position, int length, float minimum = 0, float maximum = 100) {
+    AxisModel axis;
+    axis.position = position;
+    axis.resize(axis.horizontal() ? length : 40, axis.horizontal() ? 40 : length);
+    axis.set_range(minimum, maximum);
+    return axis;
+}
+
+std::pair<int, int> pixel_of(const AxisModel& axis, float value) {
+    std::int32_t pixel = -12345;
+    const int side = axis.value_to_screen(value, &pixel);
+    return {side, pixel};
+}
+
+std::pair<int, int> pixel_of_time(AxisModel& axis, std::int64_t time) {
+    std::int32_t pixel = -12345;
+    const int side = axis.value_to_screen(time, &pixel);
+    return {side, pixel};
+}
+
+std::pair<int, int> clamped_pixel(const AxisModel& axis, float value) {
+    std::int32_t pixel = -12345;
+    const int inside = axis.calc_pixel_coord(value, &pixel);
+    return {inside, pixel};
+}
+
+using Pair = std::pair<int, int>;
+
+TEST(AxisGrid, ChoosesNiceSteps) {
+    const struct {
+        float minimum, maximum, length, step;
+        int count, lines;
+        float first, first_scale;
+    } cases[] = {
+        {0, 100, 300, 2, 50, 10, 2, 10},         // a raw step of exactly 1 is doubled
+        {0, 1, 300, 0.02f, 50, 10, 0.02f, 0.1f}, // the logarithm of 0.01 must not fall below -2
+        {10, 60, 150, 2, 25, 5, 12, 20},
+        {-12, 88, 150, 2, 50, 10, -10, 0}, // the negative minimum skips -10 as a labelled line
+        {0, 1000, 900, 5, 200, 40, 5, 25},
+        {0, 1000, 500, 10, 100, 20, 10, 50},
+    };
+    for (const auto& c : cases) {
+        const AxisGrid grid = numeric_grid(c.minimum, c.maximum, c.length, 1.0f);
+        SCOPED_TRACE(std::to_string(c.minimum) + ".." + std::to_string(c.maximum));
+        EXPECT_FLOAT_EQ(grid.step, c.step);
+        EXPECT_EQ(grid.count, c.count);
+        EXPECT_EQ(grid.scale_lines, c.lines);
+        EXPECT_FLOAT_EQ(grid.first_value, c.first);
+        EXPECT_FLOAT_EQ(grid.first_scale_value, c.first_scale);
+    }
+}
+
+TEST(AxisGrid, UnanswerableRangesKeepTheStep) {
+    const std::pair<float, float> ranges[] = {{5, 5},          {100, 0},        {0, infinity}, {-infinity, infinity},
+                                              {nan_value, 10}, {-3e38f, 3e38f}, {0, 1e-45f},   {3e38f, infinity}};
+    for (const auto& [minimum, maximum] : ranges) {
+        const AxisGrid grid = numeric_grid(minimum, maximum, 300, 2.0f);
+        EXPECT_EQ(grid.step, 2.0f) << minimum << ".." << maximum;
+        EXPECT_TRUE(std::isfinite(grid.first_value) && std::isfinite(grid.first_scale_value));
+    }
+    EXPECT_EQ(numeric_grid(0, 100, 0, 2.0f).count, 50);
+    EXPECT_EQ(numeric_grid(0, 3e38f, 3, 2.0f).step, 2.0f); // 5e38 is no step
+}
+
+TEST(AxisGrid, FollowsTypeAndSize) {
+    AxisModel axis = axis_of(axis_bottom, 300);
+    EXPECT_EQ(axis.scale_line_pos(0), 30);
+    EXPECT_EQ(axis.scale_line_pos(1), 60);
+    EXPECT_EQ(axis.scale_line_pos(10), 301); // 110 lies above the range
+    EXPECT_EQ(axis.pixel_per_grid(), 6.0f);
+    axis.resize(100, 40);
+    EXPECT_EQ(axis.grid.step, 5.0f);
+
+    axis.type = axis_text;
+    axis.grid.first_scale_value = 0;
+    axis.set_texts(3);
+    axis.set_texts(0); // no labels: refused
+    axis.resize(310, 40);
+    EXPECT_EQ(axis.grid.count, 3);
+    EXPECT_EQ(axis.tick_width(), 103);
+    EXPECT_FLOAT_EQ(axis.pixel_per_grid(), 310.0f / 3);
+    EXPECT_EQ(axis.scale_line_pos(3), 310);
+    axis.grid.count = 100; // more steps than labels
+    EXPECT_TRUE(axis.has_text(2));
+    EXPECT_FALSE(axis.has_text(3) || axis.has_text(-1));
+
+    axis.grid.count = 0;
+    EXPECT_EQ(axis.tick_width(), 1);
+    axis.grid.count = 3;
+    axis.type = 3;
+    EXPECT_EQ(axis.pixel_per_grid(), 1.0f);
+}
+
+TEST(AxisConversion, EndsOfBothOrientations) {
+    const float above = std::nextafter(100.0f, 200.0f);
+    const float below = std::nextafter(0.0f, -1.0f);
+    const AxisModel across = axis_of(axis_top, 300);
+    EXPECT_EQ(pixel_of(across, 0), Pair(0, 0));
+    EXPECT_EQ(pixel_of(across, 50), Pair(0, 150));
+    EXPECT_EQ(pixel_of(across, 100), Pair(0, 300));
+    EXPECT_EQ(pixel_of(across, above), Pair(1, 301));
+    EXPECT_EQ(pixel_of(across, below), Pair(-1, -1));
+    EXPECT_EQ(clamped_pixel(across, 50), Pair(1, 150));
+    EXPECT_EQ(clamped_pixel(across, -7), Pair(0, 0));
+    EXPECT_EQ(clamped_pixel(across, 700), Pair(0, 300));
+
+    const AxisModel up = axis_of(axis_right, 300);
+    EXPECT_EQ(pixel_of(up, 0), Pair(0, 300));
+    EXPECT_EQ(pixel_of(up, 100), Pair(0, 1)); // the added half truncates to one short of the end
+    EXPECT_EQ(pixel_of(up, above), Pair(1, -1));
+    EXPECT_EQ(pixel_of(up, below), Pair(-1, 301));
+    EXPECT_EQ(clamped_pixel(up, 100), Pair(1, 0));
+    EXPECT_EQ(clamped_pixel(up, -7), Pair(0, 300));
+
+    for (const AxisModel* axis : {&across, &up}) {
+        float value = -1;
+        EXPECT_EQ(axis->calc_float_coord(-1, &value), 0);
+        EXPECT_EQ(axis->calc_float_coord(301, &value), 0);
+        EXPECT_EQ(value, -1);
+        EXPECT_EQ(axis->screen_to_value(-30, &value), 0);
+        EXPECT_FLOAT_EQ(value, axis->horizontal() ? -10.0f : 110.0f);
+        EXPECT_EQ(axis->screen_to_value(300, &value), 1);
+        EXPECT_FLOAT_EQ(value, axis->horizontal() ? 100.0f : 0.0f);
+    }
+}
+
+TEST(AxisConversion, PixelsComeBackFromTheirValues) {
+    std::mt19937 random(4711);
+    std::uniform_real_distribution<float> start(-1e4f, 1e4f), size(0.5f, 1e5f);
+    for (int round = 0; round < 400; ++round) {
+        const int length = 20 + round * 3;
+        const float minimum = start(random);
+        AxisModel axis = axis_of(round % 4, length, minimum, minimum + size(random));
+        axis.set_time_range(40 * day + round, 40 * day + round + length * 977);
+        for (int pixel = 1; pixel < length; pixel += 7) {
+            float value = 0, strict = 0;
+            std::int64_t time = 0;
+            ASSERT_EQ(axis.screen_to_value(pixel, &value), 1);
+            ASSERT_EQ(axis.calc_float_coord(pixel, &strict), 1);
+            ASSERT_NEAR(value, strict, (axis.maximum - axis.minimum) * 1e-4f + 0.01f);
+            ASSERT_NEAR(pixel_of(axis, value).second, pixel, 1);
+            ASSERT_NEAR(clamped_pixel(axis, value).second, pixel, 1);
+            ASSERT_EQ(axis.screen_to_value(pixel, &time), 1);
+            ASSERT_EQ(pixel_of_time(axis, time), Pair(0, pixel));
+        }
+    }
+}
+
+TEST(AxisConversion, TimesAndTheirEnds) {
+    AxisModel across = axis_of(axis_bottom, 300);
+    AxisModel up = axis_of(axis_left, 300);
+    for (AxisModel* axis : {&across, &up})
+        axis->set_time_range(day, 4 * day);
+    EXPECT_EQ(pixel_of_time(across, day), Pair(0, 0));
+    EXPECT_EQ(pixel_of_time(across, day - 1), Pair(-1, -1));
+    EXPECT_EQ(pixel_of_time(across, 4 * day), Pair(0, 300));
+    EXPECT_EQ(pixel_of_time(across, 4 * day + 1), Pair(1, 301));
+    EXPECT_EQ(pixel_of_time(up, 2 * day), Pair(0, 200));
+    EXPECT_EQ(pixel_of_time(up, day - 1), Pair(-1, 301));
+    EXPECT_EQ(pixel_of_time(up, 4 * day + 1), Pair(1, -1));
+
+    // The current time runs downwards, and its ends are outside.
+    EXPECT_EQ(across.set_current_time(day), -1);
+    EXPECT_EQ(across.set_current_time(4 * day), 301);
+    EXPECT_EQ(up.set_current_time(2 * day), 100);
+    EXPECT_EQ(up.last_converted, 2 * day);
+    across.set_current_day(1980, 1, 2);
+    EXPECT_EQ(across.set_current_offset(day / 2), 150);
+}
+
+TEST(AxisConversion, HoldsAtAnyValueAndSize) {
+    const float values[] = {0, -1, 1e-45f, 3e38f, -3e38f, infinity, -infinity, nan_value};
+    const int sizes[] = {0, 1, -5, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()};
+    const std::int64_t times[] = {0, -1, earliest, latest, 40 * day};
+    for (int position = 0; position < 4; ++position) {
+        for (int size : sizes) {
+            AxisModel axis = axis_of(position, size);
+            for (float minimum : values) {
+                for (float maximum : values) {
+                    axis.set_range(minimum, maximum);
+                    for (float value : values) {
+                        pixel_of(axis, value);
+                        clamped_pixel(axis, value);
+                    }
+                    for (int pixel : sizes) {
+                        float value = nan_value;
+                        axis.screen_to_value(pixel, &value);
+                        EXPECT_TRUE(std::isfinite(value));
+                        axis.scale_line_pos(pixel);
+                    }
+                }
+            }
+            for (std::int64_t start : times) {
+                for (std::int64_t end : times) {
+                    axis.set_time_range(start, end);
+                    for (std::int64_t time : times) {
+                        pixel_of_time(axis, time);
+                        axis.set_current_time(time);
+                        axis.screen_to_value(static_cast<int>(time % 1000), &axis.current_day_value);
+                    }
+                    int ticks = 0;
+                    const TimeGrid grid = axis.time_grid();
+                    for (auto tick = grid.first(); tick && ticks < 200'001; tick = grid.after(*tick))
+                        ++ticks;
+                    EXPECT_LE(ticks, 200'000) << start << ".." << end;
+                }
+            }
+        }
+    }
+    AxisModel empty = axis_of(axis_bottom, 300, 5, 5);
+    float value = 0;
+    EXPECT_EQ(pixel_of(empty, 5), Pair(0, 0));
+    EXPECT_EQ(clamped_pixel(empty, 5), Pair(0, -12345));
+    EXPECT_EQ(empty.calc_float_coord(5, &value), 0);
+    EXPECT_EQ(pixel_of_time(empty, 0), Pair(0, 0)); // a view without a span
+    EXPECT_EQ(pixel_of(axis_of(axis_bottom, 300), nan_value), Pair(0, 0));
+}
+
+TEST(AxisTime, ProportionIsExactBeyond64Bits) {
+    EXPECT_EQ(proportion(300, latest, latest), 300);
+    EXPECT_EQ(proportion(latest, -7, 14), -(latest / 2));
+    EXPECT_EQ(proportion(1'000'000'007, 1'000'000'000'039, 1'000'000'000'039), 1'000'000'007);
+    EXPECT_EQ(proportion(earliest, earliest, earliest), -latest);
+    EXPECT_EQ(proportion(latest, latest, 1), latest);
+    EXPECT_EQ(proportion(-7, 3, 2), -10);
+    EXPECT_EQ(proportion(7, 3, 0), 0);
+}
+
+TEST(AxisTime, DayCountAndSplit) {
+    EXPECT_EQ(time_value({1, 1, 1980, 0, 0, 0, 0}), 8'640'000);
+    EXPECT_EQ(time_value({1, 3, 1980, 0, 0, 0, 0}), 527'040'000);
+    EXPECT_EQ(time_value({31, 12, 1980, 0, 0, 0, 0}), 366 * day);
+    EXPECT_EQ(time_value({1, 1, 1981, 23, 59, 59, 99}), 367 * day - 1);
+    EXPECT_EQ(time_value({5, 0, 1980, 0, 0, 0, 0}), 5 * day);
+    for (int month : {-1, 13, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()})
+        EXPECT_EQ(time_value({5, month, 1980, 0, 0, 0, 0}), 5 * day);
+
+    const TAxisdatetime first = split_time(day + 12'345'67);
+    EXPECT_EQ((std::vector{first.day, first.month, first.year}), (std::vector{1, 1, 80}));
+    EXPECT_EQ((std::vector{first.hour, first.minute, first.second, first.hundredths}), (std::vector{3, 25, 45, 67}));
+    const TAxisdatetime none = split_time(0);
+    EXPECT_EQ((std::vector{none.day, none.month, none.year}), (std::vector{0, 0, 0}));
+
+    // Every date of a century comes back, give or take the days that the mean year moves.
+    for (int year = 1980; year < 2080; ++year) {
+        for (int month = 1; month <= 12; ++month) {
+            const TAxisdatetime back = split_time(time_value({15, month, year, 1, 2, 3, 4}));
+            EXPECT_EQ((std::vector{back.year + 1900, back.month, back.hour}), (std::vector{year, month, 1}));
+            EXPECT_NEAR(back.day, 15, 1);
+        }
+    }
+}
+
+TEST(AxisTime, LevelFollowsTheSpan) {
+    const std::pair<std::int64_t, int> cases[] = {
+        {401 * day, 12}, {400 * day, 11},   {201 * day, 11}, {200 * day, 10}, {91 * day, 10},    {90 * day, 9},
+        {8 * day, 9},    {8 * day - 10, 8}, {7 * day, 8},    {3 * day, 8},    {3 * day - 10, 7}, {2 * day, 7},
+        {720'000, 7},    {719'999, 6},      {186'000, 6},    {185'999, 5},    {96'000, 5},       {95'999, 4},
+        {12'000, 4},     {11'999, 3},       {3'100, 3},      {3'099, 2},      {1'600, 2},        {1'599, 1},
+        {0, 1},          {-400 * day, 1}};
+    for (const auto& [span, level] : cases)
+        EXPECT_EQ(time_level(16'000 * day, 16'000 * day + span).level, level) << span;
+    const std::int64_t intervals[] = {50, 600, 1'500, 6'000, 9'000, 18'000, 360'000, day, 7 * day};
+    const std::int64_t spans[] = {1, 1'600, 3'100, 12'000, 96'000, 186'000, 720'000, 3 * day, 8 * day};
+    for (int i = 0; i < 9; ++i)
+        EXPECT_EQ(time_level(0, spans[i]).interval(), intervals[i]);
+}
+
+TEST(AxisTime, TicksEqualAWalkFromTheOrigin) {
+    const std::int64_t spans[] = {500 * day, 250 * day, 100 * day, 30 * day, 3 * day, 2 * day};
+    for (std::int64_t span : spans) {
+        for (bool counted_from_1900 : {false, true}) {
+            AxisModel axis;
+            const TAxisdatetime start{17, 5, 2026, 13, 45, 31, 7};
+            TAxisdatetime end = split_time(time_value(start) + span);
+            end.year += 1900;
+            if (counted_from_1900)
+                axis.set_time_range(time_value(start), time_value(start) + span);
+            else
+                axis.set_view_time(start, end);
+            const TimeGrid grid = axis.time_grid();
+            std::vector<std::int64_t> walked, ticks;
+            for (std::int64_t t = grid.origin(); t < axis.end_value; t += grid.level().interval()) {
+                if (t >= axis.start_value)
+                    walked.push_back(t);
+            }
+            for (auto tick = grid.first(); tick; tick = grid.after(*tick))
+                ticks.push_back(*tick);
+            EXPECT_FALSE(ticks.empty());
+            EXPECT_EQ(ticks, walked) << span;
+            EXPECT_EQ(grid.origin() < 0, counted_from_1900);
+        }
+    }
+    const TAxisdatetime rounded = rounded_down({17, 5, 2026, 13, 45, 31, 7}, TimeRounding::month);
+    EXPECT_EQ((std::vector{rounded.day, rounded.month, rounded.hour, rounded.hundredths}), (std::vector{0, 5, 0, 0}));
+}
+
+TEST(AxisLabels, AreTrimmedAndBounded) {
+    const std::pair<float, const char*> numbers[] = {{100, "100"}, {-0.5f, "-0.5"}, {5, "5"},      {0.25f, "0.25"},
+                                                     {0, "0"},     {12.3f, "12.3"}, {1000, "1000"}};
+    for (const auto& [value, text] : numbers)
+        EXPECT_EQ(numeric_label(value), text);
+    EXPECT_LE(numeric_label(-std::numeric_limits<float>::max()).size(), 49u);
+    EXPECT_EQ(text_label(std::string(500, 'x').c_str()), std::string(49, 'x'));
+    EXPECT_EQ(text_label(nullptr), "No title specified");
+
+    const TAxisdatetime record{2, 10, 126, 3, 4, 5, 6};
+    const char* texts[] = {"", " 5s", " 4m", " 3h", "2.10.126", "Okt", "10", "126"};
+    for (int kind = 0; kind < 8; ++kind)
+        EXPECT_EQ(time_label(static_cast<TimeLabel>(kind), record), texts[kind]);
+    for (int month : {0, 13, -1})
+        EXPECT_EQ(time_label(TimeLabel::month_name, {1, month, 80, 0, 0, 0, 0}), "");
+    EXPECT_TRUE(is_scale_line(0.3f, 0.02f) && is_scale_line(-10, 2) && !is_scale_line(4, 2));
+}
+
+} // namespace
