@@ -1,5 +1,7 @@
 #include "page.h"
 
+#include <algorithm>
+
 BEGIN_MESSAGE_MAP(CGalleryPage, CWnd)
 ON_WM_CREATE()
 ON_WM_SIZE()
@@ -38,14 +40,14 @@ bool CSurfacePage::CreateContents() {
 }
 
 void CSurfacePage::Arrange(int width, int height) {
-    out_.SetWindowPos(nullptr, 0, 0, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+    out_.SetWindowPos(nullptr, 0, TopHeight(), width, std::max(height - TopHeight(), 0), SWP_NOZORDER | SWP_NOACTIVATE);
     Invalidate();
 }
 
 void CSurfacePage::OnPaint() {
     CPaintDC validate(this);
     if (out_.reset()) {
-        painter_(out_);
+        Paint(out_);
         out_.endpaint();
     }
 }

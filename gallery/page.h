@@ -28,17 +28,13 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 
-/// A page that is one drawing surface, painted by a function of it.
+/// A page that is painted through one drawing surface.
 class CSurfacePage : public CGalleryPage {
-public:
-    using Painter = void (*)(CWntOut& out);
-    CSurfacePage(const char* title, const char* name, Painter painter)
-        : title_(title), name_(name), painter_(painter) {}
-
-    const char* Title() const override { return title_; }
-    const char* Name() const override { return name_; }
-
 protected:
+    virtual void Paint(CWntOut& out) = 0;
+    /// Rows that the surface leaves free at the page's top.
+    virtual int TopHeight() const { return 0; }
+
     bool CreateContents() override;
     void Arrange(int width, int height) override;
 
@@ -47,10 +43,26 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    CWntOut out_;
+};
+
+/// One that a function paints.
+class CPaintedPage : public CSurfacePage {
+public:
+    using Painter = void (*)(CWntOut& out);
+    CPaintedPage(const char* title, const char* name, Painter painter)
+        : title_(title), name_(name), painter_(painter) {}
+
+    const char* Title() const override { return title_; }
+    const char* Name() const override { return name_; }
+
+protected:
+    void Paint(CWntOut& out) override { painter_(out); }
+
+private:
     const char* title_;
     const char* name_;
     Painter painter_;
-    CWntOut out_;
 };
 
 using GalleryPages = std::vector<std::unique_ptr<CGalleryPage>>;

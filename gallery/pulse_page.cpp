@@ -116,7 +116,7 @@ void PaintCurves(CWntOut& out, const Plot& plot, const Recording& recording) {
     }
 }
 
-class CPulsePage : public CGalleryPage {
+class CPulsePage : public CSurfacePage {
 public:
     const char* Title() const override { return "Pulse data file"; }
     const char* Name() const override { return "pulse"; }
@@ -124,7 +124,7 @@ public:
 protected:
     bool CreateContents() override {
         font_.CreatePointFont(90, "Arial");
-        if (!out_.Create(nullptr, "Surface", WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), this, 100) ||
+        if (!CSurfacePage::CreateContents() ||
             !record_.Create("Record again", WS_CHILD | WS_VISIBLE | BS_PUSHBUTTON, CRect(0, 0, 0, 0), this, record_id))
             return false;
         record_.SetFont(&font_);
@@ -134,10 +134,9 @@ protected:
 
     void Arrange(int width, int height) override {
         record_.SetWindowPos(nullptr, 8, 6, 120, bar_height - 10, SWP_NOZORDER | SWP_NOACTIVATE);
-        out_.SetWindowPos(nullptr, 0, bar_height, width, std::max(height - bar_height, 0),
-                          SWP_NOZORDER | SWP_NOACTIVATE);
-        Invalidate();
+        CSurfacePage::Arrange(width, height);
     }
+    int TopHeight() const override { return bar_height; }
 
     afx_msg void OnRecord() {
         recording_ = {};
@@ -149,41 +148,29 @@ protected:
         Invalidate();
     }
 
-    afx_msg void OnPaint() {
-        CPaintDC validate(this);
-        if (!out_.reset())
-            return;
-        out_.fillcolour(RGB(252, 252, 252), 0);
-        out_.boxa2(0, 0, out_.xmax, out_.ymax);
-        const Plot plot = {50, 50, std::max(out_.xmax - 80, 1), std::max(out_.ymax - 100, 1)};
-        PaintGrid(out_, plot, recording_);
-        PaintCurves(out_, plot, recording_);
+    void Paint(CWntOut& out) override {
+        out.fillcolour(RGB(252, 252, 252), 0);
+        out.boxa2(0, 0, out.xmax, out.ymax);
+        const Plot plot = {50, 50, std::max(out.xmax - 80, 1), std::max(out.ymax - 100, 1)};
+        PaintGrid(out, plot, recording_);
+        PaintCurves(out, plot, recording_);
         const std::size_t count = recording_.values[0].size() + recording_.values[1].size();
-        Write(out_, plot.left, out_.ymax - 36,
+        Write(out, plot.left, out.ymax - 36,
               recording_.failure.empty() ? std::to_string(count) + " samples read back from " + recording_.file
                                          : recording_.failure,
               0, recording_.failure.empty() ? 0 : 6);
-        out_.endpaint();
-    }
-
-    afx_msg void OnDestroy() {
-        out_.ReleaseDrawing();
-        CGalleryPage::OnDestroy();
     }
     DECLARE_MESSAGE_MAP()
 
 private:
     CFont font_;
-    CWntOut out_;
     CButton record_;
     Recording recording_;
     int turn_ = 0;
 };
 
-BEGIN_MESSAGE_MAP(CPulsePage, CGalleryPage)
+BEGIN_MESSAGE_MAP(CPulsePage, CSurfacePage)
 ON_BN_CLICKED(record_id, &CPulsePage::OnRecord)
-ON_WM_PAINT()
-ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
 } // namespace

@@ -181,5 +181,5 @@ void paint(CWntOut& out) {
 } // namespace
 
 std::unique_ptr<CGalleryPage> MakeSurfacePage() {
-    return std::make_unique<CSurfacePage>("Surface: primitives", "surface", paint);
+    return std::make_unique<CPaintedPage>("Surface: primitives", "surface", paint);
 }

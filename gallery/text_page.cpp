@@ -65,5 +65,5 @@ void paint(CWntOut& out) {
 } // namespace
 
 std::unique_ptr<CGalleryPage> MakeTextPage() {
-    return std::make_unique<CSurfacePage>("Surface: text", "text", paint);
+    return std::make_unique<CPaintedPage>("Surface: text", "text", paint);
 }

@@ -85,6 +85,20 @@ constexpr int all_sides = side_left | side_right | side_top | side_bottom;
 using wrapped::add;
 using wrapped::subtract;
 
+// Where a title stands in one direction, and where its underline begins.
+struct Place {
+    int text;
+    int underline;
+};
+
+// which: 0 the low end, 1 the high end, 2 the middle. The distances back from the text to the underline are fixed.
+Place placed(int which, int low, int high, int extent, int back_from_high, int back_from_middle) {
+    if (which == 0)
+        return {low, low};
+    const int at = which == 1 ? high : add(low, extent / 2);
+    return {at, subtract(at, which == 1 ? back_from_high : back_from_middle)};
+}
+
 } // namespace
 
 bool ButtonBox::holds(int px, int py) const {
@@ -108,36 +122,11 @@ ButtonInside button_inside(const Tcbtn_properties& p, const ButtonBox& box) {
 }
 
 TitleAnchor title_anchor(int align, const ButtonInside& inside) {
-    TitleAnchor a;
     if (align < 0 || align > 10 || align % 4 == 3)
-        return a;
-    switch (align % 4) {
-    case 0:
-        a.x = a.underline_x = inside.left;
-        break;
-    case 1:
-        a.x = inside.right;
-        a.underline_x = subtract(a.x, 200);
-        break;
-    default:
-        a.x = add(inside.left, inside.width() / 2);
-        a.underline_x = subtract(a.x, 100);
-        break;
-    }
-    switch (align / 4) {
-    case 0:
-        a.y = a.underline_y = inside.bottom;
-        break;
-    case 1:
-        a.y = inside.top;
-        a.underline_y = subtract(a.y, 15);
-        break;
-    default:
-        a.y = add(inside.bottom, inside.height() / 2);
-        a.underline_y = subtract(a.y, 7);
-        break;
-    }
-    return a;
+        return {};
+    const Place across = placed(align % 4, inside.left, inside.right, inside.width(), 200, 100);
+    const Place up = placed(align / 4, inside.bottom, inside.top, inside.height(), 15, 7);
+    return {across.text, up.text, across.underline, up.underline};
 }
 
 void ButtonModel::clear() {

@@ -4,6 +4,7 @@
 
 #include "script/script_line.h"
 #include "widgets/button_painter.h"
+#include "widgets/surface_owner.h"
 
 namespace {
 
@@ -33,9 +34,8 @@ CWntButton::~CWntButton() {
     DestroyWindow(); // while its handlers and what they use still exist
 }
 
-// The button paints through its child: with children clipped away it would not be told when they are uncovered.
 BOOL CWntButton::PreCreateWindow(CREATESTRUCT& create) {
-    create.style &= ~static_cast<LONG>(WS_CLIPCHILDREN);
+    wnt::keep_children_unclipped(create);
     return CWnd::PreCreateWindow(create);
 }
 
@@ -95,17 +95,8 @@ unsigned char CWntButton::mouse_in_button(CPoint point) {
     return this && box_->holds(point.x, point.y);
 }
 
-// Right after reset() white and black count as in force without being so: one call each with another colour.
-bool CWntButton::begin_painting() {
-    if (!out_.reset())
-        return false;
-    out_.linecolour(COLORREF{0x010101}, 0);
-    out_.fillcolour(COLORREF{0x010101}, 0);
-    return true;
-}
-
 void CWntButton::repaint() {
-    const bool drawable = begin_painting();
+    const bool drawable = wnt::begin_painting(out_);
     draw_background(); // measures, even where nothing can be drawn
     draw_foreground();
     if (drawable)
@@ -134,7 +125,7 @@ void CWntButton::draw_button(unsigned char up) {
 }
 
 void CWntButton::move_picture(unsigned char up) {
-    const bool drawable = begin_painting();
+    const bool drawable = wnt::begin_painting(out_);
     draw_button(up);
     if (drawable)
         out_.endpaint();

@@ -2,6 +2,7 @@
 
 #include "diag/wnt_trace.h"
 #include "widgets/colour_grid.h"
+#include "widgets/surface_owner.h"
 #include "widgets/wnt_color_sel.h"
 
 namespace {
@@ -28,9 +29,8 @@ CWntColorSel::~CWntColorSel() {
     DestroyWindow(); // while its handlers and what they use still exist
 }
 
-// The panel is painted through a child: with children clipped away the selector would not be told of its uncovering.
 BOOL CWntColorSel::PreCreateWindow(CREATESTRUCT& create) {
-    create.style &= ~static_cast<LONG>(WS_CLIPCHILDREN);
+    wnt::keep_children_unclipped(create);
     return CWnd::PreCreateWindow(create);
 }
 
@@ -134,15 +134,6 @@ wnt::ColourGrid CWntColorSel::grid() {
     return {out_.palettecount > 0 ? out_.palettecount : 0, panel_width_, panel_height_, cells_3d_ != 0};
 }
 
-// Right after reset() white and black count as in force without being so: one call each with another colour.
-bool CWntColorSel::begin_painting() {
-    if (!out_.reset())
-        return false;
-    out_.linecolour(COLORREF{0x010101}, 0);
-    out_.fillcolour(COLORREF{0x010101}, 0);
-    return true;
-}
-
 void CWntColorSel::paint_cell(int x, int y, int width, int height, int colour, bool edged) {
     if (width < 1 || height < 1)
         return;
@@ -154,7 +145,7 @@ void CWntColorSel::paint_cell(int x, int y, int width, int height, int colour, b
 }
 
 void CWntColorSel::PaintPanel(int) {
-    if (!this || !begin_painting())
+    if (!this || !wnt::begin_painting(out_))
         return;
     const wnt::ColourGrid g = grid();
     const int m = g.margin();
@@ -174,7 +165,7 @@ int CWntColorSel::ComputeSelectedColor() {
     out_.getmousepos(at);
     const wnt::ColourGrid g = grid();
     const int colour = g.hit(at[0], at[1]);
-    if (hover_sample_ && g.holds(colour) && begin_painting()) {
+    if (hover_sample_ && g.holds(colour) && wnt::begin_painting(out_)) {
         const int m = g.margin();
         paint_cell(m, g.height - g.cell_height() + m, g.cell_width() - 2 * m, g.cell_height() - 2 * m, colour, true);
         out_.endpaint();
@@ -185,7 +176,7 @@ int CWntColorSel::ComputeSelectedColor() {
 void CWntColorSel::SetSelectedColorPanel(int colour) {
     if (!this)
         return;
-    if (begin_painting()) {
+    if (wnt::begin_painting(out_)) {
         const wnt::ColourGrid g = grid();
         const int m = g.margin();
         const int left = m + (hover_sample_ ? g.cell_width() : 0);

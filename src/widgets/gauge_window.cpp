@@ -8,6 +8,7 @@
 #include "script/script_file.h"
 #include "widgets/gauge_model.h"
 #include "widgets/gauge_painter.h"
+#include "widgets/surface_owner.h"
 
 namespace {
 
@@ -72,9 +73,8 @@ CWntGauge::~CWntGauge() {
     DestroyWindow(); // while its handlers and what they use still exist
 }
 
-// The gauge paints through its child: with children clipped away it would not be told when they are uncovered.
 BOOL CWntGauge::PreCreateWindow(CREATESTRUCT& create) {
-    create.style &= ~static_cast<LONG>(WS_CLIPCHILDREN);
+    wnt::keep_children_unclipped(create);
     return CWnd::PreCreateWindow(create);
 }
 

@@ -1,5 +1,7 @@
 #include "widgets/memory_surface.h"
 
+#include "widgets/surface_owner.h"
+
 namespace wnt {
 
 namespace {
@@ -34,9 +36,7 @@ bool MemorySurface::create(int width, int height) {
     out_.reset(dc_);
     out_.xmax = width - 1;
     out_.ymax = height - 1;
-    // White and black count as in force after reset() without being so.
-    out_.linecolour(COLORREF{0x010101}, 0);
-    out_.fillcolour(COLORREF{0x010101}, 0);
+    prime_colours(out_);
     return true;
 }
 

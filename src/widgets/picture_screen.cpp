@@ -118,9 +118,8 @@ void PictureScreen::draw_all(CWntOut& out, int width, int height, const Picture&
     present(out, whole);
 }
 
-long PictureScreen::draw_changes(CWntOut& out, const Picture& shown, const Picture& value) {
+void PictureScreen::draw_changes(CWntOut& out, const Picture& shown, const Picture& value) {
     collect_changes(shown, value);
-    long count = 0;
     for (const Area& area : areas_) {
         const int width = area.right - area.left;
         const int height = area.top - area.bottom;
@@ -128,9 +127,7 @@ long PictureScreen::draw_changes(CWntOut& out, const Picture& shown, const Pictu
         ::BitBlt(frame_.dc(), area.left, row, width, height, face_.dc(), area.left, row, SRCCOPY);
         render(frame_, value, area);
         present(out, area);
-        count += static_cast<long>(width) * height;
     }
-    return count;
 }
 
 void PictureScreen::present(CWntOut& out, const Area& area) {

@@ -13,9 +13,8 @@ class PictureScreen {
 public:
     /// Draws both pictures, the value over the face, over the whole width x height at the surface's lower left.
     void draw_all(CWntOut& out, int width, int height, const Picture& face, const Picture& value);
-    /// Draws what differs between the value picture that is on the screen and the new one. Returns the number of
-    /// pixels that were handed to the device.
-    long draw_changes(CWntOut& out, const Picture& shown, const Picture& value);
+    /// Draws what differs between the value picture that is on the screen and the new one.
+    void draw_changes(CWntOut& out, const Picture& shown, const Picture& value);
     /// True while draw_changes() has a face of this size to draw on.
     bool holds(int width, int height) const { return face_.width() == width && face_.height() == height; }
     void release();

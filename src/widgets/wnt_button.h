@@ -66,7 +66,6 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    bool begin_painting();
     void repaint();
     void move_picture(unsigned char up);
 

@@ -66,7 +66,6 @@ protected:
 
 private:
     wnt::ColourGrid grid();
-    bool begin_painting();
     void paint_cell(int x, int y, int width, int height, int colour, bool edged);
     void lay_out();
 

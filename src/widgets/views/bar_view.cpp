@@ -19,12 +19,8 @@ struct Bar {
     int bar_size; ///< text on the bar
 };
 
-bool title_on_bar(const GaugeModel& model) {
-    return model.bar_title && !model.no_title && !model.title_text().empty();
-}
-
 Bar lay_out_bar(const GaugeModel& model, const Stage& stage) {
-    Bar b = {lay_out(model, stage, title_on_bar(model)), {}, {}, {}, 0, 0};
+    Bar b = {lay_out(model, stage, has_inner_title(model)), {}, {}, {}, 0, 0};
     const BoxF& body = b.layout.body;
     const float height = body.height();
     if (height >= 40 && body.width() >= 50)
@@ -127,7 +123,7 @@ void bar_value(Picture& picture, const GaugeModel& model, const Stage& stage) {
     const BoxF empty = {edge, b.groove.bottom, b.groove.right, b.groove.top};
     paint_round_bar(picture, filled, colour);
 
-    const bool titled = title_on_bar(model);
+    const bool titled = has_inner_title(model);
     const FittedText percent =
         fit_number(stage.meter, percent_text(model), b.bar_size, b.groove.width() * (titled ? 0.35f : 0.9f));
     const PointF middle = b.groove.centre();

@@ -24,7 +24,9 @@ struct Dial {
     bool unit_on_face;
 };
 
-void place_dial(Dial& d, const GaugeModel& model, const Stage& stage) {
+Dial place_dial(const GaugeModel& model, const Stage& stage, bool title_on_face) {
+    Dial d = {};
+    d.layout = lay_out(model, stage, title_on_face);
     BoxF& body = d.layout.body;
     d.readout = take_outer_readout(body);
     d.readout_on_face = d.readout.empty();
@@ -33,40 +35,33 @@ void place_dial(Dial& d, const GaugeModel& model, const Stage& stage) {
     d.writing_size = stage.meter.tenths(std::clamp(d.radius * 0.125f, 6.5f, 34.0f));
     if (d.radius >= least_labelled_radius)
         d.label_size = label_size_for(model, stage.meter, d.writing_size, d.radius * 0.5f);
+    const float label = d.label_size ? widest_label(model, stage.meter, d.label_size) : 0;
+    const bool writable = d.radius >= least_written_radius;
+    const float between_labels = 2 * (d.radius * 0.55f - label);
+    d.title_width = title_on_face && writable && between_labels >= d.radius * 0.5f ? between_labels : 0;
+    // Wide labels at the ends of the scale need the place between them.
+    d.unit_on_face = d.readout_on_face && !model.no_title && writable && label <= d.radius * 0.34f;
     if (!d.readout_on_face)
-        return;
+        return d;
     const PointF c = d.scale.centre;
     const float half_width = d.radius * 0.33f;
     d.readout = {std::round(c.x - half_width), std::round(c.y - d.radius * 0.74f), std::round(c.x + half_width),
                  std::round(c.y - d.radius * 0.50f)};
+    return d;
 }
 
+// A title that finds no place among the labels goes above the dial.
 Dial lay_out_dial(const GaugeModel& model, const Stage& stage) {
-    const bool titled = model.bar_title && !model.no_title && !model.title_text().empty();
-    Dial d = {};
-    d.layout = lay_out(model, stage, titled);
-    place_dial(d, model, stage);
-    float label = d.label_size ? widest_label(model, stage.meter, d.label_size) : 0;
-    d.title_width = 2 * (d.radius * 0.55f - label);
-    if (!titled || d.radius < least_written_radius || d.title_width < d.radius * 0.5f) {
-        d.title_width = 0;
-        if (titled) { // there is no place for it among the labels
-            d.layout = lay_out(model, stage);
-            place_dial(d, model, stage);
-            label = d.label_size ? widest_label(model, stage.meter, d.label_size) : 0;
-        }
-    }
-    // Wide labels at the ends of the scale need the place between them.
-    d.unit_on_face =
-        d.readout_on_face && !model.no_title && d.radius >= least_written_radius && label <= d.radius * 0.34f;
-    return d;
+    const bool inner = has_inner_title(model);
+    const Dial d = place_dial(model, stage, inner);
+    return inner && d.title_width == 0 ? place_dial(model, stage, false) : d;
 }
 
 // The needle points along +x in its own frame, of length 1; it is turned and scaled once.
 constexpr PointF needle_outline[] = {{-0.22f, 0.040f}, {0.0f, 0.056f},  {0.97f, 0.012f},  {1.0f, 0.0f},
                                      {0.97f, -0.012f}, {0.0f, -0.056f}, {-0.22f, -0.040f}};
-constexpr PointF needle_lit[] = {{-0.20f, 0.0f}, {-0.20f, 0.026f}, {0.0f, 0.040f}, {0.96f, 0.004f}, {0.96f, 0.0f}};
-constexpr PointF needle_dark[] = {{-0.20f, 0.0f}, {0.96f, 0.0f}, {0.96f, -0.004f}, {0.0f, -0.040f}, {-0.20f, -0.026f}};
+constexpr PointF needle_left[] = {{-0.20f, 0.0f}, {-0.20f, 0.026f}, {0.0f, 0.040f}, {0.96f, 0.004f}, {0.96f, 0.0f}};
+constexpr PointF needle_right[] = {{-0.20f, 0.0f}, {0.96f, 0.0f}, {0.96f, -0.004f}, {0.0f, -0.040f}, {-0.20f, -0.026f}};
 
 template <int n>
 void paint_turned(Picture& picture, const PointF (&shape)[n], PointF origin, float length, float angle, Colour colour) {
@@ -81,12 +76,12 @@ void paint_turned(Picture& picture, const PointF (&shape)[n], PointF origin, flo
 // The light comes from the top left: the side of the needle that faces it is the bright one.
 void paint_needle(Picture& picture, const Dial& d, float angle, Colour colour) {
     const float length = d.radius * 0.76f;
-    const bool left_side_lit = std::cos(angle - 2.356f + 1.571f) < 0;
+    const bool left_lit = std::cos(angle + 1.571f - 2.356f) >= 0;
     const Colour bright = blend(colour, 0xFFFFFF, 70);
     const Colour dim = blend(colour, 0x000000, 50);
     paint_turned(picture, needle_outline, d.scale.centre, length, angle, blend(colour, 0x000000, 150));
-    paint_turned(picture, needle_lit, d.scale.centre, length, angle, left_side_lit ? dim : bright);
-    paint_turned(picture, needle_dark, d.scale.centre, length, angle, left_side_lit ? bright : dim);
+    paint_turned(picture, needle_left, d.scale.centre, length, angle, left_lit ? bright : dim);
+    paint_turned(picture, needle_right, d.scale.centre, length, angle, left_lit ? dim : bright);
 }
 
 // A cap lit from the top left. It lies over the needle, so it is drawn with every value: few figures.

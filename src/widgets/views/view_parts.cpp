@@ -114,12 +114,19 @@ void paint_ground(Picture& picture, const GaugeModel& model, const Stage& stage)
                  raised || flat ? theme.shadow : theme.sun);
 }
 
+bool has_title(const GaugeModel& model) {
+    return !model.no_title && !model.title_text().empty();
+}
+
+bool has_inner_title(const GaugeModel& model) {
+    return model.bar_title && has_title(model);
+}
+
 Layout lay_out(const GaugeModel& model, const Stage& stage, bool title_on_bar) {
     const BoxF inside = inside_border(model, stage);
     Layout layout = {{}, inside, 0};
     const float size = std::clamp(std::min(inside.height() * 0.085f, inside.width() * 0.14f), 8.0f, 32.0f);
-    const bool shown = !model.no_title && !model.title_text().empty() && !title_on_bar;
-    if (!shown || inside.height() < 48 || inside.width() < 40)
+    if (!has_title(model) || title_on_bar || inside.height() < 48 || inside.width() < 40)
         return layout;
     layout.title_size = stage.meter.tenths(size);
     const float line = std::ceil(stage.meter.metrics(layout.title_size).height());

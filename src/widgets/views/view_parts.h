@@ -48,6 +48,10 @@ void write(Picture& picture, TextMeter& meter, PointF at, HAlign align, int tent
 void paint_ground(Picture& picture, const GaugeModel& model, const Stage& stage);
 BoxF inside_border(const GaugeModel& model, const Stage& stage);
 
+bool has_title(const GaugeModel& model);
+/// The title is to stand on the bar or the face instead of above it.
+bool has_inner_title(const GaugeModel& model);
+
 /// A view's space, with the line of the title taken off at its top.
 struct Layout {
     BoxF title; ///< empty when there is none
