@@ -6,6 +6,7 @@
 
 #include "controls/wnt_scroll_bar.h"
 #include "controls/wnt_ulist.h"
+#include "diag/wnt_shmem.h"
 #include "diag/wnt_trace.h"
 #include "out/wnt_objlist.h"
 #include "out/wnt_out.h"
