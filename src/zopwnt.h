@@ -8,6 +8,7 @@
 #include "controls/wnt_ulist.h"
 #include "diag/wnt_shmem.h"
 #include "diag/wnt_trace.h"
+#include "out/hardcopy.h"
 #include "out/wnt_objlist.h"
 #include "out/wnt_out.h"
 #include "pulse/wnt_pulse_file.h"

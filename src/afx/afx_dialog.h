@@ -47,7 +47,6 @@ protected:
     LPCDLGTEMPLATE m_lpDialogTemplate = nullptr;
     CWnd* m_pParentWnd = nullptr;
 
-private:
-    LPCDLGTEMPLATE FindTemplate(LPCTSTR name, HINSTANCE& module) const;
+    static LPCDLGTEMPLATE FindTemplate(LPCTSTR name, HINSTANCE& module);
     static INT_PTR CALLBACK DialogProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 };

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "afxwin.h"
+#include "afx_property_sheet.h"
 
 class ZOPAFX_API CCommonDialog : public CDialog {
     DECLARE_DYNAMIC(CCommonDialog)
@@ -47,3 +48,5 @@ protected:
 private:
     static UINT_PTR CALLBACK HookProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 };
+
+#include "afx_print_dialog.h"

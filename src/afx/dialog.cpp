@@ -2,6 +2,7 @@
 #include "afx_app.h"
 #include "afx_exception.h"
 #include "afxmsg_.h"
+#include "modal_parent.h"
 #include "wnd_state.h"
 
 IMPLEMENT_DYNAMIC(CDialog, CWnd)
@@ -10,40 +11,6 @@ BEGIN_MESSAGE_MAP(CDialog, CWnd)
 ON_COMMAND(IDOK, &CDialog::OnOK)
 ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
 END_MESSAGE_MAP()
-
-namespace {
-
-// Keeps a modal dialog's parent disabled, whichever way the dialog ends.
-class disabled_parent {
-public:
-    explicit disabled_parent(HWND parent)
-        : m_parent(parent != nullptr && ::IsWindowEnabled(parent) ? parent : nullptr) {
-        if (m_parent != nullptr)
-            ::EnableWindow(m_parent, FALSE);
-    }
-    ~disabled_parent() { enable(); }
-    disabled_parent(const disabled_parent&) = delete;
-    disabled_parent& operator=(const disabled_parent&) = delete;
-
-    void enable() {
-        if (m_parent != nullptr)
-            ::EnableWindow(m_parent, TRUE);
-        m_parent = nullptr;
-    }
-
-private:
-    HWND m_parent;
-};
-
-// A disabled child cannot hold a dialog: its top-level window does.
-HWND modal_owner(CWnd* parent) {
-    HWND owner = parent->GetSafeHwnd();
-    if (owner == nullptr)
-        owner = AfxGetMainWnd()->GetSafeHwnd();
-    return owner != nullptr ? ::GetAncestor(owner, GA_ROOT) : nullptr;
-}
-
-} // namespace
 
 CDialog::CDialog(LPCTSTR lpszTemplateName, CWnd* pParentWnd)
     : m_lpszTemplateName(lpszTemplateName), m_pParentWnd(pParentWnd) {
@@ -55,7 +22,7 @@ CDialog::CDialog(UINT nIDTemplate, CWnd* pParentWnd) : CDialog(MAKEINTRESOURCE(n
 
 CDialog::~CDialog() = default;
 
-LPCDLGTEMPLATE CDialog::FindTemplate(LPCTSTR name, HINSTANCE& module) const {
+LPCDLGTEMPLATE CDialog::FindTemplate(LPCTSTR name, HINSTANCE& module) {
     module = AfxFindResourceHandle(name, RT_DIALOG);
     const HRSRC found = ::FindResource(module, name, RT_DIALOG);
     const HGLOBAL loaded = found != nullptr ? ::LoadResource(module, found) : nullptr;

@@ -1,0 +1,95 @@
+#include "afxdlgs.h"
+#include "modal_parent.h"
+#include "wnd_state.h"
+
+IMPLEMENT_DYNAMIC(CPropertyPage, CDialog)
+IMPLEMENT_DYNAMIC(CPropertySheet, CWnd)
+
+CPropertyPage::CPropertyPage(UINT nIDTemplate) : CDialog(nIDTemplate), m_psp{} {
+    m_psp.dwSize = sizeof(m_psp);
+    m_psp.dwFlags = PSP_DLGINDIRECT | PSP_USECALLBACK;
+    m_psp.pfnDlgProc = &CPropertyPage::PageProc;
+    m_psp.pfnCallback = &CPropertyPage::PageCallback;
+    m_psp.lParam = reinterpret_cast<LPARAM>(this);
+}
+
+BOOL CPropertyPage::ReadTemplate() {
+    m_psp.pResource = FindTemplate(m_lpszTemplateName, m_psp.hInstance);
+    return m_psp.pResource != nullptr;
+}
+
+// The next window that the system creates is the page's.
+UINT CALLBACK CPropertyPage::PageCallback(HWND, UINT message, PROPSHEETPAGE* page) {
+    if (message == PSPCB_CREATE)
+        AfxHookWindowCreate(reinterpret_cast<CPropertyPage*>(page->lParam));
+    return TRUE;
+}
+
+INT_PTR CALLBACK CPropertyPage::PageProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_INITDIALOG)
+        AfxUnhookWindowCreate();
+    return DialogProc(hwnd, message, wParam, lParam);
+}
+
+BOOL CPropertyPage::PreTranslateMessage(MSG* pMsg) {
+    return CWnd::PreTranslateMessage(pMsg); // the sheet's keys and tab order include the page's
+}
+
+CPropertySheet::CPropertySheet(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage)
+    : CPropertySheet(MAKEINTRESOURCE(nIDCaption), pParentWnd, iSelectPage) {}
+
+CPropertySheet::CPropertySheet(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage)
+    : m_psh{}, m_caption(pszCaption), m_parent(pParentWnd) {
+    m_psh.dwSize = sizeof(m_psh);
+    m_psh.dwFlags = PSH_PROPSHEETPAGE | PSH_MODELESS;
+    m_psh.nStartPage = iSelectPage;
+}
+
+BOOL CPropertySheet::CreateSheet(HWND owner) {
+    std::vector<PROPSHEETPAGE> records;
+    for (CPropertyPage* page : m_pages) {
+        if (!page->ReadTemplate())
+            return FALSE;
+        records.push_back(page->m_psp);
+    }
+    if (m_psh.nStartPage >= records.size())
+        m_psh.nStartPage = 0;
+    m_psh.hwndParent = owner;
+    m_psh.pszCaption = m_caption;
+    m_psh.nPages = static_cast<UINT>(records.size());
+    m_psh.ppsp = records.data();
+    AfxHookWindowCreate(this);
+    const INT_PTR hwnd = ::PropertySheet(&m_psh);
+    m_psh.ppsp = nullptr;
+    if (!AfxUnhookWindowCreate())
+        PostNcDestroy();
+    return hwnd > 0 && m_hWnd != nullptr;
+}
+
+INT_PTR CPropertySheet::DoModal() {
+    const HWND owner = modal_owner(m_parent);
+    disabled_parent disabled(owner);
+    if (m_pages.empty() || !CreateSheet(owner))
+        return -1;
+    CenterWindow();
+    m_modalResult = -1;
+    RunModalLoop(MLF_SHOWONIDLE);
+    const int result = m_modalResult;
+    // Before the sheet goes: else the system activates another program's window.
+    disabled.enable();
+    if (owner != nullptr && ::GetActiveWindow() == m_hWnd)
+        ::SetActiveWindow(owner);
+    DestroyWindow();
+    return result;
+}
+
+// A sheet that has been answered has no current page any more.
+BOOL CPropertySheet::ContinueModal() {
+    if (CWnd::ContinueModal() && PropSheet_GetCurrentPageHwnd(m_hWnd) == nullptr)
+        EndModalLoop(PropSheet_GetResult(m_hWnd) > 0 ? IDOK : IDCANCEL);
+    return CWnd::ContinueModal();
+}
+
+BOOL CPropertySheet::PreTranslateMessage(MSG* pMsg) {
+    return CWnd::PreTranslateMessage(pMsg) || PropSheet_IsDialogMessage(m_hWnd, pMsg);
+}
