@@ -6,8 +6,13 @@
 
 #include "controls/wnt_scroll_bar.h"
 #include "controls/wnt_ulist.h"
+#include "diag/wnt_error_box.h"
+#include "diag/wnt_file_sel.h"
 #include "diag/wnt_shmem.h"
+#include "diag/wnt_sound.h"
+#include "diag/wnt_splash.h"
 #include "diag/wnt_trace.h"
+#include "diag/wnt_version.h"
 #include "out/hardcopy.h"
 #include "out/wnt_objlist.h"
 #include "out/wnt_out.h"

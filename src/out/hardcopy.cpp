@@ -39,8 +39,8 @@ void print_window(CWnd& window, CDC& page) {
     window.GetWindowRect(&place);
     if (place.Width() <= 0 || place.Height() <= 0)
         return;
-    const double scale = wnt::page_scale(page.GetDeviceCaps(HORZRES), page.GetDeviceCaps(VERTRES), place.Width(),
-                                         place.Height());
+    const double scale =
+        wnt::page_scale(page.GetDeviceCaps(HORZRES), page.GetDeviceCaps(VERTRES), place.Width(), place.Height());
     const WindowPicture picture(window, place.Width(), place.Height());
     picture.print(page, static_cast<int>(place.Width() * scale), static_cast<int>(place.Height() * scale));
 }
