@@ -25,17 +25,19 @@ public:
             bytes_.clear();
     }
 
-    /// A copy of the value with that name, where it lies in the block with its whole length.
+    /// A copy of the value with that name, where it lies with its whole length in what the block says it has.
     template <class Value> std::optional<Value> value(const char* name) const {
         void* found = nullptr;
         UINT length = 0;
         if (bytes_.empty() || !::VerQueryValueA(bytes_.data(), name, &found, &length) || length < sizeof(Value))
             return {};
-        const auto* at = static_cast<const std::byte*>(found);
-        if (at < bytes_.data() || at + sizeof(Value) > bytes_.data() + bytes_.size())
+        const auto offset = static_cast<std::size_t>(static_cast<const std::byte*>(found) - bytes_.data());
+        WORD told = 0;
+        std::memcpy(&told, bytes_.data(), sizeof told);
+        if (offset > told || told - offset < sizeof(Value))
             return {};
         Value copy;
-        std::memcpy(&copy, at, sizeof copy);
+        std::memcpy(&copy, found, sizeof copy);
         return copy;
     }
 
@@ -121,7 +123,7 @@ CString wnt::version_fact(const char* path, int kind) {
         return "";
     const VersionBlock block(path);
     const auto info = block.value<VS_FIXEDFILEINFO>("\\");
-    if (!info)
+    if (!info || info->dwSignature != VS_FFI_SIGNATURE)
         return "";
     return kind == language ? language_text(block) : fixed_text(*info, kind);
 }
