@@ -157,6 +157,7 @@ void CWntVersionZOPDlg::OnWntverzopPrint() {
     wnt::DefaultPrinter printer;
     if (!printer.begin("ZOP Version Control"))
         return;
+    printer.page().SetBkMode(TRANSPARENT); // the lines stand closer than the default font is high
     for (INT_PTR i = 0; i < summary_.GetSize(); ++i)
         printer.page().TextOut(100, 100 + 50 * static_cast<int>(i), summary_[i]);
     printer.end();
