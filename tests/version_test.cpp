@@ -1,6 +1,6 @@
 // What files tell about their versions, and the sheet that shows it.
 #include "modal.h"
-#include "version_file.h"
+#include "resource_file.h"
 
 #include <gmock/gmock.h>
 

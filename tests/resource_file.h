@@ -1,4 +1,4 @@
-// Files with version resources made for the purpose.
+// Program files with resources made for the purpose.
 #pragma once
 
 #include <windows.h>
@@ -48,12 +48,16 @@ private:
     Bytes bytes_;
 };
 
-/// Gives a copy of a small program file the version block.
-inline bool write_version_file(const char* path, const Bytes& block) {
+/// Makes a small program file with one resource, number 1.
+inline bool write_resource_file(const char* path, LPCSTR type, const Bytes& resource) {
     if (!::CopyFileA("libwinpthread-1.dll", path, FALSE))
         return false;
     HANDLE update = ::BeginUpdateResourceA(path, TRUE);
-    ::UpdateResourceA(update, reinterpret_cast<LPCSTR>(RT_VERSION), MAKEINTRESOURCEA(1), 0,
-                      const_cast<unsigned char*>(block.data()), static_cast<DWORD>(block.size()));
+    ::UpdateResourceA(update, type, MAKEINTRESOURCEA(1), 0, const_cast<unsigned char*>(resource.data()),
+                      static_cast<DWORD>(resource.size()));
     return ::EndUpdateResourceA(update, FALSE);
+}
+
+inline bool write_version_file(const char* path, const Bytes& block) {
+    return write_resource_file(path, reinterpret_cast<LPCSTR>(RT_VERSION), block);
 }

@@ -1,0 +1,300 @@
+// Memory shared with another process, the splash, the error box and the file choice.
+#include "modal.h"
+#include "pixels.h"
+#include "resource_file.h"
+
+#include <gmock/gmock.h>
+
+#include <cstdlib>
+#include <numeric>
+
+namespace {
+
+ModalProgram program;
+
+class Framework : public testing::Environment {
+    void SetUp() override {
+        ASSERT_TRUE(AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), 0));
+        char path[MAX_PATH] = "";
+        ::GetModuleFileNameA(nullptr, path, sizeof path);
+        *std::strrchr(path, '\\') = '\0';
+        ASSERT_TRUE(::SetCurrentDirectoryA(path));
+    }
+};
+const testing::Environment* const environment = testing::AddGlobalTestEnvironment(new Framework);
+
+constexpr const char* block_name = "zopwnt test block";
+constexpr std::int32_t block_size = 100'003;
+
+Bytes counted() {
+    Bytes bytes(block_size);
+    std::iota(bytes.begin(), bytes.end(), static_cast<unsigned char>(1));
+    return bytes;
+}
+
+Bytes bytes_of(const CWntShMem& block) {
+    const auto* first = static_cast<const unsigned char*>(block.GetPtr());
+    return Bytes(first, first + block_size);
+}
+
+/// Runs another process of this program with one of the tests that are disabled here; answers its exit code.
+DWORD run_apart(const char* test) {
+    char program_path[MAX_PATH] = "";
+    ::GetModuleFileNameA(nullptr, program_path, sizeof program_path);
+    std::string line = std::string("\"") + program_path + "\" --gtest_also_run_disabled_tests --gtest_filter=" + test;
+    STARTUPINFOA start = {};
+    start.cb = sizeof start;
+    PROCESS_INFORMATION process = {};
+    if (!::CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &process))
+        return 1;
+    ::WaitForSingleObject(process.hProcess, 60'000);
+    DWORD code = 1;
+    ::GetExitCodeProcess(process.hProcess, &code);
+    ::CloseHandle(process.hThread);
+    ::CloseHandle(process.hProcess);
+    return code;
+}
+
+} // namespace
+
+TEST(SharedMemory, ServesTwoProcesses) {
+    CWntShMem block(block_name, block_size);
+    ASSERT_NE(block.GetPtr(), nullptr);
+    EXPECT_EQ(bytes_of(block), Bytes(block_size));
+    const Bytes plain = counted();
+    std::copy(plain.begin(), plain.end(), static_cast<unsigned char*>(block.GetPtr()));
+    block.Scramble();
+    EXPECT_NE(bytes_of(block), plain);
+    EXPECT_EQ(run_apart("SharedMemory.DISABLED_OtherProcess"), 0u);
+    Bytes reversed = plain;
+    std::reverse(reversed.begin(), reversed.end());
+    EXPECT_NE(bytes_of(block), reversed);
+    block.Scramble();
+    EXPECT_EQ(bytes_of(block), reversed);
+}
+
+// The other side: reads what was scrambled, answers with the same bytes turned round and scrambled.
+TEST(SharedMemory, DISABLED_OtherProcess) {
+    CWntShMem block(block_name, block_size);
+    ASSERT_NE(block.GetPtr(), nullptr);
+    block.Scramble();
+    ASSERT_EQ(bytes_of(block), counted());
+    auto* first = static_cast<unsigned char*>(block.GetPtr());
+    std::reverse(first, first + block_size);
+    block.Scramble();
+}
+
+TEST(SharedMemory, IsNullWhereThereIsNoSuchBlock) {
+    for (const std::int32_t size : {0, -1, INT32_MIN}) {
+        CWntShMem none("zopwnt test nothing", size);
+        EXPECT_EQ(none.GetPtr(), nullptr);
+        none.Scramble();
+    }
+    const CWntShMem small("zopwnt test small", 4000);
+    const CWntShMem larger("zopwnt test small", 40'000);
+    EXPECT_EQ(larger.GetPtr(), nullptr);
+    const CWntShMem part("zopwnt test small", 10);
+    EXPECT_NE(part.GetPtr(), nullptr);
+    HANDLE event = ::CreateEventA(nullptr, FALSE, FALSE, "zopwnt test event");
+    const CWntShMem taken("zopwnt test event", 4000);
+    EXPECT_EQ(taken.GetPtr(), nullptr);
+    ::CloseHandle(event);
+    const CWntShMem long_name(std::string(5000, 'x').c_str(), 4000);
+    EXPECT_EQ(long_name.GetPtr(), nullptr);
+    const CWntShMem nameless(nullptr, 10), another(nullptr, 10); // a block of its own each
+    ASSERT_TRUE(nameless.GetPtr() && another.GetPtr());
+    *static_cast<char*>(nameless.GetPtr()) = 'x';
+    EXPECT_EQ(*static_cast<char*>(another.GetPtr()), 0);
+}
+
+namespace {
+
+constexpr int picture_width = 60;
+constexpr int picture_height = 40;
+constexpr COLORREF upper_colour = RGB(200, 40, 30);
+constexpr COLORREF lower_colour = RGB(30, 60, 190);
+
+/// Two colours of a table, one above the other, as a bitmap resource.
+Bytes picture_resource() {
+    const BITMAPINFOHEADER header = {sizeof header, picture_width, picture_height, 1, 8, BI_RGB, 0, 0, 0, 2, 0};
+    const RGBQUAD colours[2] = {{190, 60, 30, 0}, {30, 40, 200, 0}};
+    Bytes bytes(sizeof header + sizeof colours + picture_width * picture_height);
+    std::memcpy(bytes.data(), &header, sizeof header);
+    std::memcpy(bytes.data() + sizeof header, colours, sizeof colours);
+    std::fill_n(bytes.end() - picture_width * picture_height / 2, picture_width * picture_height / 2, 1);
+    return bytes;
+}
+
+int splashes = 0; // that live
+
+class Splash : public CWntSplash {
+public:
+    explicit Splash(UINT time = 60'000, UINT bitmap = 1) : CWntSplash(bitmap, time) { ++splashes; }
+    ~Splash() override { --splashes; }
+};
+
+void pump() {
+    MSG message;
+    while (::PeekMessage(&message, nullptr, 0, 0, PM_NOREMOVE))
+        AfxPumpMessage();
+}
+
+class SplashTest : public testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(write_resource_file(file, reinterpret_cast<LPCSTR>(RT_BITMAP), picture_resource()));
+        module = ::LoadLibraryExA(file, nullptr, LOAD_LIBRARY_AS_DATAFILE);
+        AfxSetResourceHandle(module);
+    }
+    void TearDown() override {
+        AfxSetResourceHandle(nullptr);
+        ::FreeLibrary(module);
+        ::DeleteFileA(file);
+        EXPECT_EQ(splashes, 0);
+    }
+    static Splash* shown(UINT time = 60'000) {
+        auto* splash = new Splash(time);
+        EXPECT_TRUE(splash->Create());
+        return splash;
+    }
+
+    static constexpr const char* file = "splash test.dll";
+    HMODULE module = nullptr;
+};
+
+} // namespace
+
+TEST_F(SplashTest, StandsInFrontInTheMiddleOfTheScreen) {
+    Splash* splash = shown();
+    CRect place;
+    splash->GetWindowRect(&place);
+    EXPECT_EQ(place.Size(), CSize(picture_width, picture_height));
+    EXPECT_NEAR(place.CenterPoint().x, ::GetSystemMetrics(SM_CXSCREEN) / 2, 1);
+    EXPECT_NEAR(place.CenterPoint().y, ::GetSystemMetrics(SM_CYSCREEN) / 2, 1);
+    EXPECT_TRUE(splash->IsWindowVisible());
+    EXPECT_TRUE(splash->GetExStyle() & WS_EX_TOPMOST);
+    EXPECT_EQ(splash->GetStyle() & (WS_POPUP | WS_CAPTION), WS_POPUP);
+    const HWND owner = ::GetWindow(splash->m_hWnd, GW_OWNER);
+    EXPECT_TRUE(::IsWindow(owner) && !::IsWindowVisible(owner));
+    Picture picture(picture_width, picture_height);
+    picture.capture(splash->m_hWnd);
+    EXPECT_EQ(picture.count(upper_colour), picture_width * picture_height / 2);
+    EXPECT_EQ(picture.at(5, 5), lower_colour);
+    EXPECT_FALSE(splash->Create()); // once is enough
+    delete splash;
+    EXPECT_FALSE(::IsWindow(owner));
+}
+
+TEST_F(SplashTest, PaletteIsTheBitmapsOwnOnScreensOfFewColours) {
+    Splash splash;
+    CBitmap bitmap;
+    CPalette palette;
+    ASSERT_TRUE(splash.GetBitmapAndPalette(1, bitmap, palette));
+    ASSERT_TRUE(splash.GetBitmapAndPalette(1, bitmap, palette)); // replaces what is there
+    CClientDC screen(nullptr);
+    if (screen.GetDeviceCaps(BITSPIXEL) > 8) {
+        EXPECT_GT(palette.GetEntryCount(), 2);
+    } else {
+        PALETTEENTRY entries[2] = {};
+        palette.GetPaletteEntries(0, 2, entries);
+        EXPECT_EQ(RGB(entries[0].peRed, entries[0].peGreen, entries[0].peBlue), lower_colour);
+        EXPECT_EQ(RGB(entries[1].peRed, entries[1].peGreen, entries[1].peBlue), upper_colour);
+    }
+    EXPECT_FALSE(splash.GetBitmapAndPalette(2, bitmap, palette));
+    EXPECT_FALSE(Splash(1000, 148).Create()); // the library's own bitmap is not the host's
+}
+
+TEST_F(SplashTest, GoesOnceWhicheverWayItEnds) {
+    delete shown(); // some objects stay with the process from the first on
+    pump();
+    const int objects = live_gdi_objects();
+    for (const UINT message : {WM_KEYDOWN, WM_SYSKEYDOWN, WM_LBUTTONDOWN, WM_RBUTTONDOWN, WM_MBUTTONDOWN}) {
+        Splash* splash = shown();
+        const HWND owner = ::GetWindow(splash->m_hWnd, GW_OWNER);
+        for (const UINT harmless : {WM_KEYUP, WM_MOUSEMOVE, WM_LBUTTONUP, WM_MOUSEWHEEL})
+            splash->PostMessage(harmless);
+        splash->PostMessage(WM_TIMER, 77); // another timer's
+        pump();
+        ASSERT_EQ(splashes, 1) << message;
+        for (int i = 0; i < 3; ++i) // only the first finds it
+            splash->PostMessage(message, VK_SPACE);
+        pump();
+        EXPECT_EQ(splashes, 0) << message;
+        EXPECT_FALSE(::IsWindow(owner));
+    }
+    shown()->DestroyWindow();
+    shown()->SendMessage(WM_CLOSE);
+    ::DestroyWindow(::GetWindow(shown()->m_hWnd, GW_OWNER));
+    delete shown();
+    EXPECT_EQ(splashes, 0);
+    pump();
+    EXPECT_EQ(live_gdi_objects(), objects);
+}
+
+TEST_F(SplashTest, GoesWhenItsTimeIsUpWhileOthersStay) {
+    const DWORD start = ::GetTickCount();
+    Splash* late = shown();
+    shown(150);
+    shown(300);
+    shown(0);
+    std::vector<DWORD> ends;
+    for (int last = splashes; splashes > 1 && ::GetTickCount() - start < 20'000; last = splashes) {
+        for (int i = 0; i < 20; ++i)
+            late->PostMessage(WM_MOUSEMOVE);
+        pump();
+        if (splashes < last)
+            ends.push_back(::GetTickCount() - start);
+    }
+    ASSERT_EQ(ends.size(), 3u);
+    EXPECT_GE(ends[1], 140u);
+    EXPECT_GE(ends[2], 290u);
+    EXPECT_TRUE(::IsWindow(late->m_hWnd));
+    late->DestroyWindow();
+}
+
+TEST(ErrorBox, ShowsItsThreeTextsOnTheWindowColour) {
+    CWntErrorBox box("Title & more", "The message", "Detail 1\r\nDetail 2");
+    std::string texts;
+    bool grounds = true;
+    const COLORREF window_colour = ::GetSysColor(COLOR_WINDOW);
+    WhileModal modal([&] {
+        if (!box.m_hWnd)
+            return false;
+        for (const int id : {1003, 1004, 1005}) {
+            CString text;
+            box.GetDlgItemText(id, text);
+            texts += text + "|";
+            CWnd* control = box.GetDlgItem(id);
+            CClientDC dc(control);
+            const UINT message = id == 1005 ? WM_CTLCOLOREDIT : WM_CTLCOLORSTATIC;
+            const auto brush = reinterpret_cast<HBRUSH>(box.SendMessage(message, reinterpret_cast<WPARAM>(dc.m_hDC),
+                                                                        reinterpret_cast<LPARAM>(control->m_hWnd)));
+            LOGBRUSH description = {};
+            ::GetObjectA(brush, sizeof description, &description);
+            grounds = grounds && description.lbColor == window_colour && dc.GetBkColor() == window_colour;
+        }
+        box.PostMessage(WM_COMMAND, IDOK);
+        return true;
+    });
+    EXPECT_EQ(box.DoModal(), IDOK);
+    EXPECT_EQ(texts, "Title & more|The message|Detail 1\r\nDetail 2|");
+    EXPECT_TRUE(grounds);
+}
+
+TEST(FileSel, OpensInTheMiddleOfItsParent) {
+    CWnd host;
+    ASSERT_TRUE(host.CreateEx(0, nullptr, "host", WS_POPUP | WS_VISIBLE, CRect(600, 500, 1800, 1500), nullptr, 0));
+    CWntFileSel choice(TRUE, "dll", "ZOPWNT.dll", OFN_FILEMUSTEXIST, "Libraries|*.dll||", &host);
+    CRect place;
+    WhileModal modal([&] {
+        if (!choice.m_hWnd || !::IsWindowVisible(::GetParent(choice.m_hWnd)))
+            return false;
+        ::GetWindowRect(::GetParent(choice.m_hWnd), &place);
+        ::PostMessage(::GetParent(choice.m_hWnd), WM_COMMAND, IDOK, 0);
+        return true;
+    });
+    EXPECT_EQ(choice.DoModal(), IDOK);
+    EXPECT_EQ(choice.GetFileName(), "ZOPWNT.dll");
+    EXPECT_NEAR(place.CenterPoint().x, 1200, 2);
+    EXPECT_NEAR(place.CenterPoint().y, 1000, 2);
+}
