@@ -1,0 +1,88 @@
+// Sounds as they reach the sound device, which writes what it plays to a file.
+#include "modal.h"
+#include "resource_file.h"
+
+#include <gmock/gmock.h>
+
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+
+namespace {
+
+/// The samples of a WAVE resource of the library: what follows the head of its one data chunk.
+Bytes samples_of(const char* name) {
+    const HMODULE module = ::GetModuleHandleA("ZOPWNT.dll");
+    HRSRC found = ::FindResourceA(module, name, "WAVE");
+    const auto* first = static_cast<const unsigned char*>(::LockResource(::LoadResource(module, found)));
+    return Bytes(first + 44, first + ::SizeofResource(module, found));
+}
+
+class SoundTest : public testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), 0));
+        if (!std::getenv("ZOP_PLAYED"))
+            GTEST_SKIP() << "NOT PLAYED: no device of the test's own";
+        played_file = std::string("Z:") + std::getenv("ZOP_PLAYED");
+    }
+    void TearDown() override {
+        WntSoundEnable(1);
+        AfxSetResourceHandle(nullptr);
+    }
+    /// What the device got while the function ran; empty where it was not even opened.
+    template <class Play> Bytes played(Play play) const {
+        ::DeleteFileA(played_file.c_str());
+        play();
+        std::ifstream file(played_file, std::ios::binary);
+        return Bytes(std::istreambuf_iterator<char>(file), {});
+    }
+    std::string played_file;
+};
+
+} // namespace
+
+TEST_F(SoundTest, PlaysTheLibrarysSounds) {
+    const char* names[] = {"IDR_WAVE_BELL", "IDR_WAVE_CLAP", "IDR_WAVE_KEY"};
+    for (std::uint16_t id = 0; id < 3; ++id) {
+        const Bytes samples = samples_of(names[id]);
+        EXPECT_GT(samples.size(), 2000u);
+        EXPECT_TRUE(played([=] { WntSound(id, 7); }) == samples) << names[id];
+        WntSoundEnable(id, 0); // without effect here
+        EXPECT_TRUE(played([=] { WntSound(id); }) == samples) << names[id];
+    }
+    WntSoundEnable(3, 0);
+    for (const std::uint16_t id : {3, 0xFFFF})
+        EXPECT_TRUE(played([=] { WntSound(id); }).empty());
+    WntSoundEnable(0);
+    EXPECT_TRUE(played([] { WntSound(0); }).empty());
+    WntSoundEnable(-2);
+    EXPECT_FALSE(played([] { WntSound(0); }).empty());
+}
+
+TEST_F(SoundTest, PlaysTheHostsSoundsFromTheHost) {
+    const HMODULE library = ::GetModuleHandleA("ZOPWNT.dll");
+    HRSRC found = ::FindResourceA(library, "IDR_WAVE_KEY", "WAVE");
+    const auto* first = static_cast<const unsigned char*>(::LockResource(::LoadResource(library, found)));
+    Bytes sound(first, first + ::SizeofResource(library, found));
+    std::reverse(sound.begin() + 44, sound.end());
+    ASSERT_TRUE(write_resource_file("sound test.dll", "WAVE", sound));
+    const HMODULE host = ::LoadLibraryExA("sound test.dll", nullptr, LOAD_LIBRARY_AS_DATAFILE);
+    AfxSetResourceHandle(host);
+    WntSoundEnable(0); // does not count for the host's sounds
+    const Bytes samples(sound.begin() + 44, sound.end());
+    EXPECT_TRUE(played([] { WntSoundPlayFromAppResource("#1"); }) == samples);
+    for (const char* name : {"IDR_WAVE_KEY", "no such sound", "", static_cast<const char*>(nullptr)})
+        EXPECT_TRUE(played([=] { WntSoundPlayFromAppResource(name); }).empty());
+    ::FreeLibrary(host);
+    ::DeleteFileA("sound test.dll");
+}
+
+TEST(SoundWithoutDevice, IsOverAtOnce) {
+    const DWORD start = ::GetTickCount();
+    for (std::uint16_t id = 0; id < 4; ++id)
+        WntSound(id);
+    WntSoundPlayFromAppResource("IDR_WAVE_BELL");
+    WntSoundSetVolume(0xFFFF);
+    EXPECT_LT(::GetTickCount() - start, 3000u); // less than the sounds would last, with time for a slow machine
+}
