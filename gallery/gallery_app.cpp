@@ -1,17 +1,23 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <memory>
 
 #include "gallery_frame.h"
+#include "gallery_ids.h"
 #include "render.h"
 
-// zopgallery [FILE...]                                  shows the pages; each FILE is an attribute script
+// zopgallery [--no-splash] [--page NAME] [FILE...]      shows the pages; each FILE is an attribute script
 // zopgallery --render DIR [--size WxH] [FILE...]        paints pages and scripts into DIR and ends
 
 namespace {
 
+constexpr UINT splash_time = 2000; // milliseconds
+
 struct CommandLine {
     std::vector<CString> scripts;
+    bool splash = true;
+    CString page;
     bool render = false;
     CString render_to;
     CSize size = {0, 0};
@@ -38,11 +44,16 @@ CommandLine read_command_line(int count, char** arguments) {
     for (int i = 1; i < count; ++i) {
         const bool render = std::strcmp(arguments[i], "--render") == 0;
         const bool size = std::strcmp(arguments[i], "--size") == 0;
-        if ((render || size) && ++i == count) {
+        const bool page = std::strcmp(arguments[i], "--page") == 0;
+        if (std::strcmp(arguments[i], "--no-splash") == 0) {
+            line.splash = false;
+        } else if ((render || size || page) && ++i == count) {
             line.good = false;
         } else if (render) {
             line.render = true;
             line.render_to = arguments[i];
+        } else if (page) {
+            line.page = arguments[i];
         } else if (size) {
             line.good = line.good && read_size(arguments[i], line.size);
         } else {
@@ -58,7 +69,7 @@ public:
     BOOL InitInstance() override {
         const CommandLine line = read_command_line(__argc, __argv);
         if (!line.good) {
-            std::fputs("usage: zopgallery [--render DIR [--size WxH]] [FILE...]\n", stderr);
+            std::fputs("usage: zopgallery [--no-splash] [--page NAME] [--render DIR [--size WxH]] [FILE...]\n", stderr);
             return Fail();
         }
         if (line.render) {
@@ -71,8 +82,11 @@ public:
         m_pMainWnd = frame;
         frame->SetIcon(LoadIcon("ZOP"), TRUE);
         frame->ShowPage(line.scripts.empty() ? 2 : 3);
+        frame->ShowPage(frame->PageNamed(line.page));
         frame->ShowWindow(m_nCmdShow);
         frame->UpdateWindow();
+        if (line.splash)
+            ShowSplash();
         return TRUE;
     }
 
@@ -82,6 +96,12 @@ public:
     }
 
 private:
+    static void ShowSplash() {
+        auto splash = std::make_unique<CWntSplash>(IDB_SPLASH, splash_time);
+        if (splash->Create())
+            static_cast<void>(splash.release()); // it deletes itself
+    }
+
     BOOL Fail() {
         result_ = 2;
         return FALSE;

@@ -6,6 +6,8 @@ namespace {
 
 constexpr int list_width = 150;
 constexpr UINT list_id = 2;
+constexpr UINT print_id = 3;
+constexpr int print_height = 32;
 
 } // namespace
 
@@ -13,6 +15,7 @@ BEGIN_MESSAGE_MAP(CGalleryFrame, CFrameWnd)
 ON_WM_CREATE()
 ON_WM_SIZE()
 ON_LBN_SELCHANGE(list_id, &CGalleryFrame::OnSelectPage)
+ON_BN_CLICKED(print_id, &CGalleryFrame::OnPrint)
 END_MESSAGE_MAP()
 
 CGalleryFrame::CGalleryFrame(const std::vector<CString>& scripts) : pages_(MakePages(scripts)) {}
@@ -25,10 +28,12 @@ int CGalleryFrame::OnCreate(LPCREATESTRUCT create) {
     if (CFrameWnd::OnCreate(create) == -1)
         return -1;
     if (!list_.Create(WS_CHILD | WS_VISIBLE | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL, CRect(0, 0, 0, 0), this,
-                      list_id))
+                      list_id) ||
+        !print_.Create("Print this window", WS_CHILD | WS_VISIBLE | BS_PUSHBUTTON, CRect(0, 0, 0, 0), this, print_id))
         return -1;
     list_font_.CreatePointFont(100, "Arial");
     list_.SetFont(&list_font_);
+    print_.SetFont(&list_font_);
     for (const auto& page : pages_) {
         if (!page->Open(this, CRect(0, 0, 10, 10)))
             return -1;
@@ -46,8 +51,11 @@ CRect CGalleryFrame::PagePlace() const {
 
 void CGalleryFrame::OnSize(UINT type, int cx, int cy) {
     CFrameWnd::OnSize(type, cx, cy);
-    if (list_.m_hWnd)
-        list_.SetWindowPos(nullptr, 0, 0, list_width, cy, SWP_NOZORDER | SWP_NOACTIVATE);
+    if (print_.m_hWnd) {
+        const int list_height = std::max(cy - print_height, 0);
+        list_.SetWindowPos(nullptr, 0, 0, list_width, list_height, SWP_NOZORDER | SWP_NOACTIVATE);
+        print_.SetWindowPos(nullptr, 0, list_height, list_width, print_height, SWP_NOZORDER | SWP_NOACTIVATE);
+    }
     if (shown_ >= 0)
         pages_[static_cast<std::size_t>(shown_)]->MoveWindow(PagePlace());
 }
@@ -66,4 +74,14 @@ void CGalleryFrame::ShowPage(int index) {
 
 void CGalleryFrame::OnSelectPage() {
     ShowPage(list_.GetCurSel());
+}
+
+int CGalleryFrame::PageNamed(const CString& name) const {
+    const auto found =
+        std::find_if(pages_.begin(), pages_.end(), [&](const auto& page) { return name == page->Name(); });
+    return found == pages_.end() ? -1 : static_cast<int>(found - pages_.begin());
+}
+
+void CGalleryFrame::OnPrint() {
+    MakeHardcopy(this, "ZOPWNT gallery");
 }

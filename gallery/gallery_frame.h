@@ -9,11 +9,14 @@ public:
 
     bool Open();
     void ShowPage(int index);
+    /// The page's index, or -1.
+    int PageNamed(const CString& name) const;
 
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnSize(UINT type, int cx, int cy);
     afx_msg void OnSelectPage();
+    afx_msg void OnPrint();
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -21,6 +24,7 @@ private:
 
     GalleryPages pages_;
     CListBox list_;
+    CButton print_;
     CFont list_font_;
     int shown_ = -1;
 };

@@ -67,5 +67,9 @@ GalleryPages MakePages(const std::vector<CString>& scripts) {
     pages.push_back(MakeScrollBarsPage());
     pages.push_back(MakePulsePage());
     pages.push_back(MakeColoursPage());
+    pages.push_back(MakeAxesPage());
+    pages.push_back(MakeDialogsPage());
+    pages.push_back(MakeSoundsPage());
+    pages.push_back(MakeSharingPage());
     return pages;
 }

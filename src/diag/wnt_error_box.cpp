@@ -7,22 +7,11 @@ BEGIN_MESSAGE_MAP(CWntErrorBox, CDialog)
 ON_WM_CTLCOLOR()
 END_MESSAGE_MAP()
 
-namespace {
-
-// The library's own, also where the host has a dialog of that number.
-LPCDLGTEMPLATE library_dialog(UINT id) {
-    const HINSTANCE module = wnt::library_module();
-    HRSRC found = ::FindResourceA(module, MAKEINTRESOURCEA(id), reinterpret_cast<LPCSTR>(RT_DIALOG));
-    return static_cast<LPCDLGTEMPLATE>(::LockResource(::LoadResource(module, found)));
-}
-
-} // namespace
-
 CWntErrorBox::CWntErrorBox() : CWntErrorBox("", "", "") {}
 
 CWntErrorBox::CWntErrorBox(const CString& title, const CString& message, const CString& details)
     : title_(title), message_(message), details_(details) {
-    InitModalIndirect(library_dialog(IDD_ERROR_BOX));
+    InitModalIndirect(wnt::library_dialog(IDD_ERROR_BOX));
 }
 
 BOOL CWntErrorBox::OnInitDialog() {
