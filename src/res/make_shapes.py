@@ -281,9 +281,10 @@ def icon_bytes():
 
 # Pictures of lists: layers of (colour, region) on a 16 x 16 grid, from the ground up.
 
+# Of the system's sixteen colours: lists keep no others.
 LEFT_OUT = (0, 128, 128)
-INK, PALE, SHADE = (40, 44, 52), (250, 251, 252), (150, 158, 168)
-BLUE, GREEN, RED, YELLOW = (40, 98, 190), (46, 160, 67), (210, 40, 40), (240, 190, 20)
+INK, PALE, SHADE = (0, 0, 0), (255, 255, 255), (192, 192, 192)
+BLUE, GREEN, RED, YELLOW = (0, 0, 128), (0, 128, 0), (255, 0, 0), (255, 255, 0)
 
 
 def outlined(colour, left, top, right, bottom):
@@ -346,6 +347,7 @@ def strip_bytes(pictures):
 # The gallery's splash: the dial and the name on a ground that grows lighter, in a table of 256 colours.
 
 SPLASH = (360, 200)
+LETTERING = (40, 44, 52)
 LETTERS = {
     'Z': (((0, 0), (4, 0)), ((4, 0), (0, 7)), ((0, 7), (4, 7))),
     'O': (((0, 0), (4, 0)), ((4, 0), (4, 7)), ((4, 7), (0, 7)), ((0, 7), (0, 0))),
@@ -369,11 +371,11 @@ def splash_pixels():
     for y in range(height):
         for x in range(width):
             edge = x in (0, width - 1) or y in (0, height - 1)
-            ground = INK if edge else tuple(c + 40 * y // height for c in (176, 194, 214))
+            ground = LETTERING if edge else tuple(c + 40 * y // height for c in (176, 194, 214))
             column, row = x - 28, y - 40
             if 0 <= column < size and 0 <= row < size:
                 ground = blended(dial[row][column], ground)
-            yield INK if name(x + 0.5, y + 0.5) else ground
+            yield LETTERING if name(x + 0.5, y + 0.5) else ground
 
 
 def splash_bytes():
