@@ -1,5 +1,6 @@
 #include "out/geometry.h"
 #include "out/key_code.h"
+#include "out/page_scale.h"
 
 #include <gtest/gtest.h>
 
@@ -164,3 +165,11 @@ TEST(KeyCode, Translates) {
 }
 
 } // namespace
+
+TEST(PageScale, FitsButForEqualSidesAndSpecks) {
+    EXPECT_EQ(wnt::page_scale(2000, 3000, 400, 300), 5.0);
+    EXPECT_EQ(wnt::page_scale(2000, 3000, 100, 1000), 3.0);
+    EXPECT_EQ(wnt::page_scale(2000, 3000, 200, 300), 1.0); // both sides ask for ten
+    EXPECT_EQ(wnt::page_scale(100, 300, 10'000, 10'000), 0.01);
+    EXPECT_EQ(wnt::page_scale(99, 300, 10'000, 10'000), 1.0);
+}

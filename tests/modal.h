@@ -1,20 +1,31 @@
-// A program object that answers message boxes, and work to be done while a modal dialog runs.
+// The program object of tests that run modal dialogs: at home beside its files, never stopped by a message box.
 #pragma once
 
 #include <zopwnt.h>
 
+#include <gmock/gmock.h>
+
+#include <cstring>
 #include <functional>
 #include <string>
-#include <vector>
+#include <utility>
 
 class ModalProgram : public CWinApp {
 public:
-    int DoMessageBox(LPCTSTR text, UINT, UINT) override {
-        boxes.push_back(text);
-        return IDOK;
-    }
-    std::vector<std::string> boxes;
+    int DoMessageBox(LPCTSTR, UINT, UINT) override { return IDOK; }
 };
+inline ModalProgram program;
+
+class Framework : public testing::Environment {
+    void SetUp() override {
+        ASSERT_TRUE(AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), 0));
+        char path[MAX_PATH] = "";
+        ::GetModuleFileNameA(nullptr, path, sizeof path);
+        *std::strrchr(path, '\\') = '\0';
+        ASSERT_TRUE(::SetCurrentDirectoryA(path));
+    }
+};
+inline const testing::Environment* const environment = testing::AddGlobalTestEnvironment(new Framework);
 
 /// Calls the function again and again while messages are dispatched, until it answers true.
 class WhileModal {
@@ -23,19 +34,12 @@ public:
         work_ = std::move(work);
         timer_ = ::SetTimer(nullptr, 0, 20, &WhileModal::tick);
     }
-    ~WhileModal() {
-        ::KillTimer(nullptr, timer_);
-        work_ = nullptr;
-    }
-    WhileModal(const WhileModal&) = delete;
-    WhileModal& operator=(const WhileModal&) = delete;
+    ~WhileModal() { ::KillTimer(nullptr, timer_); }
 
 private:
     static void CALLBACK tick(HWND, UINT, UINT_PTR timer, DWORD) {
-        if (work_ && work_()) {
-            work_ = nullptr;
+        if (work_())
             ::KillTimer(nullptr, timer);
-        }
     }
     static inline std::function<bool()> work_;
     UINT_PTR timer_;

@@ -1,8 +1,6 @@
 // Pages that reach the default printer, looked at as pictures.
 #include "modal.h"
 
-#include <gmock/gmock.h>
-
 #include <array>
 #include <fstream>
 #include <memory>
@@ -10,13 +8,6 @@
 #include <vector>
 
 namespace {
-
-ModalProgram program;
-
-class Framework : public testing::Environment {
-    void SetUp() override { ASSERT_TRUE(AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), 0)); }
-};
-const testing::Environment* const environment = testing::AddGlobalTestEnvironment(new Framework);
 
 /// A printed page, an A4 sheet at 72 pixels an inch.
 struct Page {

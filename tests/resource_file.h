@@ -4,49 +4,34 @@
 #include <windows.h>
 
 #include <cstring>
-#include <string>
+#include <cwchar>
 #include <vector>
 
 using Bytes = std::vector<unsigned char>;
 
-/// Writes the parts of a version block one after the other; each tells its own length first.
-class VersionBlockWriter {
-public:
-    Bytes block(const VS_FIXEDFILEINFO& info, const std::vector<DWORD>& translations) {
-        bytes_.clear();
-        const auto root = begin(L"VS_VERSION_INFO", sizeof info);
-        append(&info, sizeof info);
-        const auto variables = begin(L"VarFileInfo", 0);
-        const auto value = begin(L"Translation", static_cast<WORD>(4 * translations.size()));
-        append(translations.data(), 4 * translations.size());
-        end(value);
-        end(variables);
-        end(root);
-        return bytes_;
-    }
+inline void append(Bytes& bytes, const void* data, std::size_t size) {
+    const auto* first = static_cast<const unsigned char*>(data);
+    bytes.insert(bytes.end(), first, first + size);
+}
 
-private:
-    std::size_t begin(const wchar_t* name, WORD value_length) {
-        align();
-        const std::size_t start = bytes_.size();
-        const WORD head[] = {0, value_length, 0};
-        append(head, sizeof head);
-        append(name, 2 * (std::wcslen(name) + 1));
-        align();
-        return start;
-    }
-    void end(std::size_t start) {
-        const auto length = static_cast<WORD>(bytes_.size() - start);
-        std::memcpy(&bytes_[start], &length, sizeof length);
-    }
-    void align() { bytes_.resize((bytes_.size() + 3) / 4 * 4); }
-    void append(const void* data, std::size_t size) {
-        const auto* first = static_cast<const unsigned char*>(data);
-        bytes_.insert(bytes_.end(), first, first + size);
-    }
+/// A part of a version block: length, length of the value, name, value, further parts.
+inline Bytes version_part(const wchar_t* name, const void* value, std::size_t value_size, const Bytes& parts = {}) {
+    Bytes bytes(6);
+    const auto align = [&bytes] { bytes.resize((bytes.size() + 3) / 4 * 4); };
+    append(bytes, name, 2 * (std::wcslen(name) + 1));
+    align();
+    append(bytes, value, value_size);
+    align();
+    append(bytes, parts.data(), parts.size());
+    const WORD lengths[] = {static_cast<WORD>(bytes.size()), static_cast<WORD>(value_size)};
+    std::memcpy(bytes.data(), lengths, sizeof lengths);
+    return bytes;
+}
 
-    Bytes bytes_;
-};
+inline Bytes version_block(const VS_FIXEDFILEINFO& info, const std::vector<DWORD>& translations) {
+    const Bytes languages = version_part(L"Translation", translations.data(), 4 * translations.size());
+    return version_part(L"VS_VERSION_INFO", &info, sizeof info, version_part(L"VarFileInfo", nullptr, 0, languages));
+}
 
 /// Makes a small program file with one resource, number 1.
 inline bool write_resource_file(const char* path, LPCSTR type, const Bytes& resource) {

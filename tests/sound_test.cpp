@@ -2,8 +2,6 @@
 #include "modal.h"
 #include "resource_file.h"
 
-#include <gmock/gmock.h>
-
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
@@ -21,7 +19,6 @@ Bytes samples_of(const char* name) {
 class SoundTest : public testing::Test {
 protected:
     void SetUp() override {
-        ASSERT_TRUE(AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), 0));
         if (!std::getenv("ZOP_PLAYED"))
             GTEST_SKIP() << "NOT PLAYED: no device of the test's own";
         played_file = std::string("Z:") + std::getenv("ZOP_PLAYED");

@@ -2,8 +2,8 @@
 
 #include <cstddef>
 #include <cstring>
+#include <memory>
 #include <optional>
-#include <vector>
 
 namespace {
 
@@ -18,22 +18,23 @@ public:
         if (size == 0)
             return;
         // A block tells the lengths of its parts itself. Whatever it says, the search for one that lies three levels
-        // deep ends within this much room, all zeros.
+        // deep ends within this much room, all zeros: pages that cost nothing until they are looked at.
         constexpr std::size_t deepest_reach = 3 * 0x10000;
-        bytes_.resize(size + deepest_reach);
-        if (!::GetFileVersionInfoA(path, 0, size, bytes_.data()))
-            bytes_.clear();
+        bytes_.reset(::VirtualAlloc(nullptr, size + deepest_reach, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE));
+        if (bytes_ && !::GetFileVersionInfoA(path, 0, size, bytes_.get()))
+            bytes_.reset();
     }
 
     /// A copy of the value with that name, where it lies with its whole length in what the block says it has.
     template <class Value> std::optional<Value> value(const char* name) const {
         void* found = nullptr;
         UINT length = 0;
-        if (bytes_.empty() || !::VerQueryValueA(bytes_.data(), name, &found, &length) || length < sizeof(Value))
+        if (!bytes_ || !::VerQueryValueA(bytes_.get(), name, &found, &length) || length < sizeof(Value))
             return {};
-        const auto offset = static_cast<std::size_t>(static_cast<const std::byte*>(found) - bytes_.data());
+        const auto offset = static_cast<std::size_t>(static_cast<const std::byte*>(found) -
+                                                     static_cast<const std::byte*>(bytes_.get()));
         WORD told = 0;
-        std::memcpy(&told, bytes_.data(), sizeof told);
+        std::memcpy(&told, bytes_.get(), sizeof told);
         if (offset > told || told - offset < sizeof(Value))
             return {};
         Value copy;
@@ -42,7 +43,10 @@ public:
     }
 
 private:
-    std::vector<std::byte> bytes_;
+    struct Release {
+        void operator()(void* pages) const { ::VirtualFree(pages, 0, MEM_RELEASE); }
+    };
+    std::unique_ptr<void, Release> bytes_;
 };
 
 struct Name {
