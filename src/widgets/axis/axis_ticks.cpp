@@ -65,6 +65,7 @@ private:
 
 std::vector<AxisTick> value_ticks(const AxisModel& axis, const AxisTexts& texts) {
     std::vector<AxisTick> ticks;
+    ticks.reserve(64);
     const std::int64_t stride = stride_of(axis);
     int side = 0;
     for (std::int64_t i = 0; i < axis.grid.count && side <= 0; i += stride) {
