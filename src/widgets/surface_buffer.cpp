@@ -1,0 +1,35 @@
+#include "widgets/surface_buffer.h"
+
+#include "widgets/surface_owner.h"
+
+namespace wnt {
+
+SurfaceBuffer::SurfaceBuffer(CWntOut& out) : out_(out) {
+    if (!begin_painting(out))
+        return;
+    window_ = out.dc;
+    memory_ = ::CreateCompatibleDC(window_);
+    bitmap_ = memory_ ? ::CreateCompatibleBitmap(window_, out.xmax + 1, out.ymax + 1) : nullptr;
+    if (!bitmap_)
+        return;
+    previous_ = ::SelectObject(memory_, bitmap_);
+    out.reset(memory_);
+    prime_colours(out);
+}
+
+SurfaceBuffer::~SurfaceBuffer() {
+    const int ymax = out_.ymax;
+    if (window_)
+        out_.endpaint();
+    if (bitmap_) {
+        for (const UpwardRect& part : parts_)
+            ::BitBlt(window_, part.left, ymax - part.top, part.right - part.left + 1, part.top - part.bottom + 1,
+                     memory_, part.left, ymax - part.top, SRCCOPY);
+        ::SelectObject(memory_, previous_);
+        ::DeleteObject(bitmap_);
+    }
+    if (memory_)
+        ::DeleteDC(memory_);
+}
+
+} // namespace wnt

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <vector>
+
+#include "out/wnt_out.h"
+#include "widgets/upward_rect.h"
+
+namespace wnt {
+
+/// Lets a surface draw into memory for the guard's life and shows at its end the parts that were named. Without memory
+/// for the picture the surface draws as before.
+class SurfaceBuffer {
+public:
+    explicit SurfaceBuffer(CWntOut& out);
+    ~SurfaceBuffer();
+    SurfaceBuffer(const SurfaceBuffer&) = delete;
+    SurfaceBuffer& operator=(const SurfaceBuffer&) = delete;
+
+    /// False when nothing can be drawn.
+    explicit operator bool() const { return window_ != nullptr; }
+
+    void show(const UpwardRect& part) { parts_.push_back(part); }
+
+private:
+    CWntOut& out_;
+    HDC window_ = nullptr;
+    HDC memory_ = nullptr;
+    HBITMAP bitmap_ = nullptr;
+    HGDIOBJ previous_ = nullptr;
+    std::vector<UpwardRect> parts_;
+};
+
+} // namespace wnt
