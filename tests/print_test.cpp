@@ -3,7 +3,6 @@
 
 #include <array>
 #include <fstream>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -22,12 +21,10 @@ struct Page {
     bool ink(int x, int y) const { return at(x, y) != RGB(255, 255, 255); }
     CRect inked() const {
         CRect box(width, height, 0, 0);
-        for (int y = 0; y < height; ++y) {
-            for (int x = 0; x < width; ++x) {
-                if (ink(x, y))
-                    box = CRect(std::min<int>(box.left, x), std::min<int>(box.top, y), std::max<int>(box.right, x + 1),
-                                y + 1);
-            }
+        for (int i = 0; i < width * height; ++i) {
+            const LONG x = i % width, y = i / width;
+            if (ink(x, y))
+                box = CRect(std::min(box.left, x), std::min(box.top, y), std::max(box.right, x + 1), y + 1);
         }
         return box;
     }

@@ -8,12 +8,17 @@
 
 namespace {
 
-/// The samples of a WAVE resource of the library: what follows the head of its one data chunk.
-Bytes samples_of(const char* name) {
+constexpr std::size_t head_size = 44; // of a wave with one data chunk, before its samples
+
+Bytes library_sound(const char* name) {
     const HMODULE module = ::GetModuleHandleA("ZOPWNT.dll");
     HRSRC found = ::FindResourceA(module, name, "WAVE");
     const auto* first = static_cast<const unsigned char*>(::LockResource(::LoadResource(module, found)));
-    return Bytes(first + 44, first + ::SizeofResource(module, found));
+    return Bytes(first, first + ::SizeofResource(module, found));
+}
+
+Bytes samples_of(const Bytes& sound) {
+    return Bytes(sound.begin() + head_size, sound.end());
 }
 
 class SoundTest : public testing::Test {
@@ -42,7 +47,7 @@ protected:
 TEST_F(SoundTest, PlaysTheLibrarysSounds) {
     const char* names[] = {"IDR_WAVE_BELL", "IDR_WAVE_CLAP", "IDR_WAVE_KEY"};
     for (std::uint16_t id = 0; id < 3; ++id) {
-        const Bytes samples = samples_of(names[id]);
+        const Bytes samples = samples_of(library_sound(names[id]));
         EXPECT_GT(samples.size(), 2000u);
         EXPECT_TRUE(played([=] { WntSound(id, 7); }) == samples) << names[id];
         WntSoundEnable(id, 0); // without effect here
@@ -58,17 +63,13 @@ TEST_F(SoundTest, PlaysTheLibrarysSounds) {
 }
 
 TEST_F(SoundTest, PlaysTheHostsSoundsFromTheHost) {
-    const HMODULE library = ::GetModuleHandleA("ZOPWNT.dll");
-    HRSRC found = ::FindResourceA(library, "IDR_WAVE_KEY", "WAVE");
-    const auto* first = static_cast<const unsigned char*>(::LockResource(::LoadResource(library, found)));
-    Bytes sound(first, first + ::SizeofResource(library, found));
-    std::reverse(sound.begin() + 44, sound.end());
+    Bytes sound = library_sound("IDR_WAVE_KEY");
+    std::reverse(sound.begin() + head_size, sound.end());
     ASSERT_TRUE(write_resource_file("sound test.dll", "WAVE", sound));
     const HMODULE host = ::LoadLibraryExA("sound test.dll", nullptr, LOAD_LIBRARY_AS_DATAFILE);
     AfxSetResourceHandle(host);
     WntSoundEnable(0); // does not count for the host's sounds
-    const Bytes samples(sound.begin() + 44, sound.end());
-    EXPECT_TRUE(played([] { WntSoundPlayFromAppResource("#1"); }) == samples);
+    EXPECT_TRUE(played([] { WntSoundPlayFromAppResource("#1"); }) == samples_of(sound));
     for (const char* name : {"IDR_WAVE_KEY", "no such sound", "", static_cast<const char*>(nullptr)})
         EXPECT_TRUE(played([=] { WntSoundPlayFromAppResource(name); }).empty());
     ::FreeLibrary(host);

@@ -47,50 +47,22 @@ std::string language_name(DWORD code) {
 TEST(VersionFacts, NameEveryValue) {
     EXPECT_EQ(fact_of(fixed_info(), 1), "1.2.3.65535");
     EXPECT_EQ(fact_of(fixed_info(), 2), "10.0.0.7");
-    const struct {
-        int kind;
-        DWORD VS_FIXEDFILEINFO::*field;
-        std::vector<std::pair<DWORD, const char*>> values;
-    } cases[] = {
-        {3,
-         &VS_FIXEDFILEINFO::dwFileFlags,
-         {{0, "      "},
-          {0x3F, "Debug PreRel Patched Private Info Special "},
-          {0x01, "Debug     Special "},
-          {0x0A, " PreRel  Private   "},
-          {0x14, "  Patched  Info  "},
-          {0xE0, "      "},
-          {0x100, "      Unknown"},
-          {0x80000000, "      Unknown"}}},
-        {4,
-         &VS_FIXEDFILEINFO::dwFileOS,
-         {{0x00010001, "DOS-Win16"},
-          {0x00010004, "DOS-Win32"},
-          {4, "NT-Win32"},
-          {0x00040004, "NT-Win32"},
-          {0x00020002, "OS/2-16 PM-16"},
-          {0x00030003, "OS/2-32 PM-32"},
-          {0x00040000, "Unknown"},
-          {0, "Unknown"}}},
-        {5,
-         &VS_FIXEDFILEINFO::dwFileType,
-         {{0, "Unknown"},
-          {1, "Application"},
-          {2, "Dynamic Link Library"},
-          {3, "Driver"},
-          {4, "Font"},
-          {5, "Virtual Device Driver"},
-          {6, "Unknown"},
-          {7, "Static Link Library"},
-          {8, "Unknown"}}},
-    };
-    for (const auto& c : cases) {
-        for (const auto& [value, text] : c.values) {
+    const auto check = [](int kind, DWORD VS_FIXEDFILEINFO::*field, std::vector<DWORD> values, const Texts& texts) {
+        ASSERT_EQ(values.size(), texts.size());
+        for (std::size_t i = 0; i < values.size(); ++i) {
             VS_FIXEDFILEINFO info = fixed_info();
-            info.*c.field = value;
-            EXPECT_EQ(fact_of(info, c.kind), text) << c.kind << ": " << value;
+            info.*field = values[i];
+            EXPECT_EQ(fact_of(info, kind), texts[i]) << kind << ": " << values[i];
         }
-    }
+    };
+    check(3, &VS_FIXEDFILEINFO::dwFileFlags, {0, 0x3F, 0x01, 0x0A, 0x14, 0xE0, 0x100, 0x80000000},
+          {"      ", "Debug PreRel Patched Private Info Special ", "Debug     Special ", " PreRel  Private   ",
+           "  Patched  Info  ", "      ", "      Unknown", "      Unknown"});
+    check(4, &VS_FIXEDFILEINFO::dwFileOS, {0x10001, 0x10004, 4, 0x40004, 0x20002, 0x30003, 0x40000, 0},
+          {"DOS-Win16", "DOS-Win32", "NT-Win32", "NT-Win32", "OS/2-16 PM-16", "OS/2-32 PM-32", "Unknown", "Unknown"});
+    check(5, &VS_FIXEDFILEINFO::dwFileType, {0, 1, 2, 3, 4, 5, 6, 7, 8},
+          {"Unknown", "Application", "Dynamic Link Library", "Driver", "Font", "Virtual Device Driver", "Unknown",
+           "Static Link Library", "Unknown"});
     ASSERT_NE(language_name(0x407), language_name(0x409));
     EXPECT_EQ(fact_of(fixed_info(), 6), language_name(0x409)); // the first one's name as the system spells it
     EXPECT_EQ(fact_of(fixed_info(), 6, {0x04B00407, 0x04B00409}), language_name(0x407));
