@@ -48,7 +48,7 @@ void edge(HDC dc, int system_colour, int x1, int y1, int x2, int y2, int x3, int
 void measure_panel(BenchTable& table, CWnd& host) {
     static std::array<DWORD, 256> colours;
     for (DWORD i = 0; i < colours.size(); ++i)
-        colours[i] = RGB(i, 255 - i, 97 * i);
+        colours[i] = RGB(i, 3 * i, 7 * i); // the first one is that of the frames
     CWntColorSel selector;
     selector.Create(nullptr, "Colours", WS_CHILD | WS_VISIBLE, CRect(0, 0, width, height), &host, 1);
     selector.SetColorPalette(colours.data(), static_cast<int>(colours.size()));
