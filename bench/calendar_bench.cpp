@@ -1,4 +1,5 @@
-// Full paints of the calendar and of a colour panel beside the raw GDI calls for the same boxes and texts.
+// Full paints of the calendar and of a colour panel beside the raw GDI calls for the same boxes and texts, all by way
+// of a picture in memory.
 #include <zopwnt.h>
 
 #include <array>
@@ -63,7 +64,7 @@ void measure_panel(BenchTable& table, CWnd& host) {
         edge(dc, COLOR_3DHIGHLIGHT, width - 1, 0, width - 1, height - 1, 0, height - 1);
         framed_box(dc, 0, 0, width - 1, cell_height - 1, colours[0]);
     };
-    measure_paint(table, "256 colours, full paint", selector, paint, cell_height + 1, height, false);
+    measure_paint(table, "256 colours, full paint", selector, paint, cell_height + 1, height);
 }
 
 } // namespace
