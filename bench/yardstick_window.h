@@ -15,9 +15,9 @@ class YardstickWindow {
 public:
     using Painter = std::function<void(HDC)>;
 
-    /// The painter draws into memory and the finished picture is shown at once, or it draws into the window.
-    YardstickWindow(HWND parent, CPoint place, CSize size, Painter painter, bool in_memory)
-        : size_(size), painter_(std::move(painter)), in_memory_(in_memory) {
+    /// The painter draws into memory; the finished picture is shown at once, as the widgets do it against flicker.
+    YardstickWindow(HWND parent, CPoint place, CSize size, Painter painter)
+        : size_(size), painter_(std::move(painter)) {
         static const ATOM window_class = registered();
         window_ = ::CreateWindowA(MAKEINTATOM(window_class), "", WS_CHILD | WS_VISIBLE, place.x, place.y, size.cx,
                                   size.cy, parent, nullptr, nullptr, nullptr);
@@ -46,10 +46,6 @@ private:
     void paint() {
         PAINTSTRUCT paint;
         const HDC dc = ::BeginPaint(window_, &paint);
-        in_memory_ ? show_picture(dc) : painter_(dc);
-        ::EndPaint(window_, &paint);
-    }
-    void show_picture(HDC dc) {
         const HDC memory = ::CreateCompatibleDC(dc);
         const HBITMAP bitmap = ::CreateCompatibleBitmap(dc, size_.cx, size_.cy);
         const HGDIOBJ previous = ::SelectObject(memory, bitmap);
@@ -58,11 +54,11 @@ private:
         ::SelectObject(memory, previous);
         ::DeleteObject(bitmap);
         ::DeleteDC(memory);
+        ::EndPaint(window_, &paint);
     }
 
     CSize size_;
     Painter painter_;
-    bool in_memory_;
     HWND window_;
 };
 
@@ -73,11 +69,11 @@ inline void repaint(HWND window) {
 /// Times full paints of a widget at the upper left of its host beside those of the painter, whose rows from `first` to
 /// `last` must look the same.
 inline void measure_paint(BenchTable& table, const std::string& name, CWnd& widget, YardstickWindow::Painter painter,
-                          int first, int last, bool in_memory = true) {
+                          int first, int last) {
     CRect client;
     widget.GetClientRect(&client);
     const YardstickWindow yardstick(::GetParent(widget.m_hWnd), CPoint(0, client.bottom), client.Size(),
-                                    std::move(painter), in_memory);
+                                    std::move(painter));
     const auto rows = [&](HWND window) {
         repaint(window);
         Picture picture(client.right, client.bottom);

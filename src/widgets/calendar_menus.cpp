@@ -1,5 +1,6 @@
 #include "widgets/calendar/calendar_days.h"
 #include "widgets/calendar/calendar_layout.h"
+#include "widgets/surface_buffer.h"
 #include "widgets/wnt_calendar.h"
 
 // Texts in code page 1252.

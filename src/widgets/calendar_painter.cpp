@@ -3,7 +3,8 @@
 
 #include "widgets/calendar/calendar_days.h"
 #include "widgets/calendar/calendar_layout.h"
-#include "widgets/calendar_painting.h"
+#include "widgets/surface_buffer.h"
+#include "widgets/wnt_calendar.h"
 
 namespace {
 
@@ -45,14 +46,14 @@ struct CWntCalendar::Week {
 };
 
 void CWntCalendar::draw_all() {
-    const Painting all(*this);
+    const wnt::SurfacePainting all(out_, painting_);
     DrawButton(rect(layout_->bottom_strip), 0, 0);
     DrawButton(rect(layout_->top_strip), 1, 0);
     draw_dates(shown_);
 }
 
 void CWntCalendar::draw_dates(std::int64_t shown) {
-    const Painting all(*this);
+    const wnt::SurfacePainting all(out_, painting_);
     const CTime first(shown);
     const CTime end(shown + (end_ - shown_));
     DrawHeadline(rect(layout_->headline), first);
@@ -70,7 +71,7 @@ void CWntCalendar::text(int x, int y, const char* what, int align) {
 
 void CWntCalendar::DrawHeadline(CRect area, CTime first) {
     const UpwardRect r = inclusive(area);
-    const Painting painting(*this, r);
+    const wnt::SurfacePainting painting(out_, painting_, r);
     if (!painting)
         return;
     fill(out_, r, colours_.headline_line, colours_.weekend_fill);
@@ -88,7 +89,7 @@ void CWntCalendar::DrawHeadline(CRect area, CTime first) {
 
 void CWntCalendar::DrawBody(CRect area, CTime first, CTime) {
     const UpwardRect r = inclusive(area);
-    const Painting painting(*this, r);
+    const wnt::SurfacePainting painting(out_, painting_, r);
     if (!painting)
         return;
     fill(out_, r, colours_.weekend_fill, colours_.weekend_fill); // what no cell covers
@@ -133,7 +134,7 @@ void CWntCalendar::draw_month_line(bool in_first_month, int left, int top) {
 
 void CWntCalendar::DrawMonths(CRect area, CTime first, CTime) {
     const UpwardRect r = inclusive(area);
-    const Painting painting(*this, r);
+    const wnt::SurfacePainting painting(out_, painting_, r);
     if (!painting)
         return;
     fill(out_, r, colours_.weekend_fill, colours_.weekend_fill);
@@ -155,7 +156,7 @@ void CWntCalendar::DrawMonths(CRect area, CTime first, CTime) {
 
 void CWntCalendar::DrawButton(CRect area, int which, int sunk) {
     const UpwardRect r = inclusive(area);
-    const Painting painting(*this, r);
+    const wnt::SurfacePainting painting(out_, painting_, r);
     if (!painting)
         return;
     const COLORREF face = ::GetSysColor(COLOR_BTNFACE);

@@ -2,8 +2,9 @@
 
 #include "widgets/calendar/calendar_days.h"
 #include "widgets/calendar/calendar_layout.h"
-#include "widgets/calendar_painting.h"
+#include "widgets/surface_buffer.h"
 #include "widgets/surface_owner.h"
+#include "widgets/wnt_calendar.h"
 
 namespace {
 

@@ -32,4 +32,24 @@ SurfaceBuffer::~SurfaceBuffer() {
         ::DeleteDC(memory_);
 }
 
+SurfacePainting::SurfacePainting(CWntOut& out, Open& open) : out_(out), open_(open), opened_(!open) {
+    if (opened_)
+        open = std::make_unique<SurfaceBuffer>(out);
+}
+
+SurfacePainting::SurfacePainting(CWntOut& out, Open& open, const UpwardRect& part) : SurfacePainting(out, open) {
+    clipped_ = *open && !part.empty();
+    if (!clipped_)
+        return;
+    open->show(part);
+    out.setclip(part.left, part.bottom, part.right, part.top);
+}
+
+SurfacePainting::~SurfacePainting() {
+    if (clipped_)
+        out_.resetclip();
+    if (opened_)
+        open_.reset();
+}
+
 } // namespace wnt

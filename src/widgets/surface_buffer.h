@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <vector>
 
 #include "out/wnt_out.h"
@@ -28,6 +29,28 @@ private:
     HBITMAP bitmap_ = nullptr;
     HGDIOBJ previous_ = nullptr;
     std::vector<UpwardRect> parts_;
+};
+
+/// Opens a surface for a painter that is called alone, or joins the painting that `open` holds, and clips to the
+/// painter's part. An exception out of a painter leaves the surface open to all painters again.
+class SurfacePainting {
+public:
+    using Open = std::unique_ptr<SurfaceBuffer>;
+
+    SurfacePainting(CWntOut& out, Open& open);
+    SurfacePainting(CWntOut& out, Open& open, const UpwardRect& part);
+    ~SurfacePainting();
+    SurfacePainting(const SurfacePainting&) = delete;
+    SurfacePainting& operator=(const SurfacePainting&) = delete;
+
+    /// There is a part to draw on.
+    explicit operator bool() const { return clipped_; }
+
+private:
+    CWntOut& out_;
+    Open& open_;
+    bool opened_;
+    bool clipped_ = false;
 };
 
 } // namespace wnt

@@ -63,7 +63,6 @@ private:
         COLORREF cell_frame, headline_line, month_line;
     };
     struct Week;
-    class Painting;
 
     void read_colours();
     CPoint from_bottom(CPoint point) const;

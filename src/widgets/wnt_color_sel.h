@@ -3,11 +3,14 @@
 #include <afxcmn.h>
 #include <afxwin.h>
 
+#include <memory>
+
 #include "out/wnt_out.h"
 #include "zopwnt_api.h"
 
 namespace wnt {
 struct ColourGrid;
+class SurfaceBuffer;
 } // namespace wnt
 
 /// Picks one colour of a palette, shown as a grid of eight columns under a sample strip; on request with three sliders
@@ -22,7 +25,7 @@ struct ColourGrid;
 /// host and must outlive their use; the selector writes picked colours into the array of item colours.
 class ZOPWNT_API CWntColorSel : public CWnd {
 public:
-    CWntColorSel() = default;
+    CWntColorSel();
     ~CWntColorSel() override;
 
     CWntColorSel(const CWntColorSel&) = delete;
@@ -66,6 +69,7 @@ protected:
 
 private:
     wnt::ColourGrid grid();
+    void paint_sample(int x, int y, int width, int height, int colour);
     void paint_cell(int x, int y, int width, int height, int colour, bool edged);
     void lay_out();
 
@@ -75,6 +79,7 @@ private:
     int panel_width_ = 0;
     int panel_height_ = 0;
     CWntOut out_;
+    std::unique_ptr<wnt::SurfaceBuffer> painting_; // while a painter runs
     CListBox list_;
     int cells_3d_ = 0;
     int no_items_ = 1;
