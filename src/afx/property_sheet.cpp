@@ -63,7 +63,7 @@ BOOL CPropertySheet::CreateSheet(HWND owner) {
     m_psh.ppsp = nullptr;
     if (!AfxUnhookWindowCreate())
         PostNcDestroy();
-    return hwnd > 0 && m_hWnd != nullptr;
+    return hwnd != -1 && m_hWnd != nullptr;
 }
 
 INT_PTR CPropertySheet::DoModal() {

@@ -73,10 +73,11 @@ BOOL CWntSplash::Create() {
         return FALSE;
     ShowWindow(SW_SHOW);
     UpdateWindow();
+    if (!m_hWnd) // ended while it was being shown: the object is the caller's again
+        return FALSE;
     timer_ = SetTimer(splash_timer, time_);
-    // Whoever ended it while it was being shown left the object to the caller.
-    ends_itself_ = m_hWnd != nullptr;
-    return ends_itself_;
+    ends_itself_ = true;
+    return TRUE;
 }
 
 BOOL CWntSplash::CreateWindows(CSize size) {

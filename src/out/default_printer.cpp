@@ -15,7 +15,6 @@ wnt::DefaultPrinter::DefaultPrinter() : dialog_(FALSE, dialog_flags) {
 }
 
 wnt::DefaultPrinter::~DefaultPrinter() {
-    page_.DeleteDC();
     ::GlobalFree(dialog_.m_pd.hDevMode);
     ::GlobalFree(dialog_.m_pd.hDevNames);
 }
