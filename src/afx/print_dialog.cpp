@@ -2,8 +2,7 @@
 
 IMPLEMENT_DYNAMIC(CPrintDialog, CCommonDialog)
 
-CPrintDialog::CPrintDialog(BOOL bPrintSetupOnly, DWORD dwFlags, CWnd* pParentWnd)
-    : CCommonDialog(pParentWnd), m_pd{} {
+CPrintDialog::CPrintDialog(BOOL bPrintSetupOnly, DWORD dwFlags, CWnd* pParentWnd) : CCommonDialog(pParentWnd), m_pd{} {
     m_pd.lStructSize = sizeof(m_pd);
     m_pd.Flags = dwFlags | (bPrintSetupOnly ? PD_PRINTSETUP : PD_RETURNDC);
 }
