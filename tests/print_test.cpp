@@ -95,6 +95,7 @@ TEST_F(PrintTest, HardcopyFillsThePageAndShowsTheFrame) {
                            inked.top + static_cast<int>(y * inked.Height()));
         };
         EXPECT_EQ(at(0.25, 0.25), RGB(255, 0, 0));
+        EXPECT_NE(page.at(2, 2), RGB(255, 0, 0)); // the frame, three of the window's pixels wide
         EXPECT_EQ(at(0.75, 0.75), RGB(0, 0, 255));
         EXPECT_EQ(at(0.75, 0.25), RGB(255, 255, 255));
         EXPECT_EQ(at(0.25, 0.75), RGB(255, 255, 255));
