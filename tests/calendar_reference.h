@@ -106,12 +106,12 @@ private:
             day == today ? today_fill
             : weekend    ? grey
                          : RGB(255, 255, 255));
+        const COLORREF ink = day == today ? RGB(0, 128, 0) : weekend ? RGB(128, 0, 0) : 0;
+        text(dc, 72, TA_LEFT | TA_BOTTOM, x + 2, y + 12, ink, number("%d", static_cast<int>(unsigned{date.day()})));
         if (weekday == 0) {
             const int days = static_cast<int>((day - Days(date.year() / 1 / 1)).count());
             text(dc, 144, TA_LEFT | TA_BOTTOM, x + 10, y + 29, grey, number("%d", days / 7 + 2));
         }
-        const COLORREF ink = day == today ? RGB(0, 128, 0) : weekend ? RGB(128, 0, 0) : 0;
-        text(dc, 72, TA_LEFT | TA_BOTTOM, x + 2, y + 12, ink, number("%d", static_cast<int>(unsigned{date.day()})));
         const std::chrono::year_month_day first(monday), next(monday + std::chrono::weeks(1));
         if (first.month() != next.month())
             hline(dc, x, x + column(), date.month() == first.month() ? y + 29 : y + 1, month_line);

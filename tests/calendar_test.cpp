@@ -2,7 +2,9 @@
 #include "time_zone.h"
 #include "widget_window.h"
 
+#include <climits>
 #include <string>
+#include <type_traits>
 #include <utility>
 
 namespace {
@@ -28,8 +30,11 @@ protected:
         set_zone("UTC0");
         WidgetTest::SetUp();
         app.boxes.clear();
-        today_ = CalendarReference::today();
-        open(calendar_, width, height);
+        do { // again where midnight came between
+            calendar_.DestroyWindow();
+            today_ = CalendarReference::today();
+            open(calendar_, width, height);
+        } while (today_ != CalendarReference::today());
     }
 
     void click(int x, int y, UINT message = WM_LBUTTONUP) {
@@ -109,17 +114,14 @@ TEST_F(CalendarTest, DragsInTheMonthColumn) {
 
 TEST_F(CalendarTest, MonthCommandsKeepTheDay) {
     const std::chrono::year_month_day date(today_);
-    for (unsigned month = 1; month <= 12; ++month) {
+    Days shown = today_;
+    for (unsigned month = 12; month >= 1; --month) {
+        const std::chrono::year_month_day before(shown);
         calendar_.SendMessage(WM_COMMAND, 100 + month);
         calendar_.UpdateWindow();
         const Days first = date.year() / std::chrono::month(month) / 1;
-        const Days shown = first + std::chrono::days(unsigned{date.day()} - 1); // runs on beyond the month's end
+        shown = first + std::chrono::days(unsigned{before.day()} - 1); // may run on beyond the month's end
         expect_shown(shown);
-        const std::chrono::year_month_day rolled(shown);
-        if (rolled.day() != date.day())
-            calendar_.SendMessage(WM_COMMAND, 100 + static_cast<unsigned>(date.month())); // not from the rolled day on
-        if (rolled.day() != date.day())
-            break;
     }
     calendar_.SendMessage(WM_COMMAND, 113);
     calendar_.SendMessage(WM_COMMAND, 205);
@@ -153,7 +155,9 @@ struct MenuAnswer {
 };
 
 TEST_F(CalendarTest, MenusOfTheRegions) {
-    const HHOOK hook = ::SetWindowsHookExA(WH_CALLWNDPROC, &MenuAnswer::hook, nullptr, ::GetCurrentThreadId());
+    const std::unique_ptr<std::remove_pointer_t<HHOOK>, decltype(&::UnhookWindowsHookEx)> hook(
+        ::SetWindowsHookExA(WH_CALLWNDPROC, &MenuAnswer::hook, nullptr, ::GetCurrentThreadId()),
+        &::UnhookWindowsHookEx);
     const auto open_menu = [&](int x, int y, int steps) {
         MenuAnswer::entries.clear();
         MenuAnswer::steps = steps;
@@ -185,7 +189,6 @@ TEST_F(CalendarTest, MenusOfTheRegions) {
     ASSERT_EQ(entries.size(), 14u);
     EXPECT_EQ(entries[2], std::pair(103u, std::string("M\xE4rz")));
     EXPECT_EQ(entries[11], std::pair(112u, std::string("Dezember")));
-    ::UnhookWindowsHookEx(hook);
     calendar_.UpdateWindow();
     const std::chrono::year_month_day date(today_);
     expect_shown(Days(date.year() / 3 / 1) + std::chrono::days(unsigned{date.day()} - 1));
@@ -205,12 +208,15 @@ TEST_F(CalendarTest, StaysUsableBeyondItsDates) {
     drag(WM_MOUSEMOVE, 200);
     drag(WM_MOUSEMOVE, -20'000);
     drag(WM_LBUTTONUP, 100);
-    for (int i = 0; i < 54'000; ++i) // beyond the year 3000
+    for (int i = 0; i < 55'000; ++i) // beyond the year 3000
         calendar_.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(150, height - 5));
     full_repaint(calendar_);
-    for (int i = 0; i < 54'000; ++i)
-        calendar_.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(150, 5));
+    EXPECT_FALSE(::GetUpdateRect(calendar_.m_hWnd, nullptr, FALSE));
+    EXPECT_EQ(pixels_of(calendar_).at(200, 100), CalendarReference::grey);
     calendar_.SendMessage(WM_COMMAND, 105);
+    EXPECT_EQ(app.boxes.size(), 2u);
+    calendar_.DrawHeadline(CRect(INT_MIN, INT_MAX, INT_MAX, INT_MIN), CTime(LLONG_MAX));
+    calendar_.DrawMonths(CRect(0, 160, 16, 17), CTime(LLONG_MAX), CTime(0));
     for (const CSize size : {CSize(0, 0), CSize(1, 1), CSize(18, 60), CSize(990, 40), CSize(40, 990)}) {
         calendar_.MoveWindow(0, 0, size.cx, size.cy);
         full_repaint(calendar_);

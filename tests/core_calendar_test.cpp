@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <limits>
 
 using namespace wnt;
 
@@ -47,6 +48,12 @@ TEST(Calendar, WeeksBeginOnMonday) {
         }
     }
     EXPECT_EQ(grid_start(-5), -5 + 2 * day_seconds); // no local date
+    EXPECT_LT(grid_start(std::numeric_limits<std::int64_t>::max()), std::int64_t{1} << 61);
+    // No correction for daylight saving: after its end the weeks of a midnight begin an hour, and a date, too early.
+    set_zone("EST5EDT");
+    const std::int64_t monday = grid_start(moved_to_month(at(2026, 1, 26, 20), 10));
+    EXPECT_EQ(local_date(monday), (LocalDate{2026, 10, 26}));
+    EXPECT_EQ(local_date(monday + week_seconds), (LocalDate{2026, 11, 1}));
 }
 
 TEST(Calendar, WeekNumbers) {

@@ -23,6 +23,8 @@ void append_close(CMenu& menu) {
 }
 
 void append_years(CMenu& menu, int year) {
+    if (year == 0)
+        return; // no date
     for (int i = 0; i < year_count; ++i) {
         CString text;
         text.Format("%d", year - years_before + i);

@@ -49,7 +49,7 @@ void CWntCalendar::draw_all() {
     const wnt::SurfacePainting all(out_, painting_);
     DrawButton(rect(layout_->bottom_strip), 0, 0);
     DrawButton(rect(layout_->top_strip), 1, 0);
-    draw_dates(shown_);
+    draw_dates(dragging_ ? dragged_to_ : shown_);
 }
 
 void CWntCalendar::draw_dates(std::int64_t shown) {
@@ -67,6 +67,12 @@ void CWntCalendar::draw_dates(std::int64_t shown) {
 
 void CWntCalendar::text(int x, int y, const char* what, int align) {
     out_.chars(x, y, const_cast<char*>(what), align);
+}
+
+void CWntCalendar::number(int x, int y, int value) {
+    char digits[12];
+    std::snprintf(digits, sizeof digits, "%d", value);
+    text(x, y, digits, bottom_left);
 }
 
 void CWntCalendar::DrawHeadline(CRect area, CTime first) {
@@ -112,17 +118,15 @@ void CWntCalendar::draw_cell(const Week& week, int column, int left, int top) {
     const COLORREF ink = today ? colours_.today_text : weekend ? colours_.weekend_text : colours_.weekday_text;
     fill(out_, {left, top, left + layout_->column_width, top - wnt::week_height}, colours_.cell_frame, ground);
 
-    char number[12];
-    if (column == 0) { // below the day, which stays readable where they meet
-        std::snprintf(number, sizeof number, "%d", wnt::week_number(moment));
-        out_.linecolour(colours_.weekend_fill, 0);
-        out_.settext(0, 0, 0, week_number_height, 0, 0);
-        text(left + week_number_indent, top - week_number_drop - week_number_height, number, bottom_left);
-    }
-    std::snprintf(number, sizeof number, "%d", date.day);
     out_.linecolour(ink, 0);
     out_.settext(0, 0, 0, text_height, 0, 0);
-    text(left + 2, top - text_height, number, bottom_left);
+    if (date.day)
+        number(left + 2, top - text_height, date.day);
+    if (column == 0) {
+        out_.linecolour(colours_.weekend_fill, 0);
+        out_.settext(0, 0, 0, week_number_height, 0, 0);
+        number(left + week_number_indent, top - week_number_drop - week_number_height, wnt::week_number(moment));
+    }
     if (week.month_changes)
         draw_month_line(date.month == week.first.month, left, top);
 }
@@ -143,7 +147,7 @@ void CWntCalendar::DrawMonths(CRect area, CTime first, CTime) {
     int previous = wnt::local_date(monday).month;
     for (int row = 0; row <= layout_->last_row; ++row, monday += wnt::week_seconds) {
         const int month = wnt::local_date(monday).month;
-        if (month != previous) {
+        if (month != previous && month && previous) {
             const int y = r.top - row * wnt::week_height;
             char number[12];
             std::snprintf(number, sizeof number, "%0d", previous);

@@ -43,6 +43,8 @@ int CWntColorSel::OnCreate(LPCREATESTRUCT create) {
     if (out_.m_hWnd)
         return -1; // not a creation
     sliders_shown_ = 0;
+    cells_3d_ = 0;
+    hover_sample_ = 0;
     no_items_ = 1;
     item_colours_ = nullptr;
     font_.DeleteObject();
@@ -79,9 +81,9 @@ void CWntColorSel::SetColorItems(char** names, int* colours, int count) {
     if (!this)
         return;
     no_items_ = !names || !colours || count <= 0;
+    item_colours_ = no_items_ ? nullptr : colours; // an array that is taken back is not written into any more
+    item_count_ = no_items_ ? 0 : count;
     if (!no_items_) {
-        item_colours_ = colours;
-        item_count_ = count;
         for (int i = 0; i < count && list_.m_hWnd; ++i)
             if (names[i])
                 list_.AddString(names[i]);
@@ -177,8 +179,8 @@ int CWntColorSel::ComputeSelectedColor() {
     const wnt::ColourGrid g = grid();
     const int colour = g.hit(at[0], at[1]);
     const int m = g.margin();
-    if (hover_sample_ && g.holds(colour))
-        paint_sample(m, g.height - g.cell_height() + m, g.cell_width() - 2 * m, g.cell_height() - 2 * m, colour);
+    if (hover_sample_ && colour != -1)
+        paint_sample(m, g.height - g.cell_height() + m, g.cell_width() - 2 * m, g.cell_height() - 1 - 2 * m, colour);
     return colour;
 }
 
@@ -193,8 +195,12 @@ void CWntColorSel::SetSelectedColorPanel(int colour) {
         item_colours_[selected_item_] = colour;
 }
 
-BOOL CWntColorSel::OnEraseBkgnd(CDC*) {
-    return TRUE; // the surface and the list cover it
+// The children cover it but for a column that is left over where the halves of panel and list are rounded down.
+BOOL CWntColorSel::OnEraseBkgnd(CDC* dc) {
+    CRect client;
+    GetClientRect(&client);
+    dc->FillSolidRect(client.right - 1, 0, 1, client.bottom, ::GetSysColor(COLOR_BTNFACE));
+    return TRUE;
 }
 
 void CWntColorSel::OnPaint() {

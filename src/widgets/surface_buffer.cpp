@@ -4,6 +4,17 @@
 
 namespace wnt {
 
+namespace {
+
+// Farther away nothing shows, and a painter may add sizes to coordinates.
+bool within_reach(const UpwardRect& part) {
+    constexpr int reach = 1 << 20;
+    const auto near_enough = [](int value) { return -reach < value && value < reach; };
+    return near_enough(part.left) && near_enough(part.top) && near_enough(part.right) && near_enough(part.bottom);
+}
+
+} // namespace
+
 SurfaceBuffer::SurfaceBuffer(CWntOut& out) : out_(out) {
     if (!begin_painting(out))
         return;
@@ -38,7 +49,7 @@ SurfacePainting::SurfacePainting(CWntOut& out, Open& open) : out_(out), open_(op
 }
 
 SurfacePainting::SurfacePainting(CWntOut& out, Open& open, const UpwardRect& part) : SurfacePainting(out, open) {
-    clipped_ = *open && !part.empty();
+    clipped_ = *open && !part.empty() && within_reach(part);
     if (!clipped_)
         return;
     open->show(part);

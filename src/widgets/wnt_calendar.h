@@ -20,11 +20,14 @@ class SurfaceBuffer;
 ///     calendar.Create(nullptr, "Calendar", WS_CHILD | WS_VISIBLE, CRect(10, 10, 310, 210), this, 4);
 ///
 /// A new calendar shows the week of today first. The strips above and below scroll by a week, dragging in the month
-/// column by as many weeks as rows, menus of the right button jump to a month. The menus of the headline (commands 200
-/// to 209, years) and of the grid (120) send commands that the calendar itself does not follow.
+/// column by as many weeks as rows. The right button opens menus, whose commands go to the calendar's own window:
+/// months (101 to 112) are jumped to; years (200 to 209), the grid's 113, 114 and 120 are for derived classes to
+/// follow. The grid's first "Jump to current day" is the December command.
 ///
-/// Dates are local times from 1970 on; where others come into view the grid ends. A month that cannot be reached
-/// raises the framework's result-code exception out of the command.
+/// Dates are local times, from 1970 to 3000; the grid ends above the first week without a number, which east of UTC the
+/// weeks of 1970 are. Days are 86,400 seconds: where the first date shown is a midnight, daylight saving that ends
+/// moves the later cells to the days before. A month that cannot be reached raises the framework's result-code
+/// exception out of the command.
 class ZOPWNT_API CWntCalendar : public CWnd {
 public:
     CWntCalendar();
@@ -34,7 +37,8 @@ public:
     CWntCalendar& operator=(const CWntCalendar&) = delete;
 
     /// The painters of the calendar's parts. Rectangles have their edges inside and y growing upwards from the lower
-    /// edge of the window: top is the larger value. `first` is the date whose week comes first.
+    /// edge of the window: top is the larger value. `first` is the date whose week comes first; `end` is not used.
+    /// DrawBody raises the result-code exception (0x80004005, 0x80070057) at a week without a number.
     void DrawHeadline(CRect area, CTime first);
     void DrawBody(CRect area, CTime first, CTime end);
     void DrawMonths(CRect area, CTime first, CTime end);
@@ -71,6 +75,7 @@ private:
     void draw_cell(const Week& week, int column, int left, int top);
     void draw_month_line(bool in_first_month, int left, int top);
     void text(int x, int y, const char* what, int align);
+    void number(int x, int y, int value);
     void scroll(int weeks);
     void drag_to(CPoint point);
     bool end_drag();

@@ -1,5 +1,7 @@
 #include "widgets/calendar/calendar_days.h"
 
+#include <algorithm>
+
 #include "time/calendar_time.h"
 #include "time/local_time.h"
 #include "time/result_error.h"
@@ -12,6 +14,8 @@ LocalDate local_date(std::int64_t moment) {
 }
 
 std::int64_t grid_start(std::int64_t shown) {
+    constexpr std::int64_t farthest = std::int64_t{1} << 60; // room for any number of rows
+    shown = std::clamp(shown, -farthest, farthest);
     const auto fields = local_fields(shown);
     const int after_monday = fields ? fields->tm_wday - 1 : -2; // Sunday is 0
     return shown - after_monday * day_seconds;
