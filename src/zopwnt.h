@@ -4,6 +4,7 @@
 
 #include <afxwin.h>
 
+#include "bitmap/dib_file.h"
 #include "controls/wnt_scroll_bar.h"
 #include "controls/wnt_ulist.h"
 #include "diag/wnt_trace.h"
