@@ -299,5 +299,6 @@ int CDibFile::PrepareOpenGL() {
     format.iLayerType = PFD_MAIN_PLANE;
     const int chosen = ::ChoosePixelFormat(m_hDC, &format);
     ::DescribePixelFormat(m_hDC, chosen, sizeof format, &format);
-    return ::SetPixelFormat(m_hDC, chosen, &format);
+    // The closest format may have wider pixels, and rendering would then write beyond the section.
+    return format.cColorBits <= header().biBitCount && ::SetPixelFormat(m_hDC, chosen, &format);
 }
