@@ -5,6 +5,7 @@
 #include <afxwin.h>
 
 #include "bitmap/dib_file.h"
+#include "bitmap/wnt_bitmap.h"
 #include "controls/wnt_scroll_bar.h"
 #include "controls/wnt_ulist.h"
 #include "diag/wnt_trace.h"
