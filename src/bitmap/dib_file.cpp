@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "bitmap/bitmap_format.h"
+#include "bitmap/log_palette.h"
 #include "bitmap/pixel_line.h"
 #include "bitmap/pixel_manipulators.h"
 
@@ -17,16 +18,11 @@ int drawn_pixel_size(int bits) {
 }
 
 HPALETTE palette_of(const RGBQUAD* table, int count) {
-    const wnt::HeapBytes block = wnt::zeroed_bytes(sizeof(LOGPALETTE) + sizeof(PALETTEENTRY) * count);
-    if (count < 1 || !block)
+    const wnt::LogPalette colours(static_cast<UINT>(count));
+    if (!colours.get())
         return nullptr;
-    auto* palette = reinterpret_cast<LOGPALETTE*>(block.get());
-    palette->palVersion = 0x300;
-    palette->palNumEntries = static_cast<WORD>(count);
-    std::transform(table, table + count, palette->palPalEntry, [](const RGBQUAD& colour) {
-        return PALETTEENTRY{colour.rgbRed, colour.rgbGreen, colour.rgbBlue, 0};
-    });
-    return ::CreatePalette(palette);
+    colours.take(table);
+    return ::CreatePalette(colours.get());
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 // Reading and writing of CDibFile: bitmap files and the textual dump.
+#include <algorithm>
 #include <cstdio>
 
 #include "bitmap/bitmap_format.h"
@@ -28,6 +29,14 @@ bool position_of(HANDLE file, long long& position) {
         return false;
     position = at.QuadPart;
     return true;
+}
+
+// No more than the file has: systems touch the whole buffer of a read first, and headers promise much.
+DWORD available(HANDLE file, long long position, DWORD count) {
+    LARGE_INTEGER size;
+    if (!::GetFileSizeEx(file, &size))
+        return count;
+    return static_cast<DWORD>(std::clamp<long long>(size.QuadPart - position, 0, count));
 }
 
 void write_header(std::FILE* file, const BITMAPINFOHEADER& h) {
@@ -109,7 +118,7 @@ int CDibFile::StreamIn(HANDLE file) {
 }
 
 bool CDibFile::read_pixels(HANDLE file, long long position) {
-    return seek_to(file, position) && read_some(file, m_pBits, GetPixelArraySize());
+    return seek_to(file, position) && read_some(file, m_pBits, available(file, position, GetPixelArraySize()));
 }
 
 int CDibFile::StreamOut(HANDLE file) const {
