@@ -67,5 +67,6 @@ GalleryPages MakePages(const std::vector<CString>& scripts) {
     pages.push_back(MakeScrollBarsPage());
     pages.push_back(MakePulsePage());
     pages.push_back(MakeColoursPage());
+    pages.push_back(MakeAxesPage());
     return pages;
 }

@@ -81,6 +81,7 @@ std::unique_ptr<CGalleryPage> MakeButtonsPage();
 std::unique_ptr<CGalleryPage> MakeScrollBarsPage();
 std::unique_ptr<CGalleryPage> MakePulsePage();
 std::unique_ptr<CGalleryPage> MakeColoursPage();
+std::unique_ptr<CGalleryPage> MakeAxesPage();
 std::unique_ptr<CGalleryPage> MakeScriptsPage(const std::vector<CString>& scripts);
 
 /// All pages, in the order of the list.

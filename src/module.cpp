@@ -12,6 +12,11 @@ HINSTANCE wnt::library_module() {
     return zopwnt_module.hModule;
 }
 
+const DLGTEMPLATE* wnt::library_dialog(UINT id) {
+    const HRSRC found = ::FindResource(library_module(), MAKEINTRESOURCE(id), RT_DIALOG);
+    return static_cast<const DLGTEMPLATE*>(found ? ::LockResource(::LoadResource(library_module(), found)) : nullptr);
+}
+
 wnt::LibraryResources::LibraryResources() : previous_(AfxGetResourceHandle()) {
     AfxSetResourceHandle(library_module());
 }

@@ -14,6 +14,8 @@
 #include "out/wnt_out.h"
 #include "pulse/wnt_pulse_file.h"
 #include "time/wnt_time.h"
+#include "widgets/wnt_axis.h"
+#include "widgets/wnt_axis_properties.h"
 #include "widgets/wnt_button.h"
 #include "widgets/wnt_color_sel.h"
 #include "widgets/wnt_gauge.h"

@@ -187,8 +187,13 @@ int AxisModel::value_to_screen(std::int64_t time, std::int32_t* pixel) {
         *pixel = line.beyond();
         return 1;
     }
-    *pixel = line.at(proportion(line.way, saturated_difference(time, start_value), span));
+    *pixel = pixel_of(time);
     return 0;
+}
+
+std::int32_t AxisModel::pixel_of(std::int64_t time) const {
+    const Line line = line_of(*this);
+    return line.at(proportion(line.way, saturated_difference(time, start_value), span));
 }
 
 std::int32_t AxisModel::set_current_time(std::int64_t time) {

@@ -91,6 +91,9 @@ struct AxisModel {
     int value_to_screen(float value, std::int32_t* pixel) const;
     int value_to_screen(std::int64_t time, std::int32_t* pixel);
 
+    /// Pixel of a time within the view.
+    std::int32_t pixel_of(std::int64_t time) const;
+
     /// Pixel of a time, or the one just beyond the axis for a time at or past an end. Unlike the other conversions it
     /// runs downwards on a vertical axis.
     std::int32_t set_current_time(std::int64_t time);

@@ -37,8 +37,8 @@ TAxisdatetime rounded_down(TAxisdatetime record, TimeRounding rounding);
 /// `for (auto tick = grid.first(); tick; tick = grid.after(*tick))`.
 class TimeGrid {
 public:
-    /// Views so long that they hold more ticks than this, hundred thousand years, keep one of several.
-    static constexpr std::int64_t most_ticks = 100'000;
+    /// Views so long that they hold more ticks than this, ten thousand years, keep one of several.
+    static constexpr std::int64_t most_ticks = 10'000;
 
     TimeGrid(const TAxisdatetime& start_record, std::int64_t start, std::int64_t end);
 

@@ -1,0 +1,84 @@
+#include "widgets/axis/zoom_control.h"
+
+#include <algorithm>
+
+namespace wnt {
+
+namespace {
+
+constexpr std::int32_t grip = 5;
+
+// A box along one direction.
+struct Stretch {
+    std::int32_t& start;
+    std::int32_t& end;
+};
+
+Stretch along(AxisRect& box, bool horizontal) {
+    return horizontal ? Stretch{box.left, box.right} : Stretch{box.top, box.bottom};
+}
+
+void move(Stretch slider, const Stretch& box, std::int32_t way) {
+    const std::int32_t kept = std::max(way, box.start - slider.start);
+    slider.start += kept;
+    slider.end = std::min(slider.end + kept, box.end);
+    slider.start = std::min(slider.start, std::max(slider.end - 2 * grip, box.start)); // always room to grip it
+}
+
+void enlarge(Stretch slider, bool far_end, std::int32_t at) {
+    if (far_end)
+        slider.end = std::max(at, slider.start + 2 * grip);
+    else
+        slider.start = std::min(at, slider.end - 2 * grip);
+}
+
+} // namespace
+
+void ZoomControl::lay_out(const AxisModel& axis, bool with_slider) {
+    const AxisRect& r = axis.rect;
+    switch (axis.position) {
+    case axis_top:
+        box = {r.left + 2, r.top + 7, r.right - 2, r.top + 2}; // intended: reversed, so nothing hits it
+        break;
+    case axis_left:
+        box = {r.left, r.top, r.left + 8, r.bottom};
+        break;
+    case axis_bottom:
+        box = {r.left, r.bottom - 9, r.right, r.bottom - 1};
+        break;
+    case axis_right:
+        box = {r.right - 8, r.top, r.right, r.bottom};
+        break;
+    default:
+        break;
+    }
+    if (with_slider)
+        slider = box;
+}
+
+bool ZoomControl::hit(std::int32_t x, std::int32_t y) const {
+    return box.left <= x && x < box.right && box.top <= y && y < box.bottom;
+}
+
+ZoomGrip ZoomControl::hover(bool horizontal, std::int32_t x, std::int32_t y) {
+    const Stretch s = along(slider, horizontal);
+    const std::int32_t at = horizontal ? x : y;
+    if (at < s.start || at >= s.end)
+        return ZoomGrip::none;
+    far_end = at >= s.start + grip;
+    enlarging = !far_end || at >= s.end - grip;
+    return enlarging ? ZoomGrip::enlarge : ZoomGrip::move;
+}
+
+void ZoomControl::drag(bool horizontal, std::int32_t x, std::int32_t y) {
+    const std::int32_t at = horizontal ? x : y;
+    const Stretch s = along(slider, horizontal);
+    if (enlarging)
+        enlarge(s, far_end, at);
+    else
+        move(s, along(box, horizontal), at - (horizontal ? last_x : last_y));
+    last_x = x;
+    last_y = y;
+}
+
+} // namespace wnt

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "widgets/axis/axis_model.h"
+
+namespace wnt {
+
+enum class ZoomGrip { none, move, enlarge };
+
+/// The control along an axis whose slider is moved and enlarged with the mouse. A host reads nothing of it: it is a
+/// picture of a view that the host derives from the axis.
+struct ZoomControl {
+    bool shown = false;
+    bool enlarging = false; ///< The next drag enlarges; otherwise it moves.
+    bool far_end = false;   ///< It is the right or lower end that a drag enlarges.
+    AxisRect box;           ///< Hit as left, top, right, bottom; painted as x, y, width, height.
+    AxisRect slider;        ///< The same.
+    std::int32_t last_x = 0;
+    std::int32_t last_y = 0;
+
+    /// Places the box at the axis, and the slider over all of it where asked to.
+    void lay_out(const AxisModel& axis, bool with_slider);
+
+    bool hit(std::int32_t x, std::int32_t y) const;
+
+    /// What a press at the point would take hold of; remembers it for the drag.
+    ZoomGrip hover(bool horizontal, std::int32_t x, std::int32_t y);
+
+    /// Moves or enlarges the slider with the mouse, which was at the last point before.
+    void drag(bool horizontal, std::int32_t x, std::int32_t y);
+};
+
+} // namespace wnt

@@ -1,0 +1,84 @@
+// The picture of an axis by plain GDI calls, from a list of what it has to show.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+struct AxisMark {
+    int pixel;  // along the axis
+    int length; // across
+    std::string label;
+};
+
+/// Ticks start `tick_start` pixels within the edge that carries them, labels stand `label_start` within.
+struct AxisLook {
+    int position; // 0 top, 1 left, 2 bottom, 3 right
+    int tick_start;
+    int label_start;
+};
+inline constexpr int value_ticks_start = 2, value_labels_start = 8, time_ticks_start = 1, time_labels_start = 10;
+
+class AxisReference {
+public:
+    AxisReference()
+        : shadow_(::CreatePen(PS_SOLID, 1, ::GetSysColor(COLOR_BTNSHADOW))),
+          light_(::CreatePen(PS_SOLID, 1, ::GetSysColor(COLOR_BTNHIGHLIGHT))),
+          ground_(::CreateSolidBrush(RGB(128, 128, 128))),
+          font_(::CreateFontA(-10, 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, "Arial")) {}
+    ~AxisReference() {
+        for (HGDIOBJ object : {shadow_, light_, ground_, font_})
+            ::DeleteObject(object);
+    }
+    AxisReference(const AxisReference&) = delete;
+    AxisReference& operator=(const AxisReference&) = delete;
+
+    void paint(HDC dc, int width, int height, const AxisLook& look, const std::vector<AxisMark>& marks) const {
+        static constexpr UINT alignments[] = {TA_CENTER | TA_BOTTOM, TA_RIGHT | TA_BASELINE, TA_CENTER | TA_TOP,
+                                              TA_LEFT | TA_BASELINE};
+        const int saved = ::SaveDC(dc);
+        ::SelectObject(dc, ground_);
+        ::PatBlt(dc, 1, 1, width - 2, height - 2, PATCOPY);
+        line(dc, shadow_, width - 1, 0, width - 1, height - 1);
+        line(dc, shadow_, width - 1, height - 1, -1, height - 1);
+        line(dc, light_, 0, height - 2, 0, 0);
+        line(dc, light_, 0, 0, width - 1, 0);
+        ::SelectObject(dc, font_);
+        ::SetBkMode(dc, TRANSPARENT);
+        ::SetTextAlign(dc, alignments[look.position]);
+        for (const AxisMark& mark : marks) {
+            const POINT from = at(width, height, look.position, mark.pixel, look.tick_start);
+            const POINT to = at(width, height, look.position, mark.pixel, look.tick_start + mark.length);
+            const int right = look.position % 2 == 0;
+            line(dc, shadow_, from.x, from.y, to.x, to.y);
+            line(dc, light_, from.x + right, from.y + !right, to.x + right, to.y + !right);
+            const POINT text = at(width, height, look.position, mark.pixel, look.label_start);
+            if (!mark.label.empty())
+                ::TextOutA(dc, text.x, text.y, mark.label.c_str(), static_cast<int>(mark.label.size()));
+        }
+        ::RestoreDC(dc, saved);
+    }
+
+private:
+    static POINT at(int width, int height, int position, LONG along, LONG depth) {
+        switch (position) {
+        case 0:
+            return {along, height - depth};
+        case 1:
+            return {width - depth, along};
+        case 2:
+            return {along, depth};
+        default:
+            return {depth, along};
+        }
+    }
+
+    static void line(HDC dc, HGDIOBJ pen, int x1, int y1, int x2, int y2) {
+        ::SelectObject(dc, pen);
+        ::MoveToEx(dc, x1, y1, nullptr);
+        ::LineTo(dc, x2, y2);
+    }
+
+    HGDIOBJ shadow_, light_, ground_, font_;
+};
