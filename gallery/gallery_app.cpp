@@ -6,12 +6,13 @@
 #include "render.h"
 
 // zopgallery [FILE...]                                  shows the pages; each FILE is an attribute script
+//                                                       or a bitmap (.bmp, .dib)
 // zopgallery --render DIR [--size WxH] [FILE...]        paints pages and scripts into DIR and ends
 
 namespace {
 
 struct CommandLine {
-    std::vector<CString> scripts;
+    NamedFiles files;
     bool render = false;
     CString render_to;
     CSize size = {0, 0};
@@ -33,6 +34,11 @@ bool read_size(const char* text, CSize& size) {
     return true;
 }
 
+std::vector<CString>& files_for(const CString& name, NamedFiles& files) {
+    const CString end = name.Right(4);
+    return end.CompareNoCase(".bmp") == 0 || end.CompareNoCase(".dib") == 0 ? files.pictures : files.scripts;
+}
+
 CommandLine read_command_line(int count, char** arguments) {
     CommandLine line;
     for (int i = 1; i < count; ++i) {
@@ -46,7 +52,7 @@ CommandLine read_command_line(int count, char** arguments) {
         } else if (size) {
             line.good = line.good && read_size(arguments[i], line.size);
         } else {
-            line.scripts.push_back(arguments[i]);
+            files_for(arguments[i], line.files).push_back(arguments[i]);
         }
     }
     line.good = line.good && (!line.render || !line.render_to.IsEmpty()) && (line.render || line.size.cx == 0);
@@ -62,15 +68,15 @@ public:
             return Fail();
         }
         if (line.render) {
-            result_ = RenderGallery(line.render_to, line.size, line.scripts) ? 0 : 1;
+            result_ = RenderGallery(line.render_to, line.size, line.files) ? 0 : 1;
             return FALSE;
         }
-        auto* frame = new CGalleryFrame(line.scripts);
+        auto* frame = new CGalleryFrame(line.files);
         if (!frame->Open()) // it deletes itself
             return Fail();
         m_pMainWnd = frame;
         frame->SetIcon(LoadIcon("ZOP"), TRUE);
-        frame->ShowPage(line.scripts.empty() ? 2 : 3);
+        frame->ShowPage(!line.files.scripts.empty() ? "scripts" : !line.files.pictures.empty() ? "bitmap" : "gauges");
         frame->ShowWindow(m_nCmdShow);
         frame->UpdateWindow();
         return TRUE;

@@ -1,6 +1,7 @@
 #include "gallery_frame.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace {
 
@@ -15,7 +16,7 @@ ON_WM_SIZE()
 ON_LBN_SELCHANGE(list_id, &CGalleryFrame::OnSelectPage)
 END_MESSAGE_MAP()
 
-CGalleryFrame::CGalleryFrame(const std::vector<CString>& scripts) : pages_(MakePages(scripts)) {}
+CGalleryFrame::CGalleryFrame(const NamedFiles& files) : pages_(MakePages(files)) {}
 
 bool CGalleryFrame::Open() {
     return Create(nullptr, "ZOPWNT gallery", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CRect(40, 40, 1000, 680));
@@ -62,6 +63,11 @@ void CGalleryFrame::ShowPage(int index) {
     page.MoveWindow(PagePlace());
     page.ShowWindow(SW_SHOW);
     list_.SetCurSel(index);
+}
+
+void CGalleryFrame::ShowPage(const char* name) {
+    const auto named = [name](const auto& page) { return std::strcmp(page->Name(), name) == 0; };
+    ShowPage(static_cast<int>(std::find_if(pages_.begin(), pages_.end(), named) - pages_.begin()));
 }
 
 void CGalleryFrame::OnSelectPage() {

@@ -5,10 +5,11 @@
 /// The gallery's main window: the list of pages at the left, the chosen one at the right.
 class CGalleryFrame : public CFrameWnd {
 public:
-    explicit CGalleryFrame(const std::vector<CString>& scripts);
+    explicit CGalleryFrame(const NamedFiles& files);
 
     bool Open();
     void ShowPage(int index);
+    void ShowPage(const char* name);
 
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT create);
