@@ -96,10 +96,11 @@ protected:
         const bool loaded = bitmap_.Load(static_cast<LPCTSTR>(path));
         facts_ = loaded ? FactsOf(bitmap_) : std::vector<std::string>{"This bitmap cannot be loaded."};
         const int code = dib_.Load(path) ? 0 : dib_.GetLastError();
-        facts_.push_back(code ? "no DIB section: error " + std::to_string(code)
+        facts_.push_back(code             ? "no DIB section: error " + std::to_string(code)
                          : dib_.IsValid() ? "DIB section: yes"
                                           : "The file cannot be opened.");
-        facts_.insert(facts_.begin(), path.Mid(std::max(path.ReverseFind('\\'), path.ReverseFind('/')) + 1).GetString());
+        facts_.insert(facts_.begin(),
+                      path.Mid(std::max(path.ReverseFind('\\'), path.ReverseFind('/')) + 1).GetString());
         if (!loaded)
             bitmap_.Create(0, 0);
         Invalidate();

@@ -108,8 +108,9 @@ protected:
 };
 
 TEST_F(BitmapFaults, DoNoHarm) {
-    const BitmapFile kinds[] = {{8, 5, 3, false, 4},  {1, 9, -3}, {4, 3, 2, true}, {24, 5, 3},  {8, 7, 2, false, 300},
-                                {16, 3, 3, false, 2}, {32, 2, 2}, {24, 3, 4, true}, {4, 8, 3, false, 5, 9}};
+    const BitmapFile kinds[] = {{8, 5, 3, false, 4},   {1, 9, -3},           {4, 3, 2, true}, {24, 5, 3},
+                                {8, 7, 2, false, 300}, {16, 3, 3, false, 2}, {32, 2, 2},      {24, 3, 4, true},
+                                {4, 8, 3, false, 5, 9}};
     const int objects = live_gdi_objects();
     const int colours_held = 1; // at the end
     std::mt19937 random(7);

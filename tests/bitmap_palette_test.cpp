@@ -69,15 +69,15 @@ TEST(BitmapPalette, RefusesFaultyFilesAndKeepsItsColours) {
     const TemporaryFile disk("palette_test.pal", PaletteFile().bytes());
     CWntBitmapPalette palette;
     ASSERT_TRUE(palette.Load(disk.name()));
-    std::vector<Bytes> faulty = {
-        PaletteFile{.form = 0x45564157}.bytes(), PaletteFile{.id = 0x20746164}.bytes(),
-        PaletteFile{.version = 0x301}.bytes(),   PaletteFile{.count = 0}.bytes(),
-        PaletteFile{.count = 21}.bytes(),        PaletteFile{.count = 0xFFFF}.bytes(),
-        PaletteFile{.chunk = 3}.bytes(),         PaletteFile{.chunk = 83}.bytes(),
-        PaletteFile{.chunk = 0xFFFF'FFFF}.bytes(), PaletteFile{.chunk = 0x7FFF'FFF0}.bytes(),
-        PaletteFile{.chunk = 85}.bytes()};
+    std::vector<Bytes> faulty = {PaletteFile{.form = 0x45564157}.bytes(),   PaletteFile{.id = 0x20746164}.bytes(),
+                                 PaletteFile{.version = 0x301}.bytes(),     PaletteFile{.count = 0}.bytes(),
+                                 PaletteFile{.count = 21}.bytes(),          PaletteFile{.count = 0xFFFF}.bytes(),
+                                 PaletteFile{.chunk = 3}.bytes(),           PaletteFile{.chunk = 83}.bytes(),
+                                 PaletteFile{.chunk = 0xFFFF'FFFF}.bytes(), PaletteFile{.chunk = 0x7FFF'FFF0}.bytes(),
+                                 PaletteFile{.chunk = 85}.bytes()};
     for (std::size_t length = 0; length < 104; ++length)
-        faulty.push_back(Bytes(faulty[0].size(), 0)), faulty.back() = PaletteFile().bytes(), faulty.back().resize(length);
+        faulty.push_back(Bytes(faulty[0].size(), 0)), faulty.back() = PaletteFile().bytes(),
+                                                      faulty.back().resize(length);
     unattended_app.texts.clear();
     for (std::size_t i = 0; i < faulty.size(); ++i) {
         disk.write(faulty[i]);
@@ -103,8 +103,13 @@ TEST(BitmapPalette, TakesABitmapsColours) {
     const struct {
         BitmapFile file;
         int colours;
-    } cases[] = {{{8, 4, 4}, 256}, {{8, 4, 4, false, 20}, 20}, {{1, 4, 4}, 2}, {{24, 4, 4}, 0}, {{4, 4, 4, true}, 16},
-                 {{24, 4, 4, false, 500}, 500}, {{24, 4, 4, false, 70'000}, 0}};
+    } cases[] = {{{8, 4, 4}, 256},
+                 {{8, 4, 4, false, 20}, 20},
+                 {{1, 4, 4}, 2},
+                 {{24, 4, 4}, 0},
+                 {{4, 4, 4, true}, 16},
+                 {{24, 4, 4, false, 500}, 500},
+                 {{24, 4, 4, false, 70'000}, 0}};
     for (const auto& c : cases) {
         MemoryFile disk(c.file.bytes());
         CWntBitmap bitmap;

@@ -38,9 +38,9 @@ TEST(BitmapColours, AreCountedByEachClassesRule) {
     const struct {
         int bits;
         std::uint32_t used, dib, bitmap;
-    } cases[] = {{1, 0, 2, 2},          {4, 0, 16, 16},   {8, 0, 256, 256},         {2, 0, 4, 0},
-                 {16, 0, 0, 0},         {24, 7, 7, 7},    {8, 300, 300, 256},       {1, 9, 9, 2},
-                 {8, 0x10005, 5, 256},  {8, 0x10000, 0, 256}, {24, 70'000, 4464, 70'000}, {0, 0, 1, 0}};
+    } cases[] = {{1, 0, 2, 2},         {4, 0, 16, 16},       {8, 0, 256, 256},           {2, 0, 4, 0},
+                 {16, 0, 0, 0},        {24, 7, 7, 7},        {8, 300, 300, 256},         {1, 9, 9, 2},
+                 {8, 0x10005, 5, 256}, {8, 0x10000, 0, 256}, {24, 70'000, 4464, 70'000}, {0, 0, 1, 0}};
     for (const auto& c : cases) {
         BitmapHeader header = sized(1, 1, c.bits);
         header.colours_used = c.used;
@@ -106,11 +106,20 @@ TEST(BitmapReaders, BoundWhatTheFilePromises) {
         std::size_t at;
         std::uint32_t value;
         bool accepted;
-    } cases[] = {{2, 0, false},           {2, 0xFFFF'FFFF, false}, {10, 0, true},
-                 {10, 1094, true},        {10, 1095, false},       {14, 108, false},
-                 {18, 0x7FFF'FFFF, false}, {18, 0xFFFF'FFFF, true}, {22, 0x8000'0000, false},
-                 {22, 500, true},         {30, 1, true},           {30, 99, true},
-                 {46, 0xFFFF'FFFF, true}, {28, 24, true}};
+    } cases[] = {{2, 0, false},
+                 {2, 0xFFFF'FFFF, false},
+                 {10, 0, true},
+                 {10, 1094, true},
+                 {10, 1095, false},
+                 {14, 108, false},
+                 {18, 0x7FFF'FFFF, false},
+                 {18, 0xFFFF'FFFF, true},
+                 {22, 0x8000'0000, false},
+                 {22, 500, true},
+                 {30, 1, true},
+                 {30, 99, true},
+                 {46, 0xFFFF'FFFF, true},
+                 {28, 24, true}};
     for (const auto& c : cases) {
         Bytes bytes = plain.bytes();
         for (int i = 0; i < 4; ++i)
@@ -142,8 +151,8 @@ std::string drawn(int width, int height, int bits, const PixelLine& line) {
     for (int y = height - 1; y >= 0; --y, rows += ' ')
         for (int x = 0; x < width; ++x) {
             const auto pixel = array.begin() + static_cast<std::ptrdiff_t>((y * width + x) * size);
-            rows += std::any_of(pixel, pixel + static_cast<std::ptrdiff_t>(size), [](int b) { return b != 0; }) ? '#'
-                                                                                                                 : '.';
+            rows +=
+                std::any_of(pixel, pixel + static_cast<std::ptrdiff_t>(size), [](int b) { return b != 0; }) ? '#' : '.';
         }
     return rows;
 }
@@ -153,12 +162,17 @@ TEST(PixelLines, CoverTheirPixels) {
         PixelLine line;
         const char* picture;
     } cases[] = {
-        {{1, 1, 4, 1}, "...... ...... .####. ...... "},  {{9, 0, -9, 0}, "...... ...... ...... ###### "},
-        {{2, 9, 2, -9}, "..#... ..#... ..#... ..#... "}, {{3, 3, 3, 3}, "...#.. ...... ...... ...... "},
-        {{0, 0, 3, 3}, "...#.. ..#... .#.... #..... "},  {{3, 0, 0, 3}, "#..... .#.... ..#... ...#.. "},
-        {{0, 0, 5, 1}, "...... ...... ...### ###... "},  {{0, 0, 1, 3}, ".#.... .#.... #..... #..... "},
+        {{1, 1, 4, 1}, "...... ...... .####. ...... "},
+        {{9, 0, -9, 0}, "...... ...... ...... ###### "},
+        {{2, 9, 2, -9}, "..#... ..#... ..#... ..#... "},
+        {{3, 3, 3, 3}, "...#.. ...... ...... ...... "},
+        {{0, 0, 3, 3}, "...#.. ..#... .#.... #..... "},
+        {{3, 0, 0, 3}, "#..... .#.... ..#... ...#.. "},
+        {{0, 0, 5, 1}, "...... ...... ...### ###... "},
+        {{0, 0, 1, 3}, ".#.... .#.... #..... #..... "},
         {{-10, -10, 16, 16}, "...#.. ..#... .#.... #..... "},
-        {{0, 4, 5, 4}, "...... ...... ...... ...... "},  {{-1, 0, -1, 3}, "...... ...... ...... ...... "},
+        {{0, 4, 5, 4}, "...... ...... ...... ...... "},
+        {{-1, 0, -1, 3}, "...... ...... ...... ...... "},
         {{-5, 2, 0, 0}, "...... ...... ...... ...... "}, // one column left
     };
     for (const auto& c : cases)

@@ -235,14 +235,14 @@ TEST(DibFile, DumpsItsHeaderAndTable) {
     ASSERT_EQ(dib.Load(disk.name()), 1);
     dib.SaveBitmapInfo(dump.name());
     const std::string name = "m_pBitmapInfo->bmiHeader.";
-    EXPECT_EQ(dump.text(),
-              "// Bitmap Info\r\n\r\n\r\n" + name + "biSize\t = 40 ;\r\n" + name + "biWidth\t = 4 ;\r\n" + name +
-                  "biHeight\t = 4294967294 ;\r\n" + name + "biPlanes\t = 1 ;\r\n" + name + "biBitCount\t = 8 ;\r\n" +
-                  name + "biCompression\t = 0 ;\r\n" + name + "biSizeImage\t = 0 ;\r\n" + name +
-                  "biXPelsPerMeter\t = 2835 ;\r\n" + name + "biYPelsPerMeter\t = 2835 ;\r\n" + name +
-                  "biClrUsed\t = 5 ;\r\n" + name + "biClrImportant\t = 0 ;\r\n\r\n\r\n" +
-                  "RGBQUAD  rgbQuadTable[5] =\r\n\t{\r\n\t\t\r\n\t\t  0, 10, 20,  0   ,  1, 13, 25,  0   ,"
-                  "  2, 16, 30,  0   ,  3, 19, 35,  0   ,\r\n\t\t  4, 22, 40,  0   \r\n\t}\r\n\r\n");
+    EXPECT_EQ(dump.text(), "// Bitmap Info\r\n\r\n\r\n" + name + "biSize\t = 40 ;\r\n" + name + "biWidth\t = 4 ;\r\n" +
+                               name + "biHeight\t = 4294967294 ;\r\n" + name + "biPlanes\t = 1 ;\r\n" + name +
+                               "biBitCount\t = 8 ;\r\n" + name + "biCompression\t = 0 ;\r\n" + name +
+                               "biSizeImage\t = 0 ;\r\n" + name + "biXPelsPerMeter\t = 2835 ;\r\n" + name +
+                               "biYPelsPerMeter\t = 2835 ;\r\n" + name + "biClrUsed\t = 5 ;\r\n" + name +
+                               "biClrImportant\t = 0 ;\r\n\r\n\r\n" +
+                               "RGBQUAD  rgbQuadTable[5] =\r\n\t{\r\n\t\t\r\n\t\t  0, 10, 20,  0   ,  1, 13, 25,  0   ,"
+                               "  2, 16, 30,  0   ,  3, 19, 35,  0   ,\r\n\t\t  4, 22, 40,  0   \r\n\t}\r\n\r\n");
 }
 
 void render(const CDibFile& dib, bool square) {

@@ -82,9 +82,9 @@ TEST(WntBitmap, ShowsEveryKindOfFile) {
                 const int bits = std::min(file.bits, 8);
                 const int index = byte >> (8 - bits - x * bits % 8) & ((1 << bits) - 1);
                 const auto part = [&](int p) {
-                    return file.bits > 8                               ? BitmapFile::pixel_byte(first + p)
+                    return file.bits > 8                            ? BitmapFile::pixel_byte(first + p)
                            : std::uint32_t(index) >= file.colours() ? 0
-                                                                       : BitmapFile::colour_byte(index, p);
+                                                                    : BitmapFile::colour_byte(index, p);
                 };
                 ASSERT_EQ(picture.at(x, y), RGB(part(2), part(1), part(0))) << x << ' ' << y;
             }
@@ -183,10 +183,19 @@ TEST(WntBitmap, CopiesBlocks) {
     EXPECT_EQ(copied(1, 1, 2, 1, 0, 0, all_pixels), "0 0 0 |0 1 2 |");
     EXPECT_EQ(copied(0, 0, 3, 2, 0, 0, 0x07), "1 2 3 |6 0 8 |");
     EXPECT_EQ(copied(0, 0, 3, 2, 0, 0, 0xFFFFFF06), "1 2 3 |0 7 8 |");
-    const int outside[][6] = {{0, 0, 4, 1, 0, 0},   {0, 0, 1, 3, 0, 0},   {-1, 0, 1, 1, 0, 0}, {0, -1, 1, 1, 0, 0},
-                              {0, 0, 1, 1, 5, 0},   {0, 0, 1, 1, 0, 4},   {0, 0, 2, 1, 4, 0},  {0, 0, 1, 1, -1, -1},
-                              {0, 0, -1, 1, 2, 0},  {0, 0, 1, INT_MIN, 0, 0}, {0, 0, 0, 1, 0, 0},
-                              {0, 0, INT_MAX, INT_MAX, 1, 1}, {INT_MIN, INT_MAX, 1, 1, INT_MAX, INT_MIN}};
+    const int outside[][6] = {{0, 0, 4, 1, 0, 0},
+                              {0, 0, 1, 3, 0, 0},
+                              {-1, 0, 1, 1, 0, 0},
+                              {0, -1, 1, 1, 0, 0},
+                              {0, 0, 1, 1, 5, 0},
+                              {0, 0, 1, 1, 0, 4},
+                              {0, 0, 2, 1, 4, 0},
+                              {0, 0, 1, 1, -1, -1},
+                              {0, 0, -1, 1, 2, 0},
+                              {0, 0, 1, INT_MIN, 0, 0},
+                              {0, 0, 0, 1, 0, 0},
+                              {0, 0, INT_MAX, INT_MAX, 1, 1},
+                              {INT_MIN, INT_MAX, 1, 1, INT_MAX, INT_MIN}};
     for (const auto& b : outside)
         for (DWORD transparent : {all_pixels, DWORD{0}})
             EXPECT_EQ(copied(b[0], b[1], b[2], b[3], b[4], b[5], transparent), "0 0 0 |0 0 0 |") << b[0] << ' ' << b[2];

@@ -88,8 +88,8 @@ struct DibHead {
     std::uint32_t pixel_offset = 0;
 };
 
-/// Reads so many bytes to a place; false when reading failed. Fewer bytes at a file's end are no failure: the rest keeps
-/// what it held.
+/// Reads so many bytes to a place; false when reading failed. Fewer bytes at a file's end are no failure: the rest
+/// keeps what it held.
 using ReadBytes = std::function<bool(void* to, std::uint32_t count)>;
 
 /// Reads headers and colour table: 0, or the error code of the step that failed.

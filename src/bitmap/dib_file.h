@@ -41,8 +41,8 @@ public:
     /// Empties the object: 1 when every handle could be released.
     int Delete();
 
-    /// A blank bitmap of the screen's depth, every byte of its pixels set to `fill`. With 256 colours the table is one of
-    /// the two above. Errors: 3 size below 1, 4 device context, 5 header, 6 section, 8 palette.
+    /// A blank bitmap of the screen's depth, every byte of its pixels set to `fill`. With 256 colours the table is one
+    /// of the two above. Errors: 3 size below 1, 4 device context, 5 header, 6 section, 8 palette.
     int CreateNew(int width, int height, int fill, int openGL);
     /// 8, 16 and 24 bits. Errors: 2 size below 1, 3 header, 4 device context, 5 section, 6 palette.
     int CreateNew256Color(int width, int height, int fill, int openGL);
@@ -53,8 +53,8 @@ public:
     int Load(const char* path);
     int Save(const char* path) const;
     /// A bitmap at the present position of an open file. Missing bytes are no error and read as 0. Errors: 2 handle or
-    /// position, 3 file header, 4 no bitmap, 5 information header, 6 another header than the 40-byte one, or compressed,
-    /// 8 colour table, 9 device context or section, 10 pixels, 11 palette.
+    /// position, 3 file header, 4 no bitmap, 5 information header, 6 another header than the 40-byte one, or
+    /// compressed, 8 colour table, 9 device context or section, 10 pixels, 11 palette.
     int StreamIn(HANDLE file);
     /// Errors: 1 empty object, 2 handle, 4 writing.
     int StreamOut(HANDLE file) const;

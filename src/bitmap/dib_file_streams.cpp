@@ -75,8 +75,8 @@ void write_table(std::FILE* file, const RGBQUAD* table, int count) {
 int CDibFile::Load(const char* path) {
     if (!path)
         return 0;
-    HANDLE file = ::CreateFileA(path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL,
-                                nullptr);
+    HANDLE file =
+        ::CreateFileA(path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file == INVALID_HANDLE_VALUE)
         return 0;
     const int result = StreamIn(file);

@@ -12,8 +12,8 @@ struct PixelLine {
     std::int64_t x1, y1, x2, y2;
 };
 
-/// The part of a line that lies on a picture; nothing when none does. A slanted line that is left with one column or one
-/// row is given up.
+/// The part of a line that lies on a picture; nothing when none does. A slanted line that is left with one column or
+/// one row is given up.
 std::optional<PixelLine> clip_line(const PixelLine& line, int width, int height);
 
 /// Draws a line into an array of rows without padding, in the writer's current colour: the writer writes the first

@@ -162,13 +162,16 @@ void CWntBitmap::CopyBits(CWntBitmap* destination, int xd, int yd, int w, int h,
         return;
     const BYTE* from = GetPixelAddress(xs, ys + h - 1);
     BYTE* to = destination->GetPixelAddress(xd, yd + h - 1);
-    for (int row = 0; row < h; ++row) {
-        const std::ptrdiff_t at = row;
-        if (transparent == opaque)
-            std::memmove(to + at * destination->StorageWidth(), from + at * StorageWidth(), w);
+    const std::ptrdiff_t from_row = StorageWidth();
+    const std::ptrdiff_t to_row = destination->StorageWidth();
+    const bool apart = m_pBits != destination->m_pBits;
+    for (std::ptrdiff_t row = 0; row < h; ++row) {
+        if (transparent != opaque)
+            copy_visible(to + row * to_row, from + row * from_row, w, static_cast<BYTE>(transparent));
+        else if (apart)
+            std::memcpy(to + row * to_row, from + row * from_row, w);
         else
-            copy_visible(to + at * destination->StorageWidth(), from + at * StorageWidth(), w,
-                         static_cast<BYTE>(transparent));
+            std::memmove(to + row * to_row, from + row * from_row, w);
     }
 }
 
@@ -178,8 +181,8 @@ BOOL CWntBitmap::MapColorsToPalette(CPalette* palette) {
     std::array<BYTE, colours> nearest;
     for (int i = 0; i < colours; ++i) {
         const RGBQUAD& colour = m_pBMI->bmiColors[i];
-        nearest[i] = static_cast<BYTE>(
-            palette->GetNearestPaletteIndex(RGB(colour.rgbRed, colour.rgbGreen, colour.rgbBlue)));
+        nearest[i] =
+            static_cast<BYTE>(palette->GetNearestPaletteIndex(RGB(colour.rgbRed, colour.rgbGreen, colour.rgbBlue)));
     }
     translate(m_pBits, stored_bytes(), nearest);
     PALETTEENTRY entries[colours];

@@ -4,8 +4,8 @@
 
 #include "zopwnt_api.h"
 
-/// A bitmap in plain memory, made for 8 bits a pixel with 256 colours: loaded from bitmap files, resources and archives,
-/// drawn, copied in blocks and mapped to a palette. New bitmaps are 16 x 16 and grey.
+/// A bitmap in plain memory, made for 8 bits a pixel with 256 colours: loaded from bitmap files, resources and
+/// archives, drawn, copied in blocks and mapped to a palette. New bitmaps are 16 x 16 and grey.
 ///
 ///     CWntBitmap picture;
 ///     if (picture.Load("boiler.bmp"))
@@ -38,9 +38,9 @@ public:
     /// Replaces each pixel by the nearest colour of the palette, whose first 256 colours become the bitmap's.
     virtual BOOL MapColorsToPalette(CPalette* palette);
     virtual void GetRect(CRect* rect);
-    /// Copies the w x h block at (xs, ys) to (xd, yd) of a bitmap, y counting downwards, row by row from the lowest one.
-    /// Pixels equal to the low byte of `transparent` are left out, except by 0xFFFFFFFF. Not clipped: a block that is
-    /// not inside both bitmaps is not copied.
+    /// Copies the w x h block at (xs, ys) to (xd, yd) of a bitmap, y counting downwards, row by row from the lowest
+    /// one. Pixels equal to the low byte of `transparent` are left out, except by 0xFFFFFFFF. Not clipped: a block that
+    /// is not inside both bitmaps is not copied.
     virtual void CopyBits(CWntBitmap* destination, int xd, int yd, int w, int h, int xs, int ys, DWORD transparent);
 
     /// A blank bitmap of 8 bits with a ramp of greys.

@@ -112,15 +112,15 @@ BOOL CWntBitmap::load_file(CFile& file) {
 
 BOOL CWntBitmap::Save(CFile* file) {
     return file && m_pBMI && succeeds([&] {
-        save_file(*file);
-        return TRUE;
-    });
+               save_file(*file);
+               return TRUE;
+           });
 }
 
 void CWntBitmap::save_file(CFile& file) {
     const auto counted = wnt::storage_bytes(wnt::header_of(reinterpret_cast<std::uint8_t*>(m_pBMI)));
-    const auto head = wnt::encode_file_header(
-        {wnt::bitmap_mark, static_cast<std::uint32_t>(counted + pixel_offset), pixel_offset});
+    const auto head =
+        wnt::encode_file_header({wnt::bitmap_mark, static_cast<std::uint32_t>(counted + pixel_offset), pixel_offset});
     file.Write(head.data(), wnt::file_header_bytes);
     file.Write(m_pBMI, block_bytes);
     const ULONGLONG held = stored_bytes();
@@ -141,8 +141,8 @@ BOOL CWntBitmap::Load(UINT id) {
     return FALSE;
 }
 
-// The pixels stay where they are; they are made writable, since colours are mapped in place. A standard bitmap is mostly
-// stored without a file header and is refused.
+// The pixels stay where they are; they are made writable, since colours are mapped in place. A standard bitmap is
+// mostly stored without a file header and is refused.
 BOOL CWntBitmap::load_data(BYTE* data, DWORD size) {
     DataSource source(data, size);
     wnt::BitmapHead head;
