@@ -1,41 +1,30 @@
 // A file that tests write and read back; it goes with the object.
 #pragma once
 
-#include <cstdint>
 #include <cstdio>
+#include <fstream>
+#include <iterator>
 #include <string>
 #include <vector>
 
 class TemporaryFile {
 public:
-    explicit TemporaryFile(std::string name) : name_(std::move(name)) {}
-    TemporaryFile(std::string name, const std::vector<std::uint8_t>& bytes) : name_(std::move(name)) { write(bytes); }
-    ~TemporaryFile() { std::remove(name_.c_str()); }
+    explicit TemporaryFile(const std::vector<std::uint8_t>& bytes = {}) { write(bytes); }
+    ~TemporaryFile() { std::remove(name()); }
     TemporaryFile(const TemporaryFile&) = delete;
     TemporaryFile& operator=(const TemporaryFile&) = delete;
 
-    const char* name() const { return name_.c_str(); }
+    const char* name() const { return "temporary_test_file.tmp"; }
     void write(const std::vector<std::uint8_t>& bytes) const {
-        std::FILE* file = std::fopen(name(), "wb");
-        std::fwrite(bytes.data(), 1, bytes.size(), file);
-        std::fclose(file);
-    }
-    std::vector<std::uint8_t> bytes() const {
-        std::vector<std::uint8_t> all;
-        if (std::FILE* file = std::fopen(name(), "rb")) {
-            std::fseek(file, 0, SEEK_END);
-            all.resize(static_cast<std::size_t>(std::ftell(file)));
-            std::rewind(file);
-            all.resize(std::fread(all.data(), 1, all.size(), file));
-            std::fclose(file);
-        }
-        return all;
+        std::ofstream(name(), std::ios::binary)
+            .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
     }
     std::string text() const {
-        const auto all = bytes();
+        std::ifstream file(name(), std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+    std::vector<std::uint8_t> bytes() const {
+        const std::string all = text();
         return {all.begin(), all.end()};
     }
-
-private:
-    std::string name_;
 };
