@@ -104,6 +104,7 @@ bool RenderGallery(const CString& folder, CSize size, const NamedFiles& files) {
     const bool own = size.cx == 0;
     bool good = RenderPages(folder, own ? page_size : size, files);
     for (const CString& script : files.scripts)
-        good &= RenderScript(folder + "\\" + PictureName(script, files.scripts) + ".png", own ? gauge_size : size, script);
+        good &=
+            RenderScript(folder + "\\" + PictureName(script, files.scripts) + ".png", own ? gauge_size : size, script);
     return good;
 }

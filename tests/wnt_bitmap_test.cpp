@@ -93,6 +93,10 @@ TEST(WntBitmap, SavesEightBitsWithAFullTable) {
     made->Serialize(load);
     EXPECT_EQ(rows_of(*static_cast<CWntBitmap*>(made), 3, 2), "1 2 3 |4 5 6 |");
     delete made;
+    file.Seek(100, CFile::begin);
+    CDibFile dib;
+    EXPECT_EQ(dib.StreamIn(file), 1);
+    EXPECT_EQ(*static_cast<BYTE*>(dib.GetPtrBits()), 4);
     file.Close();
     const Bytes saved = disk.bytes();
     ASSERT_EQ(saved.size(), 100U + 1078 + 8);
@@ -148,7 +152,7 @@ TEST(WntBitmap, CopiesBlocks) {
 
 TEST(WntBitmap, MapsItsColoursToAPalette) {
     CWntBitmap bitmap;
-    bitmap.Create(5, 2);
+    bitmap.Create(9, 1);
     number(bitmap, 60); // greys
     EXPECT_EQ(bitmap.MapColorsToPalette(nullptr), FALSE);
     struct {
@@ -159,7 +163,7 @@ TEST(WntBitmap, MapsItsColoursToAPalette) {
     ASSERT_TRUE(palette.CreatePalette(reinterpret_cast<LOGPALETTE*>(&colours)));
     bitmap.GetClrTabAddress()[1].rgbReserved = 9;
     EXPECT_EQ(bitmap.MapColorsToPalette(&palette), TRUE);
-    EXPECT_EQ(rows_of(bitmap, 5, 2), "1 1 1 1 1 |2 2 2 2 2 |");
+    EXPECT_EQ(rows_of(bitmap, 9, 1), "1 1 1 1 1 2 2 2 2 |");
     const RGBQUAD second = bitmap.GetClrTabAddress()[1];
     EXPECT_THAT((Bytes{second.rgbBlue, second.rgbRed, second.rgbReserved}), ElementsAre(62, 62, 9));
     EXPECT_EQ(bitmap.GetNumClrEntries(), 256U);

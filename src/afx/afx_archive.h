@@ -3,7 +3,7 @@
 
 #include "afx_file.h"
 
-// Unbuffered. The file stays the caller's and is not closed with the archive.
+// Nothing is read or written through it. The file stays the caller's and is not closed with the archive.
 class ZOPAFX_API CArchive {
 public:
     enum Mode : UINT { store = 0, load = 1 };
@@ -15,8 +15,6 @@ public:
     BOOL IsLoading() const { return (m_nMode & load) != 0; }
     BOOL IsStoring() const { return (m_nMode & load) == 0; }
     CFile* GetFile() const { return m_pFile; }
-    UINT Read(void* lpBuf, UINT nMax) { return m_pFile->Read(lpBuf, nMax); }
-    void Write(const void* lpBuf, UINT nMax) { m_pFile->Write(lpBuf, nMax); }
     // Whatever was stored is in the file afterwards.
     void Flush();
 

@@ -117,8 +117,8 @@ UINT CWntBitmap::GetNumClrEntries() const {
     return wnt::bitmap_colours(header_of(m_pBMI));
 }
 
-int CWntBitmap::StorageWidth() const {
-    return static_cast<int>(wnt::storage_width(header_of(m_pBMI).width));
+UINT CWntBitmap::StorageWidth() const {
+    return wnt::storage_width(header_of(m_pBMI).width);
 }
 
 // Bitmaps of fewer bits have shorter rows than those that count here.

@@ -59,7 +59,7 @@ public:
     /// caller's to avoid.
     BYTE* GetPixelAddress(int x, int y) const;
     /// The length of a row in bytes.
-    int StorageWidth() const;
+    UINT StorageWidth() const;
 
 private:
     void take(BITMAPINFO* info, BYTE* bits, BOOL own, ULONGLONG size);
