@@ -5,84 +5,18 @@
 #include <string>
 
 #include "axis_reference.h"
-#include "bench_table.h"
-#include "pixels.h"
+#include "yardstick_window.h"
 
 namespace {
 
 constexpr int width = 1000;
 constexpr int height = 60;
 
-std::vector<COLORREF> shown(HWND window) {
-    Picture picture(width, height);
-    picture.capture(window);
-    return picture.values();
-}
-
-// A window that paints itself without framework and library.
-class Yardstick {
-public:
-    Yardstick(HWND host, const AxisLook& look, std::vector<AxisMark> marks) : look_(look), marks_(std::move(marks)) {
-        static const ATOM window_class = registered();
-        window_ = ::CreateWindowA(MAKEINTATOM(window_class), "", WS_CHILD | WS_VISIBLE, 0, height, width, height, host,
-                                  nullptr, nullptr, this);
-        ::SetWindowLongPtrA(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-    }
-    ~Yardstick() { ::DestroyWindow(window_); }
-    Yardstick(const Yardstick&) = delete;
-    Yardstick& operator=(const Yardstick&) = delete;
-
-    HWND window() const { return window_; }
-
-private:
-    static ATOM registered() {
-        WNDCLASSA description = {};
-        description.lpfnWndProc = &procedure;
-        description.lpszClassName = "yardstick";
-        return ::RegisterClassA(&description);
-    }
-    static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-        auto* self = reinterpret_cast<Yardstick*>(::GetWindowLongPtrA(window, GWLP_USERDATA));
-        if (message != WM_PAINT || !self)
-            return ::DefWindowProcA(window, message, wParam, lParam);
-        self->paint();
-        return 0;
-    }
-
-    void paint() {
-        PAINTSTRUCT paint;
-        const HDC dc = ::BeginPaint(window_, &paint);
-        const HDC memory = ::CreateCompatibleDC(dc);
-        const HBITMAP bitmap = ::CreateCompatibleBitmap(dc, width, height);
-        const HGDIOBJ previous = ::SelectObject(memory, bitmap);
-        reference_.paint(memory, width, height, look_, marks_);
-        ::BitBlt(dc, 0, 0, width, height, memory, 0, 0, SRCCOPY);
-        ::SelectObject(memory, previous);
-        ::DeleteObject(bitmap);
-        ::DeleteDC(memory);
-        ::EndPaint(window_, &paint);
-    }
-
-    AxisLook look_;
-    std::vector<AxisMark> marks_;
-    AxisReference reference_;
-    HWND window_;
-};
-
-void repaint(HWND window) {
-    ::RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
-}
-
 void measure(BenchTable& table, const char* name, CWntAxis& axis, const AxisLook& look,
              const std::vector<AxisMark>& marks) {
-    const Yardstick yardstick(::GetParent(axis.m_hWnd), look, marks);
-    repaint(axis.m_hWnd);
-    repaint(yardstick.window());
-    if (shown(axis.m_hWnd) == shown(yardstick.window()))
-        table.measure(
-            name, [&](int) { repaint(axis.m_hWnd); }, [&](int) { repaint(yardstick.window()); });
-    else
-        table.wrong(name);
+    const AxisReference reference;
+    const auto paint = [&](HDC dc) { reference.paint(dc, width, height, look, marks); };
+    measure_paint(table, name, axis, paint, 0, height);
 }
 
 } // namespace

@@ -35,6 +35,7 @@ struct Chart {
     CWntAxis across;
     CWntAxis upright;
     CRect plot; // of the page's client area
+    float line_distance = 10;
 };
 
 class CAxesPage : public CSurfacePage {
@@ -58,6 +59,7 @@ protected:
         charts_[texts].upright.SetFlags(3, 100, 0);
         charts_[times].across.SetFlags(2, 100, 2);
         charts_[times].upright.SetFlags(1, 100, 0);
+        charts_[numbers].line_distance = 0.5f;
         font_.CreatePointFont(90, "Arial");
         return CreateRow();
     }
@@ -90,10 +92,12 @@ protected:
     void SetRanges() {
         charts_[numbers].across.SetRange(0.0f, seconds);
         charts_[numbers].upright.SetRange(-1.2f, 1.2f);
+        charts_[texts].across.SetRange(0.0f, 1.0f); // lays the zoom control's slider out
         charts_[texts].across.SetTexts(static_cast<int>(names_.size()), names_.data());
         charts_[texts].upright.SetRange(0.0f, 100.0f);
         TAxisdatetime start = {21, 11, 2026, 6, 0, 0, 0};
         TAxisdatetime end = {22, 11, 2026, 6, 0, 0, 0};
+        charts_[times].across.SetRange(0.0f, 1.0f);
         charts_[times].across.SetViewTime(&start, &end);
         charts_[times].upright.SetRange(0.0f, 80.0f);
     }
@@ -137,8 +141,10 @@ protected:
         out.fillcolour(RGB(252, 252, 250), 0);
         out.boxr1(corner.x, corner.y, chart.plot.Width() - 1, chart.plot.Height() - 1);
         out.linecolour(RGB(222, 226, 230), 0);
-        for (int i = 0; i < chart.upright.GetScaleLineCount(); ++i)
-            out.hline(corner.x + 1, At(out, chart, 0, chart.upright.GetScaleLinePos(i)).y, chart.plot.Width() - 3);
+        int y = 0;
+        for (int i = -20; i <= 20; ++i)
+            if (chart.upright.ValueToScreen(static_cast<float>(i) * chart.line_distance, &y) == 0)
+                out.hline(corner.x + 1, At(out, chart, 0, y).y, chart.plot.Width() - 3);
     }
 
     static void Curve(CWntOut& out, const Chart& chart, std::vector<POINT>& points, COLORREF colour) {
@@ -203,8 +209,7 @@ protected:
         const auto id = static_cast<UINT>(header->idFrom);
         char text[80];
         if (id == first_axis + 2 * texts)
-            std::snprintf(text, sizeof text, "Double click on label %d",
-                          charts_[texts].across.QueryDoubleclickedItem());
+            std::snprintf(text, sizeof text, "Double click on step %d", charts_[texts].across.QueryDoubleclickedItem());
         else
             std::snprintf(text, sizeof text, "Double click on axis %u", id - first_axis + 1);
         label_.SetWindowText(text);

@@ -68,8 +68,12 @@ protected:
     afx_msg void OnPicked(NMHDR* header, LRESULT* result) {
         char text[64];
         auto& selector = selectors_[header->idFrom - first_id];
-        std::snprintf(text, sizeof text, "Selector %d: colour %d", static_cast<int>(header->idFrom - first_id) + 1,
-                      selector.GetSelectedColorID());
+        const int number = static_cast<int>(header->idFrom - first_id) + 1;
+        const int colour = selector.GetSelectedColorID();
+        if (0 <= colour && colour < 256)
+            std::snprintf(text, sizeof text, "Selector %d: colour %d", number, colour);
+        else
+            std::snprintf(text, sizeof text, "Selector %d: no colour", number);
         label_.SetWindowText(text);
         *result = 0;
     }

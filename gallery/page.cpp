@@ -66,6 +66,7 @@ GalleryPages MakePages(const NamedFiles& files) {
     pages.push_back(MakeButtonsPage());
     pages.push_back(MakeScrollBarsPage());
     pages.push_back(MakePulsePage());
+    pages.push_back(MakeCalendarPage());
     pages.push_back(MakeColoursPage());
     pages.push_back(MakeAxesPage());
     pages.push_back(MakeBitmapPage(files.pictures));

@@ -86,6 +86,7 @@ std::unique_ptr<CGalleryPage> MakeGaugesPage();
 std::unique_ptr<CGalleryPage> MakeButtonsPage();
 std::unique_ptr<CGalleryPage> MakeScrollBarsPage();
 std::unique_ptr<CGalleryPage> MakePulsePage();
+std::unique_ptr<CGalleryPage> MakeCalendarPage();
 std::unique_ptr<CGalleryPage> MakeColoursPage();
 std::unique_ptr<CGalleryPage> MakeAxesPage();
 std::unique_ptr<CGalleryPage> MakeBitmapPage(const std::vector<CString>& pictures);

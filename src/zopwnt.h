@@ -17,5 +17,6 @@
 #include "widgets/wnt_axis.h"
 #include "widgets/wnt_axis_properties.h"
 #include "widgets/wnt_button.h"
+#include "widgets/wnt_calendar.h"
 #include "widgets/wnt_color_sel.h"
 #include "widgets/wnt_gauge.h"

@@ -93,6 +93,10 @@ TEST_F(ColorSelTest, ItemsTakeThePickedColour) {
     selector_.SetSelectedColorID(1);
     EXPECT_EQ(selector_.GetSelectedColor(), 1u);
     EXPECT_EQ(colours[1], 1);
+    selector_.SetColorItems(nullptr, nullptr, 0);
+    full_repaint(selector_);
+    pick(50, 45);
+    EXPECT_EQ(colours[1], 1); // the host has its array back
 }
 
 TEST_F(ColorSelTest, SlidersFollowTheMouse) {

@@ -1,5 +1,6 @@
 #include "widgets/axis/axis_labels.h"
 #include "widgets/axis/axis_model.h"
+#include "widgets/axis/axis_ticks.h"
 #include "widgets/axis/saturate.h"
 #include "widgets/axis/time_value.h"
 
@@ -239,6 +240,34 @@ TEST(AxisConversion, HoldsAtAnyValueAndSize) {
     EXPECT_EQ(empty.calc_float_coord(5, &value), 0);
     EXPECT_EQ(pixel_of_time(empty, 0), Pair(0, 0)); // a view without a span
     EXPECT_EQ(pixel_of(axis_of(axis_bottom, 300), nan_value), Pair(0, 0));
+}
+
+TEST(AxisTicks, AreNeverMoreThanPixels) {
+    const auto no_texts = [](std::int64_t) { return nullptr; };
+    for (float minimum : {0.0f, -3e38f, nan_value, -infinity}) {
+        for (float maximum : {1e-45f, 100.0f, 3e38f, infinity, nan_value}) {
+            for (int type : {axis_numeric, axis_text}) {
+                AxisModel axis = axis_of(axis_bottom, 500, minimum, maximum);
+                axis.type = type;
+                axis.grid.count = std::numeric_limits<int>::max();
+                EXPECT_LE(value_ticks(axis, no_texts).size(), 502u) << minimum << ".." << maximum;
+                axis.set_texts(std::numeric_limits<int>::max());
+                EXPECT_LE(value_ticks(axis, no_texts).size(), 502u);
+            }
+        }
+    }
+    AxisModel axis = axis_of(axis_bottom, 500);
+    for (std::int64_t end : {day, 40'000 * day, latest}) {
+        axis.set_time_range(0, end);
+        EXPECT_LE(time_ticks(axis).size(), 501u);
+    }
+    // A labelled tick takes the place of one without a label on the same pixel.
+    axis.resize(40, 40);
+    axis.grid = {100, 0, 1.0f, 0.0f, 1.0f};
+    int labels = 0;
+    for (const AxisTick& tick : value_ticks(axis, no_texts))
+        labels += !tick.label.empty();
+    EXPECT_EQ(labels, 20);
 }
 
 TEST(AxisTime, ProportionIsExactBeyond64Bits) {

@@ -210,10 +210,10 @@ void CWntAxis::OnSize(UINT type, int cx, int cy) {
 BOOL CWntAxis::OnCommand(WPARAM wParam, LPARAM lParam) {
     const UINT command = LOWORD(wParam);
     if (command == toggle_zoom_command) {
+        end_zoom_drag();
         zoom_->shown = !zoom_->shown;
-        const wnt::AxisRect& slider = zoom_->slider;
-        if (slider.right <= slider.left || slider.bottom <= slider.top)
-            SetZoomRects(1); // laid out before the axis had a size
+        if (zoom_->slider.left == zoom_->slider.right || zoom_->slider.top == zoom_->slider.bottom)
+            SetZoomRects(1); // never laid out since the axis has a size
         repaint(TRUE);
     } else if (command == properties_command && !open_properties()) {
         return TRUE;
@@ -224,6 +224,7 @@ BOOL CWntAxis::OnCommand(WPARAM wParam, LPARAM lParam) {
 // False where the axis is gone by the time that the dialog closes.
 bool CWntAxis::open_properties() {
     const HWND self = m_hWnd;
+    end_zoom_drag();
     CWntAxisProperties properties(this);
     properties.SetAxis(this);
     properties.DoModal();
@@ -252,10 +253,14 @@ void CWntAxis::OnLButtonDown(UINT, CPoint point) {
 }
 
 void CWntAxis::OnLButtonUp(UINT, CPoint) {
-    if (!zoom_->shown)
-        return;
+    if (zoom_->shown)
+        end_zoom_drag();
+}
+
+void CWntAxis::end_zoom_drag() {
     zoom_->enlarging = false;
-    ::ReleaseCapture();
+    if (m_hWnd && ::GetCapture() == m_hWnd)
+        ::ReleaseCapture();
 }
 
 void CWntAxis::OnRButtonDown(UINT, CPoint) {

@@ -2,6 +2,7 @@
 
 #include "diag/wnt_trace.h"
 #include "widgets/colour_grid.h"
+#include "widgets/surface_buffer.h"
 #include "widgets/surface_owner.h"
 #include "widgets/wnt_color_sel.h"
 
@@ -25,6 +26,8 @@ ON_WM_LBUTTONUP()
 ON_WM_MOUSEMOVE()
 END_MESSAGE_MAP()
 
+CWntColorSel::CWntColorSel() = default;
+
 CWntColorSel::~CWntColorSel() {
     DestroyWindow(); // while its handlers and what they use still exist
 }
@@ -40,6 +43,8 @@ int CWntColorSel::OnCreate(LPCREATESTRUCT create) {
     if (out_.m_hWnd)
         return -1; // not a creation
     sliders_shown_ = 0;
+    cells_3d_ = 0;
+    hover_sample_ = 0;
     no_items_ = 1;
     item_colours_ = nullptr;
     font_.DeleteObject();
@@ -76,9 +81,9 @@ void CWntColorSel::SetColorItems(char** names, int* colours, int count) {
     if (!this)
         return;
     no_items_ = !names || !colours || count <= 0;
+    item_colours_ = no_items_ ? nullptr : colours; // an array that is taken back is not written into any more
+    item_count_ = no_items_ ? 0 : count;
     if (!no_items_) {
-        item_colours_ = colours;
-        item_count_ = count;
         for (int i = 0; i < count && list_.m_hWnd; ++i)
             if (names[i])
                 list_.AddString(names[i]);
@@ -144,18 +149,26 @@ void CWntColorSel::paint_cell(int x, int y, int width, int height, int colour, b
         out_.drawshadow(x, y, x + width, y + height, 1);
 }
 
+void CWntColorSel::paint_sample(int x, int y, int width, int height, int colour) {
+    const wnt::SurfacePainting painting(out_, painting_, {x, y + height, x + width, y});
+    if (painting)
+        paint_cell(x, y, width, height, colour, true);
+}
+
 void CWntColorSel::PaintPanel(int) {
-    if (!this || !wnt::begin_painting(out_))
+    if (!this)
         return;
     const wnt::ColourGrid g = grid();
     const int m = g.margin();
+    const wnt::SurfacePainting painting(out_, painting_, {0, g.height - 1, g.width - 1, 0});
+    if (!painting)
+        return;
     out_.linecolour(0, 0);
     out_.fillcolour(::GetSysColor(COLOR_BTNFACE), 0);
     out_.boxr1(0, 0, g.width - 1, g.height - 1);
     for (int i = 0; i < g.rows() * wnt::ColourGrid::columns && g.cell_height() > 0; ++i)
         paint_cell(g.cell_left(i) + m, g.cell_bottom(i) + m, g.cell_width() - 2 * m, g.cell_height() - 2 * m, i, m > 0);
     out_.drawshadow(0, 0, g.width - 1, g.height - 1, 0);
-    out_.endpaint();
 }
 
 int CWntColorSel::ComputeSelectedColor() {
@@ -165,38 +178,38 @@ int CWntColorSel::ComputeSelectedColor() {
     out_.getmousepos(at);
     const wnt::ColourGrid g = grid();
     const int colour = g.hit(at[0], at[1]);
-    if (hover_sample_ && g.holds(colour) && wnt::begin_painting(out_)) {
-        const int m = g.margin();
-        paint_cell(m, g.height - g.cell_height() + m, g.cell_width() - 2 * m, g.cell_height() - 2 * m, colour, true);
-        out_.endpaint();
-    }
+    const int m = g.margin();
+    if (hover_sample_ && colour != -1)
+        paint_sample(m, g.height - g.cell_height() + m, g.cell_width() - 2 * m, g.cell_height() - 1 - 2 * m, colour);
     return colour;
 }
 
 void CWntColorSel::SetSelectedColorPanel(int colour) {
     if (!this)
         return;
-    if (wnt::begin_painting(out_)) {
-        const wnt::ColourGrid g = grid();
-        const int m = g.margin();
-        const int left = m + (hover_sample_ ? g.cell_width() : 0);
-        paint_cell(left, g.height - g.cell_height() + m, g.width - 1 - m - left, g.cell_height() - 1 - 2 * m, colour,
-                   true);
-        out_.endpaint();
-    }
+    const wnt::ColourGrid g = grid();
+    const int m = g.margin();
+    const int left = m + (hover_sample_ ? g.cell_width() : 0);
+    paint_sample(left, g.height - g.cell_height() + m, g.width - 1 - m - left, g.cell_height() - 1 - 2 * m, colour);
     if (item_colours_ && selected_item_ >= 0 && selected_item_ < item_count_)
         item_colours_[selected_item_] = colour;
 }
 
-BOOL CWntColorSel::OnEraseBkgnd(CDC*) {
-    return TRUE; // the surface and the list cover it
+// The children cover it but for a column that is left over where the halves of panel and list are rounded down.
+BOOL CWntColorSel::OnEraseBkgnd(CDC* dc) {
+    CRect client;
+    GetClientRect(&client);
+    dc->FillSolidRect(client.right - 1, 0, 1, client.bottom, ::GetSysColor(COLOR_BTNFACE));
+    return TRUE;
 }
 
 void CWntColorSel::OnPaint() {
     CPaintDC validate(this);
     WntTrace("WntColorSel::OnPaint()");
+    const wnt::SurfacePainting all(out_, painting_);
     PaintPanel(0);
-    ComputeSelectedColor();
+    if (hover_sample_) // asking for the mouse takes as long as half a paint
+        ComputeSelectedColor();
     SetSelectedColorPanel(selected_colour_);
 }
 

@@ -29,8 +29,8 @@ struct ZoomControl;
 ///
 /// Time values count hundredths of a second. Days count from 1 January 1980, which is day 1, in years of 365.25 days.
 ///
-/// Command 100 shows and hides a zoom control, command 101 opens the axis' properties. A double click is told to the
-/// parent by a notify message with code 103.
+/// Command 100 shows and hides a zoom control, whose slider the mouse moves without any effect on the range; command
+/// 101 opens the axis' properties. A double click is told to the parent by a notify message with code 103.
 class ZOPWNT_API CWntAxis : public CWnd {
 public:
     CWntAxis();
@@ -44,17 +44,19 @@ public:
     void SetFlags(int position, int gridCount, int type);
     void SetAxisPosition(int position);
     void SetAxisType(int type);
-    /// Number of grid steps across the axis.
+    /// Number of grid steps across the axis, until SetRange() or the next size of a numeric axis computes it anew.
     void SetTicks(int count);
 
-    /// Range of a numeric axis; its grid is computed anew.
+    /// Range of a numeric axis; its grid is computed for the current position and size.
     void SetRange(float minimum, float maximum);
     /// Range of a time axis; the type stays. The records that GetViewTime then copies hold the year less 1900.
     void SetRange(__int64 start, __int64 end);
-    /// Range of a time axis by full years; makes it one.
+    /// Range of a time axis by full years; makes it one. Shown with the next repaint. An upright axis shows labels only
+    /// for a range set by values.
     void SetViewTime(TAxisdatetime* start, TAxisdatetime* end);
     void GetViewTime(TAxisdatetime* start, TAxisdatetime* end);
-    /// One label a grid step. The array stays the host's and must outlive the axis or be replaced.
+    /// One label a grid step, which becomes 1, from 0 to count; the type stays. Ignored for no labels. The array stays
+    /// the host's and must outlive the axis or be replaced.
     void SetTexts(int count, CString* texts);
 
     /// Kept for derived classes; the axis does not show them.
@@ -65,7 +67,8 @@ public:
     void MakeRange();
     int GetGridCount();
     int GetScaleLineCount();
-    /// Pixel of labelled line i.
+    /// Pixel of labelled line i; one just outside for a line beyond the range. Lines of a text axis are counted from
+    /// the first labelled value of the last numeric grid.
     int GetScaleLinePos(int i);
     /// Pixels a grid step; 1 without a grid.
     float PixelPerGrid();
@@ -78,7 +81,8 @@ public:
     /// 1 on the axis, 0 beyond its ends, where the conversion goes on.
     int ScreenToValue(int pixel, float* value);
     int ScreenToValue(int pixel, __int64* time);
-    /// 0 in the range; -1 below and 1 above it, with the pixel just beyond that end.
+    /// 0 in the range; -1 below and 1 above it, with the pixel just beyond that end. The maximum of an upright axis
+    /// lies one pixel below its upper end.
     int ValueToScreen(float value, int* pixel);
     int ValueToScreen(__int64 time, int* pixel);
 
@@ -90,7 +94,8 @@ public:
     /// Pixel of a moment; at and beyond the ends the pixel just outside. Runs downwards on a vertical axis.
     int SetCurrentTime(__int64 time);
 
-    /// Label that was double-clicked last on a text axis.
+    /// Grid step that was double-clicked last on a text axis, counted from the left or from the top; a pixel without a
+    /// grid. Not bounded by the number of labels.
     int QueryDoubleclickedItem();
 
 protected:
@@ -122,9 +127,11 @@ protected:
     CString title_;
     CString value_title_;
     const char* position_description_ = "Tite1"; ///< Set when painted.
-    int flag_ = 1;                               ///< Kept for derived classes.
-    CFont title_font_;                           ///< 25 pixels high.
-    CFont value_font_;                           ///< 15 pixels high.
+    int flag_ = 1;                               ///< Kept for derived classes, like the pen and the fonts below.
+    BOOL engraved_ticks_ = TRUE;                 ///< Ticks of values have a highlight beside them.
+    CPen face_pen_;
+    CFont title_font_; ///< 25 pixels high.
+    CFont value_font_; ///< 15 pixels high.
 
 private:
     friend class CWntAxisProperties;
@@ -139,14 +146,13 @@ private:
     void show_zoom_cursor(CPoint point);
     void drag_zoom(CPoint point);
     bool open_properties();
+    void end_zoom_drag();
 
     int double_clicked_item_ = 0;
-    BOOL engraved_ticks_ = TRUE;
     CString* texts_ = nullptr;
     float shown_limits_[2] = {0.0f, 100.0f}; ///< What the properties show.
     CPen shadow_pen_;
     CPen highlight_pen_;
-    CPen face_pen_;
     CFont label_font_; ///< 10 pixels high.
     std::unique_ptr<wnt::AxisModel> model_;
     std::unique_ptr<wnt::ZoomControl> zoom_;

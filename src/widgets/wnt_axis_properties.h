@@ -6,7 +6,8 @@
 
 class CWntAxis;
 
-/// Shows the limits and the orientation of an axis. Whatever is entered, the axis stays as it is.
+/// The dialog of an axis' command 101. Its fields show 0, 100 and 0 for every axis, its box is checked for an axis
+/// below or right of the plot. Whatever is entered, the axis stays as it is.
 class ZOPWNT_API CWntAxisProperties : public CDialog {
 public:
     explicit CWntAxisProperties(CWnd* parent);

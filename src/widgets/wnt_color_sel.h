@@ -3,11 +3,14 @@
 #include <afxcmn.h>
 #include <afxwin.h>
 
+#include <memory>
+
 #include "out/wnt_out.h"
 #include "zopwnt_api.h"
 
 namespace wnt {
 struct ColourGrid;
+class SurfaceBuffer;
 } // namespace wnt
 
 /// Picks one colour of a palette, shown as a grid of eight columns under a sample strip; on request with three sliders
@@ -18,11 +21,12 @@ struct ColourGrid;
 ///     colours.SetColorPalette(table, 16);
 ///     // in the parent: ON_NOTIFY(1, 5, OnColour), then colours.GetSelectedColorID()
 ///
-/// A pick is told by a notify message to the parent with code 1. The palette and the arrays of the items belong to the
-/// host and must outlive their use; the selector writes picked colours into the array of item colours.
+/// A pick is told by a notify message to the parent with code 1. The palette and the array of the items' colours belong
+/// to the host and must outlive their use; the names are copied. Every paint and every pick writes the selected colour
+/// into the selected item's entry, -1 or a number past the palette included where such a place was clicked.
 class ZOPWNT_API CWntColorSel : public CWnd {
 public:
-    CWntColorSel() = default;
+    CWntColorSel();
     ~CWntColorSel() override;
 
     CWntColorSel(const CWntColorSel&) = delete;
@@ -30,8 +34,10 @@ public:
 
     /// Ignored for null or a count of 0.
     void SetColorPalette(DWORD* colours, int count);
-    /// Names are added to those in the list. Without one of the three: palette only.
+    /// For a created selector. Names are added to those in the list; without one of the three: palette only. The first
+    /// item is the selected one: follow with SetSelectedColorID() of its colour, which the next paint writes into it.
     void SetColorItems(char** names, int* colours, int count);
+    /// Selects a colour and gives it to the selected item.
     void SetSelectedColorID(int index);
     int GetSelectedColorID();
     /// The entry of the item colours at the selected colour (not at the selected item); 0 when there is none.
@@ -45,8 +51,9 @@ public:
     /// Shows a colour in the sample strip and gives it to the selected item.
     void SetSelectedColorPanel(int colour);
 
-    /// Three switches, off in a new window: sliders for red, green and blue; cells with a 3-D edge; the colour under
-    /// the mouse at the left of the sample strip. Each lays the selector out anew.
+    /// Three switches, off in a new window and for a created selector: sliders for red, green and blue; cells with a
+    /// 3-D edge; the colour under the mouse at the left of the sample strip. Sliders without items cut off the panel's
+    /// right columns, because its cells are laid out for the whole width.
     void ShowSliders(int on);
     void Set3DCells(int on);
     void SetHoverSample(int on);
@@ -66,6 +73,7 @@ protected:
 
 private:
     wnt::ColourGrid grid();
+    void paint_sample(int x, int y, int width, int height, int colour);
     void paint_cell(int x, int y, int width, int height, int colour, bool edged);
     void lay_out();
 
@@ -75,6 +83,7 @@ private:
     int panel_width_ = 0;
     int panel_height_ = 0;
     CWntOut out_;
+    std::unique_ptr<wnt::SurfaceBuffer> painting_; // while a painter runs
     CListBox list_;
     int cells_3d_ = 0;
     int no_items_ = 1;

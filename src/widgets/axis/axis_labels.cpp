@@ -1,7 +1,9 @@
 #include "widgets/axis/axis_labels.h"
 
+#include <charconv>
 #include <cmath>
 #include <cstdio>
+#include <iterator>
 
 namespace wnt {
 
@@ -16,19 +18,19 @@ template <class... Values> std::string printed(const char* format, Values... val
     return text;
 }
 
-const char* numeric_format(float value) {
+int decimals(float value) {
     const float size = std::fabs(value);
     if (size < 1)
-        return "%1.4f";
-    if (size < 10)
-        return "%2.3f";
-    return size < 100 ? "%3.2f" : "%4.2f";
+        return 4;
+    return size < 10 ? 3 : 2;
 }
 
 } // namespace
 
 std::string numeric_label(float value) {
-    std::string text = printed(numeric_format(value), static_cast<double>(value));
+    char digits[longest_axis_label]; // holds the largest float
+    const auto end = std::to_chars(digits, std::end(digits), value, std::chars_format::fixed, decimals(value));
+    std::string text(digits, end.ptr);
     if (text.find('.') == std::string::npos)
         return text;
     while (text.size() > 2 && text.back() == '0')

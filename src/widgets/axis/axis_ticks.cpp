@@ -65,15 +65,20 @@ private:
 
 std::vector<AxisTick> value_ticks(const AxisModel& axis, const AxisTexts& texts) {
     std::vector<AxisTick> ticks;
+    ticks.reserve(64);
     const std::int64_t stride = stride_of(axis);
     int side = 0;
     for (std::int64_t i = 0; i < axis.grid.count && side <= 0; i += stride) {
         const float value = static_cast<float>(i) * axis.grid.step + axis.grid.first_value;
         std::int32_t pixel = 0;
         side = axis.value_to_screen(value, &pixel);
-        if (!ticks.empty() && ticks.back().pixel == pixel)
-            continue;
-        if (axis.type == axis_text || is_scale_line(value, axis.grid.step))
+        const bool major = axis.type == axis_text || is_scale_line(value, axis.grid.step);
+        if (!ticks.empty() && ticks.back().pixel == pixel) {
+            if (!major || ticks.back().length == major_length)
+                continue;
+            ticks.pop_back(); // the label stays
+        }
+        if (major)
             ticks.push_back({pixel, major_length, value_label(axis, texts, i, value, pixel)});
         else
             ticks.push_back({pixel, minor_length, {}});

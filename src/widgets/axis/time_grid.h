@@ -16,7 +16,7 @@ enum class TimeLabel { none, seconds, minutes, hours, date, month_name, month_nu
 /// How a time axis shows spans of one size.
 struct TimeLevel {
     std::int32_t level;
-    std::int32_t label_group;
+    std::int32_t label_group; ///< Kept with the level; labels follow `label`.
     std::int32_t tick_length; ///< Pixels.
     std::int32_t numerator;
     std::int32_t divisor;

@@ -25,11 +25,11 @@ void move(Stretch slider, const Stretch& box, std::int32_t way) {
     slider.start = std::min(slider.start, std::max(slider.end - 2 * grip, box.start)); // always room to grip it
 }
 
-void enlarge(Stretch slider, bool far_end, std::int32_t at) {
+void enlarge(Stretch slider, const Stretch& box, bool far_end, std::int32_t at) {
     if (far_end)
-        slider.end = std::max(at, slider.start + 2 * grip);
+        slider.end = std::min(std::max(at, slider.start + 2 * grip), box.end);
     else
-        slider.start = std::min(at, slider.end - 2 * grip);
+        slider.start = std::max(std::min(at, slider.end - 2 * grip), box.start);
 }
 
 } // namespace
@@ -63,6 +63,7 @@ bool ZoomControl::hit(std::int32_t x, std::int32_t y) const {
 ZoomGrip ZoomControl::hover(bool horizontal, std::int32_t x, std::int32_t y) {
     const Stretch s = along(slider, horizontal);
     const std::int32_t at = horizontal ? x : y;
+    enlarging = false;
     if (at < s.start || at >= s.end)
         return ZoomGrip::none;
     far_end = at >= s.start + grip;
@@ -74,7 +75,7 @@ void ZoomControl::drag(bool horizontal, std::int32_t x, std::int32_t y) {
     const std::int32_t at = horizontal ? x : y;
     const Stretch s = along(slider, horizontal);
     if (enlarging)
-        enlarge(s, far_end, at);
+        enlarge(s, along(box, horizontal), far_end, at);
     else
         move(s, along(box, horizontal), at - (horizontal ? last_x : last_y));
     last_x = x;

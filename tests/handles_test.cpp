@@ -1,0 +1,137 @@
+// Widgets give back what they take: drawing objects and windows are counted over many lives and repaints.
+#include "widget_window.h"
+
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace {
+
+// Windows, menus and cursors share one table whose free places are used again: the highest place that a handful of
+// new objects gets tells how full it is. GetGuiResources answers 0 on some systems.
+int user_objects() {
+    constexpr int probes = 64;
+    HMENU menus[probes];
+    int highest = 0;
+    for (HMENU& menu : menus) {
+        menu = ::CreateMenu();
+        highest = std::max<int>(highest, LOWORD(reinterpret_cast<UINT_PTR>(menu)) / 2);
+    }
+    for (HMENU menu : menus)
+        ::DestroyMenu(menu);
+    return highest;
+}
+
+struct Counts {
+    int gdi = live_gdi_objects();
+    int user = user_objects();
+};
+
+struct Kind {
+    const char* name;
+    std::function<std::unique_ptr<CWnd>()> make;
+    int looks = 1; // of the widget, which share its lives
+    std::function<void(CWnd&)> prepare = [](CWnd&) {};
+};
+
+Kind gauge(const char* type) {
+    return {type, [] { return std::make_unique<CWntGauge>(); }, 6,
+            [type](CWnd& widget) {
+                static_cast<CWntGauge&>(widget).LoadLine((std::string(":TYPE=") + type).c_str(), 0);
+                static_cast<CWntGauge&>(widget).LoadLine("", 2);
+            }};
+}
+
+Kind axis(const char* name, int type) {
+    return {name, [] { return std::make_unique<CWntAxis>(); }, 3,
+            [type](CWnd& widget) {
+                static CString texts[2] = {"one", "two"};
+                auto& shown = static_cast<CWntAxis&>(widget);
+                shown.SetFlags(2, 100, type);
+                if (type == 1)
+                    shown.SetTexts(2, texts);
+                if (type == 2)
+                    shown.SetRange(1'000'000'000LL, 1'010'000'000LL);
+            }};
+}
+
+template <class Widget> Kind kind(const char* name) {
+    return {name, [] { return std::make_unique<Widget>(); }};
+}
+
+std::vector<Kind> all_kinds() {
+    return {kind<CWntOut>("surface"),
+            kind<CWntButton>("button"),
+            gauge("PERCENTBAR"),
+            gauge("THERMOMETER"),
+            gauge("ANALOG"),
+            gauge("DIGITAL"),
+            gauge("PEAKLINE"),
+            gauge("TURNKNOB"),
+            axis("numeric axis", 0),
+            axis("text axis", 1),
+            axis("time axis", 2),
+            kind<CWntCalendar>("calendar"),
+            kind<CWntColorSel>("colour selector"),
+            kind<CWntTrace>("trace")};
+}
+
+class HandlesTest : public WidgetTest {
+protected:
+    std::unique_ptr<CWnd> opened(const Kind& kind) {
+        auto widget = kind.make();
+        EXPECT_TRUE(widget->Create(nullptr, "Widget", WS_CHILD | WS_VISIBLE, CRect(0, 0, 60, 60), &host_, 1));
+        kind.prepare(*widget);
+        full_repaint(*widget);
+        return widget;
+    }
+
+    static void expect_same(const Counts& before, const char* what) {
+        const Counts after;
+        EXPECT_LT(after.gdi - before.gdi, tolerance) << what;
+        EXPECT_LT(after.user - before.user, tolerance) << what;
+    }
+
+    // Far below one object for each of thousands of rounds; caches of the system may fill.
+    static constexpr int tolerance = 20;
+};
+
+TEST_F(HandlesTest, TheCountsSeeALeak) {
+    const Counts before;
+    std::vector<HGDIOBJ> pens;
+    std::vector<std::unique_ptr<CWnd>> windows;
+    for (int i = 0; i < 100; ++i) {
+        pens.push_back(::CreatePen(PS_SOLID, 1, RGB(i, 0, 0)));
+        windows.push_back(std::make_unique<CWnd>());
+        ASSERT_TRUE(windows.back()->Create(nullptr, "", WS_CHILD, CRect(0, 0, 1, 1), &host_, 1));
+    }
+    const Counts leaked;
+    EXPECT_GE(leaked.gdi - before.gdi, 100);
+    EXPECT_GE(leaked.user - before.user, 100 - 64);
+    for (HGDIOBJ pen : pens)
+        ::DeleteObject(pen);
+    for (auto& window : windows)
+        window->DestroyWindow();
+}
+
+TEST_F(HandlesTest, LivesGiveEverythingBack) {
+    for (const Kind& kind : all_kinds()) {
+        opened(kind); // what is made once
+        const Counts before;
+        for (int i = 0; i < 1000 / kind.looks + 1; ++i)
+            opened(kind);
+        expect_same(before, kind.name);
+    }
+}
+
+TEST_F(HandlesTest, RepaintsGiveEverythingBack) {
+    for (const Kind& kind : all_kinds()) {
+        const auto widget = opened(kind);
+        const Counts before;
+        for (int i = 0; i < 10'000; ++i)
+            full_repaint(*widget);
+        expect_same(before, kind.name);
+    }
+}
+
+} // namespace
