@@ -8,6 +8,7 @@
 #include "render.h"
 
 // zopgallery [--no-splash] [--page NAME] [FILE...]      shows the pages; each FILE is an attribute script
+//                                                       or a bitmap (.bmp, .dib)
 // zopgallery --render DIR [--size WxH] [FILE...]        paints pages and scripts into DIR and ends
 
 namespace {
@@ -15,7 +16,7 @@ namespace {
 constexpr UINT splash_time = 2000; // milliseconds
 
 struct CommandLine {
-    std::vector<CString> scripts;
+    NamedFiles files;
     bool splash = true;
     CString page;
     bool render = false;
@@ -39,6 +40,11 @@ bool read_size(const char* text, CSize& size) {
     return true;
 }
 
+std::vector<CString>& files_for(const CString& name, NamedFiles& files) {
+    const CString end = name.Right(4);
+    return end.CompareNoCase(".bmp") == 0 || end.CompareNoCase(".dib") == 0 ? files.pictures : files.scripts;
+}
+
 CommandLine read_command_line(int count, char** arguments) {
     CommandLine line;
     for (int i = 1; i < count; ++i) {
@@ -57,7 +63,7 @@ CommandLine read_command_line(int count, char** arguments) {
         } else if (size) {
             line.good = line.good && read_size(arguments[i], line.size);
         } else {
-            line.scripts.push_back(arguments[i]);
+            files_for(arguments[i], line.files).push_back(arguments[i]);
         }
     }
     line.good = line.good && (!line.render || !line.render_to.IsEmpty()) && (line.render || line.size.cx == 0);
@@ -73,16 +79,16 @@ public:
             return Fail();
         }
         if (line.render) {
-            result_ = RenderGallery(line.render_to, line.size, line.scripts) ? 0 : 1;
+            result_ = RenderGallery(line.render_to, line.size, line.files) ? 0 : 1;
             return FALSE;
         }
-        auto* frame = new CGalleryFrame(line.scripts);
+        auto* frame = new CGalleryFrame(line.files);
         if (!frame->Open()) // it deletes itself
             return Fail();
         m_pMainWnd = frame;
         frame->SetIcon(LoadIcon("ZOP"), TRUE);
-        frame->ShowPage(line.scripts.empty() ? 2 : 3);
-        frame->ShowPage(frame->PageNamed(line.page));
+        frame->ShowPage(!line.files.scripts.empty() ? "scripts" : !line.files.pictures.empty() ? "bitmap" : "gauges");
+        frame->ShowPage(line.page);
         frame->ShowWindow(m_nCmdShow);
         frame->UpdateWindow();
         if (line.splash)

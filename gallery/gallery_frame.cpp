@@ -1,6 +1,7 @@
 #include "gallery_frame.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace {
 
@@ -18,7 +19,7 @@ ON_LBN_SELCHANGE(list_id, &CGalleryFrame::OnSelectPage)
 ON_BN_CLICKED(print_id, &CGalleryFrame::OnPrint)
 END_MESSAGE_MAP()
 
-CGalleryFrame::CGalleryFrame(const std::vector<CString>& scripts) : pages_(MakePages(scripts)) {}
+CGalleryFrame::CGalleryFrame(const NamedFiles& files) : pages_(MakePages(files)) {}
 
 bool CGalleryFrame::Open() {
     return Create(nullptr, "ZOPWNT gallery", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CRect(40, 40, 1000, 680));
@@ -72,14 +73,13 @@ void CGalleryFrame::ShowPage(int index) {
     list_.SetCurSel(index);
 }
 
-void CGalleryFrame::OnSelectPage() {
-    ShowPage(list_.GetCurSel());
+void CGalleryFrame::ShowPage(const char* name) {
+    const auto named = [name](const auto& page) { return std::strcmp(page->Name(), name) == 0; };
+    ShowPage(static_cast<int>(std::find_if(pages_.begin(), pages_.end(), named) - pages_.begin()));
 }
 
-int CGalleryFrame::PageNamed(const CString& name) const {
-    const auto found =
-        std::find_if(pages_.begin(), pages_.end(), [&](const auto& page) { return name == page->Name(); });
-    return found == pages_.end() ? -1 : static_cast<int>(found - pages_.begin());
+void CGalleryFrame::OnSelectPage() {
+    ShowPage(list_.GetCurSel());
 }
 
 void CGalleryFrame::OnPrint() {

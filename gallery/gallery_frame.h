@@ -5,12 +5,12 @@
 /// The gallery's main window: the list of pages at the left, the chosen one at the right.
 class CGalleryFrame : public CFrameWnd {
 public:
-    explicit CGalleryFrame(const std::vector<CString>& scripts);
+    explicit CGalleryFrame(const NamedFiles& files);
 
     bool Open();
     void ShowPage(int index);
-    /// The page's index, or -1.
-    int PageNamed(const CString& name) const;
+    /// A page that is not there changes nothing.
+    void ShowPage(const char* name);
 
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT create);

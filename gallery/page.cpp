@@ -57,12 +57,12 @@ void CSurfacePage::OnDestroy() {
     CGalleryPage::OnDestroy();
 }
 
-GalleryPages MakePages(const std::vector<CString>& scripts) {
+GalleryPages MakePages(const NamedFiles& files) {
     GalleryPages pages;
     pages.push_back(MakeSurfacePage());
     pages.push_back(MakeTextPage());
     pages.push_back(MakeGaugesPage());
-    pages.push_back(MakeScriptsPage(scripts));
+    pages.push_back(MakeScriptsPage(files.scripts));
     pages.push_back(MakeButtonsPage());
     pages.push_back(MakeScrollBarsPage());
     pages.push_back(MakePulsePage());
@@ -72,5 +72,8 @@ GalleryPages MakePages(const std::vector<CString>& scripts) {
     pages.push_back(MakeDialogsPage());
     pages.push_back(MakeSoundsPage());
     pages.push_back(MakeSharingPage());
+    pages.push_back(MakeBitmapPage(files.pictures));
+    pages.push_back(MakeBitmapDrawingPage());
+    pages.push_back(MakePalettePage());
     return pages;
 }

@@ -65,6 +65,12 @@ private:
     Painter painter_;
 };
 
+/// The files that were named at start.
+struct NamedFiles {
+    std::vector<CString> scripts;
+    std::vector<CString> pictures; ///< bitmap files
+};
+
 using GalleryPages = std::vector<std::unique_ptr<CGalleryPage>>;
 
 /// Hands each line of a script to a widget's line operation.
@@ -86,7 +92,10 @@ std::unique_ptr<CGalleryPage> MakeAxesPage();
 std::unique_ptr<CGalleryPage> MakeDialogsPage();
 std::unique_ptr<CGalleryPage> MakeSoundsPage();
 std::unique_ptr<CGalleryPage> MakeSharingPage();
+std::unique_ptr<CGalleryPage> MakeBitmapPage(const std::vector<CString>& pictures);
+std::unique_ptr<CGalleryPage> MakeBitmapDrawingPage();
+std::unique_ptr<CGalleryPage> MakePalettePage();
 std::unique_ptr<CGalleryPage> MakeScriptsPage(const std::vector<CString>& scripts);
 
 /// All pages, in the order of the list.
-GalleryPages MakePages(const std::vector<CString>& scripts);
+GalleryPages MakePages(const NamedFiles& files);

@@ -53,9 +53,9 @@ CString BaseName(const CString& path) {
     return dot > 0 ? name.Left(dot) : name;
 }
 
-bool RenderPages(const CString& folder, CSize size, const std::vector<CString>& scripts) {
+bool RenderPages(const CString& folder, CSize size, const NamedFiles& files) {
     bool good = true;
-    for (const auto& page : MakePages(scripts)) {
+    for (const auto& page : MakePages(files)) {
         CStudio studio;
         if (!studio.Open(size) || !page->Open(&studio, CRect(CPoint(0, 0), size)))
             return false;
@@ -99,11 +99,12 @@ bool RenderScript(const CString& file, CSize size, const CString& script) {
 
 } // namespace
 
-bool RenderGallery(const CString& folder, CSize size, const std::vector<CString>& scripts) {
+bool RenderGallery(const CString& folder, CSize size, const NamedFiles& files) {
     ::CreateDirectoryA(folder, nullptr);
     const bool own = size.cx == 0;
-    bool good = RenderPages(folder, own ? page_size : size, scripts);
-    for (const CString& script : scripts)
-        good &= RenderScript(folder + "\\" + PictureName(script, scripts) + ".png", own ? gauge_size : size, script);
+    bool good = RenderPages(folder, own ? page_size : size, files);
+    for (const CString& script : files.scripts)
+        good &=
+            RenderScript(folder + "\\" + PictureName(script, files.scripts) + ".png", own ? gauge_size : size, script);
     return good;
 }

@@ -4,6 +4,9 @@
 
 #include <afxwin.h>
 
+#include "bitmap/dib_file.h"
+#include "bitmap/wnt_bitmap.h"
+#include "bitmap/wnt_bitmap_palette.h"
 #include "controls/wnt_scroll_bar.h"
 #include "controls/wnt_ulist.h"
 #include "diag/wnt_error_box.h"

@@ -9,4 +9,5 @@
 #include "afx_module.h"
 #include "afx_exception.h"
 #include "afx_file.h"
+#include "afx_archive.h"
 #include "atltime.h"

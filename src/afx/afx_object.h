@@ -87,12 +87,16 @@ public:                                                                         
 #define IMPLEMENT_DYNAMIC(class_name, base_class_name)                                                                 \
     AFX_IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, 0xFFFF, nullptr)
 
-#define IMPLEMENT_DYNCREATE(class_name, base_class_name)                                                               \
+#define DECLARE_SERIAL(class_name) DECLARE_DYNCREATE(class_name)
+
+#define IMPLEMENT_SERIAL(class_name, base_class_name, schema)                                                          \
     CObject* PASCAL class_name::CreateObject() {                                                                       \
         return new class_name;                                                                                         \
     }                                                                                                                  \
-    AFX_IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, 0xFFFF, class_name::CreateObject)                          \
+    AFX_IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, schema, class_name::CreateObject)                          \
     static const AFX_CLASSINIT _init_##class_name(RUNTIME_CLASS(class_name));
+
+#define IMPLEMENT_DYNCREATE(class_name, base_class_name) IMPLEMENT_SERIAL(class_name, base_class_name, 0xFFFF)
 
 // The object as class_name, or null where it is of another kind.
 ZOPAFX_API CObject* AFXAPI AfxDynamicDownCast(CRuntimeClass* pClass, CObject* pObject);

@@ -1,0 +1,6 @@
+#include "afx_archive.h"
+
+void CArchive::Flush() {
+    if (IsStoring())
+        m_pFile->Flush();
+}

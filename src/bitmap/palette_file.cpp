@@ -1,0 +1,119 @@
+// Loading and saving of CWntBitmapPalette.
+#include "bitmap/bitmap_format.h"
+#include "bitmap/file_choice.h"
+#include "bitmap/log_palette.h"
+#include "bitmap/wnt_bitmap_palette.h"
+
+namespace {
+
+constexpr WORD palette_version = 0x300;
+constexpr FOURCC palette_form = mmioFOURCC('P', 'A', 'L', ' ');
+constexpr FOURCC data_id = mmioFOURCC('d', 'a', 't', 'a');
+constexpr char filter[] = "Palette files (*.PAL)|*.PAL|All files (*.*)|*.*||";
+
+// The multimedia layer over an open file, which stays open.
+class OverFile {
+public:
+    OverFile(HANDLE file, DWORD mode) {
+        MMIOINFO info = {};
+        info.adwInfo[0] = static_cast<DWORD>(reinterpret_cast<ULONG_PTR>(file));
+        if (file && file != INVALID_HANDLE_VALUE)
+            riff_ = ::mmioOpenA(nullptr, &info, mode | MMIO_ALLOCBUF);
+    }
+    ~OverFile() {
+        if (riff_)
+            ::mmioClose(riff_, MMIO_FHOPEN);
+    }
+    OverFile(const OverFile&) = delete;
+    OverFile& operator=(const OverFile&) = delete;
+    HMMIO riff() const { return riff_; }
+
+private:
+    HMMIO riff_ = nullptr;
+};
+
+// Whether the file holds the whole chunk; its data come next.
+bool holds(HMMIO riff, const MMCKINFO& chunk) {
+    const LONG end = ::mmioSeek(riff, 0, SEEK_END);
+    const LONG begin = ::mmioSeek(riff, static_cast<LONG>(chunk.dwDataOffset), SEEK_SET);
+    return begin >= 0 && end >= begin && chunk.cksize <= static_cast<DWORD>(end - begin);
+}
+
+bool find_data(HMMIO riff, MMCKINFO& data) {
+    MMCKINFO form = {};
+    form.fccType = palette_form;
+    data.ckid = data_id;
+    return riff && ::mmioDescend(riff, &form, nullptr, MMIO_FINDRIFF) == MMSYSERR_NOERROR &&
+           ::mmioDescend(riff, &data, &form, MMIO_FINDCHUNK) == MMSYSERR_NOERROR;
+}
+
+bool write_palette(HMMIO riff, const wnt::LogPalette& colours) {
+    MMCKINFO form = {};
+    form.fccType = palette_form;
+    MMCKINFO data = {};
+    data.ckid = data_id;
+    data.cksize = colours.size();
+    const LONG size = static_cast<LONG>(colours.size());
+    return ::mmioCreateChunk(riff, &form, MMIO_CREATERIFF) == MMSYSERR_NOERROR &&
+           ::mmioCreateChunk(riff, &data, 0) == MMSYSERR_NOERROR &&
+           ::mmioWrite(riff, reinterpret_cast<const char*>(colours.get()), size) == size &&
+           ::mmioAscend(riff, &data, 0) == MMSYSERR_NOERROR && ::mmioAscend(riff, &form, 0) == MMSYSERR_NOERROR;
+}
+
+} // namespace
+
+BOOL CWntBitmapPalette::Load(HMMIO riff) {
+    MMCKINFO data = {};
+    if (!find_data(riff, data) || data.cksize < wnt::LogPalette::bytes_of(1) || !holds(riff, data))
+        return FALSE;
+    const wnt::HeapBytes block = wnt::zeroed_bytes(data.cksize);
+    const LONG size = static_cast<LONG>(data.cksize);
+    if (!block || ::mmioRead(riff, reinterpret_cast<char*>(block.get()), size) != size)
+        return FALSE;
+    auto* colours = reinterpret_cast<LOGPALETTE*>(block.get());
+    if (colours->palVersion != palette_version || colours->palNumEntries == 0 ||
+        wnt::LogPalette::bytes_of(colours->palNumEntries) > data.cksize)
+        return FALSE;
+    return replace(colours);
+}
+
+BOOL CWntBitmapPalette::Save(HMMIO riff) const {
+    const wnt::LogPalette colours(static_cast<UINT>(GetNumColors()));
+    if (!riff || !colours.get())
+        return FALSE;
+    GetPaletteEntries(0, colours.get()->palNumEntries, colours.get()->palPalEntry);
+    return write_palette(riff, colours);
+}
+
+BOOL CWntBitmapPalette::Load(HANDLE file) {
+    const OverFile layer(file, MMIO_READ);
+    return layer.riff() && Load(layer.riff());
+}
+
+BOOL CWntBitmapPalette::Save(HANDLE file) const {
+    const OverFile layer(file, MMIO_WRITE);
+    return layer.riff() && Save(layer.riff());
+}
+
+BOOL CWntBitmapPalette::Load(CFile* file) {
+    return file && Load(static_cast<HANDLE>(file->m_hFile));
+}
+
+BOOL CWntBitmapPalette::Save(CFile* file) const {
+    return file && Save(static_cast<HANDLE>(file->m_hFile));
+}
+
+BOOL CWntBitmapPalette::Load(LPCTSTR path) {
+    const CString name = wnt::chosen_path(path, true, filter);
+    if (name.IsEmpty())
+        return FALSE;
+    CFile file;
+    if (!file.Open(name, CFile::modeRead | CFile::shareDenyWrite)) {
+        AfxMessageBox("Failed to open file");
+        return FALSE;
+    }
+    if (Load(&file))
+        return TRUE;
+    AfxMessageBox("Failed to load file");
+    return FALSE;
+}

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <afxwin.h>
+
+#include "zopwnt_api.h"
+
+/// A bitmap in plain memory, made for 8 bits a pixel with 256 colours: loaded from bitmap files, resources and
+/// archives, drawn, copied in blocks and mapped to a palette. New bitmaps are 16 x 16 and grey.
+///
+///     CWntBitmap picture;
+///     if (picture.Load("boiler.bmp"))
+///         picture.Draw(&dc, 10, 10);
+///
+/// Rows are padded to four bytes of 8-bit pixels, the lower row first. Other depths are loaded and drawn; what handles
+/// single pixels takes a byte for a pixel. Operations answer 1 for success and 0 for failure; a failed load leaves the
+/// bitmap as it was. Loading and saving by path and from archives go through the operations on file objects.
+class ZOPWNT_API CWntBitmap : public CObject {
+    DECLARE_SERIAL(CWntBitmap)
+
+public:
+    CWntBitmap();
+    ~CWntBitmap() override;
+
+    void Serialize(CArchive& archive) override;
+
+    /// Null or an empty path asks the user. A file that cannot be opened is refused silently.
+    virtual BOOL Load(LPCTSTR path);
+    virtual BOOL Load(CFile* file);
+    virtual BOOL Save(CFile* file);
+    /// Null or an empty path asks the user; failures are shown in a message box.
+    virtual BOOL Save(LPCTSTR path);
+    /// Stretched to cx x cy pixels.
+    virtual void Draw(CDC* dc, int x, int y, int cx, int cy);
+    virtual void Draw(CDC* dc, int x, int y);
+    virtual int GetWidth();
+    /// Negative where the upper row comes first.
+    virtual int GetHeight();
+    /// Replaces each pixel by the nearest colour of the palette, whose first 256 colours become the bitmap's.
+    virtual BOOL MapColorsToPalette(CPalette* palette);
+    virtual void GetRect(CRect* rect);
+    /// Copies the w x h block at (xs, ys) to (xd, yd) of a bitmap, y counting downwards, row by row from the lowest
+    /// one. Pixels equal to the low byte of `transparent` are left out, except by 0xFFFFFFFF. Not clipped: a block that
+    /// is not inside both bitmaps is not copied.
+    virtual void CopyBits(CWntBitmap* destination, int xd, int yd, int w, int h, int xs, int ys, DWORD transparent);
+
+    /// A blank bitmap of 8 bits with a ramp of greys.
+    BOOL Create(int width, int height);
+    /// Copies the header and its colours; the pixels stay the caller's and must outlive their use.
+    BOOL Create(BITMAPINFO* info, void* bits);
+    /// A bitmap file that is a resource of the type "DIB" or a standard bitmap's, the library's first, then the
+    /// program's. The pixels are used where they lie.
+    BOOL Load(UINT id);
+
+    BITMAPINFO* GetBitmapInfoAddress() const { return m_pBMI; }
+    void* GetBitsAddress() const { return m_pBits; }
+    RGBQUAD* GetClrTabAddress() const { return m_pBMI ? m_pBMI->bmiColors : nullptr; }
+    UINT GetNumClrEntries() const;
+    /// The place of a pixel, y counting downwards from 0; null right of and below the bitmap. Values below 0 are the
+    /// caller's to avoid.
+    BYTE* GetPixelAddress(int x, int y) const;
+    /// The length of a row in bytes.
+    UINT StorageWidth() const;
+
+private:
+    void take(BITMAPINFO* info, BYTE* bits, BOOL own, ULONGLONG size);
+    void release();
+    BOOL load_file(CFile& file);
+    void save_file(CFile& file);
+    BOOL load_data(BYTE* data, DWORD size);
+    bool holds_block(int x, int y, int w, int h) const;
+    ULONGLONG stored_bytes() const;
+
+    BITMAPINFO* m_pBMI = nullptr;
+    BYTE* m_pBits = nullptr;
+    BOOL m_bMyBits = TRUE;
+    ULONGLONG m_bits_size = 0; // what the pixel buffer holds, whatever the header says
+};

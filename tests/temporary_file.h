@@ -1,0 +1,30 @@
+// A file that tests write and read back; it goes with the object.
+#pragma once
+
+#include <cstdio>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+class TemporaryFile {
+public:
+    explicit TemporaryFile(const std::vector<std::uint8_t>& bytes = {}) { write(bytes); }
+    ~TemporaryFile() { std::remove(name()); }
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+    const char* name() const { return "temporary_test_file.tmp"; }
+    void write(const std::vector<std::uint8_t>& bytes) const {
+        std::ofstream(name(), std::ios::binary)
+            .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    }
+    std::string text() const {
+        std::ifstream file(name(), std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+    std::vector<std::uint8_t> bytes() const {
+        const std::string all = text();
+        return {all.begin(), all.end()};
+    }
+};
