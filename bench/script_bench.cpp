@@ -3,11 +3,12 @@
 #include "script/script_file.h"
 #include "widgets/gauge_model.h"
 
+#include "compare.h"
+
 #include <benchmark/benchmark.h>
 #include <ini.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
@@ -67,46 +68,18 @@ int parse_ini() {
     return settings;
 }
 
-void report(benchmark::State& state, const std::string& text) {
-    const auto lines = static_cast<std::int64_t>(gauge_built_in_script.size()) * repeats;
-    state.SetItemsProcessed(state.iterations() * lines);
-    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.size()));
+// In bytes.
+void gauge_script_against_inih(benchmark::State& state) {
+    compare(
+        state, static_cast<double>(script.size()),
+        [] {
+            GaugeModel model;
+            benchmark::DoNotOptimize(parse_script(model));
+            benchmark::DoNotOptimize(model);
+        },
+        [] { benchmark::DoNotOptimize(parse_ini()); }, static_cast<double>(ini.size()));
 }
-
-void gauge_script(benchmark::State& state) {
-    for (auto _ : state) {
-        GaugeModel model;
-        benchmark::DoNotOptimize(parse_script(model));
-        benchmark::DoNotOptimize(model);
-    }
-    report(state, script);
-}
-BENCHMARK(gauge_script);
-
-void ini_yardstick(benchmark::State& state) {
-    for (auto _ : state)
-        benchmark::DoNotOptimize(parse_ini());
-    report(state, ini);
-}
-BENCHMARK(ini_yardstick);
-
-template <class Work> double seconds(Work work) {
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
-// Both in one loop, so that a busy machine slows both alike; bytes a second of the model over the yardstick's.
-void speed_ratio(benchmark::State& state) {
-    double ours = 0, theirs = 0;
-    for (auto _ : state) {
-        GaugeModel model;
-        ours += seconds([&] { benchmark::DoNotOptimize(parse_script(model)); });
-        theirs += seconds([] { benchmark::DoNotOptimize(parse_ini()); });
-    }
-    state.counters["ratio"] = (theirs / ini.size()) / (ours / script.size());
-}
-BENCHMARK(speed_ratio);
+BENCHMARK(gauge_script_against_inih)->Name("gauge_script/bytes/libinih");
 
 // What is timed does its work.
 void check_work() {

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <string>
 
+#include "log.h"
 #include "page.h"
 
 // Buttons in every border type, title style, alignment, frame and side set. Press them: the line under each tells its
@@ -105,6 +106,7 @@ private:
             if (state == shown_[i])
                 continue;
             shown_[i] = state;
+            Log("button %d %s", 10 + i, state);
             states_[i].SetWindowText(state);
         }
     }

@@ -1,13 +1,18 @@
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 #include <memory>
+#include <utility>
 
 #include "gallery_frame.h"
 #include "gallery_ids.h"
+#include "log.h"
 #include "render.h"
 
-// zopgallery [--no-splash] [--page NAME] [FILE...]      shows the pages; each FILE is an attribute script
+// zopgallery [--no-splash] [--page NAME] [--log LOG] [FILE...]
+//                                                       shows the pages; each FILE is an attribute script
 //                                                       or a bitmap (.bmp, .dib)
 // zopgallery --render DIR [--size WxH] [FILE...]        paints pages and scripts into DIR and ends
 
@@ -19,7 +24,7 @@ struct CommandLine {
     NamedFiles files;
     bool splash = true;
     CString page;
-    bool render = false;
+    CString log;
     CString render_to;
     CSize size = {0, 0};
     bool good = true;
@@ -47,26 +52,23 @@ std::vector<CString>& files_for(const CString& name, NamedFiles& files) {
 
 CommandLine read_command_line(int count, char** arguments) {
     CommandLine line;
+    CString size;
+    const std::pair<const char*, CString*> options[] = {
+        {"--render", &line.render_to}, {"--size", &size}, {"--page", &line.page}, {"--log", &line.log}};
     for (int i = 1; i < count; ++i) {
-        const bool render = std::strcmp(arguments[i], "--render") == 0;
-        const bool size = std::strcmp(arguments[i], "--size") == 0;
-        const bool page = std::strcmp(arguments[i], "--page") == 0;
-        if (std::strcmp(arguments[i], "--no-splash") == 0) {
+        const auto named = [&](const auto& option) { return std::strcmp(arguments[i], option.first) == 0; };
+        const auto* option = std::find_if(std::begin(options), std::end(options), named);
+        if (std::strcmp(arguments[i], "--no-splash") == 0)
             line.splash = false;
-        } else if ((render || size || page) && ++i == count) {
-            line.good = false;
-        } else if (render) {
-            line.render = true;
-            line.render_to = arguments[i];
-        } else if (page) {
-            line.page = arguments[i];
-        } else if (size) {
-            line.good = line.good && read_size(arguments[i], line.size);
-        } else {
+        else if (option == std::end(options))
             files_for(arguments[i], line.files).push_back(arguments[i]);
-        }
+        else if (++i < count && arguments[i][0])
+            *option->second = arguments[i];
+        else
+            line.good = false;
     }
-    line.good = line.good && (!line.render || !line.render_to.IsEmpty()) && (line.render || line.size.cx == 0);
+    if (!size.IsEmpty())
+        line.good = line.good && !line.render_to.IsEmpty() && read_size(size, line.size);
     return line;
 }
 
@@ -75,12 +77,18 @@ public:
     BOOL InitInstance() override {
         const CommandLine line = read_command_line(__argc, __argv);
         if (!line.good) {
-            std::fputs("usage: zopgallery [--no-splash] [--page NAME] [--render DIR [--size WxH]] [FILE...]\n", stderr);
+            std::fputs(
+                "usage: zopgallery [--no-splash] [--page NAME] [--log LOG] [--render DIR [--size WxH]] [FILE...]\n",
+                stderr);
             return Fail();
         }
-        if (line.render) {
+        if (!line.render_to.IsEmpty()) {
             result_ = RenderGallery(line.render_to, line.size, line.files) ? 0 : 1;
             return FALSE;
+        }
+        if (!line.log.IsEmpty() && !OpenLog(line.log)) {
+            std::fprintf(stderr, "cannot write %s\n", line.log.GetString());
+            return Fail();
         }
         auto* frame = new CGalleryFrame(line.files);
         if (!frame->Open()) // it deletes itself
@@ -91,6 +99,7 @@ public:
         frame->ShowPage(line.page);
         frame->ShowWindow(m_nCmdShow);
         frame->UpdateWindow();
+        LogPlaces(*frame); // of the page that is shown at start
         if (line.splash)
             ShowSplash();
         return TRUE;

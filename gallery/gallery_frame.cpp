@@ -1,4 +1,5 @@
 #include "gallery_frame.h"
+#include "log.h"
 
 #include <algorithm>
 #include <cstring>
@@ -70,6 +71,9 @@ void CGalleryFrame::ShowPage(int index) {
     CGalleryPage& page = *pages_[static_cast<std::size_t>(index)];
     page.MoveWindow(PagePlace());
     page.ShowWindow(SW_SHOW);
+    Log("page %s", page.Name());
+    if (IsWindowVisible())
+        LogPlaces(*this);
     list_.SetCurSel(index);
 }
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "log.h"
+
 BEGIN_MESSAGE_MAP(CGalleryPage, CWnd)
 ON_WM_CREATE()
 ON_WM_SIZE()
@@ -10,6 +12,17 @@ END_MESSAGE_MAP()
 
 bool CGalleryPage::Open(CWnd* parent, const CRect& place) {
     return Create(nullptr, Title(), WS_CHILD, place, parent, 1);
+}
+
+BOOL CGalleryPage::OnCommand(WPARAM wParam, LPARAM lParam) {
+    Log("command %d from %d", HIWORD(wParam), LOWORD(wParam));
+    return CWnd::OnCommand(wParam, lParam);
+}
+
+BOOL CGalleryPage::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) {
+    const auto& header = *reinterpret_cast<const NMHDR*>(lParam);
+    Log("notify %d from %d", static_cast<int>(header.code), static_cast<int>(header.idFrom));
+    return CWnd::OnNotify(wParam, lParam, result);
 }
 
 int CGalleryPage::OnCreate(LPCREATESTRUCT create) {
