@@ -47,7 +47,8 @@ protected:
     bool CreateContents() override {
         if (!CSurfacePage::CreateContents())
             return false;
-        GetDlgItem(100)->ModifyStyle(0, WS_CLIPSIBLINGS);
+        CWnd* surface = GetDlgItem(100); // under all that lies on it
+        surface->ModifyStyle(0, WS_CLIPSIBLINGS);
         UINT id = first_axis;
         for (Chart& chart : charts_)
             for (CWntAxis* axis : {&chart.across, &chart.upright})
@@ -61,6 +62,7 @@ protected:
         charts_[times].upright.SetFlags(1, 100, 0);
         charts_[numbers].line_distance = 0.5f;
         font_.CreatePointFont(90, "Arial");
+        surface->SetWindowPos(&CWnd::wndBottom, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
         return CreateRow();
     }
 
@@ -112,11 +114,6 @@ protected:
               CRect(plot.left, above ? place.top : plot.bottom, plot.right, above ? plot.top : place.bottom));
         Place(chart.upright,
               CRect(right ? plot.right : place.left, plot.top, right ? place.right : plot.left, plot.bottom));
-    }
-
-    static void Place(CWnd& window, const CRect& place) {
-        window.SetWindowPos(&CWnd::wndTop, place.left, place.top, std::max(place.Width(), 0),
-                            std::max(place.Height(), 0), SWP_NOACTIVATE);
     }
 
     void Paint(CWntOut& out) override {

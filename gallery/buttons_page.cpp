@@ -90,9 +90,8 @@ protected:
             const int x = gap + i % columns * w;
             const int y = gap + i / columns * h;
             const int button_height = std::min(h - gap - state_height - 4, 44);
-            buttons_[i].SetWindowPos(nullptr, x, y, w - gap, button_height, SWP_NOZORDER | SWP_NOACTIVATE);
-            states_[i].SetWindowPos(nullptr, x, y + button_height + 4, w - gap, state_height,
-                                    SWP_NOZORDER | SWP_NOACTIVATE);
+            Place(buttons_[i], x, y, w - gap, button_height);
+            Place(states_[i], x, y + button_height + 4, w - gap, state_height);
         }
     }
 

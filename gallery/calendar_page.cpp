@@ -32,11 +32,6 @@ protected:
         Place(calendars_[2], CRect(left, 2 * gap + 200, left + std::min(half, 190), height - gap));
     }
 
-    static void Place(CWnd& window, const CRect& place) {
-        window.SetWindowPos(nullptr, place.left, place.top, std::max(place.Width(), 0), std::max(place.Height(), 0),
-                            SWP_NOZORDER | SWP_NOACTIVATE);
-    }
-
 private:
     std::array<CWntCalendar, 3> calendars_;
 };

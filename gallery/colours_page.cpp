@@ -61,10 +61,6 @@ protected:
         Place(label_, gap, height - gap - label_height, width - 2 * gap, label_height);
     }
 
-    static void Place(CWnd& window, int x, int y, int w, int h) {
-        window.SetWindowPos(nullptr, x, y, w, h, SWP_NOZORDER | SWP_NOACTIVATE);
-    }
-
     afx_msg void OnPicked(NMHDR* header, LRESULT* result) {
         char text[64];
         auto& selector = selectors_[header->idFrom - first_id];

@@ -76,9 +76,8 @@ protected:
         const int cell_width = (width - gap) / 3;
         const int cell_height = (height - gap) / 2;
         for (int i = 0; i < 6; ++i)
-            gauges_[static_cast<std::size_t>(i)].SetWindowPos(nullptr, gap + i % 3 * cell_width,
-                                                              gap + i / 3 * cell_height, cell_width - gap,
-                                                              cell_height - gap, SWP_NOZORDER | SWP_NOACTIVATE);
+            Place(gauges_[static_cast<std::size_t>(i)], gap + i % 3 * cell_width, gap + i / 3 * cell_height,
+                  cell_width - gap, cell_height - gap);
     }
 
     afx_msg void OnTimer(UINT_PTR) { Feed(); }

@@ -36,6 +36,14 @@ void CGalleryPage::OnSize(UINT type, int cx, int cy) {
     Arrange(cx, cy);
 }
 
+void CGalleryPage::Place(CWnd& window, int x, int y, int width, int height) {
+    window.SetWindowPos(nullptr, x, y, std::max(width, 0), std::max(height, 0), SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void CGalleryPage::Place(CWnd& window, const CRect& place) {
+    Place(window, place.left, place.top, place.Width(), place.Height());
+}
+
 BOOL CGalleryPage::OnEraseBkgnd(CDC* dc) {
     CRect client;
     GetClientRect(&client);
@@ -53,7 +61,7 @@ bool CSurfacePage::CreateContents() {
 }
 
 void CSurfacePage::Arrange(int width, int height) {
-    out_.SetWindowPos(nullptr, 0, TopHeight(), width, std::max(height - TopHeight(), 0), SWP_NOZORDER | SWP_NOACTIVATE);
+    Place(out_, 0, TopHeight(), width, height - TopHeight());
     Invalidate();
 }
 

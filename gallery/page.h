@@ -22,6 +22,9 @@ protected:
     virtual bool CreateContents() { return true; }
     virtual void Arrange(int width, int height) = 0;
 
+    static void Place(CWnd& window, int x, int y, int width, int height);
+    static void Place(CWnd& window, const CRect& place);
+
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override;
 

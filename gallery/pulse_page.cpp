@@ -133,7 +133,7 @@ protected:
     }
 
     void Arrange(int width, int height) override {
-        record_.SetWindowPos(nullptr, 8, 6, 120, bar_height - 10, SWP_NOZORDER | SWP_NOACTIVATE);
+        Place(record_, 8, 6, 120, bar_height - 10);
         CSurfacePage::Arrange(width, height);
     }
     int TopHeight() const override { return bar_height; }

@@ -50,8 +50,8 @@ protected:
         const int w = (width - gap) / columns;
         const int h = (height - gap) / rows;
         for (int i = 0; i < count; ++i)
-            gauges_[static_cast<std::size_t>(i)]->SetWindowPos(nullptr, gap + i % columns * w, gap + i / columns * h,
-                                                               w - gap, h - gap, SWP_NOZORDER | SWP_NOACTIVATE);
+            Place(*gauges_[static_cast<std::size_t>(i)], gap + i % columns * w, gap + i / columns * h, w - gap,
+                  h - gap);
     }
 
 private:

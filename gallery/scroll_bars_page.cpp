@@ -50,10 +50,6 @@ protected:
         Place(upright_, width - gap - bar_width, gap, bar_width, h);
     }
 
-    static void Place(CWnd& window, int x, int y, int w, int h) {
-        window.SetWindowPos(nullptr, x, y, w, h, SWP_NOZORDER | SWP_NOACTIVATE);
-    }
-
     afx_msg void OnHScroll(UINT code, UINT pos, CScrollBar* bar) { Follow(code, pos, bar, knob_); }
     afx_msg void OnVScroll(UINT code, UINT pos, CScrollBar* bar) { Follow(code, pos, bar, level_); }
     DECLARE_MESSAGE_MAP()

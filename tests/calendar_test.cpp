@@ -1,4 +1,5 @@
 #include "calendar_reference.h"
+#include "quiet_program.h"
 #include "time_zone.h"
 #include "widget_window.h"
 
@@ -12,15 +13,7 @@ namespace {
 using std::chrono::weeks;
 using Days = CalendarReference::Days;
 
-// Keeps the texts of message boxes and answers them.
-class CalendarApp : public CWinApp {
-public:
-    int DoMessageBox(LPCTSTR text, UINT, UINT) override {
-        boxes.emplace_back(text);
-        return IDOK;
-    }
-    std::vector<std::string> boxes;
-} app;
+QuietProgram app;
 
 class CalendarTest : public WidgetTest {
 protected:

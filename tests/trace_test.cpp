@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "quiet_program.h"
+
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::MatchesRegex;
@@ -17,15 +19,7 @@ using Texts = std::vector<std::string>;
 
 namespace {
 
-// Answers message boxes by itself.
-class Program : public CWinApp {
-public:
-    int DoMessageBox(LPCTSTR text, UINT, UINT) override {
-        boxes.push_back(text);
-        return IDOK;
-    }
-    Texts boxes;
-} program;
+QuietProgram program;
 
 class Framework : public testing::Environment {
     void SetUp() override { ASSERT_TRUE(AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), 0)); }
