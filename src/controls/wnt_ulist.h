@@ -30,6 +30,7 @@ public:
     /// Makes an empty list, its slots all zero; what the object held before is freed. The name is kept as given,
     /// neither copied nor read. 0 for negative sizes, for 2 GB and more, and when there is no memory.
     int create(char* name, int itemsize, int capacity);
+    /// Frees the slots; pointers into them are void.
     void destroy();
     /// Empties the list and zeroes its slots; the cursor stays. Always 1.
     int flush();

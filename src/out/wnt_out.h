@@ -33,6 +33,7 @@ public:
 
     // -- Device context ---------------------------------------------------------------------------------------------
 
+    /// Does nothing.
     void initialise();
     /// Prepares drawing into the window: 1, or 0 when no device context can be had (hidden window, mode word set).
     /// White lines and black fills count as already in force afterwards.
@@ -97,12 +98,13 @@ public:
 
     // -- Polygons ---------------------------------------------------------------------------------------------------
 
-    /// The Tpt forms of fillpoly and solidpoly draw at most the first 20 points. The POINT forms flip the caller's
-    /// array in place during the call and put it back.
+    /// fillpoly has its outline in the line colour, solidpoly in the fill colour. The Tpt forms of both draw at most the
+    /// first 20 points. The POINT forms flip the caller's array in place during the call and put it back.
     void fillpoly(Tpt* pts, int n);
     void fillpoly(POINT* pts, int n);
     void solidpoly(Tpt* pts, int n);
     void solidpoly(POINT* pts, int n);
+    /// The outline in the line colour, for a fill of 0 in the fill colour.
     void dopoly(POINT* pts, int n, long fill);
     /// An open polyline; width 0 takes the current pen, otherwise width + 1 pixels in the fill colour.
     void geomline(Tpt* pts, int n, int width);
@@ -114,7 +116,9 @@ public:
     // -- Circles and pies -------------------------------------------------------------------------------------------
     // Figures that reach farther than 131072 pixels from the origin are not drawn.
 
+    /// The outline only, with the current pen.
     void drawcircle(int x, int y, int r);
+    /// An ellipse in the fill colour, its outline in the line colour.
     void fillcircle(int x, int y, int rx, int ry);
     /// Counter-clockwise from a1 to a2, in 1/16384 of a turn.
     void pieslice(int x, int y, int rx, int ry, int a1, int a2);
@@ -122,6 +126,7 @@ public:
 
     // -- Markers and frames -----------------------------------------------------------------------------------------
 
+    /// s pixels in each direction from the centre.
     void drawcross(int x, int y, int s);
     void drawplus(int x, int y, int s);
     /// 0 cross, 1 plus, 2 circle, 3 star, 4 square, 5 dot; other shapes draw nothing.
@@ -153,15 +158,24 @@ public:
     int aproxroot(long n);
     /// Direction of (dx * num / den, dy) in whole degrees, 0 to 360, counter-clockwise from +x.
     int getangle(int dy, int dx, int num, int den);
+    /// Middle of the overlap of the intervals 0 to a and b to b + c; either may run backwards.
     int points_center(int a, int b, int c);
+    /// The point of the segment 1-2 where it meets the line through 3 and 4, clamped to the segment; for parallels the
+    /// middle of their overlap.
     void points_intersect(POINT* out, int x1, int y1, int x2, int y2, int x3, int y3, int x4, int y4);
+    /// Moves the end (x1, y1) of the segment onto the rectangle; 0 when the segment is seen to miss it.
     int points_partclip(POINT* out, RECT* r, int x1, int y1, int x2, int y2);
+    /// Clips the segment: 1, its ends in out[0] and out[1], or 0 when nothing of it is inside.
     int points_clipline(POINT* out, RECT* r, int x1, int y1, int x2, int y2);
+    /// For three points: 1 when "the path p[1], p[0], p[2] turns clockwise" (1 or 0) differs from `sense`.
     int points_testclock(POINT* p, int sense);
+    /// 1 inside the convex polygon of n clockwise vertices, its edges excluded.
     int points_testinpoly(int x, int y, POINT* poly, int n);
+    /// 1 when dx * dx + dy * dy < r * r, in 32 bits.
     int points_testincircle(int dx, int dy, int r);
     /// The point's y is flipped to device form while the rectangle is taken as it is; right edge excluded.
     int points_testinrect(int x, int y, RECT r);
+    /// Bounding rectangle of the points; the first point for n below 2.
     void calcpolywind(RECT* out, POINT* pts, int n);
 
     // -- Clipping ---------------------------------------------------------------------------------------------------
@@ -169,18 +183,24 @@ public:
     /// Corners inclusive, y1 the lower edge. `cliprect` then holds device coordinates.
     void setclip(int x1, int y1, int x2, int y2);
     void setclip(RECT* r);
+    /// Clips to the client area.
     void resetclip();
     /// The window's update rectangle in library coordinates, also kept in `cliprect`; the next reset() keeps the clip.
     void queryclip(RECT* r);
+    /// 1 when the box, corners inclusive, touches the clip box.
     int testclip(int x1, int y1, int x2, int y2);
+    /// Always 1: the device clips.
     int clipit(int x1, int y1, int x2, int y2);
+    /// Takes a box out of the clip area, unless `outmode` is set.
     void excludeclip(int x1, int y1, int x2, int y2);
 
     // -- Text -------------------------------------------------------------------------------------------------------
 
     /// Sets the text size to size / 10 x 6 points; the other values are kept, not used.
     void settext(int a, int b, int c, int size, int e, int f);
+    /// Does nothing.
     void setdeftext();
+    /// Stored only.
     void setfont(CFont* f);
     /// align: 0, 1, 2 bottom left, right, centre; 4, 5, 6 top; 8, 9, 10 centred on y.
     void chars(int x, int y, char* text, int align);

@@ -24,9 +24,11 @@
 /// protocols in the current directory, "ReadHeader.out" and "Get.out".
 class ZOPWNT_API CWntPulseFile {
 public:
+    /// append goes on behind an existing file's end, whose header stays; write begins a new file.
     enum Mode { read = 1, append, write };
 
     explicit CWntPulseFile(int mode);
+    /// Opens the file, too; GetError() tells how that ended.
     CWntPulseFile(int mode, const char* name);
 
     CWntPulseFile(const CWntPulseFile&) = delete;

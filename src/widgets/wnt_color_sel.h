@@ -39,6 +39,7 @@ public:
     void SetColorItems(char** names, int* colours, int count);
     /// Selects a colour and gives it to the selected item.
     void SetSelectedColorID(int index);
+    /// The colour picked or set last.
     int GetSelectedColorID();
     /// The entry of the item colours at the selected colour (not at the selected item); 0 when there is none.
     DWORD GetSelectedColor();
@@ -47,6 +48,7 @@ public:
 
     /// The colour under the mouse, -1 in the sample strip; it may lie outside the palette. Shows it where asked to.
     int ComputeSelectedColor();
+    /// Paints the grid, without the sample strip's colour.
     void PaintPanel(int unused);
     /// Shows a colour in the sample strip and gives it to the selected item.
     void SetSelectedColorPanel(int colour);

@@ -48,6 +48,7 @@ public:
     void SetTestMode(int mode);
     /// Range 0 to 100, value 50. Marks and titles stay.
     void Clear();
+    /// Shown with the next repaint, as is AddMark().
     void ClearMarks();
     /// Adds a mark and the colour (by name) of its zone; an eleventh is ignored. Add them in ascending order.
     void AddMark(int value, const char* colour);
