@@ -67,6 +67,12 @@ public:
 
     INT_PTR DoModal() override;
 
+protected:
+    /// Default handling, for derived classes to build on.
+    afx_msg int OnCreate(LPCREATESTRUCT create);
+    afx_msg void OnDestroy();
+    DECLARE_MESSAGE_MAP()
+
 private:
     CWntVersionZOPDlg components_;
     CWntVersionWinDlg environment_;
