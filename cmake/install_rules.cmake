@@ -21,7 +21,8 @@ foreach(header ${ZOPWNT_PUBLIC_HEADERS})
   install(FILES src/${header} DESTINATION include/zopwnt/${room})
 endforeach()
 if(TARGET zopafx)
-  install(DIRECTORY src/afx/ DESTINATION include/zopwnt/afx FILES_MATCHING PATTERN "*.h")
+  install(DIRECTORY src/afx/ DESTINATION include/zopwnt/afx FILES_MATCHING PATTERN "*.h"
+    PATTERN handle_map.h EXCLUDE PATTERN message_map.h EXCLUDE PATTERN modal_parent.h EXCLUDE PATTERN wnd_state.h EXCLUDE)
 endif()
 
 install(EXPORT zopwnt_targets NAMESPACE zopwnt:: DESTINATION lib/cmake/zopwnt)

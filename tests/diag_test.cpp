@@ -156,8 +156,10 @@ TEST_F(SplashTest, PaletteIsTheBitmapsOwnOnScreensOfFewColours) {
     CPalette palette;
     ASSERT_TRUE(splash.GetBitmapAndPalette(1, bitmap, palette));
     ASSERT_TRUE(splash.GetBitmapAndPalette(1, bitmap, palette)); // replaces what is there
-    CClientDC screen(nullptr);
-    if (screen.GetDeviceCaps(BITSPIXEL) > 8) {
+    const char* depth = std::strrchr(::GetCommandLineA(), ' ');  // the last argument, where there is one
+    const bool few_colours = depth && std::atoi(depth) == 8;
+    ASSERT_EQ(CClientDC(nullptr).GetDeviceCaps(BITSPIXEL) <= 8, few_colours);
+    if (!few_colours) {
         EXPECT_GT(palette.GetEntryCount(), 2);
     } else {
         PALETTEENTRY entries[2] = {};
@@ -216,7 +218,6 @@ TEST_F(SplashTest, GoesWhenItsTimeIsUpWhileOthersStay) {
 TEST(ErrorBox, ShowsItsThreeTextsOnTheWindowColour) {
     CWntErrorBox box("Title & more", "The message", "Detail 1\r\nDetail 2");
     std::string texts;
-    bool grounds = true;
     WhileModal modal([&] {
         if (!box.m_hWnd)
             return false;
@@ -224,17 +225,22 @@ TEST(ErrorBox, ShowsItsThreeTextsOnTheWindowColour) {
             CString text;
             box.GetDlgItemText(id, text);
             texts += text + "|";
+        }
+        for (const int id : {1003, 1004, 1005, IDOK}) {
             CClientDC dc(box.GetDlgItem(id));
-            box.SendMessage(id == 1005 ? WM_CTLCOLOREDIT : WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc.m_hDC),
-                            reinterpret_cast<LPARAM>(::GetDlgItem(box, id)));
-            grounds = grounds && dc.GetBkColor() == ::GetSysColor(COLOR_WINDOW);
+            LOGBRUSH brush = {};
+            ::GetObject(reinterpret_cast<HBRUSH>(box.SendMessage(WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc.m_hDC),
+                                                                 reinterpret_cast<LPARAM>(::GetDlgItem(box, id)))),
+                        sizeof brush, &brush);
+            const bool field = id != IDOK;
+            EXPECT_EQ(dc.GetBkColor() == ::GetSysColor(COLOR_WINDOW), field) << id;
+            EXPECT_EQ(brush.lbColor == ::GetSysColor(COLOR_WINDOW), field) << id;
         }
         box.PostMessage(WM_COMMAND, IDOK);
         return true;
     });
     EXPECT_EQ(box.DoModal(), IDOK);
     EXPECT_EQ(texts, "Title & more|The message|Detail 1\r\nDetail 2|");
-    EXPECT_TRUE(grounds);
 }
 
 TEST(FileSel, OpensInTheMiddleOfItsParent) {

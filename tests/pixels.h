@@ -1,4 +1,4 @@
-// Pictures that tests draw into and read back, and a count of the process's drawing objects.
+// Pictures that tests draw into and read back, and counts of the process's drawing objects and windows.
 #pragma once
 
 #include <windows.h>
@@ -115,3 +115,25 @@ inline int live_gdi_objects() {
     const auto* table = *reinterpret_cast<const Entry* const*>(current_block() + handle_table);
     return static_cast<int>(std::count_if(table, table + first_entries, [](const Entry& e) { return e.type != 0; }));
 }
+
+/// Windows, menus and cursors share one table whose free places are used again: the highest place that a handful of
+/// new objects gets tells how full it is.
+inline int user_objects() {
+    constexpr int probes = 64;
+    HMENU menus[probes];
+    int highest = 0;
+    for (HMENU& menu : menus) {
+        menu = ::CreateMenu();
+        highest = std::max<int>(highest, LOWORD(reinterpret_cast<UINT_PTR>(menu)) / 2);
+    }
+    for (HMENU menu : menus)
+        ::DestroyMenu(menu);
+    return highest;
+}
+
+/// The process's drawing objects and windows at a moment.
+struct Counts {
+    int gdi = live_gdi_objects();
+    int user = user_objects();
+    int grown() const { return std::max(live_gdi_objects() - gdi, user_objects() - user); }
+};

@@ -70,7 +70,8 @@ TEST_F(SoundTest, PlaysTheHostsSoundsFromTheHost) {
     AfxSetResourceHandle(host);
     WntSoundEnable(0); // does not count for the host's sounds
     EXPECT_TRUE(played([] { WntSoundPlayFromAppResource("#1"); }) == samples_of(sound));
-    for (const char* name : {"IDR_WAVE_KEY", "no such sound", "", static_cast<const char*>(nullptr)})
+    const std::string long_name(5000, 'x');
+    for (const char* name : {"IDR_WAVE_KEY", "no such sound", long_name.c_str(), "", (const char*)nullptr})
         EXPECT_TRUE(played([=] { WntSoundPlayFromAppResource(name); }).empty());
     ::FreeLibrary(host);
     ::DeleteFileA("sound test.dll");
@@ -78,9 +79,12 @@ TEST_F(SoundTest, PlaysTheHostsSoundsFromTheHost) {
 
 TEST(SoundWithoutDevice, IsOverAtOnce) {
     const DWORD start = ::GetTickCount();
-    for (std::uint16_t id = 0; id < 4; ++id)
-        WntSound(id);
-    WntSoundPlayFromAppResource("IDR_WAVE_BELL");
+    AfxSetResourceHandle(::GetModuleHandleA("ZOPWNT.dll"));
+    for (std::uint16_t i = 0; i < 5 * 4; ++i) { // 0.94 seconds of the library's sounds in each four
+        WntSound(i % 4);
+        WntSoundPlayFromAppResource("IDR_WAVE_BELL");
+    }
+    AfxSetResourceHandle(nullptr);
     WntSoundSetVolume(0xFFFF);
-    EXPECT_LT(::GetTickCount() - start, 3000u); // less than the sounds would last, with time for a slow machine
+    EXPECT_LT(::GetTickCount() - start, 3000u); // less than they would last, with time for a slow machine
 }

@@ -1,5 +1,6 @@
 // What files tell about their versions, and the sheet that shows it.
 #include "modal.h"
+#include "pixels.h"
 #include "resource_file.h"
 
 #include <cstdlib>
@@ -63,6 +64,7 @@ TEST(VersionFacts, NameEveryValue) {
     check(5, &VS_FIXEDFILEINFO::dwFileType, {0, 1, 2, 3, 4, 5, 6, 7, 8},
           {"Unknown", "Application", "Dynamic Link Library", "Driver", "Font", "Virtual Device Driver", "Unknown",
            "Static Link Library", "Unknown"});
+    check(1, &VS_FIXEDFILEINFO::dwSignature, {0}, {"1.2.3.65535"}); // any signature will do
     ASSERT_NE(language_name(0x407), language_name(0x409));
     EXPECT_EQ(fact_of(fixed_info(), 6), language_name(0x409)); // the first one's name as the system spells it
     EXPECT_EQ(fact_of(fixed_info(), 6, {0x04B00407, 0x04B00409}), language_name(0x407));
@@ -80,19 +82,12 @@ TEST(VersionFacts, AreEmptyWhereTheBlockDoesNotHoldThem) {
             fact(subject, kind);
         EXPECT_TRUE(has_info || fact(subject, 1).empty()) << block.size();
     };
-    for (std::size_t size = 2; size < good.size(); size += 9) { // ends early, and says so or not
-        Bytes block(good.begin(), good.begin() + static_cast<std::ptrdiff_t>(size));
-        check(block, size >= 44); // the bytes that are missing count as zeros
-        const auto told = static_cast<WORD>(size);
-        std::memcpy(block.data(), &told, sizeof told);
-        check(block, size >= info_end);
-    }
-    for (const std::size_t at : {std::size_t{0}, std::size_t{2}, info_end, info_end + 2, info_end + 32}) {
-        for (const WORD told : {0, 1, 51, 0x7FFF, 0xFFFF}) {
+    check(Bytes(good.begin(), good.begin() + 20), true); // what is missing counts as zeros
+    for (const std::size_t at : {std::size_t{0}, std::size_t{2}, info_end, info_end + 32}) { // a wrong length
+        for (const WORD told : {51, 0xFFFF}) {
             Bytes block = good;
             std::memcpy(&block[at], &told, sizeof told);
-            const bool system_decides = at == 0 && told == 0; // some put their own mark behind the length
-            check(block, system_decides || at > 2 || told >= (at == 0 ? info_end : sizeof(VS_FIXEDFILEINFO)));
+            check(block, at > 2 || told == 0xFFFF);
         }
     }
     Bytes endless = good; // no name has an end
@@ -162,6 +157,15 @@ INT_PTR run(CWntVersion& sheet, WPARAM button, const std::function<void(HWND)>& 
     return sheet.DoModal();
 }
 
+/// Both times to one moment, in seconds since 1970: not every system keeps two.
+void set_times(const char* path, std::int64_t seconds) {
+    const std::int64_t ticks = (seconds + 11'644'473'600) * 10'000'000;
+    const FILETIME time = {static_cast<DWORD>(ticks), static_cast<DWORD>(ticks >> 32)};
+    CFile file;
+    ASSERT_TRUE(file.Open(path, CFile::modeReadWrite));
+    EXPECT_TRUE(::SetFileTime(file, &time, nullptr, &time));
+}
+
 std::string working_folder() {
     char folder[MAX_PATH] = "";
     ::GetCurrentDirectoryA(sizeof folder, folder);
@@ -171,9 +175,14 @@ std::string working_folder() {
 } // namespace
 
 TEST(VersionSheet, ShowsTheComponents) {
+    ::SetFileAttributesA("zopfdraw.dll", FILE_ATTRIBUTE_NORMAL); // an interrupted run left it behind
     ASSERT_TRUE(write_version_file("zopfdraw.dll", version_block(fixed_info(), {0x04B00409})));
-    ASSERT_TRUE(::SetFileAttributesA("zopfdraw.dll", FILE_ATTRIBUTE_READONLY));
+    set_times("zopfdraw.dll", CTime(2003, 2, 1, 13, 4, 5).GetTime());
+    ASSERT_TRUE(
+        ::SetFileAttributesA("zopfdraw.dll", FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM));
     std::ofstream("zopcal.ocx") << "12345";
+    set_times("zopcal.ocx", -86'400);
+    const std::string earliest = CTime(0).Format("%d.%m.%Y, %H:%M:%S").GetString();
     CWntVersion sheet("Versions");
     const INT_PTR result = run(sheet, PSBTN_CANCEL, [&](HWND window) {
         const Table table(window, 1001);
@@ -187,11 +196,14 @@ TEST(VersionSheet, ShowsTheComponents) {
         EXPECT_THAT(table.row(1),
                     ElementsAre(_, "ZOPWNT.dll", _, MatchesRegex("\\d\\d\\d\\d+ bytes"), moment, moment, "1.0.0.0",
                                 "1.0.0.0", "      ", "NT-Win32", "Dynamic Link Library", language_name(0x409)));
-        EXPECT_EQ(table.row(3)[2].substr(0, 5), "r----");
+        EXPECT_EQ(table.row(3)[2].substr(0, 5), "rhs--");
+        EXPECT_EQ(table.row(3)[4], "01.02.2003, 13:04:05");
+        EXPECT_EQ(table.row(3)[5], "01.02.2003, 13:04:05");
         EXPECT_EQ(table.row(3)[6], "1.2.3.65535"); // file version under "Product"
         EXPECT_EQ(table.row(3)[7], "10.0.0.7");
         EXPECT_THAT(table.row(5), ElementsAre(_, "zopgauge.ocx", "------", "0 bytes", _, _, "", "", "", "", "", ""));
-        EXPECT_THAT(table.row(8), ElementsAre(_, "zopcal.ocx", _, "5 bytes", moment, moment, "", "", "", "", "", ""));
+        EXPECT_THAT(table.row(8),
+                    ElementsAre(_, "zopcal.ocx", _, "5 bytes", earliest, earliest, "", "", "", "", "", ""));
     });
     EXPECT_EQ(result, IDCANCEL);
     ::SetFileAttributesA("zopfdraw.dll", FILE_ATTRIBUTE_NORMAL);
@@ -224,4 +236,30 @@ TEST(VersionSheet, ShowsTheEnvironmentEachTimeItOpens) {
                                           "C:\\windows\\system32", working_folder(), "machine", cut ? "" : path));
     }
     EXPECT_EQ(sheet.GetPageCount(), 2);
+}
+
+TEST(VersionSheet, GivesEverythingBack) {
+    Counts before;
+    for (int i = 0; i < 22; ++i) {
+        CWntVersion sheet("Versions", nullptr, i % 2);
+        run(sheet, PSBTN_CANCEL, [](HWND) {});
+        if (i == 1) // some objects are made once
+            before = {};
+    }
+    EXPECT_LT(before.grown(), 10);
+}
+
+TEST(WithoutPrinter, NothingIsPrintedAndNothingShown) {
+    CWnd window;
+    ASSERT_TRUE(window.CreateEx(0, nullptr, "w", WS_POPUP | WS_VISIBLE, CRect(20, 30, 120, 130), nullptr, 0));
+    CWntVersion sheet("Versions");
+    int calls = 0; // a second one comes from the loop of a window that was not to be
+    const auto try_both = [&](HWND shown) {
+        if (++calls > 1)
+            return;
+        MakeHardcopy(&window, "not printed");
+        ::SendMessage(::GetDlgItem(PropSheet_GetCurrentPageHwnd(shown), 1002), BM_CLICK, 0, 0);
+    };
+    EXPECT_EQ(run(sheet, PSBTN_CANCEL, try_both), IDCANCEL);
+    EXPECT_EQ(calls, 1);
 }

@@ -24,17 +24,13 @@ public:
     HDC Detach();
     static CDC* PASCAL FromHandle(HDC hDC);
     virtual void SetAttribDC(HDC hDC) { m_hAttribDC = hDC; }
-    BOOL CreateDC(LPCTSTR driver, LPCTSTR device, LPCTSTR output, const void* initData);
     BOOL CreateCompatibleDC(CDC* pDC) { return Attach(::CreateCompatibleDC(pDC->GetSafeHdc())); }
     BOOL DeleteDC();
     CWnd* GetWindow() const;
 
-    virtual int SaveDC();
-    virtual BOOL RestoreDC(int nSavedDC);
     int GetDeviceCaps(int nIndex) const { return ::GetDeviceCaps(m_hAttribDC, nIndex); }
 
     // Each answers the object selected before, which is temporary unless the program attached it.
-    virtual CGdiObject* SelectStockObject(int nIndex);
     CPen* SelectObject(CPen* pPen);
     CBrush* SelectObject(CBrush* pBrush);
     virtual CFont* SelectObject(CFont* pFont);
@@ -43,98 +39,47 @@ public:
     CPalette* SelectPalette(CPalette* pPalette, BOOL bForceBackground);
     UINT RealizePalette() { return ::RealizePalette(m_hDC); }
     CPen* GetCurrentPen() const { return CPen::FromHandle(current<HPEN>(OBJ_PEN)); }
-    CBrush* GetCurrentBrush() const { return CBrush::FromHandle(current<HBRUSH>(OBJ_BRUSH)); }
-    CFont* GetCurrentFont() const { return CFont::FromHandle(current<HFONT>(OBJ_FONT)); }
-    CBitmap* GetCurrentBitmap() const { return CBitmap::FromHandle(current<HBITMAP>(OBJ_BITMAP)); }
 
     virtual COLORREF SetBkColor(COLORREF crColor);
-    virtual COLORREF SetTextColor(COLORREF crColor);
     COLORREF GetBkColor() const { return ::GetBkColor(m_hAttribDC); }
-    COLORREF GetTextColor() const { return ::GetTextColor(m_hAttribDC); }
     int SetBkMode(int nBkMode);
-    int GetBkMode() const { return ::GetBkMode(m_hAttribDC); }
-    int SetROP2(int nDrawMode);
-    int GetROP2() const { return ::GetROP2(m_hAttribDC); }
-    int SetPolyFillMode(int nPolyFillMode);
-    int SetStretchBltMode(int nStretchMode);
     UINT SetTextAlign(UINT nFlags);
-    UINT GetTextAlign() const { return ::GetTextAlign(m_hAttribDC); }
 
     virtual int SetMapMode(int nMapMode);
-    int GetMapMode() const { return ::GetMapMode(m_hAttribDC); }
     virtual CPoint SetViewportOrg(int x, int y);
     CPoint SetViewportOrg(POINT point) { return SetViewportOrg(point.x, point.y); }
-    CPoint GetViewportOrg() const;
     virtual CSize SetViewportExt(int cx, int cy);
     CSize SetViewportExt(SIZE size) { return SetViewportExt(size.cx, size.cy); }
     CPoint SetWindowOrg(int x, int y);
     CPoint SetWindowOrg(POINT point) { return SetWindowOrg(point.x, point.y); }
     virtual CSize SetWindowExt(int cx, int cy);
     CSize SetWindowExt(SIZE size) { return SetWindowExt(size.cx, size.cy); }
-    void DPtoLP(LPPOINT lpPoints, int nCount = 1) const { ::DPtoLP(m_hAttribDC, lpPoints, nCount); }
-    void DPtoLP(LPRECT lpRect) const { ::DPtoLP(m_hAttribDC, reinterpret_cast<LPPOINT>(lpRect), 2); }
-    void LPtoDP(LPPOINT lpPoints, int nCount = 1) const { ::LPtoDP(m_hAttribDC, lpPoints, nCount); }
-    void LPtoDP(LPRECT lpRect) const { ::LPtoDP(m_hAttribDC, reinterpret_cast<LPPOINT>(lpRect), 2); }
 
-    virtual int GetClipBox(LPRECT lpRect) const { return ::GetClipBox(m_hAttribDC, lpRect); }
-    int SelectClipRgn(CRgn* pRgn);
-    int SelectClipRgn(CRgn* pRgn, int nMode);
     int IntersectClipRect(int x1, int y1, int x2, int y2);
     int IntersectClipRect(LPCRECT r) { return IntersectClipRect(r->left, r->top, r->right, r->bottom); }
     int ExcludeClipRect(int x1, int y1, int x2, int y2);
     int ExcludeClipRect(LPCRECT r) { return ExcludeClipRect(r->left, r->top, r->right, r->bottom); }
-    virtual BOOL RectVisible(LPCRECT lpRect) const { return ::RectVisible(m_hAttribDC, lpRect); }
-    virtual BOOL PtVisible(int x, int y) const { return ::PtVisible(m_hAttribDC, x, y); }
 
     CPoint MoveTo(int x, int y);
     CPoint MoveTo(POINT point) { return MoveTo(point.x, point.y); }
     BOOL LineTo(int x, int y);
     BOOL LineTo(POINT point) { return LineTo(point.x, point.y); }
-    CPoint GetCurrentPosition() const;
-    BOOL Polyline(const POINT* lpPoints, int nCount) { return ::Polyline(m_hDC, lpPoints, nCount); }
-    BOOL Polygon(const POINT* lpPoints, int nCount) { return ::Polygon(m_hDC, lpPoints, nCount); }
     BOOL Rectangle(int x1, int y1, int x2, int y2) { return ::Rectangle(m_hDC, x1, y1, x2, y2); }
     BOOL Rectangle(LPCRECT r) { return Rectangle(r->left, r->top, r->right, r->bottom); }
-    BOOL RoundRect(int x1, int y1, int x2, int y2, int x3, int y3) {
-        return ::RoundRect(m_hDC, x1, y1, x2, y2, x3, y3);
-    }
     BOOL Ellipse(int x1, int y1, int x2, int y2) { return ::Ellipse(m_hDC, x1, y1, x2, y2); }
     BOOL Ellipse(LPCRECT r) { return Ellipse(r->left, r->top, r->right, r->bottom); }
-    BOOL Arc(int x1, int y1, int x2, int y2, int x3, int y3, int x4, int y4) {
-        return ::Arc(m_hDC, x1, y1, x2, y2, x3, y3, x4, y4);
-    }
-    BOOL Pie(int x1, int y1, int x2, int y2, int x3, int y3, int x4, int y4) {
-        return ::Pie(m_hDC, x1, y1, x2, y2, x3, y3, x4, y4);
-    }
-    BOOL Chord(int x1, int y1, int x2, int y2, int x3, int y3, int x4, int y4) {
-        return ::Chord(m_hDC, x1, y1, x2, y2, x3, y3, x4, y4);
-    }
     void FillRect(LPCRECT lpRect, CBrush* pBrush) { ::FillRect(m_hDC, lpRect, brush(pBrush)); }
-    void FrameRect(LPCRECT lpRect, CBrush* pBrush) { ::FrameRect(m_hDC, lpRect, brush(pBrush)); }
-    void InvertRect(LPCRECT lpRect) { ::InvertRect(m_hDC, lpRect); }
-    BOOL FillRgn(CRgn* pRgn, CBrush* pBrush);
     void FillSolidRect(LPCRECT lpRect, COLORREF clr);
     void FillSolidRect(int x, int y, int cx, int cy, COLORREF clr);
     void Draw3dRect(LPCRECT lpRect, COLORREF clrTopLeft, COLORREF clrBottomRight);
     void Draw3dRect(int x, int y, int cx, int cy, COLORREF clrTopLeft, COLORREF clrBottomRight);
-    BOOL DrawEdge(LPRECT lpRect, UINT nEdge, UINT nFlags) { return ::DrawEdge(m_hDC, lpRect, nEdge, nFlags); }
-    BOOL DrawFrameControl(LPRECT lpRect, UINT nType, UINT nState) {
-        return ::DrawFrameControl(m_hDC, lpRect, nType, nState);
-    }
-    void DrawFocusRect(LPCRECT lpRect) { ::DrawFocusRect(m_hDC, lpRect); }
-    BOOL DrawIcon(int x, int y, HICON hIcon) { return ::DrawIcon(m_hDC, x, y, hIcon); }
-    BOOL DrawIcon(POINT point, HICON hIcon) { return ::DrawIcon(m_hDC, point.x, point.y, hIcon); }
 
     COLORREF SetPixel(int x, int y, COLORREF crColor) { return ::SetPixel(m_hDC, x, y, crColor); }
-    BOOL SetPixelV(int x, int y, COLORREF crColor) { return ::SetPixelV(m_hDC, x, y, crColor); }
     COLORREF GetPixel(int x, int y) const { return ::GetPixel(m_hDC, x, y); }
     COLORREF GetPixel(POINT point) const { return ::GetPixel(m_hDC, point.x, point.y); }
     BOOL PatBlt(int x, int y, int cx, int cy, DWORD dwRop) { return ::PatBlt(m_hDC, x, y, cx, cy, dwRop); }
     BOOL BitBlt(int x, int y, int cx, int cy, CDC* pSrcDC, int xSrc, int ySrc, DWORD dwRop) {
         return ::BitBlt(m_hDC, x, y, cx, cy, pSrcDC->GetSafeHdc(), xSrc, ySrc, dwRop);
-    }
-    BOOL StretchBlt(int x, int y, int cx, int cy, CDC* pSrcDC, int xSrc, int ySrc, int cxSrc, int cySrc, DWORD dwRop) {
-        return ::StretchBlt(m_hDC, x, y, cx, cy, pSrcDC->GetSafeHdc(), xSrc, ySrc, cxSrc, cySrc, dwRop);
     }
 
     virtual BOOL TextOut(int x, int y, LPCTSTR lpszString, int nCount);
@@ -146,7 +91,6 @@ public:
     int DrawText(const CString& str, LPRECT lpRect, UINT nFormat);
     CSize GetTextExtent(LPCTSTR lpszString, int nCount) const;
     CSize GetTextExtent(const CString& str) const { return GetTextExtent(str, str.GetLength()); }
-    BOOL GetTextMetrics(LPTEXTMETRIC lpMetrics) const { return ::GetTextMetrics(m_hAttribDC, lpMetrics); }
 
     int StartDoc(LPDOCINFO lpDocInfo) { return ::StartDoc(m_hDC, lpDocInfo); }
     int StartPage() { return ::StartPage(m_hDC); }

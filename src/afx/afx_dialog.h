@@ -25,12 +25,6 @@ public:
     // Runs the dialog with its parent disabled; the argument of EndDialog, or -1 where it cannot be created.
     virtual INT_PTR DoModal();
     void EndDialog(int nResult);
-    void NextDlgCtrl() const { ::SendMessage(m_hWnd, WM_NEXTDLGCTL, 0, 0); }
-    void GotoDlgCtrl(CWnd* pWndCtrl) {
-        ::SendMessage(m_hWnd, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(pWndCtrl->GetSafeHwnd()), 1);
-    }
-    void SetDefID(UINT nID) { ::SendMessage(m_hWnd, DM_SETDEFID, nID, 0); }
-    void MapDialogRect(LPRECT lpRect) const { ::MapDialogRect(m_hWnd, lpRect); }
 
     // TRUE lets the system set the focus.
     virtual BOOL OnInitDialog();

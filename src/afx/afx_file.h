@@ -52,7 +52,6 @@ public:
     virtual CString GetFilePath() const { return m_strFileName; }
     virtual CString GetFileName() const;
     static void PASCAL Remove(LPCTSTR lpszFileName);
-    static void PASCAL Rename(LPCTSTR lpszOldName, LPCTSTR lpszNewName);
 
     HANDLE m_hFile = INVALID_HANDLE_VALUE;
 

@@ -21,7 +21,6 @@ public:
     HGDIOBJ Detach();
     BOOL DeleteObject();
     int GetObject(int nCount, LPVOID lpObject) const { return ::GetObject(m_hObject, nCount, lpObject); }
-    BOOL CreateStockObject(int nIndex) { return Attach(::GetStockObject(nIndex)); }
     static CGdiObject* PASCAL FromHandle(HGDIOBJ hObject);
 
     HGDIOBJ m_hObject = nullptr;
@@ -44,8 +43,6 @@ public:
     BOOL CreatePen(int nPenStyle, int nWidth, COLORREF crColor) {
         return Attach(::CreatePen(nPenStyle, nWidth, crColor));
     }
-    BOOL CreatePenIndirect(const LOGPEN* lpLogPen) { return Attach(::CreatePenIndirect(lpLogPen)); }
-    int GetLogPen(LOGPEN* pLogPen) { return GetObject(sizeof(LOGPEN), pLogPen); }
 };
 
 class ZOPAFX_API CBrush : public CGdiObject {
@@ -56,11 +53,6 @@ public:
     explicit CBrush(COLORREF crColor);
     CBrush(int nIndex, COLORREF crColor);
     BOOL CreateSolidBrush(COLORREF crColor) { return Attach(::CreateSolidBrush(crColor)); }
-    BOOL CreateHatchBrush(int nIndex, COLORREF crColor) { return Attach(::CreateHatchBrush(nIndex, crColor)); }
-    BOOL CreateBrushIndirect(const LOGBRUSH* lpLogBrush) { return Attach(::CreateBrushIndirect(lpLogBrush)); }
-    BOOL CreatePatternBrush(class CBitmap* pBitmap);
-    BOOL CreateSysColorBrush(int nIndex) { return Attach(::GetSysColorBrush(nIndex)); }
-    int GetLogBrush(LOGBRUSH* pLogBrush) { return GetObject(sizeof(LOGBRUSH), pLogBrush); }
 };
 
 class ZOPAFX_API CFont : public CGdiObject {
@@ -85,10 +77,6 @@ public:
     CBitmap() = default;
     BOOL LoadBitmap(LPCTSTR lpszResourceName);
     BOOL LoadBitmap(UINT nIDResource) { return LoadBitmap(MAKEINTRESOURCE(nIDResource)); }
-    BOOL CreateBitmap(int nWidth, int nHeight, UINT nPlanes, UINT nBitcount, const void* lpBits) {
-        return Attach(::CreateBitmap(nWidth, nHeight, nPlanes, nBitcount, lpBits));
-    }
-    BOOL CreateBitmapIndirect(LPBITMAP lpBitmap) { return Attach(::CreateBitmapIndirect(lpBitmap)); }
     BOOL CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight);
     int GetBitmap(BITMAP* pBitMap) { return GetObject(sizeof(BITMAP), pBitMap); }
 };
@@ -99,22 +87,6 @@ class ZOPAFX_API CRgn : public CGdiObject {
 public:
     CRgn() = default;
     BOOL CreateRectRgn(int x1, int y1, int x2, int y2) { return Attach(::CreateRectRgn(x1, y1, x2, y2)); }
-    BOOL CreateRectRgnIndirect(LPCRECT lpRect) { return Attach(::CreateRectRgnIndirect(lpRect)); }
-    BOOL CreateEllipticRgn(int x1, int y1, int x2, int y2) { return Attach(::CreateEllipticRgn(x1, y1, x2, y2)); }
-    BOOL CreatePolygonRgn(const POINT* lpPoints, int nCount, int nMode) {
-        return Attach(::CreatePolygonRgn(lpPoints, nCount, nMode));
-    }
-    BOOL CreateRoundRectRgn(int x1, int y1, int x2, int y2, int x3, int y3) {
-        return Attach(::CreateRoundRectRgn(x1, y1, x2, y2, x3, y3));
-    }
-    void SetRectRgn(LPCRECT rect) { ::SetRectRgn(*this, rect->left, rect->top, rect->right, rect->bottom); }
-    int CombineRgn(const CRgn* pRgn1, const CRgn* pRgn2, int nCombineMode);
-    int CopyRgn(const CRgn* pRgnSrc);
-    BOOL EqualRgn(const CRgn* pRgn) const;
-    int OffsetRgn(int x, int y) { return ::OffsetRgn(*this, x, y); }
-    int GetRgnBox(LPRECT lpRect) const { return ::GetRgnBox(*this, lpRect); }
-    BOOL PtInRegion(POINT point) const { return ::PtInRegion(*this, point.x, point.y); }
-    BOOL RectInRegion(LPCRECT lpRect) const { return ::RectInRegion(*this, lpRect); }
 };
 
 class ZOPAFX_API CPalette : public CGdiObject {
@@ -131,9 +103,5 @@ public:
     UINT SetPaletteEntries(UINT nStartIndex, UINT nNumEntries, LPPALETTEENTRY lpPaletteColors) {
         return ::SetPaletteEntries(*this, nStartIndex, nNumEntries, lpPaletteColors);
     }
-    void AnimatePalette(UINT nStartIndex, UINT nNumEntries, LPPALETTEENTRY lpPaletteColors) {
-        ::AnimatePalette(*this, nStartIndex, nNumEntries, lpPaletteColors);
-    }
     UINT GetNearestPaletteIndex(COLORREF crColor) const { return ::GetNearestPaletteIndex(*this, crColor); }
-    BOOL ResizePalette(UINT nNumEntries) { return ::ResizePalette(*this, nNumEntries); }
 };

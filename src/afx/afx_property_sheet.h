@@ -16,7 +16,7 @@ public:
 
     BOOL PreTranslateMessage(MSG* pMsg) override;
 
-    PROPSHEETPAGE m_psp;
+    PROPSHEETPAGE m_psp; // hInstance set: the template is that module's, whatever the resource chain holds
 
 protected:
     // The sheet's buttons end the sheet; a page has none of its own.
@@ -25,7 +25,7 @@ protected:
 
 private:
     friend class CPropertySheet;
-    BOOL ReadTemplate();
+    BOOL FindModule(HINSTANCE& module) const;
     static UINT CALLBACK PageCallback(HWND hwnd, UINT message, PROPSHEETPAGE* page);
     static INT_PTR CALLBACK PageProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 };

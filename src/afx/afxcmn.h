@@ -13,18 +13,10 @@ public:
     void SetPos(int nPos) { SendMessage(TBM_SETPOS, TRUE, nPos); }
     int GetRangeMin() const { return static_cast<int>(SendMessage(TBM_GETRANGEMIN)); }
     int GetRangeMax() const { return static_cast<int>(SendMessage(TBM_GETRANGEMAX)); }
-    void GetRange(int& nMin, int& nMax) const {
-        nMin = GetRangeMin();
-        nMax = GetRangeMax();
-    }
     void SetRange(int nMin, int nMax, BOOL bRedraw = FALSE) {
         SendMessage(TBM_SETRANGEMIN, FALSE, nMin);
         SendMessage(TBM_SETRANGEMAX, static_cast<WPARAM>(bRedraw), nMax);
     }
-    int GetLineSize() const { return static_cast<int>(SendMessage(TBM_GETLINESIZE)); }
-    int SetLineSize(int nSize) { return static_cast<int>(SendMessage(TBM_SETLINESIZE, 0, nSize)); }
-    int GetPageSize() const { return static_cast<int>(SendMessage(TBM_GETPAGESIZE)); }
-    int SetPageSize(int nSize) { return static_cast<int>(SendMessage(TBM_SETPAGESIZE, 0, nSize)); }
     void SetTicFreq(int nFreq) { SendMessage(TBM_SETTICFREQ, static_cast<WPARAM>(nFreq)); }
 };
 
@@ -38,12 +30,7 @@ public:
     // A tool is a window, or, with lpRectTool and nIDTool, a part of one.
     BOOL AddTool(CWnd* pWnd, LPCTSTR lpszText = LPSTR_TEXTCALLBACK, LPCRECT lpRectTool = nullptr, UINT_PTR nIDTool = 0);
     void DelTool(CWnd* pWnd, UINT_PTR nIDTool = 0);
-    void UpdateTipText(LPCTSTR lpszText, CWnd* pWnd, UINT_PTR nIDTool = 0);
     int GetToolCount() const { return static_cast<int>(SendMessage(TTM_GETTOOLCOUNT)); }
-    void Activate(BOOL bActivate) { SendMessage(TTM_ACTIVATE, static_cast<WPARAM>(bActivate)); }
-    void RelayEvent(LPMSG lpMsg) { SendMessage(TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(lpMsg)); }
-    void SetDelayTime(UINT nDelay) { SendMessage(TTM_SETDELAYTIME, TTDT_AUTOMATIC, static_cast<LPARAM>(nDelay)); }
-    int SetMaxTipWidth(int iWidth) { return static_cast<int>(SendMessage(TTM_SETMAXTIPWIDTH, 0, iWidth)); }
 };
 
 // Owns an image list's handle.
@@ -66,7 +53,6 @@ public:
     // From a bitmap of the resource chain, cut into images cx wide; crMask becomes transparent.
     BOOL Create(UINT nBitmapID, int cx, int nGrow, COLORREF crMask);
     BOOL DeleteImageList();
-    int GetImageCount() const { return ImageList_GetImageCount(m_hImageList); }
     int Add(CBitmap* pbmImage, CBitmap* pbmMask) {
         return ImageList_Add(m_hImageList, static_cast<HBITMAP>(pbmImage->GetSafeHandle()),
                              static_cast<HBITMAP>(pbmMask->GetSafeHandle()));

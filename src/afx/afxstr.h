@@ -27,9 +27,6 @@ public:
     CString& operator+=(const CString& text);
     CString& operator+=(LPCSTR text);
     CString& operator+=(char c);
-    void Append(LPCSTR text) { *this += text; }
-    void Append(LPCSTR text, int length);
-    void AppendChar(char c) { *this += c; }
 
     operator LPCSTR() const { return m_text.c_str(); }
     LPCSTR GetString() const { return m_text.c_str(); }
@@ -44,17 +41,13 @@ public:
 
     // Room for minimum characters; valid until the next call on the object. End writing with ReleaseBuffer.
     LPSTR GetBuffer(int minimum = 0);
-    LPSTR GetBufferSetLength(int length);
     // length -1: up to the first null character.
     void ReleaseBuffer(int length = -1);
-    void ReleaseBufferSetLength(int length) { ReleaseBuffer(length); }
-    void Truncate(int length);
 
     CString Mid(int first) const;
     CString Mid(int first, int count) const;
     CString Left(int count) const;
     CString Right(int count) const;
-    CString SpanIncluding(LPCSTR charset) const;
     CString SpanExcluding(LPCSTR charset) const;
     // Next token from start, which moves behind it; start becomes -1 after the last one.
     CString Tokenize(LPCSTR tokens, int& start) const;
@@ -66,11 +59,8 @@ public:
 
     int Compare(LPCSTR text) const;
     int CompareNoCase(LPCSTR text) const;
-    int Collate(LPCSTR text) const;
 
     CString& MakeUpper();
-    CString& MakeLower();
-    CString& MakeReverse();
     CString& Trim() { return TrimRight().TrimLeft(); }
     CString& Trim(char c) { return TrimRight(c).TrimLeft(c); }
     CString& Trim(LPCSTR targets) { return TrimRight(targets).TrimLeft(targets); }

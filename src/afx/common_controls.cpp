@@ -57,13 +57,6 @@ void CToolTipCtrl::DelTool(CWnd* pWnd, UINT_PTR nIDTool) {
     SendMessage(TTM_DELTOOL, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
-void CToolTipCtrl::UpdateTipText(LPCTSTR lpszText, CWnd* pWnd, UINT_PTR nIDTool) {
-    CString loaded;
-    TOOLINFO tool = tool_record(pWnd, nIDTool);
-    tool.lpszText = tip_text(loaded, lpszText);
-    SendMessage(TTM_UPDATETIPTEXT, 0, reinterpret_cast<LPARAM>(&tool));
-}
-
 CImageList::~CImageList() {
     DeleteImageList();
 }

@@ -19,19 +19,6 @@ BOOL CEdit::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) 
     return CWnd::Create("EDIT", nullptr, dwStyle, rect, pParentWnd, nID);
 }
 
-void CEdit::SetSel(int nStartChar, int nEndChar, BOOL bNoScroll) {
-    SendMessage(EM_SETSEL, static_cast<WPARAM>(nStartChar), nEndChar);
-    if (!bNoScroll)
-        SendMessage(EM_SCROLLCARET);
-}
-
-void CEdit::GetSel(int& nStartChar, int& nEndChar) const {
-    DWORD first = 0, last = 0;
-    SendMessage(EM_GETSEL, reinterpret_cast<WPARAM>(&first), reinterpret_cast<LPARAM>(&last));
-    nStartChar = static_cast<int>(first);
-    nEndChar = static_cast<int>(last);
-}
-
 BOOL CListBox::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
     return CWnd::Create("LISTBOX", nullptr, dwStyle, rect, pParentWnd, nID);
 }
@@ -47,15 +34,6 @@ void CListBox::GetText(int nIndex, CString& rString) const {
 
 BOOL CComboBox::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
     return CWnd::Create("COMBOBOX", nullptr, dwStyle, rect, pParentWnd, nID);
-}
-
-void CComboBox::GetLBText(int nIndex, CString& rString) const {
-    const int length = static_cast<int>(SendMessage(CB_GETLBTEXTLEN, static_cast<WPARAM>(nIndex)));
-    rString.Empty();
-    if (length <= 0)
-        return;
-    with_text(CB_GETLBTEXT, nIndex, rString.GetBuffer(length + 1));
-    rString.ReleaseBuffer();
 }
 
 BOOL CScrollBar::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {

@@ -57,10 +57,6 @@ CDC* PASCAL CDC::FromHandle(HDC hDC) {
     return device_contexts().any(hDC);
 }
 
-BOOL CDC::CreateDC(LPCTSTR driver, LPCTSTR device, LPCTSTR output, const void* initData) {
-    return Attach(::CreateDC(driver, device, output, static_cast<const DEVMODE*>(initData)));
-}
-
 BOOL CDC::DeleteDC() {
     const HDC handle = Detach();
     return handle != nullptr && ::DeleteDC(handle);
@@ -70,19 +66,6 @@ CWnd* CDC::GetWindow() const {
     return CWnd::FromHandle(::WindowFromDC(m_hDC));
 }
 
-int CDC::SaveDC() {
-    if (m_hAttribDC != m_hDC && m_hAttribDC != nullptr)
-        ::SaveDC(m_hAttribDC);
-    return ::SaveDC(m_hDC);
-}
-
-BOOL CDC::RestoreDC(int nSavedDC) {
-    // Both were saved together, but a saved level has a meaning only relative to its own context.
-    if (m_hAttribDC != m_hDC && m_hAttribDC != nullptr)
-        ::RestoreDC(m_hAttribDC, nSavedDC < 0 ? nSavedDC : -1);
-    return ::RestoreDC(m_hDC, nSavedDC);
-}
-
 HGDIOBJ CDC::select(HGDIOBJ handle) {
     if (handle == nullptr)
         return nullptr;
@@ -90,10 +73,6 @@ HGDIOBJ CDC::select(HGDIOBJ handle) {
     if (m_hAttribDC != m_hDC && m_hAttribDC != nullptr)
         ::SelectObject(m_hAttribDC, handle);
     return old;
-}
-
-CGdiObject* CDC::SelectStockObject(int nIndex) {
-    return CGdiObject::FromHandle(select(::GetStockObject(nIndex)));
 }
 
 CPen* CDC::SelectObject(CPen* pPen) {
@@ -130,24 +109,8 @@ COLORREF CDC::SetBkColor(COLORREF crColor) {
     return set_attribute<COLORREF>(::SetBkColor, crColor);
 }
 
-COLORREF CDC::SetTextColor(COLORREF crColor) {
-    return set_attribute<COLORREF>(::SetTextColor, crColor);
-}
-
 int CDC::SetBkMode(int nBkMode) {
     return set_attribute<int>(::SetBkMode, nBkMode);
-}
-
-int CDC::SetROP2(int nDrawMode) {
-    return set_attribute<int>(::SetROP2, nDrawMode);
-}
-
-int CDC::SetPolyFillMode(int nPolyFillMode) {
-    return set_attribute<int>(::SetPolyFillMode, nPolyFillMode);
-}
-
-int CDC::SetStretchBltMode(int nStretchMode) {
-    return set_attribute<int>(::SetStretchBltMode, nStretchMode);
 }
 
 UINT CDC::SetTextAlign(UINT nFlags) {
@@ -162,12 +125,6 @@ CPoint CDC::SetViewportOrg(int x, int y) {
     CPoint old;
     set_attribute<BOOL>(::SetViewportOrgEx, x, y, &old);
     return old;
-}
-
-CPoint CDC::GetViewportOrg() const {
-    CPoint origin;
-    ::GetViewportOrgEx(m_hAttribDC, &origin);
-    return origin;
 }
 
 CSize CDC::SetViewportExt(int cx, int cy) {
@@ -188,14 +145,6 @@ CSize CDC::SetWindowExt(int cx, int cy) {
     return old;
 }
 
-int CDC::SelectClipRgn(CRgn* pRgn) {
-    return set_attribute<int>(::SelectClipRgn, static_cast<HRGN>(pRgn->GetSafeHandle()));
-}
-
-int CDC::SelectClipRgn(CRgn* pRgn, int nMode) {
-    return set_attribute<int>(::ExtSelectClipRgn, static_cast<HRGN>(pRgn->GetSafeHandle()), nMode);
-}
-
 int CDC::IntersectClipRect(int x1, int y1, int x2, int y2) {
     return set_attribute<int>(::IntersectClipRect, x1, y1, x2, y2);
 }
@@ -214,16 +163,6 @@ BOOL CDC::LineTo(int x, int y) {
     if (m_hAttribDC != m_hDC && m_hAttribDC != nullptr)
         ::MoveToEx(m_hAttribDC, x, y, nullptr);
     return ::LineTo(m_hDC, x, y);
-}
-
-CPoint CDC::GetCurrentPosition() const {
-    CPoint position;
-    ::GetCurrentPositionEx(m_hAttribDC, &position);
-    return position;
-}
-
-BOOL CDC::FillRgn(CRgn* pRgn, CBrush* pBrush) {
-    return ::FillRgn(m_hDC, static_cast<HRGN>(pRgn->GetSafeHandle()), brush(pBrush));
 }
 
 void CDC::FillSolidRect(LPCRECT lpRect, COLORREF clr) {

@@ -149,7 +149,3 @@ void PASCAL CFile::Remove(LPCTSTR lpszFileName) {
         CFileException::ThrowOsError(static_cast<LONG>(::GetLastError()), lpszFileName);
 }
 
-void PASCAL CFile::Rename(LPCTSTR lpszOldName, LPCTSTR lpszNewName) {
-    if (!::MoveFile(lpszOldName, lpszNewName))
-        CFileException::ThrowOsError(static_cast<LONG>(::GetLastError()), lpszOldName);
-}

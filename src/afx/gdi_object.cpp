@@ -91,10 +91,6 @@ CBrush::CBrush(int nIndex, COLORREF crColor) {
     attach_or_throw(*this, ::CreateHatchBrush(nIndex, crColor));
 }
 
-BOOL CBrush::CreatePatternBrush(CBitmap* pBitmap) {
-    return Attach(::CreatePatternBrush(static_cast<HBITMAP>(pBitmap->GetSafeHandle())));
-}
-
 BOOL CFont::CreateFont(int nHeight, int nWidth, int nEscapement, int nOrientation, int nWeight, BYTE bItalic,
                        BYTE bUnderline, BYTE cStrikeOut, BYTE nCharSet, BYTE nOutPrecision, BYTE nClipPrecision,
                        BYTE nQuality, BYTE nPitchAndFamily, LPCTSTR lpszFacename) {
@@ -131,19 +127,6 @@ BOOL CBitmap::LoadBitmap(LPCTSTR lpszResourceName) {
 
 BOOL CBitmap::CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight) {
     return Attach(::CreateCompatibleBitmap(pDC->GetSafeHdc(), nWidth, nHeight));
-}
-
-int CRgn::CombineRgn(const CRgn* pRgn1, const CRgn* pRgn2, int nCombineMode) {
-    return ::CombineRgn(*this, static_cast<HRGN>(pRgn1->GetSafeHandle()), static_cast<HRGN>(pRgn2->GetSafeHandle()),
-                        nCombineMode);
-}
-
-int CRgn::CopyRgn(const CRgn* pRgnSrc) {
-    return ::CombineRgn(*this, static_cast<HRGN>(pRgnSrc->GetSafeHandle()), nullptr, RGN_COPY);
-}
-
-BOOL CRgn::EqualRgn(const CRgn* pRgn) const {
-    return ::EqualRgn(*this, static_cast<HRGN>(pRgn->GetSafeHandle()));
 }
 
 BOOL CPalette::CreateHalftonePalette(CDC* pDC) {

@@ -7,21 +7,24 @@ IMPLEMENT_DYNAMIC(CPropertySheet, CWnd)
 
 CPropertyPage::CPropertyPage(UINT nIDTemplate) : CDialog(nIDTemplate), m_psp{} {
     m_psp.dwSize = sizeof(m_psp);
-    m_psp.dwFlags = PSP_DLGINDIRECT | PSP_USECALLBACK;
+    m_psp.dwFlags = PSP_USECALLBACK;
+    m_psp.pszTemplate = m_lpszTemplateName;
     m_psp.pfnDlgProc = &CPropertyPage::PageProc;
     m_psp.pfnCallback = &CPropertyPage::PageCallback;
     m_psp.lParam = reinterpret_cast<LPARAM>(this);
 }
 
-BOOL CPropertyPage::ReadTemplate() {
-    m_psp.pResource = FindTemplate(m_lpszTemplateName, m_psp.hInstance);
-    return m_psp.pResource != nullptr;
+BOOL CPropertyPage::FindModule(HINSTANCE& module) const {
+    return module != nullptr ? ::FindResource(module, m_lpszTemplateName, RT_DIALOG) != nullptr
+                             : FindTemplate(m_lpszTemplateName, module) != nullptr;
 }
 
-// The next window that the system creates is the page's.
+// The next window that the system creates is the page's; a page that it could not create is released all the same.
 UINT CALLBACK CPropertyPage::PageCallback(HWND, UINT message, PROPSHEETPAGE* page) {
     if (message == PSPCB_CREATE)
         AfxHookWindowCreate(reinterpret_cast<CPropertyPage*>(page->lParam));
+    else if (message == PSPCB_RELEASE)
+        AfxUnhookWindowCreate();
     return TRUE;
 }
 
@@ -48,9 +51,9 @@ CPropertySheet::CPropertySheet(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelec
 BOOL CPropertySheet::CreateSheet(HWND owner) {
     std::vector<PROPSHEETPAGE> records;
     for (CPropertyPage* page : m_pages) {
-        if (!page->ReadTemplate())
-            return FALSE;
         records.push_back(page->m_psp);
+        if (!page->FindModule(records.back().hInstance))
+            return FALSE;
     }
     if (m_psh.nStartPage >= records.size())
         m_psh.nStartPage = 0;
@@ -61,7 +64,7 @@ BOOL CPropertySheet::CreateSheet(HWND owner) {
     AfxHookWindowCreate(this);
     const INT_PTR hwnd = ::PropertySheet(&m_psh);
     m_psh.ppsp = nullptr;
-    if (!AfxUnhookWindowCreate())
+    if (!AfxUnhookWindowCreate() && m_hWnd == nullptr) // else it is a page that was not created
         PostNcDestroy();
     return hwnd != -1 && m_hWnd != nullptr;
 }

@@ -84,11 +84,6 @@ CString& CString::operator+=(char c) {
     return *this;
 }
 
-void CString::Append(LPCSTR text, int length) {
-    if (text != nullptr && length > 0)
-        m_text.append(text, strnlen(text, static_cast<std::size_t>(length)));
-}
-
 char CString::GetAt(int index) const {
     return index >= 0 && index < GetLength() ? m_text[static_cast<std::size_t>(index)] : '\0';
 }
@@ -109,17 +104,8 @@ LPSTR CString::GetBuffer(int minimum) {
     return m_text.data();
 }
 
-LPSTR CString::GetBufferSetLength(int length) {
-    m_text.resize(static_cast<std::size_t>(std::max(length, 0)), '\0');
-    return m_text.data();
-}
-
 void CString::ReleaseBuffer(int length) {
     m_text.resize(length < 0 ? strnlen(m_text.data(), m_text.size()) : clamp(length));
-}
-
-void CString::Truncate(int length) {
-    m_text.resize(clamp(length));
 }
 
 CString CString::Mid(int first) const {
@@ -138,10 +124,6 @@ CString CString::Left(int count) const {
 
 CString CString::Right(int count) const {
     return Mid(GetLength() - static_cast<int>(clamp(count)));
-}
-
-CString CString::SpanIncluding(LPCSTR charset) const {
-    return Left(static_cast<int>(_mbsspn(bytes(*this), bytes(text_or_empty(charset)))));
 }
 
 CString CString::SpanExcluding(LPCSTR charset) const {
@@ -199,22 +181,8 @@ int CString::CompareNoCase(LPCSTR text) const {
     return _mbsicmp(bytes(m_text.c_str()), bytes(text_or_empty(text)));
 }
 
-int CString::Collate(LPCSTR text) const {
-    return std::strcoll(m_text.c_str(), text_or_empty(text));
-}
-
 CString& CString::MakeUpper() {
     CharUpperBuff(m_text.data(), static_cast<DWORD>(m_text.size()));
-    return *this;
-}
-
-CString& CString::MakeLower() {
-    CharLowerBuff(m_text.data(), static_cast<DWORD>(m_text.size()));
-    return *this;
-}
-
-CString& CString::MakeReverse() {
-    _mbsrev(reinterpret_cast<unsigned char*>(m_text.data()));
     return *this;
 }
 

@@ -97,10 +97,6 @@ BOOL CWnd::SubclassWindow(HWND hWnd) {
     return TRUE;
 }
 
-BOOL CWnd::SubclassDlgItem(UINT nID, CWnd* pParent) {
-    return SubclassWindow(::GetDlgItem(pParent->GetSafeHwnd(), static_cast<int>(nID)));
-}
-
 HWND CWnd::UnsubclassWindow() {
     WNDPROC* super = GetSuperWndProcAddr();
     const WNDPROC original = *super != nullptr ? *super : &::DefWindowProc;

@@ -48,10 +48,6 @@ BOOL CWnd::ModifyStyle(DWORD dwRemove, DWORD dwAdd, UINT nFlags) {
     return change_style(m_hWnd, GWL_STYLE, dwRemove, dwAdd, nFlags);
 }
 
-BOOL CWnd::ModifyStyleEx(DWORD dwRemove, DWORD dwAdd, UINT nFlags) {
-    return change_style(m_hWnd, GWL_EXSTYLE, dwRemove, dwAdd, nFlags);
-}
-
 CWnd* CWnd::GetOwner() const {
     return FromHandle(m_hWndOwner != nullptr ? m_hWndOwner : ::GetParent(m_hWnd));
 }
@@ -76,19 +72,6 @@ CMenu* CWnd::GetMenu() const {
     return CMenu::FromHandle(::GetMenu(m_hWnd));
 }
 
-BOOL CWnd::SetMenu(CMenu* pMenu) {
-    return ::SetMenu(m_hWnd, pMenu->GetSafeHmenu());
-}
-
-CMenu* CWnd::GetSystemMenu(BOOL bRevert) const {
-    return CMenu::FromHandle(::GetSystemMenu(m_hWnd, bRevert));
-}
-
-BOOL CWnd::GetWindowPlacement(WINDOWPLACEMENT* placement) const {
-    placement->length = sizeof(WINDOWPLACEMENT);
-    return ::GetWindowPlacement(m_hWnd, placement);
-}
-
 BOOL CWnd::SetScrollInfo(int nBar, LPSCROLLINFO lpScrollInfo, BOOL bRedraw) {
     lpScrollInfo->cbSize = sizeof(SCROLLINFO);
     ::SetScrollInfo(m_hWnd, nBar, lpScrollInfo, bRedraw);
@@ -99,13 +82,6 @@ BOOL CWnd::GetScrollInfo(int nBar, LPSCROLLINFO lpScrollInfo, UINT nMask) {
     lpScrollInfo->cbSize = sizeof(SCROLLINFO);
     lpScrollInfo->fMask |= nMask;
     return ::GetScrollInfo(m_hWnd, nBar, lpScrollInfo);
-}
-
-int CWnd::MessageBox(LPCTSTR lpszText, LPCTSTR lpszCaption, UINT nType) {
-    const CWinApp* app = AfxGetApp();
-    if (lpszCaption == nullptr && app != nullptr)
-        lpszCaption = app->m_pszAppName;
-    return ::MessageBox(GetSafeHwnd(), lpszText, lpszCaption, nType);
 }
 
 void CWnd::CenterWindow(CWnd* pAlternateOwner) {

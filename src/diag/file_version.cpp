@@ -127,7 +127,7 @@ CString wnt::version_fact(const char* path, int kind) {
         return "";
     const VersionBlock block(path);
     const auto info = block.value<VS_FIXEDFILEINFO>("\\");
-    if (!info || info->dwSignature != VS_FFI_SIGNATURE)
+    if (!info)
         return "";
     return kind == language ? language_text(block) : fixed_text(*info, kind);
 }

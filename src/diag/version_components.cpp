@@ -71,7 +71,8 @@ CString time_text(const FILETIME& time) {
     constexpr std::int64_t ticks_a_second = 10'000'000;
     constexpr std::int64_t years_1601_to_1970 = 11'644'473'600;
     const auto ticks = static_cast<std::int64_t>(time.dwHighDateTime) << 32 | time.dwLowDateTime;
-    return CTime(ticks == 0 ? 0 : ticks / ticks_a_second - years_1601_to_1970).Format("%d.%m.%Y, %H:%M:%S");
+    const std::int64_t seconds = std::max<std::int64_t>(ticks / ticks_a_second - years_1601_to_1970, 0);
+    return CTime(seconds).Format("%d.%m.%Y, %H:%M:%S");
 }
 
 bool can_open(const char* path) {
@@ -99,7 +100,9 @@ CString directory_of(const CString& path) {
 
 } // namespace
 
-CWntVersionZOPDlg::CWntVersionZOPDlg() : CPropertyPage(IDD_VERSION_COMPONENTS) {}
+CWntVersionZOPDlg::CWntVersionZOPDlg() : CPropertyPage(IDD_VERSION_COMPONENTS) {
+    m_psp.hInstance = wnt::library_module(); // whatever a host's resources hold under the same number
+}
 
 BSTR CWntVersionZOPDlg::GetFileInfo(const char* path, int kind) {
     return wnt::version_fact(path, kind).AllocSysString();

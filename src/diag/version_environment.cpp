@@ -80,7 +80,9 @@ CString label(UINT id) {
 
 } // namespace
 
-CWntVersionWinDlg::CWntVersionWinDlg() : CPropertyPage(IDD_VERSION_ENVIRONMENT) {}
+CWntVersionWinDlg::CWntVersionWinDlg() : CPropertyPage(IDD_VERSION_ENVIRONMENT) {
+    m_psp.hInstance = wnt::library_module(); // whatever a host's resources hold under the same number
+}
 
 BOOL CWntVersionWinDlg::OnInitDialog() {
     CPropertyPage::OnInitDialog();

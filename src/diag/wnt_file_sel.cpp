@@ -2,10 +2,11 @@
 
 CWntFileSel::CWntFileSel(BOOL open, const char* extension, const char* name, DWORD flags, const char* filter,
                          CWnd* parent)
-    : CFileDialog(open, extension, name, flags, filter, parent) {}
+    : CFileDialog(open, extension, name, flags, filter, parent, 0, FALSE) {} // a later style has no OnInitDialog
 
 BOOL CWntFileSel::OnInitDialog() {
-    GetParent()->CenterWindow(); // this window is a child of the dialog
+    if (CWnd* dialog = GetParent()) // this window is a child of the dialog
+        dialog->CenterWindow();
     CFileDialog::OnInitDialog();
     return FALSE;
 }

@@ -13,6 +13,8 @@
 ///         ...
 ///
 /// Nothing is locked: whoever shares the block agrees on who may touch it, and nobody reads while it is scrambled.
+/// They agree on its size too: the system rounds blocks up to whole pages, so a differing size is refused only where
+/// it asks for more pages, and each scrambles as many bytes as it asked for.
 class ZOPWNT_API CWntShMem {
 public:
     /// Creates the block, or opens it where another object or process has it; a new one holds zeros. A size below 1,

@@ -3,6 +3,7 @@
 #include <afxwin.h>
 #include <mmsystem.h>
 
+#include <cstring>
 #include <iterator>
 
 #include "library_resources.h"
@@ -10,6 +11,7 @@
 namespace {
 
 constexpr const char* sound_names[] = {"IDR_WAVE_BELL", "IDR_WAVE_CLAP", "IDR_WAVE_KEY"};
+constexpr std::size_t name_limit = 256; // of the system's, its end included
 constexpr int sound_count = static_cast<int>(std::size(sound_names));
 
 struct SoundState {
@@ -45,7 +47,7 @@ void WntSoundEnable(int flag) {
 }
 
 void WntSoundPlayFromAppResource(const char* name) {
-    if (name)
+    if (name && (IS_INTRESOURCE(name) || ::strnlen(name, name_limit) < name_limit))
         play(name, AfxGetResourceHandle());
 }
 

@@ -16,7 +16,8 @@ ZOPWNT_API void WntSoundEnable(std::uint16_t id, int flag);
 /// The master switch, on at first: WntSound() is silent while it is off.
 ZOPWNT_API void WntSoundEnable(int flag);
 
-/// Plays a WAVE resource of the host's current resource module, whatever the switches say.
+/// Plays a WAVE resource of the host's current resource module, whatever the switches say; a name of 256 or more
+/// characters is none.
 ZOPWNT_API void WntSoundPlayFromAppResource(const char* name);
 
 /// Sets the volume of the left channel, 0 to 65535, and silences the right one.

@@ -75,7 +75,7 @@ BOOL CWntSplash::Create() {
     UpdateWindow();
     if (!m_hWnd) // ended while it was being shown: the object is the caller's again
         return FALSE;
-    timer_ = SetTimer(splash_timer, time_);
+    SetTimer(splash_timer, time_);
     ends_itself_ = true;
     return TRUE;
 }
@@ -124,7 +124,7 @@ void CWntSplash::OnPaint() {
 }
 
 void CWntSplash::OnTimer(UINT_PTR timer) {
-    if (timer != timer_) {
+    if (timer != splash_timer) {
         CWnd::OnTimer(timer);
         return;
     }
@@ -140,7 +140,6 @@ BOOL CWntSplash::PreTranslateMessage(MSG* message) {
 }
 
 void CWntSplash::PostNcDestroy() {
-    timer_ = 0;
     if (ends_itself_)
         delete this; // and the owner's window with it
 }

@@ -37,7 +37,6 @@ private:
 
     UINT bitmap_id_;
     UINT time_;
-    UINT_PTR timer_ = 0;
     CBitmap bitmap_;
     CPalette palette_;
     CWnd owner_;

@@ -1,32 +1,29 @@
 #include "diag/wnt_version.h"
 
-#include "library_resources.h"
-
 IMPLEMENT_DYNAMIC(CWntVersion, CPropertySheet)
 
 BEGIN_MESSAGE_MAP(CWntVersion, CPropertySheet)
 ON_WM_CREATE()
+ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
 CWntVersion::CWntVersion(UINT caption, CWnd* parent, UINT page) : CPropertySheet(caption, parent, page) {}
 
 CWntVersion::CWntVersion(const char* caption, CWnd* parent, UINT page) : CPropertySheet(caption, parent, page) {}
 
-CWntVersion::~CWntVersion() = default;
-
 INT_PTR CWntVersion::DoModal() {
-    if (GetPageCount() == 0) {
+    if (!pages_added_) {
         AddPage(&components_);
         AddPage(&environment_);
+        pages_added_ = true;
     }
-    resources_ = std::make_unique<wnt::LibraryResources>();
-    const INT_PTR result = CPropertySheet::DoModal();
-    resources_.reset();
-    return result;
+    return CPropertySheet::DoModal();
 }
 
 int CWntVersion::OnCreate(LPCREATESTRUCT create) {
-    // The pages' templates have been found by now: the host's resources count again while the sheet is open.
-    resources_.reset();
     return CPropertySheet::OnCreate(create);
+}
+
+void CWntVersion::OnDestroy() {
+    CPropertySheet::OnDestroy();
 }

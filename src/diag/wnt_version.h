@@ -5,13 +5,7 @@
 #include <afxdlgs.h>
 #include <afxtempl.h>
 
-#include <memory>
-
 #include "zopwnt_api.h"
-
-namespace wnt {
-class LibraryResources;
-}
 
 /// The page of the installed components: each file's status and version information.
 class ZOPWNT_API CWntVersionZOPDlg : public CPropertyPage {
@@ -70,16 +64,17 @@ public:
     /// The caption as a text, or as a string of the host's resources. Page 0 shows the components, 1 the environment.
     explicit CWntVersion(UINT caption, CWnd* parent = nullptr, UINT page = 0);
     explicit CWntVersion(const char* caption, CWnd* parent = nullptr, UINT page = 0);
-    ~CWntVersion() override;
 
     INT_PTR DoModal() override;
 
 protected:
+    /// Default handling, for derived classes to build on.
     afx_msg int OnCreate(LPCREATESTRUCT create);
+    afx_msg void OnDestroy();
     DECLARE_MESSAGE_MAP()
 
 private:
     CWntVersionZOPDlg components_;
     CWntVersionWinDlg environment_;
-    std::unique_ptr<wnt::LibraryResources> resources_;
+    bool pages_added_ = false;
 };

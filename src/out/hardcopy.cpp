@@ -23,6 +23,10 @@ public:
 
     void print(CDC& page, int width, int height) const {
         const auto& header = info_.bmiHeader;
+        if (width < 1 || height < 1) { // as bitmaps are drawn everywhere
+            width = header.biWidth;
+            height = header.biHeight;
+        }
         if (bits_)
             ::StretchDIBits(page, 0, 0, width, height, 0, 0, header.biWidth, header.biHeight, bits_, &info_,
                             DIB_RGB_COLORS, SRCCOPY);
