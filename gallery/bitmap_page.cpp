@@ -1,6 +1,7 @@
 #include <afxdlgs.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -40,7 +41,7 @@ const char* CompressionName(DWORD compression) {
 std::vector<std::string> FactsOf(CWntBitmap& bitmap) {
     const BITMAPINFOHEADER& header = bitmap.GetBitmapInfoAddress()->bmiHeader;
     return {"width " + std::to_string(header.biWidth),
-            "height " + std::to_string(std::abs(header.biHeight)) +
+            "height " + std::to_string(std::abs(std::int64_t{header.biHeight})) +
                 (header.biHeight < 0 ? ", upper row first" : ", lower row first"),
             std::to_string(header.biBitCount) + " bits a pixel",
             std::to_string(bitmap.GetNumClrEntries()) + " colours in the table",
@@ -63,7 +64,9 @@ protected:
             !AddButton(next_, "Next", next_id))
             return false;
         next_.EnableWindow(pictures_.size() > 1);
-        Show(pictures_.empty() ? OwnPicture() : pictures_[0]);
+        const CString own = pictures_.empty() ? OwnPicture() : CString();
+        Show(pictures_.empty() ? own : pictures_[0]);
+        ::DeleteFileA(own);
         return true;
     }
 
@@ -95,10 +98,12 @@ protected:
     void Show(const CString& path) {
         const bool loaded = bitmap_.Load(static_cast<LPCTSTR>(path));
         facts_ = loaded ? FactsOf(bitmap_) : std::vector<std::string>{"This bitmap cannot be loaded."};
-        const int code = dib_.Load(path) ? 0 : dib_.GetLastError();
-        facts_.push_back(code             ? "no DIB section: error " + std::to_string(code)
-                         : dib_.IsValid() ? "DIB section: yes"
-                                          : "The file cannot be opened.");
+        CDibFile dib;
+        const bool section = dib.Load(path);
+        const int code = dib.GetLastError();
+        facts_.push_back(section ? "DIB section: yes"
+                         : code  ? "no DIB section: error " + std::to_string(code)
+                                 : "The file cannot be opened.");
         facts_.insert(facts_.begin(),
                       path.Mid(std::max(path.ReverseFind('\\'), path.ReverseFind('/')) + 1).GetString());
         if (!loaded)
@@ -111,17 +116,19 @@ protected:
         out.boxa2(0, 0, out.xmax, out.ymax);
         PaintFacts(out);
         const int width = bitmap_.GetWidth();
-        const int height = std::abs(bitmap_.GetHeight());
+        const std::int64_t height = std::abs(std::int64_t{bitmap_.GetHeight()});
         const int room_x = out.xmax - facts_width - 40;
         const int room_y = out.ymax - 40;
         if (width < 1 || height < 1 || room_x < 1 || room_y < 1)
             return;
-        const double scale = std::min({static_cast<double>(room_x) / width, static_cast<double>(room_y) / height, 4.0});
+        const double scale = std::min(
+            {static_cast<double>(room_x) / width, static_cast<double>(room_y) / static_cast<double>(height), 4.0});
         const int cx = std::max(static_cast<int>(width * scale), 1);
-        const int cy = std::max(static_cast<int>(height * scale), 1);
+        const int cy = std::max(static_cast<int>(static_cast<double>(height) * scale), 1);
         out.drawshadow(facts_width + 18, out.ymax - 20 - cy, facts_width + 21 + cx, out.ymax - 17, 0);
-        ::SetStretchBltMode(out.dc, COLORONCOLOR);
+        const int mode = ::SetStretchBltMode(out.dc, COLORONCOLOR);
         bitmap_.Draw(CDC::FromHandle(out.dc), facts_width + 20, 19, cx, cy);
+        ::SetStretchBltMode(out.dc, mode);
     }
 
     void PaintFacts(CWntOut& out) {
@@ -141,7 +148,6 @@ private:
     CFont font_;
     CButton open_, next_;
     CWntBitmap bitmap_;
-    CDibFile dib_;
     std::vector<std::string> facts_;
 };
 

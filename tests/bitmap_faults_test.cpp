@@ -5,26 +5,24 @@
 
 #include <chrono>
 #include <climits>
+#include <cstdio>
 #include <random>
 
 #include "bitmap_files.h"
 #include "pixels.h"
+#include "temporary_file.h"
 
 namespace {
 
-constexpr int least_files = 100'000;
-constexpr std::chrono::seconds most_time{60}; // a quarter of it is usual
+constexpr int most_files = 100'000;
+constexpr std::chrono::seconds most_time{60}; // a quarter of it is usual; a slow machine tries fewer random files
 constexpr std::int64_t most_pixels = 1 << 18; // larger ones only take time
 
 class BitmapFaults : public testing::Test {
 protected:
-    BitmapFaults() : disk("bitmap_faults_test.bmp", CFile::modeCreate | CFile::modeReadWrite) {
+    BitmapFaults() {
         const BYTE two_colours[] = {0, 3, 2, 0, 0, 0, 0, 0, 255, 255, 255, 0};
         palette.CreatePalette(reinterpret_cast<LOGPALETTE*>(const_cast<BYTE*>(two_colours)));
-    }
-    ~BitmapFaults() override {
-        disk.Close();
-        CFile::Remove("bitmap_faults_test.bmp");
     }
 
     static bool small(std::int64_t width, std::int64_t height) { return width * std::abs(height) <= most_pixels; }
@@ -48,16 +46,15 @@ protected:
 
     void try_bitmap() {
         CWntBitmap bitmap;
-        if (!bitmap.Load(&disk)) {
-            ASSERT_EQ(bitmap.GetWidth(), 16); // as it was
-            return;
-        }
-        if (!small(bitmap.GetWidth(), bitmap.GetHeight()))
+        const BOOL loaded = bitmap.Load(&disk);
+        ASSERT_TRUE(loaded || bitmap.GetWidth() == 16); // as it was
+        bitmap.Draw(nullptr, 0, 0);
+        bitmap.CopyBits(&other, 0, 0, 3, 3, 0, 0, 5);
+        other.CopyBits(&bitmap, 0, 0, 3, 3, 0, 0, 0xFFFFFFFF);
+        if (!loaded || !small(bitmap.GetWidth(), bitmap.GetHeight()))
             return;
         ++bitmaps;
         bitmap.Draw(CDC::FromHandle(picture.dc()), 0, 0);
-        bitmap.CopyBits(&other, 0, 0, 3, 3, 0, 0, 5);
-        other.CopyBits(&bitmap, 0, 0, 3, 3, 0, 0, 0xFFFFFFFF);
         ASSERT_TRUE(bitmap.MapColorsToPalette(&palette) && bitmap.Save(&disk));
         colours.Create(&bitmap);
     }
@@ -72,7 +69,8 @@ protected:
         }
     }
 
-    CFile disk;
+    TemporaryFile held;
+    CFile disk{held.name(), CFile::modeReadWrite};
     Picture picture{40, 40};
     CPalette palette;
     CWntBitmap other;
@@ -81,31 +79,20 @@ protected:
 };
 
 TEST_F(BitmapFaults, DoNoHarm) {
-    const BitmapFile kinds[] = {{8, 5, 3, false, 4},  {1, 9, -3}, {4, 3, 2, true},  {24, 5, 3},
-                                {16, 3, 3, false, 2}, {32, 2, 2}, {24, 3, 4, true}, {4, 8, 3, false, 5, 9}};
     const auto start = std::chrono::steady_clock::now();
     const int objects = live_gdi_objects();
-    for (const BitmapFile& kind : kinds) {
-        for (Bytes cut = kind.bytes(); !cut.empty(); cut.pop_back())
-            try_file(cut);
-        for (std::size_t at = 0; at < kind.head_bytes(); ++at)
-            for (int flip : {0x01, 0x02, 0x04, 0x08, 0x10, 0x20, 0x40, 0x80, 0xFF}) {
-                Bytes bytes = kind.bytes();
-                bytes[at] = static_cast<std::uint8_t>(bytes[at] ^ flip);
-                try_file(bytes);
-            }
-    }
+    try_broken_bitmap_files([this](const Bytes& bytes) { try_file(bytes); });
     std::mt19937 random(7);
-    while (files < least_files && std::chrono::steady_clock::now() - start < most_time) {
-        Bytes bytes = kinds[random() % std::size(kinds)].bytes();
+    while (files < most_files && std::chrono::steady_clock::now() - start < most_time) {
+        Bytes bytes = files_to_break[random() % std::size(files_to_break)].bytes();
         for (unsigned left = 1 + random() % 4; left > 0; --left) {
             std::uint8_t& byte = bytes[2 + random() % 52];
             byte = static_cast<std::uint8_t>(random() % 3 == 0 ? random() : byte ^ 1U << random() % 8);
         }
         try_file(bytes);
     }
-    EXPECT_GE(files, least_files);
-    EXPECT_GE(std::min(dibs, bitmaps), least_files / 10);
+    std::printf("%d broken files\n", files);
+    EXPECT_GE(std::min(dibs, bitmaps), files / 10);
     EXPECT_LE(live_gdi_objects(), objects + 1); // the last palette
 }
 

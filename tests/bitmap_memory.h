@@ -1,4 +1,4 @@
-// A bitmap source in memory, and both readers over it.
+// A bitmap source in memory, and a reader of DIB files over it.
 #pragma once
 
 #include "bitmap/bitmap_format.h"
@@ -33,9 +33,4 @@ inline int dib_head_of(std::span<const std::uint8_t> bytes, wnt::DibHead& head) 
             return true;
         },
         head);
-}
-
-inline bool bitmap_of(std::span<const std::uint8_t> bytes, wnt::BitmapHead& head, wnt::BitmapPixels& pixels) {
-    MemorySource source(bytes);
-    return wnt::read_bitmap_head(source, head) && wnt::read_bitmap_pixels(source, head, pixels);
 }

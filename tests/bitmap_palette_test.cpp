@@ -4,34 +4,28 @@
 
 #include "bitmap_files.h"
 #include "pixels.h"
+#include "quiet_program.h"
 #include "temporary_file.h"
 
 namespace {
 
-// Answers message boxes by itself.
-class Program : public CWinApp {
-public:
-    int DoMessageBox(LPCTSTR text, UINT, UINT) override {
-        boxes.push_back(text);
-        return IDOK;
-    }
-    std::vector<std::string> boxes;
-} program;
+QuietProgram program;
 
 constexpr int colours = 20;
 
 struct PaletteFile {
     std::uint32_t form = 0x204C4150; // "PAL "
     std::uint32_t id = 0x61746164;   // "data"
-    std::uint32_t chunk = 4 + 4 * colours;
+    std::uint32_t held = colours;
+    std::uint32_t chunk = 4 + 4 * held;
     std::uint32_t version = 0x300;
-    std::uint32_t count = colours;
+    std::uint32_t count = held;
 
     Bytes bytes() const {
-        Bytes file = {'R', 'I', 'F', 'F', 16 + 4 * colours, 0, 0, 0};
-        for (std::uint32_t value : {form, id, chunk, version | count << 16})
+        Bytes file = {'R', 'I', 'F', 'F'};
+        for (std::uint32_t value : {16 + 4 * held, form, id, chunk, version | count << 16})
             BitmapFile::put(file, value, 4);
-        for (int i = 0; i < 4 * colours; ++i)
+        for (std::uint32_t i = 0; i < 4 * held; ++i)
             file.push_back(i % 4 == 3 ? 0 : BitmapFile::colour_byte(i / 4, 2 - i % 4));
         return file;
     }
@@ -47,24 +41,29 @@ COLORREF colour_of(const CPalette& palette, int i) {
     return RGB(entry.peRed, entry.peGreen, entry.peBlue);
 }
 
+// Also behind other things, and more than the multimedia layer buffers.
 TEST(BitmapPalette, LoadsAndSavesPaletteFiles) {
-    const Bytes bytes = PaletteFile().bytes();
-    const TemporaryFile disk(bytes);
-    CWntBitmapPalette palette;
-    const int before = live_gdi_objects();
-    for (int i = 0; i < 3; ++i)
-        ASSERT_TRUE(palette.Load(disk.name()));
-    EXPECT_EQ(live_gdi_objects(), before + 1); // each replaces the one before
-    EXPECT_EQ(palette.GetNumColors(), colours);
-    EXPECT_EQ(colour_of(palette, 19), colour_of(19));
-
-    CFile file(disk.name(), CFile::modeCreate | CFile::modeReadWrite);
-    EXPECT_TRUE(palette.Save(&file));
-    EXPECT_EQ(file.GetLength(), bytes.size()); // still open
-    file.SeekToBegin();
-    EXPECT_TRUE(palette.Load(&file));
-    file.Close();
-    EXPECT_EQ(disk.bytes(), bytes);
+    for (const auto& [start, count] : {std::pair{0, colours}, {100, 5000}}) {
+        Bytes bytes = PaletteFile{.held = static_cast<std::uint32_t>(count)}.bytes();
+        bytes.insert(bytes.begin(), static_cast<std::size_t>(start), 0xEE);
+        const TemporaryFile disk(bytes);
+        CFile file(disk.name(), CFile::modeReadWrite);
+        CWntBitmapPalette palette;
+        const int before = live_gdi_objects();
+        for (int i = 0; i < 3; ++i) {
+            file.Seek(start, CFile::begin);
+            ASSERT_TRUE(palette.Load(&file));
+        }
+        EXPECT_EQ(live_gdi_objects(), before + 1); // each replaces the one before
+        EXPECT_TRUE(palette.GetNumColors() == count && colour_of(palette, count - 1) == colour_of(count - 1));
+        file.SetLength(static_cast<ULONGLONG>(start));
+        file.Seek(start, CFile::begin);
+        EXPECT_TRUE(palette.Save(&file));
+        file.Close();
+        EXPECT_EQ(disk.bytes(), bytes);
+        CFile reading(disk.name(), CFile::modeRead);
+        EXPECT_FALSE(palette.Save(&reading));
+    }
     CWntBitmapPalette none;
     EXPECT_FALSE(none.Save(INVALID_HANDLE_VALUE) || none.Load(static_cast<HANDLE>(nullptr)) || none.GetNumColors());
 }
@@ -137,10 +136,13 @@ TEST(BitmapPaletteScreen, GoesIntoTheSystemPalette) {
     HDC screen = ::GetDC(nullptr);
     const bool has_palette = (::GetDeviceCaps(screen, RASTERCAPS) & RC_PALETTE) != 0;
     EXPECT_EQ(palette.SetSysPalColors() != 0, has_palette);
-    PALETTEENTRY system[colours] = {};
-    ::GetSystemPaletteEntries(screen, 0, has_palette ? colours : 0, system);
-    for (int i = 0; i < colours && has_palette; ++i)
-        EXPECT_EQ(colour_of(palette, i), RGB(system[i].peRed, system[i].peGreen, system[i].peBlue)) << i;
+    for (int i = 0; i < colours && has_palette; ++i) { // behind the first static colours come the file's
+        PALETTEENTRY system = {}, own = {};
+        ::GetSystemPaletteEntries(screen, static_cast<UINT>(i), 1, &system);
+        palette.GetPaletteEntries(static_cast<UINT>(i), 1, &own);
+        const COLORREF expected = i < 10 ? RGB(system.peRed, system.peGreen, system.peBlue) : colour_of(i - 10);
+        EXPECT_TRUE(colour_of(palette, i) == expected && own.peFlags == (i < 10 ? 0 : PC_NOCOLLAPSE)) << i;
+    }
     ::ReleaseDC(nullptr, screen);
 }
 

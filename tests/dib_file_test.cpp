@@ -76,6 +76,9 @@ TEST(DibFile, TellsWhatFailed) {
     fails(dib.StreamOut(reading), 4);
     fails(dib.StreamIn(reading), 4);
     ::CloseHandle(reading);
+    HANDLE writing = ::CreateFileA(disk.name(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    fails(dib.StreamIn(writing), 3);
+    ::CloseHandle(writing);
     fails(dib.CreateNew(0, 5, 0, 0), 3);
     fails(dib.CreateNewTrueColor(0, 5, 0), 2);
     fails(dib.CreateNew(INT_MAX, INT_MAX, 0, 0), 6);
@@ -191,7 +194,7 @@ TEST(DibFile, IsRenderedIntoByOpenGL) {
     }
 }
 
-TEST(DibFile, LeavesNoDrawingObjects) {
+TEST(Bitmaps, LeaveNoDrawingObjects) {
     const TemporaryFile disk(BitmapFile{8, 20, 10}.bytes());
     Picture picture(20, 10);
     const int before = live_gdi_objects();
@@ -202,6 +205,12 @@ TEST(DibFile, LeavesNoDrawingObjects) {
         CDibFile copy(dib);
         ASSERT_EQ(live_gdi_objects(), before + 6);
         copy.StreamIn(INVALID_HANDLE_VALUE);
+        CWntBitmap bitmap;
+        CWntBitmapPalette palette;
+        ASSERT_TRUE(bitmap.Load(disk.name()) && palette.Create(&bitmap) && palette.Create(&bitmap));
+        bitmap.Draw(CDC::FromHandle(picture.dc()), 0, 0);
+        palette.Draw(CDC::FromHandle(picture.dc()), CRect(0, 0, 20, 10), FALSE);
+        ASSERT_EQ(live_gdi_objects(), before + 4);
     }
     EXPECT_EQ(live_gdi_objects(), before);
 }

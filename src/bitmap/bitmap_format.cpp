@@ -8,9 +8,9 @@ namespace wnt {
 
 namespace {
 
-constexpr std::uint64_t most_picture_bytes = 0x7FFF'FFFF;
 // Decoders of compressed pixels look a few bytes ahead.
 constexpr std::uint64_t spare_bytes = 16;
+constexpr std::uint32_t bit_fields = 3; // not compressed, either
 
 std::uint16_t word_at(const std::uint8_t* at) {
     return static_cast<std::uint16_t>(at[0] | at[1] << 8);
@@ -114,12 +114,22 @@ std::uint32_t bitmap_colours(const BitmapHeader& header) {
     return indexed == 0 ? header.colours_used : std::min(header.colours_used, indexed);
 }
 
+std::int32_t row_count(std::int32_t height) {
+    return height < 0 ? -std::max(height, -std::numeric_limits<std::int32_t>::max()) : height;
+}
+
 std::optional<std::uint64_t> drawn_bytes(const BitmapHeader& header) {
     if (header.width < 1 || header.height == 0)
         return 0;
     const auto padded = padded_bytes(header);
     return padded ? std::optional(std::max<std::uint64_t>(*padded, header.compression ? header.image_size : 0))
                   : std::nullopt;
+}
+
+std::optional<std::uint64_t> placed_bytes(const BitmapHeader& header) {
+    if (header.compression == uncompressed || header.compression == bit_fields)
+        return drawn_bytes(header);
+    return header.width < 1 || header.height == 0 ? 0 : header.image_size;
 }
 
 HeapBytes zeroed_bytes(std::uint64_t count) {
@@ -167,7 +177,8 @@ bool read_bitmap_head(BitmapSource& source, BitmapHead& head) {
     if (entry_bytes == 0)
         return false;
     const std::uint64_t colours = bitmap_colours(header);
-    if (colours * entry_bytes > source.remaining())
+    const std::uint64_t table_bytes = colours * entry_bytes;
+    if (table_bytes > source.remaining() || table_bytes > std::numeric_limits<std::uint32_t>::max())
         return false;
     head = {header_block(colours), file.pixel_offset, file.size};
     if (!head.block)

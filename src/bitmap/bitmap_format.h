@@ -19,6 +19,8 @@ inline constexpr std::uint32_t info_header_bytes = 40;
 inline constexpr std::uint32_t uncompressed = 0;
 /// Every header block has room for so many colours: the platform may look at them whatever the header says.
 inline constexpr std::uint32_t least_colours_held = 256;
+/// Larger pictures are refused.
+inline constexpr std::uint64_t most_picture_bytes = 0x7FFF'FFFF;
 
 struct BitmapFileHeader {
     std::uint16_t type = 0;
@@ -62,8 +64,13 @@ std::uint32_t storage_width(std::int32_t width);
 std::uint64_t storage_bytes(const BitmapHeader& header);
 /// CWntBitmap's colour count: what the header declares, but not more than up to 8 bits can have.
 std::uint32_t bitmap_colours(const BitmapHeader& header);
+/// The rows, whichever comes first. The lowest of heights has one more than can be told.
+std::int32_t row_count(std::int32_t height);
 /// What the platform may read of a picture's pixels when it draws them; nothing when that cannot be counted.
 std::optional<std::uint64_t> drawn_bytes(const BitmapHeader& header);
+/// The same of pixels that stay where they lie: compressed ones are as long as the header says, and behind them may be
+/// anything.
+std::optional<std::uint64_t> placed_bytes(const BitmapHeader& header);
 
 struct FreeBlock {
     void operator()(void* block) const { std::free(block); }

@@ -49,7 +49,8 @@ public:
     int CreateNewHighColor(int width, int height, int fill);
     int CreateNewTrueColor(int width, int height, int fill);
 
-    /// Without an error code for a file that cannot be opened. Saving an empty object leaves an empty file.
+    /// A null path or a file that cannot be opened leaves picture and error as they are. Saving an empty object leaves
+    /// an empty file.
     int Load(const char* path);
     int Save(const char* path) const;
     /// A bitmap at the present position of an open file. Missing bytes are no error and read as 0. Errors: 2 handle or
@@ -65,16 +66,19 @@ public:
     /// answers 0 with error 1 although all went well. Other errors: 1 no target, 2 palette not realised, 3 copying.
     int Draw(HDC dc, int x, int y, int cx, int cy) const;
     int DrawRealized(HDC dc, int x, int y, int cx, int cy) const;
-    /// Gives the memory device context a pixel format for OpenGL, with 24 bits of depth; non-zero on success.
+    /// Gives the memory device context a pixel format for OpenGL, with 24 bits of depth; non-zero on success. Refused
+    /// where the closest format has wider pixels than the bitmap.
     int PrepareOpenGL();
 
     void ClearBits(int value);
     /// The colour of the pixels and lines that follow, components from 0 to 255. Bitmaps of 8, 16 and 24 bits are drawn
-    /// on; at 8 bits the colour is a table index made of green and blue.
+    /// on; at 8 bits the colour is a table index made of green and blue, at 16 it is packed from the low bits of the
+    /// components, so that only 0 and 255 come out as one would expect.
     void SetColor(int r, int g, int b);
-    /// y counts rows as stored: 0 is the lower one. Outside the bitmap nothing is drawn.
+    /// y counts rows as stored: 0 is the lower one. Nothing is drawn outside the bitmap, and where its height is
+    /// negative.
     void SetPixel(int x, int y);
-    /// Both ends included, clipped.
+    /// Both ends included, clipped; as for pixels nothing where the height is negative.
     void Line(int x1, int y1, int x2, int y2);
 
     /// 0 for an empty object. The height is negative where the upper row comes first.
@@ -82,6 +86,7 @@ public:
     int GetHeight() const;
     int GetBitsPerPixel() const;
     HBITMAP GetHBitmap() const { return m_hBitmap; }
+    /// After drawing into it, GdiFlush() comes before pixels are set or looked at.
     HDC GetDC() const { return m_hDC; }
     void* GetPtrBits() const { return m_pBits; }
     int IsValid() const;

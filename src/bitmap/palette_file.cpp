@@ -11,14 +11,15 @@ constexpr FOURCC palette_form = mmioFOURCC('P', 'A', 'L', ' ');
 constexpr FOURCC data_id = mmioFOURCC('d', 'a', 't', 'a');
 constexpr char filter[] = "Palette files (*.PAL)|*.PAL|All files (*.*)|*.*||";
 
-// The multimedia layer over an open file, which stays open.
+// The multimedia layer over an open file, which stays open. Writing goes without a buffer: what fails when a buffer is
+// emptied is not told.
 class OverFile {
 public:
     OverFile(HANDLE file, DWORD mode) {
         MMIOINFO info = {};
         info.adwInfo[0] = static_cast<DWORD>(reinterpret_cast<ULONG_PTR>(file));
         if (file && file != INVALID_HANDLE_VALUE)
-            riff_ = ::mmioOpenA(nullptr, &info, mode | MMIO_ALLOCBUF);
+            riff_ = ::mmioOpenA(nullptr, &info, mode);
     }
     ~OverFile() {
         if (riff_)
@@ -31,13 +32,6 @@ public:
 private:
     HMMIO riff_ = nullptr;
 };
-
-// Whether the file holds the whole chunk; its data come next.
-bool holds(HMMIO riff, const MMCKINFO& chunk) {
-    const LONG end = ::mmioSeek(riff, 0, SEEK_END);
-    const LONG begin = ::mmioSeek(riff, static_cast<LONG>(chunk.dwDataOffset), SEEK_SET);
-    return begin >= 0 && end >= begin && chunk.cksize <= static_cast<DWORD>(end - begin);
-}
 
 bool find_data(HMMIO riff, MMCKINFO& data) {
     MMCKINFO form = {};
@@ -64,7 +58,8 @@ bool write_palette(HMMIO riff, const wnt::LogPalette& colours) {
 
 BOOL CWntBitmapPalette::Load(HMMIO riff) {
     MMCKINFO data = {};
-    if (!find_data(riff, data) || data.cksize < wnt::LogPalette::bytes_of(1) || !holds(riff, data))
+    if (!find_data(riff, data) || data.cksize < wnt::LogPalette::bytes_of(1) ||
+        data.cksize > wnt::LogPalette::bytes_of(wnt::LogPalette::most_colours))
         return FALSE;
     const wnt::HeapBytes block = wnt::zeroed_bytes(data.cksize);
     const LONG size = static_cast<LONG>(data.cksize);
@@ -86,7 +81,7 @@ BOOL CWntBitmapPalette::Save(HMMIO riff) const {
 }
 
 BOOL CWntBitmapPalette::Load(HANDLE file) {
-    const OverFile layer(file, MMIO_READ);
+    const OverFile layer(file, MMIO_READ | MMIO_ALLOCBUF);
     return layer.riff() && Load(layer.riff());
 }
 

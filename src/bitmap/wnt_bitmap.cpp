@@ -14,6 +14,7 @@ namespace {
 constexpr int initial_size = 16;
 constexpr DWORD opaque = 0xFFFFFFFF;
 constexpr int colours = 256;
+constexpr std::uint64_t most_callers_colours = 65'536;
 
 wnt::BitmapHeader header_of(const BITMAPINFO* info) {
     return info ? wnt::header_of(reinterpret_cast<const std::uint8_t*>(info)) : wnt::BitmapHeader{};
@@ -75,8 +76,10 @@ BOOL CWntBitmap::Create(int width, int height) {
     m_bMyBits = TRUE;
     if (width < 0 || height < 0)
         return FALSE;
-    wnt::HeapBytes block = wnt::header_block(colours);
     const std::uint64_t size = std::uint64_t{wnt::storage_width(width)} * static_cast<std::uint64_t>(height);
+    if (size > wnt::most_picture_bytes)
+        return FALSE;
+    wnt::HeapBytes block = wnt::header_block(colours);
     wnt::HeapBytes bits = wnt::zeroed_bytes(size);
     if (!block || !bits)
         return FALSE;
@@ -92,11 +95,14 @@ BOOL CWntBitmap::Create(int width, int height) {
 BOOL CWntBitmap::Create(BITMAPINFO* info, void* bits) {
     const wnt::BitmapHeader header = header_of(info);
     const std::uint64_t count = wnt::bitmap_colours(header);
+    if (!info || count > most_callers_colours)
+        return FALSE;
     wnt::HeapBytes block = wnt::header_block(count);
-    if (!info || !block)
+    if (!block)
         return FALSE;
     std::memcpy(block.get(), info, wnt::info_header_bytes + 4 * count);
-    take(info_of(std::move(block)), static_cast<BYTE*>(bits), FALSE, bits ? wnt::drawn_bytes(header).value_or(0) : 0);
+    const std::uint64_t size = bits ? wnt::placed_bytes(header).value_or(0) : 0;
+    take(info_of(std::move(block)), static_cast<BYTE*>(bits), FALSE, std::min(size, wnt::most_picture_bytes));
     return TRUE;
 }
 
@@ -136,21 +142,21 @@ BYTE* CWntBitmap::GetPixelAddress(int x, int y) const {
 }
 
 void CWntBitmap::Draw(CDC* dc, int x, int y) {
-    Draw(dc, x, y, GetWidth(), std::abs(GetHeight()));
+    Draw(dc, x, y, GetWidth(), wnt::row_count(GetHeight()));
 }
 
 void CWntBitmap::Draw(CDC* dc, int x, int y, int cx, int cy) {
     const wnt::BitmapHeader header = header_of(m_pBMI);
-    const auto needed = wnt::drawn_bytes(header);
+    const auto needed = m_bMyBits ? wnt::drawn_bytes(header) : wnt::placed_bytes(header);
     if (m_pBits && needed && *needed > 0 && *needed <= m_bits_size)
-        ::StretchDIBits(dc->GetSafeHdc(), x, y, cx, cy, 0, 0, header.width, std::abs(header.height), m_pBits, m_pBMI,
-                        DIB_RGB_COLORS, SRCCOPY);
+        ::StretchDIBits(dc->GetSafeHdc(), x, y, cx, cy, 0, 0, header.width, wnt::row_count(header.height), m_pBits,
+                        m_pBMI, DIB_RGB_COLORS, SRCCOPY);
 }
 
 // The block's last byte lies in its upper row, at its right.
 bool CWntBitmap::holds_block(int x, int y, int w, int h) const {
     const wnt::BitmapHeader header = header_of(m_pBMI);
-    if (x < 0 || y < 0 || w > header.width - x || h > header.height - y)
+    if (header.width < 1 || header.height < 1 || x < 0 || y < 0 || w > header.width - x || h > header.height - y)
         return false;
     const std::uint64_t row = static_cast<std::uint64_t>(header.height - y - 1);
     return row * wnt::storage_width(header.width) + static_cast<std::uint64_t>(x) + static_cast<std::uint64_t>(w) <=
@@ -164,19 +170,16 @@ void CWntBitmap::CopyBits(CWntBitmap* destination, int xd, int yd, int w, int h,
     BYTE* to = destination->GetPixelAddress(xd, yd + h - 1);
     const std::ptrdiff_t from_row = StorageWidth();
     const std::ptrdiff_t to_row = destination->StorageWidth();
-    const bool apart = m_pBits != destination->m_pBits;
     for (std::ptrdiff_t row = 0; row < h; ++row) {
         if (transparent != opaque)
             copy_visible(to + row * to_row, from + row * from_row, w, static_cast<BYTE>(transparent));
-        else if (apart)
-            std::memcpy(to + row * to_row, from + row * from_row, w);
         else
             std::memmove(to + row * to_row, from + row * from_row, w);
     }
 }
 
 BOOL CWntBitmap::MapColorsToPalette(CPalette* palette) {
-    if (!palette || !m_pBMI)
+    if (!palette || !palette->GetSafeHandle() || !m_pBMI)
         return FALSE;
     std::array<BYTE, colours> nearest;
     for (int i = 0; i < colours; ++i) {

@@ -43,29 +43,30 @@ public:
     /// is not inside both bitmaps is not copied.
     virtual void CopyBits(CWntBitmap* destination, int xd, int yd, int w, int h, int xs, int ys, DWORD transparent);
 
-    /// A blank bitmap of 8 bits with a ramp of greys.
+    /// A blank bitmap of 8 bits with a ramp of greys. Refused below 0 and from 2 GB on; the bitmap is empty then.
     BOOL Create(int width, int height);
-    /// Copies the header and its colours; the pixels stay the caller's and must outlive their use.
+    /// Copies the header and its colours, refused above 65536; the pixels stay the caller's and must outlive their use.
+    /// Compressed ones are biSizeImage bytes and are drawn only when that is told.
     BOOL Create(BITMAPINFO* info, void* bits);
-    /// A bitmap file that is a resource of the type "DIB" or a standard bitmap's, the library's first, then the
-    /// program's. The pixels are used where they lie.
+    /// A bitmap file that is a resource of the library, of the type "DIB" or else a standard bitmap's. The pixels are
+    /// used where they lie and become writable.
     BOOL Load(UINT id);
 
     BITMAPINFO* GetBitmapInfoAddress() const { return m_pBMI; }
     void* GetBitsAddress() const { return m_pBits; }
     RGBQUAD* GetClrTabAddress() const { return m_pBMI ? m_pBMI->bmiColors : nullptr; }
     UINT GetNumClrEntries() const;
-    /// The place of a pixel, y counting downwards from 0; null right of and below the bitmap. Values below 0 are the
-    /// caller's to avoid.
+    /// The place of an 8-bit pixel, y counting downwards from 0; null right of and below the bitmap, so everywhere
+    /// where the upper row comes first. Values below 0, and other depths, are the caller's to avoid.
     BYTE* GetPixelAddress(int x, int y) const;
-    /// The length of a row in bytes.
+    /// The length in bytes that a row of 8-bit pixels has, whatever the depth.
     UINT StorageWidth() const;
 
 private:
     void take(BITMAPINFO* info, BYTE* bits, BOOL own, ULONGLONG size);
     void release();
     BOOL load_file(CFile& file);
-    void save_file(CFile& file);
+    BOOL save_file(CFile& file);
     BOOL load_data(BYTE* data, DWORD size);
     bool holds_block(int x, int y, int w, int h) const;
     ULONGLONG stored_bytes() const;

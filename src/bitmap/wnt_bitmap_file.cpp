@@ -111,28 +111,27 @@ BOOL CWntBitmap::load_file(CFile& file) {
 }
 
 BOOL CWntBitmap::Save(CFile* file) {
-    return file && m_pBMI && succeeds([&] {
-               save_file(*file);
-               return TRUE;
-           });
+    return file && m_pBMI && succeeds([&] { return save_file(*file); });
 }
 
-void CWntBitmap::save_file(CFile& file) {
+BOOL CWntBitmap::save_file(CFile& file) {
     const auto counted = wnt::storage_bytes(wnt::header_of(reinterpret_cast<std::uint8_t*>(m_pBMI)));
+    if (counted > wnt::most_picture_bytes)
+        return FALSE;
     const auto head =
         wnt::encode_file_header({wnt::bitmap_mark, static_cast<std::uint32_t>(counted + pixel_offset), pixel_offset});
     file.Write(head.data(), wnt::file_header_bytes);
     file.Write(m_pBMI, block_bytes);
     const ULONGLONG held = stored_bytes();
     file.Write(m_pBits, static_cast<UINT>(held));
-    write_zeros(file, static_cast<std::uint32_t>(counted - held));
+    write_zeros(file, counted - held);
+    return TRUE;
 }
 
 BOOL CWntBitmap::Load(UINT id) {
-    const wnt::LibraryResources first_the_library;
+    HINSTANCE module = wnt::library_module();
     const LPCTSTR name = MAKEINTRESOURCE(id);
     for (const LPCTSTR type : {static_cast<LPCTSTR>("DIB"), static_cast<LPCTSTR>(RT_BITMAP)}) {
-        HINSTANCE module = AfxFindResourceHandle(name, type);
         HRSRC found = ::FindResource(module, name, type);
         HGLOBAL loaded = found ? ::LoadResource(module, found) : nullptr;
         if (auto* data = static_cast<BYTE*>(loaded ? ::LockResource(loaded) : nullptr))
@@ -148,11 +147,11 @@ BOOL CWntBitmap::load_data(BYTE* data, DWORD size) {
     wnt::BitmapHead head;
     if (!wnt::read_bitmap_head(source, head) || head.pixel_offset > size)
         return FALSE;
-    const auto drawn = wnt::drawn_bytes(wnt::header_of(head.block.get()));
+    const auto placed = wnt::placed_bytes(wnt::header_of(head.block.get()));
     const DWORD held = size - head.pixel_offset;
     DWORD previous = 0;
-    if (!drawn || *drawn > held || !::VirtualProtect(data, size, PAGE_READWRITE, &previous))
+    if (!placed || *placed > held || !::VirtualProtect(data, size, PAGE_READWRITE, &previous))
         return FALSE;
-    take(reinterpret_cast<BITMAPINFO*>(head.block.release()), data + head.pixel_offset, FALSE, held);
+    take(reinterpret_cast<BITMAPINFO*>(head.block.release()), data + head.pixel_offset, FALSE, *placed);
     return TRUE;
 }

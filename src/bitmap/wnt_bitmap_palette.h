@@ -32,8 +32,8 @@ public:
     BOOL Save(HANDLE file) const;
     BOOL Save(HMMIO riff) const;
 
-    /// 16 cells a row, as many as there are colours, at most 256; a full grid fills the rectangle. `background` tells
-    /// how the palette is selected.
+    /// 16 cells a row, as many as there are colours, at most 256; a full grid fills the rectangle and one pixel
+    /// beyond it, right and below. `background` tells how the palette is selected.
     void Draw(CDC* dc, const RECT* rect, BOOL background);
     /// On a screen with a palette: makes this palette the system's and takes over what the system made of it.
     BOOL SetSysPalColors();
