@@ -47,8 +47,6 @@ protected:
     bool CreateContents() override {
         if (!CSurfacePage::CreateContents())
             return false;
-        CWnd* surface = GetDlgItem(100); // under all that lies on it
-        surface->ModifyStyle(0, WS_CLIPSIBLINGS);
         UINT id = first_axis;
         for (Chart& chart : charts_)
             for (CWntAxis* axis : {&chart.across, &chart.upright})
@@ -62,8 +60,12 @@ protected:
         charts_[times].upright.SetFlags(1, 100, 0);
         charts_[numbers].line_distance = 0.5f;
         font_.CreatePointFont(90, "Arial");
+        if (!CreateRow())
+            return false;
+        CWnd* surface = GetDlgItem(100); // under all that lies on it
+        surface->ModifyStyle(0, WS_CLIPSIBLINGS);
         surface->SetWindowPos(&CWnd::wndBottom, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-        return CreateRow();
+        return true;
     }
 
     bool CreateRow() {
