@@ -20,7 +20,7 @@ Kind gauge(const char* type) {
                 auto& shown = static_cast<CWntGauge&>(widget);
                 shown.LoadLine((std::string(":TYPE=") + type).c_str(), 0);
                 shown.LoadLine("", 2);
-                for (int value = 0; value < 20; ++value)
+                for (int value = 0; value < 3; ++value)
                     shown.SetCurVal(value);
             }};
 }
