@@ -5,7 +5,6 @@
 #define IDS_FORMAT 131
 #define IDC_NUMBER 1010
 #define IDC_NAME 1011
-#define IDC_CHECK 1012
 #define IDC_LIST 1013
 #define IDC_RADIO 1014
 #define ID_FRAME_COMMAND 0x8001

@@ -17,8 +17,11 @@ struct Kind {
 Kind gauge(const char* type) {
     return {type, [] { return std::make_unique<CWntGauge>(); }, 6,
             [type](CWnd& widget) {
-                static_cast<CWntGauge&>(widget).LoadLine((std::string(":TYPE=") + type).c_str(), 0);
-                static_cast<CWntGauge&>(widget).LoadLine("", 2);
+                auto& shown = static_cast<CWntGauge&>(widget);
+                shown.LoadLine((std::string(":TYPE=") + type).c_str(), 0);
+                shown.LoadLine("", 2);
+                for (int value = 0; value < 3; ++value)
+                    shown.SetCurVal(value);
             }};
 }
 

@@ -1,31 +1,10 @@
-// The program object of tests that run modal dialogs: at home beside its files, never stopped by a message box.
+// Tests that run modal dialogs.
 #pragma once
 
-#include <zopwnt.h>
+#include "quiet_program.h"
 
-#include <gmock/gmock.h>
-
-#include <cstring>
 #include <functional>
-#include <string>
 #include <utility>
-
-class ModalProgram : public CWinApp {
-public:
-    int DoMessageBox(LPCTSTR, UINT, UINT) override { return IDOK; }
-};
-inline ModalProgram program;
-
-class Framework : public testing::Environment {
-    void SetUp() override {
-        ASSERT_TRUE(AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), 0));
-        char path[MAX_PATH] = "";
-        ::GetModuleFileNameA(nullptr, path, sizeof path);
-        *std::strrchr(path, '\\') = '\0';
-        ASSERT_TRUE(::SetCurrentDirectoryA(path));
-    }
-};
-inline const testing::Environment* const environment = testing::AddGlobalTestEnvironment(new Framework);
 
 /// Calls the function again and again while messages are dispatched, until it answers true.
 class WhileModal {

@@ -1,11 +1,15 @@
+// The program object of the tests, at home beside its files; the framework is up before the first test.
 #pragma once
 
-#include <afxwin.h>
+#include <zopwnt.h>
 
+#include <gmock/gmock.h>
+
+#include <cstring>
 #include <string>
 #include <vector>
 
-/// A program object that keeps the texts of message boxes and answers them by itself.
+/// Keeps the texts of message boxes and answers them by itself.
 class QuietProgram : public CWinApp {
 public:
     int DoMessageBox(LPCTSTR text, UINT, UINT) override {
@@ -14,3 +18,15 @@ public:
     }
     std::vector<std::string> boxes;
 };
+inline QuietProgram program;
+
+class Framework : public testing::Environment {
+    void SetUp() override {
+        ASSERT_TRUE(AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), 0));
+        char path[MAX_PATH] = "";
+        ::GetModuleFileNameA(nullptr, path, sizeof path);
+        *std::strrchr(path, '\\') = '\0';
+        ASSERT_TRUE(::SetCurrentDirectoryA(path));
+    }
+};
+inline const testing::Environment* const environment = testing::AddGlobalTestEnvironment(new Framework);

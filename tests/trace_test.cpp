@@ -1,15 +1,9 @@
 // The trace: its switches, its file and its window.
-#include <zopwnt.h>
-
-#include <gmock/gmock.h>
+#include "quiet_program.h"
 
 #include <cstdio>
 #include <fstream>
 #include <iterator>
-#include <string>
-#include <vector>
-
-#include "quiet_program.h"
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -18,13 +12,6 @@ using testing::StartsWith;
 using Texts = std::vector<std::string>;
 
 namespace {
-
-QuietProgram program;
-
-class Framework : public testing::Environment {
-    void SetUp() override { ASSERT_TRUE(AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), 0)); }
-};
-const testing::Environment* const environment = testing::AddGlobalTestEnvironment(new Framework);
 
 class Tracer : public CWntTrace {
 public:

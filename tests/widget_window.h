@@ -1,14 +1,11 @@
 // A host window for a widget under test, and its pixels.
 #pragma once
 
-#include <zopwnt.h>
-
-#include <gmock/gmock.h>
-
 #include <algorithm>
 #include <vector>
 
 #include "pixels.h"
+#include "quiet_program.h"
 
 inline constexpr COLORREF poison = RGB(255, 0, 254); // no widget paints it
 
@@ -47,8 +44,6 @@ inline void cover(CWnd& widget, int surface_id, COLORREF colour) {
 class WidgetTest : public testing::Test {
 protected:
     void SetUp() override {
-        static const bool framework = AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), 0);
-        ASSERT_TRUE(framework);
         ASSERT_TRUE(host_.CreateEx(0, nullptr, "host", WS_POPUP, CRect(0, 0, 1010, 1010), nullptr, 0));
         host_.ShowWindow(SW_SHOWNOACTIVATE);
     }
