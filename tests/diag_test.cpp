@@ -236,23 +236,32 @@ TEST(ErrorBox, ShowsItsThreeTextsOnTheWindowColour) {
     EXPECT_EQ(texts, "Title & more|The message|Detail 1\r\nDetail 2|OK|");
 }
 
+// Keeps where the dialog lies once it is initialised: what the system does with it later is its own affair.
+class PlacedFileSel : public CWntFileSel {
+public:
+    using CWntFileSel::CWntFileSel;
+    CRect place;
+
+protected:
+    BOOL OnInitDialog() override {
+        const BOOL result = CWntFileSel::OnInitDialog();
+        ::GetWindowRect(::GetParent(m_hWnd), &place);
+        return result;
+    }
+};
+
 TEST(FileSel, OpensInTheMiddleOfItsParent) {
     CWnd host;
     ASSERT_TRUE(host.CreateEx(0, nullptr, "host", WS_POPUP | WS_VISIBLE, CRect(600, 500, 1800, 1500), nullptr, 0));
-    CWntFileSel choice(TRUE, "dll", "ZOPWNT.dll", OFN_FILEMUSTEXIST, "Libraries|*.dll||", &host);
-    CRect place;
-    const CRect middle(CPoint(1198, 998), CSize(5, 5));
-    const DWORD start = ::GetTickCount();
+    PlacedFileSel choice(TRUE, "dll", "ZOPWNT.dll", OFN_FILEMUSTEXIST, "Libraries|*.dll||", &host);
     WhileModal modal([&] {
-        if (!choice.m_hWnd)
+        if (!choice.m_hWnd || !::IsWindowVisible(::GetParent(choice.m_hWnd)))
             return false;
-        ::GetWindowRect(::GetParent(choice.m_hWnd), &place);
-        if (!middle.PtInRect(place.CenterPoint()) && ::GetTickCount() - start < 5000)
-            return false; // still being set up
         ::PostMessage(::GetParent(choice.m_hWnd), WM_COMMAND, IDOK, 0);
         return true;
     });
     EXPECT_EQ(choice.DoModal(), IDOK);
     EXPECT_EQ(choice.GetFileName(), "ZOPWNT.dll");
-    EXPECT_TRUE(middle.PtInRect(place.CenterPoint())) << place.CenterPoint().x << ", " << place.CenterPoint().y;
+    EXPECT_NEAR(choice.place.CenterPoint().x, 1200, 2);
+    EXPECT_NEAR(choice.place.CenterPoint().y, 1000, 2);
 }
