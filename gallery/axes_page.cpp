@@ -26,6 +26,8 @@ enum { numbers, texts, times, charts };
 constexpr float seconds = 25.0f;
 constexpr std::array<int, 7> levels = {0, 34, 82, 57, 91, 46, 68};
 
+constexpr int first_hour = 6;
+
 // Litres a minute over one day.
 float Flow(float hour) {
     return 42 + 24 * std::sin((hour - 8) * 0.42f) + 9 * std::sin(hour * 1.7f);
@@ -99,8 +101,8 @@ protected:
         charts_[texts].across.SetRange(0.0f, 1.0f); // lays the zoom control's slider out
         charts_[texts].across.SetTexts(static_cast<int>(names_.size()), names_.data());
         charts_[texts].upright.SetRange(0.0f, 100.0f);
-        TAxisdatetime start = {21, 11, 2026, 6, 0, 0, 0};
-        TAxisdatetime end = {22, 11, 2026, 6, 0, 0, 0};
+        TAxisdatetime start = {21, 11, 2026, first_hour, 0, 0, 0};
+        TAxisdatetime end = {22, 11, 2026, first_hour, 0, 0, 0};
         charts_[times].across.SetRange(0.0f, 1.0f);
         charts_[times].across.SetViewTime(&start, &end);
         charts_[times].upright.SetRange(0.0f, 80.0f);
@@ -182,7 +184,6 @@ protected:
     }
 
     static void PaintTimes(CWntOut& out, Chart& chart) {
-        TAxisdatetime at = {21, 11, 2026, 6, 0, 0, 0};
         std::vector<POINT> points;
         __int64 start = 0;
         chart.across.ScreenToValue(0, &start);
@@ -190,7 +191,7 @@ protected:
             int x = 0;
             int y = 0;
             chart.across.ValueToScreen(start + minute * 6000LL, &x);
-            chart.upright.CalcPixelCoord(Flow(static_cast<float>(at.hour) + static_cast<float>(minute) / 60), &y);
+            chart.upright.CalcPixelCoord(Flow(first_hour + static_cast<float>(minute) / 60), &y);
             points.push_back(At(out, chart, x, y));
         }
         Curve(out, chart, points, RGB(160, 40, 60));

@@ -1,7 +1,8 @@
 #include "diag/wnt_splash.h"
 
-#include <cstddef>
 #include <vector>
+
+#include "bitmap/log_palette.h"
 
 namespace {
 
@@ -27,15 +28,11 @@ std::vector<RGBQUAD> colour_table(CDC& screen, CBitmap& bitmap) {
 }
 
 void make_palette(CPalette& palette, const std::vector<RGBQUAD>& colours) {
-    if (colours.empty())
+    const wnt::LogPalette description(static_cast<UINT>(colours.size()));
+    if (!description.get())
         return;
-    std::vector<std::byte> room(sizeof(LOGPALETTE) + colours.size() * sizeof(PALETTEENTRY));
-    auto* description = reinterpret_cast<LOGPALETTE*>(room.data());
-    description->palVersion = 0x300;
-    description->palNumEntries = static_cast<WORD>(colours.size());
-    for (std::size_t i = 0; i < colours.size(); ++i)
-        description->palPalEntry[i] = {colours[i].rgbRed, colours[i].rgbGreen, colours[i].rgbBlue, 0};
-    palette.CreatePalette(description);
+    description.take(colours.data());
+    palette.CreatePalette(description.get());
 }
 
 bool dismisses(UINT message) {

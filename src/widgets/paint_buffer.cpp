@@ -2,24 +2,16 @@
 
 namespace wnt {
 
-PaintBuffer::PaintBuffer(CDC& dc, int width, int height)
-    : dc_(dc), window_(dc.m_hDC), width_(width), height_(height), memory_(::CreateCompatibleDC(window_)),
-      bitmap_(memory_ && width > 0 && height > 0 ? ::CreateCompatibleBitmap(window_, width, height) : nullptr) {
-    if (!bitmap_)
-        return;
-    previous_ = ::SelectObject(memory_, bitmap_);
-    redirect(memory_);
+PaintBuffer::PaintBuffer(CDC& dc, int width, int height) : dc_(dc), window_(dc.m_hDC), width_(width), height_(height) {
+    if (picture_.create(window_, width, height))
+        redirect(picture_.dc());
 }
 
 PaintBuffer::~PaintBuffer() {
-    if (bitmap_) {
-        redirect(window_);
-        ::BitBlt(window_, 0, 0, width_, height_, memory_, 0, 0, SRCCOPY);
-        ::SelectObject(memory_, previous_);
-        ::DeleteObject(bitmap_);
-    }
-    if (memory_)
-        ::DeleteDC(memory_);
+    if (!picture_)
+        return;
+    redirect(window_);
+    ::BitBlt(window_, 0, 0, width_, height_, picture_.dc(), 0, 0, SRCCOPY);
 }
 
 void PaintBuffer::redirect(HDC target) {

@@ -2,6 +2,8 @@
 
 #include <afxwin.h>
 
+#include "widgets/memory_picture.h"
+
 namespace wnt {
 
 /// Lets a device context draw into memory for the guard's life and shows the finished picture at its end. Without
@@ -20,9 +22,7 @@ private:
     HDC window_;
     int width_;
     int height_;
-    HDC memory_ = nullptr;
-    HBITMAP bitmap_ = nullptr;
-    HGDIOBJ previous_ = nullptr;
+    MemoryPicture picture_;
 };
 
 } // namespace wnt

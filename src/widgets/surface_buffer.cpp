@@ -19,12 +19,9 @@ SurfaceBuffer::SurfaceBuffer(CWntOut& out) : out_(out) {
     if (!begin_painting(out))
         return;
     window_ = out.dc;
-    memory_ = ::CreateCompatibleDC(window_);
-    bitmap_ = memory_ ? ::CreateCompatibleBitmap(window_, out.xmax + 1, out.ymax + 1) : nullptr;
-    if (!bitmap_)
+    if (!picture_.create(window_, out.xmax + 1, out.ymax + 1))
         return;
-    previous_ = ::SelectObject(memory_, bitmap_);
-    out.reset(memory_);
+    out.reset(picture_.dc());
     prime_colours(out);
 }
 
@@ -32,15 +29,11 @@ SurfaceBuffer::~SurfaceBuffer() {
     const int ymax = out_.ymax;
     if (window_)
         out_.endpaint();
-    if (bitmap_) {
-        for (const UpwardRect& part : parts_)
-            ::BitBlt(window_, part.left, ymax - part.top, part.right - part.left + 1, part.top - part.bottom + 1,
-                     memory_, part.left, ymax - part.top, SRCCOPY);
-        ::SelectObject(memory_, previous_);
-        ::DeleteObject(bitmap_);
-    }
-    if (memory_)
-        ::DeleteDC(memory_);
+    if (!picture_)
+        return;
+    for (const UpwardRect& part : parts_)
+        ::BitBlt(window_, part.left, ymax - part.top, part.right - part.left + 1, part.top - part.bottom + 1,
+                 picture_.dc(), part.left, ymax - part.top, SRCCOPY);
 }
 
 SurfacePainting::SurfacePainting(CWntOut& out, Open& open) : out_(out), open_(open), opened_(!open) {

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "out/wnt_out.h"
+#include "widgets/memory_picture.h"
 #include "widgets/upward_rect.h"
 
 namespace wnt {
@@ -25,9 +26,7 @@ public:
 private:
     CWntOut& out_;
     HDC window_ = nullptr;
-    HDC memory_ = nullptr;
-    HBITMAP bitmap_ = nullptr;
-    HGDIOBJ previous_ = nullptr;
+    MemoryPicture picture_;
     std::vector<UpwardRect> parts_;
 };
 

@@ -1,0 +1,24 @@
+#include "widgets/memory_picture.h"
+
+namespace wnt {
+
+MemoryPicture::~MemoryPicture() {
+    if (bitmap_) {
+        ::SelectObject(dc_, previous_);
+        ::DeleteObject(bitmap_);
+    }
+    if (dc_)
+        ::DeleteDC(dc_);
+}
+
+bool MemoryPicture::create(HDC like, int width, int height) {
+    if (width < 1 || height < 1)
+        return false;
+    dc_ = ::CreateCompatibleDC(like);
+    bitmap_ = dc_ ? ::CreateCompatibleBitmap(like, width, height) : nullptr;
+    if (bitmap_)
+        previous_ = ::SelectObject(dc_, bitmap_);
+    return bitmap_ != nullptr;
+}
+
+} // namespace wnt
