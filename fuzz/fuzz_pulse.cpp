@@ -89,7 +89,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     PulseHeader header;
     if (read_header(file.stream(), header, nullptr) == PulseFault::none)
         check_header(header);
-    require(0 <= header.line_count && header.line_count <= most_curves);
+    require(0 <= header.line_count && header.line_count <= most_pulse_curves);
     while (const auto sample = read_sample(file.stream()))
         check_sample(*sample);
     return 0;

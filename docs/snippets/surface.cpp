@@ -60,9 +60,11 @@ void surface_snippets(CWnd* parent, HDC printer) {
     plot.Create(nullptr, "Plot", WS_CHILD | WS_VISIBLE, CRect(0, 0, 200, 100), parent, 9);
 
     //! [device]
-    CWntOut out;
-    out.ymax = 2000; // a surface without a window: the height that y is turned over with
+    CWntOut out;        // without a window
+    out.targetmode = 1; // reset() leaves the clip alone
     if (out.reset(printer)) {
+        out.xmax = ::GetDeviceCaps(printer, HORZRES) - 1;
+        out.ymax = ::GetDeviceCaps(printer, VERTRES) - 1; // the row that y counts up from
         draw(out);
         out.endpaint(); // the device context has its own pen and brush again
     }

@@ -49,9 +49,9 @@ public:
     int CreateNewHighColor(int width, int height, int fill);
     int CreateNewTrueColor(int width, int height, int fill);
 
-    /// A null path or a file that cannot be opened leaves picture and error as they are. Saving an empty object leaves
-    /// an empty file.
+    /// A null path or a file that cannot be opened leaves the object empty, without an error.
     int Load(const char* path);
+    /// Saving an empty object leaves an empty file and error 1. A path that cannot be opened is no error.
     int Save(const char* path) const;
     /// A bitmap at the present position of an open file. Missing bytes are no error and read as 0. Errors: 2 handle or
     /// position, 3 file header, 4 no bitmap, 5 information header, 6 another header than the 40-byte one, or

@@ -73,6 +73,7 @@ void write_table(std::FILE* file, const RGBQUAD* table, int count) {
 } // namespace
 
 int CDibFile::Load(const char* path) {
+    Delete();
     if (!path)
         return 0;
     HANDLE file =

@@ -4,6 +4,8 @@
 #include "bitmap/log_palette.h"
 #include "bitmap/wnt_bitmap_palette.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr WORD palette_version = 0x300;
@@ -58,16 +60,16 @@ bool write_palette(HMMIO riff, const wnt::LogPalette& colours) {
 
 BOOL CWntBitmapPalette::Load(HMMIO riff) {
     MMCKINFO data = {};
-    if (!find_data(riff, data) || data.cksize < wnt::LogPalette::bytes_of(1) ||
-        data.cksize > wnt::LogPalette::bytes_of(wnt::LogPalette::most_colours))
+    if (!find_data(riff, data) || data.cksize < wnt::LogPalette::bytes_of(1))
         return FALSE;
-    const wnt::HeapBytes block = wnt::zeroed_bytes(data.cksize);
-    const LONG size = static_cast<LONG>(data.cksize);
+    const DWORD bytes = std::min(data.cksize, wnt::LogPalette::bytes_of(wnt::LogPalette::most_colours));
+    const wnt::HeapBytes block = wnt::zeroed_bytes(bytes);
+    const LONG size = static_cast<LONG>(bytes);
     if (!block || ::mmioRead(riff, reinterpret_cast<char*>(block.get()), size) != size)
         return FALSE;
     auto* colours = reinterpret_cast<LOGPALETTE*>(block.get());
     if (colours->palVersion != palette_version || colours->palNumEntries == 0 ||
-        wnt::LogPalette::bytes_of(colours->palNumEntries) > data.cksize)
+        wnt::LogPalette::bytes_of(colours->palNumEntries) > bytes)
         return FALSE;
     return replace(colours);
 }

@@ -39,9 +39,10 @@ public:
     virtual BOOL MapColorsToPalette(CPalette* palette);
     virtual void GetRect(CRect* rect);
     /// Copies the w x h block at (xs, ys) to (xd, yd) of a bitmap, y counting downwards, row by row from the lowest
-    /// one. Pixels equal to the low byte of `transparent` are left out, except by 0xFFFFFFFF. Not clipped: a block that
-    /// is not inside both bitmaps is not copied.
-    virtual void CopyBits(CWntBitmap* destination, int xd, int yd, int w, int h, int xs, int ys, DWORD transparent);
+    /// one. Pixels equal to the low byte of `transparent` are left out; 0xFFFFFFFF leaves none out. Not clipped: a
+    /// block that is not inside both bitmaps is not copied.
+    virtual void CopyBits(CWntBitmap* destination, int xd, int yd, int w, int h, int xs, int ys,
+                          DWORD transparent = 0xFFFFFFFF);
 
     /// A blank bitmap of 8 bits with a ramp of greys. Refused below 0 and from 2 GB on; the bitmap is empty then.
     BOOL Create(int width, int height);

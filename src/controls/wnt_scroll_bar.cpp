@@ -1,6 +1,6 @@
 #include "controls/wnt_scroll_bar.h"
 
-#include "out/geometry.h"
+#include "arithmetic.h"
 
 BEGIN_MESSAGE_MAP(CWntScrollBar, CScrollBar)
 ON_WM_HSCROLL()

@@ -9,7 +9,8 @@
 /// ends move by one line only.
 class ZOPWNT_API CWntScrollBar : public CScrollBar {
 public:
-    /// Applies a scroll code to a bar; null changes nothing.
+    /// Applies a scroll code (SB_LINEUP and so on) to a bar: a thumb's code moves it to `pos`, unclamped here, the end
+    /// of scrolling and unknown codes change nothing, and nor does a null bar.
     void SetThumb(UINT code, UINT pos, CScrollBar* bar);
 
 protected:

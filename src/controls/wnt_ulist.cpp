@@ -94,9 +94,12 @@ void* CWntUlist::nextitem() {
     return this && holds(cursor) ? slot(cursor++) : nullptr;
 }
 
-// The spare slot is the last one with an address.
+// The spare slot is the last one with an address; a cursor from beyond it walks back as well.
 void* CWntUlist::previousitem() {
-    return this && buffer && cursor >= 1 && cursor <= capacity ? slot(cursor--) : nullptr;
+    if (!this || cursor < 1)
+        return nullptr;
+    const int at = cursor--;
+    return buffer && at <= capacity ? slot(at) : nullptr;
 }
 
 int CWntUlist::updateitem(void* item) {

@@ -52,8 +52,8 @@ public:
     void* readitem();
     /// The same, then the cursor moves on.
     void* nextitem();
-    /// Address of the cursor's slot, which may be the one behind the last item, then the cursor moves back; null with
-    /// the cursor at slot 0.
+    /// Address of the cursor's slot, which may be the one behind the last item, then the cursor moves back; null from
+    /// slot 0, where it stays, and from beyond the slots.
     void* previousitem();
     /// Overwrites the item at the cursor; 0 when there is none.
     int updateitem(void* item);
@@ -63,13 +63,13 @@ public:
     /// Number of items; -1 on a null object.
     int queryitemno();
 
-    char* name;
+    char* name;            ///< as given to create()
     std::int32_t itemsize; ///< bytes
     std::int32_t capacity; ///< slots
     std::uint8_t* buffer;  ///< null without a list
     std::int32_t bytes;    ///< itemsize * capacity
     std::int32_t count;    ///< items, in slots 0 to count - 1
-    std::int32_t cursor;
+    std::int32_t cursor;   ///< a slot's index
 
 private:
     bool holds(std::int64_t index) const { return 0 <= index && index < count; }

@@ -17,8 +17,8 @@ public:
         const DWORD size = ::GetFileVersionInfoSizeA(path, &ignored);
         if (size == 0)
             return;
-        // A block tells the lengths of its parts itself. Whatever it says, the search for one that lies three levels
-        // deep ends within this much room, all zeros: pages that cost nothing until they are looked at.
+        // The lengths inside a block are not to be trusted: three nested ones of 16 bits lead this far past its end at
+        // the most. That much room follows it, all zeros, in pages that cost nothing until they are looked at.
         constexpr std::size_t deepest_reach = 3 * 0x10000;
         bytes_.reset(::VirtualAlloc(nullptr, size + deepest_reach, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE));
         if (bytes_ && !::GetFileVersionInfoA(path, 0, size, bytes_.get()))
@@ -105,15 +105,15 @@ CString language_text(const VersionBlock& block) {
 
 CString fixed_text(const VS_FIXEDFILEINFO& info, int kind) {
     switch (kind) {
-    case wnt::file_version:
+    case wnt::fact_file_version:
         return number_text(info.dwFileVersionMS, info.dwFileVersionLS);
-    case wnt::product_version:
+    case wnt::fact_product_version:
         return number_text(info.dwProductVersionMS, info.dwProductVersionLS);
-    case wnt::file_flags:
+    case wnt::fact_file_flags:
         return flags_text(info.dwFileFlags);
-    case wnt::operating_system:
+    case wnt::fact_operating_system:
         return name_of(system_names, info.dwFileOS);
-    case wnt::file_type:
+    case wnt::fact_file_type:
         return name_of(type_names, info.dwFileType);
     default:
         return "";
@@ -123,11 +123,11 @@ CString fixed_text(const VS_FIXEDFILEINFO& info, int kind) {
 } // namespace
 
 CString wnt::version_fact(const char* path, int kind) {
-    if (!path || kind < file_version || kind > language)
+    if (!path || kind < fact_file_version || kind > fact_language)
         return "";
     const VersionBlock block(path);
     const auto info = block.value<VS_FIXEDFILEINFO>("\\");
     if (!info)
         return "";
-    return kind == language ? language_text(block) : fixed_text(*info, kind);
+    return kind == fact_language ? language_text(block) : fixed_text(*info, kind);
 }

@@ -3,6 +3,8 @@
 #include <afxwin.h>
 #include <afxcmn.h>
 
+#include <cstddef>
+
 namespace wnt {
 
 struct ReportColumn {
@@ -23,7 +25,7 @@ public:
     /// Behind the last row; answers its index.
     int add_row(const char* text, int image);
     void set_cell(int row, int column, const char* text);
-    /// For both sizes, since a report shows the small ones only.
+    /// As normal and as small images; a report shows the small ones.
     void set_images(HIMAGELIST images);
 
 private:

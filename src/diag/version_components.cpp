@@ -13,7 +13,7 @@ IMPLEMENT_DYNCREATE(CWntVersionZOPDlg, CPropertyPage)
 
 BEGIN_MESSAGE_MAP(CWntVersionZOPDlg, CPropertyPage)
 ON_WM_DESTROY()
-ON_BN_CLICKED(IDC_WNTVERZOP_PRINT, &CWntVersionZOPDlg::OnWntverzopPrint)
+ON_BN_CLICKED(IDC_VERSION_PRINT, &CWntVersionZOPDlg::OnWntverzopPrint)
 END_MESSAGE_MAP()
 
 namespace {
@@ -57,7 +57,7 @@ WIN32_FILE_ATTRIBUTE_DATA file_status(const char* path) {
     return ::GetFileAttributesExA(path, GetFileExInfoStandard, &status) ? status : WIN32_FILE_ATTRIBUTE_DATA{};
 }
 
-CString flags_text(DWORD attributes) {
+CString attributes_text(DWORD attributes) {
     constexpr DWORD volume = 0x08; // of the attributes' byte in directories; the platform's headers have no name for it
     const auto letter = [attributes](DWORD bit, char shown) { return attributes & bit ? shown : '-'; };
     CString text;
@@ -142,10 +142,10 @@ void CWntVersionZOPDlg::ShowComponents(HWND control) {
         CString size;
         size.Format("%ld bytes", static_cast<long>(status.nFileSizeLow));
         int column = flags_column - 1;
-        for (const CString& cell : {CString(component.file), flags_text(status.dwFileAttributes), size,
+        for (const CString& cell : {CString(component.file), attributes_text(status.dwFileAttributes), size,
                                     time_text(status.ftCreationTime), time_text(status.ftLastWriteTime)})
             list.set_cell(row, column++, cell);
-        for (int kind = wnt::file_version; kind <= wnt::language; ++kind)
+        for (int kind = wnt::fact_file_version; kind <= wnt::fact_language; ++kind)
             list.set_cell(row, first_fact_column + kind - 1, wnt::version_fact(path, kind));
     }
 }

@@ -20,26 +20,26 @@ constexpr int variable_limit = 80;
 constexpr wnt::ReportColumn columns[] = {{"Description", 200}, {"Content", 800}};
 
 // The platform's calls answer the length of what they copied, or of what they would have needed.
-template <int limit, class Call> CString text_of(Call call) {
+template <int limit, class Call> CString copied_text(Call call) {
     char text[limit] = "";
     const DWORD length = call(text, limit);
     return length > 0 && length < limit ? CString(text) : CString();
 }
 
 CString folder_of(UINT(WINAPI* call)(LPSTR, UINT)) {
-    return text_of<folder_limit>([call](char* text, int limit) { return call(text, static_cast<UINT>(limit)); });
+    return copied_text<folder_limit>([call](char* text, int limit) { return call(text, static_cast<UINT>(limit)); });
 }
 
 CString working_folder() {
-    return text_of<MAX_PATH>([](char* text, DWORD limit) { return ::GetCurrentDirectoryA(limit, text); });
+    return copied_text<MAX_PATH>([](char* text, DWORD limit) { return ::GetCurrentDirectoryA(limit, text); });
 }
 
 CString variable(const char* name) {
-    return text_of<variable_limit>(
+    return copied_text<variable_limit>(
         [name](char* text, DWORD limit) { return ::GetEnvironmentVariableA(name, text, limit); });
 }
 
-CString name_of(BOOL(WINAPI* call)(LPSTR, LPDWORD)) {
+CString registered_name(BOOL(WINAPI* call)(LPSTR, LPDWORD)) {
     char text[256] = "";
     DWORD size = sizeof text;
     return call(text, &size) ? CString(text) : CString();
@@ -93,8 +93,8 @@ BOOL CWntVersionWinDlg::OnInitDialog() {
     list.add_columns(columns);
     const System system = system_facts();
     const Row rows[] = {
-        {label(IDS_VERSION_COMPUTER), name_of(::GetComputerNameA), 0},
-        {label(IDS_VERSION_USER), name_of(::GetUserNameA), 1},
+        {label(IDS_VERSION_COMPUTER), registered_name(::GetComputerNameA), 0},
+        {label(IDS_VERSION_USER), registered_name(::GetUserNameA), 1},
         {label(IDS_VERSION_PLATFORM), system.platform, 2},
         {label(IDS_VERSION_NUMBER), system.version, 4},
         {label(IDS_VERSION_BUILD), system.build, 4},

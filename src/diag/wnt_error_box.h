@@ -9,7 +9,9 @@
 ///     CWntErrorBox("Recording", "The file cannot be written.", path).DoModal();
 class ZOPWNT_API CWntErrorBox : public CDialog {
 public:
+    /// With three empty texts.
     CWntErrorBox();
+    /// A title, a line or two of message, and details, which may have many lines.
     CWntErrorBox(const CString& title, const CString& message, const CString& details);
 
 protected:

@@ -4,6 +4,7 @@
 
 #include "zopwnt_api.h"
 
+/// @file
 /// Short sounds. Each call returns when its sound has ended; without a sound device, and for an unknown sound, nothing
 /// happens. The switches are the whole process's.
 

@@ -3,15 +3,12 @@
 #include <vector>
 
 #include "bitmap/log_palette.h"
+#include "out/device_state.h"
 
 namespace {
 
 constexpr UINT_PTR splash_timer = 1;
 constexpr UINT most_colours = 256;
-
-bool few_colours(CDC& screen) {
-    return screen.GetDeviceCaps(BITSPIXEL) * screen.GetDeviceCaps(PLANES) <= 8;
-}
 
 bool has_palette(CDC& dc) {
     return dc.GetDeviceCaps(RASTERCAPS) & RC_PALETTE;
@@ -95,7 +92,7 @@ BOOL CWntSplash::GetBitmapAndPalette(UINT id, CBitmap& bitmap, CPalette& palette
     bitmap.Attach(loaded);
     palette.DeleteObject();
     CClientDC screen(nullptr);
-    if (few_colours(screen))
+    if (wnt::few_colours(screen))
         make_palette(palette, colour_table(screen, bitmap));
     else
         palette.CreateHalftonePalette(&screen);

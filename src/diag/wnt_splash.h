@@ -24,6 +24,7 @@ public:
     /// palette. 0 where there is no such bitmap.
     BOOL GetBitmapAndPalette(UINT id, CBitmap& bitmap, CPalette& palette);
 
+    /// Ends the splash at a key or click.
     BOOL PreTranslateMessage(MSG* message) override;
 
 protected:

@@ -1,6 +1,6 @@
 #include "diag/wnt_trace.h"
 
-#include <cstdlib>
+#include <cstdarg>
 #include <ctime>
 
 #include "diag/trace_state.h"
@@ -17,7 +17,7 @@ constexpr int deepest_indent = 512;
 constexpr char separator[] = "----------------------------------------------------------------\n";
 static_assert(sizeof separator == 64 + 2);
 
-CString local_time(const char* format) {
+CString now_text(const char* format) {
     const std::time_t now = std::time(nullptr);
     const std::tm* fields = std::localtime(&now);
     char text[128];
@@ -44,14 +44,6 @@ void report_overflow() {
     reporting = false;
 }
 
-void format_line(char (&text)[text_limit], const char* format, va_list arguments) {
-    if (!format)
-        text[0] = '\0';
-    if (!format || !format_secure(text, format, arguments))
-        report_overflow();
-    trace_state().last_line = text;
-}
-
 void write_line(int indent, const char* text) {
     const auto& state = trace_state();
     if (!state.stream || !(state.flags & wnt::trace_to_file))
@@ -72,7 +64,12 @@ void list_line(const char* text) {
         ::SendMessageA(list, LB_SELECTSTRING, static_cast<WPARAM>(count - 2), reinterpret_cast<LPARAM>(text));
 }
 
-void emit(int indent, const char* text) {
+void trace_line(char (&text)[text_limit], int indent, const char* format, va_list arguments) {
+    if (!format)
+        text[0] = '\0';
+    if (!format || !format_secure(text, format, arguments))
+        report_overflow();
+    trace_state().last_line = text;
     write_line(indent, text);
     if (trace_state().flags & wnt::trace_to_window)
         list_line(text);
@@ -120,7 +117,7 @@ void CWntTrace::SetFilename(const char* name) {
         state.flags &= ~wnt::trace_to_file;
         return;
     }
-    const CString started = local_time("started at %H:%M:%S on %A, %B %d, %Y\n");
+    const CString started = now_text("started at %H:%M:%S on %A, %B %d, %Y\n");
     state.filename = name;
     state.flags |= wnt::trace_to_file;
     // Intended: the banner's file does not become the trace stream. It stays open until the next banner.
@@ -149,18 +146,16 @@ void CWntTrace::Trace(int indent, const char* format, ...) {
     static char text[text_limit];
     va_list arguments;
     va_start(arguments, format);
-    format_line(text, format, arguments);
+    trace_line(text, indent, format, arguments);
     va_end(arguments);
-    emit(indent, text);
 }
 
 void CWntTrace::Trace(const char* format, ...) {
     static char text[text_limit];
     va_list arguments;
     va_start(arguments, format);
-    format_line(text, format, arguments);
+    trace_line(text, 0, format, arguments);
     va_end(arguments);
-    emit(0, text);
 }
 
 void WntTrace(const char* format, ...) {
@@ -169,9 +164,8 @@ void WntTrace(const char* format, ...) {
         trace_state().read_environment();
     va_list arguments;
     va_start(arguments, format);
-    format_line(text, format, arguments);
+    trace_line(text, 0, format, arguments);
     va_end(arguments);
-    emit(0, text);
 }
 
 void CWntTrace::display(const char* text) {
@@ -195,7 +189,7 @@ void CWntTrace::OnDestroy() {
     if (!state.stream)
         return;
     std::fprintf(state.stream, "%s%sEnd of Trace\n\n", separator,
-                 local_time("ended at %H:%M:%S on %A, %B %d, %Y\n").GetString());
+                 now_text("ended at %H:%M:%S on %A, %B %d, %Y\n").GetString());
     state.close_stream();
 }
 

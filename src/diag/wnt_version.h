@@ -22,7 +22,7 @@ public:
 protected:
     BOOL OnInitDialog() override;
     afx_msg void OnDestroy();
-    /// Prints the summary on the default printer.
+    // Prints the summary on the default printer.
     afx_msg void OnWntverzopPrint();
     DECLARE_MESSAGE_MAP()
 
@@ -61,14 +61,16 @@ class ZOPWNT_API CWntVersion : public CPropertySheet {
     DECLARE_DYNAMIC(CWntVersion)
 
 public:
-    /// The caption as a text, or as a string of the host's resources. Page 0 shows the components, 1 the environment.
+    /// The caption as a string of the host's resources. Page 0 shows the components, 1 the environment.
     explicit CWntVersion(UINT caption, CWnd* parent = nullptr, UINT page = 0);
+    /// The caption as a text.
     explicit CWntVersion(const char* caption, CWnd* parent = nullptr, UINT page = 0);
 
+    /// Shows the sheet until it is closed.
     INT_PTR DoModal() override;
 
 protected:
-    /// Default handling, for derived classes to build on.
+    // Default handling, for derived classes to build on.
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnDestroy();
     DECLARE_MESSAGE_MAP()

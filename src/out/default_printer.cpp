@@ -2,9 +2,7 @@
 
 namespace {
 
-constexpr DWORD dialog_flags = 0x14000C;
-static_assert(dialog_flags == (PD_NOSELECTION | PD_NOPAGENUMS | PD_USEDEVMODECOPIES | PD_HIDEPRINTTOFILE));
-static_assert(sizeof(DOCINFOA) == 40);
+constexpr DWORD dialog_flags = PD_NOSELECTION | PD_NOPAGENUMS | PD_USEDEVMODECOPIES | PD_HIDEPRINTTOFILE;
 
 } // namespace
 

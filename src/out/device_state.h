@@ -38,6 +38,11 @@ private:
     Handle handle_;
 };
 
+/// Whether the device shows 256 colours or fewer.
+inline bool few_colours(HDC dc) {
+    return ::GetDeviceCaps(dc, BITSPIXEL) * ::GetDeviceCaps(dc, PLANES) <= 8;
+}
+
 /// The XOR pen mix, set back to plain copy at the end.
 class XorGuard {
 public:

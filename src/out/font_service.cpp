@@ -72,6 +72,7 @@ unsigned CWntOut::getZopguiFontCodepage() {
     CHARSETINFO info;
     if (!getZopguiFont(&description, ZOPFONT_PROPORTIONAL))
         return process_codepage;
+    // The call takes the number in the place of a pointer.
     auto* charset = reinterpret_cast<DWORD*>(static_cast<ULONG_PTR>(description.lfCharSet));
     return ::TranslateCharsetInfo(charset, &info, TCI_SRCCHARSET) ? info.ciACP : process_codepage;
 }

@@ -2,9 +2,10 @@
 
 #include <cstdint>
 
+#include "arithmetic.h"
+
 /// Integer geometry in library coordinates (y up). A point type has members x and y, a rectangle type left, top,
-/// right and bottom with top as the upper y, all signed and 32 bits wide. Products and sums that are fixed to 32 bits
-/// wrap around.
+/// right and bottom with top as the upper y, all signed and 32 bits wide.
 namespace wnt {
 
 /// Sine of a binary angle (65536 units a turn, 0 along +x, growing towards +y) times r, truncated towards zero.
@@ -28,23 +29,6 @@ int points_center(int a, int b, int c);
 
 /// 1 when dx * dx + dy * dy < r * r.
 int points_testincircle(int dx, int dy, int r);
-
-namespace wrapped {
-
-constexpr std::int32_t narrow(std::int64_t number) {
-    return static_cast<std::int32_t>(static_cast<std::uint32_t>(number));
-}
-constexpr std::int32_t add(std::int32_t a, std::int32_t b) {
-    return narrow(std::int64_t{a} + b);
-}
-constexpr std::int32_t subtract(std::int32_t a, std::int32_t b) {
-    return narrow(std::int64_t{a} - b);
-}
-constexpr std::int32_t multiply(std::int32_t a, std::int32_t b) {
-    return narrow(std::int64_t{a} * b);
-}
-
-} // namespace wrapped
 
 namespace detail {
 

@@ -23,7 +23,7 @@ public:
 
     void print(CDC& page, int width, int height) const {
         const auto& header = info_.bmiHeader;
-        if (width < 1 || height < 1) { // as bitmaps are drawn everywhere
+        if (width < 1 || height < 1) { // an empty target means the picture's own size
             width = header.biWidth;
             height = header.biHeight;
         }

@@ -1,14 +1,30 @@
 #include "out/wnt_out.h"
 
+#include "arithmetic.h"
 #include "out/device_state.h"
-#include "out/geometry.h"
 
 namespace wrapped = wnt::wrapped;
+
+// Corners inclusive, y1 the lower edge, become the device's half-open rectangle.
+RECT CWntOut::device_rect(int x1, int y1, int x2, int y2) const {
+    return {x1, flip(y2), wrapped::add(x2, 1), wrapped::add(flip(y1), 1)};
+}
+
+RECT CWntOut::library_rect(const RECT& device) const {
+    return {device.left, flip(device.top), wrapped::subtract(device.right, 1), wrapped::add(flip(device.bottom), 1)};
+}
+
+RECT CWntOut::update_rect() const {
+    RECT update = {};
+    if (m_hWnd)
+        ::GetUpdateRect(m_hWnd, &update, FALSE);
+    return library_rect(update);
+}
 
 void CWntOut::setclip(int x1, int y1, int x2, int y2) {
     if (!ready())
         return;
-    const RECT area = {x1, flip(y2), wrapped::add(x2, 1), wrapped::add(flip(y1), 1)};
+    const RECT area = device_rect(x1, y1, x2, y2);
     wnt::GdiObject<HRGN> region(::CreateRectRgn(area.left, area.top, area.right, area.bottom));
     if (region) {
         ::SelectClipRgn(dc, region.get());
@@ -47,9 +63,8 @@ int CWntOut::testclip(int x1, int y1, int x2, int y2) {
     RECT clip;
     if (!dc || ::GetClipBox(dc, &clip) == ERROR)
         return 0;
-    if (x1 > clip.right - 1 || x2 < clip.left || y1 > flip(clip.top) || y2 < wrapped::add(flip(clip.bottom), 1))
-        return 0;
-    return 1;
+    clip = library_rect(clip);
+    return x1 <= clip.right && x2 >= clip.left && y1 <= clip.top && y2 >= clip.bottom;
 }
 
 int CWntOut::clipit(int, int, int, int) {
@@ -57,6 +72,8 @@ int CWntOut::clipit(int, int, int, int) {
 }
 
 void CWntOut::excludeclip(int x1, int y1, int x2, int y2) {
-    if (ready() && !outmode)
-        ::ExcludeClipRect(dc, x1, flip(y2), wrapped::add(x2, 1), wrapped::add(flip(y1), 1));
+    if (!ready() || outmode)
+        return;
+    const RECT area = device_rect(x1, y1, x2, y2);
+    ::ExcludeClipRect(dc, area.left, area.top, area.right, area.bottom);
 }

@@ -7,10 +7,14 @@ namespace {
 constexpr int pen_styles[8] = {PS_SOLID, PS_SOLID, PS_DOT, PS_DASH, PS_DASHDOT, PS_DOT, PS_DASH, PS_DASHDOTDOT};
 constexpr int hatch_styles[8] = {-1, -1, HS_VERTICAL, HS_HORIZONTAL, HS_DIAGCROSS, HS_DIAGCROSS, HS_CROSS, HS_CROSS};
 
+COLORREF built_in_colour(int i) {
+    return wnt::colour_values[i >= 0 && i < wnt::colour_count ? i : 0];
+}
+
 } // namespace
 
 COLORREF CWntOut::rgbcolor(int i) {
-    return wnt::colour_values[i >= 0 && i < wnt::colour_count ? i : 0];
+    return built_in_colour(i);
 }
 
 void CWntOut::setcolorpalette(COLORREF* table, int count) {
@@ -30,7 +34,7 @@ int CWntOut::getcolorpalette(COLORREF** out) {
 
 COLORREF CWntOut::palette_colour(int index) const {
     if (!palette || palettecount <= 0)
-        return const_cast<CWntOut*>(this)->rgbcolor(index);
+        return built_in_colour(index);
     const int entry = index % palettecount;
     return palette[entry > 0 ? entry : 0];
 }

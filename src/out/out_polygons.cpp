@@ -4,6 +4,7 @@
 #include <cmath>
 #include <memory>
 #include <new>
+#include <utility>
 #include <vector>
 
 #include "out/device_range.h"
@@ -18,8 +19,21 @@ wnt::DevicePoint precise(const POINT& p) {
     return {static_cast<double>(p.x), static_cast<double>(p.y)};
 }
 
+POINT point_of(const Tpt& p) {
+    return {p.x, p.y};
+}
+
 POINT rounded(const wnt::DevicePoint& p) {
     return {std::lround(p.x), std::lround(p.y)};
+}
+
+void draw_far_polygon(HDC dc, const POINT* pts, int n) {
+    std::vector<wnt::DevicePoint> whole(n);
+    std::transform(pts, pts + n, whole.begin(), precise);
+    const auto kept = wnt::polygon_in_range(std::move(whole));
+    std::vector<POINT> near_points(kept.size());
+    std::transform(kept.begin(), kept.end(), near_points.begin(), rounded);
+    ::Polygon(dc, near_points.data(), static_cast<int>(near_points.size()));
 }
 
 void draw_polygon(HDC dc, const POINT* pts, int n) {
@@ -27,12 +41,10 @@ void draw_polygon(HDC dc, const POINT* pts, int n) {
         ::Polygon(dc, pts, n);
         return;
     }
-    std::vector<wnt::DevicePoint> whole(n);
-    std::transform(pts, pts + n, whole.begin(), precise);
-    const auto kept = wnt::polygon_in_range(std::move(whole));
-    std::vector<POINT> near_points(kept.size());
-    std::transform(kept.begin(), kept.end(), near_points.begin(), rounded);
-    ::Polygon(dc, near_points.data(), static_cast<int>(near_points.size()));
+    try {
+        draw_far_polygon(dc, pts, n);
+    } catch (const std::bad_alloc&) { // not drawn: the caller's points are yet to be flipped back
+    }
 }
 
 void draw_polyline(HDC dc, const POINT* pts, int n) {
@@ -83,8 +95,7 @@ void CWntOut::poly_copy(const Tpt* pts, int n, long fill) {
         return;
     POINT copy[copied_points];
     n = std::min(n, copied_points);
-    for (int i = 0; i < n; ++i)
-        copy[i] = {pts[i].x, pts[i].y};
+    std::transform(pts, pts + n, copy, point_of);
     dopoly(copy, n, fill);
 }
 
@@ -110,8 +121,7 @@ void CWntOut::geomline(Tpt* pts, int n, int width) {
     std::unique_ptr<POINT[]> copy(new (std::nothrow) POINT[n]);
     if (!copy)
         return;
-    for (int i = 0; i < n; ++i)
-        copy[i] = {pts[i].x, pts[i].y};
+    std::transform(pts, pts + n, copy.get(), point_of);
     geomline(copy.get(), n, width);
 }
 

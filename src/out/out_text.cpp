@@ -5,10 +5,10 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "arithmetic.h"
 #include "out/device_state.h"
 #include "out/point_font.h"
 #include "out/text_font.h"
-#include "out/geometry.h"
 
 namespace wrapped = wnt::wrapped;
 
@@ -18,8 +18,8 @@ bool single_byte_locale() {
     return MB_CUR_MAX == 1;
 }
 
-int saturate(std::int64_t value) {
-    return static_cast<int>(std::clamp<std::int64_t>(value, INT_MIN, INT_MAX));
+int length_of(const char* text) {
+    return static_cast<int>(std::min<std::size_t>(std::strlen(text), INT_MAX));
 }
 
 // The service's font, with its height replaced; the system's default face at `size` without a service.
@@ -50,7 +50,7 @@ void select_alignment(HDC dc, int align) {
 HFONT wnt::make_chars_font(CWntOut& out) {
     if (single_byte_locale())
         return make_point_font(out.fontsize, "Arial"); // intended: not `facename`
-    auto height = [](int h, int size) { return saturate(10 * (std::int64_t{h / 10} + 1) - h + size); };
+    auto height = [](int h, int size) { return wnt::saturated_int(10 * (std::int64_t{h / 10} + 1) - h + size); };
     return service_font(out, height, out.fontsize);
 }
 
@@ -59,7 +59,7 @@ void CWntOut::settext(int a, int b, int c, int size, int e, int f) {
         return;
     const int values[6] = {a, b, c, size, e, f};
     std::copy(std::begin(values), std::end(values), textparams);
-    fontsize = saturate(std::int64_t{size} * 6);
+    fontsize = wnt::saturated_int(std::int64_t{size} * 6);
 }
 
 void CWntOut::setdeftext() {}
@@ -71,7 +71,7 @@ void CWntOut::setfont(CFont* f) {
 
 void CWntOut::chars(int x, int y, char* text, int align) {
     if (text)
-        chars_len(x, y, static_cast<int>(std::min<std::size_t>(std::strlen(text), INT_MAX)), text, align);
+        chars_len(x, y, length_of(text), text, align);
 }
 
 void CWntOut::chars_len(int x, int y, int len, char* text, int align) {
@@ -87,14 +87,14 @@ void CWntOut::chars_len(int x, int y, int len, char* text, int align) {
 void CWntOut::titlechars(int x, int y, int w, int h, char* text) {
     if (!ready() || !text || w == 0 || h == 0 || !*text)
         return;
-    const int size = saturate(std::int64_t{h} * 4);
+    const int size = wnt::saturated_int(std::int64_t{h} * 4);
     wnt::GdiObject<HFONT> made(
         single_byte_locale()
             ? wnt::make_point_font(size, facename)
             : service_font(
-                  *this, [](int, int tenths) { return saturate((std::int64_t{tenths / 10} + 1) * 10); }, size));
+                  *this, [](int, int tenths) { return wnt::saturated_int((std::int64_t{tenths / 10} + 1) * 10); },
+                  size));
     wnt::SelectGuard selected(dc, made.get());
     ::SetTextAlign(dc, TA_BASELINE | TA_CENTER);
-    const int length = static_cast<int>(std::min<std::size_t>(std::strlen(text), INT_MAX));
-    ::TextOutA(dc, wrapped::add(x, w / 2), flip(wrapped::add(y, h / 2)), text, length);
+    ::TextOutA(dc, wrapped::add(x, w / 2), flip(wrapped::add(y, h / 2)), text, length_of(text));
 }

@@ -41,7 +41,7 @@ CWntOut::CWntOut()
       bkbitmap(0) {}
 
 CWntOut::~CWntOut() {
-    if (!dc)
+    if (!dc || dc == windowdc_)
         give_back(nullptr, external_); // a brush made without a device context
 }
 
@@ -233,13 +233,6 @@ void CWntOut::setbackgroundbitmap(unsigned id) {
 void CWntOut::queryupdaterect(RECT* r) {
     if (this && r && ::IsWindow(m_hWnd))
         *r = update_rect();
-}
-
-RECT CWntOut::update_rect() const {
-    RECT update = {};
-    if (m_hWnd)
-        ::GetUpdateRect(m_hWnd, &update, FALSE);
-    return {update.left, flip(update.top), wrapped::subtract(update.right, 1), wrapped::add(flip(update.bottom), 1)};
 }
 
 void CWntOut::scroll(int x, int y, int w, int h, int dx, int dy, int) {

@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr int highest_font = 4096; // pixels: higher than any screen, and still made in no time
+constexpr int highest_font = 4096; // pixels: enough for any label, and still made at once
 
 } // namespace
 

@@ -4,6 +4,7 @@
 
 namespace wnt {
 
+/// Vertically, read once for the process; 96 where the screen does not tell.
 int screen_dots_per_inch();
 
 /// Makes a font `tenths` tenths of a point high, as the screen's resolution measures them; the caller deletes it.

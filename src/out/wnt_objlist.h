@@ -33,7 +33,7 @@ public:
     /// Makes an empty list of `size` bytes, all zero; what the object held before is freed. The name is kept as given,
     /// neither copied nor read. 0 for a negative size and when there is no memory.
     int create(char* name, long size);
-    /// Frees the buffer and everything that pointed into it is void.
+    /// Frees the buffer; pointers into it are void.
     void destroy();
     /// Empties the list. Always 1.
     int flush();
@@ -61,13 +61,13 @@ public:
     /// Number of records; -1 on a null object.
     int queryitemno();
 
-    char* name;
+    char* name;           ///< as given to create()
     std::int32_t size;    ///< of the buffer, in bytes
     std::uint8_t* buffer; ///< null without a list
     std::uint8_t* first;  ///< always the buffer's start
     std::uint8_t* end;    ///< first free byte
     std::uint8_t* cursor; ///< the current record
-    std::int32_t count;
+    std::int32_t count;   ///< records
     std::int32_t atstart; ///< set by seek(1, 0): nextitem() has not answered the first record yet
 
 private:

@@ -38,9 +38,12 @@ public:
     /// Prepares drawing into the window: 1, or 0 when no device context can be had (hidden window, mode word set).
     /// White lines and black fills count as already in force afterwards.
     int reset();
-    /// The same on a device context that belongs to the caller, who keeps it alive until endpaint().
+    /// The same on a device context that belongs to the caller, who keeps it alive until endpaint(). Extent and clip
+    /// are still the window's: to draw on another device, or without a window, set `targetmode` to 1 before, which
+    /// leaves the clip alone, and `xmax` and `ymax` after.
     int reset(HDC hdc);
-    /// Ends a drawing pass; an external device context gets its pen and brush back and is forgotten.
+    /// Ends a drawing pass; an external device context gets its pen and brush back and is forgotten. Its clip region,
+    /// text colour, alignment, background mode and polygon filling stay as drawing left them.
     void endpaint();
     /// Gives back the window's device context and the pens and brushes made for it. For the owner, before it goes.
     void ReleaseDrawing();
@@ -61,6 +64,7 @@ public:
 
     /// Stored only: the surface paints no background.
     void setbackground(COLORREF colour, int flag);
+    /// Stored only.
     void setbackgroundbitmap(unsigned id);
     /// The window's update rectangle in library coordinates; untouched without a window.
     void queryupdaterect(RECT* r);
@@ -73,44 +77,56 @@ public:
     COLORREF rgbcolor(int i);
     /// Installs the caller's table, which must outlive its use; null or a negative count means none.
     void setcolorpalette(COLORREF* table, int count);
+    /// The number of entries of the table in force, and its address unless `out` is null.
     int getcolorpalette(COLORREF** out);
     /// Pen colour (and text colour) and style: 0, 1 solid; 2, 5 dotted; 3, 6 dashed; 4 dash-dot; 7 dash-dot-dot.
     /// A colour that is already in force changes nothing, not even the style.
     void linecolour(int index, int style);
+    /// The same for a colour instead of an entry of the table.
     void linecolour(COLORREF colour, int style);
     /// Brush colour and style: below 2 solid; 2 vertical, 3 horizontal, 4, 5 diagonal cross, 6, 7 cross hatch.
     void fillcolour(int index, int style);
+    /// The same for a colour instead of an entry of the table.
     void fillcolour(COLORREF colour, int style);
 
     // -- Lines and boxes --------------------------------------------------------------------------------------------
 
     /// Both end points included.
     void line(int x1, int y1, int x2, int y2);
+    /// len + 1 pixels to the right of (x, y), which is the first.
     void hline(int x, int y, int len);
+    /// len + 1 pixels upwards from (x, y), which is the first.
     void vline(int x, int y, int len);
-    /// Boxes cover all pixels between two corners, inclusive; r: corner and size, so (w + 1) x (h + 1) pixels.
-    /// 0 outline only, 1 outline and interior, 2 interior colour throughout.
+    /// All pixels between two corners, inclusive: outline in the line colour, interior in the fill colour.
     void boxa1(int x1, int y1, int x2, int y2);
+    /// All pixels between two corners, inclusive, in the fill colour.
     void boxa2(int x1, int y1, int x2, int y2);
+    /// The outline of (w + 1) x (h + 1) pixels with the lower-left corner (x, y), in the line colour.
     void boxr0(int x, int y, int w, int h);
+    /// Outline and interior of such a box.
     void boxr1(int x, int y, int w, int h);
+    /// Such a box in the fill colour.
     void boxr2(int x, int y, int w, int h);
 
     // -- Polygons ---------------------------------------------------------------------------------------------------
 
-    /// fillpoly has its outline in the line colour, solidpoly in the fill colour. The Tpt forms of both draw at most the
-    /// first 20 points. The POINT forms flip the caller's array in place during the call and put it back.
+    /// Filled in the fill colour, outlined in the line colour; at most the first 20 points.
     void fillpoly(Tpt* pts, int n);
+    /// The same for any number of points. The POINT forms flip the caller's array in place during the call.
     void fillpoly(POINT* pts, int n);
+    /// Filled and outlined in the fill colour; at most the first 20 points.
     void solidpoly(Tpt* pts, int n);
+    /// The same for any number of points.
     void solidpoly(POINT* pts, int n);
     /// The outline in the line colour, for a fill of 0 in the fill colour.
     void dopoly(POINT* pts, int n, long fill);
     /// An open polyline; width 0 takes the current pen, otherwise width + 1 pixels in the fill colour.
     void geomline(Tpt* pts, int n, int width);
+    /// The same; flips the caller's array during the call.
     void geomline(POINT* pts, int n, int width);
     /// n lines, each from point i to point i + step; the array holds n + step points.
     void crosslines(Tpt* pts, int n, int step);
+    /// The same; the array is only read.
     void crosslines(POINT* pts, int n, int step);
 
     // -- Circles and pies -------------------------------------------------------------------------------------------
@@ -120,14 +136,17 @@ public:
     void drawcircle(int x, int y, int r);
     /// An ellipse in the fill colour, its outline in the line colour.
     void fillcircle(int x, int y, int rx, int ry);
-    /// Counter-clockwise from a1 to a2, in 1/16384 of a turn.
+    /// The slice of the ellipse with the radii rx and ry, counter-clockwise from a1 to a2 in 1/16384 of a turn from
+    /// +x. Ends that share a pixel draw nothing up to a quarter of a turn and the whole ellipse beyond.
     void pieslice(int x, int y, int rx, int ry, int a1, int a2);
+    /// The same; `extra` is ignored.
     void piesection(int x, int y, int rx, int ry, int a1, int a2, int extra);
 
     // -- Markers and frames -----------------------------------------------------------------------------------------
 
-    /// s pixels in each direction from the centre.
+    /// Diagonals, s pixels in each direction from the centre.
     void drawcross(int x, int y, int s);
+    /// The same, upright.
     void drawplus(int x, int y, int s);
     /// 0 cross, 1 plus, 2 circle, 3 star, 4 square, 5 dot; other shapes draw nothing.
     void drawmarker(int x, int y, int size, int shape);
@@ -135,22 +154,27 @@ public:
     void markers(POINT* pts, int n, int shape);
     /// A frame lit from the top left when raised, given (x1, y1) as the lower-left corner.
     void drawshadow(int x1, int y1, int x2, int y2, int raised);
-    /// The surface draws no bitmaps; these two do nothing.
+    /// Does nothing: the surface draws no bitmaps.
     void drawbitmap(unsigned id, RECT* src, RECT* dst, int mode);
+    /// Does nothing: the surface draws no bitmaps.
     void drawtransparentbitmap(unsigned id, RECT* src, RECT* dst, int mode, COLORREF key, COLORREF other);
 
     // -- Rubber bands: drawing the same figure twice removes it -----------------------------------------------------
 
+    /// A line.
     void trackline(int x1, int y1, int x2, int y2);
     /// Bits 8 and 9 of flags are the box mode; a box without width or height is a line.
     void trackbox(int x, int y, int w, int h, int flags);
+    /// A solid polygon of at most 20 points.
     void trackpoly(Tpt* pts, int n);
+    /// A solid polygon.
     void trackpoly(POINT* pts, int n);
 
     // -- Integer geometry -------------------------------------------------------------------------------------------
 
-    /// r times the sine or cosine, truncated; 65536 units a turn.
+    /// r times the sine, truncated; 65536 units a turn.
     int intsin(unsigned short angle, int r);
+    /// r times the cosine, truncated; 65536 units a turn.
     int intcos(unsigned short angle, int r);
     /// a * b / c with a 64-bit product; 0 for c = 0.
     int muldiv(int a, int b, int c);
@@ -167,7 +191,8 @@ public:
     int points_partclip(POINT* out, RECT* r, int x1, int y1, int x2, int y2);
     /// Clips the segment: 1, its ends in out[0] and out[1], or 0 when nothing of it is inside.
     int points_clipline(POINT* out, RECT* r, int x1, int y1, int x2, int y2);
-    /// For three points: 1 when "the path p[1], p[0], p[2] turns clockwise" (1 or 0) differs from `sense`.
+    /// For three points and sense 0: 1 when the way p[1], p[0], p[2] turns clockwise; sense 1: 1 when it does not; any
+    /// other sense: always 1.
     int points_testclock(POINT* p, int sense);
     /// 1 inside the convex polygon of n clockwise vertices, its edges excluded.
     int points_testinpoly(int x, int y, POINT* poly, int n);
@@ -182,6 +207,7 @@ public:
 
     /// Corners inclusive, y1 the lower edge. `cliprect` then holds device coordinates.
     void setclip(int x1, int y1, int x2, int y2);
+    /// The same for a rectangle in library coordinates; null changes nothing.
     void setclip(RECT* r);
     /// Clips to the client area.
     void resetclip();
@@ -204,39 +230,41 @@ public:
     void setfont(CFont* f);
     /// align: 0, 1, 2 bottom left, right, centre; 4, 5, 6 top; 8, 9, 10 centred on y.
     void chars(int x, int y, char* text, int align);
+    /// The same for the first len characters.
     void chars_len(int x, int y, int len, char* text, int align);
     /// Centred in the box (x, y, w, h), its size derived from h, the baseline halfway up.
     void titlechars(int x, int y, int w, int h, char* text);
     /// Description of a font of the front end's font service; 0 (out untouched) when there is no such service.
     int getZopguiFont(LOGFONTA* out, tagZopFontId id);
+    /// The code page of that font's characters; the process's own without the service.
     unsigned getZopguiFontCodepage();
 
     // -- State, in the order that hosts rely on ---------------------------------------------------------------------
 
-    int reserved = 0;
-    int xmax = 0;       ///< client width - 1 after reset(); the width itself after a size message
-    int ymax = 0;       ///< client height - 1 after reset(); the height itself after a size message
-    RECT cliprect;      ///< device coordinates after setclip(), library coordinates after queryclip()
-    int clipset = 0;    ///< 1 while an explicit clip is in force
-    int outmode = 0;    ///< non-zero: no device context is fetched
-    int targetmode = 0; ///< non-zero: no device context is fetched and the clip is left alone
-    int textparams[6];
-    COLORREF* palette;
-    int palettecount;
-    HCURSOR cursor = nullptr;
-    HDC dc = nullptr;
-    int externaldc = 0;
-    int bkflag = 0;
-    COLORREF bkcolour = 0xFFFFFF;
+    int reserved = 0;                ///< not read
+    int xmax = 0;                    ///< client width - 1 after reset(); the width itself after a size message
+    int ymax = 0;                    ///< client height - 1 after reset(); the height itself after a size message
+    RECT cliprect;                   ///< device coordinates after setclip(), library coordinates after queryclip()
+    int clipset = 0;                 ///< 1 while an explicit clip is in force
+    int outmode = 0;                 ///< non-zero: no device context is fetched
+    int targetmode = 0;              ///< non-zero: no device context is fetched and the clip is left alone
+    int textparams[6];               ///< what settext() was given
+    COLORREF* palette;               ///< the table that index colours come from; not owned
+    int palettecount;                ///< its entries
+    HCURSOR cursor = nullptr;        ///< the last pointer of the caller's
+    HDC dc = nullptr;                ///< where drawing goes; null: nowhere
+    int externaldc = 0;              ///< 1 while `dc` is the caller's
+    int bkflag = 0;                  ///< what setbackground() was given
+    COLORREF bkcolour = 0xFFFFFF;    ///< what setbackground() was given
     COLORREF fillcolour_ = 0xFF0000; ///< colour of the last brush
-    HBRUSH brush = nullptr;
-    CFont* font;
-    void* reserved2 = nullptr;
-    COLORREF linecolour_ = 0; ///< colour of the last pen, and the text colour
-    HPEN pen = nullptr;
-    unsigned bkbitmap;
-    CString facename;
-    int fontsize = 80; ///< tenths of a point
+    HBRUSH brush = nullptr;          ///< the last brush
+    CFont* font;                     ///< what setfont() was given; not read
+    void* reserved2 = nullptr;       ///< not read
+    COLORREF linecolour_ = 0;        ///< colour of the last pen, and the text colour
+    HPEN pen = nullptr;              ///< the last pen
+    unsigned bkbitmap;               ///< what setbackgroundbitmap() was given
+    CString facename;                ///< the face of titlechars(): Arial once the window exists, the default before
+    int fontsize = 80;               ///< tenths of a point
 
 protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
@@ -273,6 +301,8 @@ private:
     static void give_back(HDC target, Selection& s);
     void end_external();
     void forget_lost_window();
+    RECT device_rect(int x1, int y1, int x2, int y2) const;
+    RECT library_rect(const RECT& device) const;
     RECT update_rect() const;
     void box(int x1, int y1, int x2, int y2, int mode);
     void flip_points(POINT* pts, int n) const;

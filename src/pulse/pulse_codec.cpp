@@ -1,5 +1,7 @@
 #include "pulse/pulse_codec.h"
 
+#include "pulse/protocol.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cstdlib>
@@ -83,19 +85,14 @@ std::optional<std::int32_t> read_line_count(std::FILE* from) {
 
 void append(PulseText& title, std::string_view text) {
     const std::size_t length = std::strlen(title);
-    title[length + text.copy(title + length, word_size - 1 - length)] = 0;
-}
-
-template <class... Values> void note(std::FILE* log, const char* format, Values... values) {
-    if (log)
-        std::fprintf(log, format, values...);
+    title[length + text.copy(title + length, pulse_text_size - 1 - length)] = 0;
 }
 
 bool read_title(std::FILE* from, int index, PulseText& title, std::FILE* log) {
     title[0] = 0;
     PulseText word;
     do {
-        if (!read_word(from, word, word_size))
+        if (!read_word(from, word, pulse_text_size))
             return false;
         if (word[0] != ';') {
             append(title, word);
@@ -125,7 +122,7 @@ PulseFault read_header(std::FILE* from, PulseHeader& header, std::FILE* log) {
     if (!count)
         return PulseFault::bad_text;
     note(log, "LineCount: %d\n", *count);
-    if (*count < 0 || *count > most_curves)
+    if (*count < 0 || *count > most_pulse_curves)
         return PulseFault::too_many_lines;
     header.line_count = *count;
     for (int i = 0; i < header.line_count; ++i) {
@@ -148,7 +145,7 @@ std::optional<PulseSample> read_sample(std::FILE* from) {
     if (!curve)
         return std::nullopt;
     const auto value = whole_float(read_field(from, field));
-    if (!value || !read_word(from, sample.stamp, word_size))
+    if (!value || !read_word(from, sample.stamp, pulse_text_size))
         return std::nullopt;
     sample.curve = *curve;
     sample.value = *value;

@@ -4,15 +4,15 @@
 
 namespace wnt {
 
-inline constexpr int most_curves = 10;
-inline constexpr int word_size = 25; // 24 characters and a terminator
+inline constexpr int most_pulse_curves = 10;
+inline constexpr int pulse_text_size = 25; // 24 characters and a terminator
 
-using PulseText = char[word_size];
+using PulseText = char[pulse_text_size];
 
 /// The curves that a pulse file names at its beginning.
 struct PulseHeader {
     std::int32_t line_count = 0;
-    PulseText titles[most_curves] = {};
+    PulseText titles[most_pulse_curves] = {};
 };
 
 } // namespace wnt

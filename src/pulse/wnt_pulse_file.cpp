@@ -1,5 +1,6 @@
 #include "pulse/wnt_pulse_file.h"
 
+#include "pulse/protocol.h"
 #include "pulse/pulse_codec.h"
 #include "time/local_time.h"
 #include "time/result_error.h"
@@ -28,11 +29,6 @@ constexpr const char* error_texts[] = {
 };
 constexpr const char* other_text = "undifined error";
 
-template <class... Values> void note(std::FILE* protocol, const char* format, Values... values) {
-    if (protocol)
-        std::fprintf(protocol, format, values...);
-}
-
 template <class Value> void store(Value* place, Value value) {
     if (place)
         *place = value;
@@ -47,7 +43,7 @@ CWntPulseFile::CWntPulseFile(int mode, const char* name) : mode_(mode) {
 }
 
 int CWntPulseFile::SetLineCount(int count) {
-    if (count < 0 || count > wnt::most_curves)
+    if (count < 0 || count > wnt::most_pulse_curves)
         return fail(out_of_range);
     header_.line_count = count;
     return error_;
@@ -55,15 +51,15 @@ int CWntPulseFile::SetLineCount(int count) {
 
 // The index right behind the last line is accepted on purpose.
 int CWntPulseFile::SetLineTitle(int index, const char* text) {
-    if (index < 0 || index > header_.line_count || index >= wnt::most_curves)
+    if (index < 0 || index > header_.line_count || index >= wnt::most_pulse_curves)
         return fail(out_of_range);
     const std::string_view title(text ? text : "");
-    header_.titles[index][title.copy(header_.titles[index], wnt::word_size - 1)] = 0;
+    header_.titles[index][title.copy(header_.titles[index], wnt::pulse_text_size - 1)] = 0;
     return error_;
 }
 
 const char* CWntPulseFile::GetLineTitle(int index) const {
-    return 0 <= index && index < wnt::most_curves ? header_.titles[index] : "";
+    return 0 <= index && index < wnt::most_pulse_curves ? header_.titles[index] : "";
 }
 
 int CWntPulseFile::Open(const char* name) {
@@ -104,8 +100,8 @@ int CWntPulseFile::Put(int curve, float value, std::int64_t time) {
 
 int CWntPulseFile::Get(int* curve, float* value, std::int64_t* time) {
     const Stream protocol = open_protocol("Get.out");
-    note(protocol.get(), "%sd\n", "Start");
-    note(protocol.get(), "error: %d\n", error_);
+    wnt::note(protocol.get(), "%sd\n", "Start");
+    wnt::note(protocol.get(), "error: %d\n", error_);
     if (!stream_)
         return fail(not_open);
     if (error_)
@@ -115,8 +111,8 @@ int CWntPulseFile::Get(int* curve, float* value, std::int64_t* time) {
     if (!sample)
         return fail(reading_failed);
     const wnt::CalendarTime stamp = wnt::parse_stamp(sample->stamp);
-    note(protocol.get(), "i:%d\ny:%d m:%d d:%d  h:%d m:%d s:%d\n", 3, stamp.year, stamp.month, stamp.day, stamp.hour,
-         stamp.minute, stamp.second);
+    wnt::note(protocol.get(), "i:%d\ny:%d m:%d d:%d  h:%d m:%d s:%d\n", 3, stamp.year, stamp.month, stamp.day,
+              stamp.hour, stamp.minute, stamp.second);
     const std::int64_t seconds = wnt::moment_of(stamp, 0);
     store(curve, sample->curve);
     store(value, sample->value);
@@ -126,7 +122,7 @@ int CWntPulseFile::Get(int* curve, float* value, std::int64_t* time) {
 
 int CWntPulseFile::ReadHeader() {
     const Stream protocol = open_protocol("ReadHeader.out");
-    note(protocol.get(), "Start\nerror: %d\n\n", error_);
+    wnt::note(protocol.get(), "Start\nerror: %d\n\n", error_);
     if (error_)
         return error_;
     if (!stream_)

@@ -4,7 +4,7 @@
 
 #include "library_resources.h"
 #include "widgets/axis/axis_model.h"
-#include "widgets/axis/saturate.h"
+#include "arithmetic.h"
 #include "widgets/axis/zoom_control.h"
 #include "widgets/wnt_axis_properties.h"
 
@@ -212,8 +212,8 @@ BOOL CWntAxis::OnCommand(WPARAM wParam, LPARAM lParam) {
     if (command == toggle_zoom_command) {
         end_zoom_drag();
         zoom_->shown = !zoom_->shown;
-        if (zoom_->slider.left == zoom_->slider.right || zoom_->slider.top == zoom_->slider.bottom)
-            SetZoomRects(1); // never laid out since the axis has a size
+        if (!zoom_->has_slider())
+            SetZoomRects(1); // never laid out since the axis has a size, or its ends were dragged past each other
         repaint(TRUE);
     } else if (command == properties_command && !open_properties()) {
         return TRUE;

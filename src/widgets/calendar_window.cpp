@@ -125,12 +125,11 @@ void CWntCalendar::drag_to(CPoint at) {
 
 void CWntCalendar::OnLButtonUp(UINT, CPoint point) {
     const CPoint at = from_bottom(point);
-    const bool dragged = end_drag();
-    if (layout_->top_strip.holds(at.x, at.y))
+    if (layout_->top_strip.holds(at.x, at.y)) // a drag goes on behind the strips
         scroll(-1);
     else if (layout_->bottom_strip.holds(at.x, at.y))
         scroll(1);
-    else if (dragged) {
+    else if (end_drag()) {
         shown_ = dragged_to_;
         Invalidate();
     }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "out/device_state.h"
 #include "widgets/supersample.h"
 
 namespace wnt {
@@ -14,7 +15,7 @@ constexpr long band_subpixels = 512 * 1024; // work area for enlarged shapes
 
 // Mixed edge colours need a device that can show them.
 int scale_for(HDC dc, int width, int height) {
-    if (::GetDeviceCaps(dc, BITSPIXEL) * ::GetDeviceCaps(dc, PLANES) <= 8)
+    if (few_colours(dc))
         return 1;
     return std::int64_t{width} * height <= small_picture ? 4 : 2;
 }

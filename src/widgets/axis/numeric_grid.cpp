@@ -1,6 +1,6 @@
 #include "widgets/axis/numeric_grid.h"
 
-#include "widgets/axis/saturate.h"
+#include "arithmetic.h"
 
 #include <cmath>
 

@@ -1,6 +1,6 @@
 #include "widgets/axis/time_grid.h"
 
-#include "widgets/axis/saturate.h"
+#include "arithmetic.h"
 #include "widgets/axis/time_value.h"
 
 namespace wnt {

@@ -1,6 +1,6 @@
 #include "widgets/axis/time_value.h"
 
-#include "widgets/axis/saturate.h"
+#include "arithmetic.h"
 
 #include <cmath>
 

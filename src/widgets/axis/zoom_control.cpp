@@ -20,16 +20,8 @@ Stretch along(AxisRect& box, bool horizontal) {
 
 void move(Stretch slider, const Stretch& box, std::int32_t way) {
     const std::int32_t kept = std::max(way, box.start - slider.start);
-    slider.start += kept;
+    slider.start = std::min(slider.start + kept, box.end);
     slider.end = std::min(slider.end + kept, box.end);
-    slider.start = std::min(slider.start, std::max(slider.end - 2 * grip, box.start)); // always room to grip it
-}
-
-void enlarge(Stretch slider, const Stretch& box, bool far_end, std::int32_t at) {
-    if (far_end)
-        slider.end = std::min(std::max(at, slider.start + 2 * grip), box.end);
-    else
-        slider.start = std::max(std::min(at, slider.end - 2 * grip), box.start);
 }
 
 } // namespace
@@ -75,7 +67,7 @@ void ZoomControl::drag(bool horizontal, std::int32_t x, std::int32_t y) {
     const std::int32_t at = horizontal ? x : y;
     const Stretch s = along(slider, horizontal);
     if (enlarging)
-        enlarge(s, along(box, horizontal), far_end, at);
+        (far_end ? s.end : s.start) = at;
     else
         move(s, along(box, horizontal), at - (horizontal ? last_x : last_y));
     last_x = x;

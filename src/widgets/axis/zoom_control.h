@@ -20,6 +20,9 @@ struct ZoomControl {
     /// Places the box at the axis, and the slider over all of it where asked to.
     void lay_out(const AxisModel& axis, bool with_slider);
 
+    /// Whether there is anything of the slider to grip.
+    bool has_slider() const { return slider.left < slider.right && slider.top < slider.bottom; }
+
     bool hit(std::int32_t x, std::int32_t y) const;
 
     /// What a press at the point would take hold of; remembers it for the drag.

@@ -1,4 +1,4 @@
-#include "widgets/axis/saturate.h"
+#include "arithmetic.h"
 
 namespace wnt {
 

@@ -5,8 +5,25 @@
 #include <cstdint>
 #include <limits>
 
-/// Arithmetic that ends at the limits of its type where it would leave them.
+/// Arithmetic that wraps around, and arithmetic that ends at the limits of its type where it would leave them.
 namespace wnt {
+
+namespace wrapped {
+
+constexpr std::int32_t narrow(std::int64_t number) {
+    return static_cast<std::int32_t>(static_cast<std::uint32_t>(number));
+}
+constexpr std::int32_t add(std::int32_t a, std::int32_t b) {
+    return narrow(std::int64_t{a} + b);
+}
+constexpr std::int32_t subtract(std::int32_t a, std::int32_t b) {
+    return narrow(std::int64_t{a} - b);
+}
+constexpr std::int32_t multiply(std::int32_t a, std::int32_t b) {
+    return narrow(std::int64_t{a} * b);
+}
+
+} // namespace wrapped
 
 constexpr std::int32_t saturated_int(std::int64_t value) {
     using Limits = std::numeric_limits<std::int32_t>;
