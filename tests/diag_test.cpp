@@ -236,32 +236,20 @@ TEST(ErrorBox, ShowsItsThreeTextsOnTheWindowColour) {
     EXPECT_EQ(texts, "Title & more|The message|Detail 1\r\nDetail 2|OK|");
 }
 
-// Keeps where the dialog lies once it is initialised: what the system does with it later is its own affair.
-class PlacedFileSel : public CWntFileSel {
-public:
-    using CWntFileSel::CWntFileSel;
-    CRect place;
-
-protected:
-    BOOL OnInitDialog() override {
-        const BOOL result = CWntFileSel::OnInitDialog();
-        ::GetWindowRect(::GetParent(m_hWnd), &place);
-        return result;
-    }
-};
-
 TEST(FileSel, OpensInTheMiddleOfItsParent) {
     CWnd host;
-    ASSERT_TRUE(host.CreateEx(0, nullptr, "host", WS_POPUP | WS_VISIBLE, CRect(600, 500, 1800, 1500), nullptr, 0));
-    PlacedFileSel choice(TRUE, "dll", "ZOPWNT.dll", OFN_FILEMUSTEXIST, "Libraries|*.dll||", &host);
+    ASSERT_TRUE(host.CreateEx(0, nullptr, "host", WS_POPUP | WS_VISIBLE, CRect(200, 100, 1000, 700), nullptr, 0));
+    CWntFileSel choice(TRUE, "dll", "ZOPWNT.dll", OFN_FILEMUSTEXIST, "Libraries|*.dll||", &host);
+    CRect place;
     WhileModal modal([&] {
         if (!choice.m_hWnd || !::IsWindowVisible(::GetParent(choice.m_hWnd)))
             return false;
+        ::GetWindowRect(::GetParent(choice.m_hWnd), &place);
         ::PostMessage(::GetParent(choice.m_hWnd), WM_COMMAND, IDOK, 0);
         return true;
     });
     EXPECT_EQ(choice.DoModal(), IDOK);
     EXPECT_EQ(choice.GetFileName(), "ZOPWNT.dll");
-    EXPECT_NEAR(choice.place.CenterPoint().x, 1200, 2);
-    EXPECT_NEAR(choice.place.CenterPoint().y, 1000, 2);
+    EXPECT_NEAR(place.CenterPoint().x, 600, 2);
+    EXPECT_NEAR(place.CenterPoint().y, 400, 2);
 }
