@@ -64,9 +64,8 @@ protected:
         font_.CreatePointFont(90, "Arial");
         if (!CreateRow())
             return false;
-        CWnd* surface = GetDlgItem(100); // under all that lies on it
-        surface->ModifyStyle(0, WS_CLIPSIBLINGS);
-        surface->SetWindowPos(&CWnd::wndBottom, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+        Surface().ModifyStyle(0, WS_CLIPSIBLINGS); // under all that lies on it
+        Surface().SetWindowPos(&CWnd::wndBottom, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
         return true;
     }
 

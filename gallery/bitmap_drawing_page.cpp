@@ -117,8 +117,7 @@ protected:
     }
 
     void Paint(CWntOut& out) override {
-        out.fillcolour(RGB(252, 252, 252), 0);
-        out.boxa2(0, 0, out.xmax, out.ymax);
+        Ground(out, RGB(252, 252, 252));
         constexpr std::array<const char*, 3> depths = {"lines and pixels, 24 bits", "the same, 16 bits",
                                                        "8 bits: the colour is an index"};
         for (int i = 0; i < 3; ++i) {

@@ -14,13 +14,14 @@ namespace {
 
 constexpr UINT open_id = 20;
 constexpr UINT next_id = 21;
-constexpr int bar_height = 36;
 constexpr int facts_width = 260;
 constexpr int line_height = 22;
 
 CString OwnPicture() {
-    char folder[MAX_PATH];
+    char folder[MAX_PATH] = "";
+    char path[MAX_PATH] = "";
     ::GetTempPathA(sizeof folder, folder);
+    ::GetTempFileNameA(folder, "zop", 0, path); // other galleries have theirs
     CDibFile picture;
     picture.CreateNewTrueColor(320, 240, 250);
     for (int i = 0; i <= 240; i += 4) {
@@ -28,7 +29,6 @@ CString OwnPicture() {
         picture.Line(i * 320 / 240, 0, 319, i);
         picture.Line(319 - i * 320 / 240, 239, 0, 239 - i);
     }
-    const CString path = CString(folder) + "zopgallery-picture.bmp";
     picture.Save(path);
     return path;
 }
@@ -50,7 +50,7 @@ std::vector<std::string> FactsOf(CWntBitmap& bitmap) {
                 " pixels a metre"};
 }
 
-class CBitmapPage : public CSurfacePage {
+class CBitmapPage : public CBarPage {
 public:
     explicit CBitmapPage(const std::vector<CString>& pictures) : pictures_(pictures) {}
 
@@ -59,29 +59,16 @@ public:
 
 protected:
     bool CreateContents() override {
-        font_.CreatePointFont(90, "Arial");
-        if (!CSurfacePage::CreateContents() || !AddButton(open_, "Open...", open_id) ||
-            !AddButton(next_, "Next", next_id))
+        CButton* next = nullptr;
+        if (!CBarPage::CreateContents() || !AddButton("Open...", open_id, 90) ||
+            !(next = AddButton("Next", next_id, 90)))
             return false;
-        next_.EnableWindow(pictures_.size() > 1);
+        next->EnableWindow(pictures_.size() > 1);
         const CString own = pictures_.empty() ? OwnPicture() : CString();
         Show(pictures_.empty() ? own : pictures_[0]);
         ::DeleteFileA(own);
         return true;
     }
-
-    bool AddButton(CButton& button, const char* text, UINT id) {
-        const bool made = button.Create(text, WS_CHILD | WS_VISIBLE | BS_PUSHBUTTON, CRect(0, 0, 0, 0), this, id);
-        button.SetFont(&font_);
-        return made;
-    }
-
-    void Arrange(int width, int height) override {
-        open_.SetWindowPos(nullptr, 8, 6, 90, bar_height - 10, SWP_NOZORDER | SWP_NOACTIVATE);
-        next_.SetWindowPos(nullptr, 106, 6, 90, bar_height - 10, SWP_NOZORDER | SWP_NOACTIVATE);
-        CSurfacePage::Arrange(width, height);
-    }
-    int TopHeight() const override { return bar_height; }
 
     afx_msg void OnOpen() {
         CFileDialog dialog(TRUE, nullptr, nullptr, OFN_FILEMUSTEXIST | OFN_HIDEREADONLY,
@@ -108,12 +95,11 @@ protected:
                       path.Mid(std::max(path.ReverseFind('\\'), path.ReverseFind('/')) + 1).GetString());
         if (!loaded)
             bitmap_.Create(0, 0);
-        Invalidate();
+        Invalidate(FALSE);
     }
 
     void Paint(CWntOut& out) override {
-        out.fillcolour(RGB(252, 252, 252), 0);
-        out.boxa2(0, 0, out.xmax, out.ymax);
+        Ground(out, RGB(252, 252, 252));
         PaintFacts(out);
         const int width = bitmap_.GetWidth();
         const std::int64_t height = std::abs(std::int64_t{bitmap_.GetHeight()});
@@ -145,13 +131,11 @@ protected:
 private:
     std::vector<CString> pictures_;
     std::size_t shown_ = 0;
-    CFont font_;
-    CButton open_, next_;
     CWntBitmap bitmap_;
     std::vector<std::string> facts_;
 };
 
-BEGIN_MESSAGE_MAP(CBitmapPage, CSurfacePage)
+BEGIN_MESSAGE_MAP(CBitmapPage, CBarPage)
 ON_BN_CLICKED(open_id, &CBitmapPage::OnOpen)
 ON_BN_CLICKED(next_id, &CBitmapPage::OnNext)
 END_MESSAGE_MAP()

@@ -11,7 +11,7 @@ ON_WM_ERASEBKGND()
 END_MESSAGE_MAP()
 
 bool CGalleryPage::Open(CWnd* parent, const CRect& place) {
-    return Create(nullptr, Title(), WS_CHILD, place, parent, 1);
+    return Create(nullptr, Title(), Style(), place, parent, 1);
 }
 
 BOOL CGalleryPage::OnCommand(WPARAM wParam, LPARAM lParam) {
@@ -54,6 +54,7 @@ BOOL CGalleryPage::OnEraseBkgnd(CDC* dc) {
 BEGIN_MESSAGE_MAP(CSurfacePage, CGalleryPage)
 ON_WM_PAINT()
 ON_WM_DESTROY()
+ON_WM_ERASEBKGND()
 END_MESSAGE_MAP()
 
 bool CSurfacePage::CreateContents() {
@@ -62,20 +63,69 @@ bool CSurfacePage::CreateContents() {
 
 void CSurfacePage::Arrange(int width, int height) {
     Place(out_, 0, TopHeight(), width, height - TopHeight());
-    Invalidate();
+    Invalidate(FALSE);
+}
+
+void CSurfacePage::Ground(CWntOut& out, COLORREF colour) {
+    out.fillcolour(colour, 0);
+    out.boxa2(0, 0, out.xmax, out.ymax);
 }
 
 void CSurfacePage::OnPaint() {
     CPaintDC validate(this);
-    if (out_.reset()) {
+    CClientDC shown(&out_);
+    CRect area;
+    out_.GetClientRect(&area);
+    CDC memory;
+    CBitmap picture;
+    if (area.Width() <= 0 || area.Height() <= 0 || !memory.CreateCompatibleDC(&shown) ||
+        !picture.CreateCompatibleBitmap(&shown, area.Width(), area.Height()))
+        return;
+    CBitmap* previous = memory.SelectObject(&picture);
+    if (out_.reset(memory.m_hDC)) {
         Paint(out_);
         out_.endpaint();
+        ::SelectClipRgn(memory.m_hDC, nullptr);
+        shown.BitBlt(0, 0, area.Width(), area.Height(), &memory, 0, 0, SRCCOPY);
     }
+    memory.SelectObject(previous);
+}
+
+// The surface covers the rest.
+BOOL CSurfacePage::OnEraseBkgnd(CDC* dc) {
+    CRect bar;
+    GetClientRect(&bar);
+    bar.bottom = TopHeight();
+    ::FillRect(dc->m_hDC, &bar, ::GetSysColorBrush(COLOR_BTNFACE));
+    return TRUE;
 }
 
 void CSurfacePage::OnDestroy() {
     out_.ReleaseDrawing();
     CGalleryPage::OnDestroy();
+}
+
+bool CBarPage::CreateContents() {
+    font_.CreatePointFont(90, "Arial");
+    return CSurfacePage::CreateContents();
+}
+
+CButton* CBarPage::AddButton(const char* text, UINT id, int width) {
+    BarButton& added = buttons_.emplace_back();
+    added.width = width;
+    if (!added.button.Create(text, WS_CHILD | WS_VISIBLE | BS_PUSHBUTTON, CRect(0, 0, 0, 0), this, id))
+        return nullptr;
+    added.button.SetFont(&font_);
+    return &added.button;
+}
+
+void CBarPage::Arrange(int width, int height) {
+    int x = 8;
+    for (BarButton& each : buttons_) {
+        Place(each.button, x, 6, each.width, TopHeight() - 10);
+        x += each.width + 8;
+    }
+    CSurfacePage::Arrange(width, height);
 }
 
 GalleryPages MakePages(const NamedFiles& files) {

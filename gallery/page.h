@@ -1,5 +1,6 @@
 #pragma once
 
+#include <list>
 #include <memory>
 #include <sstream>
 #include <string>
@@ -15,6 +16,8 @@ public:
     virtual const char* Name() const = 0;
 
     bool Open(CWnd* parent, const CRect& place);
+    /// Without children that are painted over in passing.
+    virtual DWORD Style() const { return WS_CHILD | WS_CLIPCHILDREN; }
     /// Brings what moves to a state worth a picture.
     virtual void Settle() {}
 
@@ -34,8 +37,12 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 
-/// A page that is painted through one drawing surface.
+/// A page that is painted through one drawing surface, and shown when it is finished.
 class CSurfacePage : public CGalleryPage {
+public:
+    /// It is told what to paint by what is uncovered, its surface included.
+    DWORD Style() const override { return WS_CHILD; }
+
 protected:
     virtual void Paint(CWntOut& out) = 0;
     /// Rows that the surface leaves free at the page's top.
@@ -44,12 +51,36 @@ protected:
     bool CreateContents() override;
     void Arrange(int width, int height) override;
 
+    CWntOut& Surface() { return out_; }
+    /// The whole surface in one colour.
+    static void Ground(CWntOut& out, COLORREF colour);
+
     afx_msg void OnPaint();
     afx_msg void OnDestroy();
+    afx_msg BOOL OnEraseBkgnd(CDC* dc);
     DECLARE_MESSAGE_MAP()
 
 private:
     CWntOut out_;
+};
+
+/// One with a row of push buttons above the surface.
+class CBarPage : public CSurfacePage {
+protected:
+    /// Behind those that are there.
+    CButton* AddButton(const char* text, UINT id, int width);
+
+    int TopHeight() const override { return 36; }
+    bool CreateContents() override;
+    void Arrange(int width, int height) override;
+
+private:
+    struct BarButton {
+        CButton button;
+        int width;
+    };
+    CFont font_;
+    std::list<BarButton> buttons_;
 };
 
 /// One that a function paints.

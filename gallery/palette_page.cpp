@@ -13,7 +13,6 @@ namespace {
 constexpr UINT load_id = 20;
 constexpr UINT save_id = 21;
 constexpr UINT system_id = 22;
-constexpr int bar_height = 36;
 constexpr char filter[] = "Palette files (*.pal)|*.pal|All files (*.*)|*.*||";
 
 // Sixteen hues from dark to bright.
@@ -28,40 +27,23 @@ void Colour(CWntBitmap& bitmap) {
     }
 }
 
-class CPalettePage : public CSurfacePage {
+class CPalettePage : public CBarPage {
 public:
     const char* Title() const override { return "Palette"; }
     const char* Name() const override { return "palette"; }
 
 protected:
     bool CreateContents() override {
-        font_.CreatePointFont(90, "Arial");
         CWntBitmap bitmap;
         Colour(bitmap);
         palette_.Create(&bitmap);
-        return CSurfacePage::CreateContents() && AddButton(load_, "Load...", load_id) &&
-               AddButton(save_, "Save...", save_id) && AddButton(system_, "To the system", system_id);
+        return CBarPage::CreateContents() && AddButton("Load...", load_id, 110) && AddButton("Save...", save_id, 110) &&
+               AddButton("To the system", system_id, 110);
     }
-
-    bool AddButton(CButton& button, const char* text, UINT id) {
-        const bool made = button.Create(text, WS_CHILD | WS_VISIBLE | BS_PUSHBUTTON, CRect(0, 0, 0, 0), this, id);
-        button.SetFont(&font_);
-        return made;
-    }
-
-    void Arrange(int width, int height) override {
-        int x = 8;
-        for (CButton* button : {&load_, &save_, &system_}) {
-            button->SetWindowPos(nullptr, x, 6, 110, bar_height - 10, SWP_NOZORDER | SWP_NOACTIVATE);
-            x += 118;
-        }
-        CSurfacePage::Arrange(width, height);
-    }
-    int TopHeight() const override { return bar_height; }
 
     afx_msg void OnLoad() {
         palette_.Load(static_cast<LPCTSTR>(nullptr));
-        Invalidate();
+        Invalidate(FALSE);
     }
 
     afx_msg void OnSave() {
@@ -75,12 +57,11 @@ protected:
     afx_msg void OnSystem() {
         if (!palette_.SetSysPalColors())
             AfxMessageBox("This screen has no palette.");
-        Invalidate();
+        Invalidate(FALSE);
     }
 
     void Paint(CWntOut& out) override {
-        out.fillcolour(RGB(252, 252, 252), 0);
-        out.boxa2(0, 0, out.xmax, out.ymax);
+        Ground(out, RGB(252, 252, 252));
         std::string caption = std::to_string(palette_.GetNumColors()) + " colours";
         out.linecolour(0, 0);
         out.settext(0, 0, 0, 16, 0, 0);
@@ -91,12 +72,10 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    CFont font_;
-    CButton load_, save_, system_;
     CWntBitmapPalette palette_;
 };
 
-BEGIN_MESSAGE_MAP(CPalettePage, CSurfacePage)
+BEGIN_MESSAGE_MAP(CPalettePage, CBarPage)
 ON_BN_CLICKED(load_id, &CPalettePage::OnLoad)
 ON_BN_CLICKED(save_id, &CPalettePage::OnSave)
 ON_BN_CLICKED(system_id, &CPalettePage::OnSystem)

@@ -14,7 +14,6 @@ constexpr UINT record_id = 20;
 constexpr int curve_count = 2;
 constexpr int sample_count = 150;
 constexpr double highest_value = 100;
-constexpr int bar_height = 36;
 constexpr const char* titles[curve_count] = {"Inflow", "Outflow"};
 constexpr int colours[curve_count] = {10, 14};
 
@@ -116,27 +115,18 @@ void PaintCurves(CWntOut& out, const Plot& plot, const Recording& recording) {
     }
 }
 
-class CPulsePage : public CSurfacePage {
+class CPulsePage : public CBarPage {
 public:
     const char* Title() const override { return "Pulse data file"; }
     const char* Name() const override { return "pulse"; }
 
 protected:
     bool CreateContents() override {
-        font_.CreatePointFont(90, "Arial");
-        if (!CSurfacePage::CreateContents() ||
-            !record_.Create("Record again", WS_CHILD | WS_VISIBLE | BS_PUSHBUTTON, CRect(0, 0, 0, 0), this, record_id))
+        if (!CBarPage::CreateContents() || !AddButton("Record again", record_id, 120))
             return false;
-        record_.SetFont(&font_);
         OnRecord();
         return true;
     }
-
-    void Arrange(int width, int height) override {
-        Place(record_, 8, 6, 120, bar_height - 10);
-        CSurfacePage::Arrange(width, height);
-    }
-    int TopHeight() const override { return bar_height; }
 
     afx_msg void OnRecord() {
         recording_ = {};
@@ -145,12 +135,11 @@ protected:
             recording_.failure = CWntPulseFile::ErrorText(error);
         else
             ReadBack(recording_);
-        Invalidate();
+        Invalidate(FALSE);
     }
 
     void Paint(CWntOut& out) override {
-        out.fillcolour(RGB(252, 252, 252), 0);
-        out.boxa2(0, 0, out.xmax, out.ymax);
+        Ground(out, RGB(252, 252, 252));
         const Plot plot = {50, 50, std::max(out.xmax - 80, 1), std::max(out.ymax - 100, 1)};
         PaintGrid(out, plot, recording_);
         PaintCurves(out, plot, recording_);
@@ -163,13 +152,11 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    CFont font_;
-    CButton record_;
     Recording recording_;
     int turn_ = 0;
 };
 
-BEGIN_MESSAGE_MAP(CPulsePage, CSurfacePage)
+BEGIN_MESSAGE_MAP(CPulsePage, CBarPage)
 ON_BN_CLICKED(record_id, &CPulsePage::OnRecord)
 END_MESSAGE_MAP()
 

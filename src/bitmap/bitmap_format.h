@@ -8,7 +8,7 @@
 #include <optional>
 #include <span>
 
-/// Windows bitmap files without their pixels: headers, colour tables and the sizes that follow from them. The two
+/// Windows bitmap files: headers, colour tables, and the sizes of pixels that follow from them. The two
 /// bitmap classes count colours and bytes by different rules; both rules are here, with checked arithmetic.
 namespace wnt {
 
@@ -64,7 +64,7 @@ std::uint32_t storage_width(std::int32_t width);
 std::uint64_t storage_bytes(const BitmapHeader& header);
 /// CWntBitmap's colour count: what the header declares, but not more than up to 8 bits can have.
 std::uint32_t bitmap_colours(const BitmapHeader& header);
-/// The rows, whichever comes first. The lowest of heights has one more than can be told.
+/// The amount of a height; the largest integer for the lowest one.
 std::int32_t row_count(std::int32_t height);
 /// What the platform may read of a picture's pixels when it draws them; nothing when that cannot be counted.
 std::optional<std::uint64_t> drawn_bytes(const BitmapHeader& header);

@@ -44,9 +44,11 @@ public:
     /// A blank bitmap of the screen's depth, every byte of its pixels set to `fill`. With 256 colours the table is one
     /// of the two above. Errors: 3 size below 1, 4 device context, 5 header, 6 section, 8 palette.
     int CreateNew(int width, int height, int fill, int openGL);
-    /// 8, 16 and 24 bits. Errors: 2 size below 1, 3 header, 4 device context, 5 section, 6 palette.
+    /// 8 bits. Errors: 2 size below 1, 3 header, 4 device context, 5 section, 6 palette.
     int CreateNew256Color(int width, int height, int fill, int openGL);
+    /// 16 bits, with the same errors.
     int CreateNewHighColor(int width, int height, int fill);
+    /// 24 bits, with the same errors.
     int CreateNewTrueColor(int width, int height, int fill);
 
     /// A null path or a file that cannot be opened leaves the object empty, without an error.
@@ -57,7 +59,7 @@ public:
     /// position, 3 file header, 4 no bitmap, 5 information header, 6 another header than the 40-byte one, or
     /// compressed, 8 colour table, 9 device context or section, 10 pixels, 11 palette.
     int StreamIn(HANDLE file);
-    /// Errors: 1 empty object, 2 handle, 4 writing.
+    /// Writes a bitmap file at the present position. Errors: 1 empty object, 2 handle, 4 writing.
     int StreamOut(HANDLE file) const;
     /// Writes header and colour table as text.
     void SaveBitmapInfo(const char* path) const;
@@ -65,11 +67,13 @@ public:
     /// Copies the bitmap to (x, y), stretched where cx and cy are 1 and more. A bitmap with a palette selects it and
     /// answers 0 with error 1 although all went well. Other errors: 1 no target, 2 palette not realised, 3 copying.
     int Draw(HDC dc, int x, int y, int cx, int cy) const;
+    /// The same, the palette realised: its colours are asked of the system.
     int DrawRealized(HDC dc, int x, int y, int cx, int cy) const;
     /// Gives the memory device context a pixel format for OpenGL, with 24 bits of depth; non-zero on success. Refused
     /// where the closest format has wider pixels than the bitmap.
     int PrepareOpenGL();
 
+    /// Sets every byte of the pixels.
     void ClearBits(int value);
     /// The colour of the pixels and lines that follow, components from 0 to 255. Bitmaps of 8, 16 and 24 bits are drawn
     /// on; at 8 bits the colour is a table index made of green and blue, at 16 it is packed from the low bits of the
@@ -81,14 +85,20 @@ public:
     /// Both ends included, clipped; as for pixels nothing where the height is negative.
     void Line(int x1, int y1, int x2, int y2);
 
-    /// 0 for an empty object. The height is negative where the upper row comes first.
+    /// 0 for an empty object.
     int GetWidth() const;
+    /// Negative where the upper row comes first; 0 for an empty object.
     int GetHeight() const;
+    /// 0 for an empty object.
     int GetBitsPerPixel() const;
+    /// The section, which stays the object's; null for an empty one.
     HBITMAP GetHBitmap() const { return m_hBitmap; }
-    /// After drawing into it, GdiFlush() comes before pixels are set or looked at.
+    /// The memory device context with the section, which stays the object's; null for an empty one. After drawing into
+    /// it, GdiFlush() comes before pixels are set or looked at.
     HDC GetDC() const { return m_hDC; }
+    /// The pixels, which stay the object's; null for an empty one.
     void* GetPtrBits() const { return m_pBits; }
+    /// 1 where there is a bitmap, 0 for an empty object.
     int IsValid() const;
     /// The last error, which it forgets.
     int GetLastError() const;

@@ -13,8 +13,8 @@ constexpr FOURCC palette_form = mmioFOURCC('P', 'A', 'L', ' ');
 constexpr FOURCC data_id = mmioFOURCC('d', 'a', 't', 'a');
 constexpr char filter[] = "Palette files (*.PAL)|*.PAL|All files (*.*)|*.*||";
 
-// The multimedia layer over an open file, which stays open. Writing goes without a buffer: what fails when a buffer is
-// emptied is not told.
+// The multimedia layer over an open file, which stays open. Writing goes without a buffer, since
+// closing does not report what failed when one was emptied.
 class OverFile {
 public:
     OverFile(HANDLE file, DWORD mode) {

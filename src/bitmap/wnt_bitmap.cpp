@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdlib>
 #include <cstring>
+#include <utility>
 
 #include "bitmap/bitmap_format.h"
 
@@ -101,6 +102,10 @@ BOOL CWntBitmap::Create(BITMAPINFO* info, void* bits) {
     if (!block)
         return FALSE;
     std::memcpy(block.get(), info, wnt::info_header_bytes + 4 * count);
+    if (bits && bits == m_pBits) { // its own pixels under another header: they stay as they are, and whose they are
+        std::free(std::exchange(m_pBMI, info_of(std::move(block))));
+        return TRUE;
+    }
     const std::uint64_t size = bits ? wnt::placed_bytes(header).value_or(0) : 0;
     take(info_of(std::move(block)), static_cast<BYTE*>(bits), FALSE, std::min(size, wnt::most_picture_bytes));
     return TRUE;

@@ -21,22 +21,29 @@ public:
     CWntBitmap();
     ~CWntBitmap() override;
 
+    /// A bitmap file in an archive. As in Load() and Save(), whose results it drops: a bitmap that is refused is left
+    /// as it was.
     void Serialize(CArchive& archive) override;
 
     /// Null or an empty path asks the user. A file that cannot be opened is refused silently.
     virtual BOOL Load(LPCTSTR path);
+    /// A bitmap file at the present position.
     virtual BOOL Load(CFile* file);
+    /// A bitmap file of 8 bits at the present position.
     virtual BOOL Save(CFile* file);
     /// Null or an empty path asks the user; failures are shown in a message box.
     virtual BOOL Save(LPCTSTR path);
     /// Stretched to cx x cy pixels.
     virtual void Draw(CDC* dc, int x, int y, int cx, int cy);
+    /// At its own size.
     virtual void Draw(CDC* dc, int x, int y);
+    /// 0 for an empty bitmap.
     virtual int GetWidth();
     /// Negative where the upper row comes first.
     virtual int GetHeight();
     /// Replaces each pixel by the nearest colour of the palette, whose first 256 colours become the bitmap's.
     virtual BOOL MapColorsToPalette(CPalette* palette);
+    /// From (0, 0) to width and height.
     virtual void GetRect(CRect* rect);
     /// Copies the w x h block at (xs, ys) to (xd, yd) of a bitmap, y counting downwards, row by row from the lowest
     /// one. Pixels equal to the low byte of `transparent` are left out; 0xFFFFFFFF leaves none out. Not clipped: a
@@ -47,15 +54,19 @@ public:
     /// A blank bitmap of 8 bits with a ramp of greys. Refused below 0 and from 2 GB on; the bitmap is empty then.
     BOOL Create(int width, int height);
     /// Copies the header and its colours, refused above 65536; the pixels stay the caller's and must outlive their use.
-    /// Compressed ones are biSizeImage bytes and are drawn only when that is told.
+    /// Compressed ones are biSizeImage bytes and are drawn only where that is set.
     BOOL Create(BITMAPINFO* info, void* bits);
     /// A bitmap file that is a resource of the library, of the type "DIB" or else a standard bitmap's. The pixels are
     /// used where they lie and become writable.
     BOOL Load(UINT id);
 
+    /// Header and colour table, which stay the bitmap's; null for an empty one.
     BITMAPINFO* GetBitmapInfoAddress() const { return m_pBMI; }
+    /// The pixels; null for an empty bitmap.
     void* GetBitsAddress() const { return m_pBits; }
+    /// The colour table; null for an empty bitmap.
     RGBQUAD* GetClrTabAddress() const { return m_pBMI ? m_pBMI->bmiColors : nullptr; }
+    /// The colours of the table, as the header tells them, at most 256 up to 8 bits.
     UINT GetNumClrEntries() const;
     /// The place of an 8-bit pixel, y counting downwards from 0; null right of and below the bitmap, so everywhere
     /// where the upper row comes first. Values below 0, and other depths, are the caller's to avoid.

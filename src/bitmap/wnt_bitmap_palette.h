@@ -20,16 +20,22 @@ class ZOPWNT_API CWntBitmapPalette : public CPalette {
 public:
     /// Of a bitmap without a colour table nothing is made.
     BOOL Create(CWntBitmap* bitmap);
+    /// 0 without a palette.
     int GetNumColors() const;
 
     /// A null or empty path asks the user; failures are shown in a message box.
     BOOL Load(LPCTSTR path);
+    /// From the present position of an open file.
     BOOL Load(CFile* file);
+    /// From the present position of an open file.
     BOOL Load(HANDLE file);
+    /// From an open multimedia file.
     BOOL Load(HMMIO riff);
-    /// There is nothing to save without a palette: 0.
+    /// To the present position of an open file. 0 without a palette, as in the two below.
     BOOL Save(CFile* file) const;
+    /// To the present position of an open file.
     BOOL Save(HANDLE file) const;
+    /// To an open multimedia file.
     BOOL Save(HMMIO riff) const;
 
     /// 16 cells a row, as many as there are colours, at most 256; a full grid fills the rectangle and one pixel

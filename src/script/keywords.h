@@ -11,6 +11,7 @@ namespace wnt {
 using KeywordTable = std::span<const std::string_view>;
 
 inline constexpr std::string_view border_type_words[] = {"NOBORDER", "FLAT", "3DUP", "3DDOWN"};
+enum BorderType { border_none, border_flat, border_raised, border_sunk }; // their positions
 
 inline constexpr std::string_view title_style_words[] = {"PLAIN", "INSET", "OUTSET", "BOLD"};
 

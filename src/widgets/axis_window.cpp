@@ -6,6 +6,7 @@
 #include "widgets/axis/axis_model.h"
 #include "arithmetic.h"
 #include "widgets/axis/zoom_control.h"
+#include "widgets/surface_owner.h"
 #include "widgets/wnt_axis_properties.h"
 
 namespace {
@@ -57,9 +58,9 @@ int CWntAxis::OnCreate(LPCREATESTRUCT create) {
     return 0;
 }
 
-void CWntAxis::repaint(BOOL erase) {
+void CWntAxis::repaint() {
     if (m_hWnd)
-        Invalidate(erase);
+        Invalidate();
 }
 
 void CWntAxis::SetFlags(int position, int gridCount, int type) {
@@ -78,18 +79,18 @@ void CWntAxis::SetAxisType(int type) {
 
 void CWntAxis::SetTicks(int count) {
     model_->grid.count = count;
-    repaint(TRUE);
+    repaint();
 }
 
 void CWntAxis::SetRange(float minimum, float maximum) {
     model_->set_range(minimum, maximum);
     SetZoomRects(1);
-    repaint(TRUE);
+    repaint();
 }
 
 void CWntAxis::SetRange(__int64 start, __int64 end) {
     model_->set_time_range(start, end);
-    repaint(TRUE);
+    repaint();
 }
 
 void CWntAxis::SetViewTime(TAxisdatetime* start, TAxisdatetime* end) {
@@ -109,7 +110,7 @@ void CWntAxis::SetTexts(int count, CString* texts) {
         return;
     texts_ = texts;
     model_->set_texts(count);
-    repaint(TRUE);
+    repaint();
 }
 
 void CWntAxis::SetTitle(CString* title) {
@@ -204,7 +205,7 @@ void CWntAxis::OnSize(UINT type, int cx, int cy) {
     CWnd::OnSize(type, cx, cy);
     model_->resize(cx, cy);
     SetZoomRects(0);
-    repaint(FALSE);
+    repaint();
 }
 
 BOOL CWntAxis::OnCommand(WPARAM wParam, LPARAM lParam) {
@@ -214,7 +215,7 @@ BOOL CWntAxis::OnCommand(WPARAM wParam, LPARAM lParam) {
         zoom_->shown = !zoom_->shown;
         if (!zoom_->has_slider())
             SetZoomRects(1); // never laid out since the axis has a size, or its ends were dragged past each other
-        repaint(TRUE);
+        repaint();
     } else if (command == properties_command && !open_properties()) {
         return TRUE;
     }
@@ -239,9 +240,7 @@ void CWntAxis::OnLButtonDblClk(UINT, CPoint point) {
         const auto at = static_cast<float>(model_->horizontal() ? point.x : point.y);
         double_clicked_item_ = wnt::truncated_int(at / model_->pixel_per_grid());
     }
-    NMHDR notification = {m_hWnd, static_cast<UINT_PTR>(GetDlgCtrlID()), double_clicked};
-    if (HWND parent = ::GetParent(m_hWnd))
-        ::SendMessage(parent, WM_NOTIFY, notification.idFrom, reinterpret_cast<LPARAM>(&notification));
+    wnt::notify_parent(*this, double_clicked);
 }
 
 void CWntAxis::OnLButtonDown(UINT, CPoint point) {

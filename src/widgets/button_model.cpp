@@ -53,7 +53,7 @@ void store_border_height(Properties& p, std::string_view value) {
 
 struct Key {
     KeyRule rule;
-    bool marks; ///< the settings as changed
+    bool repaints;
 };
 
 // One entry a key, in the order of the key table.
@@ -140,7 +140,7 @@ void ButtonModel::load_line(std::string_view line) {
     if (key < 0)
         return;
     keys[key].rule(properties_, parts.value);
-    if (keys[key].marks)
+    if (keys[key].repaints)
         mask_ |= button_background;
 }
 

@@ -3,11 +3,10 @@
 #include <array>
 #include <string_view>
 
+#include "script/keywords.h"
 #include "widgets/button_properties.h"
 
 namespace wnt {
-
-enum BorderType { border_none, border_flat, border_raised, border_sunk };
 
 /// Bits of the button's repaint mask.
 enum ButtonRepaint { button_background = 1, button_foreground = 2 };

@@ -19,11 +19,11 @@ struct Tcbtn_properties {
     std::int32_t bordertype;   ///< 0 none, 1 flat, 2 raised, 3 sunk
     std::int32_t borderstyle;  ///< sides: 1 left, 2 right, 4 top, 8 bottom
     std::int32_t borderheight; ///< pixels
-    std::int32_t clrback;
-    std::int32_t clrtext;
-    std::int32_t clrsun;
-    std::int32_t clrshadow;
-    std::int32_t clrborder; ///< frame and flat border
+    std::int32_t clrback;      ///< palette index, like the others
+    std::int32_t clrtext;      ///< title and its line
+    std::int32_t clrsun;       ///< the lit edges
+    std::int32_t clrshadow;    ///< the edges in the shadow
+    std::int32_t clrborder;    ///< frame and flat border
 };
 
 static_assert(sizeof(Tcbtn_properties) == 116);

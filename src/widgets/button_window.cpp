@@ -4,6 +4,7 @@
 
 #include "script/script_line.h"
 #include "widgets/button_painter.h"
+#include "widgets/surface_buffer.h"
 #include "widgets/surface_owner.h"
 
 namespace {
@@ -43,7 +44,7 @@ int CWntButton::OnCreate(LPCREATESTRUCT create) {
     if (const int result = CWnd::OnCreate(create); result != 0)
         return result;
     if (out_.m_hWnd)
-        return -1; // not a creation
+        return -1; // sent by hand to a living window
     model_->clear();
     *box_ = {};
     *inside_ = {};
@@ -96,12 +97,24 @@ unsigned char CWntButton::mouse_in_button(CPoint point) {
 }
 
 void CWntButton::repaint() {
-    const bool drawable = wnt::begin_painting(out_);
+    // A whole button is shown when it is finished; without its ground it is drawn over what is there.
+    if (model_->repaint_mask() & wnt::button_background) {
+        wnt::SurfaceBuffer picture(out_);
+        if (model_->properties().visible)
+            picture.show({0, box_->height - 1, box_->width - 1, 0});
+        draw_all();
+    } else {
+        const bool drawable = wnt::begin_painting(out_);
+        draw_all();
+        if (drawable)
+            out_.endpaint();
+    }
+    model_->painted();
+}
+
+void CWntButton::draw_all() {
     draw_background(); // measures, even where nothing can be drawn
     draw_foreground();
-    if (drawable)
-        out_.endpaint();
-    model_->painted();
 }
 
 void CWntButton::draw_background() {
@@ -171,7 +184,6 @@ void CWntButton::OnPaint() {
 
 void CWntButton::OnSize(UINT type, int cx, int cy) {
     CWnd::OnSize(type, cx, cy);
-    box_->x = 0;
     box_->width = cx;
     box_->height = cy;
     if (!out_.m_hWnd)

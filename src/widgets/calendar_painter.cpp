@@ -84,9 +84,9 @@ void CWntCalendar::DrawHeadline(CRect area, CTime first) {
     out_.settext(0, 0, 0, text_height, 0, 0);
     const int middle = r.bottom + wnt::headline_height / 2;
     if (const int year = wnt::local_date(first.GetTime()).year) {
-        char number[8];
-        std::snprintf(number, sizeof number, "%02d", year % 100);
-        text(r.left + wnt::headline_height / 2, middle, number, centred);
+        char digits[8];
+        std::snprintf(digits, sizeof digits, "%02d", year % 100);
+        text(r.left + wnt::headline_height / 2, middle, digits, centred);
     }
     const int width = (r.right - r.left) / 7;
     for (int day = 0; day < 7; ++day)
@@ -149,10 +149,10 @@ void CWntCalendar::DrawMonths(CRect area, CTime first, CTime) {
         const int month = wnt::local_date(monday).month;
         if (month != previous && month && previous) {
             const int y = r.top - row * wnt::week_height;
-            char number[12];
-            std::snprintf(number, sizeof number, "%0d", previous);
+            char digits[12];
+            std::snprintf(digits, sizeof digits, "%0d", previous);
             out_.hline(r.left, y, r.right - r.left);
-            out_.titlechars(r.left, y, r.right - r.left, month_box_height, number);
+            out_.titlechars(r.left, y, r.right - r.left, month_box_height, digits);
         }
         previous = month;
     }

@@ -42,7 +42,7 @@ int CWntCalendar::OnCreate(LPCREATESTRUCT create) {
     if (const int result = CWnd::OnCreate(create); result != 0)
         return result;
     if (out_.m_hWnd)
-        return -1; // not a creation
+        return -1; // sent by hand to a living window
     if (!out_.Create(nullptr, "Out1", WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 50), this, surface_id))
         return -1;
     read_colours();

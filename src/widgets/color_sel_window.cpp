@@ -41,7 +41,7 @@ int CWntColorSel::OnCreate(LPCREATESTRUCT create) {
     if (const int result = CWnd::OnCreate(create); result != 0)
         return result;
     if (out_.m_hWnd)
-        return -1; // not a creation
+        return -1; // sent by hand to a living window
     sliders_shown_ = 0;
     cells_3d_ = 0;
     hover_sample_ = 0;
@@ -244,9 +244,7 @@ void CWntColorSel::lay_out() {
 void CWntColorSel::OnLButtonUp(UINT, CPoint) {
     selected_colour_ = ComputeSelectedColor();
     SetSelectedColorPanel(selected_colour_);
-    NMHDR notification = {m_hWnd, static_cast<UINT_PTR>(GetDlgCtrlID()), picked};
-    if (HWND parent = ::GetParent(m_hWnd))
-        ::SendMessage(parent, WM_NOTIFY, notification.idFrom, reinterpret_cast<LPARAM>(&notification));
+    wnt::notify_parent(*this, picked);
 }
 
 void CWntColorSel::OnMouseMove(UINT, CPoint) {

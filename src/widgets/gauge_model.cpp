@@ -18,11 +18,10 @@ int ignore(GaugeModel&, std::string_view) {
     return 0;
 }
 
-// Values that were measured on another scale are no course to show on this one.
 template <auto Field> int store_bound(GaugeModel& model, std::string_view value) {
     const std::int32_t bound = integer_value(value);
     if (bound != model.*Field)
-        model.history.clear();
+        model.forget_course();
     model.*Field = bound;
     return repaint_face;
 }
@@ -151,7 +150,7 @@ bool GaugeModel::set_current_value(std::int32_t value) {
 
 void GaugeModel::set_range(std::int32_t low, std::int32_t high) {
     if (low != minimum || high != maximum)
-        history.clear();
+        forget_course();
     minimum = low;
     maximum = high;
     repaint_mask = repaint_all;
@@ -174,7 +173,12 @@ void GaugeModel::set_titles(const char* new_title, const char* new_unit_title) {
 void GaugeModel::clear() {
     set_range(0, 100);
     current = 50;
+    forget_course();
+}
+
+void GaugeModel::forget_course() {
     history.clear();
+    has_previous = false;
 }
 
 void GaugeModel::clear_marks() {

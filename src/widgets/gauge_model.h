@@ -63,8 +63,8 @@ struct GaugeModel {
     std::int32_t minimum = 0;
     std::int32_t maximum = 100;
     std::int32_t current = 50;
-    std::int32_t previous = 0;  ///< The value before the last `set_current_value`,
-    bool has_previous = false;  ///< once there was one.
+    std::int32_t previous = 0;  ///< The value before the last `set_current_value`.
+    bool has_previous = false;  ///< It is a value on the present scale.
     ValueHistory history;       ///< Filled by every change of the current value.
     unsigned face_revision = 0; ///< Counts the changes that leave a painted face out of date.
     std::int32_t type = gauge_percent_bar;
@@ -79,7 +79,6 @@ struct GaugeModel {
     /// False when the last script ended with an empty range or with the value outside it.
     bool displayable = true;
 
-    std::string_view id_text() const { return field_text(id); }
     std::string_view title_text() const { return field_text(title); }
     std::string_view unit_text() const { return field_text(unit_title); }
 
@@ -104,6 +103,9 @@ struct GaugeModel {
 
     /// Range 0..100 at 50; marks and titles stay.
     void clear();
+
+    /// What was measured on another scale is no course to show on this one.
+    void forget_course();
 
     void clear_marks();
 

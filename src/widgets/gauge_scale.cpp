@@ -6,9 +6,9 @@ namespace wnt {
 
 namespace {
 
-// A value's way along the scale and the scale's length, both from the minimum and never negative.
+// A value's distance along the scale and the scale's length, both from the minimum and never negative.
 struct Along {
-    std::int64_t way;
+    std::int64_t distance;
     std::int64_t length;
 };
 
@@ -69,14 +69,14 @@ std::int32_t divisions_across(std::int32_t divisions, std::int32_t length, std::
 
 double scale_fraction(std::int32_t minimum, std::int32_t maximum, std::int32_t value) {
     const Along along = along_scale(minimum, maximum, value);
-    return along.length == 0 ? 0.0 : static_cast<double>(along.way) / static_cast<double>(along.length);
+    return along.length == 0 ? 0.0 : static_cast<double>(along.distance) / static_cast<double>(along.length);
 }
 
 std::int32_t division_value(std::int32_t minimum, std::int32_t maximum, std::int32_t divisions, std::int32_t division) {
     const std::int32_t count = std::max(divisions, 1);
     const std::int64_t length = along_scale(minimum, maximum, minimum).length;
-    const std::int64_t way = share(length, std::clamp(division, 0, count), count);
-    return static_cast<std::int32_t>(maximum < minimum ? minimum - way : minimum + way);
+    const std::int64_t distance = share(length, std::clamp(division, 0, count), count);
+    return static_cast<std::int32_t>(maximum < minimum ? minimum - distance : minimum + distance);
 }
 
 TickSteps tick_steps(std::int32_t minimum, std::int32_t maximum, std::int32_t divisions, std::int32_t length,

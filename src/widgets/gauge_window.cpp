@@ -82,7 +82,7 @@ int CWntGauge::OnCreate(LPCREATESTRUCT create) {
     if (const int result = CWnd::OnCreate(create); result != 0)
         return result;
     if (out_.m_hWnd)
-        return -1; // not a creation
+        return -1; // sent by hand to a living window
     if (!create_children())
         return -1;
     trace_.SetFilename("gaugeocx.log");
@@ -132,7 +132,6 @@ void CWntGauge::end_script() {
         scroll_bar_.SetScrollRange(model_->minimum, model_->maximum, FALSE);
         scroll_bar_.SetScrollPos(model_->current);
     }
-    model_->repaint_mask = wnt::repaint_face;
     Repaint();
     model_->repaint_mask = 0;
 }
@@ -214,12 +213,10 @@ const char* CWntGauge::GAUGEstrstr(const char* text, const char* word) {
 void CWntGauge::Repaint() {
     if (!this)
         return;
-    painted_ = false;
     if (out_.reset()) {
         painter_->paint(out_, width_, height_, *model_, model_->repaint_mask);
         out_.endpaint();
     }
-    painted_ = true;
 }
 
 BOOL CWntGauge::OnEraseBkgnd(CDC*) {
@@ -237,7 +234,6 @@ void CWntGauge::OnSize(UINT type, int cx, int cy) {
     CWnd::OnSize(type, cx, cy);
     const bool test = model_->test_mode;
     const int strip = test ? strip_height : 0;
-    const int button = test ? strip_height : 0;
     width_ = cx;
     height_ = std::max(cy - strip, 0);
     auto place = [](CWnd& child, int x, int y, int w, int h) {
@@ -247,8 +243,8 @@ void CWntGauge::OnSize(UINT type, int cx, int cy) {
         child.ShowWindow(SW_SHOW);
     };
     place(out_, 0, 0, width_, height_);
-    place(scroll_bar_, 0, test ? height_ : 0, test ? cx - button : 0, strip);
-    place(switch_button_, test ? cx - button : 0, test ? height_ : 0, button, strip);
+    place(scroll_bar_, 0, test ? height_ : 0, test ? cx - strip : 0, strip);
+    place(switch_button_, test ? cx - strip : 0, test ? height_ : 0, strip, strip);
     model_->repaint_mask = wnt::repaint_all;
     Invalidate(FALSE); // a smaller window is laid out anew, too
 }

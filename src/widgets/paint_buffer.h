@@ -2,7 +2,7 @@
 
 #include <afxwin.h>
 
-#include "widgets/memory_picture.h"
+#include "widgets/memory_bitmap.h"
 
 namespace wnt {
 
@@ -22,7 +22,7 @@ private:
     HDC window_;
     int width_;
     int height_;
-    MemoryPicture picture_;
+    MemoryBitmap bitmap_;
 };
 
 } // namespace wnt

@@ -71,7 +71,7 @@ public:
         int tenths;          // text: size
         std::uint32_t first; // polygon: first point; text: first character
         std::uint32_t count;
-        BoxF bounds; // box: the box itself; text: the cell; nothing is drawn outside
+        BoxF bounds; // box: the box itself; text: the cell
         PointF at;   // text: the aligned end of the cell's lower edge
     };
 

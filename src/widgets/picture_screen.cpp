@@ -209,7 +209,8 @@ void PictureScreen::draw_shape(CWntOut& out, const Picture& picture, const Pictu
 }
 
 void PictureScreen::render_texts(MemorySurface& target, const Picture& picture, const Area& area) {
-    static constexpr int alignments[3] = {0, 1, 2};
+    static_assert(static_cast<int>(HAlign::left) == 0 && static_cast<int>(HAlign::right) == 1 &&
+                  static_cast<int>(HAlign::centre) == 2); // as the surface counts them
     CWntOut& out = target.out();
     for (const auto& figure : picture.figures()) {
         if (figure.kind != Picture::Kind::text)
@@ -225,7 +226,7 @@ void PictureScreen::render_texts(MemorySurface& target, const Picture& picture, 
         const std::string_view text = picture.characters(figure);
         // The surface's lower edge of a text is the first row below it.
         out.chars_len(nearest(figure.at.x), nearest(figure.at.y) - 1, static_cast<int>(text.size()),
-                      const_cast<char*>(text.data()), alignments[static_cast<int>(figure.align)]);
+                      const_cast<char*>(text.data()), static_cast<int>(figure.align));
     }
     ::SelectClipRgn(target.dc(), nullptr);
     ::GdiFlush();

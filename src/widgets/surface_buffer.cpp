@@ -19,9 +19,9 @@ SurfaceBuffer::SurfaceBuffer(CWntOut& out) : out_(out) {
     if (!begin_painting(out))
         return;
     window_ = out.dc;
-    if (!picture_.create(window_, out.xmax + 1, out.ymax + 1))
+    if (!bitmap_.create(window_, out.xmax + 1, out.ymax + 1))
         return;
-    out.reset(picture_.dc());
+    out.reset(bitmap_.dc());
     prime_colours(out);
 }
 
@@ -29,11 +29,11 @@ SurfaceBuffer::~SurfaceBuffer() {
     const int ymax = out_.ymax;
     if (window_)
         out_.endpaint();
-    if (!picture_)
+    if (!bitmap_)
         return;
     for (const UpwardRect& part : parts_)
         ::BitBlt(window_, part.left, ymax - part.top, part.right - part.left + 1, part.top - part.bottom + 1,
-                 picture_.dc(), part.left, ymax - part.top, SRCCOPY);
+                 bitmap_.dc(), part.left, ymax - part.top, SRCCOPY);
 }
 
 SurfacePainting::SurfacePainting(CWntOut& out, Open& open) : out_(out), open_(open), opened_(!open) {

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "out/wnt_out.h"
-#include "widgets/memory_picture.h"
+#include "widgets/memory_bitmap.h"
 #include "widgets/upward_rect.h"
 
 namespace wnt {
@@ -26,7 +26,7 @@ public:
 private:
     CWntOut& out_;
     HDC window_ = nullptr;
-    MemoryPicture picture_;
+    MemoryBitmap bitmap_;
     std::vector<UpwardRect> parts_;
 };
 

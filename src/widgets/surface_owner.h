@@ -4,10 +4,10 @@
 
 namespace wnt {
 
-// What every widget needs that paints through a surface of its own.
+// What the widgets' windows have in common.
 
 /// Right after reset() white lines and black fills count as in force without being so: one call each with another
-/// colour makes the surface tell the truth.
+/// colour force the first real change.
 inline void prime_colours(CWntOut& out) {
     out.linecolour(COLORREF{0x010101}, 0);
     out.fillcolour(COLORREF{0x010101}, 0);
@@ -19,6 +19,13 @@ inline bool begin_painting(CWntOut& out) {
         return false;
     prime_colours(out);
     return true;
+}
+
+/// Tells the parent by a notify message. The parent may destroy the window on it.
+inline void notify_parent(CWnd& window, UINT code) {
+    NMHDR notification = {window.m_hWnd, static_cast<UINT_PTR>(window.GetDlgCtrlID()), code};
+    if (HWND parent = ::GetParent(window.m_hWnd))
+        ::SendMessage(parent, WM_NOTIFY, notification.idFrom, reinterpret_cast<LPARAM>(&notification));
 }
 
 /// With children clipped away, a widget would not be told when its surface is uncovered.

@@ -39,10 +39,12 @@ public:
     CWntAxis(const CWntAxis&) = delete;
     CWntAxis& operator=(const CWntAxis&) = delete;
 
-    /// Position: 0 above the plot, 1 left of it, 2 below, 3 right. Type: 0 numeric, 1 texts, 2 time. Shown with the
-    /// next repaint.
+    /// Position: 0 above the plot, 1 left of it, 2 below, 3 right. Type: 0 numeric, 1 texts, 2 time. gridCount as in
+    /// SetTicks(). Shown with the next repaint.
     void SetFlags(int position, int gridCount, int type);
+    /// The position alone.
     void SetAxisPosition(int position);
+    /// The type alone.
     void SetAxisType(int type);
     /// Number of grid steps across the axis, until SetRange() or the next size of a numeric axis computes it anew.
     void SetTicks(int count);
@@ -54,24 +56,29 @@ public:
     /// Range of a time axis by full years; makes it one. Shown with the next repaint. An upright axis shows labels only
     /// for a range set by values.
     void SetViewTime(TAxisdatetime* start, TAxisdatetime* end);
+    /// Copies the range's two records out; a null place is left out.
     void GetViewTime(TAxisdatetime* start, TAxisdatetime* end);
     /// One label a grid step, which becomes 1, from 0 to count; the type stays. Ignored for no labels. The array stays
     /// the host's and must outlive the axis or be replaced.
     void SetTexts(int count, CString* texts);
 
-    /// Kept for derived classes; the axis does not show them.
+    /// Kept for derived classes; the axis does not show it.
     void SetTitle(CString* title);
+    /// Kept for derived classes; the axis does not show it.
     void SetValueTitle(CString* title);
 
     /// Computes the numeric grid: steps of 2, 5 or 10 times a power of ten, at least 3 pixels wide.
     void MakeRange();
+    /// The number of grid steps.
     int GetGridCount();
+    /// The number of labelled lines.
     int GetScaleLineCount();
     /// Pixel of labelled line i; one just outside for a line beyond the range. Lines of a text axis are counted from
     /// the first labelled value of the last numeric grid.
     int GetScaleLinePos(int i);
     /// Pixels a grid step; 1 without a grid.
     float PixelPerGrid();
+    /// The same in whole pixels, truncated.
     int GetTickWidth();
 
     /// 0, and nothing stored, outside the axis or for an empty range.
@@ -80,14 +87,17 @@ public:
     int CalcPixelCoord(float value, int* pixel);
     /// 1 on the axis, 0 beyond its ends, where the conversion goes on.
     int ScreenToValue(int pixel, float* value);
+    /// The same for a time axis.
     int ScreenToValue(int pixel, __int64* time);
     /// 0 in the range; -1 below and 1 above it, with the pixel just beyond that end. The maximum of an upright axis
     /// lies one pixel below its upper end.
     int ValueToScreen(float value, int* pixel);
+    /// The same for a time axis.
     int ValueToScreen(__int64 time, int* pixel);
 
-    /// Always 1.
+    /// The day that SetCurrentTime(int) counts from: full year, month and day from 1 on, unchecked. Always 1.
     int SetCurrentDay(short year, short month, short day);
+    /// Copies that day out. Always 1.
     int GetCurrentDay(short* year, short* month, short* day);
     /// Pixel of a moment, by hundredths since the start of the current day.
     int SetCurrentTime(int offset);
@@ -121,7 +131,9 @@ protected:
     void shadowline(CPaintDC* dc, int x1, int y1, int x2, int y2, int horizontal);
     /// A mark across the axis at so many percent of its length.
     void horizontal_time_scale(CPaintDC* dc, float percent);
+    /// The same for an upright axis.
     void vertical_time_scale(CPaintDC* dc, float percent);
+    /// The control's green box and its slider.
     void PaintZoomControl(CPaintDC* dc);
 
     CString title_;
@@ -136,7 +148,7 @@ protected:
 private:
     friend class CWntAxisProperties;
 
-    void repaint(BOOL erase);
+    void repaint();
     void tick_line(int start, int length, int pixel, int (&ends)[4]) const;
     void draw_tick(CPaintDC* dc, const wnt::AxisTick& tick);
     void draw_time_tick(CPaintDC* dc, const wnt::AxisTick& tick);

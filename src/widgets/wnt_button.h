@@ -43,8 +43,9 @@ public:
     /// 1 when the point (client coordinates) lies inside; points on the edge lie outside.
     unsigned char mouse_in_button(CPoint point);
 
-    /// The steps of painting, for an owner that repaints parts.
+    /// The first step of painting, for a derived class: border and frame, and the ground while a change is pending.
     void draw_background();
+    /// The second step: the title.
     void draw_foreground();
     /// Moves the picture: 0 pressed, 1 released. The border type is changed for good.
     void draw_button(unsigned char up);
@@ -67,6 +68,7 @@ protected:
 
 private:
     void repaint();
+    void draw_all();
     void move_picture(unsigned char up);
 
     CWntOut out_;

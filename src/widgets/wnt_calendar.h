@@ -36,13 +36,15 @@ public:
     CWntCalendar(const CWntCalendar&) = delete;
     CWntCalendar& operator=(const CWntCalendar&) = delete;
 
-    /// The painters of the calendar's parts. Rectangles have their edges inside and y growing upwards from the lower
-    /// edge of the window: top is the larger value. `first` is the date whose week comes first; `end` is not used.
-    /// DrawBody raises the result-code exception (0x80004005, 0x80070057) at a week without a number.
+    /// Paints the headline of the week that holds `first`. Of this painter and the others: rectangles have their edges
+    /// inside and y growing upwards from the lower edge of the window, so that top is the larger value.
     void DrawHeadline(CRect area, CTime first);
+    /// Paints the grid of days from that week on; `end` is not used. Raises the result-code exception (0x80004005,
+    /// 0x80070057) at a week without a number.
     void DrawBody(CRect area, CTime first, CTime end);
+    /// Paints the column of months; `end` is not used.
     void DrawMonths(CRect area, CTime first, CTime end);
-    /// which: 0 an arrow down, otherwise up; sunk: 0 raised.
+    /// Paints a strip. which: 0 an arrow down, otherwise up; sunk: 0 raised.
     void DrawButton(CRect area, int which, int sunk);
 
 protected:

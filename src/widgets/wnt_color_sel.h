@@ -34,8 +34,9 @@ public:
 
     /// Ignored for null or a count of 0.
     void SetColorPalette(DWORD* colours, int count);
-    /// For a created selector. Names are added to those in the list; without one of the three: palette only. The first
-    /// item is the selected one: follow with SetSelectedColorID() of its colour, which the next paint writes into it.
+    /// For a created selector. Names are added to those in the list; without one of the three: palette only. The
+    /// selected item, the first one at first, stays selected: follow with SetSelectedColorID() of its colour, which the
+    /// next paint writes into it.
     void SetColorItems(char** names, int* colours, int count);
     /// Selects a colour and gives it to the selected item.
     void SetSelectedColorID(int index);
@@ -46,18 +47,20 @@ public:
     /// Does nothing.
     void SetSelectedColor(DWORD colour);
 
-    /// The colour under the mouse, -1 in the sample strip; it may lie outside the palette. Shows it where asked to.
+    /// The colour under the mouse, -1 in the sample strip; it may lie outside the palette. Also paints the hover
+    /// sample where that is on.
     int ComputeSelectedColor();
     /// Paints the grid, without the sample strip's colour.
     void PaintPanel(int unused);
     /// Shows a colour in the sample strip and gives it to the selected item.
     void SetSelectedColorPanel(int colour);
 
-    /// Three switches, off in a new window and for a created selector: sliders for red, green and blue; cells with a
-    /// 3-D edge; the colour under the mouse at the left of the sample strip. Sliders without items cut off the panel's
-    /// right columns, because its cells are laid out for the whole width.
+    /// Sliders for red, green and blue, off in a new window; for a created selector, as are the two below. Without
+    /// items they cut off the panel's right columns, because its cells are laid out for the whole width.
     void ShowSliders(int on);
+    /// Cells with a 3-D edge, off in a new window.
     void Set3DCells(int on);
+    /// The colour under the mouse at the left of the sample strip, off in a new window.
     void SetHoverSample(int on);
 
 protected:

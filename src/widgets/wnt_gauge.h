@@ -40,7 +40,8 @@ public:
     void SetCurVal(int value);
     /// Taken as given: minimum may exceed maximum, the current value may lie outside.
     void SetRange(long minimum, long maximum);
-    /// 0 percent bar, 1 thermometer, 2 analogue, 3 digital, 4 peak line, 5 knob; shown with the next repaint.
+    /// 0 percent bar, 1 thermometer, 2 analogue, 3 digital, 4 peak line, 5 knob; others draw nothing. Shown with the
+    /// next repaint.
     void SetType(int type);
     /// At most 49 characters each; null empties.
     void SetTitles(const char* title, const char* unit_title);
@@ -53,7 +54,7 @@ public:
     /// Adds a mark and the colour (by name) of its zone; an eleventh is ignored. Add them in ascending order.
     void AddMark(int value, const char* colour);
 
-    /// Draws what the repaint mask asks for.
+    /// Draws at once what was changed since the last painting; nothing while the window is hidden.
     void Repaint();
 
     /// The first occurrence of a word in a text, or null.
@@ -84,7 +85,6 @@ private:
     CWntTrace trace_;
     CScrollBar scroll_bar_;
     CButton switch_button_;
-    bool painted_ = true;
     std::unique_ptr<wnt::GaugeModel> model_;
     std::unique_ptr<wnt::GaugePainter> painter_;
 };

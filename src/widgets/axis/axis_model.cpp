@@ -7,19 +7,19 @@ namespace wnt {
 
 namespace {
 
-// The axis as a line: where its values start, the signed way to the far end, and the direction of growing values.
+// The axis as a line: where its values start, the signed length to the far end, and the direction of growing values.
 struct Line {
     std::int64_t origin;
-    std::int64_t way;
+    std::int64_t length;
     int forward;
 
     std::int32_t before() const { return saturated_int(origin - forward); }
-    std::int32_t beyond() const { return saturated_int(origin + way + forward); }
+    std::int32_t beyond() const { return saturated_int(origin + length + forward); }
 
     // The pixel at an offset from the origin, kept on the axis.
     std::int32_t at(std::int64_t offset) const {
-        const std::int64_t low = std::min<std::int64_t>(way, 0);
-        const std::int64_t high = std::max<std::int64_t>(way, 0);
+        const std::int64_t low = std::min<std::int64_t>(length, 0);
+        const std::int64_t high = std::max<std::int64_t>(length, 0);
         return saturated_int(origin + std::clamp(offset, low, high));
     }
 };
@@ -119,10 +119,10 @@ int AxisModel::calc_float_coord(std::int32_t pixel, float* value) const {
     if (!value || !on_axis(*this, pixel) || minimum == maximum)
         return 0;
     const Line line = line_of(*this);
-    const auto way = static_cast<float>(line.way);
+    const auto length = static_cast<float>(line.length);
     const auto offset = static_cast<float>(pixel - line.origin);
     // Through percent, which rounds a little differently from a direct proportion: intended.
-    const float above = line.way == 0 ? 0.0f : 100.0f / way * offset * ((maximum - minimum) / 100.0f);
+    const float above = line.length == 0 ? 0.0f : 100.0f / length * offset * ((maximum - minimum) / 100.0f);
     *value = finite(above + minimum);
     return 1;
 }
@@ -143,7 +143,7 @@ int AxisModel::screen_to_value(std::int32_t pixel, float* value) const {
         return 0;
     const Line line = line_of(*this);
     const auto offset = static_cast<float>(pixel - line.origin);
-    const float above = line.way == 0 ? 0.0f : (maximum - minimum) * offset / static_cast<float>(line.way);
+    const float above = line.length == 0 ? 0.0f : (maximum - minimum) * offset / static_cast<float>(line.length);
     *value = finite(above + minimum);
     return on_axis(*this, pixel);
 }
@@ -152,7 +152,7 @@ int AxisModel::screen_to_value(std::int32_t pixel, std::int64_t* time) const {
     if (!time)
         return 0;
     const Line line = line_of(*this);
-    *time = saturated_sum(proportion(pixel - line.origin, span, line.way), start_value);
+    *time = saturated_sum(proportion(pixel - line.origin, span, line.length), start_value);
     return on_axis(*this, pixel);
 }
 
@@ -168,8 +168,8 @@ int AxisModel::value_to_screen(float value, std::int32_t* pixel) const {
         *pixel = line.before();
         return -1;
     }
-    // The half is added to the negative way of a vertical axis as well: its maximum ends one pixel short.
-    const float offset = (value - minimum) * static_cast<float>(line.way) / (maximum - minimum) + 0.5f;
+    // The half is added to the negative length of a vertical axis as well: its maximum ends one pixel short.
+    const float offset = (value - minimum) * static_cast<float>(line.length) / (maximum - minimum) + 0.5f;
     *pixel = line.at(minimum == maximum ? 0 : truncated(offset));
     return 0;
 }
@@ -193,7 +193,7 @@ int AxisModel::value_to_screen(std::int64_t time, std::int32_t* pixel) {
 
 std::int32_t AxisModel::pixel_of(std::int64_t time) const {
     const Line line = line_of(*this);
-    return line.at(proportion(line.way, saturated_difference(time, start_value), span));
+    return line.at(proportion(line.length, saturated_difference(time, start_value), span));
 }
 
 std::int32_t AxisModel::set_current_time(std::int64_t time) {

@@ -75,9 +75,9 @@ TimeGrid::TimeGrid(const TAxisdatetime& start_record, std::int64_t start, std::i
 std::optional<std::int64_t> TimeGrid::first() const {
     if (origin_ >= start_)
         return inside(origin_, 0);
-    // A record whose year counts from 1900 puts the origin centuries before the view: the way is computed.
-    const std::uint64_t way = static_cast<std::uint64_t>(start_) - static_cast<std::uint64_t>(origin_);
-    const std::uint64_t beyond = way % stride_;
+    // A record whose year counts from 1900 puts the origin centuries before the view: the distance is computed.
+    const std::uint64_t distance = static_cast<std::uint64_t>(start_) - static_cast<std::uint64_t>(origin_);
+    const std::uint64_t beyond = distance % stride_;
     return inside(start_, beyond == 0 ? 0 : stride_ - beyond);
 }
 

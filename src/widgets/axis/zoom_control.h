@@ -6,8 +6,8 @@ namespace wnt {
 
 enum class ZoomGrip { none, move, enlarge };
 
-/// The control along an axis whose slider is moved and enlarged with the mouse. A host reads nothing of it: it is a
-/// picture of a view that the host derives from the axis.
+/// The control along an axis whose slider is moved and enlarged with the mouse. It moves on its own: the axis'
+/// range stays.
 struct ZoomControl {
     bool shown = false;
     bool enlarging = false; ///< The next drag enlarges; otherwise it moves.

@@ -71,16 +71,16 @@ void paint_round_bar(Picture& picture, const BoxF& bar, Colour colour) {
     for (int i = 0; i < tones; ++i) {
         const auto k = static_cast<float>(i);
         picture.box({bar.left, bar.top - tone * (k + 1), bar.right, bar.top - tone * k},
-                    blend(colour, 0xFFFFFF, 24 * (tones - i)));
+                    blend(colour, white, 24 * (tones - i)));
         picture.box({bar.left, bar.bottom + tone * k, bar.right, bar.bottom + tone * (k + 1)},
-                    blend(colour, 0x000000, 20 * (tones - i)));
+                    blend(colour, black, 20 * (tones - i)));
     }
 }
 
 // One text over the filled and the empty part, readable on both.
 void write_over(Picture& picture, const Stage& stage, const BoxF& filled, const BoxF& empty, PointF at, HAlign align,
                 const FittedText& text, Colour fill, Colour ink) {
-    const Colour on_fill = brightness(fill) < 140 ? 0xFFFFFF : 0x000000;
+    const Colour on_fill = brightness(fill) < 140 ? white : black;
     if (!filled.empty())
         write(picture, stage.meter, at, align, text.tenths, on_fill, text.text, &filled);
     if (!empty.empty())
@@ -128,8 +128,8 @@ void bar_value(Picture& picture, const GaugeModel& model, const Stage& stage) {
         fit_number(stage.meter, percent_text(model), b.bar_size, b.groove.width() * (titled ? 0.35f : 0.9f));
     const PointF middle = b.groove.centre();
     if (titled) {
-        const FittedText title =
-            fit(stage.meter, model.title_text(), b.bar_size, b.groove.width() * 0.6f - 4, stage.meter.tenths(6));
+        const FittedText title = fit(stage.meter, model.title_text(), b.bar_size, b.groove.width() * 0.6f - 4,
+                                     stage.meter.tenths(least_text));
         write_over(picture, stage, filled, empty, {b.groove.left + 4, middle.y}, HAlign::left, title, colour,
                    theme.text);
         write_over(picture, stage, filled, empty, {b.groove.right - 4, middle.y}, HAlign::right, percent, colour,

@@ -76,10 +76,10 @@ void paint_turned(Picture& picture, const PointF (&shape)[n], PointF origin, flo
 // The light comes from the top left: the side of the needle that faces it is the bright one.
 void paint_needle(Picture& picture, const Dial& d, float angle, Colour colour) {
     const float length = d.radius * 0.76f;
-    const bool left_lit = std::cos(angle + 1.571f - 2.356f) >= 0;
-    const Colour bright = blend(colour, 0xFFFFFF, 70);
-    const Colour dim = blend(colour, 0x000000, 50);
-    paint_turned(picture, needle_outline, d.scale.centre, length, angle, blend(colour, 0x000000, 150));
+    const bool left_lit = std::cos(angle + pi / 2 - light_angle) >= 0;
+    const Colour bright = blend(colour, white, 70);
+    const Colour dim = blend(colour, black, 50);
+    paint_turned(picture, needle_outline, d.scale.centre, length, angle, blend(colour, black, 150));
     paint_turned(picture, needle_left, d.scale.centre, length, angle, left_lit ? bright : dim);
     paint_turned(picture, needle_right, d.scale.centre, length, angle, left_lit ? dim : bright);
 }
@@ -100,7 +100,7 @@ void paint_previous(Picture& picture, const GaugeModel& model, const Dial& d, Co
     }
     const float a = d.scale.angle(fraction_of(model, model.previous));
     const float half = 0.035f;
-    auto at = [&](float angle, float distance) {
+    const auto at = [&](float angle, float distance) {
         return PointF{d.scale.centre.x + std::cos(angle) * distance, d.scale.centre.y + std::sin(angle) * distance};
     };
     const PointF mark[3] = {at(a, d.radius * 0.80f), at(a + half, d.radius * 0.885f), at(a - half, d.radius * 0.885f)};
@@ -122,12 +122,13 @@ void dial_face(Picture& picture, const GaugeModel& model, const Stage& stage) {
     paint_round_zones(picture, model, d.scale, r * 0.80f, r * 0.885f);
     paint_round_ticks(picture, model, stage, d.scale, {r * 0.80f, r * 0.70f, r * 0.75f, r * 0.67f, true, d.label_size});
     if (d.unit_on_face) {
-        const FittedText unit = fit(stage.meter, model.unit_text(), d.writing_size, r * 0.62f, stage.meter.tenths(6));
+        const FittedText unit =
+            fit(stage.meter, model.unit_text(), d.writing_size, r * 0.62f, stage.meter.tenths(least_text));
         write(picture, stage.meter, {c.x, c.y - r * 0.36f}, HAlign::centre, unit.tenths, theme.text, unit.text);
     }
     if (d.title_width > 0) {
         const FittedText title =
-            fit(stage.meter, model.title_text(), d.writing_size, d.title_width, stage.meter.tenths(6));
+            fit(stage.meter, model.title_text(), d.writing_size, d.title_width, stage.meter.tenths(least_text));
         write(picture, stage.meter, {c.x, c.y + r * 0.30f}, HAlign::centre, title.tenths, theme.text, title.text);
     } else {
         paint_title(picture, model, stage, d.layout);
@@ -140,8 +141,7 @@ void dial_value(Picture& picture, const GaugeModel& model, const Stage& stage) {
     paint_previous(picture, model, d, 0x606060);
     paint_needle(picture, d, d.scale.angle(fraction_of(model, model.current)), colour);
     paint_hub(picture, d.scale.centre, std::max(d.radius * 0.10f, 1.5f));
-    if (d.readout.height() >= 7)
-        paint_readout(picture, model, stage, d.readout, !d.unit_on_face);
+    paint_readout(picture, model, stage, d.readout, !d.unit_on_face);
 }
 
 } // namespace wnt

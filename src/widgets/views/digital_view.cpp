@@ -16,8 +16,8 @@ struct Display {
     BoxF bar;     ///< empty when there is no room
     float pitch;  ///< from digit to digit
     int places;
-    int label_size;
-    int unit_size; ///< 0: no unit
+    int label_size; ///< 0: none
+    int unit_size;  ///< 0: no unit
 };
 
 int places_for(const GaugeModel& model) {
@@ -34,8 +34,10 @@ Display lay_out_display(const GaugeModel& model, const Stage& stage) {
     BoxF space = d.panel.inset(std::clamp(std::min(body.width(), body.height()) * 0.07f, 1.0f, 14.0f));
     if (space.height() >= 36 && space.width() >= 50) {
         const float bar = std::clamp(std::round(space.height() * 0.09f), 4.0f, 14.0f);
-        d.label_size = stage.meter.tenths(std::clamp(space.height() * 0.10f, 7.0f, 26.0f));
-        const float labels = std::ceil(stage.meter.metrics(d.label_size).cap_height) + 3;
+        d.label_size =
+            label_size_for(model, stage.meter, stage.meter.tenths(std::clamp(space.height() * 0.10f, 7.0f, 26.0f)),
+                           space.width() / 2 - 3);
+        const float labels = d.label_size ? std::ceil(stage.meter.metrics(d.label_size).cap_height) + 3 : 0;
         d.bar = {std::round(space.left), std::round(space.bottom + labels), std::round(space.right),
                  std::round(space.bottom + labels + bar)};
         space.bottom = d.bar.top + std::max(space.height() * 0.06f, 3.0f);
@@ -131,7 +133,7 @@ void digital_value(Picture& picture, const GaugeModel& model, const Stage& stage
     const Colour on = zone_colour(model, model.current);
     const Colour ground = ground_for(on);
     const Colour off = blend(ground, on, 26);
-    const Colour ink = blend(ground, brightness(ground) < 128 ? 0xFFFFFF : 0x000000, 170);
+    const Colour ink = blend(ground, brightness(ground) < 128 ? white : black, 170);
     picture.box(d.panel.inset(1), ground);
 
     const std::string text = number_text(model.current);
@@ -143,7 +145,7 @@ void digital_value(Picture& picture, const GaugeModel& model, const Stage& stage
     }
     if (d.unit_size) {
         const FittedText unit = fit(stage.meter, model.unit_text(), d.unit_size, d.panel.right - d.figures.right - 3,
-                                    stage.meter.tenths(6));
+                                    stage.meter.tenths(least_text));
         write(picture, stage.meter,
               {d.figures.right + 2, d.figures.bottom + stage.meter.metrics(unit.tenths).cap_height / 2}, HAlign::left,
               unit.tenths, ink, unit.text);
@@ -151,12 +153,11 @@ void digital_value(Picture& picture, const GaugeModel& model, const Stage& stage
     if (d.bar.empty())
         return;
     paint_lamps(picture, model, d, ground);
+    if (!d.label_size)
+        return;
     const float y = d.bar.bottom - 3 - stage.meter.metrics(d.label_size).cap_height / 2;
-    const float half = d.bar.width() / 2 - 3;
-    const FittedText low = fit_number(stage.meter, number_text(model.minimum), d.label_size, half);
-    const FittedText high = fit_number(stage.meter, number_text(model.maximum), d.label_size, half);
-    write(picture, stage.meter, {d.bar.left, y}, HAlign::left, low.tenths, ink, low.text);
-    write(picture, stage.meter, {d.bar.right, y}, HAlign::right, high.tenths, ink, high.text);
+    write(picture, stage.meter, {d.bar.left, y}, HAlign::left, d.label_size, ink, number_text(model.minimum));
+    write(picture, stage.meter, {d.bar.right, y}, HAlign::right, d.label_size, ink, number_text(model.maximum));
 }
 
 } // namespace wnt

@@ -57,7 +57,7 @@ void paint_cap_shadow(Picture& picture, const Knob& k, const Theme& theme) {
     for (int i = 3; i >= 1; --i) {
         const float d = k.cap * 0.035f * static_cast<float>(i);
         picture.disc({k.scale.centre.x + d, k.scale.centre.y - d}, k.cap * 1.01f,
-                     blend(theme.back, 0x000000, 28 * (4 - i)));
+                     blend(theme.back, black, 28 * (4 - i)));
     }
 }
 
@@ -67,10 +67,10 @@ void paint_cap(Picture& picture, const Knob& k) {
     const Colour light = 0xF2F2F2;
     const Colour dark = 0x6C6C6C;
     paint_bezel(picture, c, k.cap * 0.80f, k.cap, dark, light);
-    const float ridge = 3.14159265f / static_cast<float>(ridges);
+    const float ridge = pi / static_cast<float>(ridges);
     for (int i = 0; i < ridges && k.cap > 12; ++i) {
         const float a = 2 * ridge * static_cast<float>(i);
-        const int glow = static_cast<int>(128 + 100 * std::cos(a - 2.356f));
+        const int glow = static_cast<int>(128 + 100 * std::cos(a - light_angle));
         picture.ring_sector(c, k.cap * 0.86f, k.cap * 0.99f, a, a + ridge, blend(0x505050, 0xD8D8D8, glow));
     }
     paint_bezel(picture, c, k.cap * 0.78f, k.cap * 0.83f, light, dark);
@@ -106,8 +106,7 @@ void knob_value(Picture& picture, const GaugeModel& model, const Stage& stage) {
     const float width = std::max(k.cap * 0.11f, 1.5f);
     picture.stroke(at(k.cap * 0.34f), at(k.cap * 0.78f), width + std::max(width * 0.45f, 1.0f), 0x404040);
     picture.stroke(at(k.cap * 0.36f), at(k.cap * 0.76f), width, colour);
-    if (k.readout.height() >= 7)
-        paint_readout(picture, model, stage, k.readout);
+    paint_readout(picture, model, stage, k.readout);
 }
 
 } // namespace wnt

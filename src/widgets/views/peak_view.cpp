@@ -34,8 +34,12 @@ Plot lay_out_plot(const GaugeModel& model, const Stage& stage) {
     }
     float labels = 0;
     if (body.height() >= 40 && body.width() >= 60) {
-        p.label_size = stage.meter.tenths(std::clamp(body.height() * 0.075f, 7.0f, 26.0f));
-        labels = std::min(widest_label(model, stage.meter, p.label_size) + 8, body.width() * 0.35f);
+        p.label_size =
+            label_size_for(model, stage.meter, stage.meter.tenths(std::clamp(body.height() * 0.075f, 7.0f, 26.0f)),
+                           body.width() * 0.35f - 8);
+    }
+    if (p.label_size) {
+        labels = widest_label(model, stage.meter, p.label_size) + 8;
         const float cap = std::ceil(stage.meter.metrics(p.label_size).cap_height / 2);
         body.bottom += cap;
         body.top -= cap;
@@ -106,9 +110,7 @@ void peak_face(Picture& picture, const GaugeModel& model, const Stage& stage) {
         picture.box({end - (t.major ? 4.0f : 2.0f), y, end, y + 1}, theme.text);
         if (!t.major)
             continue;
-        const FittedText label =
-            fit_number(stage.meter, number_text(t.value), p.label_size, end - 6 - p.layout.body.left);
-        write(picture, stage.meter, {end - 6, y + 0.5f}, HAlign::right, label.tenths, theme.text, label.text);
+        write(picture, stage.meter, {end - 6, y + 0.5f}, HAlign::right, p.label_size, theme.text, number_text(t.value));
     }
 }
 

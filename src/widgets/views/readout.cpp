@@ -39,9 +39,10 @@ void paint_readout(Picture& picture, const GaugeModel& model, const Stage& stage
         unit.append(1, ' ').append(model.unit_text());
     if (stage.meter.width(widest, size) + stage.meter.width(unit, unit_size) > room)
         unit.clear();
-    const int fitted = fit_number(stage.meter, widest, size, room).tenths;
-    if (fitted < stage.meter.tenths(least_text))
+    const FittedText number = fit_number(stage.meter, widest, size, room);
+    if (number.text.empty())
         return;
+    const int fitted = number.tenths;
     paint_sunken_edge(picture, plate, theme_of(model));
     picture.box(inner, ground);
     const float slot = stage.meter.width(widest, fitted);

@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 #include "widgets/views/view_parts.h"
 
@@ -8,7 +7,6 @@ namespace wnt {
 
 namespace {
 
-constexpr float pi = std::numbers::pi_v<float>;
 constexpr float first_angle = 1.25f * pi; // lower left
 constexpr float sweep = 1.5f * pi;
 
@@ -65,7 +63,7 @@ void paint_bezel(Picture& picture, PointF centre, float inner, float outer, Colo
     const float part = 2 * pi / static_cast<float>(parts);
     for (int i = 0; i < parts; ++i) {
         const float middle = part * (static_cast<float>(i) + 0.5f);
-        const int glow = static_cast<int>(128 + 127 * std::cos(middle - 0.75f * pi));
+        const int glow = static_cast<int>(128 + 127 * std::cos(middle - light_angle));
         const float from = part * static_cast<float>(i);
         picture.ring_sector(centre, inner, outer, from, from + part * 1.02f, blend(dark, light, glow));
     }

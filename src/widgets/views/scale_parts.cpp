@@ -89,10 +89,10 @@ float widest_label(const GaugeModel& model, TextMeter& meter, int tenths) {
 }
 
 int label_size_for(const GaugeModel& model, TextMeter& meter, int tenths, float width) {
+    const auto measure = [&](int size) { return widest_label(model, meter, size); };
     const int least = meter.tenths(least_text);
-    while (tenths >= least && widest_label(model, meter, tenths) > width)
-        tenths -= 5;
-    return tenths >= least ? tenths : 0;
+    const int size = size_within(width, tenths, least, measure);
+    return size >= least && measure(size) <= width ? size : 0;
 }
 
 } // namespace wnt

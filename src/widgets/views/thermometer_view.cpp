@@ -16,11 +16,21 @@ struct Thermometer {
     float bulb_radius;
     BoxF zones;
     BoxF readout;
-    int label_size;
+    float ticks;     ///< length of the major ones
+    float ticks_end; ///< their right ends
+    float labels_end;
+    int label_size; ///< 0: none
 };
 
+// Places the ticks beside a tube around x, and the labels beside those.
+void place_scale(Thermometer& t, float x, float half) {
+    t.ticks = std::clamp(t.layout.body.width() * 0.06f, 2.0f, 12.0f);
+    t.ticks_end = std::round(x - half - half * 0.5f - 2);
+    t.labels_end = t.ticks_end - std::round(t.ticks) - 3;
+}
+
 Thermometer lay_out_thermometer(const GaugeModel& model, const Stage& stage) {
-    Thermometer t = {lay_out(model, stage), {}, {}, 0, {}, {}, 0};
+    Thermometer t = {lay_out(model, stage), {}, {}, 0, {}, {}, 0, 0, 0, 0};
     BoxF body = t.layout.body;
     if (body.height() < 60) {
         t.readout = take_side_readout(body, std::min(body.width() * 0.55f, body.height()));
@@ -31,12 +41,18 @@ Thermometer lay_out_thermometer(const GaugeModel& model, const Stage& stage) {
         t.readout = {x, std::round(body.bottom), std::round(x + wide), std::round(body.bottom + tall)};
         body.bottom = t.readout.top + 3;
     }
-    if (body.height() >= 50 && body.width() >= 56)
-        t.label_size =
-            stage.meter.tenths(std::clamp(std::min(body.height() * 0.06f, body.width() * 0.11f), 7.0f, 30.0f));
     t.bulb_radius = std::clamp(std::min(body.width() * 0.16f, body.height() * 0.095f), 2.0f, 90.0f);
     const float half = std::max(t.bulb_radius * 0.46f, 1.0f);
-    const float x = std::round(body.centre().x + (t.label_size ? body.width() * 0.04f : 0));
+    float x = std::round(body.centre().x + body.width() * 0.04f);
+    place_scale(t, x, half);
+    if (body.height() >= 50 && body.width() >= 56) {
+        const float size = std::clamp(std::min(body.height() * 0.06f, body.width() * 0.11f), 7.0f, 30.0f);
+        t.label_size = label_size_for(model, stage.meter, stage.meter.tenths(size), t.labels_end - body.left);
+    }
+    if (!t.label_size) {
+        x = std::round(body.centre().x);
+        place_scale(t, x, half);
+    }
     t.bulb = {x, body.bottom + t.bulb_radius + 1};
     const float cap = t.label_size ? stage.meter.metrics(t.label_size).cap_height / 2 : 0;
     t.tube = {x - half, std::round(t.bulb.y + t.bulb_radius * 1.35f), x + half,
@@ -69,18 +85,14 @@ void thermometer_face(Picture& picture, const GaugeModel& model, const Stage& st
 
     const float font_height = t.label_size ? stage.meter.metrics(t.label_size).cap_height : 0;
     const float gap = t.label_size ? font_height * 1.9f : 12.0f;
-    const float tick = std::clamp(t.layout.body.width() * 0.06f, 2.0f, 12.0f);
-    const float right = std::round(t.tube.left - t.tube.width() * 0.25f - 2);
     const float weight = std::clamp(std::round(t.layout.body.height() / 250), 1.0f, 2.0f);
     for (const Tick& k : ticks_of(model, t.tube.height(), 3, gap)) {
         const float y = std::round(t.tube.bottom + t.tube.height() * k.fraction - weight / 2);
-        const float length = std::round(k.major ? tick : tick * 0.6f);
-        picture.box({right - length, y, right, y + weight}, theme.text);
-        if (!k.major || !t.label_size)
-            continue;
-        const float end = right - std::round(tick) - 3;
-        const FittedText label = fit_number(stage.meter, number_text(k.value), t.label_size, end - t.layout.body.left);
-        write(picture, stage.meter, {end, y + weight / 2}, HAlign::right, label.tenths, theme.text, label.text);
+        const float length = std::round(k.major ? t.ticks : t.ticks * 0.6f);
+        picture.box({t.ticks_end - length, y, t.ticks_end, y + weight}, theme.text);
+        if (k.major && t.label_size)
+            write(picture, stage.meter, {t.labels_end, y + weight / 2}, HAlign::right, t.label_size, theme.text,
+                  number_text(k.value));
     }
 }
 
@@ -94,9 +106,9 @@ void thermometer_value(Picture& picture, const GaugeModel& model, const Stage& s
     picture.disc(t.bulb, t.bulb_radius - inset, colour);
     picture.box({x - half, t.bulb.y, x + half, level}, colour);
     picture.box({x - half * 0.6f, t.bulb.y + t.bulb_radius * 0.9f, x - half * 0.15f, level - 1},
-                blend(colour, 0xFFFFFF, 130));
+                blend(colour, white, 130));
     picture.disc({t.bulb.x - t.bulb_radius * 0.32f, t.bulb.y + t.bulb_radius * 0.32f}, t.bulb_radius * 0.22f,
-                 blend(colour, 0xFFFFFF, 160));
+                 blend(colour, white, 160));
     paint_readout(picture, model, stage, t.readout);
 }
 

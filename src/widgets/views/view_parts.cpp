@@ -10,8 +10,7 @@ namespace wnt {
 
 namespace {
 
-constexpr Colour white = 0xFFFFFF;
-constexpr Colour black = 0x000000;
+constexpr std::uint32_t colour_bits = 0xFFFFFF; // of a stored colour value
 
 bool is_dark(Colour colour) {
     return brightness(colour) < 128;
@@ -30,17 +29,17 @@ void paint_border(Picture& picture, const BoxF& outer, float height, int sides, 
 }
 
 bool has_border(const GaugeModel& model) {
-    return model.border_type >= 1 && model.border_type <= 3 && model.border_height > 0;
+    return model.border_type >= border_flat && model.border_type <= border_sunk && model.border_height > 0;
 }
 
 } // namespace
 
 Theme theme_of(const GaugeModel& model) {
     Theme t;
-    t.back = static_cast<Colour>(model.background) & white;
+    t.back = static_cast<Colour>(model.background) & colour_bits;
     t.text = indexed_colour(model.text_colour);
-    t.sun = static_cast<Colour>(model.sun) & white;
-    t.shadow = static_cast<Colour>(model.shadow) & white;
+    t.sun = static_cast<Colour>(model.sun) & colour_bits;
+    t.shadow = static_cast<Colour>(model.shadow) & colour_bits;
     t.plate = is_dark(t.text) ? blend(t.back, white, 225) : blend(t.back, black, 190);
     t.groove = blend(t.plate, is_dark(t.text) ? black : white, 30);
     return t;
@@ -65,12 +64,7 @@ FittedText fit(TextMeter& meter, std::string_view text, int tenths, float width,
         fitted.text.clear();
         return fitted;
     }
-    const float wanted = meter.width(text, tenths);
-    if (wanted > width) { // text grows with its size; rounding of glyphs is caught by the loop below
-        fitted.tenths = std::max(least, static_cast<int>(static_cast<float>(tenths) * width / wanted));
-        while (fitted.tenths > least && meter.width(text, fitted.tenths) > width)
-            fitted.tenths = std::max(least, fitted.tenths - 5);
-    }
+    fitted.tenths = size_within(width, tenths, least, [&](int size) { return meter.width(text, size); });
     std::size_t kept = text.size();
     while (kept > 0 && meter.width(fitted.text, fitted.tenths) > width)
         fitted.text.assign(text.substr(0, --kept)).append("..");
@@ -80,10 +74,10 @@ FittedText fit(TextMeter& meter, std::string_view text, int tenths, float width,
 }
 
 FittedText fit_number(TextMeter& meter, std::string_view number, int tenths, float width) {
+    const auto measure = [&](int size) { return meter.width(number, size); };
     const int least = meter.tenths(least_text);
-    while (tenths >= least && meter.width(number, tenths) > width)
-        tenths -= 5;
-    return {tenths >= least ? std::string(number) : std::string(), tenths};
+    const int fitted = size_within(width, tenths, least, measure);
+    return {fitted >= least && measure(fitted) <= width ? std::string(number) : std::string(), fitted};
 }
 
 void write(Picture& picture, TextMeter& meter, PointF at, HAlign align, int tenths, Colour colour,
@@ -108,8 +102,8 @@ void paint_ground(Picture& picture, const GaugeModel& model, const Stage& stage)
     if (!has_border(model))
         return;
     const auto height = static_cast<float>(model.border_height);
-    const bool flat = model.border_type == 1;
-    const bool raised = model.border_type == 2;
+    const bool flat = model.border_type == border_flat;
+    const bool raised = model.border_type == border_raised;
     paint_border(picture, whole, height, model.border_sides, raised ? theme.sun : theme.shadow,
                  raised || flat ? theme.shadow : theme.sun);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <numbers>
 #include <string>
 #include <vector>
 
@@ -9,6 +11,12 @@
 namespace wnt {
 
 // Parts that the views share. Sizes are pixels; text sizes are tenths of a point.
+
+inline constexpr Colour white = 0xFFFFFF;
+inline constexpr Colour black = 0x000000;
+
+inline constexpr float pi = std::numbers::pi_v<float>;
+inline constexpr float light_angle = 0.75f * pi; ///< the light comes from the top left
 
 inline constexpr float least_text = 6; ///< pixels: below, digits cannot be told apart
 
@@ -30,6 +38,20 @@ Colour zone_colour(const GaugeModel& model, std::int32_t value);
 /// A dark or a light ground, whichever this colour can be read on.
 Colour ground_for(Colour colour);
 
+/// The largest size, from `tenths` down to `least`, whose measure is within a width; `least` where none is. Text grows
+/// with its size, so only the rounding of glyphs is left to be tried out, and few fonts are made.
+template <class Measure> int size_within(float width, int tenths, int least, Measure measure) {
+    const float wanted = measure(tenths);
+    if (wanted <= width || tenths <= least)
+        return tenths;
+    constexpr int step = 5;
+    const float share = std::max(width, 0.0f) / wanted;
+    int size = std::min(tenths, static_cast<int>(static_cast<float>(tenths) * share) + 2 * step);
+    while (size > least && measure(size) > width)
+        size -= step;
+    return std::max(size, least);
+}
+
 struct FittedText {
     std::string text;
     int tenths;
@@ -44,8 +66,9 @@ FittedText fit_number(TextMeter& meter, std::string_view number, int tenths, flo
 void write(Picture& picture, TextMeter& meter, PointF at, HAlign align, int tenths, Colour colour,
            std::string_view text, const BoxF* clip = nullptr);
 
-/// Background and border; what they leave is the stage of the view.
+/// Background and border.
 void paint_ground(Picture& picture, const GaugeModel& model, const Stage& stage);
+/// What they leave to the view.
 BoxF inside_border(const GaugeModel& model, const Stage& stage);
 
 bool has_title(const GaugeModel& model);

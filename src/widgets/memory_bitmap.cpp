@@ -1,8 +1,8 @@
-#include "widgets/memory_picture.h"
+#include "widgets/memory_bitmap.h"
 
 namespace wnt {
 
-MemoryPicture::~MemoryPicture() {
+MemoryBitmap::~MemoryBitmap() {
     if (bitmap_) {
         ::SelectObject(dc_, previous_);
         ::DeleteObject(bitmap_);
@@ -11,7 +11,7 @@ MemoryPicture::~MemoryPicture() {
         ::DeleteDC(dc_);
 }
 
-bool MemoryPicture::create(HDC like, int width, int height) {
+bool MemoryBitmap::create(HDC like, int width, int height) {
     if (width < 1 || height < 1)
         return false;
     dc_ = ::CreateCompatibleDC(like);

@@ -6,14 +6,14 @@ namespace wnt {
 
 /// A bitmap like a device context's, selected into a memory context of its own. Without room for it, or memory, there
 /// is none.
-class MemoryPicture {
+class MemoryBitmap {
 public:
-    MemoryPicture() = default;
-    ~MemoryPicture();
-    MemoryPicture(const MemoryPicture&) = delete;
-    MemoryPicture& operator=(const MemoryPicture&) = delete;
+    MemoryBitmap() = default;
+    ~MemoryBitmap();
+    MemoryBitmap(const MemoryBitmap&) = delete;
+    MemoryBitmap& operator=(const MemoryBitmap&) = delete;
 
-    /// Once in a picture's life; false where there is none.
+    /// Once in an object's life; false where there is none.
     bool create(HDC like, int width, int height);
     explicit operator bool() const { return bitmap_ != nullptr; }
     HDC dc() const { return dc_; }
