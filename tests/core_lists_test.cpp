@@ -5,10 +5,8 @@
 
 #include <climits>
 #include <cstring>
+#include <numeric>
 #include <random>
-#include <string>
-#include <utility>
-#include <vector>
 
 namespace {
 
@@ -22,29 +20,10 @@ struct Dice {
     int operator()(int lowest, int highest) { return std::uniform_int_distribution(lowest, highest)(random); }
 };
 
-struct Record {
-    std::string tag, data; // the tag four bytes long
-};
-
-// The packed bytes of the first records.
-std::string packed(const std::vector<Record>& records, std::size_t count) {
-    std::string all;
-    for (std::size_t i = 0; i < count; ++i) {
-        const auto length = static_cast<std::uint32_t>(records[i].data.size());
-        all += records[i].tag + std::string(reinterpret_cast<const char*>(&length), 4) + records[i].data;
-    }
-    return all;
-}
-
-// Index of the record that a search finds, or of where it ends.
-std::pair<bool, std::size_t> search(const std::vector<Record>& records, std::size_t at, const std::string& tag) {
-    while (at < records.size() && ++at < records.size()) {
-        if (records[at].tag == tag)
-            return {true, at};
-        if (records[at].tag == std::string(4, '\0') || records[at].data.empty())
-            break;
-    }
-    return {false, at};
+// A record as the list packs it.
+std::string record(std::string tag, const std::string& data) {
+    const auto length = static_cast<std::uint32_t>(data.size());
+    return tag.append(reinterpret_cast<const char*>(&length), 4) + data;
 }
 
 // Many random operations on the list and on a vector of records; after each one every byte is compared.
@@ -52,8 +31,14 @@ void compare_objlist(unsigned seed) {
     constexpr int size = 256;
     Held<CWntObjlist> list;
     list.create(nullptr, size);
-    std::vector<Record> model;
+    std::vector<std::string> model;
+    const auto packed = [&](std::size_t count) {
+        return std::accumulate(model.begin(), model.begin() + static_cast<std::ptrdiff_t>(count), std::string());
+    };
     std::size_t cursor = 0;
+    const auto place = [&] { return model.begin() + static_cast<std::ptrdiff_t>(cursor); };
+    const auto tag_here = [&] { return cursor < model.size() ? model[cursor].substr(0, 4) : "none"; };
+    const auto data_here = [&] { return cursor < model.size() ? model[cursor].substr(8) : ""; };
     bool atstart = false;
     Dice dice{std::mt19937(seed)};
     for (int i = 0; i < 2000 && !testing::Test::HasFailure(); ++i) {
@@ -62,24 +47,23 @@ void compare_objlist(unsigned seed) {
         const std::string tag(text, 4);
         std::string data(dice(0, 30), static_cast<char>(dice(0, 255)));
         const int length = static_cast<int>(data.size());
-        const bool fits = size - packed(model, model.size()).size() > data.size() + 8;
-        const bool current = cursor < model.size();
+        const bool fits = size - packed(model.size()).size() > data.size() + 8;
         switch (dice(0, 6)) {
         case 0:
             EXPECT_EQ(list.additem(text, length, data.data()), fits && length > 0);
             if (fits && length > 0)
-                model.push_back({tag, data});
+                model.push_back(record(tag, data));
             break;
         case 1:
             EXPECT_EQ(list.insertitem(text, length, data.data()), fits ? 0 : -1);
             if (fits)
-                model.insert(model.begin() + static_cast<std::ptrdiff_t>(cursor++), {tag, data});
+                model.insert(place(), record(tag, data)), ++cursor;
             break;
         case 2: {
-            const bool taken = current && !model[cursor].data.empty();
+            const bool taken = !data_here().empty();
             EXPECT_EQ(list.deleteitem(), taken);
             if (taken)
-                model.erase(model.begin() + static_cast<std::ptrdiff_t>(cursor));
+                model.erase(place());
             break;
         }
         case 3: {
@@ -91,29 +75,31 @@ void compare_objlist(unsigned seed) {
         }
         case 4:
         case 5: {
-            const bool first = current && cursor == 0 && atstart && model[0].tag == tag;
-            atstart = atstart && !first;
-            const auto [found, at] = first ? std::pair(true, cursor) : search(model, cursor, tag);
-            cursor = at;
-            const void* place = list.buffer + packed(model, at).size() + 8;
-            EXPECT_EQ(list.nextitem(text), found ? place : nullptr);
+            bool found = cursor == 0 && atstart && tag_here() == tag;
+            atstart = atstart && !found;
+            for (bool ended = found || cursor == model.size(); !ended;) {
+                ++cursor;
+                found = tag_here() == tag;
+                ended = found || data_here().empty() || tag_here() == std::string(4, '\0');
+            }
+            EXPECT_EQ(list.nextitem(text), found ? list.buffer + packed(cursor).size() + 8 : nullptr);
             break;
         }
         default: {
-            const bool same = current && model[cursor].tag == tag;
+            const bool same = tag_here() == tag;
             EXPECT_EQ(list.updateitem(text, length, data.data()), same);
-            if (same && model[cursor].data.size() == data.size())
-                model[cursor].data = data;
-            std::string out(40, '\0'), expected = same ? model[cursor].data.substr(0, length) : "";
+            if (same && data_here().size() == data.size())
+                model[cursor] = record(tag, data);
+            std::string out(40, '\0'), expected = same ? data_here().substr(0, length) : "";
             expected.resize(out.size());
             EXPECT_TRUE(list.readitem(text, length, out.data()) == same && out == expected);
         }
         }
-        std::string all = packed(model, model.size());
+        std::string all = packed(model.size());
         ASSERT_EQ(list.end - list.buffer, static_cast<std::ptrdiff_t>(all.size()));
         all.resize(size); // what is free is zero
         ASSERT_EQ(std::string(reinterpret_cast<char*>(list.buffer), size), all);
-        ASSERT_EQ(list.cursor - list.buffer, static_cast<std::ptrdiff_t>(packed(model, cursor).size()));
+        ASSERT_EQ(list.cursor - list.buffer, static_cast<std::ptrdiff_t>(packed(cursor).size()));
         ASSERT_EQ(list.queryitemno(), static_cast<int>(model.size()));
     }
 }
