@@ -1,14 +1,6 @@
-#include "widgets/gauge_model.h"
 #include "widgets/gauge_scale.h"
 
 #include <gtest/gtest.h>
-
-#include <cstdlib>
-#include <initializer_list>
-#include <limits>
-#include <string_view>
-#include <utility>
-#include <vector>
 
 using namespace wnt;
 
@@ -25,19 +17,17 @@ GaugeModel model_of(std::initializer_list<std::string_view> lines) {
 }
 
 TEST(GaugeModel, EveryKeyMarksItsPartForRepaint) {
-    const std::pair<int, std::vector<std::string_view>> cases[] = {
-        {0, {":MSG=x", ":ID=x", ":UNITTITLE=x", ":SCALES=1000", ":BORDERSTYLE=TOP", ":CLRBORDER=RED", ":UPDATE"}},
-        {0, {":title=x", ":"}},
-        {1, {":TYPE=ANALOG", ":TITLE=x", ":MINVAL=1", ":MAXVAL=1", ":SCALES=999", ":NOTITLE=X", ":BARTITLE=X"}},
-        {1, {":BORDERTYPE=FLAT", ":BORDERHEIGHT=1", ":CLRTEXT=RED", ":CLRBACK=RED", ":CLRSUN=RED"}},
-        {1, {":CLRSHADOW=RED", ":DEMO=X"}},
-        {2, {":CURVAL=1", ":SETMARK=1,RED", ":CLEARMARKS"}}};
-    for (const auto& [mask, lines] : cases)
-        for (const auto& line : lines)
+    const std::vector<std::string_view> cases[] = {
+        {":MSG=x", ":ID=x", ":UNITTITLE=x", ":SCALES=1000", ":BORDERSTYLE=TOP", ":CLRBORDER=RED", ":UPDATE",
+         ":title=x"},
+        {":TYPE=ANALOG", ":TITLE=x", ":MINVAL=1", ":MAXVAL=1", ":SCALES=999", ":NOTITLE=X", ":BARTITLE=X", ":DEMO=X",
+         ":BORDERTYPE=FLAT", ":BORDERHEIGHT=1", ":CLRTEXT=RED", ":CLRBACK=RED", ":CLRSUN=RED", ":CLRSHADOW=RED"},
+        {":CURVAL=1", ":SETMARK=1,RED", ":CLEARMARKS"}};
+    for (int mask : {0, 1, 2})
+        for (const auto& line : cases[mask])
             EXPECT_EQ(model_of({line}).repaint_mask, mask) << line;
     EXPECT_EQ(model_of({":CURVAL=1", ":MINVAL=1", ":MAXVAL=9"}).repaint_mask, repaint_all); // bits, not a sum
     EXPECT_EQ(model_of({":TYPE=THERMOMETER", ":CLEARMARKS"}).repaint_mask, repaint_face);
-
     const GaugeModel model = model_of({":CLRTEXT=BLUE", ":CLRBACK=GRAY", ":CLRSUN=WHITE", ":CLRSHADOW=grau",
                                        ":NOTITLE=X", ":BORDERTYPE=3DDOWN", ":TYPE=ROUND"});
     EXPECT_TRUE(model.text_colour == 2 && model.background == 9 && model.sun == 1 && model.shadow == 255);
@@ -88,13 +78,12 @@ TEST(GaugeModel, ViewSwitchAndScrollBarStayInBounds) {
         EXPECT_EQ(model.type, to) << from;
     }
     model.set_range(-10, highest);
-    const struct {
-        int request, position, target;
-    } cases[] = {{scroll_line_left, 5, 4},    {scroll_page_left, -10, -10}, {scroll_page_right, highest, highest},
-                 {scroll_thumb_track, 5, 77}, {scroll_left_end, 5, 1},      {scroll_right_end, 5, highest},
-                 {scroll_right_end + 1, 5, 5}};
-    for (const auto& c : cases)
-        EXPECT_EQ(model.scroll_target(c.request, c.position, 77), c.target) << c.request;
+    const int cases[][3] = {
+        {scroll_line_left, 5, 4},    {scroll_page_left, -10, -10}, {scroll_page_right, highest, highest},
+        {scroll_thumb_track, 5, 77}, {scroll_left_end, 5, 1},      {scroll_right_end, 5, highest},
+        {scroll_right_end + 1, 5, 5}};
+    for (const auto& [request, position, target] : cases)
+        EXPECT_EQ(model.scroll_target(request, position, 77), target) << request;
 }
 
 TEST(GaugeScale, ConvertsInEveryRange) {
@@ -112,18 +101,14 @@ TEST(GaugeScale, ConvertsInEveryRange) {
 }
 
 TEST(GaugeScale, ThinsToRoundSteps) {
-    const struct {
-        int maximum, divisions, length, minor, major;
-    } cases[] = {
-        {100, 20, 400, 1, 2},     // ticks of 5 fit, labels of 10
-        {100, 100, 150, 5, 20},   // 1.5 pixels a division
-        {360, 12, 40, 2, 12},     // no round value: steps that end on the last division
-        {100, 997, 300, 20, 100}, // a prime number of divisions
-        {0, 10, 0, 10, 10},
-    };
-    for (const auto& c : cases) {
-        const TickSteps steps = tick_steps(0, c.maximum, c.divisions, c.length, 4, 30);
-        EXPECT_TRUE(steps.minor == c.minor && steps.major == c.major) << c.divisions << ": " << steps.minor;
+    const int cases[][5] = {{100, 20, 400, 1, 2},     // ticks of 5 fit, labels of 10
+                            {100, 100, 150, 5, 20},   // 1.5 pixels a division
+                            {360, 12, 40, 2, 12},     // no round value: steps that end on the last division
+                            {100, 997, 300, 20, 100}, // a prime number of divisions
+                            {0, 10, 0, 10, 10}};
+    for (const auto& [maximum, divisions, length, minor, major] : cases) {
+        const TickSteps steps = tick_steps(0, maximum, divisions, length, 4, 30);
+        EXPECT_TRUE(steps.minor == minor && steps.major == major) << divisions << ": " << steps.minor;
     }
 }
 
