@@ -175,13 +175,12 @@ TEST(AxisConversion, HoldsAtAnyValueAndSize) {
             for (float minimum : values)
                 for (float maximum : values) {
                     axis.set_range(minimum, maximum);
-                    for (float value : values)
+                    for (float value : values) {
                         pixel_of(axis, value), clamped_pixel(axis, value);
-                    for (int pixel : sizes) {
-                        float value = nan_value;
-                        axis.screen_to_value(pixel, &value);
-                        EXPECT_TRUE(std::isfinite(value));
-                        axis.scale_line_pos(pixel);
+                        float back = nan_value;
+                        axis.screen_to_value(truncated_int(value), &back);
+                        EXPECT_TRUE(std::isfinite(back));
+                        axis.scale_line_pos(truncated_int(value));
                     }
                 }
             for (std::int64_t start : times)
@@ -197,8 +196,7 @@ TEST(AxisConversion, HoldsAtAnyValueAndSize) {
         }
     AxisModel empty = axis_of(axis_bottom, 300, 5, 5);
     float value = 0;
-    EXPECT_EQ(pixel_of(empty, 5.0f), Pair(0, 0));
-    EXPECT_EQ(clamped_pixel(empty, 5), Pair(0, -12345));
+    EXPECT_TRUE(pixel_of(empty, 5.0f) == Pair(0, 0) && clamped_pixel(empty, 5) == Pair(0, -12345));
     EXPECT_EQ(empty.calc_float_coord(5, &value), 0);
     EXPECT_EQ(pixel_of(empty, std::int64_t{0}), Pair(0, 0)); // a view without a span
     empty.set_range(0, 100);

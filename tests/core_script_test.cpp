@@ -1,7 +1,7 @@
 #include "script/colours.h"
 #include "script/keywords.h"
+#include "script/script_file.h"
 #include "script/values.h"
-#include "script_lines.h"
 
 #include <gtest/gtest.h>
 
@@ -78,27 +78,6 @@ TEST(Values, TextFieldsKeepWhatIsNotOverwritten) {
         copy_title(title, std::string(length, 'a'));
         EXPECT_EQ(field_text(title).size(), std::min<std::size_t>(length, 49)) << length;
     }
-}
-
-TEST(ScriptFile, DeliversLinesWhateverTheBlocks) {
-    const std::string full(127, 'x');
-    const struct {
-        std::string text;
-        bool fails;
-        std::vector<std::string> lines;
-    } cases[] = {
-        {"", false, {"L", "E"}},
-        {"a\r\n\r\rb\rc", false, {"La", "Lbc", "L", "E"}},
-        {"a\n\nb\x1Az\nd\n", false, {"La", "L", "Lb", "L", "E"}},
-        {full + "\r\na\n", false, {"L" + full, "La", "L", "E"}},
-        {full + "x\na\n", false, {"L" + full, "E" + full}},
-        {full + "\n" + std::string(600, 'x'), false, {"L" + full, "L" + full, "E" + full}},
-        {"a\nb", true, {"La", "Lb"}},
-        {"a\x1A", true, {"La", "L", "E"}},
-    };
-    for (const auto& [text, fails, lines] : cases)
-        for (std::size_t piece : {1u, 128u, 512u})
-            EXPECT_EQ(lines_of(text, piece, fails), lines) << text << " in pieces of " << piece;
 }
 
 TEST(ScriptFile, TakesTheNameOutOfQuotes) {

@@ -81,64 +81,53 @@ TEST(Time, NamesTheDayTwoDaysLate) {
 }
 
 TEST(Time, RefusesWhatCannotBeConverted) {
+    constexpr std::int64_t day = 24 * hour_seconds, still_1969 = 5 * hour_seconds - 1;
     const struct {
         const char* zone;
-        std::int64_t seconds;
         std::int32_t code;
-    } moments[] = {
-        {"UTC0", 0, 0},
-        {"UTC0", -1, general_failure},
-        {"UTC0", last_second, 0},
-        {"UTC0", last_second + 1, general_failure},
-        {"UTC0", INT64_MIN, general_failure},
-        {"UTC0", INT64_MAX, general_failure},
-        {"EST5EDT", 5 * hour_seconds - 1, general_failure}, // still 1969
-        {"EST5EDT", 5 * hour_seconds, 0},
-        {"JST-9", 0, invalid_argument}, // the year began before the first moment
-        {"JST-9", 364 * 24 * hour_seconds, invalid_argument},
-        {"JST-9", 365 * 24 * hour_seconds, 0},
-    };
-    for (const auto& c : moments) {
-        set_zone(c.zone);
-        const CWntTime moment = at(c.seconds);
-        EXPECT_EQ(code_of([&] { moment.GetJulianDay(); }), c.code) << c.zone << ' ' << c.seconds;
-        EXPECT_EQ(code_of([&] { moment.GetCalendarWeek(0); }), c.code) << c.zone << ' ' << c.seconds;
-        EXPECT_EQ(code_of([&] { moment.GetFirstWeekend(); }), c.code) << c.zone << ' ' << c.seconds;
+        std::vector<std::int64_t> moments;
+    } cases[] = {{"UTC0", 0, {0, last_second}},
+                 {"UTC0", general_failure, {-1, last_second + 1, INT64_MIN, INT64_MAX}},
+                 {"EST5EDT", general_failure, {still_1969}},
+                 {"EST5EDT", 0, {still_1969 + 1}},
+                 {"JST-9", invalid_argument, {0, 364 * day}}, // the year began before the first moment
+                 {"JST-9", 0, {365 * day}}};
+    for (const auto& [zone, code, moments] : cases) {
+        set_zone(zone);
+        for (std::int64_t seconds : moments) {
+            const CWntTime moment = at(seconds);
+            EXPECT_EQ(code_of([&] { moment.GetJulianDay(); }), code) << zone << ' ' << seconds;
+            EXPECT_EQ(code_of([&] { moment.GetCalendarWeek(0); }), code) << zone << ' ' << seconds;
+            EXPECT_EQ(code_of([&] { moment.GetFirstWeekend(); }), code) << zone << ' ' << seconds;
+        }
     }
 }
 
 TEST(Time, ChecksItsValuesAndStaysAtZero) {
-    const struct {
+    using Values = std::array<int, 7>;
+    struct Case {
         const char* zone;
-        int values[7];
         std::int32_t code;
-    } cases[] = {
-        {"UTC0", {2024, 2, 30, 0, 0, 0, -1}, 0},
-        {"UTC0", {1970, 1, 1, 0, 0, 0, 0}, 0},
-        {"UTC0", {3000, 12, 31, 23, 59, 59, 0}, 0},
-        {"UTC0", {1969, 12, 31, 0, 0, 0, 0}, general_failure},
-        {"UTC0", {INT_MIN, 1, 1, 0, 0, 0, 0}, general_failure},
-        {"UTC0", {3001, 1, 1, 0, 0, 0, 0}, invalid_argument},
-        {"UTC0", {INT_MAX, 12, 31, 23, 59, 59, -1}, invalid_argument},
-        {"CET-1CEST", {1970, 1, 1, 0, 59, 59, 0}, invalid_argument},
-        {"CET-1CEST", {1970, 1, 1, 1, 0, 0, -1}, 0},
-        {"CET-1CEST", {1970, 1, 1, 1, 0, 0, 1}, invalid_argument}, // an hour earlier with daylight saving
-    };
-    for (const auto& [zone, v, code] : cases) {
-        set_zone(zone);
-        const auto make = [&v = v] { return CWntTime(v[0], v[1], v[2], v[3], v[4], v[5], v[6]); };
-        EXPECT_EQ(code_of(make), code) << zone << ' ' << v[0] << '-' << v[1] << '-' << v[2] << ' ' << v[6];
-        if (code == 0) {
-            EXPECT_EQ(make().time, 0);
-        }
+        std::vector<Values> values;
+    } cases[] = {{"UTC0", 0, {{2024, 2, 30, 0, 0, 0, -1}, {1970, 1, 1, 0, 0, 0, 0}, {3000, 12, 31, 23, 59, 59, 0}}},
+                 {"UTC0", general_failure, {{1969, 12, 31, 0, 0, 0, 0}, {INT_MIN, 1, 1, 0, 0, 0, 0}}},
+                 {"UTC0", invalid_argument, {{3001, 1, 1, 0, 0, 0, 0}, {INT_MAX, 12, 31, 23, 59, 59, -1}}},
+                 {"CET-1CEST", 0, {{1970, 1, 1, 1, 0, 0, -1}}},
+                 // The second one is an hour earlier with daylight saving.
+                 {"CET-1CEST", invalid_argument, {{1970, 1, 1, 0, 59, 59, 0}, {1970, 1, 1, 1, 0, 0, 1}}}};
+    const int outside[][2] = {{1, 0}, {1, 13}, {2, 0}, {2, 32}, {3, -1}, {3, 24}, {4, 60}, {5, 60}};
+    for (const auto& [field, value] : outside) {
+        cases[1].values.push_back({2024, 1, 1, 0, 0, 0, 0});
+        cases[1].values.back()[field] = value;
     }
-    set_zone("UTC0");
-    const std::pair<int, int> outside[] = {{1, 0}, {1, 13}, {2, 0}, {2, 32}, {3, -1}, {3, 24}, {4, 60}, {5, 60}};
-    for (const auto& field : outside) {
-        int v[] = {2024, 1, 1, 0, 0, 0};
-        v[field.first] = field.second;
-        const auto make = [&v] { CWntTime(v[0], v[1], v[2], v[3], v[4], v[5], 0); };
-        EXPECT_EQ(code_of(make), general_failure) << field.first << ": " << field.second;
+    for (const Case& c : cases) {
+        set_zone(c.zone);
+        for (const Values& v : c.values) {
+            CWntTime moment;
+            const auto make = [&] { moment = CWntTime(v[0], v[1], v[2], v[3], v[4], v[5], v[6]); };
+            EXPECT_EQ(code_of(make), c.code) << c.zone << ' ' << testing::PrintToString(v);
+            EXPECT_EQ(moment.time, 0);
+        }
     }
 }
 
