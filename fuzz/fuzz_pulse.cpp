@@ -3,7 +3,7 @@
 #include "pulse/pulse_codec.h"
 #include "require.h"
 #include "time/local_time.h"
-#include "time/result_error.h"
+#include "time_zone.h"
 
 #include <cmath>
 #include <cstring>
@@ -38,11 +38,9 @@ void check_header(const PulseHeader& header) {
 }
 
 std::optional<std::int64_t> moment_in(const PulseText& stamp) {
-    try {
-        return moment_of(parse_stamp(stamp), 0);
-    } catch (const ResultError&) {
-        return std::nullopt;
-    }
+    std::optional<std::int64_t> moment;
+    code_of([&] { moment = moment_of(parse_stamp(stamp), 0); });
+    return moment;
 }
 
 void check_sample(const PulseSample& sample) {
@@ -65,8 +63,7 @@ void check_sample(const PulseSample& sample) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     if (size == 0)
         return 0;
-    static const int zone_set = setenv("TZ", "UTC0", 1);
-    require(zone_set == 0);
+    [[maybe_unused]] static const int once = (set_zone("UTC0"), 0);
     std::vector<std::uint8_t> bytes(data, data + size);
     const File file = memory_file(size, bytes.data());
     PulseHeader header;

@@ -155,9 +155,7 @@ TEST(Objlist, RefusesMisuse) {
     expect_refusals(list, refuses_all, create);
 }
 
-struct Item {
-    char bytes[3]; // an odd size, so that slots are not aligned
-};
+using Item = std::array<char, 3>; // an odd size, so that slots are not aligned
 
 // The same for items. The model keeps every slot, in use or not, and the spare one.
 void compare_ulist(unsigned seed) {
@@ -170,7 +168,7 @@ void compare_ulist(unsigned seed) {
     const auto at = [&](int index) -> void* { return list.buffer + index * static_cast<int>(sizeof(Item)); };
     Dice dice{std::mt19937(seed)};
     for (int i = 0; i < 2000 && !testing::Test::HasFailure(); ++i) {
-        Item item{{static_cast<char>(dice(0, 255)), static_cast<char>(dice(0, 255)), 1}}, out = item;
+        Item item{static_cast<char>(dice(0, 255)), static_cast<char>(dice(0, 255)), 1}, out = item;
         const int index = dice(-2, capacity + 2);
         switch (dice(0, 7)) {
         case 0:
@@ -219,7 +217,7 @@ void compare_ulist(unsigned seed) {
             EXPECT_EQ(list.mkptr(index), holds(index) ? at(index) : nullptr);
             EXPECT_EQ(list.readitem(), holds(cursor) ? at(cursor) : nullptr);
             EXPECT_EQ(list.getitem(&out, index), holds(index));
-            EXPECT_EQ(std::memcmp(&out, holds(index) ? &slots[index] : &item, sizeof out), 0);
+            EXPECT_EQ(out, holds(index) ? slots[index] : item);
         }
         ASSERT_TRUE(list.queryitemno() == count && list.cursor == cursor);
         ASSERT_EQ(std::memcmp(list.buffer, slots.data(), slots.size() * sizeof(Item)), 0);

@@ -65,17 +65,15 @@ TEST(Geometry, ClippedLines) {
     const struct {
         int x1, y1, x2, y2, inside;
         Point from, to;
-    } cases[] = {
-        {10, 20, 30, 40, 1, {10, 20}, {30, 40}},
-        {50, -50, 50, 150, 1, {50, 0}, {50, 100}},
-        {-50, -50, 200, 200, 1, {0, 0}, {100, 100}},
-        {-60, 50, 50, 160, 0, {0, 110}, {}}, // past the corner
-        {10, 101, 90, 101, 0, {}, {}},
-    };
-    for (const auto& c : cases) {
+    } cases[] = {{10, 20, 30, 40, 1, {10, 20}, {30, 40}},
+                 {50, -50, 50, 150, 1, {50, 0}, {50, 100}},
+                 {-50, -50, 200, 200, 1, {0, 0}, {100, 100}},
+                 {-60, 50, 50, 160, 0, {0, 110}, {}}, // past the corner
+                 {10, 101, 90, 101, 0, {}, {}}};
+    for (const auto& [x1, y1, x2, y2, inside, from, to] : cases) {
         Point out[2] = {};
-        EXPECT_EQ(points_clipline(out, &r, c.x1, c.y1, c.x2, c.y2), c.inside) << c.x1 << ' ' << c.y1;
-        EXPECT_TRUE(!c.inside || (out[0] == c.from && out[1] == c.to)) << c.x1 << ' ' << c.y1;
+        EXPECT_EQ(points_clipline(out, &r, x1, y1, x2, y2), inside) << x1 << ' ' << y1;
+        EXPECT_TRUE(!inside || (out[0] == from && out[1] == to)) << x1 << ' ' << y1;
     }
     Point out{};
     EXPECT_EQ(points_partclip(&out, &r, 10, 200, 90, 200), 0); // would divide by zero

@@ -14,29 +14,29 @@ namespace fs = std::filesystem;
 namespace {
 
 // Each test in an empty folder of its own, in universal time.
-class PulseFile : public testing::Test {
-protected:
+struct PulseFile : testing::Test {
     PulseFile() {
-        fs::create_directory(folder_);
-        fs::current_path(folder_);
+        fs::create_directory(folder);
+        fs::current_path(folder);
         set_zone("UTC0");
     }
     ~PulseFile() override {
-        fs::current_path(home_);
-        fs::remove_all(folder_);
+        fs::current_path(home);
+        fs::remove_all(folder);
     }
-
-    // The bytes of a text file; lines end as the platform ends them.
-    static std::string text_of(const char* name) {
-        std::ifstream file(name);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
-    static void write_text(const char* name, const std::string& text) { std::ofstream(name) << text; }
-
-private:
-    fs::path home_ = fs::current_path();
-    fs::path folder_ = fs::temp_directory_path() / ("pulse-" + std::to_string(std::random_device()()));
+    fs::path home = fs::current_path();
+    fs::path folder = fs::temp_directory_path() / ("pulse-" + std::to_string(std::random_device()()));
 };
+
+void write_text(const char* name, const std::string& text) {
+    std::ofstream(name) << text;
+}
+
+// The bytes of a text file; lines end as the platform ends them.
+std::string text_of(const char* name) {
+    std::ifstream file(name);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
 
 constexpr std::int64_t afternoon = 1'794'837'839; // 16 November 2026, 14:03:59 UTC
 
