@@ -6,15 +6,11 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-Bytes scrambled(Bytes bytes) {
-    wnt::scramble(bytes.data(), bytes.size());
-    return bytes;
-}
-
 TEST(Scramble, MixesTheFixedStreamIn) {
     const std::uint32_t words[] = {0x67452301, 0xEFCDAB89, 0x98BADCFE, 0x10325476, 0xC3D2E1F0};
-    const Bytes zeros = scrambled(Bytes(300'007)); // several times the common period of all parts, and an odd rest
-    const Bytes letters = scrambled(Bytes(300'007, 'x'));
+    Bytes zeros(300'007), letters(300'007, 'x'); // several times the common period of all parts, and an odd rest
+    for (Bytes* each : {&zeros, &letters})
+        wnt::scramble(each->data(), each->size());
     int table[59], wrong = 0;
     for (std::uint32_t i = 0, j = 10; i < zeros.size(); ++i, j = (j + 5) % 59) {
         // What is fixed of the stream apart from its table.

@@ -23,12 +23,11 @@ GaugeModel model_of(int type, const Lines& lines = {}) {
 }
 
 bool writes(const Scene& scene, std::string_view text) {
-    const auto in = [&](const Picture& picture) {
-        return std::ranges::any_of(picture.figures(), [&](const Picture::Figure& f) {
-            return f.kind == Picture::Kind::text && picture.characters(f).find(text) != std::string::npos;
-        });
-    };
-    return in(scene.face) || in(scene.value);
+    for (const Picture* picture : {&scene.face, &scene.value})
+        for (const Picture::Figure& f : picture->figures())
+            if (f.kind == Picture::Kind::text && picture->characters(f).find(text) != std::string::npos)
+                return true;
+    return false;
 }
 
 // Cells carry slack at either side and room above the capitals.
