@@ -40,13 +40,11 @@ TEST(GaugeModel, ScriptClampsWhereSetterIgnores) {
     EXPECT_TRUE(model.minimum == 10 && model.maximum == 1000 && model.displayable);
     for (int refused : {9, 1001, 100})
         EXPECT_FALSE(model.set_current_value(refused)) << refused;
-    EXPECT_TRUE(model.set_current_value(10));
-    EXPECT_EQ(model.previous, 100);
+    EXPECT_TRUE(model.set_current_value(10) && model.previous == 100);
     EXPECT_EQ(model.repaint_mask, repaint_value); // the face's bit is gone
 
     model.set_range(50, 20);
-    EXPECT_EQ(model.minimum, 50); // inverted until a script ends
-    EXPECT_FALSE(model.set_current_value(30));
+    EXPECT_TRUE(model.minimum == 50 && !model.set_current_value(30)); // inverted until a script ends
     model.end_script();
     EXPECT_TRUE(model.maximum == 50 && !model.displayable); // 10 is outside
 

@@ -94,6 +94,8 @@ TEST(Geometry, HitTests) {
     Rect bounds{};
     calcpolywind(&bounds, scattered, 3);
     EXPECT_TRUE(bounds.left == -3 && bounds.top == 4 && bounds.right == 9 && bounds.bottom == -7);
+    calcpolywind(&bounds, scattered, 1);
+    EXPECT_TRUE(bounds.left == 5 && bounds.top == -7 && bounds.right == 5 && bounds.bottom == -7);
 }
 
 constexpr unsigned key_down = 0x100, character = 0x102, system_character = 0x106;
