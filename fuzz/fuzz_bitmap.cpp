@@ -3,8 +3,9 @@
 #include "bitmap/pixel_line.h"
 #include "bitmap/pixel_manipulators.h"
 #include "bitmap_memory.h"
+#include "require.h"
 
-#include <cstdint>
+#include <numeric>
 #include <vector>
 
 using namespace wnt;
@@ -14,17 +15,9 @@ namespace {
 constexpr std::uint64_t most_drawn = 1 << 20; // larger pictures only take time
 constexpr std::uint64_t too_much = 0x8000'0000;
 
-void require(bool holds) {
-    if (!holds)
-        std::abort();
-}
-
 // Reads each byte of a block, so that the sanitizer sees one that is too short.
-unsigned sum(const std::uint8_t* bytes, std::uint64_t count) {
-    unsigned total = 0;
-    for (std::uint64_t i = 0; i < count; ++i)
-        total += bytes[i];
-    return total;
+void read_all(const std::uint8_t* bytes, std::uint64_t count) {
+    [[maybe_unused]] volatile const unsigned sum = std::accumulate(bytes, bytes + count, 0U);
 }
 
 void draw_on(const BitmapHeader& header, std::span<const std::uint8_t> file) {
@@ -50,7 +43,7 @@ void check_dib(std::span<const std::uint8_t> file) {
         return;
     const BitmapHeader header = header_of(head.block.get());
     require(header.size == info_header_bytes && header.compression == uncompressed && head.colours <= 0xFFFF);
-    sum(head.block.get(), info_header_bytes + 4 * std::max(head.colours, least_colours_held));
+    read_all(head.block.get(), info_header_bytes + 4 * std::max(head.colours, least_colours_held));
     draw_on(header, file);
 }
 
@@ -61,13 +54,13 @@ void check_bitmap(std::span<const std::uint8_t> file) {
         return;
     const BitmapHeader header = header_of(head.block.get());
     require(header.size == info_header_bytes && bitmap_colours(header) <= file.size());
-    sum(head.block.get(), info_header_bytes + 4 * std::max(bitmap_colours(header), least_colours_held));
+    read_all(head.block.get(), info_header_bytes + 4 * std::max(bitmap_colours(header), least_colours_held));
     const auto drawn = drawn_bytes(header);
     BitmapPixels pixels;
     if ((drawn && *drawn > most_drawn && *drawn < too_much) || !read_bitmap_pixels(source, head, pixels))
         return;
     require(drawn && pixels.size >= *drawn);
-    sum(pixels.bytes.get(), pixels.size);
+    read_all(pixels.bytes.get(), pixels.size);
 }
 
 } // namespace

@@ -1,48 +1,26 @@
 // Reads a pulse file's header and samples. What was accepted is bounded and terminated, and comes back the same when it
 // is written and read again.
 #include "pulse/pulse_codec.h"
+#include "require.h"
 #include "time/local_time.h"
-#include "time/result_error.h"
+#include "time_zone.h"
 
 #include <cmath>
-#include <cstdint>
-#include <cstdlib>
 #include <cstring>
-#include <optional>
-#include <string>
-#include <utility>
+#include <memory>
+#include <vector>
 
 using namespace wnt;
 
 namespace {
 
-void require(bool holds) {
-    if (!holds)
-        std::abort();
-}
+using File = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
 
-class MemoryFile {
-public:
-    explicit MemoryFile(std::string text) : text_(std::move(text)), stream_(fmemopen(text_.data(), text_.size(), "r")) {
-        require(stream_);
-    }
-    ~MemoryFile() { std::fclose(stream_); }
-    std::FILE* stream() { return stream_; }
-
-private:
-    std::string text_;
-    std::FILE* stream_;
-};
-
-template <class Write> std::string written(Write write) {
-    char* text = nullptr;
-    std::size_t size = 0;
-    std::FILE* stream = open_memstream(&text, &size);
-    write(stream);
-    std::fclose(stream);
-    std::string result(text, size);
-    std::free(text);
-    return result;
+// Without bytes an empty file, to be written and read.
+File memory_file(std::size_t size, void* bytes = nullptr) {
+    File file(fmemopen(bytes, size, bytes ? "r" : "w+"), std::fclose);
+    require(file != nullptr);
+    return file;
 }
 
 bool terminated(const PulseText& text) {
@@ -50,19 +28,19 @@ bool terminated(const PulseText& text) {
 }
 
 void check_header(const PulseHeader& header) {
-    MemoryFile again(written([&](std::FILE* to) { write_header(to, header); }));
+    const File again = memory_file(1024);
+    write_header(again.get(), header);
+    std::rewind(again.get());
     PulseHeader back;
-    require(read_header(again.stream(), back, nullptr) == PulseFault::none && back.line_count == header.line_count);
+    require(read_header(again.get(), back, nullptr) == PulseFault::none && back.line_count == header.line_count);
     for (int i = 0; i < header.line_count; ++i)
         require(terminated(header.titles[i]) && std::strcmp(back.titles[i], header.titles[i]) == 0);
 }
 
 std::optional<std::int64_t> moment_in(const PulseText& stamp) {
-    try {
-        return moment_of(parse_stamp(stamp), 0);
-    } catch (const ResultError&) {
-        return std::nullopt;
-    }
+    std::optional<std::int64_t> moment;
+    code_of([&] { moment = moment_of(parse_stamp(stamp), 0); });
+    return moment;
 }
 
 void check_sample(const PulseSample& sample) {
@@ -72,8 +50,10 @@ void check_sample(const PulseSample& sample) {
         return;
     const auto fields = local_fields(*seconds);
     require(fields.has_value());
-    MemoryFile again(written([&](std::FILE* to) { write_sample(to, sample.curve, sample.value, *fields); }));
-    const auto back = read_sample(again.stream());
+    const File again = memory_file(1024);
+    write_sample(again.get(), sample.curve, sample.value, *fields);
+    std::rewind(again.get());
+    const auto back = read_sample(again.get());
     require(back && back->curve == sample.curve && std::abs(back->value - sample.value) <= 0.006F);
     require(moment_in(back->stamp) == seconds);
 }
@@ -83,14 +63,14 @@ void check_sample(const PulseSample& sample) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     if (size == 0)
         return 0;
-    static const int zone_set = setenv("TZ", "UTC0", 1);
-    require(zone_set == 0);
-    MemoryFile file(std::string(reinterpret_cast<const char*>(data), size));
+    [[maybe_unused]] static const int once = (set_zone("UTC0"), 0);
+    std::vector<std::uint8_t> bytes(data, data + size);
+    const File file = memory_file(size, bytes.data());
     PulseHeader header;
-    if (read_header(file.stream(), header, nullptr) == PulseFault::none)
+    if (read_header(file.get(), header, nullptr) == PulseFault::none)
         check_header(header);
     require(0 <= header.line_count && header.line_count <= most_pulse_curves);
-    while (const auto sample = read_sample(file.stream()))
+    while (const auto sample = read_sample(file.get()))
         check_sample(*sample);
     return 0;
 }

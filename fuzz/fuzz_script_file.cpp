@@ -1,25 +1,19 @@
-// Reads a script from a source that hands out pieces of any size, and compares the lines with those of a reader that
-// looks at one byte after the other. The first two bytes are the size of the pieces and whether the source fails.
+// Reads a script from a source that hands out single bytes, and one that hands out pieces of any size, and compares the
+// lines with those of a reader that has the whole text. The first two bytes are the size of the pieces and whether the
+// source fails.
+#include "require.h"
 #include "script/script_file.h"
 
 #include <algorithm>
-#include <cstddef>
 #include <cstdint>
-#include <cstdlib>
-#include <string>
-#include <string_view>
+#include <sstream>
+#include <utility>
 #include <vector>
-
-using namespace wnt;
 
 namespace {
 
+// Lines marked "L", the end of the script "E".
 using Lines = std::vector<std::string>;
-
-void require(bool holds) {
-    if (!holds)
-        std::abort();
-}
 
 Lines collected_lines(std::string_view text, std::size_t piece, bool fails) {
     Lines lines;
@@ -28,8 +22,8 @@ Lines collected_lines(std::string_view text, std::size_t piece, bool fails) {
         text.remove_prefix(count);
         return count == 0 && fails ? -1 : static_cast<int>(count);
     };
-    feed_script(source, [&](const char* line, int mode) {
-        lines.push_back((mode == script_end ? "E" : "L") + std::string(line));
+    wnt::feed_script(source, [&](const char* line, int mode) {
+        lines.push_back((mode == wnt::script_end ? "E" : "L") + std::string(line));
     });
     return lines;
 }
@@ -37,26 +31,16 @@ Lines collected_lines(std::string_view text, std::size_t piece, bool fails) {
 Lines expected_lines(std::string_view text, bool fails) {
     const std::size_t stop = text.find('\x1A');
     fails = fails && stop == std::string_view::npos;
+    std::string kept(text.substr(0, stop)), line;
+    std::erase(kept, '\r');
+    std::istringstream stream(kept);
     Lines lines;
-    std::string line;
-    bool cut = false;
-    for (char c : text.substr(0, stop)) {
-        if (c == '\r')
-            continue;
-        cut = c != '\n' && line.size() == 127;
-        if (cut)
-            break;
-        if (c != '\n') {
-            line += c;
-            continue;
-        }
+    while (std::getline(stream, line) && line.size() <= 127 && !stream.eof())
         lines.push_back("L" + line);
-        line.clear();
-    }
-    if (!cut && !fails && !line.empty()) {
-        lines.push_back("L" + line);
-        line.clear();
-    }
+    const bool cut = line.size() > 127;
+    line.resize(std::min<std::size_t>(line.size(), 127));
+    if (!cut && !fails && !line.empty())
+        lines.push_back("L" + std::exchange(line, ""));
     lines.push_back("L" + line);
     if (cut || !fails)
         lines.push_back("E" + line);
@@ -72,8 +56,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0;
     const std::string_view text(reinterpret_cast<const char*>(data) + 2, size - 2);
     const bool fails = (data[1] & 1) != 0;
-    require(collected_lines(text, data[0] * 3 + 1, fails) == expected_lines(text, fails));
-    const std::string_view name = script_file_name(text);
+    for (int piece : {1, data[0] * 3 + 1})
+        require(collected_lines(text, piece, fails) == expected_lines(text, fails));
+    const std::string_view name = wnt::script_file_name(text);
     require(name.data() >= text.data() && name.data() + name.size() <= text.data() + text.size());
     return 0;
 }

@@ -1,22 +1,15 @@
 // Feeds a gauge's model with script lines and checks after each what painters rely on. "@" stands for the end of a
 // script, ">" for a press of the view button.
+#include "require.h"
 #include "script/keywords.h"
-#include "widgets/gauge_model.h"
 #include "widgets/gauge_scale.h"
 
 #include <algorithm>
-#include <cstdint>
-#include <cstdlib>
-#include <string_view>
+#include <sstream>
 
 using namespace wnt;
 
 namespace {
-
-void require(bool holds) {
-    if (!holds)
-        std::abort();
-}
 
 void check_fields(const GaugeModel& model) {
     require(model.mark_count >= 0 && model.mark_count <= GaugeModel::mark_capacity);
@@ -49,10 +42,9 @@ void check_zones(const GaugeModel& model) {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    std::string_view text(reinterpret_cast<const char*>(data), size);
+    std::istringstream text(std::string(data, data + size));
     GaugeModel model;
-    while (!text.empty()) {
-        const std::string_view line = text.substr(0, text.find('\n'));
+    for (std::string line; std::getline(text, line);) {
         if (line == "@")
             model.end_script();
         else if (line == ">")
@@ -62,7 +54,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         check_fields(model);
         check_scale(model);
         check_zones(model);
-        text.remove_prefix(std::min(line.size() + 1, text.size()));
     }
     return 0;
 }

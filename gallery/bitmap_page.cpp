@@ -66,6 +66,8 @@ protected:
         next->EnableWindow(pictures_.size() > 1);
         const CString own = pictures_.empty() ? OwnPicture() : CString();
         Show(pictures_.empty() ? own : pictures_[0]);
+        if (pictures_.empty())
+            facts_[0] = "drawn by this page";
         ::DeleteFileA(own);
         return true;
     }

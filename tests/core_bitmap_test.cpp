@@ -27,13 +27,10 @@ TEST(BitmapSizes, FollowTheirRulesToTheEndsOfTheRange) {
         EXPECT_EQ(padded_bytes(none), std::nullopt);
     EXPECT_EQ(storage_bytes(sized(3, -2, 24)), 8U);
     EXPECT_EQ(storage_bytes(sized(INT_MAX, INT_MIN, 1)), 0x8000'0000ULL * 0x8000'0000ULL);
-    BitmapHeader compressed = sized(2, 2, 8);
-    compressed.compression = 1;
-    compressed.image_size = 900; // what a decoder may read
+    BitmapHeader compressed = {40, 2, 2, 1, 8, 1, 900}; // what a decoder may read
     EXPECT_EQ(drawn_bytes(compressed), 900U);
     compressed.image_size = 3;
-    EXPECT_EQ(drawn_bytes(compressed), 8U);
-    EXPECT_EQ(placed_bytes(compressed), 3U);
+    EXPECT_TRUE(drawn_bytes(compressed) == 8U && placed_bytes(compressed) == 3U);
     compressed.compression = 3; // bit fields
     EXPECT_EQ(placed_bytes(compressed), 8U);
     EXPECT_TRUE(row_count(-7) == 7 && row_count(INT_MIN) == INT_MAX);
@@ -57,25 +54,87 @@ TEST(BitmapReaders, BoundWhatTheFilePromises) {
             DibHead dib;
             EXPECT_EQ(dib_head_of(cut, dib), cut.size() < 2 ? 4 : cut.size() < 15 || file.core ? 6 : 0) << cut.size();
         }
-    const struct {
-        std::size_t at;
-        std::uint32_t value;
-        bool accepted;
-    } cases[] = {
-        {2, 0, false},    {2, 0xFFFF'FFFF, false},  {10, 0, true},           {10, 1094, true}, {10, 1095, false},
-        {14, 108, false}, {18, 0x7FFF'FFFF, false}, {18, 0xFFFF'FFFF, true}, {22, 500, true},  {22, 0x8000'0000, false},
-        {30, 99, true},   {46, 0xFFFF'FFFF, true}};
-    for (const auto& c : cases) {
-        Bytes bytes = BitmapFile{8, 4, 4}.bytes();
-        for (int i = 0; i < 4; ++i)
-            bytes[c.at + i] = static_cast<std::uint8_t>(c.value >> 8 * i);
-        EXPECT_EQ(accepted(bytes), c.accepted) << c.at << ' ' << c.value;
+    const std::uint32_t cases[][3] = {{2, 0, 0},     {2, 0xFFFF'FFFF, 0},  {10, 0, 1},           {10, 1094, 1},
+                                      {10, 1095, 0}, {14, 108, 0},         {18, 0x7FFF'FFFF, 0}, {18, 0xFFFF'FFFF, 1},
+                                      {22, 500, 1},  {22, 0x8000'0000, 0}, {30, 99, 1},          {46, 0xFFFF'FFFF, 1}};
+    for (const auto& [at, value, valid] : cases) {
+        Bytes bytes = BitmapFile{8, 4, 4}.bytes(), field;
+        BitmapFile::put(field, value, 4);
+        std::ranges::copy(field, bytes.begin() + at);
+        EXPECT_EQ(accepted(bytes), valid) << at << ' ' << value;
     }
 }
 
 // What the fuzzer demands of any file.
 TEST(BitmapReaders, SurviveBrokenHeads) {
     try_broken_bitmap_files([](const Bytes& bytes) { LLVMFuzzerTestOneInput(bytes.data(), bytes.size()); });
+}
+
+constexpr std::uint8_t untouched = 0xEE;
+
+// What a pixel of a colour writes, the low byte first.
+int packed(int bits, int r, int g, int b) {
+    std::uint8_t pixel[3] = {};
+    const auto writer = make_pixel_manipulator(bits);
+    writer->Init(pixel, 1, 1);
+    writer->SetColor(r, g, b);
+    writer->SetPixel(0, 0);
+    return pixel[0] | pixel[1] << 8 | pixel[2] << 16;
+}
+
+TEST(Pixels, PackColoursByDepth) {
+    const int cases[][6] = {{0, 0, 0, 0, 0, 0},
+                            {255, 255, 255, 60, 0x7FFF, 0xFFFFFF},
+                            {255, 0, 0, 0, 0x7C00, 0xFF0000},
+                            {0, 255, 0, 12, 0x03E0, 0x00FF00},
+                            {0, 0, 255, 60, 0x001F, 0x0000FF},
+                            {1, 1, 1, 0, 0x14A5, 0x010101},
+                            {16, 8, 4, 12, 0x4114, 0x100804},
+                            {-1, 256, 0x12345, 4, 0x7C15, 0xFF0045},
+                            {INT_MIN, INT_MAX, INT_MIN, 12, 0x03E0, 0x00FF00}};
+    for (const auto& [r, g, b, index, word, triple] : cases) {
+        const std::array all = {packed(8, r, g, b), packed(16, r, g, b), packed(24, r, g, b)};
+        EXPECT_THAT(all, testing::ElementsAre(index, word, triple)) << r << ' ' << g << ' ' << b;
+    }
+}
+
+TEST(Pixels, WriteTheirBytesOnly) {
+    constexpr int height = 3;
+    for (int bits : {-8, 0, 1, 4, 8, 15, 16, 24, 32})
+        for (int width : {1, 4, 5, 7})
+            for (int i = 0; i < width * height; ++i) {
+                const int size = bits == 8 || bits == 16 || bits == 24 ? bits / 8 : 0;
+                Bytes array(static_cast<std::size_t>(1 + width * height * 4 + 1), untouched);
+                Bytes expected = array;
+                const auto writer = make_pixel_manipulator(bits);
+                writer->Init(array.data() + 1, width, height);
+                writer->SetPixel(i % width, i / width); // black at first
+                std::fill_n(expected.begin() + 1 + i * size, size, 0);
+                ASSERT_EQ(array, expected) << bits << " bits, width " << width << ", pixel " << i;
+            }
+}
+
+TEST(Pixels, HoldAtTheEndsOfTheRange) {
+    for (int bits : {8, 16, 24, 32}) {
+        const auto writer = make_pixel_manipulator(bits);
+        writer->SetColor(1, 2, 3);
+        writer->SetPixel(0, 0); // no array yet
+        writer->Init(nullptr, 100, 100);
+        writer->SetPixel(INT_MAX, INT_MAX);
+        writer->SetPixel(5, 5);
+
+        const int below[][3] = {{4, -1, 0},      {4, 0, -1},      {4, INT_MIN, 0},
+                                {INT_MIN, 0, 1}, {INT_MAX, 1, 1}, {INT_MAX, INT_MAX, INT_MIN}};
+        Bytes array(64, untouched);
+        for (const auto& [width, x, y] : below) {
+            writer->Init(array.data() + 32, width, 1);
+            writer->SetPixel(x, y);
+            EXPECT_THAT(array, testing::Each(untouched)) << width << ' ' << x << ' ' << y;
+        }
+        writer->Init(array.data(), 65'536, 1);
+        writer->SetPixel(0, 65'536); // wraps around to the first pixel
+        EXPECT_EQ(array[0] != untouched, bits != 32);
+    }
 }
 
 std::string drawn(int width, int height, int bits, const PixelLine& line) {
@@ -93,10 +152,7 @@ std::string drawn(int width, int height, int bits, const PixelLine& line) {
 }
 
 TEST(PixelLines, CoverTheirPixels) {
-    const struct {
-        PixelLine line;
-        const char* picture;
-    } cases[] = {
+    const std::pair<PixelLine, const char*> cases[] = {
         {{1, 1, 4, 1}, "...... ...... .####. ...... "},     {{9, 0, -9, 0}, "...... ...... ...... ###### "},
         {{2, 9, 2, -9}, "..#... ..#... ..#... ..#... "},    {{3, 3, 3, 3}, "...#.. ...... ...... ...... "},
         {{0, 0, 3, 3}, "...#.. ..#... .#.... #..... "},     {{3, 0, 0, 3}, "#..... .#.... ..#... ...#.. "},
@@ -104,9 +160,9 @@ TEST(PixelLines, CoverTheirPixels) {
         {{-9, -9, 16, 16}, "...#.. ..#... .#.... #..... "}, {{0, 4, 5, 4}, "...... ...... ...... ...... "},
         {{-5, 2, 0, 0}, "...... ...... ...... ...... "}, // one column is left
     };
-    for (const auto& c : cases)
+    for (const auto& [line, picture] : cases)
         for (int bits : {8, 16, 24})
-            EXPECT_EQ(drawn(6, 4, bits, c.line), c.picture) << bits << ": " << c.line.x1 << ' ' << c.line.y1;
+            EXPECT_EQ(drawn(6, 4, bits, line), picture) << bits << ": " << line.x1 << ' ' << line.y1;
 }
 
 // All pairs of awkward coordinates on exactly sized arrays: the sanitizers see a pixel beside them.

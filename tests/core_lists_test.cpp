@@ -5,10 +5,8 @@
 
 #include <climits>
 #include <cstring>
+#include <numeric>
 #include <random>
-#include <string>
-#include <utility>
-#include <vector>
 
 namespace {
 
@@ -17,34 +15,28 @@ template <class List> struct Held : List {
     ~Held() override { this->destroy(); }
 };
 
+// What every list ends with: destroyed twice, and where the call arrives no object at all.
+template <class List> void expect_refusals(List& list, auto refuses_all, auto create) {
+    for (int i = 0; i < 2; ++i)
+        list.destroy();
+    EXPECT_TRUE(refuses_all(&list));
+#ifdef _WIN32 // elsewhere the sanitizer ends the call before the object is asked
+    List* volatile none = nullptr;
+    EXPECT_TRUE(refuses_all(none) && create(none) == 0 && none->flush() == 0 && none->seek(1, 0) == 0);
+    EXPECT_EQ(none->queryitemno(), -1);
+    none->destroy();
+#endif
+}
+
 struct Dice {
     std::mt19937 random;
     int operator()(int lowest, int highest) { return std::uniform_int_distribution(lowest, highest)(random); }
 };
 
-struct Record {
-    std::string tag, data; // the tag four bytes long
-};
-
-// The packed bytes of the first records.
-std::string packed(const std::vector<Record>& records, std::size_t count) {
-    std::string all;
-    for (std::size_t i = 0; i < count; ++i) {
-        const auto length = static_cast<std::uint32_t>(records[i].data.size());
-        all += records[i].tag + std::string(reinterpret_cast<const char*>(&length), 4) + records[i].data;
-    }
-    return all;
-}
-
-// Index of the record that a search finds, or of where it ends.
-std::pair<bool, std::size_t> search(const std::vector<Record>& records, std::size_t at, const std::string& tag) {
-    while (at < records.size() && ++at < records.size()) {
-        if (records[at].tag == tag)
-            return {true, at};
-        if (records[at].tag == std::string(4, '\0') || records[at].data.empty())
-            break;
-    }
-    return {false, at};
+// A record as the list packs it.
+std::string record(std::string tag, const std::string& data) {
+    const auto length = static_cast<std::uint32_t>(data.size());
+    return tag.append(reinterpret_cast<const char*>(&length), 4) + data;
 }
 
 // Many random operations on the list and on a vector of records; after each one every byte is compared.
@@ -52,8 +44,14 @@ void compare_objlist(unsigned seed) {
     constexpr int size = 256;
     Held<CWntObjlist> list;
     list.create(nullptr, size);
-    std::vector<Record> model;
+    std::vector<std::string> model;
+    const auto packed = [&](std::size_t count) {
+        return std::accumulate(model.begin(), model.begin() + static_cast<std::ptrdiff_t>(count), std::string());
+    };
     std::size_t cursor = 0;
+    const auto place = [&] { return model.begin() + static_cast<std::ptrdiff_t>(cursor); };
+    const auto tag_here = [&] { return cursor < model.size() ? model[cursor].substr(0, 4) : "none"; };
+    const auto data_here = [&] { return cursor < model.size() ? model[cursor].substr(8) : ""; };
     bool atstart = false;
     Dice dice{std::mt19937(seed)};
     for (int i = 0; i < 2000 && !testing::Test::HasFailure(); ++i) {
@@ -62,24 +60,23 @@ void compare_objlist(unsigned seed) {
         const std::string tag(text, 4);
         std::string data(dice(0, 30), static_cast<char>(dice(0, 255)));
         const int length = static_cast<int>(data.size());
-        const bool fits = size - packed(model, model.size()).size() > data.size() + 8;
-        const bool current = cursor < model.size();
+        const bool fits = size - packed(model.size()).size() > data.size() + 8;
         switch (dice(0, 6)) {
         case 0:
             EXPECT_EQ(list.additem(text, length, data.data()), fits && length > 0);
             if (fits && length > 0)
-                model.push_back({tag, data});
+                model.push_back(record(tag, data));
             break;
         case 1:
             EXPECT_EQ(list.insertitem(text, length, data.data()), fits ? 0 : -1);
             if (fits)
-                model.insert(model.begin() + static_cast<std::ptrdiff_t>(cursor++), {tag, data});
+                model.insert(place(), record(tag, data)), ++cursor;
             break;
         case 2: {
-            const bool taken = current && !model[cursor].data.empty();
+            const bool taken = !data_here().empty();
             EXPECT_EQ(list.deleteitem(), taken);
             if (taken)
-                model.erase(model.begin() + static_cast<std::ptrdiff_t>(cursor));
+                model.erase(place());
             break;
         }
         case 3: {
@@ -91,29 +88,31 @@ void compare_objlist(unsigned seed) {
         }
         case 4:
         case 5: {
-            const bool first = current && cursor == 0 && atstart && model[0].tag == tag;
-            atstart = atstart && !first;
-            const auto [found, at] = first ? std::pair(true, cursor) : search(model, cursor, tag);
-            cursor = at;
-            const void* place = list.buffer + packed(model, at).size() + 8;
-            EXPECT_EQ(list.nextitem(text), found ? place : nullptr);
+            bool found = cursor == 0 && atstart && tag_here() == tag;
+            atstart = atstart && !found;
+            for (bool ended = found || cursor == model.size(); !ended;) {
+                ++cursor;
+                found = tag_here() == tag;
+                ended = found || data_here().empty() || tag_here() == std::string(4, '\0');
+            }
+            EXPECT_EQ(list.nextitem(text), found ? list.buffer + packed(cursor).size() + 8 : nullptr);
             break;
         }
         default: {
-            const bool same = current && model[cursor].tag == tag;
+            const bool same = tag_here() == tag;
             EXPECT_EQ(list.updateitem(text, length, data.data()), same);
-            if (same && model[cursor].data.size() == data.size())
-                model[cursor].data = data;
-            std::string out(40, '\0'), expected = same ? model[cursor].data.substr(0, length) : "";
+            if (same && data_here().size() == data.size())
+                model[cursor] = record(tag, data);
+            std::string out(40, '\0'), expected = same ? data_here().substr(0, length) : "";
             expected.resize(out.size());
             EXPECT_TRUE(list.readitem(text, length, out.data()) == same && out == expected);
         }
         }
-        std::string all = packed(model, model.size());
+        std::string all = packed(model.size());
         ASSERT_EQ(list.end - list.buffer, static_cast<std::ptrdiff_t>(all.size()));
         all.resize(size); // what is free is zero
         ASSERT_EQ(std::string(reinterpret_cast<char*>(list.buffer), size), all);
-        ASSERT_EQ(list.cursor - list.buffer, static_cast<std::ptrdiff_t>(packed(model, cursor).size()));
+        ASSERT_EQ(list.cursor - list.buffer, static_cast<std::ptrdiff_t>(packed(cursor).size()));
         ASSERT_EQ(list.queryitemno(), static_cast<int>(model.size()));
     }
 }
@@ -132,10 +131,9 @@ TEST(Objlist, RefusesMisuse) {
     };
     EXPECT_EQ(list.create(nullptr, -1), 0);
     EXPECT_TRUE(refuses_all(&list));
-    for (int i = 0; i < 2; ++i) // the second frees what the first made
-        ASSERT_EQ(list.create(nullptr, 100), 1);
-    ASSERT_EQ(list.additem(key, 4, data), 1);
-    EXPECT_EQ(list.previousitem(key), nullptr);
+    const auto create = [](CWntObjlist* each) { return each->create(nullptr, 100); };
+    ASSERT_TRUE(create(&list) == 1 && create(&list) == 1); // the second frees what the first made
+    ASSERT_TRUE(list.additem(key, 4, data) == 1 && !list.previousitem(key));
     for (int length : {-1, INT_MIN, INT_MAX})
         EXPECT_TRUE(list.additem(key, length, data) == 0 && list.insertitem(key, length, data) == -1) << length;
     EXPECT_TRUE(list.additem(nullptr, 4, data) == 0 && list.insertitem(key, 4, nullptr) == -1);
@@ -153,20 +151,10 @@ TEST(Objlist, RefusesMisuse) {
         list.cursor = cursor;
         EXPECT_TRUE(list.insertitem(key, 4, data) == -1 && list.deleteitem() == 0 && !list.nextitem(key));
     }
-    for (int i = 0; i < 2; ++i)
-        list.destroy();
-    EXPECT_TRUE(refuses_all(&list));
-#ifdef _WIN32 // elsewhere the sanitizer ends the call before the object is asked
-    CWntObjlist* volatile none = nullptr;
-    EXPECT_TRUE(refuses_all(none) && none->create(nullptr, 9) == 0 && none->flush() == 0 && none->seek(1, 0) == 0);
-    EXPECT_EQ(none->queryitemno(), -1);
-    none->destroy();
-#endif
+    expect_refusals(list, refuses_all, create);
 }
 
-struct Item {
-    char bytes[3]; // an odd size, so that slots are not aligned
-};
+using Item = std::array<char, 3>; // an odd size, so that slots are not aligned
 
 // The same for items. The model keeps every slot, in use or not, and the spare one.
 void compare_ulist(unsigned seed) {
@@ -179,7 +167,7 @@ void compare_ulist(unsigned seed) {
     const auto at = [&](int index) -> void* { return list.buffer + index * static_cast<int>(sizeof(Item)); };
     Dice dice{std::mt19937(seed)};
     for (int i = 0; i < 2000 && !testing::Test::HasFailure(); ++i) {
-        Item item{{static_cast<char>(dice(0, 255)), static_cast<char>(dice(0, 255)), 1}}, out = item;
+        Item item{static_cast<char>(dice(0, 255)), static_cast<char>(dice(0, 255)), 1}, out = item;
         const int index = dice(-2, capacity + 2);
         switch (dice(0, 7)) {
         case 0:
@@ -209,10 +197,8 @@ void compare_ulist(unsigned seed) {
         case 3: {
             const int mode = dice(0, 3);
             EXPECT_EQ(list.seek(mode, index), 1);
-            if (mode == 1 || mode == 2)
-                cursor = mode == 1 ? index : count;
-            else if (mode == 0 && holds(cursor + index))
-                cursor += index;
+            const int moved = holds(cursor + index) && mode == 0 ? cursor + index : cursor;
+            cursor = mode == 1 ? index : mode == 2 ? count : moved;
             break;
         }
         case 4:
@@ -230,7 +216,7 @@ void compare_ulist(unsigned seed) {
             EXPECT_EQ(list.mkptr(index), holds(index) ? at(index) : nullptr);
             EXPECT_EQ(list.readitem(), holds(cursor) ? at(cursor) : nullptr);
             EXPECT_EQ(list.getitem(&out, index), holds(index));
-            EXPECT_EQ(std::memcmp(&out, holds(index) ? &slots[index] : &item, sizeof out), 0);
+            EXPECT_EQ(out, holds(index) ? slots[index] : item);
         }
         ASSERT_TRUE(list.queryitemno() == count && list.cursor == cursor);
         ASSERT_EQ(std::memcmp(list.buffer, slots.data(), slots.size() * sizeof(Item)), 0);
@@ -253,10 +239,10 @@ TEST(Ulist, RefusesMisuse) {
     const int refused[][2] = {{-1, 4}, {4, -1}, {-4, -4}, {65536, 65536}, {INT_MAX, 2}, {INT_MIN, INT_MIN}};
     for (const auto& [size, capacity] : refused)
         EXPECT_TRUE(list.create(nullptr, size, capacity) == 0 && refuses_all(&list)) << size << " x " << capacity;
-    for (int i = 0; i < 2; ++i)
-        ASSERT_EQ(list.create(nullptr, sizeof item, 4), 1);
-    EXPECT_TRUE(list.additem(nullptr) == -1 && list.insertitem(nullptr) == -1 && list.additem(item) == 0);
-    EXPECT_TRUE(list.updateitem(nullptr) == 0 && list.getitem(nullptr, 0) == 0);
+    const auto create = [](CWntUlist* each) { return each->create(nullptr, 8, 4); };
+    ASSERT_TRUE(create(&list) == 1 && create(&list) == 1);
+    EXPECT_TRUE(list.additem(nullptr) == -1 && list.insertitem(nullptr) == -1 && list.additem(item) == 0 &&
+                list.updateitem(nullptr) == 0 && list.getitem(nullptr, 0) == 0);
     for (int end : {INT_MIN, INT_MAX}) {
         list.seek(1, end);
         list.seek(0, end); // the sum is beyond 32 bits
@@ -264,15 +250,7 @@ TEST(Ulist, RefusesMisuse) {
     }
     list.seek(1, 2);
     EXPECT_TRUE(list.flush() == 1 && list.cursor == 2 && list.queryitemno() == 0);
-    for (int i = 0; i < 2; ++i)
-        list.destroy();
-    EXPECT_TRUE(refuses_all(&list));
-#ifdef _WIN32
-    CWntUlist* volatile none = nullptr;
-    EXPECT_TRUE(refuses_all(none) && none->create(nullptr, 1, 1) == 0 && none->flush() == 0 && none->seek(2, 0) == 0);
-    EXPECT_EQ(none->queryitemno(), -1);
-    none->destroy();
-#endif
+    expect_refusals(list, refuses_all, create);
 }
 
 } // namespace

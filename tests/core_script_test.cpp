@@ -5,21 +5,14 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <array>
-#include <string>
-#include <string_view>
-#include <utility>
-#include <vector>
+#include <climits>
 
 using namespace wnt;
 
 namespace {
 
 TEST(ScriptLine, FollowsTheGrammar) {
-    const struct {
-        std::string_view line, key, value;
-    } cases[] = {
+    const std::string_view cases[][3] = {
         {"   :  TITLE  ==  Hello  ", "TITLE", "Hello  "},
         {":TITLE Hello", "TITLE", "Hello"},
         {":TITLE2=x", "TITLE", "2=x"}, // a digit ends the key
@@ -30,10 +23,15 @@ TEST(ScriptLine, FollowsTheGrammar) {
         {"\t:TITLE=x", "", ""}, // a tab is no blank
         {"#:TITLE=x", "", ""},
     };
-    for (const auto& c : cases) {
-        const ScriptLine parts = split_script_line(c.line);
-        EXPECT_TRUE(parts.key == c.key && parts.value == c.value) << c.line << ": " << parts.key << ' ' << parts.value;
+    for (const auto& [line, key, value] : cases) {
+        const ScriptLine parts = split_script_line(line);
+        EXPECT_TRUE(parts.key == key && parts.value == value) << line << ": " << parts.key << ' ' << parts.value;
     }
+}
+
+void expect_codes(auto code_of, std::initializer_list<std::pair<std::string_view, int>> cases) {
+    for (const auto& [text, code] : cases)
+        EXPECT_EQ(code_of(text), code) << text;
 }
 
 TEST(Keywords, LookupsKeepTheirOddAnswers) {
@@ -42,50 +40,32 @@ TEST(Keywords, LookupsKeepTheirOddAnswers) {
     for (std::string_view unknown : {"analog", "ANALO", "ANALOG ", ""})
         EXPECT_EQ(keyword_lookup(gauge_type_words, unknown, 6), -1) << unknown;
     constexpr std::string_view long_words[] = {"ABCDEFGHIJKLMNO", "ABCDEFGHIJKLMNOP"};
-    EXPECT_EQ(keyword_lookup(long_words, long_words[0], 2), 0);
-    EXPECT_EQ(keyword_lookup(long_words, long_words[1], 2), -1); // 16 characters are too many
-
-    const std::pair<std::string_view, int> alignments[] = {
-        {"TOP", 4}, {"CENTER", 8}, {"BOTTOM", 0}, {"", 0}, {"TOPCENTERX", -1}, {"---", 3}, {"CENTERCENTER", 10}};
-    for (const auto& [word, code] : alignments)
-        EXPECT_EQ(keyword_prefix_lookup(alignment_words, word), code) << word;
+    expect_codes([&](std::string_view word) { return keyword_lookup(long_words, word, 2); },
+                 {{long_words[0], 0}, {long_words[1], -1}}); // 16 characters are too many
+    expect_codes(
+        [](std::string_view word) { return keyword_prefix_lookup(alignment_words, word); },
+        {{"TOP", 4}, {"CENTER", 8}, {"BOTTOM", 0}, {"", 0}, {"TOPCENTERX", -1}, {"---", 3}, {"CENTERCENTER", 10}});
     EXPECT_EQ(leading_key_lookup(button_keys, "BORDERH=3", 19), 10);
     EXPECT_EQ(leading_key_lookup(button_keys, "WORDWRAP X", 18), -1);
 
     EXPECT_EQ(colour_values[colour_lookup("DARKYELLOW")], 0x008080u);
-    EXPECT_EQ(colour_lookup("DARKBLUE "), 255);
-    EXPECT_EQ(colour_lookup(text_of(nullptr)), 255);
-
-    EXPECT_EQ(keyword_at(colour_words, 255), nullptr);
-    EXPECT_EQ(keyword_at(side_words, -1), nullptr);
-    EXPECT_EQ(line_style_word(256), nullptr);
+    expect_codes(colour_lookup, {{"DARKBLUE ", 255}, {text_of(nullptr), 255}});
+    EXPECT_TRUE(!keyword_at(colour_words, 255) && !keyword_at(side_words, -1) && !line_style_word(256));
 }
 
 TEST(Values, Convert) {
-    const std::pair<std::string_view, int> numbers[] = {
-        {" 76", 76}, {"-3x9", -3}, {"+5", 5}, {"abc", 0}, {"\t5", 0}, {"- 5", 0}, {"-99999999999", -2147483647 - 1}};
-    for (const auto& [text, number] : numbers)
-        EXPECT_EQ(integer_value(text), number) << text;
-    EXPECT_EQ(integer_value("99999999999999999999999"), 2147483647);
-    const std::pair<std::string_view, bool> flags[] = {{"X", true},     {"yes", true}, {" 1", true},
-                                                       {"TRUE", false}, {"J", false},  {"", false}};
-    for (const auto& [text, flag] : flags)
-        EXPECT_EQ(flag_lookup(text), flag) << text;
-    const std::pair<std::string_view, int> sides[] = {{"LEFT RIGHT TOP BOTTOM", 15}, {"TOPLEFT", 5}, {"left", 0}};
-    for (const auto& [text, set] : sides)
-        EXPECT_EQ(side_set_value(text), set) << text;
-    EXPECT_EQ(border_height_value("-3"), 0);
-    EXPECT_EQ(border_height_value("9"), 5);
+    expect_codes(integer_value, {{" 76", 76}, {"-3x9", -3}, {"+5", 5}, {"abc", 0}, {"\t5", 0}, {"- 5", 0}});
+    expect_codes(integer_value, {{"-99999999999", INT_MIN}, {"99999999999999999999999", INT_MAX}});
+    expect_codes(flag_lookup, {{"X", 1}, {"yes", 1}, {" 1", 1}, {"TRUE", 0}, {"J", 0}, {"", 0}});
+    expect_codes(side_set_value, {{"LEFT RIGHT TOP BOTTOM", 15}, {"TOPLEFT", 5}, {"left", 0}});
+    expect_codes(border_height_value, {{"-3", 0}, {"9", 5}});
     EXPECT_EQ(number_in_range("50", 1, 40, 7), 7);
     EXPECT_EQ(number_in_range("50", 0, 40, 7), 50); // a bound of 0 switches the check off
     EXPECT_EQ(number_in_range("0000000000000000012345", 0, 0, 7), 12);
-
-    const struct {
-        std::string_view text;
-        int value, colour;
-    } marks[] = {{"20,GREEN", 20, 4}, {" -7 about,,,  RED", -7, 6}, {"5, ,RED", 5, 255}, {"30", 30, 255}, {"", 0, 255}};
-    for (const auto& c : marks)
-        EXPECT_TRUE(mark_value(c.text).value == c.value && mark_value(c.text).colour == c.colour) << c.text;
+    const std::tuple<std::string_view, int, int> marks[] = {
+        {"20,GREEN", 20, 4}, {" -7 about,,,  RED", -7, 6}, {"5, ,RED", 5, 255}, {"30", 30, 255}, {"", 0, 255}};
+    for (const auto& [text, value, colour] : marks)
+        EXPECT_TRUE(mark_value(text).value == value && mark_value(text).colour == colour) << text;
 }
 
 TEST(Values, TextFieldsKeepWhatIsNotOverwritten) {
@@ -97,40 +77,6 @@ TEST(Values, TextFieldsKeepWhatIsNotOverwritten) {
     for (std::size_t length : {60u, 50u, 49u, 48u, 0u}) {
         copy_title(title, std::string(length, 'a'));
         EXPECT_EQ(field_text(title).size(), std::min<std::size_t>(length, 49)) << length;
-    }
-}
-
-// Reads the text in pieces from a source that ends with the end of the file or with a read error.
-std::vector<std::string> lines_of(std::string_view text, std::size_t piece, bool fails) {
-    const auto source = [&](char* to, int capacity) {
-        const std::size_t count = text.copy(to, std::min<std::size_t>(piece, capacity));
-        text.remove_prefix(count);
-        return count == 0 && fails ? -1 : static_cast<int>(count);
-    };
-    std::vector<std::string> lines;
-    feed_script(source, [&](const char* line, int mode) { lines.push_back(mode == script_end ? "END" : line); });
-    return lines;
-}
-
-TEST(ScriptFile, DeliversLinesWhateverTheBlocks) {
-    const std::string full(127, 'x');
-    const struct {
-        std::string text;
-        bool fails;
-        std::vector<std::string> lines;
-    } cases[] = {
-        {"", false, {"", "END"}},
-        {"a\r\n\r\rb\rc", false, {"a", "bc", "", "END"}},
-        {"a\n\nb\x1Az\nd\n", false, {"a", "", "b", "", "END"}},
-        {full + "\r\na\n", false, {full, "a", "", "END"}},
-        {full + "x\na\n", false, {full, "END"}},
-        {full + "\n" + std::string(600, 'y'), false, {full, std::string(127, 'y'), "END"}},
-        {"a\nb", true, {"a", "b"}},
-        {"a\x1A", true, {"a", "", "END"}},
-    };
-    for (const auto& c : cases) {
-        for (std::size_t piece : {1u, 128u, 512u})
-            EXPECT_EQ(lines_of(c.text, piece, c.fails), c.lines) << c.text << " in pieces of " << piece;
     }
 }
 

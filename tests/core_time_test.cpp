@@ -1,12 +1,12 @@
-#include "time/result_error.h"
 #include "time/wnt_time.h"
 #include "time_zone.h"
+#include "widgets/calendar/calendar_days.h"
+#include "widgets/calendar/calendar_layout.h"
 
 #include <gtest/gtest.h>
 
 #include <chrono>
 #include <climits>
-#include <utility>
 
 using namespace wnt;
 using namespace std::chrono;
@@ -22,18 +22,12 @@ CWntTime at(std::int64_t seconds) {
     return moment;
 }
 
-std::int64_t seconds_at(year_month_day date) {
-    return sys_seconds(sys_days(date)).time_since_epoch().count();
+std::int64_t seconds_at(sys_days day) {
+    return sys_seconds(day).time_since_epoch().count();
 }
 
-// The result code that a call raises, or 0.
-template <class Call> std::int32_t code_of(Call call) {
-    try {
-        call();
-    } catch (const ResultError& error) {
-        return error.code;
-    }
-    return 0;
+std::int64_t noon(int y, int m, int d) {
+    return seconds_at(year(y) / m / d) + 12 * hour_seconds;
 }
 
 // What every day of some years comes to, seen at two hours of standard time; the days counted from `lost` up to, but
@@ -62,9 +56,7 @@ TEST(Time, CountsTheDaysOfEveryYear) {
     check_days("JST-9", 9, 1996, 2005, 0, 0);
     check_days("NST3:30", -3.5, 2019, 2028, 0, 0);
     check_days("XXX-13", 13, 2996, 2999, 0, 0);
-}
-
-TEST(Time, LosesADayWhileTheClockIsAhead) {
+    // Where the clock is ahead of the year's first, a day is lost.
 #ifdef _WIN32
     check_days("EST5EDT", -5, 2023, 2023, 71, 309);
     check_days("CET-1CEST", 1, 2023, 2023, 71, 309);
@@ -77,15 +69,14 @@ TEST(Time, LosesADayWhileTheClockIsAhead) {
 }
 
 TEST(Time, NamesTheDayTwoDaysLate) {
-    const std::pair<const char*, const char*> names[] = {{"Tue", "Tuesday"}, {"Wed", "Wednesday"}, {"Thu", "Thursday"},
-                                                         {"Fri", "Friday"},  {"Sat", "Saturday"},  {"Sun", "Sunday"},
-                                                         {"Monday", nullptr}};
+    const char* const names[][2] = {{"Tue", "Tuesday"},  {"Wed", "Wednesday"}, {"Thu", "Thursday"}, {"Fri", "Friday"},
+                                    {"Sat", "Saturday"}, {"Sun", "Sunday"},    {"Monday", nullptr}};
     set_zone("EST5EDT");
-    for (int i = 0; i < 7; ++i) {
-        const CWntTime moment =
-            at(seconds_at(2024y / January / (7 + i)) + 5 * hour_seconds); // from a Sunday's midnight
-        EXPECT_STREQ(moment.GetWeekdayText(0), names[i].first);
-        EXPECT_STREQ(moment.GetWeekdayText(-1), names[i].second);
+    std::int64_t midnight = seconds_at(2024y / January / 7) + 5 * hour_seconds; // of a Sunday
+    for (const auto& [name, long_name] : names) {
+        EXPECT_STREQ(at(midnight).GetWeekdayText(0), name);
+        EXPECT_STREQ(at(midnight).GetWeekdayText(-1), long_name);
+        midnight += 24 * hour_seconds;
     }
     for (std::int64_t seconds : {std::int64_t{-1}, last_second + 1, INT64_MIN, INT64_MAX}) {
         EXPECT_STREQ(at(seconds).GetWeekdayText(0), "Mon");
@@ -94,69 +85,107 @@ TEST(Time, NamesTheDayTwoDaysLate) {
 }
 
 TEST(Time, RefusesWhatCannotBeConverted) {
+    constexpr std::int64_t day = 24 * hour_seconds, still_1969 = 5 * hour_seconds - 1;
     const struct {
         const char* zone;
-        std::int64_t seconds;
         std::int32_t code;
-    } moments[] = {
-        {"UTC0", 0, 0},
-        {"UTC0", -1, general_failure},
-        {"UTC0", last_second, 0},
-        {"UTC0", last_second + 1, general_failure},
-        {"UTC0", INT64_MIN, general_failure},
-        {"UTC0", INT64_MAX, general_failure},
-        {"EST5EDT", 5 * hour_seconds - 1, general_failure}, // still 1969
-        {"EST5EDT", 5 * hour_seconds, 0},
-        {"JST-9", 0, invalid_argument}, // the year began before the first moment
-        {"JST-9", 364 * 24 * hour_seconds, invalid_argument},
-        {"JST-9", 365 * 24 * hour_seconds, 0},
-    };
-    for (const auto& c : moments) {
-        set_zone(c.zone);
-        const CWntTime moment = at(c.seconds);
-        EXPECT_EQ(code_of([&] { moment.GetJulianDay(); }), c.code) << c.zone << ' ' << c.seconds;
-        EXPECT_EQ(code_of([&] { moment.GetCalendarWeek(0); }), c.code) << c.zone << ' ' << c.seconds;
-        EXPECT_EQ(code_of([&] { moment.GetFirstWeekend(); }), c.code) << c.zone << ' ' << c.seconds;
+        std::vector<std::int64_t> moments;
+    } cases[] = {{"UTC0", 0, {0, last_second}},
+                 {"UTC0", general_failure, {-1, last_second + 1, INT64_MIN, INT64_MAX}},
+                 {"EST5EDT", general_failure, {still_1969}},
+                 {"EST5EDT", 0, {still_1969 + 1}},
+                 {"JST-9", invalid_argument, {0, 364 * day}}, // the year began before the first moment
+                 {"JST-9", 0, {365 * day}}};
+    for (const auto& [zone, code, moments] : cases) {
+        set_zone(zone);
+        for (std::int64_t seconds : moments) {
+            const CWntTime moment = at(seconds);
+            EXPECT_EQ(code_of([&] { moment.GetJulianDay(); }), code) << zone << ' ' << seconds;
+            EXPECT_EQ(code_of([&] { moment.GetCalendarWeek(0); }), code) << zone << ' ' << seconds;
+            EXPECT_EQ(code_of([&] { moment.GetFirstWeekend(); }), code) << zone << ' ' << seconds;
+        }
     }
 }
 
 TEST(Time, ChecksItsValuesAndStaysAtZero) {
-    const struct {
+    using Values = std::array<int, 7>;
+    struct Case {
         const char* zone;
-        int values[7];
         std::int32_t code;
-    } cases[] = {
-        {"UTC0", {2024, 2, 30, 0, 0, 0, -1}, 0},
-        {"UTC0", {1970, 1, 1, 0, 0, 0, 0}, 0},
-        {"UTC0", {3000, 12, 31, 23, 59, 59, 0}, 0},
-        {"UTC0", {1969, 12, 31, 0, 0, 0, 0}, general_failure},
-        {"UTC0", {INT_MIN, 1, 1, 0, 0, 0, 0}, general_failure},
-        {"UTC0", {3001, 1, 1, 0, 0, 0, 0}, invalid_argument},
-        {"UTC0", {INT_MAX, 12, 31, 23, 59, 59, -1}, invalid_argument},
-        {"CET-1CEST", {1970, 1, 1, 0, 59, 59, 0}, invalid_argument},
-        {"CET-1CEST", {1970, 1, 1, 1, 0, 0, -1}, 0},
-        {"CET-1CEST", {1970, 1, 1, 1, 0, 0, 1}, invalid_argument}, // an hour earlier with daylight saving
-    };
-    for (const auto& [zone, v, code] : cases) {
-        set_zone(zone);
-        const auto make = [&v = v] { return CWntTime(v[0], v[1], v[2], v[3], v[4], v[5], v[6]); };
-        EXPECT_EQ(code_of(make), code) << zone << ' ' << v[0] << '-' << v[1] << '-' << v[2] << ' ' << v[6];
-        if (code == 0) {
-            EXPECT_EQ(make().time, 0);
+        std::vector<Values> values;
+    } cases[] = {{"UTC0", 0, {{2024, 2, 30, 0, 0, 0, -1}, {1970, 1, 1, 0, 0, 0, 0}, {3000, 12, 31, 23, 59, 59, 0}}},
+                 {"UTC0", general_failure, {{1969, 12, 31, 0, 0, 0, 0}, {INT_MIN, 1, 1, 0, 0, 0, 0}}},
+                 {"UTC0", invalid_argument, {{3001, 1, 1, 0, 0, 0, 0}, {INT_MAX, 12, 31, 23, 59, 59, -1}}},
+                 {"CET-1CEST", 0, {{1970, 1, 1, 1, 0, 0, -1}}},
+                 // The second one is an hour earlier with daylight saving.
+                 {"CET-1CEST", invalid_argument, {{1970, 1, 1, 0, 59, 59, 0}, {1970, 1, 1, 1, 0, 0, 1}}}};
+    const int outside[][2] = {{1, 0}, {1, 13}, {2, 0}, {2, 32}, {3, -1}, {3, 24}, {4, 60}, {5, 60}};
+    for (const auto& [field, value] : outside) {
+        cases[1].values.push_back({2024, 1, 1, 0, 0, 0, 0});
+        cases[1].values.back()[field] = value;
+    }
+    for (const Case& c : cases) {
+        set_zone(c.zone);
+        for (const Values& v : c.values) {
+            CWntTime moment;
+            const auto make = [&] { moment = CWntTime(v[0], v[1], v[2], v[3], v[4], v[5], v[6]); };
+            EXPECT_EQ(code_of(make), c.code) << c.zone << ' ' << testing::PrintToString(v);
+            EXPECT_EQ(moment.time, 0);
         }
     }
-    CWntTime moment = at(86'400);
-    moment.AddDays(5), moment.Eastern(); // both without effect
-    EXPECT_EQ(moment.time, 86'400);
+}
 
-    set_zone("UTC0");
-    const std::pair<int, int> outside[] = {{1, 0}, {1, 13}, {2, 0}, {2, 32}, {3, -1}, {3, 24}, {4, 60}, {5, 60}};
-    for (const auto& field : outside) {
-        int v[] = {2024, 1, 1, 0, 0, 0};
-        v[field.first] = field.second;
-        const auto make = [&v] { CWntTime(v[0], v[1], v[2], v[3], v[4], v[5], 0); };
-        EXPECT_EQ(code_of(make), general_failure) << field.first << ": " << field.second;
+TEST(Calendar, LayoutOfAWindow) {
+    constexpr CalendarLayout layout = calendar_layout(300, 200);
+    EXPECT_TRUE(layout.column_width == 40 && layout.last_row == 4);
+    EXPECT_TRUE(layout.grid.holds(17, 165) && !layout.grid.holds(16, 165) && !layout.grid.holds(17, 166));
+    EXPECT_TRUE(layout.months.holds(16, 17) && layout.bottom_strip.holds(16, 16));
+    EXPECT_TRUE(calendar_layout(300, 51).last_row == 0 && calendar_layout(300, 51).grid.empty());
+    EXPECT_EQ(calendar_layout(300, 22).last_row, -1);
+}
+
+TEST(Calendar, WeeksBeginOnMonday) {
+    for (const char* zone : {"UTC0", "CET-1CEST", "EST5EDT", "NZST-12NZDT"}) {
+        set_zone(zone);
+        for (unsigned day = 2; day <= 8; ++day) { // a Monday to a Sunday of March 2026
+            const LocalDate shown = local_date(noon(2026, 3, day));
+            const LocalDate start = local_date(grid_start(noon(2026, 3, day)));
+            const int weekday = (shown.day - 2) % 7; // from Monday, as the zone sees it
+            EXPECT_EQ(start.day, weekday == 6 ? shown.day + 1 : shown.day - weekday) << zone << day;
+        }
     }
+    EXPECT_EQ(grid_start(-5), -5 + 2 * day_seconds); // no local date
+    EXPECT_LT(grid_start(std::numeric_limits<std::int64_t>::max()), std::int64_t{1} << 61);
+    // No correction for daylight saving: after its end the weeks of a midnight begin an hour, and a date, too early.
+    set_zone("EST5EDT");
+    const std::int64_t monday = grid_start(moved_to_month(noon(2026, 1, 26) + 8 * hour_seconds, 10));
+    EXPECT_EQ(local_date(monday), (LocalDate{2026, 10, 26}));
+    EXPECT_EQ(local_date(monday + week_seconds), (LocalDate{2026, 11, 1}));
+}
+
+TEST(Calendar, WeekNumbers) {
+    set_zone("UTC0");
+    const int cases[][4] = {{2026, 1, 5, 2}, {2026, 1, 12, 3}, {2025, 12, 29, 53}, {2024, 1, 1, 2}, {2024, 12, 30, 54}};
+    for (const auto& [year, month, day, number] : cases)
+        EXPECT_EQ(week_number(noon(year, month, day)), number) << year << month << day;
+    EXPECT_EQ(code_of([] { week_number(-5); }), general_failure);
+    set_zone("EST5EDT");
+    EXPECT_EQ(code_of([] { week_number(3600); }), general_failure); // still 1969 there
+    set_zone("CET-1CEST");
+    EXPECT_EQ(code_of([] { week_number(noon(1970, 5, 4)); }), invalid_argument); // its first midnight lies before 0
+}
+
+TEST(Calendar, MonthsKeepTheDayOrRunOn) {
+    for (const char* zone : {"UTC0", "CET-1CEST", "EST5EDT"}) {
+        set_zone(zone);
+        EXPECT_EQ(local_date(moved_to_month(noon(2026, 1, 31), 2)), (LocalDate{2026, 3, 3})) << zone;
+        EXPECT_EQ(local_date(moved_to_month(noon(2024, 1, 31), 2)), (LocalDate{2024, 3, 2})) << zone;
+        EXPECT_EQ(local_date(moved_to_month(noon(2026, 11, 21), 7)), (LocalDate{2026, 7, 21})) << zone;
+    }
+    set_zone("UTC0");
+    EXPECT_EQ(moved_to_month(noon(2026, 11, 21), 12), noon(2026, 12, 21) - 12 * hour_seconds); // midnight
+    for (std::int64_t none : {std::int64_t{-1}, std::int64_t{1} << 40})
+        EXPECT_EQ(code_of([&] { moved_to_month(none, 5); }), general_failure);
 }
 
 } // namespace

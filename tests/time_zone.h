@@ -1,5 +1,7 @@
 #pragma once
 
+#include "time/result_error.h"
+
 #include <cstdlib>
 #include <ctime>
 
@@ -13,4 +15,14 @@ inline void set_zone(const char* zone) {
     setenv("TZ", zone, 1);
     tzset();
 #endif
+}
+
+/// The result code that a call raises, or 0.
+std::int32_t code_of(auto call) {
+    try {
+        call();
+    } catch (const wnt::ResultError& error) {
+        return error.code;
+    }
+    return 0;
 }
