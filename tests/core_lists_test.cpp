@@ -205,7 +205,8 @@ void compare_ulist(unsigned seed) {
             EXPECT_EQ(list.nextitem(), holds(cursor) ? at(cursor++) : nullptr);
             break;
         case 5:
-            EXPECT_EQ(list.previousitem(), 1 <= cursor && cursor <= capacity ? at(cursor--) : nullptr);
+            EXPECT_EQ(list.previousitem(), 1 <= cursor && cursor <= capacity ? at(cursor) : nullptr);
+            cursor -= cursor >= 1;
             break;
         case 6:
             EXPECT_EQ(list.updateitem(&item), holds(cursor));
