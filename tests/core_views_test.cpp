@@ -1,5 +1,6 @@
 #include "even_meter.h"
 #include "widgets/supersample.h"
+#include "widgets/views/scale_parts.h"
 #include "widgets/views/view_parts.h"
 
 #include <gmock/gmock.h>

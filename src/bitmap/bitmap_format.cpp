@@ -132,10 +132,6 @@ std::optional<std::uint64_t> placed_bytes(const BitmapHeader& header) {
     return header.width < 1 || header.height == 0 ? 0 : header.image_size;
 }
 
-HeapBytes zeroed_bytes(std::uint64_t count) {
-    return HeapBytes(static_cast<std::uint8_t*>(std::calloc(std::max<std::uint64_t>(count, 1), 1)));
-}
-
 HeapBytes header_block(std::uint64_t colours) {
     return zeroed_bytes(info_header_bytes + 4 * std::max<std::uint64_t>(colours, least_colours_held));
 }

@@ -2,11 +2,11 @@
 
 #include <array>
 #include <cstdint>
-#include <cstdlib>
 #include <functional>
-#include <memory>
 #include <optional>
 #include <span>
+
+#include "bitmap/heap_bytes.h"
 
 /// Windows bitmap files: headers, colour tables, and the sizes of pixels that follow from them. The two
 /// bitmap classes count colours and bytes by different rules; both rules are here, with checked arithmetic.
@@ -72,14 +72,6 @@ std::optional<std::uint64_t> drawn_bytes(const BitmapHeader& header);
 /// anything.
 std::optional<std::uint64_t> placed_bytes(const BitmapHeader& header);
 
-struct FreeBlock {
-    void operator()(void* block) const { std::free(block); }
-};
-/// A block of the plain heap.
-using HeapBytes = std::unique_ptr<std::uint8_t, FreeBlock>;
-
-/// Zeroed; null when there is no memory for it.
-HeapBytes zeroed_bytes(std::uint64_t count);
 /// A zeroed block for a 40-byte header with so many colours of four bytes, and for 256 at least.
 HeapBytes header_block(std::uint64_t colours);
 inline std::uint8_t* colour_table(std::uint8_t* block) {

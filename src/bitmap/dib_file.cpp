@@ -18,7 +18,7 @@ int drawn_pixel_size(int bits) {
 }
 
 HPALETTE palette_of(const RGBQUAD* table, int count) {
-    const wnt::LogPalette colours(static_cast<UINT>(count));
+    wnt::LogPalette colours(static_cast<UINT>(count));
     if (!colours.get())
         return nullptr;
     colours.take(table);

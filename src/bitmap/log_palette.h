@@ -4,13 +4,14 @@
 
 #include <algorithm>
 
-#include "bitmap/bitmap_format.h"
+#include "bitmap/heap_bytes.h"
 
 namespace wnt {
 
-/// The platform's description of a palette, version 0x300, on the heap.
+/// The platform's description of a palette on the heap.
 class LogPalette {
 public:
+    static constexpr WORD version = 0x300;
     static constexpr UINT most_colours = 0xFFFF;
 
     /// Null inside without colours, with more than can be counted, and without memory.
@@ -19,7 +20,7 @@ public:
             return;
         block_ = zeroed_bytes(bytes_of(count));
         if (block_) {
-            get()->palVersion = 0x300;
+            get()->palVersion = version;
             get()->palNumEntries = static_cast<WORD>(count);
         }
     }
@@ -29,7 +30,7 @@ public:
     LOGPALETTE* get() const { return reinterpret_cast<LOGPALETTE*>(block_.get()); }
     DWORD size() const { return bytes_of(get()->palNumEntries); }
 
-    void take(const RGBQUAD* table) const {
+    void take(const RGBQUAD* table) {
         std::transform(table, table + get()->palNumEntries, get()->palPalEntry, [](const RGBQUAD& colour) {
             return PALETTEENTRY{colour.rgbRed, colour.rgbGreen, colour.rgbBlue, 0};
         });

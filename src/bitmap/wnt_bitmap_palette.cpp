@@ -2,27 +2,16 @@
 
 #include <algorithm>
 #include <climits>
+#include <cstdint>
 
-#include "bitmap/bitmap_format.h"
 #include "bitmap/log_palette.h"
 #include "bitmap/wnt_bitmap.h"
+#include "out/device_state.h"
 
 namespace {
 
 constexpr int cells_a_row = 16;
 constexpr int most_cells = 256;
-
-class ScreenContext {
-public:
-    ScreenContext() : dc_(::GetDC(nullptr)) {}
-    ~ScreenContext() { ::ReleaseDC(nullptr, dc_); }
-    ScreenContext(const ScreenContext&) = delete;
-    ScreenContext& operator=(const ScreenContext&) = delete;
-    operator HDC() const { return dc_; }
-
-private:
-    HDC dc_;
-};
 
 // The corner between the cells of so many rows and columns. A rectangle may reach to the ends of the range.
 POINT corner(const RECT& rect, int column, int row) {
@@ -38,12 +27,10 @@ void draw_cell(HDC dc, const RECT& rect, int index) {
     const int row = index / cells_a_row;
     const POINT first = corner(rect, column, row);
     const POINT last = corner(rect, column + 1, row + 1);
-    HBRUSH brush = ::CreateSolidBrush(PALETTEINDEX(index));
-    HGDIOBJ previous = ::SelectObject(dc, brush);
+    const wnt::GdiObject<HBRUSH> brush(::CreateSolidBrush(PALETTEINDEX(index)));
+    const wnt::SelectGuard selected(dc, brush.get());
     if (last.x < LONG_MAX && last.y < LONG_MAX)
         ::Rectangle(dc, first.x, first.y, last.x + 1, last.y + 1);
-    ::SelectObject(dc, previous);
-    ::DeleteObject(brush);
 }
 
 } // namespace
@@ -58,7 +45,7 @@ BOOL CWntBitmapPalette::replace(LOGPALETTE* colours) {
 
 BOOL CWntBitmapPalette::Create(CWntBitmap* bitmap) {
     const UINT count = bitmap ? bitmap->GetNumClrEntries() : 0;
-    const wnt::LogPalette colours(count);
+    wnt::LogPalette colours(count);
     if (!colours.get())
         return FALSE;
     colours.take(bitmap->GetClrTabAddress());
@@ -86,7 +73,7 @@ void CWntBitmapPalette::Draw(CDC* dc, const RECT* rect, BOOL background) {
 // Switching the static colours off and on again makes the system forget what other palettes put there. Entries of the
 // first half may share equal colours of the system, those of the second half take places of their own.
 BOOL CWntBitmapPalette::SetSysPalColors() {
-    const ScreenContext screen;
+    const wnt::ScreenContext screen;
     const int count = std::min(GetNumColors(), most_cells);
     if (count == 0 || !(::GetDeviceCaps(screen, RASTERCAPS) & RC_PALETTE))
         return FALSE;

@@ -25,7 +25,7 @@ std::vector<RGBQUAD> colour_table(CDC& screen, CBitmap& bitmap) {
 }
 
 void make_palette(CPalette& palette, const std::vector<RGBQUAD>& colours) {
-    const wnt::LogPalette description(static_cast<UINT>(colours.size()));
+    wnt::LogPalette description(static_cast<UINT>(colours.size()));
     if (!description.get())
         return;
     description.take(colours.data());

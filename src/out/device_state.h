@@ -38,6 +38,19 @@ private:
     Handle handle_;
 };
 
+/// The screen's device context.
+class ScreenContext {
+public:
+    ScreenContext() : dc_(::GetDC(nullptr)) {}
+    ~ScreenContext() { ::ReleaseDC(nullptr, dc_); }
+    ScreenContext(const ScreenContext&) = delete;
+    ScreenContext& operator=(const ScreenContext&) = delete;
+    operator HDC() const { return dc_; }
+
+private:
+    HDC dc_;
+};
+
 /// Whether the device shows 256 colours or fewer.
 inline bool few_colours(HDC dc) {
     return ::GetDeviceCaps(dc, BITSPIXEL) * ::GetDeviceCaps(dc, PLANES) <= 8;

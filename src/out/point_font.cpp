@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "out/device_state.h"
+
 namespace {
 
 constexpr int highest_font = 4096; // pixels: enough for any label, and still made at once
@@ -10,12 +12,7 @@ constexpr int highest_font = 4096; // pixels: enough for any label, and still ma
 } // namespace
 
 int wnt::screen_dots_per_inch() {
-    static const int dots_per_inch = [] {
-        HDC screen = ::GetDC(nullptr);
-        const int dots = ::GetDeviceCaps(screen, LOGPIXELSY);
-        ::ReleaseDC(nullptr, screen);
-        return dots;
-    }();
+    static const int dots_per_inch = ::GetDeviceCaps(ScreenContext(), LOGPIXELSY);
     return dots_per_inch ? dots_per_inch : USER_DEFAULT_SCREEN_DPI;
 }
 

@@ -188,7 +188,6 @@ void CWntButton::OnSize(UINT type, int cx, int cy) {
     box_->height = cy;
     if (!out_.m_hWnd)
         return;
-    out_.SetWindowPos(nullptr, 0, 0, cx, cy, SWP_NOZORDER | SWP_NOACTIVATE);
-    out_.ShowWindow(SW_SHOW);
+    wnt::place_child(out_, 0, 0, cx, cy);
     Invalidate(FALSE); // a smaller window is laid out anew, too
 }

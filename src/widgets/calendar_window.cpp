@@ -89,8 +89,7 @@ void CWntCalendar::OnSize(UINT type, int cx, int cy) {
     *layout_ = wnt::calendar_layout(cx, cy);
     if (!out_.m_hWnd)
         return;
-    out_.SetWindowPos(nullptr, 0, 0, cx, cy, SWP_NOZORDER | SWP_NOACTIVATE);
-    out_.ShowWindow(SW_SHOW);
+    wnt::place_child(out_, 0, 0, cx, cy);
     Invalidate(FALSE);
 }
 

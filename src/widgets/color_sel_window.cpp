@@ -223,18 +223,12 @@ void CWntColorSel::lay_out() {
     GetClientRect(&client);
     const int w = client.Width();
     const int h = client.Height();
-    const auto place = [](CWnd& child, int x, int width, int height, bool shown) {
-        if (!child.m_hWnd)
-            return;
-        child.SetWindowPos(nullptr, x, 0, std::max(width, 0), height, SWP_NOZORDER | SWP_NOACTIVATE);
-        child.ShowWindow(shown ? SW_SHOW : SW_HIDE);
-    };
     for (int i = 0; i < 3; ++i)
-        place(sliders_[i], i * slider_width, slider_width, h, sliders_shown_);
+        wnt::place_child(sliders_[i], i * slider_width, 0, slider_width, h, sliders_shown_);
     const int x0 = sliders_shown_ ? 3 * slider_width : 0;
     const int half = (w - x0) / 2;
-    place(out_, x0, no_items_ ? w - x0 : half, h, true);
-    place(list_, x0 + half, half, h, !no_items_);
+    wnt::place_child(out_, x0, 0, no_items_ ? w - x0 : half, h);
+    wnt::place_child(list_, x0 + half, 0, half, h, !no_items_);
     panel_width_ = no_items_ ? w : w / 2; // intended: of the whole width
     panel_height_ = h;
     Invalidate(FALSE);

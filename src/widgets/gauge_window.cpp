@@ -236,15 +236,9 @@ void CWntGauge::OnSize(UINT type, int cx, int cy) {
     const int strip = test ? strip_height : 0;
     width_ = cx;
     height_ = std::max(cy - strip, 0);
-    auto place = [](CWnd& child, int x, int y, int w, int h) {
-        if (!child.m_hWnd)
-            return;
-        child.SetWindowPos(nullptr, x, y, std::max(w, 0), std::max(h, 0), SWP_NOZORDER | SWP_NOACTIVATE);
-        child.ShowWindow(SW_SHOW);
-    };
-    place(out_, 0, 0, width_, height_);
-    place(scroll_bar_, 0, test ? height_ : 0, test ? cx - strip : 0, strip);
-    place(switch_button_, test ? cx - strip : 0, test ? height_ : 0, strip, strip);
+    wnt::place_child(out_, 0, 0, width_, height_);
+    wnt::place_child(scroll_bar_, 0, test ? height_ : 0, test ? cx - strip : 0, strip);
+    wnt::place_child(switch_button_, test ? cx - strip : 0, test ? height_ : 0, strip, strip);
     model_->repaint_mask = wnt::repaint_all;
     Invalidate(FALSE); // a smaller window is laid out anew, too
 }

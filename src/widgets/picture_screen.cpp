@@ -109,6 +109,10 @@ void PictureScreen::release() {
 void PictureScreen::draw_all(CWntOut& out, int width, int height, const Picture& face, const Picture& value) {
     if (!holds(width, height) && !(face_.create(width, height) && frame_.create(width, height))) {
         release();
+        if (!face.figures().empty()) { // its ground at least, not what was there before
+            out.fillcolour(COLORREF{face.figures()[0].colour}, 0);
+            out.boxa2(0, 0, width - 1, height - 1);
+        }
         return;
     }
     scale_ = scale_for(out.dc, width, height);

@@ -21,6 +21,14 @@ inline bool begin_painting(CWntOut& out) {
     return true;
 }
 
+/// Moves a child that exists to its place and shows it, or hides it.
+inline void place_child(CWnd& child, int x, int y, int width, int height, bool shown = true) {
+    if (!child.m_hWnd)
+        return;
+    child.SetWindowPos(nullptr, x, y, width > 0 ? width : 0, height > 0 ? height : 0, SWP_NOZORDER | SWP_NOACTIVATE);
+    child.ShowWindow(shown ? SW_SHOW : SW_HIDE);
+}
+
 /// Tells the parent by a notify message. The parent may destroy the window on it.
 inline void notify_parent(CWnd& window, UINT code) {
     NMHDR notification = {window.m_hWnd, static_cast<UINT_PTR>(window.GetDlgCtrlID()), code};

@@ -2,6 +2,9 @@
 #include <cmath>
 #include <cstdio>
 
+#include "widgets/gauge_scale.h"
+#include "widgets/views/readout.h"
+#include "widgets/views/scale_parts.h"
 #include "widgets/views/view_parts.h"
 
 // The percent bar: a lying bar over its scale, the percentage written on it.
@@ -42,9 +45,8 @@ Bar lay_out_bar(const GaugeModel& model, const Stage& stage) {
     b.groove = {b.zones.left, b.zones.top + 1, b.zones.right, std::round(b.zones.top + 1 + bar)};
     if (plate > 0) {
         const float wide = std::min(std::max(plate * 4.5f, body.width() * 0.35f), body.width());
-        const float x = std::round(body.centre().x - wide / 2);
-        const float y = std::round(b.groove.top + 1 + gap);
-        b.readout = {x, y, std::round(x + wide), std::min(std::round(y + plate), std::floor(body.top))};
+        b.readout = plate_at(body.centre().x, std::round(b.groove.top + 1 + gap), wide, plate);
+        b.readout.top = std::min(b.readout.top, std::floor(body.top));
     }
     if (b.groove.top < b.groove.bottom + 2)
         b.groove.top = b.groove.bottom + 2;

@@ -1,6 +1,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "widgets/views/readout.h"
+#include "widgets/views/round_scale.h"
+#include "widgets/views/scale_parts.h"
 #include "widgets/views/view_parts.h"
 
 // The analogue dial: a round scale over three quarters of a turn, with a tapered needle.

@@ -1,6 +1,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "widgets/gauge_scale.h"
+#include "widgets/views/scale_parts.h"
 #include "widgets/views/view_parts.h"
 
 // The digital display: seven-segment figures over a lit bar that repeats the scale.

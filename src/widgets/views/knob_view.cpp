@@ -1,6 +1,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "widgets/views/readout.h"
+#include "widgets/views/round_scale.h"
+#include "widgets/views/scale_parts.h"
 #include "widgets/views/view_parts.h"
 
 // The turning knob: a round scale around a cap whose notch points at the value.

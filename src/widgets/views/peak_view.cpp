@@ -1,6 +1,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "widgets/views/readout.h"
+#include "widgets/views/scale_parts.h"
 #include "widgets/views/view_parts.h"
 
 // The peak line: the course of the recent values as upright lines in their zones' colours, the highest one held.
@@ -26,8 +28,7 @@ Plot lay_out_plot(const GaugeModel& model, const Stage& stage) {
     if (body.height() >= 66 && body.width() >= 60) {
         const float tall = std::clamp(std::round(body.height() * 0.13f), 13.0f, 52.0f);
         const float wide = std::min(std::max(tall * 4.5f, body.width() * 0.3f), body.width());
-        const float x = std::round(body.centre().x - wide / 2);
-        p.readout = {x, std::round(body.bottom), std::round(x + wide), std::round(body.bottom + tall)};
+        p.readout = plate_at(body.centre().x, body.bottom, wide, tall);
         body.bottom = p.readout.top + 3;
     } else {
         p.readout = take_lower_readout(body);

@@ -1,6 +1,9 @@
+#include "widgets/views/readout.h"
+
 #include <algorithm>
 #include <cmath>
 
+#include "widgets/views/scale_parts.h"
 #include "widgets/views/view_parts.h"
 
 // The value as a number on a plate, and the places for it.
@@ -56,14 +59,16 @@ void paint_readout(Picture& picture, const GaugeModel& model, const Stage& stage
               &inner);
 }
 
+BoxF plate_at(float middle, float bottom, float wide, float tall) {
+    const float x = std::round(middle - wide / 2);
+    return {x, std::round(bottom), std::round(x + wide), std::round(bottom + tall)};
+}
+
 BoxF take_lower_readout(BoxF& body) {
     constexpr float strip = 11;
     if (body.height() < 3.2f * strip || body.width() < 1.6f * strip)
         return {};
-    const float half = std::min(body.width() / 2, strip * 1.6f);
-    const float x = body.centre().x;
-    const BoxF plate = {std::round(x - half), std::round(body.bottom), std::round(x + half),
-                        std::round(body.bottom + strip)};
+    const BoxF plate = plate_at(body.centre().x, body.bottom, std::min(body.width(), strip * 3.2f), strip);
     body.bottom = plate.top + 1;
     return plate;
 }

@@ -1,6 +1,9 @@
+#include "widgets/views/round_scale.h"
+
 #include <algorithm>
 #include <cmath>
 
+#include "widgets/views/scale_parts.h"
 #include "widgets/views/view_parts.h"
 
 namespace wnt {

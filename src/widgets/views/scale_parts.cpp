@@ -1,7 +1,10 @@
+#include "widgets/views/scale_parts.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
 
+#include "widgets/gauge_scale.h"
 #include "widgets/views/view_parts.h"
 
 // What every scale has: ticks, labels and coloured zones as parts of its length.

@@ -1,6 +1,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "widgets/views/readout.h"
+#include "widgets/views/scale_parts.h"
 #include "widgets/views/view_parts.h"
 
 // The thermometer: a column in a glass tube over a bulb, its scale at the left, its zones at the right.
@@ -37,8 +39,7 @@ Thermometer lay_out_thermometer(const GaugeModel& model, const Stage& stage) {
     } else if (body.width() >= 36) {
         const float tall = std::clamp(body.height() * 0.10f, 12.0f, 56.0f);
         const float wide = std::min(body.width(), tall * 5);
-        const float x = std::round(body.centre().x - wide / 2);
-        t.readout = {x, std::round(body.bottom), std::round(x + wide), std::round(body.bottom + tall)};
+        t.readout = plate_at(body.centre().x, body.bottom, wide, tall);
         body.bottom = t.readout.top + 3;
     }
     t.bulb_radius = std::clamp(std::min(body.width() * 0.16f, body.height() * 0.095f), 2.0f, 90.0f);

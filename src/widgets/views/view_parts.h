@@ -3,9 +3,7 @@
 #include <algorithm>
 #include <numbers>
 #include <string>
-#include <vector>
 
-#include "widgets/gauge_scale.h"
 #include "widgets/views/gauge_view.h"
 
 namespace wnt {
@@ -84,73 +82,7 @@ struct Layout {
 Layout lay_out(const GaugeModel& model, const Stage& stage, bool title_on_bar = false);
 void paint_title(Picture& picture, const GaugeModel& model, const Stage& stage, const Layout& layout);
 
-/// The value in its zone's colour on a sunken plate, the unit behind it when both fit whatever the value.
-void paint_readout(Picture& picture, const GaugeModel& model, const Stage& stage, const BoxF& plate,
-                   bool with_unit = true);
-
-/// In a wide and low space an instrument of this width goes to the left and the readout beside it: takes its place
-/// off the body. Empty when the space is not wide enough.
-BoxF take_side_readout(BoxF& body, float instrument_width);
-
-/// Takes a strip for a small number off the lower end of a body that has no other place for one.
-BoxF take_lower_readout(BoxF& body);
-
-/// Either of them, for a round instrument that is too small to carry a readout; empty when it is not.
-BoxF take_outer_readout(BoxF& body);
-
 /// A frame of one pixel around something sunk, under light from the top left.
 void paint_sunken_edge(Picture& picture, const BoxF& box, const Theme& theme);
-
-/// The zones of the whole scale as boxes along a straight scale, from its low to its high end.
-void paint_zone_strip(Picture& picture, const GaugeModel& model, const BoxF& strip, bool upright);
-
-/// Where a value lies on the scale, 0 to 1.
-float fraction_of(const GaugeModel& model, std::int32_t value);
-
-struct Tick {
-    float fraction;
-    std::int32_t value;
-    bool major; ///< has a label
-};
-/// The scale's ticks, thinned so that they and the labels keep their least distances on `length` pixels.
-std::vector<Tick> ticks_of(const GaugeModel& model, float length, float least_tick, float least_label);
-
-/// A coloured run of the scale, as a part of it from `from` up to `to`.
-struct ScaleZone {
-    float from;
-    float to;
-    Colour colour;
-};
-std::vector<ScaleZone> zones_of(const GaugeModel& model);
-
-std::string number_text(std::int64_t value);
-/// The widest label of the scale.
-float widest_label(const GaugeModel& model, TextMeter& meter, int tenths);
-/// The size, at most `tenths`, at which no label is wider than this; 0 when that would not be legible.
-int label_size_for(const GaugeModel& model, TextMeter& meter, int tenths, float width);
-
-/// The turn of a round scale, from lower left clockwise to lower right.
-struct RoundScale {
-    PointF centre;
-    float radius;
-
-    float angle(float fraction) const;
-    PointF at(float fraction, float distance) const;
-};
-
-/// Where the ticks and labels of a round scale lie, as distances from the centre.
-struct RoundTicks {
-    float outer;
-    float major_inner;
-    float minor_inner;
-    float label; ///< outer or inner edge of the labels
-    bool labels_inside;
-    int label_size; ///< 0: none
-};
-void paint_round_ticks(Picture& picture, const GaugeModel& model, const Stage& stage, const RoundScale& scale,
-                       const RoundTicks& ticks);
-void paint_round_zones(Picture& picture, const GaugeModel& model, const RoundScale& scale, float inner, float outer);
-/// A ring lit from the top left.
-void paint_bezel(Picture& picture, PointF centre, float inner, float outer, Colour dark, Colour light);
 
 } // namespace wnt

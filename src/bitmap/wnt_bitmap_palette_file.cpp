@@ -1,5 +1,4 @@
 // Loading and saving of CWntBitmapPalette.
-#include "bitmap/bitmap_format.h"
 #include "bitmap/file_choice.h"
 #include "bitmap/log_palette.h"
 #include "bitmap/wnt_bitmap_palette.h"
@@ -8,7 +7,6 @@
 
 namespace {
 
-constexpr WORD palette_version = 0x300;
 constexpr FOURCC palette_form = mmioFOURCC('P', 'A', 'L', ' ');
 constexpr FOURCC data_id = mmioFOURCC('d', 'a', 't', 'a');
 constexpr char filter[] = "Palette files (*.PAL)|*.PAL|All files (*.*)|*.*||";
@@ -68,7 +66,7 @@ BOOL CWntBitmapPalette::Load(HMMIO riff) {
     if (!block || ::mmioRead(riff, reinterpret_cast<char*>(block.get()), size) != size)
         return FALSE;
     auto* colours = reinterpret_cast<LOGPALETTE*>(block.get());
-    if (colours->palVersion != palette_version || colours->palNumEntries == 0 ||
+    if (colours->palVersion != wnt::LogPalette::version || colours->palNumEntries == 0 ||
         wnt::LogPalette::bytes_of(colours->palNumEntries) > bytes)
         return FALSE;
     return replace(colours);
