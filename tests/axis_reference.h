@@ -23,10 +23,10 @@ inline constexpr int value_ticks_start = 2, value_labels_start = 8, time_ticks_s
 class AxisReference {
 public:
     AxisReference()
-        : shadow_(::CreatePen(PS_SOLID, 1, ::GetSysColor(COLOR_BTNSHADOW))),
+        : font_(::CreateFontA(-10, 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, "Arial")),
+          shadow_(::CreatePen(PS_SOLID, 1, ::GetSysColor(COLOR_BTNSHADOW))),
           light_(::CreatePen(PS_SOLID, 1, ::GetSysColor(COLOR_BTNHIGHLIGHT))),
-          ground_(::CreateSolidBrush(RGB(128, 128, 128))),
-          font_(::CreateFontA(-10, 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, "Arial")) {}
+          ground_(::CreateSolidBrush(RGB(128, 128, 128))) {}
     ~AxisReference() {
         for (HGDIOBJ object : {shadow_, light_, ground_, font_})
             ::DeleteObject(object);
@@ -37,6 +37,11 @@ public:
     void paint(HDC dc, int width, int height, const AxisLook& look, const std::vector<AxisMark>& marks) const {
         static constexpr UINT alignments[] = {TA_CENTER | TA_BOTTOM, TA_RIGHT | TA_BASELINE, TA_CENTER | TA_TOP,
                                               TA_LEFT | TA_BASELINE};
+        const bool horizontal = look.position % 2 == 0;
+        const auto at = [&](LONG along, LONG depth) {
+            const LONG across = look.position > 1 ? depth : (horizontal ? height : width) - depth;
+            return horizontal ? POINT{along, across} : POINT{across, along};
+        };
         const int saved = ::SaveDC(dc);
         ::SelectObject(dc, ground_);
         ::PatBlt(dc, 1, 1, width - 2, height - 2, PATCOPY);
@@ -48,12 +53,11 @@ public:
         ::SetBkMode(dc, TRANSPARENT);
         ::SetTextAlign(dc, alignments[look.position]);
         for (const AxisMark& mark : marks) {
-            const POINT from = at(width, height, look.position, mark.pixel, look.tick_start);
-            const POINT to = at(width, height, look.position, mark.pixel, look.tick_start + mark.length);
-            const int right = look.position % 2 == 0;
+            const POINT from = at(mark.pixel, look.tick_start);
+            const POINT to = at(mark.pixel, look.tick_start + mark.length);
             line(dc, shadow_, from.x, from.y, to.x, to.y);
-            line(dc, light_, from.x + right, from.y + !right, to.x + right, to.y + !right);
-            const POINT text = at(width, height, look.position, mark.pixel, look.label_start);
+            line(dc, light_, from.x + horizontal, from.y + !horizontal, to.x + horizontal, to.y + !horizontal);
+            const POINT text = at(mark.pixel, look.label_start);
             if (!mark.label.empty())
                 ::TextOutA(dc, text.x, text.y, mark.label.c_str(), static_cast<int>(mark.label.size()));
         }
@@ -61,24 +65,11 @@ public:
     }
 
 private:
-    static POINT at(int width, int height, int position, LONG along, LONG depth) {
-        switch (position) {
-        case 0:
-            return {along, height - depth};
-        case 1:
-            return {width - depth, along};
-        case 2:
-            return {along, depth};
-        default:
-            return {depth, along};
-        }
-    }
-
     static void line(HDC dc, HGDIOBJ pen, int x1, int y1, int x2, int y2) {
         ::SelectObject(dc, pen);
         ::MoveToEx(dc, x1, y1, nullptr);
         ::LineTo(dc, x2, y2);
     }
 
-    HGDIOBJ shadow_, light_, ground_, font_;
+    HGDIOBJ font_, shadow_, light_, ground_;
 };

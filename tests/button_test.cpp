@@ -2,7 +2,6 @@
 
 #include <climits>
 #include <cstring>
-#include <string>
 
 namespace {
 
@@ -22,140 +21,104 @@ protected:
 
 class ButtonTest : public WidgetTest {
 protected:
-    static void script(CWntButton& button, std::initializer_list<const char*> lines) {
+    void script(std::initializer_list<const char*> lines) {
         for (const char* line : lines)
-            button.load(line, 0);
-        button.load("", 2);
+            button_.load(line, 0);
+        button_.load("", 2);
     }
 
-    static int border_of(CWntButton& button) {
+    Tcbtn_properties properties() {
         Tcbtn_properties p;
-        EXPECT_EQ(button.getproperties(&p), 1);
-        return p.bordertype;
+        EXPECT_EQ(button_.getproperties(&p), 1);
+        return p;
     }
 
-    // Through the surface, as a pointer would.
-    static void mouse(CWntButton& button, UINT message, int x, int y) {
-        button.GetDlgItem(surface_id)->SendMessage(message, 0, MAKELPARAM(x, y));
+    // Through the surface, as a pointer would; tells the border type then.
+    int mouse(UINT message, int x, int y) {
+        button_.GetDlgItem(surface_id)->SendMessage(message, 0, MAKELPARAM(x, y));
+        return properties().bordertype;
     }
+
+    CWntButton button_;
 };
 
-constexpr COLORREF blue = RGB(0, 0, 255);
 constexpr COLORREF dark_blue = RGB(0, 0, 128);
-constexpr COLORREF black = RGB(0, 0, 0);
-constexpr COLORREF red = RGB(255, 0, 0);
-constexpr COLORREF white = RGB(255, 255, 255);
 constexpr COLORREF yellow = RGB(255, 255, 0);
 
 } // namespace
 
 TEST_F(ButtonTest, BorderIsMitredAndLitFromTheTopLeft) {
-    CWntButton button;
-    open(button, 60, 30);
-    script(button, {":TITLE="});
-    const Pixels up = pixels_of(button);
-    for (int i = 0; i < 3; ++i) {
-        for (const CPoint lit : {CPoint(30, i), CPoint(i, 15), CPoint(i, i)})
-            EXPECT_EQ(up.at(lit.x, lit.y), blue) << i;
-        for (const CPoint dark : {CPoint(30, 29 - i), CPoint(59 - i, 15), CPoint(59 - i, 29 - i)})
-            EXPECT_EQ(up.at(dark.x, dark.y), black) << i;
-    }
-    EXPECT_EQ(up.at(55, 5), dark_blue);
+    open(button_, 10, 8);
+    script({":TITLE="});
+    const Pixels up = pixels_of(button_);
+    EXPECT_EQ(letters(up.values, up.width, {{RGB(0, 0, 255), 'l'}, {0, 'd'}, {dark_blue, '.'}}),
+              "lllllllll.\nllllllll.d\nlllllll.dd\nlll....ddd\nlll....ddd\nlldddddddd\nlddddddddd\ndddddddddd\n");
 
-    script(button, {":BORDERTYPE=FLAT", ":CLRBORDER=RED", ":FRAME=X", ":CLRBACK=BLACK", ":CLRTEXT=WHITE",
-                    ":BORDERHEIGHT=1", ":TITLE=.", ":TITLESTYLE=PLAIN"});
-    full_repaint(button);
-    const Pixels flat = pixels_of(button);
-    EXPECT_EQ(flat.count(red), 2 * (60 + 28) + 2 * (58 + 26) - 1); // frame, border less its upper right corner
-    EXPECT_GT(flat.count(white), 0);                               // the title
+    button_.MoveWindow(0, 0, 60, 30);
+    script({":BORDERTYPE=FLAT", ":CLRBORDER=RED", ":FRAME=X", ":CLRBACK=BLACK", ":CLRTEXT=WHITE", ":BORDERHEIGHT=1",
+            ":TITLE=.", ":TITLESTYLE=PLAIN"});
+    full_repaint(button_);
+    const Pixels flat = pixels_of(button_);
+    // Frame, border less its upper right corner, and the title.
+    EXPECT_EQ(flat.count(RGB(255, 0, 0)), 2 * (60 + 28) + 2 * (58 + 26) - 1);
+    EXPECT_GT(flat.count(RGB(255, 255, 255)), 0);
 }
 
 TEST_F(ButtonTest, TitleStylesShiftTheirUnderlines) {
-    CWntButton button;
-    open(button, 320, 60);
-    // Only the underline is left of a title without a text: colour, row above the inner lower edge, first column,
-    // length.
-    struct Line {
-        COLORREF colour;
-        int row, from, length;
-    };
+    open(button_, 320, 60);
     const COLORREF sun = RGB(0, 255, 0);
     const COLORREF shadow = RGB(255, 0, 255);
+    // Only the underline is left of a title without a text.
     const struct {
         const char* style;
-        std::vector<Line> lines;
-    } rows[] = {{":TITLESTYLE=PLAIN", {{yellow, 1, 0, 201}}},
-                {":TITLESTYLE=BOLD", {{yellow, 1, 0, 202}}},
-                {":TITLESTYLE=OUTSET", {{sun, 2, -1, 201}, {shadow, 0, 1, 201}, {yellow, 1, 0, 201}}},
-                {":TITLESTYLE=INSET", {{shadow, 2, -1, 201}, {sun, 0, 1, 201}, {yellow, 1, 0, 201}}}};
+        COLORREF colour;
+        int row, first, last; // the row above the inner lower edge, the columns from the inner left one
+    } rows[] = {{":TITLESTYLE=PLAIN", yellow, 1, 0, 200},  {":TITLESTYLE=BOLD", yellow, 1, 0, 201},
+                {":TITLESTYLE=OUTSET", sun, 2, -1, 199},   {":TITLESTYLE=OUTSET", shadow, 0, 1, 201},
+                {":TITLESTYLE=OUTSET", yellow, 1, 0, 200}, {":TITLESTYLE=INSET", shadow, 2, -1, 199},
+                {":TITLESTYLE=INSET", sun, 0, 1, 201},     {":TITLESTYLE=INSET", yellow, 1, 0, 200}};
     for (const auto& row : rows) {
-        script(button, {":TITLE=", ":CLRSUN=GREEN", ":CLRSHADOW=MAGENTA", ":BORDERHEIGHT=0", row.style});
-        Tcbtn_properties p;
-        button.getproperties(&p);
+        script({":TITLE=", ":CLRSUN=GREEN", ":CLRSHADOW=MAGENTA", ":BORDERHEIGHT=0", row.style});
+        Tcbtn_properties p = properties();
         p.underline = 1;
-        button.setproperties(&p);
-        const Pixels shown = pixels_of(button);
-        for (const Line& line : row.lines) {
-            const int y = 59 - (1 + line.row); // the inner rectangle begins at 1, 1
-            EXPECT_EQ(shown.at(1 + line.from, y), line.colour) << row.style;
-            EXPECT_EQ(shown.at(line.from + line.length, y), line.colour) << row.style;
-            EXPECT_EQ(shown.at(1 + line.from + line.length, y), dark_blue) << row.style;
-        }
+        button_.setproperties(&p);
+        const Pixels shown = pixels_of(button_);
+        const int x = 1, y = 59 - (1 + row.row); // the inner rectangle begins at 1, 1
+        EXPECT_EQ(shown.at(x + row.first, y), row.colour) << row.style;
+        EXPECT_EQ(shown.at(x + row.last, y), row.colour) << row.style;
+        EXPECT_EQ(shown.at(x + row.last + 1, y), dark_blue) << row.style;
     }
 }
 
 TEST_F(ButtonTest, PressMovesThePictureAndReleaseBringsItBack) {
-    CWntButton button;
-    open(button, 120, 40);
-    script(button, {":TITLESTYLE=PLAIN", ":TITLE=o", ":ALIGN=CENTERCENTER"});
-    const Pixels up = pixels_of(button);
-    mouse(button, WM_LBUTTONDOWN, 50, 20);
-    const Pixels down = pixels_of(button);
-    EXPECT_EQ(border_of(button), 3);
+    open(button_, 120, 40);
+    script({":TITLESTYLE=PLAIN", ":TITLE=o", ":ALIGN=CENTERCENTER"});
+    const Pixels up = pixels_of(button_);
+    EXPECT_EQ(mouse(WM_LBUTTONDOWN, 50, 20), 3);
+    const Pixels down = pixels_of(button_);
     EXPECT_EQ(down.count(yellow), up.count(yellow));
     for (int y = 6; y < 30; ++y)
         for (int x = 6; x < 110; ++x)
             ASSERT_EQ(up.at(x, y) == yellow, down.at(x + 2, y + 2) == yellow) << x << "," << y;
-    mouse(button, WM_LBUTTONDOWN, 50, 20); // a second press finds it sunk
-    EXPECT_EQ(pixels_of(button), down);
-    mouse(button, WM_LBUTTONUP, 50, 20);
-    EXPECT_EQ(pixels_of(button), up);
+    mouse(WM_LBUTTONDOWN, 50, 20); // a second press finds it sunk
+    EXPECT_EQ(pixels_of(button_), down);
+    mouse(WM_LBUTTONUP, 50, 20);
+    EXPECT_EQ(pixels_of(button_), up);
 }
 
-TEST_F(ButtonTest, EdgesOutsideAndFixedDoNothing) {
-    CWntButton button;
-    open(button, 50, 30);
-    mouse(button, WM_LBUTTONDOWN, 0, 10);
-    mouse(button, WM_LBUTTONDOWN, 10, 0);
-    EXPECT_EQ(border_of(button), 2);
-    mouse(button, WM_LBUTTONDOWN, 10, 10);
-    mouse(button, WM_LBUTTONUP, 60, 10); // released outside: stays sunk
-    EXPECT_EQ(border_of(button), 3);
-    mouse(button, WM_LBUTTONUP, 10, 10);
-    script(button, {":BORDERSTYLE=LEFT TOP", ":FIXED=0"});
-    mouse(button, WM_LBUTTONDOWN, 10, 10);
-    EXPECT_EQ(border_of(button), 2);
-    script(button, {":BORDERSTYLE=LEFT RIGHT TOP BOTTOM", ":FIXED=0", ":VISIBLE=0"});
-    mouse(button, WM_LBUTTONDOWN, 10, 10);
-    EXPECT_EQ(border_of(button), 2); // nothing is drawn, so nothing sinks
-}
-
-TEST_F(ButtonTest, PropertiesRepaintOnlyWhenTheyDiffer) {
-    CWntButton button;
-    open(button, 80, 30);
-    Tcbtn_properties p;
-    button.getproperties(&p);
-    cover(button, surface_id, poison);
-    for (const std::uint8_t underline : {std::uint8_t{0}, std::uint8_t{1}}) {
-        p.underline = underline;
-        button.setproperties(&p);
-        EXPECT_EQ(pixels_of(button).count(poison), underline ? 0 : 80 * 30);
-    }
+TEST_F(ButtonTest, EdgesOutsideAndHiddenDoNothing) {
+    open(button_, 50, 30);
+    EXPECT_EQ(mouse(WM_LBUTTONDOWN, 0, 10), 2);
+    EXPECT_EQ(mouse(WM_LBUTTONDOWN, 10, 0), 2);
+    EXPECT_EQ(mouse(WM_LBUTTONDOWN, 10, 10), 3);
+    EXPECT_EQ(mouse(WM_LBUTTONUP, 60, 10), 3); // released outside: stays sunk
+    EXPECT_EQ(mouse(WM_LBUTTONUP, 10, 10), 2);
+    script({":VISIBLE=0"});
+    EXPECT_EQ(mouse(WM_LBUTTONDOWN, 10, 10), 2); // nothing is drawn, so nothing sinks
 }
 
 TEST_F(ButtonTest, AnyBlockAndSizeIsHarmless) {
-    CWntButton button;
-    open(button, 80, 30);
+    open(button_, 80, 30);
     Tcbtn_properties p;
     const int odd[] = {INT_MIN, INT_MIN + 1, -7, 0, 3, 255, INT_MAX - 1, INT_MAX};
     for (const int value : odd) {
@@ -169,16 +132,15 @@ TEST_F(ButtonTest, AnyBlockAndSizeIsHarmless) {
         p.clrback = p.clrtext = p.clrsun = p.clrshadow = p.clrborder = value;
         p.fixed = 0;
         for (const CSize size : {CSize(80, 30), CSize(4, 4), CSize(0, 0), CSize(1, 300)}) {
-            button.SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
-            button.setproperties(&p);
-            mouse(button, WM_LBUTTONDOWN, 2, 2);
-            mouse(button, WM_LBUTTONUP, 2, 2);
-            full_repaint(button);
+            button_.SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
+            button_.setproperties(&p);
+            mouse(WM_LBUTTONDOWN, 2, 2);
+            mouse(WM_LBUTTONUP, 2, 2);
+            full_repaint(button_);
         }
     }
     CWntButton* volatile none = nullptr;
-    EXPECT_EQ(none->getproperties(&p) + button.getproperties(nullptr), 0);
-    EXPECT_EQ(none->load(":TITLE=x", 0), 0);
+    EXPECT_EQ(none->getproperties(&p) + none->load(":TITLE=x", 0) + button_.getproperties(nullptr), 0);
 }
 
 TEST_F(ButtonTest, ScrollBarMovesItsOwnThumb) {

@@ -4,7 +4,6 @@
 #include <windows.h>
 
 #include <chrono>
-#include <cstdio>
 #include <string>
 
 class CalendarReference {
@@ -65,11 +64,6 @@ private:
         ::SelectObject(dc, previous);
         ::DeleteObject(font);
     }
-    static std::string number(const char* format, int value) {
-        char digits[16];
-        std::snprintf(digits, sizeof digits, format, value);
-        return digits;
-    }
 
     void headline(HDC dc, std::chrono::year_month_day shown) const {
         constexpr COLORREF blue = RGB(0, 0, 128);
@@ -78,7 +72,7 @@ private:
         const auto centred = [&](int x, const std::string& what) {
             text(dc, 72, TA_TOP | TA_CENTER, x, 25 - 3, blue, what);
         };
-        centred(8, number("%02d", int{shown.year()} % 100));
+        centred(8, std::to_string(int{shown.year()}).substr(2));
         const int step = (width_ - 1) / 7;
         for (int i = 0; i < 7; ++i)
             centred(16 + i * step + step / 2, names[i]);
@@ -93,8 +87,7 @@ private:
             if (month(week) == ended)
                 continue;
             hline(dc, 0, 16, 34 + row * 30, 0);
-            text(dc, 80, TA_BASELINE | TA_CENTER, 8, 34 + row * 30 - 10, 0,
-                 number("%d", static_cast<int>(unsigned{ended})));
+            text(dc, 80, TA_BASELINE | TA_CENTER, 8, 34 + row * 30 - 10, 0, std::to_string(unsigned{ended}));
         }
     }
 
@@ -107,10 +100,10 @@ private:
             : weekend    ? grey
                          : RGB(255, 255, 255));
         const COLORREF ink = day == today ? RGB(0, 128, 0) : weekend ? RGB(128, 0, 0) : 0;
-        text(dc, 72, TA_LEFT | TA_BOTTOM, x + 2, y + 12, ink, number("%d", static_cast<int>(unsigned{date.day()})));
+        text(dc, 72, TA_LEFT | TA_BOTTOM, x + 2, y + 12, ink, std::to_string(unsigned{date.day()}));
         if (weekday == 0) {
             const int days = static_cast<int>((day - Days(date.year() / 1 / 1)).count());
-            text(dc, 144, TA_LEFT | TA_BOTTOM, x + 10, y + 29, grey, number("%d", days / 7 + 2));
+            text(dc, 144, TA_LEFT | TA_BOTTOM, x + 10, y + 29, grey, std::to_string(days / 7 + 2));
         }
         const std::chrono::year_month_day first(monday), next(monday + std::chrono::weeks(1));
         if (first.month() != next.month())

@@ -4,13 +4,36 @@
 
 #include <climits>
 #include <string>
-#include <type_traits>
 #include <utility>
 
 namespace {
 
 using std::chrono::weeks;
 using Days = CalendarReference::Days;
+
+/// Keeps the entries of the menus that open; a number of steps down and Enter choose one.
+class ChoosingCalendar : public CWntCalendar {
+public:
+    std::vector<std::pair<UINT, std::string>> entries;
+    int steps = 0;
+    bool chosen = false;
+
+private:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        const HMENU menu = message == WM_INITMENUPOPUP ? reinterpret_cast<HMENU>(wParam) : nullptr;
+        for (int i = 0; i < ::GetMenuItemCount(menu); ++i) {
+            char text[80] = {};
+            ::GetMenuStringA(menu, i, text, sizeof text, MF_BYPOSITION);
+            entries.emplace_back(::GetMenuItemID(menu, i), text);
+        }
+        if (message == WM_ENTERIDLE && !std::exchange(chosen, true)) {
+            for (int i = 0; i < steps; ++i)
+                PostMessage(WM_KEYDOWN, VK_DOWN);
+            PostMessage(WM_KEYDOWN, steps ? VK_RETURN : VK_ESCAPE);
+        }
+        return CWntCalendar::WindowProc(message, wParam, lParam);
+    }
+};
 
 class CalendarTest : public WidgetTest {
 protected:
@@ -34,18 +57,17 @@ protected:
     void drag(UINT message, int y) { calendar_.SendMessage(message, MK_LBUTTON, MAKELPARAM(8, y)); }
 
     void expect_shown(Days shown) {
-        const Pixels pixels = pixels_of(calendar_);
-        Picture expected(width, height);
-        CalendarReference(width, height).paint(expected.dc(), shown, today_);
-        const auto values = expected.values();
-        int different = 0; // between the strips
-        for (int i = 17 * width; i < (height - 17) * width; ++i)
-            different += pixels.values[static_cast<std::size_t>(i)] != values[static_cast<std::size_t>(i)];
-        EXPECT_EQ(different, 0) << (shown - today_).count() << " days";
+        Pixels pixels = pixels_of(calendar_);
+        Picture picture(width, height);
+        CalendarReference(width, height).paint(picture.dc(), shown, today_);
+        const auto expected = picture.values();
+        std::copy_n(expected.begin(), 17 * width, pixels.values.begin()); // the strips
+        std::copy_n(expected.end() - 17 * width, 17 * width, pixels.values.end() - 17 * width);
+        EXPECT_TRUE(pixels.values == expected) << (shown - today_).count() << " days";
     }
 
     Days today_;
-    CWntCalendar calendar_;
+    ChoosingCalendar calendar_;
 };
 
 TEST_F(CalendarTest, ShowsTheWeeksFromToday) {
@@ -53,13 +75,9 @@ TEST_F(CalendarTest, ShowsTheWeeksFromToday) {
     const Pixels pixels = pixels_of(calendar_);
     const bool sunday = std::chrono::weekday(today_) == std::chrono::Sunday;
     EXPECT_EQ(pixels.count(CalendarReference::today_fill) > 500, !sunday);
-    for (const int top : {0, height - 17}) { // the arrows
-        int ink = 0;
-        for (int y = top; y < top + 17; ++y)
-            for (int x = 130; x < 170; ++x)
-                ink += pixels.at(x, y) == ::GetSysColor(COLOR_BTNTEXT);
-        EXPECT_GT(ink, 20);
-    }
+    const auto ink = [](auto row) { return std::count(row, row + 17 * width, ::GetSysColor(COLOR_BTNTEXT)); };
+    EXPECT_GT(ink(pixels.values.begin()), 20); // the arrows
+    EXPECT_GT(ink(pixels.values.end() - 17 * width), 20);
 }
 
 TEST_F(CalendarTest, ScrollsByWeeks) {
@@ -76,82 +94,38 @@ TEST_F(CalendarTest, ScrollsByWeeks) {
 }
 
 TEST_F(CalendarTest, DragsInTheMonthColumn) {
-    drag(WM_LBUTTONDOWN, 60);
-    EXPECT_EQ(::GetCapture(), calendar_.m_hWnd);
-    drag(WM_MOUSEMOVE, 89); // less than a row
-    expect_shown(today_);
-    drag(WM_MOUSEMOVE, 125); // two rows down
-    expect_shown(today_ + weeks(2));
-    drag(WM_MOUSEMOVE, -65); // four rows up
-    expect_shown(today_ - weeks(4));
-    drag(WM_LBUTTONUP, 100);
-    calendar_.UpdateWindow();
-    EXPECT_NE(::GetCapture(), calendar_.m_hWnd);
-    expect_shown(today_ - weeks(4));
+    const auto expect_dragged = [this](UINT message, int y, int shown) {
+        drag(message, y);
+        calendar_.UpdateWindow();
+        expect_shown(today_ + weeks(shown));
+        EXPECT_EQ(::GetCapture() == calendar_.m_hWnd, message != WM_LBUTTONUP);
+    };
+    expect_dragged(WM_LBUTTONDOWN, 60, 0);
+    expect_dragged(WM_MOUSEMOVE, 89, 0); // less than a row
+    expect_dragged(WM_MOUSEMOVE, 125, 2);
+    expect_dragged(WM_MOUSEMOVE, -65, -4);
+    expect_dragged(WM_LBUTTONUP, 100, -4);
 
-    drag(WM_LBUTTONDOWN, 60);
-    drag(WM_MOUSEMOVE, 125);
+    expect_dragged(WM_LBUTTONDOWN, 60, -4);
+    expect_dragged(WM_MOUSEMOVE, 125, -2);
     ::SetCapture(host_.m_hWnd); // the drag is taken away
     ::ReleaseCapture();
     calendar_.UpdateWindow();
     expect_shown(today_ - weeks(4));
-    drag(WM_LBUTTONDOWN, 60);
-    drag(WM_LBUTTONUP, 60);
-    expect_shown(today_ - weeks(4));
+    expect_dragged(WM_LBUTTONDOWN, 60, -4);
+    expect_dragged(WM_LBUTTONUP, 60, -4);
 }
-
-TEST_F(CalendarTest, MonthCommandsKeepTheDay) {
-    const std::chrono::year_month_day date(today_);
-    Days shown = today_;
-    for (unsigned month = 12; month >= 1; --month) {
-        const std::chrono::year_month_day before(shown);
-        calendar_.SendMessage(WM_COMMAND, 100 + month);
-        calendar_.UpdateWindow();
-        const Days first = date.year() / std::chrono::month(month) / 1;
-        shown = first + std::chrono::days(unsigned{before.day()} - 1); // may run on beyond the month's end
-        expect_shown(shown);
-    }
-}
-
-// The entries of the menu that opened last; a number of steps down and Enter choose one.
-struct MenuAnswer {
-    static inline std::vector<std::pair<UINT, std::string>> entries;
-    static inline int steps = 0;
-    static inline bool chosen = false;
-
-    static LRESULT CALLBACK hook(int code, WPARAM wParam, LPARAM lParam) {
-        const auto& message = *reinterpret_cast<const CWPSTRUCT*>(lParam);
-        if (message.message == WM_INITMENUPOPUP)
-            read(reinterpret_cast<HMENU>(message.wParam));
-        if (message.message == WM_ENTERIDLE && !std::exchange(chosen, true)) {
-            for (int i = 0; i < steps; ++i)
-                ::PostMessageA(message.hwnd, WM_KEYDOWN, VK_DOWN, 0);
-            ::PostMessageA(message.hwnd, WM_KEYDOWN, steps ? VK_RETURN : VK_ESCAPE, 0);
-        }
-        return ::CallNextHookEx(nullptr, code, wParam, lParam);
-    }
-    static void read(HMENU menu) {
-        for (int i = 0; i < ::GetMenuItemCount(menu); ++i) {
-            char text[80] = {};
-            ::GetMenuStringA(menu, i, text, sizeof text, MF_BYPOSITION);
-            entries.emplace_back(::GetMenuItemID(menu, i), text);
-        }
-    }
-};
 
 TEST_F(CalendarTest, MenusOfTheRegions) {
-    const std::unique_ptr<std::remove_pointer_t<HHOOK>, decltype(&::UnhookWindowsHookEx)> hook(
-        ::SetWindowsHookExA(WH_CALLWNDPROC, &MenuAnswer::hook, nullptr, ::GetCurrentThreadId()),
-        &::UnhookWindowsHookEx);
+    const auto& entries = calendar_.entries;
     const auto open_menu = [&](int x, int y, int steps) {
-        MenuAnswer::entries.clear();
-        MenuAnswer::steps = steps;
-        MenuAnswer::chosen = false;
+        calendar_.entries.clear();
+        calendar_.steps = steps;
+        calendar_.chosen = false;
         click(x, y, WM_RBUTTONDOWN);
         for (MSG message; ::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE);)
             ::DispatchMessageA(&message);
     };
-    const auto& entries = MenuAnswer::entries;
     open_menu(150, 5, 0);
     open_menu(150, height - 5, 0);
     EXPECT_TRUE(entries.empty()); // none on the strips
@@ -170,7 +144,7 @@ TEST_F(CalendarTest, MenusOfTheRegions) {
         commands.push_back(entry.second.empty() ? 0 : entry.first);
     EXPECT_EQ(commands, (std::vector<UINT>{112, 113, 114, 0, 120, 0, 120}));
 
-    open_menu(8, 100, 3);
+    open_menu(8, 100, 3); // March
     ASSERT_EQ(entries.size(), 14u);
     EXPECT_EQ(entries[2], std::pair(103u, std::string("M\xE4rz")));
     EXPECT_EQ(entries[11], std::pair(112u, std::string("Dezember")));

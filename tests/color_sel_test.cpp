@@ -8,25 +8,11 @@ namespace {
 constexpr int surface_id = 100;
 constexpr int list_id = 101;
 
-// A host that keeps what it is notified of.
-class PickingHost : public CWnd {
-public:
-    std::vector<NMHDR> notified;
-
-protected:
-    BOOL OnNotify(WPARAM, LPARAM lParam, LRESULT*) override {
-        notified.push_back(*reinterpret_cast<NMHDR*>(lParam));
-        return TRUE;
-    }
-};
-
 class ColorSelTest : public WidgetTest {
 protected:
     void SetUp() override {
         WidgetTest::SetUp();
-        ASSERT_TRUE(picker_.Create(nullptr, "picker", WS_CHILD | WS_VISIBLE, CRect(0, 0, 400, 300), &host_, 3));
-        ASSERT_TRUE(selector_.Create(nullptr, "Colours", WS_CHILD | WS_VISIBLE, CRect(0, 0, 160, 90), &picker_, 77));
-        full_repaint(selector_);
+        open(selector_, 160, 90);
     }
 
     // The pointer at a position of the surface, counted from its upper left, and a click there.
@@ -41,7 +27,6 @@ protected:
         return selector_.GetSelectedColorID();
     }
 
-    PickingHost picker_;
     CWntColorSel selector_;
 };
 
@@ -57,9 +42,8 @@ TEST_F(ColorSelTest, ShowsThePaletteAndTellsPicks) {
     EXPECT_EQ(pick(50, 45), 2);
     EXPECT_EQ(pick(155, 85), 15);
     EXPECT_EQ(pick(50, 10), -1); // the strip
-    ASSERT_EQ(picker_.notified.size(), 3u);
-    const NMHDR& told = picker_.notified[0];
-    EXPECT_TRUE(told.hwndFrom == selector_.m_hWnd && told.idFrom == 77 && told.code == 1);
+    const auto told = testing::FieldsAre(selector_.m_hWnd, 1u, 1u);
+    EXPECT_THAT(host_.notified, testing::ElementsAre(told, told, told));
     EXPECT_EQ(pick(130, 45), 6);
     EXPECT_EQ(pixels_of(selector_).at(80, 15), RGB(255, 0, 0)); // the sample
     selector_.SetSelectedColor(5);

@@ -1,10 +1,13 @@
+// The DIB file, and both bitmap classes over files of every kind.
 #include <zopwnt.h>
 
 #include <GL/gl.h>
 #include <gmock/gmock.h>
 
-#include <climits>
+#include <chrono>
+#include <cstdio>
 #include <cstring>
+#include <random>
 
 #include "bitmap_files.h"
 #include "pixels.h"
@@ -18,12 +21,35 @@ Bytes bits_of(const CDibFile& dib, std::size_t count) {
     return {bits, bits + count};
 }
 
-// Of rows that are not padded the first bytes are read and written; of a top-down bitmap the whole section.
-TEST(DibFile, LoadsAndSavesEveryKindOfFile) {
+// Of a DIB file's rows that are not padded the first bytes are read and written; of a top-down one the whole section.
+TEST(Bitmaps, ShowAndSaveEveryKindOfFile) {
     for (const BitmapFile& file : all_bitmap_files()) {
         SCOPED_TRACE(testing::Message() << file.bits << " bits, width " << file.width << ", core " << file.core);
         const Bytes bytes = file.bytes();
         const TemporaryFile disk(bytes);
+        const int height = std::abs(file.height);
+        Picture picture(file.width, height), large(2 * file.width, 3 * height);
+        const auto check_pictures = [&] {
+            for (int i = 0; i < file.width * height; ++i)
+                ASSERT_EQ(picture.at(i % file.width, i / file.width), file.colour_at(i % file.width, i / file.width));
+            EXPECT_EQ(large.at(2 * file.width - 1, 0), picture.at(file.width - 1, 0));
+            picture.clear(0);
+            large.clear(0);
+        };
+        CWntBitmap bitmap;
+        ASSERT_TRUE(bitmap.Load(disk.name()));
+        bitmap.Draw(CDC::FromHandle(picture.dc()), 0, 0);
+        bitmap.Draw(CDC::FromHandle(large.dc()), 0, 0, 2 * file.width, 3 * height);
+        check_pictures();
+        CWntBitmapPalette palette;
+        const UINT colours = file.bits == 8 ? std::min(file.colours(), 256U) : file.colours();
+        ASSERT_EQ(palette.Create(&bitmap), colours > 0);
+        PALETTEENTRY last = {}; // stays black where there is none
+        palette.GetPaletteEntries(colours - 1, 1, &last);
+        EXPECT_EQ(last.peRed, colours ? file.colour_byte(colours - 1, 2) : 0);
+        EXPECT_EQ(last.peBlue, colours ? file.colour_byte(colours - 1, 0) : 0);
+        EXPECT_EQ(palette.GetNumColors(), static_cast<int>(colours));
+
         CDibFile dib;
         ASSERT_EQ(dib.Load(disk.name()), !file.core);
         EXPECT_EQ(dib.GetLastError(), file.core ? 6 : 0);
@@ -31,7 +57,14 @@ TEST(DibFile, LoadsAndSavesEveryKindOfFile) {
             continue;
         EXPECT_TRUE(dib.GetWidth() == file.width && dib.GetHeight() == file.height);
         EXPECT_EQ(dib.GetBitsPerPixel(), file.bits);
-        const std::size_t unpadded = static_cast<std::size_t>(file.bits * file.width * std::abs(file.height) / 8);
+        if (file.height < 0 || file.width * file.bits % 32 == 0) {
+            const int plain = file.colours() == 0; // intended: a palette that is selected counts as a failure
+            EXPECT_TRUE(dib.Draw(picture.dc(), 0, 0, 0, 0) == plain && dib.GetLastError() == !plain);
+            const int drawn = dib.DrawRealized(large.dc(), 0, 0, 2 * file.width, 3 * height);
+            EXPECT_TRUE(drawn == plain && dib.GetLastError() == !plain);
+            check_pictures();
+        }
+        const std::size_t unpadded = static_cast<std::size_t>(file.bits * file.width * height / 8);
         const std::size_t count = file.height < 0 ? file.pixel_bytes() : unpadded;
         const auto pixels = bytes.begin() + file.head_bytes() + file.gap;
         const Bytes stored(pixels, pixels + static_cast<std::ptrdiff_t>(count));
@@ -69,16 +102,14 @@ TEST(DibFile, TellsWhatFailed) {
     fails(dib.StreamIn(INVALID_HANDLE_VALUE), 2);
     fails(dib.Save(disk.name()), 1);
     EXPECT_EQ(disk.bytes(), Bytes{}); // created before it is known that there is nothing to write
-    HANDLE reading = ::CreateFileA(disk.name(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    const CFile reading(disk.name(), CFile::modeRead | CFile::shareDenyNone);
+    const CFile writing(disk.name(), CFile::modeWrite | CFile::shareDenyNone);
     ASSERT_EQ(dib.CreateNewHighColor(2, 2, 0), 1);
     fails(dib.Draw(nullptr, 0, 0, 0, 0), 1);
     fails(dib.StreamOut(INVALID_HANDLE_VALUE), 2);
     fails(dib.StreamOut(reading), 4);
     fails(dib.StreamIn(reading), 4);
-    ::CloseHandle(reading);
-    HANDLE writing = ::CreateFileA(disk.name(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
     fails(dib.StreamIn(writing), 3);
-    ::CloseHandle(writing);
     fails(dib.CreateNew(0, 5, 0, 0), 3);
     fails(dib.CreateNewTrueColor(0, 5, 0), 2);
     fails(dib.CreateNew(INT_MAX, INT_MAX, 0, 0), 6);
@@ -163,56 +194,111 @@ TEST(DibFile, DumpsItsHeaderAndTable) {
     EXPECT_EQ(disk.text(), "// Bitmap Info\r\n\r\n\r\n// Bitmap NOT valid !\r\n");
 }
 
-void render(const CDibFile& dib, bool square) {
-    HGLRC context = ::wglCreateContext(dib.GetDC());
-    ASSERT_TRUE(context && ::wglMakeCurrent(dib.GetDC(), context));
-    ::glViewport(0, 0, dib.GetWidth(), dib.GetHeight());
-    ::glClearColor(1, 0, 1, 1);
-    ::glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
-    ::glColor3f(0, 0, 1);
-    if (square)
-        ::glRectf(-1, -1, 0, 0);
-    ::glFinish();
-    ::wglMakeCurrent(nullptr, nullptr);
-    ::wglDeleteContext(context);
-}
-
 // At 24 bits only the ground is judged: Mesa's software renderer misplaces figures there.
 TEST(DibFile, IsRenderedIntoByOpenGL) {
-    for (int bits : {24, 32}) {
+    for (const auto& [bits, side] : {std::pair{24, 0}, {32, 16}}) {
         CDibFile dib;
         const TemporaryFile disk(BitmapFile{bits, 32, 32}.bytes());
         ASSERT_EQ(dib.Load(disk.name()), 1);
         ASSERT_NE(dib.PrepareOpenGL(), 0) << "is libosmesa6 installed?";
-        render(dib, bits == 32);
+        HGLRC context = ::wglCreateContext(dib.GetDC());
+        ASSERT_TRUE(context && ::wglMakeCurrent(dib.GetDC(), context));
+        ::glClearColor(1, 0, 1, 1);
+        ::glClear(GL_COLOR_BUFFER_BIT);
+        ::glEnable(GL_SCISSOR_TEST);
+        ::glScissor(0, 0, side, side);
+        ::glClearColor(0, 0, 1, 1);
+        ::glClear(GL_COLOR_BUFFER_BIT);
+        ::glFinish();
+        ::wglMakeCurrent(nullptr, nullptr);
+        ::wglDeleteContext(context);
         Picture picture(32, 32);
         EXPECT_EQ(dib.Draw(picture.dc(), 0, 0, 0, 0), 1);
-        const int square = bits == 32 ? 16 * 16 : 0;
-        EXPECT_EQ(picture.count(RGB(0, 0, 255)), square);
-        EXPECT_EQ(picture.count(RGB(255, 0, 255)), 32 * 32 - square);
-        EXPECT_EQ(picture.at(15, 15), square ? RGB(0, 0, 255) : RGB(255, 0, 255));
+        EXPECT_EQ(picture.count(RGB(0, 0, 255)), side * side);
+        EXPECT_EQ(picture.count(RGB(255, 0, 255)), 32 * 32 - side * side);
+        EXPECT_EQ(picture.at(15, 15), side ? RGB(0, 0, 255) : RGB(255, 0, 255));
     }
 }
 
-TEST(Bitmaps, LeaveNoDrawingObjects) {
-    const TemporaryFile disk(BitmapFile{8, 20, 10}.bytes());
-    Picture picture(20, 10);
-    const int before = live_gdi_objects();
-    for (int i = 0; i < 10'000; ++i) {
+// Over broken files nothing may crash, and what was loaded can be drawn, drawn on and saved.
+constexpr int most_files = 100'000;
+constexpr std::chrono::seconds most_time{60}; // a quarter of it is usual; a slow machine tries fewer random files
+constexpr std::int64_t most_pixels = 1 << 18; // larger ones only take time
+
+class BitmapFaults : public testing::Test {
+protected:
+    BitmapFaults() { palette.Create(&other); }
+
+    static bool small(std::int64_t width, std::int64_t height) { return width * std::abs(height) <= most_pixels; }
+
+    void try_dib() {
         CDibFile dib;
-        ASSERT_EQ(dib.Load(disk.name()), 1);
-        dib.DrawRealized(picture.dc(), 0, 0, 0, 0);
+        const int loaded = dib.StreamIn(disk);
+        ASSERT_TRUE((dib.IsValid() != 0) == (loaded != 0) && (dib.GetLastError() == 0) == (loaded != 0));
+        dib.SetColor(200, 100, 255);
+        dib.SetPixel(dib.GetWidth() - 1, dib.GetHeight() - 1);
+        if (!loaded || !small(dib.GetWidth(), dib.GetHeight()))
+            return;
+        ++dibs;
+        dib.Line(INT_MIN, 3, INT_MAX, 1);
+        dib.Line(-5, -5, 5, 50'000);
+        dib.DrawRealized(picture.dc(), 1, 1, 30, 30);
         CDibFile copy(dib);
-        ASSERT_EQ(live_gdi_objects(), before + 6);
-        copy.StreamIn(INVALID_HANDLE_VALUE);
-        CWntBitmap bitmap;
-        CWntBitmapPalette palette;
-        ASSERT_TRUE(bitmap.Load(disk.name()) && palette.Create(&bitmap) && palette.Create(&bitmap));
-        bitmap.Draw(CDC::FromHandle(picture.dc()), 0, 0);
-        palette.Draw(CDC::FromHandle(picture.dc()), CRect(0, 0, 20, 10), FALSE);
-        ASSERT_EQ(live_gdi_objects(), before + 4);
+        copy.ClearBits(0x5A);
+        ASSERT_EQ(copy.StreamOut(disk), 1);
+        dib.StreamIn(INVALID_HANDLE_VALUE); // what it held goes
     }
-    EXPECT_EQ(live_gdi_objects(), before);
+
+    void try_bitmap() {
+        CWntBitmap bitmap;
+        const BOOL loaded = bitmap.Load(&disk);
+        ASSERT_TRUE(loaded || bitmap.GetWidth() == 16); // as it was
+        bitmap.Draw(nullptr, 0, 0);
+        bitmap.CopyBits(&other, 0, 0, 3, 3, 0, 0, 5);
+        other.CopyBits(&bitmap, 0, 0, 3, 3, 0, 0, 0xFFFFFFFF);
+        if (!loaded || !small(bitmap.GetWidth(), bitmap.GetHeight()))
+            return;
+        ++bitmaps;
+        bitmap.Draw(CDC::FromHandle(picture.dc()), 0, 0);
+        ASSERT_TRUE(bitmap.MapColorsToPalette(&palette) && bitmap.Save(&disk));
+        colours.Create(&bitmap);
+        colours.Draw(CDC::FromHandle(picture.dc()), CRect(0, 0, 20, 10), FALSE);
+    }
+
+    void try_file(const Bytes& bytes) {
+        ++files;
+        for (const bool dib : {false, true}) {
+            disk.SetLength(0);
+            disk.Write(bytes.data(), static_cast<UINT>(bytes.size()));
+            disk.SeekToBegin();
+            dib ? try_dib() : try_bitmap();
+        }
+    }
+
+    TemporaryFile held;
+    CFile disk{held.name(), CFile::modeReadWrite};
+    Picture picture{40, 40};
+    CWntBitmap other;
+    CWntBitmapPalette palette, colours;
+    int files = 0, dibs = 0, bitmaps = 0;
+};
+
+TEST_F(BitmapFaults, DoNoHarm) {
+    const auto start = std::chrono::steady_clock::now();
+    const int objects = live_gdi_objects();
+    try_broken_bitmap_files([this](const Bytes& bytes) { try_file(bytes); });
+    std::mt19937 random(7);
+    while (files < most_files && std::chrono::steady_clock::now() - start < most_time) {
+        Bytes bytes = files_to_break[random() % std::size(files_to_break)].bytes();
+        for (unsigned left = 1 + random() % 4; left > 0; --left) {
+            std::uint8_t& byte = bytes[2 + random() % 52];
+            byte = static_cast<std::uint8_t>(random() % 3 == 0 ? random() : byte ^ 1U << random() % 8);
+        }
+        try_file(bytes);
+    }
+    std::printf("%d broken files\n", files);
+    EXPECT_GE(std::min(dibs, bitmaps), files / 10);
+    EXPECT_LE(live_gdi_objects(), objects + 1); // the last palette
 }
 
 } // namespace

@@ -3,9 +3,41 @@
 
 #include <climits>
 #include <cstring>
-#include <vector>
+
+namespace {
 
 using Draw = void (*)(CWntOut&);
+
+Tpt pairs[] = {{0, 0}, {1, 3}, {4, 0}, {5, 3}};
+
+template <class Made> Made current(HDC dc, UINT kind) {
+    Made made = {};
+    ::GetObject(::GetCurrentObject(dc, kind), sizeof made, &made);
+    return made;
+}
+
+void draw_everything(CWntOut* o, int a, int b) {
+    POINT p[] = {{a, b}, {b, a}, {5, 5}, {5, b}};
+    char text[] = "text";
+    o->linecolour(RGB(1, 2, 3), 3);
+    o->line(a, b, b, a), o->line(3, 4, a, b);
+    o->linecolour(red, 0);
+    o->line(a, b, b, 5), o->hline(a, 3, b), o->vline(3, a, b), o->drawshadow(a, b, b, a, 1);
+    o->boxa1(a, b, b, a), o->boxa2(a, a, b, b), o->boxr0(a, b, a, b), o->boxr1(a, b, b, a), o->boxr2(a, b, b, a);
+    o->fillpoly(p, 3), o->solidpoly(p, 4), o->crosslines(p, 3, 1), o->geomline(p, 4, 0), o->geomline(p, 3, 4);
+    o->geomline(p, 3, a), o->drawcircle(a, 5, b), o->drawcircle(5, a, b), o->fillcircle(a, 5, b, 7);
+    o->fillcircle(5, a, 7, b), o->fillcircle(5, 5, a, b);
+    o->pieslice(a, 5, b, a, a, b), o->pieslice(5, b, 9, a, 0, 5000);
+    for (int shape = 0; shape < 6; ++shape)
+        o->drawmarker(a, 5, b, shape), o->markers(p, 4, shape);
+    o->trackline(a, b, 5, a), o->trackbox(a, b, b, a, a), o->trackpoly(p, 3);
+    o->scroll(a, b, b, a, a, b, 0), o->scroll(0, 0, 0, 0, a, b, 0);
+    o->chars(a, b, text, 9), o->chars(5, 5, text, a), o->chars_len(5, 5, a < 0 ? a : 3, text, b);
+    o->titlechars(a, b, 20, 20, text), o->titlechars(5, 5, a, 12, text);
+    o->setclip(a, b, b, a), o->excludeclip(a, b, b, a), o->testclip(a, b, b, a), o->resetclip();
+}
+
+} // namespace
 
 TEST_F(SurfaceTest, LinesAndBoxesCoverTheirPixels) {
     const struct {
@@ -22,16 +54,22 @@ TEST_F(SurfaceTest, LinesAndBoxesCoverTheirPixels) {
         {"boxa2, one pixel", [](CWntOut& o) { o.boxa2(3, 2, 3, 2); }, "......\n...F..\n......\n......\n"},
         {"flat boxes", [](CWntOut& o) { o.boxr1(0, 0, 0, 2), o.boxr0(2, 3, 3, 0); },
          "..LLLL\nL.....\nL.....\nL.....\n"},
-        {"crosslines",
-         [](CWntOut& o) {
-             o.crosslines(std::vector<Tpt>{{0, 0}, {1, 3}, {4, 0}, {5, 3}}.data(), 2, 2);
-         },
-         ".LLLL.\n......\n......\nLLLL..\n"},
+        {"crosslines", [](CWntOut& o) { o.crosslines(pairs, 2, 2); }, ".LLLL.\n......\n......\nLLLL..\n"},
         {"square marker", [](CWntOut& o) { o.drawmarker(2, 1, 1, 4); }, "......\n.LLL..\n.L.L..\n.LLL..\n"},
         {"cross, plus", [](CWntOut& o) { o.drawmarker(1, 1, 1, 0), o.drawmarker(4, 2, 1, 1); },
          "....L.\nL.LLLL\n.L..L.\nL.L...\n"},
         {"no marker", [](CWntOut& o) { o.drawmarker(2, 2, 1, 6), o.drawmarker(2, 2, 1, -1); },
          "......\n......\n......\n......\n"},
+        {"tracked boxes, one without height",
+         [](CWntOut& o) {
+             ::PatBlt(o.dc, 0, 0, 6, 4, BLACKNESS);
+             o.trackbox(1, 1, 3, 2, 0x200), o.trackbox(1, 0, 3, 0, 0x100);
+         },
+         "?FFFF?\n?FFFF?\n?FFFF?\n?LLLL?\n"},
+        {"raised, its last colour left", [](CWntOut& o) { o.drawshadow(1, 0, 4, 3, 1), o.hline(0, 3, 0); },
+         "DHHHD.\n.H..D.\n.H..D.\n.DDDD.\n"},
+        {"sunken, its last colour left", [](CWntOut& o) { o.drawshadow(1, 0, 4, 3, 0), o.hline(0, 3, 0); },
+         "HDDDH.\n.D..H.\n.D..H.\n.HHHH.\n"},
     };
     for (const auto& c : cases)
         EXPECT_EQ(drawn(6, 4, c.draw), c.expected) << c.name;
@@ -41,11 +79,11 @@ TEST_F(SurfaceTest, PolygonsAreEvenOddAndLeaveTheArrayAsItWas) {
     // Two squares of the same sense, joined by a seam: the inner one is a hole.
     const std::vector<POINT> nested = {{0, 0}, {8, 0}, {8, 8}, {0, 8}, {0, 0}, {2, 2}, {6, 2}, {6, 6}, {2, 6}, {2, 2}};
     auto points = nested;
-    EXPECT_EQ(drawn(9, 9, [&](CWntOut& o) { o.fillpoly(points.data(), 10); }),
-              "LLLLLLLLL\nLFFFFFFFL\nLFLLLLLFL\nLFL...LFL\nLFL...LFL\nLFL...LFL\nLFLLLLLFL\nLLFFFFFFL\nLLLLLLLLL\n");
-    const std::string solid = drawn(9, 9, [&](CWntOut& o) { o.solidpoly(points.data(), 10); });
-    EXPECT_EQ(std::count(solid.begin(), solid.end(), 'F'), 81 - 9);
-    EXPECT_EQ(std::count(solid.begin(), solid.end(), '.'), 9);
+    std::string expected =
+        "LLLLLLLLL\nLFFFFFFFL\nLFLLLLLFL\nLFL...LFL\nLFL...LFL\nLFL...LFL\nLFLLLLLFL\nLLFFFFFFL\nLLLLLLLLL\n";
+    EXPECT_EQ(drawn(9, 9, [&](CWntOut& o) { o.fillpoly(points.data(), 10); }), expected);
+    std::ranges::replace(expected, 'L', 'F');
+    EXPECT_EQ(drawn(9, 9, [&](CWntOut& o) { o.solidpoly(points.data(), 10); }), expected);
     EXPECT_EQ(std::memcmp(points.data(), nested.data(), 10 * sizeof(POINT)), 0);
     EXPECT_EQ(out.linecolour_, red);
 }
@@ -57,18 +95,16 @@ TEST_F(SurfaceTest, CopyingPolygonsStopAtTwentyPoints) {
     Picture copied(80, 20), whole(80, 20);
     paint(copied, [&](CWntOut& o) { o.fillpoly(teeth.data(), 25); });
     paint(whole, [&](CWntOut& o) { o.fillpoly(reinterpret_cast<POINT*>(teeth.data()), 25); });
-    EXPECT_EQ(copied.ink(0).right, 57);
-    EXPECT_EQ(whole.ink(0).right, 72);
-    copied.clear(0);
+    EXPECT_EQ(copied.ink(ground).right, 57);
+    EXPECT_EQ(whole.ink(ground).right, 72);
     paint(copied, [&](CWntOut& o) { o.geomline(teeth.data(), 25, 0); });
-    EXPECT_EQ(copied.ink(0).right, 72);
-    EXPECT_EQ(copied.at(72, 0), 0u); // the polyline leaves its last pixel out
+    EXPECT_EQ(copied.ink(ground).right, 72);
+    EXPECT_EQ(copied.at(72, 0), ground); // the polyline leaves its last pixel out
 }
 
 TEST_F(SurfaceTest, GapsOfAHatchFollowABitOfTheFillColour) {
     for (const COLORREF colour : {RGB(0, 0x10, 0), RGB(0, 0xEF, 0)}) {
         Picture picture(40, 40);
-        picture.clear(ground);
         paint(picture, [&](CWntOut& o) {
             POINT square[] = {{0, 0}, {39, 0}, {39, 39}, {0, 39}};
             ::SetBkColor(o.dc, RGB(0, 0, 255));
@@ -100,25 +136,22 @@ TEST_F(SurfaceTest, RoundFiguresKeepTheirBounds) {
     const struct {
         const char* name;
         Draw draw;
-        int left, bottom, right, top;
+        CRect ink;
         COLORREF middle;
     } cases[] = {
-        {"drawcircle", [](CWntOut& o) { o.drawcircle(40, 40, 20); }, 20, 21, 59, 60, ground},
-        {"fillcircle", [](CWntOut& o) { o.fillcircle(40, 40, 20, 10); }, 20, 31, 60, 50, green},
-        {"whole pie", [](CWntOut& o) { o.pieslice(40, 40, 20, 10, 0, 16384); }, 20, 31, 60, 49, green},
-        {"dot", [](CWntOut& o) { o.drawmarker(40, 40, 3, 5); }, 38, 39, 41, 42, ground},
-        {"circle marker", [](CWntOut& o) { o.drawmarker(40, 40, 6, 2); }, 34, 35, 45, 46, ground},
+        {"drawcircle", [](CWntOut& o) { o.drawcircle(40, 40, 20); }, {20, 60, 59, 21}, ground},
+        {"fillcircle", [](CWntOut& o) { o.fillcircle(40, 40, 20, 10); }, {20, 50, 60, 31}, green},
+        {"whole pie", [](CWntOut& o) { o.pieslice(40, 40, 20, 10, 0, 16384); }, {20, 49, 60, 31}, green},
+        {"dot", [](CWntOut& o) { o.drawmarker(40, 40, 3, 5); }, {38, 42, 41, 39}, ground},
+        {"circle marker", [](CWntOut& o) { o.drawmarker(40, 40, 6, 2); }, {34, 46, 45, 35}, ground},
     };
     for (const auto& c : cases) {
         Picture picture(90, 80);
-        picture.clear(ground);
         paint(picture, c.draw);
-        const RECT ink = picture.ink(ground);
-        const LONG misses[] = {ink.left - c.left, ink.bottom - c.bottom, ink.right - c.right, ink.top - c.top};
-        EXPECT_THAT(misses, testing::Each(0)) << c.name;
+        EXPECT_EQ(CRect(picture.ink(ground)), c.ink) << c.name;
         EXPECT_EQ(picture.at(37, 42), c.middle) << c.name;
-        EXPECT_EQ(picture.at((ink.left + ink.right) / 2, ink.top), red) << c.name;
-        EXPECT_EQ(picture.at(ink.left, ink.bottom), ground) << c.name;
+        EXPECT_EQ(picture.at((c.ink.left + c.ink.right) / 2, c.ink.top), red) << c.name;
+        EXPECT_EQ(picture.at(c.ink.left, c.ink.bottom), ground) << c.name;
     }
 }
 
@@ -148,7 +181,7 @@ TEST_F(SurfaceTest, MarkersAreTwoPixelsWideAndOfOneSize) {
         EXPECT_EQ(::GetCurrentObject(o.dc, OBJ_PEN), before);
         o.markers(nullptr, 2, 1);
     });
-    const RECT ink = picture.ink(0);
+    const RECT ink = picture.ink(ground);
     EXPECT_NEAR(ink.left, 10, 1);
     EXPECT_NEAR(ink.right, 50, 1);
     EXPECT_NEAR(ink.top - ink.bottom, 10, 2);
@@ -158,66 +191,17 @@ TEST_F(SurfaceTest, MarkersAreTwoPixelsWideAndOfOneSize) {
     EXPECT_EQ(wide, 2);
 }
 
-TEST_F(SurfaceTest, ShadowIsLitFromTheUpperLeft) {
-    const COLORREF light = ::GetSysColor(COLOR_3DHIGHLIGHT);
-    const COLORREF dark = ::GetSysColor(COLOR_3DDKSHADOW);
-    for (const int raised : {1, 0}) {
-        Picture picture(30, 20);
-        picture.clear(ground);
-        paint(picture, [&](CWntOut& o) { o.drawshadow(2, 3, 20, 15, raised); });
-        for (const POINT at : {POINT{2, 10}, POINT{10, 15}})
-            EXPECT_EQ(picture.at(at.x, at.y), raised ? light : dark);
-        for (const POINT at : {POINT{20, 10}, POINT{10, 3}})
-            EXPECT_EQ(picture.at(at.x, at.y), raised ? dark : light);
-        EXPECT_EQ(picture.at(10, 10), ground);
-        EXPECT_EQ(out.linecolour_, raised ? dark : light);
-    }
-}
-
-TEST_F(SurfaceTest, RubberBandsRemoveThemselves) {
-    const Draw cases[] = {[](CWntOut& o) { o.trackline(3, 3, 30, 22); },
-                          [](CWntOut& o) { o.trackbox(2, 2, 20, 10, 0); },
-                          [](CWntOut& o) { o.trackbox(2, 2, 20, 10, 0x200); },
-                          [](CWntOut& o) { o.trackbox(2, 2, 20, 0, 0x100); },
-                          [](CWntOut& o) {
-                              o.trackpoly(std::vector<Tpt>{{2, 2}, {30, 5}, {20, 30}}.data(), 3);
-                          },
-                          [](CWntOut& o) {
-                              o.trackpoly(std::vector<POINT>{{2, 2}, {30, 5}, {20, 30}}.data(), 3);
-                          }};
-    for (const Draw draw : cases) {
-        Picture picture(40, 40);
-        picture.clear(RGB(10, 20, 30));
-        const auto before = picture.values();
-        paint(picture, draw);
-        EXPECT_NE(picture.values(), before) << &draw - cases;
-        paint(picture, [&](CWntOut& o) {
-            draw(o);
-            EXPECT_EQ(::GetROP2(o.dc), R2_COPYPEN);
-        });
-        EXPECT_EQ(picture.values(), before) << &draw - cases;
-    }
-    const auto boxes = [](CWntOut& o) {
-        ::PatBlt(o.dc, 0, 0, 6, 4, BLACKNESS);
-        o.trackbox(1, 1, 3, 2, 0x200);
-        o.trackbox(1, 0, 3, 0, 0x100); // without height: a line
-    };
-    EXPECT_EQ(drawn(6, 4, boxes), "?FFFF?\n?FFFF?\n?FFFF?\n?LLLL?\n");
-}
-
 TEST_F(SurfaceTest, ColoursComeFromTheInstalledPalette) {
-    const auto pen = [&] {
-        LOGPEN made = {};
-        ::GetObject(::GetCurrentObject(out.dc, OBJ_PEN), sizeof made, &made);
-        EXPECT_EQ(::GetTextColor(out.dc), made.lopnColor);
-        return made;
+    const auto expect_pen = [&](COLORREF colour) {
+        const auto made = current<LOGPEN>(out.dc, OBJ_PEN);
+        EXPECT_TRUE(made.lopnColor == colour && ::GetTextColor(out.dc) == colour && made.lopnWidth.x == 1) << colour;
     };
     Picture picture(10, 10);
     ASSERT_EQ(out.reset(picture.dc()), 1);
     const std::pair<int, COLORREF> built_in[] = {{15, 0x808000}, {9, 0xC0C0C0}, {3, 0x00FFFF}, {2, 0xFF0000}, {0, 0}};
     for (const auto& [index, colour] : built_in) {
         out.linecolour(index, 0);
-        EXPECT_EQ(pen().lopnColor, colour);
+        expect_pen(colour);
         EXPECT_EQ(out.rgbcolor(index), colour);
     }
     COLORREF own[4] = {RGB(1, 0, 0), RGB(2, 0, 0), RGB(3, 0, 0), RGB(4, 0, 0)};
@@ -226,21 +210,13 @@ TEST_F(SurfaceTest, ColoursComeFromTheInstalledPalette) {
     EXPECT_EQ(out.getcolorpalette(&installed), 4);
     EXPECT_EQ(installed, own);
     out.linecolour(6, 0);
-    EXPECT_EQ(pen().lopnColor, own[2]);
+    expect_pen(own[2]);
     EXPECT_EQ(out.rgbcolor(6), red); // whatever is installed
     out.linecolour(-1, 0);           // no entry: nothing outside the table is read
     out.setcolorpalette(nullptr, 9);
     EXPECT_EQ(out.getcolorpalette(nullptr), 0);
     out.linecolour(6, 0);
-    EXPECT_EQ(pen().lopnColor, red);
-
-    constexpr UINT styles[8] = {PS_SOLID, PS_SOLID, PS_DOT, PS_DASH, PS_DASHDOT, PS_DOT, PS_DASH, PS_DASHDOTDOT};
-    for (int style = 0; style < 8; ++style) {
-        out.linecolour(RGB(style, 1, 1), style);
-        EXPECT_EQ(pen().lopnStyle, styles[style]);
-        EXPECT_EQ(pen().lopnWidth.x, 1);
-    }
-    out.endpaint();
+    expect_pen(red);
 }
 
 TEST_F(SurfaceTest, AColourInForceMakesNothing) {
@@ -251,52 +227,25 @@ TEST_F(SurfaceTest, AColourInForceMakesNothing) {
     ASSERT_EQ(out.reset(picture.dc()), 1);
     out.linecolour(RGB(255, 255, 255), 0); // white and black count as in force
     out.fillcolour(RGB(0, 0, 0), 0);
-    EXPECT_EQ(out.pen, nullptr);
-    EXPECT_EQ(out.brush, nullptr);
+    EXPECT_TRUE(!out.pen && !out.brush);
+    constexpr UINT styles[8] = {PS_SOLID, PS_SOLID, PS_DOT, PS_DASH, PS_DASHDOT, PS_DOT, PS_DASH, PS_DASHDOTDOT};
     constexpr int hatches[8] = {-1, -1, HS_VERTICAL, HS_HORIZONTAL, HS_DIAGCROSS, HS_DIAGCROSS, HS_CROSS, HS_CROSS};
     for (int style = 0; style < 8; ++style) {
         out.fillcolour(RGB(9, style, 9), style);
-        LOGBRUSH made = {};
-        ::GetObject(::GetCurrentObject(out.dc, OBJ_BRUSH), sizeof made, &made);
+        const auto made = current<LOGBRUSH>(out.dc, OBJ_BRUSH);
         EXPECT_EQ(made.lbColor, RGB(9, style, 9));
-        EXPECT_EQ(made.lbStyle, static_cast<UINT>(hatches[style] < 0 ? BS_SOLID : BS_HATCHED));
-        EXPECT_TRUE(hatches[style] < 0 || made.lbHatch == static_cast<ULONG_PTR>(hatches[style]));
-        const HBRUSH before = out.brush;
-        out.fillcolour(RGB(9, style, 9), 7 - style); // another style alone
-        EXPECT_EQ(out.brush, before);
+        EXPECT_EQ(made.lbStyle == BS_SOLID ? -1 : static_cast<int>(made.lbHatch), hatches[style]);
+        out.linecolour(RGB(9, style, 9), style);
+        EXPECT_EQ(current<LOGPEN>(out.dc, OBJ_PEN).lopnStyle, styles[style]);
+        const std::pair before(out.pen, out.brush);
+        out.linecolour(RGB(9, style, 9), 7 - style); // another style alone
+        out.fillcolour(RGB(9, style, 9), 7 - style);
+        EXPECT_EQ(std::pair(out.pen, out.brush), before);
     }
-    out.linecolour(red, 0);
-    const HPEN before = out.pen;
-    out.linecolour(red, 2);
-    EXPECT_EQ(out.pen, before);
     out.endpaint();
     out.linecolour(green, 0); // without a device context the cache keeps
-    EXPECT_EQ(out.linecolour_, red);
+    EXPECT_EQ(out.linecolour_, RGB(9, 7, 9));
 }
-
-namespace {
-
-void draw_everything(CWntOut& o, int a, int b) {
-    POINT p[] = {{a, b}, {b, a}, {5, 5}, {5, b}};
-    char text[] = "text";
-    o.linecolour(RGB(1, 2, 3), 3);
-    o.line(a, b, b, a), o.line(3, 4, a, b);
-    o.linecolour(red, 0);
-    o.line(a, b, b, 5), o.hline(a, 3, b), o.vline(3, a, b), o.drawshadow(a, b, b, a, 1);
-    o.boxa1(a, b, b, a), o.boxa2(a, a, b, b), o.boxr0(a, b, a, b), o.boxr1(a, b, b, a), o.boxr2(a, b, b, a);
-    o.fillpoly(p, 3), o.solidpoly(p, 4), o.crosslines(p, 3, 1), o.geomline(p, 4, 0), o.geomline(p, 3, 4);
-    o.geomline(p, 3, a), o.drawcircle(a, 5, b), o.drawcircle(5, a, b), o.fillcircle(a, 5, b, 7);
-    o.fillcircle(5, a, 7, b), o.fillcircle(5, 5, a, b), o.pieslice(a, 5, b, a, a, b), o.pieslice(5, b, 9, a, 0, 5000);
-    for (int shape = 0; shape < 6; ++shape)
-        o.drawmarker(a, 5, b, shape), o.markers(p, 4, shape);
-    o.trackline(a, b, 5, a), o.trackbox(a, b, b, a, a), o.trackpoly(p, 3);
-    o.scroll(a, b, b, a, a, b, 0), o.scroll(0, 0, 0, 0, a, b, 0);
-    o.chars(a, b, text, 9), o.chars(5, 5, text, a), o.chars_len(5, 5, a < 0 ? a : 3, text, b);
-    o.titlechars(a, b, 20, 20, text), o.titlechars(5, 5, a, 12, text);
-    o.setclip(a, b, b, a), o.excludeclip(a, b, b, a), o.testclip(a, b, b, a), o.resetclip();
-}
-
-} // namespace
 
 // The ends of the integer range end neither in a crash nor in hours of drawing rows that nobody sees.
 TEST_F(SurfaceTest, FarFiguresAreCutToTheDevicesRange) {
@@ -304,19 +253,83 @@ TEST_F(SurfaceTest, FarFiguresAreCutToTheDevicesRange) {
     const int far_out[] = {INT_MIN, INT_MIN + 1, -2000000, -40000, 0, 40000, 10000000, INT_MAX - 1, INT_MAX};
     for (const int a : far_out) {
         for (const int b : far_out)
-            paint(picture, [&](CWntOut& o) { draw_everything(o, a, b); });
+            paint(picture, [&](CWntOut& o) { draw_everything(&o, a, b); });
     }
-    picture.clear(ground);
     paint(picture, [](CWntOut& o) {
         POINT quarter[] = {{10, 10}, {5000000, 10}, {5000000, 5000000}, {10, 5000000}};
         POINT diagonal[] = {{-3000000, -2999995}, {3000000, 3000005}};
         o.fillpoly(quarter, 4);
         o.geomline(diagonal, 2, 0);
     });
-    for (const POINT filled : {POINT{11, 11}, POINT{59, 11}, POINT{59, 39}, POINT{11, 39}})
-        EXPECT_EQ(picture.at(filled.x, filled.y), green);
-    for (const POINT outline : {POINT{10, 30}, POINT{50, 10}, POINT{3, 8}, POINT{30, 35}})
-        EXPECT_EQ(picture.at(outline.x, outline.y), red);
-    for (const POINT outside : {POINT{9, 11}, POINT{50, 9}})
-        EXPECT_EQ(picture.at(outside.x, outside.y), ground);
+    const std::tuple<int, int, COLORREF> filled_or_outlined_or_neither[] = {
+        {11, 11, green}, {59, 11, green}, {59, 39, green}, {11, 39, green}, {10, 30, red},
+        {50, 10, red},   {3, 8, red},     {30, 35, red},   {9, 11, ground}, {50, 9, ground}};
+    for (const auto& [x, y, colour] : filled_or_outlined_or_neither)
+        EXPECT_EQ(picture.at(x, y), colour) << x << ' ' << y;
+}
+
+TEST_F(SurfaceTest, DrawingObjectsDoNotPileUp) {
+    CPen pen(PS_SOLID, 2, RGB(1, 2, 3));
+    CBrush brush(RGB(4, 5, 6));
+    Picture picture(20, 20);
+    ::SelectObject(picture.dc(), pen);
+    ::SelectObject(picture.dc(), brush);
+    const auto bracket = [&](int i) {
+        out.linecolour(RGB(i, i >> 8, i >> 16), i & 7);
+        out.fillcolour(RGB(i >> 16, i, 1), i & 7);
+        out.boxr1(1, 1, 3, 3);
+        if (i % 256 == 0)
+            draw_everything(&out, 3, i % 7);
+    };
+    int settled = 0;
+    for (int i = 0; i <= 110000; ++i) {
+        ASSERT_EQ(out.reset(), 1);
+        bracket(i);
+        out.endpaint();
+        ASSERT_EQ(out.reset(picture.dc()), 1);
+        bracket(i);
+        if (i % 3) // an owner may forget it
+            out.endpaint();
+        if (i == 1000)
+            settled = live_gdi_objects();
+    }
+    EXPECT_EQ(live_gdi_objects(), settled);
+    EXPECT_EQ(::GetCurrentObject(picture.dc(), OBJ_PEN), pen.m_hObject);
+    EXPECT_EQ(::GetCurrentObject(picture.dc(), OBJ_BRUSH), brush.m_hObject);
+
+    out.ReleaseDrawing();
+    const int released = live_gdi_objects();
+    for (int i = 0; i < 1000; ++i)
+        out.fillcolour(RGB(i, 9, 9), 0); // without a device context
+    EXPECT_EQ(live_gdi_objects(), released + 1);
+    out.ReleaseDrawing();
+    EXPECT_EQ(live_gdi_objects(), released);
+}
+
+TEST_F(SurfaceTest, NullObjectsAndNullArgumentsAreHarmless) {
+    Picture picture(10, 10);
+    RECT rect = {};
+    int pair[2];
+    LOGFONTA font;
+    CWntOut* volatile none = nullptr;
+    EXPECT_EQ(none->reset() + none->reset(picture.dc()) + none->getcolorpalette(nullptr), 0);
+    EXPECT_EQ(none->testclip(0, 0, 1, 1) + none->points_testinrect(0, 0, rect), 0);
+    EXPECT_EQ(none->Whelper_translatekeyboardinput(pair, WM_CHAR, 'a', 0), 0);
+    EXPECT_EQ(none->getZopguiFont(&font, ZOPFONT_PROPORTIONAL), 0);
+    none->endpaint(), none->ReleaseDrawing(), none->getmousepos(pair), none->setmouseshape(short{3});
+    none->setbackground(1, 2), none->setbackgroundbitmap(3), none->queryupdaterect(&rect), none->queryclip(&rect);
+    none->setcolorpalette(nullptr, 0), none->fillcolour(red, 0), none->linecolour(1, 0), none->setclip(&rect);
+    none->settext(1, 2, 3, 4, 5, 6), none->setfont(nullptr);
+    draw_everything(none, 1, 2);
+
+    paint(picture, [](CWntOut& o) {
+        o.fillpoly(static_cast<POINT*>(nullptr), 3), o.solidpoly(static_cast<Tpt*>(nullptr), 3);
+        o.geomline(static_cast<Tpt*>(nullptr), 3, 1), o.crosslines(static_cast<Tpt*>(nullptr), 3, 1);
+        o.setclip(nullptr), o.queryclip(nullptr), o.queryupdaterect(nullptr), o.getmousepos(nullptr);
+        o.calcpolywind(nullptr, nullptr, 1), o.points_intersect(nullptr, 0, 0, 1, 1, 0, 1, 1, 0);
+        o.chars(0, 0, nullptr, 0), o.chars_len(0, 0, 5, nullptr, 0), o.titlechars(0, 0, 9, 9, nullptr);
+        EXPECT_EQ(o.getZopguiFont(nullptr, ZOPFONT_PROPORTIONAL), 0);
+        EXPECT_EQ(o.Whelper_translatekeyboardinput(nullptr, WM_CHAR, 'a', 0), 0);
+    });
+    EXPECT_EQ(picture.count(ground), 100);
 }

@@ -56,35 +56,21 @@ public:
 
 class TextTest : public SurfaceTest {
 protected:
-    void SetUp() override {
-        ASSERT_TRUE(SUCCEEDED(::OleInitialize(nullptr)));
-        SurfaceTest::SetUp();
-    }
-    void TearDown() override {
-        std::setlocale(LC_ALL, "C");
-        SurfaceTest::TearDown();
-        ::OleUninitialize();
-    }
     template <class Draw> RECT ink(Draw draw) {
         Picture picture(400, 120);
-        picture.clear(ground);
         paint(picture, draw);
         return picture.ink(ground);
     }
-    static bool empty(const RECT& r) { return r.right < r.left; }
-    static LONG width(const RECT& r) { return r.right - r.left + 1; }
+    static LONG width(const RECT& r) { return std::max(r.right - r.left + 1, 0L); }
 
-    /// The box of a text in a font `tenths` tenths of a point high, written by hand.
-    RECT plain_ink(const char* face, int tenths, const char* text, int weight = FW_NORMAL,
-                   BYTE charset = DEFAULT_CHARSET) {
-        HDC screen = ::GetDC(nullptr);
-        const int pixels = ::MulDiv(tenths, ::GetDeviceCaps(screen, LOGPIXELSY), 720);
-        ::ReleaseDC(nullptr, screen);
-        HFONT font = ::CreateFontA(-pixels, 0, 0, 0, weight, 0, 0, 0, charset, 0, 0, 0, 0, face);
+    /// The box of the word in a font `tenths` tenths of a point high, written by hand.
+    RECT plain_ink(const char* face, int tenths, int weight = FW_NORMAL, BYTE charset = DEFAULT_CHARSET) {
+        HFONT font = nullptr;
         const RECT box = ink([&](CWntOut& o) {
-            HGDIOBJ previous = ::SelectObject(o.dc, font);
-            ::TextOutA(o.dc, 20, 60, text, static_cast<int>(std::strlen(text)));
-            ::SelectObject(o.dc, previous);
+            const int pixels = ::MulDiv(tenths, ::GetDeviceCaps(o.dc, LOGPIXELSY), 720);
+            font = ::CreateFontA(-pixels, 0, 0, 0, weight, 0, 0, 0, charset, 0, 0, 0, 0, face);
+            ::SelectObject(o.dc, font);
+            ::TextOutA(o.dc, 20, 60, word, static_cast<int>(std::strlen(word)));
         });
         ::DeleteObject(font);
         return box;
@@ -94,16 +80,15 @@ protected:
 };
 
 TEST_F(TextTest, AlignmentPutsTheStringAtItsPoint) {
-    constexpr int left = 1, centre = 2, right = 3;
-    constexpr int on_line = 1, below_cell = 2; // the text stands on y, or hangs `drop` pixels above y
     const struct {
-        int align, side, edge, drop;
-    } cases[] = {{0, left, on_line, 0},     {1, right, on_line, 0},     {2, centre, on_line, 0},
-                 {4, left, below_cell, 20}, {5, right, below_cell, 20}, {6, centre, below_cell, 20},
-                 {8, left, below_cell, 10}, {9, right, below_cell, 10}, {10, centre, below_cell, 10},
-                 {3, left, on_line, 0},     {7, left, on_line, 20},     {11, left, on_line, 10},
-                 {-1, left, on_line, 10},   {16, left, on_line, 0}};
-    const LONG across = width(plain_ink("Arial", 200, word));
+        int align;
+        double side; // the share of the text that lies left of x
+        int drop;    // above y
+        bool stands; // there, or hangs from there
+    } cases[] = {{0, 0, 0, true},     {1, 1, 0, true},   {2, 0.5, 0, true}, {4, 0, 20, false},    {5, 1, 20, false},
+                 {6, 0.5, 20, false}, {8, 0, 10, false}, {9, 1, 10, false}, {10, 0.5, 10, false}, {3, 0, 0, true},
+                 {7, 0, 20, true},    {11, 0, 10, true}, {-1, 0, 10, true}, {16, 0, 0, true}};
+    const LONG across = width(plain_ink("Arial", 200));
     for (const auto& c : cases) {
         const RECT box = ink([&](CWntOut& o) {
             o.settext(0, 0, 0, 33, 0, 0); // 19.8 points: drop counts whole ones
@@ -111,53 +96,46 @@ TEST_F(TextTest, AlignmentPutsTheStringAtItsPoint) {
             o.chars(200, 60, word, c.align);
             EXPECT_EQ(o.linecolour_, ::GetTextColor(o.dc));
         });
-        const LONG reference = c.side == left ? box.left : c.side == right ? box.right : (box.left + box.right) / 2;
-        EXPECT_NEAR(reference, 200, 4) << c.align;
+        EXPECT_NEAR(box.left + c.side * width(box), 200, 4) << c.align;
         EXPECT_NEAR(width(box), across, 2) << c.align;
-        const bool stands = c.edge == on_line;
-        EXPECT_NEAR(stands ? box.bottom : box.top, 60 + c.drop + (stands ? 2 : -5), 4) << c.align;
+        EXPECT_NEAR(c.stands ? box.bottom : box.top, 60 + c.drop + (c.stands ? 2 : -5), 4) << c.align;
     }
 }
 
 TEST_F(TextTest, SizesAndFaces) {
     const auto chars = [this](int fontsize, const char* face) {
-        return ink([&](CWntOut& o) {
-            o.facename = face;
-            o.fontsize = fontsize;
-            o.chars(100, 60, word, 0);
-        });
+        out.facename = face;
+        out.fontsize = fontsize;
+        return ink([&](CWntOut& o) { o.chars(100, 60, word, 0); });
     };
-    const LONG plain = width(plain_ink("Arial", 80, word));
+    const LONG plain = width(plain_ink("Arial", 80));
     EXPECT_EQ(width(chars(80, "Arial")), plain);
-    ASSERT_NE(width(plain_ink("Liberation Mono", 80, word)), plain);
+    ASSERT_NE(width(plain_ink("Liberation Mono", 80)), plain);
     EXPECT_EQ(width(chars(80, "Liberation Mono")), plain); // the face is for titles alone
     out.settext(0, 0, 0, 15, 0, 0);
-    EXPECT_EQ(width(chars(out.fontsize, "Arial")), width(plain_ink("Arial", 90, word)));
+    EXPECT_EQ(width(chars(out.fontsize, "Arial")), width(plain_ink("Arial", 90)));
 
     const auto title = [this](const char* face, int w, int h) {
-        return ink([&](CWntOut& o) {
-            o.facename = face;
-            o.titlechars(20, 30, w, h, word);
-            o.facename = "Arial";
-        });
+        out.facename = face;
+        return ink([&](CWntOut& o) { o.titlechars(20, 30, w, h, word); });
     };
     const RECT arial = title("Arial", 160, 60);
-    EXPECT_EQ(width(arial), width(plain_ink("Arial", 240, word)));
-    EXPECT_EQ(width(title("Liberation Mono", 160, 60)), width(plain_ink("Liberation Mono", 240, word)));
+    EXPECT_EQ(width(arial), width(plain_ink("Arial", 240)));
+    EXPECT_EQ(width(title("Liberation Mono", 160, 60)), width(plain_ink("Liberation Mono", 240)));
     EXPECT_NEAR((arial.left + arial.right) / 2, 100, 2);
     EXPECT_LT(arial.bottom, 60); // the g reaches below the baseline
     EXPECT_GT(arial.top, 70);
-    EXPECT_TRUE(empty(title("Arial", 0, 60)));
-    EXPECT_TRUE(empty(title("Arial", 160, 0)));
+    EXPECT_EQ(width(title("Arial", 0, 60)), 0);
+    EXPECT_EQ(width(title("Arial", 160, 0)), 0);
 }
 
 TEST_F(TextTest, LengthsAndSizesAreBounded) {
     const auto written = [this](int len) { return ink([&](CWntOut& o) { o.chars_len(100, 60, len, word, 0); }); };
     EXPECT_LT(width(written(2)), width(written(3)));
     for (const int none : {0, -1, INT_MIN})
-        EXPECT_TRUE(empty(written(none)));
+        EXPECT_EQ(width(written(none)), 0);
     char nothing[] = "";
-    EXPECT_TRUE(empty(ink([&](CWntOut& o) { o.chars(50, 50, nothing, 0), o.titlechars(0, 0, 99, 99, nothing); })));
+    EXPECT_EQ(width(ink([&](CWntOut& o) { o.chars(50, 50, nothing, 0), o.titlechars(0, 0, 99, 99, nothing); })), 0);
     for (const int size : {INT_MAX, INT_MIN, INT_MAX / 6 + 1, -80, 0}) {
         ink([&](CWntOut& o) {
             o.settext(1, 2, 3, size, 5, 6), o.chars(20, 20, word, 6), o.titlechars(0, 0, 50, size, word);
@@ -167,6 +145,7 @@ TEST_F(TextTest, LengthsAndSizesAreBounded) {
 }
 
 TEST_F(TextTest, FontServiceOfTheFrontEnd) {
+    ASSERT_TRUE(SUCCEEDED(::OleInitialize(nullptr)));
     LOGFONTA font;
     std::memset(&font, 0x5A, sizeof font);
     const LOGFONTA untouched = font;
@@ -177,8 +156,8 @@ TEST_F(TextTest, FontServiceOfTheFrontEnd) {
     const auto text = [this] { return ink([&](CWntOut& o) { o.chars(100, 60, word, 0); }); };
     const auto title = [this] { return ink([&](CWntOut& o) { o.titlechars(20, 30, 160, 40, word); }); };
     ASSERT_TRUE(std::setlocale(LC_ALL, "Japanese_Japan.932"));
-    EXPECT_EQ(width(text()), width(plain_ink("", 80, word))); // no service: the system's default face
-    EXPECT_EQ(width(title()), width(plain_ink("", 160, word)));
+    EXPECT_EQ(width(text()), width(plain_ink("", 80))); // no service: the system's default face
+    EXPECT_EQ(width(title()), width(plain_ink("", 160)));
 
     FontService service;
     DWORD registered = 0;
@@ -192,18 +171,19 @@ TEST_F(TextTest, FontServiceOfTheFrontEnd) {
     EXPECT_EQ(out.getZopguiFontCodepage(), 932u); // of the character set
     // The service's height of -16 pixels enters the sum in its own unit: 10 x (-1 + 1) + 16 + 80.
     ASSERT_EQ(font.lfHeight, -16);
-    EXPECT_EQ(width(text()), width(plain_ink("Liberation Mono", 96, word, FW_BOLD, SHIFTJIS_CHARSET)));
-    EXPECT_EQ(width(title()), width(plain_ink("Liberation Mono", 170, word, FW_BOLD, SHIFTJIS_CHARSET)));
+    EXPECT_EQ(width(text()), width(plain_ink("Liberation Mono", 96, FW_BOLD, SHIFTJIS_CHARSET)));
+    EXPECT_EQ(width(title()), width(plain_ink("Liberation Mono", 170, FW_BOLD, SHIFTJIS_CHARSET)));
 
     service.gives_font = false;
     EXPECT_EQ(out.getZopguiFont(&font, ZOPFONT_PROPORTIONAL), 0);
     service.gives_fonts = false;
     EXPECT_EQ(out.getZopguiFont(&font, ZOPFONT_PROPORTIONAL), 0);
-    EXPECT_EQ(width(text()), width(plain_ink("", 80, word)));
+    EXPECT_EQ(width(text()), width(plain_ink("", 80)));
     EXPECT_EQ(service.references, references); // every interface was released, on every path
     std::setlocale(LC_ALL, "C");
     service.asked = 0;
     text();
     EXPECT_EQ(service.asked, 0); // a single-byte locale does not ask
     ::CoRevokeClassObject(registered);
+    ::OleUninitialize();
 }

@@ -48,12 +48,10 @@ public:
     COLORREF at(int x, int y) const {
         if (x < 0 || x >= width_ || y < 0 || y >= height_)
             return CLR_INVALID;
-        return values()[std::size_t(height_ - 1 - y) * width_ + x];
+        ::GdiFlush();
+        return swapped(bits_[std::size_t(height_ - 1 - y) * width_ + x]);
     }
-    long count(COLORREF colour) const {
-        const auto all = values();
-        return static_cast<long>(std::count(all.begin(), all.end(), colour));
-    }
+    long count(COLORREF colour) const { return static_cast<long>(std::ranges::count(values(), colour)); }
     /// The pixels that differ from the ground, corners inclusive, top the upper y; right < left when there are none.
     RECT ink(COLORREF ground) const {
         RECT box = {width_, -1, -1, height_};
@@ -66,19 +64,6 @@ public:
             box = {std::min(box.left, x), std::max(box.top, y), std::max(box.right, x), std::min(box.bottom, y)};
         }
         return box;
-    }
-    /// One letter a pixel, '?' for other colours, a line for each row from the upper one.
-    std::string letters(const std::vector<std::pair<COLORREF, char>>& names) const {
-        std::string text;
-        const auto all = values();
-        for (int i = 0; i < width_ * height_; ++i) {
-            const auto named = [&](const auto& name) { return name.first == all[i]; };
-            const auto found = std::find_if(names.begin(), names.end(), named);
-            text += found == names.end() ? '?' : found->second;
-            if (i % width_ == width_ - 1)
-                text += '\n';
-        }
-        return text;
     }
     /// The colours, upper row first.
     std::vector<COLORREF> values() const {
@@ -97,6 +82,19 @@ private:
     HGDIOBJ previous_;
     std::uint32_t* bits_;
 };
+
+/// One letter a pixel, '?' for other colours, a line for each row.
+inline std::string letters(const std::vector<COLORREF>& values, int width,
+                           const std::vector<std::pair<COLORREF, char>>& names) {
+    std::string text;
+    for (const COLORREF value : values) {
+        const auto found = std::find_if(names.begin(), names.end(), [&](const auto& n) { return n.first == value; });
+        text += found == names.end() ? '?' : found->second;
+        if (text.size() % (width + 1) == std::size_t(width))
+            text += '\n';
+    }
+    return text;
+}
 
 /// Live pens, brushes, fonts, regions and the like of this process. GetGuiResources answers 0 on some systems; the
 /// process's own handle table always tells.

@@ -5,7 +5,7 @@
 
 #include <gmock/gmock.h>
 
-#include <cstring>
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -23,10 +23,7 @@ inline QuietProgram program;
 class Framework : public testing::Environment {
     void SetUp() override {
         ASSERT_TRUE(AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), 0));
-        char path[MAX_PATH] = "";
-        ::GetModuleFileNameA(nullptr, path, sizeof path);
-        *std::strrchr(path, '\\') = '\0';
-        ASSERT_TRUE(::SetCurrentDirectoryA(path));
+        std::filesystem::current_path(std::filesystem::path(_pgmptr).parent_path());
     }
 };
 inline const testing::Environment* const environment = testing::AddGlobalTestEnvironment(new Framework);

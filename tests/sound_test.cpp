@@ -1,10 +1,9 @@
 // Sounds as they reach the sound device, which writes what it plays to a file.
 #include "modal.h"
 #include "resource_file.h"
+#include "temporary_file.h"
 
 #include <cstdlib>
-#include <fstream>
-#include <iterator>
 
 namespace {
 
@@ -17,16 +16,11 @@ Bytes library_sound(const char* name) {
     return Bytes(first, first + ::SizeofResource(module, found));
 }
 
-Bytes samples_of(const Bytes& sound) {
-    return Bytes(sound.begin() + head_size, sound.end());
-}
-
 class SoundTest : public testing::Test {
 protected:
     void SetUp() override {
         if (!std::getenv("ZOP_PLAYED"))
             GTEST_SKIP() << "NOT PLAYED: no device of the test's own";
-        played_file = std::string("Z:") + std::getenv("ZOP_PLAYED");
     }
     void TearDown() override {
         WntSoundEnable(1);
@@ -34,12 +28,12 @@ protected:
     }
     /// What the device got while the function ran; empty where it was not even opened.
     template <class Play> Bytes played(Play play) const {
-        ::DeleteFileA(played_file.c_str());
+        const std::string path = std::string("Z:") + std::getenv("ZOP_PLAYED");
+        ::DeleteFileA(path.c_str());
         play();
-        std::ifstream file(played_file, std::ios::binary);
-        return Bytes(std::istreambuf_iterator<char>(file), {});
+        const std::string file = text_of(path);
+        return Bytes(file.begin(), file.end());
     }
-    std::string played_file;
 };
 
 } // namespace
@@ -47,7 +41,7 @@ protected:
 TEST_F(SoundTest, PlaysTheLibrarysSounds) {
     const char* names[] = {"IDR_WAVE_BELL", "IDR_WAVE_CLAP", "IDR_WAVE_KEY"};
     for (std::uint16_t id = 0; id < 3; ++id) {
-        const Bytes samples = samples_of(library_sound(names[id]));
+        const Bytes sound = library_sound(names[id]), samples(sound.begin() + head_size, sound.end());
         EXPECT_GT(samples.size(), 2000u);
         EXPECT_TRUE(played([=] { WntSound(id, 7); }) == samples) << names[id];
         WntSoundEnable(id, 0); // without effect here
@@ -69,7 +63,8 @@ TEST_F(SoundTest, PlaysTheHostsSoundsFromTheHost) {
     const HMODULE host = ::LoadLibraryExA("sound test.dll", nullptr, LOAD_LIBRARY_AS_DATAFILE);
     AfxSetResourceHandle(host);
     WntSoundEnable(0); // does not count for the host's sounds
-    EXPECT_TRUE(played([] { WntSoundPlayFromAppResource("#1"); }) == samples_of(sound));
+    const Bytes samples(sound.begin() + head_size, sound.end());
+    EXPECT_TRUE(played([] { WntSoundPlayFromAppResource("#1"); }) == samples);
     const std::string long_name(5000, 'x');
     for (const char* name : {"IDR_WAVE_KEY", "no such sound", long_name.c_str(), "", (const char*)nullptr})
         EXPECT_TRUE(played([=] { WntSoundPlayFromAppResource(name); }).empty());

@@ -1,4 +1,4 @@
-// A file that tests write and read back; it goes with the object.
+// Files that tests write and read back.
 #pragma once
 
 #include <cstdio>
@@ -7,6 +7,12 @@
 #include <string>
 #include <vector>
 
+inline std::string text_of(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+/// A file that goes with the object.
 class TemporaryFile {
 public:
     explicit TemporaryFile(const std::vector<std::uint8_t>& bytes = {}) { write(bytes); }
@@ -19,10 +25,7 @@ public:
         std::ofstream(name(), std::ios::binary)
             .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
     }
-    std::string text() const {
-        std::ifstream file(name(), std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
+    std::string text() const { return text_of(name()); }
     std::vector<std::uint8_t> bytes() const {
         const std::string all = text();
         return {all.begin(), all.end()};

@@ -1,8 +1,8 @@
 // A host window for a widget under test, and its pixels.
 #pragma once
 
-#include <algorithm>
-#include <vector>
+#include <functional>
+#include <tuple>
 
 #include "pixels.h"
 #include "quiet_program.h"
@@ -41,6 +41,22 @@ inline void cover(CWnd& widget, int surface_id, COLORREF colour) {
     dc.FillSolidRect(&area, colour);
 }
 
+/// A host that keeps the messages and notifications that it gets.
+class AttentiveHost : public CWnd {
+public:
+    std::vector<std::tuple<UINT, WPARAM, LPARAM>> seen;
+    std::vector<NMHDR> notified;
+    std::function<void(UINT)> on_message = [](UINT) {};
+
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        seen.emplace_back(message, wParam, lParam);
+        if (message == WM_NOTIFY)
+            notified.push_back(*reinterpret_cast<NMHDR*>(lParam));
+        on_message(message);
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+};
+
 class WidgetTest : public testing::Test {
 protected:
     void SetUp() override {
@@ -55,5 +71,5 @@ protected:
         full_repaint(widget);
     }
 
-    CWnd host_;
+    AttentiveHost host_;
 };

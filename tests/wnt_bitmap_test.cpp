@@ -1,15 +1,12 @@
-#include <zopwnt.h>
-
-#include <gmock/gmock.h>
-
+// Bitmaps and palettes, and their files.
 #include <process.h>
 
-#include <climits>
-#include <cstring>
 #include <filesystem>
 
 #include "bitmap_files.h"
+#include "modal.h"
 #include "pixels.h"
+#include "resource_file.h"
 #include "temporary_file.h"
 
 namespace {
@@ -43,8 +40,7 @@ TEST(WntBitmap, BeginsAsAGreyRamp) {
     EXPECT_EQ(bitmap.GetPixelAddress(0, 0), bits + 16);
     EXPECT_EQ(bitmap.GetPixelAddress(4, 2), bits + 4);
     EXPECT_TRUE(!bitmap.GetPixelAddress(5, 0) && !bitmap.GetPixelAddress(0, 3));
-    EXPECT_FALSE(bitmap.Create(-1, 4));
-    EXPECT_FALSE(bitmap.Create(INT_MAX, INT_MAX) || bitmap.Create(65'536, 32'768));
+    EXPECT_FALSE(bitmap.Create(-1, 4) || bitmap.Create(INT_MAX, INT_MAX) || bitmap.Create(65'536, 32'768));
     BITMAPINFO endless = {{40, 1, 1, 1, 24, BI_RGB, 0, 0, 0, 65'537, 0}, {}};
     EXPECT_FALSE(bitmap.Create(&endless, nullptr));
     bitmap.Draw(nullptr, 0, 0); // nothing is kept, and nothing harms
@@ -53,38 +49,6 @@ TEST(WntBitmap, BeginsAsAGreyRamp) {
     CWntBitmap ramp;
     ASSERT_TRUE(!ramp.MapColorsToPalette(&palette) && palette.Create(&ramp));
     EXPECT_FALSE(bitmap.MapColorsToPalette(&palette) || bitmap.GetBitsAddress() || bitmap.GetWidth());
-}
-
-// Both classes show a file's picture; a DIB file's rows are as in the file when they need no padding, or all are read.
-TEST(WntBitmap, ShowsEveryKindOfFileAsTheDibFileDoes) {
-    for (const BitmapFile& file : all_bitmap_files()) {
-        SCOPED_TRACE(testing::Message() << file.bits << " bits, width " << file.width << ", core " << file.core);
-        const TemporaryFile disk(file.bytes());
-        CWntBitmap bitmap;
-        CDibFile dib;
-        ASSERT_EQ(bitmap.Load(disk.name()), TRUE);
-        ASSERT_EQ(dib.Load(disk.name()), !file.core);
-        const int height = std::abs(file.height);
-        Picture picture(file.width, height);
-        Picture large(2 * file.width, 3 * height);
-        const auto check = [&] {
-            for (int i = 0; i < file.width * height; ++i)
-                ASSERT_EQ(picture.at(i % file.width, i / file.width), file.colour_at(i % file.width, i / file.width));
-            EXPECT_EQ(large.at(2 * file.width - 1, 0), picture.at(file.width - 1, 0));
-        };
-        bitmap.Draw(CDC::FromHandle(picture.dc()), 0, 0);
-        bitmap.Draw(CDC::FromHandle(large.dc()), 0, 0, 2 * file.width, 3 * height);
-        check();
-        if (file.core || (file.height > 0 && file.width * file.bits % 32 != 0))
-            continue;
-        picture.clear(0);
-        large.clear(0);
-        const bool plain = file.colours() == 0; // intended: a palette that is selected counts as a failure
-        EXPECT_TRUE(dib.Draw(picture.dc(), 0, 0, 0, 0) == plain && dib.GetLastError() == !plain);
-        const int drawn = dib.DrawRealized(large.dc(), 0, 0, 2 * file.width, 3 * height);
-        EXPECT_TRUE(drawn == plain && dib.GetLastError() == !plain);
-        check();
-    }
 }
 
 TEST(WntBitmap, SavesEightBitsWithAFullTable) {
@@ -103,15 +67,11 @@ TEST(WntBitmap, SavesEightBitsWithAFullTable) {
     made->Serialize(load);
     EXPECT_EQ(rows_of(*static_cast<CWntBitmap*>(made), 3, 2), "1 2 3 |4 5 6 |");
     delete made;
-    file.Seek(100, CFile::begin);
-    CDibFile dib;
-    EXPECT_EQ(dib.StreamIn(file), 1);
-    EXPECT_EQ(*static_cast<BYTE*>(dib.GetPtrBits()), 4);
     file.Close();
     const Bytes saved = disk.bytes();
     ASSERT_EQ(saved.size(), 100U + 1078 + 8);
-    const Bytes head(saved.begin() + 100, saved.begin() + 114);
-    EXPECT_THAT(head, ElementsAre('B', 'M', 0x3E, 4, 0, 0, 0, 0, 0, 0, 0x36, 4, 0, 0));
+    EXPECT_THAT(Bytes(saved.begin() + 100, saved.begin() + 114),
+                ElementsAre('B', 'M', 0x3E, 4, 0, 0, 0, 0, 0, 0, 0x36, 4, 0, 0));
     EXPECT_THAT(Bytes(saved.end() - 8, saved.end()), ElementsAre(4, 5, 6, 0, 1, 2, 3, 0));
 
     CFile reading(disk.name(), CFile::modeRead);
@@ -163,7 +123,6 @@ TEST(WntBitmap, MapsItsColoursToAPalette) {
     EXPECT_EQ(rows_of(bitmap, 9, 1), "1 1 1 1 1 2 2 2 2 |");
     const RGBQUAD second = bitmap.GetClrTabAddress()[1];
     EXPECT_THAT((Bytes{second.rgbBlue, second.rgbRed, second.rgbReserved}), ElementsAre(62, 62, 9));
-    EXPECT_EQ(bitmap.GetNumClrEntries(), 256U);
 
     const TemporaryFile disk(BitmapFile{8, 16, -5}.bytes()); // the upper row first, and all of it
     ASSERT_TRUE(bitmap.Load(disk.name()) && bitmap.MapColorsToPalette(&palette));
@@ -191,21 +150,12 @@ TEST(WntBitmap, EndsWhereRunLengthsInPlaceEnd) {
     }
 }
 
-void add_resource(const fs::path& module, LPCSTR type, WORD id, Bytes data) {
-    HANDLE update = ::BeginUpdateResourceA(module.string().c_str(), FALSE);
-    ::UpdateResourceA(update, type, MAKEINTRESOURCEA(id), 0, data.data(), static_cast<DWORD>(data.size()));
-    ::EndUpdateResourceA(update, FALSE);
-}
-
-// Runs a test again with copies of program and library that got resources.
+// Runs a test again with copies of program and library that got resources. Other libraries are found here.
 int run_with_resources(const char* test) {
-    char own[MAX_PATH];
-    ::GetModuleFileNameA(nullptr, own, sizeof own);
-    const fs::path bin = fs::path(own).parent_path(), folder = bin / "with_resources";
-    const fs::path program = folder / "bitmap_test.exe", library = folder / "ZOPWNT.dll";
-    fs::create_directories(folder);
-    fs::copy_file(own, program, fs::copy_options::overwrite_existing);
-    fs::copy_file(bin / "ZOPWNT.dll", library, fs::copy_options::overwrite_existing);
+    const char *library = "with_resources/ZOPWNT.dll", *program = "with_resources/bitmap_test.exe";
+    fs::create_directories("with_resources");
+    fs::copy_file("ZOPWNT.dll", library, fs::copy_options::overwrite_existing);
+    fs::copy_file("bitmap_test.exe", program, fs::copy_options::overwrite_existing);
     const Bytes whole = BitmapFile{8, 5, 2}.bytes();
     const LPCSTR standard = MAKEINTRESOURCEA(2);
     add_resource(library, standard, 6, whole);
@@ -214,9 +164,8 @@ int run_with_resources(const char* test) {
     add_resource(library, standard, 8, {whole.begin() + 14, whole.end()});
     add_resource(library, "DIB", 9, {whole.begin(), whole.end() - 1});
     add_resource(program, "DIB", 10, whole);
-    fs::current_path(bin); // where the other libraries are
-    const auto code = ::_spawnl(_P_WAIT, program.string().c_str(), "bitmap_test", test, nullptr);
-    fs::remove_all(folder);
+    const auto code = ::_spawnl(_P_WAIT, program, "bitmap_test", test, nullptr);
+    fs::remove_all("with_resources");
     return static_cast<int>(code);
 }
 
@@ -233,6 +182,154 @@ TEST(WntBitmap, LoadsFromTheLibrarysResources) {
     EXPECT_EQ(*bitmap.GetPixelAddress(0, 0), before);
     for (const UINT id : {8U, 9U, 10U})
         EXPECT_FALSE(bitmap.Load(id)) << id;
+}
+
+constexpr int colours = 20;
+
+struct PaletteFile {
+    std::uint32_t form = 0x204C4150; // "PAL "
+    std::uint32_t id = 0x61746164;   // "data"
+    std::uint32_t held = colours;
+    std::uint32_t chunk = 4 + 4 * held;
+    std::uint32_t version = 0x300;
+    std::uint32_t count = held;
+
+    Bytes bytes() const {
+        Bytes file = {'R', 'I', 'F', 'F'};
+        for (std::uint32_t value : {16 + 4 * held, form, id, chunk, version | count << 16})
+            BitmapFile::put(file, value, 4);
+        for (std::uint32_t i = 0; i < 4 * held; ++i)
+            file.push_back(i % 4 == 3 ? 0 : BitmapFile::colour_byte(i / 4, 2 - i % 4));
+        return file;
+    }
+};
+
+COLORREF colour_of(int i) {
+    return RGB(BitmapFile::colour_byte(i, 2), BitmapFile::colour_byte(i, 1), BitmapFile::colour_byte(i, 0));
+}
+
+COLORREF colour_of(const PALETTEENTRY& entry) {
+    return RGB(entry.peRed, entry.peGreen, entry.peBlue);
+}
+
+COLORREF colour_of(const CPalette& palette, int i) {
+    PALETTEENTRY entry = {};
+    palette.GetPaletteEntries(static_cast<UINT>(i), 1, &entry);
+    return colour_of(entry);
+}
+
+// Also behind other things, and more than the multimedia layer buffers.
+TEST(BitmapPalette, LoadsAndSavesPaletteFiles) {
+    for (const auto& [start, count] : {std::pair{0, colours}, {100, 5000}}) {
+        Bytes bytes = PaletteFile{.held = static_cast<std::uint32_t>(count)}.bytes();
+        bytes.insert(bytes.begin(), static_cast<std::size_t>(start), 0xEE);
+        const TemporaryFile disk(bytes);
+        CFile file(disk.name(), CFile::modeReadWrite);
+        CWntBitmapPalette palette;
+        const int before = live_gdi_objects();
+        for (int i = 0; i < 3; ++i) {
+            file.Seek(start, CFile::begin);
+            ASSERT_TRUE(palette.Load(&file));
+        }
+        EXPECT_EQ(live_gdi_objects(), before + 1); // each replaces the one before
+        EXPECT_TRUE(palette.GetNumColors() == count && colour_of(palette, count - 1) == colour_of(count - 1));
+        file.SetLength(static_cast<ULONGLONG>(start));
+        file.Seek(start, CFile::begin);
+        EXPECT_TRUE(palette.Save(&file));
+        file.Close();
+        EXPECT_EQ(disk.bytes(), bytes);
+        CFile reading(disk.name(), CFile::modeRead);
+        EXPECT_FALSE(palette.Save(&reading));
+    }
+    CWntBitmapPalette none;
+    EXPECT_FALSE(none.Save(INVALID_HANDLE_VALUE) || none.Load(static_cast<HANDLE>(nullptr)) || none.Create(nullptr) ||
+                 none.GetNumColors());
+}
+
+TEST(BitmapPalette, RefusesFaultyFilesAndKeepsItsColours) {
+    const TemporaryFile disk(PaletteFile().bytes());
+    CWntBitmapPalette palette;
+    ASSERT_TRUE(palette.Load(disk.name()));
+    const auto expect_refused = [&](const Bytes& bytes) {
+        disk.write(bytes);
+        EXPECT_FALSE(palette.Load(disk.name())) << testing::PrintToString(bytes);
+        EXPECT_EQ(palette.GetNumColors(), colours);
+    };
+    const PaletteFile faults[] = {{.form = 0x45564157}, {.id = 0x20746164},     {.version = 0x301},    {.count = 0},
+                                  {.count = 21},        {.count = 0xFFFF},      {.chunk = 3},          {.chunk = 83},
+                                  {.chunk = 85},        {.chunk = 0x7FFF'FFF0}, {.chunk = 0xFFFF'FFFF}};
+    for (const PaletteFile& fault : faults)
+        expect_refused(fault.bytes());
+    for (Bytes cut = PaletteFile().bytes(); !cut.empty();) {
+        cut.pop_back();
+        expect_refused(cut);
+    }
+    disk.write(PaletteFile{.count = 7}.bytes()); // a chunk may be longer than its colours
+    EXPECT_TRUE(palette.Load(disk.name()));
+    EXPECT_EQ(palette.GetNumColors(), 7);
+}
+
+// 20 colours are a row of 16 cells and four more, framed; the rest of the ground is left alone.
+TEST(BitmapPalette, DrawsItsCells) {
+    constexpr COLORREF ground = RGB(9, 9, 9);
+    CWntBitmapPalette palette;
+    Picture picture(170, 165);
+    picture.clear(ground);
+    const CRect rect(4, 2, 164, 162); // cells of 10 x 10
+    palette.Draw(CDC::FromHandle(picture.dc()), rect, TRUE);
+    ASSERT_TRUE(palette.Load(TemporaryFile(PaletteFile().bytes()).name()));
+    palette.Draw(nullptr, rect, TRUE);
+    EXPECT_EQ(picture.ink(ground).right, -1);
+    palette.Draw(CDC::FromHandle(picture.dc()), rect, TRUE);
+    for (int i = 0; i < 256; ++i) {
+        const int x = 4 + i % 16 * 10;
+        const int y = 164 - (2 + i / 16 * 10);
+        EXPECT_EQ(picture.at(x + 5, y - 5), i < colours ? colour_of(i) : ground) << i;
+        EXPECT_EQ(picture.at(x + 10, y - 10), i < colours ? RGB(0, 0, 0) : ground) << i;
+    }
+    EXPECT_EQ(CRect(picture.ink(ground)), CRect(4, 162, 164, 142));
+}
+
+TEST(BitmapPaletteScreen, GoesIntoTheSystemPalette) {
+    CWntBitmapPalette palette;
+    EXPECT_FALSE(palette.SetSysPalColors());
+    ASSERT_TRUE(palette.Load(TemporaryFile(PaletteFile().bytes()).name()));
+    HDC screen = ::GetDC(nullptr);
+    const bool has_palette = (::GetDeviceCaps(screen, RASTERCAPS) & RC_PALETTE) != 0;
+    EXPECT_EQ(palette.SetSysPalColors() != 0, has_palette);
+    PALETTEENTRY system[colours] = {}, own[colours] = {};
+    ::GetSystemPaletteEntries(screen, 0, colours, system);
+    palette.GetPaletteEntries(0, colours, own);
+    for (int i = 0; i < colours && has_palette; ++i) { // behind the first static colours come the file's
+        const COLORREF expected = i < 10 ? colour_of(system[i]) : colour_of(i - 10);
+        EXPECT_TRUE(colour_of(own[i]) == expected && own[i].peFlags == (i < 10 ? 0 : PC_NOCOLLAPSE)) << i;
+    }
+    ::ReleaseDC(nullptr, screen);
+}
+
+// Without a path the user is asked, and cancels.
+TEST(BitmapPaths, AreAskedForAndFailuresTold) {
+    class Unsaved : public CWntBitmap {
+        BOOL Save(CFile*) override { return FALSE; }
+    } unsaved;
+    CWntBitmap& bitmap = unsaved;
+    CWntBitmapPalette palette;
+    int cancelled = 0;
+    const WhileModal modal([&] {
+        if (HWND dialog = ::FindWindowA("#32770", nullptr); ::IsWindowVisible(dialog)) {
+            ++cancelled;
+            ::SendMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
+        }
+        return cancelled == 3;
+    });
+    EXPECT_FALSE(bitmap.Load(static_cast<LPCTSTR>(nullptr)) || bitmap.Save("") || palette.Load(""));
+    EXPECT_EQ(cancelled, 3);
+    program.boxes.clear();
+    const TemporaryFile disk;
+    EXPECT_FALSE(bitmap.Load("no such.bmp") || bitmap.Save("no such folder\\x.bmp") || bitmap.Save(disk.name()) ||
+                 palette.Load("no such.pal") || palette.Load(disk.name()));
+    EXPECT_THAT(program.boxes, testing::ElementsAre("Failed to open file", "Failed to save file", "Failed to open file",
+                                                    "Failed to load file"));
 }
 
 } // namespace
