@@ -161,6 +161,8 @@ TEST_F(AxisTest, ZoomControlFollowsTheMouse) {
     axis_.SendMessage(WM_COMMAND, 100); // ends the drag as well
     EXPECT_FALSE(captured());
     EXPECT_EQ(zoom(), "       ");
+    axis_.SendMessage(WM_COMMAND, 100);
+    EXPECT_EQ(zoom(), "#######"); // laid out anew where its ends had met
 }
 
 TEST_F(AxisTest, DoubleClicksAreTold) {
