@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <mbctype.h>
 #include <type_traits>
 #include <utility>
 
@@ -28,6 +29,10 @@ TEST(AfxString, StaysWithinItsBounds) {
     EXPECT_EQ(text.Replace("", "x"), 0);
     EXPECT_EQ(text.Replace("r", "rrr"), 2);
     EXPECT_STREQ(text, "frrrameworrrk");
+    ASSERT_EQ(_setmbcp(932), 0);
+    CString katakana("\x83|a|b");
+    EXPECT_EQ(katakana.Replace('|', '+'), 1) << "the first one is half a character";
+    _setmbcp(_MB_CP_ANSI);
     text.SetAt(99, 'x');
     EXPECT_EQ(text.GetLength(), 13);
 }

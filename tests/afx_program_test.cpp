@@ -1,6 +1,8 @@
 // The program around the windows: message loop, dialogs, frames, drawing, resources.
 #include "afx_test_app.h"
 
+#include <afxdlgs.h>
+
 #include <gmock/gmock.h>
 
 using testing::ElementsAre;
@@ -112,11 +114,44 @@ TEST(AfxDialog, ModalOneDisablesItsParentUntilItEnds) {
     EXPECT_EQ(dialog.DoModal(), -1);
     EXPECT_EQ(the_app.take_boxes().size(), 1u);
     EXPECT_TRUE(parent.IsWindowEnabled());
-    dialog.on_open = [&] { dialog.PostMessage(WM_QUIT); };
+    dialog.on_open = [&] { dialog.PostMessage(WM_QUIT, 7); };
     EXPECT_EQ(dialog.DoModal(), -1);
     MSG quit;
     EXPECT_TRUE(::PeekMessage(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) << "the outer loop must see it, too";
+    EXPECT_EQ(quit.wParam, 7u);
     EXPECT_EQ(CDialog(9999u).DoModal(), -1) << "no such template";
+}
+
+// Hides itself as soon as it is shown.
+class shy_dialog : public CDialog {
+public:
+    shy_dialog() : CDialog(IDD_TEST) {}
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == WM_KICKIDLE) {
+            shown.push_back(IsWindowVisible());
+            ShowWindow(SW_HIDE);
+            if (shown.size() == 2)
+                EndDialog(IDOK);
+            return TRUE;
+        }
+        return CDialog::WindowProc(message, wParam, lParam);
+    }
+    std::vector<BOOL> shown;
+};
+
+TEST(AfxDialog, IsShownOnceAndRefusedWhereItCannotBeInitialised) {
+    shy_dialog shy;
+    EXPECT_EQ(shy.DoModal(), IDOK);
+    EXPECT_THAT(shy.shown, ElementsAre(TRUE, FALSE));
+    test_dialog dialog;
+    dialog.on_open = [] { AfxThrowUserException(); };
+    EXPECT_FALSE(dialog.Create(IDD_TEST));
+    EXPECT_EQ(dialog.m_hWnd, nullptr);
+}
+
+TEST(AfxFileDialog, EndsItsListOfFilters) {
+    const CFileDialog dialog(TRUE, nullptr, nullptr, 0, "Text|*.txt");
+    EXPECT_EQ(std::string(dialog.m_ofn.lpstrFilter, 12), std::string("Text\0*.txt\0\0", 12));
 }
 
 TEST(AfxDialog, ExchangesDataAndRefusesWhatItCannotRead) {

@@ -38,13 +38,15 @@ TEST(AfxWindow, SeesItsMessagesFromTheFirstToTheLast) {
 }
 
 TEST(AfxWindow, ReleasesTheObjectOnceWhenCreationFails) {
-    recorder refused, rejected, unknown;
+    recorder refused, rejected, unknown, failed;
     refused.refuse = true;
     rejected.accept = false;
+    failed.fail = true;
     EXPECT_FALSE(create_popup(refused));
     EXPECT_FALSE(create_popup(rejected));
+    EXPECT_FALSE(create_popup(failed));
     EXPECT_FALSE(unknown.CreateEx(0, "no such class", "", WS_POPUP, CRect(0, 0, 1, 1), nullptr, 0));
-    for (const recorder* wnd : {&refused, &rejected, &unknown}) {
+    for (const recorder* wnd : {&refused, &rejected, &unknown, &failed}) {
         EXPECT_EQ(wnd->m_hWnd, nullptr);
         EXPECT_EQ(std::count(wnd->seen.begin(), wnd->seen.end(), recorder::object_released), 1);
     }
@@ -67,6 +69,10 @@ TEST(AfxWindow, OwnsWhatItCreatedAndNothingElse) {
         EXPECT_EQ(attached.Detach(), foreign);
     }
     EXPECT_FALSE(::IsWindow(created));
+    auto* main = new CWnd;
+    the_app.m_pMainWnd = main;
+    delete main;
+    EXPECT_EQ(AfxGetMainWnd(), nullptr);
     EXPECT_TRUE(::IsWindow(foreign));
 
     recorder subclass;
@@ -100,6 +106,26 @@ TEST(AfxWindow, TemporaryObjectsLastUntilIdleHoweverManyThereAre) {
     EXPECT_NE(CWnd::FromHandle(kept)->GetOwner()->GetSafeHwnd(), owner) << "a new object";
     ::DestroyWindow(kept);
     ::DestroyWindow(owner);
+}
+
+TEST(AfxHandles, ObjectsHoldOneUntilItIsTakenFromThem) {
+    recorder wnd;
+    ASSERT_TRUE(create_popup(wnd));
+    const HWND first = wnd.m_hWnd, other = make_plain();
+    EXPECT_FALSE(create_popup(wnd));
+    EXPECT_FALSE(wnd.Attach(other));
+    EXPECT_EQ(wnd.m_hWnd, first);
+    EXPECT_EQ(std::count(wnd.seen.begin(), wnd.seen.end(), recorder::object_released), 0);
+    CFont font;
+    ASSERT_TRUE(font.CreatePointFont(80, "Arial"));
+    const HGDIOBJ held = font.m_hObject;
+    EXPECT_FALSE(font.CreatePointFont(90, "Arial"));
+    EXPECT_EQ(font.m_hObject, held);
+
+    CWnd* temporary = CWnd::FromHandle(other);
+    temporary->Detach();
+    EXPECT_EQ(CWnd::FromHandle(other)->m_hWnd, other) << "a handle's value may come again";
+    ::DestroyWindow(other);
 }
 
 const UINT registered_message = ::RegisterWindowMessage("afx_test");
@@ -264,6 +290,9 @@ TEST(AfxException, NeverLeavesAWindowProcedure) {
     refused.m_throw = throws[0];
     EXPECT_FALSE(create_popup(refused));
     EXPECT_EQ(refused.m_hWnd, nullptr);
+    the_app.box_fails = true;
+    EXPECT_FALSE(create_popup(refused)) << "the report fails, too";
+    the_app.box_fails = false;
     EXPECT_EQ(CWnd::GetCurrentMessage()->hwnd, nullptr) << "the outer message is current again";
 }
 

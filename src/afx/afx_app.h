@@ -32,7 +32,7 @@ public:
     // Told of an exception that a window's message raised; answers for the message. The caller deletes the exception.
     virtual LRESULT ProcessWndProcException(CException* e, const MSG* pMsg);
 
-    // The answer of a process without a thread object: reports the exception, refuses a creation, ends a painting.
+    // The answer of a process without a thread object: reports the exception, refuses a creation.
     static LRESULT DefaultWndProcException(CException* e, const MSG* pMsg);
 };
 

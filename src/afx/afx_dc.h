@@ -20,11 +20,13 @@ public:
 
     HDC GetSafeHdc() const { return this == nullptr ? nullptr : m_hDC; }
     operator HDC() const { return GetSafeHdc(); }
-    BOOL Attach(HDC hDC);
+    BOOL Attach(HDC hDC); // FALSE where the object holds a handle already
     HDC Detach();
     static CDC* PASCAL FromHandle(HDC hDC);
     virtual void SetAttribDC(HDC hDC) { m_hAttribDC = hDC; }
-    BOOL CreateCompatibleDC(CDC* pDC) { return Attach(::CreateCompatibleDC(pDC->GetSafeHdc())); }
+    BOOL CreateCompatibleDC(CDC* pDC) {
+        return m_hDC == nullptr && Attach(::CreateCompatibleDC(pDC->GetSafeHdc()));
+    }
     BOOL DeleteDC();
     CWnd* GetWindow() const;
 

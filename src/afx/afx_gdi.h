@@ -17,6 +17,7 @@ public:
 
     HGDIOBJ GetSafeHandle() const { return this == nullptr ? nullptr : m_hObject; }
     operator HGDIOBJ() const { return GetSafeHandle(); }
+    // FALSE, here and in every Create function, where the object holds a handle already.
     BOOL Attach(HGDIOBJ hObject);
     HGDIOBJ Detach();
     BOOL DeleteObject();
@@ -24,6 +25,10 @@ public:
     static CGdiObject* PASCAL FromHandle(HGDIOBJ hObject);
 
     HGDIOBJ m_hObject = nullptr;
+
+protected:
+    // Deletes the new handle where the object holds one already.
+    BOOL AttachNew(HGDIOBJ hObject);
 };
 
 #define AFX_DECLARE_GDI_CLASS(class_name, handle_type)                                                                 \
@@ -41,7 +46,7 @@ public:
     // Raises CResourceException where the pen cannot be made; so do the constructors of CBrush.
     CPen(int nPenStyle, int nWidth, COLORREF crColor);
     BOOL CreatePen(int nPenStyle, int nWidth, COLORREF crColor) {
-        return Attach(::CreatePen(nPenStyle, nWidth, crColor));
+        return AttachNew(::CreatePen(nPenStyle, nWidth, crColor));
     }
 };
 
@@ -52,7 +57,7 @@ public:
     CBrush() = default;
     explicit CBrush(COLORREF crColor);
     CBrush(int nIndex, COLORREF crColor);
-    BOOL CreateSolidBrush(COLORREF crColor) { return Attach(::CreateSolidBrush(crColor)); }
+    BOOL CreateSolidBrush(COLORREF crColor) { return AttachNew(::CreateSolidBrush(crColor)); }
 };
 
 class ZOPAFX_API CFont : public CGdiObject {
@@ -60,7 +65,7 @@ class ZOPAFX_API CFont : public CGdiObject {
 
 public:
     CFont() = default;
-    BOOL CreateFontIndirect(const LOGFONT* lpLogFont) { return Attach(::CreateFontIndirect(lpLogFont)); }
+    BOOL CreateFontIndirect(const LOGFONT* lpLogFont) { return AttachNew(::CreateFontIndirect(lpLogFont)); }
     BOOL CreateFont(int nHeight, int nWidth, int nEscapement, int nOrientation, int nWeight, BYTE bItalic,
                     BYTE bUnderline, BYTE cStrikeOut, BYTE nCharSet, BYTE nOutPrecision, BYTE nClipPrecision,
                     BYTE nQuality, BYTE nPitchAndFamily, LPCTSTR lpszFacename);
@@ -86,7 +91,7 @@ class ZOPAFX_API CRgn : public CGdiObject {
 
 public:
     CRgn() = default;
-    BOOL CreateRectRgn(int x1, int y1, int x2, int y2) { return Attach(::CreateRectRgn(x1, y1, x2, y2)); }
+    BOOL CreateRectRgn(int x1, int y1, int x2, int y2) { return AttachNew(::CreateRectRgn(x1, y1, x2, y2)); }
 };
 
 class ZOPAFX_API CPalette : public CGdiObject {
@@ -94,7 +99,7 @@ class ZOPAFX_API CPalette : public CGdiObject {
 
 public:
     CPalette() = default;
-    BOOL CreatePalette(LPLOGPALETTE lpLogPalette) { return Attach(::CreatePalette(lpLogPalette)); }
+    BOOL CreatePalette(LPLOGPALETTE lpLogPalette) { return AttachNew(::CreatePalette(lpLogPalette)); }
     BOOL CreateHalftonePalette(CDC* pDC);
     int GetEntryCount();
     UINT GetPaletteEntries(UINT nStartIndex, UINT nNumEntries, LPPALETTEENTRY lpPaletteColors) const {

@@ -21,7 +21,7 @@ public:
     BOOL Attach(HMENU hMenu);
     HMENU Detach();
     static CMenu* PASCAL FromHandle(HMENU hMenu);
-    BOOL CreatePopupMenu() { return Attach(::CreatePopupMenu()); }
+    BOOL CreatePopupMenu() { return m_hMenu == nullptr && Attach(::CreatePopupMenu()); }
     BOOL LoadMenu(LPCTSTR lpszResourceName);
     BOOL LoadMenu(UINT nIDResource) { return LoadMenu(MAKEINTRESOURCE(nIDResource)); }
     BOOL DestroyMenu();

@@ -47,6 +47,7 @@ public:
     static CWnd* PASCAL FromHandle(HWND hWnd);
     static CWnd* PASCAL FromHandlePermanent(HWND hWnd);
     static void PASCAL DeleteTempMap();
+    // These answer FALSE where the object has a window already; so do Create and CreateEx.
     BOOL Attach(HWND hWndNew);
     HWND Detach();
     BOOL SubclassWindow(HWND hWnd);
@@ -175,8 +176,7 @@ public:
         return ::RedrawWindow(m_hWnd, lpRectUpdate, static_cast<HRGN>(prgnUpdate->GetSafeHandle()), flags);
     }
 
-    UINT_PTR SetTimer(UINT_PTR nIDEvent, UINT nElapse,
-                      void(CALLBACK* lpfnTimer)(HWND, UINT, UINT_PTR, DWORD) = nullptr) {
+    UINT_PTR SetTimer(UINT_PTR nIDEvent, UINT nElapse, void(CALLBACK* lpfnTimer)(HWND, UINT, UINT_PTR, DWORD)) {
         return ::SetTimer(m_hWnd, nIDEvent, nElapse, lpfnTimer);
     }
     BOOL KillTimer(UINT_PTR nIDEvent) { return ::KillTimer(m_hWnd, nIDEvent); }
@@ -267,10 +267,9 @@ protected:
 
 private:
     friend LRESULT AfxCallWndProc(CWnd* wnd, HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
-    friend void AfxTakeOverWindow(CWnd* wnd, HWND hwnd);
+    friend bool AfxTakeOverWindow(CWnd* wnd, HWND hwnd);
     explicit CWnd(HWND place) : m_hWnd(place) {}
     LRESULT DispatchEntry(const AFX_MSGMAP_ENTRY& entry, WPARAM wParam, LPARAM lParam);
-    bool IdleInModalLoop(DWORD flags, LONG count);
 };
 
 ZOPAFX_API LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam);

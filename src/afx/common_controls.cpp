@@ -62,7 +62,8 @@ CImageList::~CImageList() {
 }
 
 BOOL CImageList::Attach(HIMAGELIST hImageList) {
-    ASSERT(m_hImageList == nullptr);
+    if (m_hImageList != nullptr)
+        return FALSE;
     m_hImageList = hImageList;
     return hImageList != nullptr;
 }
@@ -75,7 +76,8 @@ HIMAGELIST CImageList::Detach() {
 
 BOOL CImageList::Create(UINT nBitmapID, int cx, int nGrow, COLORREF crMask) {
     LPCTSTR name = MAKEINTRESOURCE(nBitmapID);
-    return Attach(ImageList_LoadBitmap(AfxFindResourceHandle(name, RT_BITMAP), name, cx, nGrow, crMask));
+    return m_hImageList == nullptr &&
+           Attach(ImageList_LoadBitmap(AfxFindResourceHandle(name, RT_BITMAP), name, cx, nGrow, crMask));
 }
 
 BOOL CImageList::DeleteImageList() {

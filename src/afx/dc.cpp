@@ -10,18 +10,9 @@ IMPLEMENT_DYNAMIC(CPaintDC, CDC)
 
 namespace {
 
-struct dc_traits {
-    template <class Wanted> static CDC* make(void* handle) {
-        CDC* dc = new Wanted;
-        dc->m_hDC = dc->m_hAttribDC = static_cast<HDC>(handle);
-        return dc;
-    }
-    static void forget(CDC* dc) { dc->m_hDC = dc->m_hAttribDC = nullptr; }
-    static bool alive(void* handle) { return ::GetObjectType(handle) != 0; }
-};
-
+// Never destroyed: static objects of other modules may let go of their handles later.
 auto& device_contexts() {
-    static auto& map = *new handle_map<CDC, dc_traits>;
+    static auto& map = *new handle_map<CDC, &CDC::m_hDC>;
     return map;
 }
 
@@ -36,25 +27,22 @@ CDC::~CDC() {
 }
 
 BOOL CDC::Attach(HDC hDC) {
-    ASSERT(m_hDC == nullptr);
-    if (hDC == nullptr)
+    if (!device_contexts().attach(this, hDC))
         return FALSE;
-    m_hDC = hDC;
-    device_contexts().set_permanent(hDC, this);
     SetAttribDC(hDC);
     return TRUE;
 }
 
 HDC CDC::Detach() {
-    const HDC handle = m_hDC;
-    if (handle != nullptr)
-        device_contexts().remove_permanent(handle, this);
-    m_hDC = m_hAttribDC = nullptr;
-    return handle;
+    m_hAttribDC = nullptr;
+    return device_contexts().detach(this);
 }
 
 CDC* PASCAL CDC::FromHandle(HDC hDC) {
-    return device_contexts().any(hDC);
+    CDC* dc = device_contexts().any(hDC);
+    if (dc != nullptr && dc->m_hAttribDC == nullptr)
+        dc->m_hAttribDC = hDC;
+    return dc;
 }
 
 BOOL CDC::DeleteDC() {

@@ -33,23 +33,24 @@ BOOL CDialog::Create(LPCTSTR lpszTemplateName, CWnd* pParentWnd) {
     m_lpszTemplateName = lpszTemplateName;
     HINSTANCE module = nullptr;
     LPCDLGTEMPLATE found = FindTemplate(lpszTemplateName, module);
-    return found != nullptr && CreateIndirect(found, pParentWnd, nullptr, module);
+    m_pParentWnd = pParentWnd;
+    m_modal = false;
+    CWnd* parent = pParentWnd != nullptr ? pParentWnd : AfxGetMainWnd();
+    return found != nullptr && CreateFrom(found, module, parent->GetSafeHwnd());
 }
 
 BOOL CDialog::Create(UINT nIDTemplate, CWnd* pParentWnd) {
     return Create(MAKEINTRESOURCE(nIDTemplate), pParentWnd);
 }
 
-BOOL CDialog::CreateIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, void* lpDialogInit, HINSTANCE hInst) {
-    if (pParentWnd == nullptr)
-        pParentWnd = AfxGetMainWnd();
-    m_pParentWnd = pParentWnd;
+BOOL CDialog::CreateFrom(LPCDLGTEMPLATE form, HINSTANCE module, HWND owner) {
+    if (m_hWnd != nullptr)
+        return FALSE;
     AfxHookWindowCreate(this);
-    const HWND hwnd = ::CreateDialogIndirectParam(hInst != nullptr ? hInst : AfxGetResourceHandle(), lpDialogTemplate,
-                                                  pParentWnd->GetSafeHwnd(), &CDialog::DialogProc, 0);
+    const HWND hwnd = ::CreateDialogIndirectParam(module, form, owner, &CDialog::DialogProc, 0);
     if (!AfxUnhookWindowCreate())
         PostNcDestroy();
-    return hwnd != nullptr;
+    return ::IsWindow(hwnd); // it may have gone in OnInitDialog
 }
 
 BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, void* lpDialogInit) {
@@ -68,7 +69,10 @@ INT_PTR CALLBACK CDialog::DialogProc(HWND hwnd, UINT message, WPARAM wParam, LPA
         return dialog->OnInitDialog();
     } catch (...) {
         answer_exception({hwnd, message, wParam, lParam, 0, {0, 0}});
-        dialog->EndDialog(-1);
+        if (dialog->m_modal)
+            dialog->EndDialog(-1);
+        else
+            dialog->DestroyWindow();
         return FALSE;
     }
 }
@@ -78,27 +82,23 @@ INT_PTR CDialog::DoModal() {
     LPCDLGTEMPLATE form = m_lpDialogTemplate != nullptr ? m_lpDialogTemplate : FindTemplate(m_lpszTemplateName, module);
     if (form == nullptr)
         return -1;
-    const HWND owner = modal_owner(m_pParentWnd);
-    disabled_parent disabled(owner);
+    if (m_hWnd != nullptr)
+        return -1;
+    modal_parent parent(m_pParentWnd);
     m_modal = true; // OnInitDialog may end the dialog before its loop has begun
     m_modalResult = -1;
-    if (!CreateIndirect(form, CWnd::FromHandle(owner), nullptr, module)) {
-        m_modal = false;
+    if (!CreateFrom(form, module, parent.handle()))
         return -1;
-    }
+    const HWND hwnd = m_hWnd;
     const DLGTEMPLATE& placed = *form;
     if (placed.x == 0 && placed.y == 0 && (GetStyle() & (DS_ABSALIGN | DS_CENTER | DS_CENTERMOUSE)) == 0)
         CenterWindow();
-    if (m_modal)
-        RunModalLoop((GetStyle() & DS_NOIDLEMSG) != 0 ? MLF_SHOWONIDLE | MLF_NOIDLEMSG : MLF_SHOWONIDLE);
-    const int result = m_modalResult;
-    if (m_hWnd != nullptr)
-        SetWindowPos(nullptr, 0, 0, 0, 0, SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
-    // Before the dialog goes: else the system activates another program's window.
-    disabled.enable();
-    if (owner != nullptr && ::GetActiveWindow() == m_hWnd)
-        ::SetActiveWindow(owner);
-    DestroyWindow();
+    const DWORD idle = (GetStyle() & DS_NOIDLEMSG) != 0 ? MLF_SHOWONIDLE | MLF_NOIDLEMSG : MLF_SHOWONIDLE;
+    const int result = m_modal ? RunModalLoop(idle) : m_modalResult;
+    if (::IsWindow(hwnd)) { // else the object may be gone as well
+        parent.take_over_from(hwnd);
+        DestroyWindow();
+    }
     return result;
 }
 

@@ -9,19 +9,9 @@ IMPLEMENT_DYNCREATE(CGdiObject, CObject)
 
 namespace {
 
-struct gdi_traits {
-    template <class Wanted> static CGdiObject* make(void* handle) {
-        CGdiObject* object = new Wanted;
-        object->m_hObject = static_cast<HGDIOBJ>(handle);
-        return object;
-    }
-    static void forget(CGdiObject* object) { object->m_hObject = nullptr; }
-    static bool alive(void* handle) { return ::GetObjectType(handle) != 0; }
-};
-
 // Never destroyed: static objects of other modules may let go of their handles later.
 auto& gdi_objects() {
-    static auto& map = *new handle_map<CGdiObject, gdi_traits>;
+    static auto& map = *new handle_map<CGdiObject, &CGdiObject::m_hObject>;
     return map;
 }
 
@@ -58,20 +48,18 @@ CGdiObject* PASCAL CGdiObject::FromHandle(HGDIOBJ hObject) {
 }
 
 BOOL CGdiObject::Attach(HGDIOBJ hObject) {
-    ASSERT(m_hObject == nullptr);
-    if (hObject == nullptr)
-        return FALSE;
-    m_hObject = hObject;
-    gdi_objects().set_permanent(hObject, this);
-    return TRUE;
+    return gdi_objects().attach(this, hObject);
+}
+
+BOOL CGdiObject::AttachNew(HGDIOBJ hObject) {
+    if (Attach(hObject))
+        return TRUE;
+    ::DeleteObject(hObject);
+    return FALSE;
 }
 
 HGDIOBJ CGdiObject::Detach() {
-    const HGDIOBJ handle = m_hObject;
-    if (handle != nullptr)
-        gdi_objects().remove_permanent(handle, this);
-    m_hObject = nullptr;
-    return handle;
+    return gdi_objects().detach(this);
 }
 
 BOOL CGdiObject::DeleteObject() {
@@ -94,8 +82,8 @@ CBrush::CBrush(int nIndex, COLORREF crColor) {
 BOOL CFont::CreateFont(int nHeight, int nWidth, int nEscapement, int nOrientation, int nWeight, BYTE bItalic,
                        BYTE bUnderline, BYTE cStrikeOut, BYTE nCharSet, BYTE nOutPrecision, BYTE nClipPrecision,
                        BYTE nQuality, BYTE nPitchAndFamily, LPCTSTR lpszFacename) {
-    return Attach(::CreateFont(nHeight, nWidth, nEscapement, nOrientation, nWeight, bItalic, bUnderline, cStrikeOut,
-                               nCharSet, nOutPrecision, nClipPrecision, nQuality, nPitchAndFamily, lpszFacename));
+    return AttachNew(::CreateFont(nHeight, nWidth, nEscapement, nOrientation, nWeight, bItalic, bUnderline, cStrikeOut,
+                                  nCharSet, nOutPrecision, nClipPrecision, nQuality, nPitchAndFamily, lpszFacename));
 }
 
 BOOL CFont::CreatePointFont(int nPointSize, LPCTSTR lpszFaceName, CDC* pDC) {
@@ -122,15 +110,15 @@ BOOL CFont::CreatePointFontIndirect(const LOGFONT* lpLogFont, CDC* pDC) {
 }
 
 BOOL CBitmap::LoadBitmap(LPCTSTR lpszResourceName) {
-    return Attach(::LoadBitmap(AfxFindResourceHandle(lpszResourceName, RT_BITMAP), lpszResourceName));
+    return AttachNew(::LoadBitmap(AfxFindResourceHandle(lpszResourceName, RT_BITMAP), lpszResourceName));
 }
 
 BOOL CBitmap::CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight) {
-    return Attach(::CreateCompatibleBitmap(pDC->GetSafeHdc(), nWidth, nHeight));
+    return AttachNew(::CreateCompatibleBitmap(pDC->GetSafeHdc(), nWidth, nHeight));
 }
 
 BOOL CPalette::CreateHalftonePalette(CDC* pDC) {
-    return Attach(::CreateHalftonePalette(pDC->GetSafeHdc()));
+    return AttachNew(::CreateHalftonePalette(pDC->GetSafeHdc()));
 }
 
 int CPalette::GetEntryCount() {

@@ -6,18 +6,8 @@ IMPLEMENT_DYNCREATE(CMenu, CObject)
 
 namespace {
 
-struct menu_traits {
-    template <class Wanted> static CMenu* make(void* handle) {
-        CMenu* menu = new Wanted;
-        menu->m_hMenu = static_cast<HMENU>(handle);
-        return menu;
-    }
-    static void forget(CMenu* menu) { menu->m_hMenu = nullptr; }
-    static bool alive(void* handle) { return ::IsMenu(static_cast<HMENU>(handle)); }
-};
-
 auto& menus() {
-    static auto& map = *new handle_map<CMenu, menu_traits>;
+    static auto& map = *new handle_map<CMenu, &CMenu::m_hMenu>;
     return map;
 }
 
@@ -36,24 +26,15 @@ CMenu* PASCAL CMenu::FromHandle(HMENU hMenu) {
 }
 
 BOOL CMenu::Attach(HMENU hMenu) {
-    ASSERT(m_hMenu == nullptr);
-    if (hMenu == nullptr)
-        return FALSE;
-    m_hMenu = hMenu;
-    menus().set_permanent(hMenu, this);
-    return TRUE;
+    return menus().attach(this, hMenu);
 }
 
 HMENU CMenu::Detach() {
-    const HMENU handle = m_hMenu;
-    if (handle != nullptr)
-        menus().remove_permanent(handle, this);
-    m_hMenu = nullptr;
-    return handle;
+    return menus().detach(this);
 }
 
 BOOL CMenu::LoadMenu(LPCTSTR lpszResourceName) {
-    return Attach(::LoadMenu(AfxFindResourceHandle(lpszResourceName, RT_MENU), lpszResourceName));
+    return m_hMenu == nullptr && Attach(::LoadMenu(AfxFindResourceHandle(lpszResourceName, RT_MENU), lpszResourceName));
 }
 
 BOOL CMenu::DestroyMenu() {

@@ -1,4 +1,5 @@
 #include "afxstr.h"
+#include "afx_exception.h"
 #include "afx_module.h"
 
 #include <algorithm>
@@ -217,9 +218,16 @@ CString& CString::TrimRight(LPCSTR targets) {
 }
 
 int CString::Replace(char oldChar, char newChar) {
-    const auto changed = std::count(m_text.begin(), m_text.end(), oldChar);
-    std::replace(m_text.begin(), m_text.end(), oldChar, newChar);
-    return oldChar == newChar ? 0 : static_cast<int>(changed);
+    int changed = 0;
+    // Character by character: the second byte of another one may have the same value.
+    const unsigned char* const end = bytes(m_text.data()) + m_text.size();
+    for (const unsigned char* at = bytes(m_text.data()); at < end; at = _mbsinc(at)) {
+        char& c = m_text[static_cast<std::size_t>(at - bytes(m_text.data()))];
+        changed += c == oldChar && oldChar != newChar;
+        if (c == oldChar)
+            c = newChar;
+    }
+    return changed;
 }
 
 int CString::Replace(LPCSTR oldText, LPCSTR newText) {
@@ -338,8 +346,9 @@ BOOL CString::GetEnvironmentVariable(LPCSTR name) {
 BSTR CString::AllocSysString() const {
     const int length = MultiByteToWideChar(CP_ACP, 0, m_text.c_str(), GetLength(), nullptr, 0);
     BSTR text = SysAllocStringLen(nullptr, static_cast<UINT>(length));
-    if (text != nullptr)
-        MultiByteToWideChar(CP_ACP, 0, m_text.c_str(), GetLength(), text, length);
+    if (text == nullptr)
+        AfxThrowMemoryException();
+    MultiByteToWideChar(CP_ACP, 0, m_text.c_str(), GetLength(), text, length);
     return text;
 }
 

@@ -41,6 +41,10 @@ BOOL is_idle_message(const MSG& message) {
 
 } // namespace
 
+int quit_code() {
+    return pumped_message.message == WM_QUIT ? static_cast<int>(pumped_message.wParam) : 0;
+}
+
 CWinThread::~CWinThread() = default;
 
 BOOL CWinThread::InitInstance() {
@@ -48,7 +52,7 @@ BOOL CWinThread::InitInstance() {
 }
 
 int CWinThread::ExitInstance() {
-    return pumped_message.message == WM_QUIT ? static_cast<int>(pumped_message.wParam) : 0;
+    return quit_code();
 }
 
 int CWinThread::Run() {
@@ -114,10 +118,7 @@ LRESULT CWinThread::ProcessWndProcException(CException* e, const MSG* pMsg) {
 }
 
 LRESULT CWinThread::DefaultWndProcException(CException* e, const MSG* pMsg) {
-    // Before the report: its message box would have the window painted again, and fail again.
-    if (pMsg->message == WM_PAINT)
-        ::ValidateRect(pMsg->hwnd, nullptr);
     if (!e->IsKindOf(RUNTIME_CLASS(CUserException)))
         e->ReportError(MB_ICONEXCLAMATION | MB_SYSTEMMODAL);
-    return pMsg->message == WM_CREATE ? -1 : 0;
+    return refusal(*pMsg);
 }
