@@ -5,11 +5,43 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <string>
 #include <mbctype.h>
 #include <type_traits>
 #include <utility>
 
 namespace {
+
+std::string debugger_text;
+
+LONG CALLBACK take_debugger_text(EXCEPTION_POINTERS* raised) {
+    const EXCEPTION_RECORD& record = *raised->ExceptionRecord;
+    if (record.ExceptionCode != DBG_PRINTEXCEPTION_C)
+        return EXCEPTION_CONTINUE_SEARCH;
+    debugger_text += reinterpret_cast<const char*>(record.ExceptionInformation[1]);
+    return EXCEPTION_CONTINUE_EXECUTION;
+}
+
+class dumped : public CObject {
+    DECLARE_DYNAMIC(dumped)
+
+public:
+    void AssertValid() const override { CObject::AssertValid(); }
+    void Dump(CDumpContext& dc) const override {
+        CObject::Dump(dc);
+        dc << "value " << 7;
+    }
+};
+IMPLEMENT_DYNAMIC(dumped, CObject)
+
+TEST(AfxObject, DumpsItsClassToTheDebugger) {
+    void* listener = ::AddVectoredExceptionHandler(TRUE, &take_debugger_text);
+    const dumped object;
+    object.AssertValid();
+    object.Dump(afxDump);
+    ::RemoveVectoredExceptionHandler(listener);
+    EXPECT_EQ(debugger_text, "dumped\nvalue 7");
+}
 
 TEST(AfxString, StaysWithinItsBounds) {
     CString text("framework");

@@ -43,6 +43,7 @@ public:
     CPen* GetCurrentPen() const { return CPen::FromHandle(current<HPEN>(OBJ_PEN)); }
 
     virtual COLORREF SetBkColor(COLORREF crColor);
+    virtual COLORREF SetTextColor(COLORREF crColor);
     COLORREF GetBkColor() const { return ::GetBkColor(m_hAttribDC); }
     int SetBkMode(int nBkMode);
     UINT SetTextAlign(UINT nFlags);

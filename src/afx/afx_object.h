@@ -5,6 +5,7 @@
 
 class CObject;
 class CArchive;
+class CDumpContext;
 
 // Describes a class at run time: its name, its base and, where it can be created dynamically, how.
 struct ZOPAFX_API CRuntimeClass {
@@ -42,6 +43,10 @@ public:
     virtual CRuntimeClass* GetRuntimeClass() const;
     virtual ~CObject();
     virtual void Serialize(CArchive& ar);
+    // Checks the object's state; a plain object has nothing to check.
+    virtual void AssertValid() const;
+    // Writes the class's name, and what a derived class adds.
+    virtual void Dump(CDumpContext& dc) const;
 
     BOOL IsSerializable() const;
     BOOL IsKindOf(const CRuntimeClass* pClass) const;

@@ -97,6 +97,10 @@ COLORREF CDC::SetBkColor(COLORREF crColor) {
     return set_attribute<COLORREF>(::SetBkColor, crColor);
 }
 
+COLORREF CDC::SetTextColor(COLORREF crColor) {
+    return set_attribute<COLORREF>(::SetTextColor, crColor);
+}
+
 int CDC::SetBkMode(int nBkMode) {
     return set_attribute<int>(::SetBkMode, nBkMode);
 }

@@ -1,7 +1,9 @@
 #include "afx_object.h"
+#include "afx_dump.h"
 
 #include <cstring>
 #include <new>
+#include <string>
 
 namespace {
 // Constant-initialised, so that registration from static constructors needs no order.
@@ -21,6 +23,23 @@ CRuntimeClass* CObject::GetRuntimeClass() const {
 CObject::~CObject() = default;
 
 void CObject::Serialize(CArchive& ar) {}
+
+void CObject::AssertValid() const {}
+
+void CObject::Dump(CDumpContext& dc) const {
+    dc << GetRuntimeClass()->m_lpszClassName << "\n";
+}
+
+CDumpContext afxDump;
+
+CDumpContext& CDumpContext::operator<<(LPCTSTR lpsz) {
+    ::OutputDebugString(lpsz != nullptr ? lpsz : "(null)");
+    return *this;
+}
+
+CDumpContext& CDumpContext::operator<<(int n) {
+    return *this << std::to_string(n).c_str();
+}
 
 BOOL CObject::IsSerializable() const {
     return GetRuntimeClass()->m_wSchema != 0xFFFF;
