@@ -69,7 +69,7 @@ public:
     BOOL PreCreateWindow(CREATESTRUCT& cs) override { return accept && CWnd::PreCreateWindow(cs); }
     void PreSubclassWindow() override {
         if (fail)
-            AfxThrowUserException();
+            throw new CUserException;
     }
     void PostNcDestroy() override { seen.push_back(object_released); }
 

@@ -34,7 +34,6 @@ protected:
     virtual void OnOK();
     virtual void OnCancel();
 
-    UINT m_nIDHelp = 0;
     LPCTSTR m_lpszTemplateName = nullptr;
     LPCDLGTEMPLATE m_lpDialogTemplate = nullptr;
     CWnd* m_pParentWnd = nullptr;

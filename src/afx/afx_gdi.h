@@ -1,4 +1,4 @@
-// Drawing objects: pens, brushes, fonts, bitmaps, regions, palettes.
+// Drawing objects: pens, brushes, fonts, bitmaps, palettes.
 #pragma once
 
 #include "afx_module.h"
@@ -6,6 +6,7 @@
 #include "atltypes.h"
 
 class CDC;
+class CRgn;
 
 // Owns a drawing object's handle and deletes it with itself. FromHandle objects are temporary and own nothing.
 class ZOPAFX_API CGdiObject : public CObject {
@@ -22,7 +23,6 @@ public:
     HGDIOBJ Detach();
     BOOL DeleteObject();
     int GetObject(int nCount, LPVOID lpObject) const { return ::GetObject(m_hObject, nCount, lpObject); }
-    static CGdiObject* PASCAL FromHandle(HGDIOBJ hObject);
 
     HGDIOBJ m_hObject = nullptr;
 
@@ -43,7 +43,7 @@ class ZOPAFX_API CPen : public CGdiObject {
 
 public:
     CPen() = default;
-    // Raises CResourceException where the pen cannot be made; so do the constructors of CBrush.
+    // Raises CResourceException where the pen cannot be made; so does the constructor of CBrush.
     CPen(int nPenStyle, int nWidth, COLORREF crColor);
     BOOL CreatePen(int nPenStyle, int nWidth, COLORREF crColor) {
         return AttachNew(::CreatePen(nPenStyle, nWidth, crColor));
@@ -56,7 +56,6 @@ class ZOPAFX_API CBrush : public CGdiObject {
 public:
     CBrush() = default;
     explicit CBrush(COLORREF crColor);
-    CBrush(int nIndex, COLORREF crColor);
     BOOL CreateSolidBrush(COLORREF crColor) { return AttachNew(::CreateSolidBrush(crColor)); }
 };
 
@@ -65,14 +64,12 @@ class ZOPAFX_API CFont : public CGdiObject {
 
 public:
     CFont() = default;
-    BOOL CreateFontIndirect(const LOGFONT* lpLogFont) { return AttachNew(::CreateFontIndirect(lpLogFont)); }
     BOOL CreateFont(int nHeight, int nWidth, int nEscapement, int nOrientation, int nWeight, BYTE bItalic,
                     BYTE bUnderline, BYTE cStrikeOut, BYTE nCharSet, BYTE nOutPrecision, BYTE nClipPrecision,
                     BYTE nQuality, BYTE nPitchAndFamily, LPCTSTR lpszFacename);
     // Height in tenths of a point, converted for pDC, or for the screen where it is null.
     BOOL CreatePointFont(int nPointSize, LPCTSTR lpszFaceName, CDC* pDC = nullptr);
     BOOL CreatePointFontIndirect(const LOGFONT* lpLogFont, CDC* pDC = nullptr);
-    int GetLogFont(LOGFONT* pLogFont) { return GetObject(sizeof(LOGFONT), pLogFont); }
 };
 
 class ZOPAFX_API CBitmap : public CGdiObject {
@@ -80,18 +77,8 @@ class ZOPAFX_API CBitmap : public CGdiObject {
 
 public:
     CBitmap() = default;
-    BOOL LoadBitmap(LPCTSTR lpszResourceName);
-    BOOL LoadBitmap(UINT nIDResource) { return LoadBitmap(MAKEINTRESOURCE(nIDResource)); }
     BOOL CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight);
     int GetBitmap(BITMAP* pBitMap) { return GetObject(sizeof(BITMAP), pBitMap); }
-};
-
-class ZOPAFX_API CRgn : public CGdiObject {
-    AFX_DECLARE_GDI_CLASS(CRgn, HRGN)
-
-public:
-    CRgn() = default;
-    BOOL CreateRectRgn(int x1, int y1, int x2, int y2) { return AttachNew(::CreateRectRgn(x1, y1, x2, y2)); }
 };
 
 class ZOPAFX_API CPalette : public CGdiObject {

@@ -1,6 +1,5 @@
 #include "afx_dialog.h"
 #include "afx_app.h"
-#include "afx_exception.h"
 #include "afxmsg_.h"
 #include "modal_parent.h"
 #include "wnd_state.h"
@@ -13,10 +12,7 @@ ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
 END_MESSAGE_MAP()
 
 CDialog::CDialog(LPCTSTR lpszTemplateName, CWnd* pParentWnd)
-    : m_lpszTemplateName(lpszTemplateName), m_pParentWnd(pParentWnd) {
-    if (IS_INTRESOURCE(lpszTemplateName))
-        m_nIDHelp = LOWORD(reinterpret_cast<UINT_PTR>(lpszTemplateName));
-}
+    : m_lpszTemplateName(lpszTemplateName), m_pParentWnd(pParentWnd) {}
 
 CDialog::CDialog(UINT nIDTemplate, CWnd* pParentWnd) : CDialog(MAKEINTRESOURCE(nIDTemplate), pParentWnd) {}
 
@@ -30,11 +26,13 @@ LPCDLGTEMPLATE CDialog::FindTemplate(LPCTSTR name, HINSTANCE& module) {
 }
 
 BOOL CDialog::Create(LPCTSTR lpszTemplateName, CWnd* pParentWnd) {
+    if (m_hWnd != nullptr)
+        return FALSE;
     m_lpszTemplateName = lpszTemplateName;
-    HINSTANCE module = nullptr;
-    LPCDLGTEMPLATE found = FindTemplate(lpszTemplateName, module);
     m_pParentWnd = pParentWnd;
     m_modal = false;
+    HINSTANCE module = nullptr;
+    LPCDLGTEMPLATE found = FindTemplate(lpszTemplateName, module);
     CWnd* parent = pParentWnd != nullptr ? pParentWnd : AfxGetMainWnd();
     return found != nullptr && CreateFrom(found, module, parent->GetSafeHwnd());
 }
@@ -44,8 +42,6 @@ BOOL CDialog::Create(UINT nIDTemplate, CWnd* pParentWnd) {
 }
 
 BOOL CDialog::CreateFrom(LPCDLGTEMPLATE form, HINSTANCE module, HWND owner) {
-    if (m_hWnd != nullptr)
-        return FALSE;
     AfxHookWindowCreate(this);
     const HWND hwnd = ::CreateDialogIndirectParam(module, form, owner, &CDialog::DialogProc, 0);
     if (!AfxUnhookWindowCreate())
@@ -62,13 +58,15 @@ BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWn
 INT_PTR CALLBACK CDialog::DialogProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message != WM_INITDIALOG)
         return FALSE;
-    CDialog* dialog = DYNAMIC_DOWNCAST(CDialog, CWnd::FromHandlePermanent(hwnd));
+    auto* dialog = dynamic_cast<CDialog*>(CWnd::FromHandlePermanent(hwnd));
     if (dialog == nullptr)
         return TRUE;
     try {
         return dialog->OnInitDialog();
     } catch (...) {
         answer_exception({hwnd, message, wParam, lParam, 0, {0, 0}});
+        if (CWnd::FromHandlePermanent(hwnd) != dialog)
+            return FALSE; // gone already
         if (dialog->m_modal)
             dialog->EndDialog(-1);
         else
@@ -80,9 +78,7 @@ INT_PTR CALLBACK CDialog::DialogProc(HWND hwnd, UINT message, WPARAM wParam, LPA
 INT_PTR CDialog::DoModal() {
     HINSTANCE module = AfxGetResourceHandle();
     LPCDLGTEMPLATE form = m_lpDialogTemplate != nullptr ? m_lpDialogTemplate : FindTemplate(m_lpszTemplateName, module);
-    if (form == nullptr)
-        return -1;
-    if (m_hWnd != nullptr)
+    if (form == nullptr || m_hWnd != nullptr)
         return -1;
     modal_parent parent(m_pParentWnd);
     m_modal = true; // OnInitDialog may end the dialog before its loop has begun
@@ -133,8 +129,7 @@ BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pH
     if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
         return TRUE;
     // Commands go on; the ids of controls and of the system menu stay here.
-    const bool command = (nCode == CN_COMMAND || nCode == CN_UPDATE_COMMAND_UI) && nID >= 0x8000 && nID < 0xF000;
-    if (!command)
+    if (nCode != CN_COMMAND || nID < 0x8000 || nID >= 0xF000)
         return FALSE;
     CWnd* owner = GetParent();
     if (owner != nullptr && owner->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))

@@ -55,15 +55,6 @@ UINT_PTR CALLBACK CFileDialog::HookProc(HWND hwnd, UINT message, WPARAM wParam, 
     }
 }
 
-BOOL CFileDialog::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
-    const auto* notify = reinterpret_cast<const OFNOTIFY*>(lParam);
-    if (notify->hdr.code != CDN_FILEOK)
-        return CCommonDialog::OnNotify(wParam, lParam, pResult);
-    *pResult = OnFileNameOK();
-    ::SetWindowLongPtr(m_hWnd, DWLP_MSGRESULT, *pResult);
-    return TRUE;
-}
-
 CString CFileDialog::GetPathName() const {
     return m_ofn.lpstrFile;
 }
@@ -71,16 +62,4 @@ CString CFileDialog::GetPathName() const {
 CString CFileDialog::GetFileName() const {
     const CString path = GetPathName();
     return path.Mid(path.ReverseFind('\\') + 1);
-}
-
-CString CFileDialog::GetFileExt() const {
-    const CString name = GetFileName();
-    const int dot = name.ReverseFind('.');
-    return dot >= 0 ? name.Mid(dot + 1) : CString();
-}
-
-CString CFileDialog::GetFileTitle() const {
-    const CString name = GetFileName();
-    const int dot = name.ReverseFind('.');
-    return dot >= 0 ? name.Left(dot) : name;
 }

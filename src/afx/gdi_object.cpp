@@ -36,15 +36,10 @@ IMPLEMENT_GDI_CLASS(CPen, HPEN)
 IMPLEMENT_GDI_CLASS(CBrush, HBRUSH)
 IMPLEMENT_GDI_CLASS(CFont, HFONT)
 IMPLEMENT_GDI_CLASS(CBitmap, HBITMAP)
-IMPLEMENT_GDI_CLASS(CRgn, HRGN)
 IMPLEMENT_GDI_CLASS(CPalette, HPALETTE)
 
 CGdiObject::~CGdiObject() {
     DeleteObject();
-}
-
-CGdiObject* PASCAL CGdiObject::FromHandle(HGDIOBJ hObject) {
-    return gdi_objects().any(hObject);
 }
 
 BOOL CGdiObject::Attach(HGDIOBJ hObject) {
@@ -75,10 +70,6 @@ CBrush::CBrush(COLORREF crColor) {
     attach_or_throw(*this, ::CreateSolidBrush(crColor));
 }
 
-CBrush::CBrush(int nIndex, COLORREF crColor) {
-    attach_or_throw(*this, ::CreateHatchBrush(nIndex, crColor));
-}
-
 BOOL CFont::CreateFont(int nHeight, int nWidth, int nEscapement, int nOrientation, int nWeight, BYTE bItalic,
                        BYTE bUnderline, BYTE cStrikeOut, BYTE nCharSet, BYTE nOutPrecision, BYTE nClipPrecision,
                        BYTE nQuality, BYTE nPitchAndFamily, LPCTSTR lpszFacename) {
@@ -106,11 +97,7 @@ BOOL CFont::CreatePointFontIndirect(const LOGFONT* lpLogFont, CDC* pDC) {
         ::ReleaseDC(nullptr, dc);
     LOGFONT description = *lpLogFont;
     description.lfHeight = -std::abs(height.y - origin.y);
-    return CreateFontIndirect(&description);
-}
-
-BOOL CBitmap::LoadBitmap(LPCTSTR lpszResourceName) {
-    return AttachNew(::LoadBitmap(AfxFindResourceHandle(lpszResourceName, RT_BITMAP), lpszResourceName));
+    return AttachNew(::CreateFontIndirect(&description));
 }
 
 BOOL CBitmap::CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight) {

@@ -11,9 +11,6 @@
 inline bool is_alive(HWND handle) {
     return ::IsWindow(handle);
 }
-inline bool is_alive(HMENU handle) {
-    return ::IsMenu(handle);
-}
 inline bool is_alive(HGDIOBJ handle) {
     return ::GetObjectType(handle) != 0;
 }
@@ -94,4 +91,3 @@ void delete_temporary_objects();
 void delete_temporary_windows();
 void delete_temporary_gdi_objects();
 void delete_temporary_device_contexts();
-void delete_temporary_menus();

@@ -3,8 +3,8 @@
 
 #include "afx_app.h"
 
-// The wanted parent's top-level window: a disabled child cannot hold a dialog. Without a wanted one, the main window, or
-// the modal dialog that runs in front of it.
+// The wanted parent's top-level window: a disabled child cannot hold a dialog. Without a wanted one, the main window,
+// or the modal dialog that runs in front of it.
 inline HWND modal_owner(CWnd* wanted) {
     HWND owner = wanted->GetSafeHwnd();
     if (owner == nullptr) {

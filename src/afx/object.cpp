@@ -49,10 +49,6 @@ BOOL CObject::IsKindOf(const CRuntimeClass* pClass) const {
     return this != nullptr && GetRuntimeClass()->IsDerivedFrom(pClass);
 }
 
-CObject* AFXAPI AfxDynamicDownCast(CRuntimeClass* pClass, CObject* pObject) {
-    return pObject != nullptr && pObject->IsKindOf(pClass) ? pObject : nullptr;
-}
-
 CObject* CRuntimeClass::CreateObject() {
     if (m_pfnCreateObject == nullptr)
         return nullptr;
@@ -72,19 +68,14 @@ BOOL CRuntimeClass::IsDerivedFrom(const CRuntimeClass* pBaseClass) const {
     return FALSE;
 }
 
-CRuntimeClass* PASCAL CRuntimeClass::FromName(LPCSTR lpszClassName) {
+CObject* PASCAL CRuntimeClass::CreateObject(LPCSTR lpszClassName) {
     if (lpszClassName == nullptr)
         return nullptr;
     for (CRuntimeClass* at = first_class; at != nullptr; at = at->m_pNextClass) {
         if (std::strcmp(at->m_lpszClassName, lpszClassName) == 0)
-            return at;
+            return at->CreateObject();
     }
     return nullptr;
-}
-
-CObject* PASCAL CRuntimeClass::CreateObject(LPCSTR lpszClassName) {
-    CRuntimeClass* found = FromName(lpszClassName);
-    return found != nullptr ? found->CreateObject() : nullptr;
 }
 
 AFX_CLASSINIT::AFX_CLASSINIT(CRuntimeClass* pNewClass) : m_class(pNewClass) {

@@ -90,26 +90,12 @@ BOOL AFXAPI AfxIsIdleMessage() {
 }
 
 BOOL CWinThread::PreTranslateMessage(MSG* pMsg) {
-    if (pMsg->hwnd == nullptr)
-        return FALSE;
-    CWnd* main = m_pMainWnd;
-    if (CWnd::WalkPreTranslateTree(main->GetSafeHwnd(), pMsg))
-        return TRUE;
-    // Accelerators of the main window work in its modeless dialogs, too.
-    CWnd* top = CWnd::FromHandle(pMsg->hwnd)->GetTopLevelParent();
-    return main != nullptr && top != main && !::IsChild(main->m_hWnd, pMsg->hwnd) && main->PreTranslateMessage(pMsg);
+    return CWnd::WalkPreTranslateTree(m_pMainWnd->GetSafeHwnd(), pMsg);
 }
 
 BOOL CWinThread::OnIdle(LONG lCount) {
-    if (lCount <= 0) {
-        CWnd* main = m_pMainWnd;
-        if (main->GetSafeHwnd() != nullptr && main->IsWindowVisible()) {
-            AfxCallWndProc(main, main->m_hWnd, WM_IDLEUPDATECMDUI, TRUE, 0);
-            main->SendMessageToDescendants(WM_IDLEUPDATECMDUI, TRUE, 0, TRUE, TRUE);
-        }
-    } else {
+    if (lCount > 0)
         delete_temporary_objects();
-    }
     return lCount <= 0;
 }
 

@@ -14,16 +14,11 @@ IMPLEMENT_DYNCREATE(CWnd, CCmdTarget)
 BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
 ON_WM_NCDESTROY()
 ON_WM_CTLCOLOR()
-ON_WM_DRAWITEM()
-ON_WM_MEASUREITEM()
 ON_WM_HSCROLL()
 ON_WM_VSCROLL()
 END_MESSAGE_MAP()
 
-const CWnd CWnd::wndTop(HWND_TOP);
 const CWnd CWnd::wndBottom(HWND_BOTTOM);
-const CWnd CWnd::wndTopMost(HWND_TOPMOST);
-const CWnd CWnd::wndNoTopMost(HWND_NOTOPMOST);
 
 namespace {
 
@@ -43,11 +38,6 @@ void delete_temporary_objects() {
     delete_temporary_windows();
     delete_temporary_gdi_objects();
     delete_temporary_device_contexts();
-    delete_temporary_menus();
-}
-
-void PASCAL CWnd::DeleteTempMap() {
-    delete_temporary_objects();
 }
 
 CWnd::~CWnd() {
@@ -77,14 +67,6 @@ HWND CWnd::Detach() {
 
 BOOL CWnd::SubclassWindow(HWND hWnd) {
     return ::IsWindow(hWnd) && FromHandlePermanent(hWnd) == nullptr && AfxTakeOverWindow(this, hWnd);
-}
-
-HWND CWnd::UnsubclassWindow() {
-    WNDPROC* super = GetSuperWndProcAddr();
-    const WNDPROC original = *super != nullptr ? *super : &::DefWindowProc;
-    ::SetWindowLongPtr(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(original));
-    *super = nullptr;
-    return Detach();
 }
 
 BOOL CWnd::PreCreateWindow(CREATESTRUCT& cs) {

@@ -9,7 +9,7 @@ bool idle_in_modal_loop(HWND hwnd, DWORD flags, LONG count) {
     const HWND parent = ::GetParent(hwnd);
     if ((flags & MLF_NOIDLEMSG) == 0 && parent != nullptr && count == 0)
         ::SendMessage(parent, WM_ENTERIDLE, MSGF_DIALOGBOX, reinterpret_cast<LPARAM>(hwnd));
-    return (flags & MLF_NOKICKIDLE) == 0 && ::SendMessage(hwnd, WM_KICKIDLE, MSGF_DIALOGBOX, count) != 0;
+    return ::SendMessage(hwnd, WM_KICKIDLE, MSGF_DIALOGBOX, count) != 0;
 }
 
 void show(HWND hwnd) {

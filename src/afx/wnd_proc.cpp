@@ -110,7 +110,6 @@ bool AfxTakeOverWindow(CWnd* wnd, HWND hwnd) {
     if (!wnd->Attach(hwnd))
         return false;
     wnd->PreSubclassWindow();
-    WNDPROC* super = wnd->GetSuperWndProcAddr();
     const auto old =
         reinterpret_cast<WNDPROC>(::SetWindowLongPtr(hwnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&AfxWndProc)));
     if (old == nullptr) { // a window of another program
@@ -119,7 +118,7 @@ bool AfxTakeOverWindow(CWnd* wnd, HWND hwnd) {
     }
     // The platform's own procedure is called directly, without the detour over a stored one.
     if (old != &AfxWndProc && old != &::DefWindowProc)
-        *super = old;
+        wnd->m_pfnSuper = old;
     return true;
 }
 
