@@ -50,7 +50,7 @@ protected:
         if (Bytes() && std::all_of(Bytes(), Bytes() + block_size, [](unsigned char byte) { return byte == 0; }))
             OnWrite(); // the first gallery's block is empty
         Refresh();
-        SetTimer(refresh_timer, refresh_time);
+        SetTimer(refresh_timer, refresh_time, nullptr);
         return true;
     }
 

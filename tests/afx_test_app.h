@@ -21,6 +21,8 @@ public:
         return more;
     }
     int DoMessageBox(LPCTSTR text, UINT, UINT) override {
+        if (box_fails)
+            AfxThrowMemoryException();
         boxes.push_back(text);
         return IDOK;
     }
@@ -29,7 +31,7 @@ public:
     std::function<BOOL()> start;
     std::vector<std::string> boxes;
     std::vector<LONG> idle_counts;
-    bool quit_when_idle = false;
+    bool quit_when_idle = false, box_fails = false;
     int commands = 0;
 
 private:
@@ -65,8 +67,12 @@ public:
         return CWnd::WindowProc(message, wParam, lParam);
     }
     BOOL PreCreateWindow(CREATESTRUCT& cs) override { return accept && CWnd::PreCreateWindow(cs); }
+    void PreSubclassWindow() override {
+        if (fail)
+            throw new CUserException;
+    }
     void PostNcDestroy() override { seen.push_back(object_released); }
 
     std::vector<UINT> seen;
-    bool refuse = false, accept = true, had_handle = true;
+    bool refuse = false, fail = false, accept = true, had_handle = true;
 };

@@ -1,12 +1,6 @@
 #pragma once
 
-#define IDR_FRAME 128
 #define IDD_TEST 130
 #define IDS_FORMAT 131
-#define IDC_NUMBER 1010
-#define IDC_NAME 1011
-#define IDC_LIST 1013
-#define IDC_RADIO 1014
 #define ID_FRAME_COMMAND 0x8001
 #define ID_APP_COMMAND 0x8002
-#define ID_UNHANDLED 0x8003

@@ -3,6 +3,7 @@
 
 #include "afx_base.h"
 #include "afx_object.h"
+#include "afx_dump.h"
 #include "afxstr.h"
 #include "atltypes.h"
 #include "atlexcept.h"

@@ -14,8 +14,6 @@ public:
     ~CWinThread() override;
 
     CWnd* m_pMainWnd = nullptr;
-    HANDLE m_hThread = nullptr;
-    DWORD m_nThreadID = 0;
 
     virtual CWnd* GetMainWnd() { return m_pMainWnd; }
     // FALSE ends the program without a message loop.
@@ -25,14 +23,13 @@ public:
     // One message; FALSE for the one that ends the loop.
     virtual BOOL PumpMessage();
     virtual BOOL PreTranslateMessage(MSG* pMsg);
-    // TRUE asks for another call with a higher count. Count 0 updates what shows commands, count 1 deletes
-    // temporary objects.
+    // TRUE asks for another call with a higher count. Count 1 deletes temporary objects.
     virtual BOOL OnIdle(LONG lCount);
     virtual BOOL IsIdleMessage(MSG* pMsg);
     // Told of an exception that a window's message raised; answers for the message. The caller deletes the exception.
     virtual LRESULT ProcessWndProcException(CException* e, const MSG* pMsg);
 
-    // The answer of a process without a thread object: reports the exception, refuses a creation, ends a painting.
+    // The answer of a process without a thread object: reports the exception, refuses a creation.
     static LRESULT DefaultWndProcException(CException* e, const MSG* pMsg);
 };
 
@@ -46,21 +43,15 @@ public:
 
     LPCTSTR m_pszAppName;
     LPCTSTR m_pszExeName = nullptr;
-    HINSTANCE m_hInstance = nullptr;
-    LPTSTR m_lpCmdLine = nullptr;
     int m_nCmdShow = SW_SHOWNORMAL;
 
-    virtual BOOL InitApplication();
     BOOL InitInstance() override;
     int ExitInstance() override;
     // Every message box of the framework comes through here.
     virtual int DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt);
     static int ShowAppMessageBox(CWinApp* pApp, LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt);
 
-    HCURSOR LoadCursor(LPCTSTR lpszResourceName) const;
-    HCURSOR LoadCursor(UINT nIDResource) const { return LoadCursor(MAKEINTRESOURCE(nIDResource)); }
     HICON LoadIcon(LPCTSTR lpszResourceName) const;
-    HICON LoadIcon(UINT nIDResource) const { return LoadIcon(MAKEINTRESOURCE(nIDResource)); }
 
 private:
     friend BOOL AFXAPI AfxWinInit(HINSTANCE, HINSTANCE, LPTSTR, int);
@@ -84,4 +75,3 @@ ZOPAFX_API BOOL AFXAPI AfxIsIdleMessage();
 
 // Through the program's DoMessageBox, or plainly shown where there is no program object.
 ZOPAFX_API int AFXAPI AfxMessageBox(LPCTSTR lpszText, UINT nType = MB_OK, UINT nIDHelp = 0);
-ZOPAFX_API int AFXAPI AfxMessageBox(UINT nIDPrompt, UINT nType = MB_OK, UINT nIDHelp = static_cast<UINT>(-1));

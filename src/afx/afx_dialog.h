@@ -13,12 +13,10 @@ public:
     explicit CDialog(UINT nIDTemplate, CWnd* pParentWnd = nullptr);
     ~CDialog() override;
 
-    // Modeless; OnInitDialog has run when they answer TRUE.
+    // Modeless; OnInitDialog has run, and thrown nothing, when they answer TRUE.
     virtual BOOL Create(LPCTSTR lpszTemplateName, CWnd* pParentWnd = nullptr);
     virtual BOOL Create(UINT nIDTemplate, CWnd* pParentWnd = nullptr);
     using CWnd::Create;
-    BOOL CreateIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd = nullptr, void* lpDialogInit = nullptr,
-                        HINSTANCE hInst = nullptr);
     // For a DoModal with a template in memory, which the caller keeps until then.
     BOOL InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd = nullptr, void* lpDialogInit = nullptr);
 
@@ -36,11 +34,13 @@ protected:
     virtual void OnOK();
     virtual void OnCancel();
 
-    UINT m_nIDHelp = 0;
     LPCTSTR m_lpszTemplateName = nullptr;
     LPCDLGTEMPLATE m_lpDialogTemplate = nullptr;
     CWnd* m_pParentWnd = nullptr;
 
     static LPCDLGTEMPLATE FindTemplate(LPCTSTR name, HINSTANCE& module);
     static INT_PTR CALLBACK DialogProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+
+private:
+    BOOL CreateFrom(LPCDLGTEMPLATE form, HINSTANCE module, HWND owner);
 };

@@ -40,7 +40,6 @@ private:
     };
 
 AFX_DECLARE_SIMPLE_EXCEPTION(CMemoryException)
-AFX_DECLARE_SIMPLE_EXCEPTION(CNotSupportedException)
 AFX_DECLARE_SIMPLE_EXCEPTION(CResourceException)
 AFX_DECLARE_SIMPLE_EXCEPTION(CInvalidArgException)
 // Raised to stop what the user has already been told about; reported by nobody.
@@ -70,8 +69,7 @@ public:
         accessDenied,
         invalidFile,
         removeCurrentDir,
-        directoryFull,
-        badSeek,
+        badSeek = 9,
         hardIO,
         sharingViolation,
         lockViolation,
@@ -92,43 +90,8 @@ public:
 };
 
 [[noreturn]] ZOPAFX_API void AFXAPI AfxThrowMemoryException();
-[[noreturn]] ZOPAFX_API void AFXAPI AfxThrowNotSupportedException();
 [[noreturn]] ZOPAFX_API void AFXAPI AfxThrowResourceException();
 [[noreturn]] ZOPAFX_API void AFXAPI AfxThrowInvalidArgException();
-[[noreturn]] ZOPAFX_API void AFXAPI AfxThrowUserException();
 [[noreturn]] ZOPAFX_API void AFXAPI AfxThrowOleException(SCODE sc);
 [[noreturn]] ZOPAFX_API void AFXAPI AfxThrowFileException(int cause, LONG lOsError = -1,
                                                           LPCTSTR lpszFileName = nullptr);
-
-// Deletes a caught exception at the end of its handler, unless the handler throws it on.
-class AfxCaught {
-public:
-    explicit AfxCaught(CException* exception) : m_exception(exception) {}
-    ~AfxCaught() {
-        if (m_exception != nullptr)
-            m_exception->Delete();
-    }
-    void release() { m_exception = nullptr; }
-    AfxCaught(const AfxCaught&) = delete;
-    AfxCaught& operator=(const AfxCaught&) = delete;
-
-private:
-    CException* m_exception;
-};
-
-#define THROW(e) throw e
-#define TRY try {
-#define CATCH(class_name, e)                                                                                           \
-    }                                                                                                                  \
-    catch (class_name * e) {                                                                                           \
-        AfxCaught _afxCaught(e);
-#define AND_CATCH(class_name, e) CATCH(class_name, e)
-#define CATCH_ALL(e) CATCH(CException, e)
-#define AND_CATCH_ALL(e) CATCH(CException, e)
-#define END_CATCH }
-#define END_CATCH_ALL }
-#define THROW_LAST()                                                                                                   \
-    do {                                                                                                               \
-        _afxCaught.release();                                                                                          \
-        throw;                                                                                                         \
-    } while (0)

@@ -10,25 +10,16 @@ class ZOPAFX_API CFile : public CObject {
 public:
     enum OpenFlags : UINT {
         modeRead = 0x0000,
-        modeWrite = 0x0001,
         modeReadWrite = 0x0002,
-        shareCompat = 0x0000,
         shareExclusive = 0x0010,
         shareDenyWrite = 0x0020,
-        shareDenyRead = 0x0030,
         shareDenyNone = 0x0040,
-        modeNoInherit = 0x0080,
-        modeCreate = 0x1000,
-        modeNoTruncate = 0x2000,
-        typeText = 0x4000, // without effect
-        typeBinary = 0x8000
+        modeCreate = 0x1000
     };
-    enum SeekPosition { begin, current, end };
+    enum SeekPosition { begin = FILE_BEGIN, end = FILE_END };
     static const HANDLE hFileNull;
 
     CFile() = default;
-    // Takes over an open handle.
-    explicit CFile(HANDLE hFile) : m_hFile(hFile) {}
     CFile(LPCTSTR lpszFileName, UINT nOpenFlags);
     ~CFile() override;
     operator HANDLE() const { return m_hFile; }
@@ -48,10 +39,6 @@ public:
     virtual void Close();
     // Closes whatever happens; raises nothing.
     virtual void Abort();
-
-    virtual CString GetFilePath() const { return m_strFileName; }
-    virtual CString GetFileName() const;
-    static void PASCAL Remove(LPCTSTR lpszFileName);
 
     HANDLE m_hFile = INVALID_HANDLE_VALUE;
 

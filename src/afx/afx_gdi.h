@@ -1,4 +1,4 @@
-// Drawing objects: pens, brushes, fonts, bitmaps, regions, palettes.
+// Drawing objects: pens, brushes, fonts, bitmaps, palettes.
 #pragma once
 
 #include "afx_module.h"
@@ -6,6 +6,7 @@
 #include "atltypes.h"
 
 class CDC;
+class CRgn;
 
 // Owns a drawing object's handle and deletes it with itself. FromHandle objects are temporary and own nothing.
 class ZOPAFX_API CGdiObject : public CObject {
@@ -17,13 +18,17 @@ public:
 
     HGDIOBJ GetSafeHandle() const { return this == nullptr ? nullptr : m_hObject; }
     operator HGDIOBJ() const { return GetSafeHandle(); }
+    // FALSE, here and in every Create function, where the object holds a handle already.
     BOOL Attach(HGDIOBJ hObject);
     HGDIOBJ Detach();
     BOOL DeleteObject();
     int GetObject(int nCount, LPVOID lpObject) const { return ::GetObject(m_hObject, nCount, lpObject); }
-    static CGdiObject* PASCAL FromHandle(HGDIOBJ hObject);
 
     HGDIOBJ m_hObject = nullptr;
+
+protected:
+    // Deletes the new handle where the object holds one already.
+    BOOL AttachNew(HGDIOBJ hObject);
 };
 
 #define AFX_DECLARE_GDI_CLASS(class_name, handle_type)                                                                 \
@@ -38,10 +43,10 @@ class ZOPAFX_API CPen : public CGdiObject {
 
 public:
     CPen() = default;
-    // Raises CResourceException where the pen cannot be made; so do the constructors of CBrush.
+    // Raises CResourceException where the pen cannot be made; so does the constructor of CBrush.
     CPen(int nPenStyle, int nWidth, COLORREF crColor);
     BOOL CreatePen(int nPenStyle, int nWidth, COLORREF crColor) {
-        return Attach(::CreatePen(nPenStyle, nWidth, crColor));
+        return AttachNew(::CreatePen(nPenStyle, nWidth, crColor));
     }
 };
 
@@ -51,8 +56,7 @@ class ZOPAFX_API CBrush : public CGdiObject {
 public:
     CBrush() = default;
     explicit CBrush(COLORREF crColor);
-    CBrush(int nIndex, COLORREF crColor);
-    BOOL CreateSolidBrush(COLORREF crColor) { return Attach(::CreateSolidBrush(crColor)); }
+    BOOL CreateSolidBrush(COLORREF crColor) { return AttachNew(::CreateSolidBrush(crColor)); }
 };
 
 class ZOPAFX_API CFont : public CGdiObject {
@@ -60,14 +64,12 @@ class ZOPAFX_API CFont : public CGdiObject {
 
 public:
     CFont() = default;
-    BOOL CreateFontIndirect(const LOGFONT* lpLogFont) { return Attach(::CreateFontIndirect(lpLogFont)); }
     BOOL CreateFont(int nHeight, int nWidth, int nEscapement, int nOrientation, int nWeight, BYTE bItalic,
                     BYTE bUnderline, BYTE cStrikeOut, BYTE nCharSet, BYTE nOutPrecision, BYTE nClipPrecision,
                     BYTE nQuality, BYTE nPitchAndFamily, LPCTSTR lpszFacename);
     // Height in tenths of a point, converted for pDC, or for the screen where it is null.
     BOOL CreatePointFont(int nPointSize, LPCTSTR lpszFaceName, CDC* pDC = nullptr);
     BOOL CreatePointFontIndirect(const LOGFONT* lpLogFont, CDC* pDC = nullptr);
-    int GetLogFont(LOGFONT* pLogFont) { return GetObject(sizeof(LOGFONT), pLogFont); }
 };
 
 class ZOPAFX_API CBitmap : public CGdiObject {
@@ -75,18 +77,8 @@ class ZOPAFX_API CBitmap : public CGdiObject {
 
 public:
     CBitmap() = default;
-    BOOL LoadBitmap(LPCTSTR lpszResourceName);
-    BOOL LoadBitmap(UINT nIDResource) { return LoadBitmap(MAKEINTRESOURCE(nIDResource)); }
     BOOL CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight);
     int GetBitmap(BITMAP* pBitMap) { return GetObject(sizeof(BITMAP), pBitMap); }
-};
-
-class ZOPAFX_API CRgn : public CGdiObject {
-    AFX_DECLARE_GDI_CLASS(CRgn, HRGN)
-
-public:
-    CRgn() = default;
-    BOOL CreateRectRgn(int x1, int y1, int x2, int y2) { return Attach(::CreateRectRgn(x1, y1, x2, y2)); }
 };
 
 class ZOPAFX_API CPalette : public CGdiObject {
@@ -94,7 +86,7 @@ class ZOPAFX_API CPalette : public CGdiObject {
 
 public:
     CPalette() = default;
-    BOOL CreatePalette(LPLOGPALETTE lpLogPalette) { return Attach(::CreatePalette(lpLogPalette)); }
+    BOOL CreatePalette(LPLOGPALETTE lpLogPalette) { return AttachNew(::CreatePalette(lpLogPalette)); }
     BOOL CreateHalftonePalette(CDC* pDC);
     int GetEntryCount();
     UINT GetPaletteEntries(UINT nStartIndex, UINT nNumEntries, LPPALETTEENTRY lpPaletteColors) const {

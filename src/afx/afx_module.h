@@ -11,8 +11,6 @@ struct AFX_EXTENSION_MODULE {
 
 // Remembers the module's handle; FALSE only for a null handle.
 ZOPAFX_API BOOL AFXAPI AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hModule);
-// Takes the module's libraries out of the chain and deletes them.
-ZOPAFX_API void AFXAPI AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL bAll = FALSE);
 
 // Puts an extension library into the resource chain, the latest first. Created with new; the framework owns it.
 class ZOPAFX_API CDynLinkLibrary : public CObject {
@@ -23,7 +21,6 @@ public:
 
     HMODULE m_hModule;
     HMODULE m_hResource;
-    BOOL m_bSystem = FALSE;
     CDynLinkLibrary* m_pNextDLL;
 };
 
@@ -36,10 +33,3 @@ ZOPAFX_API void AFXAPI AfxSetResourceHandle(HINSTANCE hInstResource);
 ZOPAFX_API HINSTANCE AFXAPI AfxFindResourceHandle(LPCTSTR lpszName, LPCTSTR lpszType);
 // The same search for a string; null where none has it.
 ZOPAFX_API HINSTANCE AFXAPI AfxFindStringResourceHandle(UINT nID);
-// Length of the text that was copied, 0 where there is none.
-ZOPAFX_API int AFXAPI AfxLoadString(UINT nIDS, LPTSTR lpszBuf, UINT nMaxBuf = 256);
-
-// All modules of a process share one state, so switching it is a formality.
-struct AFX_MODULE_STATE {};
-ZOPAFX_API AFX_MODULE_STATE* AFXAPI AfxGetStaticModuleState();
-#define AFX_MANAGE_STATE(state) static_cast<void>(state);

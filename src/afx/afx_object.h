@@ -5,6 +5,7 @@
 
 class CObject;
 class CArchive;
+class CDumpContext;
 
 // Describes a class at run time: its name, its base and, where it can be created dynamically, how.
 struct ZOPAFX_API CRuntimeClass {
@@ -20,11 +21,10 @@ struct ZOPAFX_API CRuntimeClass {
     BOOL IsDerivedFrom(const CRuntimeClass* pBaseClass) const;
 
     // Looks among the registered classes of the program and of every loaded extension library.
-    static CRuntimeClass* PASCAL FromName(LPCSTR lpszClassName);
     static CObject* PASCAL CreateObject(LPCSTR lpszClassName);
 };
 
-// Registers a class for FromName as long as its module is loaded.
+// Registers a class for CreateObject by its name as long as its module is loaded.
 class ZOPAFX_API AFX_CLASSINIT {
 public:
     explicit AFX_CLASSINIT(CRuntimeClass* pNewClass);
@@ -42,6 +42,10 @@ public:
     virtual CRuntimeClass* GetRuntimeClass() const;
     virtual ~CObject();
     virtual void Serialize(CArchive& ar);
+    // Checks the object's state; a plain object has nothing to check.
+    virtual void AssertValid() const;
+    // Writes the class's name, and what a derived class adds.
+    virtual void Dump(CDumpContext& dc) const;
 
     BOOL IsSerializable() const;
     BOOL IsKindOf(const CRuntimeClass* pClass) const;
@@ -97,9 +101,3 @@ public:                                                                         
     static const AFX_CLASSINIT _init_##class_name(RUNTIME_CLASS(class_name));
 
 #define IMPLEMENT_DYNCREATE(class_name, base_class_name) IMPLEMENT_SERIAL(class_name, base_class_name, 0xFFFF)
-
-// The object as class_name, or null where it is of another kind.
-ZOPAFX_API CObject* AFXAPI AfxDynamicDownCast(CRuntimeClass* pClass, CObject* pObject);
-#define DYNAMIC_DOWNCAST(class_name, object)                                                                           \
-    (static_cast<class_name*>(AfxDynamicDownCast(RUNTIME_CLASS(class_name), object)))
-#define STATIC_DOWNCAST(class_name, object) (static_cast<class_name*>(object))

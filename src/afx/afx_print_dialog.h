@@ -1,7 +1,7 @@
 // The print dialog; included by afxdlgs.h.
 #pragma once
 
-#include "afxdlgs.h"
+#include "afx_file_dialog.h"
 
 class ZOPAFX_API CPrintDialog : public CCommonDialog {
     DECLARE_DYNAMIC(CPrintDialog)

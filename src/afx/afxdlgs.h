@@ -1,52 +1,7 @@
-// Common dialogs of the platform.
+// Dialogs of the platform and property sheets.
 #pragma once
 
 #include "afxwin.h"
-#include "afx_property_sheet.h"
-
-class ZOPAFX_API CCommonDialog : public CDialog {
-    DECLARE_DYNAMIC(CCommonDialog)
-
-public:
-    explicit CCommonDialog(CWnd* pParentWnd);
-
-protected:
-    // The system ends its own dialogs.
-    void OnOK() override;
-    void OnCancel() override;
-};
-
-// Chooses a file to open (bOpenFileDialog TRUE) or to save. In the object's OnInitDialog its window is a child of the
-// dialog, GetParent the dialog itself. lpszFilter is "text|pattern|text|pattern||".
-class ZOPAFX_API CFileDialog : public CCommonDialog {
-    DECLARE_DYNAMIC(CFileDialog)
-
-public:
-    explicit CFileDialog(BOOL bOpenFileDialog, LPCTSTR lpszDefExt = nullptr, LPCTSTR lpszFileName = nullptr,
-                         DWORD dwFlags = OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT, LPCTSTR lpszFilter = nullptr,
-                         CWnd* pParentWnd = nullptr, DWORD dwSize = 0, BOOL bVistaStyle = TRUE);
-    INT_PTR DoModal() override;
-
-    CString GetPathName() const;
-    CString GetFileName() const;
-    CString GetFileExt() const;   // without the dot
-    CString GetFileTitle() const; // the name without the extension
-    const OPENFILENAME& GetOFN() const { return m_ofn; }
-    OPENFILENAME& GetOFN() { return m_ofn; }
-
-    OPENFILENAME m_ofn;
-
-protected:
-    virtual BOOL OnFileNameOK() { return FALSE; } // TRUE refuses the name
-    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
-
-    BOOL m_bOpenFileDialog;
-    CString m_strFilter;
-    char m_szFileTitle[MAX_PATH] = "";
-    char m_szFileName[MAX_PATH] = "";
-
-private:
-    static UINT_PTR CALLBACK HookProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
-};
-
+#include "afx_file_dialog.h"
 #include "afx_print_dialog.h"
+#include "afx_property_sheet.h"

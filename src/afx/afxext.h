@@ -1,4 +1,4 @@
-// What extension libraries need beside the windows.
+// The header that extension libraries name; the windows are all they need.
 #pragma once
 
 #include "afxwin.h"

@@ -1,9 +1,5 @@
 #include "afx_app.h"
 
-#include <algorithm>
-#include <cstdio>
-#include <cstring>
-
 IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
 
 namespace {
@@ -73,20 +69,12 @@ void CWinApp::SetNames() {
         m_pszAppName = m_exeName;
 }
 
-BOOL CWinApp::InitApplication() {
-    return TRUE;
-}
-
 BOOL CWinApp::InitInstance() {
     return TRUE;
 }
 
 int CWinApp::ExitInstance() {
     return CWinThread::ExitInstance();
-}
-
-HCURSOR CWinApp::LoadCursor(LPCTSTR lpszResourceName) const {
-    return ::LoadCursor(AfxFindResourceHandle(lpszResourceName, RT_GROUP_CURSOR), lpszResourceName);
 }
 
 HICON CWinApp::LoadIcon(LPCTSTR lpszResourceName) const {
@@ -109,19 +97,10 @@ int AFXAPI AfxMessageBox(LPCTSTR lpszText, UINT nType, UINT nIDHelp) {
                           : CWinApp::ShowAppMessageBox(nullptr, lpszText, nType, nIDHelp);
 }
 
-int AFXAPI AfxMessageBox(UINT nIDPrompt, UINT nType, UINT nIDHelp) {
-    const CString text(MAKEINTRESOURCE(nIDPrompt));
-    return AfxMessageBox(text, nType, nIDHelp == static_cast<UINT>(-1) ? nIDPrompt : nIDHelp);
-}
-
 BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow) {
     ::SetErrorMode(::SetErrorMode(0) | SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
     if (CWinApp* app = AfxGetApp()) {
-        app->m_hInstance = hInstance;
-        app->m_lpCmdLine = lpCmdLine;
         app->m_nCmdShow = nCmdShow;
-        app->m_hThread = ::GetCurrentThread();
-        app->m_nThreadID = ::GetCurrentThreadId();
         app->SetNames();
     }
     return TRUE;
@@ -129,7 +108,7 @@ BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCm
 
 int AFXAPI AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow) {
     CWinApp* app = AfxGetApp();
-    if (!AfxWinInit(hInstance, hPrevInstance, lpCmdLine, nCmdShow) || app == nullptr || !app->InitApplication())
+    if (!AfxWinInit(hInstance, hPrevInstance, lpCmdLine, nCmdShow) || app == nullptr)
         return -1;
     if (app->InitInstance())
         return app->Run();
@@ -141,19 +120,4 @@ int AFXAPI AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmd
 // Programs that define none of their own take this one from the import library.
 extern "C" ZOPAFX_API int WINAPI WinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPSTR lpCmdLine, int nCmdShow) {
     return AfxWinMain(hInstance, hPrevInstance, lpCmdLine, nCmdShow);
-}
-
-void AFX_CDECL AfxTrace(LPCTSTR lpszFormat, ...) {
-    char text[1024];
-    va_list arguments;
-    va_start(arguments, lpszFormat);
-    std::vsnprintf(text, sizeof(text), lpszFormat, arguments);
-    va_end(arguments);
-    ::OutputDebugString(text);
-}
-
-BOOL AFXAPI AfxAssertFailedLine(LPCSTR lpszFileName, int nLine) {
-    AfxTrace("Assertion failed: %s, line %d\n", lpszFileName, nLine);
-    ::DebugBreak();
-    return TRUE;
 }

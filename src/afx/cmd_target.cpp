@@ -13,22 +13,13 @@ const AFX_MSGMAP* CCmdTarget::GetMessageMap() const {
     return GetThisMessageMap();
 }
 
-const AFX_MSGMAP_ENTRY* find_window_entry(const AFX_MSGMAP* map, UINT message) {
-    for (; map != nullptr; map = map->pfnGetBaseMap != nullptr ? map->pfnGetBaseMap() : nullptr) {
-        for (const AFX_MSGMAP_ENTRY* entry = map->lpEntries; entry->nSig != AfxSig_end; ++entry) {
-            if (entry->nMessage == message)
-                return entry;
-        }
-    }
-    return nullptr;
-}
-
 namespace {
 
-const AFX_MSGMAP_ENTRY* find_command_entry(const AFX_MSGMAP* map, UINT message, UINT code, UINT id) {
+// The first entry that suits, from the class towards its bases; null where there is none.
+template <class Suits> const AFX_MSGMAP_ENTRY* find_entry(const AFX_MSGMAP* map, Suits suits) {
     for (; map != nullptr; map = map->pfnGetBaseMap != nullptr ? map->pfnGetBaseMap() : nullptr) {
         for (const AFX_MSGMAP_ENTRY* entry = map->lpEntries; entry->nSig != AfxSig_end; ++entry) {
-            if (entry->nMessage == message && entry->nCode == code && id >= entry->nID && id <= entry->nLastID)
+            if (suits(*entry))
                 return entry;
         }
     }
@@ -43,9 +34,6 @@ BOOL call_command(CCmdTarget* target, const AFX_MSGMAP_ENTRY& entry, UINT id, vo
     case AfxSigCmd_RANGE:
         (target->*typed_handler<void (CCmdTarget::*)(UINT)>(entry))(id);
         return TRUE;
-    case AfxSigCmdUI:
-        (target->*typed_handler<void (CCmdTarget::*)(CCmdUI*)>(entry))(static_cast<CCmdUI*>(extra));
-        return TRUE;
     case AfxSigNotify_v: {
         const auto* notify = static_cast<const notification*>(extra);
         (target->*typed_handler<void (CCmdTarget::*)(NMHDR*, LRESULT*)>(entry))(notify->header, notify->result);
@@ -58,11 +46,15 @@ BOOL call_command(CCmdTarget* target, const AFX_MSGMAP_ENTRY& entry, UINT id, vo
 
 } // namespace
 
+const AFX_MSGMAP_ENTRY* find_window_entry(const AFX_MSGMAP* map, UINT message) {
+    return find_entry(map, [message](const AFX_MSGMAP_ENTRY& entry) { return entry.nMessage == message; });
+}
+
 BOOL CCmdTarget::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
-    UINT message = nCode == CN_UPDATE_COMMAND_UI ? 0 : HIWORD(nCode);
-    if (message == 0)
-        message = WM_COMMAND;
-    const AFX_MSGMAP_ENTRY* entry = find_command_entry(GetMessageMap(), message, LOWORD(nCode), nID);
+    const UINT message = HIWORD(nCode) != 0 ? HIWORD(nCode) : WM_COMMAND, code = LOWORD(nCode);
+    const AFX_MSGMAP_ENTRY* entry = find_entry(GetMessageMap(), [=](const AFX_MSGMAP_ENTRY& at) {
+        return at.nMessage == message && at.nCode == code && nID >= at.nID && nID <= at.nLastID;
+    });
     if (entry == nullptr)
         return FALSE;
     if (pHandlerInfo == nullptr)

@@ -10,18 +10,9 @@ IMPLEMENT_DYNAMIC(CPaintDC, CDC)
 
 namespace {
 
-struct dc_traits {
-    template <class Wanted> static CDC* make(void* handle) {
-        CDC* dc = new Wanted;
-        dc->m_hDC = dc->m_hAttribDC = static_cast<HDC>(handle);
-        return dc;
-    }
-    static void forget(CDC* dc) { dc->m_hDC = dc->m_hAttribDC = nullptr; }
-    static bool alive(void* handle) { return ::GetObjectType(handle) != 0; }
-};
-
+// Never destroyed: static objects of other modules may let go of their handles later.
 auto& device_contexts() {
-    static auto& map = *new handle_map<CDC, dc_traits>;
+    static auto& map = *new handle_map<CDC, &CDC::m_hDC>;
     return map;
 }
 
@@ -36,25 +27,22 @@ CDC::~CDC() {
 }
 
 BOOL CDC::Attach(HDC hDC) {
-    ASSERT(m_hDC == nullptr);
-    if (hDC == nullptr)
+    if (!device_contexts().attach(this, hDC))
         return FALSE;
-    m_hDC = hDC;
-    device_contexts().set_permanent(hDC, this);
-    SetAttribDC(hDC);
+    m_hAttribDC = hDC;
     return TRUE;
 }
 
 HDC CDC::Detach() {
-    const HDC handle = m_hDC;
-    if (handle != nullptr)
-        device_contexts().remove_permanent(handle, this);
-    m_hDC = m_hAttribDC = nullptr;
-    return handle;
+    m_hAttribDC = nullptr;
+    return device_contexts().detach(this);
 }
 
 CDC* PASCAL CDC::FromHandle(HDC hDC) {
-    return device_contexts().any(hDC);
+    CDC* dc = device_contexts().any(hDC);
+    if (dc != nullptr && dc->m_hAttribDC == nullptr)
+        dc->m_hAttribDC = hDC;
+    return dc;
 }
 
 BOOL CDC::DeleteDC() {
@@ -62,37 +50,8 @@ BOOL CDC::DeleteDC() {
     return handle != nullptr && ::DeleteDC(handle);
 }
 
-CWnd* CDC::GetWindow() const {
-    return CWnd::FromHandle(::WindowFromDC(m_hDC));
-}
-
-HGDIOBJ CDC::select(HGDIOBJ handle) {
-    if (handle == nullptr)
-        return nullptr;
-    const HGDIOBJ old = ::SelectObject(m_hDC, handle);
-    if (m_hAttribDC != m_hDC && m_hAttribDC != nullptr)
-        ::SelectObject(m_hAttribDC, handle);
-    return old;
-}
-
-CPen* CDC::SelectObject(CPen* pPen) {
-    return CPen::FromHandle(static_cast<HPEN>(select(pPen->GetSafeHandle())));
-}
-
-CBrush* CDC::SelectObject(CBrush* pBrush) {
-    return CBrush::FromHandle(static_cast<HBRUSH>(select(pBrush->GetSafeHandle())));
-}
-
-CFont* CDC::SelectObject(CFont* pFont) {
-    return CFont::FromHandle(static_cast<HFONT>(select(pFont->GetSafeHandle())));
-}
-
 CBitmap* CDC::SelectObject(CBitmap* pBitmap) {
     return CBitmap::FromHandle(static_cast<HBITMAP>(::SelectObject(m_hDC, pBitmap->GetSafeHandle())));
-}
-
-int CDC::SelectObject(CRgn* pRgn) {
-    return static_cast<int>(reinterpret_cast<INT_PTR>(select(pRgn->GetSafeHandle())));
 }
 
 CPalette* CDC::SelectPalette(CPalette* pPalette, BOOL bForceBackground) {
@@ -100,69 +59,12 @@ CPalette* CDC::SelectPalette(CPalette* pPalette, BOOL bForceBackground) {
     return CPalette::FromHandle(::SelectPalette(m_hDC, handle, bForceBackground));
 }
 
-template <class Result, class Setter, class... Values> Result CDC::set_attribute(Setter setter, Values... values) {
-    const Result old = setter(m_hDC, values...);
-    return m_hAttribDC != m_hDC && m_hAttribDC != nullptr ? setter(m_hAttribDC, values...) : old;
-}
-
 COLORREF CDC::SetBkColor(COLORREF crColor) {
-    return set_attribute<COLORREF>(::SetBkColor, crColor);
+    return ::SetBkColor(m_hDC, crColor);
 }
 
-int CDC::SetBkMode(int nBkMode) {
-    return set_attribute<int>(::SetBkMode, nBkMode);
-}
-
-UINT CDC::SetTextAlign(UINT nFlags) {
-    return set_attribute<UINT>(::SetTextAlign, nFlags);
-}
-
-int CDC::SetMapMode(int nMapMode) {
-    return set_attribute<int>(::SetMapMode, nMapMode);
-}
-
-CPoint CDC::SetViewportOrg(int x, int y) {
-    CPoint old;
-    set_attribute<BOOL>(::SetViewportOrgEx, x, y, &old);
-    return old;
-}
-
-CSize CDC::SetViewportExt(int cx, int cy) {
-    CSize old;
-    set_attribute<BOOL>(::SetViewportExtEx, cx, cy, &old);
-    return old;
-}
-
-CPoint CDC::SetWindowOrg(int x, int y) {
-    CPoint old;
-    set_attribute<BOOL>(::SetWindowOrgEx, x, y, &old);
-    return old;
-}
-
-CSize CDC::SetWindowExt(int cx, int cy) {
-    CSize old;
-    set_attribute<BOOL>(::SetWindowExtEx, cx, cy, &old);
-    return old;
-}
-
-int CDC::IntersectClipRect(int x1, int y1, int x2, int y2) {
-    return set_attribute<int>(::IntersectClipRect, x1, y1, x2, y2);
-}
-
-int CDC::ExcludeClipRect(int x1, int y1, int x2, int y2) {
-    return set_attribute<int>(::ExcludeClipRect, x1, y1, x2, y2);
-}
-
-CPoint CDC::MoveTo(int x, int y) {
-    CPoint old;
-    set_attribute<BOOL>(::MoveToEx, x, y, &old);
-    return old;
-}
-
-BOOL CDC::LineTo(int x, int y) {
-    if (m_hAttribDC != m_hDC && m_hAttribDC != nullptr)
-        ::MoveToEx(m_hAttribDC, x, y, nullptr);
-    return ::LineTo(m_hDC, x, y);
+COLORREF CDC::SetTextColor(COLORREF crColor) {
+    return ::SetTextColor(m_hDC, crColor);
 }
 
 void CDC::FillSolidRect(LPCRECT lpRect, COLORREF clr) {
@@ -176,42 +78,8 @@ void CDC::FillSolidRect(int x, int y, int cx, int cy, COLORREF clr) {
     FillSolidRect(&rect, clr);
 }
 
-void CDC::Draw3dRect(LPCRECT lpRect, COLORREF clrTopLeft, COLORREF clrBottomRight) {
-    Draw3dRect(lpRect->left, lpRect->top, lpRect->right - lpRect->left, lpRect->bottom - lpRect->top, clrTopLeft,
-               clrBottomRight);
-}
-
-void CDC::Draw3dRect(int x, int y, int cx, int cy, COLORREF clrTopLeft, COLORREF clrBottomRight) {
-    FillSolidRect(x, y, cx - 1, 1, clrTopLeft);
-    FillSolidRect(x, y, 1, cy - 1, clrTopLeft);
-    FillSolidRect(x + cx - 1, y, 1, cy, clrBottomRight);
-    FillSolidRect(x, y + cy - 1, cx, 1, clrBottomRight);
-}
-
 BOOL CDC::TextOut(int x, int y, LPCTSTR lpszString, int nCount) {
     return ::TextOut(m_hDC, x, y, lpszString, nCount);
-}
-
-BOOL CDC::ExtTextOut(int x, int y, UINT nOptions, LPCRECT lpRect, LPCTSTR lpszString, UINT nCount, LPINT lpDxWidths) {
-    return ::ExtTextOut(m_hDC, x, y, nOptions, lpRect, lpszString, nCount, lpDxWidths);
-}
-
-BOOL CDC::ExtTextOut(int x, int y, UINT nOptions, LPCRECT lpRect, const CString& str, LPINT lpDxWidths) {
-    return ExtTextOut(x, y, nOptions, lpRect, str, static_cast<UINT>(str.GetLength()), lpDxWidths);
-}
-
-int CDC::DrawText(LPCTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat) {
-    return ::DrawText(m_hDC, lpszString, nCount, lpRect, nFormat);
-}
-
-int CDC::DrawText(const CString& str, LPRECT lpRect, UINT nFormat) {
-    return DrawText(str, str.GetLength(), lpRect, nFormat);
-}
-
-CSize CDC::GetTextExtent(LPCTSTR lpszString, int nCount) const {
-    CSize size;
-    ::GetTextExtentPoint32(m_hAttribDC, lpszString, nCount, &size);
-    return size;
 }
 
 CClientDC::CClientDC(CWnd* pWnd) : m_hWnd(pWnd->GetSafeHwnd()) {

@@ -1,6 +1,5 @@
 #include "afx_dialog.h"
 #include "afx_app.h"
-#include "afx_exception.h"
 #include "afxmsg_.h"
 #include "modal_parent.h"
 #include "wnd_state.h"
@@ -13,10 +12,7 @@ ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
 END_MESSAGE_MAP()
 
 CDialog::CDialog(LPCTSTR lpszTemplateName, CWnd* pParentWnd)
-    : m_lpszTemplateName(lpszTemplateName), m_pParentWnd(pParentWnd) {
-    if (IS_INTRESOURCE(lpszTemplateName))
-        m_nIDHelp = LOWORD(reinterpret_cast<UINT_PTR>(lpszTemplateName));
-}
+    : m_lpszTemplateName(lpszTemplateName), m_pParentWnd(pParentWnd) {}
 
 CDialog::CDialog(UINT nIDTemplate, CWnd* pParentWnd) : CDialog(MAKEINTRESOURCE(nIDTemplate), pParentWnd) {}
 
@@ -30,26 +26,27 @@ LPCDLGTEMPLATE CDialog::FindTemplate(LPCTSTR name, HINSTANCE& module) {
 }
 
 BOOL CDialog::Create(LPCTSTR lpszTemplateName, CWnd* pParentWnd) {
+    if (m_hWnd != nullptr)
+        return FALSE;
     m_lpszTemplateName = lpszTemplateName;
+    m_pParentWnd = pParentWnd;
+    m_modal = false;
     HINSTANCE module = nullptr;
     LPCDLGTEMPLATE found = FindTemplate(lpszTemplateName, module);
-    return found != nullptr && CreateIndirect(found, pParentWnd, nullptr, module);
+    CWnd* parent = pParentWnd != nullptr ? pParentWnd : AfxGetMainWnd();
+    return found != nullptr && CreateFrom(found, module, parent->GetSafeHwnd());
 }
 
 BOOL CDialog::Create(UINT nIDTemplate, CWnd* pParentWnd) {
     return Create(MAKEINTRESOURCE(nIDTemplate), pParentWnd);
 }
 
-BOOL CDialog::CreateIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, void* lpDialogInit, HINSTANCE hInst) {
-    if (pParentWnd == nullptr)
-        pParentWnd = AfxGetMainWnd();
-    m_pParentWnd = pParentWnd;
+BOOL CDialog::CreateFrom(LPCDLGTEMPLATE form, HINSTANCE module, HWND owner) {
     AfxHookWindowCreate(this);
-    const HWND hwnd = ::CreateDialogIndirectParam(hInst != nullptr ? hInst : AfxGetResourceHandle(), lpDialogTemplate,
-                                                  pParentWnd->GetSafeHwnd(), &CDialog::DialogProc, 0);
+    const HWND hwnd = ::CreateDialogIndirectParam(module, form, owner, &CDialog::DialogProc, 0);
     if (!AfxUnhookWindowCreate())
         PostNcDestroy();
-    return hwnd != nullptr;
+    return ::IsWindow(hwnd); // it may have gone in OnInitDialog
 }
 
 BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, void* lpDialogInit) {
@@ -61,14 +58,19 @@ BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWn
 INT_PTR CALLBACK CDialog::DialogProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message != WM_INITDIALOG)
         return FALSE;
-    CDialog* dialog = DYNAMIC_DOWNCAST(CDialog, CWnd::FromHandlePermanent(hwnd));
+    auto* dialog = dynamic_cast<CDialog*>(CWnd::FromHandlePermanent(hwnd));
     if (dialog == nullptr)
         return TRUE;
     try {
         return dialog->OnInitDialog();
     } catch (...) {
         answer_exception({hwnd, message, wParam, lParam, 0, {0, 0}});
-        dialog->EndDialog(-1);
+        if (CWnd::FromHandlePermanent(hwnd) != dialog)
+            return FALSE; // gone already
+        if (dialog->m_modal)
+            dialog->EndDialog(-1);
+        else
+            dialog->DestroyWindow();
         return FALSE;
     }
 }
@@ -76,29 +78,23 @@ INT_PTR CALLBACK CDialog::DialogProc(HWND hwnd, UINT message, WPARAM wParam, LPA
 INT_PTR CDialog::DoModal() {
     HINSTANCE module = AfxGetResourceHandle();
     LPCDLGTEMPLATE form = m_lpDialogTemplate != nullptr ? m_lpDialogTemplate : FindTemplate(m_lpszTemplateName, module);
-    if (form == nullptr)
+    if (form == nullptr || m_hWnd != nullptr)
         return -1;
-    const HWND owner = modal_owner(m_pParentWnd);
-    disabled_parent disabled(owner);
+    modal_parent parent(m_pParentWnd);
     m_modal = true; // OnInitDialog may end the dialog before its loop has begun
     m_modalResult = -1;
-    if (!CreateIndirect(form, CWnd::FromHandle(owner), nullptr, module)) {
-        m_modal = false;
+    if (!CreateFrom(form, module, parent.handle()))
         return -1;
-    }
+    const HWND hwnd = m_hWnd;
     const DLGTEMPLATE& placed = *form;
     if (placed.x == 0 && placed.y == 0 && (GetStyle() & (DS_ABSALIGN | DS_CENTER | DS_CENTERMOUSE)) == 0)
         CenterWindow();
-    if (m_modal)
-        RunModalLoop((GetStyle() & DS_NOIDLEMSG) != 0 ? MLF_SHOWONIDLE | MLF_NOIDLEMSG : MLF_SHOWONIDLE);
-    const int result = m_modalResult;
-    if (m_hWnd != nullptr)
-        SetWindowPos(nullptr, 0, 0, 0, 0, SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
-    // Before the dialog goes: else the system activates another program's window.
-    disabled.enable();
-    if (owner != nullptr && ::GetActiveWindow() == m_hWnd)
-        ::SetActiveWindow(owner);
-    DestroyWindow();
+    const DWORD idle = (GetStyle() & DS_NOIDLEMSG) != 0 ? MLF_SHOWONIDLE | MLF_NOIDLEMSG : MLF_SHOWONIDLE;
+    const int result = m_modal ? RunModalLoop(idle) : m_modalResult;
+    if (::IsWindow(hwnd)) { // else the object may be gone as well
+        parent.take_over_from(hwnd);
+        DestroyWindow();
+    }
     return result;
 }
 
@@ -133,8 +129,7 @@ BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pH
     if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
         return TRUE;
     // Commands go on; the ids of controls and of the system menu stay here.
-    const bool command = (nCode == CN_COMMAND || nCode == CN_UPDATE_COMMAND_UI) && nID >= 0x8000 && nID < 0xF000;
-    if (!command)
+    if (nCode != CN_COMMAND || nID < 0x8000 || nID >= 0xF000)
         return FALSE;
     CWnd* owner = GetParent();
     if (owner != nullptr && owner->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))

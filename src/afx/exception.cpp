@@ -8,7 +8,6 @@
 IMPLEMENT_DYNAMIC(CException, CObject)
 IMPLEMENT_DYNAMIC(CSimpleException, CException)
 IMPLEMENT_DYNAMIC(CMemoryException, CSimpleException)
-IMPLEMENT_DYNAMIC(CNotSupportedException, CSimpleException)
 IMPLEMENT_DYNAMIC(CResourceException, CSimpleException)
 IMPLEMENT_DYNAMIC(CInvalidArgException, CSimpleException)
 IMPLEMENT_DYNAMIC(CUserException, CSimpleException)
@@ -65,8 +64,6 @@ BOOL CSimpleException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT p
 }
 
 CMemoryException::CMemoryException(BOOL bAutoDelete) : CSimpleException(bAutoDelete, "Out of memory.") {}
-CNotSupportedException::CNotSupportedException(BOOL bAutoDelete)
-    : CSimpleException(bAutoDelete, "The operation is not supported.") {}
 CResourceException::CResourceException(BOOL bAutoDelete)
     : CSimpleException(bAutoDelete, "A required resource is not available.") {}
 CInvalidArgException::CInvalidArgException(BOOL bAutoDelete)
@@ -150,20 +147,12 @@ void AFXAPI AfxThrowMemoryException() {
     throw new CMemoryException;
 }
 
-void AFXAPI AfxThrowNotSupportedException() {
-    throw new CNotSupportedException;
-}
-
 void AFXAPI AfxThrowResourceException() {
     throw new CResourceException;
 }
 
 void AFXAPI AfxThrowInvalidArgException() {
     throw new CInvalidArgException;
-}
-
-void AFXAPI AfxThrowUserException() {
-    throw new CUserException;
 }
 
 void AFXAPI AfxThrowOleException(SCODE sc) {

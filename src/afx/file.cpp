@@ -7,33 +7,18 @@ const HANDLE CFile::hFileNull = INVALID_HANDLE_VALUE;
 namespace {
 
 DWORD access_of(UINT flags) {
-    switch (flags & 3) {
-    case CFile::modeWrite:
-        return GENERIC_WRITE;
-    case CFile::modeReadWrite:
-        return GENERIC_READ | GENERIC_WRITE;
-    default:
-        return GENERIC_READ;
-    }
+    return (flags & CFile::modeReadWrite) != 0 ? GENERIC_READ | GENERIC_WRITE : GENERIC_READ;
 }
 
 DWORD sharing_of(UINT flags) {
     switch (flags & 0x70) {
     case CFile::shareDenyWrite:
         return FILE_SHARE_READ;
-    case CFile::shareDenyRead:
-        return FILE_SHARE_WRITE;
     case CFile::shareDenyNone:
         return FILE_SHARE_READ | FILE_SHARE_WRITE;
     default:
         return 0;
     }
-}
-
-DWORD disposition_of(UINT flags) {
-    if ((flags & CFile::modeCreate) == 0)
-        return OPEN_EXISTING;
-    return (flags & CFile::modeNoTruncate) != 0 ? OPEN_ALWAYS : CREATE_ALWAYS;
 }
 
 CString full_path(LPCTSTR name) {
@@ -60,9 +45,10 @@ void CFile::ThrowLastError() const {
 
 BOOL CFile::Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError) {
     Abort();
-    SECURITY_ATTRIBUTES inheritance{sizeof(inheritance), nullptr, (nOpenFlags & modeNoInherit) == 0};
+    SECURITY_ATTRIBUTES inheritance{sizeof(inheritance), nullptr, TRUE};
     m_hFile = ::CreateFile(lpszFileName, access_of(nOpenFlags), sharing_of(nOpenFlags), &inheritance,
-                           disposition_of(nOpenFlags), FILE_ATTRIBUTE_NORMAL, nullptr);
+                           (nOpenFlags & modeCreate) != 0 ? CREATE_ALWAYS : OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL,
+                           nullptr);
     if (m_hFile != hFileNull) {
         m_strFileName = full_path(lpszFileName);
         return TRUE;
@@ -139,13 +125,3 @@ void CFile::Abort() {
     m_hFile = hFileNull;
     m_strFileName.Empty();
 }
-
-CString CFile::GetFileName() const {
-    return m_strFileName.Mid(m_strFileName.ReverseFind('\\') + 1);
-}
-
-void PASCAL CFile::Remove(LPCTSTR lpszFileName) {
-    if (!::DeleteFile(lpszFileName))
-        CFileException::ThrowOsError(static_cast<LONG>(::GetLastError()), lpszFileName);
-}
-

@@ -1,4 +1,5 @@
 #include "afxdlgs.h"
+#include "modal_parent.h"
 #include "wnd_state.h"
 
 IMPLEMENT_DYNAMIC(CCommonDialog, CDialog)
@@ -22,6 +23,7 @@ CFileDialog::CFileDialog(BOOL bOpenFileDialog, LPCTSTR lpszDefExt, LPCTSTR lpszF
     if (lpszFileName != nullptr)
         lstrcpyn(m_szFileName, lpszFileName, sizeof(m_szFileName));
     m_strFilter.Replace('|', '\0');
+    m_strFilter += CString('\0', 2); // the list's end, also where the filter lacks its own
     m_ofn.lStructSize = sizeof(m_ofn);
     m_ofn.lpstrFile = m_szFileName;
     m_ofn.nMaxFile = sizeof(m_szFileName);
@@ -35,8 +37,7 @@ CFileDialog::CFileDialog(BOOL bOpenFileDialog, LPCTSTR lpszDefExt, LPCTSTR lpszF
 }
 
 INT_PTR CFileDialog::DoModal() {
-    CWnd* parent = m_pParentWnd != nullptr ? m_pParentWnd : AfxGetMainWnd();
-    m_ofn.hwndOwner = parent->GetSafeHwnd();
+    m_ofn.hwndOwner = modal_owner(m_pParentWnd);
     m_ofn.lCustData = reinterpret_cast<LPARAM>(this);
     const BOOL chosen = m_bOpenFileDialog ? ::GetOpenFileName(&m_ofn) : ::GetSaveFileName(&m_ofn);
     return chosen ? IDOK : IDCANCEL;
@@ -46,23 +47,12 @@ UINT_PTR CALLBACK CFileDialog::HookProc(HWND hwnd, UINT message, WPARAM wParam, 
     if (message != WM_INITDIALOG)
         return 0;
     auto* dialog = reinterpret_cast<CFileDialog*>(reinterpret_cast<OPENFILENAME*>(lParam)->lCustData);
-    if (!dialog->SubclassWindow(hwnd))
-        return TRUE;
     try {
-        return static_cast<UINT_PTR>(dialog->OnInitDialog());
+        return !dialog->SubclassWindow(hwnd) || dialog->OnInitDialog();
     } catch (...) {
         answer_exception({hwnd, message, wParam, lParam, 0, {0, 0}});
         return TRUE;
     }
-}
-
-BOOL CFileDialog::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
-    const auto* notify = reinterpret_cast<const OFNOTIFY*>(lParam);
-    if (notify->hdr.code != CDN_FILEOK)
-        return CCommonDialog::OnNotify(wParam, lParam, pResult);
-    *pResult = OnFileNameOK();
-    ::SetWindowLongPtr(m_hWnd, DWLP_MSGRESULT, *pResult);
-    return TRUE;
 }
 
 CString CFileDialog::GetPathName() const {
@@ -72,16 +62,4 @@ CString CFileDialog::GetPathName() const {
 CString CFileDialog::GetFileName() const {
     const CString path = GetPathName();
     return path.Mid(path.ReverseFind('\\') + 1);
-}
-
-CString CFileDialog::GetFileExt() const {
-    const CString name = GetFileName();
-    const int dot = name.ReverseFind('.');
-    return dot >= 0 ? name.Mid(dot + 1) : CString();
-}
-
-CString CFileDialog::GetFileTitle() const {
-    const CString name = GetFileName();
-    const int dot = name.ReverseFind('.');
-    return dot >= 0 ? name.Left(dot) : name;
 }

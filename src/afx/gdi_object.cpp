@@ -9,19 +9,9 @@ IMPLEMENT_DYNCREATE(CGdiObject, CObject)
 
 namespace {
 
-struct gdi_traits {
-    template <class Wanted> static CGdiObject* make(void* handle) {
-        CGdiObject* object = new Wanted;
-        object->m_hObject = static_cast<HGDIOBJ>(handle);
-        return object;
-    }
-    static void forget(CGdiObject* object) { object->m_hObject = nullptr; }
-    static bool alive(void* handle) { return ::GetObjectType(handle) != 0; }
-};
-
 // Never destroyed: static objects of other modules may let go of their handles later.
 auto& gdi_objects() {
-    static auto& map = *new handle_map<CGdiObject, gdi_traits>;
+    static auto& map = *new handle_map<CGdiObject, &CGdiObject::m_hObject>;
     return map;
 }
 
@@ -46,32 +36,25 @@ IMPLEMENT_GDI_CLASS(CPen, HPEN)
 IMPLEMENT_GDI_CLASS(CBrush, HBRUSH)
 IMPLEMENT_GDI_CLASS(CFont, HFONT)
 IMPLEMENT_GDI_CLASS(CBitmap, HBITMAP)
-IMPLEMENT_GDI_CLASS(CRgn, HRGN)
 IMPLEMENT_GDI_CLASS(CPalette, HPALETTE)
 
 CGdiObject::~CGdiObject() {
     DeleteObject();
 }
 
-CGdiObject* PASCAL CGdiObject::FromHandle(HGDIOBJ hObject) {
-    return gdi_objects().any(hObject);
+BOOL CGdiObject::Attach(HGDIOBJ hObject) {
+    return gdi_objects().attach(this, hObject);
 }
 
-BOOL CGdiObject::Attach(HGDIOBJ hObject) {
-    ASSERT(m_hObject == nullptr);
-    if (hObject == nullptr)
-        return FALSE;
-    m_hObject = hObject;
-    gdi_objects().set_permanent(hObject, this);
-    return TRUE;
+BOOL CGdiObject::AttachNew(HGDIOBJ hObject) {
+    if (Attach(hObject))
+        return TRUE;
+    ::DeleteObject(hObject);
+    return FALSE;
 }
 
 HGDIOBJ CGdiObject::Detach() {
-    const HGDIOBJ handle = m_hObject;
-    if (handle != nullptr)
-        gdi_objects().remove_permanent(handle, this);
-    m_hObject = nullptr;
-    return handle;
+    return gdi_objects().detach(this);
 }
 
 BOOL CGdiObject::DeleteObject() {
@@ -87,15 +70,11 @@ CBrush::CBrush(COLORREF crColor) {
     attach_or_throw(*this, ::CreateSolidBrush(crColor));
 }
 
-CBrush::CBrush(int nIndex, COLORREF crColor) {
-    attach_or_throw(*this, ::CreateHatchBrush(nIndex, crColor));
-}
-
 BOOL CFont::CreateFont(int nHeight, int nWidth, int nEscapement, int nOrientation, int nWeight, BYTE bItalic,
                        BYTE bUnderline, BYTE cStrikeOut, BYTE nCharSet, BYTE nOutPrecision, BYTE nClipPrecision,
                        BYTE nQuality, BYTE nPitchAndFamily, LPCTSTR lpszFacename) {
-    return Attach(::CreateFont(nHeight, nWidth, nEscapement, nOrientation, nWeight, bItalic, bUnderline, cStrikeOut,
-                               nCharSet, nOutPrecision, nClipPrecision, nQuality, nPitchAndFamily, lpszFacename));
+    return AttachNew(::CreateFont(nHeight, nWidth, nEscapement, nOrientation, nWeight, bItalic, bUnderline, cStrikeOut,
+                                  nCharSet, nOutPrecision, nClipPrecision, nQuality, nPitchAndFamily, lpszFacename));
 }
 
 BOOL CFont::CreatePointFont(int nPointSize, LPCTSTR lpszFaceName, CDC* pDC) {
@@ -118,19 +97,15 @@ BOOL CFont::CreatePointFontIndirect(const LOGFONT* lpLogFont, CDC* pDC) {
         ::ReleaseDC(nullptr, dc);
     LOGFONT description = *lpLogFont;
     description.lfHeight = -std::abs(height.y - origin.y);
-    return CreateFontIndirect(&description);
-}
-
-BOOL CBitmap::LoadBitmap(LPCTSTR lpszResourceName) {
-    return Attach(::LoadBitmap(AfxFindResourceHandle(lpszResourceName, RT_BITMAP), lpszResourceName));
+    return AttachNew(::CreateFontIndirect(&description));
 }
 
 BOOL CBitmap::CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight) {
-    return Attach(::CreateCompatibleBitmap(pDC->GetSafeHdc(), nWidth, nHeight));
+    return AttachNew(::CreateCompatibleBitmap(pDC->GetSafeHdc(), nWidth, nHeight));
 }
 
 BOOL CPalette::CreateHalftonePalette(CDC* pDC) {
-    return Attach(::CreateHalftonePalette(pDC->GetSafeHdc()));
+    return AttachNew(::CreateHalftonePalette(pDC->GetSafeHdc()));
 }
 
 int CPalette::GetEntryCount() {

@@ -3,32 +3,48 @@
 
 #include "afx_app.h"
 
-// Keeps a modal dialog's parent disabled, whichever way the dialog ends.
-class disabled_parent {
-public:
-    explicit disabled_parent(HWND parent)
-        : m_parent(parent != nullptr && ::IsWindowEnabled(parent) ? parent : nullptr) {
-        if (m_parent != nullptr)
-            ::EnableWindow(m_parent, FALSE);
+// The wanted parent's top-level window: a disabled child cannot hold a dialog. Without a wanted one, the main window,
+// or the modal dialog that runs in front of it.
+inline HWND modal_owner(CWnd* wanted) {
+    HWND owner = wanted->GetSafeHwnd();
+    if (owner == nullptr) {
+        owner = AfxGetMainWnd()->GetSafeHwnd();
+        if (owner != nullptr && !::IsWindowEnabled(owner))
+            owner = ::GetLastActivePopup(owner);
     }
-    ~disabled_parent() { enable(); }
-    disabled_parent(const disabled_parent&) = delete;
-    disabled_parent& operator=(const disabled_parent&) = delete;
+    return owner != nullptr ? ::GetAncestor(owner, GA_ROOT) : nullptr;
+}
 
-    void enable() {
-        if (m_parent != nullptr)
-            ::EnableWindow(m_parent, TRUE);
-        m_parent = nullptr;
+// Keeps a modal dialog's owner disabled, whichever way the dialog ends.
+class modal_parent {
+public:
+    explicit modal_parent(CWnd* wanted)
+        : m_owner(modal_owner(wanted)), m_disabled(m_owner != nullptr && ::IsWindowEnabled(m_owner)) {
+        if (m_disabled)
+            ::EnableWindow(m_owner, FALSE);
+    }
+    ~modal_parent() { enable(); }
+    modal_parent(const modal_parent&) = delete;
+    modal_parent& operator=(const modal_parent&) = delete;
+
+    HWND handle() const { return m_owner; }
+
+    // Before the dialog goes: else the system activates another program's window.
+    void take_over_from(HWND dialog) {
+        ::SetWindowPos(dialog, nullptr, 0, 0, 0, 0,
+                       SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
+        enable();
+        if (m_owner != nullptr && ::GetActiveWindow() == dialog)
+            ::SetActiveWindow(m_owner);
     }
 
 private:
-    HWND m_parent;
-};
+    void enable() {
+        if (m_disabled)
+            ::EnableWindow(m_owner, TRUE);
+        m_disabled = false;
+    }
 
-// A disabled child cannot hold a dialog: its top-level window does.
-inline HWND modal_owner(CWnd* parent) {
-    HWND owner = parent->GetSafeHwnd();
-    if (owner == nullptr)
-        owner = AfxGetMainWnd()->GetSafeHwnd();
-    return owner != nullptr ? ::GetAncestor(owner, GA_ROOT) : nullptr;
-}
+    HWND m_owner;
+    bool m_disabled;
+};

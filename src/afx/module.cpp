@@ -39,20 +39,8 @@ BOOL AFXAPI AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hModule)
     return TRUE;
 }
 
-void AFXAPI AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL bAll) {
-    for (CDynLinkLibrary* at = first_library; at != nullptr;) {
-        CDynLinkLibrary* next = at->m_pNextDLL;
-        if (bAll || at->m_hModule == state.hModule)
-            delete at;
-        at = next;
-    }
-    state.bInitialized = FALSE;
-}
-
 CDynLinkLibrary::CDynLinkLibrary(AFX_EXTENSION_MODULE& state, BOOL bSystem)
-    : CDynLinkLibrary(state.hModule, state.hResource) {
-    m_bSystem = bSystem;
-}
+    : CDynLinkLibrary(state.hModule, state.hResource) {}
 
 CDynLinkLibrary::CDynLinkLibrary(HINSTANCE hModule, HINSTANCE hResource)
     : m_hModule(hModule), m_hResource(hResource), m_pNextDLL(first_library) {
@@ -92,17 +80,4 @@ HINSTANCE AFXAPI AfxFindStringResourceHandle(UINT nID) {
         LPCWSTR text = nullptr;
         return ::LoadStringW(module, nID, reinterpret_cast<LPWSTR>(&text), 0) > 0;
     });
-}
-
-int AFXAPI AfxLoadString(UINT nIDS, LPTSTR lpszBuf, UINT nMaxBuf) {
-    if (lpszBuf == nullptr || nMaxBuf == 0)
-        return 0;
-    *lpszBuf = '\0';
-    const HINSTANCE module = AfxFindStringResourceHandle(nIDS);
-    return module != nullptr ? ::LoadString(module, nIDS, lpszBuf, static_cast<int>(nMaxBuf)) : 0;
-}
-
-AFX_MODULE_STATE* AFXAPI AfxGetStaticModuleState() {
-    static AFX_MODULE_STATE state;
-    return &state;
 }

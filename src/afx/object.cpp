@@ -1,7 +1,9 @@
 #include "afx_object.h"
+#include "afx_dump.h"
 
 #include <cstring>
 #include <new>
+#include <string>
 
 namespace {
 // Constant-initialised, so that registration from static constructors needs no order.
@@ -22,16 +24,29 @@ CObject::~CObject() = default;
 
 void CObject::Serialize(CArchive& ar) {}
 
+void CObject::AssertValid() const {}
+
+void CObject::Dump(CDumpContext& dc) const {
+    dc << GetRuntimeClass()->m_lpszClassName << "\n";
+}
+
+CDumpContext afxDump;
+
+CDumpContext& CDumpContext::operator<<(LPCTSTR lpsz) {
+    ::OutputDebugString(lpsz != nullptr ? lpsz : "(null)");
+    return *this;
+}
+
+CDumpContext& CDumpContext::operator<<(int n) {
+    return *this << std::to_string(n).c_str();
+}
+
 BOOL CObject::IsSerializable() const {
     return GetRuntimeClass()->m_wSchema != 0xFFFF;
 }
 
 BOOL CObject::IsKindOf(const CRuntimeClass* pClass) const {
     return this != nullptr && GetRuntimeClass()->IsDerivedFrom(pClass);
-}
-
-CObject* AFXAPI AfxDynamicDownCast(CRuntimeClass* pClass, CObject* pObject) {
-    return pObject != nullptr && pObject->IsKindOf(pClass) ? pObject : nullptr;
 }
 
 CObject* CRuntimeClass::CreateObject() {
@@ -53,19 +68,14 @@ BOOL CRuntimeClass::IsDerivedFrom(const CRuntimeClass* pBaseClass) const {
     return FALSE;
 }
 
-CRuntimeClass* PASCAL CRuntimeClass::FromName(LPCSTR lpszClassName) {
+CObject* PASCAL CRuntimeClass::CreateObject(LPCSTR lpszClassName) {
     if (lpszClassName == nullptr)
         return nullptr;
     for (CRuntimeClass* at = first_class; at != nullptr; at = at->m_pNextClass) {
         if (std::strcmp(at->m_lpszClassName, lpszClassName) == 0)
-            return at;
+            return at->CreateObject();
     }
     return nullptr;
-}
-
-CObject* PASCAL CRuntimeClass::CreateObject(LPCSTR lpszClassName) {
-    CRuntimeClass* found = FromName(lpszClassName);
-    return found != nullptr ? found->CreateObject() : nullptr;
 }
 
 AFX_CLASSINIT::AFX_CLASSINIT(CRuntimeClass* pNewClass) : m_class(pNewClass) {

@@ -21,11 +21,17 @@ BOOL CPropertyPage::FindModule(HINSTANCE& module) const {
 
 // The next window that the system creates is the page's; a page that it could not create is released all the same.
 UINT CALLBACK CPropertyPage::PageCallback(HWND, UINT message, PROPSHEETPAGE* page) {
-    if (message == PSPCB_CREATE)
-        AfxHookWindowCreate(reinterpret_cast<CPropertyPage*>(page->lParam));
-    else if (message == PSPCB_RELEASE)
+    if (message == PSPCB_RELEASE)
         AfxUnhookWindowCreate();
-    return TRUE;
+    if (message != PSPCB_CREATE)
+        return TRUE;
+    try {
+        AfxHookWindowCreate(reinterpret_cast<CPropertyPage*>(page->lParam));
+        return TRUE;
+    } catch (...) {
+        answer_exception({});
+        return FALSE; // there will be no such page
+    }
 }
 
 INT_PTR CALLBACK CPropertyPage::PageProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -70,19 +76,19 @@ BOOL CPropertySheet::CreateSheet(HWND owner) {
 }
 
 INT_PTR CPropertySheet::DoModal() {
-    const HWND owner = modal_owner(m_parent);
-    disabled_parent disabled(owner);
-    if (m_pages.empty() || !CreateSheet(owner))
+    if (m_hWnd != nullptr)
         return -1;
+    modal_parent parent(m_parent);
+    if (m_pages.empty() || !CreateSheet(parent.handle()))
+        return -1;
+    const HWND hwnd = m_hWnd;
     CenterWindow();
     m_modalResult = -1;
-    RunModalLoop(MLF_SHOWONIDLE);
-    const int result = m_modalResult;
-    // Before the sheet goes: else the system activates another program's window.
-    disabled.enable();
-    if (owner != nullptr && ::GetActiveWindow() == m_hWnd)
-        ::SetActiveWindow(owner);
-    DestroyWindow();
+    const int result = RunModalLoop(MLF_SHOWONIDLE);
+    if (::IsWindow(hwnd)) { // else the object may be gone as well
+        parent.take_over_from(hwnd);
+        DestroyWindow();
+    }
     return result;
 }
 

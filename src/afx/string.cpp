@@ -1,8 +1,8 @@
 #include "afxstr.h"
+#include "afx_exception.h"
 #include "afx_module.h"
 
 #include <algorithm>
-#include <cctype>
 #include <climits>
 #include <cstdio>
 #include <cstring>
@@ -16,10 +16,6 @@ const unsigned char* bytes(LPCSTR text) {
 
 LPCSTR text_or_empty(LPCSTR text) {
     return text != nullptr ? text : "";
-}
-
-bool is_space(char c) {
-    return std::isspace(static_cast<unsigned char>(c)) != 0;
 }
 
 std::string to_ansi(LPCWSTR source) {
@@ -48,7 +44,8 @@ CString::CString(LPCSTR source) {
 CString::CString(LPCWSTR source) : m_text(to_ansi(source)) {}
 
 CString::CString(LPCSTR source, int length) {
-    SetString(source, length);
+    if (source != nullptr && length > 0)
+        m_text.assign(source, static_cast<std::size_t>(length));
 }
 
 CString::CString(char c, int repeat) : m_text(static_cast<std::size_t>(std::max(repeat, 0)), c) {}
@@ -56,16 +53,6 @@ CString::CString(char c, int repeat) : m_text(static_cast<std::size_t>(std::max(
 CString& CString::operator=(LPCSTR source) {
     // A copy first: the source may lie inside this text.
     m_text = std::string(text_or_empty(source));
-    return *this;
-}
-
-CString& CString::operator=(LPCWSTR source) {
-    m_text = to_ansi(source);
-    return *this;
-}
-
-CString& CString::operator=(char c) {
-    m_text.assign(1, c);
     return *this;
 }
 
@@ -84,17 +71,8 @@ CString& CString::operator+=(char c) {
     return *this;
 }
 
-char CString::GetAt(int index) const {
+char CString::operator[](int index) const {
     return index >= 0 && index < GetLength() ? m_text[static_cast<std::size_t>(index)] : '\0';
-}
-
-void CString::SetAt(int index, char c) {
-    if (index >= 0 && index < GetLength())
-        m_text[static_cast<std::size_t>(index)] = c;
-}
-
-void CString::SetString(LPCSTR text, int length) {
-    m_text = text != nullptr && length > 0 ? std::string(text, static_cast<std::size_t>(length)) : std::string();
 }
 
 LPSTR CString::GetBuffer(int minimum) {
@@ -126,50 +104,9 @@ CString CString::Right(int count) const {
     return Mid(GetLength() - static_cast<int>(clamp(count)));
 }
 
-CString CString::SpanExcluding(LPCSTR charset) const {
-    return Left(static_cast<int>(_mbscspn(bytes(*this), bytes(text_or_empty(charset)))));
-}
-
-CString CString::Tokenize(LPCSTR tokens, int& start) const {
-    if (start >= 0 && start < GetLength()) {
-        const unsigned char* separators = bytes(text_or_empty(tokens));
-        const unsigned char* text = bytes(m_text.c_str());
-        const int first = start + static_cast<int>(_mbsspn(text + start, separators));
-        const int count = static_cast<int>(_mbscspn(text + first, separators));
-        if (count > 0) {
-            start = first + count + 1;
-            return Mid(first, count);
-        }
-    }
-    start = -1;
-    return {};
-}
-
-int CString::Find(char c, int start) const {
-    if (start < 0 || start >= GetLength())
-        return -1;
-    const unsigned char* text = bytes(m_text.c_str());
-    const unsigned char* found = _mbschr(text + start, static_cast<unsigned char>(c));
-    return found != nullptr ? static_cast<int>(found - text) : -1;
-}
-
-int CString::Find(LPCSTR text, int start) const {
-    if (text == nullptr || start < 0 || start > GetLength())
-        return -1;
-    const unsigned char* own = bytes(m_text.c_str());
-    const unsigned char* found = _mbsstr(own + start, bytes(text));
-    return found != nullptr ? static_cast<int>(found - own) : -1;
-}
-
 int CString::ReverseFind(char c) const {
     const unsigned char* text = bytes(m_text.c_str());
     const unsigned char* found = _mbsrchr(text, static_cast<unsigned char>(c));
-    return found != nullptr ? static_cast<int>(found - text) : -1;
-}
-
-int CString::FindOneOf(LPCSTR charset) const {
-    const unsigned char* text = bytes(m_text.c_str());
-    const unsigned char* found = _mbspbrk(text, bytes(text_or_empty(charset)));
     return found != nullptr ? static_cast<int>(found - text) : -1;
 }
 
@@ -181,81 +118,17 @@ int CString::CompareNoCase(LPCSTR text) const {
     return _mbsicmp(bytes(m_text.c_str()), bytes(text_or_empty(text)));
 }
 
-CString& CString::MakeUpper() {
-    CharUpperBuff(m_text.data(), static_cast<DWORD>(m_text.size()));
-    return *this;
-}
-
-CString& CString::TrimLeft() {
-    m_text.erase(m_text.begin(), std::find_if_not(m_text.begin(), m_text.end(), is_space));
-    return *this;
-}
-
-CString& CString::TrimLeft(char c) {
-    m_text.erase(0, std::min(m_text.find_first_not_of(c), m_text.size()));
-    return *this;
-}
-
-CString& CString::TrimLeft(LPCSTR targets) {
-    m_text.erase(0, std::min(m_text.find_first_not_of(text_or_empty(targets)), m_text.size()));
-    return *this;
-}
-
-CString& CString::TrimRight() {
-    m_text.erase(std::find_if_not(m_text.rbegin(), m_text.rend(), is_space).base(), m_text.end());
-    return *this;
-}
-
-CString& CString::TrimRight(char c) {
-    m_text.erase(m_text.find_last_not_of(c) + 1);
-    return *this;
-}
-
-CString& CString::TrimRight(LPCSTR targets) {
-    m_text.erase(m_text.find_last_not_of(text_or_empty(targets)) + 1);
-    return *this;
-}
-
 int CString::Replace(char oldChar, char newChar) {
-    const auto changed = std::count(m_text.begin(), m_text.end(), oldChar);
-    std::replace(m_text.begin(), m_text.end(), oldChar, newChar);
-    return oldChar == newChar ? 0 : static_cast<int>(changed);
-}
-
-int CString::Replace(LPCSTR oldText, LPCSTR newText) {
-    const std::string from = text_or_empty(oldText), to = text_or_empty(newText);
-    if (from.empty())
-        return 0;
     int changed = 0;
-    std::string result;
-    std::size_t done = 0;
-    for (int at = Find(from.c_str()); at >= 0; at = Find(from.c_str(), static_cast<int>(done))) {
-        result.append(m_text, done, static_cast<std::size_t>(at) - done).append(to);
-        done = static_cast<std::size_t>(at) + from.size();
-        ++changed;
+    // Character by character: the second byte of another one may have the same value.
+    const unsigned char* const end = bytes(m_text.data()) + m_text.size();
+    for (const unsigned char* at = bytes(m_text.data()); at < end; at = _mbsinc(at)) {
+        char& c = m_text[static_cast<std::size_t>(at - bytes(m_text.data()))];
+        changed += c == oldChar && oldChar != newChar;
+        if (c == oldChar)
+            c = newChar;
     }
-    if (changed > 0)
-        m_text = result.append(m_text, done);
     return changed;
-}
-
-int CString::Remove(char c) {
-    return static_cast<int>(std::erase(m_text, c));
-}
-
-int CString::Insert(int index, char c) {
-    m_text.insert(clamp(index), 1, c);
-    return GetLength();
-}
-
-int CString::Insert(int index, LPCSTR text) {
-    m_text.insert(clamp(index), std::string(text_or_empty(text)));
-    return GetLength();
-}
-
-int CString::Delete(int index, int count) {
-    m_text.erase(clamp(index), static_cast<std::size_t>(std::max(count, 0)));
-    return GetLength();
 }
 
 void CString::FormatV(LPCSTR format, va_list arguments) {
@@ -287,25 +160,9 @@ void AFX_CDECL CString::Format(LPCSTR format, ...) {
     va_end(arguments);
 }
 
-void AFX_CDECL CString::Format(UINT formatId, ...) {
-    const CString format(MAKEINTRESOURCE(formatId));
-    va_list arguments;
-    va_start(arguments, formatId);
-    FormatV(format, arguments);
-    va_end(arguments);
-}
-
 void AFX_CDECL CString::AppendFormat(LPCSTR format, ...) {
     va_list arguments;
     va_start(arguments, format);
-    AppendFormatV(format, arguments);
-    va_end(arguments);
-}
-
-void AFX_CDECL CString::AppendFormat(UINT formatId, ...) {
-    const CString format(MAKEINTRESOURCE(formatId));
-    va_list arguments;
-    va_start(arguments, formatId);
     AppendFormatV(format, arguments);
     va_end(arguments);
 }
@@ -325,21 +182,12 @@ BOOL CString::LoadString(HINSTANCE instance, UINT id) {
     return TRUE;
 }
 
-BOOL CString::GetEnvironmentVariable(LPCSTR name) {
-    m_text.clear();
-    const DWORD room = ::GetEnvironmentVariable(name, nullptr, 0);
-    if (room == 0)
-        return FALSE;
-    m_text.resize(room);
-    m_text.resize(std::min(::GetEnvironmentVariable(name, m_text.data(), room), room));
-    return TRUE;
-}
-
 BSTR CString::AllocSysString() const {
     const int length = MultiByteToWideChar(CP_ACP, 0, m_text.c_str(), GetLength(), nullptr, 0);
     BSTR text = SysAllocStringLen(nullptr, static_cast<UINT>(length));
-    if (text != nullptr)
-        MultiByteToWideChar(CP_ACP, 0, m_text.c_str(), GetLength(), text, length);
+    if (text == nullptr)
+        AfxThrowMemoryException();
+    MultiByteToWideChar(CP_ACP, 0, m_text.c_str(), GetLength(), text, length);
     return text;
 }
 
@@ -352,13 +200,5 @@ CString AFXAPI operator+(const CString& a, LPCSTR b) {
 }
 
 CString AFXAPI operator+(LPCSTR a, const CString& b) {
-    return CString(a) += b;
-}
-
-CString AFXAPI operator+(const CString& a, char b) {
-    return CString(a) += b;
-}
-
-CString AFXAPI operator+(char a, const CString& b) {
     return CString(a) += b;
 }

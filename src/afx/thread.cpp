@@ -41,6 +41,10 @@ BOOL is_idle_message(const MSG& message) {
 
 } // namespace
 
+int quit_code() {
+    return pumped_message.message == WM_QUIT ? static_cast<int>(pumped_message.wParam) : 0;
+}
+
 CWinThread::~CWinThread() = default;
 
 BOOL CWinThread::InitInstance() {
@@ -48,7 +52,7 @@ BOOL CWinThread::InitInstance() {
 }
 
 int CWinThread::ExitInstance() {
-    return pumped_message.message == WM_QUIT ? static_cast<int>(pumped_message.wParam) : 0;
+    return quit_code();
 }
 
 int CWinThread::Run() {
@@ -86,26 +90,12 @@ BOOL AFXAPI AfxIsIdleMessage() {
 }
 
 BOOL CWinThread::PreTranslateMessage(MSG* pMsg) {
-    if (pMsg->hwnd == nullptr)
-        return FALSE;
-    CWnd* main = m_pMainWnd;
-    if (CWnd::WalkPreTranslateTree(main->GetSafeHwnd(), pMsg))
-        return TRUE;
-    // Accelerators of the main window work in its modeless dialogs, too.
-    CWnd* top = CWnd::FromHandle(pMsg->hwnd)->GetTopLevelParent();
-    return main != nullptr && top != main && !::IsChild(main->m_hWnd, pMsg->hwnd) && main->PreTranslateMessage(pMsg);
+    return CWnd::WalkPreTranslateTree(m_pMainWnd->GetSafeHwnd(), pMsg);
 }
 
 BOOL CWinThread::OnIdle(LONG lCount) {
-    if (lCount <= 0) {
-        CWnd* main = m_pMainWnd;
-        if (main->GetSafeHwnd() != nullptr && main->IsWindowVisible()) {
-            AfxCallWndProc(main, main->m_hWnd, WM_IDLEUPDATECMDUI, TRUE, 0);
-            main->SendMessageToDescendants(WM_IDLEUPDATECMDUI, TRUE, 0, TRUE, TRUE);
-        }
-    } else {
+    if (lCount > 0)
         delete_temporary_objects();
-    }
     return lCount <= 0;
 }
 
@@ -114,10 +104,7 @@ LRESULT CWinThread::ProcessWndProcException(CException* e, const MSG* pMsg) {
 }
 
 LRESULT CWinThread::DefaultWndProcException(CException* e, const MSG* pMsg) {
-    // Before the report: its message box would have the window painted again, and fail again.
-    if (pMsg->message == WM_PAINT)
-        ::ValidateRect(pMsg->hwnd, nullptr);
     if (!e->IsKindOf(RUNTIME_CLASS(CUserException)))
         e->ReportError(MB_ICONEXCLAMATION | MB_SYSTEMMODAL);
-    return pMsg->message == WM_CREATE ? -1 : 0;
+    return refusal(*pMsg);
 }

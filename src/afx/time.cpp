@@ -3,7 +3,8 @@
 
 #include <ctime>
 
-CTime::CTime(int nYear, int nMonth, int nDay, int nHour, int nMin, int nSec, int nDST) {
+CTime::CTime(int nYear, int nMonth, int nDay, int nHour, int nMin, int nSec, int nDST)
+    : m_time(-1) {
     const bool valid = nYear >= 1970 && nYear <= 3000 && nMonth >= 1 && nMonth <= 12 && nDay >= 1 && nDay <= 31 &&
                        nHour >= 0 && nHour <= 23 && nMin >= 0 && nMin <= 59 && nSec >= 0 && nSec <= 59;
     if (valid) {
@@ -21,21 +22,8 @@ CTime::CTime(int nYear, int nMonth, int nDay, int nHour, int nMin, int nSec, int
         AfxThrowInvalidArgException();
 }
 
-CTime::CTime(const SYSTEMTIME& time, int nDST)
-    : CTime(time.wYear, time.wMonth, time.wDay, time.wHour, time.wMinute, time.wSecond, nDST) {}
-
-CTime WINAPI CTime::GetCurrentTime() {
-    return CTime(_time64(nullptr));
-}
-
 tm* CTime::GetLocalTm(tm* ptm) const {
     return ptm != nullptr && _localtime64_s(ptm, &m_time) == 0 ? ptm : nullptr;
-}
-
-tm CTime::local() const {
-    tm fields{};
-    GetLocalTm(&fields);
-    return fields;
 }
 
 CString CTime::Format(LPCTSTR pszFormat) const {

@@ -14,31 +14,17 @@ IMPLEMENT_DYNCREATE(CWnd, CCmdTarget)
 BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
 ON_WM_NCDESTROY()
 ON_WM_CTLCOLOR()
-ON_WM_DRAWITEM()
-ON_WM_MEASUREITEM()
 ON_WM_HSCROLL()
 ON_WM_VSCROLL()
 END_MESSAGE_MAP()
 
-const CWnd CWnd::wndTop(HWND_TOP);
 const CWnd CWnd::wndBottom(HWND_BOTTOM);
-const CWnd CWnd::wndTopMost(HWND_TOPMOST);
-const CWnd CWnd::wndNoTopMost(HWND_NOTOPMOST);
 
 namespace {
 
-struct wnd_traits {
-    template <class Wanted> static CWnd* make(void* handle) {
-        CWnd* wnd = new Wanted;
-        wnd->m_hWnd = static_cast<HWND>(handle);
-        return wnd;
-    }
-    static void forget(CWnd* wnd) { wnd->m_hWnd = nullptr; }
-    static bool alive(void* handle) { return ::IsWindow(static_cast<HWND>(handle)); }
-};
-
+// Never destroyed: static objects of other modules may let go of their handles later.
 auto& windows() {
-    static auto& map = *new handle_map<CWnd, wnd_traits>;
+    static auto& map = *new handle_map<CWnd, &CWnd::m_hWnd>;
     return map;
 }
 
@@ -52,17 +38,15 @@ void delete_temporary_objects() {
     delete_temporary_windows();
     delete_temporary_gdi_objects();
     delete_temporary_device_contexts();
-    delete_temporary_menus();
-}
-
-void PASCAL CWnd::DeleteTempMap() {
-    delete_temporary_objects();
 }
 
 CWnd::~CWnd() {
     // The derived parts are gone: their handlers no longer see the messages of this destruction.
     if (m_hWnd != nullptr && FromHandlePermanent(m_hWnd) == this)
         CWnd::DestroyWindow();
+    CWinThread* thread = AfxGetThread();
+    if (thread != nullptr && thread->m_pMainWnd == this)
+        thread->m_pMainWnd = nullptr; // it had no window, or not any more
 }
 
 CWnd* PASCAL CWnd::FromHandle(HWND hWnd) {
@@ -74,35 +58,15 @@ CWnd* PASCAL CWnd::FromHandlePermanent(HWND hWnd) {
 }
 
 BOOL CWnd::Attach(HWND hWndNew) {
-    ASSERT(m_hWnd == nullptr);
-    if (hWndNew == nullptr)
-        return FALSE;
-    m_hWnd = hWndNew;
-    windows().set_permanent(hWndNew, this);
-    return TRUE;
+    return windows().attach(this, hWndNew);
 }
 
 HWND CWnd::Detach() {
-    const HWND hwnd = m_hWnd;
-    if (hwnd != nullptr)
-        windows().remove_permanent(hwnd, this);
-    m_hWnd = nullptr;
-    return hwnd;
+    return windows().detach(this);
 }
 
 BOOL CWnd::SubclassWindow(HWND hWnd) {
-    if (m_hWnd != nullptr || !::IsWindow(hWnd) || FromHandlePermanent(hWnd) != nullptr)
-        return FALSE;
-    AfxTakeOverWindow(this, hWnd);
-    return TRUE;
-}
-
-HWND CWnd::UnsubclassWindow() {
-    WNDPROC* super = GetSuperWndProcAddr();
-    const WNDPROC original = *super != nullptr ? *super : &::DefWindowProc;
-    ::SetWindowLongPtr(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(original));
-    *super = nullptr;
-    return Detach();
+    return ::IsWindow(hWnd) && FromHandlePermanent(hWnd) == nullptr && AfxTakeOverWindow(this, hWnd);
 }
 
 BOOL CWnd::PreCreateWindow(CREATESTRUCT& cs) {
@@ -133,6 +97,8 @@ BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowNa
 
 BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, int x, int y,
                     int nWidth, int nHeight, HWND hWndParent, HMENU nIDorHMenu, LPVOID lpParam) {
+    if (m_hWnd != nullptr)
+        return FALSE;
     CREATESTRUCT cs{lpParam, AfxGetInstanceHandle(),     nIDorHMenu,     hWndParent,    nHeight,  nWidth, y,
                     x,       static_cast<LONG>(dwStyle), lpszWindowName, lpszClassName, dwExStyle};
     if (!PreCreateWindow(cs)) {

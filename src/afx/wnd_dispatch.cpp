@@ -1,5 +1,4 @@
 // Unpacks a window message's parameters for the handler that its map entry names.
-#include "afx_menu.h"
 #include "afx_wnd.h"
 #include "message_map.h"
 
@@ -42,8 +41,6 @@ void call_without_result(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, UINT word, WP
         return call<void>(wnd, entry);
     case AfxSig_v_size:
         return call<void, UINT, int, int>(wnd, entry, word, low(lParam), high(lParam));
-    case AfxSig_v_move:
-        return call<void, int, int>(wnd, entry, low(lParam), high(lParam));
     case AfxSig_v_timer:
         return call<void, UINT_PTR>(wnd, entry, wParam);
     case AfxSig_v_key:
@@ -56,35 +53,8 @@ void call_without_result(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, UINT word, WP
         return call<void, CWnd*>(wnd, entry, CWnd::FromHandle(window_of(lParam)));
     case AfxSig_v_scroll:
         return call<void, UINT, UINT, CScrollBar*>(wnd, entry, LOWORD(wParam), HIWORD(wParam), bar_of(lParam));
-    case AfxSig_v_reflect_scroll:
-        return call<void, UINT, UINT>(wnd, entry, LOWORD(wParam), HIWORD(wParam));
     case AfxSig_v_drop:
         return call<void, HDROP>(wnd, entry, reinterpret_cast<HDROP>(wParam));
-    case AfxSig_v_bool:
-        return call<void, BOOL>(wnd, entry, wParam != 0);
-    case AfxSig_v_show:
-        return call<void, BOOL, UINT>(wnd, entry, wParam != 0, static_cast<UINT>(lParam));
-    case AfxSig_v_activate:
-        return call<void, UINT, CWnd*, BOOL>(wnd, entry, LOWORD(wParam), CWnd::FromHandle(window_of(lParam)),
-                                             HIWORD(wParam));
-    case AfxSig_v_draw:
-        return call<void, int, LPDRAWITEMSTRUCT>(wnd, entry, static_cast<int>(word), record_of<DRAWITEMSTRUCT>(lParam));
-    case AfxSig_v_measure:
-        return call<void, int, LPMEASUREITEMSTRUCT>(wnd, entry, static_cast<int>(word),
-                                                    record_of<MEASUREITEMSTRUCT>(lParam));
-    case AfxSig_v_reflect_draw:
-        return call<void, LPDRAWITEMSTRUCT>(wnd, entry, record_of<DRAWITEMSTRUCT>(lParam));
-    case AfxSig_v_reflect_measure:
-        return call<void, LPMEASUREITEMSTRUCT>(wnd, entry, record_of<MEASUREITEMSTRUCT>(lParam));
-    case AfxSig_v_minmax:
-        return call<void, MINMAXINFO*>(wnd, entry, record_of<MINMAXINFO>(lParam));
-    case AfxSig_v_pos:
-        return call<void, WINDOWPOS*>(wnd, entry, record_of<WINDOWPOS>(lParam));
-    case AfxSig_v_context:
-        return call<void, CWnd*, CPoint>(wnd, entry, CWnd::FromHandle(window_of(wParam)), CPoint(lParam));
-    case AfxSig_v_popup:
-        return call<void, CMenu*, UINT, BOOL>(wnd, entry, CMenu::FromHandle(reinterpret_cast<HMENU>(wParam)),
-                                              LOWORD(lParam), HIWORD(lParam));
     default:
         return;
     }
@@ -94,14 +64,6 @@ void call_without_result(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, UINT word, WP
 LRESULT call_for_result(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, WPARAM wParam, LPARAM lParam) {
     const UINT word = static_cast<UINT>(wParam);
     switch (entry.nSig) {
-    case AfxSig_lwl:
-        return call<LRESULT, WPARAM, LPARAM>(wnd, entry, wParam, lParam);
-    case AfxSig_bv:
-        return call<BOOL>(wnd, entry);
-    case AfxSig_uv:
-        return static_cast<LRESULT>(call<UINT>(wnd, entry));
-    case AfxSig_hv:
-        return result_of(call<HCURSOR>(wnd, entry));
     case AfxSig_i_create:
         return call<int, LPCREATESTRUCT>(wnd, entry, record_of<CREATESTRUCT>(lParam));
     case AfxSig_b_wheel:
@@ -114,16 +76,6 @@ LRESULT call_for_result(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, WPARAM wParam,
         return result_of(call<HBRUSH, CDC*, CWnd*, UINT>(wnd, entry, CDC::FromHandle(color->hDC),
                                                          CWnd::FromHandle(color->hWnd), color->nCtlType));
     }
-    case AfxSig_h_reflect_color: {
-        const auto* color = record_of<AFX_CTLCOLOR>(lParam);
-        return result_of(call<HBRUSH, CDC*, UINT>(wnd, entry, CDC::FromHandle(color->hDC), color->nCtlType));
-    }
-    case AfxSig_b_cursor:
-    case AfxSig_i_mouseact: // BOOL is an int
-        return call<int, CWnd*, UINT, UINT>(wnd, entry, CWnd::FromHandle(window_of(wParam)), LOWORD(lParam),
-                                            HIWORD(lParam));
-    case AfxSig_l_point:
-        return call<LRESULT, CPoint>(wnd, entry, CPoint(lParam));
     default:
         call_without_result(wnd, entry, word, wParam, lParam);
         return 0;

@@ -1,6 +1,25 @@
 // Message loops of modal windows, and what every message is shown to before it is dispatched.
 #include "afx_app.h"
-#include "afx_wnd.h"
+#include "wnd_state.h"
+
+namespace {
+
+// Idle messages to the window's parent and to the window, which may go over any of them.
+bool idle_in_modal_loop(HWND hwnd, DWORD flags, LONG count) {
+    const HWND parent = ::GetParent(hwnd);
+    if ((flags & MLF_NOIDLEMSG) == 0 && parent != nullptr && count == 0)
+        ::SendMessage(parent, WM_ENTERIDLE, MSGF_DIALOGBOX, reinterpret_cast<LPARAM>(hwnd));
+    return ::SendMessage(hwnd, WM_KICKIDLE, MSGF_DIALOGBOX, count) != 0;
+}
+
+void show(HWND hwnd) {
+    if (::IsWindowVisible(hwnd))
+        return;
+    ::ShowWindow(hwnd, SW_SHOWNORMAL);
+    ::UpdateWindow(hwnd);
+}
+
+} // namespace
 
 BOOL PASCAL CWnd::WalkPreTranslateTree(HWND hWndStop, MSG* pMsg) {
     for (HWND at = pMsg->hwnd; at != nullptr; at = ::GetParent(at)) {
@@ -13,17 +32,6 @@ BOOL PASCAL CWnd::WalkPreTranslateTree(HWND hWndStop, MSG* pMsg) {
     return FALSE;
 }
 
-bool CWnd::IdleInModalLoop(DWORD flags, LONG count) {
-    if ((flags & MLF_SHOWONIDLE) != 0 && !IsWindowVisible()) {
-        ShowWindow(SW_SHOWNORMAL);
-        UpdateWindow();
-    }
-    const HWND parent = ::GetParent(m_hWnd);
-    if ((flags & MLF_NOIDLEMSG) == 0 && parent != nullptr && count == 0)
-        ::SendMessage(parent, WM_ENTERIDLE, MSGF_DIALOGBOX, reinterpret_cast<LPARAM>(m_hWnd));
-    return (flags & MLF_NOKICKIDLE) == 0 && SendMessage(WM_KICKIDLE, MSGF_DIALOGBOX, count) != 0;
-}
-
 int CWnd::RunModalLoop(DWORD dwFlags) {
     const HWND hwnd = m_hWnd;
     MSG message;
@@ -33,9 +41,14 @@ int CWnd::RunModalLoop(DWORD dwFlags) {
     // A window that somebody else destroyed may have taken the object with it, so the handle is asked first.
     while (::IsWindow(hwnd) && ContinueModal()) {
         if (idle && !::PeekMessage(&message, nullptr, 0, 0, PM_NOREMOVE)) {
-            idle = IdleInModalLoop(dwFlags, count++);
+            if ((dwFlags & MLF_SHOWONIDLE) != 0)
+                show(hwnd);
+            dwFlags &= ~static_cast<DWORD>(MLF_SHOWONIDLE); // once: the window may hide itself later
+            idle = idle_in_modal_loop(hwnd, dwFlags, count++);
         } else if (!AfxPumpMessage()) {
-            ::PostQuitMessage(0); // the outer loop ends as well
+            ::PostQuitMessage(quit_code()); // the outer loop ends as well
+            if (::IsWindow(hwnd))
+                m_modal = false;
             return -1;
         } else if (AfxIsIdleMessage()) {
             idle = true;

@@ -1,23 +1,9 @@
 // Operations of CWnd that are more than one platform call.
-#include "afx_app.h"
-#include "afx_data_exchange.h"
-#include "afx_menu.h"
 #include "afx_wnd.h"
 
 #include <algorithm>
 
 namespace {
-
-BOOL change_style(HWND hwnd, int index, DWORD remove, DWORD add, UINT flags) {
-    const DWORD old = static_cast<DWORD>(::GetWindowLongPtr(hwnd, index));
-    const DWORD wanted = (old & ~remove) | add;
-    if (old == wanted)
-        return FALSE;
-    ::SetWindowLongPtr(hwnd, index, static_cast<LONG>(wanted));
-    if (flags != 0)
-        ::SetWindowPos(hwnd, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | flags);
-    return TRUE;
-}
 
 CString text_of(HWND hwnd) {
     CString text;
@@ -45,18 +31,13 @@ int centred(int low, int high, int length, int least, int most) {
 } // namespace
 
 BOOL CWnd::ModifyStyle(DWORD dwRemove, DWORD dwAdd, UINT nFlags) {
-    return change_style(m_hWnd, GWL_STYLE, dwRemove, dwAdd, nFlags);
-}
-
-CWnd* CWnd::GetOwner() const {
-    return FromHandle(m_hWndOwner != nullptr ? m_hWndOwner : ::GetParent(m_hWnd));
-}
-
-CWnd* CWnd::GetTopLevelParent() const {
-    HWND top = GetSafeHwnd();
-    for (HWND at = top; at != nullptr; at = ::GetParent(at))
-        top = at;
-    return FromHandle(top);
+    const DWORD wanted = (GetStyle() & ~dwRemove) | dwAdd;
+    if (wanted == GetStyle())
+        return FALSE;
+    ::SetWindowLongPtr(m_hWnd, GWL_STYLE, static_cast<LONG>(wanted));
+    if (nFlags != 0)
+        SetWindowPos(nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | nFlags);
+    return TRUE;
 }
 
 void CWnd::GetWindowText(CString& rString) const {
@@ -66,10 +47,6 @@ void CWnd::GetWindowText(CString& rString) const {
 int CWnd::GetDlgItemText(int nID, CString& rString) const {
     rString = text_of(::GetDlgItem(m_hWnd, nID));
     return rString.GetLength();
-}
-
-CMenu* CWnd::GetMenu() const {
-    return CMenu::FromHandle(::GetMenu(m_hWnd));
 }
 
 BOOL CWnd::SetScrollInfo(int nBar, LPSCROLLINFO lpScrollInfo, BOOL bRedraw) {
@@ -106,15 +83,4 @@ void CWnd::CenterWindow(CWnd* pAlternateOwner) {
     const int x = centred(target.left, target.right, own.Width(), bounds.left, bounds.right);
     const int y = centred(target.top, target.bottom, own.Height(), bounds.top, bounds.bottom);
     SetWindowPos(nullptr, x, y, -1, -1, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
-void CWnd::SendMessageToDescendants(UINT message, WPARAM wParam, LPARAM lParam, BOOL bDeep, BOOL bOnlyPerm) {
-    for (HWND child = ::GetTopWindow(m_hWnd), next; child != nullptr; child = next) {
-        next = ::GetWindow(child, GW_HWNDNEXT); // the child may vanish over the message
-        CWnd* permanent = FromHandlePermanent(child);
-        if (!bOnlyPerm || permanent != nullptr)
-            ::SendMessage(child, message, wParam, lParam);
-        if (bDeep && ::IsWindow(child))
-            FromHandle(child)->SendMessageToDescendants(message, wParam, lParam, bDeep, bOnlyPerm);
-    }
 }

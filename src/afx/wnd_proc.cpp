@@ -26,9 +26,16 @@ private:
 };
 
 LRESULT report(CException* exception, const MSG& message) {
-    CWinThread* thread = AfxGetThread();
-    const LRESULT result = thread != nullptr ? thread->ProcessWndProcException(exception, &message)
-                                             : CWinThread::DefaultWndProcException(exception, &message);
+    LRESULT result = refusal(message);
+    try {
+        CWinThread* thread = AfxGetThread();
+        result = thread != nullptr ? thread->ProcessWndProcException(exception, &message)
+                                   : CWinThread::DefaultWndProcException(exception, &message);
+    } catch (CException* another) {
+        if (another != exception)
+            another->Delete();
+    } catch (...) { // reporting failed as well; nothing may reach the system
+    }
     exception->Delete();
     return result;
 }
@@ -67,11 +74,18 @@ bool is_input_method_window(HWND hwnd) {
 
 } // namespace
 
+LRESULT refusal(const MSG& message) {
+    return message.message == WM_CREATE ? -1 : 0;
+}
+
 LRESULT answer_exception(const MSG& message) {
+    // Before the report: its message box would have the window painted again, and fail again.
+    if (message.message == WM_PAINT)
+        ::ValidateRect(message.hwnd, nullptr);
     try {
         return report_current(message);
     } catch (...) {
-        return 0; // reporting failed as well; nothing may reach the system
+        return refusal(message); // no memory for the exception to report
     }
 }
 
@@ -92,15 +106,20 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam) 
     return AfxCallWndProc(wnd, hWnd, nMsg, wParam, lParam);
 }
 
-void AfxTakeOverWindow(CWnd* wnd, HWND hwnd) {
-    wnd->Attach(hwnd);
+bool AfxTakeOverWindow(CWnd* wnd, HWND hwnd) {
+    if (!wnd->Attach(hwnd))
+        return false;
     wnd->PreSubclassWindow();
-    WNDPROC* super = wnd->GetSuperWndProcAddr();
     const auto old =
         reinterpret_cast<WNDPROC>(::SetWindowLongPtr(hwnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&AfxWndProc)));
+    if (old == nullptr) { // a window of another program
+        wnd->Detach();
+        return false;
+    }
     // The platform's own procedure is called directly, without the detour over a stored one.
     if (old != &AfxWndProc && old != &::DefWindowProc)
-        *super = old;
+        wnd->m_pfnSuper = old;
+    return true;
 }
 
 namespace {
@@ -110,12 +129,16 @@ LRESULT CALLBACK creation_hook_proc(int code, WPARAM wParam, LPARAM lParam) {
     if (code == HCBT_CREATEWND && wnd_in_creation != nullptr && !is_input_method_window(hwnd)) {
         CWnd* wnd = wnd_in_creation;
         wnd_in_creation = nullptr;
+        bool taken = false;
         try {
-            AfxTakeOverWindow(wnd, hwnd);
+            taken = AfxTakeOverWindow(wnd, hwnd);
         } catch (...) {
             answer_exception({hwnd, WM_NULL, 0, 0, 0, {0, 0}});
             wnd->Detach();
-            return 1; // refuses the creation
+        }
+        if (!taken) {
+            wnd_in_creation = wnd; // the creator lets go of it
+            return 1;              // refuses the creation
         }
     }
     return ::CallNextHookEx(creation_hook, code, wParam, lParam);

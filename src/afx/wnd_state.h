@@ -7,5 +7,11 @@
 extern MSG last_message;
 
 LRESULT AfxCallWndProc(CWnd* wnd, HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+// Whether the object holds the window now.
+bool AfxTakeOverWindow(CWnd* wnd, HWND hwnd);
+// The answer to a message whose handler failed: a creation is refused.
+LRESULT refusal(const MSG& message);
+// The argument of the quit message that ended the loop; 0 where none did.
+int quit_code();
 // In a handler of any exception that must not reach the system: reports it and gives the message's answer.
 LRESULT answer_exception(const MSG& message);

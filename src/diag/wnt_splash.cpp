@@ -69,7 +69,7 @@ BOOL CWntSplash::Create() {
     UpdateWindow();
     if (!m_hWnd) // ended while it was being shown: the object is the caller's again
         return FALSE;
-    SetTimer(splash_timer, time_);
+    SetTimer(splash_timer, time_, nullptr);
     ends_itself_ = true;
     return TRUE;
 }

@@ -1,4 +1,0 @@
-// Automation: the exception with a result code.
-#pragma once
-
-#include "afxole.h"

@@ -1,4 +1,0 @@
-// OLE: the exception with a result code.
-#pragma once
-
-#include "afxwin.h"
