@@ -28,7 +28,7 @@ HBRUSH CWntErrorBox::OnCtlColor(CDC* dc, CWnd* control, UINT type) {
     const int id = control->GetDlgCtrlID();
     if (id < IDC_ERROR_TITLE || id > IDC_ERROR_DETAILS)
         return CDialog::OnCtlColor(dc, control, type);
-    ::SetTextColor(dc->m_hDC, ::GetSysColor(COLOR_WINDOWTEXT));
+    dc->SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
     dc->SetBkColor(::GetSysColor(COLOR_WINDOW));
     return background_;
 }
