@@ -42,5 +42,7 @@ protected:
     static INT_PTR CALLBACK DialogProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 
 private:
+    // After an exception of OnInitDialog.
+    virtual void RefuseToOpen();
     BOOL CreateFrom(LPCDLGTEMPLATE form, HINSTANCE module, HWND owner);
 };

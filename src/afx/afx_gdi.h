@@ -31,15 +31,8 @@ protected:
     BOOL AttachNew(HGDIOBJ hObject);
 };
 
-#define AFX_DECLARE_GDI_CLASS(class_name, handle_type)                                                                 \
-    DECLARE_DYNAMIC(class_name)                                                                                        \
-    static class_name* PASCAL FromHandle(handle_type handle);                                                          \
-    operator handle_type() const {                                                                                     \
-        return static_cast<handle_type>(GetSafeHandle());                                                              \
-    }
-
 class ZOPAFX_API CPen : public CGdiObject {
-    AFX_DECLARE_GDI_CLASS(CPen, HPEN)
+    DECLARE_DYNAMIC(CPen)
 
 public:
     CPen() = default;
@@ -51,16 +44,17 @@ public:
 };
 
 class ZOPAFX_API CBrush : public CGdiObject {
-    AFX_DECLARE_GDI_CLASS(CBrush, HBRUSH)
+    DECLARE_DYNAMIC(CBrush)
 
 public:
     CBrush() = default;
     explicit CBrush(COLORREF crColor);
+    operator HBRUSH() const { return static_cast<HBRUSH>(GetSafeHandle()); }
     BOOL CreateSolidBrush(COLORREF crColor) { return AttachNew(::CreateSolidBrush(crColor)); }
 };
 
 class ZOPAFX_API CFont : public CGdiObject {
-    AFX_DECLARE_GDI_CLASS(CFont, HFONT)
+    DECLARE_DYNAMIC(CFont)
 
 public:
     CFont() = default;
@@ -73,19 +67,22 @@ public:
 };
 
 class ZOPAFX_API CBitmap : public CGdiObject {
-    AFX_DECLARE_GDI_CLASS(CBitmap, HBITMAP)
+    DECLARE_DYNAMIC(CBitmap)
 
 public:
     CBitmap() = default;
+    static CBitmap* PASCAL FromHandle(HBITMAP hBitmap);
     BOOL CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight);
     int GetBitmap(BITMAP* pBitMap) { return GetObject(sizeof(BITMAP), pBitMap); }
 };
 
 class ZOPAFX_API CPalette : public CGdiObject {
-    AFX_DECLARE_GDI_CLASS(CPalette, HPALETTE)
+    DECLARE_DYNAMIC(CPalette)
 
 public:
     CPalette() = default;
+    static CPalette* PASCAL FromHandle(HPALETTE hPalette);
+    operator HPALETTE() const { return static_cast<HPALETTE>(GetSafeHandle()); }
     BOOL CreatePalette(LPLOGPALETTE lpLogPalette) { return AttachNew(::CreatePalette(lpLogPalette)); }
     BOOL CreateHalftonePalette(CDC* pDC);
     int GetEntryCount();

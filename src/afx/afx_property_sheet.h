@@ -25,6 +25,7 @@ protected:
 
 private:
     friend class CPropertySheet;
+    void RefuseToOpen() override { EndDialog(-1); } // hidden: the sheet counts on its page's window
     BOOL FindModule(HINSTANCE& module) const;
     static UINT CALLBACK PageCallback(HWND hwnd, UINT message, PROPSHEETPAGE* page);
     static INT_PTR CALLBACK PageProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);

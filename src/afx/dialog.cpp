@@ -67,12 +67,16 @@ INT_PTR CALLBACK CDialog::DialogProc(HWND hwnd, UINT message, WPARAM wParam, LPA
         answer_exception({hwnd, message, wParam, lParam, 0, {0, 0}});
         if (CWnd::FromHandlePermanent(hwnd) != dialog)
             return FALSE; // gone already
-        if (dialog->m_modal)
-            dialog->EndDialog(-1);
-        else
-            dialog->DestroyWindow();
+        dialog->RefuseToOpen();
         return FALSE;
     }
+}
+
+void CDialog::RefuseToOpen() {
+    if (m_modal)
+        EndDialog(-1);
+    else
+        DestroyWindow();
 }
 
 INT_PTR CDialog::DoModal() {

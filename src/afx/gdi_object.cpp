@@ -6,6 +6,11 @@
 #include <cstdlib>
 
 IMPLEMENT_DYNCREATE(CGdiObject, CObject)
+IMPLEMENT_DYNAMIC(CPen, CGdiObject)
+IMPLEMENT_DYNAMIC(CBrush, CGdiObject)
+IMPLEMENT_DYNAMIC(CFont, CGdiObject)
+IMPLEMENT_DYNAMIC(CBitmap, CGdiObject)
+IMPLEMENT_DYNAMIC(CPalette, CGdiObject)
 
 namespace {
 
@@ -26,17 +31,13 @@ void delete_temporary_gdi_objects() {
     gdi_objects().delete_temporary();
 }
 
-#define IMPLEMENT_GDI_CLASS(class_name, handle_type)                                                                   \
-    IMPLEMENT_DYNAMIC(class_name, CGdiObject)                                                                          \
-    class_name* PASCAL class_name::FromHandle(handle_type handle) {                                                    \
-        return static_cast<class_name*>(gdi_objects().any<class_name>(handle));                                        \
-    }
+CBitmap* PASCAL CBitmap::FromHandle(HBITMAP hBitmap) {
+    return static_cast<CBitmap*>(gdi_objects().any<CBitmap>(hBitmap));
+}
 
-IMPLEMENT_GDI_CLASS(CPen, HPEN)
-IMPLEMENT_GDI_CLASS(CBrush, HBRUSH)
-IMPLEMENT_GDI_CLASS(CFont, HFONT)
-IMPLEMENT_GDI_CLASS(CBitmap, HBITMAP)
-IMPLEMENT_GDI_CLASS(CPalette, HPALETTE)
+CPalette* PASCAL CPalette::FromHandle(HPALETTE hPalette) {
+    return static_cast<CPalette*>(gdi_objects().any<CPalette>(hPalette));
+}
 
 CGdiObject::~CGdiObject() {
     DeleteObject();

@@ -70,8 +70,10 @@ BOOL CPropertySheet::CreateSheet(HWND owner) {
     AfxHookWindowCreate(this);
     const INT_PTR hwnd = ::PropertySheet(&m_psh);
     m_psh.ppsp = nullptr;
-    if (!AfxUnhookWindowCreate() && m_hWnd == nullptr) // else it is a page that was not created
+    if (!AfxUnhookWindowCreate() && m_hWnd == nullptr) { // else it is a page that was not created
         PostNcDestroy();
+        return FALSE;
+    }
     return hwnd != -1 && m_hWnd != nullptr;
 }
 

@@ -6,7 +6,6 @@
 // The window message that is being handled, or the last one that was.
 extern MSG last_message;
 
-LRESULT AfxCallWndProc(CWnd* wnd, HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 // Whether the object holds the window now.
 bool AfxTakeOverWindow(CWnd* wnd, HWND hwnd);
 // The answer to a message whose handler failed: a creation is refused.
