@@ -103,7 +103,7 @@ TEST(DibFile, TellsWhatFailed) {
     fails(dib.Save(disk.name()), 1);
     EXPECT_EQ(disk.bytes(), Bytes{}); // created before it is known that there is nothing to write
     const CFile reading(disk.name(), CFile::modeRead | CFile::shareDenyNone);
-    const CFile writing(disk.name(), CFile::modeReadWrite | CFile::shareDenyNone);
+    const CFile writing(disk.name(), CFile::modeWrite | CFile::shareDenyNone);
     ASSERT_EQ(dib.CreateNewHighColor(2, 2, 0), 1);
     fails(dib.Draw(nullptr, 0, 0, 0, 0), 1);
     fails(dib.StreamOut(INVALID_HANDLE_VALUE), 2);

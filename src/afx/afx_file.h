@@ -10,6 +10,7 @@ class ZOPAFX_API CFile : public CObject {
 public:
     enum OpenFlags : UINT {
         modeRead = 0x0000,
+        modeWrite = 0x0001,
         modeReadWrite = 0x0002,
         shareExclusive = 0x0010,
         shareDenyWrite = 0x0020,

@@ -7,7 +7,9 @@ const HANDLE CFile::hFileNull = INVALID_HANDLE_VALUE;
 namespace {
 
 DWORD access_of(UINT flags) {
-    return (flags & CFile::modeReadWrite) != 0 ? GENERIC_READ | GENERIC_WRITE : GENERIC_READ;
+    if ((flags & CFile::modeReadWrite) != 0)
+        return GENERIC_READ | GENERIC_WRITE;
+    return (flags & CFile::modeWrite) != 0 ? GENERIC_WRITE : GENERIC_READ;
 }
 
 DWORD sharing_of(UINT flags) {
