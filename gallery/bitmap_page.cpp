@@ -21,7 +21,8 @@ CString OwnPicture() {
     char folder[MAX_PATH] = "";
     char path[MAX_PATH] = "";
     ::GetTempPathA(sizeof folder, folder);
-    ::GetTempFileNameA(folder, "zop", 0, path); // other galleries have theirs
+    if (!::GetTempFileNameA(folder, "zop", 0, path)) // other galleries have theirs
+        return "zopgallery.bmp";
     CDibFile picture;
     picture.CreateNewTrueColor(320, 240, 250);
     for (int i = 0; i <= 240; i += 4) {

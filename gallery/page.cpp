@@ -78,17 +78,24 @@ void CSurfacePage::OnPaint() {
     out_.GetClientRect(&area);
     CDC memory;
     CBitmap picture;
-    if (area.Width() <= 0 || area.Height() <= 0 || !memory.CreateCompatibleDC(&shown) ||
-        !picture.CreateCompatibleBitmap(&shown, area.Width(), area.Height()))
+    const bool palettes = shown.GetDeviceCaps(RASTERCAPS) & RC_PALETTE; // are realised on the window alone
+    if (palettes || !memory.CreateCompatibleDC(&shown) ||
+        !picture.CreateCompatibleBitmap(&shown, area.Width(), area.Height())) {
+        PaintOn(shown);
         return;
-    CBitmap* previous = memory.SelectObject(&picture);
-    if (out_.reset(memory.m_hDC)) {
-        Paint(out_);
-        out_.endpaint();
-        ::SelectClipRgn(memory.m_hDC, nullptr);
-        shown.BitBlt(0, 0, area.Width(), area.Height(), &memory, 0, 0, SRCCOPY);
     }
+    CBitmap* previous = memory.SelectObject(&picture);
+    PaintOn(memory);
+    ::SelectClipRgn(memory.m_hDC, nullptr);
+    shown.BitBlt(0, 0, area.Width(), area.Height(), &memory, 0, 0, SRCCOPY);
     memory.SelectObject(previous);
+}
+
+void CSurfacePage::PaintOn(CDC& dc) {
+    if (!out_.reset(dc.m_hDC))
+        return;
+    Paint(out_);
+    out_.endpaint();
 }
 
 // The surface covers the rest.

@@ -16,7 +16,7 @@ public:
     virtual const char* Name() const = 0;
 
     bool Open(CWnd* parent, const CRect& place);
-    /// Without children that are painted over in passing.
+    /// Its ground is not painted over its children.
     virtual DWORD Style() const { return WS_CHILD | WS_CLIPCHILDREN; }
     /// Brings what moves to a state worth a picture.
     virtual void Settle() {}
@@ -61,6 +61,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    void PaintOn(CDC& dc);
+
     CWntOut out_;
 };
 

@@ -102,7 +102,7 @@ BOOL CWntBitmap::Create(BITMAPINFO* info, void* bits) {
     if (!block)
         return FALSE;
     std::memcpy(block.get(), info, wnt::info_header_bytes + 4 * count);
-    if (bits && bits == m_pBits) { // its own pixels under another header: they stay as they are, and whose they are
+    if (m_bMyBits && bits && bits == m_pBits) { // its own pixels under another header stay its own
         std::free(std::exchange(m_pBMI, info_of(std::move(block))));
         return TRUE;
     }

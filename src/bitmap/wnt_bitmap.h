@@ -21,8 +21,7 @@ public:
     CWntBitmap();
     ~CWntBitmap() override;
 
-    /// A bitmap file in an archive. As in Load() and Save(), whose results it drops: a bitmap that is refused is left
-    /// as it was.
+    /// A bitmap file in an archive. Results are dropped; a refused bitmap leaves this one as it was.
     void Serialize(CArchive& archive) override;
 
     /// Null or an empty path asks the user. A file that cannot be opened is refused silently.
@@ -53,7 +52,8 @@ public:
 
     /// A blank bitmap of 8 bits with a ramp of greys. Refused below 0 and from 2 GB on; the bitmap is empty then.
     BOOL Create(int width, int height);
-    /// Copies the header and its colours, refused above 65536; the pixels stay the caller's and must outlive their use.
+    /// Copies the header and its colours, refused above 65536; the pixels stay the caller's and must outlive their use,
+    /// but the bitmap's own stay its own.
     /// Compressed ones are biSizeImage bytes and are drawn only where that is set.
     BOOL Create(BITMAPINFO* info, void* bits);
     /// A bitmap file that is a resource of the library, of the type "DIB" or else a standard bitmap's. The pixels are

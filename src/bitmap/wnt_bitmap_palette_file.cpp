@@ -4,6 +4,8 @@
 #include "bitmap/wnt_bitmap_palette.h"
 
 #include <algorithm>
+#include <climits>
+#include <cstdint>
 
 namespace {
 
@@ -11,8 +13,8 @@ constexpr FOURCC palette_form = mmioFOURCC('P', 'A', 'L', ' ');
 constexpr FOURCC data_id = mmioFOURCC('d', 'a', 't', 'a');
 constexpr char filter[] = "Palette files (*.PAL)|*.PAL|All files (*.*)|*.*||";
 
-// The multimedia layer over an open file, which stays open. Writing goes without a buffer, since
-// closing does not report what failed when one was emptied.
+// The multimedia layer over an open file, which stays open. Writing goes without a buffer, since closing
+// does not report what failed when one was emptied.
 class OverFile {
 public:
     OverFile(HANDLE file, DWORD mode) {
@@ -54,16 +56,25 @@ bool write_palette(HMMIO riff, const wnt::LogPalette& colours) {
            ::mmioAscend(riff, &data, 0) == MMSYSERR_NOERROR && ::mmioAscend(riff, &form, 0) == MMSYSERR_NOERROR;
 }
 
+// Whether a chunk ends inside its file.
+bool whole(HMMIO riff, const MMCKINFO& chunk) {
+    const std::uint64_t last = std::uint64_t{chunk.dwDataOffset} + chunk.cksize - 1;
+    char byte;
+    return last <= LONG_MAX && ::mmioSeek(riff, static_cast<LONG>(last), SEEK_SET) >= 0 &&
+           ::mmioRead(riff, &byte, 1) == 1;
+}
+
 } // namespace
 
 BOOL CWntBitmapPalette::Load(HMMIO riff) {
     MMCKINFO data = {};
     if (!find_data(riff, data) || data.cksize < wnt::LogPalette::bytes_of(1))
         return FALSE;
-    const DWORD bytes = std::min(data.cksize, wnt::LogPalette::bytes_of(wnt::LogPalette::most_colours));
+    const DWORD most = wnt::LogPalette::bytes_of(wnt::LogPalette::most_colours);
+    const DWORD bytes = std::min(data.cksize, most); // no more can be colours
     const wnt::HeapBytes block = wnt::zeroed_bytes(bytes);
     const LONG size = static_cast<LONG>(bytes);
-    if (!block || ::mmioRead(riff, reinterpret_cast<char*>(block.get()), size) != size)
+    if (!block || ::mmioRead(riff, reinterpret_cast<char*>(block.get()), size) != size || !whole(riff, data))
         return FALSE;
     auto* colours = reinterpret_cast<LOGPALETTE*>(block.get());
     if (colours->palVersion != wnt::LogPalette::version || colours->palNumEntries == 0 ||

@@ -72,7 +72,7 @@ void mix(Byte* bytes, const Byte* key, std::size_t size) {
 }
 
 #ifdef WIDE_REGISTERS
-// The same in registers of twice the width, for processors that have them: blocks that lie in the nearest cache.
+// The same in registers of twice the width, for processors that have them; it pays for blocks in the nearest cache.
 __attribute__((target("avx2"))) void mix_wide(Byte* bytes, const Byte* key, std::size_t size) {
     mix_strides(bytes, key, size);
 }

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "out/device_state.h"
-#include "out/geometry.h"
+#include "arithmetic.h"
 
 namespace wrapped = wnt::wrapped;
 

@@ -1,6 +1,6 @@
 #include "out/wnt_out.h"
 
-#include "out/geometry.h"
+#include "arithmetic.h"
 #include "script/colours.h"
 
 namespace wrapped = wnt::wrapped;

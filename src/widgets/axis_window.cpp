@@ -2,9 +2,9 @@
 
 #include <utility>
 
+#include "arithmetic.h"
 #include "library_resources.h"
 #include "widgets/axis/axis_model.h"
-#include "arithmetic.h"
 #include "widgets/axis/zoom_control.h"
 #include "widgets/surface_owner.h"
 #include "widgets/wnt_axis_properties.h"
@@ -213,7 +213,7 @@ BOOL CWntAxis::OnCommand(WPARAM wParam, LPARAM lParam) {
     if (command == toggle_zoom_command) {
         end_zoom_drag();
         zoom_->shown = !zoom_->shown;
-        if (!zoom_->has_slider())
+        if (!zoom_->has_slider(model_->horizontal()))
             SetZoomRects(1); // never laid out since the axis has a size, or its ends were dragged past each other
         repaint();
     } else if (command == properties_command && !open_properties()) {

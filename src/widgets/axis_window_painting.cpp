@@ -1,9 +1,9 @@
 #include <algorithm>
 
+#include "arithmetic.h"
 #include "out/device_state.h"
 #include "widgets/axis/axis_model.h"
 #include "widgets/axis/axis_ticks.h"
-#include "arithmetic.h"
 #include "widgets/axis/zoom_control.h"
 #include "widgets/paint_buffer.h"
 #include "widgets/wnt_axis.h"

@@ -4,7 +4,7 @@
 #include <cstring>
 #include <iterator>
 
-#include "out/geometry.h"
+#include "arithmetic.h"
 #include "script/keywords.h"
 #include "script/script_line.h"
 #include "script/values.h"

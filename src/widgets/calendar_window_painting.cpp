@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <cstdio>
 
 #include "widgets/calendar/calendar_days.h"

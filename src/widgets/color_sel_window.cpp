@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include "diag/wnt_trace.h"
 #include "widgets/colour_grid.h"
 #include "widgets/surface_buffer.h"

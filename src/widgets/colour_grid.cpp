@@ -1,6 +1,6 @@
 #include "widgets/colour_grid.h"
 
-#include "out/geometry.h"
+#include "arithmetic.h"
 
 namespace wnt {
 

@@ -5,6 +5,7 @@
 
 #include "out/device_state.h"
 #include "widgets/supersample.h"
+#include "widgets/surface_owner.h"
 
 namespace wnt {
 
@@ -110,6 +111,7 @@ void PictureScreen::draw_all(CWntOut& out, int width, int height, const Picture&
     if (!holds(width, height) && !(face_.create(width, height) && frame_.create(width, height))) {
         release();
         if (!face.figures().empty()) { // its ground at least, not what was there before
+            prime_colours(out);
             out.fillcolour(COLORREF{face.figures()[0].colour}, 0);
             out.boxa2(0, 0, width - 1, height - 1);
         }

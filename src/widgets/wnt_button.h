@@ -43,7 +43,8 @@ public:
     /// 1 when the point (client coordinates) lies inside; points on the edge lie outside.
     unsigned char mouse_in_button(CPoint point);
 
-    /// The first step of painting, for a derived class: border and frame, and the ground while a change is pending.
+    /// The first step of painting, for an owner that repaints parts: border and frame, and the ground while a change is
+    /// pending.
     void draw_background();
     /// The second step: the title.
     void draw_foreground();

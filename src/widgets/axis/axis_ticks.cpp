@@ -1,7 +1,7 @@
 #include "widgets/axis/axis_ticks.h"
 
-#include "widgets/axis/axis_labels.h"
 #include "arithmetic.h"
+#include "widgets/axis/axis_labels.h"
 #include "widgets/axis/time_value.h"
 
 #include <cstdlib>

@@ -21,7 +21,9 @@ struct ZoomControl {
     void lay_out(const AxisModel& axis, bool with_slider);
 
     /// Whether there is anything of the slider to grip.
-    bool has_slider() const { return slider.left < slider.right && slider.top < slider.bottom; }
+    bool has_slider(bool horizontal) const {
+        return horizontal ? slider.left < slider.right : slider.top < slider.bottom;
+    }
 
     bool hit(std::int32_t x, std::int32_t y) const;
 

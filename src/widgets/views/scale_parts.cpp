@@ -4,7 +4,6 @@
 #include <charconv>
 #include <cmath>
 
-#include "widgets/gauge_scale.h"
 #include "widgets/views/view_parts.h"
 
 // What every scale has: ticks, labels and coloured zones as parts of its length.

@@ -40,10 +40,11 @@ Colour ground_for(Colour colour);
 /// with its size, so only the rounding of glyphs is left to be tried out, and few fonts are made.
 template <class Measure> int size_within(float width, int tenths, int least, Measure measure) {
     const float wanted = measure(tenths);
+    width = std::max(width, 0.0f);
     if (wanted <= width || tenths <= least)
         return tenths;
     constexpr int step = 5;
-    const float share = std::max(width, 0.0f) / wanted;
+    const float share = width / wanted;
     int size = std::min(tenths, static_cast<int>(static_cast<float>(tenths) * share) + 2 * step);
     while (size > least && measure(size) > width)
         size -= step;
