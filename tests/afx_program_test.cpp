@@ -1,12 +1,9 @@
-// The program around the windows: message loop, dialogs, fonts.
+// The program around the windows: dialogs and fonts.
 #include "afx_test_app.h"
 
 #include <afxdlgs.h>
 
-#include <gmock/gmock.h>
-
-using testing::ElementsAre;
-using Texts = std::vector<std::string>;
+#include <gtest/gtest.h>
 
 test_app the_app;
 
@@ -16,44 +13,6 @@ class framework : public testing::Environment {
     void SetUp() override { ASSERT_TRUE(AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), 0)); }
 };
 const testing::Environment* const environment = testing::AddGlobalTestEnvironment(new framework);
-
-// Tells when it is asked about a message, and may take it.
-class listener : public recorder {
-public:
-    BOOL PreTranslateMessage(MSG* message) override {
-        if (message->message == WM_KEYDOWN)
-            log->push_back(name);
-        return message->message == WM_KEYDOWN && takes;
-    }
-    const char* name = "";
-    Texts* log = nullptr;
-    bool takes = false;
-};
-
-TEST(AfxLoop, AsksTheWindowsFromTheTargetToTheMainWindow) {
-    Texts log;
-    listener outside, main, child;
-    for (auto [wnd, name] : {std::pair{&outside, "outside"}, {&main, "main"}, {&child, "child"}})
-        wnd->name = name, wnd->log = &log;
-    ASSERT_TRUE(create_popup(outside));
-    ASSERT_TRUE(main.CreateEx(0, nullptr, "", WS_CHILD, CRect(0, 0, 50, 50), &outside, 1));
-    ASSERT_TRUE(child.CreateEx(0, nullptr, "", WS_CHILD, CRect(0, 0, 20, 20), &main, 1));
-    the_app.m_pMainWnd = &main;
-    the_app.quit_when_idle = true;
-
-    child.PostMessage(WM_KEYDOWN, VK_F2);
-    EXPECT_EQ(the_app.Run(), 5);
-    EXPECT_THAT(log, ElementsAre("child", "main"));
-    EXPECT_THAT(child.seen, testing::Contains(WM_KEYDOWN));
-    log.clear();
-    child.seen.clear();
-    main.takes = true;
-    child.PostMessage(WM_KEYDOWN, VK_F2);
-    the_app.Run();
-    EXPECT_THAT(child.seen, testing::Not(testing::Contains(WM_KEYDOWN)));
-    the_app.quit_when_idle = false;
-    the_app.m_pMainWnd = nullptr;
-}
 
 // Does one thing when it opens, and one when its data is exchanged.
 class test_dialog : public CDialog {

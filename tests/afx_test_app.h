@@ -12,12 +12,6 @@
 // Answers message boxes by itself and keeps their texts.
 class test_app : public CWinApp {
 public:
-    BOOL OnIdle(LONG count) override {
-        const BOOL more = CWinApp::OnIdle(count);
-        if (!more && quit_when_idle)
-            ::PostQuitMessage(5);
-        return more;
-    }
     int DoMessageBox(LPCTSTR text, UINT, UINT) override {
         if (box_fails)
             AfxThrowMemoryException();
@@ -27,7 +21,7 @@ public:
     std::vector<std::string> take_boxes() { return std::exchange(boxes, {}); }
 
     std::vector<std::string> boxes;
-    bool quit_when_idle = false, box_fails = false;
+    bool box_fails = false;
 };
 
 extern test_app the_app;
