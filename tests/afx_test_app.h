@@ -12,14 +12,6 @@
 // Answers message boxes by itself and keeps their texts.
 class test_app : public CWinApp {
 public:
-    BOOL InitInstance() override { return start ? start() : FALSE; }
-    BOOL OnIdle(LONG count) override {
-        idle_counts.push_back(count);
-        const BOOL more = CWinApp::OnIdle(count);
-        if (!more && quit_when_idle)
-            ::PostQuitMessage(5);
-        return more;
-    }
     int DoMessageBox(LPCTSTR text, UINT, UINT) override {
         if (box_fails)
             AfxThrowMemoryException();
@@ -28,15 +20,8 @@ public:
     }
     std::vector<std::string> take_boxes() { return std::exchange(boxes, {}); }
 
-    std::function<BOOL()> start;
     std::vector<std::string> boxes;
-    std::vector<LONG> idle_counts;
-    bool quit_when_idle = false, box_fails = false;
-    int commands = 0;
-
-private:
-    void OnAppCommand() { ++commands; }
-    DECLARE_MESSAGE_MAP()
+    bool box_fails = false;
 };
 
 extern test_app the_app;

@@ -80,24 +80,6 @@ TEST(AxisGrid, UnanswerableRangesKeepTheStep) {
     }
 }
 
-TEST(AxisGrid, FollowsTypeAndSize) {
-    AxisModel axis = axis_of(axis_bottom, 300);
-    EXPECT_TRUE(axis.scale_line_pos(0) == 30 && axis.scale_line_pos(10) == 301); // 110 lies above the range
-    axis.type = axis_text;
-    axis.grid.first_scale_value = 0;
-    axis.set_texts(3);
-    axis.set_texts(0); // no labels: refused
-    axis.resize(310, 40);
-    EXPECT_TRUE(axis.grid.count == 3 && axis.tick_width() == 103);
-    axis.grid.count = 100; // more steps than labels
-    EXPECT_TRUE(axis.has_text(2) && !axis.has_text(3) && !axis.has_text(-1));
-    axis.grid.count = 0;
-    EXPECT_EQ(axis.tick_width(), 1);
-    axis.grid.count = 3;
-    axis.type = 3;
-    EXPECT_EQ(axis.pixel_per_grid(), 1.0f);
-}
-
 TEST(AxisConversion, EndsOfBothOrientations) {
     AxisModel across = axis_of(axis_top, 300), up = axis_of(axis_right, 300);
     const auto pixels = [](AxisModel& axis) {

@@ -1,7 +1,6 @@
 #include "time/wnt_time.h"
 #include "time_zone.h"
 #include "widgets/calendar/calendar_days.h"
-#include "widgets/calendar/calendar_layout.h"
 
 #include <gtest/gtest.h>
 
@@ -133,15 +132,6 @@ TEST(Time, ChecksItsValuesAndStaysAtZero) {
             EXPECT_EQ(moment.time, 0);
         }
     }
-}
-
-TEST(Calendar, LayoutOfAWindow) {
-    constexpr CalendarLayout layout = calendar_layout(300, 200);
-    EXPECT_TRUE(layout.column_width == 40 && layout.last_row == 4);
-    EXPECT_TRUE(layout.grid.holds(17, 165) && !layout.grid.holds(16, 165) && !layout.grid.holds(17, 166));
-    EXPECT_TRUE(layout.months.holds(16, 17) && layout.bottom_strip.holds(16, 16));
-    EXPECT_TRUE(calendar_layout(300, 51).last_row == 0 && calendar_layout(300, 51).grid.empty());
-    EXPECT_EQ(calendar_layout(300, 22).last_row, -1);
 }
 
 TEST(Calendar, WeeksBeginOnMonday) {

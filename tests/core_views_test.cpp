@@ -1,6 +1,5 @@
 #include "even_meter.h"
 #include "widgets/supersample.h"
-#include "widgets/views/scale_parts.h"
 #include "widgets/views/view_parts.h"
 
 #include <gmock/gmock.h>
@@ -98,19 +97,6 @@ TEST(GaugeViews, ShowTheValueInItsZonesColour) {
             EXPECT_TRUE(std::ranges::any_of(Scene(model, 200, 200).value.figures(), shows)) << type << zone.first;
         }
     }
-}
-
-TEST(GaugeViews, MarksBecomeZonesAtTheirPlaces) {
-    GaugeModel model = model_of(gauge_percent_bar, {":CLEARMARKS", ":SETMARK=25,BLUE", ":SETMARK=75,GREEN",
-                                                    ":SETMARK=74,RED", ":SETMARK=74,RED"});
-    const auto zones = zones_of(model);
-    ASSERT_EQ(zones.size(), 3u);
-    EXPECT_TRUE(zones[0].to == 0.25f && zones[1].from == 0.25f && zones[1].colour == 0x00FF00 && zones[2].to == 1);
-    model.set_range(100, 0);
-    const auto turned = zones_of(model);
-    for (const auto& zone : turned)
-        EXPECT_LE(zone.from, zone.to);
-    EXPECT_EQ(turned.front().to, 1); // the lowest values lie at the far end
 }
 
 TEST(GaugeViews, HighestPeakIsHeldWhenItsColumnIsGone) {

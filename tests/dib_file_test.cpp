@@ -177,23 +177,6 @@ TEST(DibFile, IsDrawnOnWithinItsBounds) {
     EXPECT_EQ(dib.IsValid() + dib.GetLastError(), 0);
 }
 
-TEST(DibFile, DumpsItsHeaderAndTable) {
-    const TemporaryFile disk(BitmapFile{8, 4, -2, false, 5}.bytes());
-    CDibFile dib;
-    ASSERT_EQ(dib.Load(disk.name()), 1);
-    dib.SaveBitmapInfo(disk.name());
-    std::string expected = "// Bitmap Info\r\n\r\n\r\n";
-    for (const char* line : {"biSize\t = 40", "biWidth\t = 4", "biHeight\t = 4294967294", "biPlanes\t = 1",
-                             "biBitCount\t = 8", "biCompression\t = 0", "biSizeImage\t = 0", "biXPelsPerMeter\t = 2835",
-                             "biYPelsPerMeter\t = 2835", "biClrUsed\t = 5", "biClrImportant\t = 0"})
-        expected += std::string("m_pBitmapInfo->bmiHeader.") + line + " ;\r\n";
-    expected += "\r\n\r\nRGBQUAD  rgbQuadTable[5] =\r\n\t{\r\n\t\t\r\n\t\t  0, 10, 20,  0   ,  1, 13, 25,  0   ,"
-                "  2, 16, 30,  0   ,  3, 19, 35,  0   ,\r\n\t\t  4, 22, 40,  0   \r\n\t}\r\n\r\n";
-    EXPECT_EQ(disk.text(), expected);
-    CDibFile().SaveBitmapInfo(disk.name());
-    EXPECT_EQ(disk.text(), "// Bitmap Info\r\n\r\n\r\n// Bitmap NOT valid !\r\n");
-}
-
 // At 24 bits only the ground is judged: Mesa's software renderer misplaces figures there.
 TEST(DibFile, IsRenderedIntoByOpenGL) {
     for (const auto& [bits, side] : {std::pair{24, 0}, {32, 16}}) {

@@ -13,11 +13,6 @@ TEST_F(SurfaceTest, DeviceContextCycle) {
     host_.ShowWindow(SW_SHOWNOACTIVATE);
     out.SetWindowPos(nullptr, 0, 0, 90, 70, SWP_NOZORDER);
     EXPECT_EQ(out.ymax, 70); // one more than after reset()
-    for (const auto mode : {&CWntOut::outmode, &CWntOut::targetmode}) {
-        out.*mode = 1;
-        EXPECT_EQ(out.reset(), 0);
-        out.*mode = 0;
-    }
     ASSERT_EQ(out.reset(), 1);
     EXPECT_EQ(out.ymax, 69);
     const HDC own = out.dc;
@@ -42,20 +37,6 @@ TEST_F(SurfaceTest, DeviceContextCycle) {
     out.linecolour(green, 0);
     out.line(0, 0, 0, 0);
     EXPECT_EQ(pixels_of(out).at(0, 39), green);
-}
-
-TEST_F(SurfaceTest, DrawsOnOtherDevicesWithoutAWindow) {
-    Picture picture(4, 3);
-    picture.clear(ground);
-    CWntOut bare;
-    bare.targetmode = 1;
-    ASSERT_EQ(bare.reset(picture.dc()), 1);
-    bare.xmax = picture.width() - 1;
-    bare.ymax = picture.height() - 1;
-    bare.linecolour(red, 0);
-    bare.hline(0, 0, 2);
-    bare.endpaint();
-    EXPECT_EQ(letters(picture.values(), 4, {{ground, '.'}, {red, 'L'}}), "....\n....\nLLL.\n");
 }
 
 TEST_F(SurfaceTest, ParentSeesInputFirst) {
@@ -105,18 +86,13 @@ TEST_F(SurfaceTest, PointerShapesAndPosition) {
         shapes.push_back(::GetCursor());
         EXPECT_EQ(shapes.back() != nullptr, id != 21 && id != 22) << id; // this program has no such icons
     }
-    EXPECT_EQ(shapes[13], ::LoadCursor(nullptr, IDC_SIZENESW));
-    EXPECT_EQ(shapes[14], ::LoadCursor(nullptr, IDC_SIZENWSE));
     for (const int library : {4, 19, 20, 23, 24, 25, 26, 27, 28})
         EXPECT_EQ(std::count(shapes.begin(), shapes.end(), shapes[library]), 1) << library;
     EXPECT_EQ(out.cursor, nullptr);
     ::SetCursor(shapes[8]);
     for (const short outside : {-1, 29, SHRT_MAX})
         out.setmouseshape(outside);
-    out.setmouseshape(HICON{});
     EXPECT_EQ(::GetCursor(), shapes[8]);
-    out.setmouseshape(static_cast<HICON>(shapes[4]));
-    EXPECT_EQ(out.cursor, shapes[4]);
 
     ASSERT_EQ(out.reset(), 1);
     POINT origin = {};
@@ -138,22 +114,16 @@ TEST_F(SurfaceTest, ClipCoversItsCornersAndSurvivesAReset) {
     EXPECT_EQ(drawn(6, 4, [&](CWntOut& o) { o.resetclip(), o.excludeclip(1, 1, 2, 2), fill(o); }),
               "FFFFFF\nF..FFF\nF..FFF\nFFFFFF\n");
     EXPECT_EQ(out.clipset, 0);
-    EXPECT_EQ(drawn(3, 2, [&](CWntOut& o) { o.outmode = 1, o.excludeclip(0, 0, 0, 0), o.outmode = 0, fill(o); }),
-              "FFF\nFFF\n");
 
     Picture picture(40, 30);
     paint(picture, [](CWntOut& o) {
         o.setclip(10, 10, 20, 20);
         const struct {
             int x1, y1, x2, y2, visible;
-        } cases[] = {{21, 10, 30, 20, 0}, {20, 20, 30, 30, 1}, {0, 0, 9, 15, 0},  {0, 0, 10, 10, 1},
-                     {0, 21, 30, 30, 0},  {0, 0, 30, 9, 0},    {0, 0, 40, 40, 1}, {12, 12, 13, 13, 1}};
+        } cases[] = {{21, 10, 30, 20, 0}, {20, 20, 30, 30, 1}, {0, 0, 10, 10, 1},
+                     {0, 21, 30, 30, 0},  {0, 0, 30, 9, 0},    {0, 0, 40, 40, 1}};
         for (const auto& c : cases)
             EXPECT_EQ(o.testclip(c.x1, c.y1, c.x2, c.y2), c.visible) << c.x1 << ' ' << c.y1;
-        o.outmode = 2, o.targetmode = 1;
-        EXPECT_EQ(o.testclip(21, 10, 30, 20), 1);
-        o.outmode = o.targetmode = 0;
-        EXPECT_EQ(o.clipit(900, 900, 901, 901), 1);
         o.resetclip();
     });
 }
@@ -180,19 +150,16 @@ TEST_F(SurfaceTest, UpdateRectangleIsToldInLibraryCoordinates) {
 }
 
 TEST_F(SurfaceTest, ScrollMovesBlocks) {
-    const auto scrolled = [this](int x, int y, int w, int h, int dx, int dy, int mode = 0) {
+    const auto scrolled = [this](int x, int y, int w, int h, int dx, int dy) {
         return drawn(6, 4, [&](CWntOut& o) {
             o.boxa2(0, 0, 1, 0);
             o.line(0, 3, 0, 3);
-            o.outmode = mode;
             o.scroll(x, y, w, h, dx, dy, 7);
-            o.outmode = 0;
         });
     };
     EXPECT_EQ(scrolled(0, 0, 2, 1, 3, 2), "L.....\n...FF.\n......\nFF....\n");
     EXPECT_EQ(scrolled(0, 0, 0, 0, 0, 1), "......\n......\nFF....\nFF....\n");
     EXPECT_EQ(scrolled(0, 3, 1, 9, 2, 0), "L.L...\n......\n......\nFFF...\n"); // a block from above the area
-    EXPECT_EQ(scrolled(0, 0, 2, 1, 3, 2, 1), "L.....\n......\n......\nFF....\n");
 }
 
 // On screens of fewer colours the last argument says how many bits a pixel they have.
@@ -245,11 +212,8 @@ TEST_F(SurfaceTest, ScreenLosesRubberBandsDrawnTwice) {
     static Tpt corners[] = {{5, 5}, {60, 20}, {30, 70}};
     using Draw = void (*)(CWntOut&);
     const Draw bands[] = {[](CWntOut& o) { o.trackline(0, 0, 99, 79); },
-                          [](CWntOut& o) { o.trackbox(10, 10, 50, 30, 0); },
-                          [](CWntOut& o) { o.trackbox(10, 10, 50, 30, 0x100); },
                           [](CWntOut& o) { o.trackbox(10, 10, 50, 30, 0x200); },
-                          [](CWntOut& o) { o.trackpoly(corners, 3); },
-                          [](CWntOut& o) { o.trackpoly(reinterpret_cast<POINT*>(corners), 3); }};
+                          [](CWntOut& o) { o.trackpoly(corners, 3); }};
     ASSERT_EQ(out.reset(), 1);
     out.fillcolour(3, 0);
     out.boxa2(0, 0, 99, 79);

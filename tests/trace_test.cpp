@@ -87,18 +87,14 @@ TEST_F(TraceTest, LinesGoToTheOpenStream) {
     trace.Trace(3, "indented %d", 7);
     trace.Trace("\n");
     trace.Trace(-2, "outdented\n");
-    trace.Trace(0, "flush %c\n", '!');
     trace.SetFlags(0);
-    trace.Trace("lost\n");
-    trace.SetFlags(16 | 1);
-    trace.SetFilename(nullptr);
     trace.Trace("lost\n");
     trace.SetFlags(1);
     trace.Trace("last\n");
     trace.DestroyWindow();
     EXPECT_EQ(trace.stream(), nullptr);
     const std::string text = text_of(file);
-    const std::string written = "plain text\r\n      indented 7\r\noutdented\r\nflush !\r\nlast\r\n";
+    const std::string written = "plain text\r\n      indented 7\r\noutdented\r\nlast\r\n";
     EXPECT_THAT(text, StartsWith(written + hyphens + "\r\nended at "));
     EXPECT_THAT(text, EndsWith("\r\nEnd of Trace\r\n\r\n"));
     EXPECT_EQ(text_of("trace.txt") + text_of("Wtrace.txt"), "");
@@ -109,16 +105,6 @@ TEST_F(TraceTest, LinesGoToTheOpenStream) {
     EXPECT_EQ(trace.stream(), nullptr);
     trace.Trace("lost\n");
     EXPECT_EQ(text_of(file), "kept\r\n");
-}
-
-TEST_F(TraceTest, FileNameGetsTheBannerOnly) {
-    trace.SetFilename(file);
-    trace.Trace("not here\n");
-    EXPECT_EQ(trace.stream(), nullptr);
-    const std::string moment = "\\d\\d:\\d\\d:\\d\\d on \\w+, \\w+ \\d\\d, \\d\\d\\d\\d";
-    EXPECT_THAT(text_of(file), MatchesRegex("Begin of Trace\r\nstarted at " + moment + "\r\n" + hyphens + "\r\n"));
-    trace.SetFilename("no such folder/x.txt"); // ignored; the first file is let go
-    EXPECT_EQ(std::remove(file), 0);
 }
 
 TEST_F(TraceTest, WindowShowsAndSelectsTheNewestLine) {

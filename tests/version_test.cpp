@@ -140,11 +140,9 @@ TEST(VersionFacts, AreEmptyWhereTheBlockDoesNotHoldThem) {
 }
 
 TEST(VersionSheet, ShowsTheComponents) {
-    const auto set_attributes = [](DWORD attributes) { ::SetFileAttributesA("zopfdraw.dll", attributes); };
-    set_attributes(FILE_ATTRIBUTE_NORMAL); // an interrupted run left it behind
     ASSERT_TRUE(write_version_file("zopfdraw.dll", version_block(fixed_info, {0x04B00409})));
     set_times("zopfdraw.dll", CTime(2003, 2, 1, 13, 4, 5).GetTime());
-    set_attributes(FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM);
+    ::SetFileAttributesA("zopfdraw.dll", FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM);
     std::ofstream("zopcal.ocx") << "12345";
     set_times("zopcal.ocx", -86'400);
     const std::string earliest = CTime(0).Format("%d.%m.%Y, %H:%M:%S").GetString();
@@ -169,7 +167,7 @@ TEST(VersionSheet, ShowsTheComponents) {
         EXPECT_THAT(rows[8], ElementsAre(_, _, "zopcal.ocx", _, "5 bytes", earliest, earliest, "", "", "", "", "", ""));
     });
     EXPECT_EQ(result, IDCANCEL);
-    set_attributes(FILE_ATTRIBUTE_NORMAL);
+    ::SetFileAttributesA("zopfdraw.dll", FILE_ATTRIBUTE_NORMAL);
     EXPECT_TRUE(::DeleteFileA("zopfdraw.dll") && ::DeleteFileA("zopcal.ocx"));
 }
 
