@@ -92,6 +92,8 @@ TEST_F(ButtonTest, PressMovesThePictureAndReleaseBringsItBack) {
     EXPECT_EQ(pixels_of(button_), down);
     mouse(WM_LBUTTONUP, 50, 20);
     EXPECT_EQ(pixels_of(button_), up);
+    button_.draw_button(0); // as an owner presses it
+    EXPECT_EQ(pixels_of(button_), down);
 }
 
 TEST_F(ButtonTest, EdgesOutsideAndHiddenDoNothing) {

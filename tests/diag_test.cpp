@@ -201,7 +201,7 @@ TEST_F(SplashTest, GoesWhenItsTimeIsUpWhileOthersStay) {
     late->DestroyWindow();
 }
 
-TEST(ErrorBox, ShowsItsThreeTexts) {
+TEST(ErrorBox, ShowsItsThreeTextsOnTheWindowColour) {
     CWntErrorBox box("Title & more", "The message", "Detail 1\r\nDetail 2");
     std::string texts;
     WhileModal modal([&] {
@@ -211,6 +211,10 @@ TEST(ErrorBox, ShowsItsThreeTexts) {
             CString text;
             box.GetDlgItemText(id, text);
             texts += text + "|";
+            CClientDC dc(box.GetDlgItem(id));
+            box.SendMessage(WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc.m_hDC),
+                            reinterpret_cast<LPARAM>(::GetDlgItem(box, id)));
+            EXPECT_EQ(dc.GetBkColor() == ::GetSysColor(COLOR_WINDOW), id != IDOK) << id;
         }
         box.PostMessage(WM_COMMAND, IDOK);
         return true;

@@ -98,6 +98,22 @@ TEST_F(SurfaceTest, CopyingPolygonsStopAtTwentyPoints) {
     EXPECT_EQ(copied.at(72, 0), ground); // the polyline leaves its last pixel out
 }
 
+TEST_F(SurfaceTest, GapsOfAHatchFollowABitOfTheFillColour) {
+    for (const COLORREF colour : {RGB(0, 0x10, 0), RGB(0, 0xEF, 0)}) {
+        Picture picture(40, 40);
+        paint(picture, [&](CWntOut& o) {
+            POINT square[] = {{0, 0}, {39, 0}, {39, 39}, {0, 39}};
+            ::SetBkColor(o.dc, RGB(0, 0, 255));
+            o.fillcolour(colour, 6);
+            o.fillpoly(square, 4);
+            EXPECT_EQ(::GetBkMode(o.dc), TRANSPARENT);
+        });
+        EXPECT_GT(picture.count(colour), 100);
+        EXPECT_EQ(picture.count(ground) > 500, colour == RGB(0, 0x10, 0));
+        EXPECT_EQ(picture.count(RGB(0, 0, 255)) > 500, colour != RGB(0, 0x10, 0));
+    }
+}
+
 TEST_F(SurfaceTest, WideLinesTakeTheFillColour) {
     const auto lines = [](CWntOut& o) {
         POINT points[] = {{-10, 2}, {20, 2}};

@@ -1,11 +1,17 @@
 // Bitmaps and palettes, and their files.
+#include <process.h>
+
+#include <filesystem>
+
 #include "bitmap_files.h"
 #include "modal.h"
 #include "pixels.h"
+#include "resource_file.h"
 #include "temporary_file.h"
 
 namespace {
 
+namespace fs = std::filesystem;
 using testing::ElementsAre;
 constexpr DWORD all_pixels = 0xFFFFFFFF;
 
@@ -99,6 +105,20 @@ TEST(WntBitmap, CopiesBlocks) {
     ASSERT_TRUE(shifted.Create(from.GetBitmapInfoAddress(), from.GetPixelAddress(1, 3)));
     from.CopyBits(&shifted, 0, 3, 4, 1, 0, 3, all_pixels);
     EXPECT_EQ(rows_of(from, 5, 4), "1 1 2 3 4 |6 7 8 9 10 |11 12 13 14 15 |16 16 17 18 19 |");
+
+    // Made anew over its own pixels it keeps them; over the caller's it takes as many as the new header asks for.
+    ASSERT_TRUE(from.Create(from.GetBitmapInfoAddress(), from.GetBitsAddress()));
+    EXPECT_EQ(rows_of(from, 5, 1), "1 1 2 3 4 |");
+    BITMAPINFO* info = shifted.GetBitmapInfoAddress();
+    const BYTE* pixel = from.GetPixelAddress(0, 0);
+    info->bmiHeader.biHeight = 1;
+    ASSERT_TRUE(shifted.Create(info, from.GetPixelAddress(0, 3)));
+    info = shifted.GetBitmapInfoAddress();
+    info->bmiHeader.biHeight = 4;
+    ASSERT_TRUE(shifted.Create(info, from.GetPixelAddress(0, 3)));
+    shifted.CopyBits(&to, 0, 0, 3, 2, 0, 0, all_pixels);
+    EXPECT_EQ(rows_of(to, 3, 2), "1 1 2 |6 7 8 |");
+    EXPECT_EQ(pixel, from.GetPixelAddress(0, 0));
 }
 
 TEST(WntBitmap, MapsItsColoursToAPalette) {
@@ -142,6 +162,40 @@ TEST(WntBitmap, EndsWhereRunLengthsInPlaceEnd) {
         EXPECT_TRUE(disk.bytes().size() == 1078 + 1600 && disk.bytes()[1078 + 4] == 0 && runs[4] == 7);
         info->bmiHeader.biSizeImage = 0;
     }
+}
+
+// Runs a test again with copies of program and library that got resources. Other libraries are found here.
+int run_with_resources(const char* test) {
+    const char *library = "with_resources/ZOPWNT.dll", *program = "with_resources/bitmap_test.exe";
+    fs::create_directories("with_resources");
+    fs::copy_file("ZOPWNT.dll", library, fs::copy_options::overwrite_existing);
+    fs::copy_file("bitmap_test.exe", program, fs::copy_options::overwrite_existing);
+    const Bytes whole = BitmapFile{8, 5, 2}.bytes();
+    const LPCSTR standard = MAKEINTRESOURCEA(2);
+    add_resource(library, standard, 6, whole);
+    add_resource(library, "DIB", 7, whole);
+    add_resource(library, standard, 7, BitmapFile{8, 4, 4}.bytes());
+    add_resource(library, standard, 8, {whole.begin() + 14, whole.end()});
+    add_resource(library, "DIB", 9, {whole.begin(), whole.end() - 1});
+    add_resource(program, "DIB", 10, whole);
+    const auto code = ::_spawnl(_P_WAIT, program, "bitmap_test", test, nullptr);
+    fs::remove_all("with_resources");
+    return static_cast<int>(code);
+}
+
+// A file as resource is used where it lies. Without file header or all pixels it is refused, as is a program's.
+TEST(WntBitmap, LoadsFromTheLibrarysResources) {
+    if (!::FindResourceA(nullptr, MAKEINTRESOURCEA(10), "DIB")) {
+        EXPECT_EQ(run_with_resources("--gtest_filter=WntBitmap.LoadsFromTheLibrarysResources"), 0);
+        return;
+    }
+    CWntBitmap bitmap;
+    ASSERT_TRUE(bitmap.Load(6U) && bitmap.Load(7U) && bitmap.GetWidth() == 5);
+    const BYTE before = (*bitmap.GetPixelAddress(0, 0) ^= 0xFF);
+    ASSERT_TRUE(bitmap.Load(7U));
+    EXPECT_EQ(*bitmap.GetPixelAddress(0, 0), before);
+    for (const UINT id : {8U, 9U, 10U})
+        EXPECT_FALSE(bitmap.Load(id)) << id;
 }
 
 constexpr int colours = 20;
@@ -286,8 +340,8 @@ TEST(BitmapPaths, AreAskedForAndFailuresTold) {
     EXPECT_EQ(cancelled, 3);
     program.boxes.clear();
     const TemporaryFile disk;
-    EXPECT_FALSE(bitmap.Load(9U) || bitmap.Load("no such.bmp") || bitmap.Save("no such folder\\x.bmp") ||
-                 bitmap.Save(disk.name()) || palette.Load("no such.pal") || palette.Load(disk.name()));
+    EXPECT_FALSE(bitmap.Load("no such.bmp") || bitmap.Save("no such folder\\x.bmp") || bitmap.Save(disk.name()) ||
+                 palette.Load("no such.pal") || palette.Load(disk.name()));
     EXPECT_THAT(program.boxes, testing::ElementsAre("Failed to open file", "Failed to save file", "Failed to open file",
                                                     "Failed to load file"));
 }

@@ -20,7 +20,8 @@ public:
     // For a DoModal with a template in memory, which the caller keeps until then.
     BOOL InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd = nullptr, void* lpDialogInit = nullptr);
 
-    // Runs the dialog with its parent disabled; the argument of EndDialog, or -1 where it cannot be created.
+    // Runs the dialog with its parent disabled; the argument of EndDialog, or -1 where it cannot be created, is
+    // shown already, or ends by other means.
     virtual INT_PTR DoModal();
     void EndDialog(int nResult);
 

@@ -25,7 +25,7 @@ protected:
 
 private:
     friend class CPropertySheet;
-    void RefuseToOpen() override { EndDialog(-1); } // hidden: the sheet counts on its page's window
+    void RefuseToOpen() override { EnableWindow(FALSE); } // stays: the sheet counts on its page's window and shows it
     BOOL FindModule(HINSTANCE& module) const;
     static UINT CALLBACK PageCallback(HWND hwnd, UINT message, PROPSHEETPAGE* page);
     static INT_PTR CALLBACK PageProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);

@@ -61,7 +61,8 @@ public:
 
     // Asks every window from the message's up to hWndStop whether it wants the message for itself.
     static BOOL PASCAL WalkPreTranslateTree(HWND hWndStop, MSG* pMsg);
-    // Runs a message loop until EndModalLoop; answers its argument, or -1 after a quit message.
+    // Runs a message loop until EndModalLoop; answers its argument, or -1 after a quit message or where
+    // the window was destroyed.
     int RunModalLoop(DWORD dwFlags = 0);
     virtual void EndModalLoop(int nResult);
     virtual BOOL ContinueModal() { return m_modal; }

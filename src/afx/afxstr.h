@@ -6,7 +6,8 @@
 #include <string>
 
 // Positions and lengths are byte counts. Positions outside the text are clamped.
-// A null text is an empty one; a resource id in place of a text (MAKEINTRESOURCE) loads that string.
+// A null text is an empty one; a resource id in place of the
+// constructor's text (MAKEINTRESOURCE) loads that string.
 class ZOPAFX_API CString {
 public:
     CString() = default;
@@ -70,6 +71,9 @@ private:
 ZOPAFX_API CString AFXAPI operator+(const CString& a, const CString& b);
 ZOPAFX_API CString AFXAPI operator+(const CString& a, LPCSTR b);
 ZOPAFX_API CString AFXAPI operator+(LPCSTR a, const CString& b);
+// Without these two a character would count as an offset of the text's pointer.
+ZOPAFX_API CString AFXAPI operator+(const CString& a, char b);
+ZOPAFX_API CString AFXAPI operator+(char a, const CString& b);
 
 inline bool operator==(const CString& a, const CString& b) {
     return a.Compare(b) == 0;

@@ -89,16 +89,14 @@ INT_PTR CDialog::DoModal() {
     m_modalResult = -1;
     if (!CreateFrom(form, module, parent.handle()))
         return -1;
-    const HWND hwnd = m_hWnd;
     const DLGTEMPLATE& placed = *form;
     if (placed.x == 0 && placed.y == 0 && (GetStyle() & (DS_ABSALIGN | DS_CENTER | DS_CENTERMOUSE)) == 0)
         CenterWindow();
     const DWORD idle = (GetStyle() & DS_NOIDLEMSG) != 0 ? MLF_SHOWONIDLE | MLF_NOIDLEMSG : MLF_SHOWONIDLE;
-    const int result = m_modal ? RunModalLoop(idle) : m_modalResult;
-    if (::IsWindow(hwnd)) { // else the object may be gone as well
-        parent.take_over_from(hwnd);
-        DestroyWindow();
-    }
+    if (m_modal)
+        return parent.run(*this, idle);
+    const int result = m_modalResult;
+    parent.end(m_hWnd);
     return result;
 }
 

@@ -29,6 +29,30 @@ public:
 
     HWND handle() const { return m_owner; }
 
+    // Runs a dialog's loop and ends its window, also where an exception leaves the loop.
+    int run(CWnd& dialog, DWORD flags) {
+        const HWND hwnd = dialog.m_hWnd;
+        try {
+            const int result = dialog.RunModalLoop(flags);
+            end(hwnd);
+            return result;
+        } catch (...) {
+            if (CWnd::FromHandlePermanent(hwnd) == &dialog)
+                dialog.EndModalLoop(-1);
+            end(hwnd);
+            throw;
+        }
+    }
+
+    // The object may be gone with its window already.
+    void end(HWND dialog) {
+        if (!::IsWindow(dialog))
+            return;
+        take_over_from(dialog);
+        ::DestroyWindow(dialog);
+    }
+
+private:
     // Before the dialog goes: else the system activates another program's window.
     void take_over_from(HWND dialog) {
         ::SetWindowPos(dialog, nullptr, 0, 0, 0, 0,
@@ -38,7 +62,6 @@ public:
             ::SetActiveWindow(m_owner);
     }
 
-private:
     void enable() {
         if (m_disabled)
             ::EnableWindow(m_owner, TRUE);

@@ -83,15 +83,9 @@ INT_PTR CPropertySheet::DoModal() {
     modal_parent parent(m_parent);
     if (m_pages.empty() || !CreateSheet(parent.handle()))
         return -1;
-    const HWND hwnd = m_hWnd;
     CenterWindow();
     m_modalResult = -1;
-    const int result = RunModalLoop(MLF_SHOWONIDLE);
-    if (::IsWindow(hwnd)) { // else the object may be gone as well
-        parent.take_over_from(hwnd);
-        DestroyWindow();
-    }
-    return result;
+    return parent.run(*this, MLF_SHOWONIDLE);
 }
 
 // A sheet that has been answered has no current page any more.

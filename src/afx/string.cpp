@@ -202,3 +202,11 @@ CString AFXAPI operator+(const CString& a, LPCSTR b) {
 CString AFXAPI operator+(LPCSTR a, const CString& b) {
     return CString(a) += b;
 }
+
+CString AFXAPI operator+(const CString& a, char b) {
+    return CString(a) += b;
+}
+
+CString AFXAPI operator+(char a, const CString& b) {
+    return CString(a, 1) += b;
+}

@@ -109,7 +109,12 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam) 
 bool AfxTakeOverWindow(CWnd* wnd, HWND hwnd) {
     if (!wnd->Attach(hwnd))
         return false;
-    wnd->PreSubclassWindow();
+    try {
+        wnd->PreSubclassWindow();
+    } catch (...) {
+        wnd->Detach();
+        throw;
+    }
     const auto old =
         reinterpret_cast<WNDPROC>(::SetWindowLongPtr(hwnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&AfxWndProc)));
     if (old == nullptr) { // a window of another program
@@ -117,7 +122,9 @@ bool AfxTakeOverWindow(CWnd* wnd, HWND hwnd) {
         return false;
     }
     // The platform's own procedure is called directly, without the detour over a stored one.
-    if (old != &AfxWndProc && old != &::DefWindowProc)
+    if (old == &::DefWindowProc)
+        wnd->m_pfnSuper = nullptr;
+    else if (old != &AfxWndProc) // a window that was detached and comes back keeps what it had
         wnd->m_pfnSuper = old;
     return true;
 }
@@ -134,7 +141,6 @@ LRESULT CALLBACK creation_hook_proc(int code, WPARAM wParam, LPARAM lParam) {
             taken = AfxTakeOverWindow(wnd, hwnd);
         } catch (...) {
             answer_exception({hwnd, WM_NULL, 0, 0, 0, {0, 0}});
-            wnd->Detach();
         }
         if (!taken) {
             wnd_in_creation = wnd; // the creator lets go of it

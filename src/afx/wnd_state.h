@@ -3,7 +3,7 @@
 
 #include "afx_wnd.h"
 
-// The window message that is being handled, or the last one that was.
+// The window message that is being handled; all zero while none is.
 extern MSG last_message;
 
 // Whether the object holds the window now.
