@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <cstdio>
 #include <fstream>
@@ -9,25 +10,33 @@
 #include <vector>
 
 class BenchTable {
+    static constexpr double round_length = 0.003;
+    static constexpr int rounds = 41;
+
+    static double middle(std::array<double, rounds>& times) {
+        std::nth_element(times.begin(), times.begin() + rounds / 2, times.end());
+        return times[rounds / 2];
+    }
+
 public:
     explicit BenchTable(std::string name) : name_(std::move(name)) {
         std::printf("%-34s %14s %14s %7s\n", name_.c_str(), "rate/s", "yardstick/s", "ratio");
     }
 
-    /// Times both in turn and keeps the best of many rounds of each: other work on the machine only ever slows down.
-    /// Each is called with the number of its repetition.
+    /// Times both in turn and keeps the middle one of many rounds of each: now and then a round is spared what the
+    /// system does for all others. Each is called with the number of its repetition.
     template <class Operation, class Yardstick>
     void measure(const std::string& operation, Operation run, Yardstick yardstick) {
         int count = 1;
         while (seconds(yardstick, count) < round_length && count < 1 << 24)
             count *= 2;
-        double best = 1e9;
-        double best_yardstick = 1e9;
+        std::array<double, rounds> times;
+        std::array<double, rounds> yardstick_times;
         for (int i = 0; i < rounds; ++i) {
-            best = std::min(best, seconds(run, count));
-            best_yardstick = std::min(best_yardstick, seconds(yardstick, count));
+            times[i] = seconds(run, count);
+            yardstick_times[i] = seconds(yardstick, count);
         }
-        rows_.push_back({operation, count / best, count / best_yardstick});
+        rows_.push_back({operation, count / middle(times), count / middle(yardstick_times)});
         const Row& row = rows_.back();
         std::printf("%-34s %14.0f %14.0f %7.2f\n", operation.c_str(), row.rate, row.yardstick, row.ratio());
         std::fflush(stdout);
@@ -62,9 +71,6 @@ private:
         double yardstick;
         double ratio() const { return rate / yardstick; }
     };
-
-    static constexpr double round_length = 0.003;
-    static constexpr int rounds = 40;
 
     template <class Function> static double seconds(Function& function, int count) {
         const auto start = std::chrono::steady_clock::now();
