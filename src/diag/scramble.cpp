@@ -1,6 +1,8 @@
 #include "diag/scramble.h"
 
+#include <algorithm>
 #include <array>
+#include <cstring>
 
 #if defined(__GNUC__) && defined(__x86_64__)
 #define WIDE_REGISTERS
@@ -50,6 +52,7 @@ const Stream& stream() {
 
 // Of fixed length and without aliases, so that every compiler takes it in vector registers.
 constexpr std::size_t stride = 128;
+constexpr std::size_t cache_line = 64;
 static_assert(period % stride == 0);
 
 INLINED void mix_stride(Byte* __restrict bytes, const Byte* __restrict key) {
@@ -57,12 +60,25 @@ INLINED void mix_stride(Byte* __restrict bytes, const Byte* __restrict key) {
         bytes[i] ^= key[i];
 }
 
-INLINED void mix_strides(Byte* bytes, const Byte* key, std::size_t size) {
+INLINED void mix_few(Byte* bytes, const Byte* key, std::size_t size) {
     std::size_t i = 0;
-    for (; size - i >= stride; i += stride)
-        mix_stride(bytes + i, key + i);
+    for (std::uint64_t word, other; size - i >= sizeof word; i += sizeof word) {
+        std::memcpy(&word, bytes + i, sizeof word);
+        std::memcpy(&other, key + i, sizeof other);
+        word ^= other;
+        std::memcpy(bytes + i, &word, sizeof word);
+    }
     for (; i < size; ++i)
         bytes[i] ^= key[i];
+}
+
+INLINED void mix_strides(Byte* bytes, const Byte* key, std::size_t size) {
+    // Stores that lie across two lines of the cache cost twice: they begin where a line does.
+    std::size_t i = std::min<std::size_t>(size, -reinterpret_cast<std::uintptr_t>(bytes) % cache_line);
+    mix_few(bytes, key, i);
+    for (; size - i >= stride; i += stride)
+        mix_stride(bytes + i, key + i);
+    mix_few(bytes + i, key + i, size - i);
 }
 
 using Mix = void (*)(Byte* bytes, const Byte* key, std::size_t size);
