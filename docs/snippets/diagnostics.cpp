@@ -14,8 +14,8 @@ constexpr UINT IDB_WELCOME = 7;
 void trace_snippet(CWnd* parent) {
     //! [trace]
     static CWntTrace trace;
+    trace.SetFlags(2); // before Create(), which then opens the window with the list
     trace.Create(nullptr, "Trace", WS_CHILD, CRect(0, 0, 0, 0), parent, 101);
-    trace.SetFlags(2); // show lines in the window
     trace.Trace("loaded %d curves\n", 2);
     WntTrace("the same from anywhere\n");
     //! [trace]

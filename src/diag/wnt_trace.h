@@ -9,7 +9,7 @@
 /// Diagnostic tracing: formatted lines go to a small window with a list and to a stream of a derived class's.
 ///
 /// The trace state is one for the whole process, shared by every instance and by WntTrace(). It is switched on by the
-/// environment variables ZOPGTRACE and DPTRACE (decimal: 1 stream, 2 window, 16 kept without effect), read when a trace
+/// environment variables ZOPGTRACE and DPTRACE (decimal: 2 window, 16 kept without effect; reading them sets 1, the stream), read when a trace
 /// window is created and by WntTrace() while no flag is set, or by the calls below.
 ///
 ///     CWntTrace trace;
