@@ -49,7 +49,8 @@ public:
         if (!::IsWindow(dialog))
             return;
         take_over_from(dialog);
-        ::DestroyWindow(dialog);
+        if (CWnd* object = CWnd::FromHandlePermanent(dialog))
+            object->DestroyWindow();
     }
 
 private:
