@@ -117,7 +117,7 @@ protected:
     }
 
     void Paint(CWntOut& out) override {
-        Ground(out, RGB(252, 252, 252));
+        FillSurface(out, RGB(252, 252, 252));
         constexpr std::array<const char*, 3> depths = {"lines and pixels, 24 bits", "the same, 16 bits",
                                                        "8 bits: the colour is an index"};
         for (int i = 0; i < 3; ++i) {

@@ -102,7 +102,7 @@ protected:
     }
 
     void Paint(CWntOut& out) override {
-        Ground(out, RGB(252, 252, 252));
+        FillSurface(out, RGB(252, 252, 252));
         PaintFacts(out);
         const int width = bitmap_.GetWidth();
         const std::int64_t height = std::abs(std::int64_t{bitmap_.GetHeight()});

@@ -66,7 +66,7 @@ void CSurfacePage::Arrange(int width, int height) {
     Invalidate(FALSE);
 }
 
-void CSurfacePage::Ground(CWntOut& out, COLORREF colour) {
+void FillSurface(CWntOut& out, COLORREF colour) {
     out.fillcolour(colour, 0);
     out.boxa2(0, 0, out.xmax, out.ymax);
 }

@@ -37,6 +37,9 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 
+/// Fills the whole surface with one colour.
+void FillSurface(CWntOut& out, COLORREF colour);
+
 /// A page that is painted through one drawing surface, and shown when it is finished.
 class CSurfacePage : public CGalleryPage {
 public:
@@ -52,8 +55,6 @@ protected:
     void Arrange(int width, int height) override;
 
     CWntOut& Surface() { return out_; }
-    /// The whole surface in one colour.
-    static void Ground(CWntOut& out, COLORREF colour);
 
     afx_msg void OnPaint();
     afx_msg void OnDestroy();

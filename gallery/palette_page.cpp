@@ -61,7 +61,7 @@ protected:
     }
 
     void Paint(CWntOut& out) override {
-        Ground(out, RGB(252, 252, 252));
+        FillSurface(out, RGB(252, 252, 252));
         std::string caption = std::to_string(palette_.GetNumColors()) + " colours";
         out.linecolour(0, 0);
         out.settext(0, 0, 0, 16, 0, 0);

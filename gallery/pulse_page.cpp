@@ -139,7 +139,7 @@ protected:
     }
 
     void Paint(CWntOut& out) override {
-        Ground(out, RGB(252, 252, 252));
+        FillSurface(out, RGB(252, 252, 252));
         const Plot plot = {50, 50, std::max(out.xmax - 80, 1), std::max(out.ymax - 100, 1)};
         PaintGrid(out, plot, recording_);
         PaintCurves(out, plot, recording_);

@@ -164,8 +164,7 @@ void palette(CWntOut& out, const Cell& c) {
 }
 
 void paint(CWntOut& out) {
-    out.fillcolour(RGB(250, 250, 250), 0);
-    out.boxa2(0, 0, out.xmax, out.ymax);
+    FillSurface(out, RGB(250, 250, 250));
     using Painter = void (*)(CWntOut&, const Cell&);
     static constexpr Painter painters[columns * rows] = {lines,   fills,     boxes,       polygons, circles,  pies,
                                                          markers, polylines, connections, tracking, clipping, palette};

@@ -54,8 +54,7 @@ void titles(CWntOut& out, int x, int y, int w, int h) {
 }
 
 void paint(CWntOut& out) {
-    out.fillcolour(RGB(250, 250, 250), 0);
-    out.boxa2(0, 0, out.xmax, out.ymax);
+    FillSurface(out, RGB(250, 250, 250));
     const int middle = out.ymax * 2 / 5;
     alignments(out, 0, middle, out.xmax * 3 / 5, out.ymax - middle);
     sizes(out, out.xmax * 3 / 5 + 20, out.ymax - 10);

@@ -6,8 +6,8 @@
 #include <string>
 
 // Positions and lengths are byte counts. Positions outside the text are clamped.
-// A null text is an empty one; a resource id in place of the
-// constructor's text (MAKEINTRESOURCE) loads that string.
+// A null text is an empty one; a resource id in place of the constructor's text (MAKEINTRESOURCE)
+// loads that string.
 class ZOPAFX_API CString {
 public:
     CString() = default;

@@ -82,18 +82,7 @@ BOOL CWntBitmap::Load(LPCTSTR path) {
 }
 
 BOOL CWntBitmap::Save(LPCTSTR path) {
-    const CString name = wnt::chosen_path(path, false, filter);
-    if (name.IsEmpty())
-        return FALSE;
-    CFile file;
-    if (!file.Open(name, CFile::modeCreate | CFile::modeReadWrite | CFile::shareExclusive)) {
-        AfxMessageBox("Failed to open file");
-        return FALSE;
-    }
-    if (Save(&file))
-        return TRUE;
-    AfxMessageBox("Failed to save file");
-    return FALSE;
+    return wnt::through_chosen_file(path, false, filter, [this](CFile& file) { return Save(&file); });
 }
 
 BOOL CWntBitmap::Load(CFile* file) {

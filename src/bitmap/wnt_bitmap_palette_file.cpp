@@ -74,7 +74,8 @@ BOOL CWntBitmapPalette::Load(HMMIO riff) {
     const DWORD bytes = std::min(data.cksize, most); // no more can be colours
     const wnt::HeapBytes block = wnt::zeroed_bytes(bytes);
     const LONG size = static_cast<LONG>(bytes);
-    if (!block || ::mmioRead(riff, reinterpret_cast<char*>(block.get()), size) != size || !whole(riff, data))
+    if (!block || ::mmioRead(riff, reinterpret_cast<char*>(block.get()), size) != size ||
+        (bytes < data.cksize && !whole(riff, data)))
         return FALSE;
     auto* colours = reinterpret_cast<LOGPALETTE*>(block.get());
     if (colours->palVersion != wnt::LogPalette::version || colours->palNumEntries == 0 ||
@@ -110,16 +111,5 @@ BOOL CWntBitmapPalette::Save(CFile* file) const {
 }
 
 BOOL CWntBitmapPalette::Load(LPCTSTR path) {
-    const CString name = wnt::chosen_path(path, true, filter);
-    if (name.IsEmpty())
-        return FALSE;
-    CFile file;
-    if (!file.Open(name, CFile::modeRead | CFile::shareDenyWrite)) {
-        AfxMessageBox("Failed to open file");
-        return FALSE;
-    }
-    if (Load(&file))
-        return TRUE;
-    AfxMessageBox("Failed to load file");
-    return FALSE;
+    return wnt::through_chosen_file(path, true, filter, [this](CFile& file) { return Load(&file); });
 }

@@ -117,16 +117,25 @@ void CWntButton::draw_all() {
     draw_foreground();
 }
 
+// For painters that their owner calls: a whole paint leaves the surface without a device context.
+void CWntButton::open_surface() {
+    if (!out_.dc)
+        wnt::begin_painting(out_);
+}
+
 void CWntButton::draw_background() {
     if (!this || !model_->properties().visible)
         return;
+    open_surface();
     wnt::paint_button_background(out_, model_->properties(), *box_, model_->repaint_mask());
     *inside_ = wnt::button_inside(model_->properties(), *box_);
 }
 
 void CWntButton::draw_foreground() {
-    if (this && model_->properties().visible)
-        wnt::paint_button_title(out_, model_->properties(), *inside_);
+    if (!this || !model_->properties().visible)
+        return;
+    open_surface();
+    wnt::paint_button_title(out_, model_->properties(), *inside_);
 }
 
 void CWntButton::draw_button(unsigned char up) {

@@ -27,10 +27,8 @@ SurfaceBuffer::SurfaceBuffer(CWntOut& out) : out_(out) {
 
 SurfaceBuffer::~SurfaceBuffer() {
     const int ymax = out_.ymax;
-    if (!window_)
-        return;
-    out_.endpaint();
-    begin_painting(out_); // on the window again, for painters that are called by themselves
+    if (window_)
+        out_.endpaint();
     if (!bitmap_)
         return;
     for (const UpwardRect& part : parts_)

@@ -70,6 +70,7 @@ protected:
 private:
     void repaint();
     void draw_all();
+    void open_surface();
     void move_picture(unsigned char up);
 
     CWntOut out_;
