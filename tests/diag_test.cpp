@@ -1,5 +1,6 @@
 // Memory shared with another process, the splash, the error box and the file choice.
 #include "modal.h"
+#include "quiet_program.h"
 #include "pixels.h"
 #include "resource_file.h"
 
@@ -226,17 +227,20 @@ TEST(ErrorBox, ShowsItsThreeTextsOnTheWindowColour) {
 TEST(FileSel, OpensInTheMiddleOfItsParent) {
     CWnd host;
     ASSERT_TRUE(host.CreateEx(0, nullptr, "host", WS_POPUP | WS_VISIBLE, CRect(200, 100, 1000, 700), nullptr, 0));
-    CWntFileSel choice(TRUE, "dll", "ZOPWNT.dll", OFN_FILEMUSTEXIST, "Libraries|*.dll||", &host);
-    CRect place;
-    WhileModal modal([&] {
-        if (!choice.m_hWnd || !::IsWindowVisible(::GetParent(choice.m_hWnd)))
-            return false;
-        ::GetWindowRect(::GetParent(choice.m_hWnd), &place);
-        ::PostMessage(::GetParent(choice.m_hWnd), WM_COMMAND, IDOK, 0);
-        return true;
-    });
-    EXPECT_EQ(choice.DoModal(), IDOK);
-    EXPECT_EQ(choice.GetFileName(), "ZOPWNT.dll");
-    EXPECT_NEAR(place.CenterPoint().x, 600, 2);
-    EXPECT_NEAR(place.CenterPoint().y, 400, 2);
+    // The system takes a row out of the dialog for the default flags, after it has been placed.
+    for (const DWORD flags : {DWORD{OFN_FILEMUSTEXIST}, DWORD{OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT}}) {
+        CWntFileSel choice(TRUE, "dll", "ZOPWNT.dll", flags, "Libraries|*.dll||", &host);
+        CRect place;
+        WhileModal modal([&] {
+            if (!choice.m_hWnd || !::IsWindowVisible(::GetParent(choice.m_hWnd)))
+                return false;
+            ::GetWindowRect(::GetParent(choice.m_hWnd), &place);
+            ::PostMessage(::GetParent(choice.m_hWnd), WM_COMMAND, IDOK, 0);
+            return true;
+        });
+        EXPECT_EQ(choice.DoModal(), IDOK);
+        EXPECT_EQ(choice.GetFileName(), "ZOPWNT.dll");
+        EXPECT_NEAR(place.CenterPoint().x, 600, 2);
+        EXPECT_NEAR(place.CenterPoint().y, 400, 2);
+    }
 }

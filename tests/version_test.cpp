@@ -1,5 +1,6 @@
 // What files tell about their versions, and the sheet that shows it.
 #include "modal.h"
+#include "quiet_program.h"
 #include "pixels.h"
 #include "resource_file.h"
 

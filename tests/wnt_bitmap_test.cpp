@@ -5,6 +5,7 @@
 
 #include "bitmap_files.h"
 #include "modal.h"
+#include "quiet_program.h"
 #include "pixels.h"
 #include "resource_file.h"
 #include "temporary_file.h"

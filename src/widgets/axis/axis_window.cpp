@@ -38,6 +38,7 @@ ON_WM_LBUTTONUP()
 ON_WM_LBUTTONDBLCLK()
 ON_WM_RBUTTONDOWN()
 ON_WM_MOUSEMOVE()
+ON_WM_CAPTURECHANGED()
 END_MESSAGE_MAP()
 
 CWntAxis::CWntAxis() : model_(std::make_unique<wnt::AxisModel>()), zoom_(std::make_unique<wnt::ZoomControl>()) {}
@@ -262,6 +263,11 @@ void CWntAxis::end_zoom_drag() {
         ::ReleaseCapture();
 }
 
+void CWntAxis::OnCaptureChanged(CWnd* other) {
+    zoom_->enlarging = false;
+    CWnd::OnCaptureChanged(other);
+}
+
 void CWntAxis::OnRButtonDown(UINT, CPoint) {
     Default();
 }
@@ -285,10 +291,16 @@ void CWntAxis::show_zoom_cursor(CPoint point) {
     ::SetCursor(::LoadCursor(wnt::library_module(), grip == wnt::ZoomGrip::move ? move : enlarge));
 }
 
+// The slider may reach beyond its box: it keeps its place where the axis changes its size.
 void CWntAxis::drag_zoom(CPoint point) {
+    for (const wnt::AxisRect& r : {zoom_->box, zoom_->slider})
+        invalidate_painted(r);
     zoom_->drag(model_->horizontal(), point.x, point.y);
-    const wnt::AxisRect& box = zoom_->box;
-    const CRect painted(CPoint(box.left, box.top), CSize(box.right, box.bottom));
-    InvalidateRect(&painted, FALSE);
+    invalidate_painted(zoom_->slider);
     UpdateWindow();
+}
+
+void CWntAxis::invalidate_painted(const wnt::AxisRect& r) {
+    const CRect painted(CPoint(r.left, r.top), CSize(r.right, r.bottom));
+    InvalidateRect(&painted, FALSE);
 }

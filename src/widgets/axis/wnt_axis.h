@@ -9,6 +9,7 @@
 
 namespace wnt {
 struct AxisModel;
+struct AxisRect;
 struct AxisTick;
 struct ZoomControl;
 } // namespace wnt
@@ -120,6 +121,7 @@ protected:
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg void OnRButtonDown(UINT flags, CPoint point);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg void OnCaptureChanged(CWnd* other);
     DECLARE_MESSAGE_MAP()
 
     /// Lays the zoom control out; keep: its slider covers it again.
@@ -157,6 +159,7 @@ private:
     void fill_box(CPaintDC* dc, int x, int y, int width, int height, COLORREF colour);
     void show_zoom_cursor(CPoint point);
     void drag_zoom(CPoint point);
+    void invalidate_painted(const wnt::AxisRect& r);
     bool open_properties();
     void end_zoom_drag();
 
