@@ -44,6 +44,11 @@ TEST_F(ColorSelTest, ShowsThePaletteAndTellsPicks) {
     EXPECT_EQ(pick(50, 10), -1); // the strip
     const auto told = testing::FieldsAre(selector_.m_hWnd, 1u, 1u);
     EXPECT_THAT(host_.notified, testing::ElementsAre(told, told, told));
+    selector_.SetColorPalette(nullptr, 16);
+    DWORD table[] = {0};
+    selector_.SetColorPalette(table, 0);
+    selector_.SetColorPalette(table, -1); // none of these takes the palette away
+    full_repaint(selector_);
     EXPECT_EQ(pick(130, 45), 6);
     EXPECT_EQ(pixels_of(selector_).at(80, 15), RGB(255, 0, 0)); // the sample
     selector_.SetSelectedColor(5);
@@ -62,6 +67,10 @@ TEST_F(ColorSelTest, ItemsTakeThePickedColour) {
     selector_.GetDlgItem(list_id)->GetWindowRect(&list);
     selector_.ScreenToClient(&list);
     EXPECT_EQ(list, CRect(80, 0, 160, 90));
+
+    LOGFONT font = {};
+    ::GetObject(reinterpret_cast<HFONT>(selector_.GetDlgItem(list_id)->SendMessage(WM_GETFONT)), sizeof font, &font);
+    EXPECT_EQ(font.lfHeight, -11); // 8 points at 96 dots an inch, as a surface shows them
 
     full_repaint(selector_);
     selector_.GetDlgItem(list_id)->SendMessage(LB_SETCURSEL, 1); // "cherry" after sorting, but the second item

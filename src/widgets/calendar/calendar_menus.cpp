@@ -1,4 +1,5 @@
 #include "widgets/calendar/calendar_days.h"
+#include "widgets/calendar/calendar_commands.h"
 #include "widgets/calendar/calendar_layout.h"
 #include "widgets/painting/surface_buffer.h"
 #include "widgets/calendar/wnt_calendar.h"
@@ -6,9 +7,6 @@
 // Texts in code page 1252.
 namespace {
 
-constexpr UINT first_month_command = 101;
-constexpr UINT close_command = 113;
-constexpr UINT first_year_command = 200;
 constexpr int year_count = 10;
 constexpr int years_before = 3;
 
@@ -17,7 +15,7 @@ constexpr const char* month_names[12] = {"Januar", "Februar", "M\xE4rz",   "Apri
 
 void append_close(CMenu& menu) {
     menu.AppendMenu(MF_SEPARATOR);
-    menu.AppendMenu(MF_STRING, close_command,
+    menu.AppendMenu(MF_STRING, wnt::close_command,
                     "Menu schlie\xDF"
                     "en");
 }
@@ -28,25 +26,25 @@ void append_years(CMenu& menu, int year) {
     for (int i = 0; i < year_count; ++i) {
         CString text;
         text.Format("%d", year - years_before + i);
-        menu.AppendMenu(MF_STRING, first_year_command + i, text);
+        menu.AppendMenu(MF_STRING, wnt::first_year_command + i, text);
     }
     append_close(menu);
 }
 
 void append_months(CMenu& menu) {
     for (UINT i = 0; i < 12; ++i)
-        menu.AppendMenu(MF_STRING, first_month_command + i, month_names[i]);
+        menu.AppendMenu(MF_STRING, wnt::january_command + i, month_names[i]);
     append_close(menu);
 }
 
-// The commands are those that hosts know: the first jump is the December command, the second closes.
+// Intended: the first jump is the December command, the second closes, and the last entry shares the properties' one.
 void append_grid_entries(CMenu& menu) {
-    for (UINT command : {112u, 113u, 114u})
+    for (UINT command : {wnt::december_command, wnt::close_command, wnt::third_jump_command})
         menu.AppendMenu(MF_STRING, command, "Jump to current day");
     menu.AppendMenu(MF_SEPARATOR);
-    menu.AppendMenu(MF_STRING, 120, "Properties...");
+    menu.AppendMenu(MF_STRING, wnt::properties_command, "Properties...");
     menu.AppendMenu(MF_SEPARATOR);
-    menu.AppendMenu(MF_STRING, 120, "Close Menu");
+    menu.AppendMenu(MF_STRING, wnt::properties_command, "Close Menu");
 }
 
 } // namespace

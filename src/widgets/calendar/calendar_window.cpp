@@ -1,6 +1,7 @@
 #include <ctime>
 
 #include "widgets/calendar/calendar_days.h"
+#include "widgets/calendar/calendar_commands.h"
 #include "widgets/calendar/calendar_layout.h"
 #include "widgets/painting/surface_buffer.h"
 #include "widgets/painting/surface_owner.h"
@@ -9,8 +10,6 @@
 namespace {
 
 constexpr int surface_id = 100;
-constexpr UINT first_month_command = 101;
-constexpr UINT last_month_command = 112;
 
 } // namespace
 
@@ -158,10 +157,23 @@ void CWntCalendar::scroll(int weeks) {
     Invalidate();
 }
 
+CTime CWntCalendar::GetShownDate() const {
+    return CTime(shown_);
+}
+
+BOOL CWntCalendar::SetShownDate(const CTime& date) {
+    if (!m_hWnd || !wnt::local_date(date.GetTime()).year)
+        return FALSE;
+    end_drag();
+    shown_ = date.GetTime();
+    Invalidate();
+    return TRUE;
+}
+
 BOOL CWntCalendar::OnCommand(WPARAM wParam, LPARAM lParam) {
     const UINT command = LOWORD(wParam);
-    if (first_month_command <= command && command <= last_month_command) {
-        shown_ = wnt::moved_to_month(shown_, static_cast<int>(command - first_month_command) + 1);
+    if (wnt::january_command <= command && command <= wnt::december_command) {
+        shown_ = wnt::moved_to_month(shown_, static_cast<int>(command - wnt::january_command) + 1);
         Invalidate();
     }
     return CWnd::OnCommand(wParam, lParam);

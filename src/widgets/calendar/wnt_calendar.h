@@ -22,7 +22,7 @@ class SurfaceBuffer;
 /// A new calendar shows the week of today first. The strips above and below scroll by a week, dragging in the month
 /// column by as many weeks as rows. The right button opens menus, whose commands go to the calendar's own window:
 /// months (101 to 112) are jumped to; years (200 to 209), the grid's 113, 114 and 120 are for derived classes to
-/// follow. The grid's first "Jump to current day" is the December command.
+/// follow, which read and set the date shown. The grid's first "Jump to current day" is the December command.
 ///
 /// Dates are local times, from 1970 to 3000; the grid ends above the first week without a number, which east of UTC the
 /// weeks of 1970 are. Days are 86,400 seconds: where the first date shown is a midnight, daylight saving that ends
@@ -35,6 +35,12 @@ public:
 
     CWntCalendar(const CWntCalendar&) = delete;
     CWntCalendar& operator=(const CWntCalendar&) = delete;
+
+    /// The moment whose week is the first one shown; once the window exists.
+    CTime GetShownDate() const;
+    /// Shows the week of a moment first, and ends a drag. FALSE, and nothing changed, for one outside 1970 to 3000 and
+    /// before the window exists.
+    BOOL SetShownDate(const CTime& date);
 
     /// Paints the headline of the week that holds `first`. Of this painter and the others: rectangles have their edges
     /// inside and y growing upwards from the lower edge of the window, so that top is the larger value.

@@ -1,4 +1,5 @@
 #include "diag/wnt_trace.h"
+#include "out/point_font.h"
 #include "widgets/colour_selector/colour_grid.h"
 #include "widgets/painting/surface_buffer.h"
 #include "widgets/painting/surface_owner.h"
@@ -46,7 +47,7 @@ int CWntColorSel::OnCreate(LPCREATESTRUCT create) {
     no_items_ = 1;
     item_colours_ = nullptr;
     font_.DeleteObject();
-    font_.CreatePointFont(80, "MS Sans Serif");
+    font_.Attach(wnt::make_point_font(80, "MS Sans Serif"));
     const CRect nowhere(0, 0, 0, 0);
     if (!out_.Create(nullptr, "ColorSel.Out", WS_CHILD | WS_VISIBLE, nowhere, this, surface_id) ||
         !list_.Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | LBS_SORT | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT, nowhere, this,
@@ -68,7 +69,7 @@ void CWntColorSel::OnDestroy() {
 }
 
 void CWntColorSel::SetColorPalette(DWORD* colours, int count) {
-    if (!this || !colours || count == 0)
+    if (!this || !colours || count <= 0)
         return;
     out_.setcolorpalette(colours, count);
     if (m_hWnd)

@@ -32,7 +32,7 @@ public:
     CWntColorSel(const CWntColorSel&) = delete;
     CWntColorSel& operator=(const CWntColorSel&) = delete;
 
-    /// Ignored for null or a count of 0.
+    /// Ignored for null and for a count below 1.
     void SetColorPalette(DWORD* colours, int count);
     /// For a created selector. Names are added to those in the list; without one of the three: palette only. The
     /// selected item, the first one at first, stays selected: follow with SetSelectedColorID() of its colour, which the
