@@ -202,8 +202,9 @@ TEST_F(SplashTest, GoesWhenItsTimeIsUpWhileOthersStay) {
     late->DestroyWindow();
 }
 
-TEST(ErrorBox, ShowsItsThreeTextsOnTheWindowColour) {
-    CWntErrorBox box("Title & more", "The message", "Detail 1\r\nDetail 2");
+// What the box shows in its controls, an end after each.
+std::string shown_by(
+    CWntErrorBox&& box, const std::function<void(HWND)>& look = [](HWND) {}) {
     std::string texts;
     WhileModal modal([&] {
         if (!box.m_hWnd)
@@ -212,16 +213,32 @@ TEST(ErrorBox, ShowsItsThreeTextsOnTheWindowColour) {
             CString text;
             box.GetDlgItemText(id, text);
             texts += text + "|";
-            CClientDC dc(box.GetDlgItem(id));
-            box.SendMessage(WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc.m_hDC),
-                            reinterpret_cast<LPARAM>(::GetDlgItem(box, id)));
-            EXPECT_EQ(dc.GetBkColor() == ::GetSysColor(COLOR_WINDOW), id != IDOK) << id;
+            look(::GetDlgItem(box, id));
         }
         box.PostMessage(WM_COMMAND, IDOK);
         return true;
     });
     EXPECT_EQ(box.DoModal(), IDOK);
-    EXPECT_EQ(texts, "Title & more|The message|Detail 1\r\nDetail 2|OK|");
+    return texts;
+}
+
+TEST(ErrorBox, ShowsItsThreeTextsOnTheWindowColour) {
+    const auto on_ground = [](HWND control) {
+        CClientDC dc(CWnd::FromHandle(control));
+        ::SendMessage(::GetParent(control), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc.m_hDC),
+                      reinterpret_cast<LPARAM>(control));
+        EXPECT_EQ(dc.GetBkColor() == ::GetSysColor(COLOR_WINDOW), ::GetDlgCtrlID(control) != IDOK);
+    };
+    EXPECT_EQ(shown_by(CWntErrorBox("Title & more", "The message", "Detail 1\r\nDetail 2"), on_ground),
+              "Title & more|The message|Detail 1\r\nDetail 2|OK|");
+}
+
+TEST(ErrorBox, BreaksEndlessWords) {
+    const CString endless('x', 200'000); // kept the box from appearing for a minute
+    std::string shown = shown_by(CWntErrorBox(endless, "message", endless));
+    EXPECT_EQ(std::count(shown.begin(), shown.end(), 'x'), 400'000);
+    EXPECT_EQ(shown.find(std::string(1001, 'x')), std::string::npos);
+    EXPECT_NE(shown.find("|message|"), std::string::npos);
 }
 
 TEST(FileSel, OpensInTheMiddleOfItsParent) {
