@@ -26,7 +26,11 @@ struct ZoomControl;
 ///
 /// Pixels are those of the axis' client area. Horizontal axes grow to the right, vertical ones upwards. Conversions
 /// hold once the window has a size; where a division has no answer they give the origin. Null result pointers are
-/// refused with 0.
+/// refused with 0. The maximum of a horizontal axis lies at the pixel `width`, one right of the window.
+///
+/// Ticks and labels beyond the maximum are left out, and so is all but one for a pixel. Labels are centred on their
+/// ticks and clipped by the window: of the first one of a text or time axis, whose tick lies at the origin, half is cut
+/// off. A host that wants it whole begins the range a step earlier, or puts twice as many blanks as letters before it.
 ///
 /// Time values count hundredths of a second. Days count from 1 January 1980, which is day 1, in years of 365.25 days.
 ///
@@ -50,7 +54,8 @@ public:
     /// Number of grid steps across the axis, until SetRange() or the next size of a numeric axis computes it anew.
     void SetTicks(int count);
 
-    /// Range of a numeric axis; its grid is computed for the current position and size.
+    /// Range of a numeric axis; its grid is computed for the current position and size, and the zoom slider laid over
+    /// the whole axis again. Write 0.0f: with two integers the call is ambiguous.
     void SetRange(float minimum, float maximum);
     /// Range of a time axis; the type stays. The records that GetViewTime then copies hold the year less 1900.
     void SetRange(__int64 start, __int64 end);

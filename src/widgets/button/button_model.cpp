@@ -114,7 +114,8 @@ int ButtonInside::height() const {
 }
 
 ButtonInside button_inside(const Tcbtn_properties& p, const ButtonBox& box) {
-    // A border beyond any that the button could show changes no pixel, but must not wrap around.
+    // Blocks hold any height. What goes beyond the button's size either way leaves nothing to be seen, but must not
+    // wrap.
     const int most = std::max({box.width, box.height, highest_border});
     const int inset = std::clamp(p.borderheight, -most, most) + (p.frame ? 2 : 1);
     return {add(box.x, inset), add(box.y, inset), subtract(box.x + box.width - 1, inset),

@@ -22,7 +22,8 @@ struct ButtonBox;
 ///     button.load("", 2);
 ///
 /// It sends no notification: a host watches the border type of getproperties() (2 raised, 3 sunk) or handles the
-/// mouse messages in a class derived from it. A press that is released outside leaves it sunk.
+/// mouse messages in a class derived from it. A press that is released outside leaves it sunk. Its window never has
+/// WS_CLIPCHILDREN: with the surface clipped away it would not learn what of it was uncovered.
 class ZOPWNT_API CWntButton : public CWnd {
 public:
     CWntButton();
