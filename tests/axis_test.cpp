@@ -183,6 +183,62 @@ TEST_F(AxisTest, DraggingTheZoomPaintsAllThatChanges) {
     }
 }
 
+TEST_F(AxisTest, PointerTellsWhatADragWouldDo) {
+    const auto pointer = [](const char* name) { return ::LoadCursorA(::GetModuleHandleA("ZOPWNT.dll"), name); };
+    for (const bool across : {true, false}) {
+        axis_.SetFlags(across ? 2 : 3, 100, 0);
+        size(300, 300);
+        axis_.SetRange(0.0f, 100.0f);
+        axis_.SendMessage(WM_COMMAND, 100);
+        for (const int at : {3, 150, 297}) {
+            across ? mouse(WM_MOUSEMOVE, at, 295) : mouse(WM_MOUSEMOVE, 295, at);
+            const char* moves = across ? "IDC_AXIS_X_MOVE" : "IDC_AXIS_Y_MOVE";
+            const char* enlarges = across ? "IDC_AXIS_X_ENLARGE" : "IDC_AXIS_Y_ENLARGE";
+            EXPECT_EQ(::GetCursor(), pointer(at == 150 ? moves : enlarges)) << across << at;
+        }
+        full_repaint(axis_);
+        const Pixels shown = pixels_of(axis_); // the slider is raised
+        EXPECT_EQ(across ? shown.at(150, 291) : shown.at(292, 150), ::GetSysColor(COLOR_BTNHIGHLIGHT));
+        axis_.SendMessage(WM_COMMAND, 100);
+    }
+}
+
+TEST_F(AxisTest, MarksAcrossTheAxisAreEngraved) {
+    class Marked : public CWntAxis {
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+            if (message != WM_PAINT)
+                return CWntAxis::WindowProc(message, wParam, lParam);
+            CPaintDC dc(this);
+            CRect client;
+            GetClientRect(&client);
+            dc.FillSolidRect(&client, poison);
+            client.Width() > client.Height() ? horizontal_time_scale(&dc, 50) : vertical_time_scale(&dc, 50);
+            return 0;
+        }
+    } axis;
+    open(axis, 100, 30);
+    const struct {
+        int position;
+        CRect dark; // without its last row and column
+    } marks[] = {{2, {51, 1, 52, 6}}, {0, {51, 25, 52, 30}}, {1, {18, 50, 30, 51}}, {3, {1, 50, 13, 51}}};
+    for (const auto& mark : marks) {
+        const bool across = mark.position % 2 == 0;
+        axis.SetAxisPosition(mark.position);
+        axis.MoveWindow(0, 0, across ? 100 : 30, across ? 30 : 100);
+        full_repaint(axis);
+        const Pixels shown = pixels_of(axis);
+        for (int y = 0; y < shown.height; ++y)
+            for (int x = 0; x < shown.width; ++x) {
+                const bool dark = ::PtInRect(&mark.dark, {x, y});
+                const bool light = ::PtInRect(&mark.dark, {x - across, y - !across});
+                EXPECT_EQ(shown.at(x, y), dark    ? ::GetSysColor(COLOR_BTNSHADOW)
+                                          : light ? ::GetSysColor(COLOR_BTNHIGHLIGHT)
+                                                  : poison)
+                    << mark.position << ": " << x << ',' << y;
+            }
+    }
+}
+
 TEST_F(AxisTest, LosingTheMouseEndsTheDrag) {
     size(300, 60);
     axis_.SetRange(0.0f, 100.0f);

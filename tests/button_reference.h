@@ -21,6 +21,20 @@ public:
             title();
     }
 
+    /// What a press or a release makes of it: the border anew, the inside moved by two pixels.
+    void move(bool pressed) {
+        p_.bordertype = pressed ? 3 : 2;
+        border();
+        const int left = inset(), w = inner_width(), h = top() - bottom();
+        if (pressed) {
+            scroll(left, bottom() + 2, w - 2, h, 2, -2);
+            fill(left, top() - 2, w, 2, p_.clrback), fill(left, bottom(), 2, h, p_.clrback);
+        } else {
+            scroll(left + 2, bottom(), w - 2, h - 2, -2, 2);
+            fill(left, bottom(), w, 2, p_.clrback), fill(left + w - 2, bottom(), 2, h, p_.clrback);
+        }
+    }
+
     std::vector<COLORREF> pixels() const { return picture_.values(); }
 
 private:
@@ -40,6 +54,10 @@ private:
         const HBRUSH brush = ::CreateSolidBrush(colour(index));
         ::FillRect(picture_.dc(), &device, brush);
         ::DeleteObject(brush);
+    }
+    void scroll(int x, int y, int w, int h, int dx, int dy) {
+        const int from = height_ - y - h;
+        ::BitBlt(picture_.dc(), x + dx, from - dy, w, h, picture_.dc(), x, from, SRCCOPY);
     }
     void row(int from, int to, int y, int index) { fill(std::min(from, to), y, std::abs(to - from), 0, index); }
     void column(int x, int from, int to, int index) { fill(x, std::min(from, to), 0, std::abs(to - from), index); }

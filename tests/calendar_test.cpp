@@ -17,16 +17,18 @@ public:
     std::vector<std::pair<UINT, std::string>> entries;
     int steps = 0;
     bool chosen = false;
+    CRect menu; // where the last one opened
 
 private:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-        const HMENU menu = message == WM_INITMENUPOPUP ? reinterpret_cast<HMENU>(wParam) : nullptr;
-        for (int i = 0; i < ::GetMenuItemCount(menu); ++i) {
+        const HMENU opened = message == WM_INITMENUPOPUP ? reinterpret_cast<HMENU>(wParam) : nullptr;
+        for (int i = 0; i < ::GetMenuItemCount(opened); ++i) {
             char text[80] = {};
-            ::GetMenuStringA(menu, i, text, sizeof text, MF_BYPOSITION);
-            entries.emplace_back(::GetMenuItemID(menu, i), text);
+            ::GetMenuStringA(opened, i, text, sizeof text, MF_BYPOSITION);
+            entries.emplace_back(::GetMenuItemID(opened, i), text);
         }
         if (message == WM_ENTERIDLE && !std::exchange(chosen, true)) {
+            ::GetWindowRect(::FindWindowA("#32768", nullptr), &menu);
             for (int i = 0; i < steps; ++i)
                 PostMessage(WM_KEYDOWN, VK_DOWN);
             PostMessage(WM_KEYDOWN, steps ? VK_RETURN : VK_ESCAPE);
@@ -75,9 +77,20 @@ TEST_F(CalendarTest, ShowsTheWeeksFromToday) {
     const Pixels pixels = pixels_of(calendar_);
     const bool sunday = std::chrono::weekday(today_) == std::chrono::Sunday;
     EXPECT_EQ(pixels.count(CalendarReference::today_fill) > 500, !sunday);
-    const auto ink = [](auto row) { return std::count(row, row + 17 * width, ::GetSysColor(COLOR_BTNTEXT)); };
-    EXPECT_GT(ink(pixels.values.begin()), 20); // the arrows
-    EXPECT_GT(ink(pixels.values.end() - 17 * width), 20);
+
+    const COLORREF light = ::GetSysColor(COLOR_3DHIGHLIGHT), dark = ::GetSysColor(COLOR_3DDKSHADOW);
+    for (const int top : {0, height - 17}) { // the strips: raised, their arrows pointing away
+        EXPECT_TRUE(pixels.at(0, top + 8) == light && pixels.at(90, top) == light) << top;
+        EXPECT_TRUE(pixels.at(width - 1, top + 8) == dark && pixels.at(90, top + 16) == dark) << top;
+        std::vector<long> ink;
+        for (int y = top + 1; y < top + 16; ++y) {
+            const auto row = pixels.values.begin() + y * width;
+            if (const auto count = std::count(row + 1, row + width - 1, ::GetSysColor(COLOR_BTNTEXT)))
+                ink.push_back(static_cast<long>(count));
+        }
+        ASSERT_GT(ink.size(), 4u);
+        EXPECT_TRUE(top ? std::ranges::is_sorted(ink, std::greater()) : std::ranges::is_sorted(ink)) << top;
+    }
 }
 
 TEST_F(CalendarTest, ScrollsByWeeks) {
@@ -160,6 +173,9 @@ TEST_F(CalendarTest, MenusOfTheRegions) {
                                                        "en")));
 
     open_menu(150, 100, 0);
+    CPoint clicked(150, 100);
+    calendar_.ClientToScreen(&clicked);
+    EXPECT_EQ(CPoint(calendar_.menu.left, calendar_.menu.top), clicked);
     std::vector<UINT> commands;
     for (const auto& entry : entries)
         commands.push_back(entry.second.empty() ? 0 : entry.first);

@@ -117,8 +117,8 @@ TEST_F(ColorSelTest, EveryPixelFollowsItsSettings) {
     char name[] = "item";
     char* names[] = {name};
     int item = 0;
-    for (int mode = 0; mode < 16; ++mode) {
-        const bool edged = mode & 1, hover = mode & 2, sliders = mode & 4, items = mode & 8;
+    for (int mode = 0; mode < 32; ++mode) {
+        const bool edged = mode & 1, hover = mode & 2, sliders = mode & 4, items = mode & 8, in_strip = mode & 16;
         selector_.Set3DCells(edged);
         selector_.SetHoverSample(hover);
         selector_.ShowSliders(sliders);
@@ -128,7 +128,7 @@ TEST_F(ColorSelTest, EveryPixelFollowsItsSettings) {
         const int left = sliders ? 60 : 0;
         const CSize surface(items ? (whole.cx - left) / 2 : whole.cx - left, whole.cy);
         const CSize panel(items ? whole.cx / 2 : whole.cx, whole.cy);
-        point_at(panel.cx / 8 * 3 + 5, panel.cy / 6 * 2 + 5); // the fourth of the second row
+        point_at(panel.cx / 8 * 3 + 5, in_strip ? 3 : panel.cy / 6 * 2 + 5); // the fourth of the second row
         selector_.SetSelectedColorID(17);
         full_repaint(selector_);
         CWnd* shown = selector_.GetDlgItem(surface_id);
@@ -137,7 +137,7 @@ TEST_F(ColorSelTest, EveryPixelFollowsItsSettings) {
         selector_.ScreenToClient(&place);
         EXPECT_EQ(place, CRect(CPoint(left, 0), surface)) << mode;
         SelectorReference expected(surface, panel, colours, edged);
-        if (hover)
+        if (hover && !in_strip)
             expected.hovered(8 + 3);
         expected.selected(17, hover);
         EXPECT_EQ(pixels_of(*shown).values, expected.pixels()) << mode;
@@ -164,7 +164,20 @@ TEST_F(ColorSelTest, ItemsTakeThePickedColour) {
     EXPECT_EQ(font.lfHeight, -11); // 8 points at 96 dots an inch, as a surface shows them
 
     full_repaint(selector_);
-    selector_.GetDlgItem(list_id)->SendMessage(LB_SETCURSEL, 1); // "cherry" after sorting, but the second item
+    CWnd& names_list = *selector_.GetDlgItem(list_id);
+    char first[20] = "";
+    names_list.SendMessage(LB_GETTEXT, 0, reinterpret_cast<LPARAM>(first));
+    EXPECT_STREQ(first, "apple");
+    names_list.SendMessage(LB_SETCURSEL, 1); // "cherry" after sorting, but the second item
+    selector_.SendMessage(WM_COMMAND, MAKEWPARAM(list_id, LBN_DBLCLK), 0);
+    full_repaint(selector_);
+    EXPECT_EQ(colours[1], 0); // it is the selected one that the paint wrote into
+    colours[1] = 4;
+    names_list.SendMessage(LB_SETCURSEL, 0);
+    selector_.SendMessage(WM_COMMAND, MAKEWPARAM(list_id, LBN_SELCHANGE), 0);
+    full_repaint(selector_);
+    EXPECT_EQ(colours[1], 4);
+    names_list.SendMessage(LB_SETCURSEL, 1);
     selector_.SendMessage(WM_COMMAND, MAKEWPARAM(list_id, LBN_SELCHANGE), 0);
     EXPECT_EQ(selector_.GetSelectedColorID(), 0); // unchanged by the list
     EXPECT_EQ(pick(25, 45), 2);

@@ -227,6 +227,7 @@ TEST(ErrorBox, ShowsItsThreeTextsOnTheWindowColour) {
         CClientDC dc(CWnd::FromHandle(control));
         ::SendMessage(::GetParent(control), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc.m_hDC),
                       reinterpret_cast<LPARAM>(control));
+        EXPECT_EQ(::GetTextColor(dc.m_hDC), ::GetSysColor(COLOR_WINDOWTEXT));
         EXPECT_EQ(dc.GetBkColor() == ::GetSysColor(COLOR_WINDOW), ::GetDlgCtrlID(control) != IDOK);
     };
     EXPECT_EQ(shown_by(CWntErrorBox("Title & more", "The message", "Detail 1\r\nDetail 2"), on_ground),

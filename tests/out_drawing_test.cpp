@@ -175,6 +175,23 @@ TEST_F(SurfaceTest, RoundFiguresKeepTheirBounds) {
     }
 }
 
+TEST_F(SurfaceTest, FilledCirclesHaveAnOutlineOfOnePixel) {
+    EXPECT_EQ(drawn(8, 7,
+                    [](CWntOut& o) {
+                        o.fillcolour(COLORREF{OPAQUE}, 0); // taken for the mix mode
+                        o.fillcolour(green, 0);
+                        o.fillcircle(3, 3, 3, 3);
+                        EXPECT_EQ(::GetBkMode(o.dc), TRANSPARENT);
+                    }),
+              "..LLL...\n.LFFFL..\nLFFFFFL.\nLFFFFFL.\n.LFFFL..\n..LLL...\n........\n");
+    Picture picture(9, 9);
+    paint(picture, [](CWntOut& o) {
+        o.fillcolour(COLORREF{OPAQUE}, 0);
+        o.fillcircle(3, 3, 3, 3);
+        EXPECT_EQ(::GetBkMode(o.dc), TRANSPARENT); // as it was before
+    });
+}
+
 TEST_F(SurfaceTest, PiesRunCounterClockwise) {
     const auto slice = [this](int from, int to) {
         Picture picture(80, 80);

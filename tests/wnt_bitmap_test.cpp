@@ -349,7 +349,9 @@ TEST(BitmapPalette, DrawsItsCells) {
     palette.Draw(nullptr, rect, TRUE);
     EXPECT_EQ(picture.ink(ground).right, -1);
     HGDIOBJ host_pen = ::SelectObject(picture.dc(), ::GetStockObject(WHITE_PEN));
+    const HGDIOBJ host_palette = ::GetCurrentObject(picture.dc(), OBJ_PAL);
     palette.Draw(CDC::FromHandle(picture.dc()), rect, TRUE);
+    EXPECT_EQ(::GetCurrentObject(picture.dc(), OBJ_PAL), host_palette);
     EXPECT_EQ(::SelectObject(picture.dc(), host_pen), ::GetStockObject(WHITE_PEN));
     for (int i = 0; i < 256; ++i) {
         const int x = 4 + i % 16 * 10;
@@ -375,6 +377,30 @@ TEST(BitmapPaletteScreen, GoesIntoTheSystemPalette) {
         EXPECT_TRUE(colour_of(own[i]) == expected && own[i].peFlags == (i < 10 ? 0 : PC_NOCOLLAPSE)) << i;
     }
     ::ReleaseDC(nullptr, screen);
+}
+
+// A file is read beside other readers, and not written to meanwhile.
+TEST(BitmapPaths, AreOpenedForReadingAlone) {
+    class Watched : public CWntBitmap {
+    public:
+        BOOL Load(CFile* file) override {
+            CFile other;
+            readable = other.Open(name, CFile::modeRead | CFile::shareDenyNone);
+            writable = CFile().Open(name, CFile::modeWrite | CFile::shareDenyNone);
+            return CWntBitmap::Load(file);
+        }
+        using CWntBitmap::Load;
+        CString name;
+        BOOL readable = FALSE, writable = TRUE;
+    } bitmap;
+    const TemporaryFile disk(BitmapFile{8, 5, 2}.bytes());
+    bitmap.name = disk.name();
+    ::SetFileAttributesA(disk.name(), FILE_ATTRIBUTE_READONLY);
+    EXPECT_TRUE(bitmap.Load(static_cast<LPCTSTR>(disk.name())));
+    ::SetFileAttributesA(disk.name(), FILE_ATTRIBUTE_NORMAL);
+    bitmap.writable = TRUE;
+    EXPECT_TRUE(bitmap.Load(static_cast<LPCTSTR>(disk.name())));
+    EXPECT_TRUE(bitmap.readable && !bitmap.writable);
 }
 
 // Without a path the user is asked, and cancels.
