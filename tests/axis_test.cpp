@@ -293,6 +293,7 @@ TEST_F(AxisTest, PropertiesShowAndChangeNothing) {
         return true;
     });
     axis_.SendMessage(WM_COMMAND, 101);
+    EXPECT_TRUE(::GetUpdateRect(axis_.m_hWnd, nullptr, FALSE)); // shown anew
     EXPECT_EQ(shown, "   0.00 100.00   0.00");
     EXPECT_EQ(axis_.GetGridCount(), 100);
     EXPECT_EQ(CWntAxisProperties(&host_).SetAxis(nullptr), 0);

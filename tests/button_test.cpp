@@ -74,7 +74,7 @@ TEST_F(ButtonTest, ShowsEveryProperty) {
 
 TEST_F(ButtonTest, PressMovesThePictureAndReleaseBringsItBack) {
     open(button_, 120, 40);
-    script({":TITLESTYLE=PLAIN", ":TITLE=o", ":ALIGN=CENTERCENTER", ":FRAME=X"});
+    script({":TITLESTYLE=PLAIN", ":TITLE=reaches from edge to edge", ":ALIGN=CENTERCENTER", ":FRAME=X"});
     ButtonReference expected(120, 40, properties());
     const auto expect_shown = [&](const char* when) {
         EXPECT_EQ(pixels_of(button_).values, expected.pixels()) << when;

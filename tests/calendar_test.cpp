@@ -151,6 +151,7 @@ TEST_F(CalendarTest, DragsInTheMonthColumn) {
 }
 
 TEST_F(CalendarTest, MenusOfTheRegions) {
+    host_.MoveWindow(37, 23, 400, 300);
     const auto& entries = calendar_.entries;
     const auto open_menu = [&](int x, int y, int steps) {
         calendar_.entries.clear();

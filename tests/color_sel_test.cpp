@@ -1,3 +1,4 @@
+#include "temporary_file.h"
 #include "widget_window.h"
 
 #include <climits>
@@ -191,6 +192,21 @@ TEST_F(ColorSelTest, ItemsTakeThePickedColour) {
     full_repaint(selector_);
     pick(50, 45);
     EXPECT_EQ(colours[1], 1); // the host has its array back
+}
+
+TEST_F(ColorSelTest, EveryPaintIsTraced) {
+    class Tracer : public CWntTrace {
+    public:
+        using CWntTrace::setstream;
+    } trace;
+    const TemporaryFile file;
+    trace.setstream(std::fopen(file.name(), "wt"));
+    trace.SetFlags(1);
+    full_repaint(selector_);
+    trace.setstream(nullptr);
+    trace.SetFlags(0);
+    const auto bytes = file.bytes();
+    EXPECT_EQ(std::string(bytes.begin(), bytes.end()), "WntColorSel::OnPaint()");
 }
 
 TEST_F(ColorSelTest, SlidersFollowTheMouse) {

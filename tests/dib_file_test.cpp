@@ -62,6 +62,7 @@ TEST(Bitmaps, ShowAndSaveEveryKindOfFile) {
             EXPECT_TRUE(dib.Draw(picture.dc(), 0, 0, 0, 0) == plain && dib.GetLastError() == !plain);
             const int drawn = dib.DrawRealized(large.dc(), 0, 0, 2 * file.width, 3 * height);
             EXPECT_TRUE(drawn == plain && dib.GetLastError() == !plain);
+            EXPECT_EQ(::GetCurrentObject(large.dc(), OBJ_PAL), ::GetStockObject(DEFAULT_PALETTE)); // again
             check_pictures();
         }
         const std::size_t unpadded = static_cast<std::size_t>(file.bits * file.width * height / 8);
