@@ -102,6 +102,12 @@ public:
 
     CRecentFileList* m_pRecentFileList = nullptr;
 
+    // For the maps of programs, which name them by this class.
+    afx_msg void OnAppExit();
+    afx_msg void OnFileNew();
+    afx_msg void OnFileOpen();
+    afx_msg void OnFilePrintSetup();
+
 protected:
     void SetRegistryKey(LPCTSTR lpszRegistryKey);
     void SetRegistryKey(UINT nIDRegistryKey);
@@ -112,10 +118,6 @@ protected:
     void RegisterShellFileTypes(BOOL bCompat = FALSE);
     void UnregisterShellFileTypes();
 
-    afx_msg void OnAppExit();
-    afx_msg void OnFileNew();
-    afx_msg void OnFileOpen();
-    afx_msg void OnFilePrintSetup();
     afx_msg void OnUpdateRecentFileMenu(CCmdUI* pCmdUI);
     afx_msg BOOL OnOpenRecentFile(UINT nID);
 

@@ -51,6 +51,10 @@ public:
     void CalcWindowRect(LPRECT lpClientRect, UINT nAdjustType = adjustBorder) override;
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
 
+    // For the maps of programs, which name them by this class.
+    afx_msg void OnFilePrint();
+    afx_msg void OnFilePrintPreview();
+
 protected:
     CView();
     ~CView() override;
@@ -72,7 +76,6 @@ protected:
     afx_msg int OnMouseActivate(CWnd* pDesktopWnd, UINT nHitTest, UINT message);
     afx_msg LRESULT OnPrintClient(CDC* pDC, UINT nFlags);
     afx_msg LRESULT HandleInitialUpdate(WPARAM wParam, LPARAM lParam);
-    afx_msg void OnFilePrint();
     afx_msg BOOL OnSplitCmd(UINT nID);
     afx_msg void OnUpdateSplitCmd(CCmdUI* pCmdUI);
     afx_msg BOOL OnNextPaneCmd(UINT nID);

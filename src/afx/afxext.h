@@ -5,6 +5,8 @@
 
 #include "afxwin.h"
 #include "afx_dialog_bar.h"
+#include "afx_form_view.h"
+#include "afx_edit_view.h"
 #include "afx_splitter.h"
 #include "afx_status_bar.h"
 #include "afx_tool_bar.h"

@@ -147,3 +147,8 @@ void CView::OnFilePrint() {
     if (!printed)
         AfxMessageBox(AFX_IDP_FAILED_TO_START_PRINT);
 }
+
+// Maps name it as a matter of course. There is no preview: the user is told.
+void CView::OnFilePrintPreview() {
+    AfxThrowNotSupportedException();
+}
