@@ -32,8 +32,6 @@ BOOL CControlBar::PreCreateWindow(CREATESTRUCT& cs) {
     if (!CWnd::PreCreateWindow(cs))
         return FALSE;
     cs.style |= WS_CLIPSIBLINGS;
-    m_dwStyle |= static_cast<DWORD>(cs.style) & CBRS_ALL;
-    cs.style &= ~static_cast<LONG>(CBRS_ALL);
     return TRUE;
 }
 

@@ -17,10 +17,11 @@ CSize size_of(CControlBar& bar, bool horizontal) {
 
 BOOL CDockBar::Create(CFrameWnd* frame, DWORD style, UINT id) {
     m_bAutoDelete = TRUE;
+    m_dwStyle = style;
     SetBorders();
     const LPCTSTR name =
         AfxRegisterWndClass(0, ::LoadCursor(nullptr, IDC_ARROW), reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1));
-    return CWnd::Create(name, nullptr, style | WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, CRect(0, 0, 0, 0), frame, id);
+    return CWnd::Create(name, nullptr, WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, CRect(0, 0, 0, 0), frame, id);
 }
 
 BOOL CDockBar::PreCreateWindow(CREATESTRUCT& cs) {

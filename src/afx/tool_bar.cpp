@@ -72,21 +72,49 @@ void CToolBar::SetHeight(int cyHeight) {
     Invalidate();
 }
 
-BOOL CToolBar::LoadToolBar(LPCTSTR lpszResourceName) {
+namespace {
+
+struct bar_resource {
+    CSize image;
+    std::vector<UINT> commands;
+};
+
+// Numbers of one width: the image's size, how many items there are, and these.
+template <class Number> bool read_items(const BYTE* bytes, std::size_t size, bar_resource& bar) {
+    std::vector<Number> numbers(size / sizeof(Number));
+    std::memcpy(numbers.data(), bytes, numbers.size() * sizeof(Number));
+    if (numbers.size() < 3 || numbers[0] > 1024 || numbers[1] > 1024 || numbers[2] > numbers.size() - 3)
+        return false;
+    bar.image = CSize(static_cast<int>(numbers[0]), static_cast<int>(numbers[1]));
+    bar.commands.assign(numbers.begin() + 3, numbers.begin() + 3 + numbers[2]);
+    return true;
+}
+
+// A version and 16-bit numbers, or, as this toolchain's resource compiler writes them, 32-bit numbers alone.
+bool read_bar(LPCTSTR name, bar_resource& bar) {
     constexpr WORD type = 241, version = 1;
-    const HINSTANCE module = AfxFindResourceHandle(lpszResourceName, MAKEINTRESOURCE(type));
-    const HRSRC found = ::FindResource(module, lpszResourceName, MAKEINTRESOURCE(type));
+    const HINSTANCE module = AfxFindResourceHandle(name, MAKEINTRESOURCE(type));
+    const HRSRC found = ::FindResource(module, name, MAKEINTRESOURCE(type));
     const HGLOBAL loaded = found != nullptr ? ::LoadResource(module, found) : nullptr;
-    if (loaded == nullptr)
+    const auto* bytes = loaded != nullptr ? static_cast<const BYTE*>(::LockResource(loaded)) : nullptr;
+    const std::size_t size = bytes != nullptr ? ::SizeofResource(module, found) : 0;
+    WORD head[2];
+    if (size < sizeof(head))
+        return false;
+    std::memcpy(head, bytes, sizeof(head));
+    if (head[1] == 0)
+        return read_items<DWORD>(bytes, size, bar);
+    return head[0] == version && read_items<WORD>(bytes + 2, size - 2, bar);
+}
+
+} // namespace
+
+BOOL CToolBar::LoadToolBar(LPCTSTR lpszResourceName) {
+    bar_resource bar;
+    if (!read_bar(lpszResourceName, bar))
         return FALSE;
-    const auto* words = static_cast<const WORD*>(::LockResource(loaded));
-    const std::size_t count = ::SizeofResource(module, found) / sizeof(WORD);
-    if (count < 4 || words[0] != version || words[3] > count - 4)
-        return FALSE;
-    const std::vector<UINT> commands(words + 4, words + 4 + words[3]);
-    const CSize image(words[1], words[2]);
-    SetSizes(CSize(image.cx + 7, image.cy + 7), image);
-    return SetButtons(commands.data(), static_cast<int>(commands.size())) && LoadBitmap(lpszResourceName);
+    SetSizes(CSize(bar.image.cx + 7, bar.image.cy + 7), bar.image);
+    return SetButtons(bar.commands.data(), static_cast<int>(bar.commands.size())) && LoadBitmap(lpszResourceName);
 }
 
 BOOL CToolBar::LoadBitmap(LPCTSTR lpszResourceName) {
@@ -109,7 +137,7 @@ BOOL CToolBar::AddReplaceBitmap(HBITMAP hbmImageWell) {
     bool shown = false;
     if (m_images == nullptr) {
         TBADDBITMAP add{nullptr, reinterpret_cast<UINT_PTR>(hbmImageWell)};
-        shown = SendMessage(TB_ADDBITMAP, static_cast<WPARAM>(images), reinterpret_cast<LPARAM>(&add)) == 0;
+        shown = SendMessage(TB_ADDBITMAP, static_cast<WPARAM>(images), reinterpret_cast<LPARAM>(&add)) != -1;
     } else {
         TBREPLACEBITMAP replace{nullptr, reinterpret_cast<UINT_PTR>(m_images), nullptr,
                                 reinterpret_cast<UINT_PTR>(hbmImageWell), images};
