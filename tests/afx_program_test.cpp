@@ -7,6 +7,10 @@
 
 test_app the_app;
 
+BEGIN_MESSAGE_MAP(test_app, CWinApp)
+ON_COMMAND(ID_FILE_NEW, CWinApp::OnFileNew)
+END_MESSAGE_MAP()
+
 namespace {
 
 class framework : public testing::Environment {

@@ -16,11 +16,22 @@ public:
         if (box_fails)
             AfxThrowMemoryException();
         boxes.push_back(text);
-        return IDOK;
+        return answer;
     }
+    // The registry's key, or null for a file.
+    void use_settings(const char* key) {
+        if (key != nullptr)
+            SetRegistryKey(key);
+        else
+            std::free(const_cast<char*>(std::exchange(m_pszRegistryKey, nullptr)));
+    }
+    DECLARE_MESSAGE_MAP()
+
+public:
     std::vector<std::string> take_boxes() { return std::exchange(boxes, {}); }
 
     std::vector<std::string> boxes;
+    int answer = IDOK;
     bool box_fails = false;
 };
 

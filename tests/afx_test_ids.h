@@ -2,5 +2,14 @@
 
 #define IDD_TEST 130
 #define IDS_FORMAT 131
-#define IDD_PAGE 132
-#define IDC_MARK 133
+#define IDD_PAGE 142
+#define IDC_MARK 143
+#define IDR_FRAME 132
+#define IDD_FORM 133
+#define IDC_FORM_NAME 1001
+#define IDC_FORM_BUTTON 32801
+#define ID_TEST_ON 32801
+#define ID_TEST_OFF 32802
+#define ID_TEST_CHECKED 32803
+#define ID_TEST_NOBODY 32804
+#define ID_TEST_PANE 32805

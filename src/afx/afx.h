@@ -1,8 +1,11 @@
 // The framework without windows: objects, strings, exceptions, files, times.
 #pragma once
+#ifndef __AFX_H__
+#define __AFX_H__
 
 #include "afx_base.h"
 #include "afx_object.h"
+#include "afx_debug.h"
 #include "afx_dump.h"
 #include "afxstr.h"
 #include "atltypes.h"
@@ -12,3 +15,5 @@
 #include "afx_file.h"
 #include "afx_archive.h"
 #include "atltime.h"
+
+#endif

@@ -17,6 +17,9 @@ public:
     CFile* GetFile() const { return m_pFile; }
     // Whatever was stored is in the file afterwards.
     void Flush();
+    void Close() { Flush(); }
+
+    class CDocument* m_pDocument = nullptr; // where the file is a document's
 
 private:
     CFile* m_pFile;

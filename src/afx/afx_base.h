@@ -7,6 +7,7 @@
 #ifndef STRICT
 #define STRICT
 #endif
+#define _MFC_VER 0x0E00
 
 #include <windows.h>
 #include <commctrl.h>
@@ -18,6 +19,13 @@
 #include <cstdarg>
 #include <cstddef>
 #include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <ctime>
+
+// The platform's macros of these names would take members for them.
+#undef GetNextWindow
 
 #ifdef ZOPAFX_BUILD
 #define ZOPAFX_API __declspec(dllexport)
@@ -33,3 +41,22 @@
 #else
 #define AFX_PRINTF(text, first) __attribute__((format(gnu_printf, text, first)))
 #endif
+
+// Words of older sources that have no meaning on this platform.
+#define BASED_CODE
+#define AFX_DATA
+#define AFX_DATADEF
+#define AFX_EXT_DATA
+#define AFX_EXT_DATADEF
+#define AFX_STATIC static
+
+#ifdef _AFXEXT
+#define AFX_EXT_CLASS __declspec(dllexport)
+#else
+#define AFX_EXT_CLASS __declspec(dllimport)
+#endif
+#define AFX_EXT_API AFX_EXT_CLASS
+
+// A place in a list; null behind the last.
+struct __POSITION;
+typedef __POSITION* POSITION;

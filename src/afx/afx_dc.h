@@ -22,9 +22,7 @@ public:
     BOOL Attach(HDC hDC); // FALSE where the object holds a handle already
     HDC Detach();
     static CDC* PASCAL FromHandle(HDC hDC);
-    BOOL CreateCompatibleDC(CDC* pDC) {
-        return m_hDC == nullptr && Attach(::CreateCompatibleDC(pDC->GetSafeHdc()));
-    }
+    BOOL CreateCompatibleDC(CDC* pDC) { return m_hDC == nullptr && Attach(::CreateCompatibleDC(pDC->GetSafeHdc())); }
     BOOL DeleteDC();
 
     int GetDeviceCaps(int nIndex) const { return ::GetDeviceCaps(m_hAttribDC, nIndex); }

@@ -1,7 +1,7 @@
 // Exceptions: thrown and caught by pointer, deleted by whoever catches them.
 #pragma once
 
-#include "afx_object.h"
+#include "afx_debug.h"
 #include "afxstr.h"
 
 class ZOPAFX_API CException : public CObject {
@@ -42,6 +42,7 @@ private:
 AFX_DECLARE_SIMPLE_EXCEPTION(CMemoryException)
 AFX_DECLARE_SIMPLE_EXCEPTION(CResourceException)
 AFX_DECLARE_SIMPLE_EXCEPTION(CInvalidArgException)
+AFX_DECLARE_SIMPLE_EXCEPTION(CNotSupportedException)
 // Raised to stop what the user has already been told about; reported by nobody.
 AFX_DECLARE_SIMPLE_EXCEPTION(CUserException)
 
@@ -91,7 +92,55 @@ public:
 
 [[noreturn]] ZOPAFX_API void AFXAPI AfxThrowMemoryException();
 [[noreturn]] ZOPAFX_API void AFXAPI AfxThrowResourceException();
-[[noreturn]] ZOPAFX_API void AFXAPI AfxThrowInvalidArgException();
+[[noreturn]] ZOPAFX_API void AFXAPI AfxThrowNotSupportedException();
+[[noreturn]] ZOPAFX_API void AFXAPI AfxThrowUserException();
 [[noreturn]] ZOPAFX_API void AFXAPI AfxThrowOleException(SCODE sc);
 [[noreturn]] ZOPAFX_API void AFXAPI AfxThrowFileException(int cause, LONG lOsError = -1,
                                                           LPCTSTR lpszFileName = nullptr);
+
+// What operator new asks where memory is short; by itself it raises CMemoryException.
+#ifndef _PNH_DEFINED
+#define _PNH_DEFINED
+typedef int(AFX_CDECL* _PNH)(std::size_t);
+#endif
+ZOPAFX_API _PNH AFXAPI AfxGetNewHandler();
+ZOPAFX_API _PNH AFXAPI AfxSetNewHandler(_PNH pfnNewHandler);
+
+// The older way to write try and catch: the block deletes the exception that it caught, unless THROW_LAST passes it on.
+class AFX_EXCEPTION_LINK {
+public:
+    AFX_EXCEPTION_LINK() = default;
+    ~AFX_EXCEPTION_LINK() {
+        if (m_pException != nullptr)
+            m_pException->Delete();
+    }
+    AFX_EXCEPTION_LINK(const AFX_EXCEPTION_LINK&) = delete;
+    AFX_EXCEPTION_LINK& operator=(const AFX_EXCEPTION_LINK&) = delete;
+
+    CException* m_pException = nullptr;
+};
+
+#define TRY                                                                                                            \
+    {                                                                                                                  \
+        AFX_EXCEPTION_LINK _afxExceptionLink;                                                                          \
+        try {
+#define CATCH(class_name, e)                                                                                           \
+    }                                                                                                                  \
+    catch (class_name * e) {                                                                                           \
+        _afxExceptionLink.m_pException = e;
+#define AND_CATCH(class_name, e) CATCH(class_name, e)
+#define CATCH_ALL(e) CATCH(CException, e)
+#define AND_CATCH_ALL(e) CATCH(CException, e)
+#define END_CATCH                                                                                                      \
+    }                                                                                                                  \
+    }
+#define END_CATCH_ALL END_CATCH
+// In place of a catch block: the exception is dropped.
+#define END_TRY                                                                                                        \
+    }                                                                                                                  \
+    catch (CException * e) {                                                                                           \
+        e->Delete();                                                                                                   \
+    }                                                                                                                  \
+    }
+#define THROW(e) throw e
+#define THROW_LAST() (_afxExceptionLink.m_pException = nullptr, throw)

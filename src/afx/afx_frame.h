@@ -1,30 +1,147 @@
 // Frame windows.
 #pragma once
 
+#include "afx_control_bar.h"
 #include "afx_wnd.h"
+#include "afxres.h"
 
-struct CCreateContext {};
+#include <vector>
 
-// A top-level window. Routes commands to itself, then to the program. Created with new: it deletes itself with its
-// window.
+class CDocTemplate;
+class CDocument;
+class CDockBar;
+class CView;
+
+// What a window is made for: handed to OnCreateClient, and on to the views.
+struct CCreateContext {
+    CRuntimeClass* m_pNewViewClass = nullptr;
+    CDocument* m_pCurrentDoc = nullptr;
+    CDocTemplate* m_pNewDocTemplate = nullptr;
+    CView* m_pLastView = nullptr;
+    CFrameWnd* m_pCurrentFrame = nullptr;
+};
+
+// The document's title comes into the frame's, before the program's or behind it.
+#define FWS_ADDTOTITLE 0x00008000L
+#define FWS_PREFIXTITLE 0x00004000L
+#define AFX_WS_DEFAULT_VIEW (WS_CHILD | WS_VISIBLE | WS_BORDER)
+
+// A top-level window with a menu, bars around its client area and a view in it. Commands go to the active view, to the
+// frame, then to the program. Created with new: it deletes itself with its window.
 class ZOPAFX_API CFrameWnd : public CWnd {
     DECLARE_DYNCREATE(CFrameWnd)
     DECLARE_MESSAGE_MAP()
 
 public:
-    CFrameWnd() = default;
+    CFrameWnd();
     ~CFrameWnd() override;
     static const RECT rectDefault;
 
-    // The menu's name is without effect.
+    BOOL m_bAutoMenuEnable = TRUE; // menu items without a handler are disabled
+
+    // The menu is one of the resource chain; FALSE where it names none.
     virtual BOOL Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle = WS_OVERLAPPEDWINDOW,
                         const RECT& rect = rectDefault, CWnd* pParentWnd = nullptr, LPCTSTR lpszMenuName = nullptr,
                         DWORD dwExStyle = 0, CCreateContext* pContext = nullptr);
     using CWnd::Create;
-    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+    // One number for the menu, the keys, the icon and the title.
+    virtual BOOL LoadFrame(UINT nIDResource, DWORD dwDefaultStyle = WS_OVERLAPPEDWINDOW | FWS_ADDTOTITLE,
+                           CWnd* pParentWnd = nullptr, CCreateContext* pContext = nullptr);
+    BOOL LoadAccelTable(LPCTSTR lpszResourceName);
+    CWnd* CreateView(CCreateContext* pContext, UINT nID = AFX_IDW_PANE_FIRST);
+    BOOL DestroyWindow() override;
+
+    virtual CDocument* GetActiveDocument();
+    CView* GetActiveView() const { return m_pViewActive; }
+    void SetActiveView(CView* pViewNew, BOOL bNotify = TRUE);
+    virtual CFrameWnd* GetActiveFrame();
+    virtual void ActivateFrame(int nCmdShow = -1);
+    void InitialUpdateFrame(CDocument* pDoc, BOOL bMakeVisible);
+    BOOL IsFrameWnd() const override;
+    BOOL IsTracking() const { return m_nIDTracking != 0 && m_nIDTracking != AFX_IDS_IDLEMESSAGE; }
+
+    CString GetTitle() const { return m_strTitle; }
+    void SetTitle(LPCTSTR lpszTitle) { m_strTitle = lpszTitle; }
+    virtual void OnUpdateFrameTitle(BOOL bAddToTitle);
+    virtual void OnUpdateFrameMenu(HMENU hMenuAlt);
+    virtual HACCEL GetDefaultAccelerator();
+
+    // Texts of the message bar: the status bar, where there is one.
+    virtual CWnd* GetMessageBar();
+    void SetMessageText(LPCTSTR lpszText);
+    void SetMessageText(UINT nID);
+    virtual void GetMessageString(UINT nID, CString& rMessage) const;
+
+    virtual void RecalcLayout(BOOL bNotify = TRUE);
+    void ShowControlBar(CControlBar* pBar, BOOL bShow, BOOL bDelay);
+    CControlBar* GetControlBar(UINT nID);
+    // Bars can be docked to these sides (CBRS_ALIGN_...). They do not float.
+    void EnableDocking(DWORD dwDockStyle);
+    // nDockBarID 0: the side that the bar's style names first. lpRect: where on the screen it would be.
+    void DockControlBar(CControlBar* pBar, UINT nDockBarID = 0, LPCRECT lpRect = nullptr);
+    void DockControlBar(CControlBar* pBar, CDockBar* pDockBar, LPCRECT lpRect = nullptr);
+    // Which bars are shown, and where they are docked, in the program's settings.
+    void LoadBarState(LPCTSTR lpszProfileName);
+    void SaveBarState(LPCTSTR lpszProfileName) const;
+
+    BOOL PreTranslateMessage(MSG* pMsg) override;
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
 
+    int m_nWindow = -1; // which of the windows of its document it is; -1 the only one
+
+    afx_msg BOOL OnBarCheck(UINT nID);
+    afx_msg void OnUpdateControlBarMenu(CCmdUI* pCmdUI);
+
 protected:
+    // Makes what fills the client area: the view of the context, a splitter, whatever a program makes. FALSE refuses
+    // the frame.
+    virtual BOOL OnCreateClient(LPCREATESTRUCT lpcs, CCreateContext* pContext);
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     void PostNcDestroy() override;
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+    int OnCreateHelper(LPCREATESTRUCT lpcs, CCreateContext* pContext);
+    void UpdateFrameTitleForDocument(LPCTSTR lpszDocName);
+    LPCTSTR GetIconWndClass(DWORD dwDefaultStyle, UINT nIDResource);
+    virtual void LayoutClient();
+
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnClose();
+    afx_msg void OnDestroy();
+    afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized);
+    afx_msg void OnSetFocus(CWnd* pOldWnd);
+    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+    afx_msg void OnInitMenuPopup(CMenu* pMenu, UINT nIndex, BOOL bSysMenu);
+    afx_msg void OnMenuSelect(UINT nItemID, UINT nFlags, HMENU hSysMenu);
+    afx_msg LRESULT OnSetMessageString(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnPopMessageString(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnIdleUpdateCmdUI();
+    afx_msg void OnRecalcParent();
+    afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
+    afx_msg void OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
+    afx_msg void OnDropFiles(HDROP hDropInfo);
+    afx_msg BOOL OnQueryEndSession();
+    afx_msg void OnEndSession(BOOL bEnding);
+    afx_msg void OnUpdateKeyIndicator(CCmdUI* pCmdUI);
+    afx_msg BOOL OnToolTipText(UINT nID, NMHDR* pNMHDR, LRESULT* pResult);
+
+    HMENU m_hMenuDefault = nullptr; // the menu while no document's own is shown
+    HACCEL m_hAccelTable = nullptr;
+    CString m_strTitle;
+    UINT m_nIDTracking = 0;
+    UINT m_nIDLastMessage = 0;
+    CRect m_rectBorder;
+
+private:
+    friend class CControlBar;
+    friend class CDocument;
+    CDockBar* DockBarAt(UINT id);
+    void DestroyDockBars();
+    bool IsOnlyFrameOf(CDocument* pDocument) const;
+
+    CView* m_pViewActive = nullptr;
+    std::vector<CControlBar*> m_bars;
+    CDockBar* m_dock_bars[4] = {};
+    bool m_in_layout = false;
+    bool m_layout_wanted = false;
 };

@@ -58,6 +58,7 @@ class ZOPAFX_API CFont : public CGdiObject {
 
 public:
     CFont() = default;
+    static CFont* PASCAL FromHandle(HFONT hFont);
     BOOL CreateFont(int nHeight, int nWidth, int nEscapement, int nOrientation, int nWeight, BYTE bItalic,
                     BYTE bUnderline, BYTE cStrikeOut, BYTE nCharSet, BYTE nOutPrecision, BYTE nClipPrecision,
                     BYTE nQuality, BYTE nPitchAndFamily, LPCTSTR lpszFacename);

@@ -61,6 +61,12 @@ protected:
 };
 
 #define RUNTIME_CLASS(class_name) (class_name::GetThisClass())
+#define DYNAMIC_DOWNCAST(class_name, object)                                                                           \
+    (static_cast<class_name*>(AfxDynamicDownCast(RUNTIME_CLASS(class_name), object)))
+#define STATIC_DOWNCAST(class_name, object) (static_cast<class_name*>(object))
+
+// The object where it is of the class, else null.
+ZOPAFX_API CObject* AFX_CDECL AfxDynamicDownCast(CRuntimeClass* pClass, CObject* pObject);
 
 #define DECLARE_DYNAMIC(class_name)                                                                                    \
 protected:                                                                                                             \

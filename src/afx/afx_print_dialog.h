@@ -15,6 +15,8 @@ public:
     // Fills m_pd for the default printer without showing anything; FALSE where there is none. The device context, which
     // is made unless only the setup was asked for, and the memory of hDevMode and hDevNames are the caller's.
     BOOL GetDefaults();
+    // IDOK or IDCANCEL; -1 where the dialog cannot be shown. m_pd holds what was chosen, and is the caller's as above.
+    INT_PTR DoModal() override;
     HDC GetPrinterDC() const { return m_pd.hDC; }
 
     PRINTDLG m_pd;

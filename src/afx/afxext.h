@@ -1,4 +1,15 @@
-// The header that extension libraries name; the windows are all they need.
+// Bars, splitters and further views, property sheets; the windows that extension libraries name.
 #pragma once
+#ifndef __AFXEXT_H__
+#define __AFXEXT_H__
 
 #include "afxwin.h"
+#include "afx_dialog_bar.h"
+#include "afx_form_view.h"
+#include "afx_edit_view.h"
+#include "afx_splitter.h"
+#include "afx_status_bar.h"
+#include "afx_tool_bar.h"
+#include "afxdlgs.h"
+
+#endif

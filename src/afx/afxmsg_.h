@@ -1,7 +1,7 @@
 // The entries of message maps. Each checks its handler's signature when it is compiled.
 #pragma once
 
-#include "afx_cmdtarget.h"
+#include "afx_cmdui.h"
 
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wcast-function-type"
@@ -11,56 +11,65 @@ template <class Method> inline AFX_PMSG AfxErasedMethod(Method method) {
 }
 #pragma GCC diagnostic pop
 
+// Messages sent back to the control that they came from.
+#define WM_REFLECT_BASE 0xBC00
+
+#define AFX_MSG_ENTRY(message, sig, target, result, arguments, method)                                                 \
+    {message, 0, 0, 0, sig, AfxErasedMethod(static_cast<result(target::*) arguments>(method))},
 #define AFX_WM_ENTRY(message, sig, result, arguments, method)                                                          \
-    {message, 0, 0, 0, sig, AfxErasedMethod(static_cast<result(CWnd::*) arguments>(&ThisClass::method))},
-#define AFX_CMD_ENTRY(message, code, id, lastId, sig, arguments, method)                                               \
+    AFX_MSG_ENTRY(message, sig, CWnd, result, arguments, &ThisClass::method)
+#define AFX_CODE_ENTRY(message, code, id, lastId, sig, result, arguments, method)                                      \
     {message,                                                                                                          \
-     static_cast<WORD>(code),                                                                                          \
+     static_cast<UINT>(code),                                                                                          \
      static_cast<UINT>(id),                                                                                            \
      static_cast<UINT>(lastId),                                                                                        \
      sig,                                                                                                              \
-     AfxErasedMethod(static_cast<void(CCmdTarget::*) arguments>(method))},
+     AfxErasedMethod(static_cast<result(CCmdTarget::*) arguments>(method))},
+#define AFX_CMD_ENTRY(message, code, id, lastId, sig, result, arguments, method)                                       \
+    AFX_CODE_ENTRY(message, static_cast<WORD>(code), id, lastId, sig, result, arguments, method)
 
-// Commands, control notifications, notify messages.
-#define ON_COMMAND(id, memberFxn) AFX_CMD_ENTRY(WM_COMMAND, CN_COMMAND, id, id, AfxSigCmd_v, (), memberFxn)
+// Commands. The extended forms answer FALSE to have the command routed on.
+#define ON_COMMAND(id, memberFxn) AFX_CMD_ENTRY(WM_COMMAND, CN_COMMAND, id, id, AfxSigCmd_v, void, (), memberFxn)
+#define ON_COMMAND_RANGE(id, idLast, memberFxn)                                                                        \
+    AFX_CMD_ENTRY(WM_COMMAND, CN_COMMAND, id, idLast, AfxSigCmd_RANGE, void, (UINT), memberFxn)
+#define ON_COMMAND_EX(id, memberFxn) ON_COMMAND_EX_RANGE(id, id, memberFxn)
+#define ON_COMMAND_EX_RANGE(id, idLast, memberFxn)                                                                     \
+    AFX_CMD_ENTRY(WM_COMMAND, CN_COMMAND, id, idLast, AfxSigCmd_EX, BOOL, (UINT), memberFxn)
+#define ON_UPDATE_COMMAND_UI(id, memberFxn) ON_UPDATE_COMMAND_UI_RANGE(id, id, memberFxn)
+#define ON_UPDATE_COMMAND_UI_RANGE(id, idLast, memberFxn)                                                              \
+    AFX_CODE_ENTRY(WM_COMMAND, CN_UPDATE_COMMAND_UI, id, idLast, AfxSigCmdUI, void, (CCmdUI*), memberFxn)
+#define ON_UPDATE_COMMAND_UI_REFLECT(memberFxn)                                                                        \
+    AFX_CMD_ENTRY(WM_REFLECT_BASE + WM_COMMAND, CN_UPDATE_COMMAND_UI, 0, 0, AfxSigCmdUI, void, (CCmdUI*), memberFxn)
+
+// Control notifications and notify messages.
 #define ON_CONTROL(wNotifyCode, id, memberFxn)                                                                         \
-    AFX_CMD_ENTRY(WM_COMMAND, wNotifyCode, id, id, AfxSigCmd_v, (), memberFxn)
+    AFX_CMD_ENTRY(WM_COMMAND, wNotifyCode, id, id, AfxSigCmd_v, void, (), memberFxn)
 #define ON_CONTROL_RANGE(wNotifyCode, id, idLast, memberFxn)                                                           \
-    AFX_CMD_ENTRY(WM_COMMAND, wNotifyCode, id, idLast, AfxSigCmd_RANGE, (UINT), memberFxn)
+    AFX_CMD_ENTRY(WM_COMMAND, wNotifyCode, id, idLast, AfxSigCmd_RANGE, void, (UINT), memberFxn)
+#define ON_CONTROL_REFLECT(wNotifyCode, memberFxn)                                                                     \
+    AFX_CMD_ENTRY(WM_REFLECT_BASE + WM_COMMAND, wNotifyCode, 0, 0, AfxSigCmd_v, void, (), memberFxn)
+#define ON_CONTROL_REFLECT_EX(wNotifyCode, memberFxn)                                                                  \
+    AFX_CMD_ENTRY(WM_REFLECT_BASE + WM_COMMAND, wNotifyCode, 0, 0, AfxSigCmd_b, BOOL, (), memberFxn)
 #define ON_NOTIFY(wNotifyCode, id, memberFxn)                                                                          \
-    AFX_CMD_ENTRY(WM_NOTIFY, wNotifyCode, id, id, AfxSigNotify_v, (NMHDR*, LRESULT*), memberFxn)
+    AFX_CMD_ENTRY(WM_NOTIFY, wNotifyCode, id, id, AfxSigNotify_v, void, (NMHDR*, LRESULT*), memberFxn)
+#define ON_NOTIFY_RANGE(wNotifyCode, id, idLast, memberFxn)                                                            \
+    AFX_CMD_ENTRY(WM_NOTIFY, wNotifyCode, id, idLast, AfxSigNotify_RANGE, void, (UINT, NMHDR*, LRESULT*), memberFxn)
+#define ON_NOTIFY_EX(wNotifyCode, id, memberFxn) ON_NOTIFY_EX_RANGE(wNotifyCode, id, id, memberFxn)
+#define ON_NOTIFY_EX_RANGE(wNotifyCode, id, idLast, memberFxn)                                                         \
+    AFX_CMD_ENTRY(WM_NOTIFY, wNotifyCode, id, idLast, AfxSigNotify_EX, BOOL, (UINT, NMHDR*, LRESULT*), memberFxn)
+#define ON_NOTIFY_REFLECT(wNotifyCode, memberFxn)                                                                      \
+    AFX_CMD_ENTRY(WM_REFLECT_BASE + WM_NOTIFY, wNotifyCode, 0, 0, AfxSigNotify_v, void, (NMHDR*, LRESULT*), memberFxn)
+#define ON_NOTIFY_REFLECT_EX(wNotifyCode, memberFxn)                                                                   \
+    AFX_CMD_ENTRY(WM_REFLECT_BASE + WM_NOTIFY, wNotifyCode, 0, 0, AfxSigNotify_b, BOOL, (NMHDR*, LRESULT*), memberFxn)
 
-// Window messages.
-#define AFX_KEY_ENTRY(message, method) AFX_WM_ENTRY(message, AfxSig_v_key, void, (UINT, UINT, UINT), method)
-#define AFX_MOUSE_ENTRY(message, method) AFX_WM_ENTRY(message, AfxSig_v_mouse, void, (UINT, CPoint), method)
-#define AFX_SCROLL_ENTRY(message, method)                                                                              \
-    AFX_WM_ENTRY(message, AfxSig_v_scroll, void, (UINT, UINT, CScrollBar*), method)
+// Messages of the program's own. A registered message is named by the variable that holds its number.
+#define ON_MESSAGE(message, memberFxn) AFX_MSG_ENTRY(message, AfxSig_l_w_l, CWnd, LRESULT, (WPARAM, LPARAM), memberFxn)
+#define ON_REGISTERED_MESSAGE(nMessageVariable, memberFxn)                                                             \
+    AFX_MSG_ENTRY(0xC000, reinterpret_cast<UINT_PTR>(&nMessageVariable), CWnd, LRESULT, (WPARAM, LPARAM), memberFxn)
+#define ON_THREAD_MESSAGE(message, memberFxn)                                                                          \
+    AFX_MSG_ENTRY(message, AfxSigThread_v, CWinThread, void, (WPARAM, LPARAM), memberFxn)
+#define ON_REGISTERED_THREAD_MESSAGE(nMessageVariable, memberFxn)                                                      \
+    AFX_MSG_ENTRY(0xC000, reinterpret_cast<UINT_PTR>(&nMessageVariable), CWinThread, void, (WPARAM, LPARAM), memberFxn)
 
-#define ON_WM_CREATE() AFX_WM_ENTRY(WM_CREATE, AfxSig_i_create, int, (LPCREATESTRUCT), OnCreate)
-#define ON_WM_CLOSE() AFX_WM_ENTRY(WM_CLOSE, AfxSig_vv, void, (), OnClose)
-#define ON_WM_DESTROY() AFX_WM_ENTRY(WM_DESTROY, AfxSig_vv, void, (), OnDestroy)
-#define ON_WM_NCDESTROY() AFX_WM_ENTRY(WM_NCDESTROY, AfxSig_vv, void, (), OnNcDestroy)
-#define ON_WM_PAINT() AFX_WM_ENTRY(WM_PAINT, AfxSig_vv, void, (), OnPaint)
-#define ON_WM_SIZE() AFX_WM_ENTRY(WM_SIZE, AfxSig_v_size, void, (UINT, int, int), OnSize)
-#define ON_WM_TIMER() AFX_WM_ENTRY(WM_TIMER, AfxSig_v_timer, void, (UINT_PTR), OnTimer)
-#define ON_WM_CHAR() AFX_KEY_ENTRY(WM_CHAR, OnChar)
-#define ON_WM_MOUSEMOVE() AFX_MOUSE_ENTRY(WM_MOUSEMOVE, OnMouseMove)
-#define ON_WM_LBUTTONDOWN() AFX_MOUSE_ENTRY(WM_LBUTTONDOWN, OnLButtonDown)
-#define ON_WM_LBUTTONUP() AFX_MOUSE_ENTRY(WM_LBUTTONUP, OnLButtonUp)
-#define ON_WM_LBUTTONDBLCLK() AFX_MOUSE_ENTRY(WM_LBUTTONDBLCLK, OnLButtonDblClk)
-#define ON_WM_RBUTTONDOWN() AFX_MOUSE_ENTRY(WM_RBUTTONDOWN, OnRButtonDown)
-#define ON_WM_RBUTTONUP() AFX_MOUSE_ENTRY(WM_RBUTTONUP, OnRButtonUp)
-#define ON_WM_MOUSEWHEEL() AFX_WM_ENTRY(WM_MOUSEWHEEL, AfxSig_b_wheel, BOOL, (UINT, short, CPoint), OnMouseWheel)
-#define ON_WM_ERASEBKGND() AFX_WM_ENTRY(WM_ERASEBKGND, AfxSig_b_dc, BOOL, (CDC*), OnEraseBkgnd)
-#define ON_WM_SETFOCUS() AFX_WM_ENTRY(WM_SETFOCUS, AfxSig_v_wnd, void, (CWnd*), OnSetFocus)
-#define ON_WM_KILLFOCUS() AFX_WM_ENTRY(WM_KILLFOCUS, AfxSig_v_wnd, void, (CWnd*), OnKillFocus)
-#define ON_WM_FONTCHANGE() AFX_WM_ENTRY(WM_FONTCHANGE, AfxSig_vv, void, (), OnFontChange)
-#define ON_WM_SYSCOLORCHANGE() AFX_WM_ENTRY(WM_SYSCOLORCHANGE, AfxSig_vv, void, (), OnSysColorChange)
-#define ON_WM_HSCROLL() AFX_SCROLL_ENTRY(WM_HSCROLL, OnHScroll)
-#define ON_WM_VSCROLL() AFX_SCROLL_ENTRY(WM_VSCROLL, OnVScroll)
-#define ON_WM_DROPFILES() AFX_WM_ENTRY(WM_DROPFILES, AfxSig_v_drop, void, (HDROP), OnDropFiles)
-#define ON_WM_CTLCOLOR() AFX_WM_ENTRY(WM_CTLCOLOR, AfxSig_h_ctlcolor, HBRUSH, (CDC*, CWnd*, UINT), OnCtlColor)
-#define ON_WM_CAPTURECHANGED() AFX_WM_ENTRY(WM_CAPTURECHANGED, AfxSig_v_capture, void, (CWnd*), OnCaptureChanged)
-
-#define ON_BN_CLICKED(id, memberFxn) ON_CONTROL(BN_CLICKED, id, memberFxn)
-#define ON_LBN_SELCHANGE(id, memberFxn) ON_CONTROL(LBN_SELCHANGE, id, memberFxn)
+#include "afx_msg_windows.h"
+#include "afx_msg_controls.h"

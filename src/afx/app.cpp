@@ -1,6 +1,19 @@
 #include "afx_app.h"
+#include "afx_command_line.h"
+#include "afx_doc_template.h"
+#include "afxadv.h"
+#include "afxmsg_.h"
+#include "afxres.h"
+#include "thread_state.h"
+#include "wnd_state.h"
 
 IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
+
+BEGIN_MESSAGE_MAP(CWinApp, CCmdTarget)
+ON_COMMAND(ID_APP_EXIT, &CWinApp::OnAppExit)
+ON_UPDATE_COMMAND_UI(ID_FILE_MRU_FILE1, &CWinApp::OnUpdateRecentFileMenu)
+ON_COMMAND_EX_RANGE(ID_FILE_MRU_FILE1, ID_FILE_MRU_FILE16, &CWinApp::OnOpenRecentFile)
+END_MESSAGE_MAP()
 
 namespace {
 
@@ -30,11 +43,11 @@ UINT default_icon(UINT type) {
     }
 }
 
-// The window a message box goes in front of: the program's own active window.
-HWND message_box_owner(const CWinApp* app) {
+// The window a message box goes in front of: the thread's own active window.
+HWND message_box_owner() {
     HWND owner = ::GetActiveWindow();
-    if (owner == nullptr && app != nullptr)
-        owner = app->m_pMainWnd->GetSafeHwnd();
+    if (owner == nullptr)
+        owner = AfxGetMainWnd()->GetSafeHwnd();
     return owner != nullptr ? ::GetLastActivePopup(owner) : nullptr;
 }
 
@@ -45,28 +58,56 @@ CWinApp* AFXAPI AfxGetApp() {
 }
 
 CWinThread* AFXAPI AfxGetThread() {
-    return the_app;
+    return this_thread().thread;
 }
 
 CWnd* AFXAPI AfxGetMainWnd() {
-    return the_app != nullptr ? the_app->GetMainWnd() : nullptr;
+    CWinThread* thread = AfxGetThread();
+    return thread != nullptr ? thread->GetMainWnd() : nullptr;
 }
 
-CWinApp::CWinApp(LPCTSTR lpszAppName) : m_pszAppName(lpszAppName) {
+LPCTSTR AFXAPI AfxGetAppName() {
+    return the_app != nullptr ? the_app->m_pszAppName : nullptr;
+}
+
+CWinApp::CWinApp(LPCTSTR lpszAppName) : m_pszAppName(lpszAppName != nullptr ? ::_strdup(lpszAppName) : nullptr) {
     the_app = this;
+    this_thread().thread = this;
+    m_bAutoDelete = FALSE;
+    m_nThreadID = ::GetCurrentThreadId();
+    ::DuplicateHandle(::GetCurrentProcess(), ::GetCurrentThread(), ::GetCurrentProcess(), &m_hThread, 0, FALSE,
+                      DUPLICATE_SAME_ACCESS);
+    m_hInstance = AfxGetInstanceHandle();
 }
 
 CWinApp::~CWinApp() {
+    delete m_pDocManager;
+    delete m_pRecentFileList;
+    for (HGLOBAL memory : {m_hDevMode, m_hDevNames}) {
+        if (memory != nullptr)
+            ::GlobalFree(memory);
+    }
+    for (LPCTSTR name : {m_pszAppName, m_pszExeName, m_pszProfileName, m_pszRegistryKey})
+        std::free(const_cast<LPTSTR>(name));
     if (the_app == this)
         the_app = nullptr;
 }
 
 void CWinApp::SetNames() {
-    m_exeName = program_name();
+    const CString name = program_name();
+    CString title;
+    if (!title.LoadString(AFX_IDS_APP_TITLE))
+        title = name;
     if (m_pszExeName == nullptr)
-        m_pszExeName = m_exeName;
+        m_pszExeName = ::_strdup(name);
     if (m_pszAppName == nullptr)
-        m_pszAppName = m_exeName;
+        m_pszAppName = ::_strdup(title);
+    if (m_pszProfileName == nullptr)
+        m_pszProfileName = ::_strdup(name + ".INI");
+}
+
+BOOL CWinApp::InitApplication() {
+    return TRUE;
 }
 
 BOOL CWinApp::InitInstance() {
@@ -74,7 +115,50 @@ BOOL CWinApp::InitInstance() {
 }
 
 int CWinApp::ExitInstance() {
+    SaveStdProfileSettings();
     return CWinThread::ExitInstance();
+}
+
+// A program without a main window has nobody to end it.
+int CWinApp::Run() {
+    if (m_pMainWnd == nullptr)
+        AfxPostQuitMessage(0);
+    return CWinThread::Run();
+}
+
+BOOL CWinApp::OnIdle(LONG lCount) {
+    CWinThread::OnIdle(lCount);
+    for (POSITION at = lCount == 0 ? GetFirstDocTemplatePosition() : nullptr; at != nullptr;)
+        GetNextDocTemplate(at)->OnIdle();
+    return lCount < 1;
+}
+
+LRESULT CWinApp::ProcessWndProcException(CException* e, const MSG* pMsg) {
+    if (pMsg->message == WM_CREATE || pMsg->message == WM_PAINT)
+        return DefaultWndProcException(e, pMsg);
+    const bool command = pMsg->message == WM_COMMAND && pMsg->lParam == 0;
+    if (!e->IsKindOf(RUNTIME_CLASS(CUserException)))
+        e->ReportError(MB_ICONSTOP, command ? AFX_IDP_COMMAND_FAILURE : AFX_IDP_INTERNAL_FAILURE);
+    return refusal(*pMsg);
+}
+
+void CWinApp::OnAppExit() {
+    if (m_pMainWnd != nullptr)
+        m_pMainWnd->SendMessage(WM_CLOSE);
+}
+
+void CWinApp::DoWaitCursor(int nCode) {
+    change_wait_cursor(nCode);
+}
+
+void CWinApp::HideApplication() {
+    m_pMainWnd->ShowWindow(SW_HIDE);
+    m_pMainWnd->ShowOwnedPopups(FALSE);
+    m_pMainWnd->SetWindowPos(&CWnd::wndBottom, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE);
+}
+
+HCURSOR CWinApp::LoadCursor(LPCTSTR lpszResourceName) const {
+    return ::LoadCursor(AfxFindResourceHandle(lpszResourceName, RT_GROUP_CURSOR), lpszResourceName);
 }
 
 HICON CWinApp::LoadIcon(LPCTSTR lpszResourceName) const {
@@ -88,7 +172,7 @@ int CWinApp::DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt) {
 int CWinApp::ShowAppMessageBox(CWinApp* pApp, LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt) {
     const CString name =
         pApp != nullptr && pApp->m_pszAppName != nullptr ? CString(pApp->m_pszAppName) : program_name();
-    return ::MessageBox(message_box_owner(pApp), lpszPrompt, name, nType | default_icon(nType));
+    return ::MessageBox(message_box_owner(), lpszPrompt, name, nType | default_icon(nType));
 }
 
 int AFXAPI AfxMessageBox(LPCTSTR lpszText, UINT nType, UINT nIDHelp) {
@@ -97,9 +181,17 @@ int AFXAPI AfxMessageBox(LPCTSTR lpszText, UINT nType, UINT nIDHelp) {
                           : CWinApp::ShowAppMessageBox(nullptr, lpszText, nType, nIDHelp);
 }
 
+int AFXAPI AfxMessageBox(UINT nIDPrompt, UINT nType, UINT nIDHelp) {
+    CString text;
+    text.LoadString(nIDPrompt);
+    return AfxMessageBox(text, nType, nIDHelp == static_cast<UINT>(-1) ? nIDPrompt : nIDHelp);
+}
+
 BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow) {
     ::SetErrorMode(::SetErrorMode(0) | SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
     if (CWinApp* app = AfxGetApp()) {
+        app->m_hPrevInstance = hPrevInstance;
+        app->m_lpCmdLine = lpCmdLine;
         app->m_nCmdShow = nCmdShow;
         app->SetNames();
     }
@@ -109,6 +201,8 @@ BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCm
 int AFXAPI AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow) {
     CWinApp* app = AfxGetApp();
     if (!AfxWinInit(hInstance, hPrevInstance, lpCmdLine, nCmdShow) || app == nullptr)
+        return -1;
+    if (!app->InitApplication())
         return -1;
     if (app->InitInstance())
         return app->Run();

@@ -10,10 +10,8 @@ IMPLEMENT_DYNAMIC(CPaintDC, CDC)
 
 namespace {
 
-// Never destroyed: static objects of other modules may let go of their handles later.
 auto& device_contexts() {
-    static auto& map = *new handle_map<CDC, &CDC::m_hDC>;
-    return map;
+    return of_this_thread<handle_map<CDC, &CDC::m_hDC>>();
 }
 
 } // namespace

@@ -10,6 +10,7 @@ IMPLEMENT_DYNAMIC(CSimpleException, CException)
 IMPLEMENT_DYNAMIC(CMemoryException, CSimpleException)
 IMPLEMENT_DYNAMIC(CResourceException, CSimpleException)
 IMPLEMENT_DYNAMIC(CInvalidArgException, CSimpleException)
+IMPLEMENT_DYNAMIC(CNotSupportedException, CSimpleException)
 IMPLEMENT_DYNAMIC(CUserException, CSimpleException)
 IMPLEMENT_DYNAMIC(COleException, CException)
 IMPLEMENT_DYNAMIC(CFileException, CException)
@@ -68,6 +69,8 @@ CResourceException::CResourceException(BOOL bAutoDelete)
     : CSimpleException(bAutoDelete, "A required resource is not available.") {}
 CInvalidArgException::CInvalidArgException(BOOL bAutoDelete)
     : CSimpleException(bAutoDelete, "An argument is not valid.") {}
+CNotSupportedException::CNotSupportedException(BOOL bAutoDelete)
+    : CSimpleException(bAutoDelete, "An unsupported operation was attempted.") {}
 CUserException::CUserException(BOOL bAutoDelete) : CSimpleException(bAutoDelete) {}
 
 BOOL COleException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext) const {
@@ -153,6 +156,14 @@ void AFXAPI AfxThrowResourceException() {
 
 void AFXAPI AfxThrowInvalidArgException() {
     throw new CInvalidArgException;
+}
+
+void AFXAPI AfxThrowNotSupportedException() {
+    throw new CNotSupportedException;
+}
+
+void AFXAPI AfxThrowUserException() {
+    throw new CUserException;
 }
 
 void AFXAPI AfxThrowOleException(SCODE sc) {

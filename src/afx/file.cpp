@@ -48,9 +48,9 @@ void CFile::ThrowLastError() const {
 BOOL CFile::Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError) {
     Abort();
     SECURITY_ATTRIBUTES inheritance{sizeof(inheritance), nullptr, TRUE};
-    m_hFile = ::CreateFile(lpszFileName, access_of(nOpenFlags), sharing_of(nOpenFlags), &inheritance,
-                           (nOpenFlags & modeCreate) != 0 ? CREATE_ALWAYS : OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL,
-                           nullptr);
+    m_hFile =
+        ::CreateFile(lpszFileName, access_of(nOpenFlags), sharing_of(nOpenFlags), &inheritance,
+                     (nOpenFlags & modeCreate) != 0 ? CREATE_ALWAYS : OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (m_hFile != hFileNull) {
         m_strFileName = full_path(lpszFileName);
         return TRUE;

@@ -14,10 +14,8 @@ IMPLEMENT_DYNAMIC(CPalette, CGdiObject)
 
 namespace {
 
-// Never destroyed: static objects of other modules may let go of their handles later.
 auto& gdi_objects() {
-    static auto& map = *new handle_map<CGdiObject, &CGdiObject::m_hObject>;
-    return map;
+    return of_this_thread<handle_map<CGdiObject, &CGdiObject::m_hObject>>();
 }
 
 void attach_or_throw(CGdiObject& object, HGDIOBJ handle) {
@@ -33,6 +31,10 @@ void delete_temporary_gdi_objects() {
 
 CBitmap* PASCAL CBitmap::FromHandle(HBITMAP hBitmap) {
     return static_cast<CBitmap*>(gdi_objects().any<CBitmap>(hBitmap));
+}
+
+CFont* PASCAL CFont::FromHandle(HFONT hFont) {
+    return static_cast<CFont*>(gdi_objects().any<CFont>(hFont));
 }
 
 CPalette* PASCAL CPalette::FromHandle(HPALETTE hPalette) {

@@ -1,7 +1,7 @@
 // From a platform handle to the object that stands for it.
 #pragma once
 
-#include "afx_base.h"
+#include "thread_state.h"
 
 #include <algorithm>
 #include <memory>
@@ -10,6 +10,9 @@
 
 inline bool is_alive(HWND handle) {
     return ::IsWindow(handle);
+}
+inline bool is_alive(HMENU handle) {
+    return ::IsMenu(handle);
 }
 inline bool is_alive(HGDIOBJ handle) {
     return ::GetObjectType(handle) != 0;
@@ -21,6 +24,11 @@ inline bool is_alive(HGDIOBJ handle) {
 template <class Object, auto Member> class handle_map {
 public:
     using Handle = std::remove_reference_t<decltype(std::declval<Object&>().*Member)>;
+
+    handle_map() = default;
+    ~handle_map() { delete_temporary(); }
+    handle_map(const handle_map&) = delete;
+    handle_map& operator=(const handle_map&) = delete;
 
     Object* permanent(Handle handle) const {
         const auto at = m_permanent.find(handle);
@@ -86,8 +94,9 @@ private:
     std::size_t m_limit = least_limit;
 };
 
-// Deletes the temporary objects of every kind of handle.
+// Deletes the calling thread's temporary objects of every kind of handle.
 void delete_temporary_objects();
 void delete_temporary_windows();
+void delete_temporary_menus();
 void delete_temporary_gdi_objects();
 void delete_temporary_device_contexts();

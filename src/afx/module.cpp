@@ -1,5 +1,7 @@
 #include "afx_module.h"
 
+extern "C" IMAGE_DOS_HEADER __ImageBase; // the linker's: this library
+
 namespace {
 
 CDynLinkLibrary* first_library = nullptr;
@@ -13,7 +15,7 @@ struct chain_owner {
     }
 } owner;
 
-// The first module of the chain for which has() is true, or null.
+// The first module of the chain, the framework last, for which has() is true, or null.
 template <class Has> HINSTANCE find_module(Has has) {
     const HINSTANCE current = AfxGetResourceHandle(), program = AfxGetInstanceHandle();
     if (has(current))
@@ -24,7 +26,8 @@ template <class Has> HINSTANCE find_module(Has has) {
         if (at->m_hResource != nullptr && has(at->m_hResource))
             return at->m_hResource;
     }
-    return nullptr;
+    const HINSTANCE own = reinterpret_cast<HINSTANCE>(&__ImageBase);
+    return has(own) ? own : nullptr;
 }
 
 } // namespace

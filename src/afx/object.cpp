@@ -1,5 +1,6 @@
 #include "afx_object.h"
 #include "afx_dump.h"
+#include "afx_exception.h"
 
 #include <cstring>
 #include <new>
@@ -49,12 +50,19 @@ BOOL CObject::IsKindOf(const CRuntimeClass* pClass) const {
     return this != nullptr && GetRuntimeClass()->IsDerivedFrom(pClass);
 }
 
+CObject* AFX_CDECL AfxDynamicDownCast(CRuntimeClass* pClass, CObject* pObject) {
+    return pObject != nullptr && pObject->IsKindOf(pClass) ? pObject : nullptr;
+}
+
 CObject* CRuntimeClass::CreateObject() {
     if (m_pfnCreateObject == nullptr)
         return nullptr;
     try {
         return (*m_pfnCreateObject)();
     } catch (const std::bad_alloc&) {
+        return nullptr;
+    } catch (CMemoryException* exception) {
+        exception->Delete();
         return nullptr;
     }
 }

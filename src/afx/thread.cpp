@@ -1,14 +1,17 @@
 // The message loop.
 #include "afx_app.h"
 #include "afx_exception.h"
+#include "afxmsg_.h"
+#include "frame_state.h"
 #include "handle_map.h"
+#include "message_map.h"
 #include "wnd_state.h"
+
+#include <utility>
 
 IMPLEMENT_DYNAMIC(CWinThread, CCmdTarget)
 
 namespace {
-
-MSG pumped_message{};
 
 BOOL pre_translate(MSG* message) {
     CWinThread* thread = AfxGetThread();
@@ -16,9 +19,10 @@ BOOL pre_translate(MSG* message) {
 }
 
 BOOL pump_message() {
-    if (::GetMessage(&pumped_message, nullptr, 0, 0) <= 0)
+    MSG& pumped = this_thread().pumped_message;
+    if (::GetMessage(&pumped, nullptr, 0, 0) <= 0)
         return FALSE;
-    MSG message = pumped_message;
+    MSG message = pumped;
     if (!pre_translate(&message)) {
         ::TranslateMessage(&message);
         ::DispatchMessage(&message);
@@ -28,24 +32,21 @@ BOOL pump_message() {
 
 // Messages that come on and on, though nothing happens.
 BOOL is_idle_message(const MSG& message) {
-    static POINT last_mouse{-1, -1};
     constexpr UINT caret_timer = 0x0118;
     if (message.message == WM_PAINT || message.message == caret_timer)
         return FALSE;
     if (message.message != WM_MOUSEMOVE && message.message != WM_NCMOUSEMOVE)
         return TRUE;
-    const bool moved = message.pt.x != last_mouse.x || message.pt.y != last_mouse.y;
-    last_mouse = message.pt;
-    return moved;
+    const POINT last = std::exchange(this_thread().last_mouse, message.pt);
+    return message.pt.x != last.x || message.pt.y != last.y;
 }
 
 } // namespace
 
 int quit_code() {
-    return pumped_message.message == WM_QUIT ? static_cast<int>(pumped_message.wParam) : 0;
+    const MSG& pumped = this_thread().pumped_message;
+    return pumped.message == WM_QUIT ? static_cast<int>(pumped.wParam) : 0;
 }
-
-CWinThread::~CWinThread() = default;
 
 BOOL CWinThread::InitInstance() {
     return FALSE;
@@ -64,7 +65,7 @@ int CWinThread::Run() {
             idle = OnIdle(count++);
         } else if (!PumpMessage()) {
             return ExitInstance();
-        } else if (IsIdleMessage(&pumped_message)) {
+        } else if (IsIdleMessage(&this_thread().pumped_message)) {
             idle = true;
             count = 0;
         }
@@ -84,17 +85,47 @@ BOOL AFXAPI AfxPumpMessage() {
     return thread != nullptr ? thread->PumpMessage() : pump_message();
 }
 
-BOOL AFXAPI AfxIsIdleMessage() {
+BOOL AFXAPI AfxIsIdleMessage(MSG* pMsg) {
     CWinThread* thread = AfxGetThread();
-    return thread != nullptr ? thread->IsIdleMessage(&pumped_message) : is_idle_message(pumped_message);
+    return thread != nullptr ? thread->IsIdleMessage(pMsg) : is_idle_message(*pMsg);
+}
+
+BOOL AFXAPI AfxPreTranslateMessage(MSG* pMsg) {
+    return pre_translate(pMsg);
+}
+
+MSG* AFXAPI AfxGetCurrentMessage() {
+    return &this_thread().pumped_message;
+}
+
+void AFXAPI AfxPostQuitMessage(int nExitCode) {
+    ::PostQuitMessage(nExitCode);
 }
 
 BOOL CWinThread::PreTranslateMessage(MSG* pMsg) {
-    return CWnd::WalkPreTranslateTree(m_pMainWnd->GetSafeHwnd(), pMsg);
+    if (pMsg->hwnd == nullptr && DispatchThreadMessageEx(pMsg))
+        return TRUE;
+    CWnd* main = GetMainWnd();
+    if (CWnd::WalkPreTranslateTree(main->GetSafeHwnd(), pMsg))
+        return TRUE;
+    // A modeless dialog or popup lets the main window's accelerators work.
+    CWnd* wnd = CWnd::FromHandle(pMsg->hwnd);
+    return main != nullptr && main->m_hWnd != nullptr && wnd != nullptr && wnd->GetTopLevelParent() != main &&
+           main->PreTranslateMessage(pMsg);
+}
+
+BOOL CWinThread::DispatchThreadMessageEx(MSG* pMsg) {
+    const AFX_MSGMAP_ENTRY* entry = find_message_entry(GetMessageMap(), pMsg->message);
+    if (entry == nullptr)
+        return FALSE;
+    (this->*typed_handler<void (CWinThread::*)(WPARAM, LPARAM)>(*entry))(pMsg->wParam, pMsg->lParam);
+    return TRUE;
 }
 
 BOOL CWinThread::OnIdle(LONG lCount) {
-    if (lCount > 0)
+    if (lCount <= 0)
+        update_frames(GetMainWnd());
+    else
         delete_temporary_objects();
     return lCount <= 0;
 }

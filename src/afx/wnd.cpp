@@ -6,8 +6,10 @@
 #include "wnd_state.h"
 
 #include <map>
+#include <mutex>
 #include <string>
 #include <tuple>
+#include <utility>
 
 IMPLEMENT_DYNCREATE(CWnd, CCmdTarget)
 
@@ -16,16 +18,24 @@ ON_WM_NCDESTROY()
 ON_WM_CTLCOLOR()
 ON_WM_HSCROLL()
 ON_WM_VSCROLL()
+ON_WM_DRAWITEM()
+ON_WM_MEASUREITEM()
+ON_WM_DELETEITEM()
+ON_WM_COMPAREITEM()
+ON_WM_CHARTOITEM()
+ON_WM_VKEYTOITEM()
+ON_WM_PARENTNOTIFY()
 END_MESSAGE_MAP()
 
+const CWnd CWnd::wndTop(HWND_TOP);
 const CWnd CWnd::wndBottom(HWND_BOTTOM);
+const CWnd CWnd::wndTopMost(HWND_TOPMOST);
+const CWnd CWnd::wndNoTopMost(HWND_NOTOPMOST);
 
 namespace {
 
-// Never destroyed: static objects of other modules may let go of their handles later.
 auto& windows() {
-    static auto& map = *new handle_map<CWnd, &CWnd::m_hWnd>;
-    return map;
+    return of_this_thread<handle_map<CWnd, &CWnd::m_hWnd>>();
 }
 
 } // namespace
@@ -34,8 +44,13 @@ void delete_temporary_windows() {
     windows().delete_temporary();
 }
 
+void PASCAL CWnd::DeleteTempMap() {
+    delete_temporary_windows();
+}
+
 void delete_temporary_objects() {
     delete_temporary_windows();
+    delete_temporary_menus();
     delete_temporary_gdi_objects();
     delete_temporary_device_contexts();
 }
@@ -66,7 +81,17 @@ HWND CWnd::Detach() {
 }
 
 BOOL CWnd::SubclassWindow(HWND hWnd) {
-    return ::IsWindow(hWnd) && FromHandlePermanent(hWnd) == nullptr && AfxTakeOverWindow(this, hWnd);
+    return ::IsWindow(hWnd) && FromHandlePermanent(hWnd) == nullptr && take_over_window(this, hWnd);
+}
+
+BOOL CWnd::SubclassDlgItem(UINT nID, CWnd* pParent) {
+    return SubclassWindow(::GetDlgItem(pParent->GetSafeHwnd(), static_cast<int>(nID)));
+}
+
+HWND CWnd::UnsubclassWindow() {
+    if (WNDPROC own = std::exchange(m_pfnSuper, nullptr))
+        ::SetWindowLongPtr(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(own));
+    return Detach();
 }
 
 BOOL CWnd::PreCreateWindow(CREATESTRUCT& cs) {
@@ -131,7 +156,7 @@ void CWnd::OnNcDestroy() {
     CWinThread* thread = AfxGetThread();
     if (thread != nullptr && thread->m_pMainWnd == this) {
         thread->m_pMainWnd = nullptr;
-        ::PostQuitMessage(0);
+        AfxPostQuitMessage(0);
     }
     const LONG_PTR before = ::GetWindowLongPtr(m_hWnd, GWLP_WNDPROC);
     Default();
@@ -143,7 +168,9 @@ void CWnd::OnNcDestroy() {
 }
 
 LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbrBackground, HICON hIcon) {
+    static auto& lock = *new std::mutex;
     static auto& names = *new std::map<std::tuple<UINT, HCURSOR, HBRUSH, HICON>, std::string>;
+    const std::lock_guard held(lock);
     const auto [at, added] = names.try_emplace({nClassStyle, hCursor, hbrBackground, hIcon});
     if (added) {
         CString name;

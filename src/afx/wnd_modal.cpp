@@ -9,7 +9,7 @@ bool idle_in_modal_loop(HWND hwnd, DWORD flags, LONG count) {
     const HWND parent = ::GetParent(hwnd);
     if ((flags & MLF_NOIDLEMSG) == 0 && parent != nullptr && count == 0)
         ::SendMessage(parent, WM_ENTERIDLE, MSGF_DIALOGBOX, reinterpret_cast<LPARAM>(hwnd));
-    return ::SendMessage(hwnd, WM_KICKIDLE, MSGF_DIALOGBOX, count) != 0;
+    return (flags & MLF_NOKICKIDLE) == 0 && ::SendMessage(hwnd, WM_KICKIDLE, MSGF_DIALOGBOX, count) != 0;
 }
 
 void show(HWND hwnd) {
@@ -50,7 +50,7 @@ int CWnd::RunModalLoop(DWORD dwFlags) {
             if (::IsWindow(hwnd))
                 m_modal = false;
             return -1;
-        } else if (AfxIsIdleMessage()) {
+        } else if (AfxIsIdleMessage(AfxGetCurrentMessage())) {
             idle = true;
             count = 0;
         }

@@ -4,13 +4,9 @@
 #include "wnd_state.h"
 
 #include <exception>
-
-MSG last_message{};
+#include <utility>
 
 namespace {
-
-CWnd* wnd_in_creation = nullptr;
-HHOOK creation_hook = nullptr;
 
 // An exception that is not the framework's own, in the shape that the reporting takes.
 class foreign_exception : public CException {
@@ -58,12 +54,14 @@ LRESULT report_current(const MSG& message) {
 // Restores the outer message when the inner one has been handled.
 class message_scope {
 public:
-    explicit message_scope(const MSG& message) : m_outer(last_message) { last_message = message; }
-    ~message_scope() { last_message = m_outer; }
+    explicit message_scope(const MSG& message)
+        : m_at(this_thread().last_message), m_outer(std::exchange(m_at, message)) {}
+    ~message_scope() { m_at = m_outer; }
     message_scope(const message_scope&) = delete;
     message_scope& operator=(const message_scope&) = delete;
 
 private:
+    MSG& m_at;
     const MSG m_outer;
 };
 
@@ -75,7 +73,9 @@ bool is_input_method_window(HWND hwnd) {
 } // namespace
 
 LRESULT refusal(const MSG& message) {
-    return message.message == WM_CREATE ? -1 : 0;
+    if (message.message == WM_CREATE)
+        return -1;
+    return message.message == WM_COMMAND ? TRUE : 0; // a command that failed has been handled
 }
 
 LRESULT answer_exception(const MSG& message) {
@@ -106,7 +106,7 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam) 
     return AfxCallWndProc(wnd, hWnd, nMsg, wParam, lParam);
 }
 
-bool AfxTakeOverWindow(CWnd* wnd, HWND hwnd) {
+bool take_over_window(CWnd* wnd, HWND hwnd) {
     if (!wnd->Attach(hwnd))
         return false;
     try {
@@ -133,37 +133,36 @@ namespace {
 
 LRESULT CALLBACK creation_hook_proc(int code, WPARAM wParam, LPARAM lParam) {
     const HWND hwnd = reinterpret_cast<HWND>(wParam);
-    if (code == HCBT_CREATEWND && wnd_in_creation != nullptr && !is_input_method_window(hwnd)) {
-        CWnd* wnd = wnd_in_creation;
-        wnd_in_creation = nullptr;
+    thread_state& state = this_thread();
+    if (code == HCBT_CREATEWND && state.wnd_in_creation != nullptr && !is_input_method_window(hwnd)) {
+        CWnd* wnd = std::exchange(state.wnd_in_creation, nullptr);
         bool taken = false;
         try {
-            taken = AfxTakeOverWindow(wnd, hwnd);
+            taken = take_over_window(wnd, hwnd);
         } catch (...) {
             answer_exception({hwnd, WM_NULL, 0, 0, 0, {0, 0}});
         }
         if (!taken) {
-            wnd_in_creation = wnd; // the creator lets go of it
-            return 1;              // refuses the creation
+            state.wnd_in_creation = wnd; // the creator lets go of it
+            return 1;                    // refuses the creation
         }
     }
-    return ::CallNextHookEx(creation_hook, code, wParam, lParam);
+    return ::CallNextHookEx(state.creation_hook, code, wParam, lParam);
 }
 
 } // namespace
 
 void AFXAPI AfxHookWindowCreate(CWnd* pWnd) {
-    if (creation_hook == nullptr)
-        creation_hook = ::SetWindowsHookEx(WH_CBT, &creation_hook_proc, nullptr, ::GetCurrentThreadId());
-    if (creation_hook == nullptr)
+    thread_state& state = this_thread();
+    if (state.creation_hook == nullptr)
+        state.creation_hook = ::SetWindowsHookEx(WH_CBT, &creation_hook_proc, nullptr, ::GetCurrentThreadId());
+    if (state.creation_hook == nullptr)
         AfxThrowMemoryException();
-    wnd_in_creation = pWnd;
+    state.wnd_in_creation = pWnd;
 }
 
 BOOL AFXAPI AfxUnhookWindowCreate() {
-    ::UnhookWindowsHookEx(creation_hook);
-    creation_hook = nullptr;
-    const bool taken = wnd_in_creation == nullptr;
-    wnd_in_creation = nullptr;
-    return taken;
+    thread_state& state = this_thread();
+    ::UnhookWindowsHookEx(std::exchange(state.creation_hook, nullptr));
+    return std::exchange(state.wnd_in_creation, nullptr) == nullptr;
 }

@@ -1,13 +1,11 @@
-// What the window procedure and the window class share. The framework serves one user-interface thread.
+// What the window procedure and the window class share.
 #pragma once
 
 #include "afx_wnd.h"
-
-// The window message that is being handled; all zero while none is.
-extern MSG last_message;
+#include "thread_state.h"
 
 // Whether the object holds the window now.
-bool AfxTakeOverWindow(CWnd* wnd, HWND hwnd);
+bool take_over_window(CWnd* wnd, HWND hwnd);
 // The answer to a message whose handler failed: a creation is refused.
 LRESULT refusal(const MSG& message);
 // The argument of the quit message that ended the loop; 0 where none did.

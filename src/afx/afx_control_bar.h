@@ -1,0 +1,96 @@
+// Bars along the sides of a frame: what toolbars, status bars and dialog bars have in common.
+#pragma once
+
+#include "afx_wnd.h"
+#include "afxres.h"
+
+class CDockBar;
+struct AFX_SIZEPARENTPARAMS;
+
+// How CalcDynamicLayout is asked.
+#define LM_STRETCH 0x01 // as long as the frame
+#define LM_HORZ 0x02
+#define LM_COMMIT 0x08 // the layout asked for is taken
+#define LM_HORZDOCK 0x10
+#define LM_VERTDOCK 0x20
+
+// A bar knows its style (CBRS_...), the side it lies at among it, and how large it wants to be. Its frame asks it to
+// take its part of the client area, and to update its commands while the program is idle.
+class ZOPAFX_API CControlBar : public CWnd {
+    DECLARE_DYNAMIC(CControlBar)
+    DECLARE_MESSAGE_MAP()
+
+public:
+    ~CControlBar() override;
+
+    BOOL m_bAutoDelete = FALSE; // the object goes with its window
+
+    int GetCount() const { return m_nCount; }
+    DWORD GetBarStyle() { return m_dwStyle; }
+    void SetBarStyle(DWORD dwStyle);
+    // Between the bar's edge and what it holds, in pixels.
+    void SetBorders(int cxLeft = 0, int cyTop = 0, int cxRight = 0, int cyBottom = 0);
+    void SetBorders(LPCRECT lpRect) { SetBorders(lpRect->left, lpRect->top, lpRect->right, lpRect->bottom); }
+    CRect GetBorders() { return CRect(m_cxLeftBorder, m_cyTopBorder, m_cxRightBorder, m_cyBottomBorder); }
+
+    // The sides (CBRS_ALIGN_...) that the bar may be docked to.
+    void EnableDocking(DWORD dwDockStyle);
+    CFrameWnd* GetDockingFrame() const;
+    BOOL IsFloating() const { return FALSE; }
+    virtual BOOL IsDockBar() const { return FALSE; }
+
+    virtual CSize CalcFixedLayout(BOOL bStretch, BOOL bHorz);
+    // nLength is not used: bars do not float.
+    virtual CSize CalcDynamicLayout(int nLength, DWORD nMode);
+    virtual void CalcInsideRect(CRect& rect, BOOL bHorz) const;
+    // Has each item's command updated; the frame is the first target.
+    virtual void OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) = 0;
+    virtual BOOL IsVisible() const;
+    // Shown or hidden when the frame makes its layout the next time.
+    virtual void DelayShow(BOOL bShow);
+    virtual void OnBarStyleChange(DWORD dwOldStyle, DWORD dwNewStyle);
+    // The prompt of the command under the pointer (flyby help); -1: the pointer has left. TRUE where it changed.
+    virtual BOOL SetStatusText(INT_PTR nHit);
+    // The id of what is at the point, -1 where nothing is.
+    virtual INT_PTR ItemAt(CPoint point) const;
+    BOOL DestroyWindow() override;
+    BOOL PreTranslateMessage(MSG* pMsg) override;
+
+protected:
+    CControlBar();
+    virtual void DoPaint(CDC* pDC);
+    virtual void DrawBorders(CDC* pDC, CRect& rect);
+    virtual void DrawGripper(CDC* pDC, const CRect& rect);
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+    void PostNcDestroy() override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    bool IsHorizontal() const { return (m_dwStyle & CBRS_ORIENT_VERT) == 0; }
+    bool HasGripper() const { return (m_dwStyle & CBRS_GRIPPER) != 0 && (m_dwStyle & CBRS_FLOATING) == 0; }
+
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnDestroy();
+    afx_msg void OnPaint();
+    afx_msg void OnMouseLeave();
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
+    afx_msg LRESULT OnSizeParent(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnIdleUpdateCmdUI(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnInitialUpdate();
+
+    DWORD m_dwStyle = 0;
+    DWORD m_dwDockStyle = 0;
+    int m_nCount = 0;
+    int m_cxLeftBorder = 6, m_cxRightBorder = 6, m_cyTopBorder = 1, m_cyBottomBorder = 1;
+    CFrameWnd* m_pDockSite = nullptr;
+    CDockBar* m_pDockBar = nullptr;
+
+private:
+    friend class CDockBar;
+    friend class CFrameWnd;
+    void Undelay();
+    void DropAt(CPoint screen);
+
+    enum class show { as_is, soon, not_soon };
+    show m_delayed = show::as_is;
+    INT_PTR m_status_item = -1;
+};

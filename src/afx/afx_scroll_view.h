@@ -1,0 +1,56 @@
+// Views that are larger than their window; included by afxwin.h.
+#pragma once
+
+#include "afx_view.h"
+
+#define MM_SCALETOFIT (-1)
+
+// The document's size is told in logical units of a mapping mode; drawing goes to the part that is scrolled to.
+class ZOPAFX_API CScrollView : public CView {
+    DECLARE_DYNAMIC(CScrollView)
+    DECLARE_MESSAGE_MAP()
+
+public:
+    static const SIZE sizeDefault; // a tenth of the page for a line, a tenth of the whole for a page
+    void SetScrollSizes(int nMapMode, SIZE sizeTotal, const SIZE& sizePage = sizeDefault,
+                        const SIZE& sizeLine = sizeDefault);
+    // The whole is shown, whatever the window's size.
+    void SetScaleToFitSize(SIZE sizeTotal);
+    CPoint GetScrollPosition() const; // logical
+    void ScrollToPosition(POINT pt);
+    CSize GetTotalSize() const { return m_totalLog; }
+    CPoint GetDeviceScrollPosition() const;
+    void GetDeviceScrollSizes(int& nMapMode, SIZE& sizeTotal, SIZE& sizePage, SIZE& sizeLine) const;
+    void FillOutsideRect(CDC* pDC, CBrush* pBrush);
+    void ResizeParentToFit(BOOL bShrinkOnly = TRUE);
+    void CheckScrollBars(BOOL& bHasHorzBar, BOOL& bHasVertBar) const;
+
+    BOOL OnScroll(UINT nScrollCode, UINT nPos, BOOL bDoScroll = TRUE) override;
+    BOOL OnScrollBy(CSize sizeScroll, BOOL bDoScroll = TRUE) override;
+    void OnPrepareDC(CDC* pDC, CPrintInfo* pInfo = nullptr) override;
+    void CalcWindowRect(LPRECT lpClientRect, UINT nAdjustType = adjustBorder) override;
+
+protected:
+    CScrollView();
+    ~CScrollView() override;
+    void OnDraw(CDC* pDC) override = 0;
+    void CenterOnPoint(CPoint ptCenter);
+    void ScrollToDevicePosition(POINT ptDev);
+    void UpdateBars();
+
+    afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
+    afx_msg void OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
+    afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt);
+
+    int m_nMapMode = 0; // none yet
+    CSize m_totalLog, m_totalDev, m_pageDev, m_lineDev;
+    BOOL m_bCenter = FALSE; // what is smaller than the window stands in its middle
+
+private:
+    bool HasOwnBar(int bar) const;
+    CSize Room(bool& horizontal, bool& vertical) const;
+    CSize RangeFor(CSize room) const;
+
+    bool m_updating = false;
+};

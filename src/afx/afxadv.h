@@ -1,0 +1,38 @@
+// The list of recently used files.
+#pragma once
+
+#include "afxwin.h"
+
+#include <vector>
+
+// The latest first, kept in the program's settings; entry names hold a %d for the number.
+class ZOPAFX_API CRecentFileList {
+public:
+    // Names in the menu are shortened to about nMaxDispLen characters; they are numbered from nStart + 1.
+    CRecentFileList(UINT nStart, LPCTSTR lpszSection, LPCTSTR lpszEntryFormat, int nSize,
+                    int nMaxDispLen = AFX_ABBREV_FILENAME_LEN);
+    virtual ~CRecentFileList();
+
+    int GetSize() const { return static_cast<int>(m_names.size()); }
+    CString& operator[](int nIndex) { return m_names.at(static_cast<std::size_t>(nIndex)); }
+
+    virtual void Remove(int nIndex);
+    virtual void Add(LPCTSTR lpszPathName);
+    // The name without the folder where that is the given one. FALSE where there is no such file.
+    virtual BOOL GetDisplayName(CString& strName, int nIndex, LPCTSTR lpszCurDir, int nCurDir,
+                                BOOL bAtLeastName = TRUE) const;
+    // In the place of the item come the files.
+    virtual void UpdateMenu(CCmdUI* pCmdUI);
+    virtual void ReadList();
+    virtual void WriteList();
+
+    enum { AFX_ABBREV_FILENAME_LEN = 30 };
+
+private:
+    CString EntryName(int index) const;
+
+    std::vector<CString> m_names;
+    UINT m_start;
+    CString m_section, m_format, m_original;
+    int m_display_length;
+};

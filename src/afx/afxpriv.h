@@ -1,0 +1,24 @@
+// The framework's own messages, which a program may handle.
+#pragma once
+
+#include "afxwin.h"
+
+#define WM_SIZEPARENT 0x0361       // lParam: AFX_SIZEPARENTPARAMS; a bar takes its part of the rectangle
+#define WM_SETMESSAGESTRING 0x0362 // wParam: the text's id, lParam: or the text; for the frame's message bar
+#define WM_IDLEUPDATECMDUI 0x0363  // wParam: whether commands without handler become disabled
+#define WM_INITIALUPDATE 0x0364    // to the views of a frame, before they are shown
+#define WM_COMMANDHELP 0x0365
+#define WM_RECALCPARENT 0x0368 // to a frame: its layout is to be made anew
+#ifndef WM_KICKIDLE
+#define WM_KICKIDLE 0x036A
+#endif
+#define WM_POPMESSAGESTRING 0x0375 // like WM_SETMESSAGESTRING, where the message that was set may go
+
+struct AFX_SIZEPARENTPARAMS {
+    HDWP hDWP;      // null: only the rectangle is asked for
+    RECT rect;      // what is left of the parent's client area
+    SIZE sizeTotal; // what the bars have taken
+    BOOL bStretch;
+};
+
+#define ON_MESSAGE_VOID(message, memberFxn) AFX_MSG_ENTRY(message, AfxSig_vv, CWnd, void, (), memberFxn)

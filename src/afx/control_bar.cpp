@@ -1,0 +1,291 @@
+#include "afx_app.h"
+#include "afx_frame.h"
+#include "afxmsg_.h"
+#include "afxpriv.h"
+#include "dock_bar.h"
+#include "frame_state.h"
+
+#include <algorithm>
+#include <utility>
+
+IMPLEMENT_DYNAMIC(CControlBar, CWnd)
+
+BEGIN_MESSAGE_MAP(CControlBar, CWnd)
+ON_WM_CREATE()
+ON_WM_DESTROY()
+ON_WM_PAINT()
+ON_WM_MOUSELEAVE()
+ON_WM_LBUTTONDOWN()
+ON_WM_CTLCOLOR()
+ON_MESSAGE(WM_SIZEPARENT, &CControlBar::OnSizeParent)
+ON_MESSAGE(WM_IDLEUPDATECMDUI, &CControlBar::OnIdleUpdateCmdUI)
+ON_MESSAGE_VOID(WM_INITIALUPDATE, &CControlBar::OnInitialUpdate)
+END_MESSAGE_MAP()
+
+CControlBar::CControlBar() = default;
+
+CControlBar::~CControlBar() {
+    CControlBar::DestroyWindow();
+}
+
+BOOL CControlBar::PreCreateWindow(CREATESTRUCT& cs) {
+    if (!CWnd::PreCreateWindow(cs))
+        return FALSE;
+    cs.style |= WS_CLIPSIBLINGS;
+    return TRUE;
+}
+
+void CControlBar::PostNcDestroy() {
+    if (m_bAutoDelete)
+        delete this;
+}
+
+BOOL CControlBar::DestroyWindow() {
+    return m_hWnd != nullptr && CWnd::DestroyWindow();
+}
+
+int CControlBar::OnCreate(LPCREATESTRUCT lpCreateStruct) {
+    if (CWnd::OnCreate(lpCreateStruct) == -1)
+        return -1;
+    CWnd* parent = GetParent();
+    if (CFrameWnd* frame = parent->IsFrameWnd() ? static_cast<CFrameWnd*>(parent) : parent->GetParentFrame()) {
+        m_pDockSite = frame;
+        frame->m_bars.push_back(this);
+    }
+    return 0;
+}
+
+void CControlBar::OnDestroy() {
+    SetStatusText(-1);
+    if (m_pDockBar != nullptr)
+        m_pDockBar->Remove(this);
+    m_pDockBar = nullptr;
+    if (m_pDockSite != nullptr)
+        std::erase(m_pDockSite->m_bars, this);
+    m_pDockSite = nullptr;
+    CWnd::OnDestroy();
+}
+
+CFrameWnd* CControlBar::GetDockingFrame() const {
+    return m_pDockSite;
+}
+
+void CControlBar::SetBarStyle(DWORD dwStyle) {
+    const DWORD old = std::exchange(m_dwStyle, dwStyle & CBRS_ALL);
+    if (old != m_dwStyle)
+        OnBarStyleChange(old, m_dwStyle);
+}
+
+void CControlBar::OnBarStyleChange(DWORD, DWORD) {}
+
+void CControlBar::SetBorders(int cxLeft, int cyTop, int cxRight, int cyBottom) {
+    m_cxLeftBorder = cxLeft;
+    m_cyTopBorder = cyTop;
+    m_cxRightBorder = cxRight;
+    m_cyBottomBorder = cyBottom;
+}
+
+void CControlBar::EnableDocking(DWORD dwDockStyle) {
+    m_dwDockStyle = dwDockStyle & CBRS_ALIGN_ANY;
+}
+
+CSize CControlBar::CalcFixedLayout(BOOL bStretch, BOOL bHorz) {
+    constexpr int endless = 32767;
+    return CSize(bStretch && bHorz ? endless : 0, bStretch && !bHorz ? endless : 0);
+}
+
+CSize CControlBar::CalcDynamicLayout(int, DWORD nMode) {
+    return CalcFixedLayout((nMode & LM_STRETCH) != 0, (nMode & LM_HORZ) != 0);
+}
+
+void CControlBar::CalcInsideRect(CRect& rect, BOOL bHorz) const {
+    const DWORD borders = m_dwStyle & CBRS_BORDER_ANY;
+    constexpr int gripper = 6;
+    rect.left += m_cxLeftBorder + ((borders & CBRS_BORDER_LEFT) != 0 ? 1 : 0);
+    rect.top += m_cyTopBorder + ((borders & CBRS_BORDER_TOP) != 0 ? 1 : 0);
+    rect.right -= m_cxRightBorder + ((borders & CBRS_BORDER_RIGHT) != 0 ? 1 : 0);
+    rect.bottom -= m_cyBottomBorder + ((borders & CBRS_BORDER_BOTTOM) != 0 ? 1 : 0);
+    if (HasGripper())
+        (bHorz ? rect.left : rect.top) += gripper;
+}
+
+BOOL CControlBar::IsVisible() const {
+    if (m_delayed != show::as_is)
+        return m_delayed == show::soon;
+    return (GetStyle() & WS_VISIBLE) != 0;
+}
+
+void CControlBar::DelayShow(BOOL bShow) {
+    m_delayed = bShow ? show::soon : show::not_soon;
+}
+
+void CControlBar::Undelay() {
+    const show wanted = std::exchange(m_delayed, show::as_is);
+    if (wanted != show::as_is)
+        SetWindowPos(nullptr, 0, 0, 0, 0,
+                     (wanted == show::soon ? SWP_SHOWWINDOW : SWP_HIDEWINDOW) | SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER |
+                         SWP_NOACTIVATE);
+}
+
+// Takes the bar's part of what is left of the frame's client area.
+LRESULT CControlBar::OnSizeParent(WPARAM, LPARAM lParam) {
+    auto& layout = *reinterpret_cast<AFX_SIZEPARENTPARAMS*>(lParam);
+    if (layout.hDWP != nullptr)
+        Undelay();
+    if (!IsVisible() || (m_dwStyle & CBRS_ALIGN_ANY) == 0)
+        return 0;
+    CRect rect = layout.rect;
+    const CSize room = rect.Size();
+    const bool horizontal = IsHorizontal();
+    const DWORD mode = (layout.bStretch ? LM_STRETCH : 0) | (horizontal ? LM_HORZ | LM_HORZDOCK : LM_VERTDOCK) |
+                       (layout.hDWP != nullptr ? LM_COMMIT : 0);
+    CSize size = CalcDynamicLayout(-1, mode);
+    size.cx = std::min(size.cx, room.cx);
+    size.cy = std::min(size.cy, room.cy);
+    if (horizontal) {
+        layout.sizeTotal.cy += size.cy;
+        layout.sizeTotal.cx = std::max(layout.sizeTotal.cx, size.cx);
+        if ((m_dwStyle & CBRS_ALIGN_TOP) != 0)
+            layout.rect.top += size.cy;
+        else
+            rect.top = rect.bottom - size.cy, layout.rect.bottom -= size.cy;
+    } else {
+        layout.sizeTotal.cx += size.cx;
+        layout.sizeTotal.cy = std::max(layout.sizeTotal.cy, size.cy);
+        if ((m_dwStyle & CBRS_ALIGN_LEFT) != 0)
+            layout.rect.left += size.cx;
+        else
+            rect.left = rect.right - size.cx, layout.rect.right -= size.cx;
+    }
+    rect.right = rect.left + size.cx;
+    rect.bottom = rect.top + size.cy;
+    if (layout.hDWP != nullptr)
+        reposition_window(layout, m_hWnd, rect);
+    return 0;
+}
+
+LRESULT CControlBar::OnIdleUpdateCmdUI(WPARAM wParam, LPARAM) {
+    Undelay();
+    if (!IsWindowVisible())
+        return 0;
+    CWnd* owner = GetOwner();
+    auto* target = static_cast<CFrameWnd*>(owner != nullptr && owner->IsFrameWnd() ? owner : GetParentFrame());
+    if (target != nullptr)
+        OnUpdateCmdUI(target, static_cast<BOOL>(wParam));
+    return 0;
+}
+
+void CControlBar::OnInitialUpdate() {
+    OnIdleUpdateCmdUI(TRUE, 0);
+}
+
+// What the bar does not handle is its owner's business.
+LRESULT CControlBar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_COMMAND:
+    case WM_NOTIFY:
+    case WM_DRAWITEM:
+    case WM_MEASUREITEM:
+    case WM_DELETEITEM:
+    case WM_COMPAREITEM:
+    case WM_CHARTOITEM:
+    case WM_VKEYTOITEM: {
+        LRESULT result = 0;
+        if (OnWndMsg(message, wParam, lParam, &result))
+            return result;
+        CWnd* owner = GetOwner();
+        return owner != nullptr ? owner->SendMessage(message, wParam, lParam) : 0;
+    }
+    default:
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+}
+
+HBRUSH CControlBar::OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor) {
+    LRESULT brush = 0;
+    if (pWnd != nullptr && pWnd->SendChildNotifyLastMsg(&brush))
+        return reinterpret_cast<HBRUSH>(brush);
+    return reinterpret_cast<HBRUSH>(Default());
+}
+
+INT_PTR CControlBar::ItemAt(CPoint point) const {
+    const HWND child = ::ChildWindowFromPointEx(m_hWnd, point, CWP_SKIPINVISIBLE);
+    return child != nullptr && child != m_hWnd ? ::GetDlgCtrlID(child) : -1;
+}
+
+BOOL CControlBar::SetStatusText(INT_PTR nHit) {
+    const INT_PTR before = std::exchange(m_status_item, nHit);
+    CFrameWnd* frame = before != nHit ? GetTopLevelFrame() : nullptr;
+    if (frame == nullptr)
+        return FALSE;
+    if (nHit == -1)
+        frame->SendMessage(WM_POPMESSAGESTRING, AFX_IDS_IDLEMESSAGE);
+    else
+        frame->SendMessage(WM_SETMESSAGESTRING, static_cast<WPARAM>(nHit));
+    return TRUE;
+}
+
+BOOL CControlBar::PreTranslateMessage(MSG* pMsg) {
+    if (CWnd::PreTranslateMessage(pMsg))
+        return TRUE;
+    if (pMsg->message == WM_MOUSEMOVE && (m_dwStyle & CBRS_FLYBY) != 0) {
+        CPoint point(pMsg->lParam);
+        ::MapWindowPoints(pMsg->hwnd, m_hWnd, &point, 1);
+        SetStatusText(ItemAt(point));
+        TRACKMOUSEEVENT leaving{sizeof(leaving), TME_LEAVE, m_hWnd, 0};
+        ::TrackMouseEvent(&leaving);
+    } else if (pMsg->message == WM_LBUTTONDOWN) {
+        SetStatusText(-1);
+    }
+    // The keys of a dialog among its controls.
+    return (GetStyle() & WS_CHILD) != 0 && ::GetTopWindow(m_hWnd) != nullptr && !IsDockBar() && pMsg->hwnd != m_hWnd &&
+           PreTranslateInput(pMsg);
+}
+
+void CControlBar::OnMouseLeave() {
+    SetStatusText(-1);
+    Default();
+}
+
+// The bar is dragged by its gripper, or its empty parts, to another side.
+void CControlBar::OnLButtonDown(UINT nFlags, CPoint point) {
+    if (m_pDockBar == nullptr || ItemAt(point) != -1)
+        return CWnd::OnLButtonDown(nFlags, point);
+    ClientToScreen(&point);
+    if (!::DragDetect(m_hWnd, point))
+        return;
+    ::SetCapture(m_hWnd);
+    MSG message;
+    while (::GetCapture() == m_hWnd && ::GetMessage(&message, nullptr, 0, 0) > 0) {
+        if (message.message == WM_LBUTTONUP) {
+            ::ReleaseCapture();
+            DropAt(message.pt);
+        } else if (message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE) {
+            ::ReleaseCapture();
+        } else if (message.message != WM_MOUSEMOVE) {
+            ::DispatchMessage(&message);
+        }
+    }
+}
+
+void CControlBar::DropAt(CPoint screen) {
+    CRect rect, bar;
+    m_pDockSite->GetClientRect(rect);
+    m_pDockSite->ClientToScreen(&rect);
+    GetWindowRect(bar);
+    const struct {
+        DWORD side;
+        UINT id;
+        int distance;
+    } sides[] = {{CBRS_ALIGN_TOP, AFX_IDW_DOCKBAR_TOP, std::abs(screen.y - rect.top)},
+                 {CBRS_ALIGN_BOTTOM, AFX_IDW_DOCKBAR_BOTTOM, std::abs(rect.bottom - screen.y)},
+                 {CBRS_ALIGN_LEFT, AFX_IDW_DOCKBAR_LEFT, std::abs(screen.x - rect.left)},
+                 {CBRS_ALIGN_RIGHT, AFX_IDW_DOCKBAR_RIGHT, std::abs(rect.right - screen.x)}};
+    const auto* nearest = std::min_element(std::begin(sides), std::end(sides),
+                                           [](const auto& a, const auto& b) { return a.distance < b.distance; });
+    if ((m_dwDockStyle & nearest->side) == 0 || m_pDockSite->GetControlBar(nearest->id) == nullptr)
+        return;
+    const CRect place(screen, bar.Size());
+    m_pDockSite->DockControlBar(this, nearest->id, place);
+    m_pDockSite->RecalcLayout();
+}

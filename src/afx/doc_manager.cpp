@@ -1,0 +1,230 @@
+// The program's templates, and the commands that make and open documents.
+#include "afx_app.h"
+#include "afx_command_line.h"
+#include "afx_doc_template.h"
+#include "afx_document.h"
+#include "afx_frame.h"
+#include "afxdlgs.h"
+#include "afxres.h"
+#include "file_names.h"
+#include "position_list.h"
+
+IMPLEMENT_DYNAMIC(CDocManager, CObject)
+
+CDocManager::CDocManager() = default;
+
+CDocManager::~CDocManager() {
+    for (CDocTemplate* one : m_templates)
+        delete one;
+}
+
+void CDocManager::AddDocTemplate(CDocTemplate* pTemplate) {
+    pTemplate->LoadTemplate();
+    m_templates.push_back(pTemplate);
+}
+
+POSITION CDocManager::GetFirstDocTemplatePosition() const {
+    return first_position(m_templates);
+}
+
+CDocTemplate* CDocManager::GetNextDocTemplate(POSITION& pos) const {
+    return next_at(m_templates, pos);
+}
+
+BOOL CDocManager::SaveAllModified() {
+    for (CDocTemplate* one : m_templates) {
+        if (!one->SaveAllModified())
+            return FALSE;
+    }
+    return TRUE;
+}
+
+void CDocManager::CloseAllDocuments(BOOL bEndSession) {
+    for (CDocTemplate* one : m_templates)
+        one->CloseAllDocuments(bEndSession);
+}
+
+int CDocManager::GetOpenDocumentCount() {
+    int count = 0;
+    for (CDocTemplate* one : m_templates) {
+        for (POSITION at = one->GetFirstDocPosition(); at != nullptr; ++count)
+            one->GetNextDoc(at);
+    }
+    return count;
+}
+
+CDocTemplate* CDocManager::GetBestTemplate(LPCTSTR lpszFileName) {
+    CDocTemplate* best = nullptr;
+    auto most = CDocTemplate::noAttempt;
+    for (CDocTemplate* one : m_templates) {
+        CDocument* open = nullptr;
+        const auto confidence = one->MatchDocType(lpszFileName, open);
+        if (confidence > most) {
+            most = confidence;
+            best = one;
+        }
+    }
+    return best;
+}
+
+CDocument* CDocManager::OpenDocumentFile(LPCTSTR lpszFileName) {
+    return OpenDocumentFile(lpszFileName, TRUE);
+}
+
+CDocument* CDocManager::OpenDocumentFile(LPCTSTR lpszFileName, BOOL bAddToMRU) {
+    CString name = lpszFileName;
+    if (name.GetLength() > 1 && name[0] == '"') // as the shell quotes it
+        name = name.Mid(1, name.GetLength() - (name.Right(1) == "\"" ? 2 : 1));
+    const CString path = full_path_of(name);
+    CDocTemplate* best = GetBestTemplate(path);
+    if (best == nullptr) {
+        AfxMessageBox(AFX_IDP_FAILED_TO_OPEN_DOC);
+        return nullptr;
+    }
+    CDocument* open = nullptr;
+    if (best->MatchDocType(path, open) != CDocTemplate::yesAlreadyOpen)
+        return best->OpenDocumentFile(path, bAddToMRU, TRUE);
+    if (POSITION at = open->GetFirstViewPosition()) {
+        CFrameWnd* frame = open->GetNextView(at)->GetParentFrame();
+        if (frame != nullptr)
+            frame->ActivateFrame();
+        auto* main = DYNAMIC_DOWNCAST(CFrameWnd, AfxGetMainWnd());
+        if (main != nullptr && main != frame)
+            main->ActivateFrame();
+    }
+    return open;
+}
+
+// The first: there is no box that asks.
+CDocTemplate* CDocManager::ChooseTemplate() {
+    if (m_templates.empty())
+        AfxMessageBox(AFX_IDP_FAILED_TO_CREATE_DOC);
+    return m_templates.empty() ? nullptr : m_templates.front();
+}
+
+void CDocManager::OnFileNew() {
+    if (CDocTemplate* chosen = ChooseTemplate())
+        chosen->OpenDocumentFile(nullptr);
+}
+
+void CDocManager::OnFileOpen() {
+    CString name;
+    if (DoPromptFileName(name, AFX_IDS_OPENFILE, OFN_HIDEREADONLY | OFN_FILEMUSTEXIST, TRUE, nullptr))
+        AfxGetApp()->OpenDocumentFile(name);
+}
+
+namespace {
+
+void append_filter(CString& filter, const CDocTemplate& from, CString* default_extension) {
+    CString name, extension;
+    if (!from.GetDocString(extension, CDocTemplate::filterExt) || extension.IsEmpty() ||
+        !from.GetDocString(name, CDocTemplate::filterName) || name.IsEmpty())
+        return;
+    filter += name + "|*" + extension + "|";
+    if (default_extension->IsEmpty())
+        *default_extension = extension.Mid(1);
+}
+
+} // namespace
+
+BOOL CDocManager::DoPromptFileName(CString& fileName, UINT nIDSTitle, DWORD lFlags, BOOL bOpenFileDialog,
+                                   CDocTemplate* pTemplate) {
+    CString title, filter, extension, all;
+    if (pTemplate != nullptr)
+        append_filter(filter, *pTemplate, &extension);
+    for (CDocTemplate* one : m_templates) {
+        if (pTemplate == nullptr)
+            append_filter(filter, *one, &extension);
+    }
+    all.LoadString(AFX_IDS_ALLFILTER);
+    filter += all + "|*.*||";
+    title.LoadString(nIDSTitle);
+    CFileDialog dialog(bOpenFileDialog, extension.IsEmpty() ? nullptr : extension.GetString(), fileName,
+                       lFlags | OFN_OVERWRITEPROMPT, filter);
+    dialog.m_ofn.lpstrTitle = title;
+    if (dialog.DoModal() != IDOK)
+        return FALSE;
+    fileName = dialog.GetPathName();
+    return TRUE;
+}
+
+namespace {
+
+CDocManager& manager_of(CWinApp& app) {
+    if (app.m_pDocManager == nullptr)
+        app.m_pDocManager = new CDocManager;
+    return *app.m_pDocManager;
+}
+
+} // namespace
+
+void CWinApp::AddDocTemplate(CDocTemplate* pTemplate) {
+    manager_of(*this).AddDocTemplate(pTemplate);
+}
+
+POSITION CWinApp::GetFirstDocTemplatePosition() const {
+    return m_pDocManager != nullptr ? m_pDocManager->GetFirstDocTemplatePosition() : nullptr;
+}
+
+CDocTemplate* CWinApp::GetNextDocTemplate(POSITION& pos) const {
+    return m_pDocManager->GetNextDocTemplate(pos);
+}
+
+CDocument* CWinApp::OpenDocumentFile(LPCTSTR lpszFileName) {
+    return m_pDocManager != nullptr ? m_pDocManager->OpenDocumentFile(lpszFileName) : nullptr;
+}
+
+int CWinApp::GetOpenDocumentCount() {
+    return m_pDocManager != nullptr ? m_pDocManager->GetOpenDocumentCount() : 0;
+}
+
+BOOL CWinApp::SaveAllModified() {
+    return m_pDocManager == nullptr || m_pDocManager->SaveAllModified();
+}
+
+void CWinApp::CloseAllDocuments(BOOL bEndSession) {
+    if (m_pDocManager != nullptr)
+        m_pDocManager->CloseAllDocuments(bEndSession);
+}
+
+BOOL CWinApp::DoPromptFileName(CString& fileName, UINT nIDSTitle, DWORD lFlags, BOOL bOpenFileDialog,
+                               CDocTemplate* pTemplate) {
+    return manager_of(*this).DoPromptFileName(fileName, nIDSTitle, lFlags, bOpenFileDialog, pTemplate);
+}
+
+void CWinApp::OnFileNew() {
+    if (m_pDocManager != nullptr)
+        m_pDocManager->OnFileNew();
+}
+
+void CWinApp::OnFileOpen() {
+    if (m_pDocManager != nullptr)
+        m_pDocManager->OnFileOpen();
+}
+
+BOOL CWinApp::ProcessShellCommand(CCommandLineInfo& rCmdInfo) {
+    switch (rCmdInfo.m_nShellCommand) {
+    case CCommandLineInfo::FileNew:
+        if (!OnCmdMsg(ID_FILE_NEW, CN_COMMAND, nullptr, nullptr))
+            OnFileNew();
+        return m_pMainWnd != nullptr;
+    case CCommandLineInfo::FileOpen:
+        return OpenDocumentFile(rCmdInfo.m_strFileName) != nullptr;
+    case CCommandLineInfo::FilePrint:
+    case CCommandLineInfo::FilePrintTo:
+        m_nCmdShow = SW_HIDE;
+        m_pCmdInfo = &rCmdInfo; // the printing asks nobody
+        if (OpenDocumentFile(rCmdInfo.m_strFileName) != nullptr)
+            m_pMainWnd->SendMessage(WM_COMMAND, ID_FILE_PRINT_DIRECT);
+        m_pCmdInfo = nullptr;
+        return FALSE;
+    case CCommandLineInfo::AppRegister:
+        RegisterShellFileTypes();
+        return FALSE;
+    case CCommandLineInfo::AppUnregister:
+        UnregisterShellFileTypes();
+        return FALSE;
+    default:
+        return TRUE;
+    }
+}

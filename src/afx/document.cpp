@@ -1,0 +1,173 @@
+#include "afx_document.h"
+#include "afx_app.h"
+#include "afx_doc_template.h"
+#include "afx_frame.h"
+#include "afx_view.h"
+#include "afxmsg_.h"
+#include "afxpriv.h"
+#include "file_names.h"
+#include "position_list.h"
+
+#include <memory>
+#include <utility>
+
+IMPLEMENT_DYNAMIC(CDocument, CCmdTarget)
+
+BEGIN_MESSAGE_MAP(CDocument, CCmdTarget)
+ON_COMMAND(ID_FILE_CLOSE, &CDocument::OnFileClose)
+ON_COMMAND(ID_FILE_SAVE, &CDocument::OnFileSave)
+ON_COMMAND(ID_FILE_SAVE_AS, &CDocument::OnFileSaveAs)
+END_MESSAGE_MAP()
+
+CDocument::CDocument() = default;
+
+CDocument::~CDocument() {
+    DisconnectViews();
+    if (m_pDocTemplate != nullptr)
+        m_pDocTemplate->RemoveDocument(this);
+}
+
+void CDocument::DisconnectViews() {
+    for (CView* view : std::exchange(m_views, {}))
+        view->m_pDocument = nullptr;
+}
+
+void CDocument::AddView(CView* pView) {
+    m_views.push_back(pView);
+    pView->m_pDocument = this;
+    OnChangedViewList();
+}
+
+void CDocument::RemoveView(CView* pView) {
+    std::erase(m_views, pView);
+    pView->m_pDocument = nullptr;
+    OnChangedViewList(); // may delete the document
+}
+
+POSITION CDocument::GetFirstViewPosition() const {
+    return first_position(m_views);
+}
+
+CView* CDocument::GetNextView(POSITION& rPosition) const {
+    return next_at(m_views, rPosition);
+}
+
+// A document nobody sees any more goes, but not while its frames are being closed for it.
+void CDocument::OnChangedViewList() {
+    if (m_views.empty() && m_bAutoDelete && !m_closing)
+        OnCloseDocument();
+    else
+        UpdateFrameCounts();
+}
+
+// Numbers the frames that show the document.
+void CDocument::UpdateFrameCounts() {
+    std::vector<CFrameWnd*> frames;
+    for (CView* view : m_views) {
+        CFrameWnd* frame = ::IsWindow(view->GetSafeHwnd()) ? view->GetParentFrame() : nullptr;
+        if (frame != nullptr && std::find(frames.begin(), frames.end(), frame) == frames.end())
+            frames.push_back(frame);
+    }
+    int number = frames.size() == 1 ? 0 : 1;
+    for (CFrameWnd* frame : frames) {
+        if (std::exchange(frame->m_nWindow, number) != number)
+            frame->OnUpdateFrameTitle(TRUE);
+        ++number;
+    }
+}
+
+void CDocument::UpdateAllViews(CView* pSender, LPARAM lHint, CObject* pHint) {
+    for (POSITION at = GetFirstViewPosition(); at != nullptr;) {
+        CView* view = GetNextView(at);
+        if (view != nullptr && view != pSender)
+            view->OnUpdate(pSender, lHint, pHint);
+    }
+}
+
+void CDocument::SendInitialUpdate() {
+    for (POSITION at = GetFirstViewPosition(); at != nullptr;) {
+        if (CView* view = GetNextView(at))
+            view->OnInitialUpdate();
+    }
+}
+
+void CDocument::SetTitle(LPCTSTR lpszTitle) {
+    m_strTitle = lpszTitle;
+    for (CView* view : m_views) {
+        if (CFrameWnd* frame = view->GetParentFrame())
+            frame->OnUpdateFrameTitle(TRUE);
+    }
+}
+
+void CDocument::SetPathName(LPCTSTR lpszPathName, BOOL bAddToMRU) {
+    m_strPathName = full_path_of(lpszPathName);
+    SetTitle(title_of(m_strPathName));
+    if (bAddToMRU && AfxGetApp() != nullptr)
+        AfxGetApp()->AddToRecentFileList(m_strPathName);
+}
+
+void CDocument::ClearPathName() {
+    m_strPathName.Empty();
+}
+
+void CDocument::DeleteContents() {}
+
+BOOL CDocument::OnNewDocument() {
+    DeleteContents();
+    m_bModified = FALSE;
+    m_strPathName.Empty();
+    return TRUE;
+}
+
+void CDocument::OnIdle() {}
+
+HMENU CDocument::GetDefaultMenu() {
+    return nullptr;
+}
+
+HACCEL CDocument::GetDefaultAccelerator() {
+    return nullptr;
+}
+
+BOOL CDocument::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
+    return CCmdTarget::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo) ||
+           (m_pDocTemplate != nullptr && m_pDocTemplate->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo));
+}
+
+// Its frames go first, then the document itself.
+void CDocument::OnCloseDocument() {
+    const bool outer = std::exchange(m_closing, true);
+    if (outer)
+        return;
+    while (!m_views.empty()) {
+        CView* view = m_views.front();
+        CFrameWnd* frame = view->GetParentFrame();
+        if (frame == nullptr) { // a view that nobody shows in a frame
+            view->m_pDocument = nullptr;
+            m_views.erase(m_views.begin());
+            continue;
+        }
+        PreCloseFrame(frame);
+        frame->DestroyWindow();
+        if (!m_views.empty() && m_views.front() == view) { // a view that outlives its frame
+            m_views.erase(m_views.begin());
+            view->m_pDocument = nullptr;
+        }
+    }
+    DeleteContents();
+    m_closing = false;
+    if (m_bAutoDelete)
+        delete this;
+}
+
+void CDocument::PreCloseFrame(CFrameWnd*) {}
+
+// Only its last frame has to ask.
+BOOL CDocument::CanCloseFrame(CFrameWnd* pFrame) {
+    for (CView* view : m_views) {
+        CFrameWnd* frame = view->GetParentFrame();
+        if (frame != nullptr && frame != pFrame)
+            return TRUE;
+    }
+    return SaveModified();
+}

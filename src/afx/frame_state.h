@@ -1,0 +1,23 @@
+// The frame windows of a thread.
+#pragma once
+
+#include "thread_state.h"
+
+#include <vector>
+
+class CFrameWnd;
+
+struct frame_state {
+    std::vector<CFrameWnd*> frames;
+};
+
+inline frame_state& frames_of_this_thread() {
+    return of_this_thread<frame_state>();
+}
+
+// What a thread does when it becomes idle: has the bars of its visible windows ask for the state of their commands.
+void update_frames(CWnd* main_window);
+
+// Moves a bar, together with the others of its layout.
+struct AFX_SIZEPARENTPARAMS;
+void reposition_window(AFX_SIZEPARENTPARAMS& layout, HWND hwnd, const RECT& rect);

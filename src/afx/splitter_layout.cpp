@@ -1,0 +1,250 @@
+// Splitters: places of panes and bars, painting, scrolling.
+#include "afx_splitter.h"
+#include "afx_controls.h"
+#include "afx_view.h"
+#include "afxmsg_.h"
+
+#include <algorithm>
+#include <memory>
+
+namespace {
+
+int bar_breadth(bool vertical) {
+    return ::GetSystemMetrics(vertical ? SM_CXVSCROLL : SM_CYHSCROLL);
+}
+
+constexpr int box_size = 7; // what the user pulls the first bar out of
+
+// Every line gets its wish; the last one gets what is left. Those that would be smaller than allowed get nothing.
+template <class Line> void share(std::vector<Line>& lines, int count, int room, int gap) {
+    for (int i = 0; i < count; ++i) {
+        Line& at = lines[static_cast<std::size_t>(i)];
+        at.now = i + 1 < count ? std::clamp(at.ideal, 0, std::max(room, 0)) : std::max(room, 0);
+        if (at.now < at.least)
+            at.now = 0;
+        room -= at.now + (i + 1 < count ? gap : 0);
+    }
+}
+
+} // namespace
+
+CRect CSplitterWnd::Inside() const {
+    CRect rect;
+    GetClientRect(rect);
+    if ((m_scroll_style & WS_VSCROLL) != 0)
+        rect.right = std::max<LONG>(rect.right - bar_breadth(true), 0);
+    if ((m_scroll_style & WS_HSCROLL) != 0)
+        rect.bottom = std::max<LONG>(rect.bottom - bar_breadth(false), 0);
+    return rect;
+}
+
+// Where the line begins.
+int CSplitterWnd::EndOf(const std::vector<line>& lines, int index, int gap) const {
+    int at = 0;
+    for (int i = 0; i < index; ++i)
+        at += lines[static_cast<std::size_t>(i)].now + gap;
+    return at;
+}
+
+void CSplitterWnd::RecalcLayout() {
+    if (m_hWnd == nullptr || m_nRows == 0 || m_nCols == 0)
+        return;
+    const CRect inside = Inside();
+    if (inside.Width() <= 0 || inside.Height() <= 0)
+        return; // iconic, or not laid out yet
+    share(m_row_info, m_nRows, inside.Height(), m_cySplitterGap);
+    share(m_column_info, m_nCols, inside.Width(), m_cxSplitterGap);
+    PlacePanes(inside);
+    PlaceScrollBars(inside);
+    Invalidate();
+}
+
+void CSplitterWnd::PlacePanes(const CRect&) {
+    for (int row = 0; row < m_nRows; ++row) {
+        for (int column = 0; column < m_nCols; ++column) {
+            CWnd* pane = GetPane(row, column);
+            if (pane == nullptr)
+                continue; // of a static splitter that is not complete yet
+            const int x = EndOf(m_column_info, column, m_cxSplitterGap), y = EndOf(m_row_info, row, m_cySplitterGap);
+            pane->MoveWindow(x, y, m_column_info[static_cast<std::size_t>(column)].now,
+                             m_row_info[static_cast<std::size_t>(row)].now);
+        }
+    }
+}
+
+void CSplitterWnd::PlaceScrollBars(const CRect& inside) {
+    for (int row = 0; (m_scroll_style & WS_VSCROLL) != 0 && row < m_nRows; ++row) {
+        const int box = row == 0 && ShowsBox(true) ? box_size : 0;
+        const int y = EndOf(m_row_info, row, m_cySplitterGap) + box;
+        if (CWnd* bar = ScrollBarAt(AFX_IDW_VSCROLL_FIRST, row))
+            bar->MoveWindow(inside.right, y, bar_breadth(true), m_row_info[static_cast<std::size_t>(row)].now - box);
+    }
+    for (int column = 0; (m_scroll_style & WS_HSCROLL) != 0 && column < m_nCols; ++column) {
+        const int box = column == 0 && ShowsBox(false) ? box_size : 0;
+        const int x = EndOf(m_column_info, column, m_cxSplitterGap) + box;
+        if (CWnd* bar = ScrollBarAt(AFX_IDW_HSCROLL_FIRST, column))
+            bar->MoveWindow(x, inside.bottom, m_column_info[static_cast<std::size_t>(column)].now - box,
+                            bar_breadth(false));
+    }
+}
+
+void CSplitterWnd::OnSize(UINT nType, int cx, int cy) {
+    if (nType != SIZE_MINIMIZED && cx > 0 && cy > 0)
+        RecalcLayout();
+    CWnd::OnSize(nType, cx, cy);
+}
+
+bool CSplitterWnd::ShowsBox(bool row) const {
+    return (GetStyle() & SPLS_DYNAMIC_SPLIT) != 0 && (row ? m_nRows < m_nMaxRows : m_nCols < m_nMaxCols);
+}
+
+// At the end of the shared scroll bar; in the corner where there is none.
+CRect CSplitterWnd::BoxRect(bool row) const {
+    const CRect inside = Inside();
+    if (row) {
+        const int breadth = (m_scroll_style & WS_VSCROLL) != 0 ? bar_breadth(true) : box_size;
+        const int x = (m_scroll_style & WS_VSCROLL) != 0 ? inside.right : inside.right - breadth;
+        return CRect(x, 0, x + breadth, box_size);
+    }
+    const int breadth = (m_scroll_style & WS_HSCROLL) != 0 ? bar_breadth(false) : box_size;
+    const int y = (m_scroll_style & WS_HSCROLL) != 0 ? inside.bottom : inside.bottom - breadth;
+    return CRect(0, y, box_size, y + breadth);
+}
+
+CRect CSplitterWnd::BarRect(const hit& at) const {
+    const CRect inside = Inside();
+    if (at.what == hit::row_bar) {
+        const int y = EndOf(m_row_info, at.index + 1, m_cySplitterGap) - m_cySplitterGap;
+        return CRect(inside.left, y, inside.right, y + m_cySplitter);
+    }
+    const int x = EndOf(m_column_info, at.index + 1, m_cxSplitterGap) - m_cxSplitterGap;
+    return CRect(x, inside.top, x + m_cxSplitter, inside.bottom);
+}
+
+void CSplitterWnd::OnPaint() {
+    CPaintDC dc(this);
+    CRect client;
+    GetClientRect(client);
+    const CRect inside = Inside();
+    ::FillRect(dc, CRect(inside.right, inside.bottom, client.right, client.bottom), ::GetSysColorBrush(COLOR_BTNFACE));
+    for (bool row : {true, false}) {
+        const CRect strip = row ? CRect(inside.right, 0, client.right, inside.bottom)
+                                : CRect(0, inside.bottom, inside.right, client.bottom);
+        ::FillRect(dc, strip, ::GetSysColorBrush(COLOR_BTNFACE));
+        if (ShowsBox(row))
+            OnDrawSplitter(&dc, splitBox, BoxRect(row));
+    }
+    for (int row = 0; row + 1 < m_nRows; ++row)
+        OnDrawSplitter(&dc, splitBar, BarRect({hit::row_bar, row, 0}));
+    for (int column = 0; column + 1 < m_nCols; ++column)
+        OnDrawSplitter(&dc, splitBar, BarRect({hit::column_bar, column, 0}));
+}
+
+BOOL CSplitterWnd::OnEraseBkgnd(CDC*) {
+    return TRUE; // panes and bars cover everything
+}
+
+void CSplitterWnd::OnDrawSplitter(CDC* pDC, ESplitType nType, const CRect& rect) {
+    CRect inside = rect;
+    ::FillRect(*pDC, inside, ::GetSysColorBrush(COLOR_BTNFACE));
+    if (nType != splitBorder)
+        ::DrawEdge(*pDC, inside, nType == splitBox ? EDGE_RAISED : BDR_RAISEDINNER, BF_RECT);
+}
+
+DWORD CSplitterWnd::GetScrollStyle() const {
+    return m_scroll_style;
+}
+
+CWnd* CSplitterWnd::ScrollBarAt(UINT first, int index) const {
+    const HWND bar = ::GetDlgItem(m_hWnd, static_cast<int>(first) + index);
+    return bar != nullptr ? FromHandle(bar) : nullptr;
+}
+
+void CSplitterWnd::SetScrollStyle(DWORD dwStyle) {
+    m_scroll_style = dwStyle & (WS_HSCROLL | WS_VSCROLL);
+    for (int row = 0; row < m_nRows; ++row) {
+        CWnd* bar = ScrollBarAt(AFX_IDW_VSCROLL_FIRST, row);
+        if ((m_scroll_style & WS_VSCROLL) != 0 && bar == nullptr)
+            CreateScrollBarCtrl(SBS_VERT, AFX_IDW_VSCROLL_FIRST + static_cast<UINT>(row));
+        else if (bar != nullptr)
+            bar->ShowWindow((m_scroll_style & WS_VSCROLL) != 0 ? SW_SHOW : SW_HIDE);
+    }
+    for (int column = 0; column < m_nCols; ++column) {
+        CWnd* bar = ScrollBarAt(AFX_IDW_HSCROLL_FIRST, column);
+        if ((m_scroll_style & WS_HSCROLL) != 0 && bar == nullptr)
+            CreateScrollBarCtrl(SBS_HORZ, AFX_IDW_HSCROLL_FIRST + static_cast<UINT>(column));
+        else if (bar != nullptr)
+            bar->ShowWindow((m_scroll_style & WS_HSCROLL) != 0 ? SW_SHOW : SW_HIDE);
+    }
+}
+
+BOOL CSplitterWnd::CreateScrollBarCtrl(DWORD dwStyle, UINT nID) {
+    return ::CreateWindow("SCROLLBAR", nullptr, dwStyle | WS_VISIBLE | WS_CHILD, 0, 0, 1, 1, m_hWnd,
+                          reinterpret_cast<HMENU>(static_cast<UINT_PTR>(nID)), AfxGetInstanceHandle(),
+                          nullptr) != nullptr;
+}
+
+// A shared bar moves the panes of its row or column.
+void CSplitterWnd::OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar) {
+    const int column = static_cast<WORD>(pScrollBar->GetDlgCtrlID()) - static_cast<int>(AFX_IDW_HSCROLL_FIRST);
+    if (column < 0 || column >= m_nCols)
+        return;
+    const int before = pScrollBar->GetScrollPos();
+    for (int row = 0; row < m_nRows; ++row) {
+        pScrollBar->SetScrollPos(before, FALSE); // each begins where the first did
+        if (CWnd* pane = GetPane(row, column))
+            pane->SendMessage(WM_HSCROLL, MAKELONG(nSBCode, nPos), reinterpret_cast<LPARAM>(pScrollBar->m_hWnd));
+    }
+}
+
+void CSplitterWnd::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar) {
+    const int row = static_cast<WORD>(pScrollBar->GetDlgCtrlID()) - static_cast<int>(AFX_IDW_VSCROLL_FIRST);
+    if (row < 0 || row >= m_nRows)
+        return;
+    const int before = pScrollBar->GetScrollPos();
+    for (int column = 0; column < m_nCols; ++column) {
+        pScrollBar->SetScrollPos(before, FALSE);
+        if (CWnd* pane = GetPane(row, column))
+            pane->SendMessage(WM_VSCROLL, MAKELONG(nSBCode, nPos), reinterpret_cast<LPARAM>(pScrollBar->m_hWnd));
+    }
+}
+
+BOOL CSplitterWnd::DoScroll(CView* pViewFrom, UINT nScrollCode, BOOL bDoScroll) {
+    int row = 0, column = 0;
+    if (!IsChildPane(pViewFrom, &row, &column))
+        return FALSE;
+    BOOL scrolled = FALSE;
+    const auto scroll = [&](CWnd* pane, UINT code) {
+        auto* view = DYNAMIC_DOWNCAST(CView, pane);
+        scrolled = (view != nullptr && view->OnScroll(code, 0, bDoScroll)) || scrolled;
+    };
+    for (int i = 0; i < m_nCols && HIBYTE(nScrollCode) != 0xFF; ++i)
+        scroll(GetPane(row, i), MAKEWORD(0xFF, HIBYTE(nScrollCode)));
+    for (int i = 0; i < m_nRows && LOBYTE(nScrollCode) != 0xFF; ++i)
+        scroll(GetPane(i, column), MAKEWORD(LOBYTE(nScrollCode), 0xFF));
+    return scrolled;
+}
+
+BOOL CSplitterWnd::DoScrollBy(CView* pViewFrom, CSize sizeScroll, BOOL bDoScroll) {
+    int row = 0, column = 0;
+    if (!IsChildPane(pViewFrom, &row, &column))
+        return FALSE;
+    BOOL scrolled = FALSE;
+    for (int i = 0; i < m_nRows; ++i) {
+        for (int j = 0; j < m_nCols; ++j) {
+            const CSize by(j == column ? sizeScroll.cx : 0, i == row ? sizeScroll.cy : 0);
+            auto* view = DYNAMIC_DOWNCAST(CView, GetPane(i, j));
+            if (view != nullptr && (by.cx != 0 || by.cy != 0))
+                scrolled = view->OnScrollBy(by, bDoScroll) || scrolled;
+        }
+    }
+    return scrolled;
+}
+
+// The wheel turns the active pane.
+BOOL CSplitterWnd::OnMouseWheel(UINT nFlags, short zDelta, CPoint pt) {
+    CWnd* pane = GetActivePane();
+    if (pane == nullptr)
+        return FALSE;
+    return pane->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(nFlags, zDelta), MAKELPARAM(pt.x, pt.y)) != 0;
+}

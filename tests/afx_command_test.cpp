@@ -1,0 +1,357 @@
+// The ways of messages and commands: map entries, routing, reflection, the update of menus.
+#include "afx_test_app.h"
+
+#include <afxpriv.h>
+
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+using Texts = std::vector<std::string>;
+
+namespace {
+
+UINT registered = ::RegisterWindowMessage("afx_command_test");
+
+std::string text(const char* format, ...) {
+    char buffer[128];
+    va_list arguments;
+    va_start(arguments, format);
+    std::vsnprintf(buffer, sizeof(buffer), format, arguments);
+    va_end(arguments);
+    return buffer;
+}
+
+// Writes down each message as its handler sees it.
+class unpacker : public CWnd {
+public:
+    Texts log;
+    using CWnd::WindowProc;
+
+protected:
+    void note(const char* name, long long a = -1, long long b = -1, long long c = -1) {
+        log.push_back(text("%s %lld %lld %lld", name, a, b, c));
+    }
+    long long is(CWnd* wnd) { return wnd == this; }
+    void OnSize(UINT type, int cx, int cy) { note("size", type, cx, cy); }
+    void OnMove(int x, int y) { note("move", x, y); }
+    void OnKeyDown(UINT key, UINT count, UINT flags) { note("key", key, count, flags); }
+    void OnMouseMove(UINT flags, CPoint at) { note("mouse", flags, at.x, at.y); }
+    void OnNcLButtonDown(UINT hit, CPoint at) { note("nc", hit, at.x, at.y); }
+    BOOL OnMouseWheel(UINT flags, short delta, CPoint at) { return note("wheel", flags, delta, at.y), TRUE; }
+    void OnActivate(UINT state, CWnd* other, BOOL minimized) { note("activate", state, is(other), minimized); }
+    void OnShowWindow(BOOL show, UINT status) { note("show", show, status); }
+    void OnSetFocus(CWnd* old) { note("focus", is(old)); }
+    void OnCaptureChanged(CWnd* wnd) { note("capture", is(wnd)); }
+    void OnContextMenu(CWnd* wnd, CPoint at) { note("context", is(wnd), at.x, at.y); }
+    void OnSysCommand(UINT id, LPARAM at) { note("sys", id, at); }
+    BOOL OnSetCursor(CWnd* wnd, UINT hit, UINT message) { return note("cursor", is(wnd), hit, message), TRUE; }
+    int OnMouseActivate(CWnd* top, UINT hit, UINT message) { return note("click", is(top), hit, message), 3; }
+    BOOL OnNcActivate(BOOL active) { return note("ncactivate", active), TRUE; }
+    LRESULT OnNcHitTest(CPoint at) { return note("hit", at.x, at.y), 7; }
+    UINT OnGetDlgCode() { return note("code"), DLGC_WANTARROWS; }
+    BOOL OnQueryEndSession() { return note("query"), FALSE; }
+    void OnMenuSelect(UINT id, UINT flags, HMENU) { note("select", id, flags); }
+    void OnInitMenuPopup(CMenu* menu, UINT index, BOOL system) { note("popup", menu != nullptr, index, system); }
+    void OnGetMinMaxInfo(MINMAXINFO* info) { info->ptMinTrackSize = {11, 12}; }
+    void OnTimer(UINT_PTR id) { note("timer", static_cast<long long>(id)); }
+    void OnSettingChange(UINT flags, LPCTSTR section) { log.push_back(text("setting %u %s", flags, section)); }
+    BOOL OnCopyData(CWnd* from, COPYDATASTRUCT* data) { return note("copy", is(from), data->cbData), TRUE; }
+    void OnDisplayChange(UINT depth, int cx, int cy) { note("display", depth, cx, cy); }
+    void OnParentNotify(UINT message, LPARAM) { note("parent", LOWORD(message), HIWORD(message)); }
+    LRESULT OnOwn(WPARAM w, LPARAM l) { return note("own", static_cast<long long>(w), l), 42; }
+    LRESULT OnRegistered(WPARAM w, LPARAM) { return note("registered", static_cast<long long>(w)), 43; }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(unpacker, CWnd)
+ON_WM_SIZE()
+ON_WM_MOVE()
+ON_WM_KEYDOWN()
+ON_WM_MOUSEMOVE()
+ON_WM_NCLBUTTONDOWN()
+ON_WM_MOUSEWHEEL()
+ON_WM_ACTIVATE()
+ON_WM_SHOWWINDOW()
+ON_WM_SETFOCUS()
+ON_WM_CAPTURECHANGED()
+ON_WM_CONTEXTMENU()
+ON_WM_SYSCOMMAND()
+ON_WM_SETCURSOR()
+ON_WM_MOUSEACTIVATE()
+ON_WM_NCACTIVATE()
+ON_WM_NCHITTEST()
+ON_WM_GETDLGCODE()
+ON_WM_QUERYENDSESSION()
+ON_WM_MENUSELECT()
+ON_WM_INITMENUPOPUP()
+ON_WM_GETMINMAXINFO()
+ON_WM_TIMER()
+ON_WM_SETTINGCHANGE()
+ON_WM_COPYDATA()
+ON_WM_DISPLAYCHANGE()
+ON_WM_PARENTNOTIFY()
+ON_MESSAGE(WM_USER + 3, OnOwn) // the older way to name a handler
+ON_REGISTERED_MESSAGE(registered, &unpacker::OnRegistered)
+END_MESSAGE_MAP()
+
+TEST(AfxMessageMap, HandlersSeeTheParametersOfTheirMessages) {
+    unpacker wnd;
+    ASSERT_TRUE(create_popup(wnd));
+    CMenu menu;
+    menu.CreatePopupMenu();
+    const auto self = reinterpret_cast<LPARAM>(wnd.m_hWnd), popup = reinterpret_cast<LPARAM>(menu.m_hMenu);
+    COPYDATASTRUCT data{0, 5, nullptr};
+    const LPARAM point = MAKELPARAM(-3, 4);
+    const struct {
+        UINT message;
+        WPARAM w;
+        LPARAM l;
+        const char* seen;
+        LRESULT answer;
+    } cases[] = {
+        {WM_SIZE, SIZE_RESTORED, MAKELPARAM(100, 50), "size 0 100 50", 0},
+        {WM_MOVE, 0, point, "move -3 4 -1", 0},
+        {WM_KEYDOWN, VK_UP, MAKELPARAM(1, 0x148), "key 38 1 328", 0},
+        {WM_MOUSEMOVE, MK_CONTROL, point, "mouse 8 -3 4", 0},
+        {WM_NCLBUTTONDOWN, HTCAPTION, point, "nc 2 -3 4", 0},
+        {WM_MOUSEWHEEL, MAKEWPARAM(MK_SHIFT, -120), point, "wheel 4 -120 4", 1},
+        {WM_ACTIVATE, MAKEWPARAM(WA_CLICKACTIVE, 1), self, "activate 2 1 1", 0},
+        {WM_SHOWWINDOW, TRUE, SW_PARENTOPENING, "show 1 3 -1", 0},
+        {WM_SETFOCUS, static_cast<WPARAM>(self), 0, "focus 1 -1 -1", 0},
+        {WM_CAPTURECHANGED, 0, self, "capture 1 -1 -1", 0},
+        {WM_CONTEXTMENU, static_cast<WPARAM>(self), -1, "context 1 -1 -1", 0},
+        {WM_SYSCOMMAND, SC_KEYMENU, 'x', "sys 61696 120 -1", 0},
+        {WM_SETCURSOR, static_cast<WPARAM>(self), MAKELPARAM(HTCLIENT, WM_MOUSEMOVE), "cursor 1 1 512", 1},
+        {WM_MOUSEACTIVATE, static_cast<WPARAM>(self), MAKELPARAM(HTCLIENT, WM_LBUTTONDOWN), "click 1 1 513", 3},
+        {WM_NCACTIVATE, TRUE, 0, "ncactivate 1 -1 -1", 1},
+        {WM_NCHITTEST, 0, point, "hit -3 4 -1", 7},
+        {WM_GETDLGCODE, 0, 0, "code -1 -1 -1", DLGC_WANTARROWS},
+        {WM_QUERYENDSESSION, 0, 0, "query -1 -1 -1", 0},
+        {WM_MENUSELECT, MAKEWPARAM(200, MF_HILITE), popup, "select 200 128 -1", 0},
+        {WM_INITMENUPOPUP, static_cast<WPARAM>(popup), MAKELPARAM(2, 1), "popup 1 2 1", 0},
+        {WM_TIMER, 0x123456789, 0, "timer 4886718345 -1 -1", 0},
+        {WM_SETTINGCHANGE, 9, reinterpret_cast<LPARAM>("intl"), "setting 9 intl", 0},
+        {WM_COPYDATA, static_cast<WPARAM>(self), reinterpret_cast<LPARAM>(&data), "copy 1 5 -1", 1},
+        {WM_DISPLAYCHANGE, 32, MAKELPARAM(640, 480), "display 32 640 480", 0},
+        {WM_PARENTNOTIFY, MAKEWPARAM(WM_LBUTTONDOWN, 9), point, "parent 513 9 -1", 0},
+        {WM_USER + 3, 5, -6, "own 5 -6 -1", 42},
+        {registered, 8, 0, "registered 8 -1 -1", 43},
+    };
+    for (const auto& one : cases) {
+        wnd.log.clear();
+        EXPECT_EQ(wnd.WindowProc(one.message, one.w, one.l), one.answer) << one.seen;
+        EXPECT_THAT(wnd.log, ElementsAre(one.seen));
+    }
+    MINMAXINFO info{};
+    wnd.SendMessage(WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&info));
+    EXPECT_EQ(info.ptMinTrackSize.y, 12);
+    EXPECT_EQ(wnd.SendMessage(registered + 1), 0) << "another registered message";
+}
+
+// Commands by range, with an answer, and their updates.
+class commander : public CWnd {
+public:
+    Texts log;
+    BOOL handled = FALSE;
+    bool enabled = true;
+
+protected:
+    void OnRange(UINT id) { log.push_back(text("range %u", id)); }
+    BOOL OnMaybe(UINT id) { return log.push_back(text("maybe %u", id)), handled; }
+    void OnPlain() { log.push_back("plain"); }
+    void OnUpdate(CCmdUI* item) { item->Enable(enabled); }
+    void OnPass(CCmdUI* item) {
+        log.push_back("pass");
+        item->ContinueRouting();
+    }
+    BOOL OnNotifyMaybe(UINT id, NMHDR*, LRESULT* result) {
+        return *result = 9, log.push_back(text("n %u", id)), handled;
+    }
+    void OnNotifyRange(UINT id, NMHDR*, LRESULT*) { log.push_back(text("nr %u", id)); }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(commander, CWnd)
+ON_COMMAND_RANGE(100, 110, &commander::OnRange)
+ON_COMMAND_EX(200, &commander::OnMaybe)
+ON_COMMAND(201, &commander::OnPlain)
+ON_UPDATE_COMMAND_UI(201, &commander::OnUpdate)
+ON_UPDATE_COMMAND_UI_RANGE(300, 301, &commander::OnPass)
+ON_NOTIFY_EX(NM_CLICK, 400, &commander::OnNotifyMaybe)
+ON_NOTIFY_RANGE(NM_DBLCLK, 400, 401, &commander::OnNotifyRange)
+END_MESSAGE_MAP()
+
+TEST(AfxCommands, AreHandledByRangeAndAnswer) {
+    commander wnd;
+    ASSERT_TRUE(create_popup(wnd));
+    const auto command = [&](UINT id) { return wnd.SendMessage(WM_COMMAND, id); };
+    EXPECT_EQ(command(100), 1);
+    EXPECT_EQ(command(110), 1);
+    EXPECT_EQ(command(111), 0);
+    EXPECT_EQ(command(200), 0) << "the handler wants it to go on";
+    wnd.handled = TRUE;
+    EXPECT_EQ(command(200), 1);
+    EXPECT_EQ(command(201), 1);
+    wnd.enabled = false;
+    EXPECT_EQ(command(201), 1) << "disabled: not for anybody else, either";
+    EXPECT_THAT(wnd.log, ElementsAre("range 100", "range 110", "maybe 200", "maybe 200", "plain"));
+
+    wnd.log.clear();
+    NMHDR header{wnd.m_hWnd, 400, static_cast<UINT>(NM_CLICK)};
+    EXPECT_EQ(wnd.SendMessage(WM_NOTIFY, 400, reinterpret_cast<LPARAM>(&header)), 9);
+    header.code = static_cast<UINT>(NM_DBLCLK);
+    header.idFrom = 401;
+    wnd.SendMessage(WM_NOTIFY, 401, reinterpret_cast<LPARAM>(&header));
+    CCmdUI item;
+    item.m_nID = 300;
+    EXPECT_FALSE(wnd.OnCmdMsg(300, CN_UPDATE_COMMAND_UI, &item, nullptr)) << "continued";
+    EXPECT_THAT(wnd.log, ElementsAre("n 400", "nr 401", "pass"));
+    AFX_CMDHANDLERINFO info{};
+    EXPECT_TRUE(wnd.OnCmdMsg(201, CN_COMMAND, nullptr, &info));
+    EXPECT_EQ(info.pTarget, &wnd);
+}
+
+// A control that sees to its own notifications.
+class selfish : public CWnd {
+public:
+    Texts log;
+    BOOL keeps = TRUE;
+
+protected:
+    BOOL OnClicked() { return log.push_back("clicked"), keeps; }
+    void OnNotified(NMHDR*, LRESULT* result) { log.push_back("notified"), *result = 5; }
+    HBRUSH CtlColor(CDC* dc, UINT kind) {
+        log.push_back(text("color %u", kind));
+        return keeps && dc != nullptr ? static_cast<HBRUSH>(::GetStockObject(BLACK_BRUSH)) : nullptr;
+    }
+    void HScroll(UINT code, UINT position) { log.push_back(text("scroll %u %u", code, position)); }
+    void DrawItem(LPDRAWITEMSTRUCT item) { log.push_back(text("draw %u", item->itemID)); }
+    int CompareItem(LPCOMPAREITEMSTRUCT) { return log.push_back("compare"), -1; }
+    void OnUpdateSelf(CCmdUI* item) { log.push_back("update"), item->Enable(FALSE); }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(selfish, CWnd)
+ON_CONTROL_REFLECT_EX(BN_CLICKED, &selfish::OnClicked)
+ON_NOTIFY_REFLECT(NM_CLICK, &selfish::OnNotified)
+ON_WM_CTLCOLOR_REFLECT()
+ON_WM_HSCROLL_REFLECT()
+ON_WM_DRAWITEM_REFLECT()
+ON_WM_COMPAREITEM_REFLECT()
+ON_UPDATE_COMMAND_UI_REFLECT(&selfish::OnUpdateSelf)
+END_MESSAGE_MAP()
+
+TEST(AfxReflection, GivesAControlItsMessagesBeforeItsParent) {
+    CWnd parent;
+    ASSERT_TRUE(create_popup(parent));
+    selfish control;
+    ASSERT_TRUE(control.Create("BUTTON", "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 20, 20), &parent, 7));
+    const auto from = reinterpret_cast<LPARAM>(control.m_hWnd);
+    EXPECT_EQ(parent.SendMessage(WM_COMMAND, MAKEWPARAM(7, BN_CLICKED), from), 1);
+    control.keeps = FALSE;
+    EXPECT_EQ(parent.SendMessage(WM_COMMAND, MAKEWPARAM(7, BN_CLICKED), from), 0) << "the parent has no handler";
+    NMHDR header{control.m_hWnd, 7, static_cast<UINT>(NM_CLICK)};
+    EXPECT_EQ(parent.SendMessage(WM_NOTIFY, 7, reinterpret_cast<LPARAM>(&header)), 5);
+    CClientDC dc(&parent);
+    const auto colors = [&] { return parent.SendMessage(WM_CTLCOLORBTN, reinterpret_cast<WPARAM>(dc.m_hDC), from); };
+    EXPECT_NE(colors(), reinterpret_cast<LRESULT>(::GetStockObject(BLACK_BRUSH))) << "no brush: the default's";
+    control.keeps = TRUE;
+    EXPECT_EQ(colors(), reinterpret_cast<LRESULT>(::GetStockObject(BLACK_BRUSH)));
+    parent.SendMessage(WM_HSCROLL, MAKEWPARAM(SB_LINEDOWN, 3), from);
+    DRAWITEMSTRUCT draw{};
+    draw.CtlType = ODT_BUTTON;
+    draw.itemID = 4;
+    draw.hwndItem = control.m_hWnd;
+    parent.SendMessage(WM_DRAWITEM, 7, reinterpret_cast<LPARAM>(&draw));
+    COMPAREITEMSTRUCT compare{};
+    compare.hwndItem = control.m_hWnd;
+    EXPECT_EQ(parent.SendMessage(WM_COMPAREITEM, 7, reinterpret_cast<LPARAM>(&compare)), -1);
+    parent.UpdateDialogControls(&parent, FALSE);
+    EXPECT_FALSE(control.IsWindowEnabled());
+    EXPECT_THAT(control.log, ElementsAre("clicked", "clicked", "notified", "color 3", "color 3", "scroll 1 3", "draw 4",
+                                         "compare", "update"));
+}
+
+// A menu that draws its own items.
+class drawn_menu : public CMenu {
+public:
+    int drawn = 0, measured = 0;
+    void DrawItem(LPDRAWITEMSTRUCT) override { ++drawn; }
+    void MeasureItem(LPMEASUREITEMSTRUCT item) override { ++measured, item->itemWidth = 77; }
+};
+
+TEST(AfxMenu, ObjectsHoldMenusAndDrawTheirItems) {
+    CWnd wnd;
+    ASSERT_TRUE(create_popup(wnd));
+    drawn_menu popup;
+    CMenu bar;
+    ASSERT_TRUE(popup.CreatePopupMenu());
+    EXPECT_FALSE(popup.CreatePopupMenu()) << "it holds one";
+    popup.AppendMenu(MF_OWNERDRAW, 50);
+    ASSERT_TRUE(bar.CreateMenu());
+    bar.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(popup.m_hMenu), "Popup");
+    EXPECT_EQ(bar.GetSubMenu(0), &popup) << "the permanent object";
+    ASSERT_TRUE(wnd.SetMenu(&bar));
+    MEASUREITEMSTRUCT measure{};
+    measure.CtlType = ODT_MENU;
+    measure.itemID = 50;
+    wnd.SendMessage(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&measure));
+    DRAWITEMSTRUCT draw{};
+    draw.CtlType = ODT_MENU;
+    draw.hwndItem = reinterpret_cast<HWND>(popup.m_hMenu);
+    wnd.SendMessage(WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&draw));
+    EXPECT_EQ(popup.measured, 1);
+    EXPECT_EQ(measure.itemWidth, 77u);
+    EXPECT_EQ(popup.drawn, 1);
+    CString name;
+    EXPECT_EQ(bar.GetMenuString(0, name, MF_BYPOSITION), 5);
+    EXPECT_STREQ(name, "Popup");
+    wnd.SetMenu(nullptr);
+    popup.Detach(); // the bar destroys it
+}
+
+TEST(AfxExceptions, MacrosDeleteWhatTheyCatchUnlessItIsThrownOn) {
+    bool caught = false;
+    TRY{TRY{throw new CUserException;
+}
+CATCH(CMemoryException, e) {
+    ADD_FAILURE() << "another class" << e->m_bAutoDelete;
+}
+AND_CATCH(CUserException, e) {
+    THROW_LAST();
+}
+END_CATCH
+} // namespace
+CATCH_ALL(e) {
+    caught = e->IsKindOf(RUNTIME_CLASS(CUserException));
+}
+END_CATCH_ALL
+EXPECT_TRUE(caught);
+}
+
+TEST(AfxExceptions, NewRaisesTheFrameworksOwn) {
+    volatile std::size_t much = ~std::size_t(0) / 4;
+    EXPECT_THROW(
+        {
+            try {
+                delete[] new char[much];
+            } catch (CMemoryException* exception) {
+                exception->Delete();
+                throw 1;
+            }
+        },
+        int);
+    EXPECT_EQ(new (std::nothrow) char[much], nullptr);
+    EXPECT_THROW(
+        {
+            try {
+                ENSURE(much == 0);
+            } catch (CInvalidArgException* exception) {
+                exception->Delete();
+                throw 1;
+            }
+        },
+        int);
+}
+
+} // namespace

@@ -1,0 +1,244 @@
+// Documents: made, changed, asked about, saved, opened again; the files that were used last; the command line.
+#include "afx_test_app.h"
+
+#include <afxadv.h>
+#include <afxext.h>
+#include <afxpriv.h>
+
+#include <gmock/gmock.h>
+
+#include <fstream>
+
+using testing::ElementsAre;
+
+namespace {
+
+class note : public CDocument {
+    DECLARE_DYNCREATE(note)
+
+public:
+    std::string text;
+    bool fails = false;
+    static inline int alive = 0;
+
+    note() { ++alive; }
+    ~note() override { --alive; }
+    void DeleteContents() override { text.clear(); }
+    void Serialize(CArchive& archive) override {
+        if (archive.IsStoring()) {
+            archive.GetFile()->Write(text.data(), static_cast<UINT>(text.size()));
+            if (fails)
+                AfxThrowMemoryException();
+        } else {
+            text.resize(static_cast<std::size_t>(archive.GetFile()->GetLength()));
+            archive.GetFile()->Read(text.data(), static_cast<UINT>(text.size()));
+            if (text == "broken")
+                AfxThrowFileException(CFileException::endOfFile);
+        }
+    }
+};
+IMPLEMENT_DYNCREATE(note, CDocument)
+
+class note_view : public CView {
+    DECLARE_DYNCREATE(note_view)
+
+public:
+    static inline std::vector<std::string> log;
+    void OnDraw(CDC*) override {}
+    void OnInitialUpdate() override {
+        log.push_back("initial");
+        CView::OnInitialUpdate();
+    }
+    void OnUpdate(CView*, LPARAM hint, CObject*) override { log.push_back("update " + std::to_string(hint)); }
+};
+IMPLEMENT_DYNCREATE(note_view, CView)
+
+// A program with one kind of document, answering its questions by itself.
+class NoteProgram : public testing::Test {
+protected:
+    void SetUp() override {
+        the_app.m_nCmdShow = SW_SHOWNOACTIVATE;
+        // The registered template and its frame live as long as the test.
+        the_app.AddDocTemplate(
+            new CSingleDocTemplate(IDR_FRAME, RUNTIME_CLASS(note), RUNTIME_CLASS(CFrameWnd), RUNTIME_CLASS(note_view)));
+        the_app.take_boxes();
+        note_view::log.clear();
+        char folder[MAX_PATH];
+        ::GetTempPath(MAX_PATH, folder);
+        path_ = std::string(folder) + "afx_document_test.note";
+        ::DeleteFile(path_.c_str());
+    }
+    void TearDown() override {
+        the_app.answer = IDNO;
+        if (the_app.m_pMainWnd != nullptr)
+            the_app.m_pMainWnd->SendMessage(WM_CLOSE);
+        EXPECT_EQ(note::alive, 0);
+        delete std::exchange(the_app.m_pDocManager, nullptr);
+        the_app.answer = IDOK;
+        MSG quit;
+        ::PeekMessage(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
+        ::DeleteFile(path_.c_str());
+        the_app.m_pMainWnd = nullptr;
+    }
+    note& document() { return *static_cast<note*>(frame().GetActiveDocument()); }
+    CFrameWnd& frame() { return *static_cast<CFrameWnd*>(the_app.m_pMainWnd); }
+    std::string title() {
+        CString text;
+        frame().GetWindowText(text);
+        return std::string(text);
+    }
+    std::string on_disk() {
+        std::ifstream file(path_, std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+    void write(const std::string& text) { std::ofstream(path_, std::ios::binary) << text; }
+    void command(UINT id) { frame().SendMessage(WM_COMMAND, id); }
+
+    std::string path_;
+};
+
+TEST_F(NoteProgram, MakesChangesSavesAndOpensADocument) {
+    CCommandLineInfo nothing;
+    ASSERT_TRUE(the_app.ProcessShellCommand(nothing));
+    EXPECT_EQ(title(), "Untitled - Tests");
+    EXPECT_THAT(note_view::log, ElementsAre("initial", "update 0"));
+    EXPECT_TRUE(frame().IsWindowVisible());
+    document().text = "first";
+    document().SetModifiedFlag();
+    document().UpdateAllViews(nullptr, 7);
+    EXPECT_EQ(note_view::log.back(), "update 7");
+    ASSERT_TRUE(document().DoSave(path_.c_str()));
+    EXPECT_FALSE(document().IsModified());
+    EXPECT_EQ(on_disk(), "first");
+    EXPECT_EQ(title(), "afx_document_test.note - Tests");
+
+    document().text = "second";
+    document().SetModifiedFlag();
+    the_app.answer = IDCANCEL;
+    command(ID_FILE_NEW);
+    EXPECT_EQ(document().text, "second") << "the user wants to go on";
+    EXPECT_THAT(the_app.take_boxes(), ElementsAre("Save changes to afx_document_test.note?"));
+    frame().SendMessage(WM_CLOSE);
+    EXPECT_NE(the_app.m_pMainWnd, nullptr);
+    the_app.answer = IDYES;
+    command(ID_FILE_NEW);
+    EXPECT_EQ(on_disk(), "second");
+    EXPECT_EQ(document().text, "");
+    EXPECT_EQ(title(), "Untitled - Tests");
+    EXPECT_EQ(the_app.OpenDocumentFile(path_.c_str()), &document()) << "the one document is used again";
+    EXPECT_EQ(document().text, "second");
+    frame().SendMessage(WM_CLOSE);
+    EXPECT_EQ(the_app.m_pMainWnd, nullptr);
+    EXPECT_EQ(note::alive, 0);
+}
+
+TEST_F(NoteProgram, KeepsTheOldFileWhereSavingFails) {
+    write("old");
+    ASSERT_NE(the_app.OpenDocumentFile(path_.c_str()), nullptr);
+    document().text = "new";
+    document().fails = true;
+    document().SetModifiedFlag();
+    the_app.take_boxes();
+    EXPECT_FALSE(document().DoFileSave());
+    EXPECT_EQ(the_app.take_boxes().size(), 1u);
+    EXPECT_TRUE(document().IsModified());
+    EXPECT_EQ(on_disk(), "old");
+    document().fails = false;
+    EXPECT_TRUE(document().DoFileSave());
+    EXPECT_EQ(on_disk(), "new");
+}
+
+TEST_F(NoteProgram, TellsWhyAFileCannotBeOpened) {
+    EXPECT_EQ(the_app.OpenDocumentFile("C:\\no\\such.note"), nullptr);
+    EXPECT_THAT(the_app.take_boxes(), ElementsAre("such.note was not found."));
+    EXPECT_EQ(note::alive, 0) << "neither document nor frame stays";
+    write("broken");
+    CCommandLineInfo open;
+    open.ParseParam(path_.c_str(), FALSE, TRUE);
+    EXPECT_FALSE(the_app.ProcessShellCommand(open));
+    EXPECT_THAT(the_app.take_boxes(), ElementsAre("afx_document_test.note is not a file of the expected kind."));
+    CCommandLineInfo fresh;
+    ASSERT_TRUE(the_app.ProcessShellCommand(fresh));
+    document().text = "kept?";
+    EXPECT_EQ(the_app.OpenDocumentFile(path_.c_str()), nullptr);
+    EXPECT_EQ(document().text, "") << "half a document is none";
+    EXPECT_EQ(title(), "Untitled - Tests");
+}
+
+TEST(AfxCommandLine, SaysWhatTheShellWants) {
+    const struct {
+        std::vector<std::string> words;
+        int command;
+        const char *file, *printer;
+    } cases[] = {{{}, CCommandLineInfo::FileNew, "", ""},
+                 {{"a.note"}, CCommandLineInfo::FileOpen, "a.note", ""},
+                 {{"/p", "a.note"}, CCommandLineInfo::FilePrint, "a.note", ""},
+                 {{"/pt", "a.note", "laser", "driver", "port"}, CCommandLineInfo::FilePrintTo, "a.note", "laser"},
+                 {{"-dde"}, CCommandLineInfo::FileDDE, "", ""},
+                 {{"/Unregister"}, CCommandLineInfo::AppUnregister, "", ""},
+                 {{"-unknown", "b.note"}, CCommandLineInfo::FileOpen, "b.note", ""}};
+    for (const auto& one : cases) {
+        CCommandLineInfo info;
+        for (std::size_t i = 0; i < one.words.size(); ++i) {
+            const std::string& word = one.words[i];
+            const bool flag = word[0] == '/' || word[0] == '-';
+            info.ParseParam(word.c_str() + flag, flag, i + 1 == one.words.size());
+        }
+        EXPECT_EQ(info.m_nShellCommand, one.command) << one.file;
+        EXPECT_STREQ(info.m_strFileName, one.file);
+        EXPECT_STREQ(info.m_strPrinterName, one.printer);
+    }
+}
+
+TEST(AfxRecentFiles, AreKeptLatestFirstAndShownInTheMenu) {
+    CRecentFileList list(0, "Recent Test", "File%d", 3);
+    for (const char* name : {"C:\\a\\1.note", "C:\\a\\2.note", "C:\\a&b\\3.note", "C:\\a\\4.note", "C:\\A\\2.NOTE"})
+        list.Add(name);
+    EXPECT_STREQ(list[0], "C:\\A\\2.NOTE");
+    EXPECT_STREQ(list[1], "C:\\a\\4.note");
+    EXPECT_STREQ(list[2], "C:\\a&b\\3.note");
+    list.WriteList();
+    CRecentFileList again(0, "Recent Test", "File%d", 3);
+    again.ReadList();
+    EXPECT_STREQ(again[2], list[2]);
+    again.Remove(1);
+    EXPECT_TRUE(again[2].IsEmpty());
+
+    CMenu menu;
+    menu.CreatePopupMenu();
+    menu.AppendMenu(MF_STRING, ID_FILE_MRU_FILE1, "Recent File");
+    menu.AppendMenu(MF_STRING, ID_APP_EXIT, "Exit");
+    CCmdUI item;
+    item.m_pMenu = &menu;
+    item.m_nID = ID_FILE_MRU_FILE1;
+    item.m_nIndexMax = 2;
+    again.UpdateMenu(&item);
+    CString text;
+    ASSERT_EQ(menu.GetMenuItemCount(), 3u);
+    menu.GetMenuString(1, text, MF_BYPOSITION);
+    EXPECT_STREQ(text, "&2 C:\\a&&b\\3.note");
+    EXPECT_EQ(menu.GetMenuItemID(1), static_cast<UINT>(ID_FILE_MRU_FILE2));
+    CRecentFileList empty(0, "Recent Test", "File%d", 3);
+    CMenu fresh;
+    fresh.CreatePopupMenu();
+    fresh.AppendMenu(MF_STRING, ID_FILE_MRU_FILE1, "Recent File");
+    item.m_pMenu = &fresh;
+    item.m_nID = ID_FILE_MRU_FILE1;
+    item.m_nIndex = 0;
+    empty.UpdateMenu(&item);
+    EXPECT_NE(fresh.GetMenuState(0, MF_BYPOSITION) & MF_GRAYED, 0u);
+}
+
+TEST(AfxResourceText, TakesPartsAndFillsPlaces) {
+    CString part;
+    const char* text = "one\n\nthree";
+    EXPECT_TRUE(AfxExtractSubString(part, text, 2));
+    EXPECT_STREQ(part, "three");
+    EXPECT_TRUE(AfxExtractSubString(part, text, 1));
+    EXPECT_STREQ(part, "");
+    EXPECT_FALSE(AfxExtractSubString(part, text, 3));
+    AfxFormatString2(part, AFX_IDP_PARSE_INT_RANGE, "1", "9");
+    EXPECT_STREQ(part, "Enter a whole number between 1 and 9.");
+}
+
+} // namespace

@@ -1,0 +1,237 @@
+// Frames with menus, bars and what they show while the program is idle.
+#include "afx_test_app.h"
+
+#include <afxext.h>
+#include <afxpriv.h>
+
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+using Texts = std::vector<std::string>;
+
+namespace {
+
+class bar_frame : public CFrameWnd {
+public:
+    CToolBar tools, more;
+    CStatusBar status;
+    CDialogBar dialog;
+    Texts log;
+    bool off = true;
+
+    bool open() {
+        return LoadFrame(IDR_FRAME) && tools.Create(this, WS_CHILD | WS_VISIBLE | CBRS_TOP | CBRS_FLYBY) &&
+               tools.LoadToolBar(IDR_FRAME) && more.Create(this, WS_CHILD | WS_VISIBLE | CBRS_TOP, 0xE850) &&
+               more.LoadToolBar(IDR_FRAME) && status.Create(this);
+    }
+    // Idle until there is nothing left to do.
+    void settle() {
+        ShowWindow(SW_SHOWNOACTIVATE);
+        SendMessage(WM_IDLEUPDATECMDUI, TRUE);
+        SendMessageToDescendants(WM_IDLEUPDATECMDUI, TRUE, 0, TRUE, TRUE);
+    }
+    void PostNcDestroy() override {} // lives on the stack
+    using CFrameWnd::OnCreateClient;
+    CRect client_of(CWnd& wnd) {
+        CRect rect;
+        wnd.GetWindowRect(rect);
+        ScreenToClient(&rect);
+        return rect;
+    }
+    bool enabled(UINT id) { return (tools.SendMessage(TB_GETSTATE, id) & TBSTATE_ENABLED) != 0; }
+
+protected:
+    void OnOn() { log.push_back("on"); }
+    void OnUpdateOff(CCmdUI* item) { item->Enable(!off); }
+    void OnUpdateChecked(CCmdUI* item) { item->SetCheck(off), item->SetText("Text"); }
+    void OnUpdatePane(CCmdUI* item) { item->Enable(), item->SetText("shown"); }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(bar_frame, CFrameWnd)
+ON_COMMAND(ID_TEST_ON, OnOn)
+ON_COMMAND(ID_TEST_OFF, OnOn)
+ON_UPDATE_COMMAND_UI(ID_TEST_OFF, OnUpdateOff)
+ON_COMMAND(ID_TEST_CHECKED, OnOn)
+ON_UPDATE_COMMAND_UI(ID_TEST_CHECKED, OnUpdateChecked)
+ON_UPDATE_COMMAND_UI(ID_TEST_PANE, OnUpdatePane)
+END_MESSAGE_MAP()
+
+TEST(AfxFrame, UpdatesItsMenuToolbarAndPanesByItsHandlers) {
+    bar_frame frame;
+    ASSERT_TRUE(frame.open());
+    const UINT panes[] = {ID_SEPARATOR, ID_TEST_PANE, ID_INDICATOR_CAPS};
+    ASSERT_TRUE(frame.status.SetIndicators(panes, 3));
+    frame.settle();
+    EXPECT_TRUE(frame.enabled(ID_TEST_ON));
+    EXPECT_FALSE(frame.enabled(ID_TEST_OFF));
+    EXPECT_FALSE(frame.enabled(ID_TEST_NOBODY)) << "a command without handler";
+    EXPECT_NE(frame.tools.SendMessage(TB_ISBUTTONCHECKED, ID_TEST_CHECKED), 0);
+    EXPECT_STREQ(frame.status.GetPaneText(1), "shown");
+    frame.off = false;
+    frame.settle();
+    EXPECT_TRUE(frame.enabled(ID_TEST_OFF));
+
+    CMenu* popup = frame.GetMenu()->GetSubMenu(1);
+    const auto state = [&](UINT id) { return popup->GetMenuState(id, MF_BYCOMMAND); };
+    frame.off = true;
+    frame.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(popup->m_hMenu), 1);
+    EXPECT_EQ(state(ID_TEST_ON) & MF_GRAYED, 0u);
+    EXPECT_NE(state(ID_TEST_OFF) & MF_GRAYED, 0u);
+    EXPECT_NE(state(ID_TEST_NOBODY) & MF_GRAYED, 0u);
+    EXPECT_NE(state(ID_TEST_CHECKED) & MF_CHECKED, 0u);
+    EXPECT_NE(state(ID_VIEW_TOOLBAR) & MF_CHECKED, 0u);
+    CString name;
+    popup->GetMenuString(ID_TEST_CHECKED, name, MF_BYCOMMAND);
+    EXPECT_STREQ(name, "Text");
+    frame.SendMessage(WM_COMMAND, ID_TEST_OFF);
+    EXPECT_TRUE(frame.log.empty()) << "a key for a disabled command";
+    MSG key{frame.m_hWnd, WM_KEYDOWN, 'T', 0x140001, 0, {0, 0}};
+    BYTE keys[256] = {}, before[256];
+    ::GetKeyboardState(before);
+    keys[VK_CONTROL] = 0x80;
+    ::SetKeyboardState(keys);
+    EXPECT_TRUE(frame.PreTranslateMessage(&key));
+    ::SetKeyboardState(before);
+    EXPECT_THAT(frame.log, ElementsAre("on"));
+}
+
+TEST(AfxFrame, ShowsPromptsOfMenusAndOfButtonsUnderThePointer) {
+    bar_frame frame;
+    ASSERT_TRUE(frame.open());
+    const UINT panes[] = {ID_SEPARATOR};
+    frame.status.SetIndicators(panes, 1);
+    frame.settle();
+    const auto shown = [&] {
+        CString text;
+        frame.status.GetWindowText(text);
+        return std::string(text);
+    };
+    frame.SetMessageText("as the program says");
+    EXPECT_EQ(shown(), "as the program says");
+    const auto menu = reinterpret_cast<LPARAM>(frame.GetMenu()->m_hMenu);
+    frame.SendMessage(WM_MENUSELECT, MAKEWPARAM(ID_TEST_ON, MF_HILITE), menu);
+    EXPECT_EQ(shown(), "Switch it on") << "without the tip";
+    frame.SendMessage(WM_MENUSELECT, MAKEWPARAM(SC_CLOSE, MF_SYSMENU), menu);
+    EXPECT_EQ(shown(), "Close the active window and ask about unsaved documents");
+    frame.SendMessage(WM_MENUSELECT, MAKEWPARAM(0, 0xFFFF), 0);
+    EXPECT_EQ(shown(), "Ready");
+
+    CRect button;
+    frame.tools.GetItemRect(0, button);
+    const CPoint at = button.CenterPoint();
+    MSG move{frame.tools.m_hWnd, WM_MOUSEMOVE, 0, MAKELPARAM(at.x, at.y), 0, {0, 0}};
+    frame.tools.PreTranslateMessage(&move);
+    EXPECT_EQ(shown(), "Switch it on");
+    frame.tools.SendMessage(WM_MOUSELEAVE);
+    EXPECT_EQ(shown(), "Ready");
+    TOOLTIPTEXTA tip{};
+    tip.hdr = {frame.tools.m_hWnd, ID_TEST_ON, static_cast<UINT>(TTN_NEEDTEXTA)};
+    frame.SendMessage(WM_NOTIFY, ID_TEST_ON, reinterpret_cast<LPARAM>(&tip));
+    EXPECT_STREQ(tip.szText, "On");
+}
+
+TEST(AfxFrame, LaysOutDockedBarsAndRemembersThem) {
+    bar_frame frame;
+    ASSERT_TRUE(frame.open());
+    CWnd client;
+    ASSERT_TRUE(client.Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 1, 1), &frame, AFX_IDW_PANE_FIRST));
+    frame.tools.EnableDocking(CBRS_ALIGN_ANY);
+    frame.more.EnableDocking(CBRS_ALIGN_TOP | CBRS_ALIGN_LEFT);
+    frame.EnableDocking(CBRS_ALIGN_ANY);
+    frame.DockControlBar(&frame.tools);
+    frame.DockControlBar(&frame.more, AFX_IDW_DOCKBAR_LEFT);
+    frame.SetWindowPos(nullptr, 0, 0, 500, 400, SWP_NOZORDER | SWP_NOACTIVATE);
+    frame.settle();
+    frame.RecalcLayout();
+    CRect all;
+    frame.GetClientRect(all);
+    const CRect top = frame.client_of(frame.tools), left = frame.client_of(frame.more),
+                status = frame.client_of(frame.status), middle = frame.client_of(client);
+    EXPECT_EQ(top.top, 0);
+    EXPECT_GT(top.Width(), 4 * 23) << "four buttons and a gap";
+    EXPECT_LT(left.Width(), left.Height()) << "one below the other";
+    EXPECT_EQ(status.bottom, all.bottom);
+    EXPECT_EQ(status.Width(), all.Width());
+    EXPECT_EQ(middle, CRect(left.right, top.bottom, all.right, status.top));
+
+    EXPECT_TRUE(frame.OnBarCheck(ID_VIEW_TOOLBAR));
+    EXPECT_FALSE(frame.tools.IsVisible());
+    EXPECT_EQ(frame.client_of(client).top, 0);
+    frame.SaveBarState("Layout");
+    frame.ShowControlBar(&frame.tools, TRUE, FALSE);
+    frame.DockControlBar(&frame.more, AFX_IDW_DOCKBAR_TOP);
+    frame.RecalcLayout();
+    EXPECT_EQ(frame.client_of(frame.more).top, frame.client_of(frame.tools).bottom) << "a row of its own";
+    CRect beside;
+    frame.tools.GetWindowRect(beside);
+    frame.DockControlBar(&frame.more, AFX_IDW_DOCKBAR_TOP,
+                         CRect(beside.right, beside.top, beside.right + 10, beside.bottom));
+    frame.RecalcLayout();
+    EXPECT_EQ(frame.client_of(frame.more).top, 0);
+    EXPECT_EQ(frame.client_of(frame.more).left, frame.client_of(frame.tools).right);
+    frame.LoadBarState("Layout");
+    EXPECT_FALSE(frame.tools.IsVisible());
+    EXPECT_EQ(frame.client_of(frame.more), CRect(CPoint(0, 0), left.Size()));
+    EXPECT_THROW(
+        {
+            try {
+                frame.DockControlBar(&frame.more, AFX_IDW_DOCKBAR_RIGHT);
+            } catch (CInvalidArgException* exception) {
+                exception->Delete();
+                throw 1;
+            }
+        },
+        int)
+        << "a side that the bar refuses";
+}
+
+TEST(AfxFrame, DialogBarsUpdateTheirControlsAndSendTheirCommands) {
+    bar_frame frame;
+    ASSERT_TRUE(frame.open());
+    ASSERT_TRUE(frame.dialog.Create(&frame, IDD_FORM, CBRS_BOTTOM | WS_VISIBLE, 0xE860));
+    frame.settle();
+    frame.RecalcLayout();
+    EXPECT_EQ(frame.client_of(frame.dialog).bottom, frame.client_of(frame.status).top);
+    CWnd* button = frame.dialog.GetDlgItem(IDC_FORM_BUTTON);
+    button->SendMessage(BM_CLICK);
+    EXPECT_THAT(frame.log, ElementsAre("on"));
+}
+
+TEST(AfxFrame, RefusesAMenuThatIsNotThere) {
+    auto* frame = new CFrameWnd; // deletes itself
+    EXPECT_FALSE(frame->Create(nullptr, "x", WS_OVERLAPPEDWINDOW, CFrameWnd::rectDefault, nullptr, "NoSuchMenu"));
+    CToolBar bar;
+    EXPECT_FALSE(bar.LoadToolBar(999));
+}
+
+TEST(AfxFrame, ButtonsAndPanesKeepTheirStyles) {
+    bar_frame frame;
+    ASSERT_TRUE(frame.open());
+    CToolBar& bar = frame.tools;
+    EXPECT_EQ(bar.CommandToIndex(ID_TEST_CHECKED), 3);
+    EXPECT_EQ(bar.GetItemID(2), 0u) << "the gap";
+    bar.SetButtonInfo(0, ID_TEST_ON, TBBS_CHECKBOX | TBBS_CHECKED, 1);
+    UINT id = 0, style = 0;
+    int image = 0;
+    bar.GetButtonInfo(0, id, style, image);
+    EXPECT_EQ(style, static_cast<UINT>(TBBS_CHECKBOX | TBBS_CHECKED));
+    EXPECT_EQ(image, 1);
+    bar.SetButtonStyle(1, TBBS_BUTTON | TBBS_DISABLED);
+    EXPECT_FALSE(frame.enabled(ID_TEST_OFF));
+    bar.SetButtonText(1, "Label");
+    EXPECT_STREQ(bar.GetButtonText(1), "Label");
+
+    const UINT panes[] = {ID_SEPARATOR, ID_TEST_PANE};
+    frame.status.SetIndicators(panes, 2);
+    CRect before, after;
+    frame.status.GetItemRect(1, before);
+    frame.status.SetPaneInfo(1, ID_TEST_PANE, SBPS_POPOUT, 200);
+    frame.status.GetItemRect(1, after);
+    EXPECT_GT(after.Width(), 190);
+    EXPECT_LT(before.Width(), after.Width());
+    EXPECT_EQ(frame.status.GetPaneStyle(1), static_cast<UINT>(SBPS_POPOUT));
+    EXPECT_FALSE(frame.status.SetPaneText(2, "none such"));
+}
+
+} // namespace

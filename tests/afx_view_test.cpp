@@ -1,0 +1,213 @@
+// Views that scroll, hold controls, edit text; splitters that divide them.
+#include "afx_test_app.h"
+
+#include <afxext.h>
+#include <afxpriv.h>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+class page_view : public CScrollView {
+    DECLARE_DYNCREATE(page_view)
+
+public:
+    void OnDraw(CDC*) override {}
+    using CScrollView::OnPrepareDC;
+};
+IMPLEMENT_DYNCREATE(page_view, CScrollView)
+
+class form : public CFormView {
+    DECLARE_DYNCREATE(form)
+
+public:
+    form() : CFormView(static_cast<UINT>(IDD_FORM)) {}
+    int exchanged = 0;
+    void DoDataExchange(CDataExchange* exchange) override { exchanged += exchange->m_bSaveAndValidate ? 100 : 1; }
+};
+IMPLEMENT_DYNCREATE(form, CFormView)
+
+// A frame around a view or a splitter, without a document.
+class view_frame : public CFrameWnd {
+public:
+    CSplitterWnd splitter, inner;
+    std::function<BOOL(view_frame&, CCreateContext&)> make;
+
+    bool open(std::function<BOOL(view_frame&, CCreateContext&)> client) {
+        make = std::move(client);
+        return Create(nullptr, "views", WS_OVERLAPPEDWINDOW, CRect(0, 0, 420, 320)) &&
+               ShowWindow(SW_SHOWNOACTIVATE) == 0;
+    }
+    BOOL OnCreateClient(LPCREATESTRUCT, CCreateContext*) override {
+        CCreateContext context;
+        context.m_pNewViewClass = RUNTIME_CLASS(page_view);
+        return make(*this, context);
+    }
+    void PostNcDestroy() override {}
+};
+
+BOOL plain_view(view_frame& frame, CCreateContext& context) {
+    return frame.CreateView(&context) != nullptr;
+}
+
+BOOL dynamic_splitter(view_frame& frame, CCreateContext& context) {
+    return frame.splitter.Create(&frame, 2, 2, CSize(20, 20), &context);
+}
+
+TEST(AfxScrollView, ScrollsWithinItsDocumentInLogicalUnits) {
+    view_frame frame;
+    ASSERT_TRUE(frame.open(plain_view));
+    auto& view = *static_cast<page_view*>(frame.GetDescendantWindow(AFX_IDW_PANE_FIRST));
+    view.SetScrollSizes(MM_TEXT, CSize(1000, 2000), CSize(100, 150), CSize(10, 15));
+    BOOL horizontal = FALSE, vertical = FALSE;
+    view.CheckScrollBars(horizontal, vertical);
+    EXPECT_TRUE(horizontal && vertical);
+    CRect client;
+    view.GetClientRect(client);
+    const auto scroll = [&](UINT message, UINT code) { view.SendMessage(message, code); };
+    scroll(WM_VSCROLL, SB_LINEDOWN);
+    scroll(WM_VSCROLL, SB_PAGEDOWN);
+    scroll(WM_HSCROLL, SB_LINERIGHT);
+    EXPECT_EQ(view.GetScrollPosition(), CPoint(10, 165));
+    scroll(WM_VSCROLL, SB_BOTTOM);
+    EXPECT_EQ(view.GetScrollPosition().y, 2000 - client.Height());
+    scroll(WM_VSCROLL, SB_LINEDOWN);
+    EXPECT_EQ(view.GetScrollPosition().y, 2000 - client.Height()) << "not beyond the end";
+    view.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, WHEEL_DELTA));
+    EXPECT_EQ(view.GetScrollPosition().y, 2000 - client.Height() - 3 * 15);
+    view.ScrollToPosition(CPoint(-5, 40));
+    EXPECT_EQ(view.GetScrollPosition(), CPoint(0, 40));
+    {
+        CClientDC dc(&view);
+        view.OnPrepareDC(&dc);
+        POINT origin{};
+        ::LPtoDP(dc, &origin, 1);
+        EXPECT_EQ(CPoint(origin), CPoint(0, -40));
+    }
+    view.SetScrollSizes(MM_LOENGLISH, CSize(100, 3000));
+    view.ScrollToPosition(CPoint(0, -500));
+    EXPECT_NEAR(view.GetScrollPosition().y, -500, 2) << "y grows upwards";
+    view.SetScrollSizes(MM_TEXT, CSize(50, 60));
+    view.CheckScrollBars(horizontal, vertical);
+    EXPECT_FALSE(horizontal || vertical);
+    EXPECT_EQ(view.GetScrollPosition(), CPoint(0, 0)) << "everything is to be seen";
+}
+
+TEST(AfxFormView, ExchangesDataAndScrollsItsTemplate) {
+    view_frame frame;
+    ASSERT_TRUE(frame.open([](view_frame& at, CCreateContext& context) {
+        context.m_pNewViewClass = RUNTIME_CLASS(form);
+        return plain_view(at, context);
+    }));
+    auto& view = *static_cast<form*>(frame.GetDescendantWindow(AFX_IDW_PANE_FIRST));
+    frame.InitialUpdateFrame(nullptr, FALSE);
+    view.SendMessage(WM_INITIALUPDATE);
+    EXPECT_EQ(view.exchanged, 1);
+    EXPECT_NE(view.GetDlgItem(IDC_FORM_NAME), nullptr);
+    CRect client;
+    view.GetClientRect(client);
+    EXPECT_GT(client.Width(), 300) << "as large as the frame, not as the template";
+    BOOL horizontal = FALSE, vertical = FALSE;
+    view.CheckScrollBars(horizontal, vertical);
+    EXPECT_FALSE(vertical);
+    frame.SetWindowPos(nullptr, 0, 0, 420, 150, SWP_NOZORDER | SWP_NOMOVE | SWP_NOACTIVATE);
+    view.CheckScrollBars(horizontal, vertical);
+    EXPECT_TRUE(vertical);
+    view.SendMessage(WM_IDLEUPDATECMDUI, TRUE);
+    EXPECT_TRUE(view.GetDlgItem(IDC_FORM_BUTTON)->IsWindowEnabled()) << "a form's buttons are not commands of a menu";
+}
+
+TEST(AfxEditView, EditsFindsAndMarksItsDocument) {
+    view_frame frame;
+    ASSERT_TRUE(frame.open([](view_frame& at, CCreateContext& context) {
+        context.m_pNewViewClass = RUNTIME_CLASS(CEditView);
+        return plain_view(at, context);
+    }));
+    auto& view = *static_cast<CEditView*>(frame.GetDescendantWindow(AFX_IDW_PANE_FIRST));
+    frame.InitialUpdateFrame(nullptr, FALSE);
+    view.SetWindowText("one two One");
+    frame.SendMessage(WM_COMMAND, ID_EDIT_SELECT_ALL);
+    CString text;
+    view.GetSelectedText(text);
+    EXPECT_STREQ(text, "one two One");
+    view.SendMessage(EM_SETSEL, 0, 0);
+    EXPECT_TRUE(view.FindText("ONE", TRUE, FALSE));
+    EXPECT_TRUE(view.FindText("one", TRUE, FALSE));
+    view.GetSelectedText(text);
+    EXPECT_STREQ(text, "One");
+    EXPECT_FALSE(view.FindText("one", TRUE, FALSE));
+    EXPECT_TRUE(view.FindText("one", FALSE));
+    frame.SendMessage(WM_COMMAND, ID_EDIT_CLEAR);
+    EXPECT_EQ(std::string(view.LockBuffer()), " two One");
+    view.UnlockBuffer();
+}
+
+TEST(AfxSplitter, SplitsWherePulledAndJoinsWhatBecomesTooSmall) {
+    view_frame frame;
+    ASSERT_TRUE(frame.open(dynamic_splitter));
+    CSplitterWnd& splitter = frame.splitter;
+    EXPECT_EQ(splitter.GetRowCount() * splitter.GetColumnCount(), 1);
+    CRect inside;
+    splitter.GetPane(0, 0)->GetClientRect(inside);
+    ASSERT_GT(inside.Height(), 150);
+    const auto drag = [&](CPoint from, CPoint to) {
+        splitter.SendMessage(WM_LBUTTONDOWN, 0, MAKELPARAM(from.x, from.y));
+        splitter.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM((from.x + to.x) / 2, (from.y + to.y) / 2));
+        splitter.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(to.x, to.y));
+    };
+    CRect client;
+    splitter.GetClientRect(client);
+    drag(CPoint(client.right - 4, 3), CPoint(client.right - 4, 100)); // the box above the scroll bar
+    ASSERT_EQ(splitter.GetRowCount(), 2);
+    int height = 0, least = 0;
+    splitter.GetRowInfo(0, height, least);
+    EXPECT_NEAR(height, 97, 4);
+    EXPECT_EQ(least, 20);
+    EXPECT_TRUE(splitter.GetPane(1, 0)->IsKindOf(RUNTIME_CLASS(page_view)));
+    drag(CPoint(50, height + 3), CPoint(50, 150));
+    splitter.GetRowInfo(0, height, least);
+    EXPECT_NEAR(height, 147, 4);
+    EXPECT_TRUE(splitter.SplitColumn(120));
+    EXPECT_EQ(splitter.GetColumnCount(), 2);
+    frame.SetActiveView(static_cast<CView*>(splitter.GetPane(0, 0)));
+    frame.SendMessage(WM_COMMAND, ID_NEXT_PANE);
+    EXPECT_EQ(frame.GetActiveView(), splitter.GetPane(0, 1));
+    EXPECT_FALSE(splitter.SplitRow(5)) << "there are two already";
+    splitter.GetRowInfo(0, height, least);
+    drag(CPoint(20, height + 3), CPoint(20, 5));
+    EXPECT_EQ(splitter.GetRowCount(), 1) << "the upper row became too small";
+    EXPECT_NE(splitter.GetPane(0, 1), nullptr);
+    EXPECT_EQ(splitter.GetPane(1, 0), nullptr);
+}
+
+TEST(AfxSplitter, HoldsPanesOfItsOwnAndSplittersAgain) {
+    view_frame frame;
+    ASSERT_TRUE(frame.open([](view_frame& at, CCreateContext& context) {
+        CCreateContext edit = context;
+        edit.m_pNewViewClass = RUNTIME_CLASS(CEditView);
+        return at.splitter.CreateStatic(&at, 1, 2) &&
+               at.splitter.CreateView(0, 0, RUNTIME_CLASS(CEditView), CSize(100, 50), &edit) &&
+               at.inner.CreateStatic(&at.splitter, 2, 1, WS_CHILD | WS_VISIBLE,
+                                     static_cast<UINT>(at.splitter.IdFromRowCol(0, 1))) &&
+               at.inner.CreateView(0, 0, RUNTIME_CLASS(page_view), CSize(50, 80), &context) &&
+               at.inner.CreateView(1, 0, RUNTIME_CLASS(page_view), CSize(50, 80), &context);
+    }));
+    frame.RecalcLayout();
+    int width = 0, least = 0;
+    frame.splitter.GetColumnInfo(0, width, least);
+    EXPECT_EQ(width, 100);
+    frame.inner.GetRowInfo(0, width, least);
+    EXPECT_EQ(width, 80);
+    int row = 0, column = 0;
+    EXPECT_TRUE(frame.splitter.IsChildPane(&frame.inner, row, column));
+    EXPECT_EQ(column, 1);
+    EXPECT_EQ(CView::GetParentSplitter(frame.inner.GetPane(1, 0), TRUE), &frame.inner);
+    frame.splitter.SetColumnInfo(0, 150, 10);
+    frame.splitter.RecalcLayout();
+    CRect rect;
+    frame.inner.GetWindowRect(rect);
+    frame.splitter.ScreenToClient(&rect);
+    EXPECT_EQ(rect.left, 157);
+}
+
+} // namespace
