@@ -195,6 +195,13 @@ TEST_F(AxisTest, PointerTellsWhatADragWouldDo) {
             const char* moves = across ? "IDC_AXIS_X_MOVE" : "IDC_AXIS_Y_MOVE";
             const char* enlarges = across ? "IDC_AXIS_X_ENLARGE" : "IDC_AXIS_Y_ENLARGE";
             EXPECT_EQ(::GetCursor(), pointer(at == 150 ? moves : enlarges)) << across << at;
+            CPoint screen = across ? CPoint(at, 295) : CPoint(295, at);
+            axis_.ClientToScreen(&screen);
+            ::SetCursorPos(screen.x, screen.y);
+            ::SetCursor(nullptr);
+            const LPARAM client = MAKELPARAM(HTCLIENT, WM_MOUSEMOVE); // as the system asks before each move
+            axis_.SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(axis_.m_hWnd), client);
+            EXPECT_EQ(::GetCursor(), pointer(at == 150 ? moves : enlarges)) << across << at;
         }
         full_repaint(axis_);
         const Pixels shown = pixels_of(axis_); // the slider is raised

@@ -39,6 +39,7 @@ ON_WM_LBUTTONDBLCLK()
 ON_WM_RBUTTONDOWN()
 ON_WM_MOUSEMOVE()
 ON_WM_CAPTURECHANGED()
+ON_WM_SETCURSOR()
 END_MESSAGE_MAP()
 
 CWntAxis::CWntAxis() : model_(std::make_unique<wnt::AxisModel>()), zoom_(std::make_unique<wnt::ZoomControl>()) {}
@@ -278,17 +279,28 @@ void CWntAxis::OnMouseMove(UINT flags, CPoint point) {
     if (flags & MK_LBUTTON)
         drag_zoom(point);
     else
-        show_zoom_cursor(point);
+        show_zoom_cursor(zoom_->hover(model_->horizontal(), point.x, point.y));
 }
 
-void CWntAxis::show_zoom_cursor(CPoint point) {
-    const bool horizontal = model_->horizontal();
-    const wnt::ZoomGrip grip = zoom_->hover(horizontal, point.x, point.y);
+// Without this the class' own pointer would come in between at every step of the mouse.
+BOOL CWntAxis::OnSetCursor(CWnd* window, UINT hit, UINT message) {
+    CPoint at;
+    ::GetCursorPos(&at);
+    ScreenToClient(&at);
+    if (hit == HTCLIENT && zoom_->shown && zoom_->hit(at.x, at.y) &&
+        show_zoom_cursor(zoom_->grip_at(model_->horizontal(), at.x, at.y)))
+        return TRUE;
+    return CWnd::OnSetCursor(window, hit, message);
+}
+
+bool CWntAxis::show_zoom_cursor(wnt::ZoomGrip grip) {
     if (grip == wnt::ZoomGrip::none)
-        return;
+        return false;
+    const bool horizontal = model_->horizontal();
     const char* move = horizontal ? "IDC_AXIS_X_MOVE" : "IDC_AXIS_Y_MOVE";
     const char* enlarge = horizontal ? "IDC_AXIS_X_ENLARGE" : "IDC_AXIS_Y_ENLARGE";
     ::SetCursor(::LoadCursor(wnt::library_module(), grip == wnt::ZoomGrip::move ? move : enlarge));
+    return true;
 }
 
 // The slider may reach beyond its box: it keeps its place where the axis changes its size.

@@ -12,6 +12,7 @@ struct AxisModel;
 struct AxisRect;
 struct AxisTick;
 struct ZoomControl;
+enum class ZoomGrip;
 } // namespace wnt
 
 /// One axis of a chart: ticks and labels for a range of values, a list of texts or a stretch of calendar time, and the
@@ -127,6 +128,7 @@ protected:
     afx_msg void OnRButtonDown(UINT flags, CPoint point);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnCaptureChanged(CWnd* other);
+    afx_msg BOOL OnSetCursor(CWnd* window, UINT hit, UINT message);
     DECLARE_MESSAGE_MAP()
 
     /// Lays the zoom control out; keep: its slider covers it again.
@@ -162,7 +164,7 @@ private:
     void draw_label(CPaintDC* dc, const wnt::AxisTick& tick, int distance);
     void draw_ticks(CPaintDC* dc);
     void fill_box(CPaintDC* dc, int x, int y, int width, int height, COLORREF colour);
-    void show_zoom_cursor(CPoint point);
+    bool show_zoom_cursor(wnt::ZoomGrip grip);
     void drag_zoom(CPoint point);
     void invalidate_painted(const wnt::AxisRect& r);
     bool open_properties();

@@ -52,15 +52,20 @@ bool ZoomControl::hit(std::int32_t x, std::int32_t y) const {
     return box.left <= x && x < box.right && box.top <= y && y < box.bottom;
 }
 
-ZoomGrip ZoomControl::hover(bool horizontal, std::int32_t x, std::int32_t y) {
-    const Stretch s = along(slider, horizontal);
+ZoomGrip ZoomControl::grip_at(bool horizontal, std::int32_t x, std::int32_t y) const {
+    const std::int32_t start = horizontal ? slider.left : slider.top;
+    const std::int32_t end = horizontal ? slider.right : slider.bottom;
     const std::int32_t at = horizontal ? x : y;
-    enlarging = false;
-    if (at < s.start || at >= s.end)
+    if (at < start || at >= end)
         return ZoomGrip::none;
-    far_end = at >= s.start + grip;
-    enlarging = !far_end || at >= s.end - grip;
-    return enlarging ? ZoomGrip::enlarge : ZoomGrip::move;
+    return at < start + grip || at >= end - grip ? ZoomGrip::enlarge : ZoomGrip::move;
+}
+
+ZoomGrip ZoomControl::hover(bool horizontal, std::int32_t x, std::int32_t y) {
+    const ZoomGrip found = grip_at(horizontal, x, y);
+    enlarging = found == ZoomGrip::enlarge;
+    far_end = (horizontal ? x - slider.left : y - slider.top) >= grip;
+    return found;
 }
 
 void ZoomControl::drag(bool horizontal, std::int32_t x, std::int32_t y) {

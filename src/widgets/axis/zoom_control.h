@@ -27,7 +27,9 @@ struct ZoomControl {
 
     bool hit(std::int32_t x, std::int32_t y) const;
 
-    /// What a press at the point would take hold of; remembers it for the drag.
+    /// What a press at the point would take hold of.
+    ZoomGrip grip_at(bool horizontal, std::int32_t x, std::int32_t y) const;
+    /// The same; remembers it for the drag.
     ZoomGrip hover(bool horizontal, std::int32_t x, std::int32_t y);
 
     /// Moves or enlarges the slider with the mouse, which was at the last point before.
