@@ -26,4 +26,5 @@
 #include "widgets/button/wnt_button.h"
 #include "widgets/calendar/wnt_calendar.h"
 #include "widgets/colour_selector/wnt_color_sel.h"
+#include "widgets/data_exchange.h"
 #include "widgets/gauge/wnt_gauge.h"

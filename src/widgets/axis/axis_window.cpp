@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "control_class.h"
 #include "arithmetic.h"
 #include "library_resources.h"
 #include "widgets/axis/axis_model.h"
@@ -42,22 +43,52 @@ ON_WM_CAPTURECHANGED()
 ON_WM_SETCURSOR()
 END_MESSAGE_MAP()
 
-CWntAxis::CWntAxis() : model_(std::make_unique<wnt::AxisModel>()), zoom_(std::make_unique<wnt::ZoomControl>()) {}
+CWntAxis::CWntAxis() : model_(std::make_unique<wnt::AxisModel>()), zoom_(std::make_unique<wnt::ZoomControl>()) {
+    wnt::register_control_class("WntAxis");
+}
 
 CWntAxis::~CWntAxis() {
     DestroyWindow(); // while its handlers and what they use still exist
 }
 
+BOOL CWntAxis::PreCreateWindow(CREATESTRUCT& create) {
+    made_ = true;
+    return CWnd::PreCreateWindow(create);
+}
+
+void CWntAxis::PreSubclassWindow() {
+    CWnd::PreSubclassWindow();
+    if (!made_)
+        take_over();
+}
+
+void CWntAxis::PostNcDestroy() {
+    made_ = false;
+    CWnd::PostNcDestroy();
+}
+
 int CWntAxis::OnCreate(LPCREATESTRUCT create) {
     if (const int result = CWnd::OnCreate(create); result != 0)
         return result;
+    build();
+    return 0;
+}
+
+// A dialog's text is the title.
+void CWntAxis::take_over() {
+    GetWindowText(title_);
+    build();
+    const CSize size = wnt::client_size(m_hWnd);
+    lay_out(size.cx, size.cy);
+}
+
+void CWntAxis::build() {
     make_pen(shadow_pen_, COLOR_BTNSHADOW);
     make_pen(highlight_pen_, COLOR_BTNHIGHLIGHT);
     make_pen(face_pen_, COLOR_BTNFACE);
     make_font(title_font_, 25);
     make_font(value_font_, 15);
     make_font(label_font_, 10);
-    return 0;
 }
 
 void CWntAxis::repaint() {
@@ -205,6 +236,10 @@ void CWntAxis::SetZoomRects(int keep) {
 
 void CWntAxis::OnSize(UINT type, int cx, int cy) {
     CWnd::OnSize(type, cx, cy);
+    lay_out(cx, cy);
+}
+
+void CWntAxis::lay_out(int cx, int cy) {
     model_->resize(cx, cy);
     SetZoomRects(0);
     repaint();

@@ -35,6 +35,8 @@ enum class ZoomGrip;
 ///
 /// Time values count hundredths of a second. Days count from 1 January 1980, which is day 1, in years of 365.25 days.
 ///
+/// In a dialog template its class is "WntAxis"; DDX_Control() joins it to an object.
+///
 /// Command 100 shows and hides a zoom control, whose slider the mouse moves without any effect on the range; command
 /// 101 opens the axis' properties. A double click is told to the parent by a notify message with code 103.
 class ZOPWNT_API CWntAxis : public CWnd {
@@ -116,6 +118,9 @@ public:
     int QueryDoubleclickedItem();
 
 protected:
+    BOOL PreCreateWindow(CREATESTRUCT& create) override;
+    void PreSubclassWindow() override;
+    void PostNcDestroy() override;
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
 
     afx_msg int OnCreate(LPCREATESTRUCT create);
@@ -157,6 +162,9 @@ protected:
 private:
     friend class CWntAxisProperties;
 
+    void take_over();
+    void build();
+    void lay_out(int cx, int cy);
     void repaint();
     void tick_line(int start, int length, int pixel, int (&ends)[4]) const;
     void draw_tick(CPaintDC* dc, const wnt::AxisTick& tick);
@@ -170,6 +178,7 @@ private:
     bool open_properties();
     void end_zoom_drag();
 
+    bool made_ = false; // its window, which otherwise it takes over
     int double_clicked_item_ = 0;
     CString* texts_ = nullptr;
     float shown_limits_[2] = {0.0f, 100.0f}; ///< What the properties show.

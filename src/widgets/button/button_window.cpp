@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "control_class.h"
 #include "script/script_line.h"
 #include "widgets/button/button_painter.h"
 #include "widgets/painting/surface_buffer.h"
@@ -29,15 +30,29 @@ END_MESSAGE_MAP()
 
 CWntButton::CWntButton()
     : model_(std::make_unique<wnt::ButtonModel>()), box_(std::make_unique<wnt::ButtonBox>()),
-      inside_(std::make_unique<wnt::ButtonInside>()) {}
+      inside_(std::make_unique<wnt::ButtonInside>()) {
+    wnt::register_control_class("WntButton");
+}
 
 CWntButton::~CWntButton() {
     DestroyWindow(); // while its handlers and what they use still exist
 }
 
 BOOL CWntButton::PreCreateWindow(CREATESTRUCT& create) {
+    made_ = true;
     wnt::keep_children_unclipped(create);
     return CWnd::PreCreateWindow(create);
+}
+
+void CWntButton::PreSubclassWindow() {
+    CWnd::PreSubclassWindow();
+    if (!made_)
+        take_over();
+}
+
+void CWntButton::PostNcDestroy() {
+    made_ = false;
+    CWnd::PostNcDestroy();
 }
 
 int CWntButton::OnCreate(LPCREATESTRUCT create) {
@@ -45,17 +60,35 @@ int CWntButton::OnCreate(LPCREATESTRUCT create) {
         return result;
     if (out_.m_hWnd)
         return -1; // sent by hand to a living window
+    return build() ? 0 : -1;
+}
+
+// A dialog's text is the title.
+void CWntButton::take_over() {
+    ModifyStyle(WS_CLIPCHILDREN, 0);
+    CString title;
+    GetWindowText(title);
+    if (!build())
+        return;
+    const CSize size = wnt::client_size(m_hWnd);
+    lay_out(size.cx, size.cy);
+    if (!title.IsEmpty())
+        load(":TITLE=" + title, wnt::script_line);
+    load("", wnt::script_end);
+}
+
+bool CWntButton::build() {
     model_->clear();
     *box_ = {};
     *inside_ = {};
     created_ = true;
     if (!out_.Create(nullptr, "Button.Out", WS_CHILD | WS_VISIBLE, CRect(0, 0, 1, 1), this, surface_id))
-        return -1;
+        return false;
     load("", wnt::script_begin);
     for (const char* line : wnt::button_built_in_script)
         load(line, wnt::script_line);
     load("", wnt::script_end);
-    return 0;
+    return true;
 }
 
 void CWntButton::OnDestroy() {
@@ -193,6 +226,10 @@ void CWntButton::OnPaint() {
 
 void CWntButton::OnSize(UINT type, int cx, int cy) {
     CWnd::OnSize(type, cx, cy);
+    lay_out(cx, cy);
+}
+
+void CWntButton::lay_out(int cx, int cy) {
     box_->width = cx;
     box_->height = cy;
     if (!out_.m_hWnd)

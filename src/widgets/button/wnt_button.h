@@ -21,6 +21,8 @@ struct ButtonBox;
 ///     button.load(":TITLE=Start", 0);
 ///     button.load("", 2);
 ///
+/// In a dialog template its class is "WntButton" and its text the title; DDX_Control() joins it to an object.
+///
 /// It sends no notification: a host watches the border type of getproperties() (2 raised, 3 sunk) or handles the
 /// mouse messages in a class derived from it. A press that is released outside leaves it sunk. Its window never has
 /// WS_CLIPCHILDREN: with the surface clipped away it would not learn what of it was uncovered.
@@ -54,6 +56,8 @@ public:
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
+    void PreSubclassWindow() override;
+    void PostNcDestroy() override;
 
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnDestroy();
@@ -69,6 +73,9 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    void take_over();
+    bool build();
+    void lay_out(int cx, int cy);
     void repaint();
     void draw_all();
     void open_surface();
@@ -76,6 +83,7 @@ private:
 
     CWntOut out_;
     bool created_ = false;
+    bool made_ = false; // its window, which otherwise it takes over
     std::unique_ptr<wnt::ButtonModel> model_;
     std::unique_ptr<wnt::ButtonBox> box_;
     std::unique_ptr<wnt::ButtonInside> inside_;

@@ -1,5 +1,6 @@
 #include <ctime>
 
+#include "control_class.h"
 #include "widgets/calendar/calendar_days.h"
 #include "widgets/calendar/calendar_commands.h"
 #include "widgets/calendar/calendar_layout.h"
@@ -26,15 +27,29 @@ ON_WM_RBUTTONDOWN()
 ON_WM_CAPTURECHANGED()
 END_MESSAGE_MAP()
 
-CWntCalendar::CWntCalendar() : layout_(std::make_unique<wnt::CalendarLayout>()) {}
+CWntCalendar::CWntCalendar() : layout_(std::make_unique<wnt::CalendarLayout>()) {
+    wnt::register_control_class("WntCalendar");
+}
 
 CWntCalendar::~CWntCalendar() {
     DestroyWindow(); // while its handlers and what they use still exist
 }
 
 BOOL CWntCalendar::PreCreateWindow(CREATESTRUCT& create) {
+    made_ = true;
     wnt::keep_children_unclipped(create);
     return CWnd::PreCreateWindow(create);
+}
+
+void CWntCalendar::PreSubclassWindow() {
+    CWnd::PreSubclassWindow();
+    if (!made_)
+        take_over();
+}
+
+void CWntCalendar::PostNcDestroy() {
+    made_ = false;
+    CWnd::PostNcDestroy();
 }
 
 int CWntCalendar::OnCreate(LPCREATESTRUCT create) {
@@ -42,13 +57,25 @@ int CWntCalendar::OnCreate(LPCREATESTRUCT create) {
         return result;
     if (out_.m_hWnd)
         return -1; // sent by hand to a living window
+    return build() ? 0 : -1;
+}
+
+void CWntCalendar::take_over() {
+    ModifyStyle(WS_CLIPCHILDREN, 0);
+    if (!build())
+        return;
+    const CSize size = wnt::client_size(m_hWnd);
+    lay_out(size.cx, size.cy);
+}
+
+bool CWntCalendar::build() {
     if (!out_.Create(nullptr, "Out1", WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 50), this, surface_id))
-        return -1;
+        return false;
     read_colours();
     today_ = shown_ = end_ = dragged_to_ = std::time(nullptr);
     dragging_ = false;
     drag_step_ = 0;
-    return 0;
+    return true;
 }
 
 void CWntCalendar::read_colours() {
@@ -85,6 +112,10 @@ void CWntCalendar::OnPaint() {
 
 void CWntCalendar::OnSize(UINT type, int cx, int cy) {
     CWnd::OnSize(type, cx, cy);
+    lay_out(cx, cy);
+}
+
+void CWntCalendar::lay_out(int cx, int cy) {
     *layout_ = wnt::calendar_layout(cx, cy);
     if (!out_.m_hWnd)
         return;

@@ -24,6 +24,8 @@ class SurfaceBuffer;
 /// months (101 to 112) are jumped to; years (200 to 209), the grid's 113, 114 and 120 are for derived classes to
 /// follow, which read and set the date shown. The grid's first "Jump to current day" is the December command.
 ///
+/// In a dialog template its class is "WntCalendar"; DDX_Control() joins it to an object.
+///
 /// Dates are local times, from 1970 to 3000; the grid ends above the first week without a number, which east of UTC the
 /// weeks of 1970 are. Days are 86,400 seconds: where the first date shown is a midnight, daylight saving that ends
 /// moves the later cells to the days before. A month that cannot be reached raises the framework's result-code
@@ -55,6 +57,8 @@ public:
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
+    void PreSubclassWindow() override;
+    void PostNcDestroy() override;
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
 
     afx_msg int OnCreate(LPCREATESTRUCT create);
@@ -76,6 +80,9 @@ private:
     };
     struct Week;
 
+    void take_over();
+    bool build();
+    void lay_out(int cx, int cy);
     void read_colours();
     CPoint from_bottom(CPoint point) const;
     void draw_dates(std::int64_t shown);
@@ -88,6 +95,7 @@ private:
     void drag_to(CPoint point);
     bool end_drag();
 
+    bool made_ = false; // its window, which otherwise it takes over
     CWntOut out_;
     std::unique_ptr<wnt::SurfaceBuffer> painting_; // while a painter runs
     Colours colours_{};

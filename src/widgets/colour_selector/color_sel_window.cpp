@@ -1,3 +1,4 @@
+#include "control_class.h"
 #include "diag/wnt_trace.h"
 #include "out/point_font.h"
 #include "widgets/colour_selector/colour_grid.h"
@@ -25,15 +26,29 @@ ON_WM_LBUTTONUP()
 ON_WM_MOUSEMOVE()
 END_MESSAGE_MAP()
 
-CWntColorSel::CWntColorSel() = default;
+CWntColorSel::CWntColorSel() {
+    wnt::register_control_class("WntColorSel");
+}
 
 CWntColorSel::~CWntColorSel() {
     DestroyWindow(); // while its handlers and what they use still exist
 }
 
 BOOL CWntColorSel::PreCreateWindow(CREATESTRUCT& create) {
+    made_ = true;
     wnt::keep_children_unclipped(create);
     return CWnd::PreCreateWindow(create);
+}
+
+void CWntColorSel::PreSubclassWindow() {
+    CWnd::PreSubclassWindow();
+    if (!made_)
+        take_over();
+}
+
+void CWntColorSel::PostNcDestroy() {
+    made_ = false;
+    CWnd::PostNcDestroy();
 }
 
 int CWntColorSel::OnCreate(LPCREATESTRUCT create) {
@@ -41,6 +56,16 @@ int CWntColorSel::OnCreate(LPCREATESTRUCT create) {
         return result;
     if (out_.m_hWnd)
         return -1; // sent by hand to a living window
+    return build() ? 0 : -1;
+}
+
+void CWntColorSel::take_over() {
+    ModifyStyle(WS_CLIPCHILDREN, 0);
+    if (build())
+        lay_out();
+}
+
+bool CWntColorSel::build() {
     sliders_shown_ = 0;
     cells_3d_ = 0;
     hover_sample_ = 0;
@@ -52,15 +77,15 @@ int CWntColorSel::OnCreate(LPCREATESTRUCT create) {
     if (!out_.Create(nullptr, "ColorSel.Out", WS_CHILD | WS_VISIBLE, nowhere, this, surface_id) ||
         !list_.Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | LBS_SORT | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT, nowhere, this,
                       list_id))
-        return -1;
+        return false;
     list_.SetFont(&font_);
     for (int i = 0; i < 3; ++i) {
         if (!sliders_[i].Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | TBS_VERT | TBS_BOTH, nowhere, this,
                                 static_cast<UINT>(first_slider_id + i)))
-            return -1;
+            return false;
         sliders_[i].SetRange(0, 255);
     }
-    return 0;
+    return true;
 }
 
 void CWntColorSel::OnDestroy() {

@@ -21,6 +21,8 @@ class SurfaceBuffer;
 ///     colours.SetColorPalette(table, 16);
 ///     // in the parent: ON_NOTIFY(1, 5, OnColour), then colours.GetSelectedColorID()
 ///
+/// In a dialog template its class is "WntColorSel"; DDX_Control() joins it to an object.
+///
 /// A pick is told by a notify message to the parent with code 1. The palette and the array of the items' colours belong
 /// to the host and must outlive their use; the names are copied. Every paint and every pick writes the selected colour
 /// into the selected item's entry, -1 or a number past the palette included where such a place was clicked.
@@ -65,6 +67,8 @@ public:
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
+    void PreSubclassWindow() override;
+    void PostNcDestroy() override;
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
 
     afx_msg int OnCreate(LPCREATESTRUCT create);
@@ -77,11 +81,14 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    void take_over();
+    bool build();
     wnt::ColourGrid grid();
     void paint_sample(int x, int y, int width, int height, int colour);
     void paint_cell(int x, int y, int width, int height, int colour, bool edged);
     void lay_out();
 
+    bool made_ = false; // its window, which otherwise it takes over
     int sliders_shown_ = 0;
     CSliderCtrl sliders_[3];
     CFont font_;

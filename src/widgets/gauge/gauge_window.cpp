@@ -4,6 +4,7 @@
 #include <cstring>
 #include <string>
 
+#include "control_class.h"
 #include "script/keywords.h"
 #include "script/script_file.h"
 #include "widgets/gauge/gauge_model.h"
@@ -67,15 +68,29 @@ ON_WM_HSCROLL()
 ON_WM_DROPFILES()
 END_MESSAGE_MAP()
 
-CWntGauge::CWntGauge() : model_(std::make_unique<wnt::GaugeModel>()), painter_(std::make_unique<wnt::GaugePainter>()) {}
+CWntGauge::CWntGauge() : model_(std::make_unique<wnt::GaugeModel>()), painter_(std::make_unique<wnt::GaugePainter>()) {
+    wnt::register_control_class("WntGauge");
+}
 
 CWntGauge::~CWntGauge() {
     DestroyWindow(); // while its handlers and what they use still exist
 }
 
 BOOL CWntGauge::PreCreateWindow(CREATESTRUCT& create) {
+    made_ = true;
     wnt::keep_children_unclipped(create);
     return CWnd::PreCreateWindow(create);
+}
+
+void CWntGauge::PreSubclassWindow() {
+    CWnd::PreSubclassWindow();
+    if (!made_)
+        take_over();
+}
+
+void CWntGauge::PostNcDestroy() {
+    made_ = false;
+    CWnd::PostNcDestroy();
 }
 
 int CWntGauge::OnCreate(LPCREATESTRUCT create) {
@@ -83,15 +98,35 @@ int CWntGauge::OnCreate(LPCREATESTRUCT create) {
         return result;
     if (out_.m_hWnd)
         return -1; // sent by hand to a living window
+    return build() ? 0 : -1;
+}
+
+// A dialog's text names a script or is the title.
+void CWntGauge::take_over() {
+    ModifyStyle(WS_CLIPCHILDREN, 0);
+    CString text;
+    GetWindowText(text);
+    if (!build())
+        return;
+    const DWORD attributes = text.IsEmpty() ? INVALID_FILE_ATTRIBUTES : ::GetFileAttributesA(text);
+    if (attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY))
+        LoadFromFile(text);
+    else if (!text.IsEmpty())
+        SetTitles(text, "");
+    const CSize size = wnt::client_size(m_hWnd);
+    lay_out(size.cx, size.cy);
+}
+
+bool CWntGauge::build() {
     if (!create_children())
-        return -1;
+        return false;
     trace_.SetFilename("gaugeocx.log");
     trace_.Trace("GaugCtrl::OnCreate\n");
     DragAcceptFiles();
     *model_ = wnt::GaugeModel(::GetSysColor(COLOR_BTNFACE), ::GetSysColor(COLOR_BTNHIGHLIGHT),
                               ::GetSysColor(COLOR_3DDKSHADOW));
     run_built_in_script();
-    return 0;
+    return true;
 }
 
 bool CWntGauge::create_children() {
@@ -153,6 +188,10 @@ void CWntGauge::SetCurVal(int value) {
     trace_.Trace("SetCurVal %d, Range(%d,%d), Current(%d)", value, model_->minimum, model_->maximum, model_->current);
     if (model_->set_current_value(value))
         Repaint();
+}
+
+int CWntGauge::GetCurVal() const {
+    return this ? model_->current : 0;
 }
 
 void CWntGauge::SetRange(long minimum, long maximum) {
@@ -232,6 +271,10 @@ void CWntGauge::OnPaint() {
 
 void CWntGauge::OnSize(UINT type, int cx, int cy) {
     CWnd::OnSize(type, cx, cy);
+    lay_out(cx, cy);
+}
+
+void CWntGauge::lay_out(int cx, int cy) {
     const bool test = model_->test_mode;
     const int strip = test ? strip_height : 0;
     width_ = cx;

@@ -21,6 +21,9 @@ class GaugePainter;
 ///     gauge.LoadFromFile("boiler.dat");       // or LoadLine(":TYPE=ANALOG", 0), ... LoadLine("", 2)
 ///     gauge.SetCurVal(42);
 ///
+/// In a dialog template its class is "WntGauge", its text the name of a script or else the title; DDX_Control() joins
+/// it to an object. Any other window becomes a gauge by SubclassWindow().
+///
 /// Nothing is reported: unknown script keys and values, and values outside the range, are ignored. A new gauge shows
 /// a sample configuration. Files dropped on it are loaded as scripts.
 class ZOPWNT_API CWntGauge : public CWnd {
@@ -38,6 +41,8 @@ public:
 
     /// Shows a value at once; one outside the range, or the current one, changes nothing.
     void SetCurVal(int value);
+    /// The value that is shown; 0 on a null object.
+    int GetCurVal() const;
     /// Taken as given: minimum may exceed maximum, the current value may lie outside.
     void SetRange(long minimum, long maximum);
     /// 0 percent bar, 1 thermometer, 2 analogue, 3 digital, 4 peak line, 5 knob; others draw nothing. Shown with the
@@ -62,6 +67,8 @@ public:
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
+    void PreSubclassWindow() override;
+    void PostNcDestroy() override;
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
 
     afx_msg int OnCreate(LPCREATESTRUCT create);
@@ -75,10 +82,14 @@ protected:
 
 private:
     int getmarkercolour(long value);
+    void take_over();
+    bool build();
+    void lay_out(int cx, int cy);
     bool create_children();
     void run_built_in_script();
     void end_script();
 
+    bool made_ = false; // its window, which otherwise it takes over
     int width_ = 0;
     int height_ = 0; // without the strip of the test mode
     CWntOut out_;

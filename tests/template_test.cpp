@@ -1,0 +1,110 @@
+// Widgets that a dialog's template places, and those that take over other windows.
+#include "modal.h"
+#include "template_ids.h"
+#include "temporary_file.h"
+#include "widget_window.h"
+
+namespace {
+
+class WidgetsDialog : public CDialog {
+public:
+    explicit WidgetsDialog(CWnd* parent) : CDialog(IDD_WIDGETS, parent) {}
+    void DoDataExchange(CDataExchange* exchange) override {
+        CDialog::DoDataExchange(exchange);
+        if (!joined)
+            return;
+        DDX_GaugeValue(exchange, IDC_GAUGE, value);
+        DDX_Color(exchange, IDC_COLOURS, colour);
+    }
+    BOOL OnInitDialog() override {
+        joined = FALSE;
+        CDialog::OnInitDialog();
+        joined = gauge.SubclassDlgItem(IDC_GAUGE, this) && scripted.SubclassDlgItem(IDC_SCRIPTED, this) &&
+                 button.SubclassDlgItem(IDC_BUTTON, this) && axis.SubclassDlgItem(IDC_AXIS, this) &&
+                 calendar.SubclassDlgItem(IDC_CALENDAR, this) && colours.SubclassDlgItem(IDC_COLOURS, this) &&
+                 placed.SubclassDlgItem(IDC_PLACE, this);
+        return TRUE;
+    }
+
+    CWntGauge gauge, scripted, placed;
+    CWntButton button;
+    CWntAxis axis;
+    CWntCalendar calendar;
+    CWntColorSel colours;
+    BOOL joined = FALSE;
+    int value = 0, colour = 0;
+};
+
+// The same widget, created by its object.
+template <class Widget> Pixels created(CWnd& parent, CWnd& like, std::function<void(Widget&)> prepare) {
+    CRect client;
+    like.GetClientRect(&client);
+    Widget widget;
+    EXPECT_TRUE(widget.Create(nullptr, "Created", WS_CHILD | WS_VISIBLE, client, &parent, 1));
+    prepare(widget);
+    full_repaint(widget);
+    const Pixels shown = pixels_of(widget);
+    widget.DestroyWindow();
+    return shown;
+}
+
+class TemplateTest : public WidgetTest {};
+
+TEST_F(TemplateTest, WidgetsLookAsIfTheirObjectsHadCreatedThem) {
+    std::ofstream("template.dat") << ":TYPE=ANALOG\n:RANGE=0,50\n:TITLE=From a script\n";
+    WidgetsDialog dialog(&host_);
+    for (int round = 0; round < 2; ++round) { // an object serves its dialog again
+        WhileModal modal([&] {
+            if (!dialog.m_hWnd || !dialog.joined)
+                return false;
+            const auto expect_as = [&](CWnd& widget, const Pixels& expected) {
+                full_repaint(widget);
+                EXPECT_TRUE(pixels_of(widget) == expected) << widget.GetDlgCtrlID();
+            };
+            expect_as(dialog.gauge,
+                      created<CWntGauge>(host_, dialog.gauge, [](CWntGauge& g) { g.SetTitles("Pressure", ""); }));
+            expect_as(dialog.scripted,
+                      created<CWntGauge>(host_, dialog.scripted, [](CWntGauge& g) { g.LoadFromFile("template.dat"); }));
+            expect_as(dialog.placed, created<CWntGauge>(host_, dialog.placed, [](CWntGauge&) {}));
+            expect_as(dialog.button, created<CWntButton>(host_, dialog.button,
+                                                         [](CWntButton& b) { b.load(":TITLE=Go", 0), b.load("", 2); }));
+            expect_as(dialog.axis, created<CWntAxis>(host_, dialog.axis, [](CWntAxis&) {}));
+            expect_as(dialog.calendar, created<CWntCalendar>(host_, dialog.calendar, [](CWntCalendar&) {}));
+            expect_as(dialog.colours, created<CWntColorSel>(host_, dialog.colours, [](CWntColorSel&) {}));
+            dialog.value = 71, dialog.colour = 6;
+            EXPECT_TRUE(dialog.UpdateData(FALSE));
+            EXPECT_TRUE(dialog.gauge.GetCurVal() == 71 && dialog.colours.GetSelectedColorID() == 6);
+            dialog.gauge.SetCurVal(18), dialog.colours.SetSelectedColorID(2);
+            EXPECT_TRUE(dialog.UpdateData() && dialog.value == 18 && dialog.colour == 2);
+            CDataExchange exchange(&dialog, FALSE);
+            EXPECT_THROW(DDX_Color(&exchange, IDC_GAUGE, dialog.colour), CNotSupportedException*);
+            EXPECT_THROW(DDX_GaugeValue(&exchange, 999, dialog.value), CNotSupportedException*);
+            dialog.gauge.MoveWindow(0, 0, 90, 40); // sizes come as messages from now on
+            CRect surface;
+            dialog.gauge.GetDlgItem(100)->GetClientRect(&surface);
+            EXPECT_EQ(surface, CRect(0, 0, 90, 40));
+            dialog.EndDialog(IDOK);
+            return true;
+        });
+        EXPECT_EQ(dialog.DoModal(), IDOK);
+        EXPECT_TRUE(!dialog.gauge.m_hWnd && !dialog.placed.m_hWnd);
+    }
+    std::remove("template.dat");
+}
+
+TEST_F(TemplateTest, ByItsClassNameAWidgetIsMadeOnce) {
+    CWntCalendar calendar;
+    ASSERT_TRUE(calendar.Create("WntCalendar", "Calendar", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &host_, 1));
+    int children = 0;
+    for (HWND child = ::GetWindow(calendar, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT))
+        ++children;
+    EXPECT_EQ(children, 1);
+    CWntGauge refused; // and takes over a window after that
+    EXPECT_FALSE(refused.Create("no such class", "", WS_CHILD, CRect(0, 0, 9, 9), &host_, 2));
+    CStatic place;
+    ASSERT_TRUE(place.Create("", WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 60), &host_, 3));
+    ASSERT_TRUE(refused.SubclassWindow(place.UnsubclassWindow()));
+    EXPECT_NE(refused.GetDlgItem(100), nullptr);
+}
+
+} // namespace
