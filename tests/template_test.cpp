@@ -83,6 +83,7 @@ TEST_F(TemplateTest, WidgetsLookAsIfTheirObjectsHadCreatedThem) {
             CRect surface;
             dialog.gauge.GetDlgItem(100)->GetClientRect(&surface);
             EXPECT_EQ(surface, CRect(0, 0, 90, 40));
+            dialog.colours.SetSelectedColorID(0); // stays with the object
             dialog.EndDialog(IDOK);
             return true;
         });
