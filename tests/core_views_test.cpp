@@ -44,6 +44,7 @@ TEST(GaugeViews, StayInsideTheirStageAndTextsApartAtEverySize) {
         {":MINVAL=500", ":MAXVAL=-500", ":CLEARMARKS"},
         {":BARTITLE=X", ":TITLE=a title of fifty characters that is far too long to fit"},
         {":NOTITLE=X", ":BORDERHEIGHT=5", ":BORDERTYPE=UNKNOWN"},
+        {":UNITTITLE=cubic metres of air per minute"},
         {":CLRTEXT=NONE", ":CLRBACK=NONE", ":SETMARK=1,NONE", ":CURVAL=1"},
     };
     std::vector<std::pair<int, int>> sizes = {{40, 60}, {300, 20}, {20, 300}, {331, 187}, {1000, 1000}};
@@ -83,6 +84,36 @@ TEST(GaugeViews, ShowValueTitlesAndScale) {
         EXPECT_FALSE(writes(untitled, "Pressure") || writes(untitled, "bar")) << type;
     }
     EXPECT_TRUE(writes({model_of(gauge_percent_bar, {":CURVAL=7"}), 240, 220}, "  7 %"));
+}
+
+TEST(GaugeViews, ShowTheUnitAtEverySizeAndRange) {
+    const std::string unit = "litres per minute";
+    const std::pair<int, int> sizes[] = {{40, 40},  {60, 40},   {61, 61},   {100, 80},  {320, 60},
+                                         {60, 320}, {200, 200}, {320, 240}, {900, 900}, {1000, 1000}};
+    const Lines ranges[] = {{}, {":MAXVAL=1000000"}, {":MINVAL=-2147483648", ":MAXVAL=2147483647"}};
+    for (int type = 0; type < gauge_type_count; ++type)
+        for (const Lines& range : ranges)
+            for (const auto& [width, height] : sizes) {
+                GaugeModel model = model_of(type, range);
+                model.set_titles("", unit.c_str());
+                const Scene scene(model, width, height);
+                std::string shown;
+                for (const Picture* picture : {&scene.face, &scene.value})
+                    for (const Picture::Figure& f : picture->figures())
+                        if (std::string text(f.kind == Picture::Kind::text ? picture->characters(f) : "");
+                            !text.empty()) {
+                            text.erase(0, text[0] == ' ');
+                            if (unit.starts_with(text.substr(0, text.find(".."))))
+                                shown = text;
+                        }
+                EXPECT_NE(shown, "") << type << range.size() << " " << width << "x" << height;
+                if (width >= 320 && height >= 240)
+                    EXPECT_TRUE(shown == unit || type == gauge_digital)
+                        << type << range.size() << " " << width << shown;
+                model.set_titles("", "u");
+                EXPECT_TRUE(writes({model, width, height}, "u"))
+                    << type << range.size() << " " << width << "x" << height;
+            }
 }
 
 TEST(GaugeViews, ShowTheValueInItsZonesColour) {

@@ -22,8 +22,8 @@ struct Bar {
     int bar_size; ///< text on the bar
 };
 
-Bar lay_out_bar(const GaugeModel& model, const Stage& stage) {
-    Bar b = {lay_out(model, stage, has_inner_title(model)), {}, {}, {}, 0, 0};
+Bar place_bar(const GaugeModel& model, const Stage& stage, UnitPlace unit) {
+    Bar b = {lay_out(model, stage, unit, has_inner_title(model)), {}, {}, {}, 0, 0};
     const BoxF& body = b.layout.body;
     const float height = body.height();
     if (height >= 40 && body.width() >= 50)
@@ -52,6 +52,10 @@ Bar lay_out_bar(const GaugeModel& model, const Stage& stage) {
         b.groove.top = b.groove.bottom + 2;
     b.bar_size = stage.meter.tenths(std::clamp(b.groove.height() * 0.55f, 6.0f, 60.0f));
     return b;
+}
+
+Bar lay_out_bar(const GaugeModel& model, const Stage& stage) {
+    return place_with_unit(model, stage, [&](UnitPlace unit) { return place_bar(model, stage, unit); });
 }
 
 // A value outside the range counts as its end, as the bar shows it.
@@ -98,7 +102,7 @@ void bar_face(Picture& picture, const GaugeModel& model, const Stage& stage) {
     paint_sunken_edge(picture, {b.groove.left - 1, b.groove.bottom - 1, b.groove.right + 1, b.groove.top + 1}, theme);
     picture.box(b.groove, theme.groove);
     paint_zone_strip(picture, model, b.zones, false);
-    paint_title(picture, model, stage, b.layout);
+    paint_titles(picture, model, stage, b.layout);
     if (!b.label_size)
         return;
     const float label_gap = widest_label(model, stage.meter, b.label_size) + 6;
@@ -140,7 +144,7 @@ void bar_value(Picture& picture, const GaugeModel& model, const Stage& stage) {
         write_over(picture, stage, filled, empty, {std::round(middle.x), middle.y}, HAlign::centre, percent, colour,
                    theme.text);
     }
-    paint_readout(picture, model, stage, b.readout);
+    paint_readout(picture, model, stage, b.readout, b.layout.unit.empty());
 }
 
 } // namespace wnt

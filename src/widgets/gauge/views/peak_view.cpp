@@ -22,8 +22,8 @@ struct Plot {
     int columns;
 };
 
-Plot lay_out_plot(const GaugeModel& model, const Stage& stage) {
-    Plot p = {lay_out(model, stage), {}, {}, {}, 0, 2, 1};
+Plot place_plot(const GaugeModel& model, const Stage& stage, UnitPlace unit) {
+    Plot p = {lay_out(model, stage, unit), {}, {}, {}, 0, 2, 1};
     BoxF body = p.layout.body;
     if (body.height() >= 66 && body.width() >= 60) {
         const float tall = std::clamp(std::round(body.height() * 0.13f), 13.0f, 52.0f);
@@ -55,6 +55,10 @@ Plot lay_out_plot(const GaugeModel& model, const Stage& stage) {
     p.column = std::clamp(std::floor(p.area.width() / 80), 2.0f, 6.0f);
     p.columns = std::clamp(static_cast<int>(p.area.width() / p.column), 1, ValueHistory::capacity - 2);
     return p;
+}
+
+Plot lay_out_plot(const GaugeModel& model, const Stage& stage) {
+    return place_with_unit(model, stage, [&](UnitPlace unit) { return place_plot(model, stage, unit); });
 }
 
 float height_of(const GaugeModel& model, const Plot& p, std::int32_t value) {
@@ -95,7 +99,7 @@ void peak_face(Picture& picture, const GaugeModel& model, const Stage& stage) {
     const Theme theme = theme_of(model);
     const Plot p = lay_out_plot(model, stage);
     paint_ground(picture, model, stage);
-    paint_title(picture, model, stage, p.layout);
+    paint_titles(picture, model, stage, p.layout);
     paint_sunken_edge(picture, p.area.inset(-1), theme);
     picture.box(p.area, theme.plate);
     paint_zone_strip(picture, model, p.zones, true);
@@ -123,7 +127,7 @@ void peak_value(Picture& picture, const GaugeModel& model, const Stage& stage) {
     const ValueHistory& history = model.history.count() > 0 ? model.history : first;
     paint_columns(picture, model, history, p);
     paint_peak(picture, p, std::min(height_of(model, p, history.highest()), p.area.top - 1), theme.text);
-    paint_readout(picture, model, stage, p.readout);
+    paint_readout(picture, model, stage, p.readout, p.layout.unit.empty());
 }
 
 } // namespace wnt

@@ -31,8 +31,8 @@ void place_scale(Thermometer& t, float x, float half) {
     t.labels_end = t.ticks_end - std::round(t.ticks) - 3;
 }
 
-Thermometer lay_out_thermometer(const GaugeModel& model, const Stage& stage) {
-    Thermometer t = {lay_out(model, stage), {}, {}, 0, {}, {}, 0, 0, 0, 0};
+Thermometer place_thermometer(const GaugeModel& model, const Stage& stage, UnitPlace unit) {
+    Thermometer t = {lay_out(model, stage, unit), {}, {}, 0, {}, {}, 0, 0, 0, 0};
     BoxF body = t.layout.body;
     if (body.height() < 60) {
         t.readout = take_side_readout(body, std::min(body.width() * 0.55f, body.height()));
@@ -65,6 +65,10 @@ Thermometer lay_out_thermometer(const GaugeModel& model, const Stage& stage) {
     return t;
 }
 
+Thermometer lay_out_thermometer(const GaugeModel& model, const Stage& stage) {
+    return place_with_unit(model, stage, [&](UnitPlace unit) { return place_thermometer(model, stage, unit); });
+}
+
 void paint_glass(Picture& picture, const Thermometer& t, Colour colour, float grow) {
     const float half = t.tube.width() / 2 + grow;
     const float x = t.bulb.x;
@@ -82,7 +86,7 @@ void thermometer_face(Picture& picture, const GaugeModel& model, const Stage& st
     paint_zone_strip(picture, model, t.zones, true);
     paint_glass(picture, t, blend(theme.back, 0, 110), 1);
     paint_glass(picture, t, theme.plate, 0);
-    paint_title(picture, model, stage, t.layout);
+    paint_titles(picture, model, stage, t.layout);
 
     const float font_height = t.label_size ? stage.meter.metrics(t.label_size).cap_height : 0;
     const float gap = t.label_size ? font_height * 1.9f : 12.0f;
@@ -110,7 +114,7 @@ void thermometer_value(Picture& picture, const GaugeModel& model, const Stage& s
                 blend(colour, white, 130));
     picture.disc({t.bulb.x - t.bulb_radius * 0.32f, t.bulb.y + t.bulb_radius * 0.32f}, t.bulb_radius * 0.22f,
                  blend(colour, white, 160));
-    paint_readout(picture, model, stage, t.readout);
+    paint_readout(picture, model, stage, t.readout, t.layout.unit.empty());
 }
 
 } // namespace wnt
