@@ -92,8 +92,11 @@ void paint_readout(Picture& picture, const GaugeModel& model, const Stage& stage
               r.unit.text, &r.inner);
 }
 
-bool holds_unit(const GaugeModel& model, const Stage& stage, const BoxF& plate) {
-    return !plate.empty() && lay_out_readout(model, stage, plate, true).whole;
+UnitShown unit_shown(const GaugeModel& model, const Stage& stage, const BoxF& plate) {
+    if (plate.empty())
+        return UnitShown::nothing;
+    const Readout r = lay_out_readout(model, stage, plate, true);
+    return r.whole ? UnitShown::whole : r.unit.text.empty() ? UnitShown::nothing : UnitShown::beginning;
 }
 
 BoxF plate_at(float middle, float bottom, float wide, float tall) {

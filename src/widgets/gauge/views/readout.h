@@ -8,18 +8,19 @@ namespace wnt {
 /// is shortened, the number never is.
 void paint_readout(Picture& picture, const GaugeModel& model, const Stage& stage, const BoxF& plate, bool with_unit);
 
-/// Whether a plate has room for the whole unit behind the number, whatever the value.
-bool holds_unit(const GaugeModel& model, const Stage& stage, const BoxF& plate);
+/// How much of the unit a plate has room for behind the number, whatever the value.
+enum class UnitShown { nothing, beginning, whole };
+UnitShown unit_shown(const GaugeModel& model, const Stage& stage, const BoxF& plate);
 
 /// A view's layout, made by `place` for a place of the unit: behind the number; where it finds no room, apart, unless
 /// that would cost a small view its readout.
 template <class Place> auto place_with_unit(const GaugeModel& model, const Stage& stage, Place place) {
     constexpr float small_height = 60;
+    const UnitShown enough =
+        inside_border(model, stage).height() < small_height ? UnitShown::beginning : UnitShown::whole;
     auto placed = place(UnitPlace::in_view);
-    if (!has_unit(model) || holds_unit(model, stage, placed.readout) ||
-        (!placed.readout.empty() && inside_border(model, stage).height() < small_height))
-        return placed;
-    return place(UnitPlace::apart);
+    const bool shown = !has_unit(model) || unit_shown(model, stage, placed.readout) >= enough;
+    return shown ? placed : place(UnitPlace::apart);
 }
 
 /// In a wide and low space an instrument of this width goes to the left and the readout beside it: takes its place
