@@ -130,6 +130,32 @@ TEST(GaugeViews, ShowTheValueInItsZonesColour) {
     }
 }
 
+TEST(GaugeViews, ShowZonesOfTheGroundsColour) {
+    for (int type = 0; type < gauge_type_count; ++type) {
+        const GaugeModel model =
+            model_of(type, {":CLEARMARKS", ":SETMARK=20,WHITE", ":SETMARK=80,DARKGREEN", ":SETMARK=90,RED"});
+        const Scene scene(model, 200, 200);
+        const auto edged = [](const auto& f) { return f.colour == edge_of(white); };
+        const auto& part = type == gauge_digital ? scene.value : scene.face; // the lamps
+        EXPECT_TRUE(std::ranges::any_of(part.figures(), edged)) << type;
+    }
+}
+
+TEST(GaugeViews, SmallAndTallScalesKeepTicksAndProportions) {
+    const auto boxes = [](int type, int width, int height, const auto& wanted) {
+        const Scene scene(model_of(type, {":CLRTEXT=BLUE", ":CLEARMARKS"}), width, height);
+        return std::ranges::count_if(scene.face.figures(), wanted);
+    };
+    const auto is_tick = [](const auto& f) {
+        return f.kind == Picture::Kind::box && f.colour == 0xFF0000 &&
+               std::min(f.bounds.width(), f.bounds.height()) == 1;
+    };
+    for (const int type : {gauge_percent_bar, gauge_peak_line})
+        EXPECT_GE(boxes(type, 44, 40, is_tick), 5) << type; // without labels
+    const auto is_thick_zone = [](const auto& f) { return f.colour == 0x0000FF && f.bounds.height() > 6; };
+    EXPECT_EQ(boxes(gauge_percent_bar, 60, 320, is_thick_zone), 0);
+}
+
 TEST(GaugeViews, HighestPeakIsHeldWhenItsColumnIsGone) {
     GaugeModel model = model_of(gauge_peak_line);
     model.clear();

@@ -140,7 +140,7 @@ void dial_face(Picture& picture, const GaugeModel& model, const Stage& stage) {
     paint_bezel(picture, c, r * 0.955f, r, theme.shadow, bright);
     paint_bezel(picture, c, r * 0.92f, r * 0.955f, theme.sun, blend(theme.shadow, theme.sun, 60));
     picture.disc(c, r * 0.925f, theme.plate);
-    paint_round_zones(picture, model, d.scale, r * 0.80f, r * 0.885f);
+    paint_round_zones(picture, model, d.scale, r * 0.80f, r * 0.885f, theme.plate);
     paint_round_ticks(picture, model, stage, d.scale, {r * 0.80f, r * 0.70f, r * 0.75f, r * 0.67f, true, d.label_size});
     if (d.unit_width > 0) {
         const FittedText unit =

@@ -117,7 +117,9 @@ void paint_lamps(Picture& picture, const GaugeModel& model, const Display& d, Co
         const float to = static_cast<float>(next) / static_cast<float>(model.scales);
         const float left = std::round(d.bar.left + d.bar.width() * from);
         const float right = std::max(std::round(d.bar.left + d.bar.width() * to) - 1, left + 1);
-        const Colour zone = zone_colour(model, division_value(model.minimum, model.maximum, model.scales, i));
+        Colour zone = zone_colour(model, division_value(model.minimum, model.maximum, model.scales, i));
+        if (alike(zone, ground))
+            zone = edge_of(zone);
         const bool lit = shown > from || (i == 0 && shown >= from && model.current >= model.minimum);
         picture.box({left, d.bar.bottom, right, d.bar.top}, lit ? zone : blend(ground, zone, 60));
     }

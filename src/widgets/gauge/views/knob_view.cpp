@@ -98,7 +98,7 @@ void knob_face(Picture& picture, const GaugeModel& model, const Stage& stage) {
     const float ring = k.cap + r * 0.05f;
     paint_ground(picture, model, stage);
     paint_cap_shadow(picture, k, theme_of(model));
-    paint_round_zones(picture, model, k.scale, ring, ring + r * 0.07f);
+    paint_round_zones(picture, model, k.scale, ring, ring + r * 0.07f, theme_of(model).back);
     paint_round_ticks(picture, model, stage, k.scale,
                       {ring + r * 0.08f, ring + r * 0.16f, ring + r * 0.12f, ring + r * 0.19f, false, k.label_size});
     paint_cap(picture, k);

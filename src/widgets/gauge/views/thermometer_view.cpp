@@ -108,8 +108,12 @@ void thermometer_value(Picture& picture, const GaugeModel& model, const Stage& s
     const float half = std::max(t.tube.width() / 2 - inset, 0.5f);
     const float level = std::round(t.tube.bottom + t.tube.height() * fraction_of(model, model.current));
     const float x = t.bulb.x;
-    picture.disc(t.bulb, t.bulb_radius - inset, colour);
-    picture.box({x - half, t.bulb.y, x + half, level}, colour);
+    const bool edged = alike(colour, theme_of(model).plate);
+    const float edge = edged ? std::min(half * 0.3f, 1.0f) : 0;
+    picture.disc(t.bulb, t.bulb_radius - inset, edged ? edge_of(colour) : colour);
+    picture.box({x - half, t.bulb.y, x + half, level}, edged ? edge_of(colour) : colour);
+    picture.disc(t.bulb, edged ? t.bulb_radius - inset - 1 : 0, colour);
+    picture.box(edged ? BoxF{x - half + edge, t.bulb.y, x + half - edge, level - edge} : BoxF{}, colour);
     picture.box({x - half * 0.6f, t.bulb.y + t.bulb_radius * 0.9f, x - half * 0.15f, level - 1},
                 blend(colour, white, 130));
     picture.disc({t.bulb.x - t.bulb_radius * 0.32f, t.bulb.y + t.bulb_radius * 0.32f}, t.bulb_radius * 0.22f,

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 
 #include "script/colours.h"
 #include "script/keywords.h"
@@ -52,6 +53,17 @@ Colour indexed_colour(int index) {
 
 Colour zone_colour(const GaugeModel& model, std::int32_t value) {
     return indexed_colour(model.getmarkercolour(value));
+}
+
+bool alike(Colour a, Colour b) {
+    int distance = 0;
+    for (int shift = 0; shift < 24; shift += 8)
+        distance += std::abs(static_cast<int>(a >> shift & 0xFF) - static_cast<int>(b >> shift & 0xFF));
+    return distance < 72;
+}
+
+Colour edge_of(Colour colour) {
+    return blend(colour, is_dark(colour) ? white : black, 110);
 }
 
 Colour ground_for(Colour colour) {

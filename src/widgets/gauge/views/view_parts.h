@@ -33,6 +33,10 @@ Theme theme_of(const GaugeModel& model);
 Colour indexed_colour(int index);
 /// The colour of the zone that holds a value.
 Colour zone_colour(const GaugeModel& model, std::int32_t value);
+/// Whether one colour can hardly be told from the other.
+bool alike(Colour a, Colour b);
+/// A colour for the edge of something of this colour on a ground like it.
+Colour edge_of(Colour colour);
 /// A dark or a light ground, whichever this colour can be read on.
 Colour ground_for(Colour colour);
 
