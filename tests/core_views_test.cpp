@@ -1,5 +1,5 @@
 #include "even_meter.h"
-#include "widgets/painting/supersample.h"
+#include "widgets/painting/shape_raster.h"
 #include "widgets/gauge/views/view_parts.h"
 
 #include <gmock/gmock.h>
@@ -174,20 +174,52 @@ TEST(GaugeViews, HighestPeakIsHeldWhenItsColumnIsGone) {
     EXPECT_EQ(before.value.figures().size(), after.value.figures().size()); // so that lists compare column by column
 }
 
-TEST(Supersample, AveragingUndoesEnlargingAndMixesEdges) {
-    std::mt19937 random(7);
-    for (std::size_t scale : {1, 2, 4}) {
-        std::vector<std::uint32_t> small(13), large(13 * scale * scale), back(13);
-        std::generate(small.begin(), small.end(), [&] { return random() & 0xFFFFFF; });
-        enlarge_row(small.data(), 13, large.data(), 13 * scale, static_cast<int>(scale));
-        average_row(large.data(), 13 * scale, back.data(), 13, static_cast<int>(scale));
-        EXPECT_EQ(back, small) << scale;
+// A polygon on a canvas of its own, drawn part by part.
+std::vector<std::uint32_t> drawn(const std::vector<PointF>& shape, int size, int scale, int part) {
+    std::vector<std::uint32_t> pixels(static_cast<std::size_t>(size * size), 0x204060);
+    ShapeRaster raster;
+    for (int top = 0; top < size; top += part)
+        for (int left = 0; left < size; left += part) {
+            const CanvasArea area = {left, top, std::min(left + part, size), std::min(top + part, size)};
+            raster.begin({pixels.data(), size, size}, area, scale);
+            raster.polygon(shape.data(), static_cast<int>(shape.size()), 0x0000FF);
+            raster.finish();
+        }
+    return pixels;
+}
+
+TEST(ShapeRaster, CoversTheInsideAndTheOutlineAndAveragesThem) {
+    constexpr int size = 40;
+    std::mt19937 random(5);
+    for (int round = 0; round < 300; ++round) {
+        std::vector<PointF> shape(3 + random() % 5);
+        for (PointF& p : shape)
+            p = {static_cast<float>(random() % 50) - 5, static_cast<float>(random() % 50) - 5};
+        const auto whole = drawn(shape, size, 1, size);
+        for (int y = 0; y < size; ++y)
+            for (int x = 0; x < size; ++x) {
+                bool inside = false, edge = false;
+                for (std::size_t i = 0; i < shape.size(); ++i) {
+                    const PointF a = shape[i], b = shape[(i + 1) % shape.size()];
+                    const double dx = b.x - a.x, dy = b.y - a.y;
+                    if ((a.y >= y) != (b.y >= y)) // the crossing's own pixel counts, downwards too
+                        inside ^= x - a.x >= (y - a.y) * dx / dy;
+                    const bool steep = std::abs(dx) <= std::abs(dy);
+                    const double along = steep ? (y - a.y) / dy : (x - a.x) / dx;
+                    const double aside = (x - a.x) * dy - (y - a.y) * dx;
+                    const double off = steep ? aside / dy : -aside / dx;
+                    edge |= along >= 0 && along <= 1 && (steep ? off >= -0.5 && off < 0.5 : off > -0.5 && off <= 0.5);
+                }
+                const std::uint32_t pixel = whole[static_cast<std::size_t>((size - 1 - y) * size + x)];
+                ASSERT_EQ(pixel, inside || edge ? 0xFF0000u : 0x204060u) << round << " " << x << "," << y;
+            }
+        for (PointF& p : shape)
+            p = {p.x + 0.3f, p.y * 0.9f};
+        for (const int scale : {2, 4})
+            ASSERT_EQ(drawn(shape, size, scale, size), drawn(shape, size, scale, 13)) << round;
     }
-    std::vector<std::uint32_t> block(16, 0);
-    std::fill_n(block.begin(), 8, 0xFF8040u);
-    std::uint32_t mixed = 0;
-    average_row(block.data(), 4, &mixed, 1, 4);
-    EXPECT_EQ(mixed, 0x804020u);
+    // The left half of pixel (1, 1), to the middle of the outline.
+    EXPECT_EQ(drawn({{1, 1}, {1.25f, 1}, {1.25f, 1.75f}, {1, 1.75f}}, 3, 4, 3)[4], 0x902030u);
 }
 
 } // namespace

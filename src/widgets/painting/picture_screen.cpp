@@ -4,15 +4,14 @@
 #include <cmath>
 
 #include "out/device_state.h"
-#include "widgets/painting/supersample.h"
 #include "widgets/painting/surface_owner.h"
 
 namespace wnt {
 
 namespace {
 
-constexpr long small_picture = 400 * 400;   // up to here edges are averaged from 4 x 4, above from 2 x 2
-constexpr long band_subpixels = 512 * 1024; // work area for enlarged shapes
+constexpr long small_picture = 400 * 400; // up to here edges are averaged from 4 x 4, above from 2 x 2
+constexpr long band_pixels = 256 * 1024;  // drawn at once, which bounds the memory for it
 
 // Mixed edge colours need a device that can show them.
 int scale_for(HDC dc, int width, int height) {
@@ -104,7 +103,6 @@ void PictureScreen::collect_changes(const Picture& shown, const Picture& value) 
 void PictureScreen::release() {
     face_.release();
     frame_.release();
-    scratch_.release();
 }
 
 void PictureScreen::draw_all(CWntOut& out, int width, int height, const Picture& face, const Picture& value) {
@@ -150,68 +148,26 @@ void PictureScreen::render(MemorySurface& target, const Picture& picture, const 
 
 void PictureScreen::render_shapes(MemorySurface& target, const Picture& picture, const Area& area) {
     const auto& figures = picture.figures();
-    if (std::none_of(figures.begin(), figures.end(), [&](const Picture::Figure& f) {
-            return f.kind != Picture::Kind::text && overlap(pixels_of(f.bounds), area);
-        }))
+    const auto drawn = [&](const Picture::Figure& f, const Area& part) {
+        return f.kind != Picture::Kind::text && overlap(pixels_of(f.bounds), part);
+    };
+    if (std::none_of(figures.begin(), figures.end(), [&](const Picture::Figure& f) { return drawn(f, area); }))
         return;
-    const long row_subpixels = static_cast<long>(area.right - area.left) * scale_ * scale_;
-    const int rows = static_cast<int>(std::max(band_subpixels / row_subpixels, 1L));
-    for (int bottom = area.bottom; bottom < area.top; bottom += rows)
-        render_band(target, picture, {area.left, bottom, area.right, std::min(bottom + rows, area.top)});
-}
-
-// The work area grows to what bands of different shapes need, but not to the product of the widest and the highest.
-bool PictureScreen::make_scratch(int width, int height) {
-    if (scratch_.width() >= width && scratch_.height() >= height)
-        return true;
-    const int both_width = std::max(scratch_.width(), width);
-    const int both_height = std::max(scratch_.height(), height);
-    return std::int64_t{both_width} * both_height <= 2 * band_subpixels ? scratch_.create(both_width, both_height)
-                                                                        : scratch_.create(width, height);
-}
-
-void PictureScreen::render_band(MemorySurface& target, const Picture& picture, const Area& band) {
-    const int width = band.right - band.left;
-    const int height = band.top - band.bottom;
-    if (!make_scratch(width * scale_, height * scale_))
-        return;
-    const auto pitch = static_cast<std::size_t>(scratch_.width());
-    const int first_row = target.height() - band.top;
-    for (int y = 0; y < height; ++y)
-        enlarge_row(target.row(first_row + y) + band.left, width, scratch_.row(y * scale_), pitch, scale_);
-
-    CWntOut& out = scratch_.out();
-    out.xmax = width * scale_ - 1;
-    out.ymax = band.top * scale_ - 1; // the band's upper edge is the picture's first row
-    ::IntersectClipRect(out.dc, 0, 0, width * scale_, height * scale_);
-    for (const auto& figure : picture.figures())
-        if (figure.kind != Picture::Kind::text && overlap(pixels_of(figure.bounds), band))
-            draw_shape(out, picture, figure, band.left * scale_);
-    ::SelectClipRgn(out.dc, nullptr);
-    ::GdiFlush();
-
-    for (int y = 0; y < height; ++y)
-        average_row(scratch_.row(y * scale_), pitch, target.row(first_row + y) + band.left, width, scale_);
-}
-
-void PictureScreen::draw_shape(CWntOut& out, const Picture& picture, const Picture::Figure& figure, int left_subpixel) {
-    const auto k = static_cast<float>(scale_);
-    out.linecolour(COLORREF{figure.colour}, 0);
-    out.fillcolour(COLORREF{figure.colour}, 0);
-    if (figure.kind == Picture::Kind::box) {
-        const BoxF& b = figure.bounds;
-        const int left = nearest(b.left * k);
-        const int bottom = nearest(b.bottom * k);
-        const int right = std::max(nearest(b.right * k), left + 1);
-        const int top = std::max(nearest(b.top * k), bottom + 1);
-        out.boxa2(left - left_subpixel, bottom, right - 1 - left_subpixel, top - 1);
-        return;
+    const Canvas canvas = {target.row(0), target.width(), target.height()};
+    const int rows = static_cast<int>(std::max(band_pixels / (area.right - area.left), 1L));
+    for (int bottom = area.bottom; bottom < area.top; bottom += rows) {
+        const Area band = {area.left, bottom, area.right, std::min(bottom + rows, area.top)};
+        raster_.begin(canvas, {band.left, canvas.height - band.top, band.right, canvas.height - band.bottom}, scale_);
+        for (const auto& figure : figures) {
+            if (!drawn(figure, band))
+                continue;
+            if (figure.kind == Picture::Kind::box)
+                raster_.box(figure.bounds, figure.colour);
+            else
+                raster_.polygon(picture.points(figure), static_cast<int>(figure.count), figure.colour);
+        }
+        raster_.finish();
     }
-    const PointF* points = picture.points(figure);
-    corners_.clear();
-    for (std::uint32_t i = 0; i < figure.count; ++i)
-        corners_.push_back({nearest(points[i].x * k) - left_subpixel, nearest(points[i].y * k)});
-    out.solidpoly(corners_.data(), static_cast<int>(corners_.size()));
 }
 
 void PictureScreen::render_texts(MemorySurface& target, const Picture& picture, const Area& area) {

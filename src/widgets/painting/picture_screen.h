@@ -4,6 +4,7 @@
 
 #include "widgets/painting/memory_surface.h"
 #include "widgets/painting/picture.h"
+#include "widgets/painting/shape_raster.h"
 
 namespace wnt {
 
@@ -32,18 +33,14 @@ private:
     void collect_changes(const Picture& shown, const Picture& value);
     void render(MemorySurface& target, const Picture& picture, const Area& area);
     void render_shapes(MemorySurface& target, const Picture& picture, const Area& area);
-    bool make_scratch(int width, int height);
-    void render_band(MemorySurface& target, const Picture& picture, const Area& band);
     void render_texts(MemorySurface& target, const Picture& picture, const Area& area);
-    void draw_shape(CWntOut& out, const Picture& picture, const Picture::Figure& figure, int left_subpixel);
     void present(CWntOut& out, const Area& area);
 
     int scale_ = 1; // subpixels a pixel, each way
     MemorySurface face_;
     MemorySurface frame_;
-    MemorySurface scratch_;
+    ShapeRaster raster_;
     std::vector<Area> areas_;
-    std::vector<POINT> corners_;
 };
 
 } // namespace wnt

@@ -1,0 +1,345 @@
+#include "widgets/painting/shape_raster.h"
+
+#include <algorithm>
+#include <bit>
+#include <cmath>
+#include <cstring>
+#include <utility>
+
+namespace wnt {
+
+namespace {
+
+std::uint32_t pixel_of(Colour colour) {
+    return (colour & 0xFF) << 16 | (colour & 0xFF00) | (colour >> 16 & 0xFF);
+}
+
+// Halves go away from 0.
+int nearest(float v) {
+    constexpr float far = 1 << 28; // beyond any canvas
+    v = std::clamp(v, -far, far);
+    const int whole = static_cast<int>(v);
+    const float rest = v - static_cast<float>(whole);
+    return whole + (rest >= 0.5f) - (rest <= -0.5f);
+}
+
+// For each set of four neighbours, as bits, which of their values it takes.
+constexpr auto chosen = [] {
+    std::array<std::array<std::uint32_t, 4>, 16> table{};
+    for (unsigned set = 0; set < 16; ++set)
+        for (unsigned i = 0; i < 4; ++i)
+            table[set][i] = set >> i & 1 ? 0xFFFFFFFFu : 0;
+    return table;
+}();
+
+// The mean of a pixel's subpixels, each channel rounded to the nearest; of subpixels of one colour, that colour.
+std::uint32_t average(const std::uint32_t* subpixels, int shift) {
+    constexpr std::uint32_t lanes = 0x00FF00FF; // two of four bytes, each with room for the sum of 16
+    const int count = 1 << 2 * shift;
+    std::uint32_t even = 0;
+    std::uint32_t odd = 0;
+    for (int i = 0; i < count; ++i) {
+        even += subpixels[i] & lanes;
+        odd += subpixels[i] >> 8 & lanes;
+    }
+    const std::uint32_t half = static_cast<std::uint32_t>(count / 2) * 0x00010001u;
+    return ((even + half) >> 2 * shift & lanes) | ((odd + half) >> 2 * shift & lanes) << 8;
+}
+
+// A quotient rounded up, kept up to date while its numerator grows by equal steps; the denominator is positive.
+class RisingQuotient {
+public:
+    RisingQuotient(std::int64_t numerator, std::int64_t denominator, std::int64_t step)
+        : denominator_(denominator), whole_(step / denominator), part_(step % denominator),
+          value_(numerator / denominator), rest_(value_ * denominator - numerator) {
+        if (rest_ < 0) {
+            ++value_;
+            rest_ += denominator;
+        }
+    }
+    int value() const { return static_cast<int>(value_); }
+    /// The quotient rounded to the nearest, halves down.
+    int nearest() const { return static_cast<int>(value_ - (2 * rest_ >= denominator_)); }
+    void advance() {
+        value_ += whole_;
+        rest_ -= part_;
+        if (rest_ < 0) {
+            ++value_;
+            rest_ += denominator_;
+        } else if (rest_ >= denominator_) {
+            --value_;
+            rest_ -= denominator_;
+        }
+    }
+
+private:
+    std::int64_t denominator_;
+    std::int64_t whole_, part_; // of a step
+    std::int64_t value_;
+    std::int64_t rest_; // value * denominator - numerator, from 0 to below the denominator
+};
+
+} // namespace
+
+void ShapeRaster::begin(const Canvas& canvas, const CanvasArea& area, int scale) {
+    canvas_ = canvas;
+    area_ = area;
+    shift_ = std::countr_zero(static_cast<unsigned>(scale));
+    parted_.assign(static_cast<std::size_t>(area.right - area.left) * static_cast<std::size_t>(area.bottom - area.top),
+                   0);
+    blocks_.clear();
+    places_.clear();
+}
+
+// Takes the part of a shape's bounds, in subpixels, that lies in the area; false where there is none.
+bool ShapeRaster::reach(int left, int top, int right, int bottom) {
+    const int up = (1 << shift_) - 1;
+    reach_ = {std::max(left >> shift_, area_.left), std::max(top >> shift_, area_.top),
+              std::min((right + up) >> shift_, area_.right), std::min((bottom + up) >> shift_, area_.bottom)};
+    rows_ = {std::max(top, area_.top << shift_), std::min(bottom, area_.bottom << shift_)};
+    if (reach_.left >= reach_.right || reach_.top >= reach_.bottom)
+        return false;
+    const auto pixels =
+        static_cast<std::size_t>(reach_.right - reach_.left) * static_cast<std::size_t>(reach_.bottom - reach_.top);
+    if (masks_.size() < pixels)
+        masks_.resize(pixels);
+    touched_.assign(static_cast<std::size_t>(reach_.bottom - reach_.top), {reach_.right - reach_.left, 0});
+    return true;
+}
+
+// Marks the subpixels of a row from `from` to below `to`.
+void ShapeRaster::cover(int y, int from, int to) {
+    from = std::max(from, reach_.left << shift_);
+    to = std::min(to, reach_.right << shift_);
+    if (from >= to)
+        return;
+    const int scale = 1 << shift_;
+    const unsigned whole = (1u << scale) - 1;
+    const int row_shift = (y & (scale - 1)) << shift_;
+    const auto line = static_cast<std::size_t>((y >> shift_) - reach_.top);
+    std::uint16_t* row = masks_.data() + line * static_cast<std::size_t>(reach_.right - reach_.left);
+    const int first = (from >> shift_) - reach_.left;
+    const int last = ((to - 1) >> shift_) - reach_.left;
+    touched_[line] = {std::min(touched_[line].first, first), std::max(touched_[line].end, last + 1)};
+    const unsigned first_bits = whole << (from & (scale - 1)) & whole;
+    const unsigned last_bits = whole >> (scale - 1 - ((to - 1) & (scale - 1)));
+    if (first == last) {
+        row[first] |= static_cast<std::uint16_t>((first_bits & last_bits) << row_shift);
+        return;
+    }
+    row[first] |= static_cast<std::uint16_t>(first_bits << row_shift);
+    const auto middle = static_cast<std::uint16_t>(whole << row_shift);
+    for (int x = first + 1; x < last; ++x)
+        row[x] |= middle;
+    row[last] |= static_cast<std::uint16_t>(last_bits << row_shift);
+}
+
+void ShapeRaster::box(const BoxF& box, Colour colour) {
+    if (box.empty())
+        return;
+    const auto k = static_cast<float>(1 << shift_);
+    const int left = nearest(box.left * k);
+    const int right = std::max(nearest(box.right * k), left + 1);
+    const int low = nearest(box.bottom * k);
+    const int high = std::max(nearest(box.top * k), low + 1);
+    const int ground = canvas_.height << shift_;
+    if (!reach(left, ground - high, right, ground - low))
+        return;
+    for (int y = rows_.first; y < rows_.end; ++y)
+        cover(y, left, right);
+    apply(colour);
+}
+
+void ShapeRaster::polygon(const PointF* points, int count, Colour colour) {
+    const auto k = static_cast<float>(1 << shift_);
+    const int ground = (canvas_.height << shift_) - 1;
+    corners_.clear();
+    for (int i = 0; i < count; ++i)
+        corners_.push_back({nearest(points[i].x * k), ground - nearest(points[i].y * k)});
+    const auto [left, right] = std::ranges::minmax(corners_, {}, &Point::x);
+    const auto [top, bottom] = std::ranges::minmax(corners_, {}, &Point::y);
+    if (!reach(left.x, top.y, right.x + 1, bottom.y + 1))
+        return;
+    count_crossings();
+    for (std::size_t i = 0; i < corners_.size(); ++i) {
+        Point a = corners_[i];
+        Point b = corners_[i + 1 < corners_.size() ? i + 1 : 0];
+        if (a.y > b.y)
+            std::swap(a, b);
+        if (std::abs(b.x - a.x) <= b.y - a.y) {
+            if (a.y != b.y)
+                walk_steep(a, b);
+            continue;
+        }
+        cross(a, b);
+        a.x < b.x ? walk_flat(a, b) : walk_flat(b, a);
+    }
+    fill_between_crossings();
+    apply(colour);
+}
+
+// Counts the crossings of edges and rows, and gives each row its place among them.
+void ShapeRaster::count_crossings() {
+    const auto rows = static_cast<std::size_t>(rows_.end - rows_.first);
+    ends_.assign(rows + 1, 0);
+    for (std::size_t i = 0; i < corners_.size(); ++i) {
+        const int a = corners_[i].y;
+        const int b = corners_[i + 1 < corners_.size() ? i + 1 : 0].y;
+        const int from = std::max(std::min(a, b), rows_.first);
+        const int to = std::min(std::max(a, b), rows_.end);
+        if (from < to) {
+            ++ends_[static_cast<std::size_t>(from - rows_.first)];
+            --ends_[static_cast<std::size_t>(to - rows_.first)];
+        }
+    }
+    int open = 0;
+    int total = 0;
+    for (int& end : ends_) {
+        open += end;
+        end = total; // the row's crossings move it on
+        total += open;
+    }
+    crossings_.resize(static_cast<std::size_t>(total));
+}
+
+// A row of an edge's inside begins or ends at the first subpixel right of the edge. Where the outline stands in this
+// row, just left of that or on it, is kept as two bits below: it widens an inside to its right, or one to its left.
+void ShapeRaster::add_crossing(int y, int x, int outline) {
+    int& end = ends_[static_cast<std::size_t>(y - rows_.first)];
+    crossings_[static_cast<std::size_t>(end++)] = x * 4 + outline;
+}
+
+constexpr int outline_before = 1;
+constexpr int outline_on = 2;
+
+// An edge of more rows than columns: its outline is one subpixel a row.
+void ShapeRaster::walk_steep(const Point& upper, const Point& lower) {
+    const std::int64_t dx = lower.x - upper.x;
+    const int from = std::max(upper.y, rows_.first);
+    const int to = std::min(lower.y, rows_.end);
+    if (lower.y >= rows_.first && lower.y < rows_.end)
+        cover(lower.y, lower.x, lower.x + 1);
+    if (from >= to)
+        return;
+    RisingQuotient crossing(dx * (from - upper.y), lower.y - upper.y, dx);
+    for (int y = from; y < to; ++y, crossing.advance())
+        add_crossing(y, upper.x + crossing.value(),
+                     crossing.nearest() < crossing.value() ? outline_before : outline_on);
+}
+
+// The crossings of an edge whose outline is drawn apart.
+void ShapeRaster::cross(const Point& upper, const Point& lower) {
+    const std::int64_t dx = lower.x - upper.x;
+    const int from = std::max(upper.y, rows_.first);
+    const int to = std::min(lower.y, rows_.end);
+    if (from >= to)
+        return;
+    RisingQuotient crossing(dx * (from - upper.y), lower.y - upper.y, dx);
+    for (int y = from; y < to; ++y, crossing.advance())
+        add_crossing(y, upper.x + crossing.value(), 0);
+}
+
+// The outline of an edge of more columns than rows: runs along the rows. Halves go up.
+void ShapeRaster::walk_flat(const Point& left, const Point& right) {
+    const std::int64_t dx = right.x - left.x;
+    const std::int64_t dy = right.y - left.y;
+    const int from = std::max(left.x, reach_.left << shift_);
+    const int to = std::min(right.x, (reach_.right << shift_) - 1);
+    RisingQuotient outline(2 * dy * (from - left.x) - dx, 2 * dx, 2 * dy);
+    int run = from;
+    for (int x = from; x <= to; ++x) {
+        const int y = outline.value();
+        outline.advance();
+        if (x < to && outline.value() == y)
+            continue;
+        if (left.y + y >= rows_.first && left.y + y < rows_.end)
+            cover(left.y + y, run, x + 1);
+        run = x + 1;
+    }
+}
+
+// A row lies inside from every odd crossing to the even one that follows.
+void ShapeRaster::fill_between_crossings() {
+    int first = 0;
+    for (int y = rows_.first; y < rows_.end; ++y) {
+        const int end = ends_[static_cast<std::size_t>(y - rows_.first)];
+        int* xs = crossings_.data() + first;
+        const int count = end - first;
+        if (count == 2 && xs[0] > xs[1])
+            std::swap(xs[0], xs[1]);
+        else if (count > 2)
+            std::sort(xs, xs + count);
+        for (int i = 0; i + 1 < count; i += 2) {
+            const int a = xs[i];
+            const int b = xs[i + 1];
+            const bool before = (a | (a >> 2 == b >> 2 ? b : 0)) & outline_before;
+            const bool on = (b | (a >> 2 == b >> 2 ? a : 0)) & outline_on;
+            cover(y, (a >> 2) - before, (b >> 2) + on);
+        }
+        first = end;
+    }
+}
+
+// Puts the colour where the masks say, and clears them.
+void ShapeRaster::apply(Colour colour) {
+    const std::uint32_t value = pixel_of(colour);
+    const int width = reach_.right - reach_.left;
+    for (int y = reach_.top; y < reach_.bottom; ++y) {
+        const auto line = static_cast<std::size_t>(y - reach_.top);
+        const auto [from, to] = touched_[line];
+        if (from >= to)
+            continue;
+        const int x = reach_.left + from;
+        const auto first =
+            static_cast<std::size_t>(y - area_.top) * static_cast<std::size_t>(area_.right - area_.left) +
+            static_cast<std::size_t>(x - area_.left);
+        paint_pixels(first, canvas_.pixels + static_cast<std::size_t>(y) * canvas_.width + x,
+                     masks_.data() + line * width + from, to - from, value);
+    }
+}
+
+// A run of pixels of one row, from the one at `first` in the area on.
+void ShapeRaster::paint_pixels(std::size_t first, std::uint32_t* pixels, std::uint16_t* masks, int count,
+                               std::uint32_t colour) {
+    const unsigned whole = (1u << (1 << 2 * shift_)) - 1;
+    for (int i = 0; i < count; ++i) {
+        const unsigned mask = masks[i];
+        if (mask == whole) {
+            int end = i + 1;
+            while (end < count && masks[end] == whole)
+                ++end;
+            std::fill(pixels + i, pixels + end, colour);
+            std::fill_n(parted_.data() + first + i, end - i, 0u);
+            i = end - 1;
+        } else if (mask) {
+            take_apart(first + i, pixels[i], mask, colour);
+        }
+    }
+    std::fill_n(masks, count, std::uint16_t{0});
+}
+
+void ShapeRaster::take_apart(std::size_t place, std::uint32_t pixel, unsigned mask, std::uint32_t colour) {
+    std::uint32_t& number = parted_[place];
+    if (!number) {
+        blocks_.emplace_back().fill(pixel);
+        places_.push_back(static_cast<std::uint32_t>(place));
+        number = static_cast<std::uint32_t>(blocks_.size());
+    }
+    std::uint32_t* block = blocks_[number - 1].data();
+    for (; mask; mask >>= 4, block += 4)
+        for (std::size_t i = 0; i < 4; ++i)
+            block[i] ^= (block[i] ^ colour) & chosen[mask & 15][i];
+}
+
+void ShapeRaster::finish() {
+    const auto width = static_cast<std::size_t>(area_.right - area_.left);
+    for (std::size_t i = 0; i < blocks_.size(); ++i) {
+        const std::size_t place = places_[i];
+        if (parted_[place] != i + 1) // covered whole later
+            continue;
+        std::uint32_t* row = canvas_.pixels + (place / width + area_.top) * canvas_.width;
+        row[area_.left + place % width] = average(blocks_[i].data(), shift_);
+    }
+}
+
+} // namespace wnt

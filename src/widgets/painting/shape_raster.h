@@ -1,0 +1,74 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+#include "widgets/painting/picture.h"
+
+namespace wnt {
+
+/// A 32-bit picture in memory (0x00RRGGBB), the upper row first.
+struct Canvas {
+    std::uint32_t* pixels;
+    int width;
+    int height;
+};
+
+/// A part of a canvas: pixels counted from the upper left, right and bottom exclusive.
+struct CanvasArea {
+    int left, top, right, bottom;
+};
+
+/// Draws shapes with smooth edges into an area of a canvas. Every pixel counts as scale x scale subpixels, each of the
+/// colour of the last shape over it, and comes out as their average; only pixels at edges are ever taken apart. Which
+/// subpixels a polygon covers, its outline included, is what the platform's own polygon calls would cover.
+class ShapeRaster {
+public:
+    /// `scale` is 1, 2 or 4. The shapes' coordinates count upwards from the canvas's lower left corner.
+    void begin(const Canvas& canvas, const CanvasArea& area, int scale);
+    void box(const BoxF& box, Colour colour);
+    void polygon(const PointF* points, int count, Colour colour);
+    /// Puts the averages into the canvas.
+    void finish();
+
+private:
+    struct Point { // subpixels, y downwards
+        int x, y;
+    };
+    using Block = std::array<std::uint32_t, 16>; // a pixel taken apart, row by row
+
+    struct Range {
+        int first, end;
+    };
+
+    bool reach(int left, int top, int right, int bottom);
+    void cover(int y, int from, int to);
+    void count_crossings();
+    void walk_steep(const Point& upper, const Point& lower);
+    void walk_flat(const Point& left, const Point& right);
+    void cross(const Point& upper, const Point& lower);
+    void add_crossing(int y, int x, int outline);
+    void fill_between_crossings();
+    void apply(Colour colour);
+    void paint_pixels(std::size_t first, std::uint32_t* pixels, std::uint16_t* masks, int count, std::uint32_t colour);
+    void take_apart(std::size_t place, std::uint32_t pixel, unsigned mask, std::uint32_t colour);
+
+    Canvas canvas_ = {};
+    CanvasArea area_ = {};
+    int shift_ = 0; // subpixels a pixel each way, as a power of 2
+    // Of the present shape: the pixels that it may touch, and its subpixel rows.
+    CanvasArea reach_ = {};
+    Range rows_ = {};
+    std::vector<Point> corners_;
+    std::vector<int> crossings_;       // row by row, see add_crossing()
+    std::vector<int> ends_;            // where each row's crossings end
+    std::vector<std::uint16_t> masks_; // subpixels covered, a bit each; 0 between shapes
+    std::vector<Range> touched_;       // the part of each row of masks that is not all 0
+    // Of the area: for each pixel 0 or the number of its block, counted from 1.
+    std::vector<std::uint32_t> parted_;
+    std::vector<Block> blocks_;
+    std::vector<std::uint32_t> places_; // of the blocks
+};
+
+} // namespace wnt
