@@ -103,6 +103,7 @@ void PictureScreen::collect_changes(const Picture& shown, const Picture& value) 
 void PictureScreen::release() {
     face_.release();
     frame_.release();
+    fonts_.release();
 }
 
 void PictureScreen::draw_all(CWntOut& out, int width, int height, const Picture& face, const Picture& value) {
@@ -118,7 +119,7 @@ void PictureScreen::draw_all(CWntOut& out, int width, int height, const Picture&
     scale_ = scale_for(out.dc, width, height);
     const Area whole = {0, 0, width, height};
     render(face_, face, whole);
-    ::BitBlt(frame_.dc(), 0, 0, width, height, face_.dc(), 0, 0, SRCCOPY);
+    show_face(whole);
     render(frame_, value, whole);
     present(out, whole);
 }
@@ -126,13 +127,16 @@ void PictureScreen::draw_all(CWntOut& out, int width, int height, const Picture&
 void PictureScreen::draw_changes(CWntOut& out, const Picture& shown, const Picture& value) {
     collect_changes(shown, value);
     for (const Area& area : areas_) {
-        const int width = area.right - area.left;
-        const int height = area.top - area.bottom;
-        const int row = frame_.height() - area.top;
-        ::BitBlt(frame_.dc(), area.left, row, width, height, face_.dc(), area.left, row, SRCCOPY);
+        show_face(area);
         render(frame_, value, area);
         present(out, area);
     }
+}
+
+// Puts the face alone back into the frame.
+void PictureScreen::show_face(const Area& area) {
+    for (int y = frame_.height() - area.top; y < frame_.height() - area.bottom; ++y)
+        std::copy_n(face_.row(y) + area.left, area.right - area.left, frame_.row(y) + area.left);
 }
 
 void PictureScreen::present(CWntOut& out, const Area& area) {
@@ -171,26 +175,25 @@ void PictureScreen::render_shapes(MemorySurface& target, const Picture& picture,
 }
 
 void PictureScreen::render_texts(MemorySurface& target, const Picture& picture, const Area& area) {
-    static_assert(static_cast<int>(HAlign::left) == 0 && static_cast<int>(HAlign::right) == 1 &&
-                  static_cast<int>(HAlign::centre) == 2); // as the surface counts them
-    CWntOut& out = target.out();
+    static constexpr UINT alignments[] = {TA_LEFT, TA_RIGHT, TA_CENTER};
+    const HDC dc = target.dc();
+    const int height = target.height();
+    const SelectGuard restored(dc, ::GetCurrentObject(dc, OBJ_FONT));
     for (const auto& figure : picture.figures()) {
         if (figure.kind != Picture::Kind::text)
             continue;
-        Area clip = pixels_of(figure.bounds);
-        if (!overlap(clip, area))
+        const Area cell = pixels_of(figure.bounds);
+        if (!overlap(cell, area))
             continue;
-        clip = {std::max(clip.left, area.left), std::max(clip.bottom, area.bottom), std::min(clip.right, area.right),
-                std::min(clip.top, area.top)};
-        out.setclip(clip.left, clip.bottom, clip.right - 1, clip.top - 1);
-        out.linecolour(COLORREF{figure.colour}, 0);
-        out.fontsize = figure.tenths;
+        const RECT clip = {std::max(cell.left, area.left), height - std::min(cell.top, area.top),
+                           std::min(cell.right, area.right), height - std::max(cell.bottom, area.bottom)};
+        ::SelectObject(dc, fonts_.font(figure.tenths));
+        ::SetTextColor(dc, COLORREF{figure.colour});
+        ::SetTextAlign(dc, TA_BOTTOM | alignments[static_cast<int>(figure.align)]);
         const std::string_view text = picture.characters(figure);
-        // The surface's lower edge of a text is the first row below it.
-        out.chars_len(nearest(figure.at.x), nearest(figure.at.y) - 1, static_cast<int>(text.size()),
-                      const_cast<char*>(text.data()), static_cast<int>(figure.align));
+        ::ExtTextOutA(dc, nearest(figure.at.x), height - nearest(figure.at.y), ETO_CLIPPED, &clip, text.data(),
+                      static_cast<UINT>(text.size()), nullptr);
     }
-    ::SelectClipRgn(target.dc(), nullptr);
     ::GdiFlush();
 }
 

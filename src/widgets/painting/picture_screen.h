@@ -5,6 +5,7 @@
 #include "widgets/painting/memory_surface.h"
 #include "widgets/painting/picture.h"
 #include "widgets/painting/shape_raster.h"
+#include "widgets/painting/text_fonts.h"
 
 namespace wnt {
 
@@ -34,12 +35,14 @@ private:
     void render(MemorySurface& target, const Picture& picture, const Area& area);
     void render_shapes(MemorySurface& target, const Picture& picture, const Area& area);
     void render_texts(MemorySurface& target, const Picture& picture, const Area& area);
+    void show_face(const Area& area);
     void present(CWntOut& out, const Area& area);
 
     int scale_ = 1; // subpixels a pixel, each way
     MemorySurface face_;
     MemorySurface frame_;
     ShapeRaster raster_;
+    TextFonts fonts_;
     std::vector<Area> areas_;
 };
 
