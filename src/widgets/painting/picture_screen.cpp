@@ -106,6 +106,12 @@ void PictureScreen::release() {
     fonts_.release();
 }
 
+void PictureScreen::release_fonts() {
+    for (HDC dc : {face_.dc(), frame_.dc()})
+        ::SelectObject(dc, ::GetStockObject(SYSTEM_FONT));
+    fonts_.release();
+}
+
 void PictureScreen::draw_all(CWntOut& out, int width, int height, const Picture& face, const Picture& value) {
     if (!holds(width, height) && !(face_.create(width, height) && frame_.create(width, height))) {
         release();
@@ -116,6 +122,8 @@ void PictureScreen::draw_all(CWntOut& out, int width, int height, const Picture&
         }
         return;
     }
+    if (fonts_.many())
+        release_fonts();
     scale_ = scale_for(out.dc, width, height);
     const Area whole = {0, 0, width, height};
     render(face_, face, whole);
@@ -178,7 +186,6 @@ void PictureScreen::render_texts(MemorySurface& target, const Picture& picture, 
     static constexpr UINT alignments[] = {TA_LEFT, TA_RIGHT, TA_CENTER};
     const HDC dc = target.dc();
     const int height = target.height();
-    const SelectGuard restored(dc, ::GetCurrentObject(dc, OBJ_FONT));
     for (const auto& figure : picture.figures()) {
         if (figure.kind != Picture::Kind::text)
             continue;
@@ -187,7 +194,7 @@ void PictureScreen::render_texts(MemorySurface& target, const Picture& picture, 
             continue;
         const RECT clip = {std::max(cell.left, area.left), height - std::min(cell.top, area.top),
                            std::min(cell.right, area.right), height - std::max(cell.bottom, area.bottom)};
-        ::SelectObject(dc, fonts_.font(figure.tenths));
+        fonts_.select(dc, figure.tenths);
         ::SetTextColor(dc, COLORREF{figure.colour});
         ::SetTextAlign(dc, TA_BOTTOM | alignments[static_cast<int>(figure.align)]);
         const std::string_view text = picture.characters(figure);

@@ -22,6 +22,8 @@ public:
     void release();
 
 private:
+    void release_fonts();
+
     struct Area { // pixels, y up, right and top exclusive
         int left, bottom, right, top;
         bool empty() const { return left >= right || bottom >= top; }

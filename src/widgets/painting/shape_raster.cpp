@@ -145,9 +145,32 @@ void ShapeRaster::box(const BoxF& box, Colour colour) {
     const int ground = canvas_.height << shift_;
     if (!reach(left, ground - high, right, ground - low))
         return;
-    for (int y = rows_.first; y < rows_.end; ++y)
-        cover(y, left, right);
+    // Pixels that lie within it are simply filled.
+    const int up = (1 << shift_) - 1;
+    const CanvasArea inner = {
+        std::max((left + up) >> shift_, reach_.left), std::max((ground - high + up) >> shift_, reach_.top),
+        std::min(right >> shift_, reach_.right), std::min((ground - low) >> shift_, reach_.bottom)};
+    const bool hollow = inner.left < inner.right;
+    for (int y = rows_.first; y < rows_.end; ++y) {
+        const bool within = hollow && inner.top <= y >> shift_ && y >> shift_ < inner.bottom;
+        cover(y, left, within ? inner.left << shift_ : right);
+        if (within)
+            cover(y, inner.right << shift_, right);
+    }
     apply(colour);
+    for (int y = inner.top; y < inner.bottom && hollow; ++y)
+        fill(inner.left, y, inner.right - inner.left, pixel_of(colour));
+}
+
+// Whole pixels of a row.
+void ShapeRaster::fill(int x, int y, int count, std::uint32_t colour) {
+    std::fill_n(canvas_.pixels + static_cast<std::size_t>(y) * canvas_.width + x, count, colour);
+    std::fill_n(parted_.data() + place_of(x, y), count, 0u);
+}
+
+std::size_t ShapeRaster::place_of(int x, int y) const {
+    return static_cast<std::size_t>(y - area_.top) * static_cast<std::size_t>(area_.right - area_.left) +
+           static_cast<std::size_t>(x - area_.left);
 }
 
 void ShapeRaster::polygon(const PointF* points, int count, Colour colour) {
@@ -283,46 +306,32 @@ void ShapeRaster::fill_between_crossings() {
 // Puts the colour where the masks say, and clears them.
 void ShapeRaster::apply(Colour colour) {
     const std::uint32_t value = pixel_of(colour);
+    const unsigned whole = (1u << (1 << 2 * shift_)) - 1;
     const int width = reach_.right - reach_.left;
     for (int y = reach_.top; y < reach_.bottom; ++y) {
         const auto line = static_cast<std::size_t>(y - reach_.top);
         const auto [from, to] = touched_[line];
         if (from >= to)
             continue;
-        const int x = reach_.left + from;
-        const auto first =
-            static_cast<std::size_t>(y - area_.top) * static_cast<std::size_t>(area_.right - area_.left) +
-            static_cast<std::size_t>(x - area_.left);
-        paint_pixels(first, canvas_.pixels + static_cast<std::size_t>(y) * canvas_.width + x,
-                     masks_.data() + line * width + from, to - from, value);
-    }
-}
-
-// A run of pixels of one row, from the one at `first` in the area on.
-void ShapeRaster::paint_pixels(std::size_t first, std::uint32_t* pixels, std::uint16_t* masks, int count,
-                               std::uint32_t colour) {
-    const unsigned whole = (1u << (1 << 2 * shift_)) - 1;
-    for (int i = 0; i < count; ++i) {
-        const unsigned mask = masks[i];
-        if (mask == whole) {
-            int end = i + 1;
-            while (end < count && masks[end] == whole)
-                ++end;
-            std::fill(pixels + i, pixels + end, colour);
-            std::fill_n(parted_.data() + first + i, end - i, 0u);
-            i = end - 1;
-        } else if (mask) {
-            take_apart(first + i, pixels[i], mask, colour);
+        std::uint16_t* masks = masks_.data() + line * width;
+        for (int x = from; x < to; ++x) {
+            if (masks[x] == whole) {
+                const auto end = std::find_if(masks + x, masks + to, [=](unsigned m) { return m != whole; });
+                fill(reach_.left + x, y, static_cast<int>(end - (masks + x)), value);
+                x = static_cast<int>(end - masks) - 1;
+            } else if (masks[x]) {
+                take_apart(reach_.left + x, y, masks[x], value);
+            }
         }
+        std::fill(masks + from, masks + to, std::uint16_t{0});
     }
-    std::fill_n(masks, count, std::uint16_t{0});
 }
 
-void ShapeRaster::take_apart(std::size_t place, std::uint32_t pixel, unsigned mask, std::uint32_t colour) {
-    std::uint32_t& number = parted_[place];
+void ShapeRaster::take_apart(int x, int y, unsigned mask, std::uint32_t colour) {
+    std::uint32_t& number = parted_[place_of(x, y)];
     if (!number) {
-        blocks_.emplace_back().fill(pixel);
-        places_.push_back(static_cast<std::uint32_t>(place));
+        blocks_.emplace_back().fill(canvas_.pixels[static_cast<std::size_t>(y) * canvas_.width + x]);
+        places_.push_back(static_cast<std::uint32_t>(place_of(x, y)));
         number = static_cast<std::uint32_t>(blocks_.size());
     }
     std::uint32_t* block = blocks_[number - 1].data();

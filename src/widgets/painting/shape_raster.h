@@ -51,8 +51,9 @@ private:
     void add_crossing(int y, int x, int outline);
     void fill_between_crossings();
     void apply(Colour colour);
-    void paint_pixels(std::size_t first, std::uint32_t* pixels, std::uint16_t* masks, int count, std::uint32_t colour);
-    void take_apart(std::size_t place, std::uint32_t pixel, unsigned mask, std::uint32_t colour);
+    void fill(int x, int y, int count, std::uint32_t colour);
+    void take_apart(int x, int y, unsigned mask, std::uint32_t colour);
+    std::size_t place_of(int x, int y) const;
 
     Canvas canvas_ = {};
     CanvasArea area_ = {};

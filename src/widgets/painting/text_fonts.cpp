@@ -13,23 +13,21 @@ constexpr std::size_t kept_fonts = 6; // no view has more sizes of text
 
 } // namespace
 
-HFONT TextFonts::font(int tenths) {
+void TextFonts::select(HDC dc, int tenths) {
     const int bytes = static_cast<int>(MB_CUR_MAX);
-    const auto known = std::find_if(entries_.begin(), entries_.end(), [&](const Entry& e) {
-        return e.tenths == tenths && e.bytes_per_character == bytes;
-    });
-    if (known != entries_.end()) {
-        std::rotate(known, known + 1, entries_.end());
-        return entries_.back().font;
+    auto known = std::find_if(entries_.begin(), entries_.end(),
+                              [&](const Entry& e) { return e.tenths == tenths && e.bytes_per_character == bytes; });
+    if (known == entries_.end()) {
+        CWntOut sized;
+        sized.fontsize = tenths;
+        known = entries_.insert(known, {tenths, bytes, make_chars_font(sized)});
     }
-    if (entries_.size() == kept_fonts) {
-        ::DeleteObject(entries_.front().font);
-        entries_.erase(entries_.begin());
-    }
-    CWntOut sized;
-    sized.fontsize = tenths;
-    entries_.push_back({tenths, bytes, make_chars_font(sized)});
-    return entries_.back().font;
+    if (::GetCurrentObject(dc, OBJ_FONT) != known->font)
+        ::SelectObject(dc, known->font);
+}
+
+bool TextFonts::many() const {
+    return entries_.size() > kept_fonts;
 }
 
 void TextFonts::release() {

@@ -6,8 +6,8 @@
 
 namespace wnt {
 
-/// The last few fonts in which the surface's `chars` writes, by their size: making one anew for each text takes longer
-/// than the text.
+/// Fonts in which the surface's `chars` writes, by their size: making one, and even selecting one, takes longer than
+/// a short text.
 class TextFonts {
 public:
     TextFonts() = default;
@@ -15,8 +15,11 @@ public:
     TextFonts(const TextFonts&) = delete;
     TextFonts& operator=(const TextFonts&) = delete;
 
-    /// The font of a size in tenths of a point: this object's, until another one is asked for.
-    HFONT font(int tenths);
+    /// Has the device context write in the font of a size in tenths of a point. The font stays selected.
+    void select(HDC dc, int tenths);
+    /// True when there are more fonts than are worth keeping.
+    bool many() const;
+    /// None of the fonts may be selected any more.
     void release();
 
 private:
@@ -25,7 +28,7 @@ private:
         int bytes_per_character; // of the locale that it was made in
         HFONT font;
     };
-    std::vector<Entry> entries_; // the last used one at the end
+    std::vector<Entry> entries_;
 };
 
 } // namespace wnt
