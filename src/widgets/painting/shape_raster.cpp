@@ -33,25 +33,32 @@ constexpr auto chosen = [] {
 }();
 
 // The mean of a pixel's subpixels, each channel rounded to the nearest; of subpixels of one colour, that colour.
-std::uint32_t average(const std::uint32_t* subpixels, int shift) {
+template <unsigned count> std::uint32_t average(const std::uint32_t* subpixels) {
     constexpr std::uint32_t lanes = 0x00FF00FF; // two of four bytes, each with room for the sum of 16
-    const int count = 1 << 2 * shift;
+    constexpr std::uint32_t half = count / 2 * 0x00010001u;
+    constexpr int shift = std::countr_zero(count);
     std::uint32_t even = 0;
     std::uint32_t odd = 0;
-    for (int i = 0; i < count; ++i) {
+    for (unsigned i = 0; i < count; ++i) {
         even += subpixels[i] & lanes;
         odd += subpixels[i] >> 8 & lanes;
     }
-    const std::uint32_t half = static_cast<std::uint32_t>(count / 2) * 0x00010001u;
-    return ((even + half) >> 2 * shift & lanes) | ((odd + half) >> 2 * shift & lanes) << 8;
+    return ((even + half) >> shift & lanes) | ((odd + half) >> shift & lanes) << 8;
+}
+
+// Dividing 64 bits takes several times as long as dividing 32, which most edges fit.
+std::int64_t quotient(std::int64_t numerator, std::int64_t denominator) {
+    if (numerator == static_cast<std::int32_t>(numerator) && denominator == static_cast<std::int32_t>(denominator))
+        return static_cast<std::int32_t>(numerator) / static_cast<std::int32_t>(denominator);
+    return numerator / denominator;
 }
 
 // A quotient rounded up, kept up to date while its numerator grows by equal steps; the denominator is positive.
 class RisingQuotient {
 public:
     RisingQuotient(std::int64_t numerator, std::int64_t denominator, std::int64_t step)
-        : denominator_(denominator), whole_(step / denominator), part_(step % denominator),
-          value_(numerator / denominator), rest_(value_ * denominator - numerator) {
+        : denominator_(denominator), whole_(quotient(step, denominator)), part_(step - whole_ * denominator),
+          value_(quotient(numerator, denominator)), rest_(value_ * denominator - numerator) {
         if (rest_ < 0) {
             ++value_;
             rest_ += denominator;
@@ -189,13 +196,12 @@ void ShapeRaster::polygon(const PointF* points, int count, Colour colour) {
         Point b = corners_[i + 1 < corners_.size() ? i + 1 : 0];
         if (a.y > b.y)
             std::swap(a, b);
-        if (std::abs(b.x - a.x) <= b.y - a.y) {
-            if (a.y != b.y)
-                walk_steep(a, b);
-            continue;
-        }
-        cross(a, b);
-        a.x < b.x ? walk_flat(a, b) : walk_flat(b, a);
+        if (a.y == b.y)
+            cover_level(a, b);
+        else if (std::abs(b.x - a.x) <= b.y - a.y)
+            walk_steep(a, b);
+        else
+            walk_flat(a, b);
     }
     fill_between_crossings();
     apply(colour);
@@ -225,59 +231,55 @@ void ShapeRaster::count_crossings() {
     crossings_.resize(static_cast<std::size_t>(total));
 }
 
-// A row of an edge's inside begins or ends at the first subpixel right of the edge. Where the outline stands in this
-// row, just left of that or on it, is kept as two bits below: it widens an inside to its right, or one to its left.
-void ShapeRaster::add_crossing(int y, int x, int outline) {
-    int& end = ends_[static_cast<std::size_t>(y - rows_.first)];
-    crossings_[static_cast<std::size_t>(end++)] = x * 4 + outline;
+// An edge within a row. One of no length is no edge.
+void ShapeRaster::cover_level(const Point& a, const Point& b) {
+    if (a.x != b.x && a.y >= rows_.first && a.y < rows_.end)
+        cover(a.y, std::min(a.x, b.x), std::max(a.x, b.x) + 1);
 }
 
-constexpr int outline_before = 1;
-constexpr int outline_on = 2;
+// What lies inside begins or ends, in every row but the edge's last one, at the first subpixel right of the edge; the
+// outline's subpixels about it belong to it, too. In the last row there is the outline alone.
+void ShapeRaster::cross(int y, const Point& lower, const Crossing& crossing) {
+    if (y == lower.y)
+        cover(y, crossing.from, crossing.to);
+    else
+        crossings_[static_cast<std::size_t>(ends_[static_cast<std::size_t>(y - rows_.first)]++)] = crossing;
+}
 
-// An edge of more rows than columns: its outline is one subpixel a row.
+// An edge of at least as many rows as columns: its outline is one subpixel a row. Halves go left.
 void ShapeRaster::walk_steep(const Point& upper, const Point& lower) {
     const std::int64_t dx = lower.x - upper.x;
-    const int from = std::max(upper.y, rows_.first);
-    const int to = std::min(lower.y, rows_.end);
-    if (lower.y >= rows_.first && lower.y < rows_.end)
-        cover(lower.y, lower.x, lower.x + 1);
-    if (from >= to)
-        return;
-    RisingQuotient crossing(dx * (from - upper.y), lower.y - upper.y, dx);
-    for (int y = from; y < to; ++y, crossing.advance())
-        add_crossing(y, upper.x + crossing.value(),
-                     crossing.nearest() < crossing.value() ? outline_before : outline_on);
+    const int first = std::max(upper.y, rows_.first);
+    const int last = std::min(lower.y, rows_.end - 1);
+    RisingQuotient crossing(dx * (first - upper.y), lower.y - upper.y, dx);
+    for (int y = first; y <= last; ++y, crossing.advance()) {
+        const int outline = upper.x + crossing.nearest();
+        const int x = upper.x + crossing.value();
+        cross(y, lower, {x, outline, std::max(outline + 1, x)});
+    }
 }
 
-// The crossings of an edge whose outline is drawn apart.
-void ShapeRaster::cross(const Point& upper, const Point& lower) {
-    const std::int64_t dx = lower.x - upper.x;
-    const int from = std::max(upper.y, rows_.first);
-    const int to = std::min(lower.y, rows_.end);
-    if (from >= to)
-        return;
-    RisingQuotient crossing(dx * (from - upper.y), lower.y - upper.y, dx);
-    for (int y = from; y < to; ++y, crossing.advance())
-        add_crossing(y, upper.x + crossing.value(), 0);
-}
-
-// The outline of an edge of more columns than rows: runs along the rows. Halves go up.
-void ShapeRaster::walk_flat(const Point& left, const Point& right) {
-    const std::int64_t dx = right.x - left.x;
-    const std::int64_t dy = right.y - left.y;
-    const int from = std::max(left.x, reach_.left << shift_);
-    const int to = std::min(right.x, (reach_.right << shift_) - 1);
-    RisingQuotient outline(2 * dy * (from - left.x) - dx, 2 * dx, 2 * dy);
-    int run = from;
-    for (int x = from; x <= to; ++x) {
-        const int y = outline.value();
-        outline.advance();
-        if (x < to && outline.value() == y)
-            continue;
-        if (left.y + y >= rows_.first && left.y + y < rows_.end)
-            cover(left.y + y, run, x + 1);
-        run = x + 1;
+// An edge of more columns than rows: its outline is a run of subpixels in each row. Halves go up.
+void ShapeRaster::walk_flat(const Point& upper, const Point& lower) {
+    const std::int64_t dx = std::abs(lower.x - upper.x);
+    const std::int64_t dy = lower.y - upper.y;
+    const bool falls = upper.x < lower.x; // from left to right
+    const int first = std::max(upper.y, rows_.first);
+    const int last = std::min(lower.y, rows_.end - 1);
+    const int left = std::min(upper.x, lower.x);
+    const int right = std::max(upper.x, lower.x);
+    const std::int64_t down = first - upper.y;
+    RisingQuotient crossing((falls ? down : dy - down) * dx, dy, falls ? dx : -dx);
+    // The bound between this row's run and the next one's; the run before is kept from row to row.
+    RisingQuotient bound(falls ? (2 * down + 1) * dx + 1 : (2 * (dy - down) - 1) * dx, 2 * dy,
+                         falls ? 2 * dx : -2 * dx);
+    RisingQuotient before(falls ? (2 * down - 1) * dx + 1 : (2 * (dy - down) + 1) * dx, 2 * dy, 0);
+    int previous = before.value();
+    for (int y = first; y <= last; ++y, crossing.advance(), bound.advance()) {
+        const int from = left + (falls ? previous : bound.value());
+        const int to = left + (falls ? bound.value() : previous);
+        cross(y, lower, {left + crossing.value(), std::max(from, left), std::min(to, right + 1)});
+        previous = bound.value();
     }
 }
 
@@ -286,18 +288,13 @@ void ShapeRaster::fill_between_crossings() {
     int first = 0;
     for (int y = rows_.first; y < rows_.end; ++y) {
         const int end = ends_[static_cast<std::size_t>(y - rows_.first)];
-        int* xs = crossings_.data() + first;
-        const int count = end - first;
-        if (count == 2 && xs[0] > xs[1])
-            std::swap(xs[0], xs[1]);
-        else if (count > 2)
-            std::sort(xs, xs + count);
-        for (int i = 0; i + 1 < count; i += 2) {
-            const int a = xs[i];
-            const int b = xs[i + 1];
-            const bool before = (a | (a >> 2 == b >> 2 ? b : 0)) & outline_before;
-            const bool on = (b | (a >> 2 == b >> 2 ? a : 0)) & outline_on;
-            cover(y, (a >> 2) - before, (b >> 2) + on);
+        if (end - first > 2)
+            std::sort(crossings_.begin() + first, crossings_.begin() + end,
+                      [](const Crossing& a, const Crossing& b) { return a.x < b.x; });
+        for (int i = first; i + 1 < end; i += 2) {
+            const Crossing& a = crossings_[static_cast<std::size_t>(i)];
+            const Crossing& b = crossings_[static_cast<std::size_t>(i) + 1];
+            cover(y, std::min(a.from, b.from), std::max(a.to, b.to));
         }
         first = end;
     }
@@ -334,10 +331,12 @@ void ShapeRaster::take_apart(int x, int y, unsigned mask, std::uint32_t colour) 
         places_.push_back(static_cast<std::uint32_t>(place_of(x, y)));
         number = static_cast<std::uint32_t>(blocks_.size());
     }
-    std::uint32_t* block = blocks_[number - 1].data();
-    for (; mask; mask >>= 4, block += 4)
-        for (std::size_t i = 0; i < 4; ++i)
-            block[i] ^= (block[i] ^ colour) & chosen[mask & 15][i];
+    Block& block = blocks_[number - 1];
+    for (std::size_t i = 0; i < block.size(); i += 4) {
+        const auto& taken = chosen[mask >> i & 15];
+        for (std::size_t k = 0; k < 4; ++k)
+            block[i + k] ^= (block[i + k] ^ colour) & taken[k];
+    }
 }
 
 void ShapeRaster::finish() {
@@ -347,7 +346,7 @@ void ShapeRaster::finish() {
         if (parted_[place] != i + 1) // covered whole later
             continue;
         std::uint32_t* row = canvas_.pixels + (place / width + area_.top) * canvas_.width;
-        row[area_.left + place % width] = average(blocks_[i].data(), shift_);
+        row[area_.left + place % width] = shift_ == 2 ? average<16>(blocks_[i].data()) : average<4>(blocks_[i].data());
     }
 }
 

@@ -41,14 +41,18 @@ private:
     struct Range {
         int first, end;
     };
+    struct Crossing { // of an edge and a row of subpixels
+        int x;        // the first subpixel right of the edge
+        int from, to; // the outline, with what lies between it and x
+    };
 
     bool reach(int left, int top, int right, int bottom);
     void cover(int y, int from, int to);
     void count_crossings();
+    void cover_level(const Point& a, const Point& b);
     void walk_steep(const Point& upper, const Point& lower);
-    void walk_flat(const Point& left, const Point& right);
-    void cross(const Point& upper, const Point& lower);
-    void add_crossing(int y, int x, int outline);
+    void walk_flat(const Point& upper, const Point& lower);
+    void cross(int y, const Point& lower, const Crossing& crossing);
     void fill_between_crossings();
     void apply(Colour colour);
     void fill(int x, int y, int count, std::uint32_t colour);
@@ -62,7 +66,7 @@ private:
     CanvasArea reach_ = {};
     Range rows_ = {};
     std::vector<Point> corners_;
-    std::vector<int> crossings_;       // row by row, see add_crossing()
+    std::vector<Crossing> crossings_;  // row by row
     std::vector<int> ends_;            // where each row's crossings end
     std::vector<std::uint16_t> masks_; // subpixels covered, a bit each; 0 between shapes
     std::vector<Range> touched_;       // the part of each row of masks that is not all 0
