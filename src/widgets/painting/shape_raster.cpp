@@ -6,6 +6,10 @@
 #include <cstring>
 #include <utility>
 
+#if defined(__SSE2__) || defined(_M_X64)
+#include <emmintrin.h>
+#endif
+
 namespace wnt {
 
 namespace {
@@ -45,6 +49,21 @@ template <unsigned count> std::uint32_t average(const std::uint32_t* subpixels) 
     }
     return ((even + half) >> shift & lanes) | ((odd + half) >> shift & lanes) << 8;
 }
+
+#if defined(__SSE2__) || defined(_M_X64)
+// The hot case in four loads.
+template <> std::uint32_t average<16>(const std::uint32_t* subpixels) {
+    const __m128i zero = _mm_setzero_si128();
+    __m128i sum = zero; // four channels, twice
+    for (int row = 0; row < 4; ++row) {
+        const __m128i four = _mm_loadu_si128(reinterpret_cast<const __m128i*>(subpixels + 4 * row));
+        sum = _mm_add_epi16(sum, _mm_add_epi16(_mm_unpacklo_epi8(four, zero), _mm_unpackhi_epi8(four, zero)));
+    }
+    sum = _mm_add_epi16(sum, _mm_shuffle_epi32(sum, _MM_SHUFFLE(1, 0, 3, 2)));
+    sum = _mm_srli_epi16(_mm_add_epi16(sum, _mm_set1_epi16(8)), 4);
+    return static_cast<std::uint32_t>(_mm_cvtsi128_si32(_mm_packus_epi16(sum, zero)));
+}
+#endif
 
 // Dividing 64 bits takes several times as long as dividing 32, which most edges fit.
 std::int64_t quotient(std::int64_t numerator, std::int64_t denominator) {
@@ -104,41 +123,90 @@ bool ShapeRaster::reach(int left, int top, int right, int bottom) {
     reach_ = {std::max(left >> shift_, area_.left), std::max(top >> shift_, area_.top),
               std::min((right + up) >> shift_, area_.right), std::min((bottom + up) >> shift_, area_.bottom)};
     rows_ = {std::max(top, area_.top << shift_), std::min(bottom, area_.bottom << shift_)};
-    if (reach_.left >= reach_.right || reach_.top >= reach_.bottom)
-        return false;
-    const auto pixels =
-        static_cast<std::size_t>(reach_.right - reach_.left) * static_cast<std::size_t>(reach_.bottom - reach_.top);
-    if (masks_.size() < pixels)
-        masks_.resize(pixels);
-    touched_.assign(static_cast<std::size_t>(reach_.bottom - reach_.top), {reach_.right - reach_.left, 0});
-    return true;
+    return reach_.left < reach_.right && reach_.top < reach_.bottom;
 }
 
-// Marks the subpixels of a row from `from` to below `to`.
-void ShapeRaster::cover(int y, int from, int to) {
-    from = std::max(from, reach_.left << shift_);
-    to = std::min(to, reach_.right << shift_);
-    if (from >= to)
-        return;
-    const int scale = 1 << shift_;
-    const unsigned whole = (1u << scale) - 1;
-    const int row_shift = (y & (scale - 1)) << shift_;
-    const auto line = static_cast<std::size_t>((y >> shift_) - reach_.top);
-    std::uint16_t* row = masks_.data() + line * static_cast<std::size_t>(reach_.right - reach_.left);
-    const int first = (from >> shift_) - reach_.left;
-    const int last = ((to - 1) >> shift_) - reach_.left;
-    touched_[line] = {std::min(touched_[line].first, first), std::max(touched_[line].end, last + 1)};
-    const unsigned first_bits = whole << (from & (scale - 1)) & whole;
-    const unsigned last_bits = whole >> (scale - 1 - ((to - 1) & (scale - 1)));
-    if (first == last) {
-        row[first] |= static_cast<std::uint16_t>((first_bits & last_bits) << row_shift);
-        return;
+// Paints one run of subpixels in each row of a row of pixels; a run may be empty.
+void ShapeRaster::cover(int y, const Runs& runs) {
+    shift_ == 2 ? cover_scaled<2>(y, runs) : shift_ == 1 ? cover_scaled<1>(y, runs) : cover_scaled<0>(y, runs);
+}
+
+template <int shift> void ShapeRaster::cover_scaled(int y, Runs runs) {
+    constexpr int scale = 1 << shift;
+    const int low = reach_.left << shift;
+    const int high = reach_.right << shift;
+    Range outer = {high, low};
+    Range inner = {low, high}; // within all of the runs
+    for (int i = 0; i < scale; ++i) {
+        Range& run = runs[static_cast<std::size_t>(i)];
+        run = {std::max(run.first, low), std::min(run.end, high)};
+        if (run.first >= run.end)
+            run = {low, low};
+        else
+            outer = {std::min(outer.first, run.first), std::max(outer.end, run.end)};
+        inner = {std::max(inner.first, run.first), std::min(inner.end, run.end)};
     }
-    row[first] |= static_cast<std::uint16_t>(first_bits << row_shift);
-    const auto middle = static_cast<std::uint16_t>(whole << row_shift);
-    for (int x = first + 1; x < last; ++x)
-        row[x] |= middle;
-    row[last] |= static_cast<std::uint16_t>(last_bits << row_shift);
+    const Range whole = {(inner.first + scale - 1) >> shift, inner.end >> shift};
+    const int end = (outer.end + scale - 1) >> shift;
+    for (int x = outer.first >> shift; x < end;) {
+        if (x == whole.first && whole.first < whole.end) {
+            fill(x, y, whole.end - x);
+            x = whole.end;
+            continue;
+        }
+        // Many pixels' bits at once, up to the whole ones.
+        constexpr int window = 60;
+        std::uint64_t bits[scale];
+        for (int i = 0; i < scale; ++i) {
+            const Range run = runs[static_cast<std::size_t>(i)];
+            bits[i] = (std::uint64_t{1} << std::clamp(run.end - (x << shift), 0, window)) -
+                      (std::uint64_t{1} << std::clamp(run.first - (x << shift), 0, window));
+        }
+        const int stop = std::min({x + window / scale, end, x < whole.first ? whole.first : end});
+        for (; x < stop; ++x) {
+            unsigned mask = 0;
+            for (int i = 0; i < scale; ++i) {
+                mask |= static_cast<unsigned>(bits[i] & ((1u << scale) - 1)) << (i << shift);
+                bits[i] >>= scale;
+            }
+            if (mask)
+                take_apart(x, y, mask);
+        }
+    }
+}
+
+void ShapeRaster::cover_row(int row, Range run) {
+    Runs runs{};
+    runs[static_cast<std::size_t>(row & ((1 << shift_) - 1))] = run;
+    cover(row >> shift_, runs);
+}
+
+// Whole pixels of a row.
+void ShapeRaster::fill(int x, int y, int count) {
+    std::fill_n(canvas_.pixels + static_cast<std::size_t>(y) * canvas_.width + x, count, colour_);
+    std::fill_n(parted_.data() + place_of(x, y), count, 0u);
+}
+
+void ShapeRaster::take_apart(int x, int y, unsigned mask) {
+    const std::size_t place = place_of(x, y);
+    std::uint32_t& number = parted_[place];
+    if (!number) {
+        blocks_.emplace_back().fill(canvas_.pixels[static_cast<std::size_t>(y) * canvas_.width + x]);
+        places_.push_back({place, canvas_.pixels + static_cast<std::size_t>(y) * canvas_.width + x});
+        number = static_cast<std::uint32_t>(blocks_.size());
+    }
+    Block& block = blocks_[number - 1];
+    const std::uint32_t colour = colour_; // known to stay while the block changes
+    for (std::size_t i = 0; i < block.size(); i += 4) {
+        const auto taken = chosen[mask >> i & 15];
+        for (std::size_t k = 0; k < 4; ++k)
+            block[i + k] ^= (block[i + k] ^ colour) & taken[k];
+    }
+}
+
+std::size_t ShapeRaster::place_of(int x, int y) const {
+    return static_cast<std::size_t>(y - area_.top) * static_cast<std::size_t>(area_.right - area_.left) +
+           static_cast<std::size_t>(x - area_.left);
 }
 
 void ShapeRaster::box(const BoxF& box, Colour colour) {
@@ -152,32 +220,13 @@ void ShapeRaster::box(const BoxF& box, Colour colour) {
     const int ground = canvas_.height << shift_;
     if (!reach(left, ground - high, right, ground - low))
         return;
-    // Pixels that lie within it are simply filled.
-    const int up = (1 << shift_) - 1;
-    const CanvasArea inner = {
-        std::max((left + up) >> shift_, reach_.left), std::max((ground - high + up) >> shift_, reach_.top),
-        std::min(right >> shift_, reach_.right), std::min((ground - low) >> shift_, reach_.bottom)};
-    const bool hollow = inner.left < inner.right;
-    for (int y = rows_.first; y < rows_.end; ++y) {
-        const bool within = hollow && inner.top <= y >> shift_ && y >> shift_ < inner.bottom;
-        cover(y, left, within ? inner.left << shift_ : right);
-        if (within)
-            cover(y, inner.right << shift_, right);
+    colour_ = pixel_of(colour);
+    for (int y = reach_.top; y < reach_.bottom; ++y) {
+        Runs runs{};
+        for (int i = std::max(y << shift_, rows_.first); i < std::min((y + 1) << shift_, rows_.end); ++i)
+            runs[static_cast<std::size_t>(i - (y << shift_))] = {left, right};
+        cover(y, runs);
     }
-    apply(colour);
-    for (int y = inner.top; y < inner.bottom && hollow; ++y)
-        fill(inner.left, y, inner.right - inner.left, pixel_of(colour));
-}
-
-// Whole pixels of a row.
-void ShapeRaster::fill(int x, int y, int count, std::uint32_t colour) {
-    std::fill_n(canvas_.pixels + static_cast<std::size_t>(y) * canvas_.width + x, count, colour);
-    std::fill_n(parted_.data() + place_of(x, y), count, 0u);
-}
-
-std::size_t ShapeRaster::place_of(int x, int y) const {
-    return static_cast<std::size_t>(y - area_.top) * static_cast<std::size_t>(area_.right - area_.left) +
-           static_cast<std::size_t>(x - area_.left);
 }
 
 void ShapeRaster::polygon(const PointF* points, int count, Colour colour) {
@@ -190,6 +239,7 @@ void ShapeRaster::polygon(const PointF* points, int count, Colour colour) {
     const auto [top, bottom] = std::ranges::minmax(corners_, {}, &Point::y);
     if (!reach(left.x, top.y, right.x + 1, bottom.y + 1))
         return;
+    colour_ = pixel_of(colour);
     count_crossings();
     for (std::size_t i = 0; i < corners_.size(); ++i) {
         Point a = corners_[i];
@@ -204,7 +254,6 @@ void ShapeRaster::polygon(const PointF* points, int count, Colour colour) {
             walk_flat(a, b);
     }
     fill_between_crossings();
-    apply(colour);
 }
 
 // Counts the crossings of edges and rows, and gives each row its place among them.
@@ -234,14 +283,14 @@ void ShapeRaster::count_crossings() {
 // An edge within a row. One of no length is no edge.
 void ShapeRaster::cover_level(const Point& a, const Point& b) {
     if (a.x != b.x && a.y >= rows_.first && a.y < rows_.end)
-        cover(a.y, std::min(a.x, b.x), std::max(a.x, b.x) + 1);
+        cover_row(a.y, {std::min(a.x, b.x), std::max(a.x, b.x) + 1});
 }
 
 // What lies inside begins or ends, in every row but the edge's last one, at the first subpixel right of the edge; the
 // outline's subpixels about it belong to it, too. In the last row there is the outline alone.
 void ShapeRaster::cross(int y, const Point& lower, const Crossing& crossing) {
     if (y == lower.y)
-        cover(y, crossing.from, crossing.to);
+        cover_row(y, {crossing.from, crossing.to});
     else
         crossings_[static_cast<std::size_t>(ends_[static_cast<std::size_t>(y - rows_.first)]++)] = crossing;
 }
@@ -283,71 +332,43 @@ void ShapeRaster::walk_flat(const Point& upper, const Point& lower) {
     }
 }
 
-// A row lies inside from every odd crossing to the even one that follows.
+// A row lies inside from every odd crossing to the even one that follows. Runs of the same number in the rows of a row
+// of pixels are painted at once.
 void ShapeRaster::fill_between_crossings() {
-    int first = 0;
-    for (int y = rows_.first; y < rows_.end; ++y) {
-        const int end = ends_[static_cast<std::size_t>(y - rows_.first)];
-        if (end - first > 2)
-            std::sort(crossings_.begin() + first, crossings_.begin() + end,
-                      [](const Crossing& a, const Crossing& b) { return a.x < b.x; });
-        for (int i = first; i + 1 < end; i += 2) {
-            const Crossing& a = crossings_[static_cast<std::size_t>(i)];
-            const Crossing& b = crossings_[static_cast<std::size_t>(i) + 1];
-            cover(y, std::min(a.from, b.from), std::max(a.to, b.to));
-        }
-        first = end;
-    }
-}
-
-// Puts the colour where the masks say, and clears them.
-void ShapeRaster::apply(Colour colour) {
-    const std::uint32_t value = pixel_of(colour);
-    const unsigned whole = (1u << (1 << 2 * shift_)) - 1;
-    const int width = reach_.right - reach_.left;
+    int end = 0;
     for (int y = reach_.top; y < reach_.bottom; ++y) {
-        const auto line = static_cast<std::size_t>(y - reach_.top);
-        const auto [from, to] = touched_[line];
-        if (from >= to)
-            continue;
-        std::uint16_t* masks = masks_.data() + line * width;
-        for (int x = from; x < to; ++x) {
-            if (masks[x] == whole) {
-                const auto end = std::find_if(masks + x, masks + to, [=](unsigned m) { return m != whole; });
-                fill(reach_.left + x, y, static_cast<int>(end - (masks + x)), value);
-                x = static_cast<int>(end - masks) - 1;
-            } else if (masks[x]) {
-                take_apart(reach_.left + x, y, masks[x], value);
-            }
+        const int first_row = std::max(y << shift_, rows_.first);
+        const int end_row = std::min((y + 1) << shift_, rows_.end);
+        std::array<Range, 4> rows{}; // the crossings of each
+        int most = 0;
+        for (int row = first_row; row < end_row; ++row) {
+            Range& r = rows[static_cast<std::size_t>(row - (y << shift_))];
+            r = {end, ends_[static_cast<std::size_t>(row - rows_.first)]};
+            end = r.end;
+            most = std::max(most, r.end - r.first);
+            if (r.end - r.first > 2)
+                std::sort(crossings_.begin() + r.first, crossings_.begin() + r.end,
+                          [](const Crossing& a, const Crossing& b) { return a.x < b.x; });
         }
-        std::fill(masks + from, masks + to, std::uint16_t{0});
+        for (int i = 0; i + 1 < most; i += 2) {
+            Runs runs{};
+            for (std::size_t row = 0; row < rows.size(); ++row)
+                if (rows[row].first + i + 1 < rows[row].end)
+                    runs[row] = run_between(crossings_[static_cast<std::size_t>(rows[row].first + i)],
+                                            crossings_[static_cast<std::size_t>(rows[row].first + i) + 1]);
+            cover(y, runs);
+        }
     }
 }
 
-void ShapeRaster::take_apart(int x, int y, unsigned mask, std::uint32_t colour) {
-    std::uint32_t& number = parted_[place_of(x, y)];
-    if (!number) {
-        blocks_.emplace_back().fill(canvas_.pixels[static_cast<std::size_t>(y) * canvas_.width + x]);
-        places_.push_back(static_cast<std::uint32_t>(place_of(x, y)));
-        number = static_cast<std::uint32_t>(blocks_.size());
-    }
-    Block& block = blocks_[number - 1];
-    for (std::size_t i = 0; i < block.size(); i += 4) {
-        const auto& taken = chosen[mask >> i & 15];
-        for (std::size_t k = 0; k < 4; ++k)
-            block[i + k] ^= (block[i + k] ^ colour) & taken[k];
-    }
+ShapeRaster::Range ShapeRaster::run_between(const Crossing& a, const Crossing& b) {
+    return {std::min(a.from, b.from), std::max(a.to, b.to)};
 }
 
 void ShapeRaster::finish() {
-    const auto width = static_cast<std::size_t>(area_.right - area_.left);
-    for (std::size_t i = 0; i < blocks_.size(); ++i) {
-        const std::size_t place = places_[i];
-        if (parted_[place] != i + 1) // covered whole later
-            continue;
-        std::uint32_t* row = canvas_.pixels + (place / width + area_.top) * canvas_.width;
-        row[area_.left + place % width] = shift_ == 2 ? average<16>(blocks_[i].data()) : average<4>(blocks_[i].data());
-    }
+    for (std::size_t i = 0; i < blocks_.size(); ++i)
+        if (parted_[places_[i].place] == i + 1) // not covered whole since
+            *places_[i].pixel = shift_ == 2 ? average<16>(blocks_[i].data()) : average<4>(blocks_[i].data());
 }
 
 } // namespace wnt

@@ -46,18 +46,23 @@ private:
         int from, to; // the outline, with what lies between it and x
     };
 
+    using Runs = std::array<Range, 4>; // of subpixels, one in each row of a row of pixels
+
     bool reach(int left, int top, int right, int bottom);
-    void cover(int y, int from, int to);
+    void cover(int y, const Runs& runs);
+    template <int shift> void cover_scaled(int y, Runs runs);
+    void cover_row(int row, Range run);
+    void fill(int x, int y, int count);
+    void take_apart(int x, int y, unsigned mask);
+    std::size_t place_of(int x, int y) const;
+
     void count_crossings();
     void cover_level(const Point& a, const Point& b);
     void walk_steep(const Point& upper, const Point& lower);
     void walk_flat(const Point& upper, const Point& lower);
     void cross(int y, const Point& lower, const Crossing& crossing);
     void fill_between_crossings();
-    void apply(Colour colour);
-    void fill(int x, int y, int count, std::uint32_t colour);
-    void take_apart(int x, int y, unsigned mask, std::uint32_t colour);
-    std::size_t place_of(int x, int y) const;
+    static Range run_between(const Crossing& a, const Crossing& b);
 
     Canvas canvas_ = {};
     CanvasArea area_ = {};
@@ -65,15 +70,18 @@ private:
     // Of the present shape: the pixels that it may touch, and its subpixel rows.
     CanvasArea reach_ = {};
     Range rows_ = {};
+    std::uint32_t colour_ = 0;
     std::vector<Point> corners_;
-    std::vector<Crossing> crossings_;  // row by row
-    std::vector<int> ends_;            // where each row's crossings end
-    std::vector<std::uint16_t> masks_; // subpixels covered, a bit each; 0 between shapes
-    std::vector<Range> touched_;       // the part of each row of masks that is not all 0
+    std::vector<Crossing> crossings_; // row by row
+    std::vector<int> ends_;           // where each row's crossings end
     // Of the area: for each pixel 0 or the number of its block, counted from 1.
     std::vector<std::uint32_t> parted_;
     std::vector<Block> blocks_;
-    std::vector<std::uint32_t> places_; // of the blocks
+    struct Place {
+        std::size_t place;
+        std::uint32_t* pixel;
+    };
+    std::vector<Place> places_; // of the blocks
 };
 
 } // namespace wnt
