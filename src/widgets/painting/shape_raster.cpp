@@ -126,6 +126,32 @@ bool ShapeRaster::reach(int left, int top, int right, int bottom) {
     return reach_.left < reach_.right && reach_.top < reach_.bottom;
 }
 
+inline std::size_t ShapeRaster::place_of(int x, int y) const {
+    return static_cast<std::size_t>(y - area_.top) * static_cast<std::size_t>(area_.right - area_.left) +
+           static_cast<std::size_t>(x - area_.left);
+}
+
+// Gives a pixel a block of its own; answers its number.
+std::uint32_t ShapeRaster::add_block(std::size_t place, std::uint32_t* pixel) {
+    blocks_.emplace_back().fill(*pixel);
+    places_.push_back({place, pixel});
+    return static_cast<std::uint32_t>(blocks_.size());
+}
+
+inline void ShapeRaster::take_apart(int x, int y, unsigned mask) {
+    const std::size_t place = place_of(x, y);
+    std::uint32_t& number = parted_[place];
+    if (!number)
+        number = add_block(place, canvas_.pixels + static_cast<std::size_t>(y) * canvas_.width + x);
+    Block& block = blocks_[number - 1];
+    const std::uint32_t colour = colour_; // known to stay while the block changes
+    for (std::size_t i = 0; i < block.size(); i += 4) {
+        const auto taken = chosen[mask >> i & 15];
+        for (std::size_t k = 0; k < 4; ++k)
+            block[i + k] ^= (block[i + k] ^ colour) & taken[k];
+    }
+}
+
 // Paints one run of subpixels in each row of a row of pixels; a run may be empty.
 void ShapeRaster::cover(int y, const Runs& runs) {
     shift_ == 2 ? cover_scaled<2>(y, runs) : shift_ == 1 ? cover_scaled<1>(y, runs) : cover_scaled<0>(y, runs);
@@ -185,28 +211,6 @@ void ShapeRaster::cover_row(int row, Range run) {
 void ShapeRaster::fill(int x, int y, int count) {
     std::fill_n(canvas_.pixels + static_cast<std::size_t>(y) * canvas_.width + x, count, colour_);
     std::fill_n(parted_.data() + place_of(x, y), count, 0u);
-}
-
-void ShapeRaster::take_apart(int x, int y, unsigned mask) {
-    const std::size_t place = place_of(x, y);
-    std::uint32_t& number = parted_[place];
-    if (!number) {
-        blocks_.emplace_back().fill(canvas_.pixels[static_cast<std::size_t>(y) * canvas_.width + x]);
-        places_.push_back({place, canvas_.pixels + static_cast<std::size_t>(y) * canvas_.width + x});
-        number = static_cast<std::uint32_t>(blocks_.size());
-    }
-    Block& block = blocks_[number - 1];
-    const std::uint32_t colour = colour_; // known to stay while the block changes
-    for (std::size_t i = 0; i < block.size(); i += 4) {
-        const auto taken = chosen[mask >> i & 15];
-        for (std::size_t k = 0; k < 4; ++k)
-            block[i + k] ^= (block[i + k] ^ colour) & taken[k];
-    }
-}
-
-std::size_t ShapeRaster::place_of(int x, int y) const {
-    return static_cast<std::size_t>(y - area_.top) * static_cast<std::size_t>(area_.right - area_.left) +
-           static_cast<std::size_t>(x - area_.left);
 }
 
 void ShapeRaster::box(const BoxF& box, Colour colour) {

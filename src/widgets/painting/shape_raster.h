@@ -54,6 +54,7 @@ private:
     void cover_row(int row, Range run);
     void fill(int x, int y, int count);
     void take_apart(int x, int y, unsigned mask);
+    std::uint32_t add_block(std::size_t place, std::uint32_t* pixel);
     std::size_t place_of(int x, int y) const;
 
     void count_crossings();
