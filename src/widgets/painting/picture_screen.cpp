@@ -52,9 +52,15 @@ PictureScreen::Area PictureScreen::pixels_of(const BoxF& box) const {
         return {};
     // Outlines reach a subpixel beyond a shape's corners.
     const float reach = 1.0f / static_cast<float>(scale_);
-    auto bound = [](float v, int limit) { return static_cast<int>(std::clamp(v, 0.0f, static_cast<float>(limit))); };
-    return {bound(std::floor(box.left - reach), frame_.width()), bound(std::floor(box.bottom - reach), frame_.height()),
-            bound(std::ceil(box.right + reach), frame_.width()), bound(std::ceil(box.top + reach), frame_.height())};
+    const auto floor = [](float v, int limit) {
+        return static_cast<int>(std::clamp(v, 0.0f, static_cast<float>(limit)));
+    };
+    const auto ceiling = [&](float v, int limit) {
+        const int whole = floor(v, limit);
+        return whole + (whole < limit && static_cast<float>(whole) < v);
+    };
+    return {floor(box.left - reach, frame_.width()), floor(box.bottom - reach, frame_.height()),
+            ceiling(box.right + reach, frame_.width()), ceiling(box.top + reach, frame_.height())};
 }
 
 bool PictureScreen::overlap(const Area& a, const Area& b) {
