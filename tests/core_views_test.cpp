@@ -176,6 +176,9 @@ TEST(GaugeViews, ZonesAndValueStandWhereTheScaleSays) {
                          ++i) {
                         EXPECT_LE(angle_of(scene.face.points(f)[i]), angle_at(from) + 0.1f);
                         EXPECT_GE(angle_of(scene.face.points(f)[i]), angle_at(to) - 0.1f);
+                        const PointF p = scene.face.points(f)[i];
+                        if (const float reach = std::hypot(p.x - 120, p.y - 120) / 111.8f; type == gauge_analog)
+                            EXPECT_TRUE(reach > 0.79f && reach < 0.89f) << reach; // between ticks and rim
                     }
                 const Colour pointer = type == gauge_analog ? blend(colour, black, 150) : colour;
                 PointF sum = {0, 0};
@@ -196,6 +199,19 @@ TEST(GaugeViews, PreviousValueAndLightAreOnTheirSides) {
     model.set_current_value(150);
     const Scene scene(model, stage, stage);
     EXPECT_NEAR(angle_of(extent(scene.value, 0x606060).centre()), angle_at(40), 2);
+    for (const int value : {40, 150}) {
+        const Scene needle(zoned(gauge_analog, value), stage, stage);
+        std::vector<std::pair<float, int>> halves; // how far to the top left, and how bright
+        for (const auto& f : needle.value.figures())
+            if (f.kind == Picture::Kind::polygon && f.count == 5) {
+                float aside = 0;
+                for (std::uint32_t i = 0; i < f.count; ++i)
+                    aside += needle.value.points(f)[i].y - needle.value.points(f)[i].x;
+                halves.emplace_back(aside, brightness(f.colour));
+            }
+        ASSERT_EQ(halves.size(), 2u);
+        EXPECT_EQ(halves[0].first > halves[1].first, halves[0].second > halves[1].second) << value;
+    }
     // Of a ring's parts: outwards the bright ones at the top left, inwards the dark ones.
     for (const int type : {gauge_analog, gauge_turn_knob}) {
         std::map<float, std::pair<int, int>>
@@ -250,6 +266,20 @@ TEST(GaugeViews, DigitsHaveTheirSegments) {
     }
 }
 
+TEST(GaugeViews, LampsAreLitUpToTheValue) {
+    const std::pair<int, int> cases[] = {{0, 1}, {1, 1}, {20, 1}, {21, 2}, {100, 5}, {101, 6}, {200, 10}};
+    for (const auto& [value, lit] : cases) {
+        const Scene scene(zoned(gauge_digital, value), stage, stage);
+        EXPECT_EQ(std::ranges::count_if(scene.value.figures(),
+                                        [](const auto& f) {
+                                            return f.kind == Picture::Kind::box &&
+                                                   (f.colour == blue || f.colour == green || f.colour == red);
+                                        }),
+                  lit)
+            << value;
+    }
+}
+
 TEST(GaugeViews, BordersTakeTheLightFromTheTopLeft) {
     const Colour back = 0xF5F5F5, sun = 0xFFFFFF, shadow = 0x6A6A6A;
     const struct {
@@ -299,6 +329,7 @@ TEST(GaugeViews, TextsStandAtTheirPlaces) {
                     number = &f;
                 } else if (text == " bar" && number) {
                     EXPECT_NEAR(f.bounds.left, number->bounds.right - 2, 2);
+                    EXPECT_FALSE(alike(f.colour, ground_for(red)));
                 } else if (picture == &scene.face && std::isdigit(static_cast<unsigned char>(text[0]))) {
                     const float value = std::stof(text);
                     EXPECT_EQ(f.colour, 0xFF00FFu);

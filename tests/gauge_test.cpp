@@ -2,6 +2,7 @@
 #include "widget_window.h"
 
 #include <cmath>
+#include <map>
 #include <random>
 #include <ranges>
 #include <shlobj.h>
@@ -121,6 +122,18 @@ TEST_F(GaugeTest, BarAndColumnGrowWithTheValueInTheZonesColour) {
     }
 }
 
+TEST_F(GaugeTest, PercentageIsReadableOnBothSidesOfTheEdge) {
+    open_with(200, 200,
+              {":TYPE=PERCENTBAR", ":NOTITLE=X", ":CLEARMARKS", ":SETMARK=200,BLUE", ":CLRTEXT=MAGENTA", ":CURVAL=50"});
+    const Pixels p = pixels_of(gauge_);
+    std::map<COLORREF, std::pair<int, int>> counts; // left and right of the edge
+    for (int y = 0; y < 200; ++y)
+        for (int x = 40; p.at(40, y) == RGB(0, 0, 255) && x < 160; ++x)
+            ++(x < 98 ? counts[p.at(x, y)].first : counts[p.at(x, y)].second);
+    EXPECT_TRUE(counts[RGB(255, 255, 255)].first > 0 && counts[RGB(255, 0, 255)].first == 0);
+    EXPECT_GT(counts[RGB(255, 0, 255)].second, 0);
+}
+
 TEST_F(GaugeTest, ColourLinesArePaintedAsColourValues) {
     open_with(100, 100,
               {":TYPE=DIGITAL", ":NOTITLE=X", ":BORDERHEIGHT=3", ":BORDERTYPE=3DUP", ":CLRBACK=GRAY", ":CLRSUN=CYAN",
@@ -149,8 +162,12 @@ TEST_F(GaugeTest, TestModeGivesRoomToBarAndButton) {
         gauge_.SendMessage(WM_HSCROLL, MAKEWPARAM(request, position), reinterpret_cast<LPARAM>(bar));
         return ::GetScrollPos(bar, SB_CTL);
     };
+    const Pixels before = pixels_of(*gauge_.GetDlgItem(surface_id));
     EXPECT_EQ(scroll(SB_LINERIGHT), 41);
+    EXPECT_FALSE(before == pixels_of(*gauge_.GetDlgItem(surface_id)));
     EXPECT_EQ(scroll(SB_THUMBTRACK, 333), 333);
+    EXPECT_EQ(scroll(SB_RIGHT), 70000);
+    EXPECT_EQ(scroll(SB_THUMBTRACK, 70000 & 0xFFFF), 70000); // the message has 16 bits of it
 
     script({":DEMO=0"});
     gauge_.SetWindowPos(nullptr, 0, 0, 5, 6, SWP_NOMOVE | SWP_NOZORDER);
