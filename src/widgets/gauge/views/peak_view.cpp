@@ -110,6 +110,7 @@ void peak_face(Picture& picture, const GaugeModel& model, const Stage& stage) {
 
     const float gap = p.label_size ? stage.meter.metrics(p.label_size).cap_height * 2.0f : 14.0f;
     const float end = p.zones.left - 1;
+    const BoxF whole = {0, 0, static_cast<float>(stage.width), static_cast<float>(stage.height)};
     for (const Tick& t : ticks_of(model, p.area.height(), 4, gap)) {
         const float y = std::round(p.area.bottom + p.area.height() * t.fraction - 0.5f);
         if (t.major)
@@ -119,7 +120,8 @@ void peak_face(Picture& picture, const GaugeModel& model, const Stage& stage) {
         picture.box({end - (t.major ? 4.0f : 2.0f), y, end, y + 1}, theme.text);
         if (!t.major || !p.label_size)
             continue;
-        write(picture, stage.meter, {end - 6, y + 0.5f}, HAlign::right, p.label_size, theme.text, number_text(t.value));
+        write(picture, stage.meter, {end - 6, y + 0.5f}, HAlign::right, p.label_size, theme.text, number_text(t.value),
+              &whole);
     }
 }
 
