@@ -164,17 +164,25 @@ void measure_mapping(BenchTable& table) {
     auto* bytes = static_cast<BYTE*>(bitmap.GetBitsAddress());
     for (int i = 0; i < 36'000'000; ++i)
         bytes[i] = static_cast<BYTE>(std::rand());
-    CWntBitmapPalette palette;
+    // The shades upwards and downwards: a mapping from one to the other changes every byte.
+    CWntBitmapPalette palettes[2];
     CWntBitmap greys;
-    palette.Create(&greys);
+    palettes[0].Create(&greys);
+    PALETTEENTRY entries[256];
+    palettes[0].GetPaletteEntries(0, 256, entries);
+    std::reverse(std::begin(entries), std::end(entries));
+    palettes[1].Create(&greys);
+    palettes[1].SetPaletteEntries(0, 256, entries);
     std::vector<BYTE> other(bytes, bytes + 36'000'000);
-    if (!bitmap.MapColorsToPalette(&palette) || std::memcmp(other.data(), bytes, other.size()) != 0) { // greys to greys
+    const auto map = [&](int i) { bitmap.MapColorsToPalette(&palettes[(i + 1) % 2]); };
+    map(0);
+    if (!std::equal(other.begin(), other.end(), bytes, [](BYTE was, BYTE is) { return was == 255 - is; })) {
         table.wrong("MapColorsToPalette");
         return;
     }
+    map(1);
     table.measure(
-        "MapColorsToPalette 36 MB / memcpy", [&](int) { bitmap.MapColorsToPalette(&palette); },
-        [&](int) { std::memcpy(other.data(), bytes, other.size()); });
+        "MapColorsToPalette 36 MB / memcpy", map, [&](int) { std::memcpy(other.data(), bytes, other.size()); }, 2);
 }
 
 } // namespace

@@ -66,24 +66,38 @@ inline void repaint(HWND window) {
     ::RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
 }
 
-/// Times full paints of a widget at the upper left of its host beside those of the painter, whose rows from `first` to
-/// `last` must look the same.
-inline void measure_paint(BenchTable& table, const std::string& name, CWnd& widget, YardstickWindow::Painter painter,
-                          int first, int last) {
+/// Times full paints of a widget at the upper left of its host beside those of the painter. Both show `states` in turn:
+/// `set` brings the widget to the one with a number, the painter is given it. In each, the rows from `first` to `last`
+/// must look the same.
+inline void measure_paint(BenchTable& table, const std::string& name, CWnd& widget, int states,
+                          const std::function<void(int)>& set, const std::function<void(HDC, int)>& painter, int first,
+                          int last) {
     CRect client;
     widget.GetClientRect(&client);
+    int state = 0;
     const YardstickWindow yardstick(::GetParent(widget.m_hWnd), CPoint(0, client.bottom), client.Size(),
-                                    std::move(painter));
+                                    [&](HDC dc) { painter(dc, state); });
     const auto rows = [&](HWND window) {
-        repaint(window);
         Picture picture(client.right, client.bottom);
         picture.capture(window);
         const auto values = picture.values();
         return std::vector<COLORREF>(values.begin() + first * client.right, values.begin() + last * client.right);
     };
-    if (rows(widget.m_hWnd) == rows(yardstick.window()))
-        table.measure(
-            name, [&](int) { repaint(widget.m_hWnd); }, [&](int) { repaint(yardstick.window()); });
-    else
-        table.wrong(name);
+    const auto look = [&] { return rows(widget.m_hWnd); };
+    const auto look_at_yardstick = [&] { return rows(yardstick.window()); };
+    const auto ours = [&](int i) {
+        set(i % states);
+        repaint(widget.m_hWnd);
+    };
+    const auto theirs = [&](int i) {
+        state = i % states;
+        repaint(yardstick.window());
+    };
+    for (int i = 0; i < states; ++i) {
+        ours(i);
+        theirs(i);
+        if (look() != look_at_yardstick())
+            return table.wrong(name);
+    }
+    table.measure_shown(name, ours, look, theirs, look_at_yardstick, states);
 }

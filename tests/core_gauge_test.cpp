@@ -101,6 +101,8 @@ TEST(GaugeScale, ThinsToRoundSteps) {
                             {100, 100, 150, 5, 20},   // 1.5 pixels a division
                             {360, 12, 40, 2, 12},     // no round value: steps that end on the last division
                             {100, 997, 300, 20, 100}, // a prime number of divisions
+                            {100, 999, 300, 20, 100}, // tens within half a pixel
+                            {10, 999, 500, 10, 100},  // ones
                             {0, 10, 0, 10, 10}};
     for (const auto& [maximum, divisions, length, minor, major] : cases) {
         const TickSteps steps = tick_steps(0, maximum, divisions, length, 4, 30);

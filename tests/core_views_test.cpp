@@ -1,9 +1,11 @@
 #include "even_meter.h"
-#include "widgets/painting/supersample.h"
+#include "widgets/painting/shape_raster.h"
 #include "widgets/gauge/views/view_parts.h"
 
 #include <gmock/gmock.h>
 
+#include <cmath>
+#include <map>
 #include <random>
 
 using namespace wnt;
@@ -44,6 +46,7 @@ TEST(GaugeViews, StayInsideTheirStageAndTextsApartAtEverySize) {
         {":MINVAL=500", ":MAXVAL=-500", ":CLEARMARKS"},
         {":BARTITLE=X", ":TITLE=a title of fifty characters that is far too long to fit"},
         {":NOTITLE=X", ":BORDERHEIGHT=5", ":BORDERTYPE=UNKNOWN"},
+        {":UNITTITLE=cubic metres of air per minute"},
         {":CLRTEXT=NONE", ":CLRBACK=NONE", ":SETMARK=1,NONE", ":CURVAL=1"},
     };
     std::vector<std::pair<int, int>> sizes = {{40, 60}, {300, 20}, {20, 300}, {331, 187}, {1000, 1000}};
@@ -85,18 +88,313 @@ TEST(GaugeViews, ShowValueTitlesAndScale) {
     EXPECT_TRUE(writes({model_of(gauge_percent_bar, {":CURVAL=7"}), 240, 220}, "  7 %"));
 }
 
-TEST(GaugeViews, ShowTheValueInItsZonesColour) {
-    const std::pair<int, Colour> zones[] = {{10, 0xFF0000}, {39, 0xFF0000}, {40, 0xFF00FF}, {70, 0xFFFF00}};
-    for (int type = 0; type < gauge_type_count; ++type) {
-        GaugeModel model = model_of(type, {":CLEARMARKS", ":SETMARK=40,BLUE", ":SETMARK=70,MAGENTA", ":SETMARK=69,CYAN",
-                                           ":SETMARK=69,CYAN", ":NOTITLE=1"});
-        model.clear();
-        for (const auto& zone : zones) {
-            model.set_current_value(zone.first);
-            const auto shows = [&](const auto& f) { return f.colour == zone.second && !f.bounds.empty(); };
-            EXPECT_TRUE(std::ranges::any_of(Scene(model, 200, 200).value.figures(), shows)) << type << zone.first;
+TEST(GaugeViews, ShowTheUnitAtEverySizeAndRange) {
+    const std::string unit = "litres per minute";
+    const std::pair<int, int> sizes[] = {{40, 40},  {60, 40},   {61, 61},   {100, 80},  {320, 60},
+                                         {60, 320}, {200, 200}, {320, 240}, {900, 900}, {1000, 1000}};
+    const Lines ranges[] = {{}, {":MAXVAL=1000000"}, {":MINVAL=-2147483648", ":MAXVAL=2147483647"}};
+    for (int type = 0; type < gauge_type_count; ++type)
+        for (const Lines& range : ranges)
+            for (const auto& [width, height] : sizes) {
+                GaugeModel model = model_of(type, range);
+                model.set_titles("", unit.c_str());
+                const Scene scene(model, width, height);
+                std::string shown;
+                for (const Picture* picture : {&scene.face, &scene.value})
+                    for (const Picture::Figure& f : picture->figures())
+                        if (std::string text(f.kind == Picture::Kind::text ? picture->characters(f) : "");
+                            !text.empty()) {
+                            text.erase(0, text[0] == ' ');
+                            if (unit.starts_with(text.substr(0, text.find(".."))))
+                                shown = text;
+                        }
+                EXPECT_NE(shown, "") << type << range.size() << " " << width << "x" << height;
+                if (width >= 320 && height >= 240)
+                    EXPECT_TRUE(shown == unit || type == gauge_digital)
+                        << type << range.size() << " " << width << shown;
+                model.set_titles("", "u");
+                EXPECT_TRUE(writes({model, width, height}, "u"))
+                    << type << range.size() << " " << width << "x" << height;
+            }
+}
+
+constexpr Colour blue = 0xFF0000, green = 0x00FF00, red = 0x0000FF;
+
+// 0 to 200: blue below 50, green below 100, then red. The stage is 240 x 240, the margin 7.2.
+GaugeModel zoned(int type, int value, const Lines& more = {}) {
+    GaugeModel model = model_of(type, {":MAXVAL=200", ":CLEARMARKS", ":SETMARK=50,BLUE", ":SETMARK=100,GREEN",
+                                       ":SETMARK=99,RED", ":SETMARK=99,RED", ":NOTITLE=X", ":SCALES=10"});
+    for (const char* line : more)
+        model.load_line(line);
+    model.set_current_value(value);
+    return model;
+}
+constexpr int stage = 240;
+constexpr PointF middle = {120, 120};
+
+BoxF extent(const Picture& picture, Colour colour) {
+    BoxF all = {1e9f, 1e9f, -1e9f, -1e9f};
+    for (const auto& f : picture.figures())
+        if (f.kind != Picture::Kind::text && f.colour == colour && !f.bounds.empty())
+            all = hull(all, f.bounds);
+    return all;
+}
+
+// Degrees counter-clockwise from +x, from -90 to 270.
+float angle_of(PointF p) {
+    const float a = std::atan2(p.y - middle.y, p.x - middle.x) * 180 / pi;
+    return a < -90 ? a + 360 : a;
+}
+float angle_at(float value) {
+    return 225 - 270 * value / 200;
+}
+
+TEST(GaugeViews, ZonesAndValueStandWhereTheScaleSays) {
+    const std::tuple<Colour, float, float> zones[] = {{blue, 0, 50}, {green, 50, 100}, {red, 100, 200}};
+    for (int type = 0; type < gauge_type_count; ++type)
+        for (const auto& [colour, from, to] : zones) {
+            SCOPED_TRACE(testing::Message() << type << " from " << from);
+            const Scene scene(zoned(type, static_cast<int>(from + to) / 2 + 1), stage, stage);
+            const BoxF zone = extent(scene.face, colour);
+            const BoxF whole = hull(hull(extent(scene.face, blue), extent(scene.face, green)), extent(scene.face, red));
+            const BoxF shown = extent(scene.value, colour);
+            const float share = ((from + to) / 2 + 1) / 200;
+            if (type == gauge_percent_bar) {
+                EXPECT_NEAR(zone.left, whole.left + whole.width() * from / 200, 1);
+                EXPECT_NEAR(zone.right, whole.left + whole.width() * to / 200, 1);
+                EXPECT_NEAR(shown.right, whole.left + whole.width() * share, 1);
+                EXPECT_EQ(shown.left, whole.left);
+            } else if (type == gauge_thermometer || type == gauge_peak_line) {
+                EXPECT_NEAR(zone.bottom, whole.bottom + whole.height() * from / 200, 1);
+                EXPECT_NEAR(zone.top, whole.bottom + whole.height() * to / 200, 1);
+                EXPECT_NEAR(shown.top, whole.bottom + whole.height() * share, 1);
+            } else if (type == gauge_digital) {
+                EXPECT_FALSE(shown.empty());
+            } else {
+                for (const auto& f : scene.face.figures())
+                    for (std::uint32_t i = 0; f.colour == colour && f.kind == Picture::Kind::polygon && i < f.count;
+                         ++i) {
+                        EXPECT_LE(angle_of(scene.face.points(f)[i]), angle_at(from) + 0.1f);
+                        EXPECT_GE(angle_of(scene.face.points(f)[i]), angle_at(to) - 0.1f);
+                        const PointF p = scene.face.points(f)[i];
+                        if (const float reach = std::hypot(p.x - 120, p.y - 120) / 111.8f; type == gauge_analog)
+                            EXPECT_TRUE(reach > 0.79f && reach < 0.89f) << reach; // between ticks and rim
+                    }
+                const Colour pointer = type == gauge_analog ? blend(colour, black, 150) : colour;
+                PointF sum = {0, 0};
+                float count = 0;
+                for (const auto& f : scene.value.figures())
+                    for (std::uint32_t i = 0; f.colour == pointer && f.kind == Picture::Kind::polygon && i < f.count;
+                         ++i) {
+                        sum = {sum.x + scene.value.points(f)[i].x, sum.y + scene.value.points(f)[i].y};
+                        ++count;
+                    }
+                EXPECT_NEAR(angle_of({sum.x / count, sum.y / count}), angle_at(share * 200), 0.5f);
+            }
+        }
+}
+
+TEST(GaugeViews, PreviousValueAndLightAreOnTheirSides) {
+    GaugeModel model = zoned(gauge_analog, 40);
+    model.set_current_value(150);
+    const Scene scene(model, stage, stage);
+    EXPECT_NEAR(angle_of(extent(scene.value, 0x606060).centre()), angle_at(40), 2);
+    for (const int value : {40, 150}) {
+        const Scene needle(zoned(gauge_analog, value), stage, stage);
+        std::vector<std::pair<float, int>> halves; // how far to the top left, and how bright
+        for (const auto& f : needle.value.figures())
+            if (f.kind == Picture::Kind::polygon && f.count == 5) {
+                float aside = 0;
+                for (std::uint32_t i = 0; i < f.count; ++i)
+                    aside += needle.value.points(f)[i].y - needle.value.points(f)[i].x;
+                halves.emplace_back(aside, brightness(f.colour));
+            }
+        ASSERT_EQ(halves.size(), 2u);
+        EXPECT_EQ(halves[0].first > halves[1].first, halves[0].second > halves[1].second) << value;
+    }
+    // Of a ring's parts: outwards the bright ones at the top left, inwards the dark ones.
+    for (const int type : {gauge_analog, gauge_turn_knob}) {
+        std::map<float, std::pair<int, int>>
+            rings; // by the parts' distance: brightness at the top left, at the bottom right
+        const Scene lit(zoned(type, 40), stage, stage);
+        for (const auto& f : lit.face.figures()) {
+            const PointF c = f.bounds.centre();
+            const float distance = std::round(std::hypot(c.x - 120, c.y - 120) / 4);
+            if (f.kind == Picture::Kind::polygon && f.count < 30 && std::abs(angle_of(c) - 135) < 8)
+                rings[distance].first = std::max(rings[distance].first, brightness(f.colour));
+            if (f.kind == Picture::Kind::polygon && f.count < 30 && std::abs(angle_of(c) + 45) < 8)
+                rings[distance].second = std::max(rings[distance].second, brightness(f.colour));
+        }
+        const auto& outer = std::prev(rings.end())->second;
+        EXPECT_TRUE(type == gauge_analog ? outer.first > outer.second : rings.size() > 1) << type;
+    }
+}
+
+TEST(GaugeViews, DigitsHaveTheirSegments) {
+    const std::string drawn_digits[] = {" _ | ||_|", "     |  |", " _  _||_ ", " _  _| _|", "   |_|  |",
+                                        " _ |_  _|", " _ |_ |_|", " _   |  |", " _ |_||_|", " _ |_| _|"};
+    for (const int value : {1234567890, -306}) {
+        GaugeModel model = zoned(gauge_digital, 10, {":MINVAL=-2147483648", ":MAXVAL=2147483647", ":CLEARMARKS"});
+        model.set_current_value(value);
+        const Scene scene(model, 800, 200);
+        std::vector<Picture::Figure> segments;
+        for (const auto& f : scene.value.figures())
+            if (f.kind == Picture::Kind::polygon)
+                segments.push_back(f);
+        std::string text = std::to_string(value);
+        text.insert(0, 11 - text.size(), ' ');
+        ASSERT_EQ(segments.size(), 7 * text.size());
+        for (std::size_t digit = 0; digit < text.size(); ++digit) {
+            BoxF cell = segments[7 * digit].bounds;
+            for (std::size_t i = 0; i < 7; ++i)
+                cell = hull(cell, segments[7 * digit + i].bounds);
+            std::string shown(9, ' ');
+            for (std::size_t i = 0; i < 7; ++i) {
+                const auto& f = segments[7 * digit + i];
+                const bool level = f.bounds.width() > f.bounds.height();
+                const float x = (f.bounds.centre().x - cell.left) / cell.width();
+                const float y = (cell.top - f.bounds.centre().y) / cell.height();
+                const auto row = static_cast<std::size_t>(level ? std::lround(2 * y) : y < 0.5f ? 1 : 2);
+                if (f.colour == 0x0000FF)
+                    shown[3 * row + static_cast<std::size_t>(std::lround(2 * x))] = level ? '_' : '|';
+            }
+            const std::string expected = text[digit] == ' '   ? std::string(9, ' ')
+                                         : text[digit] == '-' ? "    _    "
+                                                              : drawn_digits[text[digit] - '0'];
+            EXPECT_EQ(shown, expected) << text[digit];
         }
     }
+}
+
+TEST(GaugeViews, LampsAreLitUpToTheValue) {
+    const std::pair<int, int> cases[] = {{0, 1}, {1, 1}, {20, 1}, {21, 2}, {100, 5}, {101, 6}, {200, 10}};
+    for (const auto& [value, lit] : cases) {
+        const Scene scene(zoned(gauge_digital, value), stage, stage);
+        EXPECT_EQ(std::ranges::count_if(scene.value.figures(),
+                                        [](const auto& f) {
+                                            return f.kind == Picture::Kind::box &&
+                                                   (f.colour == blue || f.colour == green || f.colour == red);
+                                        }),
+                  lit)
+            << value;
+    }
+}
+
+TEST(GaugeViews, BordersTakeTheLightFromTheTopLeft) {
+    const Colour back = 0xF5F5F5, sun = 0xFFFFFF, shadow = 0x6A6A6A;
+    const struct {
+        const char* type;
+        const char* sides;
+        Colour left, right, top, bottom;
+    } cases[] = {{":BORDERTYPE=NOBORDER", ":BORDERSTYLE=LEFT RIGHT TOP BOTTOM", back, back, back, back},
+                 {":BORDERTYPE=FLAT", ":BORDERSTYLE=LEFT RIGHT TOP BOTTOM", shadow, shadow, shadow, shadow},
+                 {":BORDERTYPE=3DUP", ":BORDERSTYLE=LEFT RIGHT TOP BOTTOM", sun, shadow, sun, shadow},
+                 {":BORDERTYPE=3DDOWN", ":BORDERSTYLE=LEFT RIGHT TOP BOTTOM", shadow, sun, shadow, sun},
+                 {":BORDERTYPE=3DUP", ":BORDERSTYLE=RIGHT TOP", back, shadow, sun, back}};
+    for (const auto& c : cases) {
+        const Scene scene(zoned(gauge_analog, 10, {":BORDERHEIGHT=3", c.type, c.sides}), stage, stage);
+        const auto at = [&](float x, float y) {
+            Colour top = 0;
+            for (const auto& f : scene.face.figures())
+                if (const BoxF& b = f.bounds;
+                    f.kind == Picture::Kind::box && b.left <= x && x <= b.right && b.bottom <= y && y <= b.top)
+                    top = f.colour;
+            return top;
+        };
+        EXPECT_EQ(at(2.5f, 120), c.left) << c.type;
+        EXPECT_EQ(at(237.5f, 120), c.right) << c.type;
+        EXPECT_EQ(at(120, 237.5f), c.top) << c.type;
+        EXPECT_EQ(at(120, 2.5f), c.bottom) << c.type;
+        EXPECT_EQ(at(120, 4), back) << c.type;
+    }
+}
+
+TEST(GaugeViews, TextsStandAtTheirPlaces) {
+    for (int type = 0; type < gauge_type_count; ++type) {
+        const Scene scene(zoned(type, 130, {":NOTITLE=0", ":TITLE=Flow", ":UNITTITLE=bar", ":CLRTEXT=MAGENTA"}), stage,
+                          stage);
+        const BoxF strip = hull(hull(extent(scene.face, blue), extent(scene.face, green)), extent(scene.face, red));
+        const Picture::Figure* number = nullptr;
+        for (const Picture* picture : {&scene.face, &scene.value})
+            for (const auto& f : picture->figures()) {
+                if (f.kind != Picture::Kind::text)
+                    continue;
+                const std::string text(picture->characters(f));
+                const PointF at = f.bounds.centre();
+                SCOPED_TRACE(testing::Message() << type << text);
+                if (text == "Flow") {
+                    EXPECT_TRUE(std::abs(at.x - 120) < 2 && at.y > 210 && f.colour == 0xFF00FF);
+                } else if (text == "130") {
+                    EXPECT_EQ(f.colour, red); // the value's zone
+                    number = &f;
+                } else if (text == " bar" && number) {
+                    EXPECT_NEAR(f.bounds.left, number->bounds.right - 2, 2);
+                    EXPECT_FALSE(alike(f.colour, ground_for(red)));
+                } else if (picture == &scene.face && std::isdigit(static_cast<unsigned char>(text[0]))) {
+                    const float value = std::stof(text);
+                    EXPECT_EQ(f.colour, 0xFF00FFu);
+                    if (type == gauge_percent_bar)
+                        EXPECT_NEAR(at.x, strip.left + strip.width() * value / 200, 1.5f);
+                    else if (type == gauge_analog || type == gauge_turn_knob)
+                        EXPECT_NEAR(std::remainder(angle_of({at.x, at.y + (type == gauge_analog ? 12.f : 11.f)}) -
+                                                       angle_at(value),
+                                                   360.f),
+                                    0, 8);
+                    else
+                        EXPECT_NEAR(at.y, strip.bottom + strip.height() * value / 200, 3);
+                }
+            }
+    }
+    EXPECT_TRUE(writes({zoned(gauge_percent_bar, 130), stage, stage}, " 65 %"));
+}
+
+TEST(GaugeViews, PeakLineKeepsItsCourseColumnByColumn) {
+    GaugeModel model = zoned(gauge_peak_line, 10);
+    model.clear();
+    model.load_line(":MAXVAL=200");
+    std::vector<int> course;
+    for (int i = 0; i < 25; ++i) {
+        course.push_back(i * 77 % 190 + 5);
+        model.set_current_value(course.back());
+    }
+    const Scene scene(model, stage, stage);
+    const BoxF plot = hull(hull(extent(scene.face, blue), extent(scene.face, green)), extent(scene.face, red));
+    std::size_t column = 0;
+    for (const auto& f : scene.value.figures())
+        if (column < course.size() && f.kind == Picture::Kind::box) {
+            EXPECT_NEAR(f.bounds.top, plot.bottom + plot.height() * static_cast<float>(course[column]) / 200, 1)
+                << column;
+            EXPECT_EQ(f.colour, zone_colour(model, course[column])) << column;
+            ++column;
+        }
+    const float highest = static_cast<float>(*std::ranges::max_element(course));
+    EXPECT_NEAR(extent(scene.value, black).top, plot.bottom + plot.height() * highest / 200, 6);
+}
+
+TEST(GaugeViews, ShowZonesOfTheGroundsColour) {
+    for (int type = 0; type < gauge_type_count; ++type) {
+        const GaugeModel model =
+            model_of(type, {":CLEARMARKS", ":SETMARK=20,WHITE", ":SETMARK=80,DARKGREEN", ":SETMARK=90,RED"});
+        const Scene scene(model, 200, 200);
+        const auto edged = [](const auto& f) { return f.colour == edge_of(white); };
+        const auto& part = type == gauge_digital ? scene.value : scene.face; // the lamps
+        EXPECT_TRUE(std::ranges::any_of(part.figures(), edged)) << type;
+    }
+}
+
+TEST(GaugeViews, SmallAndTallScalesKeepTicksAndProportions) {
+    const auto boxes = [](int type, int width, int height, const auto& wanted) {
+        const Scene scene(model_of(type, {":CLRTEXT=BLUE", ":CLEARMARKS"}), width, height);
+        return std::ranges::count_if(scene.face.figures(), wanted);
+    };
+    const auto is_tick = [](const auto& f) {
+        return f.kind == Picture::Kind::box && f.colour == 0xFF0000 &&
+               std::min(f.bounds.width(), f.bounds.height()) == 1;
+    };
+    for (const int type : {gauge_percent_bar, gauge_peak_line})
+        EXPECT_GE(boxes(type, 44, 40, is_tick), 5) << type; // without labels
+    const auto is_thick_zone = [](const auto& f) { return f.colour == 0x0000FF && f.bounds.height() > 6; };
+    EXPECT_EQ(boxes(gauge_percent_bar, 60, 320, is_thick_zone), 0);
 }
 
 TEST(GaugeViews, HighestPeakIsHeldWhenItsColumnIsGone) {
@@ -117,20 +415,52 @@ TEST(GaugeViews, HighestPeakIsHeldWhenItsColumnIsGone) {
     EXPECT_EQ(before.value.figures().size(), after.value.figures().size()); // so that lists compare column by column
 }
 
-TEST(Supersample, AveragingUndoesEnlargingAndMixesEdges) {
-    std::mt19937 random(7);
-    for (std::size_t scale : {1, 2, 4}) {
-        std::vector<std::uint32_t> small(13), large(13 * scale * scale), back(13);
-        std::generate(small.begin(), small.end(), [&] { return random() & 0xFFFFFF; });
-        enlarge_row(small.data(), 13, large.data(), 13 * scale, static_cast<int>(scale));
-        average_row(large.data(), 13 * scale, back.data(), 13, static_cast<int>(scale));
-        EXPECT_EQ(back, small) << scale;
+// A polygon on a canvas of its own, drawn part by part.
+std::vector<std::uint32_t> drawn(const std::vector<PointF>& shape, int size, int scale, int part) {
+    std::vector<std::uint32_t> pixels(static_cast<std::size_t>(size * size), 0x204060);
+    ShapeRaster raster;
+    for (int top = 0; top < size; top += part)
+        for (int left = 0; left < size; left += part) {
+            const CanvasArea area = {left, top, std::min(left + part, size), std::min(top + part, size)};
+            raster.begin({pixels.data(), size, size}, area, scale);
+            raster.polygon(shape.data(), static_cast<int>(shape.size()), 0x0000FF);
+            raster.finish();
+        }
+    return pixels;
+}
+
+TEST(ShapeRaster, CoversTheInsideAndTheOutlineAndAveragesThem) {
+    constexpr int size = 40;
+    std::mt19937 random(5);
+    for (int round = 0; round < 300; ++round) {
+        std::vector<PointF> shape(3 + random() % 5);
+        for (PointF& p : shape)
+            p = {static_cast<float>(random() % 50) - 5, static_cast<float>(random() % 50) - 5};
+        const auto whole = drawn(shape, size, 1, size);
+        for (int y = 0; y < size; ++y)
+            for (int x = 0; x < size; ++x) {
+                bool inside = false, edge = false;
+                for (std::size_t i = 0; i < shape.size(); ++i) {
+                    const PointF a = shape[i], b = shape[(i + 1) % shape.size()];
+                    const double dx = b.x - a.x, dy = b.y - a.y;
+                    if ((a.y >= y) != (b.y >= y)) // the crossing's own pixel counts, downwards too
+                        inside ^= x - a.x >= (y - a.y) * dx / dy;
+                    const bool steep = std::abs(dx) <= std::abs(dy);
+                    const double along = steep ? (y - a.y) / dy : (x - a.x) / dx;
+                    const double aside = (x - a.x) * dy - (y - a.y) * dx;
+                    const double off = steep ? aside / dy : -aside / dx;
+                    edge |= along >= 0 && along <= 1 && (steep ? off >= -0.5 && off < 0.5 : off > -0.5 && off <= 0.5);
+                }
+                const std::uint32_t pixel = whole[static_cast<std::size_t>((size - 1 - y) * size + x)];
+                ASSERT_EQ(pixel, inside || edge ? 0xFF0000u : 0x204060u) << round << " " << x << "," << y;
+            }
+        for (PointF& p : shape)
+            p = {p.x + 0.3f, p.y * 0.9f};
+        for (const int scale : {2, 4})
+            ASSERT_EQ(drawn(shape, size, scale, size), drawn(shape, size, scale, 13)) << round;
     }
-    std::vector<std::uint32_t> block(16, 0);
-    std::fill_n(block.begin(), 8, 0xFF8040u);
-    std::uint32_t mixed = 0;
-    average_row(block.data(), 4, &mixed, 1, 4);
-    EXPECT_EQ(mixed, 0x804020u);
+    // The left half of pixel (1, 1), to the middle of the outline.
+    EXPECT_EQ(drawn({{1, 1}, {1.25f, 1}, {1.25f, 1.75f}, {1, 1.75f}}, 3, 4, 3)[4], 0x902030u);
 }
 
 } // namespace

@@ -2,7 +2,9 @@
 #include "widget_window.h"
 
 #include <cmath>
+#include <map>
 #include <random>
+#include <ranges>
 #include <shlobj.h>
 
 namespace {
@@ -120,6 +122,18 @@ TEST_F(GaugeTest, BarAndColumnGrowWithTheValueInTheZonesColour) {
     }
 }
 
+TEST_F(GaugeTest, PercentageIsReadableOnBothSidesOfTheEdge) {
+    open_with(200, 200,
+              {":TYPE=PERCENTBAR", ":NOTITLE=X", ":CLEARMARKS", ":SETMARK=200,BLUE", ":CLRTEXT=MAGENTA", ":CURVAL=50"});
+    const Pixels p = pixels_of(gauge_);
+    std::map<COLORREF, std::pair<int, int>> counts; // left and right of the edge
+    for (int y = 0; y < 200; ++y)
+        for (int x = 40; p.at(40, y) == RGB(0, 0, 255) && x < 160; ++x)
+            ++(x < 98 ? counts[p.at(x, y)].first : counts[p.at(x, y)].second);
+    EXPECT_TRUE(counts[RGB(255, 255, 255)].first > 0 && counts[RGB(255, 0, 255)].first == 0);
+    EXPECT_GT(counts[RGB(255, 0, 255)].second, 0);
+}
+
 TEST_F(GaugeTest, ColourLinesArePaintedAsColourValues) {
     open_with(100, 100,
               {":TYPE=DIGITAL", ":NOTITLE=X", ":BORDERHEIGHT=3", ":BORDERTYPE=3DUP", ":CLRBACK=GRAY", ":CLRSUN=CYAN",
@@ -148,8 +162,12 @@ TEST_F(GaugeTest, TestModeGivesRoomToBarAndButton) {
         gauge_.SendMessage(WM_HSCROLL, MAKEWPARAM(request, position), reinterpret_cast<LPARAM>(bar));
         return ::GetScrollPos(bar, SB_CTL);
     };
+    const Pixels before = pixels_of(*gauge_.GetDlgItem(surface_id));
     EXPECT_EQ(scroll(SB_LINERIGHT), 41);
+    EXPECT_FALSE(before == pixels_of(*gauge_.GetDlgItem(surface_id)));
     EXPECT_EQ(scroll(SB_THUMBTRACK, 333), 333);
+    EXPECT_EQ(scroll(SB_RIGHT), 70000);
+    EXPECT_EQ(scroll(SB_THUMBTRACK, 70000 & 0xFFFF), 70000); // the message has 16 bits of it
 
     script({":DEMO=0"});
     gauge_.SetWindowPos(nullptr, 0, 0, 5, 6, SWP_NOMOVE | SWP_NOZORDER);
@@ -165,6 +183,16 @@ TEST_F(GaugeTest, LoadsScriptFiles) {
     EXPECT_GT(pixels_of(gauge_).count(RGB(0, 0, 255)), 1000); // the long line ended the reading, the bar is at 90
     for (const char* nothing : {"no such file", "\"", static_cast<const char*>(nullptr)})
         gauge_.LoadFromFile(nothing);
+    const char name[] = "gauge test.dat";
+    HGLOBAL file = ::GlobalAlloc(GHND, sizeof(DROPFILES) + sizeof name + 1);
+    auto* description = static_cast<DROPFILES*>(::GlobalLock(file));
+    description->pFiles = sizeof(DROPFILES);
+    std::copy_n(name, sizeof name, reinterpret_cast<char*>(description + 1));
+    ::GlobalUnlock(file);
+    script({":CLEARMARKS"});
+    gauge_.SendMessage(WM_DROPFILES, reinterpret_cast<WPARAM>(file));
+    EXPECT_GT(pixels_of(gauge_).count(RGB(0, 0, 255)), 1000);
+
     HGLOBAL dropped = ::GlobalAlloc(GHND, sizeof(DROPFILES) + 2); // without a file
     gauge_.SendMessage(WM_DROPFILES, reinterpret_cast<WPARAM>(dropped));
     EXPECT_EQ(::GlobalFlags(dropped) & GMEM_INVALID_HANDLE, GMEM_INVALID_HANDLE); // released
@@ -196,7 +224,70 @@ TEST_F(GaugeTest, HoldsAtAnySizeRangeAndCall) {
     gauge_.LoadLine("", 2);
 }
 
-TEST_F(GaugeTest, TracesToItsLog) {
+TEST_F(GaugeTest, TitleIsTheSystemsText) {
+    constexpr int size = 200;
+    open_with(size, size, {":TYPE=DIGITAL", ":TITLE=Pressure", ":CLRTEXT=MAGENTA", ":CLEARMARKS"});
+    ::Picture expected(size, size);
+    const HFONT font = ::CreateFontA(-16, 0, 0, 0, 0, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0,
+                                     "Arial"); // 8.5 % of what the margins leave
+    const HGDIOBJ previous = ::SelectObject(expected.dc(), font);
+    TEXTMETRICA metrics;
+    ::GetTextMetricsA(expected.dc(), &metrics);
+    ::SetTextAlign(expected.dc(), TA_BOTTOM | TA_CENTER);
+    ::SetBkMode(expected.dc(), TRANSPARENT);
+    ::SetTextColor(expected.dc(), RGB(255, 0, 255));
+    ::TextOutA(expected.dc(), size / 2, 6 + metrics.tmHeight, "Pressure", 8);
+    ::DeleteObject(::SelectObject(expected.dc(), previous));
+    const auto magenta = [](std::vector<COLORREF> values) {
+        for (COLORREF& c : values)
+            c = c == RGB(255, 0, 255);
+        return values;
+    };
+    EXPECT_TRUE(magenta(pixels_of(gauge_).values) == magenta(expected.values()));
+
+    open_with(size, size, {":TYPE=PEAKLINE", ":NOTITLE=X", ":CLRTEXT=MAGENTA"});
+    const Pixels p = pixels_of(gauge_);
+    int left = 0;
+    while (left < size &&
+           std::ranges::none_of(std::views::iota(0, size), [&](int y) { return p.at(left, y) == RGB(255, 0, 255); }))
+        ++left;
+    EXPECT_NEAR(left, 8, 2); // the widest label ends at its tick and begins at the margin
+}
+
+TEST_F(GaugeTest, CallsAskForThePaintThatTheyNeed) {
+    open_with(100, 100, {":TYPE=PERCENTBAR", ":NOTITLE=X"});
+    const auto asks = [&](auto call) {
+        ::ValidateRect(gauge_.m_hWnd, nullptr);
+        call();
+        return ::GetUpdateRect(gauge_.m_hWnd, nullptr, FALSE) != FALSE;
+    };
+    EXPECT_TRUE(asks([&] { gauge_.SetTitles("a", "b"); }));
+    EXPECT_TRUE(asks([&] { gauge_.SetRange(0, 200); }));
+    EXPECT_TRUE(asks([&] { gauge_.Clear(); }));
+    EXPECT_TRUE(asks([&] { gauge_.SetTestMode(0); }));
+    EXPECT_TRUE(asks([&] { gauge_.SendMessage(WM_COMMAND, 104); }));
+    EXPECT_FALSE(asks([&] {
+        gauge_.SetType(0);
+        gauge_.ClearMarks();
+        gauge_.AddMark(200, "BLUE");
+        gauge_.SetCurVal(60);
+    }));
+    full_repaint(gauge_);
+    EXPECT_GT(pixels_of(gauge_).count(RGB(0, 0, 255)), 500);
+}
+
+TEST_F(GaugeTest, TracesWhatItIsTold) {
     open(gauge_, 50, 50);
     EXPECT_THAT(text_of("gaugeocx.log"), testing::StartsWith("Begin of Trace"));
+    struct Stream : CWntTrace {
+        using CWntTrace::setstream;
+    };
+    Stream::setstream(std::fopen("gauge trace.txt", "w"));
+    gauge_.SetCurVal(42);
+    gauge_.SetCurVal(101);
+    gauge_.SendMessage(WM_COMMAND, 104);
+    Stream::setstream(nullptr); // closes the file
+    EXPECT_EQ(text_of("gauge trace.txt"), "SetCurVal 42, Range(0,100), Current(76)SetCurVal 101, Range(0,100), "
+                                          "Current(42)View switched");
+    ::DeleteFileA("gauge trace.txt");
 }

@@ -1,6 +1,7 @@
 #include "widgets/gauge/gauge_scale.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace wnt {
 
@@ -58,6 +59,27 @@ std::int32_t thinned_step(std::int64_t range, std::int32_t divisions, std::int32
     return std::min(round_up(first / unit), divisions / unit) * unit;
 }
 
+// Steps close to round values where divisions lie on none: every multiple of `major` is then a round value within half
+// a pixel, and `minor` parts it evenly. A `major` of 0 where there are no such steps.
+TickSteps near_round_steps(std::int64_t range, std::int32_t divisions, std::int32_t length, TickSteps least) {
+    for (std::int64_t power = 1; power <= range; power *= 10) {
+        for (const std::int64_t value : {power, 2 * power, 5 * power}) {
+            const auto major = static_cast<std::int32_t>(share(divisions, value, range));
+            if (value > range || major < least.major)
+                continue;
+            const std::int64_t drift = std::abs(range * major - divisions * value) * (divisions / major);
+            if (2.0 * static_cast<double>(drift) * length > static_cast<double>(range) * divisions)
+                continue;
+            for (std::int32_t minor = std::max(least.minor, 1); minor <= 4 * least.minor; ++minor) {
+                const std::int32_t parts = major / minor;
+                if (major % minor == 0 && 1000 * value % parts == 0 && is_round(1000 * value / parts))
+                    return {minor, major};
+            }
+        }
+    }
+    return {0, 0};
+}
+
 // Divisions that a distance in pixels spans, rounded up.
 std::int32_t divisions_across(std::int32_t divisions, std::int32_t length, std::int32_t distance) {
     const std::int64_t pixels = std::max(length, 1);
@@ -83,8 +105,13 @@ TickSteps tick_steps(std::int32_t minimum, std::int32_t maximum, std::int32_t di
                      std::int32_t least_tick, std::int32_t least_label) {
     const std::int64_t range = along_scale(minimum, maximum, minimum).length;
     const std::int32_t count = std::clamp(divisions, 1, GaugeModel::most_scales);
-    const std::int32_t minor = thinned_step(range, count, 1, divisions_across(count, length, least_tick));
-    return {minor, thinned_step(range, count, minor, divisions_across(count, length, least_label))};
+    const TickSteps least = {divisions_across(count, length, least_tick), divisions_across(count, length, least_label)};
+    const std::int32_t minor = thinned_step(range, count, 1, least.minor);
+    const TickSteps steps = {minor, thinned_step(range, count, minor, least.major)};
+    if (range == 0 || range * steps.major % count == 0)
+        return steps;
+    const TickSteps round = near_round_steps(range, count, length, least);
+    return round.major > 0 ? round : steps;
 }
 
 ColourZones colour_zones(const GaugeModel& model) {

@@ -22,7 +22,8 @@ struct TickSteps {
 
 /// Thins a scale of 1..999 divisions over `length` pixels so that ticks and labels keep their least distances. Where
 /// divisions must be left out, steps of 1, 2 or 5 times a power of ten in value come first, then steps that end on
-/// the last division, then round numbers of divisions. Where nothing fits, the two ends remain.
+/// the last division, then round numbers of divisions. Labels that would not be whole numbers give way to round values
+/// that divisions lie close to. Where nothing fits, the two ends remain.
 TickSteps tick_steps(std::int32_t minimum, std::int32_t maximum, std::int32_t divisions, std::int32_t length,
                      std::int32_t least_tick, std::int32_t least_label);
 

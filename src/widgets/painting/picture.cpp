@@ -1,6 +1,7 @@
 #include "widgets/painting/picture.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <numbers>
 
@@ -8,11 +9,24 @@ namespace wnt {
 
 namespace {
 
+constexpr int most_corners = 400;
+
 // Enough corners that a circle of this radius deviates by less than a tenth of a pixel.
 int corners_for(float radius, float angle) {
     const float turn = std::sqrt(std::max(radius, 1.0f)) * 7.5f;
     const float part = turn * std::abs(angle) / (2 * std::numbers::pi_v<float>);
-    return std::clamp(static_cast<int>(std::ceil(part)), 1, 400);
+    return std::clamp(static_cast<int>(std::ceil(part)), 1, most_corners);
+}
+
+// The corners of a circle of radius 1, made once for each number of them: every value's picture has discs.
+const std::vector<PointF>& unit_circle(int corners) {
+    static std::array<std::vector<PointF>, most_corners + 1> known;
+    std::vector<PointF>& circle = known[static_cast<std::size_t>(corners)];
+    for (int i = static_cast<int>(circle.size()); i < corners; ++i) {
+        const float angle = 2 * std::numbers::pi_v<float> * static_cast<float>(i) / static_cast<float>(corners);
+        circle.push_back({std::cos(angle), std::sin(angle)});
+    }
+    return circle;
 }
 
 BoxF bounds_of(const PointF* points, int count) {
@@ -69,20 +83,18 @@ void Picture::polygon(const PointF* points, int count, Colour colour) {
 void Picture::disc(PointF centre, float radius, Colour colour) {
     if (!(radius > 0))
         return;
-    PointF corners[400];
-    const float turn = 2 * std::numbers::pi_v<float>;
-    const int n = std::max(corners_for(radius, turn), 8);
-    for (int i = 0; i < n; ++i) {
-        const float angle = turn * static_cast<float>(i) / static_cast<float>(n);
-        corners[i] = {centre.x + radius * std::cos(angle), centre.y + radius * std::sin(angle)};
-    }
+    PointF corners[most_corners];
+    const int n = std::max(corners_for(radius, 2 * std::numbers::pi_v<float>), 8);
+    const std::vector<PointF>& circle = unit_circle(n);
+    for (std::size_t i = 0; i < circle.size(); ++i)
+        corners[i] = {centre.x + radius * circle[i].x, centre.y + radius * circle[i].y};
     polygon(corners, n, colour);
 }
 
 void Picture::ring_sector(PointF centre, float inner, float outer, float from, float to, Colour colour) {
     if (!(outer > inner) || from == to)
         return;
-    PointF corners[802];
+    PointF corners[2 * most_corners + 2];
     const int n = corners_for(outer, to - from);
     for (int i = 0; i <= n; ++i) {
         const float angle = from + (to - from) * static_cast<float>(i) / static_cast<float>(n);

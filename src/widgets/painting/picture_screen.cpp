@@ -4,15 +4,14 @@
 #include <cmath>
 
 #include "out/device_state.h"
-#include "widgets/painting/supersample.h"
 #include "widgets/painting/surface_owner.h"
 
 namespace wnt {
 
 namespace {
 
-constexpr long small_picture = 400 * 400;   // up to here edges are averaged from 4 x 4, above from 2 x 2
-constexpr long band_subpixels = 512 * 1024; // work area for enlarged shapes
+constexpr long small_picture = 400 * 400; // up to here edges are averaged from 4 x 4, above from 2 x 2
+constexpr long band_pixels = 256 * 1024;  // drawn at once, which bounds the memory for it
 
 // Mixed edge colours need a device that can show them.
 int scale_for(HDC dc, int width, int height) {
@@ -53,9 +52,15 @@ PictureScreen::Area PictureScreen::pixels_of(const BoxF& box) const {
         return {};
     // Outlines reach a subpixel beyond a shape's corners.
     const float reach = 1.0f / static_cast<float>(scale_);
-    auto bound = [](float v, int limit) { return static_cast<int>(std::clamp(v, 0.0f, static_cast<float>(limit))); };
-    return {bound(std::floor(box.left - reach), frame_.width()), bound(std::floor(box.bottom - reach), frame_.height()),
-            bound(std::ceil(box.right + reach), frame_.width()), bound(std::ceil(box.top + reach), frame_.height())};
+    const auto floor = [](float v, int limit) {
+        return static_cast<int>(std::clamp(v, 0.0f, static_cast<float>(limit)));
+    };
+    const auto ceiling = [&](float v, int limit) {
+        const int whole = floor(v, limit);
+        return whole + (whole < limit && static_cast<float>(whole) < v);
+    };
+    return {floor(box.left - reach, frame_.width()), floor(box.bottom - reach, frame_.height()),
+            ceiling(box.right + reach, frame_.width()), ceiling(box.top + reach, frame_.height())};
 }
 
 bool PictureScreen::overlap(const Area& a, const Area& b) {
@@ -104,7 +109,13 @@ void PictureScreen::collect_changes(const Picture& shown, const Picture& value) 
 void PictureScreen::release() {
     face_.release();
     frame_.release();
-    scratch_.release();
+    fonts_.release();
+}
+
+void PictureScreen::release_fonts() {
+    for (HDC dc : {face_.dc(), frame_.dc()})
+        ::SelectObject(dc, ::GetStockObject(SYSTEM_FONT));
+    fonts_.release();
 }
 
 void PictureScreen::draw_all(CWntOut& out, int width, int height, const Picture& face, const Picture& value) {
@@ -117,10 +128,12 @@ void PictureScreen::draw_all(CWntOut& out, int width, int height, const Picture&
         }
         return;
     }
+    if (fonts_.many())
+        release_fonts();
     scale_ = scale_for(out.dc, width, height);
     const Area whole = {0, 0, width, height};
     render(face_, face, whole);
-    ::BitBlt(frame_.dc(), 0, 0, width, height, face_.dc(), 0, 0, SRCCOPY);
+    show_face(whole);
     render(frame_, value, whole);
     present(out, whole);
 }
@@ -128,13 +141,16 @@ void PictureScreen::draw_all(CWntOut& out, int width, int height, const Picture&
 void PictureScreen::draw_changes(CWntOut& out, const Picture& shown, const Picture& value) {
     collect_changes(shown, value);
     for (const Area& area : areas_) {
-        const int width = area.right - area.left;
-        const int height = area.top - area.bottom;
-        const int row = frame_.height() - area.top;
-        ::BitBlt(frame_.dc(), area.left, row, width, height, face_.dc(), area.left, row, SRCCOPY);
+        show_face(area);
         render(frame_, value, area);
         present(out, area);
     }
+}
+
+// Puts the face alone back into the frame.
+void PictureScreen::show_face(const Area& area) {
+    for (int y = frame_.height() - area.top; y < frame_.height() - area.bottom; ++y)
+        std::copy_n(face_.row(y) + area.left, area.right - area.left, frame_.row(y) + area.left);
 }
 
 void PictureScreen::present(CWntOut& out, const Area& area) {
@@ -150,91 +166,47 @@ void PictureScreen::render(MemorySurface& target, const Picture& picture, const 
 
 void PictureScreen::render_shapes(MemorySurface& target, const Picture& picture, const Area& area) {
     const auto& figures = picture.figures();
-    if (std::none_of(figures.begin(), figures.end(), [&](const Picture::Figure& f) {
-            return f.kind != Picture::Kind::text && overlap(pixels_of(f.bounds), area);
-        }))
+    const auto drawn = [&](const Picture::Figure& f, const Area& part) {
+        return f.kind != Picture::Kind::text && overlap(pixels_of(f.bounds), part);
+    };
+    if (std::none_of(figures.begin(), figures.end(), [&](const Picture::Figure& f) { return drawn(f, area); }))
         return;
-    const long row_subpixels = static_cast<long>(area.right - area.left) * scale_ * scale_;
-    const int rows = static_cast<int>(std::max(band_subpixels / row_subpixels, 1L));
-    for (int bottom = area.bottom; bottom < area.top; bottom += rows)
-        render_band(target, picture, {area.left, bottom, area.right, std::min(bottom + rows, area.top)});
-}
-
-// The work area grows to what bands of different shapes need, but not to the product of the widest and the highest.
-bool PictureScreen::make_scratch(int width, int height) {
-    if (scratch_.width() >= width && scratch_.height() >= height)
-        return true;
-    const int both_width = std::max(scratch_.width(), width);
-    const int both_height = std::max(scratch_.height(), height);
-    return std::int64_t{both_width} * both_height <= 2 * band_subpixels ? scratch_.create(both_width, both_height)
-                                                                        : scratch_.create(width, height);
-}
-
-void PictureScreen::render_band(MemorySurface& target, const Picture& picture, const Area& band) {
-    const int width = band.right - band.left;
-    const int height = band.top - band.bottom;
-    if (!make_scratch(width * scale_, height * scale_))
-        return;
-    const auto pitch = static_cast<std::size_t>(scratch_.width());
-    const int first_row = target.height() - band.top;
-    for (int y = 0; y < height; ++y)
-        enlarge_row(target.row(first_row + y) + band.left, width, scratch_.row(y * scale_), pitch, scale_);
-
-    CWntOut& out = scratch_.out();
-    out.xmax = width * scale_ - 1;
-    out.ymax = band.top * scale_ - 1; // the band's upper edge is the picture's first row
-    ::IntersectClipRect(out.dc, 0, 0, width * scale_, height * scale_);
-    for (const auto& figure : picture.figures())
-        if (figure.kind != Picture::Kind::text && overlap(pixels_of(figure.bounds), band))
-            draw_shape(out, picture, figure, band.left * scale_);
-    ::SelectClipRgn(out.dc, nullptr);
-    ::GdiFlush();
-
-    for (int y = 0; y < height; ++y)
-        average_row(scratch_.row(y * scale_), pitch, target.row(first_row + y) + band.left, width, scale_);
-}
-
-void PictureScreen::draw_shape(CWntOut& out, const Picture& picture, const Picture::Figure& figure, int left_subpixel) {
-    const auto k = static_cast<float>(scale_);
-    out.linecolour(COLORREF{figure.colour}, 0);
-    out.fillcolour(COLORREF{figure.colour}, 0);
-    if (figure.kind == Picture::Kind::box) {
-        const BoxF& b = figure.bounds;
-        const int left = nearest(b.left * k);
-        const int bottom = nearest(b.bottom * k);
-        const int right = std::max(nearest(b.right * k), left + 1);
-        const int top = std::max(nearest(b.top * k), bottom + 1);
-        out.boxa2(left - left_subpixel, bottom, right - 1 - left_subpixel, top - 1);
-        return;
+    const Canvas canvas = {target.row(0), target.width(), target.height()};
+    const int rows = static_cast<int>(std::max(band_pixels / (area.right - area.left), 1L));
+    for (int bottom = area.bottom; bottom < area.top; bottom += rows) {
+        const Area band = {area.left, bottom, area.right, std::min(bottom + rows, area.top)};
+        raster_.begin(canvas, {band.left, canvas.height - band.top, band.right, canvas.height - band.bottom}, scale_);
+        for (const auto& figure : figures) {
+            if (!drawn(figure, band))
+                continue;
+            if (figure.kind == Picture::Kind::box)
+                raster_.box(figure.bounds, figure.colour);
+            else
+                raster_.polygon(picture.points(figure), static_cast<int>(figure.count), figure.colour);
+        }
+        raster_.finish();
     }
-    const PointF* points = picture.points(figure);
-    corners_.clear();
-    for (std::uint32_t i = 0; i < figure.count; ++i)
-        corners_.push_back({nearest(points[i].x * k) - left_subpixel, nearest(points[i].y * k)});
-    out.solidpoly(corners_.data(), static_cast<int>(corners_.size()));
 }
 
 void PictureScreen::render_texts(MemorySurface& target, const Picture& picture, const Area& area) {
-    static_assert(static_cast<int>(HAlign::left) == 0 && static_cast<int>(HAlign::right) == 1 &&
-                  static_cast<int>(HAlign::centre) == 2); // as the surface counts them
-    CWntOut& out = target.out();
+    static constexpr UINT alignments[] = {TA_LEFT, TA_RIGHT, TA_CENTER};
+    const HDC dc = target.dc();
+    const int height = target.height();
     for (const auto& figure : picture.figures()) {
         if (figure.kind != Picture::Kind::text)
             continue;
-        Area clip = pixels_of(figure.bounds);
-        if (!overlap(clip, area))
+        const Area cell = pixels_of(figure.bounds);
+        if (!overlap(cell, area))
             continue;
-        clip = {std::max(clip.left, area.left), std::max(clip.bottom, area.bottom), std::min(clip.right, area.right),
-                std::min(clip.top, area.top)};
-        out.setclip(clip.left, clip.bottom, clip.right - 1, clip.top - 1);
-        out.linecolour(COLORREF{figure.colour}, 0);
-        out.fontsize = figure.tenths;
+        const RECT clip = {std::max(cell.left, area.left), height - std::min(cell.top, area.top),
+                           std::min(cell.right, area.right), height - std::max(cell.bottom, area.bottom)};
+        fonts_.select(dc, figure.tenths);
+        ::SetTextColor(dc, COLORREF{figure.colour});
+        ::SetTextAlign(dc, TA_BOTTOM | alignments[static_cast<int>(figure.align)]);
         const std::string_view text = picture.characters(figure);
-        // The surface's lower edge of a text is the first row below it.
-        out.chars_len(nearest(figure.at.x), nearest(figure.at.y) - 1, static_cast<int>(text.size()),
-                      const_cast<char*>(text.data()), static_cast<int>(figure.align));
+        ::ExtTextOutA(dc, nearest(figure.at.x), height - nearest(figure.at.y), ETO_CLIPPED, &clip, text.data(),
+                      static_cast<UINT>(text.size()), nullptr);
     }
-    ::SelectClipRgn(target.dc(), nullptr);
     ::GdiFlush();
 }
 

@@ -4,6 +4,8 @@
 
 #include "widgets/painting/memory_surface.h"
 #include "widgets/painting/picture.h"
+#include "widgets/painting/shape_raster.h"
+#include "widgets/painting/text_fonts.h"
 
 namespace wnt {
 
@@ -20,6 +22,8 @@ public:
     void release();
 
 private:
+    void release_fonts();
+
     struct Area { // pixels, y up, right and top exclusive
         int left, bottom, right, top;
         bool empty() const { return left >= right || bottom >= top; }
@@ -32,18 +36,16 @@ private:
     void collect_changes(const Picture& shown, const Picture& value);
     void render(MemorySurface& target, const Picture& picture, const Area& area);
     void render_shapes(MemorySurface& target, const Picture& picture, const Area& area);
-    bool make_scratch(int width, int height);
-    void render_band(MemorySurface& target, const Picture& picture, const Area& band);
     void render_texts(MemorySurface& target, const Picture& picture, const Area& area);
-    void draw_shape(CWntOut& out, const Picture& picture, const Picture::Figure& figure, int left_subpixel);
+    void show_face(const Area& area);
     void present(CWntOut& out, const Area& area);
 
     int scale_ = 1; // subpixels a pixel, each way
     MemorySurface face_;
     MemorySurface frame_;
-    MemorySurface scratch_;
+    ShapeRaster raster_;
+    TextFonts fonts_;
     std::vector<Area> areas_;
-    std::vector<POINT> corners_;
 };
 
 } // namespace wnt

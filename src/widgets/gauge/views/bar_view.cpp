@@ -15,27 +15,32 @@ namespace {
 
 struct Bar {
     Layout layout;
-    BoxF readout; ///< empty when there is no room
-    BoxF groove;  ///< the bar's inside
-    BoxF zones;   ///< strip under the bar
-    int label_size;
-    int bar_size; ///< text on the bar
+    BoxF readout;   ///< empty when there is no room
+    BoxF groove;    ///< the bar's inside
+    BoxF zones;     ///< strip under the bar
+    int label_size; ///< 0: none
+    float tick;     ///< length of the major ones; 0: none
+    int bar_size;   ///< text on the bar
 };
 
-Bar lay_out_bar(const GaugeModel& model, const Stage& stage) {
-    Bar b = {lay_out(model, stage, has_inner_title(model)), {}, {}, {}, 0, 0};
+Bar place_bar(const GaugeModel& model, const Stage& stage, UnitPlace unit) {
+    Bar b = {lay_out(model, stage, unit, has_inner_title(model)), {}, {}, {}, 0, 0, 0};
     const BoxF& body = b.layout.body;
     const float height = body.height();
+    const float module = std::min(height, body.width()); // a tall space gives a lying bar no thicker parts
     if (height >= 40 && body.width() >= 50)
-        b.label_size = label_size_for(model, stage.meter, stage.meter.tenths(std::clamp(height * 0.10f, 7.0f, 26.0f)),
+        b.label_size = label_size_for(model, stage.meter, stage.meter.tenths(std::clamp(module * 0.10f, 7.0f, 26.0f)),
                                       body.width() * 0.30f);
-    const float labels = b.label_size ? stage.meter.metrics(b.label_size).height() + height * 0.05f + 3 : 0;
+    if (b.label_size || (height >= 20 && body.width() >= 30))
+        b.tick = std::max(module * 0.045f, 3.0f);
+    const float labels = b.label_size ? stage.meter.metrics(b.label_size).height() + module * 0.05f + 3 : b.tick;
     const float ends = b.label_size ? widest_label(model, stage.meter, b.label_size) / 2 : 0;
-    const float strip = std::clamp(height * 0.07f, 2.0f, 20.0f);
-    const float plate = height >= 70 && body.width() >= 56 ? std::clamp(height * 0.17f, 14.0f, 60.0f) : 0;
-    const float gap = plate > 0 ? std::round(height * 0.06f) : 0;
+    const float strip = std::clamp(module * 0.07f, 2.0f, 20.0f);
+    const float plate = height >= 70 && body.width() >= 56 ? std::clamp(module * 0.17f, 14.0f, 60.0f) : 0;
+    const float gap = plate > 0 ? std::round(module * 0.06f) : 0;
     const float room = height - strip - labels - plate - gap - 2;
-    const float bar = b.label_size ? std::min({room, height * 0.42f, body.width() * 0.30f}) : room;
+    const float bar =
+        b.label_size ? std::min({room, height * 0.42f, body.width() * 0.30f}) : std::min(room, body.width() * 0.80f);
 
     // Readout, bar, zones and labels stand as one block in the middle.
     const float block = bar + strip + labels + plate + gap + 2;
@@ -52,6 +57,10 @@ Bar lay_out_bar(const GaugeModel& model, const Stage& stage) {
         b.groove.top = b.groove.bottom + 2;
     b.bar_size = stage.meter.tenths(std::clamp(b.groove.height() * 0.55f, 6.0f, 60.0f));
     return b;
+}
+
+Bar lay_out_bar(const GaugeModel& model, const Stage& stage) {
+    return place_with_unit(model, stage, [&](UnitPlace unit) { return place_bar(model, stage, unit); });
 }
 
 // A value outside the range counts as its end, as the bar shows it.
@@ -98,20 +107,19 @@ void bar_face(Picture& picture, const GaugeModel& model, const Stage& stage) {
     paint_sunken_edge(picture, {b.groove.left - 1, b.groove.bottom - 1, b.groove.right + 1, b.groove.top + 1}, theme);
     picture.box(b.groove, theme.groove);
     paint_zone_strip(picture, model, b.zones, false);
-    paint_title(picture, model, stage, b.layout);
-    if (!b.label_size)
+    paint_titles(picture, model, stage, b.layout);
+    if (b.tick == 0)
         return;
-    const float label_gap = widest_label(model, stage.meter, b.label_size) + 6;
-    const float tick = std::max(b.layout.body.height() * 0.045f, 3.0f);
+    const float label_gap = b.label_size ? widest_label(model, stage.meter, b.label_size) + 6 : 20;
     const float weight = std::clamp(std::round(b.layout.body.height() / 200), 1.0f, 2.0f);
     for (const Tick& t : ticks_of(model, b.zones.width(), 4, label_gap)) {
         const float x = std::round(b.zones.left + b.zones.width() * t.fraction - weight / 2);
-        const float length = t.major ? tick : tick * 0.6f;
+        const float length = t.major ? b.tick : b.tick * 0.6f;
         picture.box({x, std::round(b.zones.bottom - length), x + weight, b.zones.bottom}, theme.text);
-        if (!t.major)
+        if (!t.major || !b.label_size)
             continue;
         const FontMetrics font = stage.meter.metrics(b.label_size);
-        write(picture, stage.meter, {x + weight / 2, b.zones.bottom - tick - 2 - font.cap_height / 2}, HAlign::centre,
+        write(picture, stage.meter, {x + weight / 2, b.zones.bottom - b.tick - 2 - font.cap_height / 2}, HAlign::centre,
               b.label_size, theme.text, number_text(t.value));
     }
 }
@@ -140,7 +148,7 @@ void bar_value(Picture& picture, const GaugeModel& model, const Stage& stage) {
         write_over(picture, stage, filled, empty, {std::round(middle.x), middle.y}, HAlign::centre, percent, colour,
                    theme.text);
     }
-    paint_readout(picture, model, stage, b.readout);
+    paint_readout(picture, model, stage, b.readout, b.layout.unit.empty());
 }
 
 } // namespace wnt

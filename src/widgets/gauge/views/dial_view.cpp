@@ -24,12 +24,17 @@ struct Dial {
     BoxF readout;
     bool readout_on_face;
     float title_width; ///< of a title on the face; 0: it stands above
-    bool unit_on_face;
+    float unit_width;  ///< of a unit on the face; 0: it stands elsewhere
 };
 
-Dial place_dial(const GaugeModel& model, const Stage& stage, bool title_on_face) {
+// What the labels at the ends of the scale leave between them, at the height where the unit stands.
+float between_end_labels(const Dial& d, float label, float cap) {
+    return 2 * (d.radius * 0.67f * std::numbers::sqrt2_v<float> / 2 - 0.75f * label - 0.25f * cap) - d.radius * 0.06f;
+}
+
+Dial place_dial(const GaugeModel& model, const Stage& stage, UnitPlace unit, bool title_on_face) {
     Dial d = {};
-    d.layout = lay_out(model, stage, title_on_face);
+    d.layout = lay_out(model, stage, unit, title_on_face);
     BoxF& body = d.layout.body;
     d.readout = take_outer_readout(body);
     d.readout_on_face = d.readout.empty();
@@ -42,8 +47,13 @@ Dial place_dial(const GaugeModel& model, const Stage& stage, bool title_on_face)
     const bool writable = d.radius >= least_written_radius;
     const float between_labels = 2 * (d.radius * 0.55f - label);
     d.title_width = title_on_face && writable && between_labels >= d.radius * 0.5f ? between_labels : 0;
-    // Wide labels at the ends of the scale need the place between them.
-    d.unit_on_face = d.readout_on_face && !model.no_title && writable && label <= d.radius * 0.34f;
+    if (d.readout_on_face && writable && has_unit(model) && unit == UnitPlace::in_view) {
+        const float cap = d.label_size ? stage.meter.metrics(d.label_size).cap_height : 0;
+        const float room = std::min(between_end_labels(d, label, cap), d.radius * 0.62f);
+        const FittedText whole =
+            fit(stage.meter, model.unit_text(), d.writing_size, room, stage.meter.tenths(least_text));
+        d.unit_width = whole.text == model.unit_text() ? room : 0;
+    }
     if (!d.readout_on_face)
         return d;
     const PointF c = d.scale.centre;
@@ -54,10 +64,18 @@ Dial place_dial(const GaugeModel& model, const Stage& stage, bool title_on_face)
 }
 
 // A title that finds no place among the labels goes above the dial.
-Dial lay_out_dial(const GaugeModel& model, const Stage& stage) {
+Dial place_titled(const GaugeModel& model, const Stage& stage, UnitPlace unit) {
     const bool inner = has_inner_title(model);
-    const Dial d = place_dial(model, stage, inner);
-    return inner && d.title_width == 0 ? place_dial(model, stage, false) : d;
+    const Dial d = place_dial(model, stage, unit, inner);
+    return inner && d.title_width == 0 ? place_dial(model, stage, unit, false) : d;
+}
+
+// A unit that finds no place there goes to the readout, or below the dial.
+Dial lay_out_dial(const GaugeModel& model, const Stage& stage) {
+    const Dial d = place_titled(model, stage, UnitPlace::in_view);
+    if (d.unit_width > 0)
+        return d;
+    return place_with_unit(model, stage, [&](UnitPlace unit) { return place_titled(model, stage, unit); });
 }
 
 // The needle points along +x in its own frame, of length 1; it is turned and scaled once.
@@ -122,20 +140,19 @@ void dial_face(Picture& picture, const GaugeModel& model, const Stage& stage) {
     paint_bezel(picture, c, r * 0.955f, r, theme.shadow, bright);
     paint_bezel(picture, c, r * 0.92f, r * 0.955f, theme.sun, blend(theme.shadow, theme.sun, 60));
     picture.disc(c, r * 0.925f, theme.plate);
-    paint_round_zones(picture, model, d.scale, r * 0.80f, r * 0.885f);
+    paint_round_zones(picture, model, d.scale, r * 0.80f, r * 0.885f, theme.plate);
     paint_round_ticks(picture, model, stage, d.scale, {r * 0.80f, r * 0.70f, r * 0.75f, r * 0.67f, true, d.label_size});
-    if (d.unit_on_face) {
+    if (d.unit_width > 0) {
         const FittedText unit =
-            fit(stage.meter, model.unit_text(), d.writing_size, r * 0.62f, stage.meter.tenths(least_text));
+            fit(stage.meter, model.unit_text(), d.writing_size, d.unit_width, stage.meter.tenths(least_text));
         write(picture, stage.meter, {c.x, c.y - r * 0.36f}, HAlign::centre, unit.tenths, theme.text, unit.text);
     }
     if (d.title_width > 0) {
         const FittedText title =
             fit(stage.meter, model.title_text(), d.writing_size, d.title_width, stage.meter.tenths(least_text));
         write(picture, stage.meter, {c.x, c.y + r * 0.30f}, HAlign::centre, title.tenths, theme.text, title.text);
-    } else {
-        paint_title(picture, model, stage, d.layout);
     }
+    paint_titles(picture, model, stage, d.layout);
 }
 
 void dial_value(Picture& picture, const GaugeModel& model, const Stage& stage) {
@@ -144,7 +161,7 @@ void dial_value(Picture& picture, const GaugeModel& model, const Stage& stage) {
     paint_previous(picture, model, d, 0x606060);
     paint_needle(picture, d, d.scale.angle(fraction_of(model, model.current)), colour);
     paint_hub(picture, d.scale.centre, std::max(d.radius * 0.10f, 1.5f));
-    paint_readout(picture, model, stage, d.readout, !d.unit_on_face);
+    paint_readout(picture, model, stage, d.readout, d.unit_width == 0 && d.layout.unit.empty());
 }
 
 } // namespace wnt

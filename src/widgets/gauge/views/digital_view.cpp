@@ -18,8 +18,8 @@ struct Display {
     BoxF bar;     ///< empty when there is no room
     float pitch;  ///< from digit to digit
     int places;
-    int label_size; ///< 0: none
-    int unit_size;  ///< 0: no unit
+    int label_size;  ///< 0: none
+    FittedText unit; ///< behind the digits; empty: none there
 };
 
 int places_for(const GaugeModel& model) {
@@ -29,8 +29,8 @@ int places_for(const GaugeModel& model) {
     return static_cast<int>(places);
 }
 
-Display lay_out_display(const GaugeModel& model, const Stage& stage) {
-    Display d = {lay_out(model, stage), {}, {}, {}, 0, places_for(model), 0, 0};
+Display place_display(const GaugeModel& model, const Stage& stage, UnitPlace place) {
+    Display d = {lay_out(model, stage, place), {}, {}, {}, 0, places_for(model), 0, {}};
     const BoxF& body = d.layout.body;
     d.panel = {std::floor(body.left), std::floor(body.bottom), std::ceil(body.right), std::ceil(body.top)};
     BoxF space = d.panel.inset(std::clamp(std::min(body.width(), body.height()) * 0.07f, 1.0f, 14.0f));
@@ -43,16 +43,12 @@ Display lay_out_display(const GaugeModel& model, const Stage& stage) {
         d.bar = {std::round(space.left), std::round(space.bottom + labels), std::round(space.right),
                  std::round(space.bottom + labels + bar)};
         space.bottom = d.bar.top + std::max(space.height() * 0.06f, 3.0f);
-        if (!model.no_title && !model.unit_text().empty())
-            d.unit_size = stage.meter.tenths(std::clamp(space.height() * 0.22f, 7.0f, 40.0f));
+        if (has_unit(model) && d.layout.unit.empty()) {
+            const int size = stage.meter.tenths(std::clamp(space.height() * 0.22f, 7.0f, 40.0f));
+            d.unit = fit(stage.meter, model.unit_text(), size, space.width() * 0.25f, stage.meter.tenths(7));
+        }
     }
-    float unit = 0;
-    if (d.unit_size) {
-        const float room = space.width() * 0.25f;
-        const FittedText text = fit(stage.meter, model.unit_text(), d.unit_size, room, stage.meter.tenths(7));
-        unit = stage.meter.width(text.text, text.tenths) + 4;
-        d.unit_size = text.tenths;
-    }
+    const float unit = d.unit.text.empty() ? 0 : stage.meter.width(d.unit.text, d.unit.tenths) + 4;
     // A digit is 0.58 as wide as it is high, its neighbour begins 0.74 further on.
     const float width = space.width() - unit;
     d.pitch = std::min(width / (static_cast<float>(d.places) - 0.16f), space.height() * 0.74f);
@@ -62,6 +58,12 @@ Display lay_out_display(const GaugeModel& model, const Stage& stage) {
     const float bottom = space.centre().y - height / 2;
     d.figures = {left, bottom, left + d.pitch * static_cast<float>(d.places), bottom + height};
     return d;
+}
+
+// A display that is too small for a unit beside its digits leaves it a line.
+Display lay_out_display(const GaugeModel& model, const Stage& stage) {
+    const Display d = place_display(model, stage, UnitPlace::in_view);
+    return has_unit(model) && d.unit.text.empty() ? place_display(model, stage, UnitPlace::apart) : d;
 }
 
 // Segments a to g, clockwise from the top, the middle one last.
@@ -115,7 +117,9 @@ void paint_lamps(Picture& picture, const GaugeModel& model, const Display& d, Co
         const float to = static_cast<float>(next) / static_cast<float>(model.scales);
         const float left = std::round(d.bar.left + d.bar.width() * from);
         const float right = std::max(std::round(d.bar.left + d.bar.width() * to) - 1, left + 1);
-        const Colour zone = zone_colour(model, division_value(model.minimum, model.maximum, model.scales, i));
+        Colour zone = zone_colour(model, division_value(model.minimum, model.maximum, model.scales, i));
+        if (alike(zone, ground))
+            zone = edge_of(zone);
         const bool lit = shown > from || (i == 0 && shown >= from && model.current >= model.minimum);
         picture.box({left, d.bar.bottom, right, d.bar.top}, lit ? zone : blend(ground, zone, 60));
     }
@@ -127,7 +131,7 @@ void digital_face(Picture& picture, const GaugeModel& model, const Stage& stage)
     const Display d = lay_out_display(model, stage);
     paint_ground(picture, model, stage);
     paint_sunken_edge(picture, d.panel, theme_of(model));
-    paint_title(picture, model, stage, d.layout);
+    paint_titles(picture, model, stage, d.layout);
 }
 
 void digital_value(Picture& picture, const GaugeModel& model, const Stage& stage) {
@@ -145,12 +149,12 @@ void digital_value(Picture& picture, const GaugeModel& model, const Stage& stage
         const BoxF cell = {left, d.figures.bottom, left + d.pitch * 0.79f, d.figures.top};
         paint_digit(picture, cell, i < blank ? 0 : segments_for(text[static_cast<std::size_t>(i - blank)]), on, off);
     }
-    if (d.unit_size) {
-        const FittedText unit = fit(stage.meter, model.unit_text(), d.unit_size, d.panel.right - d.figures.right - 3,
-                                    stage.meter.tenths(least_text));
-        write(picture, stage.meter,
-              {d.figures.right + 2, d.figures.bottom + stage.meter.metrics(unit.tenths).cap_height / 2}, HAlign::left,
-              unit.tenths, ink, unit.text);
+    if (!d.unit.text.empty()) {
+        // Wide digits leave it the room at the panel's edge.
+        const float width = stage.meter.width(d.unit.text, d.unit.tenths);
+        const float left = std::min(d.figures.right + 2, d.panel.right - 3 - width);
+        const float middle = d.figures.bottom + stage.meter.metrics(d.unit.tenths).cap_height / 2;
+        write(picture, stage.meter, {left, middle}, HAlign::left, d.unit.tenths, ink, d.unit.text);
     }
     if (d.bar.empty())
         return;

@@ -28,9 +28,9 @@ struct Knob {
     BoxF readout;
 };
 
-Knob lay_out_knob(const GaugeModel& model, const Stage& stage) {
+Knob place_knob(const GaugeModel& model, const Stage& stage, UnitPlace unit) {
     Knob k = {};
-    k.layout = lay_out(model, stage);
+    k.layout = lay_out(model, stage, unit);
     BoxF& body = k.layout.body;
     k.readout = take_outer_readout(body);
     k.radius = std::max(std::min(body.width() / 2, body.height() / 2) - 1, 1.0f);
@@ -53,6 +53,10 @@ Knob lay_out_knob(const GaugeModel& model, const Stage& stage) {
     k.readout = {std::round(c.x - half_width), std::round(c.y - k.radius * 0.98f), std::round(c.x + half_width),
                  std::round(c.y - k.radius * 0.74f)};
     return k;
+}
+
+Knob lay_out_knob(const GaugeModel& model, const Stage& stage) {
+    return place_with_unit(model, stage, [&](UnitPlace unit) { return place_knob(model, stage, unit); });
 }
 
 // Soft, to the lower right; under the zones and ticks.
@@ -94,11 +98,11 @@ void knob_face(Picture& picture, const GaugeModel& model, const Stage& stage) {
     const float ring = k.cap + r * 0.05f;
     paint_ground(picture, model, stage);
     paint_cap_shadow(picture, k, theme_of(model));
-    paint_round_zones(picture, model, k.scale, ring, ring + r * 0.07f);
+    paint_round_zones(picture, model, k.scale, ring, ring + r * 0.07f, theme_of(model).back);
     paint_round_ticks(picture, model, stage, k.scale,
                       {ring + r * 0.08f, ring + r * 0.16f, ring + r * 0.12f, ring + r * 0.19f, false, k.label_size});
     paint_cap(picture, k);
-    paint_title(picture, model, stage, k.layout);
+    paint_titles(picture, model, stage, k.layout);
 }
 
 void knob_value(Picture& picture, const GaugeModel& model, const Stage& stage) {
@@ -109,7 +113,7 @@ void knob_value(Picture& picture, const GaugeModel& model, const Stage& stage) {
     const float width = std::max(k.cap * 0.11f, 1.5f);
     picture.stroke(at(k.cap * 0.34f), at(k.cap * 0.78f), width + std::max(width * 0.45f, 1.0f), 0x404040);
     picture.stroke(at(k.cap * 0.36f), at(k.cap * 0.76f), width, colour);
-    paint_readout(picture, model, stage, k.readout);
+    paint_readout(picture, model, stage, k.readout, k.layout.unit.empty());
 }
 
 } // namespace wnt

@@ -17,13 +17,14 @@ struct Plot {
     BoxF readout;
     BoxF area;
     BoxF zones;
-    int label_size;
+    int label_size; ///< 0: none
+    bool ticks;
     float column; ///< from line to line
     int columns;
 };
 
-Plot lay_out_plot(const GaugeModel& model, const Stage& stage) {
-    Plot p = {lay_out(model, stage), {}, {}, {}, 0, 2, 1};
+Plot place_plot(const GaugeModel& model, const Stage& stage, UnitPlace unit) {
+    Plot p = {lay_out(model, stage, unit), {}, {}, {}, 0, false, 2, 1};
     BoxF body = p.layout.body;
     if (body.height() >= 66 && body.width() >= 60) {
         const float tall = std::clamp(std::round(body.height() * 0.13f), 13.0f, 52.0f);
@@ -33,7 +34,7 @@ Plot lay_out_plot(const GaugeModel& model, const Stage& stage) {
     } else {
         p.readout = take_lower_readout(body);
     }
-    float labels = 0;
+    float labels = body.height() >= 20 && body.width() >= 30 ? 5 : 0; // ticks need no labels
     if (body.height() >= 40 && body.width() >= 60) {
         p.label_size =
             label_size_for(model, stage.meter, stage.meter.tenths(std::clamp(body.height() * 0.075f, 7.0f, 26.0f)),
@@ -45,6 +46,7 @@ Plot lay_out_plot(const GaugeModel& model, const Stage& stage) {
         body.bottom += cap;
         body.top -= cap;
     }
+    p.ticks = labels > 0;
     const float strip = std::clamp(std::round(body.width() * 0.025f), 2.0f, 14.0f);
     p.zones = {std::round(body.left + labels), std::round(body.bottom) + 1, std::round(body.left + labels + strip),
                std::round(body.top) - 1};
@@ -57,6 +59,10 @@ Plot lay_out_plot(const GaugeModel& model, const Stage& stage) {
     return p;
 }
 
+Plot lay_out_plot(const GaugeModel& model, const Stage& stage) {
+    return place_with_unit(model, stage, [&](UnitPlace unit) { return place_plot(model, stage, unit); });
+}
+
 float height_of(const GaugeModel& model, const Plot& p, std::int32_t value) {
     return std::round(p.area.bottom + p.area.height() * fraction_of(model, value));
 }
@@ -64,6 +70,7 @@ float height_of(const GaugeModel& model, const Plot& p, std::int32_t value) {
 // The column after the newest stays empty: it parts the newest values from the oldest.
 void paint_columns(Picture& picture, const GaugeModel& model, const ValueHistory& history, const Plot& p) {
     const std::int64_t newest = history.count() - 1;
+    const Colour ground = theme_of(model).plate;
     for (int column = 0; column < p.columns; ++column) {
         const std::int64_t age = (newest - column) % p.columns;
         const std::int64_t number = newest - (age < 0 ? age + p.columns : age);
@@ -74,7 +81,8 @@ void paint_columns(Picture& picture, const GaugeModel& model, const ValueHistory
         const float left = p.area.left + p.column * static_cast<float>(column);
         const std::int32_t value = history.at(number);
         const float top = std::max(height_of(model, p, value), p.area.bottom + 1);
-        picture.box({left, p.area.bottom, left + p.column - 1, top}, zone_colour(model, value));
+        const Colour colour = zone_colour(model, value);
+        picture.box({left, p.area.bottom, left + p.column - 1, top}, alike(colour, ground) ? edge_of(colour) : colour);
     }
 }
 
@@ -95,23 +103,25 @@ void peak_face(Picture& picture, const GaugeModel& model, const Stage& stage) {
     const Theme theme = theme_of(model);
     const Plot p = lay_out_plot(model, stage);
     paint_ground(picture, model, stage);
-    paint_title(picture, model, stage, p.layout);
+    paint_titles(picture, model, stage, p.layout);
     paint_sunken_edge(picture, p.area.inset(-1), theme);
     picture.box(p.area, theme.plate);
     paint_zone_strip(picture, model, p.zones, true);
 
     const float gap = p.label_size ? stage.meter.metrics(p.label_size).cap_height * 2.0f : 14.0f;
     const float end = p.zones.left - 1;
+    const BoxF whole = {0, 0, static_cast<float>(stage.width), static_cast<float>(stage.height)};
     for (const Tick& t : ticks_of(model, p.area.height(), 4, gap)) {
         const float y = std::round(p.area.bottom + p.area.height() * t.fraction - 0.5f);
         if (t.major)
             picture.box({p.area.left, y, p.area.right, y + 1}, blend(theme.plate, theme.text, 36));
-        if (!p.label_size)
+        if (!p.ticks)
             continue;
         picture.box({end - (t.major ? 4.0f : 2.0f), y, end, y + 1}, theme.text);
-        if (!t.major)
+        if (!t.major || !p.label_size)
             continue;
-        write(picture, stage.meter, {end - 6, y + 0.5f}, HAlign::right, p.label_size, theme.text, number_text(t.value));
+        write(picture, stage.meter, {end - 6, y + 0.5f}, HAlign::right, p.label_size, theme.text, number_text(t.value),
+              &whole);
     }
 }
 
@@ -123,7 +133,7 @@ void peak_value(Picture& picture, const GaugeModel& model, const Stage& stage) {
     const ValueHistory& history = model.history.count() > 0 ? model.history : first;
     paint_columns(picture, model, history, p);
     paint_peak(picture, p, std::min(height_of(model, p, history.highest()), p.area.top - 1), theme.text);
-    paint_readout(picture, model, stage, p.readout);
+    paint_readout(picture, model, stage, p.readout, p.layout.unit.empty());
 }
 
 } // namespace wnt

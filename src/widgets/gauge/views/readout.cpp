@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "widgets/gauge/views/scale_parts.h"
 #include "widgets/gauge/views/view_parts.h"
@@ -24,39 +25,78 @@ std::string widest_value(const GaugeModel& model, TextMeter& meter, int tenths) 
     return widest;
 }
 
+// Size and places follow from the widest value, so that nothing jumps while the value moves.
+struct Readout {
+    BoxF inner;
+    FittedText number; ///< the widest; empty when there is no room for it
+    FittedText unit;   ///< with a blank before it
+    bool whole;        ///< nothing of the unit is missing
+};
+
+std::string spaced_unit(const GaugeModel& model) {
+    return std::string(" ").append(model.unit_text());
+}
+
+Readout lay_out_readout(const GaugeModel& model, const Stage& stage, const BoxF& plate, bool with_unit) {
+    TextMeter& meter = stage.meter;
+    Readout r = {plate.inset(1), {}, {}, true};
+    const int size = meter.tenths(plate.height() * 0.72f);
+    const int legible = meter.tenths(least_text);
+    const float room = r.inner.width() - 2;
+    const std::string widest = widest_value(model, meter, size);
+    r.number = fit_number(meter, widest, size, room);
+    if (!with_unit || !has_unit(model))
+        return r;
+    const int unit_size = std::max(size * 3 / 4, legible);
+    const int least = std::max(unit_size * 6 / 10, legible);
+    const auto measure = [&](int tenths) { return meter.width(spaced_unit(model), tenths); };
+    r.unit = {spaced_unit(model), size_within(room - meter.width(widest, size), unit_size, least, measure)};
+    r.whole = meter.width(widest, size) + measure(r.unit.tenths) <= room;
+    if (r.whole)
+        return r;
+    // Both are to be seen: the number grows smaller, what is left of the room takes the beginning of the unit.
+    for (const auto& [most, share] : {std::pair{size, 0.65f}, {legible, 1.0f}}) {
+        r.number = fit_number(meter, widest, most, room * share);
+        const float left = r.number.text.empty() ? room : room - meter.width(widest, r.number.tenths);
+        r.unit = fit(meter, model.unit_text(), legible, left - meter.width(" ", legible), legible);
+        if (!r.number.text.empty() && !r.unit.text.empty())
+            break;
+    }
+    if (!r.unit.text.empty())
+        r.unit.text = std::string(" ").append(r.unit.text);
+    return r;
+}
+
 } // namespace
 
 void paint_readout(Picture& picture, const GaugeModel& model, const Stage& stage, const BoxF& plate, bool with_unit) {
     if (plate.empty())
         return;
+    const Readout r = lay_out_readout(model, stage, plate, with_unit);
+    if (r.number.text.empty() && r.unit.text.empty())
+        return;
     const Colour colour = zone_colour(model, model.current);
     const Colour ground = ground_for(colour);
-    const BoxF inner = plate.inset(1);
-    // Size and places follow from the widest value, so that nothing jumps while the value moves.
-    const int size = stage.meter.tenths(plate.height() * 0.72f);
-    const int unit_size = size * 3 / 4;
-    const float room = inner.width() - 2;
-    const std::string widest = widest_value(model, stage.meter, size);
-    std::string unit;
-    if (with_unit && !model.no_title && !model.unit_text().empty() && unit_size >= stage.meter.tenths(least_text))
-        unit.append(1, ' ').append(model.unit_text());
-    if (stage.meter.width(widest, size) + stage.meter.width(unit, unit_size) > room)
-        unit.clear();
-    const FittedText number = fit_number(stage.meter, widest, size, room);
-    if (number.text.empty())
-        return;
-    const int fitted = number.tenths;
     paint_sunken_edge(picture, plate, theme_of(model));
-    picture.box(inner, ground);
-    const float slot = stage.meter.width(widest, fitted);
-    const float left = std::round(plate.centre().x - (slot + stage.meter.width(unit, unit_size)) / 2);
+    picture.box(r.inner, ground);
+    const float slot = stage.meter.width(r.number.text, r.number.tenths);
+    const float left = std::round(plate.centre().x - (slot + stage.meter.width(r.unit.text, r.unit.tenths)) / 2);
     const float middle = plate.centre().y;
-    const HAlign align = unit.empty() ? HAlign::centre : HAlign::right;
-    const float x = unit.empty() ? std::round(plate.centre().x) : left + slot;
-    write(picture, stage.meter, {x, middle}, align, fitted, colour, number_text(model.current), &inner);
-    if (!unit.empty())
-        write(picture, stage.meter, {left + slot, middle}, HAlign::left, unit_size, blend(ground, colour, 190), unit,
-              &inner);
+    const bool alone = r.unit.text.empty();
+    const PointF at = {alone ? std::round(plate.centre().x) : left + slot, middle};
+    if (!r.number.text.empty())
+        write(picture, stage.meter, at, alone ? HAlign::centre : HAlign::right, r.number.tenths, colour,
+              number_text(model.current), &r.inner);
+    if (!alone)
+        write(picture, stage.meter, {left + slot, middle}, HAlign::left, r.unit.tenths, blend(ground, colour, 190),
+              r.unit.text, &r.inner);
+}
+
+UnitShown unit_shown(const GaugeModel& model, const Stage& stage, const BoxF& plate) {
+    if (plate.empty())
+        return UnitShown::nothing;
+    const Readout r = lay_out_readout(model, stage, plate, true);
+    return r.whole ? UnitShown::whole : r.unit.text.empty() ? UnitShown::nothing : UnitShown::beginning;
 }
 
 BoxF plate_at(float middle, float bottom, float wide, float tall) {

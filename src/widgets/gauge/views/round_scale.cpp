@@ -56,9 +56,17 @@ void paint_round_ticks(Picture& picture, const GaugeModel& model, const Stage& s
     }
 }
 
-void paint_round_zones(Picture& picture, const GaugeModel& model, const RoundScale& scale, float inner, float outer) {
-    for (const ScaleZone& zone : zones_of(model))
-        picture.ring_sector(scale.centre, inner, outer, scale.angle(zone.from), scale.angle(zone.to), zone.colour);
+void paint_round_zones(Picture& picture, const GaugeModel& model, const RoundScale& scale, float inner, float outer,
+                       Colour ground) {
+    const float edge = std::clamp((outer - inner) * 0.15f, 0.5f, 1.5f);
+    for (const ScaleZone& zone : zones_of(model)) {
+        const float from = scale.angle(zone.from);
+        const float to = scale.angle(zone.to);
+        const bool edged = alike(zone.colour, ground);
+        picture.ring_sector(scale.centre, inner, outer, from, to, edged ? edge_of(zone.colour) : zone.colour);
+        if (const float turn = edge / outer; edged && from - to > 2 * turn)
+            picture.ring_sector(scale.centre, inner + edge, outer - edge, from - turn, to + turn, zone.colour);
+    }
 }
 
 void paint_bezel(Picture& picture, PointF centre, float inner, float outer, Colour dark, Colour light) {

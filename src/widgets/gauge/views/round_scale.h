@@ -24,7 +24,8 @@ struct RoundTicks {
 };
 void paint_round_ticks(Picture& picture, const GaugeModel& model, const Stage& stage, const RoundScale& scale,
                        const RoundTicks& ticks);
-void paint_round_zones(Picture& picture, const GaugeModel& model, const RoundScale& scale, float inner, float outer);
+void paint_round_zones(Picture& picture, const GaugeModel& model, const RoundScale& scale, float inner, float outer,
+                       Colour ground);
 /// A ring lit from the top left.
 void paint_bezel(Picture& picture, PointF centre, float inner, float outer, Colour dark, Colour light);
 

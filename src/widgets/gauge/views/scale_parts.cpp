@@ -20,6 +20,10 @@ void paint_zone_strip(Picture& picture, const GaugeModel& model, const BoxF& str
             part.left = std::round(strip.left + strip.width() * zone.from);
             part.right = std::round(strip.left + strip.width() * zone.to);
         }
+        if (alike(zone.colour, theme_of(model).back)) {
+            picture.box(part, edge_of(zone.colour));
+            part = part.inset(1);
+        }
         picture.box(part, zone.colour);
     }
 }

@@ -31,8 +31,8 @@ void place_scale(Thermometer& t, float x, float half) {
     t.labels_end = t.ticks_end - std::round(t.ticks) - 3;
 }
 
-Thermometer lay_out_thermometer(const GaugeModel& model, const Stage& stage) {
-    Thermometer t = {lay_out(model, stage), {}, {}, 0, {}, {}, 0, 0, 0, 0};
+Thermometer place_thermometer(const GaugeModel& model, const Stage& stage, UnitPlace unit) {
+    Thermometer t = {lay_out(model, stage, unit), {}, {}, 0, {}, {}, 0, 0, 0, 0};
     BoxF body = t.layout.body;
     if (body.height() < 60) {
         t.readout = take_side_readout(body, std::min(body.width() * 0.55f, body.height()));
@@ -65,6 +65,10 @@ Thermometer lay_out_thermometer(const GaugeModel& model, const Stage& stage) {
     return t;
 }
 
+Thermometer lay_out_thermometer(const GaugeModel& model, const Stage& stage) {
+    return place_with_unit(model, stage, [&](UnitPlace unit) { return place_thermometer(model, stage, unit); });
+}
+
 void paint_glass(Picture& picture, const Thermometer& t, Colour colour, float grow) {
     const float half = t.tube.width() / 2 + grow;
     const float x = t.bulb.x;
@@ -82,7 +86,7 @@ void thermometer_face(Picture& picture, const GaugeModel& model, const Stage& st
     paint_zone_strip(picture, model, t.zones, true);
     paint_glass(picture, t, blend(theme.back, 0, 110), 1);
     paint_glass(picture, t, theme.plate, 0);
-    paint_title(picture, model, stage, t.layout);
+    paint_titles(picture, model, stage, t.layout);
 
     const float font_height = t.label_size ? stage.meter.metrics(t.label_size).cap_height : 0;
     const float gap = t.label_size ? font_height * 1.9f : 12.0f;
@@ -104,13 +108,17 @@ void thermometer_value(Picture& picture, const GaugeModel& model, const Stage& s
     const float half = std::max(t.tube.width() / 2 - inset, 0.5f);
     const float level = std::round(t.tube.bottom + t.tube.height() * fraction_of(model, model.current));
     const float x = t.bulb.x;
-    picture.disc(t.bulb, t.bulb_radius - inset, colour);
-    picture.box({x - half, t.bulb.y, x + half, level}, colour);
+    const bool edged = alike(colour, theme_of(model).plate);
+    const float edge = edged ? std::min(half * 0.3f, 1.0f) : 0;
+    picture.disc(t.bulb, t.bulb_radius - inset, edged ? edge_of(colour) : colour);
+    picture.box({x - half, t.bulb.y, x + half, level}, edged ? edge_of(colour) : colour);
+    picture.disc(t.bulb, edged ? t.bulb_radius - inset - 1 : 0, colour);
+    picture.box(edged ? BoxF{x - half + edge, t.bulb.y, x + half - edge, level - edge} : BoxF{}, colour);
     picture.box({x - half * 0.6f, t.bulb.y + t.bulb_radius * 0.9f, x - half * 0.15f, level - 1},
                 blend(colour, white, 130));
     picture.disc({t.bulb.x - t.bulb_radius * 0.32f, t.bulb.y + t.bulb_radius * 0.32f}, t.bulb_radius * 0.22f,
                  blend(colour, white, 160));
-    paint_readout(picture, model, stage, t.readout);
+    paint_readout(picture, model, stage, t.readout, t.layout.unit.empty());
 }
 
 } // namespace wnt

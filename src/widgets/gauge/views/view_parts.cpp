@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 
 #include "script/colours.h"
 #include "script/keywords.h"
@@ -54,6 +55,17 @@ Colour zone_colour(const GaugeModel& model, std::int32_t value) {
     return indexed_colour(model.getmarkercolour(value));
 }
 
+bool alike(Colour a, Colour b) {
+    int distance = 0;
+    for (int shift = 0; shift < 24; shift += 8)
+        distance += std::abs(static_cast<int>(a >> shift & 0xFF) - static_cast<int>(b >> shift & 0xFF));
+    return distance < 72;
+}
+
+Colour edge_of(Colour colour) {
+    return blend(colour, is_dark(colour) ? white : black, 110);
+}
+
 Colour ground_for(Colour colour) {
     return is_dark(colour) ? Colour{0xF4F8F8} : Colour{0x241E1C};
 }
@@ -68,8 +80,8 @@ FittedText fit(TextMeter& meter, std::string_view text, int tenths, float width,
     std::size_t kept = text.size();
     while (kept > 0 && meter.width(fitted.text, fitted.tenths) > width)
         fitted.text.assign(text.substr(0, --kept)).append("..");
-    if (kept == 0)
-        fitted.text.clear();
+    if (kept == 0) // no room for the dots
+        fitted.text = meter.width(text.substr(0, 1), fitted.tenths) <= width ? text.substr(0, 1) : "";
     return fitted;
 }
 
@@ -116,26 +128,66 @@ bool has_inner_title(const GaugeModel& model) {
     return model.bar_title && has_title(model);
 }
 
-Layout lay_out(const GaugeModel& model, const Stage& stage, bool title_on_bar) {
-    const BoxF inside = inside_border(model, stage);
-    Layout layout = {{}, inside, 0};
+bool has_unit(const GaugeModel& model) {
+    return !model.no_title && !model.unit_text().empty();
+}
+
+namespace {
+
+void take_title(Layout& layout, const Stage& stage) {
+    const BoxF& inside = layout.body;
+    if (inside.height() < 48 || inside.width() < 40)
+        return;
     const float size = std::clamp(std::min(inside.height() * 0.085f, inside.width() * 0.14f), 8.0f, 32.0f);
-    if (!has_title(model) || title_on_bar || inside.height() < 48 || inside.width() < 40)
-        return layout;
     layout.title_size = stage.meter.tenths(size);
     const float line = std::ceil(stage.meter.metrics(layout.title_size).height());
     layout.title = {inside.left, inside.top - line, inside.right, inside.top};
     layout.body.top = layout.title.bottom - std::floor(size * 0.25f);
+}
+
+void take_unit(Layout& layout, const GaugeModel& model, const Stage& stage) {
+    const BoxF body = layout.body;
+    if (body.height() < 14 || body.width() < 20)
+        return;
+    const bool beside = body.width() > 3 * body.height();
+    const float size = beside ? body.height() * 0.3f : std::min(body.height() * 0.075f, body.width() * 0.12f);
+    layout.unit_size = stage.meter.tenths(std::clamp(size, 7.0f, 28.0f));
+    layout.unit = body;
+    if (beside) {
+        const float wanted = stage.meter.width(model.unit_text(), layout.unit_size) + 2;
+        layout.unit.left = std::round(body.right - std::min(wanted, body.width() * 0.25f));
+        layout.body.right = layout.unit.left - 3;
+    } else {
+        layout.unit.top = body.bottom + std::ceil(stage.meter.metrics(layout.unit_size).height());
+        layout.body.bottom = layout.unit.top + std::floor(size * 0.25f);
+    }
+}
+
+// A line of text in a box of its own.
+void paint_line(Picture& picture, const GaugeModel& model, const Stage& stage, const BoxF& box, std::string_view text,
+                int tenths, float least) {
+    if (box.empty())
+        return;
+    const FittedText fitted = fit(stage.meter, text, tenths, box.width() - 2, stage.meter.tenths(least));
+    const float height = stage.meter.metrics(tenths).height();
+    const PointF at = {std::round(box.centre().x), std::round(box.centre().y - height / 2)};
+    picture.text(stage.meter, at, HAlign::centre, fitted.tenths, theme_of(model).text, fitted.text, &box);
+}
+
+} // namespace
+
+Layout lay_out(const GaugeModel& model, const Stage& stage, UnitPlace unit, bool title_on_bar) {
+    Layout layout = {{}, {}, inside_border(model, stage), 0, 0};
+    if (has_title(model) && !title_on_bar)
+        take_title(layout, stage);
+    if (has_unit(model) && unit == UnitPlace::apart)
+        take_unit(layout, model, stage);
     return layout;
 }
 
-void paint_title(Picture& picture, const GaugeModel& model, const Stage& stage, const Layout& layout) {
-    if (layout.title.empty())
-        return;
-    const FittedText title =
-        fit(stage.meter, model.title_text(), layout.title_size, layout.title.width() - 2, stage.meter.tenths(8));
-    const PointF at = {std::round(layout.title.centre().x), layout.title.bottom};
-    picture.text(stage.meter, at, HAlign::centre, title.tenths, theme_of(model).text, title.text, &layout.title);
+void paint_titles(Picture& picture, const GaugeModel& model, const Stage& stage, const Layout& layout) {
+    paint_line(picture, model, stage, layout.title, model.title_text(), layout.title_size, 8);
+    paint_line(picture, model, stage, layout.unit, model.unit_text(), layout.unit_size, least_text);
 }
 
 void paint_sunken_edge(Picture& picture, const BoxF& box, const Theme& theme) {

@@ -33,6 +33,10 @@ Theme theme_of(const GaugeModel& model);
 Colour indexed_colour(int index);
 /// The colour of the zone that holds a value.
 Colour zone_colour(const GaugeModel& model, std::int32_t value);
+/// Whether one colour can hardly be told from the other.
+bool alike(Colour a, Colour b);
+/// A colour for the edge of something of this colour on a ground like it.
+Colour edge_of(Colour colour);
 /// A dark or a light ground, whichever this colour can be read on.
 Colour ground_for(Colour colour);
 
@@ -55,7 +59,7 @@ struct FittedText {
     std::string text;
     int tenths;
 };
-/// Makes a text fit a width: smaller down to `least`, then cut with dots.
+/// Makes a text fit a width: smaller down to `least`, then cut with dots; empty where there is no room for a character.
 FittedText fit(TextMeter& meter, std::string_view text, int tenths, float width, int least);
 
 /// The same for a number, which is never cut: empty when it does not fit at a legible size.
@@ -74,14 +78,21 @@ bool has_title(const GaugeModel& model);
 /// The title is to stand on the bar or the face instead of above it.
 bool has_inner_title(const GaugeModel& model);
 
-/// A view's space, with the line of the title taken off at its top.
+bool has_unit(const GaugeModel& model);
+
+enum class UnitPlace { in_view, apart };
+
+/// A view's space, with the line of the title taken off at its top and the place of a unit that stands apart off its
+/// lower end, or off its right end where it is wide and low.
 struct Layout {
     BoxF title; ///< empty when there is none
+    BoxF unit;  ///< empty when it has its place in the view
     BoxF body;
     int title_size;
+    int unit_size;
 };
-Layout lay_out(const GaugeModel& model, const Stage& stage, bool title_on_bar = false);
-void paint_title(Picture& picture, const GaugeModel& model, const Stage& stage, const Layout& layout);
+Layout lay_out(const GaugeModel& model, const Stage& stage, UnitPlace unit, bool title_on_bar = false);
+void paint_titles(Picture& picture, const GaugeModel& model, const Stage& stage, const Layout& layout);
 
 /// A frame of one pixel around something sunk, under light from the top left.
 void paint_sunken_edge(Picture& picture, const BoxF& box, const Theme& theme);
