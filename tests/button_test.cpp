@@ -31,8 +31,6 @@ protected:
     CWntButton button_;
 };
 
-constexpr COLORREF yellow = RGB(255, 255, 0);
-
 } // namespace
 
 // Every part of a button in turn, each on a small one, on a large one, and after a press.
