@@ -49,9 +49,9 @@ CFrameWnd::CFrameWnd() {
 
 CFrameWnd::~CFrameWnd() {
     std::erase(frames_of_this_thread().frames, this);
-    if (m_pViewActive != nullptr)
-        m_pViewActive = nullptr;
-    CWnd::DestroyWindow(); // while its bars can still let go of it
+    // A window that is still there goes with the rest of the object: its bars no longer find the frame.
+    for (CControlBar* bar : m_bars)
+        bar->m_pDockSite = nullptr;
 }
 
 BOOL CFrameWnd::IsFrameWnd() const {
