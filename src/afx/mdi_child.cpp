@@ -126,6 +126,7 @@ void CMDIChildWnd::OnUpdateFrameTitle(BOOL bAddToTitle) {
         title += number;
     }
     SetWindowText(title);
+    ::SendMessage(::GetParent(m_hWnd), WM_MDIREFRESHMENU, 0, 0); // the list of windows
 }
 
 CWnd* CMDIChildWnd::GetMessageBar() {
