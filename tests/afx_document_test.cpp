@@ -1,5 +1,6 @@
 // Documents: made, changed, asked about, saved, opened again; the files that were used last; the command line.
 #include "afx_test_app.h"
+#include "pixels.h"
 
 #include <afxadv.h>
 #include <afxext.h>
@@ -163,6 +164,107 @@ TEST_F(NoteProgram, TellsWhyAFileCannotBeOpened) {
     EXPECT_EQ(the_app.OpenDocumentFile(path_.c_str()), nullptr);
     EXPECT_EQ(document().text, "") << "half a document is none";
     EXPECT_EQ(title(), "Untitled - Tests");
+}
+
+class main_frame : public CMDIFrameWnd {
+public:
+    std::string title() {
+        CString text;
+        GetWindowText(text);
+        return std::string(text);
+    }
+};
+
+TEST(AfxSeveralDocuments, LieInOneFrameThatShowsTheActiveOnes) {
+    the_app.m_nCmdShow = SW_SHOWNOACTIVATE;
+    auto* kind =
+        new CMultiDocTemplate(IDR_FRAME, RUNTIME_CLASS(note), RUNTIME_CLASS(CMDIChildWnd), RUNTIME_CLASS(note_view));
+    the_app.AddDocTemplate(kind);
+    auto* frame = new main_frame;
+    ASSERT_TRUE(frame->LoadFrame(IDR_FRAME));
+    the_app.m_pMainWnd = frame;
+    frame->ShowWindow(SW_SHOWNOACTIVATE);
+    the_app.take_boxes();
+    EXPECT_FALSE(frame->OnCmdMsg(ID_FILE_SAVE, CN_COMMAND, nullptr, nullptr)) << "no document is there to take it";
+
+    frame->SendMessage(WM_COMMAND, ID_FILE_NEW);
+    frame->SendMessage(WM_COMMAND, ID_FILE_NEW);
+    EXPECT_EQ(the_app.GetOpenDocumentCount(), 2);
+    CMDIChildWnd* second = frame->MDIGetActive();
+    ASSERT_NE(second, nullptr);
+    EXPECT_EQ(frame->title(), "Untitled2 - Tests");
+    EXPECT_EQ(frame->GetActiveFrame(), second);
+    frame->MDINext();
+    EXPECT_EQ(frame->title(), "Untitled1 - Tests");
+    EXPECT_NE(frame->MDIGetActive(), second);
+
+    frame->MDIActivate(second);
+    frame->SendMessage(WM_COMMAND, ID_WINDOW_NEW);
+    CString title;
+    second->GetWindowText(title);
+    EXPECT_STREQ(title, "Untitled2:1");
+    EXPECT_EQ(the_app.GetOpenDocumentCount(), 2);
+    static_cast<note*>(second->GetActiveDocument())->SetModifiedFlag();
+    second->SendMessage(WM_CLOSE);
+    EXPECT_TRUE(the_app.take_boxes().empty()) << "another window shows the document still";
+    the_app.answer = IDCANCEL;
+    frame->SendMessage(WM_CLOSE);
+    EXPECT_THAT(the_app.take_boxes(), ElementsAre("Save changes to Untitled2?"));
+    EXPECT_EQ(note::alive, 2);
+    the_app.answer = IDNO;
+    frame->SendMessage(WM_CLOSE);
+    EXPECT_EQ(note::alive, 0);
+    EXPECT_EQ(the_app.m_pMainWnd, nullptr);
+    the_app.answer = IDOK;
+    MSG quit;
+    ::PeekMessage(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
+    delete std::exchange(the_app.m_pDocManager, nullptr);
+}
+
+// A frame with everything around it.
+class full_frame : public CFrameWnd {
+    DECLARE_DYNCREATE(full_frame)
+
+public:
+    CToolBar tools;
+    CStatusBar status;
+    CSplitterWnd splitter;
+    BOOL OnCreateClient(LPCREATESTRUCT, CCreateContext* context) override {
+        const UINT panes[] = {ID_SEPARATOR, ID_INDICATOR_NUM};
+        if (!splitter.Create(this, 2, 2, CSize(10, 10), context) || !tools.Create(this) ||
+            !tools.LoadToolBar(IDR_FRAME) || !status.Create(this) || !status.SetIndicators(panes, 2))
+            return FALSE;
+        tools.EnableDocking(CBRS_ALIGN_ANY);
+        EnableDocking(CBRS_ALIGN_ANY);
+        DockControlBar(&tools);
+        return TRUE;
+    }
+};
+IMPLEMENT_DYNCREATE(full_frame, CFrameWnd)
+
+TEST(AfxHandles, AThousandFramesAndDocumentsGiveEverythingBack) {
+    the_app.m_nCmdShow = SW_SHOWNOACTIVATE;
+    the_app.AddDocTemplate(
+        new CSingleDocTemplate(IDR_FRAME, RUNTIME_CLASS(note), RUNTIME_CLASS(full_frame), RUNTIME_CLASS(note_view)));
+    const auto live = [] {
+        the_app.OnFileNew();
+        auto* frame = static_cast<full_frame*>(the_app.m_pMainWnd);
+        frame->splitter.SplitRow(50);
+        the_app.OnIdle(0);
+        frame->SendMessage(WM_CLOSE);
+        the_app.OnIdle(1);
+    };
+    for (int i = 0; i < 10; ++i)
+        live(); // what is made once
+    const Counts before;
+    for (int i = 0; i < 1000; ++i)
+        live();
+    EXPECT_LT(before.grown(), 20);
+    EXPECT_EQ(note::alive, 0);
+    MSG quit;
+    while (::PeekMessage(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) {
+    }
+    delete std::exchange(the_app.m_pDocManager, nullptr);
 }
 
 TEST(AfxCommandLine, SaysWhatTheShellWants) {

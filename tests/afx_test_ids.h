@@ -6,6 +6,7 @@
 #define IDC_MARK 143
 #define IDR_FRAME 132
 #define IDD_FORM 133
+#define IDD_BOXES 134
 #define IDC_FORM_NAME 1001
 #define IDC_FORM_BUTTON 32801
 #define ID_TEST_ON 32801

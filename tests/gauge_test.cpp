@@ -4,7 +4,6 @@
 #include <cmath>
 #include <map>
 #include <random>
-#include <ranges>
 #include <shlobj.h>
 
 namespace {

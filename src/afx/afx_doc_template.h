@@ -53,6 +53,9 @@ protected:
     // Fills a document that has its frame; FALSE, the user having been told, where that fails.
     BOOL FillDocument(CDocument& document, LPCTSTR path, BOOL add_to_recent);
 
+    // Before the frame is loaded.
+    virtual void PrepareFrame(CFrameWnd& frame);
+
     CRuntimeClass* m_pDocClass;
     CRuntimeClass* m_pFrameClass;
     CRuntimeClass* m_pViewClass;

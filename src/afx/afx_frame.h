@@ -139,6 +139,7 @@ private:
     void DestroyDockBars();
     bool IsOnlyFrameOf(CDocument* pDocument) const;
 
+    HACCEL m_loaded_keys = nullptr; // what LoadAccelTable made; another table is somebody else's
     CView* m_pViewActive = nullptr;
     std::vector<CControlBar*> m_bars;
     CDockBar* m_dock_bars[4] = {};

@@ -12,9 +12,6 @@ class CScrollBar;
 class CView;
 struct CCreateContext;
 
-#ifndef WM_CTLCOLOR
-#define WM_CTLCOLOR 0x0019
-#endif
 // Sent to the window of a modal loop while the loop is idle.
 #define WM_KICKIDLE 0x036A
 
@@ -499,14 +496,4 @@ private:
     LRESULT DispatchEntry(const AFX_MSGMAP_ENTRY& entry, WPARAM wParam, LPARAM lParam);
 };
 
-ZOPAFX_API LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam);
-// Registers a class for these values and answers its name; the same values give the same name.
-// Raises CResourceException where the class cannot be registered.
-ZOPAFX_API LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor = nullptr,
-                                              HBRUSH hbrBackground = nullptr, HICON hIcon = nullptr);
-// TRUE where the class is registered already, too.
-ZOPAFX_API BOOL AFXAPI AfxRegisterClass(WNDCLASS* lpWndClass);
-// Sets the object that takes over the next window that this thread creates; AfxUnhookWindowCreate tells whether one
-// did.
-ZOPAFX_API void AFXAPI AfxHookWindowCreate(CWnd* pWnd);
-ZOPAFX_API BOOL AFXAPI AfxUnhookWindowCreate();
+#include "afx_wnd_class.h"

@@ -1,5 +1,6 @@
 // Common controls: slider, image list.
 #pragma once
+#define __AFXCMN_H__
 
 #include "afxwin.h"
 

@@ -1,3 +1,11 @@
 // Only included by programs that say so by custom: there is no automation.
 #pragma once
+#ifndef __AFXDISP_H__
+#define __AFXDISP_H__
+
 #include "afxwin.h"
+
+// Programs call it as a matter of course. There are no OLE controls: a dialog whose template has one is not created.
+inline void AFX_CDECL AfxEnableControlContainer() {}
+
+#endif

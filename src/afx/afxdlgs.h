@@ -1,5 +1,6 @@
 // Dialogs of the platform and property sheets.
 #pragma once
+#define __AFXDLGS_H__
 
 #include "afxwin.h"
 #include "afx_file_dialog.h"

@@ -1,5 +1,6 @@
 // CArray: a growing array.
 #pragma once
+#define __AFXTEMPL_H__
 
 #include "afx.h"
 

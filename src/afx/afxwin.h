@@ -19,6 +19,7 @@
 #include "afx_doc_template.h"
 #include "afx_view.h"
 #include "afx_scroll_view.h"
+#include "afx_mdi.h"
 #include "afx_thread.h"
 #include "afx_app.h"
 #include "afx_command_line.h"

@@ -30,8 +30,7 @@ BOOL CDialogBar::Create(CWnd* pParentWnd, LPCTSTR lpszTemplateName, UINT nStyle,
     GetWindowRect(rect);
     m_sizeDefault = rect.Size();
     ModifyStyle(0, WS_CLIPSIBLINGS);
-    if ((nStyle & WS_VISIBLE) != 0)
-        ShowWindow(SW_SHOWNA);
+    ShowWindow(SW_SHOWNA); // whatever the template says
     return TRUE;
 }
 

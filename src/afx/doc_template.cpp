@@ -66,9 +66,12 @@ CFrameWnd* CDocTemplate::CreateNewFrame(CDocument* pDoc, CFrameWnd* pOther) {
     auto* frame = m_pFrameClass != nullptr ? DYNAMIC_DOWNCAST(CFrameWnd, m_pFrameClass->CreateObject()) : nullptr;
     if (frame == nullptr)
         return nullptr;
+    PrepareFrame(*frame);
     // A frame that cannot be loaded has deleted itself.
     return frame->LoadFrame(m_nIDResource, WS_OVERLAPPEDWINDOW | FWS_ADDTOTITLE, nullptr, &context) ? frame : nullptr;
 }
+
+void CDocTemplate::PrepareFrame(CFrameWnd&) {}
 
 void CDocTemplate::InitialUpdateFrame(CFrameWnd* pFrame, CDocument* pDoc, BOOL bMakeVisible) {
     pFrame->InitialUpdateFrame(pDoc, bMakeVisible);

@@ -54,6 +54,8 @@ CDockBar::extent CDockBar::LayRow(row& bars, int depth, int room) {
 }
 
 CSize CDockBar::CalcFixedLayout(BOOL bStretch, BOOL bHorz) {
+    if (m_pDockSite == nullptr)
+        return CSize(0, 0);
     CRect client;
     m_pDockSite->GetClientRect(client);
     const int room = bHorz ? client.Width() : client.Height();

@@ -49,9 +49,11 @@ CFrameWnd::CFrameWnd() {
 
 CFrameWnd::~CFrameWnd() {
     std::erase(frames_of_this_thread().frames, this);
-    if (m_pViewActive != nullptr)
-        m_pViewActive = nullptr;
-    CWnd::DestroyWindow(); // while its bars can still let go of it
+    // A window that is still there goes with the rest of the object: its bars no longer find the frame.
+    for (CControlBar* bar : m_bars)
+        bar->m_pDockSite = nullptr;
+    if (m_loaded_keys != nullptr)
+        ::DestroyAcceleratorTable(m_loaded_keys);
 }
 
 BOOL CFrameWnd::IsFrameWnd() const {
@@ -112,7 +114,10 @@ BOOL CFrameWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pParentW
 }
 
 BOOL CFrameWnd::LoadAccelTable(LPCTSTR lpszResourceName) {
-    m_hAccelTable = ::LoadAccelerators(AfxFindResourceHandle(lpszResourceName, RT_ACCELERATOR), lpszResourceName);
+    if (HACCEL before = std::exchange(m_loaded_keys, nullptr))
+        ::DestroyAcceleratorTable(before);
+    m_loaded_keys = ::LoadAccelerators(AfxFindResourceHandle(lpszResourceName, RT_ACCELERATOR), lpszResourceName);
+    m_hAccelTable = m_loaded_keys;
     return m_hAccelTable != nullptr;
 }
 

@@ -1,0 +1,179 @@
+// Resources in every form that a compiler or a broken file may give them; families of windows; the shell.
+#include "afx_test_app.h"
+
+#include <afxext.h>
+#include <afxpriv.h>
+
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+
+namespace {
+
+class plain_frame : public CFrameWnd {
+public:
+    bool open() { return Create(nullptr, "frame") != FALSE; }
+    void PostNcDestroy() override {}
+};
+
+TEST(AfxToolBarResource, IsReadInBothFormsAndRefusedWhereItIsBroken) {
+    const struct {
+        UINT id;
+        int buttons;
+    } cases[] = {{IDR_FRAME, 5}, {201, 2}, {202, -1}, {203, -1}, {204, -1}, {205, -1}, {299, -1}};
+    for (const auto& one : cases) {
+        plain_frame frame;
+        CToolBar bar;
+        ASSERT_TRUE(frame.open() && bar.Create(&frame));
+        EXPECT_EQ(bar.LoadToolBar(one.id), one.buttons > 0) << one.id;
+        if (one.buttons > 0) {
+            EXPECT_EQ(bar.GetCount(), one.buttons);
+        }
+    }
+}
+
+// A child dialog whose boxes are filled from data.
+class boxes : public CWnd {
+public:
+    bool open(CWnd& parent) { return CreateDlg(MAKEINTRESOURCE(IDD_BOXES), &parent) != FALSE; }
+    int count(int id, UINT message) { return static_cast<int>(SendDlgItemMessage(id, message)); }
+};
+
+TEST(AfxDialogData, FillsBoxesAndStopsAtWhatIsBroken) {
+    CWnd parent;
+    ASSERT_TRUE(create_popup(parent));
+    boxes dialog;
+    ASSERT_TRUE(dialog.open(parent));
+    EXPECT_TRUE(dialog.ExecuteDlgInit(MAKEINTRESOURCE(IDD_BOXES)));
+    EXPECT_EQ(dialog.count(1001, CB_GETCOUNT), 2);
+    EXPECT_EQ(dialog.count(1002, LB_GETCOUNT), 1);
+    EXPECT_TRUE(dialog.ExecuteDlgInit(MAKEINTRESOURCE(4711))) << "there is none: nothing to do";
+    BYTE endless[0x10000 + 8] = {0xE9, 0x03, 0x03, 0x04, 0xFF, 0xFF, 0xFF, 0x7F, 'x'};
+    EXPECT_FALSE(dialog.ExecuteDlgInit(static_cast<LPVOID>(endless))) << "longer than any resource";
+    BYTE open_end[0x10000 + 8] = {0xE9, 0x03, 0x03, 0x04, 2, 0, 0, 0, 'x', 'y'};
+    EXPECT_FALSE(dialog.ExecuteDlgInit(static_cast<LPVOID>(open_end))) << "a text without its end";
+    EXPECT_EQ(dialog.count(1001, CB_GETCOUNT), 2);
+}
+
+TEST(AfxWindowFamily, FindsParentsOwnersFramesAndDescendants) {
+    plain_frame frame;
+    ASSERT_TRUE(frame.open());
+    CWnd child, grandchild, owned;
+    ASSERT_TRUE(child.Create(nullptr, "", WS_CHILD, CRect(0, 0, 9, 9), &frame, 5));
+    ASSERT_TRUE(grandchild.Create(nullptr, "", WS_CHILD, CRect(0, 0, 5, 5), &child, 6));
+    ASSERT_TRUE(owned.CreateEx(0, nullptr, "", WS_POPUP, CRect(0, 0, 9, 9), &frame, 0));
+    EXPECT_EQ(grandchild.GetParentFrame(), &frame);
+    EXPECT_EQ(grandchild.GetTopLevelFrame(), &frame);
+    EXPECT_EQ(frame.GetTopLevelFrame(), &frame);
+    EXPECT_EQ(frame.GetParentFrame(), nullptr);
+    EXPECT_EQ(owned.GetParentFrame(), &frame) << "by the owner";
+    EXPECT_EQ(owned.GetTopLevelParent(), &frame);
+    EXPECT_EQ(frame.GetDescendantWindow(6), &grandchild);
+    EXPECT_EQ(frame.GetDescendantWindow(7), nullptr);
+    EXPECT_EQ(child.GetOwner(), &frame);
+    child.SetOwner(&owned);
+    EXPECT_EQ(child.GetOwner(), &owned);
+
+    class counter : public CWnd {
+    public:
+        int seen = 0;
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+            seen += message == WM_USER;
+            return CWnd::WindowProc(message, wParam, lParam);
+        }
+    } deep;
+    ASSERT_TRUE(deep.Create(nullptr, "", WS_CHILD, CRect(0, 0, 1, 1), &grandchild, 8));
+    frame.SendMessageToDescendants(WM_USER, 0, 0, FALSE);
+    EXPECT_EQ(deep.seen, 0) << "children only";
+    frame.SendMessageToDescendants(WM_USER);
+    EXPECT_EQ(deep.seen, 1);
+}
+
+TEST(AfxWindowStyle, ChangesAndAnswersWhetherItDid) {
+    CWnd wnd;
+    ASSERT_TRUE(create_popup(wnd));
+    EXPECT_TRUE(wnd.ModifyStyle(0, WS_VSCROLL, SWP_FRAMECHANGED));
+    EXPECT_FALSE(wnd.ModifyStyle(0, WS_VSCROLL));
+    EXPECT_TRUE(wnd.ModifyStyleEx(0, WS_EX_CLIENTEDGE));
+    SCROLLINFO info{};
+    info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
+    info.nMax = 99;
+    info.nPage = 10;
+    info.nPos = 20;
+    wnd.SetScrollInfo(SB_VERT, &info);
+    EXPECT_EQ(wnd.GetScrollLimit(SB_VERT), 90);
+    EXPECT_EQ(wnd.GetScrollPos(SB_VERT), 20);
+    wnd.SetDlgCtrlID(3);
+    CWnd button;
+    ASSERT_TRUE(button.Create("BUTTON", "", WS_CHILD | BS_AUTORADIOBUTTON, CRect(0, 0, 5, 5), &wnd, 41));
+    wnd.CheckDlgButton(41, BST_CHECKED);
+    EXPECT_EQ(wnd.GetCheckedRadioButton(40, 45), 41);
+    EXPECT_EQ(wnd.GetCheckedRadioButton(42, 45), 0);
+    const HWND hwnd = button.UnsubclassWindow();
+    EXPECT_EQ(CWnd::FromHandlePermanent(hwnd), nullptr);
+    EXPECT_EQ(::SendMessage(hwnd, BM_GETCHECK, 0, 0), BST_CHECKED) << "the control goes on";
+}
+
+TEST(AfxControlUpdates, DisableButtonsWhoseCommandNobodyHandles) {
+    class target : public CCmdTarget {
+    } nobody;
+    CWnd dialog, command, check;
+    ASSERT_TRUE(create_popup(dialog));
+    ASSERT_TRUE(command.Create("BUTTON", "", WS_CHILD, CRect(0, 0, 5, 5), &dialog, 50));
+    ASSERT_TRUE(check.Create("BUTTON", "", WS_CHILD | BS_AUTOCHECKBOX, CRect(0, 0, 5, 5), &dialog, 51));
+    dialog.UpdateDialogControls(&nobody, FALSE);
+    EXPECT_TRUE(command.IsWindowEnabled());
+    dialog.UpdateDialogControls(&nobody, TRUE);
+    EXPECT_FALSE(command.IsWindowEnabled());
+    EXPECT_TRUE(check.IsWindowEnabled()) << "a box holds a value, not a command";
+}
+
+CString registered(const char* name) {
+    char text[MAX_PATH] = "";
+    LONG room = sizeof(text);
+    ::RegQueryValue(HKEY_CURRENT_USER, (CString("Software\\Classes\\") + name).GetString(), text, &room);
+    return text;
+}
+
+TEST(AfxShell, KnowsTheDocumentsUntilTheyAreTakenBack) {
+    CDocManager manager;
+    manager.AddDocTemplate(new CSingleDocTemplate(IDR_FRAME, nullptr, RUNTIME_CLASS(CFrameWnd), nullptr));
+    manager.RegisterShellFileTypes(TRUE);
+    EXPECT_STREQ(registered(".note"), "Test.Note");
+    EXPECT_STREQ(registered("Test.Note"), "Test Note");
+    EXPECT_STREQ(registered("Test.Note\\shell\\print\\command").Right(8), " /p \"%1\"");
+    manager.UnregisterShellFileTypes();
+    EXPECT_STREQ(registered(".note"), "");
+    EXPECT_STREQ(registered("Test.Note"), "");
+    CDocument* open = nullptr;
+    CDocTemplate* kind = manager.GetBestTemplate("x.NOTE");
+    EXPECT_EQ(kind->MatchDocType("x.NOTE", open), CDocTemplate::yesAttemptNative);
+    EXPECT_EQ(kind->MatchDocType("x.txt", open), CDocTemplate::yesAttemptForeign);
+}
+
+TEST(AfxDebug, TellsMemoryThatIsThereFromThatWhichIsNot) {
+    char here[16] = "text";
+    EXPECT_TRUE(AfxIsValidAddress(here, sizeof(here)));
+    EXPECT_TRUE(AfxIsValidAddress("constant", 4, FALSE));
+    EXPECT_FALSE(AfxIsValidAddress(nullptr, 1));
+    EXPECT_FALSE(AfxIsValidAddress(reinterpret_cast<void*>(16), 1));
+    EXPECT_FALSE(AfxIsValidAddress(here, ~UINT_PTR(0))) << "around the end of all memory";
+    EXPECT_TRUE(AfxIsValidString(here));
+    EXPECT_FALSE(AfxIsValidString(nullptr));
+    int evaluated = 0;
+    VERIFY(++evaluated);
+    ASSERT(++evaluated);
+    TRACE("%d", ++evaluated);
+    EXPECT_EQ(evaluated, 1) << "only what VERIFY holds";
+}
+
+TEST(AfxModule, FrameworksTextsStandBehindTheProgramsOwn) {
+    CString text;
+    EXPECT_TRUE(text.LoadString(AFX_IDS_UNTITLED));
+    EXPECT_STREQ(text, "Untitled");
+    EXPECT_EQ(AfxFindStringResourceHandle(ID_TEST_ON), AfxGetInstanceHandle());
+    EXPECT_NE(AfxFindStringResourceHandle(AFX_IDS_UNTITLED), AfxGetInstanceHandle());
+    EXPECT_EQ(AfxFindStringResourceHandle(59999), nullptr);
+}
+
+} // namespace
