@@ -9,6 +9,12 @@ namespace wnt {
 /// own, which PreCreateWindow() told of. A name that is taken stays who has it.
 void register_control_class(const char* name);
 
+/// True in the middle of a window's creation, when its object is joined to it and nothing can be made in it yet.
+inline bool without_size(HWND window) {
+    RECT place = {};
+    return !::GetWindowRect(window, &place) || ::IsRectEmpty(&place);
+}
+
 /// The client area of a window that is taken over, whose size is told by no message.
 inline CSize client_size(HWND window) {
     RECT client = {};

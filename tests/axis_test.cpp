@@ -254,9 +254,16 @@ TEST_F(AxisTest, LosingTheMouseEndsTheDrag) {
     mouse(WM_LBUTTONDOWN, 297, 55, MK_LBUTTON);
     host_.SetCapture();
     ::ReleaseCapture();
-    mouse(WM_MOUSEMOVE, 200, 55, MK_LBUTTON); // of a press elsewhere: enlarges no more
     full_repaint(axis_);
-    EXPECT_EQ(pixels_of(axis_).at(299 - 97 - 3, 56), RGB(0, 128, 0));
+    const Pixels before = pixels_of(axis_);
+    mouse(WM_MOUSEMOVE, 200, 55, MK_LBUTTON); // the button is still down
+    full_repaint(axis_);
+    EXPECT_EQ(pixels_of(axis_), before);
+    mouse(WM_MOUSEMOVE, 200, 55);
+    mouse(WM_LBUTTONDOWN, 200, 55, MK_LBUTTON);
+    mouse(WM_MOUSEMOVE, 230, 55, MK_LBUTTON);
+    full_repaint(axis_);
+    EXPECT_NE(pixels_of(axis_), before);
 }
 
 TEST_F(AxisTest, DoubleClicksAreTold) {

@@ -51,7 +51,7 @@ template <class Widget> Pixels created(CWnd& parent, CWnd& like, std::function<v
 class TemplateTest : public WidgetTest {};
 
 TEST_F(TemplateTest, WidgetsLookAsIfTheirObjectsHadCreatedThem) {
-    std::ofstream("template.dat") << ":TYPE=ANALOG\n:RANGE=0,50\n:TITLE=From a script\n";
+    std::ofstream("template.dat") << ":TYPE=ANALOG\n:MAXVAL=50\n:TITLE=From a script\n";
     WidgetsDialog dialog(&host_);
     for (int round = 0; round < 2; ++round) { // an object serves its dialog again
         WhileModal modal([&] {
@@ -106,6 +106,41 @@ TEST_F(TemplateTest, ByItsClassNameAWidgetIsMadeOnce) {
     ASSERT_TRUE(place.Create("", WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 60), &host_, 3));
     ASSERT_TRUE(refused.SubclassWindow(place.UnsubclassWindow()));
     EXPECT_NE(refused.GetDlgItem(100), nullptr);
+}
+
+TEST_F(TemplateTest, AWidgetGoesFromWindowToWindow) {
+    CStatic first, second;
+    ASSERT_TRUE(first.Create("", WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 60), &host_, 3));
+    ASSERT_TRUE(second.Create("Second", WS_CHILD | WS_VISIBLE, CRect(100, 0, 260, 60), &host_, 4));
+    const HWND places[] = {first.UnsubclassWindow(), second.UnsubclassWindow()};
+    CWntButton button;
+    for (const HWND place : {places[0], places[0], places[1], places[0]}) {
+        ASSERT_TRUE(button.SubclassWindow(place));
+        CRect client, surface;
+        button.GetClientRect(&client);
+        button.GetDlgItem(101)->GetClientRect(&surface);
+        EXPECT_EQ(client, surface);
+        full_repaint(button);
+        EXPECT_GT(pixels_of(button).count(RGB(0, 0, 128)), 1000); // its ground
+        button.UnsubclassWindow();
+    }
+}
+
+TEST_F(TemplateTest, ADerivedClassMayKeepItsCreationToItself) {
+    class Own : public CWntColorSel {
+        BOOL PreCreateWindow(CREATESTRUCT& create) override {
+            create.lpszClass = AfxRegisterWndClass(CS_DBLCLKS);
+            return TRUE;
+        }
+    } selector;
+    ASSERT_TRUE(selector.Create(nullptr, "Own", WS_CHILD | WS_VISIBLE, CRect(0, 0, 160, 90), &host_, 1));
+    EXPECT_NE(selector.GetDlgItem(101), nullptr);
+    CWntGauge gauge; // of no size at first
+    CStatic place;
+    ASSERT_TRUE(place.Create("", WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), &host_, 3));
+    ASSERT_TRUE(gauge.SubclassWindow(place.UnsubclassWindow()));
+    gauge.MoveWindow(0, 0, 90, 60);
+    EXPECT_NE(gauge.GetDlgItem(100), nullptr);
 }
 
 } // namespace

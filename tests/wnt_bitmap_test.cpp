@@ -166,6 +166,10 @@ TEST(WntBitmap, ReadsBitFieldsByTheirMasks) {
         ASSERT_TRUE(loaded.Load(TemporaryFile(bytes).name()));
         ASSERT_TRUE(placed.Create(loaded.GetBitmapInfoAddress(), loaded.GetBitsAddress()));
         EXPECT_EQ(loaded.GetNumClrEntries(), 0u);
+        CWntBitmap ramp;
+        CWntBitmapPalette greys;
+        ASSERT_TRUE(greys.Create(&ramp));
+        EXPECT_FALSE(loaded.MapColorsToPalette(&greys)); // it has masks for colours
         for (CWntBitmap* bitmap : {&loaded, &placed}) {
             Picture picture(2, 1);
             bitmap->Draw(CDC::FromHandle(picture.dc()), 0, 0);
@@ -187,6 +191,11 @@ TEST(WntBitmap, DrawsTheRowsThatAFileGave) {
         ASSERT_TRUE(bitmap.Load(disk.name()));
         Picture picture(4, 4);
         bitmap.Draw(CDC::FromHandle(picture.dc()), 0, 0, 4, 4);
+        if (std::abs(height) == 4) {
+            Picture natural(4, 4);
+            bitmap.Draw(CDC::FromHandle(natural.dc()), 0, 0);
+            EXPECT_EQ(natural.values(), picture.values()) << height;
+        }
         for (int y = 0; y < 4; ++y) { // from below
             const int row = height > 0 ? y : 3 - y;
             const bool given = std::abs(height) == 4 && row < 2;

@@ -17,8 +17,9 @@ inline constexpr std::uint32_t file_header_bytes = 14;
 inline constexpr std::uint32_t core_header_bytes = 12;
 inline constexpr std::uint32_t info_header_bytes = 40;
 inline constexpr std::uint32_t uncompressed = 0;
-/// Every header block has room for so many colours: the platform may look at them whatever the header says.
-inline constexpr std::uint32_t least_colours_held = 256;
+/// Every header block has room for so many colours, masks included: the platform may look at them whatever the header
+/// says.
+inline constexpr std::uint32_t least_colours_held = 256 + 3;
 /// Larger pictures are refused.
 inline constexpr std::uint64_t most_picture_bytes = 0x7FFF'FFFF;
 

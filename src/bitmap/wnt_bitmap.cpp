@@ -210,8 +210,8 @@ void CWntBitmap::CopyBits(CWntBitmap* destination, int xd, int yd, int w, int h,
 }
 
 BOOL CWntBitmap::MapColorsToPalette(CPalette* palette) {
-    if (!palette || !palette->GetSafeHandle() || !m_pBMI)
-        return FALSE;
+    if (!palette || !palette->GetSafeHandle() || !m_pBMI || wnt::colour_masks(header_of(m_pBMI)))
+        return FALSE; // masks are no colours
     std::array<BYTE, colours> nearest;
     for (int i = 0; i < colours; ++i) {
         const RGBQUAD& colour = m_pBMI->bmiColors[i];

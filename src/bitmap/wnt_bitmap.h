@@ -42,7 +42,8 @@ public:
     virtual int GetWidth();
     /// Negative where the upper row comes first.
     virtual int GetHeight();
-    /// Replaces each pixel by the nearest colour of the palette, whose first 256 colours become the bitmap's.
+    /// Replaces each pixel by the nearest colour of the palette, whose first 256 colours become the bitmap's. Refused
+    /// for bit fields.
     virtual BOOL MapColorsToPalette(CPalette* palette);
     /// From (0, 0) to width and height.
     virtual void GetRect(CRect* rect);

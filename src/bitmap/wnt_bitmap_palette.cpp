@@ -4,6 +4,7 @@
 #include <climits>
 #include <cstdint>
 
+#include "bitmap/bitmap_format.h"
 #include "bitmap/log_palette.h"
 #include "bitmap/wnt_bitmap.h"
 #include "out/device_state.h"
@@ -49,7 +50,8 @@ BOOL CWntBitmapPalette::Create(CWntBitmap* bitmap) {
     wnt::LogPalette colours(count);
     if (!colours.get())
         return FALSE;
-    colours.take(bitmap->GetClrTabAddress());
+    const auto* block = reinterpret_cast<const std::uint8_t*>(bitmap->GetBitmapInfoAddress());
+    colours.take(bitmap->GetClrTabAddress() + wnt::colour_masks(wnt::header_of(block)));
     return replace(colours.get());
 }
 

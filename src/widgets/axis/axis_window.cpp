@@ -58,7 +58,7 @@ BOOL CWntAxis::PreCreateWindow(CREATESTRUCT& create) {
 
 void CWntAxis::PreSubclassWindow() {
     CWnd::PreSubclassWindow();
-    if (!made_)
+    if (!made_ && !wnt::without_size(m_hWnd))
         take_over();
 }
 
@@ -70,6 +70,7 @@ void CWntAxis::PostNcDestroy() {
 int CWntAxis::OnCreate(LPCREATESTRUCT create) {
     if (const int result = CWnd::OnCreate(create); result != 0)
         return result;
+    made_ = false;
     build();
     return 0;
 }
@@ -236,6 +237,8 @@ void CWntAxis::SetZoomRects(int keep) {
 
 void CWntAxis::OnSize(UINT type, int cx, int cy) {
     CWnd::OnSize(type, cx, cy);
+    if (!label_font_.GetSafeHandle())
+        build(); // taken over without a size
     lay_out(cx, cy);
 }
 
@@ -284,6 +287,7 @@ void CWntAxis::OnLButtonDown(UINT, CPoint point) {
     if (!zoom_->shown)
         return;
     SetCapture();
+    zoom_->lost = false;
     zoom_->last_x = point.x;
     zoom_->last_y = point.y;
 }
@@ -297,10 +301,12 @@ void CWntAxis::end_zoom_drag() {
     zoom_->enlarging = false;
     if (m_hWnd && ::GetCapture() == m_hWnd)
         ::ReleaseCapture();
+    zoom_->lost = false;
 }
 
 void CWntAxis::OnCaptureChanged(CWnd* other) {
     zoom_->enlarging = false;
+    zoom_->lost = true;
     CWnd::OnCaptureChanged(other);
 }
 
@@ -311,10 +317,13 @@ void CWntAxis::OnRButtonDown(UINT, CPoint) {
 void CWntAxis::OnMouseMove(UINT flags, CPoint point) {
     if (!zoom_->shown || !zoom_->hit(point.x, point.y))
         return;
-    if (flags & MK_LBUTTON)
-        drag_zoom(point);
-    else
+    if (flags & MK_LBUTTON) {
+        if (!zoom_->lost)
+            drag_zoom(point);
+    } else {
+        zoom_->lost = false;
         show_zoom_cursor(zoom_->hover(model_->horizontal(), point.x, point.y));
+    }
 }
 
 // Without this the class' own pointer would come in between at every step of the mouse.

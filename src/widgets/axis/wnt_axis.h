@@ -178,7 +178,6 @@ private:
     bool open_properties();
     void end_zoom_drag();
 
-    bool made_ = false; // its window, which otherwise it takes over
     int double_clicked_item_ = 0;
     CString* texts_ = nullptr;
     float shown_limits_[2] = {0.0f, 100.0f}; ///< What the properties show.
@@ -187,4 +186,5 @@ private:
     CFont label_font_; ///< 10 pixels high.
     std::unique_ptr<wnt::AxisModel> model_;
     std::unique_ptr<wnt::ZoomControl> zoom_;
+    bool made_ = false; // its window is being created by it; otherwise it takes one over
 };

@@ -10,6 +10,7 @@ enum class ZoomGrip { none, move, enlarge };
 /// range stays.
 struct ZoomControl {
     bool shown = false;
+    bool lost = false;      ///< The mouse was taken away in a drag: until the next press it moves nothing.
     bool enlarging = false; ///< The next drag enlarges; otherwise it moves.
     bool far_end = false;   ///< It is the right or lower end that a drag enlarges.
     AxisRect box;           ///< Hit as left, top, right, bottom; painted as x, y, width, height.

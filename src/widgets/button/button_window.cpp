@@ -46,7 +46,7 @@ BOOL CWntButton::PreCreateWindow(CREATESTRUCT& create) {
 
 void CWntButton::PreSubclassWindow() {
     CWnd::PreSubclassWindow();
-    if (!made_)
+    if (!made_ && !wnt::without_size(m_hWnd))
         take_over();
 }
 
@@ -60,11 +60,15 @@ int CWntButton::OnCreate(LPCREATESTRUCT create) {
         return result;
     if (out_.m_hWnd)
         return -1; // sent by hand to a living window
+    made_ = false;
     return build() ? 0 : -1;
 }
 
 // A dialog's text is the title.
 void CWntButton::take_over() {
+    if (::GetParent(out_.m_hWnd) == m_hWnd)
+        return;           // joined to this window before
+    out_.DestroyWindow(); // what it made in another window
     ModifyStyle(WS_CLIPCHILDREN, 0);
     CString title;
     GetWindowText(title);
@@ -226,6 +230,8 @@ void CWntButton::OnPaint() {
 
 void CWntButton::OnSize(UINT type, int cx, int cy) {
     CWnd::OnSize(type, cx, cy);
+    if (!out_.m_hWnd)
+        take_over(); // it had no size before
     lay_out(cx, cy);
 }
 

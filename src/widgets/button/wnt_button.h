@@ -83,8 +83,8 @@ private:
 
     CWntOut out_;
     bool created_ = false;
-    bool made_ = false; // its window, which otherwise it takes over
     std::unique_ptr<wnt::ButtonModel> model_;
     std::unique_ptr<wnt::ButtonBox> box_;
     std::unique_ptr<wnt::ButtonInside> inside_;
+    bool made_ = false; // its window is being created by it; otherwise it takes one over
 };

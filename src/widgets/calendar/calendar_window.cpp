@@ -43,7 +43,7 @@ BOOL CWntCalendar::PreCreateWindow(CREATESTRUCT& create) {
 
 void CWntCalendar::PreSubclassWindow() {
     CWnd::PreSubclassWindow();
-    if (!made_)
+    if (!made_ && !wnt::without_size(m_hWnd))
         take_over();
 }
 
@@ -57,10 +57,14 @@ int CWntCalendar::OnCreate(LPCREATESTRUCT create) {
         return result;
     if (out_.m_hWnd)
         return -1; // sent by hand to a living window
+    made_ = false;
     return build() ? 0 : -1;
 }
 
 void CWntCalendar::take_over() {
+    if (::GetParent(out_.m_hWnd) == m_hWnd)
+        return;           // joined to this window before
+    out_.DestroyWindow(); // what it made in another window
     ModifyStyle(WS_CLIPCHILDREN, 0);
     if (!build())
         return;
@@ -112,6 +116,8 @@ void CWntCalendar::OnPaint() {
 
 void CWntCalendar::OnSize(UINT type, int cx, int cy) {
     CWnd::OnSize(type, cx, cy);
+    if (!out_.m_hWnd)
+        take_over(); // it had no size before
     lay_out(cx, cy);
 }
 

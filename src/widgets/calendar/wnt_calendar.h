@@ -95,7 +95,6 @@ private:
     void drag_to(CPoint point);
     bool end_drag();
 
-    bool made_ = false; // its window, which otherwise it takes over
     CWntOut out_;
     std::unique_ptr<wnt::SurfaceBuffer> painting_; // while a painter runs
     Colours colours_{};
@@ -107,4 +106,5 @@ private:
     std::int64_t dragged_to_ = 0;
     CPoint drag_start_;
     int drag_step_ = 0;
+    bool made_ = false; // its window is being created by it; otherwise it takes one over
 };

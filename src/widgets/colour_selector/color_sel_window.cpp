@@ -42,7 +42,7 @@ BOOL CWntColorSel::PreCreateWindow(CREATESTRUCT& create) {
 
 void CWntColorSel::PreSubclassWindow() {
     CWnd::PreSubclassWindow();
-    if (!made_)
+    if (!made_ && !wnt::without_size(m_hWnd))
         take_over();
 }
 
@@ -56,10 +56,20 @@ int CWntColorSel::OnCreate(LPCREATESTRUCT create) {
         return result;
     if (out_.m_hWnd)
         return -1; // sent by hand to a living window
+    made_ = false;
     return build() ? 0 : -1;
 }
 
 void CWntColorSel::take_over() {
+    if (::GetParent(out_.m_hWnd) == m_hWnd)
+        return;        // joined to this window before
+    if (out_.m_hWnd) { // what it made in another window
+        out_.DestroyWindow();
+        list_.DestroyWindow();
+        sliders_[0].DestroyWindow();
+        sliders_[1].DestroyWindow();
+        sliders_[2].DestroyWindow();
+    }
     ModifyStyle(WS_CLIPCHILDREN, 0);
     if (build())
         lay_out();
@@ -239,6 +249,8 @@ void CWntColorSel::OnPaint() {
 
 void CWntColorSel::OnSize(UINT type, int cx, int cy) {
     CWnd::OnSize(type, cx, cy);
+    if (!out_.m_hWnd)
+        take_over(); // it had no size before
     lay_out();
 }
 

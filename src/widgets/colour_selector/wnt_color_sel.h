@@ -88,7 +88,6 @@ private:
     void paint_cell(int x, int y, int width, int height, int colour, bool edged);
     void lay_out();
 
-    bool made_ = false; // its window, which otherwise it takes over
     int sliders_shown_ = 0;
     CSliderCtrl sliders_[3];
     CFont font_;
@@ -104,4 +103,5 @@ private:
     int* item_colours_ = nullptr;
     int item_count_ = 0;
     int selected_item_ = 0;
+    bool made_ = false; // its window is being created by it; otherwise it takes one over
 };

@@ -84,7 +84,7 @@ BOOL CWntGauge::PreCreateWindow(CREATESTRUCT& create) {
 
 void CWntGauge::PreSubclassWindow() {
     CWnd::PreSubclassWindow();
-    if (!made_)
+    if (!made_ && !wnt::without_size(m_hWnd))
         take_over();
 }
 
@@ -98,11 +98,20 @@ int CWntGauge::OnCreate(LPCREATESTRUCT create) {
         return result;
     if (out_.m_hWnd)
         return -1; // sent by hand to a living window
+    made_ = false;
     return build() ? 0 : -1;
 }
 
 // A dialog's text names a script or is the title.
 void CWntGauge::take_over() {
+    if (::GetParent(out_.m_hWnd) == m_hWnd)
+        return;        // joined to this window before
+    if (out_.m_hWnd) { // what it made in another window
+        out_.DestroyWindow();
+        scroll_bar_.DestroyWindow();
+        switch_button_.DestroyWindow();
+        trace_.DestroyWindow();
+    }
     ModifyStyle(WS_CLIPCHILDREN, 0);
     CString text;
     GetWindowText(text);
@@ -271,6 +280,8 @@ void CWntGauge::OnPaint() {
 
 void CWntGauge::OnSize(UINT type, int cx, int cy) {
     CWnd::OnSize(type, cx, cy);
+    if (!out_.m_hWnd)
+        take_over(); // it had no size before
     lay_out(cx, cy);
 }
 

@@ -89,7 +89,6 @@ private:
     void run_built_in_script();
     void end_script();
 
-    bool made_ = false; // its window, which otherwise it takes over
     int width_ = 0;
     int height_ = 0; // without the strip of the test mode
     CWntOut out_;
@@ -98,4 +97,5 @@ private:
     CButton switch_button_;
     std::unique_ptr<wnt::GaugeModel> model_;
     std::unique_ptr<wnt::GaugePainter> painter_;
+    bool made_ = false; // its window is being created by it; otherwise it takes one over
 };

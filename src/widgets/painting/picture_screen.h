@@ -41,10 +41,10 @@ private:
     void present(CWntOut& out, const Area& area);
 
     int scale_ = 1; // subpixels a pixel, each way
+    TextFonts fonts_; // before the surfaces, which have some of them selected to the end
     MemorySurface face_;
     MemorySurface frame_;
     ShapeRaster raster_;
-    TextFonts fonts_;
     std::vector<Area> areas_;
 };
 

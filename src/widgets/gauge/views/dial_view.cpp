@@ -73,7 +73,7 @@ Dial place_titled(const GaugeModel& model, const Stage& stage, UnitPlace unit) {
 // A unit that finds no place there goes to the readout, or below the dial.
 Dial lay_out_dial(const GaugeModel& model, const Stage& stage) {
     const Dial d = place_titled(model, stage, UnitPlace::in_view);
-    if (d.unit_width > 0)
+    if (d.unit_width > 0 || !has_unit(model))
         return d;
     return place_with_unit(model, stage, [&](UnitPlace unit) { return place_titled(model, stage, unit); });
 }
