@@ -148,6 +148,26 @@ TEST(AfxMessageMap, HandlersSeeTheParametersOfTheirMessages) {
     EXPECT_EQ(wnd.SendMessage(registered + 1), 0) << "another registered message";
 }
 
+class old_timer : public CWnd {
+public:
+    UINT seen = 0;
+
+protected:
+    void OnTimer(UINT id) { seen = id; }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(old_timer, CWnd)
+ON_WM_TIMER()
+END_MESSAGE_MAP()
+
+TEST(AfxMessageMap, OlderHandlersOfTimersAreServed) {
+    old_timer wnd;
+    ASSERT_TRUE(create_popup(wnd));
+    wnd.SendMessage(WM_TIMER, 77);
+    EXPECT_EQ(wnd.seen, 77u);
+}
+
 // Commands by range, with an answer, and their updates.
 class commander : public CWnd {
 public:

@@ -88,6 +88,58 @@ TEST_F(PrintTest, HardcopyFillsThePageAndShowsTheFrame) {
     }
 }
 
+/// Three pages through the framework's view: the first has a red square of an inch, an inch from the corner.
+class PagesView : public CView {
+    DECLARE_DYNCREATE(PagesView)
+
+public:
+    std::string log;
+
+    using CView::OnFilePrint;
+    void OnDraw(CDC* dc) override {
+        const RECT square{100, -100, 200, -200};
+        const HBRUSH red = ::CreateSolidBrush(RGB(255, 0, 0));
+        ::FillRect(*dc, &square, red);
+        ::DeleteObject(red);
+    }
+    void OnPrepareDC(CDC* dc, CPrintInfo* info) override {
+        ::SetMapMode(*dc, MM_LOENGLISH);
+        if (info != nullptr && info->m_nCurPage > 3)
+            info->m_bContinuePrinting = FALSE;
+    }
+    BOOL OnPreparePrinting(CPrintInfo* info) override { return DoPreparePrinting(info); }
+    void OnBeginPrinting(CDC*, CPrintInfo*) override { log += "begin "; }
+    void OnEndPrinting(CDC*, CPrintInfo*) override { log += "end"; }
+    void OnPrint(CDC* dc, CPrintInfo* info) override {
+        log += std::to_string(info->m_nCurPage) + (info->m_rectDraw.bottom < -1000 ? " " : "? ");
+        if (info->m_nCurPage == 1)
+            OnDraw(dc);
+    }
+    DECLARE_MESSAGE_MAP()
+};
+IMPLEMENT_DYNCREATE(PagesView, CView)
+BEGIN_MESSAGE_MAP(PagesView, CView)
+ON_COMMAND(ID_FILE_PRINT_DIRECT, CView::OnFilePrint)
+END_MESSAGE_MAP()
+
+TEST_F(PrintTest, ViewsPrintPageAfterPageInTheirUnits) {
+    auto* frame = new CFrameWnd;
+    ASSERT_TRUE(frame->Create(nullptr, "view pages"));
+    CCreateContext context;
+    context.m_pNewViewClass = RUNTIME_CLASS(PagesView);
+    auto* view = static_cast<PagesView*>(frame->CreateView(&context));
+    ASSERT_NE(view, nullptr);
+    frame->SetActiveView(view);
+    frame->SendMessage(WM_COMMAND, ID_FILE_PRINT_DIRECT);
+    EXPECT_EQ(view->log, "begin 1 2 3 end");
+    EXPECT_TRUE(program.boxes.empty());
+    const auto page = printed("view pages");
+    const RECT inked = page->ink(white);
+    EXPECT_NEAR(inked.right + 1 - inked.left, 72, 2);
+    EXPECT_NEAR(inked.top + 1 - inked.bottom, 72, 2);
+    frame->DestroyWindow();
+}
+
 TEST_F(PrintTest, VersionSummaryStandsOnThePage) {
     CWntVersion sheet("Versions");
     WhileModal modal([&] {

@@ -5,6 +5,14 @@
 #define WM_CTLCOLOR 0x0019
 #endif
 
+// Older programs take the timer's number as UINT: it is small where it is theirs.
+template <class Target> inline AFX_PMSG AfxTimerMethod(void (Target::*method)(UINT_PTR)) {
+    return AfxErasedMethod(static_cast<void (CWnd::*)(UINT_PTR)>(method));
+}
+template <class Target> inline AFX_PMSG AfxTimerMethod(void (Target::*method)(UINT)) {
+    return AfxErasedMethod(static_cast<void (CWnd::*)(UINT)>(method));
+}
+
 #define ON_WM_CLOSE() AFX_WM_ENTRY(WM_CLOSE, AfxSig_vv, void, (), OnClose)
 #define ON_WM_DESTROY() AFX_WM_ENTRY(WM_DESTROY, AfxSig_vv, void, (), OnDestroy)
 #define ON_WM_NCDESTROY() AFX_WM_ENTRY(WM_NCDESTROY, AfxSig_vv, void, (), OnNcDestroy)
@@ -53,7 +61,7 @@
 #define ON_WM_MOVE() AFX_WM_ENTRY(WM_MOVE, AfxSig_v_i_i, void, (int, int), OnMove)
 #define ON_WM_SIZE() AFX_WM_ENTRY(WM_SIZE, AfxSig_v_size, void, (UINT, int, int), OnSize)
 #define ON_WM_DISPLAYCHANGE() AFX_WM_ENTRY(WM_DISPLAYCHANGE, AfxSig_v_size, void, (UINT, int, int), OnDisplayChange)
-#define ON_WM_TIMER() AFX_WM_ENTRY(WM_TIMER, AfxSig_v_timer, void, (UINT_PTR), OnTimer)
+#define ON_WM_TIMER() {WM_TIMER, 0, 0, 0, AfxSig_v_timer, AfxTimerMethod(&ThisClass::OnTimer)},
 #define ON_WM_CHAR() AFX_WM_ENTRY(WM_CHAR, AfxSig_v_key, void, (UINT, UINT, UINT), OnChar)
 #define ON_WM_DEADCHAR() AFX_WM_ENTRY(WM_DEADCHAR, AfxSig_v_key, void, (UINT, UINT, UINT), OnDeadChar)
 #define ON_WM_KEYDOWN() AFX_WM_ENTRY(WM_KEYDOWN, AfxSig_v_key, void, (UINT, UINT, UINT), OnKeyDown)
