@@ -90,7 +90,11 @@ ON_WM_SETTINGCHANGE()
 ON_WM_COPYDATA()
 ON_WM_DISPLAYCHANGE()
 ON_WM_PARENTNOTIFY()
-ON_MESSAGE(WM_USER + 3, OnOwn) // the older way to name a handler
+#ifdef __clang__
+ON_MESSAGE(WM_USER + 3, &unpacker::OnOwn)
+#else
+ON_MESSAGE(WM_USER + 3, OnOwn) // the older way to name a handler, which not every compiler takes
+#endif
 ON_REGISTERED_MESSAGE(registered, &unpacker::OnRegistered)
 END_MESSAGE_MAP()
 

@@ -49,12 +49,12 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(bar_frame, CFrameWnd)
-ON_COMMAND(ID_TEST_ON, OnOn)
-ON_COMMAND(ID_TEST_OFF, OnOn)
-ON_UPDATE_COMMAND_UI(ID_TEST_OFF, OnUpdateOff)
-ON_COMMAND(ID_TEST_CHECKED, OnOn)
-ON_UPDATE_COMMAND_UI(ID_TEST_CHECKED, OnUpdateChecked)
-ON_UPDATE_COMMAND_UI(ID_TEST_PANE, OnUpdatePane)
+ON_COMMAND(ID_TEST_ON, &bar_frame::OnOn)
+ON_COMMAND(ID_TEST_OFF, &bar_frame::OnOn)
+ON_UPDATE_COMMAND_UI(ID_TEST_OFF, &bar_frame::OnUpdateOff)
+ON_COMMAND(ID_TEST_CHECKED, &bar_frame::OnOn)
+ON_UPDATE_COMMAND_UI(ID_TEST_CHECKED, &bar_frame::OnUpdateChecked)
+ON_UPDATE_COMMAND_UI(ID_TEST_PANE, &bar_frame::OnUpdatePane)
 END_MESSAGE_MAP()
 
 TEST(AfxFrame, UpdatesItsMenuToolbarAndPanesByItsHandlers) {

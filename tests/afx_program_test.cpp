@@ -8,7 +8,7 @@
 test_app the_app;
 
 BEGIN_MESSAGE_MAP(test_app, CWinApp)
-ON_COMMAND(ID_FILE_NEW, CWinApp::OnFileNew)
+ON_COMMAND(ID_FILE_NEW, &CWinApp::OnFileNew)
 END_MESSAGE_MAP()
 
 namespace {

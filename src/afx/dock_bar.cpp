@@ -44,7 +44,7 @@ CDockBar::extent CDockBar::LayRow(row& bars, int depth, int room) {
         CRect before;
         one.bar->GetWindowRect(before);
         ScreenToClient(&before);
-        if (before != rect)
+        if (!::EqualRect(&before, &rect))
             one.bar->SetWindowPos(nullptr, rect.left, rect.top, rect.Width(), rect.Height(),
                                   SWP_NOZORDER | SWP_NOACTIVATE);
         total.length = at + length;

@@ -261,7 +261,7 @@ BOOL CScrollView::OnScrollBy(CSize sizeScroll, BOOL bDoScroll) {
     };
     const CPoint to(moved(horizontal, before.x, sizeScroll.cx, GetScrollLimit(SB_HORZ)),
                     moved(vertical, before.y, sizeScroll.cy, GetScrollLimit(SB_VERT)));
-    if (to == before)
+    if (to.x == before.x && to.y == before.y)
         return FALSE;
     if (bDoScroll) {
         ScrollWindow(before.x - to.x, before.y - to.y);
