@@ -1,7 +1,7 @@
 // Script lines through the gauge's model, against a plain INI parser over the same kind of bytes. The yardstick's
 // handler only counts, while the model looks up, converts and stores.
 #include "script/script_file.h"
-#include "widgets/gauge_model.h"
+#include "widgets/gauge/gauge_model.h"
 
 #include "compare.h"
 

@@ -2,7 +2,7 @@
 // script, ">" for a press of the view button.
 #include "require.h"
 #include "script/keywords.h"
-#include "widgets/gauge_scale.h"
+#include "widgets/gauge/gauge_scale.h"
 
 #include <algorithm>
 #include <sstream>

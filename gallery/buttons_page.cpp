@@ -11,11 +11,12 @@ namespace {
 
 constexpr UINT_PTR watch_timer = 1;
 constexpr UINT watch_interval = 60; // milliseconds
-constexpr int columns = 5;
+constexpr int columns = 4;
 
 struct Sample {
     const char* title;
     const char* lines; // parted by '\n'
+    int underline = 0; // has no key
 };
 
 constexpr Sample samples[] = {
@@ -39,6 +40,10 @@ constexpr Sample samples[] = {
     {"bottom right", ":ALIGN=BOTTOMRIGHT"},
     {"LEFT TOP", ":BORDERSTYLE=LEFT TOP"},
     {"TOP BOTTOM", ":BORDERSTYLE=TOP BOTTOM"},
+    {"FIXED", ":FIXED=X"},
+    {"underlined", "", 1},
+    {"flat, frame", ":BORDERTYPE=FLAT\n:FRAME=X\n:CLRBORDER=DARKGREEN"},
+    {"own colours", ":CLRBACK=DARKBLUE\n:CLRTEXT=YELLOW\n:CLRSUN=BLUE\n:CLRSHADOW=BLACK"},
 };
 constexpr int count = static_cast<int>(std::size(samples));
 
@@ -79,13 +84,17 @@ protected:
         button.load((std::string(":TITLE=") + sample.title).c_str(), 0);
         LoadLines(sample.lines, [&](const char* line) { button.load(line, 0); });
         button.load("", 2);
+        Tcbtn_properties block;
+        button.getproperties(&block);
+        block.underline = static_cast<decltype(block.underline)>(sample.underline);
+        button.setproperties(&block);
     }
 
     void Arrange(int width, int height) override {
         constexpr int gap = 14;
         constexpr int state_height = 16;
         const int w = (width - gap) / columns;
-        const int h = std::min((height - gap) / (count / columns), 100);
+        const int h = (height - gap) / (count / columns);
         for (int i = 0; i < count; ++i) {
             const int x = gap + i % columns * w;
             const int y = gap + i / columns * h;

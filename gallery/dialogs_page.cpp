@@ -31,7 +31,7 @@ protected:
             if (!AddButton(row.name, CRect(20, y, 140, y + 28), row.id) ||
                 !AddText(row.what, CRect(160, y + 6, 820, y + 28)))
                 return false;
-            y += 44;
+            y += 38;
         }
         answer_ = AddText("Nothing answered yet.", CRect(20, y + 10, 820, y + 50), answer_id);
         return answer_ != nullptr;

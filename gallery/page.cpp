@@ -147,9 +147,7 @@ GalleryPages MakePages(const NamedFiles& files) {
     pages.push_back(MakeCalendarPage());
     pages.push_back(MakeColoursPage());
     pages.push_back(MakeAxesPage());
-    pages.push_back(MakeDialogsPage());
-    pages.push_back(MakeSoundsPage());
-    pages.push_back(MakeSharingPage());
+    pages.push_back(MakeDiagnosticsPage());
     pages.push_back(MakeBitmapPage(files.pictures));
     pages.push_back(MakeBitmapDrawingPage());
     pages.push_back(MakePalettePage());

@@ -129,6 +129,8 @@ std::unique_ptr<CGalleryPage> MakePulsePage();
 std::unique_ptr<CGalleryPage> MakeCalendarPage();
 std::unique_ptr<CGalleryPage> MakeColoursPage();
 std::unique_ptr<CGalleryPage> MakeAxesPage();
+std::unique_ptr<CGalleryPage> MakeDiagnosticsPage();
+// Its parts.
 std::unique_ptr<CGalleryPage> MakeDialogsPage();
 std::unique_ptr<CGalleryPage> MakeSoundsPage();
 std::unique_ptr<CGalleryPage> MakeSharingPage();

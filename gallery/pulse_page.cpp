@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cmath>
+#include <cstdio>
 #include <ctime>
 #include <string>
 #include <vector>
@@ -26,10 +27,11 @@ struct Recording {
     std::string failure;
 };
 
+// Each gallery has its own.
 std::string DataFile() {
     char folder[MAX_PATH];
     ::GetTempPathA(sizeof folder, folder);
-    return std::string(folder) + "zopgallery-pulse.txt";
+    return std::string(folder) + "zopgallery-pulse-" + std::to_string(::GetCurrentProcessId()) + ".txt";
 }
 
 double SampleAt(int curve, int i, int turn) {
@@ -117,6 +119,7 @@ void PaintCurves(CWntOut& out, const Plot& plot, const Recording& recording) {
 
 class CPulsePage : public CBarPage {
 public:
+    ~CPulsePage() override { std::remove(DataFile().c_str()); }
     const char* Title() const override { return "Pulse data file"; }
     const char* Name() const override { return "pulse"; }
 

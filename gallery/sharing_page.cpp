@@ -79,7 +79,7 @@ protected:
     afx_msg void OnAnother() {
         char program[MAX_PATH + 1] = "";
         ::GetModuleFileNameA(nullptr, program, MAX_PATH);
-        ::ShellExecuteA(m_hWnd, nullptr, program, "--no-splash --page sharing", nullptr, SW_SHOWNORMAL);
+        ::ShellExecuteA(m_hWnd, nullptr, program, "--no-splash --page diagnostics", nullptr, SW_SHOWNORMAL);
     }
     afx_msg void OnTimer(UINT_PTR timer) {
         CControlsPage::OnTimer(timer);

@@ -48,8 +48,10 @@ void boxes(CWntOut& out, const Cell& c) {
     out.boxr0(c.x, c.y + h + 8, w - 8, h - 6);
     out.boxr1(c.x + w, c.y + h + 8, w - 8, h - 6);
     out.boxr2(c.x, c.y + 2, w - 8, h - 6);
-    out.drawshadow(c.x + w, c.y + 2, c.x + w + w / 2 - 8, c.y + h - 6, 1);
-    out.drawshadow(c.x + w + w / 2, c.y + 2, c.x + 2 * w - 8, c.y + h - 6, 0);
+    out.fillcolour(::GetSysColor(COLOR_BTNFACE), 0); // on paper its light edges could not be seen
+    out.boxr2(c.x + w - 4, c.y, w, h - 2);
+    out.drawshadow(c.x + w, c.y + 4, c.x + w + w / 2 - 8, c.y + h - 6, 1);
+    out.drawshadow(c.x + w + w / 2, c.y + 4, c.x + 2 * w - 8, c.y + h - 6, 0);
 }
 
 void polygons(CWntOut& out, const Cell& c) {

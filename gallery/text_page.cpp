@@ -8,18 +8,28 @@ void text(CWntOut& out, int x, int y, const char* what, int align) {
     out.chars(x, y, const_cast<char*>(what), align);
 }
 
+// A line at each reference point shows the rule: texts 0 to 2 stand on it, 4 to 6 begin a point size above it, 8 to 10
+// half of that.
 void alignments(CWntOut& out, int x, int y, int w, int h) {
     static constexpr struct {
         int align;
         const char* name;
-    } all[] = {{4, "top left"},     {6, "top centre"},  {5, "top right"},     {8, "centre left"}, {10, "centre"},
-               {9, "centre right"}, {0, "bottom left"}, {2, "bottom centre"}, {1, "bottom right"}};
-    out.settext(0, 0, 0, 18, 0, 0);
+    } all[] = {{4, "4 top left"},    {6, "6 top centre"},    {5, "5 top right"},
+               {8, "8 centre left"}, {10, "10 centre"},      {9, "9 centre right"},
+               {0, "0 bottom left"}, {2, "2 bottom centre"}, {1, "1 bottom right"}};
+    out.settext(0, 0, 0, 15, 0, 0);
+    out.linecolour(0, 0);
+    text(out, x + 20, y + h - 24, "chars: the alignments, their points and the lines of y", 0);
+    out.settext(0, 0, 0, 23, 0, 0);
+    const int rows = h - 40;
     for (int i = 0; i < 9; ++i) {
-        const int px = x + w / 6 + i % 3 * w / 3;
-        const int py = y + h - h / 6 - i / 3 * h / 3;
+        const int column = i % 3;
+        const int px = x + 20 + column * (w - 40) / 2;
+        const int py = y + rows - rows / 6 - i / 3 * rows / 3;
+        out.linecolour(RGB(200, 210, 220), 0);
+        out.hline(x + 20 + column * (w - 40) / 3, py, (w - 40) / 3 - 12);
         out.linecolour(6, 0);
-        out.drawplus(px, py, 4);
+        out.drawplus(px, py, 5);
         out.linecolour(0, 0);
         text(out, px, py, all[i].name, all[i].align);
     }
@@ -38,18 +48,18 @@ void sizes(CWntOut& out, int x, int top) {
 }
 
 void titles(CWntOut& out, int x, int y, int w, int h) {
-    int left = x;
-    for (int part : {8, 5, 3, 2}) {
-        const int height = h / part;
-        const int width = w * 2 / (part + 2);
-        if (left + width > x + w)
-            break;
+    out.settext(0, 0, 0, 15, 0, 0);
+    out.linecolour(0, 0);
+    text(out, x, y + h + 6, "titlechars: sized by the box, the baseline halfway up", 0);
+    const int width = w / 4;
+    for (int i = 0; i < 4; ++i) {
+        const int left = x + i * width;
+        const int height = h * (i + 1) / 4;
         out.linecolour(8, 0);
-        out.boxr0(left, y, width, height);
+        out.boxr0(left, y, width - 16, height);
         out.linecolour(12, 0);
         char title[] = "Title";
-        out.titlechars(left, y, width, height, title);
-        left += width + 12;
+        out.titlechars(left, y, width - 16, height, title);
     }
 }
 
@@ -58,7 +68,7 @@ void paint(CWntOut& out) {
     const int middle = out.ymax * 2 / 5;
     alignments(out, 0, middle, out.xmax * 3 / 5, out.ymax - middle);
     sizes(out, out.xmax * 3 / 5 + 20, out.ymax - 10);
-    titles(out, 20, 20, out.xmax - 40, middle - 40);
+    titles(out, 20, 16, out.xmax - 40, middle - 56);
 }
 
 } // namespace

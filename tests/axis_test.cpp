@@ -160,6 +160,42 @@ TEST_F(AxisTest, ZoomControlFollowsTheMouse) {
     EXPECT_EQ(zoom(), "#######"); // laid out anew where its ends had met
 }
 
+TEST_F(AxisTest, DraggingTheZoomPaintsAllThatChanges) {
+    for (int position = 0; position < 4; ++position) {
+        const bool across = position % 2 == 0;
+        axis_.SetFlags(position, 100, 0);
+        across ? size(300, 40) : size(40, 300);
+        axis_.SetRange(0.0f, 100.0f); // lays the slider out for this size
+        axis_.SendMessage(WM_COMMAND, 100);
+        across ? size(300, 70) : size(70, 300); // which the box follows, and the slider does not
+        full_repaint(axis_);
+        const CPoint end = across ? CPoint(297, 65) : CPoint(position == 1 ? 5 : 65, 297);
+        const CPoint middle = across ? CPoint(150, 65) : CPoint(end.x, 150);
+        mouse(WM_MOUSEMOVE, end.x, end.y);
+        mouse(WM_LBUTTONDOWN, end.x, end.y, MK_LBUTTON);
+        mouse(WM_MOUSEMOVE, middle.x, middle.y, MK_LBUTTON);
+        const Pixels dragged = pixels_of(axis_);
+        full_repaint(axis_);
+        EXPECT_EQ(dragged, pixels_of(axis_)) << "position " << position;
+        ::ReleaseCapture();
+        mouse(WM_MOUSEMOVE, middle.x, middle.y);
+        axis_.SendMessage(WM_COMMAND, 100);
+    }
+}
+
+TEST_F(AxisTest, LosingTheMouseEndsTheDrag) {
+    size(300, 60);
+    axis_.SetRange(0.0f, 100.0f);
+    axis_.SendMessage(WM_COMMAND, 100);
+    mouse(WM_MOUSEMOVE, 297, 55); // the far grip
+    mouse(WM_LBUTTONDOWN, 297, 55, MK_LBUTTON);
+    host_.SetCapture();
+    ::ReleaseCapture();
+    mouse(WM_MOUSEMOVE, 200, 55, MK_LBUTTON); // of a press elsewhere: enlarges no more
+    full_repaint(axis_);
+    EXPECT_EQ(pixels_of(axis_).at(299 - 97 - 3, 56), RGB(0, 128, 0));
+}
+
 TEST_F(AxisTest, DoubleClicksAreTold) {
     CString texts[4] = {"x", "x", "x", "x"};
     int item = -1;

@@ -1,3 +1,4 @@
+#include "button_reference.h"
 #include "widget_window.h"
 
 #include <climits>
@@ -30,52 +31,44 @@ protected:
     CWntButton button_;
 };
 
-constexpr COLORREF dark_blue = RGB(0, 0, 128);
 constexpr COLORREF yellow = RGB(255, 255, 0);
 
 } // namespace
 
-TEST_F(ButtonTest, BorderIsMitredAndLitFromTheTopLeft) {
-    open(button_, 10, 8);
-    script({":TITLE="});
-    const Pixels up = pixels_of(button_);
-    EXPECT_EQ(letters(up.values, up.width, {{RGB(0, 0, 255), 'l'}, {0, 'd'}, {dark_blue, '.'}}),
-              "lllllllll.\nllllllll.d\nlllllll.dd\nlll....ddd\nlll....ddd\nlldddddddd\nlddddddddd\ndddddddddd\n");
-
-    button_.MoveWindow(0, 0, 60, 30);
-    script({":BORDERTYPE=FLAT", ":CLRBORDER=RED", ":FRAME=X", ":CLRBACK=BLACK", ":CLRTEXT=WHITE", ":BORDERHEIGHT=1",
-            ":TITLE=.", ":TITLESTYLE=PLAIN"});
-    full_repaint(button_);
-    const Pixels flat = pixels_of(button_);
-    // Frame, border less its upper right corner, and the title.
-    EXPECT_EQ(flat.count(RGB(255, 0, 0)), 2 * (60 + 28) + 2 * (58 + 26) - 1);
-    EXPECT_GT(flat.count(RGB(255, 255, 255)), 0);
-}
-
-TEST_F(ButtonTest, TitleStylesShiftTheirUnderlines) {
-    open(button_, 320, 60);
-    const COLORREF sun = RGB(0, 255, 0);
-    const COLORREF shadow = RGB(255, 0, 255);
-    // Only the underline is left of a title without a text.
-    const struct {
-        const char* style;
-        COLORREF colour;
-        int row, first, last; // the row above the inner lower edge, the columns from the inner left one
-    } rows[] = {{":TITLESTYLE=PLAIN", yellow, 1, 0, 200},  {":TITLESTYLE=BOLD", yellow, 1, 0, 201},
-                {":TITLESTYLE=OUTSET", sun, 2, -1, 199},   {":TITLESTYLE=OUTSET", shadow, 0, 1, 201},
-                {":TITLESTYLE=OUTSET", yellow, 1, 0, 200}, {":TITLESTYLE=INSET", shadow, 2, -1, 199},
-                {":TITLESTYLE=INSET", sun, 0, 1, 201},     {":TITLESTYLE=INSET", yellow, 1, 0, 200}};
-    for (const auto& row : rows) {
-        script({":TITLE=", ":CLRSUN=GREEN", ":CLRSHADOW=MAGENTA", ":BORDERHEIGHT=0", row.style});
-        Tcbtn_properties p = properties();
-        p.underline = 1;
+// Every part of a button in turn, each on a small one, on a large one, and after a press.
+TEST_F(ButtonTest, ShowsEveryProperty) {
+    open(button_, 0, 0);
+    const Tcbtn_properties made = properties();
+    int shown = 0;
+    const auto check = [&](const Tcbtn_properties& p, const char* what, int value) {
+        const CSize sizes[] = {{64, 36}, {240, 50}, {9, 7}, {1, 1}};
+        button_.MoveWindow(0, 0, sizes[shown % 4].cx, sizes[shown % 4].cy);
+        ++shown;
         button_.setproperties(&p);
-        const Pixels shown = pixels_of(button_);
-        const int x = 1, y = 59 - (1 + row.row); // the inner rectangle begins at 1, 1
-        EXPECT_EQ(shown.at(x + row.first, y), row.colour) << row.style;
-        EXPECT_EQ(shown.at(x + row.last, y), row.colour) << row.style;
-        EXPECT_EQ(shown.at(x + row.last + 1, y), dark_blue) << row.style;
-    }
+        full_repaint(button_);
+        const Pixels pixels = pixels_of(button_);
+        if (p.visible)
+            EXPECT_EQ(pixels.values, ButtonReference(pixels.width, pixels.height, p).pixels()) << what << ' ' << value;
+    };
+    const auto vary = [&](const char* what, auto field, std::initializer_list<int> values) {
+        for (const int value : values)
+            for (int size = 0; size < 4; ++size) {
+                Tcbtn_properties p = made;
+                p.clrborder = 6, p.clrsun = 4, p.clrshadow = 5, p.underline = shown % 3 == 0, p.frame = shown % 2;
+                p.*field = static_cast<std::remove_reference_t<decltype(p.*field)>>(value);
+                check(p, what, value);
+            }
+    };
+    using P = Tcbtn_properties;
+    vary("type", &P::bordertype, {0, 1, 2, 3});
+    vary("sides", &P::borderstyle, {0, 1, 2, 4, 8, 3, 12, 7, 14, 15});
+    vary("height", &P::borderheight, {0, 1, 5});
+    vary("style", &P::titlestyle, {0, 1, 2, 3, 4, 255});
+    vary("align", &P::align, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 255});
+    vary("back", &P::clrback, {0, 1, 9});
+    vary("text", &P::clrtext, {0, 1, 15});
+    vary("frame", &P::frame, {0, 1});
+    vary("visible", &P::visible, {0, 1});
 }
 
 TEST_F(ButtonTest, PressMovesThePictureAndReleaseBringsItBack) {

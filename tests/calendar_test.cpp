@@ -93,6 +93,21 @@ TEST_F(CalendarTest, ScrollsByWeeks) {
     expect_shown(shown);
 }
 
+TEST_F(CalendarTest, ShowsTheDateThatIsSet) {
+    const Days set = today_ + weeks(70);
+    const CTime noon((set.time_since_epoch().count() * 24 + 12) * 3600);
+    drag(WM_LBUTTONDOWN, 60);
+    drag(WM_MOUSEMOVE, 125);
+    EXPECT_TRUE(calendar_.SetShownDate(noon));
+    EXPECT_EQ(::GetCapture(), nullptr);
+    calendar_.UpdateWindow();
+    expect_shown(set);
+    EXPECT_EQ(calendar_.GetShownDate().GetTime(), noon.GetTime());
+    EXPECT_FALSE(calendar_.SetShownDate(CTime(-1)) || calendar_.SetShownDate(CTime(LLONG_MAX)) ||
+                 CWntCalendar().SetShownDate(noon));
+    EXPECT_EQ(calendar_.GetShownDate().GetTime(), noon.GetTime());
+}
+
 TEST_F(CalendarTest, DragsInTheMonthColumn) {
     const auto expect_dragged = [this](UINT message, int y, int shown) {
         drag(message, y);
@@ -166,7 +181,8 @@ TEST_F(CalendarTest, StaysUsableBeyondItsDates) {
         EXPECT_FALSE(::GetUpdateRect(calendar_.m_hWnd, nullptr, FALSE));
         EXPECT_EQ(pixels_of(calendar_).at(200, 100), CalendarReference::grey);
         calendar_.SendMessage(WM_COMMAND, 105);
-        EXPECT_EQ(program.boxes.size(), boxes); // told, not followed
+        ASSERT_EQ(program.boxes.size(), boxes); // told, not followed
+        EXPECT_THAT(program.boxes.back(), testing::HasSubstr("1970"));
     };
     for (int i = 0; i < weeks_since_1970 + 3; ++i)
         calendar_.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(150, 5));

@@ -8,6 +8,60 @@ namespace {
 constexpr int surface_id = 100;
 constexpr int list_id = 101;
 
+/// The surface of a selector drawn by its rules with plain GDI calls.
+class SelectorReference {
+public:
+    SelectorReference(CSize surface, CSize panel, const std::vector<DWORD>& palette, bool edged)
+        : picture_(surface.cx, surface.cy), panel_(panel), palette_(palette),
+          cell_(panel.cx / 8, panel.cy / (static_cast<int>(palette.size()) / 8 + 1)), m_(edged ? cell_.cx / 8 : 0) {
+        const int w = panel.cx - 1, h = panel.cy - 1;
+        box(0, 0, w, h, ::GetSysColor(COLOR_BTNFACE));
+        for (int i = 0; i < static_cast<int>(palette.size()) / 8 * 8; ++i) {
+            const int x = i % 8 * cell_.cx + m_, y = panel.cy - (i / 8 + 2) * cell_.cy + m_;
+            box(x, y, cell_.cx - 2 * m_, cell_.cy - 2 * m_, palette[i]);
+            if (m_ > 0)
+                edge(x, y, cell_.cx - 2 * m_, cell_.cy - 2 * m_, true);
+        }
+        edge(0, 0, w, h, false);
+    }
+
+    void sample(int left, int right, int colour) {
+        const int x = left + m_, y = panel_.cy - cell_.cy + m_, w = right - m_ - x, h = cell_.cy - 1 - 2 * m_;
+        box(x, y, w, h, palette_[colour]);
+        edge(x, y, w, h, true);
+    }
+    void hovered(int colour) { sample(0, cell_.cx, colour); }
+    void selected(int colour, bool hover) { sample(hover ? cell_.cx : 0, panel_.cx - 1, colour); }
+
+    std::vector<COLORREF> pixels() const { return picture_.values(); }
+
+private:
+    // Positions count upwards; both corners belong to a box.
+    void fill(int x, int y, int w, int h, COLORREF colour) {
+        const int height = picture_.height();
+        const RECT device = {x, height - 1 - y - h, x + w + 1, height - y};
+        const HBRUSH brush = ::CreateSolidBrush(colour);
+        ::FillRect(picture_.dc(), &device, brush);
+        ::DeleteObject(brush);
+    }
+    void box(int x, int y, int w, int h, COLORREF colour) {
+        fill(x, y, w, h, palette_[0]);
+        fill(x + 1, y + 1, w - 2, h - 2, colour);
+    }
+    void edge(int x, int y, int w, int h, bool raised) {
+        const COLORREF light = ::GetSysColor(raised ? COLOR_3DHIGHLIGHT : COLOR_3DDKSHADOW);
+        const COLORREF dark = ::GetSysColor(raised ? COLOR_3DDKSHADOW : COLOR_3DHIGHLIGHT);
+        fill(x, y, 0, h, light), fill(x, y + h, w, 0, light);
+        fill(x + w, y, 0, h, dark), fill(x, y, w, 0, dark);
+    }
+
+    Picture picture_;
+    CSize panel_;
+    std::vector<DWORD> palette_;
+    CSize cell_;
+    int m_;
+};
+
 class ColorSelTest : public WidgetTest {
 protected:
     void SetUp() override {
@@ -44,10 +98,52 @@ TEST_F(ColorSelTest, ShowsThePaletteAndTellsPicks) {
     EXPECT_EQ(pick(50, 10), -1); // the strip
     const auto told = testing::FieldsAre(selector_.m_hWnd, 1u, 1u);
     EXPECT_THAT(host_.notified, testing::ElementsAre(told, told, told));
+    selector_.SetColorPalette(nullptr, 16);
+    DWORD table[] = {0};
+    selector_.SetColorPalette(table, 0);
+    selector_.SetColorPalette(table, -1); // none of these takes the palette away
+    full_repaint(selector_);
     EXPECT_EQ(pick(130, 45), 6);
     EXPECT_EQ(pixels_of(selector_).at(80, 15), RGB(255, 0, 0)); // the sample
     selector_.SetSelectedColor(5);
     EXPECT_EQ(selector_.GetSelectedColorID(), 6);
+}
+
+TEST_F(ColorSelTest, EveryPixelFollowsItsSettings) {
+    std::vector<DWORD> colours;
+    for (int i = 0; i < 43; ++i) // three of them are not shown
+        colours.push_back(RGB(6 * i, 255 - 5 * i, 90 * i % 256));
+    selector_.SetColorPalette(colours.data(), 43);
+    char name[] = "item";
+    char* names[] = {name};
+    int item = 0;
+    for (int mode = 0; mode < 16; ++mode) {
+        const bool edged = mode & 1, hover = mode & 2, sliders = mode & 4, items = mode & 8;
+        selector_.Set3DCells(edged);
+        selector_.SetHoverSample(hover);
+        selector_.ShowSliders(sliders);
+        selector_.SetColorItems(items ? names : nullptr, &item, 1);
+        const CSize whole(335, 205);
+        selector_.MoveWindow(0, 0, whole.cx, whole.cy);
+        const int left = sliders ? 60 : 0;
+        const CSize surface(items ? (whole.cx - left) / 2 : whole.cx - left, whole.cy);
+        const CSize panel(items ? whole.cx / 2 : whole.cx, whole.cy);
+        point_at(panel.cx / 8 * 3 + 5, panel.cy / 6 * 2 + 5); // the fourth of the second row
+        selector_.SetSelectedColorID(17);
+        full_repaint(selector_);
+        CWnd* shown = selector_.GetDlgItem(surface_id);
+        CRect place;
+        shown->GetWindowRect(&place);
+        selector_.ScreenToClient(&place);
+        EXPECT_EQ(place, CRect(CPoint(left, 0), surface)) << mode;
+        SelectorReference expected(surface, panel, colours, edged);
+        if (hover)
+            expected.hovered(8 + 3);
+        expected.selected(17, hover);
+        EXPECT_EQ(pixels_of(*shown).values, expected.pixels()) << mode;
+        for (int i = 0; i < 3; ++i)
+            EXPECT_EQ(selector_.GetDlgItem(102 + i)->IsWindowVisible() != 0, sliders) << mode;
+    }
 }
 
 TEST_F(ColorSelTest, ItemsTakeThePickedColour) {
@@ -62,6 +158,10 @@ TEST_F(ColorSelTest, ItemsTakeThePickedColour) {
     selector_.GetDlgItem(list_id)->GetWindowRect(&list);
     selector_.ScreenToClient(&list);
     EXPECT_EQ(list, CRect(80, 0, 160, 90));
+
+    LOGFONT font = {};
+    ::GetObject(reinterpret_cast<HFONT>(selector_.GetDlgItem(list_id)->SendMessage(WM_GETFONT)), sizeof font, &font);
+    EXPECT_EQ(font.lfHeight, -11); // 8 points at 96 dots an inch, as a surface shows them
 
     full_repaint(selector_);
     selector_.GetDlgItem(list_id)->SendMessage(LB_SETCURSEL, 1); // "cherry" after sorting, but the second item

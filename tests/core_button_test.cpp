@@ -1,4 +1,4 @@
-#include "widgets/button_model.h"
+#include "widgets/button/button_model.h"
 
 #include <gtest/gtest.h>
 

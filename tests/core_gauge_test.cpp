@@ -1,4 +1,4 @@
-#include "widgets/gauge_scale.h"
+#include "widgets/gauge/gauge_scale.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "even_meter.h"
-#include "widgets/supersample.h"
-#include "widgets/views/view_parts.h"
+#include "widgets/painting/supersample.h"
+#include "widgets/gauge/views/view_parts.h"
 
 #include <gmock/gmock.h>
 

@@ -1,5 +1,6 @@
 // Memory shared with another process, the splash, the error box and the file choice.
 #include "modal.h"
+#include "quiet_program.h"
 #include "pixels.h"
 #include "resource_file.h"
 
@@ -201,8 +202,9 @@ TEST_F(SplashTest, GoesWhenItsTimeIsUpWhileOthersStay) {
     late->DestroyWindow();
 }
 
-TEST(ErrorBox, ShowsItsThreeTextsOnTheWindowColour) {
-    CWntErrorBox box("Title & more", "The message", "Detail 1\r\nDetail 2");
+// What the box shows in its controls, an end after each.
+std::string shown_by(
+    CWntErrorBox&& box, const std::function<void(HWND)>& look = [](HWND) {}) {
     std::string texts;
     WhileModal modal([&] {
         if (!box.m_hWnd)
@@ -211,32 +213,51 @@ TEST(ErrorBox, ShowsItsThreeTextsOnTheWindowColour) {
             CString text;
             box.GetDlgItemText(id, text);
             texts += text + "|";
-            CClientDC dc(box.GetDlgItem(id));
-            box.SendMessage(WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc.m_hDC),
-                            reinterpret_cast<LPARAM>(::GetDlgItem(box, id)));
-            EXPECT_EQ(dc.GetBkColor() == ::GetSysColor(COLOR_WINDOW), id != IDOK) << id;
+            look(::GetDlgItem(box, id));
         }
         box.PostMessage(WM_COMMAND, IDOK);
         return true;
     });
     EXPECT_EQ(box.DoModal(), IDOK);
-    EXPECT_EQ(texts, "Title & more|The message|Detail 1\r\nDetail 2|OK|");
+    return texts;
+}
+
+TEST(ErrorBox, ShowsItsThreeTextsOnTheWindowColour) {
+    const auto on_ground = [](HWND control) {
+        CClientDC dc(CWnd::FromHandle(control));
+        ::SendMessage(::GetParent(control), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc.m_hDC),
+                      reinterpret_cast<LPARAM>(control));
+        EXPECT_EQ(dc.GetBkColor() == ::GetSysColor(COLOR_WINDOW), ::GetDlgCtrlID(control) != IDOK);
+    };
+    EXPECT_EQ(shown_by(CWntErrorBox("Title & more", "The message", "Detail 1\r\nDetail 2"), on_ground),
+              "Title & more|The message|Detail 1\r\nDetail 2|OK|");
+}
+
+TEST(ErrorBox, BreaksEndlessWords) {
+    const CString endless('x', 200'000); // kept the box from appearing for a minute
+    std::string shown = shown_by(CWntErrorBox(endless, "message", endless));
+    EXPECT_EQ(std::count(shown.begin(), shown.end(), 'x'), 400'000);
+    EXPECT_EQ(shown.find(std::string(1001, 'x')), std::string::npos);
+    EXPECT_NE(shown.find("|message|"), std::string::npos);
 }
 
 TEST(FileSel, OpensInTheMiddleOfItsParent) {
     CWnd host;
     ASSERT_TRUE(host.CreateEx(0, nullptr, "host", WS_POPUP | WS_VISIBLE, CRect(200, 100, 1000, 700), nullptr, 0));
-    CWntFileSel choice(TRUE, "dll", "ZOPWNT.dll", OFN_FILEMUSTEXIST, "Libraries|*.dll||", &host);
-    CRect place;
-    WhileModal modal([&] {
-        if (!choice.m_hWnd || !::IsWindowVisible(::GetParent(choice.m_hWnd)))
-            return false;
-        ::GetWindowRect(::GetParent(choice.m_hWnd), &place);
-        ::PostMessage(::GetParent(choice.m_hWnd), WM_COMMAND, IDOK, 0);
-        return true;
-    });
-    EXPECT_EQ(choice.DoModal(), IDOK);
-    EXPECT_EQ(choice.GetFileName(), "ZOPWNT.dll");
-    EXPECT_NEAR(place.CenterPoint().x, 600, 2);
-    EXPECT_NEAR(place.CenterPoint().y, 400, 2);
+    // The system takes a row out of the dialog for the default flags, after it has been placed.
+    for (const DWORD flags : {DWORD{OFN_FILEMUSTEXIST}, DWORD{OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT}}) {
+        CWntFileSel choice(TRUE, "dll", "ZOPWNT.dll", flags, "Libraries|*.dll||", &host);
+        CRect place;
+        WhileModal modal([&] {
+            if (!choice.m_hWnd || !::IsWindowVisible(::GetParent(choice.m_hWnd)))
+                return false;
+            ::GetWindowRect(::GetParent(choice.m_hWnd), &place);
+            ::PostMessage(::GetParent(choice.m_hWnd), WM_COMMAND, IDOK, 0);
+            return true;
+        });
+        EXPECT_EQ(choice.DoModal(), IDOK);
+        EXPECT_EQ(choice.GetFileName(), "ZOPWNT.dll");
+        EXPECT_NEAR(place.CenterPoint().x, 600, 2);
+        EXPECT_NEAR(place.CenterPoint().y, 400, 2);
+    }
 }

@@ -1,7 +1,7 @@
 // A face of even width: layout is judged without a device.
 #pragma once
 
-#include "widgets/views/gauge_view.h"
+#include "widgets/gauge/views/gauge_view.h"
 
 #include <cmath>
 

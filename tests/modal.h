@@ -1,7 +1,7 @@
 // Tests that run modal dialogs.
 #pragma once
 
-#include "quiet_program.h"
+#include <windows.h>
 
 #include <functional>
 #include <utility>

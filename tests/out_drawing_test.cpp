@@ -50,6 +50,9 @@ TEST_F(SurfaceTest, LinesAndBoxesCoverTheirPixels) {
         {"hline, vline", [](CWntOut& o) { o.hline(4, 0, -3), o.vline(5, 3, -2); }, ".....L\n.....L\n.....L\n.LLLL.\n"},
         {"boxr0", [](CWntOut& o) { o.boxr0(1, 0, 3, 2); }, "......\n.LLLL.\n.L..L.\n.LLLL.\n"},
         {"boxr1 backwards", [](CWntOut& o) { o.boxr1(4, 3, -3, -2); }, ".LLLL.\n.LFFL.\n.LLLL.\n......\n"},
+        {"boxes of one pixel, row, column",
+         [](CWntOut& o) { o.boxr0(0, 0, 0, 0), o.boxr1(0, 2, 0, 0), o.boxr0(2, 0, 0, 3), o.boxa1(3, 1, 5, 1); },
+         "..L...\nL.L...\n..LLLL\nL.L...\n"},
         {"boxa1", [](CWntOut& o) { o.boxa1(5, 0, 2, 3); }, "..LLLL\n..LFFL\n..LFFL\n..LLLL\n"},
         {"boxa2, one pixel", [](CWntOut& o) { o.boxa2(3, 2, 3, 2); }, "......\n...F..\n......\n......\n"},
         {"crosslines", [](CWntOut& o) { o.crosslines(pairs, 2, 2); }, ".LLLL.\n......\n......\nLLLL..\n"},
@@ -69,6 +72,25 @@ TEST_F(SurfaceTest, LinesAndBoxesCoverTheirPixels) {
     };
     for (const auto& c : cases)
         EXPECT_EQ(drawn(6, 4, c.draw), c.expected) << c.name;
+}
+
+TEST_F(SurfaceTest, LinesOfEveryStyleReachBothEnds) {
+    const auto dashes = [](HDC dc, int x1, int y1, int x2, int y2) { // without the last pixel
+        ::MoveToEx(dc, x1, y1, nullptr);
+        ::LineTo(dc, x2, y2);
+    };
+    for (int style = 0; style < 8; ++style)
+        for (int length = 0; length < 60; ++length) {
+            Picture ours(70, 70), plain(70, 70);
+            const auto end = length % 2 ? CPoint(3 + length, 5) : CPoint(3 + length / 2, 5 + length);
+            paint(ours, [&](CWntOut& o) { o.linecolour(green, style), o.line(3, 5, end.x, end.y); });
+            paint(plain, [&](CWntOut& o) {
+                o.linecolour(green, style);
+                dashes(o.dc, 3, 69 - 5, end.x, 69 - end.y);
+                ::SetPixelV(o.dc, end.x, 69 - end.y, green);
+            });
+            ASSERT_EQ(ours.values(), plain.values()) << "style " << style << ", length " << length;
+        }
 }
 
 TEST_F(SurfaceTest, PolygonsAreEvenOddAndLeaveTheArrayAsItWas) {

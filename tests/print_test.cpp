@@ -1,5 +1,6 @@
 // Pages that reach the default printer, looked at as pictures.
 #include "modal.h"
+#include "quiet_program.h"
 #include "pixels.h"
 
 #include <fstream>

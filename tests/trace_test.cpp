@@ -87,6 +87,7 @@ TEST_F(TraceTest, LinesGoToTheOpenStream) {
     trace.Trace(3, "indented %d", 7);
     trace.Trace("\n");
     trace.Trace(-2, "outdented\n");
+    trace.Trace(600, "deep\n");
     trace.SetFlags(0);
     trace.Trace("lost\n");
     trace.SetFlags(1);
@@ -94,7 +95,8 @@ TEST_F(TraceTest, LinesGoToTheOpenStream) {
     trace.DestroyWindow();
     EXPECT_EQ(trace.stream(), nullptr);
     const std::string text = text_of(file);
-    const std::string written = "plain text\r\n      indented 7\r\noutdented\r\nlast\r\n";
+    const std::string written =
+        "plain text\r\n      indented 7\r\noutdented\r\n" + std::string(1200, ' ') + "deep\r\nlast\r\n";
     EXPECT_THAT(text, StartsWith(written + hyphens + "\r\nended at "));
     EXPECT_THAT(text, EndsWith("\r\nEnd of Trace\r\n\r\n"));
     EXPECT_EQ(text_of("trace.txt") + text_of("Wtrace.txt"), "");

@@ -1,5 +1,6 @@
 // What files tell about their versions, and the sheet that shows it.
 #include "modal.h"
+#include "quiet_program.h"
 #include "pixels.h"
 #include "resource_file.h"
 
@@ -151,6 +152,8 @@ TEST(VersionSheet, ShowsTheComponents) {
         const auto rows = rows_of(window, 1001);
         EXPECT_EQ(AfxGetResourceHandle(), ::GetModuleHandle(nullptr)); // the host's again
         ASSERT_EQ(rows.size(), 9u);
+        constexpr int apply_button = 0x3021;
+        EXPECT_FALSE(::IsWindowVisible(::GetDlgItem(window, apply_button)));
         std::string images;
         for (const Texts& row : rows)
             images += row[0];

@@ -5,6 +5,7 @@
 
 #include "bitmap_files.h"
 #include "modal.h"
+#include "quiet_program.h"
 #include "pixels.h"
 #include "resource_file.h"
 #include "temporary_file.h"
@@ -144,6 +145,58 @@ TEST(WntBitmap, MapsItsColoursToAPalette) {
     EXPECT_THAT(Bytes(bits, bits + 80), testing::Each(testing::Lt(3)));
 }
 
+// Two pixels, red and green, by masks that are not the usual ones; from a file, and from a header with them.
+TEST(WntBitmap, ReadsBitFieldsByTheirMasks) {
+    const struct {
+        int bits;
+        std::vector<std::uint32_t> masks;
+        Bytes pixels;
+    } cases[] = {{16, {0x001F, 0x07E0, 0xF800}, {0x1F, 0, 0xE0, 0x07}},
+                 {32, {0x0000FF00, 0x00FF0000, 0xFF000000}, {0, 255, 0, 0, 0, 0, 255, 0}}};
+    for (const auto& c : cases) {
+        Bytes bytes = BitmapFile{c.bits, 2, 1}.bytes();
+        bytes.resize(54);
+        bytes[2] = bytes[10] = 54 + 12;
+        bytes[2] += static_cast<std::uint8_t>(c.pixels.size());
+        bytes[30] = BI_BITFIELDS;
+        for (const std::uint32_t mask : c.masks)
+            BitmapFile::put(bytes, mask, 4);
+        bytes.insert(bytes.end(), c.pixels.begin(), c.pixels.end());
+        CWntBitmap loaded, placed;
+        ASSERT_TRUE(loaded.Load(TemporaryFile(bytes).name()));
+        ASSERT_TRUE(placed.Create(loaded.GetBitmapInfoAddress(), loaded.GetBitsAddress()));
+        EXPECT_EQ(loaded.GetNumClrEntries(), 0u);
+        for (CWntBitmap* bitmap : {&loaded, &placed}) {
+            Picture picture(2, 1);
+            bitmap->Draw(CDC::FromHandle(picture.dc()), 0, 0);
+            EXPECT_THAT(picture.values(), ElementsAre(RGB(255, 0, 0), RGB(0, 255, 0))) << c.bits;
+        }
+    }
+}
+
+// Rows that a file promises and does not hold are drawn as zeros, whatever the promise.
+TEST(WntBitmap, DrawsTheRowsThatAFileGave) {
+    const TemporaryFile disk;
+    for (const int height : {4, -4, 400'000'000, -400'000'000}) {
+        const BitmapFile two_rows{8, 4, 2};
+        Bytes bytes = two_rows.bytes();
+        for (int i = 0; i < 4; ++i)
+            bytes[22 + i] = static_cast<std::uint8_t>(static_cast<std::uint32_t>(height) >> 8 * i);
+        disk.write(bytes);
+        CWntBitmap bitmap;
+        ASSERT_TRUE(bitmap.Load(disk.name()));
+        Picture picture(4, 4);
+        bitmap.Draw(CDC::FromHandle(picture.dc()), 0, 0, 4, 4);
+        for (int y = 0; y < 4; ++y) { // from below
+            const int row = height > 0 ? y : 3 - y;
+            const bool given = std::abs(height) == 4 && row < 2;
+            const COLORREF zero = BitmapFile::colour_byte(0, 0) << 16 | BitmapFile::colour_byte(0, 1) << 8 |
+                                  BitmapFile::colour_byte(0, 2);
+            EXPECT_EQ(picture.at(1, y), given ? two_rows.colour_at(1, row) : zero) << height << ' ' << y;
+        }
+    }
+}
+
 // Behind compressed pixels of the caller's may be anything: they are as long as the header says, or not known.
 TEST(WntBitmap, EndsWhereRunLengthsInPlaceEnd) {
     BYTE runs[] = {40, 1, 0, 1, 7, 7, 7, 7};
@@ -246,6 +299,7 @@ TEST(BitmapPalette, LoadsAndSavesPaletteFiles) {
             ASSERT_TRUE(palette.Load(&file));
         }
         EXPECT_EQ(live_gdi_objects(), before + 1); // each replaces the one before
+        EXPECT_EQ(file.GetPosition(), bytes.size());
         EXPECT_TRUE(palette.GetNumColors() == count && colour_of(palette, count - 1) == colour_of(count - 1));
         file.SetLength(static_cast<ULONGLONG>(start));
         file.Seek(start, CFile::begin);
@@ -294,7 +348,9 @@ TEST(BitmapPalette, DrawsItsCells) {
     ASSERT_TRUE(palette.Load(TemporaryFile(PaletteFile().bytes()).name()));
     palette.Draw(nullptr, rect, TRUE);
     EXPECT_EQ(picture.ink(ground).right, -1);
+    HGDIOBJ host_pen = ::SelectObject(picture.dc(), ::GetStockObject(WHITE_PEN));
     palette.Draw(CDC::FromHandle(picture.dc()), rect, TRUE);
+    EXPECT_EQ(::SelectObject(picture.dc(), host_pen), ::GetStockObject(WHITE_PEN));
     for (int i = 0; i < 256; ++i) {
         const int x = 4 + i % 16 * 10;
         const int y = 164 - (2 + i / 16 * 10);

@@ -50,8 +50,8 @@ namespace {
 class ChartWindow : public CWnd {
 protected:
     afx_msg void OnAxisDoubleClick(NMHDR*, LRESULT* result) {
-        const int step = axis_.QueryDoubleclickedItem(); // of a text axis; may lie behind the last label
-        if (step < label_count_)
+        const int step = axis_.QueryDoubleclickedItem(); // of a text axis; may lie outside the labels
+        if (step >= 0 && step < label_count_)
             selected_ = step;
         *result = 0;
     }

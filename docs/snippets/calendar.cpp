@@ -5,6 +5,7 @@ void calendar_snippets(CWnd* parent) {
     static CWntCalendar calendar;
     calendar.Create(nullptr, "Calendar", WS_CHILD | WS_VISIBLE, CRect(10, 10, 310, 210), parent, 4);
     calendar.SendMessage(WM_COMMAND, 106); // jumps to June
+    calendar.SetShownDate(CTime(2027, 3, 1, 12, 0, 0));
     //! [host]
 }
 
@@ -13,14 +14,14 @@ namespace {
 //! [years]
 /// Follows the menu of years, which the calendar leaves to derived classes.
 class YearCalendar : public CWntCalendar {
-public:
-    int years_from_shown = 0; // -3 to 6
-
 protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
         const int command = LOWORD(wParam);
-        if (command >= 200 && command <= 209)
-            years_from_shown = command - 203;
+        if (command >= 200 && command <= 209) {
+            const CTime shown = GetShownDate();
+            // Noon of a day that every month has.
+            SetShownDate(CTime(shown.GetYear() + command - 203, shown.GetMonth(), 1, 12, 0, 0));
+        }
         return CWntCalendar::OnCommand(wParam, lParam);
     }
 };

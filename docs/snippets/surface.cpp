@@ -27,7 +27,7 @@ protected:
         out_.line(0, 0, out_.xmax, out_.ymax);
         out_.settext(0, 0, 0, 15, 0, 0); // 9 points
         char title[] = "Inflow";
-        out_.chars(8, out_.ymax - 8, title, 4); // top left
+        out_.chars(8, out_.ymax - 8 - out_.fontsize / 10, title, 4); // its top 8 pixels below the window's
         out_.endpaint();
     }
     afx_msg void OnDestroy() {

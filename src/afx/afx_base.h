@@ -36,7 +36,11 @@
 #define AFXAPI __stdcall
 #define AFX_CDECL __cdecl
 #define afx_msg
+#ifdef __clang__
+#define AFX_PRINTF(text, first) __attribute__((format(printf, text, first)))
+#else
 #define AFX_PRINTF(text, first) __attribute__((format(gnu_printf, text, first)))
+#endif
 
 // Words of older sources that have no meaning on this platform.
 #define BASED_CODE

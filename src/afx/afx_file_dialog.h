@@ -32,6 +32,10 @@ public:
     OPENFILENAME m_ofn;
 
 protected:
+    // The dialog has its final size.
+    virtual void OnInitDone();
+    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
+
     BOOL m_bOpenFileDialog;
     CString m_strFilter;
     char m_szFileTitle[MAX_PATH] = "";

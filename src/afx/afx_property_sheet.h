@@ -18,10 +18,20 @@ public:
 
     PROPSHEETPAGE m_psp; // hInstance set: the template is that module's, whatever the resource chain holds
 
+    // FALSE keeps what the sheet was asked to leave: another page, its end. Leaving a page and applying take its data
+    // over; OnApply calls OnOK.
+    virtual BOOL OnSetActive();
+    virtual BOOL OnKillActive();
+    virtual BOOL OnApply();
+    virtual void OnReset();
+    virtual BOOL OnQueryCancel();
+    void SetModified(BOOL bChanged = TRUE);
+
 protected:
     // The sheet's buttons end the sheet; a page has none of its own.
-    void OnOK() override {}
-    void OnCancel() override {}
+    void OnOK() override;
+    void OnCancel() override;
+    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
 private:
     friend class CPropertySheet;
@@ -40,6 +50,7 @@ public:
     explicit CPropertySheet(LPCTSTR pszCaption, CWnd* pParentWnd = nullptr, UINT iSelectPage = 0);
 
     void AddPage(CPropertyPage* pPage) { m_pages.push_back(pPage); }
+    int GetActiveIndex() const { return PropSheet_HwndToIndex(m_hWnd, PropSheet_GetCurrentPageHwnd(m_hWnd)); }
     int GetPageCount() const { return static_cast<int>(m_pages.size()); }
 
     // IDOK or IDCANCEL, or -1 where the sheet cannot be created. The pages' templates are looked up before any window

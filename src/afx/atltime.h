@@ -12,6 +12,10 @@ public:
     __time64_t GetTime() const { return m_time; }
     // Null, without the record filled, for a moment that has no local time.
     struct tm* GetLocalTm(struct tm* ptm) const;
+    // 0 for a moment that has no local time.
+    int GetYear() const;
+    int GetMonth() const; // from 1
+    int GetDay() const;   // from 1
     // As strftime, in local time; an empty text where nothing can be shown.
     CString Format(LPCTSTR pszFormat) const;
 

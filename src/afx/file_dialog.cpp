@@ -55,6 +55,19 @@ UINT_PTR CALLBACK CFileDialog::HookProc(HWND hwnd, UINT message, WPARAM wParam, 
     }
 }
 
+void CFileDialog::OnInitDone() {
+    GetParent()->CenterWindow();
+}
+
+BOOL CFileDialog::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
+    if (CCommonDialog::OnNotify(wParam, lParam, pResult))
+        return TRUE;
+    if (reinterpret_cast<const NMHDR*>(lParam)->code != CDN_INITDONE)
+        return FALSE;
+    OnInitDone();
+    return TRUE;
+}
+
 CString CFileDialog::GetPathName() const {
     return m_ofn.lpstrFile;
 }

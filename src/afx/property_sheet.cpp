@@ -44,6 +44,64 @@ BOOL CPropertyPage::PreTranslateMessage(MSG* pMsg) {
     return CWnd::PreTranslateMessage(pMsg); // the sheet's keys and tab order include the page's
 }
 
+BOOL CPropertyPage::OnSetActive() {
+    UpdateData(FALSE);
+    return TRUE;
+}
+
+BOOL CPropertyPage::OnKillActive() {
+    return UpdateData();
+}
+
+BOOL CPropertyPage::OnApply() {
+    OnOK();
+    return TRUE;
+}
+
+void CPropertyPage::OnReset() {
+    OnCancel();
+}
+
+BOOL CPropertyPage::OnQueryCancel() {
+    return TRUE;
+}
+
+void CPropertyPage::OnOK() {}
+
+void CPropertyPage::OnCancel() {}
+
+void CPropertyPage::SetModified(BOOL bChanged) {
+    if (CWnd* sheet = GetParent())
+        sheet->SendMessage(bChanged ? PSM_CHANGED : PSM_UNCHANGED, reinterpret_cast<WPARAM>(m_hWnd));
+}
+
+BOOL CPropertyPage::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
+    const auto* header = reinterpret_cast<const NMHDR*>(lParam);
+    if (CDialog::OnNotify(wParam, lParam, pResult))
+        return TRUE;
+    if (header->hwndFrom != ::GetParent(m_hWnd))
+        return FALSE;
+    switch (header->code) {
+    case PSN_SETACTIVE:
+        *pResult = OnSetActive() ? 0 : -1;
+        return TRUE;
+    case PSN_KILLACTIVE:
+        *pResult = !OnKillActive();
+        return TRUE;
+    case PSN_APPLY:
+        *pResult = OnApply() ? PSNRET_NOERROR : PSNRET_INVALID_NOCHANGEPAGE;
+        return TRUE;
+    case PSN_RESET:
+        OnReset();
+        return TRUE;
+    case PSN_QUERYCANCEL:
+        *pResult = !OnQueryCancel();
+        return TRUE;
+    default:
+        return FALSE;
+    }
+}
+
 CPropertySheet::CPropertySheet(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage)
     : CPropertySheet(MAKEINTRESOURCE(nIDCaption), pParentWnd, iSelectPage) {}
 

@@ -25,6 +25,21 @@ tm* CTime::GetLocalTm(tm* ptm) const {
     return ptm != nullptr && _localtime64_s(ptm, &m_time) == 0 ? ptm : nullptr;
 }
 
+int CTime::GetYear() const {
+    tm fields{};
+    return GetLocalTm(&fields) != nullptr ? fields.tm_year + 1900 : 0;
+}
+
+int CTime::GetMonth() const {
+    tm fields{};
+    return GetLocalTm(&fields) != nullptr ? fields.tm_mon + 1 : 0;
+}
+
+int CTime::GetDay() const {
+    tm fields{};
+    return GetLocalTm(&fields) != nullptr ? fields.tm_mday : 0;
+}
+
 CString CTime::Format(LPCTSTR pszFormat) const {
     tm fields{};
     char text[256];

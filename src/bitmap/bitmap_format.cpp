@@ -114,6 +114,10 @@ std::uint32_t bitmap_colours(const BitmapHeader& header) {
     return indexed == 0 ? header.colours_used : std::min(header.colours_used, indexed);
 }
 
+std::uint32_t colour_masks(const BitmapHeader& header) {
+    return header.compression == bit_fields && (header.bits == 16 || header.bits == 32) ? 3 : 0;
+}
+
 std::int32_t row_count(std::int32_t height) {
     return height < 0 ? -std::max(height, -std::numeric_limits<std::int32_t>::max()) : height;
 }
@@ -130,6 +134,16 @@ std::optional<std::uint64_t> placed_bytes(const BitmapHeader& header) {
     if (header.compression == uncompressed || header.compression == bit_fields)
         return drawn_bytes(header);
     return header.width < 1 || header.height == 0 ? 0 : header.image_size;
+}
+
+std::int32_t rows_within(const BitmapHeader& header, std::uint64_t bytes) {
+    const std::int32_t rows = row_count(std::abs(row_count(header.height)));
+    const auto padded = padded_bytes(header);
+    if (!padded || bytes >= *padded || (header.compression != uncompressed && header.compression != bit_fields))
+        return rows;
+    const std::uint64_t row = *padded / rows_of(header);
+    return static_cast<std::int32_t>(
+        std::min<std::uint64_t>((bytes + row - 1) / row, static_cast<std::uint32_t>(rows)));
 }
 
 HeapBytes header_block(std::uint64_t colours) {
@@ -172,7 +186,7 @@ bool read_bitmap_head(BitmapSource& source, BitmapHead& head) {
     const std::uint32_t entry_bytes = file.type == bitmap_mark ? read_header(source, header) : 0;
     if (entry_bytes == 0)
         return false;
-    const std::uint64_t colours = bitmap_colours(header);
+    const std::uint64_t colours = std::uint64_t{colour_masks(header)} + bitmap_colours(header);
     const std::uint64_t table_bytes = colours * entry_bytes;
     if (table_bytes > source.remaining() || table_bytes > std::numeric_limits<std::uint32_t>::max())
         return false;
@@ -191,6 +205,7 @@ bool read_bitmap_pixels(BitmapSource& source, const BitmapHead& head, BitmapPixe
     source.seek(head.pixel_offset);
     if (count > source.remaining())
         return false;
+    pixels.given = count;
     pixels.size = std::max<std::uint64_t>(count, *drawn);
     pixels.bytes = zeroed_bytes(pixels.size + spare_bytes);
     return pixels.bytes && source.read(pixels.bytes.get(), count) == count;

@@ -64,6 +64,8 @@ std::uint32_t storage_width(std::int32_t width);
 std::uint64_t storage_bytes(const BitmapHeader& header);
 /// CWntBitmap's colour count: what the header declares, but not more than up to 8 bits can have.
 std::uint32_t bitmap_colours(const BitmapHeader& header);
+/// The entries in front of the colour table that tell where in a pixel of 16 or 32 bits its components lie.
+std::uint32_t colour_masks(const BitmapHeader& header);
 /// The amount of a height; the largest integer for the lowest one.
 std::int32_t row_count(std::int32_t height);
 /// What the platform may read of a picture's pixels when it draws them; nothing when that cannot be counted.
@@ -71,6 +73,9 @@ std::optional<std::uint64_t> drawn_bytes(const BitmapHeader& header);
 /// The same of pixels that stay where they lie: compressed ones are as long as the header says, and behind them may be
 /// anything.
 std::optional<std::uint64_t> placed_bytes(const BitmapHeader& header);
+
+/// The rows of uncompressed pixels that so many bytes reach into.
+std::int32_t rows_within(const BitmapHeader& header, std::uint64_t bytes);
 
 /// A zeroed block for a 40-byte header with so many colours of four bytes, and for 256 at least.
 HeapBytes header_block(std::uint64_t colours);
@@ -118,7 +123,8 @@ bool read_bitmap_head(BitmapSource& source, BitmapHead& head);
 
 struct BitmapPixels {
     HeapBytes bytes;
-    std::uint64_t size = 0; ///< at least what drawing reads, however little the file held
+    std::uint64_t size = 0;  ///< at least what drawing reads, however little the file held
+    std::uint64_t given = 0; ///< what the file held; zeros follow
 };
 
 /// Reads the pixels behind a head; false when the file does not hold what it declares.

@@ -68,6 +68,7 @@ bool CDibFile::release(HGDIOBJ handle) {
 int CDibFile::Delete() {
     const bool released = release(m_hDC) && release(m_hBitmap) && release(m_hPalette);
     std::free(m_pBitmapInfo);
+    wnt::DeleteManipulator()(m_pPixelManipulator);
     SetAllNull();
     return released;
 }
@@ -167,7 +168,7 @@ bool CDibFile::make_palette() {
 }
 
 void CDibFile::AllocPixelManipulator() {
-    m_pPixelManipulator = wnt::make_pixel_manipulator(header().biBitCount);
+    m_pPixelManipulator = wnt::make_pixel_manipulator(header().biBitCount).release();
     m_pPixelManipulator->Init(m_pBits, header().biWidth, header().biHeight);
 }
 

@@ -2,8 +2,6 @@
 
 #include <afxwin.h>
 
-#include <memory>
-
 #include "zopwnt_api.h"
 
 class CDirtyPixelManipulator;
@@ -131,5 +129,5 @@ private:
     int m_nColors; // -1: empty
     void* m_pBits;
     mutable int m_nLastError;
-    std::shared_ptr<CDirtyPixelManipulator> m_pPixelManipulator;
+    CDirtyPixelManipulator* m_pPixelManipulator; // owned
 };

@@ -4,7 +4,7 @@
 
 namespace {
 
-// Final, so that it may be destroyed without a virtual destructor.
+// Final like the others, so that each may be deleted without a virtual destructor.
 class UndrawnPixels final : public CDirtyPixelManipulator {};
 
 } // namespace
@@ -60,15 +60,26 @@ void CTrueColorPixelManipulator::SetPixel(int x, int y) {
         std::memcpy(at, colour_, sizeof colour_);
 }
 
-std::shared_ptr<CDirtyPixelManipulator> wnt::make_pixel_manipulator(int bits_per_pixel) {
+void wnt::DeleteManipulator::operator()(CDirtyPixelManipulator* manipulator) const {
+    if (auto* indexed = dynamic_cast<C256ColorPixelManipulator*>(manipulator))
+        delete indexed;
+    else if (auto* words = dynamic_cast<CHighColorPixelManipulator*>(manipulator))
+        delete words;
+    else if (auto* bytes = dynamic_cast<CTrueColorPixelManipulator*>(manipulator))
+        delete bytes;
+    else
+        delete static_cast<UndrawnPixels*>(manipulator);
+}
+
+wnt::PixelManipulator wnt::make_pixel_manipulator(int bits_per_pixel) {
     switch (bits_per_pixel) {
     case 8:
-        return std::make_shared<C256ColorPixelManipulator>();
+        return PixelManipulator(new C256ColorPixelManipulator);
     case 16:
-        return std::make_shared<CHighColorPixelManipulator>();
+        return PixelManipulator(new CHighColorPixelManipulator);
     case 24:
-        return std::make_shared<CTrueColorPixelManipulator>();
+        return PixelManipulator(new CTrueColorPixelManipulator);
     default:
-        return std::make_shared<UndrawnPixels>();
+        return PixelManipulator(new UndrawnPixels);
     }
 }

@@ -62,7 +62,13 @@ private:
 
 namespace wnt {
 
-/// The manipulator for a depth. Shared pointers destroy what was made: the classes have no virtual destructor.
-std::shared_ptr<CDirtyPixelManipulator> make_pixel_manipulator(int bits_per_pixel);
+/// Deletes a manipulator as what it is: the classes have no virtual destructor.
+struct DeleteManipulator {
+    void operator()(CDirtyPixelManipulator* manipulator) const;
+};
+using PixelManipulator = std::unique_ptr<CDirtyPixelManipulator, DeleteManipulator>;
+
+/// The manipulator for a depth.
+PixelManipulator make_pixel_manipulator(int bits_per_pixel);
 
 } // namespace wnt

@@ -6,7 +6,9 @@
 #include <cstring>
 #include <utility>
 
+#include "arithmetic.h"
 #include "bitmap/bitmap_format.h"
+#include "out/device_state.h"
 
 IMPLEMENT_SERIAL(CWntBitmap, CObject, 1)
 
@@ -61,7 +63,7 @@ void CWntBitmap::release() {
         std::free(m_pBits);
     m_pBMI = nullptr;
     m_pBits = nullptr;
-    m_bits_size = 0;
+    m_bits_size = m_bits_given = 0;
 }
 
 void CWntBitmap::take(BITMAPINFO* info, BYTE* bits, BOOL own, ULONGLONG size) {
@@ -69,7 +71,7 @@ void CWntBitmap::take(BITMAPINFO* info, BYTE* bits, BOOL own, ULONGLONG size) {
     m_pBMI = info;
     m_pBits = bits;
     m_bMyBits = own;
-    m_bits_size = size;
+    m_bits_size = m_bits_given = size;
 }
 
 BOOL CWntBitmap::Create(int width, int height) {
@@ -95,7 +97,7 @@ BOOL CWntBitmap::Create(int width, int height) {
 
 BOOL CWntBitmap::Create(BITMAPINFO* info, void* bits) {
     const wnt::BitmapHeader header = header_of(info);
-    const std::uint64_t count = wnt::bitmap_colours(header);
+    const std::uint64_t count = std::uint64_t{wnt::colour_masks(header)} + wnt::bitmap_colours(header);
     if (!info || count > most_callers_colours)
         return FALSE;
     wnt::HeapBytes block = wnt::header_block(count);
@@ -153,9 +155,33 @@ void CWntBitmap::Draw(CDC* dc, int x, int y) {
 void CWntBitmap::Draw(CDC* dc, int x, int y, int cx, int cy) {
     const wnt::BitmapHeader header = header_of(m_pBMI);
     const auto needed = m_bMyBits ? wnt::drawn_bytes(header) : wnt::placed_bytes(header);
-    if (m_pBits && needed && *needed > 0 && *needed <= m_bits_size)
-        ::StretchDIBits(dc->GetSafeHdc(), x, y, cx, cy, 0, 0, header.width, wnt::row_count(header.height), m_pBits,
-                        m_pBMI, DIB_RGB_COLORS, SRCCOPY);
+    if (!m_pBits || !needed || *needed == 0 || *needed > m_bits_size)
+        return;
+    const std::int32_t rows = wnt::row_count(header.height);
+    const std::int32_t given = wnt::rows_within(header, m_bits_given);
+    if (given == std::abs(rows))
+        stretch(dc->GetSafeHdc(), {x, y, cx, cy}, rows);
+    else
+        draw_given(dc->GetSafeHdc(), {x, y, cx, cy}, given);
+}
+
+// The place is left, top, width and height.
+void CWntBitmap::stretch(HDC dc, const RECT& place, int rows) const {
+    const auto [x, y, cx, cy] = place;
+    ::StretchDIBits(dc, x, y, cx, cy, 0, 0, header_of(m_pBMI).width, rows, m_pBits, m_pBMI, DIB_RGB_COLORS, SRCCOPY);
+}
+
+// A few bytes may promise gigabytes: the rows that a file did not give are painted as the zeros that they are.
+void CWntBitmap::draw_given(HDC dc, const RECT& place, int given) const {
+    const wnt::BitmapHeader header = header_of(m_pBMI);
+    const auto [x, y, cx, cy] = place;
+    const RGBQUAD zero = header.bits <= 8 ? m_pBMI->bmiColors[0] : RGBQUAD{};
+    const wnt::GdiObject<HBRUSH> brush(::CreateSolidBrush(RGB(zero.rgbRed, zero.rgbGreen, zero.rgbBlue)));
+    const wnt::SelectGuard selected(dc, brush.get());
+    ::PatBlt(dc, x, y, cx, cy, PATCOPY);
+    const auto height = static_cast<int>(std::int64_t{cy} * given / std::abs(std::int64_t{header.height}));
+    const int from = header.height < 0 ? y : wnt::wrapped::add(y, cy - height);
+    stretch(dc, {x, from, cx, height}, given);
 }
 
 // The block's last byte lies in its upper row, at its right.

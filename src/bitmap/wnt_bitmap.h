@@ -26,7 +26,9 @@ public:
 
     /// Null or an empty path asks the user. A file that cannot be opened is refused silently.
     virtual BOOL Load(LPCTSTR path);
-    /// A bitmap file at the present position.
+    /// A bitmap file at the present position: uncompressed, with bit fields or run lengths; one with another header
+    /// than those of 12 and of 40 bytes is refused. Rows that the file promises beyond its own length are drawn as
+    /// zeros.
     virtual BOOL Load(CFile* file);
     /// A bitmap file of 8 bits at the present position.
     virtual BOOL Save(CFile* file);
@@ -64,9 +66,10 @@ public:
     BITMAPINFO* GetBitmapInfoAddress() const { return m_pBMI; }
     /// The pixels; null for an empty bitmap.
     void* GetBitsAddress() const { return m_pBits; }
-    /// The colour table; null for an empty bitmap.
+    /// The colour table, or the masks in front of it; null for an empty bitmap.
     RGBQUAD* GetClrTabAddress() const { return m_pBMI ? m_pBMI->bmiColors : nullptr; }
-    /// The colours of the table, as the header tells them, at most 256 up to 8 bits.
+    /// The colours of the table, as the header tells them, at most 256 up to 8 bits. The three masks in front of them
+    /// that a bitmap with bit fields has do not count.
     UINT GetNumClrEntries() const;
     /// The place of an 8-bit pixel, y counting downwards from 0; null right of and below the bitmap, so everywhere
     /// where the upper row comes first. Values below 0, and other depths, are the caller's to avoid.
@@ -80,11 +83,14 @@ private:
     BOOL load_file(CFile& file);
     BOOL save_file(CFile& file);
     BOOL load_data(BYTE* data, DWORD size);
+    void stretch(HDC dc, const RECT& place, int rows) const;
+    void draw_given(HDC dc, const RECT& place, int given) const;
     bool holds_block(int x, int y, int w, int h) const;
     ULONGLONG stored_bytes() const;
 
     BITMAPINFO* m_pBMI = nullptr;
     BYTE* m_pBits = nullptr;
     BOOL m_bMyBits = TRUE;
-    ULONGLONG m_bits_size = 0; // what the pixel buffer holds, whatever the header says
+    ULONGLONG m_bits_size = 0;  // what the pixel buffer holds, whatever the header says
+    ULONGLONG m_bits_given = 0; // what a file filled of it; the rest is zeros
 };

@@ -96,6 +96,7 @@ BOOL CWntBitmap::load_file(CFile& file) {
     if (!wnt::read_bitmap_head(source, head) || !wnt::read_bitmap_pixels(source, head, pixels))
         return FALSE;
     take(reinterpret_cast<BITMAPINFO*>(head.block.release()), pixels.bytes.release(), TRUE, pixels.size);
+    m_bits_given = pixels.given;
     return TRUE;
 }
 

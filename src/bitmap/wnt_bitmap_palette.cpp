@@ -28,7 +28,8 @@ void draw_cell(HDC dc, const RECT& rect, int index) {
     const POINT first = corner(rect, column, row);
     const POINT last = corner(rect, column + 1, row + 1);
     const wnt::GdiObject<HBRUSH> brush(::CreateSolidBrush(PALETTEINDEX(index)));
-    const wnt::SelectGuard selected(dc, brush.get());
+    const wnt::SelectGuard filled(dc, brush.get());
+    const wnt::SelectGuard framed(dc, ::GetStockObject(BLACK_PEN));
     if (last.x < LONG_MAX && last.y < LONG_MAX)
         ::Rectangle(dc, first.x, first.y, last.x + 1, last.y + 1);
 }

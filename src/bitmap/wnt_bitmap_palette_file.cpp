@@ -13,8 +13,8 @@ constexpr FOURCC palette_form = mmioFOURCC('P', 'A', 'L', ' ');
 constexpr FOURCC data_id = mmioFOURCC('d', 'a', 't', 'a');
 constexpr char filter[] = "Palette files (*.PAL)|*.PAL|All files (*.*)|*.*||";
 
-// The multimedia layer over an open file, which stays open. Writing goes without a buffer, since closing
-// does not report what failed when one was emptied.
+// The multimedia layer over an open file, which stays open. Without a buffer: reading would run ahead of what is asked
+// for, and closing does not report what failed when a written one was emptied.
 class OverFile {
 public:
     OverFile(HANDLE file, DWORD mode) {
@@ -35,8 +35,7 @@ private:
     HMMIO riff_ = nullptr;
 };
 
-bool find_data(HMMIO riff, MMCKINFO& data) {
-    MMCKINFO form = {};
+bool find_data(HMMIO riff, MMCKINFO& form, MMCKINFO& data) {
     form.fccType = palette_form;
     data.ckid = data_id;
     return riff && ::mmioDescend(riff, &form, nullptr, MMIO_FINDRIFF) == MMSYSERR_NOERROR &&
@@ -67,8 +66,8 @@ bool whole(HMMIO riff, const MMCKINFO& chunk) {
 } // namespace
 
 BOOL CWntBitmapPalette::Load(HMMIO riff) {
-    MMCKINFO data = {};
-    if (!find_data(riff, data) || data.cksize < wnt::LogPalette::bytes_of(1))
+    MMCKINFO form = {}, data = {};
+    if (!find_data(riff, form, data) || data.cksize < wnt::LogPalette::bytes_of(1))
         return FALSE;
     const DWORD most = wnt::LogPalette::bytes_of(wnt::LogPalette::most_colours);
     const DWORD bytes = std::min(data.cksize, most); // no more can be colours
@@ -81,6 +80,7 @@ BOOL CWntBitmapPalette::Load(HMMIO riff) {
     if (colours->palVersion != wnt::LogPalette::version || colours->palNumEntries == 0 ||
         wnt::LogPalette::bytes_of(colours->palNumEntries) > bytes)
         return FALSE;
+    ::mmioAscend(riff, &form, 0); // what stands behind the palette comes next
     return replace(colours);
 }
 
@@ -93,7 +93,7 @@ BOOL CWntBitmapPalette::Save(HMMIO riff) const {
 }
 
 BOOL CWntBitmapPalette::Load(HANDLE file) {
-    const OverFile layer(file, MMIO_READ | MMIO_ALLOCBUF);
+    const OverFile layer(file, MMIO_READ);
     return layer.riff() && Load(layer.riff());
 }
 

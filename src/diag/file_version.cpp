@@ -120,14 +120,23 @@ CString fixed_text(const VS_FIXEDFILEINFO& info, int kind) {
     }
 }
 
-} // namespace
-
-CString wnt::version_fact(const char* path, int kind) {
-    if (!path || kind < fact_file_version || kind > fact_language)
-        return "";
-    const VersionBlock block(path);
+CString fact_of(const VersionBlock& block, int kind) {
     const auto info = block.value<VS_FIXEDFILEINFO>("\\");
     if (!info)
         return "";
-    return kind == fact_language ? language_text(block) : fixed_text(*info, kind);
+    return kind == wnt::fact_language ? language_text(block) : fixed_text(*info, kind);
+}
+
+} // namespace
+
+CString wnt::version_fact(const char* path, int kind) {
+    return path && kind >= fact_file_version && kind <= fact_language ? fact_of(VersionBlock(path), kind) : CString();
+}
+
+std::array<CString, wnt::fact_count> wnt::version_facts(const char* path) {
+    const VersionBlock block(path);
+    std::array<CString, fact_count> facts;
+    for (int kind = fact_file_version; kind <= fact_language; ++kind)
+        facts[kind - fact_file_version] = fact_of(block, kind);
+    return facts;
 }

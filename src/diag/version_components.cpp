@@ -25,8 +25,8 @@ struct Component {
 
 constexpr Component components[] = {
     // Graphics
-    {"Widget and Utility Library", "ZOPWNT.dll"},
-    {"Application Framework Subset", "zopafx.dll"},
+    {"Widget Library", "ZOPWNT.dll"},
+    {"Framework Subset", "zopafx.dll"},
     {"Drawing Support", "zopfdraw.dll"},
     {"Widget Gallery", "zopgallery.exe"},
     // Controls
@@ -145,8 +145,9 @@ void CWntVersionZOPDlg::ShowComponents(HWND control) {
         for (const CString& cell : {CString(component.file), attributes_text(status.dwFileAttributes), size,
                                     time_text(status.ftCreationTime), time_text(status.ftLastWriteTime)})
             list.set_cell(row, column++, cell);
-        for (int kind = wnt::fact_file_version; kind <= wnt::fact_language; ++kind)
-            list.set_cell(row, first_fact_column + kind - 1, wnt::version_fact(path, kind));
+        column = first_fact_column;
+        for (const CString& fact : wnt::version_facts(path))
+            list.set_cell(row, column++, fact);
     }
 }
 

@@ -21,7 +21,7 @@ constexpr wnt::ReportColumn columns[] = {{"Description", 200}, {"Content", 800}}
 
 // The platform's calls answer the length of what they copied, or of what they would have needed.
 template <int limit, class Call> CString copied_text(Call call) {
-    char text[limit] = "";
+    char text[limit] = {};
     const DWORD length = call(text, limit);
     return length > 0 && length < limit ? CString(text) : CString();
 }

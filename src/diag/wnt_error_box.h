@@ -11,7 +11,8 @@ class ZOPWNT_API CWntErrorBox : public CDialog {
 public:
     /// With three empty texts.
     CWntErrorBox();
-    /// A title, a line or two of message, and details, which may have many lines.
+    /// A title, a line or two of message, and details, which may have many lines. Words of more than 1000 characters
+    /// are broken.
     CWntErrorBox(const CString& title, const CString& message, const CString& details);
 
 protected:

@@ -15,4 +15,9 @@ public:
 
 protected:
     BOOL OnInitDialog() override;
+    void OnInitDone() override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+private:
+    void centre();
 };

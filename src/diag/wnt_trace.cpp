@@ -13,7 +13,6 @@ using wnt::trace_state;
 namespace {
 
 constexpr int text_limit = 1024;
-constexpr int deepest_indent = 512;
 constexpr char separator[] = "----------------------------------------------------------------\n";
 static_assert(sizeof separator == 64 + 2);
 
@@ -48,8 +47,9 @@ void write_line(int indent, const char* text) {
     const auto& state = trace_state();
     if (!state.stream || !(state.flags & wnt::trace_to_file))
         return;
-    for (int i = 0; i < indent && i < deepest_indent; ++i)
-        std::fputs("  ", state.stream);
+    for (int i = 0; i < indent; ++i)
+        if (std::fputs("  ", state.stream) < 0)
+            return; // the disk is full: no use in going on with what may be a huge indent
     std::fputs(text, state.stream);
 }
 

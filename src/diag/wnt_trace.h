@@ -9,8 +9,8 @@
 /// Diagnostic tracing: formatted lines go to a small window with a list and to a stream of a derived class's.
 ///
 /// The trace state is one for the whole process, shared by every instance and by WntTrace(). It is switched on by the
-/// environment variables ZOPGTRACE and DPTRACE (decimal: 2 window, 16 kept without effect; reading them sets 1, the stream), read when a trace
-/// window is created and by WntTrace() while no flag is set, or by the calls below.
+/// environment variables ZOPGTRACE and DPTRACE (decimal: 2 window, 16 kept without effect; reading them sets 1, the
+/// stream), read when a trace window is created and by WntTrace() while no flag is set, or by the calls below.
 ///
 ///     CWntTrace trace;
 ///     trace.Create(nullptr, "Trace", WS_CHILD, CRect(0, 0, 0, 0), this, 101);
@@ -32,7 +32,7 @@ public:
     /// Caption of the trace window, and stem of the profile file that holds its position.
     void SetTitle(const char* title);
 
-    /// Two blanks for each step of indent, at most 512 steps, go to the stream before the text.
+    /// Two blanks for each step of indent go to the stream before the text; none below 1.
     void Trace(int indent, const char* format, ...);
     /// Without an indent.
     void Trace(const char* format, ...);
@@ -50,7 +50,8 @@ protected:
     /// Adds a line to the list of the window, where there is one.
     void display(const char* text);
 
-    /// Makes a file the one that trace lines go to; the trace owns it, and closes the one before. Null for none.
+    /// Makes a file the one that trace lines go to; the trace owns it, and closes the one before. It must come from the
+    /// C runtime that the library itself uses, which closes it. Null for none.
     static void setstream(std::FILE* stream);
     /// The file that trace lines go to, or null.
     static std::FILE* stream();

@@ -7,9 +7,14 @@ ON_WM_CREATE()
 ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
-CWntVersion::CWntVersion(UINT caption, CWnd* parent, UINT page) : CPropertySheet(caption, parent, page) {}
+// There is nothing to apply.
+CWntVersion::CWntVersion(UINT caption, CWnd* parent, UINT page) : CPropertySheet(caption, parent, page) {
+    m_psh.dwFlags |= PSH_NOAPPLYNOW;
+}
 
-CWntVersion::CWntVersion(const char* caption, CWnd* parent, UINT page) : CPropertySheet(caption, parent, page) {}
+CWntVersion::CWntVersion(const char* caption, CWnd* parent, UINT page) : CPropertySheet(caption, parent, page) {
+    m_psh.dwFlags |= PSH_NOAPPLYNOW;
+}
 
 INT_PTR CWntVersion::DoModal() {
     if (!pages_added_) {

@@ -10,10 +10,12 @@ namespace wrapped = wnt::wrapped;
 void CWntOut::line(int x1, int y1, int x2, int y2) {
     if (!ready())
         return;
-    // A polyline leaves its last pixel out: the step to the right sets the end point.
+    // A polyline leaves its last pixel out: the step to the right sets the end point. It is a line of its own, so that
+    // a patterned pen begins anew and never has its gap there.
     const int end_y = flip(y2);
-    const POINT path[3] = {{x1, flip(y1)}, {x2, end_y}, {wrapped::add(x2, 1), end_y}};
-    ::Polyline(dc, path, 3);
+    const POINT ends[4] = {{x1, flip(y1)}, {x2, end_y}, {x2, end_y}, {wrapped::add(x2, 1), end_y}};
+    constexpr DWORD counts[2] = {2, 2};
+    ::PolyPolyline(dc, ends, counts, 2);
 }
 
 void CWntOut::hline(int x, int y, int len) {
@@ -31,7 +33,9 @@ void CWntOut::box(int x1, int y1, int x2, int y2, int mode) {
     const int top = std::min(flip(y1), flip(y2));
     const int right = wrapped::add(std::max(x1, x2), 1);
     const int bottom = wrapped::add(std::max(flip(y1), flip(y2)), 1);
-    if (mode == 0) {
+    if (x1 == x2 && y1 == y2 && (mode == 0 || mode == 1)) {
+        line(x1, y1, x1, y1); // all outline; the platform draws no rectangle of one pixel
+    } else if (mode == 0) {
         wnt::SelectGuard hollow(dc, ::GetStockObject(NULL_BRUSH));
         ::Rectangle(dc, left, top, right, bottom);
     } else if (mode == 1) {

@@ -42,8 +42,9 @@ public:
     /// are still the window's: to draw on another device, or without a window, set `targetmode` to 1 before, which
     /// leaves the clip alone, and `xmax` and `ymax` after.
     int reset(HDC hdc);
-    /// Ends a drawing pass; an external device context gets its pen and brush back and is forgotten. Its clip region,
-    /// text colour, alignment, background mode and polygon filling stay as drawing left them.
+    /// Ends a drawing pass. The window's own device context stays, and with it `dc`; an external one gets its pen and
+    /// brush back and is forgotten. Its clip region, text colour, alignment, background mode and polygon filling stay
+    /// as drawing left them.
     void endpaint();
     /// Gives back the window's device context and the pens and brushes made for it. For the owner, before it goes.
     void ReleaseDrawing();
@@ -91,7 +92,7 @@ public:
 
     // -- Lines and boxes --------------------------------------------------------------------------------------------
 
-    /// Both end points included.
+    /// Both end points included, whatever the pen's pattern.
     void line(int x1, int y1, int x2, int y2);
     /// len + 1 pixels to the right of (x, y), which is the first.
     void hline(int x, int y, int len);
@@ -120,7 +121,7 @@ public:
     void solidpoly(POINT* pts, int n);
     /// The outline in the line colour, for a fill of 0 in the fill colour.
     void dopoly(POINT* pts, int n, long fill);
-    /// An open polyline; width 0 takes the current pen, otherwise width + 1 pixels in the fill colour.
+    /// An open polyline; width 0 takes the current pen, otherwise width + 1 pixels, at most 32767, in the fill colour.
     void geomline(Tpt* pts, int n, int width);
     /// The same; flips the caller's array during the call.
     void geomline(POINT* pts, int n, int width);
@@ -228,11 +229,13 @@ public:
     void setdeftext();
     /// Stored only.
     void setfont(CFont* f);
-    /// align: 0, 1, 2 bottom left, right, centre; 4, 5, 6 top; 8, 9, 10 centred on y.
+    /// x is the text's left end, right end or middle for align 0, 1, 2. The lower edge of its cell lies on y. With 4,
+    /// 5, 6 the upper edge lies `fontsize / 10` pixels above y; with 8, 9, 10 half as many, which is roughly centred on
+    /// y. Fonts are at most 4096 pixels high.
     void chars(int x, int y, char* text, int align);
     /// The same for the first len characters.
     void chars_len(int x, int y, int len, char* text, int align);
-    /// Centred in the box (x, y, w, h), its size derived from h, the baseline halfway up.
+    /// Centred in the box (x, y, w, h), h * 4 tenths of a point high, the baseline halfway up.
     void titlechars(int x, int y, int w, int h, char* text);
     /// Description of a font of the front end's font service; 0 (out untouched) when there is no such service.
     int getZopguiFont(LOGFONTA* out, tagZopFontId id);
@@ -252,7 +255,7 @@ public:
     COLORREF* palette;               ///< the table that index colours come from; not owned
     int palettecount;                ///< its entries
     HCURSOR cursor = nullptr;        ///< the last pointer of the caller's
-    HDC dc = nullptr;                ///< where drawing goes; null: nowhere
+    HDC dc = nullptr;                ///< where drawing goes, null: nowhere; the window's own one stays after endpaint()
     int externaldc = 0;              ///< 1 while `dc` is the caller's
     int bkflag = 0;                  ///< what setbackground() was given
     COLORREF bkcolour = 0xFFFFFF;    ///< what setbackground() was given

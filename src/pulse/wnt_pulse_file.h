@@ -50,8 +50,9 @@ public:
     /// Opens by the mode; a new file gets the header, and reading begins with it. Error 1 when the file cannot be
     /// opened or its name has more than 255 characters.
     int Open(const char* name);
-    /// Writes a sample at once, its time (seconds since 1970, UTC) as local time: the number of characters, or 0 with
-    /// error 9. A negative number, when the writing failed, counts as success.
+    /// Writes a sample at once, its time (seconds since 1970, UTC) as local time: the number of characters formatted,
+    /// or 0 with error 9. What the disk refuses is not told: a full one can still give the full number, and a negative
+    /// number counts as success.
     int Put(int curve, float value, std::int64_t time);
     /// Reads the next sample, its time as local time without daylight saving: a sample that was put while daylight
     /// saving was in effect comes back an hour later. Without success the places keep what they held.

@@ -2,8 +2,25 @@
 
 #include <afxwin.h>
 
-#include <atlexcept.h>
+namespace {
+
+// Its code alone would tell the user no more than that something failed.
+class DateException : public COleException {
+public:
+    explicit DateException(SCODE code) { m_sc = code; }
+
+    BOOL GetErrorMessage(LPTSTR text, UINT room, PUINT help = nullptr) const override {
+        if (help)
+            *help = 0;
+        if (!text || room == 0)
+            return FALSE;
+        ::lstrcpyn(text, "This date does not exist or lies outside the years 1970 to 3000.", static_cast<int>(room));
+        return TRUE;
+    }
+};
+
+} // namespace
 
 void wnt::raise_result(std::int32_t code) {
-    AtlThrow(code);
+    throw new DateException(code);
 }

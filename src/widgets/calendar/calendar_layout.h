@@ -1,6 +1,6 @@
 #pragma once
 
-#include "widgets/upward_rect.h"
+#include "widgets/painting/upward_rect.h"
 
 namespace wnt {
 

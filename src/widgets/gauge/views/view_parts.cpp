@@ -1,0 +1,146 @@
+#include "widgets/gauge/views/view_parts.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "script/colours.h"
+#include "script/keywords.h"
+
+namespace wnt {
+
+namespace {
+
+constexpr std::uint32_t colour_bits = 0xFFFFFF; // of a stored colour value
+
+bool is_dark(Colour colour) {
+    return brightness(colour) < 128;
+}
+
+void paint_border(Picture& picture, const BoxF& outer, float height, int sides, Colour top_left, Colour bottom_right) {
+    // Upper and left sides last: the corners belong to the light.
+    if (sides & side_right)
+        picture.box({outer.right - height, outer.bottom, outer.right, outer.top}, bottom_right);
+    if (sides & side_bottom)
+        picture.box({outer.left, outer.bottom, outer.right, outer.bottom + height}, bottom_right);
+    if (sides & side_left)
+        picture.box({outer.left, outer.bottom, outer.left + height, outer.top}, top_left);
+    if (sides & side_top)
+        picture.box({outer.left, outer.top - height, outer.right, outer.top}, top_left);
+}
+
+bool has_border(const GaugeModel& model) {
+    return model.border_type >= border_flat && model.border_type <= border_sunk && model.border_height > 0;
+}
+
+} // namespace
+
+Theme theme_of(const GaugeModel& model) {
+    Theme t;
+    t.back = static_cast<Colour>(model.background) & colour_bits;
+    t.text = indexed_colour(model.text_colour);
+    t.sun = static_cast<Colour>(model.sun) & colour_bits;
+    t.shadow = static_cast<Colour>(model.shadow) & colour_bits;
+    t.plate = is_dark(t.text) ? blend(t.back, white, 225) : blend(t.back, black, 190);
+    t.groove = blend(t.plate, is_dark(t.text) ? black : white, 30);
+    return t;
+}
+
+Colour indexed_colour(int index) {
+    const int entry = index % colour_count;
+    return colour_values[entry > 0 ? entry : 0];
+}
+
+Colour zone_colour(const GaugeModel& model, std::int32_t value) {
+    return indexed_colour(model.getmarkercolour(value));
+}
+
+Colour ground_for(Colour colour) {
+    return is_dark(colour) ? Colour{0xF4F8F8} : Colour{0x241E1C};
+}
+
+FittedText fit(TextMeter& meter, std::string_view text, int tenths, float width, int least) {
+    FittedText fitted{std::string(text), tenths};
+    if (text.empty() || width <= 0) {
+        fitted.text.clear();
+        return fitted;
+    }
+    fitted.tenths = size_within(width, tenths, least, [&](int size) { return meter.width(text, size); });
+    std::size_t kept = text.size();
+    while (kept > 0 && meter.width(fitted.text, fitted.tenths) > width)
+        fitted.text.assign(text.substr(0, --kept)).append("..");
+    if (kept == 0)
+        fitted.text.clear();
+    return fitted;
+}
+
+FittedText fit_number(TextMeter& meter, std::string_view number, int tenths, float width) {
+    const auto measure = [&](int size) { return meter.width(number, size); };
+    const int least = meter.tenths(least_text);
+    const int fitted = size_within(width, tenths, least, measure);
+    return {fitted >= least && measure(fitted) <= width ? std::string(number) : std::string(), fitted};
+}
+
+void write(Picture& picture, TextMeter& meter, PointF at, HAlign align, int tenths, Colour colour,
+           std::string_view text, const BoxF* clip) {
+    const FontMetrics font = meter.metrics(tenths);
+    const float baseline = std::round(at.y - font.cap_height / 2);
+    picture.text(meter, {at.x, baseline - font.descent}, align, tenths, colour, text, clip);
+}
+
+BoxF inside_border(const GaugeModel& model, const Stage& stage) {
+    const auto width = static_cast<float>(stage.width);
+    const auto height = static_cast<float>(stage.height);
+    const float border = has_border(model) ? static_cast<float>(model.border_height) : 0.0f;
+    const float margin = border + std::clamp(std::min(width, height) * 0.03f, 1.0f, 10.0f);
+    return {margin, margin, width - margin, height - margin};
+}
+
+void paint_ground(Picture& picture, const GaugeModel& model, const Stage& stage) {
+    const Theme theme = theme_of(model);
+    const BoxF whole = {0, 0, static_cast<float>(stage.width), static_cast<float>(stage.height)};
+    picture.box(whole, theme.back);
+    if (!has_border(model))
+        return;
+    const auto height = static_cast<float>(model.border_height);
+    const bool flat = model.border_type == border_flat;
+    const bool raised = model.border_type == border_raised;
+    paint_border(picture, whole, height, model.border_sides, raised ? theme.sun : theme.shadow,
+                 raised || flat ? theme.shadow : theme.sun);
+}
+
+bool has_title(const GaugeModel& model) {
+    return !model.no_title && !model.title_text().empty();
+}
+
+bool has_inner_title(const GaugeModel& model) {
+    return model.bar_title && has_title(model);
+}
+
+Layout lay_out(const GaugeModel& model, const Stage& stage, bool title_on_bar) {
+    const BoxF inside = inside_border(model, stage);
+    Layout layout = {{}, inside, 0};
+    const float size = std::clamp(std::min(inside.height() * 0.085f, inside.width() * 0.14f), 8.0f, 32.0f);
+    if (!has_title(model) || title_on_bar || inside.height() < 48 || inside.width() < 40)
+        return layout;
+    layout.title_size = stage.meter.tenths(size);
+    const float line = std::ceil(stage.meter.metrics(layout.title_size).height());
+    layout.title = {inside.left, inside.top - line, inside.right, inside.top};
+    layout.body.top = layout.title.bottom - std::floor(size * 0.25f);
+    return layout;
+}
+
+void paint_title(Picture& picture, const GaugeModel& model, const Stage& stage, const Layout& layout) {
+    if (layout.title.empty())
+        return;
+    const FittedText title =
+        fit(stage.meter, model.title_text(), layout.title_size, layout.title.width() - 2, stage.meter.tenths(8));
+    const PointF at = {std::round(layout.title.centre().x), layout.title.bottom};
+    picture.text(stage.meter, at, HAlign::centre, title.tenths, theme_of(model).text, title.text, &layout.title);
+}
+
+void paint_sunken_edge(Picture& picture, const BoxF& box, const Theme& theme) {
+    paint_border(picture, box, 1, side_left | side_right | side_top | side_bottom, blend(theme.back, black, 110),
+                 blend(theme.back, white, 200));
+}
+
+} // namespace wnt
