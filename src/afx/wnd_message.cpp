@@ -63,6 +63,8 @@ const MSG* PASCAL CWnd::GetCurrentMessage() {
 BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
     const UINT id = LOWORD(wParam);
     const HWND control = reinterpret_cast<HWND>(lParam);
+    if (control != nullptr && this_thread().updating == m_hWnd)
+        return TRUE;
     if (control != nullptr)
         return ReflectLastMsg(control) || (id != 0 && OnCmdMsg(id, HIWORD(wParam), nullptr, nullptr));
     if (id == 0)
@@ -75,6 +77,8 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
 
 BOOL CWnd::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     NMHDR* header = reinterpret_cast<NMHDR*>(lParam);
+    if (this_thread().updating == m_hWnd)
+        return TRUE;
     if (ReflectLastMsg(header->hwndFrom, pResult))
         return TRUE;
     notification notify{header, pResult};
