@@ -1,5 +1,6 @@
 #include "afx_data_exchange.h"
 #include "afx_app.h"
+#include "afxres.h"
 #include "thread_state.h"
 
 #include <utility>

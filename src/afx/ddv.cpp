@@ -1,6 +1,7 @@
 // Limits of what the user may enter.
 #include "afx_app.h"
 #include "afx_data_exchange.h"
+#include "afxres.h"
 
 #include <cfloat>
 

@@ -1,6 +1,7 @@
 // Texts and numbers of edit controls.
 #include "afx_app.h"
 #include "afx_data_exchange.h"
+#include "afxres.h"
 
 #include <cerrno>
 #include <cfloat>
