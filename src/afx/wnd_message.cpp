@@ -9,6 +9,12 @@ bool is_color_message(UINT message) {
     return message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC;
 }
 
+// A list box with draggable items tells its parent by a message whose number is the system's.
+UINT drag_list_message() {
+    static const UINT number = ::RegisterWindowMessage(DRAGLISTMSGSTRING);
+    return number;
+}
+
 AFX_CTLCOLOR color_record(UINT message, WPARAM wParam, LPARAM lParam) {
     return {reinterpret_cast<HWND>(lParam), reinterpret_cast<HDC>(wParam), message - WM_CTLCOLORMSGBOX};
 }
@@ -37,6 +43,8 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
             lParam = reinterpret_cast<LPARAM>(&color);
         }
         const AFX_MSGMAP_ENTRY* entry = find_message_entry(GetMessageMap(), message);
+        if (entry == nullptr && message == drag_list_message())
+            return ReflectLastMsg(reinterpret_cast<const DRAGLISTINFO*>(lParam)->hWnd, pResult);
         if (entry == nullptr)
             return FALSE;
         result = DispatchEntry(*entry, wParam, lParam);
