@@ -66,7 +66,7 @@ class ZOPAFX_API CBrush : public CGdiObject {
 
 public:
     CBrush() = default;
-    explicit CBrush(COLORREF crColor);
+    CBrush(COLORREF crColor);
     CBrush(int nIndex, COLORREF crColor);
     explicit CBrush(CBitmap* pBitmap);
     operator HBRUSH() const { return static_cast<HBRUSH>(GetSafeHandle()); }

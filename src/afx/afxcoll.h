@@ -5,6 +5,21 @@
 
 #include "afx_collections.h"
 
+// The classes' friends, which programs call.
+#define AFX_READ_POINTER(class_name)                                                                                   \
+    class class_name;                                                                                                  \
+    ZOPAFX_API CArchive& AFXAPI operator>>(CArchive& ar, class_name*& pOb);
+AFX_READ_POINTER(CByteArray)
+AFX_READ_POINTER(CWordArray)
+AFX_READ_POINTER(CDWordArray)
+AFX_READ_POINTER(CObArray)
+AFX_READ_POINTER(CStringArray)
+AFX_READ_POINTER(CObList)
+AFX_READ_POINTER(CStringList)
+AFX_READ_POINTER(CMapWordToOb)
+AFX_READ_POINTER(CMapStringToOb)
+AFX_READ_POINTER(CMapStringToString)
+
 // Indices out of range raise CInvalidArgException. InsertAt and SetAtGrow make room; Add answers the new element's
 // index, Append the first new one's.
 #define AFX_ARRAY_MEMBERS(class_name, TYPE, ARG)                                                                       \
