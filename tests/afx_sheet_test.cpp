@@ -2,6 +2,7 @@
 #include "afx_test_app.h"
 #include "modal.h"
 
+#include <afxcmn.h>
 #include <afxdlgs.h>
 
 #include <gtest/gtest.h>
@@ -96,6 +97,98 @@ TEST_F(AfxSheet, PagesMayRefuse) {
               }),
               IDCANCEL);
     EXPECT_EQ(log, "1.set 1.kill 1.kill 1.kill 1.apply 1.ok 1.query 1.query 1.cancel ");
+}
+
+// Goes from page to page, but past the second where it is told to, and not on where it refuses.
+class wizard_page : public marked_page {
+public:
+    using marked_page::marked_page;
+    BOOL OnSetActive() override {
+        static_cast<CPropertySheet*>(GetParent())->SetWizardButtons(buttons);
+        return marked_page::OnSetActive();
+    }
+    LRESULT OnWizardNext() override { return next; }
+    BOOL OnWizardFinish() override { return finishes; }
+
+    DWORD buttons = PSWIZB_NEXT;
+    LRESULT next = 0;
+    BOOL finishes = TRUE;
+};
+
+TEST(AfxWizard, StepsRefusesAndFinishes) {
+    std::string log;
+    wizard_page first("1", log), last("2", log);
+    last.buttons = PSWIZB_BACK | PSWIZB_FINISH;
+    first.next = -1;
+    last.finishes = FALSE;
+    CPropertySheet sheet("Wizard");
+    sheet.AddPage(&first);
+    sheet.AddPage(&last);
+    sheet.SetWizardMode();
+    int step = 0;
+    WhileModal modal([&] {
+        if (sheet.m_hWnd == nullptr || sheet.GetActivePage() == nullptr)
+            return false;
+        switch (step++) {
+        case 0:
+            sheet.PressButton(PSBTN_NEXT);
+            EXPECT_EQ(sheet.GetActivePage(), &first) << "it refuses to be left";
+            first.next = 0;
+            return sheet.PressButton(PSBTN_NEXT), false;
+        case 1:
+            EXPECT_EQ(sheet.GetActivePage(), &last);
+            return sheet.PressButton(PSBTN_FINISH), false;
+        case 2:
+            last.finishes = TRUE;
+            return sheet.PressButton(PSBTN_BACK), false;
+        case 3:
+            EXPECT_EQ(sheet.GetActiveIndex(), 0);
+            return sheet.PressButton(PSBTN_NEXT), false;
+        default:
+            return sheet.PressButton(PSBTN_FINISH), true;
+        }
+    });
+    EXPECT_EQ(sheet.DoModal(), ID_WIZFINISH);
+    EXPECT_EQ(step, 5);
+}
+
+// Answers the other pages' question with its own number.
+class sibling_page : public CPropertyPage {
+    DECLARE_MESSAGE_MAP()
+public:
+    sibling_page(LRESULT number, UINT caption = 0) : CPropertyPage(IDD_PAGE, caption), number(number) {}
+    afx_msg LRESULT OnQuery(WPARAM wParam, LPARAM) { return wParam == 4 ? number : 0; }
+    LRESULT number;
+};
+
+BEGIN_MESSAGE_MAP(sibling_page, CPropertyPage)
+ON_MESSAGE(PSM_QUERYSIBLINGS, &sibling_page::OnQuery)
+END_MESSAGE_MAP()
+
+TEST(AfxModelessSheet, HoldsPagesWithoutButtons) {
+    sibling_page first(0), second(9, IDS_CAPTION), third(5);
+    CPropertySheet sheet("Modeless");
+    sheet.AddPage(&first);
+    sheet.AddPage(&second);
+    ASSERT_TRUE(sheet.Create(nullptr, WS_POPUP | WS_CAPTION | WS_SYSMENU));
+    EXPECT_FALSE(sheet.GetDlgItem(IDOK)->IsWindowVisible() || sheet.GetDlgItem(IDCANCEL)->IsWindowVisible());
+    EXPECT_TRUE(sheet.SetActivePage(1));
+    EXPECT_EQ(sheet.GetActivePage(), &second);
+    EXPECT_EQ(second.QuerySiblings(4, 0), 9);
+    char caption[40];
+    TCITEM tab{};
+    tab.mask = TCIF_TEXT;
+    tab.pszText = caption;
+    tab.cchTextMax = sizeof(caption);
+    EXPECT_TRUE(sheet.GetTabControl()->GetItem(1, &tab));
+    EXPECT_STREQ(caption, "Caption of its own");
+    sheet.AddPage(&third);
+    EXPECT_EQ(sheet.GetTabControl()->GetItemCount(), 3);
+    sheet.RemovePage(&first);
+    EXPECT_EQ(sheet.GetTabControl()->GetItemCount(), 2);
+    EXPECT_EQ(sheet.GetPageIndex(&third), 1);
+    EXPECT_TRUE(sheet.DestroyWindow());
+    EXPECT_EQ(second.m_hWnd, nullptr);
 }
 
 } // namespace

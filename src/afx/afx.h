@@ -15,5 +15,6 @@
 #include "afx_file.h"
 #include "afx_archive.h"
 #include "atltime.h"
+#include "afxcoll.h"
 
 #endif

@@ -26,6 +26,7 @@
 
 // The platform's macros of these names would take members for them.
 #undef GetNextWindow
+#undef GetCurrentTime
 
 #ifdef ZOPAFX_BUILD
 #define ZOPAFX_API __declspec(dllexport)
@@ -60,3 +61,8 @@
 // A place in a list; null behind the last.
 struct __POSITION;
 typedef __POSITION* POSITION;
+
+// What a variable argument list takes for a value; strings add their own.
+template <class Value> inline Value AfxVariadic(Value value) {
+    return value;
+}

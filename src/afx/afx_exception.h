@@ -83,6 +83,8 @@ public:
     BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext = nullptr) const override;
 
     static int PASCAL OsErrorToException(LONG lOsError);
+    static int PASCAL ErrnoToException(int nErrno);
+    [[noreturn]] static void PASCAL ThrowErrno(int nErrno, LPCTSTR lpszFileName = nullptr);
     [[noreturn]] static void PASCAL ThrowOsError(LONG lOsError, LPCTSTR lpszFileName = nullptr);
 
     int m_cause;
@@ -90,6 +92,22 @@ public:
     CString m_strFileName;
 };
 
+// What an archive's file holds is not what was asked for.
+class ZOPAFX_API CArchiveException : public CException {
+    DECLARE_DYNAMIC(CArchiveException)
+
+public:
+    enum { none, genericException, readOnly, endOfFile, writeOnly, badIndex, badClass, badSchema, bufferFull };
+
+    explicit CArchiveException(int cause = none, LPCTSTR lpszArchiveName = nullptr)
+        : m_cause(cause), m_strFileName(lpszArchiveName) {}
+    BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext = nullptr) const override;
+
+    int m_cause;
+    CString m_strFileName;
+};
+
+[[noreturn]] ZOPAFX_API void AFXAPI AfxThrowArchiveException(int cause, LPCTSTR lpszArchiveName = nullptr);
 [[noreturn]] ZOPAFX_API void AFXAPI AfxThrowMemoryException();
 [[noreturn]] ZOPAFX_API void AFXAPI AfxThrowResourceException();
 [[noreturn]] ZOPAFX_API void AFXAPI AfxThrowNotSupportedException();

@@ -22,6 +22,11 @@ struct ZOPAFX_API CRuntimeClass {
 
     // Looks among the registered classes of the program and of every loaded extension library.
     static CObject* PASCAL CreateObject(LPCSTR lpszClassName);
+    static CRuntimeClass* PASCAL FromName(LPCSTR lpszClassName);
+
+    // The class's name and schema number in an archive; null where it holds no class that is known.
+    void Store(CArchive& ar) const;
+    static CRuntimeClass* PASCAL Load(CArchive& ar, UINT* pwSchemaNum);
 };
 
 // Registers a class for CreateObject by its name as long as its module is loaded.
@@ -97,13 +102,25 @@ public:                                                                         
 #define IMPLEMENT_DYNAMIC(class_name, base_class_name)                                                                 \
     AFX_IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, 0xFFFF, nullptr)
 
-#define DECLARE_SERIAL(class_name) DECLARE_DYNCREATE(class_name)
-
-#define IMPLEMENT_SERIAL(class_name, base_class_name, schema)                                                          \
+#define AFX_IMPLEMENT_CREATION(class_name, base_class_name, schema)                                                    \
     CObject* PASCAL class_name::CreateObject() {                                                                       \
         return new class_name;                                                                                         \
     }                                                                                                                  \
     AFX_IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, schema, class_name::CreateObject)                          \
     static const AFX_CLASSINIT _init_##class_name(RUNTIME_CLASS(class_name));
 
-#define IMPLEMENT_DYNCREATE(class_name, base_class_name) IMPLEMENT_SERIAL(class_name, base_class_name, 0xFFFF)
+#define IMPLEMENT_DYNCREATE(class_name, base_class_name) AFX_IMPLEMENT_CREATION(class_name, base_class_name, 0xFFFF)
+
+// An object of a serialisable class is read by its pointer. With VERSIONABLE_SCHEMA or'ed to the schema number, other
+// versions are read, too: Serialize asks CArchive::GetObjectSchema.
+#define VERSIONABLE_SCHEMA 0x80000000
+#define DECLARE_SERIAL(class_name)                                                                                     \
+    DECLARE_DYNCREATE(class_name)                                                                                      \
+    friend CArchive& AFXAPI operator>>(CArchive& ar, class_name*& pOb);
+#define IMPLEMENT_SERIAL(class_name, base_class_name, schema)                                                          \
+    AFX_IMPLEMENT_CREATION(class_name, base_class_name, static_cast<UINT>(schema))                                     \
+    CArchive& AFXAPI operator>>(CArchive& ar, class_name*& pOb) {                                                      \
+        pOb = static_cast<class_name*>(AfxReadObject(ar, RUNTIME_CLASS(class_name)));                                  \
+        return ar;                                                                                                     \
+    }
+ZOPAFX_API CObject* AFX_CDECL AfxReadObject(CArchive& ar, CRuntimeClass* pClass);

@@ -18,6 +18,22 @@ public:
     // IDOK or IDCANCEL; -1 where the dialog cannot be shown. m_pd holds what was chosen, and is the caller's as above.
     INT_PTR DoModal() override;
     HDC GetPrinterDC() const { return m_pd.hDC; }
+    HDC CreatePrinterDC();
+    int GetFromPage() const { return PrintRange() ? m_pd.nFromPage : -1; }
+    int GetToPage() const { return PrintRange() ? m_pd.nToPage : -1; }
+    int GetCopies() const;
+    BOOL PrintCollate() const { return (m_pd.Flags & PD_COLLATE) != 0; }
+    BOOL PrintSelection() const { return (m_pd.Flags & PD_SELECTION) != 0; }
+    BOOL PrintAll() const { return !PrintRange() && !PrintSelection(); }
+    BOOL PrintRange() const { return (m_pd.Flags & PD_PAGENUMS) != 0; }
+    // Locked in the platform's memory, whose handle m_pd.hDevMode is.
+    LPDEVMODE GetDevMode() const;
+    CString GetDriverName() const { return Name(&DEVNAMES::wDriverOffset); }
+    CString GetDeviceName() const { return Name(&DEVNAMES::wDeviceOffset); }
+    CString GetPortName() const { return Name(&DEVNAMES::wOutputOffset); }
 
     PRINTDLG m_pd;
+
+private:
+    CString Name(WORD DEVNAMES::*offset) const;
 };

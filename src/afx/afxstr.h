@@ -5,68 +5,166 @@
 
 #include <string>
 
-// Positions and lengths are byte counts. Positions outside the text are clamped.
-// A null text is an empty one; a resource id in place of the constructor's text (MAKEINTRESOURCE)
-// loads that string.
+// Positions and lengths are byte counts. Positions outside the text are clamped; searches step by characters, of which
+// some code pages make two bytes. A null text is an empty one; a resource id in place of the constructor's text
+// (MAKEINTRESOURCE) loads that string.
 class ZOPAFX_API CString {
 public:
+    typedef char XCHAR;
+    typedef LPSTR PXSTR;
+    typedef LPCSTR PCXSTR;
+
     CString() = default;
     CString(const CString& source) = default;
     CString(CString&& source) noexcept = default;
     CString(LPCSTR source);
     CString(LPCWSTR source);
     CString(LPCSTR source, int length);
+    CString(LPCWSTR source, int length);
+    explicit CString(const unsigned char* source) : CString(reinterpret_cast<LPCSTR>(source)) {}
     explicit CString(char c, int repeat = 1);
 
     CString& operator=(const CString& source) = default;
     CString& operator=(CString&& source) noexcept = default;
     CString& operator=(LPCSTR source);
+    CString& operator=(LPCWSTR source) { return *this = CString(source); }
+    CString& operator=(const unsigned char* source) { return *this = reinterpret_cast<LPCSTR>(source); }
+    CString& operator=(char c) { return *this = CString(c); }
 
     CString& operator+=(const CString& text);
     CString& operator+=(LPCSTR text);
     CString& operator+=(char c);
+    void Append(const CString& text) { *this += text; }
+    void Append(LPCSTR text) { *this += text; }
+    void Append(LPCSTR text, int length) { *this += CString(text, length); }
+    void AppendChar(char c) { *this += c; }
+    void SetString(LPCSTR text) { *this = text; }
+    void SetString(LPCSTR text, int length) { *this = CString(text, length); }
 
     operator LPCSTR() const { return m_text.c_str(); }
     LPCSTR GetString() const { return m_text.c_str(); }
     int GetLength() const { return static_cast<int>(m_text.size()); }
-    BOOL IsEmpty() const { return m_text.empty(); }
+    int GetAllocLength() const { return static_cast<int>(m_text.capacity()); }
+    bool IsEmpty() const { return m_text.empty(); }
     void Empty() { m_text.clear(); }
+    void FreeExtra() { m_text.shrink_to_fit(); }
+    void Preallocate(int length) { m_text.reserve(clamped_length(length)); }
+    char GetAt(int index) const; // raises CInvalidArgException outside the text
+    void SetAt(int index, char c);
     char operator[](int index) const; // '\0' outside the text
 
     // Room for minimum characters; valid until the next call on the object. End writing with ReleaseBuffer.
     LPSTR GetBuffer(int minimum = 0);
+    LPSTR GetBufferSetLength(int length);
+    LPSTR LockBuffer() { return GetBuffer(); }
+    void UnlockBuffer() {}
     // length -1: up to the first null character.
     void ReleaseBuffer(int length = -1);
+    void ReleaseBufferSetLength(int length) { ReleaseBuffer(length); }
+    void Truncate(int length) { ReleaseBuffer(length); }
 
     CString Mid(int first) const;
     CString Mid(int first, int count) const;
     CString Left(int count) const;
     CString Right(int count) const;
+    // The longest start that holds only, or none of, these characters.
+    CString SpanIncluding(LPCSTR characters) const;
+    CString SpanExcluding(LPCSTR characters) const;
+    // The next piece between these characters, from start on, which moves behind it: -1, with an empty text, at the
+    // end.
+    CString Tokenize(LPCSTR characters, int& start) const;
 
-    int ReverseFind(char c) const; // -1 where there is none
+    // -1 where there is none.
+    int Find(char c, int start = 0) const;
+    int Find(LPCSTR text, int start = 0) const;
+    int FindOneOf(LPCSTR characters) const;
+    int ReverseFind(char c) const;
 
     int Compare(LPCSTR text) const;
     int CompareNoCase(LPCSTR text) const;
+    // By the rules of the user's language.
+    int Collate(LPCSTR text) const;
+    int CollateNoCase(LPCSTR text) const;
+
+    // The new length.
+    int Insert(int index, char c);
+    int Insert(int index, LPCSTR text);
+    int Delete(int index, int count = 1);
     // How many places changed.
     int Replace(char oldChar, char newChar);
+    int Replace(LPCSTR oldText, LPCSTR newText);
+    int Remove(char c);
 
-    void AFX_CDECL Format(LPCSTR format, ...) AFX_PRINTF(2, 3);
-    void AFX_CDECL AppendFormat(LPCSTR format, ...) AFX_PRINTF(2, 3);
+    CString& MakeUpper();
+    CString& MakeLower();
+    CString& MakeReverse();
+    CString& Trim() { return TrimRight().TrimLeft(); }
+    CString& Trim(char c) { return TrimRight(c).TrimLeft(c); }
+    CString& Trim(LPCSTR characters) { return TrimRight(characters).TrimLeft(characters); }
+    CString& TrimLeft();
+    CString& TrimLeft(char c) { return TrimLeft(CString(c)); }
+    CString& TrimLeft(LPCSTR characters);
+    CString& TrimRight();
+    CString& TrimRight(char c) { return TrimRight(CString(c)); }
+    CString& TrimRight(LPCSTR characters);
+    void AnsiToOem();
+    void OemToAnsi();
+
+    // As printf; a CString may stand for %s. The forms with a number take the format from the string table.
+    template <class... Arguments> void Format(LPCSTR format, Arguments... arguments);
+    template <class... Arguments> void Format(UINT id, Arguments... arguments);
+    template <class... Arguments> void AppendFormat(LPCSTR format, Arguments... arguments);
+    template <class... Arguments> void AppendFormat(UINT id, Arguments... arguments);
     void FormatV(LPCSTR format, va_list arguments);
     void AppendFormatV(LPCSTR format, va_list arguments);
+    // As the platform's function of that name: %1 to %99.
+    template <class... Arguments> void FormatMessage(LPCSTR format, Arguments... arguments);
+    template <class... Arguments> void FormatMessage(UINT id, Arguments... arguments);
+    void FormatMessageV(LPCSTR format, va_list* arguments);
 
     // Both leave the string empty and answer FALSE where there is nothing to load.
     BOOL LoadString(UINT id);
     BOOL LoadString(HINSTANCE instance, UINT id);
+    BOOL GetEnvironmentVariable(LPCSTR name);
 
     BSTR AllocSysString() const;
+    BSTR SetSysString(BSTR* text) const;
 
 private:
     // std::string wants no negative positions.
     std::size_t clamp(int position) const;
+    static std::size_t clamped_length(int length) { return length > 0 ? static_cast<std::size_t>(length) : 0; }
+    CString& FormatArguments(LPCSTR format, ...);
+    void FormatMessageArguments(LPCSTR format, ...);
+    static CString Stored(UINT id);
 
     std::string m_text;
 };
+
+typedef CString CStringA;
+
+inline LPCSTR AfxVariadic(const CString& text) {
+    return text;
+}
+
+template <class... Arguments> void CString::Format(LPCSTR format, Arguments... arguments) {
+    *this = CString().FormatArguments(format, AfxVariadic(arguments)...);
+}
+template <class... Arguments> void CString::Format(UINT id, Arguments... arguments) {
+    Format(Stored(id).GetString(), arguments...);
+}
+template <class... Arguments> void CString::AppendFormat(LPCSTR format, Arguments... arguments) {
+    *this += CString().FormatArguments(format, AfxVariadic(arguments)...);
+}
+template <class... Arguments> void CString::AppendFormat(UINT id, Arguments... arguments) {
+    AppendFormat(Stored(id).GetString(), arguments...);
+}
+template <class... Arguments> void CString::FormatMessage(LPCSTR format, Arguments... arguments) {
+    FormatMessageArguments(format, AfxVariadic(arguments)...);
+}
+template <class... Arguments> void CString::FormatMessage(UINT id, Arguments... arguments) {
+    FormatMessage(Stored(id).GetString(), arguments...);
+}
 
 ZOPAFX_API CString AFXAPI operator+(const CString& a, const CString& b);
 ZOPAFX_API CString AFXAPI operator+(const CString& a, LPCSTR b);
@@ -75,39 +173,27 @@ ZOPAFX_API CString AFXAPI operator+(LPCSTR a, const CString& b);
 ZOPAFX_API CString AFXAPI operator+(const CString& a, char b);
 ZOPAFX_API CString AFXAPI operator+(char a, const CString& b);
 
-inline bool operator==(const CString& a, const CString& b) {
-    return a.Compare(b) == 0;
+#define AFX_COMPARE_STRINGS(op)                                                                                        \
+    inline bool operator op(const CString& a, const CString& b) {                                                      \
+        return a.Compare(b) op 0;                                                                                      \
+    }                                                                                                                  \
+    inline bool operator op(const CString& a, LPCSTR b) {                                                              \
+        return a.Compare(b) op 0;                                                                                      \
+    }                                                                                                                  \
+    inline bool operator op(LPCSTR a, const CString& b) {                                                              \
+        return 0 op b.Compare(a);                                                                                      \
+    }
+AFX_COMPARE_STRINGS(==)
+AFX_COMPARE_STRINGS(!=)
+AFX_COMPARE_STRINGS(<)
+AFX_COMPARE_STRINGS(>)
+AFX_COMPARE_STRINGS(<=)
+AFX_COMPARE_STRINGS(>=)
+#undef AFX_COMPARE_STRINGS
+
+inline bool operator==(const CString& a, char b) {
+    return a.GetLength() == 1 && a[0] == b;
 }
-inline bool operator==(const CString& a, LPCSTR b) {
-    return a.Compare(b) == 0;
-}
-inline bool operator==(LPCSTR a, const CString& b) {
-    return b.Compare(a) == 0;
-}
-inline bool operator!=(const CString& a, const CString& b) {
-    return a.Compare(b) != 0;
-}
-inline bool operator!=(const CString& a, LPCSTR b) {
-    return a.Compare(b) != 0;
-}
-inline bool operator!=(LPCSTR a, const CString& b) {
-    return b.Compare(a) != 0;
-}
-inline bool operator<(const CString& a, const CString& b) {
-    return a.Compare(b) < 0;
-}
-inline bool operator<(const CString& a, LPCSTR b) {
-    return a.Compare(b) < 0;
-}
-inline bool operator>(const CString& a, const CString& b) {
-    return a.Compare(b) > 0;
-}
-inline bool operator>(const CString& a, LPCSTR b) {
-    return a.Compare(b) > 0;
-}
-inline bool operator<=(const CString& a, const CString& b) {
-    return a.Compare(b) <= 0;
-}
-inline bool operator>=(const CString& a, const CString& b) {
-    return a.Compare(b) >= 0;
+inline bool operator!=(const CString& a, char b) {
+    return !(a == b);
 }

@@ -11,7 +11,7 @@
 #include "afx_cmdtarget.h"
 #include "afx_cmdui.h"
 #include "afx_wnd.h"
-#include "afx_controls.h"
+#include "afx_boxes.h"
 #include "afx_data_exchange.h"
 #include "afx_dialog.h"
 #include "afx_frame.h"

@@ -48,36 +48,29 @@ BOOL CDC::DeleteDC() {
     return handle != nullptr && ::DeleteDC(handle);
 }
 
-CBitmap* CDC::SelectObject(CBitmap* pBitmap) {
-    return CBitmap::FromHandle(static_cast<HBITMAP>(::SelectObject(m_hDC, pBitmap->GetSafeHandle())));
+BOOL CDC::AttachNew(HDC hDC) {
+    if (Attach(hDC))
+        return TRUE;
+    if (hDC != nullptr)
+        ::DeleteDC(hDC);
+    return FALSE;
 }
 
-CPalette* CDC::SelectPalette(CPalette* pPalette, BOOL bForceBackground) {
-    const HPALETTE handle = static_cast<HPALETTE>(pPalette->GetSafeHandle());
-    return CPalette::FromHandle(::SelectPalette(m_hDC, handle, bForceBackground));
+void PASCAL CDC::DeleteTempMap() {
+    device_contexts().delete_temporary();
 }
 
-COLORREF CDC::SetBkColor(COLORREF crColor) {
-    return ::SetBkColor(m_hDC, crColor);
+void CDC::SetOutputDC(HDC hDC) {
+    if (m_hDC == nullptr)
+        device_contexts().attach(this, hDC);
 }
 
-COLORREF CDC::SetTextColor(COLORREF crColor) {
-    return ::SetTextColor(m_hDC, crColor);
+void CDC::ReleaseOutputDC() {
+    device_contexts().detach(this);
 }
 
-void CDC::FillSolidRect(LPCRECT lpRect, COLORREF clr) {
-    // The background colour stays set, as documented.
-    ::SetBkColor(m_hDC, clr);
-    ::ExtTextOut(m_hDC, 0, 0, ETO_OPAQUE, lpRect, nullptr, 0, nullptr);
-}
-
-void CDC::FillSolidRect(int x, int y, int cx, int cy, COLORREF clr) {
-    const RECT rect{x, y, x + cx, y + cy};
-    FillSolidRect(&rect, clr);
-}
-
-BOOL CDC::TextOut(int x, int y, LPCTSTR lpszString, int nCount) {
-    return ::TextOut(m_hDC, x, y, lpszString, nCount);
+CWnd* CDC::GetWindow() const {
+    return CWnd::FromHandle(::WindowFromDC(m_hDC));
 }
 
 CClientDC::CClientDC(CWnd* pWnd) : m_hWnd(pWnd->GetSafeHwnd()) {

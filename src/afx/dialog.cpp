@@ -41,6 +41,24 @@ BOOL CDialog::Create(UINT nIDTemplate, CWnd* pParentWnd) {
     return Create(MAKEINTRESOURCE(nIDTemplate), pParentWnd);
 }
 
+BOOL CDialog::CreateIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, void* lpDialogInit) {
+    if (m_hWnd != nullptr || lpDialogTemplate == nullptr)
+        return FALSE;
+    m_lpDialogInit = lpDialogInit;
+    m_pParentWnd = pParentWnd;
+    m_modal = false;
+    CWnd* parent = pParentWnd != nullptr ? pParentWnd : AfxGetMainWnd();
+    return CreateFrom(lpDialogTemplate, AfxGetResourceHandle(), parent->GetSafeHwnd());
+}
+
+BOOL CDialog::CreateIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd) {
+    const auto form = static_cast<LPCDLGTEMPLATE>(::GlobalLock(hDialogTemplate));
+    const BOOL created = CreateIndirect(form, pParentWnd);
+    if (form != nullptr)
+        ::GlobalUnlock(hDialogTemplate);
+    return created;
+}
+
 BOOL CDialog::CreateFrom(LPCDLGTEMPLATE form, HINSTANCE module, HWND owner) {
     AfxHookWindowCreate(this);
     const HWND hwnd = ::CreateDialogIndirectParam(module, form, owner, &CDialog::DialogProc, 0);
@@ -51,17 +69,28 @@ BOOL CDialog::CreateFrom(LPCDLGTEMPLATE form, HINSTANCE module, HWND owner) {
 
 BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, void* lpDialogInit) {
     m_lpDialogTemplate = lpDialogTemplate;
+    m_lpDialogInit = lpDialogInit;
     m_pParentWnd = pParentWnd;
     return TRUE;
 }
 
+BOOL CDialog::InitModalIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd) {
+    const auto form = static_cast<LPCDLGTEMPLATE>(::LockResource(hDialogTemplate));
+    return form != nullptr && InitModalIndirect(form, pParentWnd);
+}
+
 INT_PTR CALLBACK CDialog::DialogProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message != WM_INITDIALOG)
+    if (message != WM_INITDIALOG && message != WM_SETFONT)
         return FALSE;
     auto* dialog = dynamic_cast<CDialog*>(CWnd::FromHandlePermanent(hwnd));
     if (dialog == nullptr)
-        return TRUE;
+        return message == WM_INITDIALOG;
     try {
+        if (message == WM_SETFONT) {
+            dialog->OnSetFont(CFont::FromHandle(reinterpret_cast<HFONT>(wParam)));
+            return FALSE;
+        }
+        dialog->PreInitDialog();
         return dialog->OnInitDialog();
     } catch (...) {
         answer_exception({hwnd, message, wParam, lParam, 0, {0, 0}});
@@ -90,7 +119,7 @@ INT_PTR CDialog::DoModal() {
     if (!CreateFrom(form, module, parent.handle()))
         return -1;
     const DLGTEMPLATE& placed = *form;
-    if (placed.x == 0 && placed.y == 0 && (GetStyle() & (DS_ABSALIGN | DS_CENTER | DS_CENTERMOUSE)) == 0)
+    if (placed.x == 0 && placed.y == 0 && CheckAutoCenter())
         CenterWindow();
     const DWORD idle = (GetStyle() & DS_NOIDLEMSG) != 0 ? MLF_SHOWONIDLE | MLF_NOIDLEMSG : MLF_SHOWONIDLE;
     if (m_modal)
@@ -105,9 +134,22 @@ void CDialog::EndDialog(int nResult) {
     ::EndDialog(m_hWnd, nResult);
 }
 
+BOOL CDialog::CheckAutoCenter() {
+    return (GetStyle() & (DS_ABSALIGN | DS_CENTER | DS_CENTERMOUSE)) == 0;
+}
+
+void CDialog::PreInitDialog() {}
+
+void CDialog::OnSetFont(CFont* pFont) {}
+
 BOOL CDialog::OnInitDialog() {
-    UpdateData(FALSE);
-    return TRUE;
+    const BOOL filled = m_lpDialogInit != nullptr       ? ExecuteDlgInit(m_lpDialogInit)
+                        : m_lpszTemplateName != nullptr ? ExecuteDlgInit(m_lpszTemplateName)
+                                                        : TRUE;
+    if (filled && UpdateData(FALSE))
+        return TRUE;
+    EndDialog(-1);
+    return FALSE;
 }
 
 void CDialog::OnOK() {

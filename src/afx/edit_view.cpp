@@ -78,6 +78,7 @@ void CEditView::GetSelectedText(CString& strResult) const {
 
 void CEditView::SerializeRaw(CArchive& ar) {
     constexpr ULONGLONG most = 0x7FFF0000;
+    ar.Flush(); // the text goes past the archive's buffer
     CFile& file = *ar.GetFile();
     if (ar.IsStoring()) {
         CString text;

@@ -3,6 +3,7 @@
 #include "atlexcept.h"
 
 #include <cctype>
+#include <cerrno>
 #include <cstdio>
 
 IMPLEMENT_DYNAMIC(CException, CObject)
@@ -14,6 +15,7 @@ IMPLEMENT_DYNAMIC(CNotSupportedException, CSimpleException)
 IMPLEMENT_DYNAMIC(CUserException, CSimpleException)
 IMPLEMENT_DYNAMIC(COleException, CException)
 IMPLEMENT_DYNAMIC(CFileException, CException)
+IMPLEMENT_DYNAMIC(CArchiveException, CException)
 
 namespace {
 
@@ -95,6 +97,57 @@ BOOL CFileException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnH
         text = m_strFileName + ": " + reason;
     copy_text(lpszError, nMaxError, text);
     return TRUE;
+}
+
+BOOL CArchiveException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext) const {
+    if (pnHelpContext != nullptr)
+        *pnHelpContext = 0;
+    static constexpr LPCTSTR reasons[] = {
+        "No error.",
+        "The archive failed.",
+        "An archive that is loaded was written to.",
+        "The file ends too early.",
+        "An archive that is stored was read from.",
+        "The file has an invalid format.",
+        "The file holds an object of an unexpected class.",
+        "The file was written by another version of the program.",
+        "The text does not fit.",
+    };
+    const CString reason = m_cause >= 0 && m_cause <= bufferFull ? reasons[m_cause] : reasons[genericException];
+    copy_text(lpszError, nMaxError, m_strFileName.IsEmpty() ? reason : m_strFileName + ": " + reason);
+    return TRUE;
+}
+
+void AFXAPI AfxThrowArchiveException(int cause, LPCTSTR lpszArchiveName) {
+    throw new CArchiveException(cause, lpszArchiveName);
+}
+
+int PASCAL CFileException::ErrnoToException(int nErrno) {
+    switch (nErrno) {
+    case EPERM:
+    case EACCES:
+        return accessDenied;
+    case EBADF:
+        return invalidFile;
+    case EDEADLOCK:
+        return sharingViolation;
+    case EMFILE:
+        return tooManyOpenFiles;
+    case ENOENT:
+    case ENFILE:
+        return fileNotFound;
+    case ENOSPC:
+        return diskFull;
+    case EINVAL:
+    case EIO:
+        return hardIO;
+    default:
+        return genericException;
+    }
+}
+
+void PASCAL CFileException::ThrowErrno(int nErrno, LPCTSTR lpszFileName) {
+    AfxThrowFileException(ErrnoToException(nErrno), static_cast<LONG>(_doserrno), lpszFileName);
 }
 
 int PASCAL CFileException::OsErrorToException(LONG lOsError) {

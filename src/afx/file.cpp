@@ -1,4 +1,8 @@
 #include "afx_file.h"
+#include "file_names.h"
+
+#include <memory>
+#include <utility>
 
 IMPLEMENT_DYNAMIC(CFile, CObject)
 
@@ -16,6 +20,8 @@ DWORD sharing_of(UINT flags) {
     switch (flags & 0x70) {
     case CFile::shareDenyWrite:
         return FILE_SHARE_READ;
+    case CFile::shareDenyRead:
+        return FILE_SHARE_WRITE;
     case CFile::shareDenyNone:
         return FILE_SHARE_READ | FILE_SHARE_WRITE;
     default:
@@ -23,10 +29,23 @@ DWORD sharing_of(UINT flags) {
     }
 }
 
-CString full_path(LPCTSTR name) {
-    char path[MAX_PATH];
-    const DWORD length = ::GetFullPathName(name, MAX_PATH, path, nullptr);
-    return length > 0 && length < MAX_PATH ? path : name;
+DWORD disposition_of(UINT flags) {
+    if ((flags & CFile::modeCreate) == 0)
+        return OPEN_EXISTING;
+    return (flags & CFile::modeNoTruncate) != 0 ? OPEN_ALWAYS : CREATE_ALWAYS;
+}
+
+DWORD attributes_of(UINT flags) {
+    static constexpr std::pair<UINT, DWORD> meanings[] = {{CFile::osNoBuffer, FILE_FLAG_NO_BUFFERING},
+                                                          {CFile::osWriteThrough, FILE_FLAG_WRITE_THROUGH},
+                                                          {CFile::osRandomAccess, FILE_FLAG_RANDOM_ACCESS},
+                                                          {CFile::osSequentialScan, FILE_FLAG_SEQUENTIAL_SCAN}};
+    DWORD attributes = FILE_ATTRIBUTE_NORMAL;
+    for (const auto& [flag, attribute] : meanings) {
+        if ((flags & flag) != 0)
+            attributes |= attribute;
+    }
+    return attributes;
 }
 
 } // namespace
@@ -47,12 +66,11 @@ void CFile::ThrowLastError() const {
 
 BOOL CFile::Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError) {
     Abort();
-    SECURITY_ATTRIBUTES inheritance{sizeof(inheritance), nullptr, TRUE};
-    m_hFile =
-        ::CreateFile(lpszFileName, access_of(nOpenFlags), sharing_of(nOpenFlags), &inheritance,
-                     (nOpenFlags & modeCreate) != 0 ? CREATE_ALWAYS : OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    SECURITY_ATTRIBUTES inheritance{sizeof(inheritance), nullptr, (nOpenFlags & modeNoInherit) == 0};
+    m_hFile = ::CreateFile(lpszFileName, access_of(nOpenFlags), sharing_of(nOpenFlags), &inheritance,
+                           disposition_of(nOpenFlags), attributes_of(nOpenFlags), nullptr);
     if (m_hFile != hFileNull) {
-        m_strFileName = full_path(lpszFileName);
+        m_strFileName = full_path_of(lpszFileName);
         return TRUE;
     }
     if (pError != nullptr) {
@@ -106,6 +124,29 @@ void CFile::SetLength(ULONGLONG dwNewLen) {
     Seek(static_cast<LONGLONG>(dwNewLen), begin);
     if (!::SetEndOfFile(m_hFile))
         ThrowLastError();
+}
+
+void CFile::LockRange(ULONGLONG dwPos, ULONGLONG dwCount) {
+    if (!::LockFile(m_hFile, static_cast<DWORD>(dwPos), static_cast<DWORD>(dwPos >> 32), static_cast<DWORD>(dwCount),
+                    static_cast<DWORD>(dwCount >> 32)))
+        ThrowLastError();
+}
+
+void CFile::UnlockRange(ULONGLONG dwPos, ULONGLONG dwCount) {
+    if (!::UnlockFile(m_hFile, static_cast<DWORD>(dwPos), static_cast<DWORD>(dwPos >> 32), static_cast<DWORD>(dwCount),
+                      static_cast<DWORD>(dwCount >> 32)))
+        ThrowLastError();
+}
+
+CFile* CFile::Duplicate() const {
+    auto copy = std::make_unique<CFile>();
+    HANDLE handle = nullptr;
+    if (!::DuplicateHandle(::GetCurrentProcess(), m_hFile, ::GetCurrentProcess(), &handle, 0, FALSE,
+                           DUPLICATE_SAME_ACCESS))
+        ThrowLastError();
+    copy->m_hFile = handle;
+    copy->m_strFileName = m_strFileName;
+    return copy.release();
 }
 
 void CFile::Flush() {

@@ -1,4 +1,5 @@
 #include "afxdlgs.h"
+#include "file_names.h"
 #include "modal_parent.h"
 #include "wnd_state.h"
 
@@ -59,20 +60,114 @@ void CFileDialog::OnInitDone() {
     GetParent()->CenterWindow();
 }
 
+BOOL CFileDialog::OnFileNameOK() {
+    return FALSE;
+}
+
+UINT CFileDialog::OnShareViolation(LPCTSTR) {
+    return OFN_SHAREWARN;
+}
+
+void CFileDialog::OnFileNameChange() {}
+
+void CFileDialog::OnFolderChange() {}
+
+void CFileDialog::OnTypeChange() {}
+
+// The dialog takes the answer as a dialog's, besides that of the message itself.
 BOOL CFileDialog::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     if (CCommonDialog::OnNotify(wParam, lParam, pResult))
         return TRUE;
-    if (reinterpret_cast<const NMHDR*>(lParam)->code != CDN_INITDONE)
+    const auto* notice = reinterpret_cast<const OFNOTIFY*>(lParam);
+    switch (notice->hdr.code) {
+    case CDN_INITDONE:
+        OnInitDone();
+        return TRUE;
+    case CDN_SELCHANGE:
+        OnFileNameChange();
+        return TRUE;
+    case CDN_FOLDERCHANGE:
+        OnFolderChange();
+        return TRUE;
+    case CDN_TYPECHANGE:
+        m_ofn.nFilterIndex = notice->lpOFN->nFilterIndex;
+        OnTypeChange();
+        return TRUE;
+    case CDN_FILEOK:
+        *pResult = OnFileNameOK();
+        break;
+    case CDN_SHAREVIOLATION:
+        *pResult = OnShareViolation(notice->pszFile);
+        break;
+    default:
         return FALSE;
-    OnInitDone();
+    }
+    ::SetWindowLongPtr(m_hWnd, DWLP_MSGRESULT, *pResult);
     return TRUE;
 }
 
+CString CFileDialog::Asked(UINT message) const {
+    CString text;
+    ::SendMessage(::GetParent(m_hWnd), message, MAX_PATH, reinterpret_cast<LPARAM>(text.GetBufferSetLength(MAX_PATH)));
+    text.ReleaseBuffer();
+    return text;
+}
+
 CString CFileDialog::GetPathName() const {
-    return m_ofn.lpstrFile;
+    return m_hWnd != nullptr ? Asked(CDM_GETFILEPATH) : CString(m_ofn.lpstrFile);
 }
 
 CString CFileDialog::GetFileName() const {
-    const CString path = GetPathName();
-    return path.Mid(path.ReverseFind('\\') + 1);
+    return m_hWnd != nullptr ? Asked(CDM_GETSPEC) : file_name_of(GetPathName());
+}
+
+CString CFileDialog::GetFileExt() const {
+    return extension_of(GetFileName()).Mid(1);
+}
+
+CString CFileDialog::GetFileTitle() const {
+    const CString name = GetFileName();
+    return name.Left(name.GetLength() - extension_of(name).GetLength());
+}
+
+CString CFileDialog::GetFolderPath() const {
+    return m_hWnd != nullptr ? Asked(CDM_GETFOLDERPATH) : CString();
+}
+
+// One file stands with its path; of several, the folder comes first, then each name.
+CString CFileDialog::GetNextPathName(POSITION& pos) const {
+    const LPCTSTR first = m_ofn.lpstrFile;
+    LPCTSTR at = reinterpret_cast<LPCTSTR>(pos);
+    if (at == nullptr)
+        AfxThrowInvalidArgException();
+    const bool several = (m_ofn.Flags & OFN_ALLOWMULTISELECT) != 0 && first[lstrlen(first) + 1] != '\0';
+    pos = nullptr;
+    if (!several)
+        return at;
+    const CString folder = first;
+    if (at == first)
+        at += folder.GetLength() + 1;
+    const CString name = at;
+    const LPCTSTR next = at + name.GetLength() + 1;
+    if (*next != '\0')
+        pos = reinterpret_cast<POSITION>(const_cast<LPTSTR>(next));
+    return !folder.IsEmpty() && folder[folder.GetLength() - 1] == '\\' ? folder + name : folder + "\\" + name;
+}
+
+void CFileDialog::SetControlText(int nID, LPCSTR lpsz) {
+    GetParent()->SendMessage(CDM_SETCONTROLTEXT, static_cast<WPARAM>(nID), reinterpret_cast<LPARAM>(lpsz));
+}
+
+void CFileDialog::HideControl(int nID) {
+    GetParent()->SendMessage(CDM_HIDECONTROL, static_cast<WPARAM>(nID));
+}
+
+void CFileDialog::SetDefExt(LPCSTR lpsz) {
+    GetParent()->SendMessage(CDM_SETDEFEXT, 0, reinterpret_cast<LPARAM>(lpsz));
+}
+
+void CFileDialog::SetTemplate(LPCTSTR, LPCTSTR lpWin4ID) {
+    m_ofn.hInstance = AfxFindResourceHandle(lpWin4ID, RT_DIALOG);
+    m_ofn.lpTemplateName = lpWin4ID;
+    m_ofn.Flags |= OFN_ENABLETEMPLATE;
 }

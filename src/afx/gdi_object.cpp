@@ -11,6 +11,7 @@ IMPLEMENT_DYNAMIC(CBrush, CGdiObject)
 IMPLEMENT_DYNAMIC(CFont, CGdiObject)
 IMPLEMENT_DYNAMIC(CBitmap, CGdiObject)
 IMPLEMENT_DYNAMIC(CPalette, CGdiObject)
+IMPLEMENT_DYNAMIC(CRgn, CGdiObject)
 
 namespace {
 
@@ -27,6 +28,42 @@ void attach_or_throw(CGdiObject& object, HGDIOBJ handle) {
 
 void delete_temporary_gdi_objects() {
     gdi_objects().delete_temporary();
+}
+
+CGdiObject* PASCAL CGdiObject::FromHandle(HGDIOBJ hObject) {
+    switch (::GetObjectType(hObject)) {
+    case OBJ_PEN:
+    case OBJ_EXTPEN:
+        return CPen::FromHandle(static_cast<HPEN>(hObject));
+    case OBJ_BRUSH:
+        return CBrush::FromHandle(static_cast<HBRUSH>(hObject));
+    case OBJ_FONT:
+        return CFont::FromHandle(static_cast<HFONT>(hObject));
+    case OBJ_BITMAP:
+        return CBitmap::FromHandle(static_cast<HBITMAP>(hObject));
+    case OBJ_PAL:
+        return CPalette::FromHandle(static_cast<HPALETTE>(hObject));
+    case OBJ_REGION:
+        return CRgn::FromHandle(static_cast<HRGN>(hObject));
+    default:
+        return gdi_objects().any(hObject);
+    }
+}
+
+void PASCAL CGdiObject::DeleteTempMap() {
+    gdi_objects().delete_temporary();
+}
+
+CPen* PASCAL CPen::FromHandle(HPEN hPen) {
+    return static_cast<CPen*>(gdi_objects().any<CPen>(hPen));
+}
+
+CBrush* PASCAL CBrush::FromHandle(HBRUSH hBrush) {
+    return static_cast<CBrush*>(gdi_objects().any<CBrush>(hBrush));
+}
+
+CRgn* PASCAL CRgn::FromHandle(HRGN hRgn) {
+    return static_cast<CRgn*>(gdi_objects().any<CRgn>(hRgn));
 }
 
 CBitmap* PASCAL CBitmap::FromHandle(HBITMAP hBitmap) {
@@ -69,6 +106,32 @@ CPen::CPen(int nPenStyle, int nWidth, COLORREF crColor) {
     attach_or_throw(*this, ::CreatePen(nPenStyle, nWidth, crColor));
 }
 
+CPen::CPen(int nPenStyle, int nWidth, const LOGBRUSH* pLogBrush, int nStyleCount, const DWORD* lpStyle) {
+    attach_or_throw(*this, ::ExtCreatePen(static_cast<DWORD>(nPenStyle), static_cast<DWORD>(nWidth), pLogBrush,
+                                          static_cast<DWORD>(nStyleCount), lpStyle));
+}
+
+CBrush::CBrush(int nIndex, COLORREF crColor) {
+    attach_or_throw(*this, ::CreateHatchBrush(nIndex, crColor));
+}
+
+CBrush::CBrush(CBitmap* pBitmap) {
+    attach_or_throw(*this, ::CreatePatternBrush(static_cast<HBITMAP>(pBitmap->GetSafeHandle())));
+}
+
+BOOL CBrush::CreatePatternBrush(CBitmap* pBitmap) {
+    return AttachNew(::CreatePatternBrush(static_cast<HBITMAP>(pBitmap->GetSafeHandle())));
+}
+
+BOOL CBrush::CreateDIBPatternBrush(HGLOBAL hPackedDIB, UINT nUsage) {
+    const void* packed = ::GlobalLock(hPackedDIB);
+    if (packed == nullptr)
+        return FALSE;
+    const BOOL created = AttachNew(::CreateDIBPatternBrushPt(packed, nUsage));
+    ::GlobalUnlock(hPackedDIB);
+    return created;
+}
+
 CBrush::CBrush(COLORREF crColor) {
     attach_or_throw(*this, ::CreateSolidBrush(crColor));
 }
@@ -101,6 +164,23 @@ BOOL CFont::CreatePointFontIndirect(const LOGFONT* lpLogFont, CDC* pDC) {
     LOGFONT description = *lpLogFont;
     description.lfHeight = -std::abs(height.y - origin.y);
     return AttachNew(::CreateFontIndirect(&description));
+}
+
+BOOL CBitmap::LoadBitmap(LPCTSTR lpszResourceName) {
+    return AttachNew(::LoadBitmap(AfxFindResourceHandle(lpszResourceName, RT_BITMAP), lpszResourceName));
+}
+
+BOOL CBitmap::LoadMappedBitmap(UINT nIDBitmap, UINT nFlags, LPCOLORMAP lpColorMap, int nMapSize) {
+    const HINSTANCE module = AfxFindResourceHandle(MAKEINTRESOURCE(nIDBitmap), RT_BITMAP);
+    return AttachNew(::CreateMappedBitmap(module, static_cast<INT_PTR>(nIDBitmap), nFlags, lpColorMap, nMapSize));
+}
+
+BOOL CBitmap::CreateDiscardableBitmap(CDC* pDC, int nWidth, int nHeight) {
+    return AttachNew(::CreateDiscardableBitmap(pDC->GetSafeHdc(), nWidth, nHeight));
+}
+
+BOOL CRgn::CreateFromPath(CDC* pDC) {
+    return AttachNew(::PathToRegion(pDC->GetSafeHdc()));
 }
 
 BOOL CBitmap::CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight) {

@@ -100,3 +100,4 @@ void delete_temporary_windows();
 void delete_temporary_menus();
 void delete_temporary_gdi_objects();
 void delete_temporary_device_contexts();
+void delete_temporary_image_lists();

@@ -4,7 +4,6 @@
 
 #include <cstring>
 #include <new>
-#include <string>
 
 namespace {
 // Constant-initialised, so that registration from static constructors needs no order.
@@ -29,17 +28,6 @@ void CObject::AssertValid() const {}
 
 void CObject::Dump(CDumpContext& dc) const {
     dc << GetRuntimeClass()->m_lpszClassName << "\n";
-}
-
-CDumpContext afxDump;
-
-CDumpContext& CDumpContext::operator<<(LPCTSTR lpsz) {
-    ::OutputDebugString(lpsz != nullptr ? lpsz : "(null)");
-    return *this;
-}
-
-CDumpContext& CDumpContext::operator<<(int n) {
-    return *this << std::to_string(n).c_str();
 }
 
 BOOL CObject::IsSerializable() const {
@@ -76,14 +64,16 @@ BOOL CRuntimeClass::IsDerivedFrom(const CRuntimeClass* pBaseClass) const {
     return FALSE;
 }
 
+CRuntimeClass* PASCAL CRuntimeClass::FromName(LPCSTR lpszClassName) {
+    CRuntimeClass* at = lpszClassName != nullptr ? first_class : nullptr;
+    while (at != nullptr && std::strcmp(at->m_lpszClassName, lpszClassName) != 0)
+        at = at->m_pNextClass;
+    return at;
+}
+
 CObject* PASCAL CRuntimeClass::CreateObject(LPCSTR lpszClassName) {
-    if (lpszClassName == nullptr)
-        return nullptr;
-    for (CRuntimeClass* at = first_class; at != nullptr; at = at->m_pNextClass) {
-        if (std::strcmp(at->m_lpszClassName, lpszClassName) == 0)
-            return at->CreateObject();
-    }
-    return nullptr;
+    CRuntimeClass* found = FromName(lpszClassName);
+    return found != nullptr ? found->CreateObject() : nullptr;
 }
 
 AFX_CLASSINIT::AFX_CLASSINIT(CRuntimeClass* pNewClass) : m_class(pNewClass) {

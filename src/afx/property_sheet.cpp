@@ -1,122 +1,69 @@
+#include "afxcmn.h"
 #include "afxdlgs.h"
 #include "modal_parent.h"
 #include "wnd_state.h"
 
-IMPLEMENT_DYNAMIC(CPropertyPage, CDialog)
+#include <algorithm>
+#include <utility>
+
 IMPLEMENT_DYNAMIC(CPropertySheet, CWnd)
 
-CPropertyPage::CPropertyPage(UINT nIDTemplate) : CDialog(nIDTemplate), m_psp{} {
-    m_psp.dwSize = sizeof(m_psp);
-    m_psp.dwFlags = PSP_USECALLBACK;
-    m_psp.pszTemplate = m_lpszTemplateName;
-    m_psp.pfnDlgProc = &CPropertyPage::PageProc;
-    m_psp.pfnCallback = &CPropertyPage::PageCallback;
-    m_psp.lParam = reinterpret_cast<LPARAM>(this);
-}
+BEGIN_MESSAGE_MAP(CPropertySheet, CWnd)
+ON_MESSAGE(WM_INITDIALOG, &CPropertySheet::HandleInitDialog)
+ON_WM_CLOSE()
+END_MESSAGE_MAP()
 
-BOOL CPropertyPage::FindModule(HINSTANCE& module) const {
-    return module != nullptr ? ::FindResource(module, m_lpszTemplateName, RT_DIALOG) != nullptr
-                             : FindTemplate(m_lpszTemplateName, module) != nullptr;
-}
+namespace {
 
-// The next window that the system creates is the page's; a page that it could not create is released all the same.
-UINT CALLBACK CPropertyPage::PageCallback(HWND, UINT message, PROPSHEETPAGE* page) {
-    if (message == PSPCB_RELEASE)
-        AfxUnhookWindowCreate();
-    if (message != PSPCB_CREATE)
-        return TRUE;
-    try {
-        AfxHookWindowCreate(reinterpret_cast<CPropertyPage*>(page->lParam));
-        return TRUE;
-    } catch (...) {
-        answer_exception({});
-        return FALSE; // there will be no such page
-    }
-}
+constexpr int tab_control_id = 0x3020;
+constexpr DWORD default_style = static_cast<DWORD>(-1);
 
-INT_PTR CALLBACK CPropertyPage::PageProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_INITDIALOG)
-        AfxUnhookWindowCreate();
-    return DialogProc(hwnd, message, wParam, lParam);
-}
+} // namespace
 
-BOOL CPropertyPage::PreTranslateMessage(MSG* pMsg) {
-    return CWnd::PreTranslateMessage(pMsg); // the sheet's keys and tab order include the page's
-}
-
-BOOL CPropertyPage::OnSetActive() {
-    UpdateData(FALSE);
-    return TRUE;
-}
-
-BOOL CPropertyPage::OnKillActive() {
-    return UpdateData();
-}
-
-BOOL CPropertyPage::OnApply() {
-    OnOK();
-    return TRUE;
-}
-
-void CPropertyPage::OnReset() {
-    OnCancel();
-}
-
-BOOL CPropertyPage::OnQueryCancel() {
-    return TRUE;
-}
-
-void CPropertyPage::OnOK() {}
-
-void CPropertyPage::OnCancel() {}
-
-void CPropertyPage::SetModified(BOOL bChanged) {
-    if (CWnd* sheet = GetParent())
-        sheet->SendMessage(bChanged ? PSM_CHANGED : PSM_UNCHANGED, reinterpret_cast<WPARAM>(m_hWnd));
-}
-
-BOOL CPropertyPage::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
-    const auto* header = reinterpret_cast<const NMHDR*>(lParam);
-    if (CDialog::OnNotify(wParam, lParam, pResult))
-        return TRUE;
-    if (header->hwndFrom != ::GetParent(m_hWnd))
-        return FALSE;
-    switch (header->code) {
-    case PSN_SETACTIVE:
-        *pResult = OnSetActive() ? 0 : -1;
-        return TRUE;
-    case PSN_KILLACTIVE:
-        *pResult = !OnKillActive();
-        return TRUE;
-    case PSN_APPLY:
-        *pResult = OnApply() ? PSNRET_NOERROR : PSNRET_INVALID_NOCHANGEPAGE;
-        return TRUE;
-    case PSN_RESET:
-        OnReset();
-        return TRUE;
-    case PSN_QUERYCANCEL:
-        *pResult = !OnQueryCancel();
-        return TRUE;
-    default:
-        return FALSE;
-    }
+CPropertySheet::CPropertySheet() {
+    Construct("");
 }
 
 CPropertySheet::CPropertySheet(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage)
     : CPropertySheet(MAKEINTRESOURCE(nIDCaption), pParentWnd, iSelectPage) {}
 
-CPropertySheet::CPropertySheet(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage)
-    : m_psh{}, m_caption(pszCaption), m_parent(pParentWnd) {
+CPropertySheet::CPropertySheet(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage) {
+    Construct(pszCaption, pParentWnd, iSelectPage);
+}
+
+void CPropertySheet::Construct(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage) {
+    m_caption = pszCaption;
+    m_parent = pParentWnd;
+    m_psh = {};
     m_psh.dwSize = sizeof(m_psh);
-    m_psh.dwFlags = PSH_PROPSHEETPAGE | PSH_MODELESS;
+    m_psh.dwFlags = PSH_PROPSHEETPAGE | PSH_MODELESS | PSH_USECALLBACK;
+    m_psh.pfnCallback = &CPropertySheet::SheetCallback;
     m_psh.nStartPage = iSelectPage;
 }
 
+namespace {
+// Whose window PropertySheet is about to make; its callback is told nothing else.
+thread_local CPropertySheet* sheet_in_creation = nullptr;
+} // namespace
+
+// The template before it is used. It is of one of two kinds: the extended one has its style behind three more fields.
+int CALLBACK CPropertySheet::SheetCallback(HWND, UINT message, LPARAM lParam) {
+    const CPropertySheet* sheet = sheet_in_creation;
+    if (message != PSCB_PRECREATE || sheet == nullptr || sheet->m_style == 0)
+        return 0;
+    const auto* words = reinterpret_cast<const WORD*>(lParam);
+    BYTE* place = reinterpret_cast<BYTE*>(lParam) + (words[0] == 1 && words[1] == 0xFFFF ? 12 : 0);
+    DWORD style;
+    std::memcpy(&style, place, sizeof(style));
+    style = sheet->m_style | (style & (DS_SETFONT | DS_SHELLFONT));
+    std::memcpy(place, &style, sizeof(style));
+    return 0;
+}
+
 BOOL CPropertySheet::CreateSheet(HWND owner) {
-    std::vector<PROPSHEETPAGE> records;
-    for (CPropertyPage* page : m_pages) {
-        records.push_back(page->m_psp);
-        if (!page->FindModule(records.back().hInstance))
+    std::vector<PROPSHEETPAGE> records(m_pages.size());
+    for (std::size_t i = 0; i < records.size(); ++i) {
+        if (!m_pages[i]->Describe(records[i]))
             return FALSE;
     }
     if (m_psh.nStartPage >= records.size())
@@ -125,8 +72,10 @@ BOOL CPropertySheet::CreateSheet(HWND owner) {
     m_psh.pszCaption = m_caption;
     m_psh.nPages = static_cast<UINT>(records.size());
     m_psh.ppsp = records.data();
+    CPropertySheet* outer = std::exchange(sheet_in_creation, this);
     AfxHookWindowCreate(this);
     const INT_PTR hwnd = ::PropertySheet(&m_psh);
+    sheet_in_creation = outer;
     m_psh.ppsp = nullptr;
     if (!AfxUnhookWindowCreate() && m_hWnd == nullptr) { // else it is a page that was not created
         PostNcDestroy();
@@ -138,6 +87,8 @@ BOOL CPropertySheet::CreateSheet(HWND owner) {
 INT_PTR CPropertySheet::DoModal() {
     if (m_hWnd != nullptr)
         return -1;
+    m_modeless = false;
+    m_style = m_extended_style = 0;
     modal_parent parent(m_parent);
     if (m_pages.empty() || !CreateSheet(parent.handle()))
         return -1;
@@ -149,10 +100,138 @@ INT_PTR CPropertySheet::DoModal() {
 // A sheet that has been answered has no current page any more.
 BOOL CPropertySheet::ContinueModal() {
     if (CWnd::ContinueModal() && PropSheet_GetCurrentPageHwnd(m_hWnd) == nullptr)
-        EndModalLoop(PropSheet_GetResult(m_hWnd) > 0 ? IDOK : IDCANCEL);
+        EndModalLoop(PropSheet_GetResult(m_hWnd) <= 0 ? IDCANCEL : IsWizard() ? ID_WIZFINISH : IDOK);
     return CWnd::ContinueModal();
 }
 
 BOOL CPropertySheet::PreTranslateMessage(MSG* pMsg) {
     return CWnd::PreTranslateMessage(pMsg) || PropSheet_IsDialogMessage(m_hWnd, pMsg);
+}
+
+BOOL CPropertySheet::Create(CWnd* pParentWnd, DWORD dwStyle, DWORD dwExStyle) {
+    if (m_hWnd != nullptr || m_pages.empty())
+        return FALSE;
+    m_modeless = true;
+    m_modal = false;
+    m_style = dwStyle != default_style ? dwStyle : 0;
+    m_extended_style = dwExStyle;
+    const DWORD flags = m_psh.dwFlags;
+    m_psh.dwFlags |= PSH_NOAPPLYNOW;
+    const BOOL created = CreateSheet(pParentWnd->GetSafeHwnd());
+    m_psh.dwFlags = flags;
+    if (created && m_extended_style != 0)
+        ModifyStyleEx(0, m_extended_style, SWP_FRAMECHANGED);
+    return created;
+}
+
+LRESULT CPropertySheet::HandleInitDialog(WPARAM, LPARAM) {
+    return OnInitDialog();
+}
+
+BOOL CPropertySheet::OnInitDialog() {
+    const HWND tabs = ::GetDlgItem(m_hWnd, tab_control_id);
+    if (!m_bStacked && tabs != nullptr)
+        CWnd::ModifyStyle(tabs, TCS_MULTILINE, TCS_SINGLELINE, 0);
+    const BOOL result = Default() != 0;
+    if (m_modeless && !IsWizard())
+        RemoveButtons();
+    return result;
+}
+
+// A modeless sheet ends where its page ends.
+void CPropertySheet::RemoveButtons() {
+    CRect place, window;
+    GetWindowRect(window);
+    int top = window.bottom;
+    for (const int id : {IDOK, IDCANCEL, ID_APPLY_NOW, IDHELP}) {
+        const HWND button = ::GetDlgItem(m_hWnd, id);
+        if (button == nullptr)
+            continue;
+        if (::GetWindowLongPtr(button, GWL_STYLE) & WS_VISIBLE) {
+            ::GetWindowRect(button, place);
+            top = std::min<int>(top, place.top);
+        }
+        ::ShowWindow(button, SW_HIDE);
+        ::EnableWindow(button, FALSE);
+    }
+    SetWindowPos(nullptr, 0, 0, window.Width(), top - window.top, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void CPropertySheet::OnClose() {
+    if (m_modeless)
+        DestroyWindow();
+    else
+        Default();
+}
+
+void CPropertySheet::EndDialog(int nEndID) {
+    EndModalLoop(nEndID);
+    if (m_modeless)
+        DestroyWindow();
+}
+
+void CPropertySheet::AddPage(CPropertyPage* pPage) {
+    m_pages.push_back(pPage);
+    if (m_hWnd == nullptr)
+        return;
+    PROPSHEETPAGE record;
+    const HPROPSHEETPAGE made = pPage->Describe(record) ? ::CreatePropertySheetPage(&record) : nullptr;
+    if (made != nullptr && SendMessage(PSM_ADDPAGE, 0, reinterpret_cast<LPARAM>(made)))
+        return;
+    if (made != nullptr)
+        ::DestroyPropertySheetPage(made);
+    m_pages.pop_back();
+    AfxThrowResourceException();
+}
+
+void CPropertySheet::RemovePage(CPropertyPage* pPage) {
+    RemovePage(GetPageIndex(pPage));
+}
+
+void CPropertySheet::RemovePage(int nPage) {
+    if (nPage < 0 || nPage >= GetPageCount())
+        AfxThrowInvalidArgException();
+    if (m_hWnd != nullptr)
+        SendMessage(PSM_REMOVEPAGE, static_cast<WPARAM>(nPage));
+    m_pages.erase(m_pages.begin() + nPage);
+}
+
+int CPropertySheet::GetPageIndex(CPropertyPage* pPage) {
+    const auto at = std::find(m_pages.begin(), m_pages.end(), pPage);
+    return at != m_pages.end() ? static_cast<int>(at - m_pages.begin()) : -1;
+}
+
+int CPropertySheet::GetActiveIndex() const {
+    return m_hWnd != nullptr ? PropSheet_HwndToIndex(m_hWnd, PropSheet_GetCurrentPageHwnd(m_hWnd))
+                             : static_cast<int>(m_psh.nStartPage);
+}
+
+CPropertyPage* CPropertySheet::GetActivePage() const {
+    if (m_hWnd != nullptr)
+        return dynamic_cast<CPropertyPage*>(FromHandlePermanent(PropSheet_GetCurrentPageHwnd(m_hWnd)));
+    return m_psh.nStartPage < m_pages.size() ? m_pages[m_psh.nStartPage] : nullptr;
+}
+
+BOOL CPropertySheet::SetActivePage(int nPage) {
+    if (nPage < 0 || nPage >= GetPageCount())
+        return FALSE;
+    if (m_hWnd != nullptr)
+        return SendMessage(PSM_SETCURSEL, static_cast<WPARAM>(nPage)) != 0;
+    m_psh.nStartPage = static_cast<UINT>(nPage);
+    return TRUE;
+}
+
+BOOL CPropertySheet::SetActivePage(CPropertyPage* pPage) {
+    return SetActivePage(GetPageIndex(pPage));
+}
+
+CTabCtrl* CPropertySheet::GetTabControl() const {
+    return static_cast<CTabCtrl*>(FromHandle(reinterpret_cast<HWND>(SendMessage(PSM_GETTABCONTROL))));
+}
+
+void CPropertySheet::SetTitle(LPCTSTR lpszText, UINT nStyle) {
+    m_caption = lpszText;
+    m_psh.dwFlags = (m_psh.dwFlags & ~static_cast<DWORD>(PSH_PROPTITLE)) | nStyle;
+    if (m_hWnd != nullptr)
+        SendMessage(PSM_SETTITLE, nStyle, reinterpret_cast<LPARAM>(lpszText));
 }

@@ -48,6 +48,11 @@ CString::CString(LPCSTR source, int length) {
         m_text.assign(source, static_cast<std::size_t>(length));
 }
 
+CString::CString(LPCWSTR source, int length) {
+    if (source != nullptr && length > 0)
+        m_text = to_ansi(std::wstring(source, static_cast<std::size_t>(length)).c_str());
+}
+
 CString::CString(char c, int repeat) : m_text(static_cast<std::size_t>(std::max(repeat, 0)), c) {}
 
 CString& CString::operator=(LPCSTR source) {
@@ -75,10 +80,27 @@ char CString::operator[](int index) const {
     return index >= 0 && index < GetLength() ? m_text[static_cast<std::size_t>(index)] : '\0';
 }
 
+char CString::GetAt(int index) const {
+    if (index < 0 || index > GetLength()) // the terminator may be read
+        AfxThrowInvalidArgException();
+    return (*this)[index];
+}
+
+void CString::SetAt(int index, char c) {
+    if (index < 0 || index >= GetLength())
+        AfxThrowInvalidArgException();
+    m_text[static_cast<std::size_t>(index)] = c;
+}
+
 LPSTR CString::GetBuffer(int minimum) {
     // The old text stays in front; what lies behind it is null characters, so ReleaseBuffer finds the end.
     if (minimum > GetLength())
         m_text.resize(static_cast<std::size_t>(minimum), '\0');
+    return m_text.data();
+}
+
+LPSTR CString::GetBufferSetLength(int length) {
+    m_text.resize(clamped_length(length), '\0');
     return m_text.data();
 }
 
@@ -104,33 +126,6 @@ CString CString::Right(int count) const {
     return Mid(GetLength() - static_cast<int>(clamp(count)));
 }
 
-int CString::ReverseFind(char c) const {
-    const unsigned char* text = bytes(m_text.c_str());
-    const unsigned char* found = _mbsrchr(text, static_cast<unsigned char>(c));
-    return found != nullptr ? static_cast<int>(found - text) : -1;
-}
-
-int CString::Compare(LPCSTR text) const {
-    return _mbscmp(bytes(m_text.c_str()), bytes(text_or_empty(text)));
-}
-
-int CString::CompareNoCase(LPCSTR text) const {
-    return _mbsicmp(bytes(m_text.c_str()), bytes(text_or_empty(text)));
-}
-
-int CString::Replace(char oldChar, char newChar) {
-    int changed = 0;
-    // Character by character: the second byte of another one may have the same value.
-    const unsigned char* const end = bytes(m_text.data()) + m_text.size();
-    for (const unsigned char* at = bytes(m_text.data()); at < end; at = _mbsinc(at)) {
-        char& c = m_text[static_cast<std::size_t>(at - bytes(m_text.data()))];
-        changed += c == oldChar && oldChar != newChar;
-        if (c == oldChar)
-            c = newChar;
-    }
-    return changed;
-}
-
 void CString::FormatV(LPCSTR format, va_list arguments) {
     if (format == nullptr) {
         m_text.clear();
@@ -153,18 +148,52 @@ void CString::AppendFormatV(LPCSTR format, va_list arguments) {
     m_text += tail.m_text;
 }
 
-void AFX_CDECL CString::Format(LPCSTR format, ...) {
+CString& CString::FormatArguments(LPCSTR format, ...) {
     va_list arguments;
     va_start(arguments, format);
     FormatV(format, arguments);
     va_end(arguments);
+    return *this;
 }
 
-void AFX_CDECL CString::AppendFormat(LPCSTR format, ...) {
+CString CString::Stored(UINT id) {
+    CString text;
+    if (!text.LoadString(id))
+        AfxThrowResourceException();
+    return text;
+}
+
+void CString::FormatMessageV(LPCSTR format, va_list* arguments) {
+    LPSTR made = nullptr;
+    const DWORD length = ::FormatMessage(FORMAT_MESSAGE_FROM_STRING | FORMAT_MESSAGE_ALLOCATE_BUFFER, format, 0, 0,
+                                         reinterpret_cast<LPSTR>(&made), 0, arguments);
+    const CString text(made, static_cast<int>(length));
+    ::LocalFree(made);
+    if (length == 0 && *text_or_empty(format) != '\0')
+        AfxThrowMemoryException();
+    *this = text;
+}
+
+void CString::FormatMessageArguments(LPCSTR format, ...) {
     va_list arguments;
     va_start(arguments, format);
-    AppendFormatV(format, arguments);
+    FormatMessageV(format, &arguments);
     va_end(arguments);
+}
+
+BOOL CString::GetEnvironmentVariable(LPCSTR name) {
+    m_text.clear();
+    // Again where the variable grew in between.
+    for (DWORD room = ::GetEnvironmentVariable(name, nullptr, 0); room > 0;) {
+        m_text.resize(room);
+        const DWORD length = ::GetEnvironmentVariable(name, m_text.data(), room);
+        if (length < room) {
+            m_text.resize(length);
+            return length > 0;
+        }
+        room = length;
+    }
+    return FALSE;
 }
 
 BOOL CString::LoadString(UINT id) {
@@ -189,6 +218,12 @@ BSTR CString::AllocSysString() const {
         AfxThrowMemoryException();
     MultiByteToWideChar(CP_ACP, 0, m_text.c_str(), GetLength(), text, length);
     return text;
+}
+
+BSTR CString::SetSysString(BSTR* text) const {
+    BSTR made = AllocSysString();
+    SysFreeString(*text);
+    return *text = made;
 }
 
 CString AFXAPI operator+(const CString& a, const CString& b) {

@@ -24,6 +24,7 @@ struct thread_state {
     POINT last_mouse{-1, -1};
     CWnd* wnd_in_creation = nullptr;
     HHOOK creation_hook = nullptr;
+    HWND updating = nullptr;      // the window whose UpdateData runs: its controls' notifications are held back
     HMENU tracked_menu = nullptr; // the popup that TrackPopupMenu shows
     int wait_cursors = 0;
     HCURSOR cursor_before_wait = nullptr;

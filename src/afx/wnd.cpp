@@ -53,6 +53,7 @@ void delete_temporary_objects() {
     delete_temporary_menus();
     delete_temporary_gdi_objects();
     delete_temporary_device_contexts();
+    delete_temporary_image_lists();
 }
 
 CWnd::~CWnd() {

@@ -9,6 +9,12 @@ bool is_color_message(UINT message) {
     return message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC;
 }
 
+// A list box with draggable items tells its parent by a message whose number is the system's.
+UINT drag_list_message() {
+    static const UINT number = ::RegisterWindowMessage(DRAGLISTMSGSTRING);
+    return number;
+}
+
 AFX_CTLCOLOR color_record(UINT message, WPARAM wParam, LPARAM lParam) {
     return {reinterpret_cast<HWND>(lParam), reinterpret_cast<HDC>(wParam), message - WM_CTLCOLORMSGBOX};
 }
@@ -37,6 +43,8 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
             lParam = reinterpret_cast<LPARAM>(&color);
         }
         const AFX_MSGMAP_ENTRY* entry = find_message_entry(GetMessageMap(), message);
+        if (entry == nullptr && message == drag_list_message())
+            return ReflectLastMsg(reinterpret_cast<const DRAGLISTINFO*>(lParam)->hWnd, pResult);
         if (entry == nullptr)
             return FALSE;
         result = DispatchEntry(*entry, wParam, lParam);
@@ -63,6 +71,8 @@ const MSG* PASCAL CWnd::GetCurrentMessage() {
 BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
     const UINT id = LOWORD(wParam);
     const HWND control = reinterpret_cast<HWND>(lParam);
+    if (control != nullptr && this_thread().updating == m_hWnd)
+        return TRUE;
     if (control != nullptr)
         return ReflectLastMsg(control) || (id != 0 && OnCmdMsg(id, HIWORD(wParam), nullptr, nullptr));
     if (id == 0)
@@ -75,6 +85,8 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
 
 BOOL CWnd::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     NMHDR* header = reinterpret_cast<NMHDR*>(lParam);
+    if (this_thread().updating == m_hWnd)
+        return TRUE;
     if (ReflectLastMsg(header->hwndFrom, pResult))
         return TRUE;
     notification notify{header, pResult};

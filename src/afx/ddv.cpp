@@ -1,0 +1,122 @@
+// Limits of what the user may enter.
+#include "afx_app.h"
+#include "afx_data_exchange.h"
+#include "afxres.h"
+
+#include <cfloat>
+
+namespace {
+
+[[noreturn]] void refuse(CDataExchange* pDX, UINT prompt, const CString& first, const CString& second = CString()) {
+    CString text;
+    AfxFormatString2(text, prompt, first, second);
+    AfxMessageBox(text, MB_ICONEXCLAMATION, prompt);
+    pDX->Fail();
+}
+
+template <class Number> void check_number(CDataExchange* pDX, Number value, Number least, Number most) {
+    if (pDX->m_bSaveAndValidate && (value < least || value > most))
+        refuse(pDX, AFX_IDP_PARSE_INT_RANGE, std::to_string(least).c_str(), std::to_string(most).c_str());
+}
+
+void check_real(CDataExchange* pDX, double value, double least, double most, int digits) {
+    if (!pDX->m_bSaveAndValidate || (value >= least && value <= most))
+        return;
+    CString from, to;
+    from.Format("%.*g", digits, least);
+    to.Format("%.*g", digits, most);
+    refuse(pDX, AFX_IDP_PARSE_REAL_RANGE, from, to);
+}
+
+HWND last_control(CDataExchange* pDX) {
+    return ::GetDlgItem(pDX->m_pDlgWnd->GetSafeHwnd(), pDX->m_idLastControl);
+}
+
+void check_time(CDataExchange* pDX, const CTime& value, const CTime* least, const CTime* most, UINT set_range) {
+    if (pDX->m_bSaveAndValidate) {
+        if ((least != nullptr && value < *least) || (most != nullptr && value > *most))
+            refuse(pDX, AFX_IDP_PARSE_DATETIME, CString());
+        return;
+    }
+    SYSTEMTIME bounds[2]{};
+    WPARAM given = 0;
+    if (least != nullptr && least->GetAsSystemTime(bounds[0]))
+        given |= GDTR_MIN;
+    if (most != nullptr && most->GetAsSystemTime(bounds[1]))
+        given |= GDTR_MAX;
+    ::SendMessage(last_control(pDX), set_range, given, reinterpret_cast<LPARAM>(bounds));
+}
+
+} // namespace
+
+void AFXAPI DDV_MaxChars(CDataExchange* pDX, const CString& value, int nChars) {
+    if (pDX->m_bSaveAndValidate) {
+        if (value.GetLength() > nChars)
+            refuse(pDX, AFX_IDP_PARSE_STRING_SIZE, std::to_string(nChars).c_str());
+        return;
+    }
+    // A combo box has its own message; what is neither does not know this one.
+    const HWND control = last_control(pDX);
+    if (pDX->m_bEditLastControl)
+        ::SendMessage(control, EM_LIMITTEXT, static_cast<WPARAM>(nChars), 0);
+    else
+        ::SendMessage(control, CB_LIMITTEXT, static_cast<WPARAM>(nChars), 0);
+}
+
+void AFXAPI DDV_MinMaxByte(CDataExchange* pDX, BYTE value, BYTE minVal, BYTE maxVal) {
+    check_number(pDX, value, minVal, maxVal);
+}
+
+void AFXAPI DDV_MinMaxShort(CDataExchange* pDX, short value, short minVal, short maxVal) {
+    check_number(pDX, value, minVal, maxVal);
+}
+
+void AFXAPI DDV_MinMaxInt(CDataExchange* pDX, int value, int minVal, int maxVal) {
+    check_number(pDX, value, minVal, maxVal);
+}
+
+void AFXAPI DDV_MinMaxLong(CDataExchange* pDX, long value, long minVal, long maxVal) {
+    check_number(pDX, value, minVal, maxVal);
+}
+
+void AFXAPI DDV_MinMaxUInt(CDataExchange* pDX, UINT value, UINT minVal, UINT maxVal) {
+    check_number(pDX, value, minVal, maxVal);
+}
+
+void AFXAPI DDV_MinMaxDWord(CDataExchange* pDX, DWORD value, DWORD minVal, DWORD maxVal) {
+    check_number(pDX, value, minVal, maxVal);
+}
+
+void AFXAPI DDV_MinMaxLongLong(CDataExchange* pDX, LONGLONG value, LONGLONG minVal, LONGLONG maxVal) {
+    check_number(pDX, value, minVal, maxVal);
+}
+
+void AFXAPI DDV_MinMaxULongLong(CDataExchange* pDX, ULONGLONG value, ULONGLONG minVal, ULONGLONG maxVal) {
+    check_number(pDX, value, minVal, maxVal);
+}
+
+void AFXAPI DDV_MinMaxFloat(CDataExchange* pDX, const float& value, float minVal, float maxVal) {
+    check_real(pDX, value, minVal, maxVal, FLT_DIG);
+}
+
+void AFXAPI DDV_MinMaxDouble(CDataExchange* pDX, const double& value, double minVal, double maxVal) {
+    check_real(pDX, value, minVal, maxVal, DBL_DIG);
+}
+
+void AFXAPI DDV_MinMaxSlider(CDataExchange* pDX, DWORD value, DWORD minVal, DWORD maxVal) {
+    if (pDX->m_bSaveAndValidate) {
+        check_number(pDX, value, minVal, maxVal);
+        return;
+    }
+    const HWND control = last_control(pDX);
+    ::SendMessage(control, TBM_SETRANGEMIN, FALSE, static_cast<LPARAM>(minVal));
+    ::SendMessage(control, TBM_SETRANGEMAX, TRUE, static_cast<LPARAM>(maxVal));
+}
+
+void AFXAPI DDV_MinMaxDateTime(CDataExchange* pDX, CTime& refValue, const CTime* pMinRange, const CTime* pMaxRange) {
+    check_time(pDX, refValue, pMinRange, pMaxRange, DTM_SETRANGE);
+}
+
+void AFXAPI DDV_MinMaxMonth(CDataExchange* pDX, CTime& refValue, const CTime* pMinRange, const CTime* pMaxRange) {
+    check_time(pDX, refValue, pMinRange, pMaxRange, MCM_SETRANGE);
+}

@@ -1,0 +1,211 @@
+#include "afxcmn.h"
+
+#include <vector>
+
+IMPLEMENT_DYNCREATE(CListCtrl, CWnd)
+
+BEGIN_MESSAGE_MAP(CListCtrl, CWnd)
+ON_WM_NCDESTROY()
+END_MESSAGE_MAP()
+
+BOOL CListCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
+    ::InitCommonControls();
+    return CWnd::Create(WC_LISTVIEW, nullptr, dwStyle, rect, pParentWnd, nID);
+}
+
+BOOL CListCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
+    ::InitCommonControls();
+    return CWnd::CreateEx(dwExStyle, WC_LISTVIEW, nullptr, dwStyle | WS_CHILD, rect, pParentWnd, nID);
+}
+
+// The control deletes its lists with itself, but those that an object holds are not its own.
+void CListCtrl::RemoveImageList(int nImageList) {
+    const auto list = reinterpret_cast<HIMAGELIST>(SendMessage(LVM_GETIMAGELIST, static_cast<WPARAM>(nImageList)));
+    if (list != nullptr && CImageList::FromHandlePermanent(list) != nullptr)
+        SendMessage(LVM_SETIMAGELIST, static_cast<WPARAM>(nImageList), 0);
+}
+
+void CListCtrl::OnNcDestroy() {
+    RemoveImageList(LVSIL_NORMAL);
+    RemoveImageList(LVSIL_SMALL);
+    RemoveImageList(LVSIL_STATE);
+    CWnd::OnNcDestroy();
+}
+
+void CListCtrl::DrawItem(LPDRAWITEMSTRUCT) {}
+
+BOOL CListCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
+    if (CWnd::OnChildNotify(message, wParam, lParam, pResult))
+        return TRUE;
+    if (message != WM_DRAWITEM)
+        return FALSE;
+    DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
+    return TRUE;
+}
+
+BOOL CListCtrl::SetItem(int nItem, int nSubItem, UINT nMask, LPCTSTR lpszItem, int nImage, UINT nState, UINT nStateMask,
+                        LPARAM lParam) {
+    return SetItem(nItem, nSubItem, nMask, lpszItem, nImage, nState, nStateMask, lParam, 0);
+}
+
+BOOL CListCtrl::SetItem(int nItem, int nSubItem, UINT nMask, LPCTSTR lpszItem, int nImage, UINT nState, UINT nStateMask,
+                        LPARAM lParam, int nIndent) {
+    LVITEM item{};
+    item.mask = nMask;
+    item.iItem = nItem;
+    item.iSubItem = nSubItem;
+    item.stateMask = nStateMask;
+    item.state = nState;
+    item.pszText = const_cast<LPTSTR>(lpszItem);
+    item.iImage = nImage;
+    item.lParam = lParam;
+    item.iIndent = nIndent;
+    return SetItem(&item);
+}
+
+int CListCtrl::InsertItem(UINT nMask, int nItem, LPCTSTR lpszItem, UINT nState, UINT nStateMask, int nImage,
+                          LPARAM lParam) {
+    LVITEM item{};
+    item.mask = nMask;
+    item.iItem = nItem;
+    item.pszText = const_cast<LPTSTR>(lpszItem);
+    item.state = nState;
+    item.stateMask = nStateMask;
+    item.iImage = nImage;
+    item.lParam = lParam;
+    return InsertItem(&item);
+}
+
+BOOL CListCtrl::SetItemState(int nItem, UINT nState, UINT nMask) {
+    LVITEM item{};
+    item.state = nState;
+    item.stateMask = nMask;
+    return SetItemState(nItem, &item);
+}
+
+int CListCtrl::GetItemText(int nItem, int nSubItem, LPTSTR lpszText, int nLen) const {
+    LVITEM item{};
+    item.iSubItem = nSubItem;
+    item.cchTextMax = nLen;
+    item.pszText = lpszText;
+    return Ask(LVM_GETITEMTEXT, nItem, afx_param(&item));
+}
+
+// The control does not tell how long a text is.
+CString CListCtrl::GetItemText(int nItem, int nSubItem) const {
+    CString text;
+    for (int room = 128;; room *= 2) {
+        const int length = GetItemText(nItem, nSubItem, text.GetBufferSetLength(room), room);
+        if (length < room - 1) {
+            text.ReleaseBuffer();
+            return text;
+        }
+    }
+}
+
+BOOL CListCtrl::SetItemText(int nItem, int nSubItem, LPCTSTR lpszText) {
+    LVITEM item{};
+    item.iSubItem = nSubItem;
+    item.pszText = const_cast<LPTSTR>(lpszText);
+    return Ask(LVM_SETITEMTEXT, nItem, afx_param(&item));
+}
+
+DWORD_PTR CListCtrl::GetItemData(int nItem) const {
+    LVITEM item{};
+    item.iItem = nItem;
+    item.mask = LVIF_PARAM;
+    GetItem(&item);
+    return static_cast<DWORD_PTR>(item.lParam);
+}
+
+BOOL CListCtrl::GetCheck(int nItem) const {
+    return (GetItemState(nItem, LVIS_STATEIMAGEMASK) >> 12) == 2;
+}
+
+BOOL CListCtrl::SetCheck(int nItem, BOOL fCheck) {
+    return SetItemState(nItem, INDEXTOSTATEIMAGEMASK(fCheck ? 2 : 1), LVIS_STATEIMAGEMASK);
+}
+
+// A position is the item's index and one.
+int CListCtrl::GetNextSelectedItem(POSITION& pos) const {
+    const int item = static_cast<int>(reinterpret_cast<INT_PTR>(pos)) - 1;
+    pos = Selected(item);
+    return item;
+}
+
+int CListCtrl::InsertColumn(int nCol, LPCTSTR lpszColumnHeading, int nFormat, int nWidth, int nSubItem) {
+    LVCOLUMN column{};
+    column.mask = LVCF_TEXT | LVCF_FMT;
+    column.pszText = const_cast<LPTSTR>(lpszColumnHeading);
+    column.fmt = nFormat;
+    if (nWidth != -1) {
+        column.mask |= LVCF_WIDTH;
+        column.cx = nWidth;
+    }
+    if (nSubItem != -1) {
+        column.mask |= LVCF_SUBITEM;
+        column.iSubItem = nSubItem;
+    }
+    return InsertColumn(nCol, &column);
+}
+
+BOOL CListCtrl::GetColumnOrderArray(LPINT piArray, int iCount) const {
+    if (iCount == -1) {
+        const CHeaderCtrl* header = GetHeaderCtrl();
+        iCount = header != nullptr ? header->GetItemCount() : -1;
+    }
+    return iCount >= 0 && Ask(LVM_GETCOLUMNORDERARRAY, iCount, afx_param(piArray));
+}
+
+CHeaderCtrl* CListCtrl::GetHeaderCtrl() const {
+    return static_cast<CHeaderCtrl*>(CWnd::FromHandle(reinterpret_cast<HWND>(SendMessage(LVM_GETHEADER))));
+}
+
+BOOL CListCtrl::GetItemRect(int nItem, LPRECT lpRect, UINT nCode) const {
+    lpRect->left = static_cast<LONG>(nCode);
+    return Ask(LVM_GETITEMRECT, nItem, afx_param(lpRect));
+}
+
+BOOL CListCtrl::GetSubItemRect(int iItem, int iSubItem, int nArea, CRect& ref) const {
+    ref.top = iSubItem;
+    ref.left = nArea;
+    return Ask(LVM_GETSUBITEMRECT, iItem, afx_param(&ref));
+}
+
+int CListCtrl::HitTest(CPoint pt, UINT* pFlags) const {
+    LVHITTESTINFO place{};
+    place.pt = pt;
+    const int item = HitTest(&place);
+    if (pFlags != nullptr)
+        *pFlags = place.flags;
+    return item;
+}
+
+CEdit* CListCtrl::EditLabel(int nItem) {
+    return static_cast<CEdit*>(
+        CWnd::FromHandle(reinterpret_cast<HWND>(SendMessage(LVM_EDITLABEL, static_cast<WPARAM>(nItem)))));
+}
+
+CEdit* CListCtrl::GetEditControl() const {
+    return static_cast<CEdit*>(CWnd::FromHandle(reinterpret_cast<HWND>(SendMessage(LVM_GETEDITCONTROL))));
+}
+
+namespace {
+
+CImageList* new_list(LRESULT handle) {
+    if (handle == 0)
+        return nullptr;
+    auto* list = new CImageList;
+    list->Attach(reinterpret_cast<HIMAGELIST>(handle));
+    return list;
+}
+
+} // namespace
+
+CImageList* CListCtrl::CreateDragImage(int nItem, LPPOINT lpPoint) {
+    return new_list(SendMessage(LVM_CREATEDRAGIMAGE, static_cast<WPARAM>(nItem), afx_param(lpPoint)));
+}
+
+CImageList* CTreeCtrl::CreateDragImage(HTREEITEM hItem) {
+    return new_list(SendMessage(TVM_CREATEDRAGIMAGE, 0, afx_param(hItem)));
+}

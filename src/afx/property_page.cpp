@@ -1,0 +1,166 @@
+#include "afxdlgs.h"
+#include "wnd_state.h"
+
+IMPLEMENT_DYNAMIC(CPropertyPage, CDialog)
+
+CPropertyPage::CPropertyPage() : m_psp{} {}
+
+CPropertyPage::CPropertyPage(UINT nIDTemplate, UINT nIDCaption, DWORD dwSize)
+    : CPropertyPage(MAKEINTRESOURCE(nIDTemplate), nIDCaption, dwSize) {}
+
+CPropertyPage::CPropertyPage(LPCTSTR lpszTemplateName, UINT nIDCaption, DWORD) : m_psp{} {
+    Construct(lpszTemplateName, nIDCaption);
+}
+
+void CPropertyPage::Construct(LPCTSTR lpszTemplateName, UINT nIDCaption) {
+    m_lpszTemplateName = lpszTemplateName;
+    m_psp = {};
+    m_psp.dwSize = sizeof(m_psp);
+    m_psp.dwFlags = PSP_USECALLBACK;
+    m_psp.pszTemplate = m_lpszTemplateName;
+    m_psp.pfnDlgProc = &CPropertyPage::PageProc;
+    m_psp.pfnCallback = &CPropertyPage::PageCallback;
+    m_psp.lParam = reinterpret_cast<LPARAM>(this);
+    if (nIDCaption == 0)
+        return;
+    if (!m_strCaption.LoadString(nIDCaption))
+        AfxThrowResourceException();
+    m_psp.dwFlags |= PSP_USETITLE;
+    m_psp.pszTitle = m_strCaption;
+}
+
+// The page as the platform takes it; FALSE where there is no template.
+BOOL CPropertyPage::Describe(PROPSHEETPAGE& record) const {
+    record = m_psp;
+    if ((record.dwFlags & PSP_USETITLE) != 0 && !m_strCaption.IsEmpty())
+        record.pszTitle = m_strCaption; // it may have changed its place
+    return record.dwSize != 0 && FindModule(record.hInstance);
+}
+
+BOOL CPropertyPage::FindModule(HINSTANCE& module) const {
+    return module != nullptr ? ::FindResource(module, m_lpszTemplateName, RT_DIALOG) != nullptr
+                             : FindTemplate(m_lpszTemplateName, module) != nullptr;
+}
+
+// The next window that the system creates is the page's; a page that it could not create is released all the same.
+UINT CALLBACK CPropertyPage::PageCallback(HWND, UINT message, PROPSHEETPAGE* page) {
+    if (message == PSPCB_RELEASE)
+        AfxUnhookWindowCreate();
+    if (message != PSPCB_CREATE)
+        return TRUE;
+    try {
+        AfxHookWindowCreate(reinterpret_cast<CPropertyPage*>(page->lParam));
+        return TRUE;
+    } catch (...) {
+        answer_exception({});
+        return FALSE; // there will be no such page
+    }
+}
+
+INT_PTR CALLBACK CPropertyPage::PageProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_INITDIALOG)
+        AfxUnhookWindowCreate();
+    return DialogProc(hwnd, message, wParam, lParam);
+}
+
+BOOL CPropertyPage::PreTranslateMessage(MSG* pMsg) {
+    return CWnd::PreTranslateMessage(pMsg); // the sheet's keys and tab order include the page's
+}
+
+BOOL CPropertyPage::OnSetActive() {
+    UpdateData(FALSE);
+    return TRUE;
+}
+
+BOOL CPropertyPage::OnKillActive() {
+    return UpdateData();
+}
+
+BOOL CPropertyPage::OnApply() {
+    OnOK();
+    return TRUE;
+}
+
+void CPropertyPage::OnReset() {
+    OnCancel();
+}
+
+BOOL CPropertyPage::OnQueryCancel() {
+    return TRUE;
+}
+
+LRESULT CPropertyPage::OnWizardBack() {
+    return 0;
+}
+
+LRESULT CPropertyPage::OnWizardNext() {
+    return 0;
+}
+
+BOOL CPropertyPage::OnWizardFinish() {
+    return TRUE;
+}
+
+void CPropertyPage::OnOK() {}
+
+void CPropertyPage::OnCancel() {}
+
+void CPropertyPage::SetModified(BOOL bChanged) {
+    if (CWnd* sheet = GetParent())
+        sheet->SendMessage(bChanged ? PSM_CHANGED : PSM_UNCHANGED, reinterpret_cast<WPARAM>(m_hWnd));
+}
+
+void CPropertyPage::CancelToClose() {
+    if (CWnd* sheet = GetParent())
+        sheet->PostMessage(PSM_CANCELTOCLOSE);
+}
+
+LRESULT CPropertyPage::QuerySiblings(WPARAM wParam, LPARAM lParam) {
+    CWnd* sheet = GetParent();
+    return sheet != nullptr ? sheet->SendMessage(PSM_QUERYSIBLINGS, wParam, lParam) : 0;
+}
+
+CPropertySheet* CPropertyPage::GetParentSheet() {
+    return dynamic_cast<CPropertySheet*>(GetParent());
+}
+
+void CPropertyPage::EndDialog(int nEndID) {
+    if (CPropertySheet* sheet = GetParentSheet())
+        sheet->EndDialog(nEndID);
+}
+
+BOOL CPropertyPage::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
+    const auto* header = reinterpret_cast<const NMHDR*>(lParam);
+    if (CDialog::OnNotify(wParam, lParam, pResult))
+        return TRUE;
+    if (header->hwndFrom != ::GetParent(m_hWnd))
+        return FALSE;
+    switch (header->code) {
+    case PSN_SETACTIVE:
+        *pResult = OnSetActive() ? 0 : -1;
+        return TRUE;
+    case PSN_KILLACTIVE:
+        *pResult = !OnKillActive();
+        return TRUE;
+    case PSN_APPLY:
+        *pResult = OnApply() ? PSNRET_NOERROR : PSNRET_INVALID_NOCHANGEPAGE;
+        return TRUE;
+    case PSN_RESET:
+        OnReset();
+        return TRUE;
+    case PSN_WIZBACK:
+        *pResult = OnWizardBack();
+        return TRUE;
+    case PSN_WIZNEXT:
+        *pResult = OnWizardNext();
+        return TRUE;
+    case PSN_WIZFINISH:
+        *pResult = !OnWizardFinish();
+        return TRUE;
+    case PSN_QUERYCANCEL:
+        *pResult = !OnQueryCancel();
+        return TRUE;
+    default:
+        return FALSE;
+    }
+}

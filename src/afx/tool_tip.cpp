@@ -1,0 +1,102 @@
+#include "afxcmn.h"
+
+IMPLEMENT_DYNAMIC(CToolTipCtrl, CWnd)
+
+namespace {
+
+constexpr int longest_tip = 1024;
+
+CString stored(UINT id) {
+    CString text;
+    text.LoadString(id);
+    return text;
+}
+
+} // namespace
+
+BOOL CToolTipCtrl::Create(CWnd* pParentWnd, DWORD dwStyle) {
+    return CreateEx(pParentWnd, dwStyle, 0);
+}
+
+BOOL CToolTipCtrl::CreateEx(CWnd* pParentWnd, DWORD dwStyle, DWORD dwStyleEx) {
+    const INITCOMMONCONTROLSEX wanted{sizeof(wanted), ICC_BAR_CLASSES};
+    ::InitCommonControlsEx(&wanted);
+    const BOOL created =
+        CWnd::CreateEx(dwStyleEx, TOOLTIPS_CLASS, nullptr, WS_POPUP | dwStyle, CW_USEDEFAULT, CW_USEDEFAULT,
+                       CW_USEDEFAULT, CW_USEDEFAULT, pParentWnd->GetSafeHwnd(), nullptr, nullptr);
+    if (created)
+        SetOwner(pParentWnd);
+    return created;
+}
+
+void CToolTipCtrl::FillInToolInfo(TOOLINFO& ti, CWnd* pWnd, UINT_PTR nIDTool) const {
+    ti = {};
+    ti.cbSize = TTTOOLINFOA_V2_SIZE; // what every version of the control takes
+    const HWND window = pWnd->GetSafeHwnd();
+    if (nIDTool == 0) {
+        ti.hwnd = ::GetParent(window);
+        ti.uFlags = TTF_IDISHWND;
+        ti.uId = reinterpret_cast<UINT_PTR>(window);
+    } else {
+        ti.hwnd = window;
+        ti.uId = nIDTool;
+    }
+}
+
+BOOL CToolTipCtrl::AddTool(CWnd* pWnd, LPCTSTR lpszText, LPCRECT lpRectTool, UINT_PTR nIDTool) {
+    TOOLINFO tool;
+    FillInToolInfo(tool, pWnd, nIDTool);
+    if (lpRectTool != nullptr)
+        tool.rect = *lpRectTool;
+    tool.lpszText = const_cast<LPTSTR>(lpszText);
+    return afx_int(SendMessage(TTM_ADDTOOL, 0, afx_param(&tool)));
+}
+
+BOOL CToolTipCtrl::AddTool(CWnd* pWnd, UINT nIDText, LPCRECT lpRectTool, UINT_PTR nIDTool) {
+    const CString text = stored(nIDText);
+    return AddTool(pWnd, text.GetString(), lpRectTool, nIDTool);
+}
+
+void CToolTipCtrl::DelTool(CWnd* pWnd, UINT_PTR nIDTool) {
+    TOOLINFO tool;
+    FillInToolInfo(tool, pWnd, nIDTool);
+    SendMessage(TTM_DELTOOL, 0, afx_param(&tool));
+}
+
+void CToolTipCtrl::UpdateTipText(LPCTSTR lpszText, CWnd* pWnd, UINT_PTR nIDTool) {
+    TOOLINFO tool;
+    FillInToolInfo(tool, pWnd, nIDTool);
+    tool.lpszText = const_cast<LPTSTR>(lpszText);
+    SendMessage(TTM_UPDATETIPTEXT, 0, afx_param(&tool));
+}
+
+void CToolTipCtrl::UpdateTipText(UINT nIDText, CWnd* pWnd, UINT_PTR nIDTool) {
+    const CString text = stored(nIDText);
+    UpdateTipText(text.GetString(), pWnd, nIDTool);
+}
+
+void CToolTipCtrl::GetText(CString& str, CWnd* pWnd, UINT_PTR nIDTool) const {
+    TOOLINFO tool;
+    FillInToolInfo(tool, pWnd, nIDTool);
+    tool.lpszText = str.GetBufferSetLength(longest_tip);
+    SendMessage(TTM_GETTEXT, longest_tip, afx_param(&tool));
+    str.ReleaseBuffer();
+}
+
+void CToolTipCtrl::SetToolRect(CWnd* pWnd, UINT_PTR nIDTool, LPCRECT lpRect) {
+    TOOLINFO tool;
+    FillInToolInfo(tool, pWnd, nIDTool);
+    tool.rect = *lpRect;
+    SendMessage(TTM_NEWTOOLRECT, 0, afx_param(&tool));
+}
+
+BOOL CToolTipCtrl::HitTest(CWnd* pWnd, CPoint pt, LPTOOLINFO lpToolInfo) const {
+    TTHITTESTINFO test{};
+    test.hwnd = pWnd->GetSafeHwnd();
+    test.pt = pt;
+    test.ti.cbSize = TTTOOLINFOA_V2_SIZE;
+    if (SendMessage(TTM_HITTEST, 0, afx_param(&test)) == 0)
+        return FALSE;
+    *lpToolInfo = test.ti;
+    return TRUE;
+}

@@ -1,0 +1,282 @@
+// A dialog with every exchange of data, and its controls.
+#include "afx_test_app.h"
+#include "modal.h"
+
+#include <afxcmn.h>
+#include <afxdlgs.h>
+#include <afxdtctl.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+class data_dialog : public CDialog {
+    DECLARE_MESSAGE_MAP()
+
+public:
+    data_dialog() : CDialog(IDD_DATA) {}
+    BOOL OnInitDialog() override {
+        for (const char* fruit : {"apple", "cherry", "cherry pie"})
+            SendDlgItemMessage(IDC_FRUITS, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(fruit));
+        for (const int box : {IDC_TOWNS, IDC_CHOICE}) {
+            SendDlgItemMessage(box, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>("Bern"));
+            SendDlgItemMessage(box, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>("Bonn"));
+        }
+        ::SetScrollRange(::GetDlgItem(m_hWnd, IDC_LEVEL), SB_CTL, 0, 50, FALSE);
+        return CDialog::OnInitDialog();
+    }
+    void DoDataExchange(CDataExchange* pDX) override {
+        CDialog::DoDataExchange(pDX);
+        DDX_Text(pDX, IDC_NAME, name);
+        DDV_MaxChars(pDX, name, 5);
+        DDX_Text(pDX, IDC_COUNT, count);
+        DDV_MinMaxInt(pDX, count, -10, 100);
+        DDX_Text(pDX, IDC_FACTOR, factor);
+        DDX_Text(pDX, IDC_LETTERS, letters, sizeof(letters));
+        DDX_Check(pDX, IDC_BOX, box);
+        DDX_Radio(pDX, IDC_RED, colour);
+        DDX_LBString(pDX, IDC_FRUITS, fruit);
+        DDX_CBString(pDX, IDC_TOWNS, town);
+        DDX_CBIndex(pDX, IDC_CHOICE, choice);
+        DDX_Scroll(pDX, IDC_LEVEL, level);
+        DDX_Slider(pDX, IDC_SLIDE, slide);
+        DDX_DateTimeCtrl(pDX, IDC_DAY, day);
+        DDX_MonthCalCtrl(pDX, IDC_MONTH, month);
+        DDX_Control(pDX, IDC_CHECKS, checks);
+        DDX_Control(pDX, IDC_ROWS, rows);
+        DDX_Control(pDX, IDC_TREE, tree);
+        DDX_Control(pDX, IDC_TABS, tabs);
+        if (missing != 0)
+            DDX_Check(pDX, missing, box);
+    }
+    afx_msg void OnChanged() { ++changes; }
+    afx_msg void OnChecked() { ++checked; }
+
+    CString name = "text", fruit = "cherry", town = "Rome";
+    int count = 42, box = 2, colour = 2, choice = 1, level = 17, slide = 33, missing = 0, changes = 0, checked = 0;
+    double factor = 0.125;
+    char letters[4] = "abc";
+    CTime day{2024, 5, 6, 7, 8, 9}, month{2023, 2, 3, 0, 0, 0};
+    CCheckListBox checks;
+    CListCtrl rows;
+    CTreeCtrl tree;
+    CTabCtrl tabs;
+};
+
+BEGIN_MESSAGE_MAP(data_dialog, CDialog)
+ON_EN_CHANGE(IDC_NAME, &data_dialog::OnChanged)
+ON_CLBN_CHKCHANGE(IDC_CHECKS, &data_dialog::OnChecked)
+END_MESSAGE_MAP()
+
+class AfxDataDialog : public testing::Test {
+protected:
+    AfxDataDialog() {
+        the_app.take_boxes();
+        EXPECT_TRUE(dialog.Create(IDD_DATA));
+    }
+    ~AfxDataDialog() override { dialog.DestroyWindow(); }
+    CString text_of(int id) {
+        CString text;
+        dialog.GetDlgItemText(id, text);
+        return text;
+    }
+
+    data_dialog dialog;
+};
+
+TEST_F(AfxDataDialog, ShowsAndTakesOverEveryKindOfData) {
+    EXPECT_EQ(dialog.changes, 0) << "what the program itself enters is no news to it";
+    EXPECT_STREQ(text_of(IDC_FACTOR), "0.125");
+    EXPECT_EQ(dialog.IsDlgButtonChecked(IDC_BLUE), 1u) << "the text between the buttons does not count";
+    EXPECT_STREQ(text_of(IDC_TOWNS), "Rome") << "a text that is not in the list";
+    EXPECT_EQ(dialog.GetDlgItem(IDC_NAME)->SendMessage(EM_GETLIMITTEXT), 5);
+    dialog.SetDlgItemText(IDC_NAME, "other");
+    EXPECT_EQ(dialog.changes, 1);
+    dialog.SetDlgItemText(IDC_COUNT, " -7 ");
+    dialog.SetDlgItemText(IDC_FACTOR, "2.5e3");
+    dialog.SetDlgItemText(IDC_LETTERS, "xyz");
+    dialog.CheckDlgButton(IDC_BOX, 1);
+    dialog.CheckRadioButton(IDC_RED, IDC_BLUE, IDC_GREEN);
+    dialog.SendDlgItemMessage(IDC_FRUITS, LB_SETCURSEL, 2);
+    dialog.SetDlgItemText(IDC_TOWNS, "Paris");
+    dialog.SendDlgItemMessage(IDC_CHOICE, CB_SETCURSEL, 0);
+    ::SetScrollPos(::GetDlgItem(dialog.m_hWnd, IDC_LEVEL), SB_CTL, 21, FALSE);
+    dialog.SendDlgItemMessage(IDC_SLIDE, TBM_SETPOS, TRUE, 44);
+    ASSERT_TRUE(dialog.UpdateData());
+    EXPECT_TRUE(dialog.name == "other" && dialog.fruit == "cherry pie" && dialog.town == "Paris");
+    EXPECT_STREQ(dialog.letters, "xyz");
+    EXPECT_EQ(dialog.factor, 2500.0);
+    const int taken[] = {dialog.count, dialog.box, dialog.colour, dialog.choice, dialog.level, dialog.slide};
+    EXPECT_THAT(taken, testing::ElementsAre(-7, 1, 1, 0, 21, 44));
+    EXPECT_EQ(dialog.day, CTime(2024, 5, 6, 7, 8, 9));
+    EXPECT_EQ(dialog.month, CTime(2023, 2, 3, 0, 0, 0));
+}
+
+TEST_F(AfxDataDialog, RefusesWrongEntries) {
+    const struct {
+        int id;
+        const char *entered, *right;
+    } rows[] = {{IDC_COUNT, "", "1"},       {IDC_COUNT, "12x", "1"},
+                {IDC_COUNT, "101", "1"},    {IDC_COUNT, "99999999999", "1"},
+                {IDC_FACTOR, "1,5", "1"},   {IDC_FACTOR, "1e999", "1"},
+                {IDC_LETTERS, "abcd", "a"}, {IDC_NAME, "longer text", "a"}};
+    for (const auto& row : rows) {
+        dialog.SetDlgItemText(row.id, row.entered);
+        EXPECT_FALSE(dialog.UpdateData()) << row.entered;
+        EXPECT_EQ(the_app.take_boxes().size(), 1u) << row.entered;
+        dialog.SetDlgItemText(row.id, row.right);
+        EXPECT_TRUE(dialog.UpdateData()) << row.right;
+    }
+    dialog.missing = 999;
+    EXPECT_FALSE(dialog.UpdateData()) << "a control that is not there";
+    EXPECT_EQ(the_app.take_boxes().size(), 1u);
+}
+
+TEST_F(AfxDataDialog, ListHoldsItemsWithTheirData) {
+    CImageList pictures;
+    ASSERT_TRUE(pictures.Create(16, 16, ILC_COLOR, 0, 4));
+    dialog.rows.SetImageList(&pictures, LVSIL_SMALL);
+    EXPECT_EQ(dialog.rows.GetImageList(LVSIL_SMALL), &pictures);
+    EXPECT_EQ(dialog.rows.InsertColumn(0, "Name", LVCFMT_LEFT, 80), 0);
+    EXPECT_EQ(dialog.rows.InsertColumn(1, "Size", LVCFMT_RIGHT, 40, 1), 1);
+    EXPECT_EQ(dialog.rows.GetHeaderCtrl()->GetItemCount(), 2);
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(dialog.rows.InsertItem(i, std::string(1, static_cast<char>('a' + i)).c_str()), i);
+        dialog.rows.SetItemData(i, static_cast<DWORD_PTR>(10 - i));
+    }
+    const std::string longest(300, 'z');
+    dialog.rows.SetItemText(2, 1, longest.c_str());
+    EXPECT_EQ(longest.substr(0, 259), std::string(dialog.rows.GetItemText(2, 1)).substr(0, 259));
+    dialog.rows.SetItemState(0, LVIS_SELECTED, LVIS_SELECTED);
+    dialog.rows.SetItemState(2, LVIS_SELECTED, LVIS_SELECTED);
+    std::vector<int> selected;
+    for (POSITION at = dialog.rows.GetFirstSelectedItemPosition(); at != nullptr;)
+        selected.push_back(dialog.rows.GetNextSelectedItem(at));
+    EXPECT_THAT(selected, testing::ElementsAre(0, 2));
+    const PFNLVCOMPARE by_data = [](LPARAM a, LPARAM b, LPARAM) { return static_cast<int>(a - b); };
+    EXPECT_TRUE(dialog.rows.SortItems(by_data, 0));
+    EXPECT_STREQ(dialog.rows.GetItemText(0, 0), "c");
+    dialog.DestroyWindow();
+    EXPECT_EQ(pictures.GetImageCount(), 0) << "the control must leave the program's list alone";
+    EXPECT_TRUE(pictures.DeleteImageList());
+}
+
+TEST_F(AfxDataDialog, TreeAndTabsAnswer) {
+    const HTREEITEM root = dialog.tree.InsertItem("root");
+    const HTREEITEM child = dialog.tree.InsertItem("child", root);
+    dialog.tree.SetItemData(child, 77);
+    EXPECT_TRUE(dialog.tree.Expand(root, TVE_EXPAND) && dialog.tree.SelectItem(child));
+    EXPECT_TRUE(dialog.tree.GetSelectedItem() == child && dialog.tree.GetParentItem(child) == root);
+    EXPECT_STREQ(dialog.tree.GetItemText(dialog.tree.GetChildItem(root)), "child");
+    EXPECT_EQ(dialog.tree.GetItemData(child), 77u);
+    CRect place;
+    EXPECT_TRUE(dialog.tree.GetItemRect(child, place, TRUE));
+    EXPECT_EQ(dialog.tree.HitTest(place.CenterPoint()), child);
+    EXPECT_EQ(dialog.tabs.InsertItem(0, "one"), 0);
+    EXPECT_EQ(dialog.tabs.InsertItem(1, "two"), 1);
+    EXPECT_EQ(dialog.tabs.SetCurSel(1), 0);
+    char text[8];
+    TCITEM item{};
+    item.mask = TCIF_TEXT;
+    item.pszText = text;
+    item.cchTextMax = sizeof(text);
+    EXPECT_TRUE(dialog.tabs.GetItem(dialog.tabs.GetCurSel(), &item));
+    EXPECT_STREQ(item.pszText, "two");
+}
+
+TEST_F(AfxDataDialog, CheckBoxesKeepTheirStateBesideTheProgramsData) {
+    CCheckListBox& list = dialog.checks;
+    for (const char* text : {"one", "two", "three"})
+        list.AddString(text);
+    list.SetItemData(1, 5);
+    CRect place;
+    list.GetItemRect(1, place);
+    list.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(place.left + 3, place.CenterPoint().y));
+    list.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(place.left + 3, place.CenterPoint().y));
+    EXPECT_EQ(dialog.checked, 1);
+    EXPECT_TRUE(list.GetCheck(1) == 1 && list.GetCheck(0) == 0 && list.GetItemData(1) == 5);
+    list.Enable(1, FALSE);
+    list.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(place.left + 3, place.CenterPoint().y));
+    EXPECT_EQ(list.GetCheck(1), 1) << "disabled";
+    list.DeleteString(0);
+    EXPECT_TRUE(list.GetCheck(0) == 1 && list.GetItemData(0) == 5 && !list.IsEnabled(0));
+}
+
+// A button that paints itself.
+class red_button : public CButton {
+public:
+    void DrawItem(LPDRAWITEMSTRUCT record) override {
+        CDC::FromHandle(record->hDC)->FillSolidRect(&record->rcItem, RGB(255, 0, 0));
+        ++drawn;
+    }
+    int drawn = 0;
+};
+
+TEST(AfxControls, OwnerDrawnButtonsDrawThemselves) {
+    CWnd parent;
+    ASSERT_TRUE(create_visible_popup(parent));
+    red_button button;
+    ASSERT_TRUE(button.Create("x", WS_CHILD | WS_VISIBLE | BS_OWNERDRAW, CRect(5, 5, 45, 25), &parent, 7));
+    button.RedrawWindow();
+    EXPECT_GT(button.drawn, 0);
+    CClientDC dc(&button);
+    EXPECT_EQ(dc.GetPixel(10, 10), RGB(255, 0, 0));
+    button.DestroyWindow();
+    parent.DestroyWindow();
+}
+
+TEST(AfxControls, ToolTipsKnowTheirTools) {
+    CWnd parent;
+    ASSERT_TRUE(create_popup(parent));
+    CToolTipCtrl tips;
+    ASSERT_TRUE(tips.Create(&parent));
+    EXPECT_TRUE(tips.AddTool(&parent, "here", CRect(0, 0, 10, 10), 3));
+    CString text;
+    tips.GetText(text, &parent, 3);
+    EXPECT_STREQ(text, "here");
+    tips.UpdateTipText("there", &parent, 3);
+    tips.GetText(text, &parent, 3);
+    EXPECT_STREQ(text, "there");
+    tips.DelTool(&parent, 3);
+    EXPECT_EQ(tips.GetToolCount(), 0);
+    tips.DestroyWindow();
+    parent.DestroyWindow();
+}
+
+class refusing_file_dialog : public CFileDialog {
+public:
+    using CFileDialog::CFileDialog;
+    BOOL OnFileNameOK() override {
+        seen.push_back(GetFileName().GetString());
+        return seen.size() == 1;
+    }
+    std::vector<std::string> seen;
+};
+
+TEST(AfxFileChoice, AsksTheProgramAboutTheName) {
+    refusing_file_dialog dialog(FALSE, "txt", "report.txt", OFN_HIDEREADONLY);
+    WhileModal modal([&] {
+        if (dialog.m_hWnd == nullptr || !::IsWindowVisible(::GetParent(dialog.m_hWnd)))
+            return false;
+        ::PostMessage(::GetParent(dialog.m_hWnd), WM_COMMAND, IDOK, 0);
+        return dialog.seen.size() > 0;
+    });
+    EXPECT_EQ(dialog.DoModal(), IDOK);
+    EXPECT_GE(dialog.seen.size(), 2u) << "refused once";
+    EXPECT_STREQ(dialog.GetFileName(), "report.txt");
+    EXPECT_STREQ(dialog.GetFileTitle(), "report");
+    EXPECT_STREQ(dialog.GetFileExt(), "txt");
+}
+
+TEST(AfxFileChoice, TellsSeveralFilesOneByOne) {
+    CFileDialog dialog(TRUE, nullptr, nullptr, OFN_ALLOWMULTISELECT);
+    static char chosen[] = "C:\\data\0one.txt\0two.txt\0";
+    dialog.m_ofn.lpstrFile = chosen;
+    std::string names;
+    for (POSITION at = dialog.GetStartPosition(); at != nullptr;)
+        names += std::string(dialog.GetNextPathName(at)) + "|";
+    EXPECT_EQ(names, "C:\\data\\one.txt|C:\\data\\two.txt|");
+}
+
+} // namespace

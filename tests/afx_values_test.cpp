@@ -1,0 +1,223 @@
+// Strings, rectangles, times and files.
+#include <afx.h>
+#include "afx_test_ids.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+
+namespace {
+
+std::string spaced(CString text) {
+    return std::string("[") + text.GetString() + "]";
+}
+
+TEST(AfxWholeString, ChangesAsDocumented) {
+    struct row {
+        const char* what;
+        std::function<CString(CString)> change;
+        const char *from, *to;
+    };
+    const row rows[] = {
+        {"trim", [](CString s) { return s.Trim(); }, " \t a b\r\n", "a b"},
+        {"trim set", [](CString s) { return s.TrimRight("xy"); }, "yxaxyx", "yxa"},
+        {"trim all", [](CString s) { return s.TrimLeft('0'); }, "000", ""},
+        {"replace grows", [](CString s) { return s.Replace("a", "aa"), s; }, "banana", "baanaanaa"},
+        {"replace nothing", [](CString s) { return s.Replace("", "x"), s; }, "abc", "abc"},
+        {"remove", [](CString s) { return s.Remove('a'), s; }, "banana", "bnn"},
+        {"insert far", [](CString s) { return s.Insert(99, "!"), s; }, "end", "end!"},
+        {"insert itself", [](CString s) { return s.Insert(1, s), s; }, "ab", "aabb"},
+        {"delete", [](CString s) { return s.Delete(1, 99), s; }, "abc", "a"},
+        {"upper", [](CString s) { return s.MakeUpper(); }, "\xE4 z", "\xC4 Z"},
+        {"reverse", [](CString s) { return s.MakeReverse(); }, "abc", "cba"},
+        {"span", [](CString s) { return s.SpanIncluding("0123"); }, "310a2", "310"},
+        {"span out", [](CString s) { return s.SpanExcluding(" ,"); }, "one, two", "one"},
+    };
+    for (const row& r : rows)
+        EXPECT_STREQ(r.change(r.from), r.to) << r.what;
+}
+
+TEST(AfxWholeString, FindsAndTakesApart) {
+    const CString text("one;two;;three");
+    EXPECT_EQ(text.Find('t', 5), 9);
+    EXPECT_EQ(text.Find("two"), 4);
+    EXPECT_EQ(text.Find("two", 5), -1);
+    EXPECT_EQ(text.Find("", 99), -1);
+    EXPECT_EQ(text.FindOneOf("wt"), 4);
+    std::string parts;
+    int at = 0;
+    for (CString part = text.Tokenize(";", at); at != -1; part = text.Tokenize(";", at))
+        parts += spaced(part);
+    EXPECT_EQ(parts, "[one][two][three]");
+    EXPECT_THROW(
+        try { CString("abc").SetAt(3, 'x'); } catch (CInvalidArgException* e) {
+            e->Delete();
+            throw 1;
+        },
+        int);
+}
+
+TEST(AfxWholeString, FormatsStringsOfItsOwnKind) {
+    CString name("gauge"), text;
+    text.Format("%s = %d, %s", name, 7, CString("ok"));
+    EXPECT_STREQ(text, "gauge = 7, ok");
+    text.AppendFormat(_T("|%s|"), text);
+    EXPECT_STREQ(text, "gauge = 7, ok|gauge = 7, ok|");
+    text.Format(IDS_FORMAT, 3, name);
+    EXPECT_STREQ(text, "3 of gauge");
+    text.FormatMessage("%2 before %1", name, "dial");
+    EXPECT_STREQ(text, "dial before gauge");
+    EXPECT_TRUE("a" < name && name > "a" && "gauge" == name && name != "Gauge" && name >= "gauge" && "z" >= name);
+}
+
+TEST(AfxRect, ComputesWithPointsAndSizes) {
+    CRect rect(10, 20, 5, 8);
+    rect.NormalizeRect();
+    EXPECT_EQ(rect, CRect(5, 8, 10, 20));
+    rect.InflateRect(1, 2, 3, 4);
+    EXPECT_EQ(rect, CRect(4, 6, 13, 24));
+    rect.MoveToXY(0, 0);
+    EXPECT_EQ(rect + CSize(1, 2), CRect(1, 2, 10, 20));
+    EXPECT_EQ(rect & CRect(5, 5, 99, 99), CRect(5, 5, 9, 18));
+    EXPECT_EQ(CRect(0, 0, 1, 1) | CRect(4, 4, 5, 6), CRect(0, 0, 5, 6));
+    EXPECT_FALSE(rect.IntersectRect(rect, CRect(50, 50, 60, 60)));
+    EXPECT_TRUE(rect.IsRectNull());
+    rect.TopLeft() = CPoint(3, 4) - CSize(1, 1);
+    EXPECT_EQ(rect.TopLeft(), CPoint(2, 3));
+    EXPECT_TRUE(CRect(0, 0, 2, 2).PtInRect(CPoint(1, 1)) && !CRect(0, 0, 2, 2).PtInRect(CPoint(2, 1)));
+}
+
+TEST(AfxTime, AddsSpansAndFormatsThem) {
+    const CTime start(2024, 2, 28, 23, 59, 30);
+    const CTime next = start + CTimeSpan(1, 0, 0, 45);
+    EXPECT_EQ(next.GetDay(), 1) << "a leap year's 29th is over";
+    EXPECT_EQ(next.GetMonth(), 3);
+    EXPECT_EQ(next.GetSecond(), 15);
+    EXPECT_EQ(CTime(2024, 3, 3, 0, 0, 0).GetDayOfWeek(), 1);
+    EXPECT_EQ((next - start).GetTotalSeconds(), 86445);
+    EXPECT_TRUE(start < next && next - start > CTimeSpan(1, 0, 0, 0));
+    EXPECT_STREQ(CTimeSpan(3, 4, 5, 6).Format("%D:%H:%M:%S%%"), "3:04:05:06%");
+    FILETIME file_time;
+    AfxTimeToFileTime(start, &file_time);
+    EXPECT_EQ(CTime(file_time), start);
+    EXPECT_LT(std::abs((CTime::GetCurrentTime() - CTime(std::time(nullptr))).GetTotalSeconds()), 5);
+}
+
+class AfxFiles : public testing::Test {
+protected:
+    AfxFiles() {
+        char base[MAX_PATH];
+        ::GetTempPath(MAX_PATH, base);
+        folder.Format("%safx%lu", base, ::GetCurrentProcessId());
+        ::CreateDirectory(folder, nullptr);
+    }
+    ~AfxFiles() override {
+        CFileFind find;
+        for (BOOL more = find.FindFile(folder + "\\*"); more;) {
+            more = find.FindNextFile();
+            if (!find.IsDots())
+                ::DeleteFile(find.GetFilePath());
+        }
+        find.Close();
+        ::RemoveDirectory(folder);
+    }
+    CString path(LPCTSTR name) const { return folder + "\\" + name; }
+    void write(LPCTSTR name, const char* text) const {
+        CFile file(path(name), CFile::modeCreate | CFile::modeWrite);
+        file.Write(text, static_cast<UINT>(std::strlen(text)));
+    }
+
+    CString folder;
+};
+
+TEST_F(AfxFiles, TellTheirStatusAndTakeAnother) {
+    write("one.txt", "12345");
+    CFileStatus status;
+    ASSERT_TRUE(CFile::GetStatus(path("one.txt"), status));
+    EXPECT_EQ(status.m_size, 5u);
+    EXPECT_STREQ(status.m_szFullName, path("one.txt"));
+    status.m_mtime = CTime(2001, 2, 3, 4, 5, 6);
+    status.m_attribute |= CFile::readOnly;
+    CFile::SetStatus(path("one.txt"), status);
+    ASSERT_TRUE(CFile::GetStatus(path("one.txt"), status));
+    EXPECT_EQ(status.m_mtime, CTime(2001, 2, 3, 4, 5, 6));
+    EXPECT_NE(status.m_attribute & CFile::readOnly, 0u);
+    status.m_attribute &= ~static_cast<DWORD>(CFile::readOnly);
+    CFile::SetStatus(path("one.txt"), status);
+    CFile::Rename(path("one.txt"), path("two.txt"));
+    EXPECT_FALSE(CFile::GetStatus(path("one.txt"), status));
+    CFile again(path("two.txt"), CFile::modeCreate | CFile::modeNoTruncate | CFile::modeReadWrite);
+    EXPECT_EQ(again.GetLength(), 5u);
+    EXPECT_STREQ(again.GetFileName(), "two.txt");
+    again.Close();
+    CFile::Remove(path("two.txt"));
+    try {
+        CFile::Remove(path("two.txt"));
+        ADD_FAILURE();
+    } catch (CFileException* e) {
+        EXPECT_EQ(e->m_cause, CFileException::fileNotFound);
+        e->Delete();
+    }
+}
+
+TEST_F(AfxFiles, AreFoundEachOnce) {
+    write("a.dat", "1");
+    write("b.dat", "22");
+    write("c.txt", "3");
+    std::string seen;
+    ULONGLONG bytes = 0;
+    CFileFind find;
+    for (BOOL more = find.FindFile(path("*.dat")); more;) {
+        more = find.FindNextFile();
+        seen += spaced(find.GetFileTitle());
+        bytes += find.GetLength();
+    }
+    EXPECT_TRUE(seen == "[a][b]" || seen == "[b][a]") << seen;
+    EXPECT_EQ(bytes, 3u);
+    EXPECT_FALSE(find.FindFile(path("*.none")));
+}
+
+TEST_F(AfxFiles, HoldLinesOfText) {
+    const CString longest('x', 700);
+    CStdioFile out(path("lines.txt"), CFile::modeCreate | CFile::modeWrite | CFile::typeText);
+    out.WriteString("first\n" + longest + "\nlast");
+    out.Close();
+    CFileStatus status;
+    ASSERT_TRUE(CFile::GetStatus(path("lines.txt"), status));
+    EXPECT_EQ(status.m_size, 5u + 2 + 700 + 2 + 4);
+    CStdioFile in(path("lines.txt"), CFile::modeRead | CFile::typeText);
+    CString line;
+    EXPECT_TRUE(in.ReadString(line) && line == "first");
+    EXPECT_TRUE(in.ReadString(line) && line == longest);
+    EXPECT_TRUE(in.ReadString(line) && line == "last");
+    EXPECT_FALSE(in.ReadString(line));
+}
+
+TEST(AfxMemFile, GrowsUnlessItsMemoryIsTheCallers) {
+    CMemFile file(16);
+    for (int i = 0; i < 1000; ++i)
+        file.Write(&i, sizeof(i));
+    file.Seek(4 * 500, CFile::begin);
+    int number = 0;
+    EXPECT_EQ(file.Read(&number, sizeof(number)), sizeof(number));
+    EXPECT_EQ(number, 500);
+    file.SetLength(4006);
+    file.Seek(-6, CFile::end);
+    char tail[8] = "zzzzzzz";
+    EXPECT_EQ(file.Read(tail, 8), 6u);
+    EXPECT_EQ(std::string(tail, 6), std::string(6, '\0')) << "what lies between is zero";
+    BYTE memory[4] = {1, 2, 3, 4};
+    CMemFile fixed(memory, sizeof(memory));
+    EXPECT_EQ(fixed.GetLength(), 4u);
+    fixed.SeekToEnd();
+    try {
+        fixed.Write("x", 1);
+        ADD_FAILURE() << "beyond the caller's memory";
+    } catch (CFileException* e) {
+        EXPECT_EQ(e->m_cause, CFileException::diskFull);
+        e->Delete();
+    }
+}
+
+} // namespace
