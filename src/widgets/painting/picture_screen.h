@@ -40,7 +40,7 @@ private:
     void show_face(const Area& area);
     void present(CWntOut& out, const Area& area);
 
-    int scale_ = 1; // subpixels a pixel, each way
+    int scale_ = 1;   // subpixels a pixel, each way
     TextFonts fonts_; // before the surfaces, which have some of them selected to the end
     MemorySurface face_;
     MemorySurface frame_;
