@@ -110,7 +110,7 @@ private:
     void ReadAll(void* bytes, UINT count);
     [[noreturn]] void Fail(int cause) const;
     void CheckCount() const;
-    bool FillBuffer();
+    bool Refill();
 
     CFile* m_pFile;
     UINT m_nMode;

@@ -30,8 +30,6 @@ public:
     CDumpContext& operator<<(DWORD dw) { return *this << static_cast<ULONGLONG>(dw); }
     CDumpContext& operator<<(LONGLONG n);
     CDumpContext& operator<<(ULONGLONG n);
-    CDumpContext& operator<<(double d);
-    CDumpContext& operator<<(float f) { return *this << static_cast<double>(f); }
     CDumpContext& operator<<(HWND h) { return *this << static_cast<const void*>(h); }
     CDumpContext& operator<<(HDC h) { return *this << static_cast<const void*>(h); }
     CDumpContext& operator<<(HMENU h) { return *this << static_cast<const void*>(h); }
@@ -55,5 +53,7 @@ protected:
 private:
     int m_nDepth = 0;
 };
+
+ZOPAFX_API CDumpContext& AFXAPI operator<<(CDumpContext& dc, double d);
 
 extern ZOPAFX_API CDumpContext afxDump;

@@ -5,20 +5,10 @@
 
 #include "afx_collections.h"
 
-// The classes' friends, which programs call.
-#define AFX_READ_POINTER(class_name)                                                                                   \
-    class class_name;                                                                                                  \
-    ZOPAFX_API CArchive& AFXAPI operator>>(CArchive& ar, class_name*& pOb);
-AFX_READ_POINTER(CByteArray)
-AFX_READ_POINTER(CWordArray)
-AFX_READ_POINTER(CDWordArray)
-AFX_READ_POINTER(CObArray)
-AFX_READ_POINTER(CStringArray)
-AFX_READ_POINTER(CObList)
-AFX_READ_POINTER(CStringList)
-AFX_READ_POINTER(CMapWordToOb)
-AFX_READ_POINTER(CMapStringToOb)
-AFX_READ_POINTER(CMapStringToString)
+// As DECLARE_SERIAL, with the friend exported: programs call it.
+#define AFX_DECLARE_SERIAL(class_name)                                                                                 \
+    DECLARE_DYNCREATE(class_name)                                                                                      \
+    friend ZOPAFX_API CArchive& AFXAPI operator>>(CArchive& ar, class_name*& pOb);
 
 // Indices out of range raise CInvalidArgException. InsertAt and SetAtGrow make room; Add answers the new element's
 // index, Append the first new one's.
@@ -101,15 +91,15 @@ private:                                                                        
     };
 #define AFX_SERIALIZED void Serialize(CArchive& ar) override;
 
-AFX_NUMBER_ARRAY(CByteArray, BYTE, DECLARE_SERIAL, AFX_SERIALIZED)
-AFX_NUMBER_ARRAY(CWordArray, WORD, DECLARE_SERIAL, AFX_SERIALIZED)
-AFX_NUMBER_ARRAY(CDWordArray, DWORD, DECLARE_SERIAL, AFX_SERIALIZED)
+AFX_NUMBER_ARRAY(CByteArray, BYTE, AFX_DECLARE_SERIAL, AFX_SERIALIZED)
+AFX_NUMBER_ARRAY(CWordArray, WORD, AFX_DECLARE_SERIAL, AFX_SERIALIZED)
+AFX_NUMBER_ARRAY(CDWordArray, DWORD, AFX_DECLARE_SERIAL, AFX_SERIALIZED)
 AFX_NUMBER_ARRAY(CUIntArray, UINT, DECLARE_DYNAMIC, )
 AFX_NUMBER_ARRAY(CPtrArray, void*, DECLARE_DYNAMIC, )
-AFX_NUMBER_ARRAY(CObArray, CObject*, DECLARE_SERIAL, AFX_SERIALIZED)
+AFX_NUMBER_ARRAY(CObArray, CObject*, AFX_DECLARE_SERIAL, AFX_SERIALIZED)
 
 class ZOPAFX_API CStringArray : public CObject {
-    DECLARE_SERIAL(CStringArray)
+    AFX_DECLARE_SERIAL(CStringArray)
     AFX_ARRAY_MEMBERS(CStringArray, CString, LPCTSTR)
 
 public:
@@ -225,7 +215,7 @@ class ZOPAFX_API CPtrList : public CObject {
 };
 
 class ZOPAFX_API CObList : public CObject {
-    DECLARE_SERIAL(CObList)
+    AFX_DECLARE_SERIAL(CObList)
     AFX_LIST_MEMBERS(CObList, CObject*, CObject*)
 
 public:
@@ -233,7 +223,7 @@ public:
 };
 
 class ZOPAFX_API CStringList : public CObject {
-    DECLARE_SERIAL(CStringList)
+    AFX_DECLARE_SERIAL(CStringList)
     AFX_LIST_MEMBERS(CStringList, CString, LPCTSTR)
 
 public:
@@ -337,12 +327,12 @@ AFX_TYPED_MAP(
         Lookup(key, value);
         return value;
     })
-AFX_TYPED_MAP(CMapWordToOb, DECLARE_SERIAL, WORD, WORD, CObject*, AFX_SERIALIZED)
+AFX_TYPED_MAP(CMapWordToOb, AFX_DECLARE_SERIAL, WORD, WORD, CObject*, AFX_SERIALIZED)
 AFX_TYPED_MAP(CMapStringToPtr, DECLARE_DYNAMIC, CString, LPCTSTR, void*, AFX_STRING_KEYS)
-AFX_TYPED_MAP(CMapStringToOb, DECLARE_SERIAL, CString, LPCTSTR, CObject*, AFX_SERIALIZED AFX_STRING_KEYS)
+AFX_TYPED_MAP(CMapStringToOb, AFX_DECLARE_SERIAL, CString, LPCTSTR, CObject*, AFX_SERIALIZED AFX_STRING_KEYS)
 
 class ZOPAFX_API CMapStringToString : public CObject {
-    DECLARE_SERIAL(CMapStringToString)
+    AFX_DECLARE_SERIAL(CMapStringToString)
     AFX_MAP_MEMBERS(CMapStringToString, CString, LPCTSTR, CString, LPCTSTR)
 
 public:

@@ -39,7 +39,7 @@ void CArchive::Abort() {
     m_pFile = nullptr;
 }
 
-bool CArchive::FillBuffer() {
+bool CArchive::Refill() {
     m_cur = 0;
     m_max = m_pFile != nullptr ? m_pFile->Read(m_buffer.data(), static_cast<UINT>(m_buffer.size())) : 0;
     return m_max > 0;
@@ -53,7 +53,7 @@ UINT CArchive::Read(void* lpBuf, UINT nMax) {
     while (left > 0) {
         if (m_cur == m_max && left >= m_buffer.size()) // past the buffer
             return nMax - left + (m_pFile != nullptr ? m_pFile->Read(to, left) : 0);
-        if (m_cur == m_max && !FillBuffer())
+        if (m_cur == m_max && !Refill())
             break;
         const std::size_t part = std::min<std::size_t>(left, m_max - m_cur);
         std::memcpy(to, m_buffer.data() + m_cur, part);

@@ -51,10 +51,10 @@ CDumpContext& CDumpContext::operator<<(ULONGLONG n) {
     return *this << std::to_string(n).c_str();
 }
 
-CDumpContext& CDumpContext::operator<<(double d) {
+CDumpContext& AFXAPI operator<<(CDumpContext& dc, double d) {
     char text[64];
     std::snprintf(text, sizeof(text), "%g", d);
-    return *this << text;
+    return dc << text;
 }
 
 CDumpContext& CDumpContext::DumpAsHex(ULONGLONG n) {
