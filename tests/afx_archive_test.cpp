@@ -32,6 +32,8 @@ public:
 
 IMPLEMENT_SERIAL(graph_node, CObject, VERSIONABLE_SCHEMA | 3)
 
+} // namespace
+
 class strict_node : public CObject {
     DECLARE_SERIAL(strict_node)
 public:
@@ -39,6 +41,8 @@ public:
 };
 
 IMPLEMENT_SERIAL(strict_node, CObject, 1)
+
+namespace {
 
 int cause_of(const std::function<void()>& work) {
     try {
@@ -166,7 +170,8 @@ TEST(AfxArchive, CarriesCollections) {
     read_names.Serialize(ar);
     read_numbers.Serialize(ar);
     const std::unique_ptr<CObject> owned_node(read_list.GetHead());
-    EXPECT_TRUE(read->GetCount() == 2 && (*read)["two"] == "2" && time == CTime(12345) && rect == CRect(1, 2, 3, 4));
+    EXPECT_TRUE(read->GetCount() == 2 && (*read)["two"] == "2" && time == CTime(12345) &&
+                ::EqualRect(&rect, CRect(1, 2, 3, 4)));
     EXPECT_TRUE(read_list.GetCount() == 2 && read_list.GetHead() == read_list.GetTail());
     EXPECT_TRUE(read_names[0] == "x" && read_numbers.GetSize() == 100 && read_numbers[99] == 33.0);
     CString line;

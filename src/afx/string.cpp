@@ -10,10 +10,6 @@
 
 namespace {
 
-const unsigned char* bytes(LPCSTR text) {
-    return reinterpret_cast<const unsigned char*>(text);
-}
-
 LPCSTR text_or_empty(LPCSTR text) {
     return text != nullptr ? text : "";
 }
