@@ -119,7 +119,7 @@ public:
 };
 IMPLEMENT_DYNCREATE(PagesView, CView)
 BEGIN_MESSAGE_MAP(PagesView, CView)
-ON_COMMAND(ID_FILE_PRINT_DIRECT, CView::OnFilePrint)
+ON_COMMAND(ID_FILE_PRINT_DIRECT, &PagesView::OnFilePrint)
 END_MESSAGE_MAP()
 
 TEST_F(PrintTest, ViewsPrintPageAfterPageInTheirUnits) {
