@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "control_class.h"
 #include "arithmetic.h"
 #include "library_resources.h"
 #include "widgets/axis/axis_model.h"
@@ -29,11 +28,9 @@ void make_pen(CPen& pen, int system_colour) {
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CWntAxis, CWnd)
-ON_WM_CREATE()
+BEGIN_MESSAGE_MAP(CWntAxis, wnt::ControlWindow)
 ON_WM_ERASEBKGND()
 ON_WM_PAINT()
-ON_WM_SIZE()
 ON_WM_LBUTTONDOWN()
 ON_WM_LBUTTONUP()
 ON_WM_LBUTTONDBLCLK()
@@ -43,53 +40,27 @@ ON_WM_CAPTURECHANGED()
 ON_WM_SETCURSOR()
 END_MESSAGE_MAP()
 
-CWntAxis::CWntAxis() : model_(std::make_unique<wnt::AxisModel>()), zoom_(std::make_unique<wnt::ZoomControl>()) {
-    wnt::register_control_class("WntAxis");
-}
+CWntAxis::CWntAxis()
+    : ControlWindow("WntAxis", Draws::itself), model_(std::make_unique<wnt::AxisModel>()),
+      zoom_(std::make_unique<wnt::ZoomControl>()) {}
 
 CWntAxis::~CWntAxis() {
     DestroyWindow(); // while its handlers and what they use still exist
 }
 
-BOOL CWntAxis::PreCreateWindow(CREATESTRUCT& create) {
-    made_ = true;
-    return CWnd::PreCreateWindow(create);
-}
-
-void CWntAxis::PreSubclassWindow() {
-    CWnd::PreSubclassWindow();
-    if (!made_ && !wnt::without_size(m_hWnd))
-        take_over();
-}
-
-void CWntAxis::PostNcDestroy() {
-    made_ = false;
-    CWnd::PostNcDestroy();
-}
-
-int CWntAxis::OnCreate(LPCREATESTRUCT create) {
-    if (const int result = CWnd::OnCreate(create); result != 0)
-        return result;
-    made_ = false;
-    build();
-    return 0;
-}
-
 // A dialog's text is the title.
-void CWntAxis::take_over() {
-    GetWindowText(title_);
-    build();
-    const CSize size = wnt::client_size(m_hWnd);
-    lay_out(size.cx, size.cy);
+void CWntAxis::take_text(const CString& text) {
+    title_ = text;
 }
 
-void CWntAxis::build() {
+bool CWntAxis::build() {
     make_pen(shadow_pen_, COLOR_BTNSHADOW);
     make_pen(highlight_pen_, COLOR_BTNHIGHLIGHT);
     make_pen(face_pen_, COLOR_BTNFACE);
     make_font(title_font_, 25);
     make_font(value_font_, 15);
     make_font(label_font_, 10);
+    return true;
 }
 
 void CWntAxis::repaint() {
@@ -233,13 +204,6 @@ int CWntAxis::QueryDoubleclickedItem() {
 
 void CWntAxis::SetZoomRects(int keep) {
     zoom_->lay_out(*model_, keep != 0);
-}
-
-void CWntAxis::OnSize(UINT type, int cx, int cy) {
-    CWnd::OnSize(type, cx, cy);
-    if (!label_font_.GetSafeHandle())
-        build(); // taken over without a size
-    lay_out(cx, cy);
 }
 
 void CWntAxis::lay_out(int cx, int cy) {

@@ -4,6 +4,7 @@
 
 #include <memory>
 
+#include "control_window.h"
 #include "widgets/axis/axis_types.h"
 #include "zopwnt_api.h"
 
@@ -39,7 +40,7 @@ enum class ZoomGrip;
 ///
 /// Command 100 shows and hides a zoom control, whose slider the mouse moves without any effect on the range; command
 /// 101 opens the axis' properties. A double click is told to the parent by a notify message with code 103.
-class ZOPWNT_API CWntAxis : public CWnd {
+class ZOPWNT_API CWntAxis : public wnt::ControlWindow {
 public:
     CWntAxis();
     ~CWntAxis() override;
@@ -118,15 +119,10 @@ public:
     int QueryDoubleclickedItem();
 
 protected:
-    BOOL PreCreateWindow(CREATESTRUCT& create) override;
-    void PreSubclassWindow() override;
-    void PostNcDestroy() override;
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
 
-    afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnPaint();
-    afx_msg void OnSize(UINT type, int cx, int cy);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
@@ -162,9 +158,9 @@ protected:
 private:
     friend class CWntAxisProperties;
 
-    void take_over();
-    void build();
-    void lay_out(int cx, int cy);
+    bool build() override;
+    void take_text(const CString& text) override;
+    void lay_out(int cx, int cy) override;
     void repaint();
     void tick_line(int start, int length, int pixel, int (&ends)[4]) const;
     void draw_tick(CPaintDC* dc, const wnt::AxisTick& tick);
@@ -186,5 +182,4 @@ private:
     CFont label_font_; ///< 10 pixels high.
     std::unique_ptr<wnt::AxisModel> model_;
     std::unique_ptr<wnt::ZoomControl> zoom_;
-    bool made_ = false; // its window is being created by it; otherwise it takes one over
 };

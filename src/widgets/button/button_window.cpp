@@ -2,7 +2,6 @@
 
 #include <cstring>
 
-#include "control_class.h"
 #include "script/script_line.h"
 #include "widgets/button/button_painter.h"
 #include "widgets/painting/surface_buffer.h"
@@ -14,8 +13,7 @@ constexpr int surface_id = 101;
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CWntButton, CWnd)
-ON_WM_CREATE()
+BEGIN_MESSAGE_MAP(CWntButton, wnt::ControlWindow)
 ON_WM_DESTROY()
 ON_WM_LBUTTONUP()
 ON_WM_LBUTTONDOWN()
@@ -24,60 +22,25 @@ ON_WM_PAINT()
 ON_WM_RBUTTONDOWN()
 ON_WM_RBUTTONUP()
 ON_WM_SETFOCUS()
-ON_WM_SIZE()
 ON_WM_ERASEBKGND()
 END_MESSAGE_MAP()
 
 CWntButton::CWntButton()
-    : model_(std::make_unique<wnt::ButtonModel>()), box_(std::make_unique<wnt::ButtonBox>()),
-      inside_(std::make_unique<wnt::ButtonInside>()) {
-    wnt::register_control_class("WntButton");
-}
+    : ControlWindow("WntButton"), model_(std::make_unique<wnt::ButtonModel>()),
+      box_(std::make_unique<wnt::ButtonBox>()), inside_(std::make_unique<wnt::ButtonInside>()) {}
 
 CWntButton::~CWntButton() {
     DestroyWindow(); // while its handlers and what they use still exist
 }
 
-BOOL CWntButton::PreCreateWindow(CREATESTRUCT& create) {
-    made_ = true;
-    wnt::keep_children_unclipped(create);
-    return CWnd::PreCreateWindow(create);
-}
-
-void CWntButton::PreSubclassWindow() {
-    CWnd::PreSubclassWindow();
-    if (!made_ && !wnt::without_size(m_hWnd))
-        take_over();
-}
-
-void CWntButton::PostNcDestroy() {
-    made_ = false;
-    CWnd::PostNcDestroy();
-}
-
-int CWntButton::OnCreate(LPCREATESTRUCT create) {
-    if (const int result = CWnd::OnCreate(create); result != 0)
-        return result;
-    if (out_.m_hWnd)
-        return -1; // sent by hand to a living window
-    made_ = false;
-    return build() ? 0 : -1;
+void CWntButton::leave() {
+    out_.DestroyWindow();
 }
 
 // A dialog's text is the title.
-void CWntButton::take_over() {
-    if (::GetParent(out_.m_hWnd) == m_hWnd)
-        return;           // joined to this window before
-    out_.DestroyWindow(); // what it made in another window
-    ModifyStyle(WS_CLIPCHILDREN, 0);
-    CString title;
-    GetWindowText(title);
-    if (!build())
-        return;
-    const CSize size = wnt::client_size(m_hWnd);
-    lay_out(size.cx, size.cy);
-    if (!title.IsEmpty())
-        load(":TITLE=" + title, wnt::script_line);
+void CWntButton::take_text(const CString& text) {
+    if (!text.IsEmpty())
+        load(":TITLE=" + text, wnt::script_line);
     load("", wnt::script_end);
 }
 
@@ -226,13 +189,6 @@ void CWntButton::OnPaint() {
     CPaintDC validate(this);
     model_->request(wnt::button_background | wnt::button_foreground);
     repaint();
-}
-
-void CWntButton::OnSize(UINT type, int cx, int cy) {
-    CWnd::OnSize(type, cx, cy);
-    if (!out_.m_hWnd)
-        take_over(); // it had no size before
-    lay_out(cx, cy);
 }
 
 void CWntButton::lay_out(int cx, int cy) {

@@ -4,6 +4,7 @@
 
 #include <memory>
 
+#include "control_window.h"
 #include "out/wnt_out.h"
 #include "widgets/button/button_properties.h"
 #include "zopwnt_api.h"
@@ -26,7 +27,7 @@ struct ButtonBox;
 /// It sends no notification: a host watches the border type of getproperties() (2 raised, 3 sunk) or handles the
 /// mouse messages in a class derived from it. A press that is released outside leaves it sunk. Its window never has
 /// WS_CLIPCHILDREN: with the surface clipped away it would not learn what of it was uncovered.
-class ZOPWNT_API CWntButton : public CWnd {
+class ZOPWNT_API CWntButton : public wnt::ControlWindow {
 public:
     CWntButton();
     ~CWntButton() override;
@@ -55,11 +56,6 @@ public:
     void draw_button(unsigned char up);
 
 protected:
-    BOOL PreCreateWindow(CREATESTRUCT& create) override;
-    void PreSubclassWindow() override;
-    void PostNcDestroy() override;
-
-    afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnDestroy();
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
@@ -68,14 +64,14 @@ protected:
     afx_msg void OnRButtonDown(UINT flags, CPoint point);
     afx_msg void OnRButtonUp(UINT flags, CPoint point);
     afx_msg void OnSetFocus(CWnd* old);
-    afx_msg void OnSize(UINT type, int cx, int cy);
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     DECLARE_MESSAGE_MAP()
 
 private:
-    void take_over();
-    bool build();
-    void lay_out(int cx, int cy);
+    bool build() override;
+    void leave() override;
+    void take_text(const CString& text) override;
+    void lay_out(int cx, int cy) override;
     void repaint();
     void draw_all();
     void open_surface();
@@ -86,5 +82,4 @@ private:
     std::unique_ptr<wnt::ButtonModel> model_;
     std::unique_ptr<wnt::ButtonBox> box_;
     std::unique_ptr<wnt::ButtonInside> inside_;
-    bool made_ = false; // its window is being created by it; otherwise it takes one over
 };

@@ -1,6 +1,5 @@
 #include <ctime>
 
-#include "control_class.h"
 #include "widgets/calendar/calendar_days.h"
 #include "widgets/calendar/calendar_commands.h"
 #include "widgets/calendar/calendar_layout.h"
@@ -14,12 +13,10 @@ constexpr int surface_id = 100;
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CWntCalendar, CWnd)
-ON_WM_CREATE()
+BEGIN_MESSAGE_MAP(CWntCalendar, wnt::ControlWindow)
 ON_WM_DESTROY()
 ON_WM_ERASEBKGND()
 ON_WM_PAINT()
-ON_WM_SIZE()
 ON_WM_LBUTTONDOWN()
 ON_WM_LBUTTONUP()
 ON_WM_MOUSEMOVE()
@@ -27,49 +24,14 @@ ON_WM_RBUTTONDOWN()
 ON_WM_CAPTURECHANGED()
 END_MESSAGE_MAP()
 
-CWntCalendar::CWntCalendar() : layout_(std::make_unique<wnt::CalendarLayout>()) {
-    wnt::register_control_class("WntCalendar");
-}
+CWntCalendar::CWntCalendar() : ControlWindow("WntCalendar"), layout_(std::make_unique<wnt::CalendarLayout>()) {}
 
 CWntCalendar::~CWntCalendar() {
     DestroyWindow(); // while its handlers and what they use still exist
 }
 
-BOOL CWntCalendar::PreCreateWindow(CREATESTRUCT& create) {
-    made_ = true;
-    wnt::keep_children_unclipped(create);
-    return CWnd::PreCreateWindow(create);
-}
-
-void CWntCalendar::PreSubclassWindow() {
-    CWnd::PreSubclassWindow();
-    if (!made_ && !wnt::without_size(m_hWnd))
-        take_over();
-}
-
-void CWntCalendar::PostNcDestroy() {
-    made_ = false;
-    CWnd::PostNcDestroy();
-}
-
-int CWntCalendar::OnCreate(LPCREATESTRUCT create) {
-    if (const int result = CWnd::OnCreate(create); result != 0)
-        return result;
-    if (out_.m_hWnd)
-        return -1; // sent by hand to a living window
-    made_ = false;
-    return build() ? 0 : -1;
-}
-
-void CWntCalendar::take_over() {
-    if (::GetParent(out_.m_hWnd) == m_hWnd)
-        return;           // joined to this window before
-    out_.DestroyWindow(); // what it made in another window
-    ModifyStyle(WS_CLIPCHILDREN, 0);
-    if (!build())
-        return;
-    const CSize size = wnt::client_size(m_hWnd);
-    lay_out(size.cx, size.cy);
+void CWntCalendar::leave() {
+    out_.DestroyWindow();
 }
 
 bool CWntCalendar::build() {
@@ -112,13 +74,6 @@ void CWntCalendar::OnPaint() {
     if (layout_->last_row >= 1)
         end_ += layout_->last_row * wnt::week_seconds;
     draw_all();
-}
-
-void CWntCalendar::OnSize(UINT type, int cx, int cy) {
-    CWnd::OnSize(type, cx, cy);
-    if (!out_.m_hWnd)
-        take_over(); // it had no size before
-    lay_out(cx, cy);
 }
 
 void CWntCalendar::lay_out(int cx, int cy) {

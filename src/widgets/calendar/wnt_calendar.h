@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 
+#include "control_window.h"
 #include "out/wnt_out.h"
 #include "zopwnt_api.h"
 
@@ -30,7 +31,7 @@ class SurfaceBuffer;
 /// weeks of 1970 are. Days are 86,400 seconds: where the first date shown is a midnight, daylight saving that ends
 /// moves the later cells to the days before. A month that cannot be reached raises the framework's result-code
 /// exception out of the command.
-class ZOPWNT_API CWntCalendar : public CWnd {
+class ZOPWNT_API CWntCalendar : public wnt::ControlWindow {
 public:
     CWntCalendar();
     ~CWntCalendar() override;
@@ -56,16 +57,11 @@ public:
     void DrawButton(CRect area, int which, int sunk);
 
 protected:
-    BOOL PreCreateWindow(CREATESTRUCT& create) override;
-    void PreSubclassWindow() override;
-    void PostNcDestroy() override;
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
 
-    afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnDestroy();
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnPaint();
-    afx_msg void OnSize(UINT type, int cx, int cy);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
@@ -80,9 +76,9 @@ private:
     };
     struct Week;
 
-    void take_over();
-    bool build();
-    void lay_out(int cx, int cy);
+    bool build() override;
+    void leave() override;
+    void lay_out(int cx, int cy) override;
     void read_colours();
     CPoint from_bottom(CPoint point) const;
     void draw_dates(std::int64_t shown);
@@ -106,5 +102,4 @@ private:
     std::int64_t dragged_to_ = 0;
     CPoint drag_start_;
     int drag_step_ = 0;
-    bool made_ = false; // its window is being created by it; otherwise it takes one over
 };

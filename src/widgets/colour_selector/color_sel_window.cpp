@@ -1,4 +1,3 @@
-#include "control_class.h"
 #include "diag/wnt_trace.h"
 #include "out/point_font.h"
 #include "widgets/colour_selector/colour_grid.h"
@@ -16,63 +15,25 @@ constexpr UINT picked = 1; // notification code
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CWntColorSel, CWnd)
-ON_WM_CREATE()
+BEGIN_MESSAGE_MAP(CWntColorSel, wnt::ControlWindow)
 ON_WM_DESTROY()
 ON_WM_ERASEBKGND()
 ON_WM_PAINT()
-ON_WM_SIZE()
 ON_WM_LBUTTONUP()
 ON_WM_MOUSEMOVE()
 END_MESSAGE_MAP()
 
-CWntColorSel::CWntColorSel() {
-    wnt::register_control_class("WntColorSel");
-}
+CWntColorSel::CWntColorSel() : ControlWindow("WntColorSel") {}
 
 CWntColorSel::~CWntColorSel() {
     DestroyWindow(); // while its handlers and what they use still exist
 }
 
-BOOL CWntColorSel::PreCreateWindow(CREATESTRUCT& create) {
-    made_ = true;
-    wnt::keep_children_unclipped(create);
-    return CWnd::PreCreateWindow(create);
-}
-
-void CWntColorSel::PreSubclassWindow() {
-    CWnd::PreSubclassWindow();
-    if (!made_ && !wnt::without_size(m_hWnd))
-        take_over();
-}
-
-void CWntColorSel::PostNcDestroy() {
-    made_ = false;
-    CWnd::PostNcDestroy();
-}
-
-int CWntColorSel::OnCreate(LPCREATESTRUCT create) {
-    if (const int result = CWnd::OnCreate(create); result != 0)
-        return result;
-    if (out_.m_hWnd)
-        return -1; // sent by hand to a living window
-    made_ = false;
-    return build() ? 0 : -1;
-}
-
-void CWntColorSel::take_over() {
-    if (::GetParent(out_.m_hWnd) == m_hWnd)
-        return;        // joined to this window before
-    if (out_.m_hWnd) { // what it made in another window
-        out_.DestroyWindow();
-        list_.DestroyWindow();
-        sliders_[0].DestroyWindow();
-        sliders_[1].DestroyWindow();
-        sliders_[2].DestroyWindow();
-    }
-    ModifyStyle(WS_CLIPCHILDREN, 0);
-    if (build())
-        lay_out();
+void CWntColorSel::leave() {
+    out_.DestroyWindow();
+    list_.DestroyWindow();
+    for (CSliderCtrl& slider : sliders_)
+        slider.DestroyWindow();
 }
 
 bool CWntColorSel::build() {
@@ -123,7 +84,7 @@ void CWntColorSel::SetColorItems(char** names, int* colours, int count) {
                 list_.AddString(names[i]);
     }
     if (m_hWnd)
-        lay_out();
+        place_parts();
 }
 
 void CWntColorSel::SetSelectedColorID(int index) {
@@ -150,7 +111,7 @@ void CWntColorSel::ShowSliders(int on) {
         return;
     sliders_shown_ = on != 0;
     if (m_hWnd)
-        lay_out();
+        place_parts();
 }
 
 void CWntColorSel::Set3DCells(int on) {
@@ -247,18 +208,13 @@ void CWntColorSel::OnPaint() {
     SetSelectedColorPanel(selected_colour_);
 }
 
-void CWntColorSel::OnSize(UINT type, int cx, int cy) {
-    CWnd::OnSize(type, cx, cy);
-    if (!out_.m_hWnd)
-        take_over(); // it had no size before
-    lay_out();
-}
-
-void CWntColorSel::lay_out() {
+void CWntColorSel::place_parts() {
     CRect client;
     GetClientRect(&client);
-    const int w = client.Width();
-    const int h = client.Height();
+    lay_out(client.Width(), client.Height());
+}
+
+void CWntColorSel::lay_out(int w, int h) {
     for (int i = 0; i < 3; ++i)
         wnt::place_child(sliders_[i], i * slider_width, 0, slider_width, h, sliders_shown_);
     const int x0 = sliders_shown_ ? 3 * slider_width : 0;

@@ -5,6 +5,7 @@
 
 #include <memory>
 
+#include "control_window.h"
 #include "out/wnt_out.h"
 #include "zopwnt_api.h"
 
@@ -26,7 +27,7 @@ class SurfaceBuffer;
 /// A pick is told by a notify message to the parent with code 1. The palette and the array of the items' colours belong
 /// to the host and must outlive their use; the names are copied. Every paint and every pick writes the selected colour
 /// into the selected item's entry, -1 or a number past the palette included where such a place was clicked.
-class ZOPWNT_API CWntColorSel : public CWnd {
+class ZOPWNT_API CWntColorSel : public wnt::ControlWindow {
 public:
     CWntColorSel();
     ~CWntColorSel() override;
@@ -66,27 +67,23 @@ public:
     void SetHoverSample(int on);
 
 protected:
-    BOOL PreCreateWindow(CREATESTRUCT& create) override;
-    void PreSubclassWindow() override;
-    void PostNcDestroy() override;
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
 
-    afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnDestroy();
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnPaint();
-    afx_msg void OnSize(UINT type, int cx, int cy);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     DECLARE_MESSAGE_MAP()
 
 private:
-    void take_over();
-    bool build();
+    bool build() override;
+    void leave() override;
+    void lay_out(int cx, int cy) override;
+    void place_parts();
     wnt::ColourGrid grid();
     void paint_sample(int x, int y, int width, int height, int colour);
     void paint_cell(int x, int y, int width, int height, int colour, bool edged);
-    void lay_out();
 
     int sliders_shown_ = 0;
     CSliderCtrl sliders_[3];
@@ -103,5 +100,4 @@ private:
     int* item_colours_ = nullptr;
     int item_count_ = 0;
     int selected_item_ = 0;
-    bool made_ = false; // its window is being created by it; otherwise it takes one over
 };

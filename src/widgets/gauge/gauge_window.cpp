@@ -4,7 +4,6 @@
 #include <cstring>
 #include <string>
 
-#include "control_class.h"
 #include "script/keywords.h"
 #include "script/script_file.h"
 #include "widgets/gauge/gauge_model.h"
@@ -58,72 +57,38 @@ int thumb_position(CScrollBar& bar, UINT given) {
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CWntGauge, CWnd)
-ON_WM_CREATE()
+BEGIN_MESSAGE_MAP(CWntGauge, wnt::ControlWindow)
 ON_WM_DESTROY()
 ON_WM_ERASEBKGND()
 ON_WM_PAINT()
-ON_WM_SIZE()
 ON_WM_HSCROLL()
 ON_WM_DROPFILES()
 END_MESSAGE_MAP()
 
-CWntGauge::CWntGauge() : model_(std::make_unique<wnt::GaugeModel>()), painter_(std::make_unique<wnt::GaugePainter>()) {
-    wnt::register_control_class("WntGauge");
-}
+CWntGauge::CWntGauge()
+    : ControlWindow("WntGauge"), model_(std::make_unique<wnt::GaugeModel>()),
+      painter_(std::make_unique<wnt::GaugePainter>()) {}
 
 CWntGauge::~CWntGauge() {
     DestroyWindow(); // while its handlers and what they use still exist
 }
 
-BOOL CWntGauge::PreCreateWindow(CREATESTRUCT& create) {
-    made_ = true;
-    wnt::keep_children_unclipped(create);
-    return CWnd::PreCreateWindow(create);
-}
-
-void CWntGauge::PreSubclassWindow() {
-    CWnd::PreSubclassWindow();
-    if (!made_ && !wnt::without_size(m_hWnd))
-        take_over();
-}
-
-void CWntGauge::PostNcDestroy() {
-    made_ = false;
-    CWnd::PostNcDestroy();
-}
-
-int CWntGauge::OnCreate(LPCREATESTRUCT create) {
-    if (const int result = CWnd::OnCreate(create); result != 0)
-        return result;
-    if (out_.m_hWnd)
-        return -1; // sent by hand to a living window
-    made_ = false;
-    return build() ? 0 : -1;
+void CWntGauge::leave() {
+    out_.DestroyWindow();
+    scroll_bar_.DestroyWindow();
+    switch_button_.DestroyWindow();
+    trace_.DestroyWindow();
 }
 
 // A dialog's text names a script or is the title.
-void CWntGauge::take_over() {
-    if (::GetParent(out_.m_hWnd) == m_hWnd)
-        return;        // joined to this window before
-    if (out_.m_hWnd) { // what it made in another window
-        out_.DestroyWindow();
-        scroll_bar_.DestroyWindow();
-        switch_button_.DestroyWindow();
-        trace_.DestroyWindow();
-    }
-    ModifyStyle(WS_CLIPCHILDREN, 0);
-    CString text;
-    GetWindowText(text);
-    if (!build())
+void CWntGauge::take_text(const CString& text) {
+    if (text.IsEmpty())
         return;
-    const DWORD attributes = text.IsEmpty() ? INVALID_FILE_ATTRIBUTES : ::GetFileAttributesA(text);
+    const DWORD attributes = ::GetFileAttributesA(text);
     if (attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY))
         LoadFromFile(text);
-    else if (!text.IsEmpty())
+    else
         SetTitles(text, "");
-    const CSize size = wnt::client_size(m_hWnd);
-    lay_out(size.cx, size.cy);
 }
 
 bool CWntGauge::build() {
@@ -276,13 +241,6 @@ void CWntGauge::OnPaint() {
     model_->repaint_mask = wnt::repaint_all;
     Repaint();
     model_->repaint_mask = 0;
-}
-
-void CWntGauge::OnSize(UINT type, int cx, int cy) {
-    CWnd::OnSize(type, cx, cy);
-    if (!out_.m_hWnd)
-        take_over(); // it had no size before
-    lay_out(cx, cy);
 }
 
 void CWntGauge::lay_out(int cx, int cy) {

@@ -4,6 +4,7 @@
 
 #include <memory>
 
+#include "control_window.h"
 #include "diag/wnt_trace.h"
 #include "out/wnt_out.h"
 #include "zopwnt_api.h"
@@ -26,7 +27,7 @@ class GaugePainter;
 ///
 /// Nothing is reported: unknown script keys and values, and values outside the range, are ignored. A new gauge shows
 /// a sample configuration. Files dropped on it are loaded as scripts.
-class ZOPWNT_API CWntGauge : public CWnd {
+class ZOPWNT_API CWntGauge : public wnt::ControlWindow {
 public:
     CWntGauge();
     ~CWntGauge() override;
@@ -66,25 +67,21 @@ public:
     static const char* GAUGEstrstr(const char* text, const char* word);
 
 protected:
-    BOOL PreCreateWindow(CREATESTRUCT& create) override;
-    void PreSubclassWindow() override;
-    void PostNcDestroy() override;
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
 
-    afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnDestroy();
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnPaint();
-    afx_msg void OnSize(UINT type, int cx, int cy);
     afx_msg void OnHScroll(UINT request, UINT position, CScrollBar* bar);
     afx_msg void OnDropFiles(HDROP files);
     DECLARE_MESSAGE_MAP()
 
 private:
     int getmarkercolour(long value);
-    void take_over();
-    bool build();
-    void lay_out(int cx, int cy);
+    bool build() override;
+    void leave() override;
+    void take_text(const CString& text) override;
+    void lay_out(int cx, int cy) override;
     bool create_children();
     void run_built_in_script();
     void end_script();
@@ -97,5 +94,4 @@ private:
     CButton switch_button_;
     std::unique_ptr<wnt::GaugeModel> model_;
     std::unique_ptr<wnt::GaugePainter> painter_;
-    bool made_ = false; // its window is being created by it; otherwise it takes one over
 };

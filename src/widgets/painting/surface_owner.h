@@ -36,9 +36,4 @@ inline void notify_parent(CWnd& window, UINT code) {
         ::SendMessage(parent, WM_NOTIFY, notification.idFrom, reinterpret_cast<LPARAM>(&notification));
 }
 
-/// With children clipped away, a widget would not be told when its surface is uncovered.
-inline void keep_children_unclipped(CREATESTRUCT& create) {
-    create.style &= ~static_cast<LONG>(WS_CLIPCHILDREN);
-}
-
 } // namespace wnt
