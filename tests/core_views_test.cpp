@@ -118,6 +118,16 @@ TEST(GaugeViews, ShowTheUnitAtEverySizeAndRange) {
             }
 }
 
+TEST(GaugeViews, ShowTheTitleAtEverySize) {
+    const std::pair<int, int> sizes[] = {{24, 20}, {30, 40}, {200, 30}, {30, 200}, {120, 48}};
+    for (int type = 0; type < gauge_type_count; ++type)
+        for (const auto& [width, height] : sizes) {
+            GaugeModel model = model_of(type, {});
+            model.set_titles("T", "");
+            EXPECT_TRUE(writes({model, width, height}, "T")) << type << " " << width << "x" << height;
+        }
+}
+
 constexpr Colour blue = 0xFF0000, green = 0x00FF00, red = 0x0000FF;
 
 // 0 to 200: blue below 50, green below 100, then red. The stage is 240 x 240, the margin 7.2.
@@ -272,7 +282,7 @@ TEST(GaugeViews, LampsAreLitUpToTheValue) {
         const Scene scene(zoned(gauge_digital, value), stage, stage);
         EXPECT_EQ(std::ranges::count_if(scene.value.figures(),
                                         [](const auto& f) {
-                                            return f.kind == Picture::Kind::box &&
+                                            return f.kind == Picture::Kind::box && !f.bounds.empty() &&
                                                    (f.colour == blue || f.colour == green || f.colour == red);
                                         }),
                   lit)
@@ -361,7 +371,7 @@ TEST(GaugeViews, PeakLineKeepsItsCourseColumnByColumn) {
     const BoxF plot = hull(hull(extent(scene.face, blue), extent(scene.face, green)), extent(scene.face, red));
     std::size_t column = 0;
     for (const auto& f : scene.value.figures())
-        if (column < course.size() && f.kind == Picture::Kind::box) {
+        if (column < course.size() && f.kind == Picture::Kind::box && !f.bounds.empty()) {
             EXPECT_NEAR(f.bounds.top, plot.bottom + plot.height() * static_cast<float>(course[column]) / 200, 1)
                 << column;
             EXPECT_EQ(f.colour, zone_colour(model, course[column])) << column;
@@ -380,11 +390,32 @@ TEST(GaugeViews, ShowZonesOfTheGroundsColour) {
         const auto& part = type == gauge_digital ? scene.value : scene.face; // the lamps
         EXPECT_TRUE(std::ranges::any_of(part.figures(), edged)) << type;
     }
+    // What is wide enough keeps the zone's colour within its edge: lamps on the ground of a dark zone's digits,
+    // columns.
+    for (const int type : {gauge_digital, gauge_peak_line}) {
+        GaugeModel model = model_of(type, {":CLEARMARKS", ":SETMARK=20,WHITE", ":SETMARK=90,RED", ":SETMARK=95,RED"});
+        model.set_current_value(10);
+        model.set_current_value(85);
+        const Scene scene(model, 600, 200);
+        EXPECT_TRUE(std::ranges::any_of(scene.value.figures(), [](const auto& f) {
+            return f.kind == Picture::Kind::box && f.colour == white && !f.bounds.empty();
+        })) << type;
+    }
+}
+
+TEST(GaugeViews, AChangedValueChangesNoFigureOfOthers) {
+    for (int type = 0; type < gauge_type_count; ++type) {
+        GaugeModel model = model_of(type, {":CLEARMARKS", ":SETMARK=20,WHITE", ":SETMARK=90,RED", ":SETMARK=95,RED"});
+        model.set_current_value(10);
+        const std::size_t before = Scene(model, 200, 200).value.figures().size();
+        model.set_current_value(85);
+        EXPECT_EQ(Scene(model, 200, 200).value.figures().size(), before) << type;
+    }
 }
 
 TEST(GaugeViews, SmallAndTallScalesKeepTicksAndProportions) {
     const auto boxes = [](int type, int width, int height, const auto& wanted) {
-        const Scene scene(model_of(type, {":CLRTEXT=BLUE", ":CLEARMARKS"}), width, height);
+        const Scene scene(model_of(type, {":CLRTEXT=BLUE", ":CLEARMARKS", ":NOTITLE=1"}), width, height);
         return std::ranges::count_if(scene.face.figures(), wanted);
     };
     const auto is_tick = [](const auto& f) {

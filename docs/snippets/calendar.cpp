@@ -19,8 +19,9 @@ protected:
         const int command = LOWORD(wParam);
         if (command >= 200 && command <= 209) {
             const CTime shown = GetShownDate();
-            // Noon of a day that every month has.
-            SetShownDate(CTime(shown.GetYear() + command - 203, shown.GetMonth(), 1, 12, 0, 0));
+            const int year = shown.GetYear() + command - 203;
+            if (year >= 1970 && year <= 3000) // noon of a day that every month has
+                SetShownDate(CTime(year, shown.GetMonth(), 1, 12, 0, 0));
         }
         return CWntCalendar::OnCommand(wParam, lParam);
     }

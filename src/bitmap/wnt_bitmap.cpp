@@ -159,7 +159,7 @@ void CWntBitmap::Draw(CDC* dc, int x, int y, int cx, int cy) {
         return;
     const std::int32_t rows = wnt::row_count(header.height);
     const std::int32_t given = wnt::rows_within(header, m_bits_given);
-    if (given == std::abs(rows))
+    if (given == rows)
         stretch(dc->GetSafeHdc(), {x, y, cx, cy}, rows);
     else
         draw_given(dc->GetSafeHdc(), {x, y, cx, cy}, given);

@@ -12,7 +12,7 @@ CString with_breaks(const CString& text) {
     CString broken;
     int word = 0;
     int start = 0;
-    for (int i = 0; i < text.GetLength(); ++i) {
+    for (int i = 0; i < text.GetLength(); i += ::IsDBCSLeadByte(static_cast<BYTE>(text[i])) ? 2 : 1) {
         word = static_cast<unsigned char>(text[i]) <= ' ' ? 0 : word + 1;
         if (word <= longest_word)
             continue;

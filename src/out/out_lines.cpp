@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "out/device_state.h"
 #include "arithmetic.h"
+#include "out/device_state.h"
 
 namespace wrapped = wnt::wrapped;
 

@@ -5,9 +5,9 @@
 #include "arithmetic.h"
 #include "library_resources.h"
 #include "widgets/axis/axis_model.h"
+#include "widgets/axis/wnt_axis_properties.h"
 #include "widgets/axis/zoom_control.h"
 #include "widgets/painting/surface_owner.h"
-#include "widgets/axis/wnt_axis_properties.h"
 
 namespace {
 

@@ -1,3 +1,5 @@
+#include "widgets/axis/wnt_axis.h"
+
 #include <algorithm>
 
 #include "arithmetic.h"
@@ -6,7 +8,6 @@
 #include "widgets/axis/axis_ticks.h"
 #include "widgets/axis/zoom_control.h"
 #include "widgets/painting/paint_buffer.h"
-#include "widgets/axis/wnt_axis.h"
 
 namespace {
 

@@ -1,8 +1,9 @@
-#include "widgets/calendar/calendar_days.h"
+#include "widgets/calendar/wnt_calendar.h"
+
 #include "widgets/calendar/calendar_commands.h"
+#include "widgets/calendar/calendar_days.h"
 #include "widgets/calendar/calendar_layout.h"
 #include "widgets/painting/surface_buffer.h"
-#include "widgets/calendar/wnt_calendar.h"
 
 // Texts in code page 1252.
 namespace {

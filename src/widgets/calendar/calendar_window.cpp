@@ -1,11 +1,12 @@
+#include "widgets/calendar/wnt_calendar.h"
+
 #include <ctime>
 
-#include "widgets/calendar/calendar_days.h"
 #include "widgets/calendar/calendar_commands.h"
+#include "widgets/calendar/calendar_days.h"
 #include "widgets/calendar/calendar_layout.h"
 #include "widgets/painting/surface_buffer.h"
 #include "widgets/painting/surface_owner.h"
-#include "widgets/calendar/wnt_calendar.h"
 
 namespace {
 

@@ -1,9 +1,10 @@
+#include "widgets/calendar/wnt_calendar.h"
+
 #include <cstdio>
 
 #include "widgets/calendar/calendar_days.h"
 #include "widgets/calendar/calendar_layout.h"
 #include "widgets/painting/surface_buffer.h"
-#include "widgets/calendar/wnt_calendar.h"
 
 namespace {
 

@@ -1,9 +1,10 @@
+#include "widgets/colour_selector/wnt_color_sel.h"
+
 #include "diag/wnt_trace.h"
 #include "out/point_font.h"
 #include "widgets/colour_selector/colour_grid.h"
 #include "widgets/painting/surface_buffer.h"
 #include "widgets/painting/surface_owner.h"
-#include "widgets/colour_selector/wnt_color_sel.h"
 
 namespace {
 

@@ -10,6 +10,7 @@ namespace wnt {
 namespace {
 
 constexpr int most_corners = 400;
+constexpr int corner_step = 8; // of whole circles
 
 // Enough corners that a circle of this radius deviates by less than a tenth of a pixel.
 int corners_for(float radius, float angle) {
@@ -18,15 +19,25 @@ int corners_for(float radius, float angle) {
     return std::clamp(static_cast<int>(std::ceil(part)), 1, most_corners);
 }
 
-// The corners of a circle of radius 1, made once for each number of them: every value's picture has discs.
-const std::vector<PointF>& unit_circle(int corners) {
-    static std::array<std::vector<PointF>, most_corners + 1> known;
-    std::vector<PointF>& circle = known[static_cast<std::size_t>(corners)];
-    for (int i = static_cast<int>(circle.size()); i < corners; ++i) {
-        const float angle = 2 * std::numbers::pi_v<float> * static_cast<float>(i) / static_cast<float>(corners);
-        circle.push_back({std::cos(angle), std::sin(angle)});
+using Circles = std::array<std::vector<PointF>, most_corners / corner_step>;
+
+Circles make_unit_circles() {
+    Circles circles;
+    for (std::size_t k = 0; k < circles.size(); ++k) {
+        const int corners = static_cast<int>(k + 1) * corner_step;
+        for (int i = 0; i < corners; ++i) {
+            const float angle = 2 * std::numbers::pi_v<float> * static_cast<float>(i) / static_cast<float>(corners);
+            circles[k].push_back({std::cos(angle), std::sin(angle)});
+        }
     }
-    return circle;
+    return circles;
+}
+
+// The corners of a circle of radius 1, at least as many as asked for. They are made once, since every value's picture
+// has discs.
+const std::vector<PointF>& unit_circle(int corners) {
+    static const Circles circles = make_unit_circles();
+    return circles[static_cast<std::size_t>((corners - 1) / corner_step)];
 }
 
 BoxF bounds_of(const PointF* points, int count) {
@@ -81,14 +92,15 @@ void Picture::polygon(const PointF* points, int count, Colour colour) {
 }
 
 void Picture::disc(PointF centre, float radius, Colour colour) {
-    if (!(radius > 0))
+    if (!(radius > 0)) {
+        box({}, 0); // keeps its place
         return;
+    }
     PointF corners[most_corners];
-    const int n = std::max(corners_for(radius, 2 * std::numbers::pi_v<float>), 8);
-    const std::vector<PointF>& circle = unit_circle(n);
+    const std::vector<PointF>& circle = unit_circle(corners_for(radius, 2 * std::numbers::pi_v<float>));
     for (std::size_t i = 0; i < circle.size(); ++i)
         corners[i] = {centre.x + radius * circle[i].x, centre.y + radius * circle[i].y};
-    polygon(corners, n, colour);
+    polygon(corners, static_cast<int>(circle.size()), colour);
 }
 
 void Picture::ring_sector(PointF centre, float inner, float outer, float from, float to, Colour colour) {

@@ -110,6 +110,7 @@ void PictureScreen::release() {
     face_.release();
     frame_.release();
     fonts_.release();
+    raster_ = {};
 }
 
 void PictureScreen::release_fonts() {

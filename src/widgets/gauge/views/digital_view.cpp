@@ -107,6 +107,12 @@ void paint_digit(Picture& picture, const BoxF& cell, int lit, Colour on, Colour 
         paint_segment(picture, ends[i][0], ends[i][1], thick, lit >> i & 1 ? on : off);
 }
 
+// As many figures as a lit one.
+void paint_unlit(Picture& picture, const BoxF& lamp, Colour zone, Colour ground) {
+    picture.box(lamp, blend(ground, zone, 60));
+    picture.box({}, 0);
+}
+
 void paint_lamps(Picture& picture, const GaugeModel& model, const Display& d, Colour ground) {
     const TickSteps steps =
         tick_steps(model.minimum, model.maximum, model.scales, static_cast<std::int32_t>(d.bar.width()), 5, 10);
@@ -117,11 +123,13 @@ void paint_lamps(Picture& picture, const GaugeModel& model, const Display& d, Co
         const float to = static_cast<float>(next) / static_cast<float>(model.scales);
         const float left = std::round(d.bar.left + d.bar.width() * from);
         const float right = std::max(std::round(d.bar.left + d.bar.width() * to) - 1, left + 1);
-        Colour zone = zone_colour(model, division_value(model.minimum, model.maximum, model.scales, i));
-        if (alike(zone, ground))
-            zone = edge_of(zone);
+        const Colour zone = zone_colour(model, division_value(model.minimum, model.maximum, model.scales, i));
         const bool lit = shown > from || (i == 0 && shown >= from && model.current >= model.minimum);
-        picture.box({left, d.bar.bottom, right, d.bar.top}, lit ? zone : blend(ground, zone, 60));
+        const BoxF lamp = {left, d.bar.bottom, right, d.bar.top};
+        if (lit)
+            paint_on_ground(picture, lamp, zone, ground);
+        else
+            paint_unlit(picture, lamp, alike(zone, ground) ? edge_of(zone) : zone, ground);
     }
 }
 

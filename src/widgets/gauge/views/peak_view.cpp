@@ -75,14 +75,13 @@ void paint_columns(Picture& picture, const GaugeModel& model, const ValueHistory
         const std::int64_t age = (newest - column) % p.columns;
         const std::int64_t number = newest - (age < 0 ? age + p.columns : age);
         if (number < 0 || (p.columns > 2 && newest - number == p.columns - 1)) {
-            picture.box({}, 0); // keeps the column's place in the list
+            paint_on_ground(picture, {}, 0, ground); // keeps the column's place in the list
             continue;
         }
         const float left = p.area.left + p.column * static_cast<float>(column);
         const std::int32_t value = history.at(number);
         const float top = std::max(height_of(model, p, value), p.area.bottom + 1);
-        const Colour colour = zone_colour(model, value);
-        picture.box({left, p.area.bottom, left + p.column - 1, top}, alike(colour, ground) ? edge_of(colour) : colour);
+        paint_on_ground(picture, {left, p.area.bottom, left + p.column - 1, top}, zone_colour(model, value), ground);
     }
 }
 

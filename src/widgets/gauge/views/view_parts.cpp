@@ -66,6 +66,12 @@ Colour edge_of(Colour colour) {
     return blend(colour, is_dark(colour) ? white : black, 110);
 }
 
+void paint_on_ground(Picture& picture, const BoxF& box, Colour colour, Colour ground) {
+    const bool edged = alike(colour, ground);
+    picture.box(box, edged ? edge_of(colour) : colour);
+    picture.box(edged ? box.inset(1) : BoxF{}, colour);
+}
+
 Colour ground_for(Colour colour) {
     return is_dark(colour) ? Colour{0xF4F8F8} : Colour{0x241E1C};
 }
@@ -134,11 +140,14 @@ bool has_unit(const GaugeModel& model) {
 
 namespace {
 
+constexpr float least_room = 14; // for a line of text and something of the view
+
 void take_title(Layout& layout, const Stage& stage) {
     const BoxF& inside = layout.body;
-    if (inside.height() < 48 || inside.width() < 40)
+    if (inside.height() < least_room || inside.width() < least_text)
         return;
-    const float size = std::clamp(std::min(inside.height() * 0.085f, inside.width() * 0.14f), 8.0f, 32.0f);
+    const float least = inside.height() < 48 ? least_text : 8.0f;
+    const float size = std::clamp(std::min(inside.height() * 0.085f, inside.width() * 0.14f), least, 32.0f);
     layout.title_size = stage.meter.tenths(size);
     const float line = std::ceil(stage.meter.metrics(layout.title_size).height());
     layout.title = {inside.left, inside.top - line, inside.right, inside.top};
@@ -147,7 +156,7 @@ void take_title(Layout& layout, const Stage& stage) {
 
 void take_unit(Layout& layout, const GaugeModel& model, const Stage& stage) {
     const BoxF body = layout.body;
-    if (body.height() < 14 || body.width() < 20)
+    if (body.height() < least_room || body.width() < least_text)
         return;
     const bool beside = body.width() > 3 * body.height();
     const float size = beside ? body.height() * 0.3f : std::min(body.height() * 0.075f, body.width() * 0.12f);

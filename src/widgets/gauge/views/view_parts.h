@@ -37,6 +37,9 @@ Colour zone_colour(const GaugeModel& model, std::int32_t value);
 bool alike(Colour a, Colour b);
 /// A colour for the edge of something of this colour on a ground like it.
 Colour edge_of(Colour colour);
+/// A box that is told from its ground: where their colours are alike, by an outline as wide as there is room for. Two
+/// figures, always.
+void paint_on_ground(Picture& picture, const BoxF& box, Colour colour, Colour ground);
 /// A dark or a light ground, whichever this colour can be read on.
 Colour ground_for(Colour colour);
 
