@@ -2,6 +2,7 @@
 #include "widgets/axis/axis_ticks.h"
 #include "arithmetic.h"
 #include "widgets/axis/time_value.h"
+#include "widgets/axis/zoom_control.h"
 
 #include <gmock/gmock.h>
 
@@ -201,6 +202,50 @@ TEST(AxisTicks, AreNeverMoreThanPixels) {
     axis.grid = {100, 0, 1.0f, 0.0f, 1.0f};
     const auto labelled = [](const AxisTick& tick) { return !tick.label.empty(); };
     EXPECT_EQ(std::ranges::count_if(value_ticks(axis, no_texts), labelled), 20);
+}
+
+TEST(AxisZoom, GripsAndLimitsOfTheSlider) {
+    AxisModel axis;
+    axis.position = axis_bottom;
+    axis.resize(200, 40);
+    ZoomControl zoom;
+    zoom.lay_out(axis, true);
+    const auto grab = [&](std::int32_t x) {
+        zoom.lay_out(axis, true);
+        zoom.last_x = x;
+        return zoom.hover(true, x, 35);
+    };
+    EXPECT_EQ(grab(4), ZoomGrip::enlarge);
+    EXPECT_FALSE(zoom.far_end);
+    EXPECT_EQ(grab(5), ZoomGrip::move);
+    EXPECT_TRUE(zoom.far_end);
+    EXPECT_EQ(grab(195), ZoomGrip::enlarge);
+    EXPECT_TRUE(zoom.far_end);
+    EXPECT_EQ(grab(200), ZoomGrip::none);
+    grab(100);
+    zoom.drag(true, 170, 35); // the far end stays in the box, the near one follows
+    EXPECT_EQ(zoom.slider.left, zoom.box.left + 70);
+    EXPECT_EQ(zoom.slider.right, zoom.box.right);
+}
+
+TEST(AxisTime, NoTextStandsTwiceInARow) {
+    AxisModel axis;
+    axis.position = axis_bottom;
+    axis.type = axis_time;
+    axis.resize(900, 40);
+    int labels = 0;
+    for (const std::int64_t span : {day / 1440, day / 24, day, 40 * day, 2'000 * day}) {
+        axis.set_time_range(40'000 * day, 40'000 * day + span);
+        std::string last;
+        for (const AxisTick& tick : time_ticks(axis)) {
+            if (tick.label.empty())
+                continue;
+            EXPECT_NE(tick.label, last) << span;
+            last = tick.label;
+            ++labels;
+        }
+    }
+    EXPECT_GT(labels, 10);
 }
 
 TEST(AxisTime, ProportionIsExactBeyond64Bits) {

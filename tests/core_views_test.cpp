@@ -1,36 +1,15 @@
-#include "even_meter.h"
+#include "gauge_scenes.h"
 #include "widgets/painting/shape_raster.h"
 #include "widgets/gauge/views/view_parts.h"
 
 #include <gmock/gmock.h>
 
-#include <cmath>
 #include <map>
 #include <random>
 
 using namespace wnt;
 
 namespace {
-
-using Lines = std::vector<const char*>;
-
-GaugeModel model_of(int type, const Lines& lines = {}) {
-    GaugeModel model(0xF5F5F5, 0xFFFFFF, 0x6A6A6A);
-    for (const std::string_view line : gauge_built_in_script)
-        model.load_line(line);
-    model.type = type;
-    for (const char* line : lines)
-        model.load_line(line);
-    return model;
-}
-
-bool writes(const Scene& scene, std::string_view text) {
-    for (const Picture* picture : {&scene.face, &scene.value})
-        for (const Picture::Figure& f : picture->figures())
-            if (f.kind == Picture::Kind::text && picture->characters(f).find(text) != std::string::npos)
-                return true;
-    return false;
-}
 
 // Cells carry slack at either side and room above the capitals.
 bool apart(const BoxF& a, const BoxF& b) {
@@ -49,7 +28,7 @@ TEST(GaugeViews, StayInsideTheirStageAndTextsApartAtEverySize) {
         {":UNITTITLE=cubic metres of air per minute"},
         {":CLRTEXT=NONE", ":CLRBACK=NONE", ":SETMARK=1,NONE", ":CURVAL=1"},
     };
-    std::vector<std::pair<int, int>> sizes = {{40, 60}, {300, 20}, {20, 300}, {331, 187}, {1000, 1000}};
+    std::vector<std::pair<int, int>> sizes = {{40, 60}, {300, 20}, {20, 300}, {200, 200}, {331, 187}, {1000, 1000}};
     for (int size = 20; size <= 600; size += 29)
         sizes.emplace_back(size * 5 / 4, size);
     for (int type = 0; type < gauge_type_count; ++type)
@@ -126,37 +105,6 @@ TEST(GaugeViews, ShowTheTitleAtEverySize) {
             model.set_titles("T", "");
             EXPECT_TRUE(writes({model, width, height}, "T")) << type << " " << width << "x" << height;
         }
-}
-
-constexpr Colour blue = 0xFF0000, green = 0x00FF00, red = 0x0000FF;
-
-// 0 to 200: blue below 50, green below 100, then red. The stage is 240 x 240, the margin 7.2.
-GaugeModel zoned(int type, int value, const Lines& more = {}) {
-    GaugeModel model = model_of(type, {":MAXVAL=200", ":CLEARMARKS", ":SETMARK=50,BLUE", ":SETMARK=100,GREEN",
-                                       ":SETMARK=99,RED", ":SETMARK=99,RED", ":NOTITLE=X", ":SCALES=10"});
-    for (const char* line : more)
-        model.load_line(line);
-    model.set_current_value(value);
-    return model;
-}
-constexpr int stage = 240;
-constexpr PointF middle = {120, 120};
-
-BoxF extent(const Picture& picture, Colour colour) {
-    BoxF all = {1e9f, 1e9f, -1e9f, -1e9f};
-    for (const auto& f : picture.figures())
-        if (f.kind != Picture::Kind::text && f.colour == colour && !f.bounds.empty())
-            all = hull(all, f.bounds);
-    return all;
-}
-
-// Degrees counter-clockwise from +x, from -90 to 270.
-float angle_of(PointF p) {
-    const float a = std::atan2(p.y - middle.y, p.x - middle.x) * 180 / pi;
-    return a < -90 ? a + 360 : a;
-}
-float angle_at(float value) {
-    return 225 - 270 * value / 200;
 }
 
 TEST(GaugeViews, ZonesAndValueStandWhereTheScaleSays) {
