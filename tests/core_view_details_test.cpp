@@ -1,6 +1,7 @@
 #include "gauge_scenes.h"
 #include "widgets/gauge/gauge_scale.h"
 #include "widgets/gauge/views/scale_parts.h"
+#include "widgets/painting/shape_raster.h"
 
 #include <gmock/gmock.h>
 
@@ -10,6 +11,92 @@ namespace {
 
 float distance(PointF p) {
     return std::hypot(p.x - middle.x, p.y - middle.y);
+}
+
+// What of a scene's shapes is seen, upper row first.
+class Shapes {
+public:
+    explicit Shapes(const Scene& scene) {
+        ShapeRaster raster;
+        raster.begin({pixels_.data(), stage, stage}, {0, 0, stage, stage}, 4);
+        for (const Picture* picture : {&scene.face, &scene.value})
+            for (const auto& f : picture->figures()) {
+                if (f.kind == Picture::Kind::box)
+                    raster.box(f.bounds, f.colour);
+                else if (f.kind == Picture::Kind::polygon)
+                    raster.polygon(picture->points(f), static_cast<int>(f.count), f.colour);
+            }
+        raster.finish();
+    }
+    float brightness_of(const BoxF& area) const {
+        float sum = 0;
+        int count = 0;
+        for (int y = static_cast<int>(area.bottom); y < static_cast<int>(area.top); ++y)
+            for (int x = static_cast<int>(area.left); x < static_cast<int>(area.right); ++x, ++count)
+                sum += static_cast<float>(brightness(pixels_[static_cast<std::size_t>((stage - 1 - y) * stage + x)]));
+        return sum / static_cast<float>(count);
+    }
+
+private:
+    std::vector<std::uint32_t> pixels_ = std::vector<std::uint32_t>(stage * stage);
+};
+
+TEST(GaugeViews, LightComesFromAboveAndFromTheLeft) {
+    const Scene knob(zoned(gauge_turn_knob, 200), stage, stage);
+    const Shapes cap(knob);
+    EXPECT_GT(cap.brightness_of({90, 125, 115, 150}), cap.brightness_of({125, 90, 150, 115}) + 8);
+    int shadows = 0;
+    for (const auto& f : knob.face.figures())
+        for (int i = 1; i <= 3; ++i)
+            if (f.bounds.width() > 80 && f.colour == blend(0xF5F5F5, black, 28 * i)) {
+                ++shadows;
+                EXPECT_TRUE(f.bounds.centre().x > middle.x && f.bounds.centre().y < middle.y) << i;
+            }
+    EXPECT_EQ(shadows, 3);
+
+    const Scene bar(zoned(gauge_percent_bar, 200), stage, stage);
+    const BoxF filled = extent(bar.value, red);
+    const float third = filled.height() / 3;
+    const Shapes round(bar);
+    EXPECT_GT(round.brightness_of({filled.left, filled.top - third, filled.right, filled.top}),
+              round.brightness_of({filled.left, filled.bottom, filled.right, filled.bottom + third}) + 20);
+
+    const Scene thermometer(zoned(gauge_thermometer, 200), stage, stage);
+    const BoxF column = extent(thermometer.value, red);
+    const float x = column.centre().x;
+    const Shapes glass(thermometer);
+    EXPECT_GT(glass.brightness_of({x - 6, column.centre().y, x, column.top - 8}),
+              glass.brightness_of({x, column.centre().y, x + 6, column.top - 8}) + 10);
+    EXPECT_LT(extent(thermometer.face, blend(0xF5F5F5, 0, 110)).left,
+              extent(thermometer.face, theme_of(zoned(gauge_thermometer, 0)).plate).left);
+}
+
+TEST(GaugeViews, StraightTicksDifferByRankAndDigitsStandEvenly) {
+    for (const int type : {gauge_percent_bar, gauge_thermometer, gauge_peak_line}) {
+        const Scene scene(zoned(type, 10, {":CLRTEXT=MAGENTA", ":SCALES=40"}), stage, stage);
+        std::vector<float> lengths;
+        for (const auto& f : scene.face.figures())
+            if (f.kind == Picture::Kind::box && f.colour == 0xFF00FF)
+                lengths.push_back(std::max(f.bounds.width(), f.bounds.height()));
+        const auto [shortest, longest] = std::ranges::minmax(lengths);
+        EXPECT_LT(shortest, 0.8f * longest) << type;
+    }
+    const Scene digits(zoned(gauge_digital, 188), stage, stage);
+    std::vector<BoxF> cells; // seven segments each
+    const auto& figures = digits.value.figures();
+    for (std::size_t i = 0; i < figures.size(); ++i)
+        if (figures[i].kind == Picture::Kind::polygon) {
+            cells.push_back(figures[i].bounds);
+            for (int k = 1; k < 7; ++k)
+                cells.back() = hull(cells.back(), figures[++i].bounds);
+        }
+    ASSERT_EQ(cells.size(), 3u);
+    EXPECT_NEAR(cells[1].left - cells[0].left, cells[2].left - cells[1].left, 0.1f);
+    EXPECT_NEAR(cells[0].left + cells[2].right, stage, 4);
+
+    GaugeModel full = zoned(gauge_peak_line, 200);
+    const Scene peak(full, stage, stage);
+    EXPECT_LE(extent(peak.value, black).top, extent(peak.face, red).top);
 }
 
 TEST(GaugeScale, TicksAndLabelsKeepTheirDistances) {
@@ -81,7 +168,7 @@ TEST(GaugeViews, RoundTicksDifferByRankAndPointersKeepToTheirPlaces) {
         for (std::uint32_t i = 0; f.colour == 0x606060 && i < f.count; ++i)
             EXPECT_NEAR(distance(moved.value.points(f)[i]) / 111.8f, 0.84f, 0.06f);
 
-    const Scene knob(zoned(gauge_turn_knob, 130, {":SETMARK=199,BLUE"}), stage, stage);
+    const Scene knob(zoned(gauge_turn_knob, 130), stage, stage);
     float cap = 1e9f;
     for (const auto& f : knob.face.figures()) // the zones lie around the cap
         for (std::uint32_t i = 0; f.colour == red && f.kind == Picture::Kind::polygon && i < f.count; ++i)
