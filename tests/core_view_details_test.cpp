@@ -54,7 +54,23 @@ TEST(GaugeViews, LightComesFromAboveAndFromTheLeft) {
             }
     EXPECT_EQ(shadows, 3);
 
+    // What is stacked on a cap or hub lies nearer to the light.
+    const Scene dial(zoned(gauge_analog, 130), stage, stage);
+    for (const auto& [picture, ground] : {std::pair{&knob.face, 0xB0B0B0u}, std::pair{&dial.value, 0x303030u}}) {
+        const auto& all = picture->figures();
+        const auto first =
+            std::ranges::find_if(all, [colour = ground](const auto& f) { return f.colour == colour && f.count > 8; }) -
+            all.begin();
+        ASSERT_LT(first + 2, std::ssize(all));
+        for (auto i = first + 1; i <= first + 2; ++i) {
+            const PointF at = all[static_cast<std::size_t>(i)].bounds.centre();
+            const PointF below = all[static_cast<std::size_t>(i - 1)].bounds.centre();
+            EXPECT_TRUE(at.x < below.x && at.y > below.y) << i;
+        }
+    }
+
     const Scene bar(zoned(gauge_percent_bar, 200), stage, stage);
+    EXPECT_EQ(extent(bar.face, theme_of(zoned(gauge_percent_bar, 0)).groove).width(), extent(bar.value, red).width());
     const BoxF filled = extent(bar.value, red);
     const float third = filled.height() / 3;
     const Shapes round(bar);
@@ -112,6 +128,7 @@ TEST(GaugeScale, TicksAndLabelsKeepTheirDistances) {
                     EXPECT_GE((ticks[i].fraction - ticks[i - 1].fraction) * length, 3.9f) << i;
                 if (!ticks[i].major)
                     continue;
+                EXPECT_LE(std::abs(static_cast<float>(ticks[i].value) / 200 - ticks[i].fraction) * length, 0.51f);
                 if (label)
                     EXPECT_GE((ticks[i].fraction - label->fraction) * length, 29) << i;
                 label = &ticks[i];
@@ -168,6 +185,14 @@ TEST(GaugeViews, RoundTicksDifferByRankAndPointersKeepToTheirPlaces) {
         for (std::uint32_t i = 0; f.colour == 0x606060 && i < f.count; ++i)
             EXPECT_NEAR(distance(moved.value.points(f)[i]) / 111.8f, 0.84f, 0.06f);
 
+    const Scene needle(zoned(gauge_analog, 10), stage, stage);
+    for (const auto& f : needle.value.figures())
+        for (std::uint32_t i = 0; f.colour == blend(blue, black, 150) && i < f.count; ++i) {
+            const PointF p = needle.value.points(f)[i];
+            const float ahead = std::cos(std::atan2(p.y - middle.y, p.x - middle.x) - angle_at(10) * pi / 180);
+            EXPECT_LT(distance(p) / 111.8f, ahead > 0 ? 0.80f : 0.2f) << i; // it ends between the ticks and the zones
+        }
+
     const Scene knob(zoned(gauge_turn_knob, 130), stage, stage);
     float cap = 1e9f;
     for (const auto& f : knob.face.figures()) // the zones lie around the cap
@@ -196,6 +221,22 @@ TEST(GaugeViews, TextOnTheBarIsReadableOnItsFill) {
                 EXPECT_EQ(f.colour, ink) << colour;
             }
         EXPECT_TRUE(written) << colour;
+    }
+}
+
+TEST(GaugeViews, ReadoutsStandInTheirPlates) {
+    for (const int type : {gauge_thermometer, gauge_analog, gauge_peak_line, gauge_turn_knob}) {
+        const Scene scene(zoned(type, 137), stage, stage);
+        const BoxF plate = extent(scene.value, ground_for(red));
+        bool found = false;
+        for (const auto& f : scene.value.figures())
+            if (f.kind == Picture::Kind::text && scene.value.characters(f) == "137") {
+                found = true;
+                EXPECT_LT(f.bounds.height(), plate.height() + 4) << type;
+                EXPECT_NEAR(f.bounds.centre().y, plate.centre().y, 4) << type;
+                EXPECT_TRUE(f.bounds.left > plate.left && f.bounds.right < plate.right) << type;
+            }
+        EXPECT_TRUE(found) << type;
     }
 }
 

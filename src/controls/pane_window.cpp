@@ -1,0 +1,66 @@
+#include "controls/pane_window.h"
+
+namespace wnt {
+
+namespace {
+
+bool concerns_host(UINT message) {
+    switch (message) {
+    case WM_COMMAND:
+    case WM_NOTIFY:
+    case WM_HSCROLL:
+    case WM_VSCROLL:
+    case WM_DRAWITEM:
+    case WM_MEASUREITEM:
+    case WM_DELETEITEM:
+    case WM_COMPAREITEM:
+    case WM_CHARTOITEM:
+    case WM_VKEYTOITEM:
+        return true;
+    default:
+        return message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC;
+    }
+}
+
+} // namespace
+
+bool PaneWindow::adopt(CWnd* pane) {
+    const HWND window = pane->GetSafeHwnd();
+    if (!window || !m_hWnd || window == m_hWnd || ::IsChild(window, m_hWnd))
+        return false;
+    if (::GetParent(window) == m_hWnd)
+        return true;
+    pane->ModifyStyle(WS_POPUP, WS_CHILD);
+    return ::SetParent(window, m_hWnd) != nullptr;
+}
+
+HWND PaneWindow::living(HWND pane) const {
+    return pane && ::IsWindow(pane) && ::GetParent(pane) == m_hWnd ? pane : nullptr;
+}
+
+BOOL PaneWindow::PreCreateWindow(CREATESTRUCT& create) {
+    const BOOL result = ControlWindow::PreCreateWindow(create);
+    create.style |= WS_CLIPCHILDREN; // panes paint themselves
+    return result;
+}
+
+LRESULT PaneWindow::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    const HWND parent = concerns_host(message) && lParam ? ::GetParent(m_hWnd) : nullptr;
+    return parent ? ::SendMessage(parent, message, wParam, lParam)
+                  : ControlWindow::DefWindowProc(message, wParam, lParam);
+}
+
+LRESULT notify(CWnd& control, NMHDR& notification, UINT code, bool& alive) {
+    const HWND window = control.m_hWnd;
+    notification = {window, static_cast<UINT_PTR>(control.GetDlgCtrlID()), code};
+    alive = true;
+    const HWND parent = window ? ::GetParent(window) : nullptr;
+    if (!parent)
+        return 0;
+    const LRESULT answer =
+        ::SendMessage(parent, WM_NOTIFY, notification.idFrom, reinterpret_cast<LPARAM>(&notification));
+    alive = ::IsWindow(window) && CWnd::FromHandlePermanent(window) == &control;
+    return answer;
+}
+
+} // namespace wnt

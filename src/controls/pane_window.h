@@ -1,0 +1,26 @@
+#pragma once
+
+#include "control_window.h"
+
+namespace wnt {
+
+/// A control that holds windows of the host's. What those tell their parent, and the control does not handle, goes on
+/// to the control's own parent, as if they were the host's children still.
+class ZOPWNT_API PaneWindow : public ControlWindow {
+protected:
+    explicit PaneWindow(const char* class_name) : ControlWindow(class_name, Draws::itself) {}
+
+    /// Makes a window of the host's a child of this one; false for none.
+    bool adopt(CWnd* pane);
+    /// The pane while it is a child of this window, otherwise null.
+    HWND living(HWND pane) const;
+
+    BOOL PreCreateWindow(CREATESTRUCT& create) override;
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+};
+
+/// Sends a notification to the parent; what the handler answers. `alive` is false when the handler destroyed the
+/// control, which must not be used then.
+ZOPWNT_API LRESULT notify(CWnd& control, NMHDR& notification, UINT code, bool& alive);
+
+} // namespace wnt

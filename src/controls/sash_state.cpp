@@ -1,0 +1,69 @@
+#include <cstdlib>
+#include <string>
+
+#include "controls/sash_model.h"
+#include "controls/wnt_sash.h"
+
+// What of a sash is stored: lengths in pixels, the share in millionths.
+
+namespace {
+
+constexpr int whole_share = 1'000'000;
+
+struct Profile {
+    const char* file;
+    const char* section;
+
+    bool write(const char* key, int value) const {
+        return ::WritePrivateProfileStringA(section, key, std::to_string(value).c_str(), file) != FALSE;
+    }
+    bool read(const char* key, int& value) const {
+        char text[16];
+        ::GetPrivateProfileStringA(section, key, "", text, sizeof text, file);
+        char* end = nullptr;
+        const long number = std::strtol(text, &end, 10);
+        if (end == text || *end != 0)
+            return false;
+        value = static_cast<int>(number);
+        return true;
+    }
+};
+
+bool named(const char* profile, const char* name) {
+    return profile && *profile && name && *name;
+}
+
+} // namespace
+
+int CWntSash::StoreState(const char* profile, const char* name) const {
+    if (!this || !named(profile, name))
+        return 0;
+    const Profile to = {profile, name};
+    wnt::SashModel open = *model_;
+    open.fold(0);
+    return to.write("First", open.position()) && to.write("Second", open.second().length) &&
+           to.write("Share", static_cast<int>(open.share() * whole_share)) && to.write("Folded", GetFolded());
+}
+
+int CWntSash::RestoreState(const char* profile, const char* name) {
+    if (!this || !named(profile, name))
+        return 0;
+    const Profile from = {profile, name};
+    int share = 0, first = 0, second = 0, folded = 0;
+    if (!from.read("Share", share) || !from.read("First", first) || !from.read("Second", second))
+        return 0;
+    switch (model_->keeps()) {
+    case wnt::SashModel::Keeps::first:
+        model_->set_position(first);
+        break;
+    case wnt::SashModel::Keeps::second:
+        model_->set_second(second);
+        break;
+    default:
+        model_->set_share(static_cast<double>(share) / whole_share);
+    }
+    if (from.read("Folded", folded) && folded != 0 && folded == fold_pane_)
+        model_->fold(folded);
+    place_panes();
+    return 1;
+}

@@ -1,0 +1,390 @@
+#include "controls/wnt_sash.h"
+
+#include <algorithm>
+
+#include "arithmetic.h"
+#include "controls/sash_model.h"
+#include "library_resources.h"
+#include "widgets/painting/paint_pass.h"
+
+namespace {
+
+constexpr int key_step = 8;
+constexpr int thickest_bar = 64;
+constexpr int least_grips = 32; // a shorter bar shows none
+constexpr short h_sash_pointer = 20;
+constexpr short v_sash_pointer = 19;
+
+} // namespace
+
+struct CWntSash::Drag {
+    int grip;   ///< from the bar's edge to the pointer
+    int before; ///< where the bar was
+    int folded; ///< what was folded
+    int at;     ///< where it is, or the track line
+    HWND focus; ///< where it goes back to; null: it stays
+    bool tracked = false;
+};
+
+BEGIN_MESSAGE_MAP(CWntSash, wnt::ControlWindow)
+ON_WM_ERASEBKGND()
+ON_WM_PAINT()
+ON_WM_SETCURSOR()
+ON_WM_LBUTTONDOWN()
+ON_WM_LBUTTONUP()
+ON_WM_LBUTTONDBLCLK()
+ON_WM_MOUSEMOVE()
+ON_WM_CAPTURECHANGED()
+ON_WM_CANCELMODE()
+ON_WM_KEYDOWN()
+ON_WM_SETFOCUS()
+ON_WM_KILLFOCUS()
+ON_WM_GETDLGCODE()
+END_MESSAGE_MAP()
+
+CWntSash::CWntSash() : PaneWindow("WntSash"), model_(std::make_unique<wnt::SashModel>()) {}
+
+CWntSash::~CWntSash() {
+    DestroyWindow(); // while its handlers and what they use still exist
+}
+
+int CWntSash::SetPanes(CWnd* first, CWnd* second) {
+    if (!this || !m_hWnd || (first && first == second))
+        return 0;
+    CWnd* const wanted[2] = {first, second};
+    HWND found[2] = {};
+    for (int i = 0; i < 2; ++i) {
+        if (wanted[i] && !adopt(wanted[i]))
+            return 0;
+        found[i] = wanted[i]->GetSafeHwnd();
+    }
+    for (HWND before : panes_)
+        if (living(before) && before != found[0] && before != found[1])
+            ::ShowWindow(before, SW_HIDE);
+    std::copy_n(found, 2, panes_);
+    place_panes();
+    return 1;
+}
+
+void CWntSash::SetUpright(int upright) {
+    if (!this || upright_ == (upright != 0))
+        return;
+    upright_ = upright != 0;
+    if (!m_hWnd)
+        return;
+    model_->resize(length());
+    place_panes();
+}
+
+int CWntSash::SetPosition(int position) {
+    if (!this)
+        return 0;
+    model_->set_position(position);
+    place_panes();
+    return 1;
+}
+
+int CWntSash::GetPosition() const {
+    return this ? model_->position() : 0;
+}
+
+int CWntSash::SetShare(double share) {
+    if (!this || !(share >= 0 && share <= 1))
+        return 0;
+    model_->set_share(share);
+    place_panes();
+    return 1;
+}
+
+double CWntSash::GetShare() const {
+    return this ? model_->share() : 0;
+}
+
+int CWntSash::SetKeptPane(int pane) {
+    if (!this || pane < 0 || pane > 2)
+        return 0;
+    model_->set_keeps(static_cast<wnt::SashModel::Keeps>(pane));
+    return 1;
+}
+
+int CWntSash::SetLeastSizes(int first, int second) {
+    if (!this || first < 0 || second < 0)
+        return 0;
+    model_->set_least(first, second);
+    place_panes();
+    return 1;
+}
+
+int CWntSash::SetBarSize(int pixels) {
+    if (!this || pixels < 1 || pixels > thickest_bar)
+        return 0;
+    model_->set_bar(pixels);
+    place_panes();
+    return 1;
+}
+
+void CWntSash::SetLiveDrag(int live) {
+    if (this)
+        live_ = live != 0;
+}
+
+int CWntSash::SetFoldPane(int pane) {
+    if (!this || pane < 0 || pane > 2)
+        return 0;
+    fold_pane_ = pane;
+    return 1;
+}
+
+int CWntSash::Fold(int folded) {
+    if (!this || !fold_pane_)
+        return 0;
+    model_->fold(folded ? fold_pane_ : 0);
+    place_panes();
+    return 1;
+}
+
+int CWntSash::GetFolded() const {
+    return this ? model_->folded() : 0;
+}
+
+int CWntSash::length() const {
+    CRect client;
+    GetClientRect(&client);
+    return upright_ ? client.Width() : client.Height();
+}
+
+void CWntSash::lay_out(int, int) {
+    model_->resize(length());
+    place_panes();
+}
+
+CRect CWntSash::bar_at(int position) const {
+    CRect box;
+    GetClientRect(&box);
+    const int thick = model_->bar().length;
+    if (upright_)
+        return CRect(position, 0, position + thick, box.bottom);
+    return CRect(0, position, box.right, position + thick);
+}
+
+void CWntSash::place_panes() {
+    if (!m_hWnd)
+        return;
+    CRect client;
+    GetClientRect(&client);
+    HDWP moves = ::BeginDeferWindowPos(2);
+    for (int i = 0; i < 2; ++i) {
+        const HWND pane = living(panes_[i]);
+        if (!pane || !moves)
+            continue;
+        const wnt::SashModel::Span span = i == 0 ? model_->first() : model_->second();
+        const CRect place = upright_ ? CRect(span.start, 0, span.start + span.length, client.bottom)
+                                     : CRect(0, span.start, client.right, span.start + span.length);
+        moves =
+            ::DeferWindowPos(moves, pane, nullptr, place.left, place.top, place.Width(), place.Height(),
+                             SWP_NOZORDER | SWP_NOACTIVATE | (place.IsRectEmpty() ? SWP_HIDEWINDOW : SWP_SHOWWINDOW));
+    }
+    if (moves)
+        ::EndDeferWindowPos(moves);
+    Invalidate(FALSE);
+}
+
+BOOL CWntSash::OnEraseBkgnd(CDC*) {
+    return TRUE;
+}
+
+void CWntSash::OnPaint() {
+    wnt::PaintPass pass(*this);
+    const COLORREF face = ::GetSysColor(COLOR_BTNFACE);
+    pass.fill(pass.area(), face);
+    const CRect box = bar();
+    pass.edge(box, true);
+    // Dots tell a bar that can be moved.
+    const int reach = upright_ ? box.Height() : box.Width();
+    if (model_->can_move() && reach >= least_grips && std::min(box.Width(), box.Height()) >= 4) {
+        const CPoint middle = box.CenterPoint();
+        for (int i = -2; i <= 2; ++i) {
+            const CPoint at = middle + (upright_ ? CPoint(0, 5 * i) : CPoint(5 * i, 0));
+            pass.fill(CRect(at.x - 1, at.y - 1, at.x + 1, at.y + 1), ::GetSysColor(COLOR_3DDKSHADOW));
+        }
+    }
+    if (::GetFocus() == m_hWnd) {
+        CRect inside = box;
+        inside.DeflateRect(1, 1);
+        pass.focus(inside);
+    }
+}
+
+BOOL CWntSash::OnSetCursor(CWnd* window, UINT hit, UINT message) {
+    CPoint point;
+    ::GetCursorPos(&point);
+    ScreenToClient(&point);
+    if (window != this || hit != HTCLIENT || !bar().PtInRect(point))
+        return wnt::PaneWindow::OnSetCursor(window, hit, message);
+    CWntOut pointer;
+    pointer.setmouseshape(!model_->can_move() && !model_->folded() ? short{0}
+                          : upright_                               ? v_sash_pointer
+                                                                   : h_sash_pointer);
+    return TRUE;
+}
+
+bool CWntSash::tell(UINT code) {
+    WntSashNotify notification = {{}, GetPosition(), GetFolded()};
+    bool alive = true;
+    wnt::notify(*this, notification.hdr, code, alive);
+    return alive;
+}
+
+bool CWntSash::allowed(int& position) {
+    WntSashNotify notification = {{}, position, GetFolded()};
+    bool alive = true;
+    const LRESULT refused = wnt::notify(*this, notification.hdr, WNT_SASH_MOVING, alive);
+    if (!alive || refused)
+        return false;
+    position = model_->clamped(notification.position);
+    return true;
+}
+
+// A move by the keyboard is one step, told before and after.
+bool CWntSash::move_by_user(int position) {
+    position = model_->clamped(position);
+    if (position == GetPosition() || !allowed(position))
+        return false;
+    SetPosition(position);
+    return tell(WNT_SASH_MOVED);
+}
+
+void CWntSash::fold_by_user() {
+    if (Fold(!GetFolded()))
+        tell(WNT_SASH_FOLDED);
+}
+
+void CWntSash::OnLButtonDown(UINT, CPoint point) {
+    if (!bar().PtInRect(point) || drag_)
+        return;
+    const bool moves = model_->can_move();
+    const bool keeps_focus = GetStyle() & WS_TABSTOP;
+    const HWND before = ::GetFocus();
+    if (moves) {
+        const int at = GetPosition();
+        drag_ = std::make_unique<Drag>(along(point) - at, at, GetFolded(), at, keeps_focus ? nullptr : before);
+        SetCapture();
+    }
+    if (moves || keeps_focus) // Escape comes to who has the focus
+        SetFocus();
+}
+
+void CWntSash::OnMouseMove(UINT, CPoint point) {
+    if (drag_)
+        drag_to(wnt::wrapped::subtract(along(point), drag_->grip));
+}
+
+void CWntSash::drag_to(int position) {
+    position = model_->clamped(position);
+    if (position == drag_->at || !allowed(position) || !drag_ || position == drag_->at)
+        return;
+    if (live_) {
+        SetPosition(position);
+        UpdateWindow();
+    } else {
+        if (drag_->tracked)
+            draw_track(drag_->at);
+        draw_track(position);
+        drag_->tracked = true;
+    }
+    drag_->at = position;
+}
+
+// Drawn over the panes; twice at one place leaves nothing.
+void CWntSash::draw_track(int position) {
+    CRect client;
+    GetClientRect(&client);
+    const HDC dc = ::GetDCEx(m_hWnd, nullptr, DCX_CACHE | DCX_LOCKWINDOWUPDATE);
+    CWntOut out;
+    out.targetmode = 1;
+    out.reset(dc);
+    out.ymax = client.bottom - 1;
+    out.fillcolour(COLORREF{0x808080}, 0);
+    const CRect r = bar_at(position);
+    const int low = client.bottom - r.bottom;
+    const int high = client.bottom - 1 - r.top;
+    Tpt corners[4] = {{r.left, low}, {r.right - 1, low}, {r.right - 1, high}, {r.left, high}};
+    out.trackpoly(corners, 4);
+    out.endpaint();
+    ::ReleaseDC(m_hWnd, dc);
+}
+
+void CWntSash::end_drag(bool keep) {
+    const std::unique_ptr<Drag> drag = std::move(drag_);
+    if (!drag)
+        return;
+    if (drag->tracked)
+        draw_track(drag->at);
+    if (::GetCapture() == m_hWnd)
+        ::ReleaseCapture();
+    if (drag->focus && ::GetFocus() == m_hWnd)
+        ::SetFocus(drag->focus);
+    if (drag->at == drag->before)
+        return;
+    if (keep) {
+        SetPosition(drag->at);
+    } else if (live_) {
+        SetPosition(drag->before);
+        model_->fold(drag->folded);
+        place_panes();
+    }
+    if (keep || live_)
+        tell(WNT_SASH_MOVED);
+}
+
+void CWntSash::OnLButtonUp(UINT, CPoint) {
+    end_drag(true);
+}
+
+void CWntSash::OnCaptureChanged(CWnd*) {
+    end_drag(false);
+}
+
+void CWntSash::OnCancelMode() {
+    end_drag(false);
+}
+
+void CWntSash::OnLButtonDblClk(UINT, CPoint point) {
+    if (bar().PtInRect(point))
+        fold_by_user();
+}
+
+UINT CWntSash::OnGetDlgCode() {
+    return drag_ ? DLGC_WANTALLKEYS : DLGC_WANTARROWS;
+}
+
+void CWntSash::OnKeyDown(UINT key, UINT, UINT) {
+    if (key == VK_ESCAPE)
+        return end_drag(false);
+    if (drag_)
+        return;
+    const int step = ::GetKeyState(VK_CONTROL) < 0 ? 1 : key_step;
+    const int at = GetPosition();
+    if (key == static_cast<UINT>(upright_ ? VK_LEFT : VK_UP))
+        move_by_user(at - step);
+    else if (key == static_cast<UINT>(upright_ ? VK_RIGHT : VK_DOWN))
+        move_by_user(at + step);
+    else if (key == VK_HOME)
+        move_by_user(0);
+    else if (key == VK_END)
+        move_by_user(length());
+    else if (key == VK_SPACE || key == VK_RETURN)
+        fold_by_user();
+    else
+        Default();
+}
+
+void CWntSash::OnSetFocus(CWnd* old) {
+    wnt::PaneWindow::OnSetFocus(old);
+    InvalidateRect(bar(), FALSE);
+}
+
+void CWntSash::OnKillFocus(CWnd* next) {
+    wnt::PaneWindow::OnKillFocus(next);
+    InvalidateRect(bar(), FALSE);
+}

@@ -1,0 +1,72 @@
+#include "widgets/painting/paint_pass.h"
+
+#include "widgets/painting/surface_owner.h"
+
+namespace wnt {
+
+PaintPass::PaintPass(CWnd& window) : painting_(&window), font_(nullptr) {
+    window.GetClientRect(&area_);
+    const HWND handle = window.m_hWnd;
+    font_ = reinterpret_cast<HFONT>(::SendMessage(handle, WM_GETFONT, 0, 0));
+    const CRect part = painting_.m_ps.rcPaint;
+    if (part.IsRectEmpty())
+        return;
+    const HDC target = bitmap_.create(painting_.m_hDC, area_.Width(), area_.Height()) ? bitmap_.dc() : painting_.m_hDC;
+    out_.targetmode = 1;
+    out_.reset(target);
+    out_.xmax = area_.Width() - 1;
+    out_.ymax = area_.Height() - 1;
+    prime_colours(out_);
+}
+
+PaintPass::~PaintPass() {
+    out_.endpaint();
+    const CRect part = painting_.m_ps.rcPaint;
+    if (bitmap_)
+        ::BitBlt(painting_.m_hDC, part.left, part.top, part.Width(), part.Height(), bitmap_.dc(), part.left, part.top,
+                 SRCCOPY);
+}
+
+void PaintPass::fill(const CRect& rect, COLORREF colour) {
+    if (rect.IsRectEmpty())
+        return;
+    out_.fillcolour(colour, 0);
+    out_.boxa2(rect.left, up(rect.bottom - 1), rect.right - 1, up(rect.top));
+}
+
+void PaintPass::edge(const CRect& rect, bool raised) {
+    if (rect.Width() > 1 && rect.Height() > 1)
+        out_.drawshadow(rect.left, up(rect.bottom - 1), rect.right - 1, up(rect.top), raised);
+}
+
+void PaintPass::frame(const CRect& rect, COLORREF colour) {
+    if (rect.IsRectEmpty())
+        return;
+    out_.linecolour(colour, 0);
+    out_.boxr0(rect.left, up(rect.bottom - 1), rect.Width() - 1, rect.Height() - 1);
+}
+
+void PaintPass::focus(const CRect& rect) {
+    if (!out_.dc || rect.IsRectEmpty())
+        return;
+    ::SetTextColor(out_.dc, 0);
+    ::SetBkColor(out_.dc, RGB(255, 255, 255));
+    ::DrawFocusRect(out_.dc, &rect);
+}
+
+void PaintPass::text(const CRect& rect, const CString& text, UINT format, COLORREF colour, CFont* font) {
+    if (!out_.dc || rect.IsRectEmpty() || text.IsEmpty())
+        return;
+    const HDC dc = out_.dc;
+    const HGDIOBJ chosen = font ? font->GetSafeHandle() : font_;
+    const HGDIOBJ before = ::SelectObject(dc, chosen ? chosen : ::GetStockObject(DEFAULT_GUI_FONT));
+    const UINT alignment = ::SetTextAlign(dc, TA_LEFT | TA_TOP);
+    ::SetBkMode(dc, TRANSPARENT);
+    ::SetTextColor(dc, colour);
+    RECT place = rect;
+    ::DrawTextA(dc, text, text.GetLength(), &place, format);
+    ::SetTextAlign(dc, alignment);
+    ::SelectObject(dc, before);
+}
+
+} // namespace wnt

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <afxwin.h>
+
+#include "out/wnt_out.h"
+#include "widgets/painting/memory_bitmap.h"
+
+namespace wnt {
+
+/// One painting of a window: a surface that draws into memory, shown finished at the end. Rectangles here are the
+/// window's client coordinates, y downwards, right and bottom exclusive; the surface itself counts upwards.
+class PaintPass {
+public:
+    /// Answers a paint message.
+    explicit PaintPass(CWnd& window);
+    ~PaintPass();
+    PaintPass(const PaintPass&) = delete;
+    PaintPass& operator=(const PaintPass&) = delete;
+
+    CWntOut& out() { return out_; }
+    CDC& dc() { return *CDC::FromHandle(out_.dc); }
+    /// The client area.
+    const CRect& area() const { return area_; }
+    /// Something of it has to be painted.
+    bool touches(const CRect& rect) const { return CRect().IntersectRect(&rect, &painting_.m_ps.rcPaint) != FALSE; }
+
+    void fill(const CRect& rect, COLORREF colour);
+    /// The library's border, a pixel wide, along the inside of the rectangle.
+    void edge(const CRect& rect, bool raised);
+    /// A pixel wide, along the inside.
+    void frame(const CRect& rect, COLORREF colour);
+    void focus(const CRect& rect);
+    /// In the window's font or the one given, DrawText's format; marks access keys as the window shows them.
+    void text(const CRect& rect, const CString& text, UINT format, COLORREF colour, CFont* font = nullptr);
+
+private:
+    int up(int y) const { return area_.Height() - 1 - y; }
+
+    CPaintDC painting_;
+    CRect area_;
+    MemoryBitmap bitmap_;
+    CWntOut out_;
+    HFONT font_;
+};
+
+} // namespace wnt

@@ -1,0 +1,232 @@
+#include <zopwnt.h>
+
+#include <gmock/gmock.h>
+
+#include "widget_window.h"
+
+namespace {
+
+// Parent of sashes: keeps what they tell, and answers as it is told to.
+class SashHost : public AttentiveHost {
+public:
+    std::vector<std::pair<UINT, int>> told; // code and position
+    std::vector<UINT> commands;
+    std::function<LRESULT(WntSashNotify&)> answer = [](WntSashNotify&) { return 0; };
+
+protected:
+    BOOL OnNotify(WPARAM, LPARAM lParam, LRESULT* result) override {
+        auto& n = *reinterpret_cast<WntSashNotify*>(lParam);
+        told.emplace_back(n.hdr.code, n.position);
+        *result = answer(n);
+        return TRUE;
+    }
+    BOOL OnCommand(WPARAM wParam, LPARAM) override {
+        commands.push_back(LOWORD(wParam));
+        return TRUE;
+    }
+};
+
+class Sash : public testing::Test {
+protected:
+    static constexpr int bar = 5;
+
+    void SetUp() override {
+        ASSERT_TRUE(host_.CreateEx(0, nullptr, "host", WS_POPUP, CRect(0, 0, 300, 200), nullptr, 0));
+        host_.ShowWindow(SW_SHOW);
+        open(sash_, host_);
+    }
+    void TearDown() override { host_.DestroyWindow(); }
+
+    void open(CWntSash& sash, CWnd& parent) {
+        ASSERT_TRUE(sash.Create(nullptr, "", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 205, 100), &parent, 9));
+        ASSERT_TRUE(first_.Create("one", WS_CHILD | WS_VISIBLE, CRect(0, 0, 1, 1), &sash, 11));
+        ASSERT_TRUE(second_.Create("two", WS_CHILD | WS_VISIBLE, CRect(0, 0, 1, 1), &sash, 12));
+        ASSERT_TRUE(sash.SetPanes(&first_, &second_));
+        sash.SetPosition(100);
+        full_repaint(sash);
+    }
+    CRect place(CWnd& pane) {
+        CRect r;
+        pane.GetWindowRect(&r);
+        sash_.ScreenToClient(&r);
+        return r;
+    }
+    void mouse(UINT message, int x, int y = 50) { sash_.SendMessage(message, MK_LBUTTON, MAKELPARAM(x, y)); }
+    void drag(int from, int to) {
+        mouse(WM_LBUTTONDOWN, from);
+        mouse(WM_MOUSEMOVE, to);
+    }
+    void key(UINT k) { sash_.SendMessage(WM_KEYDOWN, k, 0); }
+
+    SashHost host_;
+    CWntSash sash_;
+    CButton first_, second_;
+};
+
+TEST_F(Sash, PlacesItsPanesEitherWay) {
+    EXPECT_EQ(place(first_), CRect(0, 0, 100, 100));
+    EXPECT_EQ(place(second_), CRect(105, 0, 205, 100));
+    sash_.SetUpright(0);
+    EXPECT_EQ(place(first_), CRect(0, 0, 205, 48)); // shares are kept: 100 of 200
+    EXPECT_EQ(place(second_), CRect(0, 53, 205, 100));
+    sash_.SetUpright(1);
+    sash_.SetLeastSizes(80, 90);
+    sash_.SetPosition(0);
+    EXPECT_EQ(place(first_).Width(), 80);
+    sash_.SetKeptPane(2);
+    sash_.MoveWindow(0, 0, 305, 100);
+    EXPECT_EQ(place(second_).Width(), 120);
+    EXPECT_FALSE(sash_.SetPanes(&first_, &first_) || sash_.SetPanes(&host_, nullptr) || sash_.SetShare(2) ||
+                 sash_.SetBarSize(0) || sash_.SetKeptPane(3) || sash_.SetLeastSizes(-1, 0) || sash_.Fold(1));
+    first_.DestroyWindow(); // its place stays blank
+    sash_.SetPosition(150);
+    EXPECT_EQ(place(second_), CRect(155, 0, 305, 100));
+    sash_.SetPanes(nullptr, nullptr);
+    EXPECT_FALSE(second_.IsWindowVisible());
+}
+
+TEST_F(Sash, IsDraggedAsTheHostAllows) {
+    drag(102, 62);
+    EXPECT_EQ(place(first_).Width(), 60);
+    mouse(WM_LBUTTONUP, 62);
+    EXPECT_THAT(host_.told, testing::ElementsAre(std::pair(WNT_SASH_MOVING, 60), std::pair(WNT_SASH_MOVED, 60)));
+    EXPECT_NE(::GetCapture(), sash_.m_hWnd);
+
+    host_.answer = [](WntSashNotify& n) -> LRESULT {
+        n.position = n.position / 50 * 50;
+        return n.position == 150;
+    };
+    drag(62, 120);
+    EXPECT_EQ(sash_.GetPosition(), 100);
+    mouse(WM_MOUSEMOVE, 160); // refused
+    EXPECT_EQ(sash_.GetPosition(), 100);
+    key(VK_ESCAPE);
+    EXPECT_EQ(sash_.GetPosition(), 60);
+    drag(62, 120);
+    ::ReleaseCapture();
+    EXPECT_EQ(sash_.GetPosition(), 60);
+    sash_.SetLeastSizes(150, 150);
+    host_.told.clear();
+    const int still = sash_.GetPosition();
+    drag(still + 2, still + 40);
+    EXPECT_TRUE(host_.told.empty() && ::GetCapture() != sash_.m_hWnd);
+}
+
+TEST_F(Sash, ATrackLineLeavesNothingBehind) {
+    sash_.SetLiveDrag(0);
+    const Pixels before = pixels_of(sash_);
+    drag(102, 62);
+    EXPECT_EQ(place(first_).Width(), 100);
+    EXPECT_NE(pixels_of(sash_), before);
+    mouse(WM_MOUSEMOVE, 30);
+    key(VK_ESCAPE);
+    sash_.SetFocus();
+    host_.SetFocus();
+    sash_.UpdateWindow();
+    EXPECT_EQ(pixels_of(sash_), before);
+    drag(102, 62);
+    mouse(WM_LBUTTONUP, 62);
+    EXPECT_EQ(place(first_).Width(), 60);
+}
+
+TEST_F(Sash, FoldsAndMovesByKeys) {
+    sash_.SetFoldPane(1);
+    mouse(WM_LBUTTONDBLCLK, 102);
+    EXPECT_TRUE(sash_.GetFolded() == 1 && !first_.IsWindowVisible());
+    EXPECT_EQ(place(second_).left, bar);
+    mouse(WM_LBUTTONDBLCLK, 2);
+    EXPECT_EQ(place(first_).Width(), 100);
+    EXPECT_TRUE(first_.IsWindowVisible());
+    host_.told.clear();
+    sash_.SetFocus();
+    full_repaint(sash_);
+    const Pixels focused = pixels_of(sash_);
+    host_.SetFocus();
+    sash_.UpdateWindow();
+    EXPECT_NE(pixels_of(sash_), focused);
+    for (const auto& [k, at] : {std::pair{VK_LEFT, 92}, {VK_RIGHT, 100}, {VK_UP, 100}, {VK_HOME, 0}, {VK_END, 200}}) {
+        key(static_cast<UINT>(k));
+        EXPECT_EQ(sash_.GetPosition(), at) << k;
+    }
+    key(VK_SPACE);
+    EXPECT_THAT(host_.told.back(), testing::Pair(WNT_SASH_FOLDED, 0));
+}
+
+TEST_F(Sash, PassesOnWhatItsPanesTell) {
+    first_.SendMessage(BM_CLICK);
+    EXPECT_THAT(host_.commands, testing::ElementsAre(11u));
+    CWntSash inner;
+    ASSERT_TRUE(inner.Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 1, 1), &sash_, 13));
+    CWnd* none = nullptr;
+    ASSERT_TRUE(sash_.SetPanes(&inner, none));
+    ASSERT_TRUE(inner.SetPanes(&second_, nullptr)); // from another parent
+    EXPECT_EQ(second_.GetParent(), &inner);
+    second_.SendMessage(BM_CLICK);
+    EXPECT_EQ(host_.commands.back(), 12u);
+    EXPECT_FALSE(inner.SetPanes(&sash_, nullptr)); // it holds the sash
+    inner.SetFoldPane(2);
+    host_.told.clear();
+    inner.SendMessage(WM_KEYDOWN, VK_SPACE, 0);
+    EXPECT_THAT(host_.told, testing::ElementsAre(testing::Pair(WNT_SASH_FOLDED, testing::_)));
+}
+
+TEST_F(Sash, MayBeDestroyedOnAnyNotification) {
+    for (const UINT code : {WNT_SASH_MOVING, WNT_SASH_MOVED, WNT_SASH_FOLDED})
+        for (const bool live : {true, false}) {
+            auto* sash = new CWntSash;
+            ASSERT_TRUE(sash->Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 205, 100), &host_, 20));
+            sash->SetLiveDrag(live);
+            sash->SetFoldPane(1);
+            const HWND window = sash->m_hWnd;
+            host_.answer = [&](WntSashNotify& n) -> LRESULT {
+                if (n.hdr.code == code)
+                    delete std::exchange(sash, nullptr);
+                return 0;
+            };
+            ::SendMessage(window, WM_LBUTTONDOWN, 0, MAKELPARAM(102, 10));
+            ::SendMessage(window, WM_MOUSEMOVE, 0, MAKELPARAM(52, 10));
+            ::SendMessage(window, WM_LBUTTONUP, 0, MAKELPARAM(52, 10));
+            ::SendMessage(window, WM_LBUTTONDBLCLK, 0, MAKELPARAM(52, 10));
+            EXPECT_FALSE(sash) << code;
+            EXPECT_FALSE(::IsWindow(window)) << code;
+        }
+}
+
+TEST_F(Sash, StoresItselfInAProfile) {
+    char folder[MAX_PATH];
+    ::GetTempPathA(sizeof folder, folder);
+    const CString file = CString(folder) + "sash_test.ini";
+    ::DeleteFileA(file);
+    EXPECT_EQ(sash_.RestoreState(file, "main"), 0);
+    sash_.SetPosition(60);
+    sash_.SetFoldPane(2);
+    sash_.Fold(1);
+    EXPECT_EQ(sash_.StoreState(file, "main"), 1);
+    sash_.Fold(0);
+    sash_.SetPosition(10);
+    EXPECT_EQ(sash_.RestoreState(file, "main"), 1);
+    EXPECT_EQ(sash_.GetFolded(), 2);
+    sash_.Fold(0);
+    EXPECT_EQ(sash_.GetPosition(), 60);
+    ::WritePrivateProfileStringA("main", "Share", "999999999", file);
+    EXPECT_EQ(sash_.RestoreState(file, "main"), 1);
+    sash_.Fold(0);
+    EXPECT_EQ(sash_.GetPosition(), 200);
+    ::WritePrivateProfileStringA("main", "Share", "half", file);
+    EXPECT_EQ(sash_.RestoreState(file, "main"), 0);
+    EXPECT_EQ(sash_.StoreState(nullptr, "main") + sash_.StoreState(file, ""), 0);
+    ::DeleteFileA(file);
+}
+
+TEST_F(Sash, AWindowOfATemplateBecomesOne) {
+    const HWND blank =
+        ::CreateWindowA("WntSash", "", WS_CHILD | WS_VISIBLE, 0, 0, 105, 40, host_.m_hWnd, nullptr, nullptr, nullptr);
+    ASSERT_TRUE(blank);
+    CWntSash taken;
+    ASSERT_TRUE(taken.SubclassWindow(blank));
+    EXPECT_EQ(taken.GetPosition(), 50);
+    CWntSash* volatile none = nullptr;
+    EXPECT_EQ(none->SetPosition(1) + none->GetPosition() + none->Fold(1) + none->SetPanes(nullptr, nullptr), 0);
+}
+
+} // namespace
