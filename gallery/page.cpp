@@ -143,6 +143,7 @@ GalleryPages MakePages(const NamedFiles& files) {
     pages.push_back(MakeScriptsPage(files.scripts));
     pages.push_back(MakeButtonsPage());
     pages.push_back(MakeScrollBarsPage());
+    pages.push_back(MakeFramesPage());
     pages.push_back(MakeSashPage());
     pages.push_back(MakePulsePage());
     pages.push_back(MakeCalendarPage());

@@ -1,3 +1,4 @@
+#include "controls/frame_model.h"
 #include "controls/sash_model.h"
 
 #include <gtest/gtest.h>
@@ -96,6 +97,59 @@ TEST(SashModel, KeepsWhatItIsToldThroughSizes) {
     sash.set_keeps(Keeps::second);
     sash.set_second(95);
     EXPECT_EQ(sash.position(), 105);
+}
+
+TEST(FrameModel, LaysOutBorderTitleAndContentAtAnySize) {
+    FrameModel m;
+    m.load_line(":BORDERHEIGHT=2");
+    EXPECT_EQ(frame_layout(m, 100, 60, 150, 20).content, (PixelRect{3, 3, 97, 57}));
+    m.load_line(":BORDERSTYLE=LEFT BOTTOM");
+    EXPECT_EQ(frame_layout(m, 100, 60, 100, 20).content, (PixelRect{2, 0, 100, 58}));
+    m.load_line(":TITLE=Boiler");
+    EXPECT_EQ(frame_layout(m, 100, 60, 100, 20).title, (PixelRect{2, 0, 100, 20}));
+    EXPECT_EQ(frame_layout(m, 100, 60, 100, 20).content, (PixelRect{2, 20, 100, 58}));
+    m.load_line(":ALIGN=BOTTOMRIGHT");
+    EXPECT_EQ(frame_layout(m, 100, 60, 100, 20).content, (PixelRect{2, 0, 100, 38}));
+    m.load_line(":ALIGN=CENTERLEFT"); // behind the children
+    EXPECT_EQ(frame_layout(m, 100, 60, 100, 20).content, frame_layout(m, 100, 60, 100, 20).title);
+    m.load_line(":BORDERTYPE=NOBORDER");
+    EXPECT_EQ(frame_layout(m, 100, 60, 100, 20).content, (PixelRect{0, 0, 100, 60}));
+    for (const std::string_view align : alignment_words)
+        for (const int scale : {-5, 100, 1 << 30})
+            for (const auto& [w, h] : {std::pair{0, 0}, {1, 1}, {3, 900}, {-7, 5}, {2000, 2}}) {
+                m.load_line(":BORDERTYPE=FLAT");
+                m.load_line(":BORDERSTYLE=LEFT RIGHT TOP BOTTOM");
+                m.load_line(std::string(":ALIGN=").append(align));
+                const FrameLayout l = frame_layout(m, w, h, scale, 17);
+                EXPECT_TRUE(l.content.width() >= 0 && l.content.height() >= 0 && l.title.height() >= 0) << w << align;
+            }
+}
+
+TEST(FrameModel, ScriptLinesTellWhetherTheyAreSeen) {
+    FrameModel m;
+    EXPECT_TRUE(m.load_line(":CLRBACK=DARKBLUE") && m.background == colour_lookup("DARKBLUE") && m.load_line(":TITLE=x"));
+    for (const char* line : {":CLRBACK=DARKBLUE", ":CLRBACK=NOCOLOUR", ":TITLE=x", ":ALIGN=SIDEWAYS",
+                             ":ALIGN=", ":BORDERTYPE=ROUND", ":FONT=Arial", "no key", ""})
+        EXPECT_FALSE(m.load_line(line)) << line;
+    m.load_line(":TITLE=" + std::string(80, 't'));
+    EXPECT_EQ(m.title.size(), 49u);
+}
+
+TEST(Anchor, KeepsEdgesAtTheirShares) {
+    const PixelRect content = {4, 20, 204, 120};
+    const PixelRect wider = {4, 20, 304, 220};
+    const PixelRect place = {14, 30, 104, 110};
+    const auto moved = [&](const double(&shares)[4], const PixelRect& to) {
+        return Anchor::at(place, content, shares).place(to);
+    };
+    EXPECT_EQ(moved({0, 0, 0, 0}, wider), place);
+    EXPECT_EQ(moved({0, 0, 1, 1}, wider), (PixelRect{14, 30, 204, 210}));
+    EXPECT_EQ(moved({1, 1, 1, 1}, wider), (PixelRect{114, 130, 204, 210}));
+    EXPECT_EQ(moved({0.5, 0, 0.5, 2}, wider), (PixelRect{64, 30, 154, 210}));
+    EXPECT_EQ(moved({NAN, -1, 1, 1}, {0, 0, 0, 0}), (PixelRect{10, 10, 10, 10})) << "never turned round";
+    EXPECT_EQ(moved({0, 0, 1, 1}, content), place);
+    const Anchor far = Anchor::at({INT_MIN, INT_MIN, INT_MAX, INT_MAX}, content, {0, 0, 1, 1});
+    EXPECT_LE(far.place(wider).right, 1 << 21);
 }
 
 } // namespace

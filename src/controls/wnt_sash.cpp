@@ -267,7 +267,7 @@ void CWntSash::OnLButtonDown(UINT, CPoint point) {
     const HWND before = ::GetFocus();
     if (moves) {
         const int at = GetPosition();
-        drag_ = std::make_unique<Drag>(along(point) - at, at, GetFolded(), at, keeps_focus ? nullptr : before);
+        drag_.reset(new Drag{along(point) - at, at, GetFolded(), at, keeps_focus ? nullptr : before});
         SetCapture();
     }
     if (moves || keeps_focus) // Escape comes to who has the focus

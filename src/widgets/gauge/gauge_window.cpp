@@ -6,6 +6,7 @@
 
 #include "script/keywords.h"
 #include "script/script_file.h"
+#include "script_on_disk.h"
 #include "widgets/gauge/gauge_model.h"
 #include "widgets/gauge/gauge_painter.h"
 #include "widgets/painting/surface_owner.h"
@@ -18,32 +19,6 @@ constexpr int scroll_bar_id = 103;
 constexpr int switch_button_id = 104;
 constexpr int strip_height = 10; // of the test mode
 constexpr int longest_dropped_name = 256;
-
-// A script file that others may read meanwhile, but not write.
-class ScriptFile {
-public:
-    explicit ScriptFile(const std::string& name)
-        : handle_(::CreateFileA(name.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
-                                FILE_ATTRIBUTE_NORMAL, nullptr)) {}
-    ~ScriptFile() {
-        if (handle_ != INVALID_HANDLE_VALUE)
-            ::CloseHandle(handle_);
-    }
-    ScriptFile(const ScriptFile&) = delete;
-    ScriptFile& operator=(const ScriptFile&) = delete;
-
-    /// Devices and pipes do not count: reading them might never end.
-    bool is_open() const { return handle_ != INVALID_HANDLE_VALUE && ::GetFileType(handle_) == FILE_TYPE_DISK; }
-
-    /// Reads a block; a negative count is a read error.
-    int operator()(char* to, int capacity) {
-        DWORD count = 0;
-        return ::ReadFile(handle_, to, static_cast<DWORD>(capacity), &count, nullptr) ? static_cast<int>(count) : -1;
-    }
-
-private:
-    HANDLE handle_;
-};
 
 // The message carries 16 bits of a thumb's position; the bar knows all 32 while its thumb is held.
 int thumb_position(CScrollBar& bar, UINT given) {
@@ -149,7 +124,7 @@ unsigned char CWntGauge::LoadFromFile(const char* path) {
     if (!this || !path)
         return 1;
     LoadLine("", wnt::script_begin);
-    ScriptFile file{std::string(wnt::script_file_name(path))};
+    wnt::ScriptOnDisk file{std::string(wnt::script_file_name(path))};
     if (!file.is_open())
         return 1;
     wnt::feed_script(file, [this](const char* line, int mode) { LoadLine(line, mode); });

@@ -1,0 +1,199 @@
+#include "controls/wnt_frame.h"
+
+#include <algorithm>
+
+#include "controls/frame_model.h"
+#include "screen_scale.h"
+#include "script/colours.h"
+#include "script/script_file.h"
+#include "script_on_disk.h"
+#include "widgets/painting/paint_pass.h"
+
+namespace {
+
+constexpr int title_height = 13; // of the characters, pixels at 96 dots an inch
+constexpr int title_margin = 4;
+
+COLORREF colour_of(int index, int system) {
+    return index == wnt::system_colour ? ::GetSysColor(system) : wnt::colour_values[index];
+}
+
+CRect rect_of(const wnt::PixelRect& r) {
+    return CRect(r.left, r.top, r.right, r.bottom);
+}
+
+wnt::PixelRect pixels_of(const CRect& r) {
+    return {r.left, r.top, r.right, r.bottom};
+}
+
+// Upper and left sides last: the corners belong to the light.
+void paint_border(wnt::PaintPass& pass, const CRect& r, int height, int sides, COLORREF top_left,
+                  COLORREF bottom_right) {
+    if (sides & wnt::side_right)
+        pass.fill(CRect(r.right - height, r.top, r.right, r.bottom), bottom_right);
+    if (sides & wnt::side_bottom)
+        pass.fill(CRect(r.left, r.bottom - height, r.right, r.bottom), bottom_right);
+    if (sides & wnt::side_left)
+        pass.fill(CRect(r.left, r.top, r.left + height, r.bottom), top_left);
+    if (sides & wnt::side_top)
+        pass.fill(CRect(r.left, r.top, r.right, r.top + height), top_left);
+}
+
+UINT format_of(int align) {
+    constexpr UINT across[] = {DT_LEFT, DT_RIGHT, DT_CENTER, DT_LEFT};
+    return across[align % 4] | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS | DT_NOPREFIX;
+}
+
+} // namespace
+
+struct CWntFrame::Anchored {
+    HWND window;
+    wnt::Anchor anchor;
+};
+
+BEGIN_MESSAGE_MAP(CWntFrame, wnt::ControlWindow)
+ON_WM_ERASEBKGND()
+ON_WM_PAINT()
+ON_WM_SETTINGCHANGE()
+END_MESSAGE_MAP()
+
+CWntFrame::CWntFrame() : PaneWindow("WntFrame"), model_(std::make_unique<wnt::FrameModel>()) {}
+
+CWntFrame::~CWntFrame() {
+    DestroyWindow(); // while its handlers and what they use still exist
+}
+
+bool CWntFrame::build() {
+    rescale();
+    return true;
+}
+
+// A dialog's text names a script or is the title.
+void CWntFrame::take_text(const CString& text) {
+    const DWORD attributes = text.IsEmpty() ? INVALID_FILE_ATTRIBUTES : ::GetFileAttributesA(text);
+    if (attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY))
+        LoadFromFile(text);
+    else
+        SetTitle(text);
+}
+
+void CWntFrame::rescale() {
+    scale_ = wnt::screen_scale();
+    title_font_.DeleteObject();
+    title_font_.CreateFont(-::MulDiv(title_height, scale_, 100), 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET,
+                           OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH | FF_DONTCARE,
+                           "Arial");
+}
+
+int CWntFrame::GetScale() const {
+    return this ? scale_ : 0;
+}
+
+int CWntFrame::title_rows() const {
+    return ::MulDiv(title_height + title_margin, scale_, 100);
+}
+
+unsigned char CWntFrame::LoadLine(const char* line, int mode) {
+    if (!this || !line)
+        return 0;
+    if (mode == wnt::script_line) {
+        model_->load_line(line);
+    } else if (mode == wnt::script_end && m_hWnd) {
+        style_changed();
+        UpdateWindow();
+    }
+    return 0;
+}
+
+unsigned char CWntFrame::LoadFromFile(const char* path) {
+    if (!this || !path)
+        return 0;
+    wnt::ScriptOnDisk file{std::string(wnt::script_file_name(path))};
+    if (!file.is_open())
+        return 0;
+    LoadLine("", wnt::script_begin);
+    wnt::feed_script(file, [this](const char* line, int mode) { LoadLine(line, mode); });
+    return 1;
+}
+
+void CWntFrame::SetTitle(const char* title) {
+    if (!this)
+        return;
+    model_->set_title(wnt::text_of(title));
+    style_changed();
+}
+
+void CWntFrame::style_changed() {
+    if (!m_hWnd)
+        return;
+    place_children();
+    Invalidate(FALSE);
+}
+
+CRect CWntFrame::GetContentRect() const {
+    if (!this || !m_hWnd)
+        return CRect(0, 0, 0, 0);
+    CRect client;
+    GetClientRect(&client);
+    return rect_of(wnt::frame_layout(*model_, client.Width(), client.Height(), scale_, title_rows()).content);
+}
+
+int CWntFrame::SetAnchor(CWnd* child, double left, double top, double right, double bottom) {
+    if (!this || !child || !adopt(child))
+        return 0;
+    CRect place;
+    child->GetWindowRect(&place);
+    ScreenToClient(&place);
+    RemoveAnchor(child);
+    anchored_.push_back(
+        {child->m_hWnd, wnt::Anchor::at(pixels_of(place), pixels_of(GetContentRect()), {left, top, right, bottom})});
+    return 1;
+}
+
+int CWntFrame::RemoveAnchor(CWnd* child) {
+    return this && child && std::erase_if(anchored_, [=](const Anchored& a) { return a.window == child->m_hWnd; }) > 0;
+}
+
+void CWntFrame::place_children() {
+    std::erase_if(anchored_, [this](const Anchored& a) { return !living(a.window); });
+    const wnt::PixelRect content = pixels_of(GetContentRect());
+    HDWP moves = ::BeginDeferWindowPos(static_cast<int>(anchored_.size()));
+    for (const Anchored& each : anchored_) {
+        const CRect place = rect_of(each.anchor.place(content));
+        if (moves)
+            moves = ::DeferWindowPos(moves, each.window, nullptr, place.left, place.top, place.Width(), place.Height(),
+                                     SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+    if (moves)
+        ::EndDeferWindowPos(moves);
+}
+
+void CWntFrame::lay_out(int, int) {
+    style_changed();
+}
+
+void CWntFrame::OnSettingChange(UINT flags, LPCTSTR section) {
+    wnt::PaneWindow::OnSettingChange(flags, section);
+    rescale();
+    style_changed();
+}
+
+BOOL CWntFrame::OnEraseBkgnd(CDC*) {
+    return TRUE;
+}
+
+void CWntFrame::OnPaint() {
+    wnt::PaintPass pass(*this);
+    const wnt::FrameModel& m = *model_;
+    const CRect area = pass.area();
+    const wnt::FrameLayout layout = wnt::frame_layout(m, area.Width(), area.Height(), scale_, title_rows());
+    pass.fill(area, colour_of(m.background, COLOR_BTNFACE));
+    const COLORREF sun = colour_of(m.sun, COLOR_BTNHIGHLIGHT);
+    const COLORREF shadow = colour_of(m.shadow, COLOR_3DDKSHADOW);
+    const bool raised = m.border_type == wnt::border_raised;
+    paint_border(pass, area, layout.border, m.border_sides, raised ? sun : shadow,
+                 m.border_type == wnt::border_sunk ? sun : shadow);
+    CRect title = rect_of(layout.title);
+    title.DeflateRect(::MulDiv(title_margin, scale_, 100), 0);
+    pass.text(title, m.title.c_str(), format_of(m.align), colour_of(m.text, COLOR_BTNTEXT), &title_font_);
+}

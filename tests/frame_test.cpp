@@ -1,0 +1,149 @@
+#include <zopwnt.h>
+
+#include <gtest/gtest.h>
+
+#include "temporary_file.h"
+#include "widget_window.h"
+
+namespace {
+
+constexpr COLORREF dark_blue = RGB(0, 0, 128), yellow = RGB(255, 255, 0), black = 0, white = RGB(255, 255, 255);
+
+class FrameTest : public WidgetTest {
+protected:
+    void open(int width, int height) {
+        ASSERT_TRUE(frame_.Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, width, height), &host_, 1));
+        script({":CLRBACK=DARKBLUE", ":CLRTEXT=YELLOW", ":CLRSUN=WHITE", ":CLRSHADOW=BLACK"});
+    }
+    void script(std::initializer_list<const char*> lines) {
+        frame_.LoadLine("", 1);
+        for (const char* line : lines)
+            frame_.LoadLine(line, 0);
+        frame_.LoadLine("", 2);
+        full_repaint(frame_);
+    }
+    // Where pixels of a colour lie; empty where there are none.
+    CRect extent(COLORREF colour) {
+        const Pixels seen = pixels_of(frame_);
+        CRect box(seen.width, seen.height, 0, 0);
+        for (int y = 0; y < seen.height; ++y)
+            for (int x = 0; x < seen.width; ++x)
+                if (seen.at(x, y) == colour)
+                    box = CRect(std::min<int>(box.left, x), std::min<int>(box.top, y), std::max<int>(box.right, x + 1),
+                                std::max<int>(box.bottom, y + 1));
+        return box;
+    }
+    CRect place(CWnd& child) {
+        CRect r;
+        child.GetWindowRect(&r);
+        frame_.ScreenToClient(&r);
+        return r;
+    }
+
+    CWntFrame frame_;
+};
+
+TEST_F(FrameTest, BorderAndTitleStandWhereTheScriptSays) {
+    open(200, 100);
+    script({":BORDERHEIGHT=3", ":BORDERTYPE=3DDOWN", ":BORDERSTYLE=LEFT RIGHT TOP BOTTOM"});
+    const Pixels sunk = pixels_of(frame_);
+    EXPECT_TRUE(sunk.at(1, 50) == black && sunk.at(100, 2) == black && sunk.at(197, 50) == white &&
+                sunk.at(100, 98) == white && sunk.at(3, 50) == dark_blue && sunk.at(196, 50) == dark_blue);
+    script({":BORDERTYPE=3DUP", ":BORDERSTYLE=LEFT BOTTOM"});
+    const Pixels raised = pixels_of(frame_);
+    EXPECT_TRUE(raised.at(1, 50) == white && raised.at(100, 98) == black && raised.at(198, 50) == dark_blue &&
+                raised.at(100, 1) == dark_blue);
+    script({":BORDERTYPE=FLAT", ":BORDERSTYLE=TOP"});
+    EXPECT_EQ(pixels_of(frame_).at(100, 1), black);
+
+    EXPECT_TRUE(extent(yellow).IsRectEmpty());
+    script({":BORDERTYPE=NOBORDER", ":TITLE=III"});
+    const char* words[] = {"BOTTOMLEFT", "BOTTOMRIGHT", "BOTTOMCENTER", nullptr,       "TOPLEFT",     "TOPRIGHT",
+                           "TOPCENTER",  nullptr,       "CENTERLEFT",   "CENTERRIGHT", "CENTERCENTER"};
+    for (int i = 0; i < 11; ++i) {
+        if (!words[i])
+            continue;
+        script({CString(":ALIGN=") + words[i]});
+        const CPoint at = extent(yellow).CenterPoint();
+        EXPECT_EQ(at.x < 60 ? 0 : at.x > 140 ? 1 : 2, i % 4) << words[i];
+        EXPECT_EQ(at.y > 66 ? 0 : at.y < 33 ? 1 : 2, i / 4) << words[i];
+    }
+    script({":TITLE=a title that is much too long for a panel of two hundred"}); // cut, not written over the edge
+    EXPECT_TRUE(extent(yellow).left >= 2 && extent(yellow).right <= 198);
+    const std::string_view lines = ":TITLE=\r\n:BORDERTYPE=FLAT\r\n";
+    const TemporaryFile file({lines.begin(), lines.end()});
+    EXPECT_EQ(frame_.LoadFromFile(file.name()), 1);
+    EXPECT_TRUE(extent(yellow).IsRectEmpty());
+    EXPECT_EQ(frame_.LoadFromFile("no such file") + frame_.LoadFromFile(nullptr), 0);
+}
+
+TEST_F(FrameTest, ChildrenStayAtTheirAnchors) {
+    open(200, 100);
+    CWntGauge gauge;
+    CButton button;
+    ASSERT_TRUE(gauge.Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(10, 10, 110, 90), &frame_, 2));
+    ASSERT_TRUE(button.Create("ok", WS_CHILD | WS_VISIBLE, CRect(0, 0, 20, 20), &host_, 3)); // of another parent
+    button.MoveWindow(150, 70, 40, 20);
+    EXPECT_EQ(frame_.SetAnchor(&gauge, 0, 0, 1, 1) + frame_.SetAnchor(&button, 1, 1, 1, 1), 2);
+    frame_.MoveWindow(0, 0, 300, 150);
+    EXPECT_EQ(place(gauge), CRect(10, 10, 210, 140));
+    EXPECT_EQ(place(button), CRect(250, 120, 290, 140));
+    frame_.SetTitle("Tank"); // moves what keeps to the upper edge
+    const int strip = frame_.GetContentRect().top - 1;
+    EXPECT_GT(strip, 8);
+    EXPECT_EQ(place(gauge), CRect(10, 10 + strip, 210, 140));
+    EXPECT_EQ(frame_.RemoveAnchor(&gauge), 1);
+    EXPECT_EQ(frame_.RemoveAnchor(&gauge), 0);
+    frame_.MoveWindow(0, 0, 5, 5);
+    frame_.MoveWindow(0, 0, 300, 150);
+    EXPECT_EQ(place(gauge), CRect(10, 10 + strip, 210, 140));
+    EXPECT_EQ(place(button), CRect(250, 120, 290, 140));
+    button.DestroyWindow();
+    frame_.MoveWindow(0, 0, 200, 100);
+    CWntFrame* volatile none = nullptr;
+    EXPECT_EQ(frame_.SetAnchor(nullptr, 0, 0, 0, 0) + frame_.SetAnchor(&host_, 0, 0, 0, 0) +
+                  none->SetAnchor(&gauge, 0, 0, 0, 0) + none->GetScale() + none->LoadLine("", 1),
+              0);
+}
+
+TEST_F(FrameTest, PaintsOnlyWhatIsUncovered) {
+    open(200, 100);
+    CButton child;
+    ASSERT_TRUE(child.Create("child", WS_CHILD | WS_VISIBLE, CRect(20, 20, 100, 60), &frame_, 2));
+    full_repaint(frame_);
+    {
+        CClientDC dc(&child);
+        dc.FillSolidRect(CRect(0, 0, 80, 40), poison);
+        CClientDC ground(&frame_);
+        ground.FillSolidRect(CRect(150, 50, 160, 60), poison);
+    }
+    frame_.InvalidateRect(CRect(0, 0, 120, 100), FALSE);
+    frame_.UpdateWindow();
+    EXPECT_EQ(pixels_of(frame_).count(poison), 80 * 40 + 10 * 10); // neither the child nor what was valid
+}
+
+TEST_F(FrameTest, FollowsTheMainFramesScaling) {
+    open(200, 100);
+    script({":BORDERHEIGHT=2", ":TITLE=T"});
+    EXPECT_EQ(frame_.GetScale(), 100);
+    const CRect plain = frame_.GetContentRect();
+    char folder[MAX_PATH];
+    ::GetModuleFileNameA(nullptr, folder, sizeof folder);
+    const CString path = CString(folder).Left(CString(folder).ReverseFind('\\')) + "\\stub\\zopfdraw.dll";
+    const HMODULE stub = ::LoadLibraryA(path);
+    ASSERT_TRUE(stub);
+    auto& percentage = *reinterpret_cast<int*>(reinterpret_cast<void*>(::GetProcAddress(stub, "percentage")));
+    for (const auto& [answer, scale] : {std::pair{200, 200}, {0, 100}, {-7, 100}, {INT_MAX, 1000}, {150, 150}}) {
+        percentage = answer;
+        frame_.SendMessage(WM_SETTINGCHANGE);
+        EXPECT_EQ(frame_.GetScale(), scale) << answer;
+    }
+    EXPECT_EQ(frame_.GetContentRect().left, 3);
+    EXPECT_NEAR(frame_.GetContentRect().top, plain.top * 3 / 2, 2);
+    CWntFrame second;
+    ASSERT_TRUE(second.Create(nullptr, "", WS_CHILD, CRect(0, 0, 9, 9), &host_, 5));
+    EXPECT_EQ(second.GetScale(), 150);
+    ::FreeLibrary(stub);
+}
+
+} // namespace
