@@ -42,6 +42,35 @@ template <class Widget> Kind kind(const char* name) {
     return {name, [] { return std::make_unique<Widget>(); }};
 }
 
+CWnd* plain_child(CWnd& parent) {
+    return CWnd::FromHandle(::CreateWindowA("STATIC", "child", WS_CHILD | WS_VISIBLE, 2, 2, 20, 20, parent.m_hWnd,
+                                            nullptr, nullptr, nullptr));
+}
+
+Kind sash() {
+    Kind made = kind<CWntSash>("sash");
+    made.prepare = [](CWnd& widget) {
+        auto& shown = static_cast<CWntSash&>(widget);
+        CWnd* first = plain_child(widget);
+        shown.SetPanes(first, plain_child(widget));
+        shown.SetLiveDrag(0);
+        for (const UINT message : {WM_LBUTTONDOWN, WM_MOUSEMOVE, WM_LBUTTONUP})
+            widget.SendMessage(message, 0, message == WM_LBUTTONDOWN ? MAKELPARAM(30, 5) : MAKELPARAM(20, 5));
+    };
+    return made;
+}
+
+Kind frame() {
+    Kind made = kind<CWntFrame>("frame");
+    made.prepare = [](CWnd& widget) {
+        auto& shown = static_cast<CWntFrame&>(widget);
+        shown.SetTitle("Boiler");
+        shown.SetAnchor(plain_child(widget), 0, 0, 1, 1);
+        widget.SendMessage(WM_SETTINGCHANGE);
+    };
+    return made;
+}
+
 std::vector<Kind> all_kinds() {
     return {kind<CWntOut>("surface"),
             kind<CWntButton>("button"),
@@ -56,7 +85,9 @@ std::vector<Kind> all_kinds() {
             axis("time axis", 2),
             kind<CWntCalendar>("calendar"),
             kind<CWntColorSel>("colour selector"),
-            kind<CWntTrace>("trace")};
+            kind<CWntTrace>("trace"),
+            sash(),
+            frame()};
 }
 
 class HandlesTest : public WidgetTest {

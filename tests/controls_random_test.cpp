@@ -1,0 +1,137 @@
+// Controls under a thousand operations each, of any order and size.
+#include <zopwnt.h>
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "widget_window.h"
+
+namespace {
+
+class ControlsAtRandom : public WidgetTest {
+protected:
+    int some(int most) { return static_cast<int>(random_() % static_cast<unsigned>(most + 1)); }
+    int any_size() { return some(3) == 0 ? some(3) : some(2000); }
+    double any_share() { return some(4) == 0 ? -1.0 : some(100) / 100.0; }
+    LPARAM any_point() { return MAKELPARAM(some(2100) - 50, some(2100) - 50); }
+
+    void input(CWnd& control) {
+        static constexpr UINT mouse[] = {WM_LBUTTONDOWN, WM_MOUSEMOVE, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_RBUTTONDOWN};
+        static constexpr UINT keys[] = {VK_LEFT, VK_RIGHT, VK_UP,     VK_DOWN,  VK_HOME,
+                                        VK_END,  VK_SPACE, VK_ESCAPE, VK_RETURN};
+        if (some(1))
+            control.SendMessage(mouse[some(4)], MK_LBUTTON, any_point());
+        else
+            control.SendMessage(WM_KEYDOWN, keys[some(8)], 1);
+    }
+    void resize_or_paint(CWnd& control) {
+        if (some(2))
+            control.MoveWindow(some(20), some(20), any_size(), any_size());
+        else
+            full_repaint(control);
+    }
+    std::mt19937 random_{11};
+};
+
+TEST_F(ControlsAtRandom, Sash) {
+    CWntSash outer, inner;
+    CWntGauge gauge;
+    std::unique_ptr<CButton> button;
+    open(outer, 300, 200);
+    ASSERT_TRUE(inner.Create(nullptr, "", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 5, 5), &outer, 2));
+    ASSERT_TRUE(gauge.Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 5, 5), &inner, 3));
+    for (int i = 0; i < 1000; ++i) {
+        CWntSash& sash = some(1) ? outer : inner;
+        switch (some(9)) {
+        case 0:
+            if (button && some(1))
+                button.reset();
+            else if (!button) {
+                button = std::make_unique<CButton>();
+                button->Create("b", WS_CHILD | WS_VISIBLE, CRect(0, 0, 9, 9), &outer, 4);
+            }
+            break;
+        case 1:
+            outer.SetPanes(some(3) ? &inner : nullptr, button.get());
+            inner.SetPanes(some(3) ? &gauge : nullptr, some(1) ? static_cast<CWnd*>(&outer) : button.get());
+            break;
+        case 2:
+            sash.SetUpright(some(1));
+            sash.SetLiveDrag(some(1));
+            break;
+        case 3:
+            sash.SetPosition(any_size() - 100);
+            break;
+        case 4:
+            sash.SetShare(any_share());
+            sash.SetKeptPane(some(3));
+            break;
+        case 5:
+            sash.SetLeastSizes(some(400) - 20, some(400));
+            sash.SetBarSize(some(70));
+            break;
+        case 6:
+            sash.SetFoldPane(some(3));
+            sash.Fold(some(1));
+            break;
+        case 7:
+            resize_or_paint(outer);
+            break;
+        default:
+            input(sash);
+        }
+        CRect client;
+        outer.GetClientRect(&client);
+        ASSERT_GE(outer.GetPosition(), 0);
+        ASSERT_LE(outer.GetPosition(), std::max(client.Width(), client.Height()));
+    }
+}
+
+TEST_F(ControlsAtRandom, Frame) {
+    CWntFrame frame;
+    open(frame, 300, 200);
+    std::vector<std::unique_ptr<CButton>> children(8);
+    const char* lines[] = {":TITLE=a longer title than usual",
+                           ":TITLE=",
+                           ":ALIGN=TOPLEFT",
+                           ":ALIGN=BOTTOMRIGHT",
+                           ":ALIGN=CENTERCENTER",
+                           ":BORDERHEIGHT=5",
+                           ":BORDERHEIGHT=0",
+                           ":BORDERTYPE=3DDOWN",
+                           ":BORDERSTYLE=LEFT",
+                           ":BORDERTYPE=FLAT",
+                           ":CLRBACK=RED",
+                           ":ALIGN=---"};
+    for (int i = 0; i < 1000; ++i) {
+        auto& child = children[static_cast<std::size_t>(some(7))];
+        switch (some(6)) {
+        case 0:
+            child = std::make_unique<CButton>();
+            child->Create("b", WS_CHILD | WS_VISIBLE, CRect(some(300), some(200), some(400), some(300)), &frame, 4);
+            break;
+        case 1:
+            child.reset();
+            break;
+        case 2:
+            if (child)
+                frame.SetAnchor(child.get(), any_share(), any_share(), any_share(), any_share());
+            break;
+        case 3:
+            if (child)
+                frame.RemoveAnchor(child.get());
+            break;
+        case 4:
+            frame.LoadLine(lines[some(11)], 0);
+            frame.LoadLine("", 2);
+            break;
+        default:
+            resize_or_paint(frame);
+        }
+        const CRect content = frame.GetContentRect();
+        ASSERT_TRUE(content.Width() >= 0 && content.Height() >= 0);
+    }
+}
+
+} // namespace
