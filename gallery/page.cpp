@@ -144,6 +144,7 @@ GalleryPages MakePages(const NamedFiles& files) {
     pages.push_back(MakeButtonsPage());
     pages.push_back(MakeScrollBarsPage());
     pages.push_back(MakeFramesPage());
+    pages.push_back(MakeFoldingFramesPage());
     pages.push_back(MakeSashPage());
     pages.push_back(MakePulsePage());
     pages.push_back(MakeCalendarPage());

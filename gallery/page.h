@@ -126,6 +126,7 @@ std::unique_ptr<CGalleryPage> MakeGaugesPage();
 std::unique_ptr<CGalleryPage> MakeButtonsPage();
 std::unique_ptr<CGalleryPage> MakeScrollBarsPage();
 std::unique_ptr<CGalleryPage> MakeFramesPage();
+std::unique_ptr<CGalleryPage> MakeFoldingFramesPage();
 std::unique_ptr<CGalleryPage> MakeSashPage();
 std::unique_ptr<CGalleryPage> MakePulsePage();
 std::unique_ptr<CGalleryPage> MakeCalendarPage();

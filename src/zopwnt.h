@@ -8,6 +8,7 @@
 #include "bitmap/wnt_bitmap.h"
 #include "bitmap/wnt_bitmap_palette.h"
 #include "controls/wnt_frame.h"
+#include "controls/wnt_frame_ex.h"
 #include "controls/wnt_sash.h"
 #include "controls/wnt_scroll_bar.h"
 #include "controls/wnt_ulist.h"

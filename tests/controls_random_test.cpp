@@ -134,4 +134,42 @@ TEST_F(ControlsAtRandom, Frame) {
     }
 }
 
+TEST_F(ControlsAtRandom, FoldingFrame) {
+    CWntFrameEx frame;
+    open(frame, 300, 200);
+    CButton child, tool;
+    ASSERT_TRUE(child.Create("b", WS_CHILD | WS_VISIBLE, CRect(10, 10, 90, 40), frame.GetContent(), 4));
+    ASSERT_TRUE(tool.Create("t", WS_CHILD | WS_VISIBLE, CRect(0, 0, 20, 20), &frame, 5));
+    for (int i = 0; i < 1000; ++i) {
+        switch (some(7)) {
+        case 0:
+            frame.SetContentSize(any_size() - 5, any_size());
+            break;
+        case 1:
+            frame.ShowContent(CRect(any_size(), any_size(), any_size() - 400, any_size()));
+            break;
+        case 2:
+            frame.SetTool(some(1) ? &tool : nullptr);
+            break;
+        case 3:
+            frame.Fold(some(1));
+            break;
+        case 4:
+            frame.SendMessage(WM_VSCROLL, MAKEWPARAM(some(9), some(2000)),
+                              reinterpret_cast<LPARAM>(frame.GetDlgItem(2 + some(1))->m_hWnd));
+            break;
+        case 5:
+            frame.SetAnchor(&child, any_share(), any_share(), any_share(), any_share());
+            break;
+        case 6:
+            input(frame);
+            break;
+        default:
+            resize_or_paint(frame);
+        }
+        const CRect content = frame.GetContentRect();
+        ASSERT_TRUE(content.Width() >= 0 && content.Height() >= 0);
+    }
+}
+
 } // namespace

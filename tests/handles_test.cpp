@@ -87,7 +87,8 @@ std::vector<Kind> all_kinds() {
             kind<CWntColorSel>("colour selector"),
             kind<CWntTrace>("trace"),
             sash(),
-            frame()};
+            frame(),
+            kind<CWntFrameEx>("folding frame")};
 }
 
 class HandlesTest : public WidgetTest {

@@ -24,14 +24,14 @@ bool concerns_host(UINT message) {
 
 } // namespace
 
-bool PaneWindow::adopt(CWnd* pane) {
-    const HWND window = pane->GetSafeHwnd();
-    if (!window || !m_hWnd || window == m_hWnd || ::IsChild(window, m_hWnd))
+bool adopt_child(CWnd& parent, CWnd* child) {
+    const HWND window = child->GetSafeHwnd();
+    if (!window || !parent.m_hWnd || window == parent.m_hWnd || ::IsChild(window, parent.m_hWnd))
         return false;
-    if (::GetParent(window) == m_hWnd)
+    if (::GetParent(window) == parent.m_hWnd)
         return true;
-    pane->ModifyStyle(WS_POPUP, WS_CHILD);
-    return ::SetParent(window, m_hWnd) != nullptr;
+    child->ModifyStyle(WS_POPUP, WS_CHILD);
+    return ::SetParent(window, parent.m_hWnd) != nullptr;
 }
 
 HWND PaneWindow::living(HWND pane) const {

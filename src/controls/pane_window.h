@@ -10,14 +10,15 @@ class ZOPWNT_API PaneWindow : public ControlWindow {
 protected:
     explicit PaneWindow(const char* class_name) : ControlWindow(class_name, Draws::itself) {}
 
-    /// Makes a window of the host's a child of this one; false for none.
-    bool adopt(CWnd* pane);
     /// The pane while it is a child of this window, otherwise null.
     HWND living(HWND pane) const;
 
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 };
+
+/// Makes a window of the host's a child; false for none, or for one that holds the parent.
+ZOPWNT_API bool adopt_child(CWnd& parent, CWnd* child);
 
 /// Sends a notification to the parent; what the handler answers. `alive` is false when the handler destroyed the
 /// control, which must not be used then.

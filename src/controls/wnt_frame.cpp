@@ -57,7 +57,9 @@ ON_WM_PAINT()
 ON_WM_SETTINGCHANGE()
 END_MESSAGE_MAP()
 
-CWntFrame::CWntFrame() : PaneWindow("WntFrame"), model_(std::make_unique<wnt::FrameModel>()) {}
+CWntFrame::CWntFrame() : CWntFrame("WntFrame") {}
+
+CWntFrame::CWntFrame(const char* class_name) : PaneWindow(class_name), model_(std::make_unique<wnt::FrameModel>()) {}
 
 CWntFrame::~CWntFrame() {
     DestroyWindow(); // while its handlers and what they use still exist
@@ -99,7 +101,7 @@ unsigned char CWntFrame::LoadLine(const char* line, int mode) {
     if (mode == wnt::script_line) {
         model_->load_line(line);
     } else if (mode == wnt::script_end && m_hWnd) {
-        style_changed();
+        StyleChanged();
         UpdateWindow();
     }
     return 0;
@@ -120,10 +122,10 @@ void CWntFrame::SetTitle(const char* title) {
     if (!this)
         return;
     model_->set_title(wnt::text_of(title));
-    style_changed();
+    StyleChanged();
 }
 
-void CWntFrame::style_changed() {
+void CWntFrame::StyleChanged() {
     if (!m_hWnd)
         return;
     place_children();
@@ -131,22 +133,25 @@ void CWntFrame::style_changed() {
 }
 
 CRect CWntFrame::GetContentRect() const {
-    if (!this || !m_hWnd)
-        return CRect(0, 0, 0, 0);
+    return this && m_hWnd ? ContentRect() : CRect(0, 0, 0, 0);
+}
+
+CRect CWntFrame::ContentRect() const {
     CRect client;
     GetClientRect(&client);
     return rect_of(wnt::frame_layout(*model_, client.Width(), client.Height(), scale_, title_rows()).content);
 }
 
 int CWntFrame::SetAnchor(CWnd* child, double left, double top, double right, double bottom) {
-    if (!this || !child || !adopt(child))
+    CWnd* const holder = this ? GetHolder() : nullptr;
+    if (!holder || !wnt::adopt_child(*holder, child))
         return 0;
     CRect place;
     child->GetWindowRect(&place);
-    ScreenToClient(&place);
+    holder->ScreenToClient(&place);
     RemoveAnchor(child);
     anchored_.push_back(
-        {child->m_hWnd, wnt::Anchor::at(pixels_of(place), pixels_of(GetContentRect()), {left, top, right, bottom})});
+        {child->m_hWnd, wnt::Anchor::at(pixels_of(place), pixels_of(GetAnchorArea()), {left, top, right, bottom})});
     return 1;
 }
 
@@ -155,8 +160,9 @@ int CWntFrame::RemoveAnchor(CWnd* child) {
 }
 
 void CWntFrame::place_children() {
-    std::erase_if(anchored_, [this](const Anchored& a) { return !living(a.window); });
-    const wnt::PixelRect content = pixels_of(GetContentRect());
+    const HWND holder = GetHolder()->GetSafeHwnd();
+    std::erase_if(anchored_, [=](const Anchored& a) { return ::GetParent(a.window) != holder; });
+    const wnt::PixelRect content = pixels_of(GetAnchorArea());
     HDWP moves = ::BeginDeferWindowPos(static_cast<int>(anchored_.size()));
     for (const Anchored& each : anchored_) {
         const CRect place = rect_of(each.anchor.place(content));
@@ -169,13 +175,13 @@ void CWntFrame::place_children() {
 }
 
 void CWntFrame::lay_out(int, int) {
-    style_changed();
+    StyleChanged();
 }
 
 void CWntFrame::OnSettingChange(UINT flags, LPCTSTR section) {
     wnt::PaneWindow::OnSettingChange(flags, section);
     rescale();
-    style_changed();
+    StyleChanged();
 }
 
 BOOL CWntFrame::OnEraseBkgnd(CDC*) {
@@ -184,6 +190,14 @@ BOOL CWntFrame::OnEraseBkgnd(CDC*) {
 
 void CWntFrame::OnPaint() {
     wnt::PaintPass pass(*this);
+    PaintPanel(pass, true);
+}
+
+COLORREF CWntFrame::TitleColour() const {
+    return colour_of(model_->text, COLOR_BTNTEXT);
+}
+
+void CWntFrame::PaintPanel(wnt::PaintPass& pass, bool titled) {
     const wnt::FrameModel& m = *model_;
     const CRect area = pass.area();
     const wnt::FrameLayout layout = wnt::frame_layout(m, area.Width(), area.Height(), scale_, title_rows());
@@ -193,7 +207,9 @@ void CWntFrame::OnPaint() {
     const bool raised = m.border_type == wnt::border_raised;
     paint_border(pass, area, layout.border, m.border_sides, raised ? sun : shadow,
                  m.border_type == wnt::border_sunk ? sun : shadow);
+    if (!titled)
+        return;
     CRect title = rect_of(layout.title);
     title.DeflateRect(::MulDiv(title_margin, scale_, 100), 0);
-    pass.text(title, m.title.c_str(), format_of(m.align), colour_of(m.text, COLOR_BTNTEXT), &title_font_);
+    pass.text(title, m.title.c_str(), format_of(m.align), TitleColour(), &title_font_);
 }

@@ -8,6 +8,7 @@
 namespace wnt {
 struct Anchor;
 struct FrameModel;
+class PaintPass;
 } // namespace wnt
 
 /// A panel with a border, a title and a ground of its own, which holds windows of the host's and keeps them at their
@@ -49,22 +50,36 @@ public:
     int GetScale() const;
 
 protected:
+    explicit CWntFrame(const char* class_name);
+
+    /// Ground and border, and the title where it belongs to them.
+    void PaintPanel(wnt::PaintPass& pass, bool titled);
+    COLORREF TitleColour() const;
+    /// The window that holds the children.
+    virtual CWnd* GetHolder() { return this; }
+    virtual CRect ContentRect() const;
+    /// In the holder's client coordinates, what anchors count from.
+    virtual CRect GetAnchorArea() const { return GetContentRect(); }
+    /// After title, border, colours, scaling or size changed: places everything, and asks for a repaint.
+    virtual void StyleChanged();
+
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnPaint();
     afx_msg void OnSettingChange(UINT flags, LPCTSTR section);
     DECLARE_MESSAGE_MAP()
 
+    bool build() override;
+    void lay_out(int cx, int cy) override;
+    const wnt::FrameModel& model() const { return *model_; }
+    CFont& title_font() { return title_font_; }
+    void place_children();
+
 private:
     struct Anchored;
 
-    bool build() override;
     void take_text(const CString& text) override;
-    void lay_out(int cx, int cy) override;
-
     void rescale();
     int title_rows() const;
-    void place_children();
-    void style_changed();
 
     std::unique_ptr<wnt::FrameModel> model_;
     std::vector<Anchored> anchored_;

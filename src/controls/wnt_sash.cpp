@@ -54,7 +54,7 @@ int CWntSash::SetPanes(CWnd* first, CWnd* second) {
     CWnd* const wanted[2] = {first, second};
     HWND found[2] = {};
     for (int i = 0; i < 2; ++i) {
-        if (wanted[i] && !adopt(wanted[i]))
+        if (wanted[i] && !wnt::adopt_child(*this, wanted[i]))
             return 0;
         found[i] = wanted[i]->GetSafeHwnd();
     }

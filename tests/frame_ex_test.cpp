@@ -1,0 +1,148 @@
+#include <zopwnt.h>
+
+#include <gtest/gtest.h>
+
+#include "widget_window.h"
+
+namespace {
+
+class FrameExTest : public WidgetTest {
+protected:
+    void SetUp() override {
+        WidgetTest::SetUp();
+        ASSERT_TRUE(frame_.Create(nullptr, "", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 200, 150), &host_, 1));
+        frame_.SetTitle("Limits");
+        ASSERT_TRUE(child_.Create("child", WS_CHILD | WS_VISIBLE, CRect(10, 300, 110, 320), frame_.GetContent(), 2));
+        full_repaint(frame_);
+    }
+    CRect on_screen(CWnd& window) {
+        CRect r;
+        window.GetWindowRect(&r);
+        host_.ScreenToClient(&r);
+        return r;
+    }
+    int bars() {
+        int shown = 0;
+        for (CWnd* each = frame_.GetWindow(GW_CHILD); each; each = each->GetWindow(GW_HWNDNEXT)) {
+            char name[20];
+            ::GetClassNameA(each->m_hWnd, name, sizeof name);
+            shown += !::lstrcmpiA(name, "ScrollBar") && each->IsWindowVisible();
+        }
+        return shown;
+    }
+
+    CWntFrameEx frame_;
+    CButton child_;
+};
+
+TEST_F(FrameExTest, ScrollsWhatDoesNotFit) {
+    EXPECT_EQ(bars(), 0);
+    EXPECT_EQ(on_screen(*frame_.GetContent()).top, 1 + frame_.GetHeaderHeight());
+    EXPECT_EQ(frame_.SetContentSize(150, 400), 1);
+    EXPECT_EQ(bars(), 1);
+    EXPECT_EQ(frame_.SetContentSize(190, 400), 1); // the first bar leaves no room for this width
+    EXPECT_EQ(bars(), 2);
+    frame_.SetContentSize(150, 400);
+    const int top = on_screen(child_).top;
+    frame_.ShowContent(CRect(10, 300, 110, 320));
+    EXPECT_EQ(on_screen(child_).bottom, on_screen(*frame_.GetContent()).bottom);
+    frame_.ShowContent(CRect(0, 0, 1, 1));
+    EXPECT_EQ(on_screen(child_).top, top);
+    frame_.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), 0);
+    EXPECT_EQ(on_screen(child_).top, top - 48);
+    child_.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, WHEEL_DELTA), 0); // over a child, too
+    EXPECT_EQ(on_screen(child_).top, top);
+    CWnd* bar = frame_.GetDlgItem(3);
+    for (const auto& [code, steps] : {std::pair{SB_LINEDOWN, 1}, {SB_PAGEDOWN, 8}, {SB_LINEUP, 7}}) {
+        frame_.SendMessage(WM_VSCROLL, static_cast<WPARAM>(code), reinterpret_cast<LPARAM>(bar->m_hWnd));
+        EXPECT_EQ(on_screen(child_).top, top - 16 * steps) << code;
+    }
+    frame_.MoveWindow(0, 0, 200, 600); // there is room now: nothing stays scrolled away
+    EXPECT_EQ(on_screen(child_).top, top);
+    EXPECT_EQ(bars(), 0);
+    EXPECT_EQ(frame_.SetContentSize(-1, 5), 0);
+}
+
+TEST_F(FrameExTest, ScrollingShowsWhatAFullRepaintShows) {
+    frame_.SetContentSize(150, 400);
+    frame_.ShowContent(CRect(0, 290, 1, 330));
+    const Pixels scrolled = pixels_of(frame_);
+    full_repaint(frame_);
+    EXPECT_EQ(pixels_of(frame_), scrolled);
+    EXPECT_TRUE(child_.IsWindowVisible());
+}
+
+TEST_F(FrameExTest, FoldsByItsHeaderAndByKeys) {
+    std::vector<std::pair<int, int>> told;
+    host_.on_message = [&](UINT message) {
+        if (message != WM_NOTIFY)
+            return;
+        const auto& n = *reinterpret_cast<WntFrameNotify*>(std::get<2>(host_.seen.back()));
+        EXPECT_EQ(n.hdr.code, WNT_FRAME_FOLDED);
+        told.emplace_back(n.folded, n.height);
+    };
+    const int folded = frame_.GetHeaderHeight() + 2; // and the border
+    frame_.SendMessage(WM_LBUTTONDOWN, 0, MAKELPARAM(50, 10));
+    EXPECT_EQ(on_screen(frame_).Height(), folded);
+    EXPECT_FALSE(child_.IsWindowVisible());
+    frame_.SendMessage(WM_KEYDOWN, VK_SPACE, 0);
+    EXPECT_EQ(on_screen(frame_).Height(), 150);
+    EXPECT_TRUE(child_.IsWindowVisible());
+    frame_.SendMessage(WM_KEYDOWN, VK_LEFT, 0);
+    frame_.SendMessage(WM_KEYDOWN, VK_LEFT, 0);
+    frame_.SendMessage(WM_KEYDOWN, VK_RIGHT, 0);
+    frame_.SendMessage(WM_LBUTTONDOWN, 0, MAKELPARAM(50, 100)); // not the header
+    EXPECT_EQ(told, (std::vector<std::pair<int, int>>{{1, folded}, {0, 150}, {1, folded}, {0, 150}}));
+    EXPECT_EQ(frame_.Fold(0) + frame_.IsFolded(), 0);
+    EXPECT_EQ(frame_.Fold(1), 1);
+    EXPECT_EQ(told.size(), 4u); // calls tell nothing
+
+    frame_.SetFocus();
+    full_repaint(frame_);
+    const Pixels focused = pixels_of(frame_);
+    host_.SetFocus();
+    frame_.UpdateWindow();
+    EXPECT_NE(pixels_of(frame_), focused);
+}
+
+TEST_F(FrameExTest, HoldsAToolAndAnchors) {
+    CButton tool;
+    ASSERT_TRUE(tool.Create("x", WS_CHILD | WS_VISIBLE, CRect(0, 0, 30, 90), &frame_, 7));
+    EXPECT_EQ(frame_.SetTool(&tool), 1);
+    EXPECT_EQ(on_screen(tool).right, 200 - 1 - 2);
+    EXPECT_EQ(on_screen(tool).Height(), frame_.GetHeaderHeight() - 2);
+    frame_.MoveWindow(0, 0, 300, 150);
+    EXPECT_EQ(on_screen(tool).right, 300 - 1 - 2);
+    frame_.SetContentSize(200, 400);
+    ASSERT_EQ(frame_.SetAnchor(&child_, 0, 0, 1, 0), 1);
+    const CRect before = on_screen(child_);
+    frame_.MoveWindow(0, 0, 350, 150);
+    EXPECT_EQ(on_screen(child_).right, before.right + 50);
+    frame_.ShowContent(CRect(0, 380, 1, 400));
+    frame_.MoveWindow(0, 0, 360, 150);
+    EXPECT_EQ(on_screen(child_).right, before.right + 60);
+    EXPECT_LT(on_screen(child_).top, before.top);
+    std::vector<UINT> commands;
+    host_.on_message = [&](UINT message) {
+        if (message == WM_COMMAND)
+            commands.push_back(LOWORD(std::get<1>(host_.seen.back())));
+    };
+    tool.SendMessage(BM_CLICK);
+    child_.SendMessage(BM_CLICK);
+    EXPECT_EQ(commands, (std::vector<UINT>{7, 2}));
+    EXPECT_EQ(frame_.SetTool(nullptr), 1);
+    EXPECT_FALSE(tool.IsWindowVisible());
+}
+
+TEST_F(FrameExTest, MayBeDestroyedWhenItTells) {
+    auto* doomed = new CWntFrameEx;
+    ASSERT_TRUE(doomed->Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 100), &host_, 9));
+    host_.on_message = [&](UINT message) {
+        if (message == WM_NOTIFY)
+            delete std::exchange(doomed, nullptr);
+    };
+    doomed->SendMessage(WM_LBUTTONDOWN, 0, MAKELPARAM(20, 10));
+    EXPECT_FALSE(doomed);
+}
+
+} // namespace
