@@ -89,7 +89,7 @@ TEST_F(FrameExTest, FoldsByItsHeaderAndByKeys) {
     EXPECT_EQ(on_screen(frame_).Height(), 150);
     EXPECT_TRUE(child_.IsWindowVisible());
     frame_.SendMessage(WM_KEYDOWN, VK_LEFT, 0);
-    frame_.SendMessage(WM_KEYDOWN, VK_LEFT, 0);
+    frame_.SendMessage(WM_KEYDOWN, VK_RIGHT, 0);
     frame_.SendMessage(WM_KEYDOWN, VK_RIGHT, 0);
     frame_.SendMessage(WM_LBUTTONDOWN, 0, MAKELPARAM(50, 100)); // not the header
     EXPECT_EQ(told, (std::vector<std::pair<int, int>>{{1, folded}, {0, 150}, {1, folded}, {0, 150}}));

@@ -105,6 +105,14 @@ TEST_F(Sash, IsDraggedAsTheHostAllows) {
     drag(62, 120);
     ::ReleaseCapture();
     EXPECT_EQ(sash_.GetPosition(), 60);
+    sash_.SetFoldPane(1);
+    sash_.Fold(1);
+    drag(2, 90);
+    EXPECT_EQ(sash_.GetFolded(), 0);
+    key(VK_ESCAPE);
+    EXPECT_EQ(sash_.GetFolded(), 1);
+    sash_.Fold(0);
+    EXPECT_EQ(sash_.GetPosition(), 60);
     sash_.SetLeastSizes(150, 150);
     host_.told.clear();
     const int still = sash_.GetPosition();
@@ -148,8 +156,35 @@ TEST_F(Sash, FoldsAndMovesByKeys) {
         key(static_cast<UINT>(k));
         EXPECT_EQ(sash_.GetPosition(), at) << k;
     }
+    BYTE keys[256];
+    ::GetKeyboardState(keys);
+    keys[VK_CONTROL] = 0x80;
+    ::SetKeyboardState(keys);
+    key(VK_LEFT);
+    EXPECT_EQ(sash_.GetPosition(), 199);
+    keys[VK_CONTROL] = 0;
+    ::SetKeyboardState(keys);
     key(VK_SPACE);
     EXPECT_THAT(host_.told.back(), testing::Pair(WNT_SASH_FOLDED, 0));
+}
+
+TEST_F(Sash, ItsPointerTellsWhereItMoves) {
+    const auto pointer = [&] {
+        CPoint at(102, 50);
+        if (sash_.GetPosition() < 60)
+            at = CPoint(100, sash_.GetPosition() + 2);
+        sash_.ClientToScreen(&at);
+        ::SetCursorPos(at.x, at.y);
+        ::SetCursor(nullptr);
+        sash_.SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(sash_.m_hWnd), MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+        return ::GetCursor();
+    };
+    const HINSTANCE library = ::GetModuleHandleA("ZOPWNT.dll");
+    EXPECT_EQ(pointer(), ::LoadCursorA(library, "V_SASH"));
+    sash_.SetUpright(0);
+    EXPECT_EQ(pointer(), ::LoadCursorA(library, "H_SASH"));
+    sash_.SetLeastSizes(500, 500);
+    EXPECT_EQ(pointer(), ::LoadCursorA(nullptr, IDC_ARROW));
 }
 
 TEST_F(Sash, PassesOnWhatItsPanesTell) {
@@ -206,7 +241,10 @@ TEST_F(Sash, StoresItselfInAProfile) {
     sash_.SetPosition(10);
     EXPECT_EQ(sash_.RestoreState(file, "main"), 1);
     EXPECT_EQ(sash_.GetFolded(), 2);
+    sash_.SetFoldPane(1); // no longer the one that was folded
     sash_.Fold(0);
+    EXPECT_EQ(sash_.RestoreState(file, "main"), 1);
+    EXPECT_EQ(sash_.GetFolded(), 0);
     EXPECT_EQ(sash_.GetPosition(), 60);
     ::WritePrivateProfileStringA("main", "Share", "999999999", file);
     EXPECT_EQ(sash_.RestoreState(file, "main"), 1);

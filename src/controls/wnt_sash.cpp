@@ -18,9 +18,8 @@ constexpr short v_sash_pointer = 19;
 } // namespace
 
 struct CWntSash::Drag {
+    wnt::SashModel before;
     int grip;   ///< from the bar's edge to the pointer
-    int before; ///< where the bar was
-    int folded; ///< what was folded
     int at;     ///< where it is, or the track line
     HWND focus; ///< where it goes back to; null: it stays
     bool tracked = false;
@@ -267,7 +266,7 @@ void CWntSash::OnLButtonDown(UINT, CPoint point) {
     const HWND before = ::GetFocus();
     if (moves) {
         const int at = GetPosition();
-        drag_.reset(new Drag{along(point) - at, at, GetFolded(), at, keeps_focus ? nullptr : before});
+        drag_.reset(new Drag{*model_, along(point) - at, at, keeps_focus ? nullptr : before});
         SetCapture();
     }
     if (moves || keeps_focus) // Escape comes to who has the focus
@@ -324,13 +323,13 @@ void CWntSash::end_drag(bool keep) {
         ::ReleaseCapture();
     if (drag->focus && ::GetFocus() == m_hWnd)
         ::SetFocus(drag->focus);
-    if (drag->at == drag->before)
+    if (drag->at == drag->before.position())
         return;
     if (keep) {
         SetPosition(drag->at);
     } else if (live_) {
-        SetPosition(drag->before);
-        model_->fold(drag->folded);
+        *model_ = drag->before;
+        model_->resize(length());
         place_panes();
     }
     if (keep || live_)
