@@ -58,7 +58,27 @@ void CSketchView::Paint(CDC& memory, const CRect& part) const {
         canvas.Selection((moved ? dragged : selected_)->Bounds());
 }
 
+namespace {
+
+// The program's printer gets the paper as the sheet lies; the user may change that in the dialog.
+void turn_paper(bool landscape) {
+    PRINTDLG printer{};
+    printer.lStructSize = sizeof(printer);
+    if (!AfxGetApp()->GetPrinterDeviceDefaults(&printer))
+        return; // without a printer: the dialog will say so
+    auto* mode = static_cast<DEVMODE*>(::GlobalLock(printer.hDevMode));
+    if (!mode)
+        return;
+    mode->dmFields |= DM_ORIENTATION;
+    mode->dmOrientation = landscape ? DMORIENT_LANDSCAPE : DMORIENT_PORTRAIT;
+    ::GlobalUnlock(printer.hDevMode);
+}
+
+} // namespace
+
 BOOL CSketchView::OnPreparePrinting(CPrintInfo* info) {
+    const CSize sheet = Doc().Contents().Sheet();
+    turn_paper(sheet.cx > sheet.cy);
     info->SetMaxPage(1);
     return DoPreparePrinting(info);
 }

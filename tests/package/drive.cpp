@@ -117,6 +117,7 @@ void drive_sketch(const std::string& program, const std::string& folder) {
     std::remove(file.c_str());
     const Picture saved = draw_and_save(program, file);
     open_and_change(program, file, saved);
+    ::CopyFileA(file.c_str(), (folder + "\\printed.sketch").c_str(), FALSE); // for the next step
     open_damaged(program, file);
 }
 
