@@ -4,6 +4,8 @@
 #include "../../examples/measuring_channel/resource.h"
 #include "../../examples/sketch/resource.h"
 
+#include <shlobj.h>
+
 #include <cstdio>
 #include <fstream>
 #include <iterator>
@@ -11,7 +13,8 @@
 
 namespace {
 
-constexpr int id_undo = 0xE12B, id_redo = 0xE12C, id_copy = 0xE122, id_save = 0xE103, id_pane = 0xE900;
+constexpr int id_undo = 0xE12B, id_redo = 0xE12C, id_copy = 0xE122, id_save = 0xE103, id_first_recent = 0xE110,
+              id_pane = 0xE900;
 constexpr int file_name_field = 0x047C;
 
 using Picture = std::map<COLORREF, int>; // how many pixels of each colour
@@ -104,6 +107,41 @@ void open_and_change(const std::string& program, const std::string& file, const 
     expect(bytes_of(file) == before, "nothing was saved");
 }
 
+// Drops a file on a window of another process, as a file manager does.
+void drop(HWND window, const std::string& file) {
+    DROPFILES header = {};
+    header.pFiles = sizeof header;
+    std::string list(reinterpret_cast<const char*>(&header), sizeof header);
+    list.append(file).append(2, '\0');
+    DWORD id = 0;
+    ::GetWindowThreadProcessId(window, &id);
+    const HANDLE process = ::OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_WRITE, FALSE, id);
+    void* there = ::VirtualAllocEx(process, nullptr, list.size(), MEM_COMMIT, PAGE_READWRITE);
+    expect(there && ::WriteProcessMemory(process, there, list.data(), list.size(), nullptr), "a file can be dropped");
+    ::PostMessageA(window, WM_DROPFILES, reinterpret_cast<WPARAM>(there), 0);
+    ::CloseHandle(process);
+}
+
+void open_otherwise(const std::string& program, const std::string& file, const Picture& saved) {
+    {
+        Program sketch(program);
+        HWND frame = sketch.frame();
+        command(frame, id_first_recent);
+        expect(copied(frame) == saved, "the recent file is opened");
+        sketch.expect_end(frame);
+    }
+    Program sketch(program);
+    HWND frame = sketch.frame();
+    drop(frame, file);
+    eventually("the dropped file is opened", [&] {
+        char title[200] = "";
+        ::GetWindowTextA(frame, title, sizeof title);
+        return std::string(title).find("drawing") != std::string::npos;
+    });
+    expect(copied(frame) == saved, "it is the one that was dropped");
+    sketch.expect_end(frame);
+}
+
 void open_damaged(const std::string& program, const std::string& file) {
     const std::string whole = bytes_of(file);
     std::ofstream(file, std::ios::binary) << whole.substr(0, whole.size() - 5);
@@ -117,6 +155,7 @@ void drive_sketch(const std::string& program, const std::string& folder) {
     std::remove(file.c_str());
     const Picture saved = draw_and_save(program, file);
     open_and_change(program, file, saved);
+    open_otherwise(program, file, saved);
     ::CopyFileA(file.c_str(), (folder + "\\printed.sketch").c_str(), FALSE); // for the next step
     open_damaged(program, file);
 }
