@@ -51,7 +51,7 @@ private:
     static constexpr std::size_t nowhere = std::numeric_limits<std::size_t>::max();
 
     std::vector<FigurePtr> figures_; // the last one on top
-    CSize sheet_{2970, 2100}; // a landscape A4
+    CSize sheet_{2970, 2100};        // a landscape A4
     std::vector<Step> steps_;
     std::size_t done_ = 0;
     std::size_t saved_ = 0;

@@ -2,7 +2,6 @@
 #include "sketch_view.h"
 
 #include "main_frame.h"
-#include "resource.h"
 
 #include <algorithm>
 #include <cmath>
@@ -51,7 +50,6 @@ constexpr int widths[] = {1, 3, 5, 10, 20}; // tenths of a millimetre, in the or
 
 void CSketchView::OnInitialUpdate() {
     m_bCenter = TRUE;
-    tool_ = tool_ ? tool_ : ID_TOOL_LINE;
     selected_ = nullptr;
     CScrollView::OnInitialUpdate();
     FitZoom();
@@ -192,8 +190,8 @@ namespace {
 
 // The colour that was picked; -1 where it is none of the palette's.
 int picked(const NMHDR& header) {
-    auto* selector = DYNAMIC_DOWNCAST(CWnd, CWnd::FromHandlePermanent(header.hwndFrom));
-    const int colour = selector ? static_cast<CWntColorSel*>(selector)->GetSelectedColorID() : -1;
+    auto* selector = dynamic_cast<CWntColorSel*>(CWnd::FromHandlePermanent(header.hwndFrom));
+    const int colour = selector ? selector->GetSelectedColorID() : -1;
     return colour < FigureStyle::colours ? colour : -1;
 }
 

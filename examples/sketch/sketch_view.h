@@ -1,5 +1,6 @@
 #pragma once
 
+#include "resource.h"
 #include "sketch_doc.h"
 
 /// Shows the drawing and lets the user draw. What it shows is put together in memory and copied to the window.
@@ -68,7 +69,7 @@ private:
     void InvalidateDragged(const FigurePtr& before);
     void AskForText(CPoint at, const CTextFigure* present);
 
-    UINT tool_ = 0;
+    UINT tool_ = ID_TOOL_LINE;
     FigureStyle style_;
     int fill_colour_ = 3; // taken when filling is switched on
     int text_height_ = 100;

@@ -1,6 +1,5 @@
 // Drawing and moving with the mouse.
 #include "dialogs.h"
-#include "resource.h"
 #include "sketch_view.h"
 
 #include <algorithm>
