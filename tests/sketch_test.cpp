@@ -3,6 +3,7 @@
 #include "../examples/sketch/drawing.h"
 #include "quiet_program.h"
 
+#include <climits>
 #include <functional>
 #include <string>
 
@@ -98,13 +99,14 @@ TEST(SketchFile, WithWhatNoDrawingHasIsRefused) {
         return bytes;
     };
     CLineFigure line(CPoint(0, 0), CPoint(1, 1), red), far_away(CPoint(0, 0), CPoint(1, 20001), red),
-        odd_colour(CPoint(0, 0), CPoint(1, 1), {16, 0, 0, 1}), too_wide(CPoint(0, 0), CPoint(1, 1), {0, 0, 0, 51});
+        farthest(CPoint(0, LONG_MIN), CPoint(1, 1), red), odd_colour(CPoint(0, 0), CPoint(1, 1), {16, 0, 0, 1}),
+        too_wide(CPoint(0, 0), CPoint(1, 1), {0, 0, 0, 51});
     CTextFigure low(CPoint(0, 0), 1, "low", red), empty(CPoint(0, 0), 100, "", red);
     CStringList stranger;
     Drawing drawing;
     const auto one = [&](CObject& object) { return file_of([&](CArchive& ar) { ar.WriteCount(1), ar << &object; }); };
     ASSERT_TRUE(load(drawing, one(line)));
-    CObject* const wrong[] = {&far_away, &odd_colour, &too_wide, &low, &empty, &stranger};
+    CObject* const wrong[] = {&far_away, &farthest, &odd_colour, &too_wide, &low, &empty, &stranger};
     for (CObject* object : wrong)
         EXPECT_FALSE(load(drawing, one(*object))) << object->GetRuntimeClass()->m_lpszClassName;
     EXPECT_FALSE(load(drawing, file_of([&](CArchive& ar) { ar.WriteCount(2), ar << &line << &line; })))

@@ -57,7 +57,8 @@ void CFigure::Set(std::vector<CPoint> points, const FigureStyle& style) {
 }
 
 bool CFigure::IsValid() const {
-    const auto near_enough = [](CPoint p) { return std::abs(p.x) <= farthest && std::abs(p.y) <= farthest; };
+    const auto in = [](LONG place) { return place >= -farthest && place <= farthest; };
+    const auto near_enough = [in](CPoint p) { return in(p.x) && in(p.y); };
     return points_.size() >= 2 && points_.size() <= MostPoints() && style_.IsValid() &&
            std::all_of(points_.begin(), points_.end(), near_enough);
 }
