@@ -46,6 +46,17 @@ public:
     void PostNcDestroy() override {}
 };
 
+class printed_edit : public CEditView {
+    DECLARE_DYNCREATE(printed_edit)
+
+public:
+    using CEditView::OnBeginPrinting;
+    using CEditView::OnEndPrinting;
+    using CEditView::OnPrepareDC;
+    using CEditView::OnPrint;
+};
+IMPLEMENT_DYNCREATE(printed_edit, CEditView)
+
 BOOL plain_view(view_frame& frame, CCreateContext& context) {
     return frame.CreateView(&context) != nullptr;
 }
@@ -140,6 +151,84 @@ TEST(AfxEditView, EditsFindsAndMarksItsDocument) {
     frame.SendMessage(WM_COMMAND, ID_EDIT_CLEAR);
     EXPECT_EQ(std::string(view.LockBuffer()), " two One");
     view.UnlockBuffer();
+}
+
+TEST(AfxEditView, PrintsAnyOfItsPagesByItself) {
+    view_frame frame;
+    ASSERT_TRUE(frame.open([](view_frame& at, CCreateContext& context) {
+        context.m_pNewViewClass = RUNTIME_CLASS(printed_edit);
+        return plain_view(at, context);
+    }));
+    auto& view = *static_cast<printed_edit*>(frame.GetDescendantWindow(AFX_IDW_PANE_FIRST));
+    CDC paper;
+    CBitmap strip; // of the upper edge
+    CClientDC screen(&view);
+    ASSERT_TRUE(paper.CreateCompatibleDC(&screen) && strip.CreateCompatibleBitmap(&screen, 40, 40));
+    CBitmap* before = paper.SelectObject(&strip);
+    const int lines = paper.GetDeviceCaps(VERTRES) / 8; // of text at ten points: more than one page, fewer than four
+    CString text;
+    for (int i = 0; i < lines; ++i)
+        text += "X\r\n";
+    view.SetWindowText(text);
+    const auto prints = [&](UINT page) {
+        CPrintInfo info;
+        info.m_nCurPage = page;
+        paper.PatBlt(0, 0, 40, 40, WHITENESS);
+        const int state = paper.SaveDC();
+        view.OnBeginPrinting(&paper, &info);
+        view.OnPrepareDC(&paper, &info);
+        if (info.m_bContinuePrinting) {
+            info.m_rectDraw = CRect(0, 0, paper.GetDeviceCaps(HORZRES), paper.GetDeviceCaps(VERTRES));
+            view.OnPrint(&paper, &info);
+        }
+        view.OnEndPrinting(&paper, &info);
+        paper.RestoreDC(state);
+        int ink = 0;
+        for (int i = 0; i < 40 * 40; ++i)
+            ink += paper.GetPixel(i % 40, i / 40) != RGB(255, 255, 255);
+        EXPECT_EQ(ink > 0, info.m_bContinuePrinting != FALSE) << page;
+        return info.m_bContinuePrinting != FALSE;
+    };
+    EXPECT_TRUE(prints(1));
+    EXPECT_TRUE(prints(2)) << "though the first was not printed";
+    EXPECT_FALSE(prints(4));
+    view.SetWindowText("");
+    paper.SelectObject(before);
+}
+
+TEST(AfxSplitter, FollowsTheMouseToCrossingsAndBackAgain) {
+    view_frame frame;
+    ASSERT_TRUE(frame.open(dynamic_splitter));
+    CSplitterWnd& splitter = frame.splitter;
+    ASSERT_TRUE(splitter.SplitRow(80) && splitter.SplitColumn(120));
+    const auto sizes = [&] {
+        int height = 0, width = 0, least = 0;
+        splitter.GetRowInfo(0, height, least);
+        splitter.GetColumnInfo(0, width, least);
+        return CSize(width, height);
+    };
+    const auto send = [&](UINT message, CPoint at) {
+        splitter.SendMessage(message, MK_LBUTTON, MAKELPARAM(at.x, at.y));
+    };
+    const CSize first = sizes();
+    const CPoint crossing(first.cx + 3, first.cy + 3);
+    send(WM_LBUTTONDOWN, crossing);
+    send(WM_MOUSEMOVE, crossing + CSize(30, 40));
+    send(WM_LBUTTONUP, crossing + CSize(30, 40));
+    EXPECT_EQ(sizes(), first + CSize(30, 40)) << "both bars at once";
+    const CPoint moved = crossing + CSize(30, 40);
+    send(WM_LBUTTONDOWN, moved);
+    send(WM_MOUSEMOVE, moved - CSize(50, 50));
+    splitter.SendMessage(WM_KEYDOWN, VK_ESCAPE);
+    EXPECT_EQ(::GetCapture(), nullptr);
+    EXPECT_EQ(sizes(), first + CSize(30, 40)) << "the user thought better of it";
+    send(WM_LBUTTONDOWN, moved);
+    splitter.SendMessage(WM_CANCELMODE);
+    EXPECT_EQ(::GetCapture(), nullptr);
+    send(WM_LBUTTONDBLCLK, CPoint(moved.x, 10));
+    EXPECT_TRUE(splitter.GetColumnCount() == 1 && splitter.GetRowCount() == 2);
+    send(WM_LBUTTONDBLCLK, CPoint(10, moved.y));
+    EXPECT_EQ(splitter.GetRowCount(), 1);
 }
 
 TEST(AfxSplitter, SplitsWherePulledAndJoinsWhatBecomesTooSmall) {

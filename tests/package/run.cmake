@@ -62,15 +62,18 @@ use_program(plant ${WORK}/plant plant)
 
 use_program(sketch ${EXAMPLES}/sketch sketch)
 # The drawing with its yellow figures on paper, where there are the tools to print.
-execute_process(COMMAND ${SOURCE}/../with_printer ${WORK}/printed ${EMULATOR} ${WORK}/package/bin/sketch.exe
-    /p printed.sketch WORKING_DIRECTORY ${WORK} RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE output)
+set(page ${WORK}/printed/printed.sketch.ppm) # the print server needs a moment
+execute_process(COMMAND ${SOURCE}/../with_printer ${WORK}/printed bash -c
+    "\"$@\" && for ((i = 0; i < 600; ++i)); do [ ! -f ${page} ] || exit 0; sleep 0.1; done; exit 1" -
+    ${EMULATOR} ${WORK}/package/bin/sketch.exe /p printed.sketch
+  WORKING_DIRECTORY ${WORK} RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE output)
 if(status EQUAL 77)
   message(STATUS "${output}")
 elseif(NOT status EQUAL 0)
   message(FATAL_ERROR "printing ended with ${status}:\n${output}")
 else()
-  file(READ ${WORK}/printed/printed.sketch.ppm page HEX)
-  if(NOT page MATCHES "ffff00ffff00ffff00ffff00")
+  file(READ ${page} pixels HEX)
+  if(NOT pixels MATCHES "ffff00ffff00ffff00ffff00")
     message(FATAL_ERROR "the printed page shows no figure")
   endif()
 endif()
