@@ -2,6 +2,7 @@
 #include "afx_test_app.h"
 
 #include <afxcmn.h>
+#include <afxdtctl.h>
 #include <afxext.h>
 
 #include <gmock/gmock.h>
@@ -153,6 +154,108 @@ TEST_F(AfxCommonControls, AToolbarKeepsItsButtonsAndTheirStates) {
     EXPECT_TRUE(bar.ChangeBitmap(200, 3) && bar.GetBitmap(200) == 3);
     EXPECT_TRUE(bar.DeleteButton(0) && bar.GetButtonCount() == 2);
     EXPECT_FALSE(bar.DeleteButton(5));
+}
+
+// -- Dates ------------------------------------------------------------------------------------------------------------
+
+TEST_F(AfxCommonControls, DatesMayBeNoneAtAll) {
+    CDateTimeCtrl picker;
+    ASSERT_TRUE(picker.Create(shown | DTS_SHOWNONE, place, &parent, 1));
+    const CTime day(2024, 2, 29, 10, 11, 12);
+    CTime found(5);
+    EXPECT_TRUE(picker.SetTime(&day) && picker.GetTime(found) == GDT_VALID && found == day);
+    EXPECT_TRUE(picker.SetTime());
+    EXPECT_EQ(picker.GetTime(found), static_cast<DWORD>(GDT_NONE));
+    EXPECT_EQ(found, day) << "left alone";
+    CTime least, most;
+    EXPECT_EQ(picker.GetRange(&least, &most), 0u);
+    EXPECT_EQ(least, CTime());
+    SYSTEMTIME fields{};
+    EXPECT_TRUE(picker.SetTime(&day) && picker.GetTime(&fields) == GDT_VALID && fields.wDay == 29);
+    EXPECT_TRUE(picker.SetFormat("yyyy"));
+}
+
+TEST_F(AfxCommonControls, MonthsSelectDaysAndStretchesOfThem) {
+    CMonthCalCtrl one, several;
+    ASSERT_TRUE(one.Create(shown, CPoint(0, 0), &parent, 1));
+    CRect size, least;
+    one.GetWindowRect(size);
+    EXPECT_TRUE(one.GetMinReqRect(least) && size.Size() == least.Size() && size.Width() > 50);
+    const CTime first(2024, 2, 10, 0, 0, 0), last(2024, 2, 16, 0, 0, 0);
+    CTime found, other;
+    EXPECT_TRUE(one.SetCurSel(first) && one.GetCurSel(found) && found == first);
+    EXPECT_FALSE(one.GetSelRange(found, other)) << "one day at a time";
+    EXPECT_FALSE(one.SetSelRange(first, last));
+    ASSERT_TRUE(several.Create(shown | MCS_MULTISELECT, place, &parent, 2));
+    several.SetMaxSelCount(7);
+    EXPECT_EQ(several.GetMaxSelCount(), 7);
+    EXPECT_TRUE(several.SetSelRange(first, last) && several.GetSelRange(found, other));
+    EXPECT_TRUE(found == first && other == last);
+    EXPECT_FALSE(several.SetSelRange(first, last + CTimeSpan(1, 0, 0, 0))) << "eight days";
+    several.SetToday(&first);
+    EXPECT_TRUE(several.GetToday(found) && found.GetDay() == 10);
+    int day = -1;
+    several.SetFirstDayOfWeek(3, &day);
+    BOOL other_than_system = FALSE;
+    EXPECT_EQ(several.GetFirstDayOfWeek(&other_than_system), 3);
+    EXPECT_TRUE(other_than_system && day >= 0 && day < 7);
+    EXPECT_GE(several.GetMonthRange(found, other, GMR_VISIBLE), 1);
+    EXPECT_TRUE(found <= first && other >= last);
+    EXPECT_TRUE(several.SetRange(&first, nullptr) && several.GetRange(&found, &other) == GDTR_MIN && found == first);
+}
+
+// -- Tips and checks --------------------------------------------------------------------------------------------------
+
+TEST_F(AfxCommonControls, TipsAreChangedAndTakenBack) {
+    CToolTipCtrl tips;
+    CStatic tool;
+    ASSERT_TRUE(tips.Create(&parent) && tool.Create("tool", shown, CRect(10, 10, 40, 30), &parent, 5));
+    EXPECT_TRUE(tips.AddTool(&tool, "first") && tips.AddTool(&parent, IDS_CAPTION, CRect(50, 0, 60, 60), 3));
+    CString text;
+    tips.UpdateTipText("second", &tool);
+    tips.GetText(text, &tool);
+    EXPECT_EQ(text, "second");
+    tips.GetText(text, &parent, 3);
+    EXPECT_EQ(text, "Caption of its own");
+    TOOLINFO found{};
+    EXPECT_TRUE(tips.HitTest(&parent, CPoint(55, 5), &found) && found.uId == 3);
+    tips.SetToolRect(&parent, 3, CRect(70, 0, 80, 10));
+    EXPECT_FALSE(tips.HitTest(&parent, CPoint(55, 5), &found));
+    tips.DelTool(&parent, 3);
+    EXPECT_EQ(tips.GetToolCount(), 1);
+    tips.SetMaxTipWidth(120);
+    EXPECT_EQ(tips.GetMaxTipWidth(), 120);
+}
+
+TEST_F(AfxCommonControls, ChecksGoRoundThreeStatesAndShowThem) {
+    CCheckListBox list;
+    ASSERT_TRUE(list.Create(shown | LBS_NOTIFY, CRect(0, 0, 90, 60), &parent, 1));
+    list.SetCheckStyle(BS_AUTO3STATE);
+    list.AddString("one");
+    list.AddString("two");
+    list.SetCurSel(0);
+    CRect row;
+    list.GetItemRect(0, row);
+    std::vector<std::vector<COLORREF>> looks;
+    for (const int state : {0, 1, 2, 0}) {
+        EXPECT_EQ(list.GetCheck(0), state);
+        list.UpdateWindow();
+        CClientDC dc(&list);
+        std::vector<COLORREF> look;
+        for (int x = 0; x < row.Height(); ++x)
+            for (int y = row.top; y < row.bottom; ++y)
+                look.push_back(dc.GetPixel(x, y));
+        looks.push_back(look);
+        list.SendMessage(WM_KEYDOWN, VK_SPACE);
+    }
+    EXPECT_TRUE(looks[0] != looks[1] && looks[1] != looks[2] && looks[0] == looks[3]);
+    list.SetCheckStyle(BS_AUTOCHECKBOX);
+    list.SetCheck(1, 2);
+    EXPECT_EQ(list.GetCheck(1), 0) << "there is no third state";
+    list.SetCheckStyle(BS_CHECKBOX);
+    list.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(3, row.CenterPoint().y));
+    EXPECT_EQ(list.GetCheck(0), 1) << "the program changes it, not the user";
+    EXPECT_TRUE(list.GetCheck(7) == 0 && list.IsEnabled(7) && list.SetItemData(7, 1) == LB_ERR);
 }
 
 // -- Items that are dragged -------------------------------------------------------------------------------------------
