@@ -48,6 +48,7 @@ bool load(Drawing& drawing, std::string bytes) {
 TEST(SketchFile, IsReadBackAsItWasWritten) {
     Drawing drawing = with_one_of_each(), loaded;
     drawing.SetSheet(CSize(1000, 5000));
+    drawing.Add(std::make_shared<CTextFigure>(CPoint(9000, 19990), 1000, CString('W', 200), red)); // past the bounds
     const std::string bytes = stored(drawing);
     ASSERT_TRUE(load(loaded, bytes));
     EXPECT_EQ(stored(loaded), bytes);

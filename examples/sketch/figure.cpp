@@ -157,7 +157,9 @@ std::vector<CPoint> CEllipseFigure::Outline() const {
 CTextFigure::CTextFigure(CPoint at, int height, const CString& text, const FigureStyle& style)
     : text_(text), height_(height) {
     const CSize size = thousand_high(text);
-    Set({at, at + CPoint(::MulDiv(size.cx, height, 1000), ::MulDiv(size.cy, height, 1000))}, style);
+    const LONG right = at.x + ::MulDiv(size.cx, height, 1000), top = at.y + ::MulDiv(size.cy, height, 1000);
+    // What is written beyond the bounds is not hit there, but the figure stays one that can be read back.
+    Set({at, CPoint(std::min<LONG>(right, farthest), std::min<LONG>(top, farthest))}, style);
 }
 
 void CTextFigure::Draw(Canvas& canvas) const {

@@ -98,7 +98,6 @@ public:
 
     const CString& GetText() const { return text_; }
     int Height() const { return height_; }
-    CPoint Place() const { return points_.front(); }
 
     void Draw(Canvas& canvas) const override;
     bool IsHit(CPoint point, int reach) const override;

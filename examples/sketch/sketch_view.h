@@ -67,7 +67,7 @@ private:
     FigurePtr Dragged() const;
     void Paint(CDC& memory, const CRect& part) const;
     void InvalidateDragged(const FigurePtr& before);
-    void AskForText(CPoint at, const CTextFigure* present);
+    void AskForText(CPoint at, const FigurePtr& present);
 
     UINT tool_ = ID_TOOL_LINE;
     FigureStyle style_;

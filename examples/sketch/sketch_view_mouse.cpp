@@ -103,25 +103,26 @@ void CSketchView::OnCancel() {
 
 void CSketchView::OnLButtonDblClk(UINT flags, CPoint point) {
     const FigurePtr figure = tool_ == ID_TOOL_SELECT ? Doc().Contents().At(ToSheet(point), Reach()) : nullptr;
-    if (const auto* text = dynamic_cast<const CTextFigure*>(figure.get()))
-        AskForText(text->Place(), text);
+    if (dynamic_cast<const CTextFigure*>(figure.get()))
+        AskForText(figure->Bounds().TopLeft(), figure);
     else
         OnLButtonDown(flags, point);
 }
 
 // For a new text, or for one that is there.
-void CSketchView::AskForText(CPoint at, const CTextFigure* present) {
-    CTextDialog dialog(present ? present->GetText() : CString(), present ? present->Height() : text_height_);
+void CSketchView::AskForText(CPoint at, const FigurePtr& present) {
+    const auto* before = static_cast<const CTextFigure*>(present.get());
+    CTextDialog dialog(before ? before->GetText() : CString(), before ? before->Height() : text_height_);
     if (dialog.DoModal() != IDOK || dialog.GetText().IsEmpty())
         return;
     text_height_ = dialog.Height();
-    auto text = std::make_shared<CTextFigure>(at, text_height_, dialog.GetText(), CurrentStyle());
-    if (!present) {
+    auto text = std::make_shared<CTextFigure>(at, text_height_, dialog.GetText(), before ? before->Style() : style_);
+    if (before) {
+        selected_ = text;
+        Doc().Replace(present, text);
+    } else {
         Doc().Add(text);
-        return;
     }
-    const FigurePtr before = std::exchange(selected_, text);
-    Doc().Replace(before, text);
 }
 
 BOOL CSketchView::OnMouseWheel(UINT flags, short delta, CPoint point) {
