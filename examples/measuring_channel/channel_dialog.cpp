@@ -39,7 +39,8 @@ void CCommandButton::OnLButtonUp(UINT flags, CPoint point) {
         GetParent()->SendMessage(WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(), BN_CLICKED), reinterpret_cast<LPARAM>(m_hWnd));
 }
 
-CChannelDialog::CChannelDialog(const ChannelSettings& settings) : CDialog(IDD_CHANNEL), settings_(settings) {}
+CChannelDialog::CChannelDialog(const ChannelSettings& settings)
+    : CDialog(IDD_CHANNEL), settings_(settings), entered_(settings) {}
 
 // The base class joins controls and objects and shows the settings; ranges and lists that they need come after that,
 // and then the settings once more.
@@ -197,7 +198,7 @@ void CChannelDialog::JoinControls(CDataExchange* exchange) {
 }
 
 void CChannelDialog::ExchangeChannel(CDataExchange* exchange) {
-    ChannelSettings& s = settings_;
+    ChannelSettings& s = entered_;
     DDX_Text(exchange, IDC_NAME, s.name);
     DDV_MaxChars(exchange, s.name, ChannelSettings::most_characters);
     DDX_CBString(exchange, IDC_UNIT, s.unit);
@@ -223,7 +224,7 @@ void CChannelDialog::ExchangeChannel(CDataExchange* exchange) {
 }
 
 void CChannelDialog::ExchangeLimits(CDataExchange* exchange) {
-    ChannelSettings& s = settings_;
+    ChannelSettings& s = entered_;
     DDX_Text(exchange, IDC_LOW_LIMIT, s.low_limit);
     DDV_MinMaxInt(exchange, s.low_limit, s.lower, s.upper);
     DDX_Text(exchange, IDC_HIGH_LIMIT, s.high_limit);
@@ -236,7 +237,7 @@ void CChannelDialog::ExchangeLimits(CDataExchange* exchange) {
 }
 
 void CChannelDialog::ExchangeDates(CDataExchange* exchange) {
-    ChannelSettings& s = settings_;
+    ChannelSettings& s = entered_;
     const CTime first = ChannelSettings::FirstDate(), final = ChannelSettings::LastDate();
     DDX_DateTimeCtrl(exchange, IDC_LAST, s.last_calibration);
     DDV_MinMaxDateTime(exchange, s.last_calibration, &first, &final);

@@ -25,6 +25,7 @@ public:
 
 protected:
     BOOL OnInitDialog() override;
+    void OnOK() override;
     void DoDataExchange(CDataExchange* exchange) override;
     afx_msg void OnApply();
     afx_msg void OnRun();
@@ -53,7 +54,10 @@ private:
     void Log(int value);
     CString ZoneOf(int value) const;
 
-    ChannelSettings settings_;
+    bool TakeOver();
+
+    ChannelSettings settings_; // what is measured
+    ChannelSettings entered_;  // what the controls show; some of it may be refused yet
     SimulatedChannel channel_;
     bool running_ = false;
     int readings_ = 0;

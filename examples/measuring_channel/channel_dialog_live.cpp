@@ -21,15 +21,24 @@ void load(CWntButton& button, std::initializer_list<const char*> lines) {
 
 } // namespace
 
-// Only what the user has confirmed is shown and measured.
+// Measuring goes on meanwhile, with what was confirmed before.
+bool CChannelDialog::TakeOver() {
+    if (!UpdateData())
+        return false;
+    settings_ = entered_;
+    return true;
+}
+
 void CChannelDialog::OnApply() {
-    ChannelSettings before = settings_;
-    if (!UpdateData()) {
-        settings_ = before; // half of what was entered is taken over by now
+    if (!TakeOver())
         return;
-    }
     ShowSettings();
     Run(running_);
+}
+
+void CChannelDialog::OnOK() {
+    if (TakeOver())
+        EndDialog(IDOK);
 }
 
 // -- The gauges -------------------------------------------------------------------------------------------------------
