@@ -23,6 +23,7 @@ class form : public CFormView {
 public:
     form() : CFormView(static_cast<UINT>(IDD_FORM)) {}
     int exchanged = 0;
+    using CFormView::PreTranslateMessage;
     void DoDataExchange(CDataExchange* exchange) override { exchanged += exchange->m_bSaveAndValidate ? 100 : 1; }
 };
 IMPLEMENT_DYNCREATE(form, CFormView)
@@ -126,6 +127,84 @@ TEST(AfxFormView, ExchangesDataAndScrollsItsTemplate) {
     EXPECT_TRUE(vertical);
     view.SendMessage(WM_IDLEUPDATECMDUI, TRUE);
     EXPECT_TRUE(view.GetDlgItem(IDC_FORM_BUTTON)->IsWindowEnabled()) << "a form's buttons are not commands of a menu";
+}
+
+TEST(AfxFormView, KeepsItsFocusAndLeavesKeysToTheFrameFirst) {
+    view_frame frame;
+    ASSERT_TRUE(frame.open([](view_frame& at, CCreateContext& context) {
+        context.m_pNewViewClass = RUNTIME_CLASS(form);
+        return plain_view(at, context) && at.LoadAccelTable(MAKEINTRESOURCE(IDR_FRAME));
+    }));
+    auto& view = *static_cast<form*>(frame.GetDescendantWindow(AFX_IDW_PANE_FIRST));
+    frame.InitialUpdateFrame(nullptr, FALSE);
+    CWnd *name = view.GetDlgItem(IDC_FORM_NAME), *button = view.GetDlgItem(IDC_FORM_BUTTON);
+    view.SetFocus();
+    EXPECT_EQ(::GetFocus(), name->m_hWnd) << "its first control";
+    MSG key{name->m_hWnd, WM_KEYDOWN, VK_TAB, 0, 0, {}};
+    EXPECT_TRUE(view.PreTranslateMessage(&key));
+    EXPECT_EQ(::GetFocus(), button->m_hWnd);
+    frame.SendMessage(WM_ACTIVATE, WA_INACTIVE);
+    ::SetFocus(frame);
+    view.SetFocus();
+    EXPECT_EQ(::GetFocus(), button->m_hWnd) << "the one that had it";
+    BYTE held[256] = {}, before[256];
+    ::GetKeyboardState(before);
+    held[VK_CONTROL] = 0x80;
+    ::SetKeyboardState(held);
+    MSG command{name->m_hWnd, WM_KEYDOWN, 'T', 0, 0, {}}; // a key of the frame's
+    EXPECT_TRUE(view.PreTranslateMessage(&command));
+    ::SetKeyboardState(before);
+}
+
+// A bar whose controls are updated like items of a menu.
+class choice_frame : public view_frame {
+public:
+    int chosen = ID_TEST_ON;
+    afx_msg void OnChoose(UINT id) { chosen = static_cast<int>(id); }
+    afx_msg void OnUpdateChoice(CCmdUI* ui) {
+        ui->SetRadio(static_cast<int>(ui->m_nID) == chosen);
+        ui->SetText(static_cast<int>(ui->m_nID) == chosen ? "chosen" : "other");
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(choice_frame, CFrameWnd)
+ON_COMMAND_RANGE(ID_TEST_ON, ID_TEST_OFF, &choice_frame::OnChoose)
+ON_UPDATE_COMMAND_UI_RANGE(ID_TEST_ON, ID_TEST_OFF, &choice_frame::OnUpdateChoice)
+END_MESSAGE_MAP()
+
+TEST(AfxCmdUI, ChecksRadiosInMenusAndAmongControls) {
+    choice_frame frame;
+    ASSERT_TRUE(frame.open(plain_view));
+    CButton buttons[2];
+    for (const int i : {0, 1})
+        ASSERT_TRUE(buttons[i].Create("?", WS_CHILD | WS_VISIBLE | BS_RADIOBUTTON, CRect(0, 0, 9, 9), &frame,
+                                      static_cast<UINT>(ID_TEST_ON + i)));
+    CMenu menu;
+    ASSERT_TRUE(menu.LoadMenu(IDR_FRAME));
+    const auto texts = [&] {
+        frame.UpdateDialogControls(&frame, FALSE);
+        frame.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu.GetSubMenu(1)->m_hMenu), 1);
+        std::string all;
+        for (CButton& button : buttons) {
+            CString text;
+            button.GetWindowText(text);
+            all += std::string(text) + (button.GetCheck() == BST_CHECKED ? "* " : " ");
+        }
+        for (const UINT item : {0u, 1u}) {
+            const UINT state = menu.GetSubMenu(1)->GetMenuState(item, MF_BYPOSITION);
+            CString text;
+            menu.GetSubMenu(1)->GetMenuString(item, text, MF_BYPOSITION);
+            all += std::string(text) + ((state & MF_CHECKED) != 0 ? "* " : " ");
+        }
+        return all;
+    };
+    EXPECT_EQ(texts(), "chosen* other chosen* other ");
+    frame.SendMessage(WM_COMMAND, ID_TEST_OFF);
+    EXPECT_EQ(texts(), "other chosen* other chosen* ");
+    MENUITEMINFO info{};
+    info.fMask = MIIM_FTYPE;
+    EXPECT_TRUE(menu.GetSubMenu(1)->GetMenuItemInfo(1, &info, TRUE) && (info.fType & MFT_RADIOCHECK) != 0);
 }
 
 TEST(AfxEditView, EditsFindsAndMarksItsDocument) {
