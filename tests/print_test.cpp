@@ -143,23 +143,6 @@ TEST_F(PrintTest, ViewsPrintPageAfterPageInTheirUnits) {
     frame->DestroyWindow();
 }
 
-// The dialog of this thread that is shown; null while there is none.
-HWND shown_dialog() {
-    HWND found = nullptr;
-    ::EnumThreadWindows(
-        ::GetCurrentThreadId(),
-        [](HWND window, LPARAM to) -> BOOL {
-            char name[32] = "";
-            ::GetClassName(window, name, sizeof name);
-            if (lstrcmp(name, "#32770") != 0 || !::IsWindowVisible(window))
-                return TRUE;
-            *reinterpret_cast<HWND*>(to) = window;
-            return FALSE;
-        },
-        reinterpret_cast<LPARAM>(&found));
-    return found;
-}
-
 TEST_F(PrintTest, TheUserChoosesPagesOrThinksBetterOfIt) {
     constexpr int pages = 0x0422, from = 0x0480, to = 0x0481; // the dialog's own controls
     auto* frame = new CFrameWnd;
