@@ -198,4 +198,77 @@ TEST(AfxArchive, SharesItsFileAfterFlush) {
     EXPECT_EQ(number, 2);
 }
 
+// What a file with everything in it holds, as bytes.
+std::string everything() {
+    graph_node a, b;
+    a.name = "first";
+    a.next = &b;
+    b.next = b.other = &a;
+    CMapStringToString texts;
+    texts["key"] = "value";
+    CObList list;
+    strict_node strict;
+    list.AddTail(&strict);
+    list.AddTail(&a);
+    CByteArray numbers;
+    numbers.Add(5);
+    CStringArray names;
+    names.Add("one");
+    CMemFile file;
+    store(file, [&](CArchive& ar) {
+        ar << &a << &texts << CString("between");
+        list.Serialize(ar);
+        numbers.Serialize(ar);
+        names.Serialize(ar);
+    });
+    std::string bytes(static_cast<std::size_t>(file.GetLength()), '\0');
+    file.Read(bytes.data(), static_cast<UINT>(bytes.size()));
+    return bytes;
+}
+
+// False where the framework's exceptions refuse it. Objects of a file that is refused are lost, as is documented.
+bool reads(std::string bytes) {
+    CMemFile file(reinterpret_cast<BYTE*>(bytes.data()), static_cast<UINT>(bytes.size()));
+    CObject *first = nullptr, *second = nullptr;
+    CString text;
+    CObList list;
+    CByteArray numbers;
+    CStringArray names;
+    try {
+        CArchive ar(&file, CArchive::load | CArchive::bNoFlushOnDelete, 128);
+        ar >> first >> second >> text;
+        list.Serialize(ar);
+        numbers.Serialize(ar);
+        names.Serialize(ar);
+        return true;
+    } catch (CArchiveException* exception) {
+        exception->Delete();
+    } catch (CMemoryException* exception) {
+        exception->Delete();
+    } catch (CNotSupportedException* exception) {
+        exception->Delete();
+    }
+    return false;
+}
+
+TEST(AfxDamagedArchive, CutOffAnywhereIsRefused) {
+    const std::string whole = everything();
+    EXPECT_TRUE(reads(whole));
+    for (std::size_t length = 0; length < whole.size(); ++length)
+        EXPECT_FALSE(reads(whole.substr(0, length))) << length;
+}
+
+TEST(AfxDamagedArchive, WithChangedBytesDoesNoHarm) {
+    const std::string whole = everything();
+    std::size_t refused = 0;
+    for (std::size_t at = 0; at < whole.size(); ++at) {
+        for (int value = 0; value < 256; value += value < 8 || value > 246 ? 1 : 37) {
+            std::string damaged = whole;
+            damaged[at] = static_cast<char>(value);
+            refused += !reads(damaged);
+        }
+    }
+    EXPECT_GT(refused, whole.size()) << "most bytes matter";
+}
+
 } // namespace

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 namespace {
 
 // A memory bitmap of 32 bits a pixel.
@@ -99,6 +101,148 @@ TEST_F(AfxDeviceContext, MeasuresWhatItWrites) {
     CString face;
     EXPECT_GT(dc.GetTextFace(face), 0);
     EXPECT_FALSE(face.IsEmpty());
+}
+
+TEST_F(AfxDeviceContext, MapsUnitsOfLength) {
+    const int inch = dc.GetDeviceCaps(LOGPIXELSX);
+    const struct {
+        int mode, inch, up; // units in an inch; y grows upwards
+    } modes[] = {{MM_LOENGLISH, 100, -1}, {MM_HIENGLISH, 1000, -1}, {MM_TWIPS, 1440, -1}};
+    for (const auto& one : modes) {
+        ASSERT_NE(dc.SetMapMode(one.mode), 0);
+        CPoint point(one.inch, one.up * one.inch);
+        dc.LPtoDP(&point);
+        EXPECT_NEAR(point.x, inch, 1) << one.mode;
+        EXPECT_NEAR(point.y, inch, 1) << one.mode;
+        CSize size(one.inch, one.inch); // always positive
+        dc.LPtoDP(&size);
+        EXPECT_TRUE(std::abs(size.cx - inch) <= 1 && std::abs(size.cy - inch) <= 1) << one.mode;
+    }
+    dc.SetMapMode(MM_TEXT);
+    CSize size(2540, 2540);
+    dc.HIMETRICtoLP(&size);
+    EXPECT_EQ(size, CSize(inch, dc.GetDeviceCaps(LOGPIXELSY)));
+    dc.LPtoHIMETRIC(&size);
+    EXPECT_EQ(size, CSize(2540, 2540));
+    dc.SetMapMode(MM_ISOTROPIC);
+    dc.SetWindowExt(10, 10);
+    dc.SetViewportExt(50, 100);
+    EXPECT_EQ(dc.GetViewportExt(), CSize(50, 50)) << "the same in both directions";
+    EXPECT_EQ(dc.ScaleWindowExt(2, 1, 2, 1), CSize(10, 10));
+    EXPECT_EQ(dc.GetWindowExt(), CSize(20, 20));
+    EXPECT_EQ(dc.OffsetViewportOrg(3, 4), CPoint(0, 0));
+    EXPECT_EQ(dc.GetViewportOrg(), CPoint(3, 4));
+}
+
+TEST_F(AfxDeviceContext, DrawsAndClipsByPaths) {
+    const auto triangle = [&] {
+        dc.BeginPath();
+        dc.MoveTo(10, 90);
+        dc.LineTo(90, 90);
+        dc.LineTo(10, 10);
+        dc.CloseFigure();
+        return dc.EndPath();
+    };
+    CBrush brush(RGB(0, 0, 200));
+    CBrush* old_brush = dc.SelectObject(&brush);
+    ASSERT_TRUE(triangle());
+    EXPECT_EQ(dc.GetPath(nullptr, nullptr, 0), 3);
+    EXPECT_TRUE(dc.FillPath());
+    EXPECT_EQ(dc.GetPixel(20, 80), RGB(0, 0, 200));
+    EXPECT_EQ(dc.GetPixel(80, 20), RGB(255, 255, 255));
+    EXPECT_FALSE(dc.StrokePath()) << "a path is used up";
+    ASSERT_TRUE(triangle());
+    CRgn region;
+    ASSERT_TRUE(region.CreateFromPath(&dc));
+    EXPECT_TRUE(region.PtInRegion(20, 80) && !region.PtInRegion(80, 20));
+    ASSERT_TRUE(triangle() && dc.SelectClipPath(RGN_COPY));
+    dc.FillSolidRect(0, 0, 100, 100, RGB(200, 0, 0));
+    EXPECT_EQ(dc.GetPixel(20, 80), RGB(200, 0, 0));
+    EXPECT_EQ(dc.GetPixel(80, 20), RGB(255, 255, 255));
+    EXPECT_EQ(dc.ExcludeClipRect(CRect(10, 70, 40, 90)), COMPLEXREGION);
+    EXPECT_FALSE(dc.PtVisible(20, 80));
+    dc.SelectClipRgn(nullptr);
+    dc.SelectObject(old_brush);
+    EXPECT_FALSE(dc.EndPath()) << "none was begun";
+}
+
+TEST_F(AfxDeviceContext, RegionsDescribeThemselvesAndAreMadeAgain) {
+    CRgn round, box, both;
+    ASSERT_TRUE(round.CreateEllipticRgn(0, 0, 40, 40) && box.CreateRectRgn(30, 0, 60, 40));
+    ASSERT_TRUE(both.CreateRectRgn(0, 0, 0, 0));
+    EXPECT_EQ(both.CombineRgn(&round, &box, RGN_OR), COMPLEXREGION);
+    CRect bounds;
+    EXPECT_EQ(both.GetRgnBox(bounds), COMPLEXREGION);
+    EXPECT_EQ(bounds, CRect(0, 0, 60, 40));
+    const int size = both.GetRegionData(nullptr, 0);
+    std::vector<BYTE> data(static_cast<std::size_t>(size));
+    auto* described = reinterpret_cast<RGNDATA*>(data.data());
+    ASSERT_EQ(both.GetRegionData(described, size), size);
+    CRgn again;
+    ASSERT_TRUE(again.CreateFromData(nullptr, size, described));
+    EXPECT_TRUE(again.EqualRgn(&both));
+    again.OffsetRgn(5, 0);
+    EXPECT_FALSE(again.EqualRgn(&both));
+    EXPECT_EQ(again.CombineRgn(&round, &round, RGN_DIFF), NULLREGION);
+}
+
+TEST_F(AfxDeviceContext, SplitsOutputFromAttributes) {
+    CDC other;
+    ASSERT_TRUE(other.CreateCompatibleDC(&dc));
+    CDC split; // draws on one, measures on the other
+    split.SetOutputDC(dc);
+    split.SetAttribDC(other);
+    CFont small, large;
+    small.CreatePointFont(80, "Arial");
+    large.CreatePointFont(240, "Arial");
+    split.SelectObject(&large); // into both
+    EXPECT_EQ(split.GetTextExtent("x"), split.GetOutputTextExtent("x"));
+    CFont* before = other.SelectObject(&small);
+    EXPECT_LT(split.GetTextExtent("x").cy, split.GetOutputTextExtent("x").cy);
+    split.MoveTo(5, 5);
+    split.LineTo(7, 9);
+    EXPECT_EQ(split.GetCurrentPosition(), CPoint(7, 9));
+    EXPECT_EQ(other.GetCurrentPosition(), CPoint(7, 9));
+    EXPECT_NE(split.SetTextColor(RGB(1, 2, 3)), RGB(1, 2, 3));
+    EXPECT_EQ(dc.GetTextColor(), RGB(1, 2, 3));
+    split.SaveDC();
+    split.SetBkMode(TRANSPARENT);
+    EXPECT_TRUE(split.RestoreDC(-1));
+    EXPECT_EQ(dc.GetBkMode(), OPAQUE);
+    EXPECT_EQ(other.GetBkMode(), OPAQUE);
+    other.SelectObject(before);
+    dc.SelectStockObject(SYSTEM_FONT);
+    split.ReleaseOutputDC();
+    split.ReleaseAttribDC();
+}
+
+TEST_F(AfxDeviceContext, BrushesAndEdgesDrawWhatTheySay) {
+    CBitmap pattern;
+    const WORD rows[8] = {0xF0F0, 0xF0F0, 0xF0F0, 0xF0F0, 0xF0F0, 0xF0F0, 0xF0F0, 0xF0F0};
+    ASSERT_TRUE(pattern.CreateBitmap(8, 8, 1, 1, rows));
+    CBrush striped(&pattern);
+    dc.SetTextColor(RGB(255, 0, 0));
+    dc.SetBkColor(RGB(0, 255, 0));
+    dc.FillRect(CRect(0, 0, 40, 40), &striped);
+    std::set<COLORREF> seen;
+    for (int x = 0; x < 8; ++x)
+        seen.insert(dc.GetPixel(x, 3));
+    EXPECT_EQ(seen, (std::set<COLORREF>{RGB(255, 0, 0), RGB(0, 255, 0)}));
+    dc.Draw3dRect(CRect(50, 50, 60, 60), RGB(1, 1, 1), RGB(2, 2, 2));
+    EXPECT_TRUE(dc.GetPixel(50, 50) == RGB(1, 1, 1) && dc.GetPixel(59, 59) == RGB(2, 2, 2));
+    EXPECT_EQ(dc.GetPixel(55, 55), RGB(255, 255, 255)) << "the inside stays";
+    dc.SetPixel(80, 80, RGB(9, 9, 9));
+    dc.FillSolidRect(70, 70, 5, 5, RGB(9, 9, 9));
+    CDC copy;
+    CBitmap bits;
+    copy.CreateCompatibleDC(&dc);
+    bits.CreateCompatibleBitmap(&dc, 10, 10);
+    CBitmap* before_bits = copy.SelectObject(&bits);
+    copy.StretchBlt(0, 0, 10, 10, &dc, 70, 70, 5, 5, SRCCOPY);
+    EXPECT_EQ(copy.GetPixel(9, 9), RGB(9, 9, 9));
+    dc.TransparentBlt(0, 60, 10, 10, &copy, 0, 0, 10, 10, RGB(9, 9, 9));
+    EXPECT_EQ(dc.GetPixel(5, 65), RGB(255, 255, 255)) << "all of it is seen through";
+    copy.SelectObject(before_bits);
 }
 
 } // namespace

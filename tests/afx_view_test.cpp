@@ -23,6 +23,7 @@ class form : public CFormView {
 public:
     form() : CFormView(static_cast<UINT>(IDD_FORM)) {}
     int exchanged = 0;
+    using CFormView::PreTranslateMessage;
     void DoDataExchange(CDataExchange* exchange) override { exchanged += exchange->m_bSaveAndValidate ? 100 : 1; }
 };
 IMPLEMENT_DYNCREATE(form, CFormView)
@@ -45,6 +46,17 @@ public:
     }
     void PostNcDestroy() override {}
 };
+
+class printed_edit : public CEditView {
+    DECLARE_DYNCREATE(printed_edit)
+
+public:
+    using CEditView::OnBeginPrinting;
+    using CEditView::OnEndPrinting;
+    using CEditView::OnPrepareDC;
+    using CEditView::OnPrint;
+};
+IMPLEMENT_DYNCREATE(printed_edit, CEditView)
 
 BOOL plain_view(view_frame& frame, CCreateContext& context) {
     return frame.CreateView(&context) != nullptr;
@@ -117,6 +129,84 @@ TEST(AfxFormView, ExchangesDataAndScrollsItsTemplate) {
     EXPECT_TRUE(view.GetDlgItem(IDC_FORM_BUTTON)->IsWindowEnabled()) << "a form's buttons are not commands of a menu";
 }
 
+TEST(AfxFormView, KeepsItsFocusAndLeavesKeysToTheFrameFirst) {
+    view_frame frame;
+    ASSERT_TRUE(frame.open([](view_frame& at, CCreateContext& context) {
+        context.m_pNewViewClass = RUNTIME_CLASS(form);
+        return plain_view(at, context) && at.LoadAccelTable(MAKEINTRESOURCE(IDR_FRAME));
+    }));
+    auto& view = *static_cast<form*>(frame.GetDescendantWindow(AFX_IDW_PANE_FIRST));
+    frame.InitialUpdateFrame(nullptr, FALSE);
+    CWnd *name = view.GetDlgItem(IDC_FORM_NAME), *button = view.GetDlgItem(IDC_FORM_BUTTON);
+    view.SetFocus();
+    EXPECT_EQ(::GetFocus(), name->m_hWnd) << "its first control";
+    MSG key{name->m_hWnd, WM_KEYDOWN, VK_TAB, 0, 0, {}};
+    EXPECT_TRUE(view.PreTranslateMessage(&key));
+    EXPECT_EQ(::GetFocus(), button->m_hWnd);
+    frame.SendMessage(WM_ACTIVATE, WA_INACTIVE);
+    ::SetFocus(frame);
+    view.SetFocus();
+    EXPECT_EQ(::GetFocus(), button->m_hWnd) << "the one that had it";
+    BYTE held[256] = {}, before[256];
+    ::GetKeyboardState(before);
+    held[VK_CONTROL] = 0x80;
+    ::SetKeyboardState(held);
+    MSG command{name->m_hWnd, WM_KEYDOWN, 'T', 0, 0, {}}; // a key of the frame's
+    EXPECT_TRUE(view.PreTranslateMessage(&command));
+    ::SetKeyboardState(before);
+}
+
+// A bar whose controls are updated like items of a menu.
+class choice_frame : public view_frame {
+public:
+    int chosen = ID_TEST_ON;
+    afx_msg void OnChoose(UINT id) { chosen = static_cast<int>(id); }
+    afx_msg void OnUpdateChoice(CCmdUI* ui) {
+        ui->SetRadio(static_cast<int>(ui->m_nID) == chosen);
+        ui->SetText(static_cast<int>(ui->m_nID) == chosen ? "chosen" : "other");
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(choice_frame, CFrameWnd)
+ON_COMMAND_RANGE(ID_TEST_ON, ID_TEST_OFF, &choice_frame::OnChoose)
+ON_UPDATE_COMMAND_UI_RANGE(ID_TEST_ON, ID_TEST_OFF, &choice_frame::OnUpdateChoice)
+END_MESSAGE_MAP()
+
+TEST(AfxCmdUI, ChecksRadiosInMenusAndAmongControls) {
+    choice_frame frame;
+    ASSERT_TRUE(frame.open(plain_view));
+    CButton buttons[2];
+    for (const int i : {0, 1})
+        ASSERT_TRUE(buttons[i].Create("?", WS_CHILD | WS_VISIBLE | BS_RADIOBUTTON, CRect(0, 0, 9, 9), &frame,
+                                      static_cast<UINT>(ID_TEST_ON + i)));
+    CMenu menu;
+    ASSERT_TRUE(menu.LoadMenu(IDR_FRAME));
+    const auto texts = [&] {
+        frame.UpdateDialogControls(&frame, FALSE);
+        frame.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu.GetSubMenu(1)->m_hMenu), 1);
+        std::string all;
+        for (CButton& button : buttons) {
+            CString text;
+            button.GetWindowText(text);
+            all += std::string(text) + (button.GetCheck() == BST_CHECKED ? "* " : " ");
+        }
+        for (const UINT item : {0u, 1u}) {
+            const UINT state = menu.GetSubMenu(1)->GetMenuState(item, MF_BYPOSITION);
+            CString text;
+            menu.GetSubMenu(1)->GetMenuString(item, text, MF_BYPOSITION);
+            all += std::string(text) + ((state & MF_CHECKED) != 0 ? "* " : " ");
+        }
+        return all;
+    };
+    EXPECT_EQ(texts(), "chosen* other chosen* other ");
+    frame.SendMessage(WM_COMMAND, ID_TEST_OFF);
+    EXPECT_EQ(texts(), "other chosen* other chosen* ");
+    MENUITEMINFO info{};
+    info.fMask = MIIM_FTYPE;
+    EXPECT_TRUE(menu.GetSubMenu(1)->GetMenuItemInfo(1, &info, TRUE) && (info.fType & MFT_RADIOCHECK) != 0);
+}
+
 TEST(AfxEditView, EditsFindsAndMarksItsDocument) {
     view_frame frame;
     ASSERT_TRUE(frame.open([](view_frame& at, CCreateContext& context) {
@@ -140,6 +230,84 @@ TEST(AfxEditView, EditsFindsAndMarksItsDocument) {
     frame.SendMessage(WM_COMMAND, ID_EDIT_CLEAR);
     EXPECT_EQ(std::string(view.LockBuffer()), " two One");
     view.UnlockBuffer();
+}
+
+TEST(AfxEditView, PrintsAnyOfItsPagesByItself) {
+    view_frame frame;
+    ASSERT_TRUE(frame.open([](view_frame& at, CCreateContext& context) {
+        context.m_pNewViewClass = RUNTIME_CLASS(printed_edit);
+        return plain_view(at, context);
+    }));
+    auto& view = *static_cast<printed_edit*>(frame.GetDescendantWindow(AFX_IDW_PANE_FIRST));
+    CDC paper;
+    CBitmap strip; // of the upper edge
+    CClientDC screen(&view);
+    ASSERT_TRUE(paper.CreateCompatibleDC(&screen) && strip.CreateCompatibleBitmap(&screen, 40, 40));
+    CBitmap* before = paper.SelectObject(&strip);
+    const int lines = paper.GetDeviceCaps(VERTRES) / 8; // of text at ten points: more than one page, fewer than four
+    CString text;
+    for (int i = 0; i < lines; ++i)
+        text += "X\r\n";
+    view.SetWindowText(text);
+    const auto prints = [&](UINT page) {
+        CPrintInfo info;
+        info.m_nCurPage = page;
+        paper.PatBlt(0, 0, 40, 40, WHITENESS);
+        const int state = paper.SaveDC();
+        view.OnBeginPrinting(&paper, &info);
+        view.OnPrepareDC(&paper, &info);
+        if (info.m_bContinuePrinting) {
+            info.m_rectDraw = CRect(0, 0, paper.GetDeviceCaps(HORZRES), paper.GetDeviceCaps(VERTRES));
+            view.OnPrint(&paper, &info);
+        }
+        view.OnEndPrinting(&paper, &info);
+        paper.RestoreDC(state);
+        int ink = 0;
+        for (int i = 0; i < 40 * 40; ++i)
+            ink += paper.GetPixel(i % 40, i / 40) != RGB(255, 255, 255);
+        EXPECT_EQ(ink > 0, info.m_bContinuePrinting != FALSE) << page;
+        return info.m_bContinuePrinting != FALSE;
+    };
+    EXPECT_TRUE(prints(1));
+    EXPECT_TRUE(prints(2)) << "though the first was not printed";
+    EXPECT_FALSE(prints(4));
+    view.SetWindowText("");
+    paper.SelectObject(before);
+}
+
+TEST(AfxSplitter, FollowsTheMouseToCrossingsAndBackAgain) {
+    view_frame frame;
+    ASSERT_TRUE(frame.open(dynamic_splitter));
+    CSplitterWnd& splitter = frame.splitter;
+    ASSERT_TRUE(splitter.SplitRow(80) && splitter.SplitColumn(120));
+    const auto sizes = [&] {
+        int height = 0, width = 0, least = 0;
+        splitter.GetRowInfo(0, height, least);
+        splitter.GetColumnInfo(0, width, least);
+        return CSize(width, height);
+    };
+    const auto send = [&](UINT message, CPoint at) {
+        splitter.SendMessage(message, MK_LBUTTON, MAKELPARAM(at.x, at.y));
+    };
+    const CSize first = sizes();
+    const CPoint crossing(first.cx + 3, first.cy + 3);
+    send(WM_LBUTTONDOWN, crossing);
+    send(WM_MOUSEMOVE, crossing + CSize(30, 40));
+    send(WM_LBUTTONUP, crossing + CSize(30, 40));
+    EXPECT_EQ(sizes(), first + CSize(30, 40)) << "both bars at once";
+    const CPoint moved = crossing + CSize(30, 40);
+    send(WM_LBUTTONDOWN, moved);
+    send(WM_MOUSEMOVE, moved - CSize(50, 50));
+    splitter.SendMessage(WM_KEYDOWN, VK_ESCAPE);
+    EXPECT_EQ(::GetCapture(), nullptr);
+    EXPECT_EQ(sizes(), first + CSize(30, 40)) << "the user thought better of it";
+    send(WM_LBUTTONDOWN, moved);
+    splitter.SendMessage(WM_CANCELMODE);
+    EXPECT_EQ(::GetCapture(), nullptr);
+    send(WM_LBUTTONDBLCLK, CPoint(moved.x, 10));
+    EXPECT_TRUE(splitter.GetColumnCount() == 1 && splitter.GetRowCount() == 2);
+    send(WM_LBUTTONDBLCLK, CPoint(10, moved.y));
+    EXPECT_EQ(splitter.GetRowCount(), 1);
 }
 
 TEST(AfxSplitter, SplitsWherePulledAndJoinsWhatBecomesTooSmall) {

@@ -23,3 +23,20 @@ private:
     static inline std::function<bool()> work_;
     UINT_PTR timer_;
 };
+
+/// The dialog of this thread that is shown; null while there is none.
+inline HWND shown_dialog() {
+    HWND found = nullptr;
+    ::EnumThreadWindows(
+        ::GetCurrentThreadId(),
+        [](HWND window, LPARAM to) -> BOOL {
+            char name[32] = "";
+            ::GetClassNameA(window, name, sizeof name);
+            if (lstrcmpA(name, "#32770") != 0 || !::IsWindowVisible(window))
+                return TRUE;
+            *reinterpret_cast<HWND*>(to) = window;
+            return FALSE;
+        },
+        reinterpret_cast<LPARAM>(&found));
+    return found;
+}

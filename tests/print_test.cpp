@@ -3,6 +3,8 @@
 #include "quiet_program.h"
 #include "pixels.h"
 
+#include <afxdlgs.h>
+
 #include <fstream>
 #include <memory>
 
@@ -120,6 +122,7 @@ public:
 IMPLEMENT_DYNCREATE(PagesView, CView)
 BEGIN_MESSAGE_MAP(PagesView, CView)
 ON_COMMAND(ID_FILE_PRINT_DIRECT, &PagesView::OnFilePrint)
+ON_COMMAND(ID_FILE_PRINT, &PagesView::OnFilePrint)
 END_MESSAGE_MAP()
 
 TEST_F(PrintTest, ViewsPrintPageAfterPageInTheirUnits) {
@@ -138,6 +141,54 @@ TEST_F(PrintTest, ViewsPrintPageAfterPageInTheirUnits) {
     EXPECT_NEAR(inked.right + 1 - inked.left, 72, 2);
     EXPECT_NEAR(inked.top + 1 - inked.bottom, 72, 2);
     frame->DestroyWindow();
+}
+
+TEST_F(PrintTest, TheUserChoosesPagesOrThinksBetterOfIt) {
+    constexpr int pages = 0x0422, from = 0x0480, to = 0x0481; // the dialog's own controls
+    auto* frame = new CFrameWnd;
+    ASSERT_TRUE(frame->Create(nullptr, "chosen pages"));
+    CCreateContext context;
+    context.m_pNewViewClass = RUNTIME_CLASS(PagesView);
+    auto* view = static_cast<PagesView*>(frame->CreateView(&context));
+    frame->SetActiveView(view);
+    program.m_pMainWnd = frame;
+    const auto answer = [&](int button) {
+        WhileModal modal([&] {
+            HWND dialog = shown_dialog();
+            if (!dialog || !::GetDlgItem(dialog, pages))
+                return false;
+            EXPECT_FALSE(frame->IsWindowEnabled());
+            ::CheckDlgButton(dialog, pages, BST_CHECKED);
+            ::SendMessage(dialog, WM_COMMAND, MAKEWPARAM(pages, BN_CLICKED), 0);
+            ::SetDlgItemText(dialog, from, "2");
+            ::SetDlgItemText(dialog, to, "3");
+            return ::PostMessage(dialog, WM_COMMAND, static_cast<WPARAM>(button), 0) != 0;
+        });
+        frame->SendMessage(WM_COMMAND, ID_FILE_PRINT);
+    };
+    answer(IDCANCEL);
+    EXPECT_EQ(view->log, "") << "nothing is begun";
+    answer(IDOK);
+    EXPECT_EQ(view->log, "begin 2 3 end");
+    EXPECT_TRUE(frame->IsWindowEnabled() && program.boxes.empty());
+    program.m_pMainWnd = nullptr;
+    frame->DestroyWindow();
+}
+
+TEST_F(PrintTest, TheDefaultPrinterIsKnownWithoutADialog) {
+    CPrintDialog dialog(FALSE);
+    ASSERT_TRUE(dialog.GetDefaults());
+    EXPECT_FALSE(dialog.GetDeviceName().IsEmpty() || dialog.GetDriverName().IsEmpty());
+    ASSERT_NE(dialog.GetDevMode(), nullptr);
+    EXPECT_EQ(dialog.GetCopies(), 1);
+    CDC printer;
+    ASSERT_TRUE(printer.Attach(dialog.CreatePrinterDC()));
+    EXPECT_GT(printer.GetDeviceCaps(HORZRES), 1000);
+    EXPECT_EQ(printer.GetDeviceCaps(TECHNOLOGY), DT_RASPRINTER);
+    CDC again;
+    EXPECT_TRUE(program.CreatePrinterDC(again)) << "the program knows it, too";
+    ::GlobalFree(dialog.m_pd.hDevMode);
+    ::GlobalFree(dialog.m_pd.hDevNames);
 }
 
 TEST_F(PrintTest, VersionSummaryStandsOnThePage) {

@@ -31,7 +31,8 @@ public:
     explicit CFontDialog(LPLOGFONT lplfInitial = nullptr, DWORD dwFlags = CF_EFFECTS | CF_SCREENFONTS,
                          CDC* pdcPrinter = nullptr, CWnd* pParentWnd = nullptr);
     INT_PTR DoModal() override;
-    void GetCurrentFont(LPLOGFONT lplf) { *lplf = m_lf; }
+    // What was chosen, or is being chosen while the dialog is shown.
+    void GetCurrentFont(LPLOGFONT lplf);
     CString GetFaceName() const { return m_lf.lfFaceName; }
     CString GetStyleName() const { return m_szStyleName; }
     int GetSize() const { return m_cf.iPointSize; } // tenths of a point

@@ -53,6 +53,8 @@ protected:
     afx_msg void OnUpdateEditUndo(CCmdUI* pCmdUI);
 
 private:
+    bool PaginateTo(CDC& dc, UINT page);
+
     int m_nTabStops = 32; // a quarter of a character's breadth
     HFONT m_hPrinterFont = nullptr;
     HFONT m_print_font = nullptr; // the screen's at the printer's size, where no other was set

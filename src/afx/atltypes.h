@@ -16,6 +16,9 @@ public:
     void SetSize(int CX, int CY) { cx = CX, cy = CY; }
     bool operator==(SIZE size) const { return cx == size.cx && cy == size.cy; }
     bool operator!=(SIZE size) const { return !(*this == size); }
+    // Of the same class: otherwise the conversion of one side or of the other would do equally well.
+    bool operator==(const CSize& size) const { return cx == size.cx && cy == size.cy; }
+    bool operator!=(const CSize& size) const { return !(*this == size); }
     void operator+=(SIZE size) { cx += size.cx, cy += size.cy; }
     void operator-=(SIZE size) { cx -= size.cx, cy -= size.cy; }
     CSize operator+(SIZE size) const { return CSize(cx + size.cx, cy + size.cy); }
@@ -42,6 +45,8 @@ public:
     void Offset(SIZE size) { Offset(size.cx, size.cy); }
     bool operator==(POINT point) const { return x == point.x && y == point.y; }
     bool operator!=(POINT point) const { return !(*this == point); }
+    bool operator==(const CPoint& point) const { return x == point.x && y == point.y; }
+    bool operator!=(const CPoint& point) const { return !(*this == point); }
     void operator+=(SIZE size) { Offset(size); }
     void operator-=(SIZE size) { Offset(-size.cx, -size.cy); }
     void operator+=(POINT point) { Offset(point); }
@@ -121,6 +126,8 @@ public:
     void operator=(const RECT& rect) { SetRect(rect.left, rect.top, rect.right, rect.bottom); }
     bool operator==(const RECT& rect) const { return ::EqualRect(this, &rect); }
     bool operator!=(const RECT& rect) const { return !::EqualRect(this, &rect); }
+    bool operator==(const CRect& rect) const { return ::EqualRect(this, &rect); }
+    bool operator!=(const CRect& rect) const { return !::EqualRect(this, &rect); }
     void operator+=(POINT point) { OffsetRect(point); }
     void operator+=(SIZE size) { OffsetRect(size); }
     void operator+=(LPCRECT rect) { InflateRect(rect); }

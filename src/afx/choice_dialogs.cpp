@@ -104,6 +104,12 @@ INT_PTR CFontDialog::DoModal() {
     return ::ChooseFont(&m_cf) ? IDOK : IDCANCEL;
 }
 
+void CFontDialog::GetCurrentFont(LPLOGFONT lplf) {
+    *lplf = m_lf;
+    if (m_hWnd != nullptr)
+        SendMessage(WM_CHOOSEFONT_GETLOGFONT, 0, reinterpret_cast<LPARAM>(lplf));
+}
+
 UINT_PTR CALLBACK CFontDialog::HookProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message != WM_INITDIALOG)
         return 0;

@@ -82,8 +82,11 @@ BOOL CDateTimeCtrl::SetTime(const CTime* pTimeNew) {
     return SetTime(given ? &fields : nullptr);
 }
 
+// Some versions of the control look for fields also where none are chosen.
 BOOL CDateTimeCtrl::SetTime(LPSYSTEMTIME pTimeNew) {
-    return afx_int(SendMessage(DTM_SETSYSTEMTIME, pTimeNew != nullptr ? GDT_VALID : GDT_NONE, afx_param(pTimeNew)));
+    SYSTEMTIME none{};
+    return afx_int(SendMessage(DTM_SETSYSTEMTIME, pTimeNew != nullptr ? GDT_VALID : GDT_NONE,
+                               afx_param(pTimeNew != nullptr ? pTimeNew : &none)));
 }
 
 DWORD CDateTimeCtrl::GetTime(CTime& timeDest) const {

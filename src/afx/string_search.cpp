@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <climits>
 #include <cstring>
+#include <mbctype.h>
 #include <mbstring.h>
 
 namespace {
@@ -15,6 +16,28 @@ const unsigned char* bytes(LPCSTR text) {
 
 int offset(LPCSTR text, const unsigned char* found) {
     return found != nullptr ? static_cast<int>(found - bytes(text)) : -1;
+}
+
+// How many bytes at the start are characters of the set, or of none of it.
+int span(const unsigned char* text, const unsigned char* set, bool of_it) {
+    const unsigned char* at = text;
+    while (*at != 0 && (_mbschr(set, _mbsnextc(at)) != nullptr) == of_it)
+        at = _mbsinc(at);
+    return static_cast<int>(at - text);
+}
+
+// By whole characters: some runtimes' own search finds texts in the middle of one.
+const unsigned char* find_text(const unsigned char* text, const unsigned char* wanted) {
+    if (_getmbcp() == 0) // of one byte each
+        return reinterpret_cast<const unsigned char*>(
+            std::strstr(reinterpret_cast<LPCSTR>(text), reinterpret_cast<LPCSTR>(wanted)));
+    const std::size_t length = std::strlen(reinterpret_cast<LPCSTR>(wanted));
+    for (const unsigned char* at = text;; at = _mbsinc(at)) {
+        if (std::strncmp(reinterpret_cast<LPCSTR>(at), reinterpret_cast<LPCSTR>(wanted), length) == 0)
+            return at;
+        if (*at == 0)
+            return nullptr;
+    }
 }
 
 constexpr LPCSTR white_space = " \t\n\v\f\r";
@@ -30,11 +53,12 @@ int CString::Find(char c, int start) const {
 int CString::Find(LPCSTR text, int start) const {
     if (text == nullptr || start < 0 || start > GetLength())
         return -1;
-    return offset(*this, _mbsstr(bytes(m_text.c_str() + start), bytes(text)));
+    return offset(*this, find_text(bytes(m_text.c_str() + start), bytes(text)));
 }
 
 int CString::FindOneOf(LPCSTR characters) const {
-    return offset(*this, _mbspbrk(bytes(*this), bytes(characters)));
+    const int before = span(bytes(*this), bytes(characters), false);
+    return (*this)[before] != '\0' ? before : -1;
 }
 
 int CString::ReverseFind(char c) const {
@@ -73,11 +97,11 @@ int CString::CollateNoCase(LPCSTR text) const {
 }
 
 CString CString::SpanIncluding(LPCSTR characters) const {
-    return Left(static_cast<int>(_mbsspn(bytes(*this), bytes(characters))));
+    return Left(span(bytes(*this), bytes(characters), true));
 }
 
 CString CString::SpanExcluding(LPCSTR characters) const {
-    return Left(static_cast<int>(_mbscspn(bytes(*this), bytes(characters))));
+    return Left(span(bytes(*this), bytes(characters), false));
 }
 
 CString CString::Tokenize(LPCSTR characters, int& start) const {
@@ -86,12 +110,12 @@ CString CString::Tokenize(LPCSTR characters, int& start) const {
         return {};
     }
     const unsigned char* separators = bytes(characters);
-    const int first = start + static_cast<int>(_mbsspn(bytes(m_text.c_str() + start), separators));
+    const int first = start + span(bytes(m_text.c_str() + start), separators, true);
     if (first >= GetLength()) {
         start = -1;
         return {};
     }
-    const int length = static_cast<int>(_mbscspn(bytes(m_text.c_str() + first), separators));
+    const int length = span(bytes(m_text.c_str() + first), separators, false);
     start = first + length + 1; // behind the separator, too
     return Mid(first, length);
 }
@@ -153,7 +177,7 @@ CString& CString::TrimLeft() {
 }
 
 CString& CString::TrimLeft(LPCSTR characters) {
-    m_text.erase(0, _mbsspn(bytes(*this), bytes(characters)));
+    m_text.erase(0, static_cast<std::size_t>(span(bytes(*this), bytes(characters), true)));
     return *this;
 }
 

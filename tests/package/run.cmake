@@ -1,6 +1,6 @@
-# Installs the package into an empty folder, builds an outside host against it and runs the host from there; builds the
-# host that the hosting guide prints, too.
-#   cmake -DBUILD=... -DSOURCE=... -DGUIDE=... -DWORK=... -DTOOLCHAIN=... -DEMULATOR=... -P run.cmake
+# Installs the package into an empty folder, builds an outside host against it and runs the host from there; then the
+# hosts that the hosting guide prints and the example programs, which are used from outside.
+#   cmake -DBUILD=... -DSOURCE=... -DGUIDE=... -DEXAMPLES=... -DWORK=... -DTOOLCHAIN=... -DEMULATOR=... -P run.cmake
 function(step)
   execute_process(COMMAND ${ARGN} RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE output)
   if(NOT status EQUAL 0)
@@ -14,25 +14,68 @@ function(build_host source build)
   step(${CMAKE_COMMAND} --build ${build})
 endfunction()
 
-# The guide's first block of a language as a file.
-function(take_block language to)
+# The guide's block of a language with a number, counted from 0, as a file.
+function(take_block language number to)
   file(READ ${GUIDE} text)
   set(opening "```${language}\n")
-  string(FIND "${text}" "${opening}" start)
-  string(SUBSTRING "${text}" ${start} -1 text)
-  string(REPLACE "${opening}" "" text "${text}")
+  string(LENGTH "${opening}" length)
+  foreach(i RANGE ${number})
+    string(FIND "${text}" "${opening}" start)
+    if(start EQUAL -1)
+      message(FATAL_ERROR "the guide has no block ${number} of ${language}")
+    endif()
+    math(EXPR start "${start} + ${length}")
+    string(SUBSTRING "${text}" ${start} -1 text)
+  endforeach()
   string(FIND "${text}" "```" end)
   string(SUBSTRING "${text}" 0 ${end} text)
   file(WRITE ${to} "${text}")
+endfunction()
+
+# Builds a program, puts it beside the package's libraries and uses it.
+function(use_program scene source program)
+  build_host(${source} ${WORK}/${program}-build)
+  file(COPY ${WORK}/${program}-build/${program}.exe DESTINATION ${WORK}/package/bin)
+  string(REPLACE "/" "\\" path "Z:${WORK}/package/bin/${program}.exe")
+  string(REPLACE "/" "\\" folder "Z:${WORK}")
+  step(${EMULATOR} ${WORK}/package/bin/drive.exe ${scene} ${path} ${folder})
 endfunction()
 
 file(REMOVE_RECURSE ${WORK})
 step(${CMAKE_COMMAND} --install ${BUILD} --prefix ${WORK}/first)
 file(RENAME ${WORK}/first ${WORK}/package) # a package that may be moved
 build_host(${SOURCE} ${WORK}/host)
-file(COPY ${WORK}/host/host.exe DESTINATION ${WORK}/package/bin)
+file(COPY ${WORK}/host/host.exe ${WORK}/host/drive.exe DESTINATION ${WORK}/package/bin)
 step(${EMULATOR} ${WORK}/package/bin/host.exe)
 
-take_block(cmake ${WORK}/guide/CMakeLists.txt)
-take_block(cpp ${WORK}/guide/host.cpp)
+take_block(cmake 0 ${WORK}/guide/CMakeLists.txt)
+take_block(cpp 0 ${WORK}/guide/host.cpp)
 build_host(${WORK}/guide ${WORK}/guide/build)
+
+take_block(cmake 1 ${WORK}/plant/CMakeLists.txt)
+take_block(cpp 1 ${WORK}/plant/sampler.h)
+take_block(cpp 2 ${WORK}/plant/sampler.cpp)
+take_block(cpp 3 ${WORK}/plant/plant.cpp)
+take_block(cpp 4 ${WORK}/plant/plant.h)
+take_block(rc 0 ${WORK}/plant/plant.rc)
+use_program(plant ${WORK}/plant plant)
+
+use_program(sketch ${EXAMPLES}/sketch sketch)
+# The drawing with its yellow figures on paper, where there are the tools to print.
+set(page ${WORK}/printed/printed.sketch.ppm) # the print server needs a moment
+execute_process(COMMAND ${SOURCE}/../with_printer ${WORK}/printed bash -c
+    "\"$@\" && for ((i = 0; i < 600; ++i)); do [ ! -f ${page} ] || exit 0; sleep 0.1; done; exit 1" -
+    ${EMULATOR} ${WORK}/package/bin/sketch.exe /p printed.sketch
+  WORKING_DIRECTORY ${WORK} RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE output)
+if(status EQUAL 77)
+  message(STATUS "${output}")
+elseif(NOT status EQUAL 0)
+  message(FATAL_ERROR "printing ended with ${status}:\n${output}")
+else()
+  file(READ ${page} pixels HEX)
+  if(NOT pixels MATCHES "ffff00ffff00ffff00ffff00")
+    message(FATAL_ERROR "the printed page shows no figure")
+  endif()
+endif()
+
+use_program(channel ${EXAMPLES}/measuring_channel measuring_channel)

@@ -1,0 +1,53 @@
+// Identifiers, for C++ and the resource script.
+#pragma once
+
+#define IDI_CHANNEL 128
+#define IDD_CHANNEL 129
+#define IDR_RUNNING 130
+
+#define IDC_NAME 1001
+#define IDC_UNIT 1002
+#define IDC_VIEW 1003
+#define IDC_LOWER 1004
+#define IDC_LOWER_SPIN 1005
+#define IDC_UPPER 1006
+#define IDC_UPPER_SPIN 1007
+#define IDC_ADDRESS 1008
+
+#define IDC_SINE 1011
+#define IDC_STEPS 1012
+#define IDC_NOISE 1013
+#define IDC_RATE 1014
+#define IDC_RATE_TEXT 1015
+#define IDC_DAMPING 1016
+#define IDC_DAMPING_TEXT 1017
+#define IDC_FACTOR 1018
+#define IDC_HOT_KEY 1019
+
+#define IDC_LOW_LIMIT 1021
+#define IDC_LOW_LIMIT_SPIN 1022
+#define IDC_HIGH_LIMIT 1023
+#define IDC_HIGH_LIMIT_SPIN 1024
+#define IDC_ALARMS 1025
+#define IDC_INSIDE 1026
+#define IDC_BEYOND 1027
+#define IDC_TELL 1028
+#define IDC_PLACE 1029
+#define IDC_ORDER 1030
+
+#define IDC_LAST 1031
+#define IDC_NEXT 1032
+#define IDC_PLAN 1033
+
+#define IDC_GAUGE 1041
+#define IDC_TREND 1042
+#define IDC_AXIS 1043
+#define IDC_RUN 1044
+#define IDC_RUNNING 1045
+#define IDC_FILLING 1046
+#define IDC_PAGES 1047
+#define IDC_READINGS 1048
+#define IDC_PLANT 1049
+#define IDC_APPLY 1050
+#define IDC_STATUS 1051
+#define IDC_RUN_TEXT 1052

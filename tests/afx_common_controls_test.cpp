@@ -1,0 +1,452 @@
+// The common controls through their classes, and lists of pictures.
+#include "afx_test_app.h"
+
+#include <afxcmn.h>
+#include <afxdtctl.h>
+#include <afxext.h>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+class AfxCommonControls : public testing::Test {
+protected:
+    AfxCommonControls() { EXPECT_TRUE(create_visible_popup(parent)); }
+    ~AfxCommonControls() override { parent.DestroyWindow(); }
+    static constexpr DWORD shown = WS_CHILD | WS_VISIBLE;
+    const CRect place{0, 0, 100, 60};
+
+    CWnd parent;
+};
+
+TEST_F(AfxCommonControls, NumbersStayInTheirRanges) {
+    CSliderCtrl slider;
+    CSpinButtonCtrl spin;
+    CProgressCtrl progress;
+    CEdit buddy;
+    ASSERT_TRUE(slider.Create(shown | TBS_AUTOTICKS | TBS_ENABLESELRANGE, place, &parent, 1));
+    ASSERT_TRUE(buddy.Create(shown, CRect(0, 0, 50, 20), &parent, 2));
+    ASSERT_TRUE(spin.Create(shown | UDS_SETBUDDYINT | UDS_NOTHOUSANDS, CRect(50, 0, 60, 20), &parent, 3));
+    ASSERT_TRUE(progress.Create(shown, place, &parent, 4));
+    slider.SetRange(-20, 20);
+    slider.SetPos(30);
+    slider.SetTicFreq(10);
+    slider.SetSelection(-5, 5);
+    int least = 0, most = 0;
+    slider.GetSelection(least, most);
+    EXPECT_TRUE(slider.GetPos() == 20 && least == -5 && most == 5);
+    EXPECT_EQ(slider.GetNumTics(), 5u);
+    spin.SetBuddy(&buddy);
+    spin.SetRange32(-100000, 100000);
+    spin.SetPos32(70000); // more than 16 bits
+    CString text;
+    buddy.GetWindowText(text);
+    EXPECT_EQ(text, "70000");
+    spin.GetRange32(least, most);
+    EXPECT_TRUE(least == -100000 && most == 100000 && spin.GetPos32() == 70000);
+    BOOL wrong = FALSE;
+    buddy.SetWindowText("no number");
+    spin.GetPos32(&wrong);
+    EXPECT_TRUE(wrong);
+    spin.SetRange(5, -5); // downwards, as a spin button likes it
+    spin.GetRange(least, most);
+    EXPECT_TRUE(least == 5 && most == -5);
+    progress.SetRange32(0, 70000);
+    EXPECT_EQ(progress.SetPos(69999), 0);
+    progress.SetStep(10);
+    progress.StepIt();
+    EXPECT_LE(progress.GetPos(), 70000);
+}
+
+TEST_F(AfxCommonControls, AHotKeyHasANameWithItsModifiers) {
+    CHotKeyCtrl key;
+    ASSERT_TRUE(key.Create(shown, place, &parent, 1));
+    EXPECT_TRUE(key.GetHotKeyName().IsEmpty());
+    key.SetHotKey('P', HOTKEYF_CONTROL | HOTKEYF_SHIFT);
+    WORD code = 0, held = 0;
+    key.GetHotKey(code, held);
+    EXPECT_TRUE(code == 'P' && held == (HOTKEYF_CONTROL | HOTKEYF_SHIFT));
+    const CString name = key.GetHotKeyName();
+    EXPECT_EQ(name, CHotKeyCtrl::GetKeyName(VK_CONTROL, FALSE) + " + " + CHotKeyCtrl::GetKeyName(VK_SHIFT, FALSE) +
+                        " + " + CHotKeyCtrl::GetKeyName('P', FALSE));
+}
+
+TEST_F(AfxCommonControls, AHeaderKeepsItsItemsAndTheirOrder) {
+    CHeaderCtrl header;
+    ASSERT_TRUE(header.Create(shown | HDS_DRAGDROP, place, &parent, 1));
+    for (int i = 0; i < 3; ++i) {
+        const CString name('a' + static_cast<char>(i), 1);
+        HDITEM item{};
+        item.mask = HDI_TEXT | HDI_WIDTH;
+        item.pszText = const_cast<LPTSTR>(name.GetString());
+        item.cxy = 10 * (i + 1);
+        EXPECT_EQ(header.InsertItem(99, &item), i);
+    }
+    int order[3] = {2, 0, 1}, found[3] = {};
+    ASSERT_TRUE(header.SetOrderArray(3, order) && header.GetOrderArray(found));
+    EXPECT_THAT(found, testing::ElementsAre(2, 0, 1));
+    EXPECT_EQ(header.OrderToIndex(0), 2);
+    CRect third;
+    EXPECT_TRUE(header.GetItemRect(2, third));
+    EXPECT_EQ(third.Width(), 30);
+    HDHITTESTINFO hit{};
+    hit.pt = CPoint(35, 5);
+    EXPECT_EQ(header.HitTest(&hit), 0) << "behind the third, which comes first";
+    EXPECT_TRUE(header.DeleteItem(0) && header.GetItemCount() == 2);
+    EXPECT_FALSE(header.DeleteItem(7));
+}
+
+TEST_F(AfxCommonControls, AFilmIsPlayedFromTheResources) {
+    CAnimateCtrl film;
+    ASSERT_TRUE(film.Create(shown | ACS_TRANSPARENT, place, &parent, 1));
+    EXPECT_FALSE(film.Open(9999)) << "there is none";
+    ASSERT_TRUE(film.Open(IDR_FILM));
+    EXPECT_TRUE(film.Seek(3) && film.Play(0, UINT(-1), UINT(-1)));
+    EXPECT_TRUE(film.Stop());
+    EXPECT_TRUE(film.Close());
+}
+
+TEST_F(AfxCommonControls, AStatusBarKeepsTheTextsOfItsParts) {
+    CStatusBarCtrl bar;
+    ASSERT_TRUE(bar.Create(shown, place, &parent, 1));
+    int ends[3] = {30, 60, -1}, found[3] = {};
+    ASSERT_TRUE(bar.SetParts(3, ends));
+    EXPECT_EQ(bar.GetParts(3, found), 3);
+    EXPECT_THAT(found, testing::ElementsAre(30, 60, -1));
+    const CString longest('w', 300);
+    bar.SetText("one", 0, 0);
+    bar.SetText(longest, 1, SBT_POPOUT);
+    int type = 0;
+    EXPECT_EQ(bar.GetText(1, &type), longest);
+    EXPECT_EQ(type, SBT_POPOUT);
+    EXPECT_EQ(bar.GetTextLength(0), 3);
+    EXPECT_EQ(bar.GetText(2), "");
+    int horizontal = -1, vertical = -1, between = -1;
+    EXPECT_TRUE(bar.GetBorders(horizontal, vertical, between) && horizontal >= 0 && vertical >= 0 && between >= 0);
+    bar.SetSimple();
+    EXPECT_TRUE(bar.IsSimple());
+}
+
+TEST_F(AfxCommonControls, AToolbarKeepsItsButtonsAndTheirStates) {
+    CToolBarCtrl bar;
+    ASSERT_TRUE(bar.Create(shown, place, &parent, 1));
+    EXPECT_EQ(bar.AddBitmap(4, IDR_FRAME), 0);
+    const int first = bar.AddStrings("First\0Second\0"), loaded = bar.AddString(IDS_CAPTION);
+    EXPECT_TRUE(first == 0 && loaded >= 1);
+    EXPECT_EQ(bar.AddString(9999), -1);
+    TBBUTTON buttons[3]{};
+    for (int i = 0; i < 3; ++i) {
+        buttons[i].idCommand = 100 + i;
+        buttons[i].iBitmap = i;
+        buttons[i].iString = first;
+        buttons[i].fsState = TBSTATE_ENABLED;
+        buttons[i].fsStyle = TBSTYLE_CHECK;
+    }
+    ASSERT_TRUE(bar.AddButtons(3, buttons));
+    EXPECT_TRUE(bar.CheckButton(101) && bar.IsButtonChecked(101) && !bar.IsButtonChecked(100));
+    EXPECT_TRUE(bar.EnableButton(102, FALSE) && !bar.IsButtonEnabled(102));
+    EXPECT_TRUE(bar.HideButton(100) && bar.IsButtonHidden(100));
+    EXPECT_EQ(bar.CommandToIndex(102), 2u);
+    CString text;
+    EXPECT_TRUE(bar.GetString(first, text) == 5 && text == "First");
+    EXPECT_LT(bar.GetString(77, text), 0);
+    EXPECT_TRUE(bar.SetCmdID(0, 200) && bar.CommandToIndex(200) == 0u);
+    EXPECT_TRUE(bar.ChangeBitmap(200, 3) && bar.GetBitmap(200) == 3);
+    EXPECT_TRUE(bar.DeleteButton(0) && bar.GetButtonCount() == 2);
+    EXPECT_FALSE(bar.DeleteButton(5));
+}
+
+// -- Dates ------------------------------------------------------------------------------------------------------------
+
+TEST_F(AfxCommonControls, DatesMayBeNoneAtAll) {
+    CDateTimeCtrl picker;
+    ASSERT_TRUE(picker.Create(shown | DTS_SHOWNONE, place, &parent, 1));
+    const CTime day(2024, 2, 29, 10, 11, 12);
+    CTime found(5);
+    EXPECT_TRUE(picker.SetTime(&day) && picker.GetTime(found) == GDT_VALID && found == day);
+    EXPECT_TRUE(picker.SetTime());
+    EXPECT_EQ(picker.GetTime(found), static_cast<DWORD>(GDT_NONE));
+    EXPECT_EQ(found, day) << "left alone";
+    CTime least, most;
+    EXPECT_EQ(picker.GetRange(&least, &most), 0u);
+    EXPECT_EQ(least, CTime());
+    SYSTEMTIME fields{};
+    EXPECT_TRUE(picker.SetTime(&day) && picker.GetTime(&fields) == GDT_VALID && fields.wDay == 29);
+    EXPECT_TRUE(picker.SetFormat("yyyy"));
+}
+
+TEST_F(AfxCommonControls, MonthsSelectDaysAndStretchesOfThem) {
+    CMonthCalCtrl one, several;
+    ASSERT_TRUE(one.Create(shown, CPoint(0, 0), &parent, 1));
+    CRect size, least;
+    one.GetWindowRect(size);
+    EXPECT_TRUE(one.GetMinReqRect(least) && size.Size() == least.Size() && size.Width() > 50);
+    const CTime first(2024, 2, 10, 0, 0, 0), last(2024, 2, 16, 0, 0, 0);
+    CTime found, other;
+    EXPECT_TRUE(one.SetCurSel(first) && one.GetCurSel(found) && found == first);
+    EXPECT_FALSE(one.GetSelRange(found, other)) << "one day at a time";
+    EXPECT_FALSE(one.SetSelRange(first, last));
+    ASSERT_TRUE(several.Create(shown | MCS_MULTISELECT, place, &parent, 2));
+    several.SetMaxSelCount(7);
+    EXPECT_EQ(several.GetMaxSelCount(), 7);
+    EXPECT_TRUE(several.SetSelRange(first, last) && several.GetSelRange(found, other));
+    EXPECT_TRUE(found == first && other == last);
+    EXPECT_FALSE(several.SetSelRange(first, last + CTimeSpan(1, 0, 0, 0))) << "eight days";
+    several.SetToday(&first);
+    EXPECT_TRUE(several.GetToday(found) && found.GetDay() == 10);
+    int day = -1;
+    several.SetFirstDayOfWeek(3, &day);
+    BOOL other_than_system = FALSE;
+    EXPECT_EQ(several.GetFirstDayOfWeek(&other_than_system), 3);
+    EXPECT_TRUE(other_than_system && day >= 0 && day < 7);
+    EXPECT_GE(several.GetMonthRange(found, other, GMR_VISIBLE), 1);
+    EXPECT_TRUE(found <= first && other >= last);
+    EXPECT_TRUE(several.SetRange(&first, nullptr) && several.GetRange(&found, &other) == GDTR_MIN && found == first);
+}
+
+// -- Tips and checks --------------------------------------------------------------------------------------------------
+
+TEST_F(AfxCommonControls, TipsAreChangedAndTakenBack) {
+    CToolTipCtrl tips;
+    CStatic tool;
+    ASSERT_TRUE(tips.Create(&parent) && tool.Create("tool", shown, CRect(10, 10, 40, 30), &parent, 5));
+    EXPECT_TRUE(tips.AddTool(&tool, "first") && tips.AddTool(&parent, IDS_CAPTION, CRect(50, 0, 60, 60), 3));
+    CString text;
+    tips.UpdateTipText("second", &tool);
+    tips.GetText(text, &tool);
+    EXPECT_EQ(text, "second");
+    tips.GetText(text, &parent, 3);
+    EXPECT_EQ(text, "Caption of its own");
+    TOOLINFO found{};
+    EXPECT_TRUE(tips.HitTest(&parent, CPoint(55, 5), &found) && found.uId == 3);
+    tips.SetToolRect(&parent, 3, CRect(70, 0, 80, 10));
+    EXPECT_FALSE(tips.HitTest(&parent, CPoint(55, 5), &found));
+    tips.DelTool(&parent, 3);
+    EXPECT_EQ(tips.GetToolCount(), 1);
+    tips.SetMaxTipWidth(120);
+    EXPECT_EQ(tips.GetMaxTipWidth(), 120);
+}
+
+TEST_F(AfxCommonControls, ChecksGoRoundThreeStatesAndShowThem) {
+    CCheckListBox list;
+    ASSERT_TRUE(list.Create(shown | LBS_NOTIFY, CRect(0, 0, 90, 60), &parent, 1));
+    list.SetCheckStyle(BS_AUTO3STATE);
+    list.AddString("one");
+    list.AddString("two");
+    list.SetCurSel(0);
+    CRect row;
+    list.GetItemRect(0, row);
+    std::vector<std::vector<COLORREF>> looks;
+    for (const int state : {0, 1, 2, 0}) {
+        EXPECT_EQ(list.GetCheck(0), state);
+        list.UpdateWindow();
+        CClientDC dc(&list);
+        std::vector<COLORREF> look;
+        for (int x = 0; x < row.Height(); ++x)
+            for (int y = row.top; y < row.bottom; ++y)
+                look.push_back(dc.GetPixel(x, y));
+        looks.push_back(look);
+        list.SendMessage(WM_KEYDOWN, VK_SPACE);
+    }
+    EXPECT_TRUE(looks[0] != looks[1] && looks[1] != looks[2] && looks[0] == looks[3]);
+    list.SetCheckStyle(BS_AUTOCHECKBOX);
+    list.SetCheck(1, 2);
+    EXPECT_EQ(list.GetCheck(1), 0) << "there is no third state";
+    list.SetCheckStyle(BS_CHECKBOX);
+    list.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(3, row.CenterPoint().y));
+    EXPECT_EQ(list.GetCheck(0), 1) << "the program changes it, not the user";
+    EXPECT_TRUE(list.GetCheck(7) == 0 && list.IsEnabled(7) && list.SetItemData(7, 1) == LB_ERR);
+}
+
+// -- Items that are dragged -------------------------------------------------------------------------------------------
+
+TEST_F(AfxCommonControls, ADraggedItemGoesWhereItIsDropped) {
+    class open_list : public CDragListBox {
+    public:
+        using CDragListBox::OnChildNotify;
+    } list;
+    ASSERT_TRUE(list.Create(shown | LBS_NOTIFY, CRect(0, 0, 80, 60), &parent, 1));
+    const auto reset = [&] {
+        list.ResetContent();
+        for (int i = 0; i < 3; ++i)
+            list.SetItemData(list.AddString(CString('a' + static_cast<char>(i), 1)), static_cast<DWORD_PTR>(i));
+    };
+    const auto row = [&](int item) {
+        CRect place;
+        list.GetItemRect(item, place);
+        CPoint middle = place.CenterPoint();
+        list.ClientToScreen(&middle);
+        return middle;
+    };
+    const auto order = [&] {
+        std::string found;
+        for (int i = 0; i < list.GetCount(); ++i) {
+            CString text;
+            list.GetText(i, text);
+            EXPECT_EQ(text[0] - 'a', static_cast<int>(list.GetItemData(i))) << "the data go along";
+            found += text;
+        }
+        return found;
+    };
+    // As the control tells of it.
+    const auto tell = [&](UINT what, CPoint at) {
+        DRAGLISTINFO drag{what, list.m_hWnd, at};
+        LRESULT result = 0;
+        EXPECT_TRUE(list.OnChildNotify(::RegisterWindowMessage(DRAGLISTMSGSTRING), 1, afx_param(&drag), &result));
+        return result;
+    };
+    const struct {
+        int from, before;
+        const char* order;
+    } cases[] = {{2, 0, "cab"}, {0, 2, "bac"}, {0, 0, "abc"}, {0, 1, "abc"}, {1, 0, "bac"}};
+    for (const auto& one : cases) {
+        reset();
+        list.SetCurSel(one.from);
+        EXPECT_NE(tell(DL_BEGINDRAG, row(one.from)), 0);
+        EXPECT_EQ(tell(DL_DRAGGING, row(one.before)), DL_MOVECURSOR);
+        tell(DL_DROPPED, row(one.before));
+        EXPECT_EQ(order(), one.order) << one.from << " before " << one.before;
+    }
+    reset();
+    list.SetCurSel(1);
+    EXPECT_EQ(tell(DL_DRAGGING, CPoint(-500, -500)), DL_STOPCURSOR);
+    tell(DL_DROPPED, CPoint(-500, -500));
+    tell(DL_CANCELDRAG, row(0));
+    EXPECT_EQ(order(), "abc");
+}
+
+// -- Lists of pictures ------------------------------------------------------------------------------------------------
+
+class AfxImageList : public AfxCommonControls {
+protected:
+    AfxImageList() {
+        CClientDC screen(&parent);
+        EXPECT_TRUE(dc.CreateCompatibleDC(&screen) && bitmap.CreateCompatibleBitmap(&screen, 32, 16));
+        before = dc.SelectObject(&bitmap);
+        EXPECT_TRUE(list.Create(16, 16, ILC_COLOR24 | ILC_MASK, 0, 4));
+        for (const COLORREF colour : {red, green}) { // one after the other, each with a magenta hole
+            CBitmap image;
+            image.CreateCompatibleBitmap(&screen, 16, 16);
+            CBitmap* other = dc.SelectObject(&image);
+            dc.FillSolidRect(0, 0, 16, 16, colour);
+            dc.FillSolidRect(4, 4, 4, 4, hole);
+            dc.SelectObject(other);
+            list.Add(&image, hole);
+        }
+    }
+    ~AfxImageList() override { dc.SelectObject(before); }
+    // What is drawn over blue, at a corner and in the hole.
+    std::pair<COLORREF, COLORREF> drawn(CImageList& from, int image) {
+        dc.FillSolidRect(0, 0, 32, 16, blue);
+        EXPECT_TRUE(from.Draw(&dc, image, CPoint(0, 0), ILD_NORMAL));
+        return {dc.GetPixel(0, 0), dc.GetPixel(5, 5)};
+    }
+
+    static constexpr COLORREF red = RGB(255, 0, 0), green = RGB(0, 255, 0), blue = RGB(0, 0, 255),
+                              hole = RGB(255, 0, 255);
+    CDC dc;
+    CBitmap bitmap;
+    CBitmap* before = nullptr;
+    CImageList list;
+};
+
+TEST_F(AfxImageList, DrawsCopiesAndReplacesItsPictures) {
+    ASSERT_EQ(list.GetImageCount(), 2);
+    EXPECT_EQ(drawn(list, 0), std::pair(red, blue));
+    EXPECT_EQ(drawn(list, 1), std::pair(green, blue));
+    EXPECT_FALSE(list.Create(16, 16, ILC_COLOR, 1, 1)) << "it holds a list already";
+    CImageList copy;
+    ASSERT_TRUE(copy.Create(&list));
+    EXPECT_TRUE(copy.Copy(0, 1, ILCF_SWAP));
+    EXPECT_EQ(drawn(copy, 0), std::pair(green, blue));
+    EXPECT_TRUE(copy.Remove(0) && copy.GetImageCount() == 1);
+    EXPECT_EQ(list.GetImageCount(), 2) << "a copy is one of its own";
+    const HICON icon = list.ExtractIcon(1);
+    EXPECT_EQ(copy.Add(icon), 1);
+    ::DestroyIcon(icon);
+    EXPECT_EQ(drawn(copy, 1).first, green);
+    CImageList both;
+    ASSERT_TRUE(both.Create(list, 0, list, 1, 8, 0));
+    EXPECT_EQ(drawn(both, 0).first, red);
+    EXPECT_EQ(dc.GetPixel(20, 12), green) << "the second lies eight to the right";
+}
+
+TEST_F(AfxImageList, GoesThroughAnArchiveBetweenOtherThings) {
+    CMemFile file;
+    {
+        CArchive ar(&file, CArchive::store, 128);
+        ar << 7;
+        ASSERT_TRUE(list.Write(&ar));
+        ar << CString("behind");
+    }
+    file.SeekToBegin();
+    {
+        CArchive ar(&file, CArchive::load, 128);
+        int before = 0;
+        CString behind;
+        CImageList read;
+        ar >> before;
+        ASSERT_TRUE(read.Read(&ar));
+        ar >> behind;
+        EXPECT_TRUE(before == 7 && behind == "behind");
+        EXPECT_EQ(read.GetImageCount(), 2);
+        EXPECT_EQ(drawn(read, 1), std::pair(green, blue));
+    }
+    for (const int length : {0, 3, 10, 40, 90}) {
+        file.SeekToBegin();
+        CMemFile cut;
+        std::vector<BYTE> bytes(static_cast<std::size_t>(length) + 4);
+        file.Read(bytes.data(), static_cast<UINT>(bytes.size()));
+        cut.Write(bytes.data() + 4, static_cast<UINT>(length));
+        cut.SeekToBegin();
+        CArchive ar(&cut, CArchive::load);
+        CImageList read;
+        EXPECT_FALSE(read.Read(&ar)) << length;
+        EXPECT_EQ(read.m_hImageList, nullptr);
+    }
+}
+
+TEST_F(AfxImageList, DragsOneOfItsPictures) {
+    ASSERT_TRUE(list.BeginDrag(0, CPoint(3, 4)));
+    EXPECT_TRUE(CImageList::DragEnter(&parent, CPoint(20, 20)));
+    EXPECT_TRUE(CImageList::DragMove(CPoint(30, 25)));
+    CPoint at, spot;
+    EXPECT_NE(CImageList::GetDragImage(&at, &spot), nullptr);
+    EXPECT_EQ(at, CPoint(30, 25));
+    EXPECT_EQ(spot, CPoint(3, 4));
+    EXPECT_TRUE(CImageList::DragLeave(&parent));
+    CImageList::EndDrag();
+    EXPECT_FALSE(list.BeginDrag(9, CPoint(0, 0)));
+}
+
+// -- Buttons of bitmaps -----------------------------------------------------------------------------------------------
+
+class open_bitmap_button : public CBitmapButton {
+public:
+    using CBitmapButton::DrawItem;
+};
+
+TEST_F(AfxCommonControls, BitmapButtonsShowTheBitmapOfTheirState) {
+    open_bitmap_button button;
+    ASSERT_TRUE(button.Create("Test", shown | BS_OWNERDRAW, CRect(0, 0, 5, 5), &parent, 1));
+    EXPECT_FALSE(button.LoadBitmaps("NOSUCHU"));
+    ASSERT_TRUE(button.LoadBitmaps(MAKEINTRESOURCE(IDB_UP), MAKEINTRESOURCE(IDB_DOWN)));
+    button.SizeToContent();
+    CRect size;
+    button.GetClientRect(size);
+    EXPECT_EQ(size.Size(), CSize(8, 8));
+    const auto shows = [&](UINT state) {
+        CClientDC dc(&button);
+        DRAWITEMSTRUCT item{};
+        item.itemState = state;
+        item.hDC = dc;
+        item.rcItem = size;
+        button.DrawItem(&item);
+        return dc.GetPixel(4, 4);
+    };
+    EXPECT_EQ(shows(0), RGB(255, 0, 0));
+    EXPECT_EQ(shows(ODS_SELECTED), RGB(0, 0, 255));
+    EXPECT_EQ(shows(ODS_DISABLED), RGB(255, 0, 0)) << "without one of its own";
+}
+
+} // namespace

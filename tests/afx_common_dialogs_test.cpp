@@ -1,0 +1,148 @@
+// The platform's dialogs for colours, fonts and searching, shown and answered.
+#include "afx_test_app.h"
+#include "modal.h"
+
+#include <afxdlgs.h>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class AfxCommonDialogs : public testing::Test {
+protected:
+    AfxCommonDialogs() { EXPECT_TRUE(create_popup(parent)); }
+    ~AfxCommonDialogs() override { parent.DestroyWindow(); }
+
+    // Runs the dialog; `work` answers true once it has ended it.
+    static INT_PTR run(CDialog& dialog, const std::function<bool()>& work) {
+        WhileModal modal([&] { return dialog.m_hWnd != nullptr && dialog.IsWindowVisible() && work(); });
+        return dialog.DoModal();
+    }
+    static bool press(CWnd& dialog, int button) {
+        return dialog.PostMessage(WM_COMMAND, static_cast<WPARAM>(button),
+                                  reinterpret_cast<LPARAM>(::GetDlgItem(dialog, button)));
+    }
+
+    CWnd parent;
+};
+
+class begun_colours : public CColorDialog {
+public:
+    using CColorDialog::CColorDialog;
+    BOOL OnInitDialog() override { return ++begun, CColorDialog::OnInitDialog(); }
+    int begun = 0;
+};
+
+TEST_F(AfxCommonDialogs, AColourIsChosen) {
+    begun_colours dialog(RGB(1, 2, 3), CC_FULLOPEN, &parent);
+    EXPECT_EQ(run(dialog,
+                  [&] {
+                      EXPECT_FALSE(parent.IsWindowEnabled());
+                      const int red = 706; // and green and blue
+                      for (const auto& [field, value] : {std::pair{red, "10"}, {red + 1, "200"}, {red + 2, "30"}})
+                          dialog.SetDlgItemText(field, value);
+                      return press(dialog, IDOK);
+                  }),
+              IDOK);
+    EXPECT_EQ(dialog.begun, 1);
+    EXPECT_EQ(dialog.GetColor(), RGB(10, 200, 30));
+    EXPECT_TRUE(dialog.m_hWnd == nullptr && parent.IsWindowEnabled());
+    CColorDialog::GetSavedCustomColors()[3] = RGB(9, 9, 9);
+    CColorDialog again(0, 0, &parent);
+    EXPECT_EQ(run(again, [&] { return press(again, IDCANCEL); }), IDCANCEL);
+    EXPECT_EQ(CColorDialog::GetSavedCustomColors()[3], RGB(9, 9, 9)) << "kept as long as the program runs";
+}
+
+TEST_F(AfxCommonDialogs, AFontIsDescribedAsItWasChosen) {
+    CClientDC dc(&parent);
+    CFont any;
+    ASSERT_TRUE(any.CreatePointFont(100, "Arial", &dc));
+    CFont* before = dc.SelectObject(&any);
+    CString face; // as the system calls it, which may have another one in its place
+    dc.GetTextFace(face);
+    dc.SelectObject(before);
+    LOGFONT wanted{};
+    wanted.lfHeight = -24;
+    wanted.lfWeight = FW_BOLD;
+    wanted.lfItalic = TRUE;
+    wanted.lfUnderline = TRUE;
+    lstrcpyn(wanted.lfFaceName, face, LF_FACESIZE);
+    CFontDialog dialog(&wanted, CF_EFFECTS | CF_SCREENFONTS, nullptr, &parent);
+    LOGFONT meanwhile{};
+    EXPECT_EQ(run(dialog,
+                  [&] {
+                      const int sizes = 1138;
+                      dialog.SendDlgItemMessage(sizes, CB_SELECTSTRING, WPARAM(-1), reinterpret_cast<LPARAM>("36"));
+                      dialog.SendMessage(WM_COMMAND, MAKEWPARAM(sizes, CBN_SELCHANGE),
+                                         reinterpret_cast<LPARAM>(::GetDlgItem(dialog, sizes)));
+                      dialog.GetCurrentFont(&meanwhile);
+                      return press(dialog, IDOK);
+                  }),
+              IDOK);
+    EXPECT_TRUE(dialog.IsBold() && dialog.IsItalic() && dialog.IsUnderline() && !dialog.IsStrikeOut());
+    EXPECT_EQ(dialog.GetSize(), 360);
+    EXPECT_EQ(dialog.GetFaceName(), face);
+    EXPECT_EQ(meanwhile.lfHeight, dialog.m_lf.lfHeight) << "what the open dialog shows, not what it began with";
+    CFontDialog other(nullptr, CF_SCREENFONTS, nullptr, &parent);
+    EXPECT_EQ(run(other, [&] { return press(other, IDCANCEL); }), IDCANCEL);
+}
+
+// Writes down what its dialog for searching tells.
+class searching_window : public CWnd {
+public:
+    struct told {
+        CString find, replace;
+        bool next, all, down, match_case, end;
+    };
+    std::vector<told> seen;
+
+protected:
+    afx_msg LRESULT OnFind(WPARAM, LPARAM param) {
+        const auto& dialog = *CFindReplaceDialog::GetNotifier(param);
+        seen.push_back({dialog.GetFindString(), dialog.GetReplaceString(), dialog.FindNext() != FALSE,
+                        dialog.ReplaceAll() != FALSE, dialog.SearchDown() != FALSE, dialog.MatchCase() != FALSE,
+                        dialog.IsTerminating() != FALSE});
+        return 0;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+const UINT find_message = ::RegisterWindowMessage(FINDMSGSTRING);
+
+BEGIN_MESSAGE_MAP(searching_window, CWnd)
+ON_REGISTERED_MESSAGE(find_message, &searching_window::OnFind)
+END_MESSAGE_MAP()
+
+class counted_find : public CFindReplaceDialog {
+public:
+    counted_find() { ++alive; }
+    ~counted_find() override { --alive; }
+    static inline int alive = 0;
+};
+
+TEST_F(AfxCommonDialogs, SearchingTellsItsParentAndDeletesItself) {
+    searching_window owner;
+    ASSERT_TRUE(create_popup(owner));
+    auto* find = new counted_find;
+    EXPECT_FALSE(find->Create(TRUE, "x", nullptr, FR_DOWN)) << "nobody to tell";
+    ASSERT_TRUE(find->Create(FALSE, "needle", "thread", FR_DOWN | FR_MATCHCASE, &owner));
+    EXPECT_FALSE(find->Create(FALSE, "needle", "thread", FR_DOWN, &owner));
+    find->SendMessage(WM_COMMAND, IDOK);
+    find->SetDlgItemText(0x0480, "other"); // the text to find
+    find->SendMessage(WM_COMMAND, 0x0401); // replace all
+    find->SendMessage(WM_COMMAND, IDCANCEL);
+    ASSERT_EQ(owner.seen.size(), 3u);
+    EXPECT_TRUE(owner.seen[0].next && owner.seen[0].find == "needle" && owner.seen[0].match_case);
+    EXPECT_TRUE(owner.seen[1].all && owner.seen[1].find == "other" && owner.seen[1].replace == "thread");
+    EXPECT_TRUE(owner.seen[2].end);
+    EXPECT_EQ(counted_find::alive, 0);
+    const CString longest('x', 500); // longer than the dialog's room
+    auto* cut = new counted_find;
+    ASSERT_TRUE(cut->Create(TRUE, longest, nullptr, 0, &owner));
+    EXPECT_EQ(cut->GetFindString().GetLength(), 127);
+    EXPECT_FALSE(cut->SearchDown());
+    owner.DestroyWindow(); // takes its dialog along
+    EXPECT_EQ(counted_find::alive, 0);
+}
+
+} // namespace

@@ -1,0 +1,171 @@
+// Files of text and of bytes: where they stand, what they refuse, what of them is found.
+#include <afx.h>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace {
+
+// The cause of the file's exception; -1 for none.
+int cause_of(const std::function<void()>& work) {
+    try {
+        work();
+    } catch (CFileException* exception) {
+        const int cause = exception->m_cause;
+        exception->Delete();
+        return cause;
+    }
+    return -1;
+}
+
+class AfxFileModes : public testing::Test {
+protected:
+    AfxFileModes() {
+        char base[MAX_PATH];
+        ::GetTempPath(MAX_PATH, base);
+        folder.Format("%safx modes %lu", base, ::GetCurrentProcessId());
+        ::CreateDirectory(folder, nullptr);
+        name = folder + "\\file.tmp";
+    }
+    ~AfxFileModes() override {
+        for (const char* file : {"\\file.tmp", "\\second.tmp", "\\.dot"})
+            ::DeleteFile(folder + file);
+        ::RemoveDirectory(folder + "\\inner");
+        ::RemoveDirectory(folder);
+    }
+    std::string bytes() const {
+        CFile file(name, CFile::modeRead | CFile::shareDenyNone);
+        std::string all(static_cast<std::size_t>(file.GetLength()), '\0');
+        file.Read(all.data(), static_cast<UINT>(all.size()));
+        return all;
+    }
+
+    CString folder, name;
+};
+
+constexpr UINT write_new = CFile::modeCreate | CFile::modeWrite;
+
+TEST_F(AfxFileModes, LinesHaveTheEndsOfTheirKind) {
+    CStdioFile text(name, write_new | CFile::typeText);
+    text.WriteString("one\ntwo\r\n");
+    text.Close();
+    EXPECT_EQ(bytes(), "one\r\ntwo\r\r\n") << "text: every line feed becomes two characters";
+    CStdioFile binary(name, write_new | CFile::typeBinary);
+    binary.WriteString("one\ntwo\r\n\nlast");
+    binary.Close();
+    EXPECT_EQ(bytes(), "one\ntwo\r\n\nlast");
+    CStdioFile in(name, CFile::modeRead | CFile::typeText);
+    CString line;
+    std::string lines;
+    while (in.ReadString(line))
+        (lines += "[").append(line).append("]");
+    EXPECT_EQ(lines, "[one][two][][last]");
+    in.SeekToBegin();
+    char part[4];
+    EXPECT_STREQ(in.ReadString(part, sizeof(part)), "one");
+    EXPECT_STREQ(in.ReadString(part, sizeof(part)), "\n") << "what had no room comes with the next call";
+    in.SeekToEnd();
+    EXPECT_EQ(in.ReadString(part, sizeof(part)), nullptr);
+}
+
+TEST_F(AfxFileModes, StandWhereTheyWerePutAndGrowFromThere) {
+    CStdioFile file(name, CFile::modeCreate | CFile::modeReadWrite | CFile::shareDenyNone | CFile::typeBinary);
+    file.Write("0123456789", 10);
+    EXPECT_EQ(file.GetPosition(), 10u);
+    EXPECT_EQ(file.Seek(-3, CFile::end), 7u);
+    char part[8] = "";
+    EXPECT_EQ(file.Read(part, 8), 3u);
+    EXPECT_EQ(cause_of([&] { file.Seek(-1, CFile::begin); }), CFileException::badSeek);
+    file.SetLength(4);
+    EXPECT_EQ(file.GetLength(), 4u);
+    file.SeekToEnd();
+    file.Write("x", 1);
+    file.Flush();
+    EXPECT_EQ(bytes(), "0123x");
+    file.Close();
+    CFile again(name, CFile::modeCreate | CFile::modeNoTruncate | CFile::modeWrite);
+    EXPECT_EQ(again.SeekToEnd(), 5u);
+    EXPECT_EQ(cause_of([&] { again.Read(part, 1); }), CFileException::accessDenied) << "opened for writing only";
+    again.Close();
+    EXPECT_EQ(cause_of([&] { CFile(name, CFile::modeRead).Write("x", 1); }), CFileException::accessDenied);
+}
+
+TEST_F(AfxFileModes, KeepOthersOutAsAsked) {
+    CFile first(name, write_new | CFile::shareExclusive);
+    EXPECT_EQ(cause_of([&] { CFile(name, CFile::modeRead | CFile::shareDenyNone); }), CFileException::sharingViolation);
+    CFileException why;
+    CFile refused;
+    EXPECT_FALSE(refused.Open(folder + "\\none\\such", CFile::modeRead, &why));
+    EXPECT_EQ(why.m_cause, CFileException::badPath);
+    EXPECT_STREQ(why.m_strFileName, folder + "\\none\\such");
+    EXPECT_EQ(refused.m_hFile, CFile::hFileNull);
+    first.Close();
+    CFile open(name, CFile::modeReadWrite | CFile::shareDenyNone);
+    open.Write("0123456789", 10);
+    open.LockRange(2, 4);
+    CFile other(name, CFile::modeReadWrite | CFile::shareDenyNone);
+    EXPECT_EQ(cause_of([&] { other.LockRange(5, 9); }), CFileException::lockViolation);
+    open.UnlockRange(2, 4);
+    EXPECT_EQ(cause_of([&] { other.LockRange(5, 9); }), -1);
+    EXPECT_EQ(cause_of([&] { open.UnlockRange(50, 1); }), CFileException::lockViolation);
+    const std::unique_ptr<CFile> twin(open.Duplicate());
+    open.SeekToBegin();
+    EXPECT_EQ(twin->GetPosition(), 0u) << "one place for both";
+    open.Close();
+    EXPECT_EQ(twin->GetLength(), 10u);
+}
+
+TEST_F(AfxFileModes, FoundOnesTellWhatTheyAre) {
+    CFile(name, write_new).Write("12345", 5);
+    CFile(folder + "\\.dot", write_new).Close();
+    ::CreateDirectory(folder + "\\inner", nullptr);
+    ::SetFileAttributes(name, FILE_ATTRIBUTE_READONLY);
+    CFileFind find;
+    EXPECT_FALSE(find.FindNextFile()) << "nothing was looked for";
+    std::string folders, files;
+    CTime changed;
+    for (BOOL more = find.FindFile(folder + "\\*"); more;) {
+        more = find.FindNextFile();
+        ((find.IsDirectory() ? folders : files) += "[").append(find.GetFileName()).append("]");
+        EXPECT_EQ(find.IsDots(), find.GetFileName()[0] == '.' && find.IsDirectory());
+        EXPECT_EQ(find.IsReadOnly(), find.GetFileName() == "file.tmp");
+        if (find.GetFileName() == "file.tmp") {
+            EXPECT_TRUE(find.GetLength() == 5 && find.GetFileTitle() == "file" && find.GetFilePath() == name);
+            EXPECT_TRUE(find.GetLastWriteTime(changed) && (CTime::GetCurrentTime() - changed).GetTotalSeconds() < 60);
+            CString url = name;
+            url.Replace('\\', '/');
+            url.Replace(" ", "%20");
+            EXPECT_EQ(find.GetFileURL(), "file:///" + url);
+        }
+    }
+    ::SetFileAttributes(name, FILE_ATTRIBUTE_NORMAL);
+    EXPECT_EQ(folders, "[.][..][inner]");
+    EXPECT_TRUE(files == "[.dot][file.tmp]" || files == "[file.tmp][.dot]") << files;
+    EXPECT_FALSE(find.FindFile(folder + "\\no\\*"));
+    EXPECT_FALSE(find.FindNextFile());
+    EXPECT_FALSE(find.GetLastWriteTime(changed)) << "nothing was found";
+}
+
+TEST_F(AfxFileModes, NamesAreChangedAndCausesAreTold) {
+    CFile(name, write_new).Close();
+    CFile(folder + "\\second.tmp", write_new).Close();
+    EXPECT_EQ(cause_of([&] { CFile::Rename(name, folder + "\\second.tmp"); }), CFileException::accessDenied);
+    EXPECT_EQ(cause_of([&] { CFile::Remove(folder + "\\third.tmp"); }), CFileException::fileNotFound);
+    EXPECT_EQ(cause_of([&] { CFile::Remove(folder + "\\no\\third.tmp"); }), CFileException::badPath);
+    CFileStatus status;
+    EXPECT_FALSE(CFile::GetStatus(folder + "\\third.tmp", status));
+    const CString longest('x', 400);
+    CFileException why;
+    CFile file;
+    EXPECT_FALSE(file.Open(folder + "\\" + longest, CFile::modeRead, &why)) << "longer than names can be";
+    EXPECT_FALSE(file.Open("", CFile::modeRead, &why));
+    EXPECT_FALSE(file.Open("a<b>c?", write_new, &why));
+    char text[200];
+    EXPECT_TRUE(why.GetErrorMessage(text, sizeof(text)) && text[0] != '\0');
+    EXPECT_TRUE(why.GetErrorMessage(text, 5) && std::strlen(text) <= 4) << "cut where there is no room";
+}
+
+} // namespace

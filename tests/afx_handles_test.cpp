@@ -1,0 +1,177 @@
+// What programs open and close all day gives everything back: dialogs, sheets, drawings, windows of documents.
+#include "afx_test_app.h"
+#include "pixels.h"
+
+#include <afxcmn.h>
+#include <afxdlgs.h>
+#include <afxdtctl.h>
+#include <afxext.h>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <utility>
+
+namespace {
+
+// The bound is a tenth of one object a life; caches of the system may fill.
+void expect_flat(const std::function<void()>& live) {
+    for (int i = 0; i < 10; ++i)
+        live(); // what is made once
+    const Counts before;
+    for (int i = 0; i < 200; ++i)
+        live();
+    EXPECT_LT(before.grown(), 20);
+}
+
+// Of every kind of control, with objects for some, tips, pictures and a brush of its own.
+class busy_dialog : public CDialog {
+public:
+    busy_dialog() : CDialog(IDD_DATA) {}
+    void DoDataExchange(CDataExchange* exchange) override {
+        CDialog::DoDataExchange(exchange);
+        DDX_Control(exchange, IDC_CHECKS, checks);
+        DDX_Control(exchange, IDC_ROWS, rows);
+        DDX_Control(exchange, IDC_TREE, tree);
+        DDX_Control(exchange, IDC_TABS, tabs);
+    }
+    BOOL OnInitDialog() override {
+        CDialog::OnInitDialog();
+        pictures.Create(16, 16, ILC_COLOR24 | ILC_MASK, 2, 2);
+        rows.SetImageList(&pictures, LVSIL_SMALL);
+        tabs.InsertItem(0, "tab");
+        tree.InsertItem("root");
+        checks.AddString("check");
+        tips.Create(this);
+        tips.AddTool(GetDlgItem(IDC_NAME), "tip");
+        ground.CreateSolidBrush(RGB(200, 210, 220));
+        font.CreatePointFont(90, "Arial");
+        GetDlgItem(IDC_NAME)->SetFont(&font);
+        if (end_at_once)
+            EndDialog(IDOK);
+        return TRUE;
+    }
+    afx_msg HBRUSH OnCtlColor(CDC*, CWnd*, UINT) { return ground; }
+    DECLARE_MESSAGE_MAP()
+
+public:
+    bool end_at_once = false;
+
+private:
+    CCheckListBox checks;
+    CListCtrl rows;
+    CTreeCtrl tree;
+    CTabCtrl tabs;
+    CImageList pictures;
+    CToolTipCtrl tips;
+    CBrush ground;
+    CFont font;
+};
+
+BEGIN_MESSAGE_MAP(busy_dialog, CDialog)
+ON_WM_CTLCOLOR()
+END_MESSAGE_MAP()
+
+TEST(AfxHandles, DialogsGiveEverythingBack) {
+    expect_flat([] {
+        busy_dialog modeless;
+        ASSERT_TRUE(modeless.Create(IDD_DATA));
+        modeless.ShowWindow(SW_SHOWNOACTIVATE);
+        modeless.UpdateWindow();
+        modeless.DestroyWindow();
+        the_app.OnIdle(1); // temporary objects
+    });
+    expect_flat([] {
+        busy_dialog modal;
+        modal.end_at_once = true;
+        ASSERT_EQ(modal.DoModal(), IDOK);
+        the_app.OnIdle(1);
+    });
+}
+
+TEST(AfxHandles, SheetsGiveEverythingBack) {
+    CWnd owner;
+    ASSERT_TRUE(create_popup(owner));
+    expect_flat([&] {
+        CPropertyPage first(IDD_PAGE), second(IDD_PAGE);
+        CPropertySheet sheet("Sheet", &owner);
+        sheet.AddPage(&first);
+        sheet.AddPage(&second);
+        ASSERT_TRUE(sheet.Create(&owner, WS_POPUP | WS_CAPTION));
+        sheet.SetActivePage(1);
+        sheet.DestroyWindow();
+        the_app.OnIdle(1);
+    });
+    owner.DestroyWindow();
+}
+
+// Pens, fonts, regions and contexts that go with their objects, or where an exception leaves them.
+TEST(AfxHandles, DrawingsGiveEverythingBack) {
+    CWnd window;
+    ASSERT_TRUE(create_visible_popup(window));
+    CBitmap image;
+    ASSERT_TRUE(image.LoadBitmap(IDR_FRAME));
+    expect_flat([&] {
+        try {
+            CClientDC dc(&window);
+            CDC memory;
+            CBitmap bits;
+            memory.CreateCompatibleDC(&dc);
+            bits.CreateCompatibleBitmap(&dc, 50, 50);
+            CBitmap* before = memory.SelectObject(&bits);
+            CPen pen(PS_DASH, 1, RGB(1, 2, 3));
+            CPen* old = memory.SelectObject(&pen);
+            memory.DrawDragRect(CRect(0, 0, 9, 9), CSize(1, 1), CRect(2, 2, 7, 7), CSize(1, 1));
+            CFont font;
+            font.CreatePointFont(120, "Arial", &dc);
+            CBrush pattern(&image);
+            memory.FillRect(CRect(0, 0, 50, 50), &pattern);
+            memory.SelectObject(old);
+            memory.SelectObject(before);
+            CClientDC(nullptr).SaveDC();
+            AfxThrowUserException();
+        } catch (CUserException* exception) {
+            exception->Delete();
+        }
+        the_app.OnIdle(1);
+    });
+    window.DestroyWindow();
+}
+
+class plain_document : public CDocument {
+    DECLARE_DYNCREATE(plain_document)
+};
+IMPLEMENT_DYNCREATE(plain_document, CDocument)
+
+class plain_view : public CScrollView {
+    DECLARE_DYNCREATE(plain_view)
+    void OnInitialUpdate() override {
+        SetScrollSizes(MM_TEXT, CSize(1000, 1000));
+        CScrollView::OnInitialUpdate();
+    }
+    void OnDraw(CDC* dc) override { dc->TextOut(0, 0, "plain"); }
+};
+IMPLEMENT_DYNCREATE(plain_view, CScrollView)
+
+TEST(AfxHandles, ChildrenOfAFrameGiveEverythingBack) {
+    the_app.m_nCmdShow = SW_SHOWNOACTIVATE;
+    the_app.AddDocTemplate(new CMultiDocTemplate(IDR_FRAME, RUNTIME_CLASS(plain_document), RUNTIME_CLASS(CMDIChildWnd),
+                                                 RUNTIME_CLASS(plain_view)));
+    auto* frame = new CMDIFrameWnd;
+    ASSERT_TRUE(frame->LoadFrame(IDR_FRAME));
+    the_app.m_pMainWnd = frame;
+    frame->ShowWindow(SW_SHOWNOACTIVATE);
+    expect_flat([&] {
+        the_app.OnFileNew();
+        frame->MDIGetActive()->UpdateWindow();
+        frame->MDIGetActive()->SendMessage(WM_CLOSE);
+        the_app.OnIdle(1);
+    });
+    EXPECT_EQ(the_app.GetOpenDocumentCount(), 0);
+    frame->SendMessage(WM_CLOSE);
+    MSG quit;
+    ::PeekMessage(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
+    delete std::exchange(the_app.m_pDocManager, nullptr);
+}
+
+} // namespace

@@ -1,0 +1,136 @@
+// What objects and exceptions tell about themselves.
+#include "afx_test_app.h"
+
+#include <afxtempl.h>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+
+namespace {
+
+class described : public CObject {
+    DECLARE_DYNAMIC(described)
+
+public:
+    void Dump(CDumpContext& dc) const override {
+        CObject::Dump(dc);
+        dc << "number " << number << "\n";
+    }
+    int number = 7;
+};
+IMPLEMENT_DYNAMIC(described, CObject)
+
+std::string dumped(const std::function<void(CDumpContext&)>& work) {
+    CMemFile file;
+    CDumpContext dc(&file);
+    work(dc);
+    dc.Flush();
+    std::string text(static_cast<std::size_t>(file.GetLength()), '\0');
+    file.SeekToBegin();
+    file.Read(text.data(), static_cast<UINT>(text.size()));
+    return text;
+}
+
+TEST(AfxDump, WritesValuesAndObjects) {
+    described object;
+    EXPECT_TRUE(object.IsKindOf(RUNTIME_CLASS(described)));
+    const std::string text = dumped([&](CDumpContext& dc) { dc << &object << static_cast<CObject*>(nullptr); });
+    EXPECT_NE(text.find("described"), std::string::npos) << text;
+    EXPECT_NE(text.find("number 7\n"), std::string::npos) << text;
+    EXPECT_NE(text.find("NULL"), std::string::npos) << text;
+    EXPECT_EQ(dumped([](CDumpContext& dc) {
+                  dc << BYTE{200} << " " << WORD{65535} << " " << -5 << " " << 4000000000u << " " << 2.5 << " "
+                     << LONGLONG{-5000000000} << " " << static_cast<LPCTSTR>(nullptr);
+              }),
+              "200 65535 -5 4000000000 2.5 -5000000000 (null)");
+    EXPECT_EQ(dumped([](CDumpContext& dc) { dc.DumpAsHex(-1).DumpAsHex(BYTE{10}); }), "0xFFFFFFFF0xA");
+    BYTE bytes[5] = {0, 1, 0xAB, 0xFF, 16};
+    EXPECT_EQ(dumped([&](CDumpContext& dc) { dc.HexDump(">", bytes, 5, 3); }), "> 00 01 AB\n> FF 10\n");
+    EXPECT_NE(dumped([&](CDumpContext& dc) { dc.HexDump(">", bytes, 5, 0); }).find("FF 10"), std::string::npos);
+    EXPECT_NE(dumped([](CDumpContext& dc) { dc << CTimeSpan(1, 2, 3, 4); }).find("1 days, 02 hours"),
+              std::string::npos);
+}
+
+TEST(AfxExceptions, TellTheUserWhatHappened) {
+    const struct {
+        const char* what;
+        std::function<void()> thrown;
+    } cases[] = {{"memory", [] { AfxThrowMemoryException(); }},
+                 {"resource", [] { AfxThrowResourceException(); }},
+                 {"argument", [] { AfxThrowInvalidArgException(); }},
+                 {"unsupported", [] { AfxThrowNotSupportedException(); }},
+                 {"80070057", [] { AfxThrowOleException(E_INVALIDARG); }},
+                 {"a.dat", [] { AfxThrowFileException(CFileException::diskFull, ERROR_DISK_FULL, "a.dat"); }},
+                 {"13", [] { AfxThrowFileException(CFileException::diskFull); }},
+                 {"ends too early", [] { AfxThrowArchiveException(CArchiveException::endOfFile); }},
+                 {"failed", [] { AfxThrowArchiveException(99); }}};
+    for (const auto& one : cases) {
+        try {
+            one.thrown();
+            ADD_FAILURE() << one.what;
+        } catch (CException* exception) {
+            char text[300] = "", little[4] = "xyz";
+            UINT help = 5;
+            EXPECT_TRUE(exception->GetErrorMessage(text, sizeof(text), &help)) << one.what;
+            EXPECT_EQ(help, 0u);
+            CString lower(text);
+            const bool of_system = exception->IsKindOf(RUNTIME_CLASS(COleException)) != FALSE;
+            EXPECT_TRUE(of_system || lower.MakeLower().Find(one.what) >= 0) << text;
+            exception->GetErrorMessage(little, sizeof(little));
+            EXPECT_LT(std::strlen(little), sizeof(little));
+            exception->GetErrorMessage(nullptr, 0);
+            the_app.take_boxes();
+            exception->ReportError();
+            const auto boxes = the_app.take_boxes();
+            ASSERT_EQ(boxes.size(), 1u);
+            EXPECT_EQ(boxes[0], text);
+            exception->Delete();
+        }
+    }
+    CUserException silent(FALSE);
+    char text[10] = "old";
+    EXPECT_FALSE(silent.GetErrorMessage(text, sizeof(text)));
+    EXPECT_STREQ(text, "");
+    silent.ReportError(MB_OK, IDS_CAPTION);
+    EXPECT_EQ(the_app.take_boxes(), std::vector<std::string>{"Caption of its own"});
+    silent.Delete(); // it is not the heap's
+}
+
+TEST(AfxExceptions, SystemErrorsHaveTheirCauses) {
+    const struct {
+        LONG error;
+        int cause;
+    } cases[] = {{NO_ERROR, CFileException::none},
+                 {ERROR_FILE_NOT_FOUND, CFileException::fileNotFound},
+                 {ERROR_PATH_NOT_FOUND, CFileException::badPath},
+                 {ERROR_ACCESS_DENIED, CFileException::accessDenied},
+                 {ERROR_SHARING_VIOLATION, CFileException::sharingViolation},
+                 {ERROR_LOCK_VIOLATION, CFileException::lockViolation},
+                 {ERROR_DISK_FULL, CFileException::diskFull},
+                 {ERROR_HANDLE_EOF, CFileException::endOfFile},
+                 {ERROR_INVALID_HANDLE, CFileException::invalidFile},
+                 {ERROR_NEGATIVE_SEEK, CFileException::badSeek},
+                 {ERROR_CRC, CFileException::hardIO},
+                 {123456, CFileException::genericException}};
+    for (const auto& one : cases)
+        EXPECT_EQ(CFileException::OsErrorToException(one.error), one.cause) << one.error;
+    EXPECT_EQ(CFileException::ErrnoToException(ENOENT), CFileException::fileNotFound);
+    EXPECT_EQ(CFileException::ErrnoToException(EACCES), CFileException::accessDenied);
+    EXPECT_EQ(CFileException::ErrnoToException(9999), CFileException::genericException);
+}
+
+TEST(AfxMemory, AddressesAreCheckedBeforeTheyAreUsed) {
+    const auto page = static_cast<char*>(::VirtualAlloc(nullptr, 8192, MEM_RESERVE, PAGE_READWRITE));
+    ASSERT_NE(page, nullptr);
+    ::VirtualAlloc(page, 4096, MEM_COMMIT, PAGE_READONLY);
+    EXPECT_TRUE(AfxIsValidAddress(page, 4096, FALSE));
+    EXPECT_FALSE(AfxIsValidAddress(page, 4096, TRUE)) << "for reading only";
+    EXPECT_FALSE(AfxIsValidAddress(page, 4097, FALSE)) << "behind it there is nothing";
+    EXPECT_FALSE(AfxIsValidAddress(nullptr, 1, FALSE) || AfxIsValidAddress(page, static_cast<UINT_PTR>(-1), FALSE));
+    EXPECT_TRUE(AfxIsValidString("text") && !AfxIsValidString(nullptr) && !AfxIsValidString(page + 4096, 3));
+    ::VirtualFree(page, 0, MEM_RELEASE);
+}
+
+} // namespace

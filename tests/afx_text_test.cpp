@@ -1,0 +1,162 @@
+// Strings at their edges, where characters have two bytes, and moments that no clock shows.
+#include <afx.h>
+#include "afx_test_ids.h"
+
+#include <gtest/gtest.h>
+
+#include <clocale>
+#include <functional>
+#include <mbctype.h>
+#include <string>
+
+namespace {
+
+// True where it raises the framework's exception for arguments that cannot be.
+bool refuses(const std::function<void()>& work) {
+    try {
+        work();
+    } catch (CInvalidArgException* exception) {
+        exception->Delete();
+        return true;
+    }
+    return false;
+}
+
+TEST(AfxStringEdges, PlacesOutsideTheTextAreItsEnds) {
+    const CString text("abc");
+    const struct {
+        int first, count;
+        const char* part;
+    } cases[] = {{0, 3, "abc"}, {1, 99, "bc"}, {3, 1, ""}, {99, 1, ""}, {-5, 2, "ab"}, {1, -1, ""}, {0, 0, ""}};
+    for (const auto& one : cases)
+        EXPECT_STREQ(text.Mid(one.first, one.count), one.part) << one.first << ", " << one.count;
+    EXPECT_TRUE(text.Left(-1).IsEmpty() && text.Left(99) == text && text.Right(2) == "bc" && text.Right(99) == text &&
+                text.Right(-1).IsEmpty());
+    EXPECT_TRUE(text[99] == '\0' && text[-1] == '\0' && text.GetAt(3) == '\0');
+    EXPECT_TRUE(refuses([&] { text.GetAt(4); }) && refuses([&] { text.GetAt(-1); }));
+    EXPECT_EQ(text.Find('c', 3), -1);
+    EXPECT_EQ(text.Find('c', -1), -1);
+    EXPECT_EQ(text.Find("", 3), 3);
+    CString changed = text;
+    EXPECT_EQ(changed.Delete(-4, 1), 2) << "from the start on";
+    EXPECT_EQ(changed.Insert(-4, 'x'), 3);
+    EXPECT_EQ(changed.Delete(7, 7), 3);
+    EXPECT_STREQ(changed, "xbc");
+}
+
+TEST(AfxStringEdges, NoTextIsAnEmptyOne) {
+    const char* none = nullptr;
+    const wchar_t* none_wide = nullptr;
+    CString text(none);
+    text += none;
+    text = none;
+    text = none_wide;
+    text.Append(none, 5);
+    text.SetString(none, 5);
+    EXPECT_TRUE(text.IsEmpty() && CString(none_wide).IsEmpty() && CString(none, 3).IsEmpty());
+    EXPECT_TRUE(text == none && text.Compare(none) == 0 && text.CollateNoCase(none) == 0 && !(text < none));
+    EXPECT_EQ(text.Find(none), -1);
+    EXPECT_EQ(text.Insert(0, none), 0);
+    EXPECT_EQ(text.Replace(none, "x"), 0);
+    EXPECT_TRUE(text.SpanIncluding(none).IsEmpty() && text.TrimLeft(none).IsEmpty());
+    text.Format(none);
+    EXPECT_TRUE(text.IsEmpty());
+    EXPECT_FALSE(text.LoadString(0xFFF0u) || text.GetEnvironmentVariable("NO SUCH VARIABLE"));
+    EXPECT_EQ(CString('x', -3).GetLength(), 0);
+    CString* nobody = new CString("old");
+    *nobody = nobody->GetString() + 1; // a part of itself
+    EXPECT_STREQ(*nobody, "ld");
+    delete nobody;
+}
+
+TEST(AfxStringEdges, BuffersKeepTheTextUntilTheyAreReleased) {
+    CString text("abc");
+    char* buffer = text.GetBuffer(100);
+    EXPECT_STREQ(buffer, "abc");
+    std::memset(buffer, 'x', 100);
+    text.ReleaseBuffer(100);
+    EXPECT_EQ(text.GetLength(), 100);
+    std::strcpy(text.GetBuffer(), "short");
+    text.ReleaseBuffer();
+    EXPECT_STREQ(text, "short");
+    text.GetBufferSetLength(3);
+    text.ReleaseBuffer(99); // no more than there is
+    EXPECT_STREQ(text, "sho");
+    text.Truncate(-1);
+    EXPECT_STREQ(text, "sho");
+    const CString zeros("a\0b", 3);
+    EXPECT_TRUE(zeros.GetLength() == 3 && (zeros + zeros).GetLength() == 6 && zeros.Mid(2) == "b");
+    CString copy = zeros;
+    copy.Preallocate(1000);
+    copy.FreeExtra();
+    EXPECT_EQ(copy.GetLength(), 3);
+    BSTR wide = zeros.AllocSysString();
+    EXPECT_EQ(::SysStringLen(wide), 3u);
+    CString("other").SetSysString(&wide);
+    EXPECT_EQ(CString(wide), "other");
+    ::SysFreeString(wide);
+}
+
+// In this code page the second byte of a character may look like a letter or a backslash: \x83\x5C is one.
+TEST(AfxStringEdges, CharactersOfTwoBytesAreNotTakenApart) {
+    const std::string locale = std::setlocale(LC_ALL, nullptr);
+    const int page = _getmbcp();
+    ASSERT_EQ(_setmbcp(932), 0);
+    CString text("a\x83\x5C"
+                 "b\\c");
+    EXPECT_EQ(text.Find('\\'), 4);
+    EXPECT_EQ(text.ReverseFind('\\'), 4);
+    EXPECT_EQ(text.FindOneOf("\\c"), 4);
+    EXPECT_EQ(text.Replace('\\', '/'), 1);
+    EXPECT_STREQ(text, "a\x83\x5C"
+                       "b/c");
+    EXPECT_EQ(text.Remove('\\'), 0);
+    CString trimmed("\x83\x5C\\\\");
+    EXPECT_STREQ(trimmed.TrimRight('\\'), "\x83\x5C");
+    EXPECT_STREQ(CString("x\x83\x5Cy").MakeReverse(), "y\x83\x5Cx");
+    int at = 0;
+    EXPECT_STREQ(CString("\x83\x5C\\z").Tokenize("\\", at), "\x83\x5C");
+    EXPECT_EQ(CString("\x83\x5C").Replace("\\", "?"), 0);
+    _setmbcp(page);
+    std::setlocale(LC_ALL, locale.c_str());
+}
+
+TEST(AfxTimeEdges, FieldsThatAreNoneAreRefused) {
+    const struct {
+        int year, month, day, hour, minute, second;
+    } wrong[] = {{1969, 12, 31, 23, 59, 59}, {3001, 1, 1, 0, 0, 0},  {2024, 0, 1, 0, 0, 0},  {2024, 13, 1, 0, 0, 0},
+                 {2024, 1, 0, 0, 0, 0},      {2024, 1, 32, 0, 0, 0}, {2024, 1, 1, 24, 0, 0}, {2024, 1, 1, -1, 0, 0},
+                 {2024, 1, 1, 0, 60, 0},     {2024, 1, 1, 0, 0, 60}};
+    for (const auto& one : wrong)
+        EXPECT_TRUE(refuses([&] { CTime(one.year, one.month, one.day, one.hour, one.minute, one.second); }))
+            << one.year << "-" << one.month << "-" << one.day;
+    EXPECT_EQ(CTime(2023, 2, 29, 0, 0, 0), CTime(2023, 3, 1, 0, 0, 0)) << "days of longer months run on";
+    const SYSTEMTIME never{};
+    EXPECT_EQ(CTime(never), CTime());
+    const FILETIME far_off = {0xFFFFFFFF, 0x7FFFFFFF};
+    EXPECT_FALSE(CTime::IsValidFILETIME(far_off));
+    EXPECT_TRUE(refuses([&] { CTime{far_off}; }));
+    EXPECT_EQ(CTime(WORD((44 << 9) | (5 << 5) | 6), WORD((7 << 11) | (8 << 5) | 5)), CTime(2024, 5, 6, 7, 8, 10));
+}
+
+TEST(AfxTimeEdges, MomentsBeyondEveryClockShowNothing) {
+    for (const __time64_t moment : {__time64_t{-1} << 40, __time64_t{1} << 60}) {
+        const CTime time(moment);
+        SYSTEMTIME fields;
+        tm local{};
+        EXPECT_TRUE(time.GetYear() == 0 && time.GetMonth() == 0 && time.GetDayOfWeek() == 0 && time.GetSecond() == 0);
+        EXPECT_TRUE(time.Format("%Y").IsEmpty() && time.FormatGmt("%Y").IsEmpty());
+        EXPECT_FALSE(time.GetAsSystemTime(fields) || time.GetLocalTm(&local) || time.GetLocalTm(nullptr));
+        FILETIME file;
+        EXPECT_TRUE(refuses([&] { AfxTimeToFileTime(time, &file); }));
+    }
+    const CTime summer(2024, 7, 14, 8, 9, 10);
+    EXPECT_STREQ(summer.Format("%Y-%m-%d %H:%M:%S %j %%"), "2024-07-14 08:09:10 196 %");
+    EXPECT_TRUE(summer.Format(static_cast<LPCTSTR>(nullptr)).IsEmpty());
+    EXPECT_TRUE(refuses([] { CTimeSpan(5).Format("%x"); }) && refuses([] { CTimeSpan(5).Format("%"); }));
+    EXPECT_EQ(CTimeSpan(-1, -2, -3, -4).GetTotalSeconds(), -93784);
+    EXPECT_EQ(CTimeSpan(-1, -2, -3, -4).GetHours(), -2);
+    EXPECT_EQ(CTimeSpan(100000, 0, 0, 0).GetTotalSeconds(), 8640000000) << "more seconds than 32 bits hold";
+}
+
+} // namespace
