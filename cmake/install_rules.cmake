@@ -28,6 +28,9 @@ if(TARGET zopafx)
     PATTERN "afxres.rc" PATTERN "afxprint.rc")
 endif()
 
+if(TARGET zopafx)
+  install(PROGRAMS cmake/rc-preprocess DESTINATION lib/cmake/zopwnt)
+endif()
 install(EXPORT zopwnt_targets NAMESPACE zopwnt:: DESTINATION lib/cmake/zopwnt)
 configure_package_config_file(cmake/zopwnt-config.cmake.in ${PROJECT_BINARY_DIR}/zopwnt-config.cmake
   INSTALL_DESTINATION lib/cmake/zopwnt)

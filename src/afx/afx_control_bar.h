@@ -51,8 +51,6 @@ public:
     virtual void OnBarStyleChange(DWORD dwOldStyle, DWORD dwNewStyle);
     // The prompt of the command under the pointer (flyby help); -1: the pointer has left. TRUE where it changed.
     virtual BOOL SetStatusText(INT_PTR nHit);
-    // The id of what is at the point, -1 where nothing is.
-    virtual INT_PTR ItemAt(CPoint point) const;
     BOOL DestroyWindow() override;
     BOOL PreTranslateMessage(MSG* pMsg) override;
 

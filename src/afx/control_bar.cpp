@@ -47,6 +47,7 @@ BOOL CControlBar::DestroyWindow() {
 int CControlBar::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     if (CWnd::OnCreate(lpCreateStruct) == -1)
         return -1;
+    EnableToolTips((m_dwStyle & CBRS_TOOLTIPS) != 0);
     CWnd* parent = GetParent();
     if (CFrameWnd* frame = parent->IsFrameWnd() ? static_cast<CFrameWnd*>(parent) : parent->GetParentFrame()) {
         m_pDockSite = frame;
@@ -72,6 +73,7 @@ CFrameWnd* CControlBar::GetDockingFrame() const {
 
 void CControlBar::SetBarStyle(DWORD dwStyle) {
     const DWORD old = std::exchange(m_dwStyle, dwStyle & CBRS_ALL);
+    EnableToolTips((m_dwStyle & CBRS_TOOLTIPS) != 0);
     if (old != m_dwStyle)
         OnBarStyleChange(old, m_dwStyle);
 }
@@ -208,11 +210,6 @@ HBRUSH CControlBar::OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor) {
     return reinterpret_cast<HBRUSH>(Default());
 }
 
-INT_PTR CControlBar::ItemAt(CPoint point) const {
-    const HWND child = ::ChildWindowFromPointEx(m_hWnd, point, CWP_SKIPINVISIBLE);
-    return child != nullptr && child != m_hWnd ? ::GetDlgCtrlID(child) : -1;
-}
-
 BOOL CControlBar::SetStatusText(INT_PTR nHit) {
     const INT_PTR before = std::exchange(m_status_item, nHit);
     CFrameWnd* frame = before != nHit ? GetTopLevelFrame() : nullptr;
@@ -231,7 +228,7 @@ BOOL CControlBar::PreTranslateMessage(MSG* pMsg) {
     if (pMsg->message == WM_MOUSEMOVE && (m_dwStyle & CBRS_FLYBY) != 0) {
         CPoint point(pMsg->lParam);
         ::MapWindowPoints(pMsg->hwnd, m_hWnd, &point, 1);
-        SetStatusText(ItemAt(point));
+        SetStatusText(OnToolHitTest(point, nullptr));
         TRACKMOUSEEVENT leaving{sizeof(leaving), TME_LEAVE, m_hWnd, 0};
         ::TrackMouseEvent(&leaving);
     } else if (pMsg->message == WM_LBUTTONDOWN) {
@@ -249,7 +246,7 @@ void CControlBar::OnMouseLeave() {
 
 // The bar is dragged by its gripper, or its empty parts, to another side.
 void CControlBar::OnLButtonDown(UINT nFlags, CPoint point) {
-    if (m_pDockBar == nullptr || ItemAt(point) != -1)
+    if (m_pDockBar == nullptr || OnToolHitTest(point, nullptr) != -1)
         return CWnd::OnLButtonDown(nFlags, point);
     ClientToScreen(&point);
     if (!::DragDetect(m_hWnd, point))

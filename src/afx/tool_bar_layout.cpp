@@ -99,19 +99,28 @@ void CToolBar::OnBarStyleChange(DWORD dwOldStyle, DWORD dwNewStyle) {
     constexpr DWORD sides = CBRS_ALIGN_ANY;
     if (m_hWnd == nullptr)
         return;
-    if (((dwOldStyle ^ dwNewStyle) & CBRS_TOOLTIPS) != 0)
-        ModifyStyle(TBSTYLE_TOOLTIPS, (dwNewStyle & CBRS_TOOLTIPS) != 0 ? TBSTYLE_TOOLTIPS : 0);
     if (((dwOldStyle ^ dwNewStyle) & (sides | CBRS_BORDER_ANY | CBRS_GRIPPER)) != 0)
         SetWindowPos(nullptr, 0, 0, 0, 0, SWP_FRAMECHANGED | SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-INT_PTR CToolBar::ItemAt(CPoint point) const {
-    const LRESULT index = SendMessage(TB_HITTEST, 0, reinterpret_cast<LPARAM>(&point));
-    CRect client;
-    GetClientRect(client);
-    if (index < 0 || !::PtInRect(client, point))
-        return CControlBar::ItemAt(point);
-    return GetItemID(static_cast<int>(index));
+INT_PTR CToolBar::OnToolHitTest(CPoint point, TOOLINFO* pTI) const {
+    const INT_PTR child = CControlBar::OnToolHitTest(point, pTI);
+    if (child != -1)
+        return child;
+    const int index = static_cast<int>(SendMessage(TB_HITTEST, 0, reinterpret_cast<LPARAM>(&point)));
+    CRect rect;
+    GetClientRect(rect);
+    if (index < 0 || !::PtInRect(rect, point))
+        return -1;
+    const UINT id = GetItemID(index);
+    if (pTI != nullptr) {
+        GetItemRect(index, rect);
+        pTI->hwnd = m_hWnd;
+        pTI->rect = rect;
+        pTI->uId = id;
+        pTI->lpszText = LPSTR_TEXTCALLBACK;
+    }
+    return id != 0 ? static_cast<INT_PTR>(id) : -1;
 }
 
 namespace {
