@@ -309,8 +309,8 @@ void CFrameWnd::UpdateFrameTitleForDocument(LPCTSTR lpszDocName) {
 }
 
 bool CFrameWnd::IsOnlyFrameOf(CDocument* pDocument) const {
-    for (CView* view : pDocument->m_views) {
-        CFrameWnd* frame = view->GetParentFrame();
+    for (POSITION at = pDocument->GetFirstViewPosition(); at != nullptr;) {
+        CFrameWnd* frame = pDocument->GetNextView(at)->GetParentFrame();
         if (frame != nullptr && frame != this)
             return false;
     }
