@@ -83,8 +83,10 @@ private:
     BOOL AddReplaceBitmap(HBITMAP hbmImageWell);
     TBBUTTON ButtonAt(int index) const;
     void ReplaceButton(int index, const TBBUTTON& button);
-    void WrapButtons(bool vertical);
-    CSize SizeOfButtons(bool vertical) const;
+    void WrapButtons(int width);
+    void WrapToHeight(int height);
+    int BreadthOf(int index, const TBBUTTON& button) const;
+    CSize SizeOfButtons() const;
 
     HBITMAP m_images = nullptr;
     HINSTANCE m_images_module = nullptr;

@@ -221,6 +221,7 @@ void CFrameWnd::SetActiveView(CView* pViewNew, BOOL bNotify) {
 
 void CFrameWnd::OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized) {
     CWnd::OnActivate(nState, pWndOther, bMinimized);
+    ShowActiveCaptions(nState != WA_INACTIVE ? m_hWnd : pWndOther->GetSafeHwnd());
     CView* view = GetActiveView();
     if (view == nullptr)
         return;

@@ -177,7 +177,8 @@ BOOL CToolBar::SetButtons(const UINT* lpIDArray, int nIDCount) {
             return FALSE;
     }
     m_nCount = nIDCount;
-    WrapButtons(!IsHorizontal());
+    constexpr int endless = 32767;
+    WrapButtons(IsHorizontal() ? endless : 0);
     return TRUE;
 }
 
