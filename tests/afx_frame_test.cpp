@@ -234,4 +234,29 @@ TEST(AfxFrame, ButtonsAndPanesKeepTheirStyles) {
     EXPECT_FALSE(frame.status.SetPaneText(2, "none such"));
 }
 
+TEST(AfxHelp, IsAskedForTheNearestWindowThatKnowsATopic) {
+    bar_frame frame;
+    ASSERT_TRUE(frame.open());
+    the_app.m_pMainWnd = &frame;
+    const auto topic = [](DWORD_PTR number) { return number << 8 | HELP_CONTEXT; };
+    the_app.OnHelp();
+    frame.SendMessage(WM_MENUSELECT, MAKEWPARAM(ID_TEST_ON, MF_HILITE), 0);
+    the_app.OnHelp();
+    frame.SendMessage(WM_MENUSELECT, MAKEWPARAM(0, 0xFFFF), 0);
+    CDialog dialog;
+    ASSERT_TRUE(dialog.Create(IDD_TEST, &frame));
+    CWnd* button = dialog.GetDlgItem(IDOK);
+    button->OnHelp();
+    HELPINFO key{sizeof(key), HELPINFO_WINDOW, IDOK, button->m_hWnd, 0, {0, 0}};
+    dialog.SendMessage(WM_HELP, 0, reinterpret_cast<LPARAM>(&key));
+    EXPECT_THAT(the_app.helped, ElementsAre(topic(0x20000 + IDR_FRAME), topic(0x10000 + ID_TEST_ON),
+                                            topic(0x20000 + IDD_TEST)))
+        << "and the key only sends the command, which nobody here handles";
+    the_app.helped.clear();
+    the_app.OnHelpFinder();
+    EXPECT_THAT(the_app.helped, ElementsAre(DWORD_PTR{HELP_FINDER}));
+    the_app.helped.clear();
+    the_app.m_pMainWnd = nullptr;
+}
+
 } // namespace

@@ -123,6 +123,7 @@ protected:
     afx_msg void OnMenuSelect(UINT nItemID, UINT nFlags, HMENU hSysMenu);
     afx_msg LRESULT OnSetMessageString(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnPopMessageString(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnCommandHelp(WPARAM wParam, LPARAM lParam);
     afx_msg void OnIdleUpdateCmdUI();
     afx_msg void OnRecalcParent();
     afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
@@ -136,6 +137,7 @@ protected:
     HMENU m_hMenuDefault = nullptr; // the menu while no document's own is shown
     HACCEL m_hAccelTable = nullptr;
     CString m_strTitle;
+    UINT m_nIDHelp = 0; // the number it was loaded by
     UINT m_nIDTracking = 0;
     UINT m_nIDLastMessage = 0;
     CRect m_rectBorder;

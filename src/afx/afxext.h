@@ -8,6 +8,7 @@
 #include "afx_form_view.h"
 #include "afx_edit_view.h"
 #include "afx_metafile_dc.h"
+#include "afx_rebar.h"
 #include "afx_rect_tracker.h"
 #include "afx_splitter.h"
 #include "afx_status_bar.h"
