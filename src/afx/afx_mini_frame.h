@@ -21,10 +21,8 @@ public:
 
     virtual BOOL Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
                         CWnd* pParentWnd = nullptr, UINT nID = 0);
-    using CFrameWnd::Create;
     virtual BOOL CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle,
                           const RECT& rect, CWnd* pParentWnd = nullptr, UINT nID = 0);
-    using CFrameWnd::CreateEx;
     // Makes a window's rectangle of its client area's.
     static void PASCAL CalcBorders(LPRECT pClientRect, DWORD dwStyle = WS_THICKFRAME | WS_CAPTION, DWORD dwExStyle = 0);
 

@@ -80,7 +80,7 @@ bool CRectTracker::FollowPointer(int handle, CWnd& wnd, CPoint from, CWnd* clip,
         }
         const CRect before = m_rect, wanted = Moved(handle, CPoint(CPoint(message.lParam) - from), start);
         m_rect = wanted;
-        if (m_rect != before) {
+        if (!::EqualRect(m_rect, before)) {
             OnChangedRect(before);
             if (!done)
                 Feedback(m_rect, clip, dc, &wnd);

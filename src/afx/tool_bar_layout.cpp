@@ -149,7 +149,14 @@ void CToolBar::OnPaint() {
     Default();
 }
 
-BOOL CToolBar::OnEraseBkgnd(CDC*) {
+// A control that asks its parent for the background would get none of a frame, which leaves that to its view.
+BOOL CToolBar::OnEraseBkgnd(CDC* pDC) {
+    if (GetParent()->IsFrameWnd()) {
+        CRect rect;
+        GetClientRect(rect);
+        ::FillRect(*pDC, rect, ::GetSysColorBrush(COLOR_BTNFACE));
+        return TRUE;
+    }
     return static_cast<BOOL>(Default());
 }
 
