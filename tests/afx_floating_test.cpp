@@ -96,6 +96,30 @@ TEST(AfxFloating, ABarFloatsKeepsItsCommandsAndComesBack) {
     EXPECT_EQ(frame.tools.GetBarStyle() & CBRS_ALIGN_ANY, static_cast<DWORD>(CBRS_ALIGN_LEFT)) << "where it was";
 }
 
+TEST(AfxFloating, ABarIsDockedWhereItIsDroppedNearASide) {
+    docking_frame frame;
+    ASSERT_TRUE(frame.open());
+    frame.more.EnableDocking(CBRS_ALIGN_TOP | CBRS_ALIGN_RIGHT);
+    CRect inside;
+    frame.GetClientRect(inside);
+    frame.ClientToScreen(inside);
+    const CPoint middle = inside.CenterPoint();
+    const struct {
+        CPoint dropped;
+        DWORD side; // 0: it floats on
+    } rows[] = {{middle, 0},
+                {{inside.left + 5, middle.y}, 0}, // a side that it refuses
+                {{inside.right - 5, middle.y}, CBRS_ALIGN_RIGHT},
+                {{middle.x, inside.top + 5}, CBRS_ALIGN_TOP}};
+    for (const auto& row : rows) {
+        frame.FloatControlBar(&frame.more, CPoint(150, 120));
+        ::SetCursorPos(row.dropped.x, row.dropped.y);
+        frame.around(frame.more).SendMessage(WM_EXITSIZEMOVE);
+        const DWORD side = frame.more.IsFloating() ? 0 : frame.more.GetBarStyle() & CBRS_ALIGN_ANY;
+        EXPECT_EQ(side, row.side) << row.dropped.x;
+    }
+}
+
 TEST(AfxFloating, ABarIsResizedByWholeLinesOfButtons) {
     docking_frame frame;
     ASSERT_TRUE(frame.open());
