@@ -15,6 +15,11 @@ else()
   endif()
 endif()
 
+# Resource scripts are read as the platform's own tools write them.
+if(MINGW AND CMAKE_HOST_UNIX)
+  string(APPEND CMAKE_RC_FLAGS " --preprocessor=${PROJECT_SOURCE_DIR}/cmake/rc-preprocess")
+endif()
+
 if(ZOPWNT_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)

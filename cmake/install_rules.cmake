@@ -23,11 +23,15 @@ endforeach()
 if(TARGET zopafx)
   install(DIRECTORY src/afx/ DESTINATION include/zopwnt/afx FILES_MATCHING PATTERN "*.h"
     PATTERN dock_bar.h EXCLUDE PATTERN file_names.h EXCLUDE PATTERN frame_state.h EXCLUDE PATTERN handle_map.h EXCLUDE
-    PATTERN message_map.h EXCLUDE PATTERN modal_parent.h EXCLUDE PATTERN position_list.h EXCLUDE PATTERN printer.h EXCLUDE
+    PATTERN message_map.h EXCLUDE PATTERN mini_dock_frame.h EXCLUDE
+    PATTERN modal_parent.h EXCLUDE PATTERN position_list.h EXCLUDE PATTERN printer.h EXCLUDE
     PATTERN thread_state.h EXCLUDE PATTERN wnd_state.h EXCLUDE
     PATTERN "afxres.rc" PATTERN "afxprint.rc")
 endif()
 
+if(TARGET zopafx)
+  install(PROGRAMS cmake/rc-preprocess DESTINATION lib/cmake/zopwnt)
+endif()
 install(EXPORT zopwnt_targets NAMESPACE zopwnt:: DESTINATION lib/cmake/zopwnt)
 configure_package_config_file(cmake/zopwnt-config.cmake.in ${PROJECT_BINARY_DIR}/zopwnt-config.cmake
   INSTALL_DESTINATION lib/cmake/zopwnt)

@@ -221,7 +221,7 @@ TEST(AfxCommands, AreHandledByRangeAndAnswer) {
     EXPECT_THAT(wnd.log, ElementsAre("range 100", "range 110", "maybe 200", "maybe 200", "plain"));
 
     wnd.log.clear();
-    NMHDR header{wnd.m_hWnd, 400, static_cast<UINT>(NM_CLICK)};
+    NMHDR header{nullptr, 400, static_cast<UINT>(NM_CLICK)};
     EXPECT_EQ(wnd.SendMessage(WM_NOTIFY, 400, reinterpret_cast<LPARAM>(&header)), 9);
     header.code = static_cast<UINT>(NM_DBLCLK);
     header.idFrom = 401;

@@ -279,6 +279,57 @@ TEST(AfxSeveralDocuments, LieInOneFrameThatShowsTheActiveOnes) {
     delete std::exchange(the_app.m_pDocManager, nullptr);
 }
 
+// The document's views are a list that programs go through themselves.
+class listed_note : public note {
+    DECLARE_DYNCREATE(listed_note)
+
+public:
+    BOOL OnNewDocument() override { return note::OnNewDocument() && m_viewList.GetCount() == 1; }
+};
+IMPLEMENT_DYNCREATE(listed_note, note)
+
+TEST(AfxSeveralKinds, AreOfferedToTheUser) {
+    const auto add = [](CRuntimeClass* document, UINT id) {
+        the_app.AddDocTemplate(
+            new CMultiDocTemplate(id, document, RUNTIME_CLASS(CMDIChildWnd), RUNTIME_CLASS(note_view)));
+    };
+    add(RUNTIME_CLASS(note), IDR_FRAME);
+    add(RUNTIME_CLASS(listed_note), IDS_LIST_KIND);
+    auto* frame = new main_frame;
+    ASSERT_TRUE(frame->LoadFrame(IDR_FRAME));
+    the_app.m_pMainWnd = frame;
+    std::vector<std::string> names;
+    // Chooses a kind in the box for new documents; -1: none after all.
+    const auto make = [&](int kind) {
+        const WhileModal answer([&] {
+            CWnd* box = CWnd::FromHandle(::GetLastActivePopup(frame->m_hWnd));
+            auto* list = static_cast<CListBox*>(box->GetDlgItem(AFX_IDC_LISTBOX));
+            if (list == nullptr || !box->IsWindowVisible())
+                return false;
+            names.clear();
+            for (int i = 0; i < list->GetCount(); ++i) {
+                CString name;
+                list->GetText(i, name);
+                names.push_back(std::string(name));
+            }
+            list->SetCurSel(kind);
+            box->PostMessage(WM_COMMAND, kind < 0 ? IDCANCEL : IDOK);
+            return true;
+        });
+        frame->SendMessage(WM_COMMAND, ID_FILE_NEW);
+    };
+    make(1);
+    EXPECT_THAT(names, ElementsAre("Note", "List"));
+    ASSERT_NE(frame->GetActiveFrame()->GetActiveDocument(), nullptr);
+    EXPECT_TRUE(frame->GetActiveFrame()->GetActiveDocument()->IsKindOf(RUNTIME_CLASS(listed_note)));
+    make(-1);
+    EXPECT_EQ(the_app.GetOpenDocumentCount(), 1);
+    frame->SendMessage(WM_CLOSE);
+    MSG quit;
+    ::PeekMessage(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
+    delete std::exchange(the_app.m_pDocManager, nullptr);
+}
+
 // A frame with everything around it.
 class full_frame : public CFrameWnd {
     DECLARE_DYNCREATE(full_frame)

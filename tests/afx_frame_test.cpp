@@ -234,4 +234,82 @@ TEST(AfxFrame, ButtonsAndPanesKeepTheirStyles) {
     EXPECT_FALSE(frame.status.SetPaneText(2, "none such"));
 }
 
+TEST(AfxToolBar, HasABackgroundWhereTheFrameLeavesItsOwnToTheView) {
+    bar_frame frame;
+    ASSERT_TRUE(frame.open());
+    CCreateContext context;
+    context.m_pNewViewClass = RUNTIME_CLASS(CEditView);
+    auto* view = static_cast<CView*>(frame.CreateView(&context));
+    frame.SetActiveView(view);
+    frame.settle();
+    CClientDC screen(&frame);
+    CDC dc;
+    dc.CreateCompatibleDC(&screen);
+    CBitmap bitmap;
+    bitmap.CreateCompatibleBitmap(&screen, 40, 20);
+    CBitmap* before = dc.SelectObject(&bitmap);
+    frame.tools.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc.m_hDC));
+    EXPECT_EQ(dc.GetPixel(5, 5), ::GetSysColor(COLOR_BTNFACE));
+    dc.SelectObject(before);
+    frame.SetActiveView(nullptr);
+}
+
+TEST(AfxReBar, HoldsTheFramesBars) {
+    bar_frame frame;
+    ASSERT_TRUE(frame.open());
+    CReBar rebar;
+    ASSERT_TRUE(rebar.Create(&frame));
+    const CSize wanted = frame.tools.CalcFixedLayout(FALSE, TRUE);
+    ASSERT_TRUE(rebar.AddBar(&frame.tools));
+    ASSERT_TRUE(rebar.AddBar(&frame.more, "More", nullptr, RBBS_BREAK | RBBS_GRIPPERALWAYS));
+    EXPECT_THROW(
+        {
+            try {
+                rebar.AddBar(nullptr);
+            } catch (CInvalidArgException* exception) {
+                exception->Delete();
+                throw 1;
+            }
+        },
+        int);
+    EXPECT_EQ(rebar.GetReBarCtrl().GetBandCount(), 2u);
+    EXPECT_EQ(rebar.GetReBarCtrl().GetRowCount(), 2u);
+    EXPECT_EQ(::GetParent(frame.tools.m_hWnd), rebar.m_hWnd);
+    frame.settle();
+    CRect client;
+    frame.GetClientRect(client);
+    const CRect place = frame.client_of(rebar), bar = frame.client_of(frame.tools);
+    EXPECT_EQ(place.Width(), client.Width());
+    EXPECT_GE(place.Height(), 2 * wanted.cy);
+    EXPECT_GE(bar.Width(), wanted.cx) << "its buttons find room beside the gripper";
+    EXPECT_TRUE(frame.enabled(ID_TEST_ON));
+    frame.tools.SendMessage(WM_COMMAND, ID_TEST_ON);
+    EXPECT_THAT(frame.log, ElementsAre("on"));
+}
+
+TEST(AfxHelp, IsAskedForTheNearestWindowThatKnowsATopic) {
+    bar_frame frame;
+    ASSERT_TRUE(frame.open());
+    the_app.m_pMainWnd = &frame;
+    const auto topic = [](DWORD_PTR number) { return number << 8 | HELP_CONTEXT; };
+    the_app.OnHelp();
+    frame.SendMessage(WM_MENUSELECT, MAKEWPARAM(ID_TEST_ON, MF_HILITE), 0);
+    the_app.OnHelp();
+    frame.SendMessage(WM_MENUSELECT, MAKEWPARAM(0, 0xFFFF), 0);
+    CDialog dialog;
+    ASSERT_TRUE(dialog.Create(IDD_TEST, &frame));
+    CWnd* button = dialog.GetDlgItem(IDOK);
+    button->OnHelp();
+    HELPINFO key{sizeof(key), HELPINFO_WINDOW, IDOK, button->m_hWnd, 0, {0, 0}};
+    dialog.SendMessage(WM_HELP, 0, reinterpret_cast<LPARAM>(&key));
+    EXPECT_THAT(the_app.helped,
+                ElementsAre(topic(0x20000 + IDR_FRAME), topic(0x10000 + ID_TEST_ON), topic(0x20000 + IDD_TEST)))
+        << "and the key only sends the command, which nobody here handles";
+    the_app.helped.clear();
+    the_app.OnHelpFinder();
+    EXPECT_THAT(the_app.helped, ElementsAre(DWORD_PTR{HELP_FINDER}));
+    the_app.helped.clear();
+    the_app.m_pMainWnd = nullptr;
+}
+
 } // namespace

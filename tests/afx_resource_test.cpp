@@ -176,4 +176,17 @@ TEST(AfxModule, FrameworksTextsStandBehindTheProgramsOwn) {
     EXPECT_EQ(AfxFindStringResourceHandle(59999), nullptr);
 }
 
+TEST(AfxExtensionModule, GivesItsResourcesAsLongAsItIsThere) {
+    const HINSTANCE module = ::GetModuleHandle("comdlg32");
+    const LPCTSTR version = MAKEINTRESOURCE(1);
+    const auto found = [&] { return AfxFindResourceHandle(version, RT_VERSION) == module; };
+    AFX_EXTENSION_MODULE state;
+    ASSERT_TRUE(AfxInitExtensionModule(state, module));
+    EXPECT_FALSE(found());
+    new CDynLinkLibrary(state);
+    EXPECT_TRUE(found());
+    AfxTermExtensionModule(state);
+    EXPECT_FALSE(found());
+}
+
 } // namespace

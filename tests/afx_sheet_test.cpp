@@ -191,4 +191,40 @@ TEST(AfxModelessSheet, HoldsPagesWithoutButtons) {
     EXPECT_EQ(second.m_hWnd, nullptr);
 }
 
+TEST(AfxExtendedControls, HoldPicturesAndAddresses) {
+    CWnd parent;
+    ASSERT_TRUE(create_popup(parent));
+    CComboBoxEx box;
+    ASSERT_TRUE(box.Create(CBS_DROPDOWNLIST, CRect(0, 0, 100, 100), &parent, 1));
+    CImageList pictures;
+    ASSERT_TRUE(pictures.Create(16, 16, ILC_COLOR, 0, 4));
+    EXPECT_EQ(box.SetImageList(&pictures), nullptr);
+    EXPECT_EQ(box.GetImageList(), &pictures);
+    char text[16] = "first";
+    COMBOBOXEXITEM item{};
+    item.mask = CBEIF_TEXT | CBEIF_LPARAM;
+    item.iItem = -1;
+    item.pszText = text;
+    item.lParam = 77;
+    EXPECT_EQ(box.InsertItem(&item), 0);
+    lstrcpy(text, "second");
+    EXPECT_EQ(box.InsertItem(&item), 1);
+    item.iItem = 0;
+    item.cchTextMax = sizeof(text);
+    EXPECT_TRUE(box.GetItem(&item));
+    EXPECT_STREQ(text, "first");
+    EXPECT_EQ(item.lParam, 77);
+    EXPECT_EQ(box.GetComboBoxCtrl()->GetCount(), 2);
+    EXPECT_EQ(box.DeleteItem(0), 1);
+
+    CIPAddressCtrl address;
+    ASSERT_TRUE(address.Create(WS_CHILD, CRect(0, 30, 120, 50), &parent, 2));
+    EXPECT_TRUE(address.IsBlank());
+    address.SetAddress(192, 168, 0, 7);
+    BYTE fields[4] = {};
+    EXPECT_EQ(address.GetAddress(fields[0], fields[1], fields[2], fields[3]), 4);
+    EXPECT_TRUE(fields[0] == 192 && fields[1] == 168 && fields[2] == 0 && fields[3] == 7);
+    box.SetImageList(nullptr);
+}
+
 } // namespace

@@ -18,6 +18,7 @@ public:
         boxes.push_back(text);
         return answer;
     }
+    void WinHelp(DWORD_PTR topic, UINT command) override { helped.push_back(topic << 8 | command); }
     // The registry's key, or null for a file.
     void use_settings(const char* key) {
         if (key != nullptr)
@@ -31,6 +32,7 @@ public:
     std::vector<std::string> take_boxes() { return std::exchange(boxes, {}); }
 
     std::vector<std::string> boxes;
+    std::vector<DWORD_PTR> helped;
     int answer = IDOK;
     bool box_fails = false;
 };

@@ -16,6 +16,7 @@
 #define ID_TEST_PANE 32805
 #define IDD_DATA 150
 #define IDS_CAPTION 151
+#define IDS_LIST_KIND 152
 #define IDC_NAME 1101
 #define IDC_COUNT 1102
 #define IDC_FACTOR 1103

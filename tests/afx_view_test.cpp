@@ -310,6 +310,61 @@ TEST(AfxSplitter, FollowsTheMouseToCrossingsAndBackAgain) {
     EXPECT_EQ(splitter.GetRowCount(), 1);
 }
 
+// Searches as its box tells it to.
+class searched_view : public CEditView {
+    DECLARE_DYNCREATE(searched_view)
+
+public:
+    std::vector<std::string> missed;
+    void OnTextNotFound(LPCTSTR text) override { missed.push_back(text); }
+    std::string selected() {
+        CString text;
+        GetSelectedText(text);
+        return std::string(text);
+    }
+};
+IMPLEMENT_DYNCREATE(searched_view, CEditView)
+
+TEST(AfxEditView, SearchesAndReplacesByItsBox) {
+    view_frame frame;
+    ASSERT_TRUE(frame.open([](view_frame& at, CCreateContext& context) {
+        context.m_pNewViewClass = RUNTIME_CLASS(searched_view);
+        return plain_view(at, context);
+    }));
+    auto& view = *static_cast<searched_view*>(frame.GetDescendantWindow(AFX_IDW_PANE_FIRST));
+    frame.InitialUpdateFrame(nullptr, FALSE);
+    view.SetWindowText("red, green, Red, red.");
+    view.SendMessage(EM_SETSEL, 0, 3);
+    const auto box = [] {
+        CString title;
+        HWND found = ::FindWindow("#32770", nullptr);
+        return CWnd::FromHandlePermanent(found);
+    };
+    const auto press = [&](int button) { box()->SendMessage(WM_COMMAND, static_cast<WPARAM>(button)); };
+    frame.SendMessage(WM_COMMAND, ID_EDIT_FIND);
+    ASSERT_NE(box(), nullptr);
+    CString what;
+    box()->GetDlgItemText(0x480, what);
+    EXPECT_STREQ(what, "red") << "what is selected";
+    press(IDOK);
+    EXPECT_EQ(view.selected(), "Red");
+    frame.SendMessage(WM_COMMAND, ID_EDIT_REPLACE);
+    ASSERT_NE(box()->GetDlgItem(0x481), nullptr) << "the one box makes room for the other";
+    box()->SetDlgItemText(0x480, "red");
+    box()->SetDlgItemText(0x481, "blue");
+    press(0x400);
+    EXPECT_EQ(std::string(view.LockBuffer()), "red, green, blue, red.");
+    EXPECT_EQ(view.selected(), "red");
+    press(0x401);
+    EXPECT_EQ(std::string(view.LockBuffer()), "red, green, blue, blue.");
+    EXPECT_TRUE(view.missed.empty());
+    press(0x401);
+    frame.SendMessage(WM_COMMAND, ID_EDIT_REPEAT);
+    EXPECT_EQ(view.missed, (std::vector<std::string>{"red", "red"}));
+    view.DestroyWindow();
+    EXPECT_EQ(box(), nullptr) << "it goes with its view";
+}
+
 TEST(AfxSplitter, SplitsWherePulledAndJoinsWhatBecomesTooSmall) {
     view_frame frame;
     ASSERT_TRUE(frame.open(dynamic_splitter));

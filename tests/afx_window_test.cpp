@@ -163,7 +163,7 @@ TEST(AfxMessageMap, RoutesCommandsAndNotificationsByCodeAndId) {
     EXPECT_EQ(command(301, EN_UPDATE, control), 0);
     EXPECT_EQ(command(301, EN_CHANGE, nullptr), 0);
 
-    NMHDR header{control, 400, 103};
+    NMHDR header{nullptr, 400, 103};
     const auto notify = [&] { return wnd.SendMessage(WM_NOTIFY, 400, reinterpret_cast<LPARAM>(&header)); };
     EXPECT_EQ(notify(), 42);
     header.code = NM_CLICK; // codes of the platform are negative

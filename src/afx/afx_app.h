@@ -30,6 +30,7 @@ public:
     LPCTSTR m_pszAppName = nullptr;
     LPCTSTR m_pszExeName = nullptr;
     LPCTSTR m_pszProfileName = nullptr;
+    LPCTSTR m_pszHelpFilePath = nullptr;
     LPCTSTR m_pszRegistryKey = nullptr; // null: settings are kept in the file m_pszProfileName
     HINSTANCE m_hInstance = nullptr;
     HINSTANCE m_hPrevInstance = nullptr;
@@ -64,6 +65,9 @@ public:
     // Controls look as the system has them draw themselves: without effect since there is nothing else.
     BOOL Enable3dControls() { return TRUE; }
     BOOL Enable3dControlsStatic() { return TRUE; }
+
+    // Every question of the framework for help comes through here: a command of the platform's help program.
+    virtual void WinHelp(DWORD_PTR dwData, UINT nCmd = HELP_CONTEXT);
 
     // Settings, by section and entry.
     virtual UINT GetProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nDefault);
@@ -107,6 +111,10 @@ public:
     afx_msg void OnFileNew();
     afx_msg void OnFileOpen();
     afx_msg void OnFilePrintSetup();
+    afx_msg void OnHelp();
+    afx_msg void OnHelpIndex();
+    afx_msg void OnHelpFinder();
+    afx_msg void OnHelpUsing();
 
 protected:
     void SetRegistryKey(LPCTSTR lpszRegistryKey);

@@ -23,10 +23,21 @@
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
+#include <type_traits>
 
 // The platform's macros of these names would take members for them.
 #undef GetNextWindow
 #undef GetCurrentTime
+
+// The platform's headers have these for C only, as macros, which would break the standard's.
+#if !defined(NOMINMAX) && !defined(min) && !defined(max)
+template <class A, class B> constexpr std::common_type_t<A, B> min(A a, B b) {
+    return b < a ? b : a;
+}
+template <class A, class B> constexpr std::common_type_t<A, B> max(A a, B b) {
+    return a < b ? b : a;
+}
+#endif
 
 #ifdef ZOPAFX_BUILD
 #define ZOPAFX_API __declspec(dllexport)

@@ -256,6 +256,7 @@ private:
 // A tool is a window, or with an id other than 0 a rectangle of one. Its owner passes the messages on by RelayEvent.
 class ZOPAFX_API CToolTipCtrl : public CWnd {
     DECLARE_DYNAMIC(CToolTipCtrl)
+    DECLARE_MESSAGE_MAP()
 
 public:
     virtual BOOL Create(CWnd* pParentWnd, DWORD dwStyle = 0);
@@ -287,6 +288,9 @@ public:
     COLORREF GetTipTextColor() const { return COLORREF(SendMessage(TTM_GETTIPTEXTCOLOR)); }
     void SetTipTextColor(COLORREF clr) { SendMessage(TTM_SETTIPTEXTCOLOR, clr); }
     void FillInToolInfo(TOOLINFO& ti, CWnd* pWnd, UINT_PTR nIDTool) const;
+
+protected:
+    afx_msg LRESULT OnWindowFromPoint(WPARAM wParam, LPARAM lParam);
 };
 
 class ZOPAFX_API CStatusBarCtrl : public CWnd {

@@ -10,9 +10,11 @@ struct AFX_SIZEPARENTPARAMS;
 // How CalcDynamicLayout is asked.
 #define LM_STRETCH 0x01 // as long as the frame
 #define LM_HORZ 0x02
-#define LM_COMMIT 0x08 // the layout asked for is taken
+#define LM_MRUWIDTH 0x04 // as wide as it was last while it floated
+#define LM_COMMIT 0x08   // the layout asked for is taken
 #define LM_HORZDOCK 0x10
 #define LM_VERTDOCK 0x20
+#define LM_LENGTHY 0x40 // the length is the height
 
 // A bar knows its style (CBRS_...), the side it lies at among it, and how large it wants to be. Its frame asks it to
 // take its part of the client area, and to update its commands while the program is idle.
@@ -36,11 +38,12 @@ public:
     // The sides (CBRS_ALIGN_...) that the bar may be docked to.
     void EnableDocking(DWORD dwDockStyle);
     CFrameWnd* GetDockingFrame() const;
-    BOOL IsFloating() const { return FALSE; }
+    BOOL IsFloating() const { return (m_dwStyle & CBRS_FLOATING) != 0; }
     virtual BOOL IsDockBar() const { return FALSE; }
 
     virtual CSize CalcFixedLayout(BOOL bStretch, BOOL bHorz);
-    // nLength is not used: bars do not float.
+    // The size for a state (LM_HORZDOCK, LM_VERTDOCK, or floating with LM_MRUWIDTH), or for a length across or, with
+    // LM_LENGTHY, down; -1 none.
     virtual CSize CalcDynamicLayout(int nLength, DWORD nMode);
     virtual void CalcInsideRect(CRect& rect, BOOL bHorz) const;
     // Has each item's command updated; the frame is the first target.
@@ -51,8 +54,6 @@ public:
     virtual void OnBarStyleChange(DWORD dwOldStyle, DWORD dwNewStyle);
     // The prompt of the command under the pointer (flyby help); -1: the pointer has left. TRUE where it changed.
     virtual BOOL SetStatusText(INT_PTR nHit);
-    // The id of what is at the point, -1 where nothing is.
-    virtual INT_PTR ItemAt(CPoint point) const;
     BOOL DestroyWindow() override;
     BOOL PreTranslateMessage(MSG* pMsg) override;
 
@@ -72,6 +73,7 @@ protected:
     afx_msg void OnPaint();
     afx_msg void OnMouseLeave();
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT nFlags, CPoint point);
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
     afx_msg LRESULT OnSizeParent(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnIdleUpdateCmdUI(WPARAM wParam, LPARAM lParam);
@@ -80,6 +82,7 @@ protected:
     DWORD m_dwStyle = 0;
     DWORD m_dwDockStyle = 0;
     int m_nCount = 0;
+    int m_nMRUWidth = 32767; // of a floating bar
     int m_cxLeftBorder = 6, m_cxRightBorder = 6, m_cyTopBorder = 1, m_cyBottomBorder = 1;
     CFrameWnd* m_pDockSite = nullptr;
     CDockBar* m_pDockBar = nullptr;
@@ -88,9 +91,10 @@ private:
     friend class CDockBar;
     friend class CFrameWnd;
     void Undelay();
-    void DropAt(CPoint screen);
 
     enum class show { as_is, soon, not_soon };
     show m_delayed = show::as_is;
     INT_PTR m_status_item = -1;
+    UINT m_last_side = 0;          // the dock bar that it was docked to last
+    CPoint m_last_place{100, 100}; // where it floated last
 };

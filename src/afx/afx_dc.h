@@ -227,6 +227,16 @@ public:
         return ::DrawState(m_hDC, hBrush, nullptr, reinterpret_cast<LPARAM>(lpszText), static_cast<WPARAM>(nTextLen),
                            pt.x, pt.y, size.cx, size.cy, nFlags | (bPrefixText ? DST_PREFIXTEXT : DST_TEXT));
     }
+    BOOL DrawState(CPoint pt, CSize size, LPCTSTR lpszText, UINT nFlags, BOOL bPrefixText, int nTextLen,
+                   CBrush* pBrush) {
+        return DrawState(pt, size, lpszText, nFlags, bPrefixText, nTextLen, brush(pBrush));
+    }
+    BOOL DrawState(CPoint pt, CSize size, CBitmap* pBitmap, UINT nFlags, CBrush* pBrush = nullptr) {
+        return DrawState(pt, size, static_cast<HBITMAP>(pBitmap->GetSafeHandle()), nFlags, brush(pBrush));
+    }
+    BOOL DrawState(CPoint pt, CSize size, HICON hIcon, UINT nFlags, CBrush* pBrush) {
+        return DrawState(pt, size, hIcon, nFlags, brush(pBrush));
+    }
     BOOL DrawEdge(LPRECT lpRect, UINT nEdge, UINT nFlags) { return ::DrawEdge(m_hDC, lpRect, nEdge, nFlags); }
     BOOL DrawFrameControl(LPRECT lpRect, UINT nType, UINT nState) {
         return ::DrawFrameControl(m_hDC, lpRect, nType, nState);

@@ -55,6 +55,9 @@ protected:
     // Before OnInitDialog.
     virtual void PreInitDialog();
 
+    afx_msg LRESULT OnCommandHelp(WPARAM wParam, LPARAM lParam);
+
+    UINT m_nIDHelp = 0; // the template's number, or another for the help
     LPCTSTR m_lpszTemplateName = nullptr;
     LPCDLGTEMPLATE m_lpDialogTemplate = nullptr;
     void* m_lpDialogInit = nullptr;

@@ -4,8 +4,7 @@
 #include "afx_cmdtarget.h"
 #include "afx_archive.h"
 #include "afx_menu.h"
-
-#include <vector>
+#include "afxcoll.h"
 
 class CDocTemplate;
 class CFrameWnd;
@@ -73,6 +72,7 @@ protected:
     CString m_strPathName;
     CDocTemplate* m_pDocTemplate = nullptr;
     BOOL m_bModified = FALSE;
+    CPtrList m_viewList;
 
 private:
     friend class CDocTemplate;
@@ -81,6 +81,5 @@ private:
     BOOL Write(LPCTSTR path);
     BOOL AskForName(CString& path, BOOL replace);
 
-    std::vector<CView*> m_views;
     bool m_closing = false; // its frames go because it goes
 };

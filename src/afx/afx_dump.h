@@ -55,5 +55,8 @@ private:
 };
 
 ZOPAFX_API CDumpContext& AFXAPI operator<<(CDumpContext& dc, double d);
+ZOPAFX_API CDumpContext& AFXAPI operator<<(CDumpContext& dc, SIZE size);
+ZOPAFX_API CDumpContext& AFXAPI operator<<(CDumpContext& dc, POINT point);
+ZOPAFX_API CDumpContext& AFXAPI operator<<(CDumpContext& dc, const RECT& rect);
 
 extern ZOPAFX_API CDumpContext afxDump;

@@ -39,7 +39,18 @@ protected:
     void OnEndPrinting(CDC* pDC, CPrintInfo* pInfo) override;
     void OnPrepareDC(CDC* pDC, CPrintInfo* pInfo = nullptr) override;
 
+    // What the box for searching asks for; nothing found is no error, and sounds.
+    virtual void OnFindNext(LPCTSTR lpszFind, BOOL bNext, BOOL bCase);
+    virtual void OnReplaceSel(LPCTSTR lpszFind, BOOL bNext, BOOL bCase, LPCTSTR lpszReplace);
+    virtual void OnReplaceAll(LPCTSTR lpszFind, LPCTSTR lpszReplace, BOOL bCase);
+    virtual void OnTextNotFound(LPCTSTR lpszFind);
+    void OnEditFindReplace(BOOL bFindOnly);
+    BOOL SameAsSelected(LPCTSTR lpszCompare, BOOL bCase);
+    // Whether the text in the box is selected; else the next place becomes so.
+    BOOL InitializeReplace();
+
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnDestroy();
     afx_msg BOOL OnEditChange();
     afx_msg void OnEditCut();
     afx_msg void OnEditCopy();
@@ -47,6 +58,11 @@ protected:
     afx_msg void OnEditClear();
     afx_msg void OnEditUndo();
     afx_msg void OnEditSelectAll();
+    afx_msg void OnEditFind();
+    afx_msg void OnEditReplace();
+    afx_msg void OnEditRepeat();
+    afx_msg LRESULT OnFindReplaceCmd(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnUpdateNeedFind(CCmdUI* pCmdUI);
     afx_msg void OnUpdateNeedSel(CCmdUI* pCmdUI);
     afx_msg void OnUpdateNeedClip(CCmdUI* pCmdUI);
     afx_msg void OnUpdateNeedText(CCmdUI* pCmdUI);

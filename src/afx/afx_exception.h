@@ -138,6 +138,7 @@ public:
     CException* m_pException = nullptr;
 };
 
+#define DELETE_EXCEPTION(e) (e)->Delete()
 #define TRY                                                                                                            \
     {                                                                                                                  \
         AFX_EXCEPTION_LINK _afxExceptionLink;                                                                          \

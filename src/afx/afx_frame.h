@@ -10,6 +10,9 @@
 class CDocTemplate;
 class CDocument;
 class CDockBar;
+class CDockState;
+class CControlBarInfo;
+class CMiniDockFrameWnd;
 class CView;
 
 // What a window is made for: handed to OnCreateClient, and on to the views.
@@ -75,12 +78,17 @@ public:
     virtual void RecalcLayout(BOOL bNotify = TRUE);
     void ShowControlBar(CControlBar* pBar, BOOL bShow, BOOL bDelay);
     CControlBar* GetControlBar(UINT nID);
-    // Bars can be docked to these sides (CBRS_ALIGN_...). They do not float.
+    // Bars can be docked to these sides (CBRS_ALIGN_...).
     void EnableDocking(DWORD dwDockStyle);
     // nDockBarID 0: the side that the bar's style names first. lpRect: where on the screen it would be.
     void DockControlBar(CControlBar* pBar, UINT nDockBarID = 0, LPCRECT lpRect = nullptr);
     void DockControlBar(CControlBar* pBar, CDockBar* pDockBar, LPCRECT lpRect = nullptr);
-    // Which bars are shown, and where they are docked, in the program's settings.
+    // In a small frame of its own, whose corner lies at the point of the screen.
+    void FloatControlBar(CControlBar* pBar, CPoint point, DWORD dwStyle = CBRS_ALIGN_TOP);
+    CMiniDockFrameWnd* CreateFloatingFrame(DWORD dwStyle);
+    // Which bars are shown, and where they are: as an object, or in the program's settings.
+    void GetDockState(CDockState& state) const;
+    void SetDockState(const CDockState& state);
     void LoadBarState(LPCTSTR lpszProfileName);
     void SaveBarState(LPCTSTR lpszProfileName) const;
 
@@ -115,6 +123,7 @@ protected:
     afx_msg void OnMenuSelect(UINT nItemID, UINT nFlags, HMENU hSysMenu);
     afx_msg LRESULT OnSetMessageString(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnPopMessageString(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnCommandHelp(WPARAM wParam, LPARAM lParam);
     afx_msg void OnIdleUpdateCmdUI();
     afx_msg void OnRecalcParent();
     afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
@@ -128,6 +137,7 @@ protected:
     HMENU m_hMenuDefault = nullptr; // the menu while no document's own is shown
     HACCEL m_hAccelTable = nullptr;
     CString m_strTitle;
+    UINT m_nIDHelp = 0; // the number it was loaded by
     UINT m_nIDTracking = 0;
     UINT m_nIDLastMessage = 0;
     CRect m_rectBorder;
@@ -135,8 +145,18 @@ protected:
 private:
     friend class CControlBar;
     friend class CDocument;
+    friend class CMiniDockFrameWnd;
     CDockBar* DockBarAt(UINT id);
     void DestroyDockBars();
+    void DestroyEmptyFloat(CDockBar* dock);
+    CDockBar* DockBarNear(const CControlBar& bar, CPoint screen);
+    // A bar was dragged: docked where the pointer is near a side. Elsewhere it floats, where floating tells the place.
+    void DropControlBar(CControlBar* bar, CPoint screen, const CPoint* floating);
+    void ToggleFloating(CControlBar* bar);
+    void LayoutFloats();
+    CDockBar* DockBarOf(const CControlBar& bar, const CControlBarInfo& info);
+    void PutBar(CControlBar& bar, const CControlBarInfo& info);
+    void ShowActiveCaptions(HWND active);
     bool IsOnlyFrameOf(CDocument* pDocument) const;
 
     HACCEL m_loaded_keys = nullptr; // what LoadAccelTable made; another table is somebody else's

@@ -18,6 +18,13 @@ public:
     using CWnd::CreateEx;
 
     COLORREF GetBkColor() const { return static_cast<COLORREF>(SendMessage(LVM_GETBKCOLOR)); }
+    // A picture behind the items, the control's own now, or one that an address names.
+    BOOL SetBkImage(HBITMAP hbm, BOOL fTile = TRUE, int xOffsetPercent = 0, int yOffsetPercent = 0);
+    BOOL SetBkImage(LPTSTR pszUrl, BOOL fTile = TRUE, int xOffsetPercent = 0, int yOffsetPercent = 0);
+    BOOL SetBkImage(LVBKIMAGE* plvbkImage) { return afx_int(SendMessage(LVM_SETBKIMAGE, 0, afx_param(plvbkImage))); }
+    BOOL GetBkImage(LVBKIMAGE* plvbkImage) const {
+        return afx_int(SendMessage(LVM_GETBKIMAGE, 0, afx_param(plvbkImage)));
+    }
     BOOL SetBkColor(COLORREF cr) { return Ask(LVM_SETBKCOLOR, 0, static_cast<LPARAM>(cr)); }
     COLORREF GetTextColor() const { return static_cast<COLORREF>(SendMessage(LVM_GETTEXTCOLOR)); }
     BOOL SetTextColor(COLORREF cr) { return Ask(LVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(cr)); }

@@ -12,6 +12,13 @@ struct AFX_EXTENSION_MODULE {
 // Remembers the module's handle; FALSE only for a null handle.
 ZOPAFX_API BOOL AFXAPI AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hModule);
 
+// Takes the module out of the resource chain, when it is unloaded.
+ZOPAFX_API void AFXAPI AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL bAll = FALSE);
+
+// Loads an extension library on demand, and lets go of it.
+ZOPAFX_API HINSTANCE AFXAPI AfxLoadLibrary(LPCTSTR lpszModuleName);
+ZOPAFX_API BOOL AFXAPI AfxFreeLibrary(HINSTANCE hInstLib);
+
 // Puts an extension library into the resource chain, the latest first. Created with new; the framework owns it.
 class ZOPAFX_API CDynLinkLibrary : public CObject {
 public:

@@ -1,4 +1,4 @@
-// The print dialog; included by afxdlgs.h.
+// The dialogs for printing and for the page; included by afxdlgs.h.
 #pragma once
 
 #include "afx_file_dialog.h"
@@ -28,12 +28,29 @@ public:
     BOOL PrintRange() const { return (m_pd.Flags & PD_PAGENUMS) != 0; }
     // Locked in the platform's memory, whose handle m_pd.hDevMode is.
     LPDEVMODE GetDevMode() const;
-    CString GetDriverName() const { return Name(&DEVNAMES::wDriverOffset); }
-    CString GetDeviceName() const { return Name(&DEVNAMES::wDeviceOffset); }
-    CString GetPortName() const { return Name(&DEVNAMES::wOutputOffset); }
+    CString GetDriverName() const;
+    CString GetDeviceName() const;
+    CString GetPortName() const;
 
     PRINTDLG m_pd;
+};
 
-private:
-    CString Name(WORD DEVNAMES::*offset) const;
+// Paper, margins and printer of a document. The memory of hDevMode and hDevNames in m_psd is the caller's.
+class ZOPAFX_API CPageSetupDialog : public CCommonDialog {
+    DECLARE_DYNAMIC(CPageSetupDialog)
+
+public:
+    explicit CPageSetupDialog(DWORD dwFlags = PSD_MARGINS | PSD_INWININIINTLMEASURE, CWnd* pParentWnd = nullptr);
+
+    INT_PTR DoModal() override;
+    HDC CreatePrinterDC();
+    CSize GetPaperSize() const { return CSize(m_psd.ptPaperSize.x, m_psd.ptPaperSize.y); }
+    // Thousandths of an inch or hundredths of a millimetre. Either may be null.
+    void GetMargins(LPRECT lpRectMargins, LPRECT lpRectMinMargins) const;
+    LPDEVMODE GetDevMode() const;
+    CString GetDriverName() const;
+    CString GetDeviceName() const;
+    CString GetPortName() const;
+
+    PAGESETUPDLG m_psd;
 };

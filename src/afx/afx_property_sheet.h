@@ -82,6 +82,18 @@ public:
     CPropertySheet();
     explicit CPropertySheet(UINT nIDCaption, CWnd* pParentWnd = nullptr, UINT iSelectPage = 0);
     explicit CPropertySheet(LPCTSTR pszCaption, CWnd* pParentWnd = nullptr, UINT iSelectPage = 0);
+    // With pictures, which stay the caller's, for a wizard with PSH_WIZARD97: beside the first and the last page, and
+    // over the others.
+    CPropertySheet(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage, HBITMAP hbmWatermark,
+                   HPALETTE hpalWatermark = nullptr, HBITMAP hbmHeader = nullptr);
+    CPropertySheet(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage, HBITMAP hbmWatermark,
+                   HPALETTE hpalWatermark = nullptr, HBITMAP hbmHeader = nullptr);
+    void Construct(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage, HBITMAP hbmWatermark,
+                   HPALETTE hpalWatermark = nullptr, HBITMAP hbmHeader = nullptr) {
+        Construct(MAKEINTRESOURCE(nIDCaption), pParentWnd, iSelectPage, hbmWatermark, hpalWatermark, hbmHeader);
+    }
+    void Construct(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage, HBITMAP hbmWatermark,
+                   HPALETTE hpalWatermark = nullptr, HBITMAP hbmHeader = nullptr);
     void Construct(UINT nIDCaption, CWnd* pParentWnd = nullptr, UINT iSelectPage = 0) {
         Construct(MAKEINTRESOURCE(nIDCaption), pParentWnd, iSelectPage);
     }

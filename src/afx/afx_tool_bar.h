@@ -69,7 +69,7 @@ public:
     CSize CalcDynamicLayout(int nLength, DWORD nMode) override;
     void OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) override;
     void OnBarStyleChange(DWORD dwOldStyle, DWORD dwNewStyle) override;
-    INT_PTR ItemAt(CPoint point) const override;
+    INT_PTR OnToolHitTest(CPoint point, TOOLINFO* pTI) const override;
 
 protected:
     afx_msg void OnNcCalcSize(BOOL bCalcValidRects, NCCALCSIZE_PARAMS* lpncsp);
@@ -83,8 +83,10 @@ private:
     BOOL AddReplaceBitmap(HBITMAP hbmImageWell);
     TBBUTTON ButtonAt(int index) const;
     void ReplaceButton(int index, const TBBUTTON& button);
-    void WrapButtons(bool vertical);
-    CSize SizeOfButtons(bool vertical) const;
+    void WrapButtons(int width);
+    void WrapToHeight(int height);
+    int BreadthOf(int index, const TBBUTTON& button) const;
+    CSize SizeOfButtons() const;
 
     HBITMAP m_images = nullptr;
     HINSTANCE m_images_module = nullptr;

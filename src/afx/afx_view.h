@@ -19,6 +19,7 @@ struct ZOPAFX_API CPrintInfo {
     BOOL m_bDirect = FALSE; // nobody is asked
     BOOL m_bContinuePrinting = TRUE;
     UINT m_nCurPage = 1;
+    UINT m_nNumPreviewPages = 0; // wished for by the program
     CString m_strPageDesc;
     LPVOID m_lpUserData = nullptr;
     CRect m_rectDraw; // the page, in the context's logical units

@@ -81,6 +81,13 @@ public:
     BOOL IsDialogMessage(LPMSG lpMsg) { return ::IsDialogMessage(m_hWnd, lpMsg); }
     BOOL PreTranslateInput(LPMSG lpMsg);
 
+    // Tips: asked for by TTN_NEEDTEXT, for the children or for what OnToolHitTest finds. That answers the number of
+    // what is at the point, -1 for nothing; a text it gives comes from malloc. EnableToolTips answers what was before.
+    BOOL EnableToolTips(BOOL bEnable = TRUE);
+    static void PASCAL CancelToolTips(BOOL bKeys = FALSE);
+    void FilterToolTipMessage(MSG* pMsg);
+    virtual INT_PTR OnToolHitTest(CPoint point, TOOLINFO* pTI) const;
+
     BOOL UpdateData(BOOL bSaveAndValidate = TRUE);
     virtual void DoDataExchange(CDataExchange* pDX);
     // Updates the window's controls like the items of a menu.
@@ -195,6 +202,13 @@ public:
     static void PASCAL SendMessageToDescendants(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam, BOOL bDeep,
                                                 BOOL bOnlyPerm);
 
+    // Help, by the program's WinHelp: for the window with the focus and those around it, else the default one.
+    virtual void WinHelp(DWORD_PTR dwData, UINT nCmd = HELP_CONTEXT);
+    afx_msg void OnHelp();
+    afx_msg void OnHelpIndex();
+    afx_msg void OnHelpFinder();
+    afx_msg void OnHelpUsing();
+
     // Texts, fonts, icons, menus.
     void SetWindowText(LPCTSTR lpszString) { ::SetWindowText(m_hWnd, lpszString); }
     int GetWindowText(LPTSTR lpszStringBuf, int nMaxCount) const {
@@ -212,6 +226,8 @@ public:
     HICON GetIcon(BOOL bBigIcon) const { return reinterpret_cast<HICON>(SendMessage(WM_GETICON, bBigIcon)); }
     virtual CMenu* GetMenu() const;
     virtual BOOL SetMenu(CMenu* pMenu);
+    BOOL SetWindowContextHelpId(DWORD dwContextHelpId) { return ::SetWindowContextHelpId(m_hWnd, dwContextHelpId); }
+    DWORD GetWindowContextHelpId() const { return ::GetWindowContextHelpId(m_hWnd); }
     void DrawMenuBar() { ::DrawMenuBar(m_hWnd); }
     CMenu* GetSystemMenu(BOOL bRevert) const { return CMenu::FromHandle(::GetSystemMenu(m_hWnd, bRevert)); }
     BOOL HiliteMenuItem(CMenu* pMenu, UINT nIDHiliteItem, UINT nHilite) {
@@ -354,137 +370,12 @@ protected:
     BOOL CreateDlg(LPCTSTR lpszTemplateName, CWnd* pParentWnd);
     BOOL CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, HINSTANCE hInst);
 
-    // Handlers for message maps; each one's own work is the default handling.
-    afx_msg void OnClose();
-    afx_msg void OnDestroy();
-    afx_msg void OnNcDestroy();
-    afx_msg void OnPaint();
-    afx_msg void OnNcPaint();
-    afx_msg void OnFontChange();
-    afx_msg void OnSysColorChange();
-    afx_msg void OnTimeChange();
-    afx_msg void OnCancelMode();
-    afx_msg void OnChildActivate();
-    afx_msg void OnDestroyClipboard();
-    afx_msg void OnDrawClipboard();
-    afx_msg void OnRenderAllFormats();
-    afx_msg void OnClipboardUpdate();
-    afx_msg void OnMouseLeave();
-    afx_msg void OnNcMouseLeave();
-    afx_msg void OnEnterSizeMove();
-    afx_msg void OnExitSizeMove();
-    afx_msg void OnEnable(BOOL);
-    afx_msg void OnEndSession(BOOL);
-    afx_msg void OnEnterMenuLoop(BOOL);
-    afx_msg void OnExitMenuLoop(BOOL);
-    afx_msg void OnShowWindow(BOOL, UINT);
-    afx_msg void OnActivateApp(BOOL, DWORD);
-    afx_msg void OnCompacting(UINT);
-    afx_msg void OnRenderFormat(UINT);
-    afx_msg void OnSpoolerStatus(UINT, UINT);
-    afx_msg void OnInputLangChange(UINT, UINT);
-    afx_msg void OnSysCommand(UINT, LPARAM);
-    afx_msg void OnSettingChange(UINT, LPCTSTR);
-    afx_msg void OnAskCbFormatName(UINT, LPTSTR);
-    afx_msg void OnWinIniChange(LPCTSTR);
-    afx_msg void OnDevModeChange(LPTSTR);
-    afx_msg void OnDrawItem(int, LPDRAWITEMSTRUCT);
-    afx_msg void OnMeasureItem(int, LPMEASUREITEMSTRUCT);
-    afx_msg void OnDeleteItem(int, LPDELETEITEMSTRUCT);
-    afx_msg void OnStyleChanged(int, LPSTYLESTRUCT);
-    afx_msg void OnStyleChanging(int, LPSTYLESTRUCT);
-    afx_msg void OnSizing(UINT, LPRECT);
-    afx_msg void OnMoving(UINT, LPRECT);
-    afx_msg void OnNcCalcSize(BOOL, NCCALCSIZE_PARAMS*);
-    afx_msg void OnGetMinMaxInfo(MINMAXINFO*);
-    afx_msg void OnWindowPosChanging(WINDOWPOS*);
-    afx_msg void OnWindowPosChanged(WINDOWPOS*);
-    afx_msg void OnMove(int, int);
-    afx_msg void OnSize(UINT, int, int);
-    afx_msg void OnDisplayChange(UINT, int, int);
-    afx_msg void OnTimer(UINT_PTR);
-    afx_msg void OnChar(UINT, UINT, UINT);
-    afx_msg void OnDeadChar(UINT, UINT, UINT);
-    afx_msg void OnKeyDown(UINT, UINT, UINT);
-    afx_msg void OnKeyUp(UINT, UINT, UINT);
-    afx_msg void OnSysChar(UINT, UINT, UINT);
-    afx_msg void OnSysDeadChar(UINT, UINT, UINT);
-    afx_msg void OnSysKeyDown(UINT, UINT, UINT);
-    afx_msg void OnSysKeyUp(UINT, UINT, UINT);
-    afx_msg void OnMouseMove(UINT, CPoint);
-    afx_msg void OnMouseHover(UINT, CPoint);
-    afx_msg void OnLButtonDown(UINT, CPoint);
-    afx_msg void OnLButtonUp(UINT, CPoint);
-    afx_msg void OnLButtonDblClk(UINT, CPoint);
-    afx_msg void OnMButtonDown(UINT, CPoint);
-    afx_msg void OnMButtonUp(UINT, CPoint);
-    afx_msg void OnMButtonDblClk(UINT, CPoint);
-    afx_msg void OnRButtonDown(UINT, CPoint);
-    afx_msg void OnRButtonUp(UINT, CPoint);
-    afx_msg void OnRButtonDblClk(UINT, CPoint);
-    afx_msg void OnNcMouseMove(UINT, CPoint);
-    afx_msg void OnNcLButtonDown(UINT, CPoint);
-    afx_msg void OnNcLButtonUp(UINT, CPoint);
-    afx_msg void OnNcLButtonDblClk(UINT, CPoint);
-    afx_msg void OnNcMButtonDown(UINT, CPoint);
-    afx_msg void OnNcMButtonUp(UINT, CPoint);
-    afx_msg void OnNcMButtonDblClk(UINT, CPoint);
-    afx_msg void OnNcRButtonDown(UINT, CPoint);
-    afx_msg void OnNcRButtonUp(UINT, CPoint);
-    afx_msg void OnNcRButtonDblClk(UINT, CPoint);
-    afx_msg void OnXButtonDown(UINT, UINT, CPoint);
-    afx_msg void OnXButtonUp(UINT, UINT, CPoint);
-    afx_msg void OnXButtonDblClk(UINT, UINT, CPoint);
-    afx_msg void OnSetFocus(CWnd*);
-    afx_msg void OnKillFocus(CWnd*);
-    afx_msg void OnPaletteChanged(CWnd*);
-    afx_msg void OnPaletteIsChanging(CWnd*);
-    afx_msg void OnCaptureChanged(CWnd*);
-    afx_msg void OnContextMenu(CWnd*, CPoint);
-    afx_msg void OnPaintClipboard(CWnd*, HGLOBAL);
-    afx_msg void OnSizeClipboard(CWnd*, HGLOBAL);
-    afx_msg void OnHScrollClipboard(CWnd*, UINT, UINT);
-    afx_msg void OnVScrollClipboard(CWnd*, UINT, UINT);
-    afx_msg void OnChangeCbChain(HWND, HWND);
-    afx_msg void OnEnterIdle(UINT, CWnd*);
-    afx_msg void OnIconEraseBkgnd(CDC*);
-    afx_msg void OnHScroll(UINT, UINT, CScrollBar*);
-    afx_msg void OnVScroll(UINT, UINT, CScrollBar*);
-    afx_msg void OnDropFiles(HDROP);
-    afx_msg void OnActivate(UINT, CWnd*, BOOL);
-    afx_msg void OnInitMenu(CMenu*);
-    afx_msg void OnInitMenuPopup(CMenu*, UINT, BOOL);
-    afx_msg void OnUnInitMenuPopup(CMenu*, UINT);
-    afx_msg void OnMenuSelect(UINT, UINT, HMENU);
-    afx_msg void OnParentNotify(UINT, LPARAM);
-    afx_msg LRESULT OnThemeChanged();
-    afx_msg BOOL OnQueryEndSession();
-    afx_msg BOOL OnQueryOpen();
-    afx_msg BOOL OnQueryNewPalette();
-    afx_msg BOOL OnNcActivate(BOOL);
-    afx_msg BOOL OnNcCreate(LPCREATESTRUCT);
-    afx_msg BOOL OnHelpInfo(HELPINFO*);
-    afx_msg BOOL OnCopyData(CWnd*, COPYDATASTRUCT*);
-    afx_msg BOOL OnDeviceChange(UINT, DWORD_PTR);
-    afx_msg BOOL OnEraseBkgnd(CDC*);
-    afx_msg BOOL OnSetCursor(CWnd*, UINT, UINT);
-    afx_msg int OnMouseActivate(CWnd*, UINT, UINT);
-    afx_msg BOOL OnMouseWheel(UINT, short, CPoint);
-    afx_msg int OnCreate(LPCREATESTRUCT);
-    afx_msg int OnCompareItem(int, LPCOMPAREITEMSTRUCT);
-    afx_msg int OnCharToItem(UINT, CListBox*, UINT);
-    afx_msg int OnVKeyToItem(UINT, CListBox*, UINT);
-    afx_msg UINT OnGetDlgCode();
-    afx_msg UINT OnPowerBroadcast(UINT, LPARAM);
-    afx_msg UINT OnNotifyFormat(CWnd*, UINT);
-    afx_msg LRESULT OnNcHitTest(CPoint);
-    afx_msg LRESULT OnMenuChar(UINT, UINT, CMenu*);
-    afx_msg HCURSOR OnQueryDragIcon();
-    afx_msg HBRUSH OnCtlColor(CDC*, CWnd*, UINT);
+#include "afx_wnd_handlers.h"
 
     HWND m_hWndOwner = nullptr;
     WNDPROC m_pfnSuper = nullptr;
     bool m_modal = false;
+    bool m_has_tips = false;
     int m_modalResult = -1;
 
 private:

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "afxwin.h"
+#include "afx_dock_state.h"
 
 #include <vector>
 

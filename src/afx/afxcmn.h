@@ -5,8 +5,10 @@
 
 #include "afxwin.h"
 #include "afx_common_ctrls.h"
+#include "afx_extended_ctrls.h"
 #include "afx_image_list.h"
 #include "afx_list_ctrl.h"
+#include "afx_rebar.h"
 #include "afx_tool_bar_ctrl.h"
 
 #endif

@@ -14,6 +14,10 @@
 #endif
 #define WM_POPMESSAGESTRING 0x0375 // like WM_SETMESSAGESTRING, where the message that was set may go
 
+// Where the numbers of help topics begin: of commands, of resources.
+#define HID_BASE_COMMAND 0x00010000UL
+#define HID_BASE_RESOURCE 0x00020000UL
+
 struct AFX_SIZEPARENTPARAMS {
     HDWP hDWP;      // null: only the rectangle is asked for
     RECT rect;      // what is left of the parent's client area

@@ -129,6 +129,10 @@
 #define AFX_IDW_SIZE_BOX 0xEA20
 #define AFX_IDW_PANE_SAVE 0xEA21
 
+// Dialogs of the framework, and their controls.
+#define AFX_IDC_LISTBOX 100
+#define AFX_IDD_NEWTYPEDLG 30721
+
 // Texts of the program.
 #define AFX_IDS_APP_TITLE 0xE000
 #define AFX_IDS_IDLEMESSAGE 0xE001

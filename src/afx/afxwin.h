@@ -15,6 +15,7 @@
 #include "afx_data_exchange.h"
 #include "afx_dialog.h"
 #include "afx_frame.h"
+#include "afx_mini_frame.h"
 #include "afx_document.h"
 #include "afx_doc_template.h"
 #include "afx_view.h"

@@ -19,10 +19,19 @@ namespace {
 
 CWinApp* the_app = nullptr;
 
-CString program_name() {
+CString program_path() {
     char path[MAX_PATH + 1] = "";
     ::GetModuleFileName(nullptr, path, MAX_PATH);
-    CString name(path);
+    return path;
+}
+
+CString program_folder() {
+    const CString path = program_path();
+    return path.Left(path.ReverseFind('\\') + 1);
+}
+
+CString program_name() {
+    CString name = program_path();
     name = name.Mid(name.ReverseFind('\\') + 1);
     const int dot = name.ReverseFind('.');
     return dot > 0 ? name.Left(dot) : name;
@@ -87,7 +96,7 @@ CWinApp::~CWinApp() {
         if (memory != nullptr)
             ::GlobalFree(memory);
     }
-    for (LPCTSTR name : {m_pszAppName, m_pszExeName, m_pszProfileName, m_pszRegistryKey})
+    for (LPCTSTR name : {m_pszAppName, m_pszExeName, m_pszProfileName, m_pszRegistryKey, m_pszHelpFilePath})
         std::free(const_cast<LPTSTR>(name));
     if (the_app == this)
         the_app = nullptr;
@@ -104,6 +113,8 @@ void CWinApp::SetNames() {
         m_pszAppName = ::_strdup(title);
     if (m_pszProfileName == nullptr)
         m_pszProfileName = ::_strdup(name + ".INI");
+    if (m_pszHelpFilePath == nullptr)
+        m_pszHelpFilePath = ::_strdup(program_folder() + name + ".HLP");
 }
 
 BOOL CWinApp::InitApplication() {

@@ -16,6 +16,7 @@ ON_WM_DESTROY()
 ON_WM_PAINT()
 ON_WM_MOUSELEAVE()
 ON_WM_LBUTTONDOWN()
+ON_WM_LBUTTONDBLCLK()
 ON_WM_CTLCOLOR()
 ON_MESSAGE(WM_SIZEPARENT, &CControlBar::OnSizeParent)
 ON_MESSAGE(WM_IDLEUPDATECMDUI, &CControlBar::OnIdleUpdateCmdUI)
@@ -47,6 +48,7 @@ BOOL CControlBar::DestroyWindow() {
 int CControlBar::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     if (CWnd::OnCreate(lpCreateStruct) == -1)
         return -1;
+    EnableToolTips((m_dwStyle & CBRS_TOOLTIPS) != 0);
     CWnd* parent = GetParent();
     if (CFrameWnd* frame = parent->IsFrameWnd() ? static_cast<CFrameWnd*>(parent) : parent->GetParentFrame()) {
         m_pDockSite = frame;
@@ -72,6 +74,7 @@ CFrameWnd* CControlBar::GetDockingFrame() const {
 
 void CControlBar::SetBarStyle(DWORD dwStyle) {
     const DWORD old = std::exchange(m_dwStyle, dwStyle & CBRS_ALL);
+    EnableToolTips((m_dwStyle & CBRS_TOOLTIPS) != 0);
     if (old != m_dwStyle)
         OnBarStyleChange(old, m_dwStyle);
 }
@@ -208,11 +211,6 @@ HBRUSH CControlBar::OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor) {
     return reinterpret_cast<HBRUSH>(Default());
 }
 
-INT_PTR CControlBar::ItemAt(CPoint point) const {
-    const HWND child = ::ChildWindowFromPointEx(m_hWnd, point, CWP_SKIPINVISIBLE);
-    return child != nullptr && child != m_hWnd ? ::GetDlgCtrlID(child) : -1;
-}
-
 BOOL CControlBar::SetStatusText(INT_PTR nHit) {
     const INT_PTR before = std::exchange(m_status_item, nHit);
     CFrameWnd* frame = before != nHit ? GetTopLevelFrame() : nullptr;
@@ -231,7 +229,7 @@ BOOL CControlBar::PreTranslateMessage(MSG* pMsg) {
     if (pMsg->message == WM_MOUSEMOVE && (m_dwStyle & CBRS_FLYBY) != 0) {
         CPoint point(pMsg->lParam);
         ::MapWindowPoints(pMsg->hwnd, m_hWnd, &point, 1);
-        SetStatusText(ItemAt(point));
+        SetStatusText(OnToolHitTest(point, nullptr));
         TRACKMOUSEEVENT leaving{sizeof(leaving), TME_LEAVE, m_hWnd, 0};
         ::TrackMouseEvent(&leaving);
     } else if (pMsg->message == WM_LBUTTONDOWN) {
@@ -247,10 +245,11 @@ void CControlBar::OnMouseLeave() {
     Default();
 }
 
-// The bar is dragged by its gripper, or its empty parts, to another side.
+// The bar is dragged by its gripper, or its empty parts: to another side, or away from all.
 void CControlBar::OnLButtonDown(UINT nFlags, CPoint point) {
-    if (m_pDockBar == nullptr || ItemAt(point) != -1)
+    if (m_pDockBar == nullptr || OnToolHitTest(point, nullptr) != -1)
         return CWnd::OnLButtonDown(nFlags, point);
+    const CPoint held = point;
     ClientToScreen(&point);
     if (!::DragDetect(m_hWnd, point))
         return;
@@ -259,7 +258,8 @@ void CControlBar::OnLButtonDown(UINT nFlags, CPoint point) {
     while (::GetCapture() == m_hWnd && ::GetMessage(&message, nullptr, 0, 0) > 0) {
         if (message.message == WM_LBUTTONUP) {
             ::ReleaseCapture();
-            DropAt(message.pt);
+            const CPoint corner = CPoint(message.pt) - CSize(held);
+            m_pDockSite->DropControlBar(this, message.pt, &corner);
         } else if (message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE) {
             ::ReleaseCapture();
         } else if (message.message != WM_MOUSEMOVE) {
@@ -268,24 +268,8 @@ void CControlBar::OnLButtonDown(UINT nFlags, CPoint point) {
     }
 }
 
-void CControlBar::DropAt(CPoint screen) {
-    CRect rect, bar;
-    m_pDockSite->GetClientRect(rect);
-    m_pDockSite->ClientToScreen(&rect);
-    GetWindowRect(bar);
-    const struct {
-        DWORD side;
-        UINT id;
-        int distance;
-    } sides[] = {{CBRS_ALIGN_TOP, AFX_IDW_DOCKBAR_TOP, std::abs(screen.y - rect.top)},
-                 {CBRS_ALIGN_BOTTOM, AFX_IDW_DOCKBAR_BOTTOM, std::abs(rect.bottom - screen.y)},
-                 {CBRS_ALIGN_LEFT, AFX_IDW_DOCKBAR_LEFT, std::abs(screen.x - rect.left)},
-                 {CBRS_ALIGN_RIGHT, AFX_IDW_DOCKBAR_RIGHT, std::abs(rect.right - screen.x)}};
-    const auto* nearest = std::min_element(std::begin(sides), std::end(sides),
-                                           [](const auto& a, const auto& b) { return a.distance < b.distance; });
-    if ((m_dwDockStyle & nearest->side) == 0 || m_pDockSite->GetControlBar(nearest->id) == nullptr)
-        return;
-    const CRect place(screen, bar.Size());
-    m_pDockSite->DockControlBar(this, nearest->id, place);
-    m_pDockSite->RecalcLayout();
+void CControlBar::OnLButtonDblClk(UINT nFlags, CPoint point) {
+    if (m_pDockBar == nullptr || OnToolHitTest(point, nullptr) != -1)
+        return CWnd::OnLButtonDblClk(nFlags, point);
+    m_pDockSite->ToggleFloating(this);
 }

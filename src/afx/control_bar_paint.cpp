@@ -16,7 +16,7 @@ void CControlBar::DoPaint(CDC* pDC) {
 
 // Leaves the rectangle inside the borders.
 void CControlBar::DrawBorders(CDC* pDC, CRect& rect) {
-    if ((m_dwStyle & CBRS_BORDER_ANY) == 0)
+    if ((m_dwStyle & CBRS_BORDER_ANY) == 0 || IsFloating())
         return;
     UINT edges = BF_ADJUST;
     edges |= (m_dwStyle & CBRS_BORDER_LEFT) != 0 ? BF_LEFT : 0;

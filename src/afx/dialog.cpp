@@ -1,6 +1,7 @@
 #include "afx_dialog.h"
 #include "afx_app.h"
 #include "afxmsg_.h"
+#include "afxpriv.h"
 #include "modal_parent.h"
 #include "wnd_state.h"
 
@@ -9,10 +10,13 @@ IMPLEMENT_DYNAMIC(CDialog, CWnd)
 BEGIN_MESSAGE_MAP(CDialog, CWnd)
 ON_COMMAND(IDOK, &CDialog::OnOK)
 ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
+ON_MESSAGE(WM_COMMANDHELP, &CDialog::OnCommandHelp)
+ON_WM_HELPINFO()
 END_MESSAGE_MAP()
 
 CDialog::CDialog(LPCTSTR lpszTemplateName, CWnd* pParentWnd)
-    : m_lpszTemplateName(lpszTemplateName), m_pParentWnd(pParentWnd) {}
+    : m_nIDHelp(IS_INTRESOURCE(lpszTemplateName) ? LOWORD(lpszTemplateName) : 0), m_lpszTemplateName(lpszTemplateName),
+      m_pParentWnd(pParentWnd) {}
 
 CDialog::CDialog(UINT nIDTemplate, CWnd* pParentWnd) : CDialog(MAKEINTRESOURCE(nIDTemplate), pParentWnd) {}
 
@@ -29,6 +33,8 @@ BOOL CDialog::Create(LPCTSTR lpszTemplateName, CWnd* pParentWnd) {
     if (m_hWnd != nullptr)
         return FALSE;
     m_lpszTemplateName = lpszTemplateName;
+    if (m_nIDHelp == 0 && IS_INTRESOURCE(lpszTemplateName))
+        m_nIDHelp = LOWORD(lpszTemplateName);
     m_pParentWnd = pParentWnd;
     m_modal = false;
     HINSTANCE module = nullptr;

@@ -4,7 +4,9 @@
 #include "afx_doc_template.h"
 #include "afx_document.h"
 #include "afx_frame.h"
+#include "afx_boxes.h"
 #include "afxdlgs.h"
+#include "afxmsg_.h"
 #include "afxres.h"
 #include "file_names.h"
 #include "position_list.h"
@@ -95,11 +97,57 @@ CDocument* CDocManager::OpenDocumentFile(LPCTSTR lpszFileName, BOOL bAddToMRU) {
     return open;
 }
 
-// The first: there is no box that asks.
+namespace {
+
+// Which kind of document is to be made; the dialog may be one of the program's own.
+class new_type_dialog : public CDialog {
+public:
+    explicit new_type_dialog(const std::vector<CDocTemplate*>& templates)
+        : CDialog(AFX_IDD_NEWTYPEDLG), m_templates(templates) {}
+    CDocTemplate* chosen() const { return m_chosen; }
+
+protected:
+    BOOL OnInitDialog() override {
+        CListBox& list = names();
+        for (CDocTemplate* one : m_templates) {
+            CString name;
+            if (!one->GetDocString(name, CDocTemplate::fileNewName) || name.IsEmpty())
+                continue;
+            list.SetItemDataPtr(list.AddString(name), one);
+        }
+        list.SetCurSel(0);
+        return CDialog::OnInitDialog();
+    }
+    void OnOK() override {
+        const int at = names().GetCurSel();
+        if (at < 0)
+            return;
+        m_chosen = static_cast<CDocTemplate*>(names().GetItemDataPtr(at));
+        CDialog::OnOK();
+    }
+    DECLARE_MESSAGE_MAP()
+
+private:
+    CListBox& names() { return *static_cast<CListBox*>(GetDlgItem(AFX_IDC_LISTBOX)); }
+
+    const std::vector<CDocTemplate*>& m_templates;
+    CDocTemplate* m_chosen = nullptr;
+};
+
+BEGIN_MESSAGE_MAP(new_type_dialog, CDialog)
+ON_LBN_DBLCLK(AFX_IDC_LISTBOX, &new_type_dialog::OnOK)
+END_MESSAGE_MAP()
+
+} // namespace
+
+// The only one, or that which the user chooses; null where the user wants none.
 CDocTemplate* CDocManager::ChooseTemplate() {
     if (m_templates.empty())
         AfxMessageBox(AFX_IDP_FAILED_TO_CREATE_DOC);
-    return m_templates.empty() ? nullptr : m_templates.front();
+    if (m_templates.size() < 2)
+        return m_templates.empty() ? nullptr : m_templates.front();
+    new_type_dialog dialog(m_templates);
+    return dialog.DoModal() == IDOK ? dialog.chosen() : nullptr;
 }
 
 void CDocManager::OnFileNew() {

@@ -10,7 +10,10 @@ IMPLEMENT_DYNAMIC(CDockBar, CControlBar)
 namespace {
 
 CSize size_of(CControlBar& bar, bool horizontal) {
-    return bar.CalcDynamicLayout(-1, (horizontal ? LM_HORZ | LM_HORZDOCK : LM_VERTDOCK) | LM_COMMIT);
+    DWORD mode = horizontal ? LM_HORZ | LM_HORZDOCK : LM_VERTDOCK;
+    if (bar.IsFloating())
+        mode = horizontal ? LM_HORZ | LM_MRUWIDTH : 0;
+    return bar.CalcDynamicLayout(-1, mode | LM_COMMIT);
 }
 
 } // namespace
@@ -58,7 +61,8 @@ CSize CDockBar::CalcFixedLayout(BOOL bStretch, BOOL bHorz) {
         return CSize(0, 0);
     CRect client;
     m_pDockSite->GetClientRect(client);
-    const int room = bHorz ? client.Width() : client.Height();
+    constexpr int endless = 32767;
+    const int docked_room = bHorz ? client.Width() : client.Height(), room = IsFloating() ? endless : docked_room;
     extent all{0, 0};
     for (row& bars : m_rows) {
         for (const docked& one : bars)
@@ -68,7 +72,7 @@ CSize CDockBar::CalcFixedLayout(BOOL bStretch, BOOL bHorz) {
         all.depth += line.depth;
     }
     if (bStretch)
-        all.length = 32767;
+        all.length = endless;
     return bHorz ? CSize(all.length, all.depth) : CSize(all.depth, all.length);
 }
 
@@ -117,6 +121,13 @@ void CDockBar::Dock(CControlBar* bar, LPCRECT rect) {
     DockInRow(bar, index, IsHorizontal() ? place.left : place.top);
 }
 
+// Behind all others of the row.
+void CDockBar::Append(CControlBar* bar, std::size_t index, int at) {
+    if (m_rows.size() <= index)
+        m_rows.emplace_back();
+    m_rows[std::min(index, m_rows.size() - 1)].push_back({bar, std::max(at, 0)});
+}
+
 void CDockBar::DockInRow(CControlBar* bar, std::size_t index, int at) {
     while (m_rows.size() <= index)
         m_rows.emplace_back();
@@ -129,4 +140,13 @@ void CDockBar::DockInRow(CControlBar* bar, std::size_t index, int at) {
         return at < std::max<int>(other.at, horizontal ? rect.left : rect.top);
     });
     bars.insert(behind, {bar, std::max(at, 0)});
+}
+
+void CDockBar::PlaceOf(const CControlBar* bar, int& row, int& at) const {
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        for (const docked& one : m_rows[i]) {
+            if (one.bar == bar)
+                row = static_cast<int>(i), at = one.at;
+        }
+    }
 }

@@ -23,7 +23,10 @@ public:
     // rect: where on the screen the bar would be; null: in a row of its own.
     void Dock(CControlBar* bar, LPCRECT rect);
     void DockInRow(CControlBar* bar, std::size_t index, int at);
+    void Append(CControlBar* bar, std::size_t index, int at);
     void Remove(const CControlBar* bar);
+    // Where the bar lies; left alone where it does not.
+    void PlaceOf(const CControlBar* bar, int& row, int& at) const;
     const std::vector<row>& rows() const { return m_rows; }
 
 protected:

@@ -6,7 +6,6 @@
 #include "afxmsg_.h"
 #include "afxpriv.h"
 #include "file_names.h"
-#include "position_list.h"
 
 #include <memory>
 #include <utility>
@@ -28,33 +27,34 @@ CDocument::~CDocument() {
 }
 
 void CDocument::DisconnectViews() {
-    for (CView* view : std::exchange(m_views, {}))
-        view->m_pDocument = nullptr;
+    while (!m_viewList.IsEmpty())
+        static_cast<CView*>(m_viewList.RemoveHead())->m_pDocument = nullptr;
 }
 
 void CDocument::AddView(CView* pView) {
-    m_views.push_back(pView);
+    m_viewList.AddTail(pView);
     pView->m_pDocument = this;
     OnChangedViewList();
 }
 
 void CDocument::RemoveView(CView* pView) {
-    std::erase(m_views, pView);
+    if (POSITION at = m_viewList.Find(pView))
+        m_viewList.RemoveAt(at);
     pView->m_pDocument = nullptr;
     OnChangedViewList(); // may delete the document
 }
 
 POSITION CDocument::GetFirstViewPosition() const {
-    return first_position(m_views);
+    return m_viewList.GetHeadPosition();
 }
 
 CView* CDocument::GetNextView(POSITION& rPosition) const {
-    return next_at(m_views, rPosition);
+    return static_cast<CView*>(m_viewList.GetNext(rPosition));
 }
 
 // A document nobody sees any more goes, but not while its frames are being closed for it.
 void CDocument::OnChangedViewList() {
-    if (m_views.empty() && m_bAutoDelete && !m_closing)
+    if (m_viewList.IsEmpty() && m_bAutoDelete && !m_closing)
         OnCloseDocument();
     else
         UpdateFrameCounts();
@@ -63,7 +63,8 @@ void CDocument::OnChangedViewList() {
 // Numbers the frames that show the document.
 void CDocument::UpdateFrameCounts() {
     std::vector<CFrameWnd*> frames;
-    for (CView* view : m_views) {
+    for (POSITION at = GetFirstViewPosition(); at != nullptr;) {
+        CView* view = GetNextView(at);
         CFrameWnd* frame = ::IsWindow(view->GetSafeHwnd()) ? view->GetParentFrame() : nullptr;
         if (frame != nullptr && std::find(frames.begin(), frames.end(), frame) == frames.end())
             frames.push_back(frame);
@@ -93,7 +94,8 @@ void CDocument::SendInitialUpdate() {
 
 void CDocument::SetTitle(LPCTSTR lpszTitle) {
     m_strTitle = lpszTitle;
-    for (CView* view : m_views) {
+    for (POSITION at = GetFirstViewPosition(); at != nullptr;) {
+        CView* view = GetNextView(at);
         if (CFrameWnd* frame = view->GetParentFrame())
             frame->OnUpdateFrameTitle(TRUE);
     }
@@ -139,18 +141,18 @@ void CDocument::OnCloseDocument() {
     const bool outer = std::exchange(m_closing, true);
     if (outer)
         return;
-    while (!m_views.empty()) {
-        CView* view = m_views.front();
+    while (!m_viewList.IsEmpty()) {
+        auto* view = static_cast<CView*>(m_viewList.GetHead());
         CFrameWnd* frame = view->GetParentFrame();
         if (frame == nullptr) { // a view that nobody shows in a frame
             view->m_pDocument = nullptr;
-            m_views.erase(m_views.begin());
+            m_viewList.RemoveHead();
             continue;
         }
         PreCloseFrame(frame);
         frame->DestroyWindow();
-        if (!m_views.empty() && m_views.front() == view) { // a view that outlives its frame
-            m_views.erase(m_views.begin());
+        if (!m_viewList.IsEmpty() && m_viewList.GetHead() == view) { // a view that outlives its frame
+            m_viewList.RemoveHead();
             view->m_pDocument = nullptr;
         }
     }
@@ -164,7 +166,8 @@ void CDocument::PreCloseFrame(CFrameWnd*) {}
 
 // Only its last frame has to ask.
 BOOL CDocument::CanCloseFrame(CFrameWnd* pFrame) {
-    for (CView* view : m_views) {
+    for (POSITION at = GetFirstViewPosition(); at != nullptr;) {
+        CView* view = GetNextView(at);
         CFrameWnd* frame = view->GetParentFrame();
         if (frame != nullptr && frame != pFrame)
             return TRUE;

@@ -73,3 +73,15 @@ void CDumpContext::HexDump(LPCTSTR lpszLine, BYTE* pby, int nBytes, int nWidth) 
     }
     *this << "\n";
 }
+
+CDumpContext& AFXAPI operator<<(CDumpContext& dc, SIZE size) {
+    return dc << "(" << size.cx << " x " << size.cy << ")";
+}
+
+CDumpContext& AFXAPI operator<<(CDumpContext& dc, POINT point) {
+    return dc << "(" << point.x << ", " << point.y << ")";
+}
+
+CDumpContext& AFXAPI operator<<(CDumpContext& dc, const RECT& rect) {
+    return dc << "(L " << rect.left << ", T " << rect.top << ", R " << rect.right << ", B " << rect.bottom << ")";
+}

@@ -7,20 +7,34 @@
 
 IMPLEMENT_DYNCREATE(CEditView, CCtrlView)
 
+namespace {
+
+const UINT find_message = ::RegisterWindowMessage(FINDMSGSTRING);
+
+} // namespace
+
 BEGIN_MESSAGE_MAP(CEditView, CCtrlView)
 ON_WM_CREATE()
+ON_WM_DESTROY()
+ON_REGISTERED_MESSAGE(find_message, &CEditView::OnFindReplaceCmd)
 ON_CONTROL_REFLECT_EX(EN_CHANGE, &CEditView::OnEditChange)
 ON_COMMAND(ID_EDIT_CUT, &CEditView::OnEditCut)
 ON_COMMAND(ID_EDIT_COPY, &CEditView::OnEditCopy)
 ON_COMMAND(ID_EDIT_PASTE, &CEditView::OnEditPaste)
 ON_COMMAND(ID_EDIT_CLEAR, &CEditView::OnEditClear)
 ON_COMMAND(ID_EDIT_UNDO, &CEditView::OnEditUndo)
+ON_COMMAND(ID_EDIT_FIND, &CEditView::OnEditFind)
+ON_COMMAND(ID_EDIT_REPLACE, &CEditView::OnEditReplace)
+ON_COMMAND(ID_EDIT_REPEAT, &CEditView::OnEditRepeat)
 ON_COMMAND(ID_EDIT_SELECT_ALL, &CEditView::OnEditSelectAll)
 ON_UPDATE_COMMAND_UI(ID_EDIT_CUT, &CEditView::OnUpdateNeedSel)
 ON_UPDATE_COMMAND_UI(ID_EDIT_COPY, &CEditView::OnUpdateNeedSel)
 ON_UPDATE_COMMAND_UI(ID_EDIT_CLEAR, &CEditView::OnUpdateNeedSel)
 ON_UPDATE_COMMAND_UI(ID_EDIT_PASTE, &CEditView::OnUpdateNeedClip)
 ON_UPDATE_COMMAND_UI(ID_EDIT_SELECT_ALL, &CEditView::OnUpdateNeedText)
+ON_UPDATE_COMMAND_UI(ID_EDIT_FIND, &CEditView::OnUpdateNeedText)
+ON_UPDATE_COMMAND_UI(ID_EDIT_REPLACE, &CEditView::OnUpdateNeedText)
+ON_UPDATE_COMMAND_UI(ID_EDIT_REPEAT, &CEditView::OnUpdateNeedFind)
 ON_UPDATE_COMMAND_UI(ID_EDIT_UNDO, &CEditView::OnUpdateEditUndo)
 END_MESSAGE_MAP()
 

@@ -28,6 +28,7 @@ ON_WM_ENDSESSION()
 ON_MESSAGE(WM_SETMESSAGESTRING, &CFrameWnd::OnSetMessageString)
 ON_MESSAGE(WM_POPMESSAGESTRING, &CFrameWnd::OnPopMessageString)
 ON_MESSAGE_VOID(WM_IDLEUPDATECMDUI, &CFrameWnd::OnIdleUpdateCmdUI)
+ON_MESSAGE(WM_COMMANDHELP, &CFrameWnd::OnCommandHelp)
 ON_MESSAGE_VOID(WM_RECALCPARENT, &CFrameWnd::OnRecalcParent)
 ON_UPDATE_COMMAND_UI(ID_INDICATOR_CAPS, &CFrameWnd::OnUpdateKeyIndicator)
 ON_UPDATE_COMMAND_UI(ID_INDICATOR_NUM, &CFrameWnd::OnUpdateKeyIndicator)
@@ -100,6 +101,7 @@ LPCTSTR CFrameWnd::GetIconWndClass(DWORD, UINT nIDResource) {
 }
 
 BOOL CFrameWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pParentWnd, CCreateContext* pContext) {
+    m_nIDHelp = nIDResource;
     CString text, title;
     if (text.LoadString(nIDResource))
         AfxExtractSubString(title, text, 0);
@@ -221,6 +223,7 @@ void CFrameWnd::SetActiveView(CView* pViewNew, BOOL bNotify) {
 
 void CFrameWnd::OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized) {
     CWnd::OnActivate(nState, pWndOther, bMinimized);
+    ShowActiveCaptions(nState != WA_INACTIVE ? m_hWnd : pWndOther->GetSafeHwnd());
     CView* view = GetActiveView();
     if (view == nullptr)
         return;
@@ -309,8 +312,8 @@ void CFrameWnd::UpdateFrameTitleForDocument(LPCTSTR lpszDocName) {
 }
 
 bool CFrameWnd::IsOnlyFrameOf(CDocument* pDocument) const {
-    for (CView* view : pDocument->m_views) {
-        CFrameWnd* frame = view->GetParentFrame();
+    for (POSITION at = pDocument->GetFirstViewPosition(); at != nullptr;) {
+        CFrameWnd* frame = pDocument->GetNextView(at)->GetParentFrame();
         if (frame != nullptr && frame != this)
             return false;
     }

@@ -43,6 +43,7 @@ void CFrameWnd::RecalcLayout(BOOL) {
     m_in_layout = true;
     m_layout_wanted = false;
     LayoutClient();
+    LayoutFloats();
     m_in_layout = false;
 }
 

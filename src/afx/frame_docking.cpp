@@ -4,6 +4,7 @@
 #include "dock_bar.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -16,12 +17,6 @@ constexpr side sides[] = {{AFX_IDW_DOCKBAR_TOP, CBRS_ALIGN_TOP, CBRS_TOP},
                           {AFX_IDW_DOCKBAR_BOTTOM, CBRS_ALIGN_BOTTOM, CBRS_BOTTOM},
                           {AFX_IDW_DOCKBAR_LEFT, CBRS_ALIGN_LEFT, CBRS_LEFT},
                           {AFX_IDW_DOCKBAR_RIGHT, CBRS_ALIGN_RIGHT, CBRS_RIGHT}};
-
-CString bar_section(LPCTSTR profile, std::size_t index) {
-    CString section;
-    section.Format("%s-Bar%u", profile, static_cast<unsigned>(index));
-    return section;
-}
 
 } // namespace
 
@@ -66,63 +61,55 @@ void CFrameWnd::DockControlBar(CControlBar* pBar, CDockBar* pDockBar, LPCRECT lp
             at = &one;
     }
     ENSURE_ARG(at != nullptr && pBar != nullptr && (pBar->m_dwDockStyle & at->align) != 0);
-    if (pBar->m_pDockBar != nullptr)
-        pBar->m_pDockBar->Remove(pBar);
-    pBar->m_pDockBar = pDockBar;
+    CDockBar* before = std::exchange(pBar->m_pDockBar, pDockBar);
+    if (before != nullptr)
+        before->Remove(pBar);
+    pBar->m_last_side = at->id;
     constexpr DWORD borders = CBRS_BORDER_ANY;
     pBar->SetBarStyle((pBar->GetBarStyle() & ~(CBRS_ALIGN_ANY | borders | CBRS_FLOATING)) | at->align |
                       (pBar->GetBarStyle() & borders));
     pDockBar->Dock(pBar, lpRect);
     if (::GetParent(pBar->m_hWnd) != pDockBar->m_hWnd)
         pBar->SetParent(pDockBar);
+    DestroyEmptyFloat(before);
     m_layout_wanted = true;
 }
 
-void CFrameWnd::SaveBarState(LPCTSTR lpszProfileName) const {
-    CWinApp* app = AfxGetApp();
-    std::size_t count = 0;
-    for (CControlBar* bar : m_bars) {
-        if (bar->IsDockBar())
+// The dock bar that the pointer is near, if the bar may be docked there.
+CDockBar* CFrameWnd::DockBarNear(const CControlBar& bar, CPoint screen) {
+    constexpr int reach = 24;
+    for (const side& one : sides) {
+        CDockBar* dock = (bar.m_dwDockStyle & one.align) != 0 ? DockBarAt(one.id) : nullptr;
+        if (dock == nullptr)
             continue;
-        const CString section = bar_section(lpszProfileName, count++);
-        app->WriteProfileInt(section, "BarID", bar->GetDlgCtrlID());
-        app->WriteProfileInt(section, "Visible", bar->IsVisible());
-        app->WriteProfileInt(section, "Docked", bar->m_pDockBar != nullptr ? bar->m_pDockBar->GetDlgCtrlID() : 0);
-        if (bar->m_pDockBar == nullptr)
-            continue;
-        const auto& rows = bar->m_pDockBar->rows();
-        for (std::size_t row = 0; row < rows.size(); ++row) {
-            for (const CDockBar::docked& one : rows[row]) {
-                if (one.bar != bar)
-                    continue;
-                app->WriteProfileInt(section, "Row", static_cast<int>(row));
-                app->WriteProfileInt(section, "At", one.at);
-            }
-        }
+        CRect rect;
+        dock->GetWindowRect(rect);
+        rect.InflateRect(reach, reach);
+        if (rect.PtInRect(screen))
+            return dock;
     }
-    app->WriteProfileInt(CString(lpszProfileName) + "-Summary", "Bars", static_cast<int>(count));
+    return nullptr;
 }
 
-void CFrameWnd::LoadBarState(LPCTSTR lpszProfileName) {
-    constexpr UINT most = 256, most_rows = 64;
-    CWinApp* app = AfxGetApp();
-    const UINT count = std::min(app->GetProfileInt(CString(lpszProfileName) + "-Summary", "Bars", 0), most);
-    for (UINT i = 0; i < count; ++i) {
-        const CString section = bar_section(lpszProfileName, i);
-        CControlBar* bar = GetControlBar(app->GetProfileInt(section, "BarID", 0));
-        if (bar == nullptr || bar->IsDockBar())
-            continue;
-        CDockBar* dock = DockBarAt(app->GetProfileInt(section, "Docked", 0));
-        const auto side_at = std::find_if(std::begin(sides), std::end(sides), [&](const side& one) {
-            return dock != nullptr && dock->GetDlgCtrlID() == static_cast<int>(one.id);
-        });
-        if (side_at != std::end(sides) && (bar->m_dwDockStyle & side_at->align) != 0) {
-            DockControlBar(bar, dock);
-            dock->Remove(bar);
-            const UINT row = std::min(app->GetProfileInt(section, "Row", 0), most_rows);
-            dock->DockInRow(bar, row, static_cast<int>(app->GetProfileInt(section, "At", 0)));
-        }
-        ShowControlBar(bar, app->GetProfileInt(section, "Visible", TRUE) != 0, TRUE);
-    }
+// A key keeps the bar from being docked.
+void CFrameWnd::DropControlBar(CControlBar* bar, CPoint screen, const CPoint* floating) {
+    CRect place;
+    bar->GetWindowRect(place);
+    place.OffsetRect(screen.x - place.left, screen.y - place.top);
+    CDockBar* dock = ::GetKeyState(VK_CONTROL) < 0 ? nullptr : DockBarNear(*bar, screen);
+    if (dock != nullptr)
+        DockControlBar(bar, dock, place);
+    else if (floating != nullptr)
+        FloatControlBar(bar, *floating, CBRS_ALIGN_TOP | (bar->GetBarStyle() & CBRS_SIZE_DYNAMIC));
+    RecalcLayout();
+}
+
+void CFrameWnd::ToggleFloating(CControlBar* bar) {
+    const bool floating = bar->IsFloating();
+    CDockBar* last = DockBarAt(bar->m_last_side);
+    if (!floating)
+        FloatControlBar(bar, bar->m_last_place, CBRS_ALIGN_TOP | (bar->GetBarStyle() & CBRS_SIZE_DYNAMIC));
+    else if (last != nullptr)
+        DockControlBar(bar, last);
     RecalcLayout();
 }

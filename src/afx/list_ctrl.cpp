@@ -209,3 +209,27 @@ CImageList* CListCtrl::CreateDragImage(int nItem, LPPOINT lpPoint) {
 CImageList* CTreeCtrl::CreateDragImage(HTREEITEM hItem) {
     return new_list(SendMessage(TVM_CREATEDRAGIMAGE, 0, afx_param(hItem)));
 }
+
+namespace {
+
+LVBKIMAGE image_record(DWORD source, BOOL tile, int x_percent, int y_percent) {
+    LVBKIMAGE image{};
+    image.ulFlags = source | (tile ? LVBKIF_STYLE_TILE : LVBKIF_STYLE_NORMAL);
+    image.xOffsetPercent = x_percent;
+    image.yOffsetPercent = y_percent;
+    return image;
+}
+
+} // namespace
+
+BOOL CListCtrl::SetBkImage(HBITMAP hbm, BOOL fTile, int xOffsetPercent, int yOffsetPercent) {
+    LVBKIMAGE image = image_record(LVBKIF_SOURCE_HBITMAP, fTile, xOffsetPercent, yOffsetPercent);
+    image.hbm = hbm;
+    return SetBkImage(&image);
+}
+
+BOOL CListCtrl::SetBkImage(LPTSTR pszUrl, BOOL fTile, int xOffsetPercent, int yOffsetPercent) {
+    LVBKIMAGE image = image_record(LVBKIF_SOURCE_URL, fTile, xOffsetPercent, yOffsetPercent);
+    image.pszImage = pszUrl;
+    return SetBkImage(&image);
+}

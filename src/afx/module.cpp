@@ -42,6 +42,24 @@ BOOL AFXAPI AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hModule)
     return TRUE;
 }
 
+void AFXAPI AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL) {
+    for (CDynLinkLibrary* at = first_library; at != nullptr;) {
+        CDynLinkLibrary* next = at->m_pNextDLL;
+        if (at->m_hModule == state.hModule)
+            delete at;
+        at = next;
+    }
+    state.bInitialized = FALSE;
+}
+
+HINSTANCE AFXAPI AfxLoadLibrary(LPCTSTR lpszModuleName) {
+    return ::LoadLibrary(lpszModuleName);
+}
+
+BOOL AFXAPI AfxFreeLibrary(HINSTANCE hInstLib) {
+    return ::FreeLibrary(hInstLib);
+}
+
 CDynLinkLibrary::CDynLinkLibrary(AFX_EXTENSION_MODULE& state, BOOL bSystem)
     : CDynLinkLibrary(state.hModule, state.hResource) {}
 

@@ -3,6 +3,7 @@
 #include "printer.h"
 
 IMPLEMENT_DYNAMIC(CPrintDialog, CCommonDialog)
+IMPLEMENT_DYNAMIC(CPageSetupDialog, CCommonDialog)
 
 CPrintDialog::CPrintDialog(BOOL bPrintSetupOnly, DWORD dwFlags, CWnd* pParentWnd) : CCommonDialog(pParentWnd), m_pd{} {
     m_pd.lStructSize = sizeof(m_pd);
@@ -36,12 +37,70 @@ LPDEVMODE CPrintDialog::GetDevMode() const {
     return m_pd.hDevMode != nullptr ? static_cast<LPDEVMODE>(::GlobalLock(m_pd.hDevMode)) : nullptr;
 }
 
-CString CPrintDialog::Name(WORD DEVNAMES::*offset) const {
-    const auto* names =
-        m_pd.hDevNames != nullptr ? static_cast<const DEVNAMES*>(::GlobalLock(m_pd.hDevNames)) : nullptr;
+namespace {
+
+CString name_in(HGLOBAL memory, WORD DEVNAMES::*offset) {
+    const auto* names = memory != nullptr ? static_cast<const DEVNAMES*>(::GlobalLock(memory)) : nullptr;
     if (names == nullptr)
         return {};
     const CString name = reinterpret_cast<LPCTSTR>(names) + names->*offset;
-    ::GlobalUnlock(m_pd.hDevNames);
+    ::GlobalUnlock(memory);
     return name;
+}
+
+} // namespace
+
+CString CPrintDialog::GetDriverName() const {
+    return name_in(m_pd.hDevNames, &DEVNAMES::wDriverOffset);
+}
+
+CString CPrintDialog::GetDeviceName() const {
+    return name_in(m_pd.hDevNames, &DEVNAMES::wDeviceOffset);
+}
+
+CString CPrintDialog::GetPortName() const {
+    return name_in(m_pd.hDevNames, &DEVNAMES::wOutputOffset);
+}
+
+CPageSetupDialog::CPageSetupDialog(DWORD dwFlags, CWnd* pParentWnd) : CCommonDialog(pParentWnd), m_psd{} {
+    m_psd.lStructSize = sizeof(m_psd);
+    m_psd.Flags = dwFlags;
+}
+
+INT_PTR CPageSetupDialog::DoModal() {
+    const modal_parent parent(m_pParentWnd);
+    m_psd.hwndOwner = parent.handle();
+    if (::PageSetupDlg(&m_psd))
+        return IDOK;
+    return ::CommDlgExtendedError() == 0 ? IDCANCEL : -1;
+}
+
+HDC CPageSetupDialog::CreatePrinterDC() {
+    PRINTDLG chosen{};
+    chosen.hDevMode = m_psd.hDevMode;
+    chosen.hDevNames = m_psd.hDevNames;
+    return create_printer_context(chosen);
+}
+
+void CPageSetupDialog::GetMargins(LPRECT lpRectMargins, LPRECT lpRectMinMargins) const {
+    if (lpRectMargins != nullptr)
+        *lpRectMargins = m_psd.rtMargin;
+    if (lpRectMinMargins != nullptr)
+        *lpRectMinMargins = m_psd.rtMinMargin;
+}
+
+LPDEVMODE CPageSetupDialog::GetDevMode() const {
+    return m_psd.hDevMode != nullptr ? static_cast<LPDEVMODE>(::GlobalLock(m_psd.hDevMode)) : nullptr;
+}
+
+CString CPageSetupDialog::GetDriverName() const {
+    return name_in(m_psd.hDevNames, &DEVNAMES::wDriverOffset);
+}
+
+CString CPageSetupDialog::GetDeviceName() const {
+    return name_in(m_psd.hDevNames, &DEVNAMES::wDeviceOffset);
+}
+
+CString CPageSetupDialog::GetPortName() const {
+    return name_in(m_psd.hDevNames, &DEVNAMES::wOutputOffset);
 }

@@ -41,6 +41,30 @@ void CPropertySheet::Construct(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelec
     m_psh.nStartPage = iSelectPage;
 }
 
+CPropertySheet::CPropertySheet(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage, HBITMAP hbmWatermark,
+                               HPALETTE hpalWatermark, HBITMAP hbmHeader) {
+    Construct(nIDCaption, pParentWnd, iSelectPage, hbmWatermark, hpalWatermark, hbmHeader);
+}
+
+CPropertySheet::CPropertySheet(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage, HBITMAP hbmWatermark,
+                               HPALETTE hpalWatermark, HBITMAP hbmHeader) {
+    Construct(pszCaption, pParentWnd, iSelectPage, hbmWatermark, hpalWatermark, hbmHeader);
+}
+
+void CPropertySheet::Construct(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage, HBITMAP hbmWatermark,
+                               HPALETTE hpalWatermark, HBITMAP hbmHeader) {
+    Construct(pszCaption, pParentWnd, iSelectPage);
+    if (hbmWatermark != nullptr)
+        m_psh.dwFlags |= PSH_USEHBMWATERMARK | PSH_WATERMARK;
+    if (hpalWatermark != nullptr)
+        m_psh.dwFlags |= PSH_USEHPLWATERMARK;
+    if (hbmHeader != nullptr)
+        m_psh.dwFlags |= PSH_USEHBMHEADER | PSH_HEADER;
+    m_psh.hbmWatermark = hbmWatermark;
+    m_psh.hplWatermark = hpalWatermark;
+    m_psh.hbmHeader = hbmHeader;
+}
+
 namespace {
 // Whose window PropertySheet is about to make; its callback is told nothing else.
 thread_local CPropertySheet* sheet_in_creation = nullptr;

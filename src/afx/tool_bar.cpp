@@ -35,10 +35,8 @@ BOOL CToolBar::Create(CWnd* pParentWnd, DWORD dwStyle, UINT nID) {
 BOOL CToolBar::CreateEx(CWnd* pParentWnd, DWORD dwCtrlStyle, DWORD dwStyle, CRect rcBorders, UINT nID) {
     SetBorders(rcBorders);
     m_dwStyle = dwStyle & CBRS_ALL;
-    DWORD style = (dwStyle & ~static_cast<DWORD>(CBRS_ALL)) | dwCtrlStyle | CCS_NOPARENTALIGN | CCS_NOMOVEY |
-                  CCS_NODIVIDER | CCS_NORESIZE;
-    if ((m_dwStyle & CBRS_TOOLTIPS) != 0)
-        style |= TBSTYLE_TOOLTIPS;
+    const DWORD style = (dwStyle & ~static_cast<DWORD>(CBRS_ALL)) | dwCtrlStyle | CCS_NOPARENTALIGN | CCS_NOMOVEY |
+                        CCS_NODIVIDER | CCS_NORESIZE;
     ::InitCommonControls();
     if (!CWnd::Create(TOOLBARCLASSNAME, nullptr, style, CRect(0, 0, 0, 0), pParentWnd, nID))
         return FALSE;
@@ -179,7 +177,8 @@ BOOL CToolBar::SetButtons(const UINT* lpIDArray, int nIDCount) {
             return FALSE;
     }
     m_nCount = nIDCount;
-    WrapButtons(!IsHorizontal());
+    constexpr int endless = 32767;
+    WrapButtons(IsHorizontal() ? endless : 0);
     return TRUE;
 }
 

@@ -1,6 +1,11 @@
 #include "afxcmn.h"
+#include "afxmsg_.h"
 
 IMPLEMENT_DYNAMIC(CToolTipCtrl, CWnd)
+
+BEGIN_MESSAGE_MAP(CToolTipCtrl, CWnd)
+ON_MESSAGE(TTM_WINDOWFROMPOINT, &CToolTipCtrl::OnWindowFromPoint)
+END_MESSAGE_MAP()
 
 namespace {
 
@@ -99,4 +104,13 @@ BOOL CToolTipCtrl::HitTest(CWnd* pWnd, CPoint pt, LPTOOLINFO lpToolInfo) const {
         return FALSE;
     *lpToolInfo = test.ti;
     return TRUE;
+}
+
+// The system finds no disabled windows, which have tips as well.
+LRESULT CToolTipCtrl::OnWindowFromPoint(WPARAM, LPARAM lParam) {
+    auto found = reinterpret_cast<HWND>(Default());
+    CPoint point = *reinterpret_cast<const POINT*>(lParam);
+    ::ScreenToClient(found, &point);
+    const HWND child = found != nullptr ? ::ChildWindowFromPointEx(found, point, CWP_SKIPINVISIBLE) : nullptr;
+    return reinterpret_cast<LRESULT>(child != nullptr ? child : found);
 }

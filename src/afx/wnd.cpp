@@ -104,6 +104,8 @@ BOOL CWnd::PreCreateWindow(CREATESTRUCT& cs) {
 void CWnd::PreSubclassWindow() {}
 
 BOOL CWnd::PreTranslateMessage(MSG* pMsg) {
+    if (m_has_tips)
+        FilterToolTipMessage(pMsg);
     return FALSE;
 }
 

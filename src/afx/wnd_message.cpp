@@ -90,8 +90,10 @@ BOOL CWnd::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     if (ReflectLastMsg(header->hwndFrom, pResult))
         return TRUE;
     notification notify{header, pResult};
-    return OnCmdMsg(static_cast<UINT>(header->idFrom), static_cast<int>(MAKELONG(header->code, WM_NOTIFY)), &notify,
-                    nullptr);
+    // The control's own number: idFrom of a tip for a window is that window's handle.
+    const UINT id = ::IsWindow(header->hwndFrom) ? static_cast<UINT>(::GetDlgCtrlID(header->hwndFrom))
+                                                 : static_cast<UINT>(header->idFrom);
+    return OnCmdMsg(id, static_cast<int>(MAKELONG(header->code, WM_NOTIFY)), &notify, nullptr);
 }
 
 BOOL CWnd::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {

@@ -1,0 +1,204 @@
+// Floating bars, small frames, and the places of all bars as one state.
+#include "afx_test_app.h"
+
+#include <afxadv.h>
+#include <afxcmn.h>
+#include <afxext.h>
+#include <afxpriv.h>
+
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+
+namespace {
+
+class docking_frame : public CFrameWnd {
+public:
+    CToolBar tools, more;
+
+    bool open() {
+        if (!LoadFrame(IDR_FRAME) || !make(tools, AFX_IDW_TOOLBAR) || !make(more, 0xE850))
+            return false;
+        EnableDocking(CBRS_ALIGN_ANY);
+        DockControlBar(&tools);
+        DockControlBar(&more);
+        SetWindowPos(nullptr, 20, 20, 500, 300, SWP_NOZORDER | SWP_NOACTIVATE);
+        ShowWindow(SW_SHOWNOACTIVATE);
+        RecalcLayout();
+        return true;
+    }
+    bool make(CToolBar& bar, UINT id) {
+        if (!bar.Create(this, WS_CHILD | WS_VISIBLE | CBRS_TOP | CBRS_SIZE_DYNAMIC, id) || !bar.LoadToolBar(IDR_FRAME))
+            return false;
+        bar.SetWindowText("Title");
+        bar.EnableDocking(CBRS_ALIGN_ANY);
+        return true;
+    }
+    CRect on_screen(CWnd& wnd) {
+        CRect rect;
+        wnd.GetWindowRect(rect);
+        return rect;
+    }
+    CFrameWnd& around(CToolBar& bar) { return *static_cast<CFrameWnd*>(CWnd::FromHandle(::GetAncestor(bar, GA_ROOT))); }
+    int toggled = 0;
+    void PostNcDestroy() override {} // lives on the stack
+
+protected:
+    afx_msg void OnOn() { ++toggled; }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(docking_frame, CFrameWnd)
+ON_COMMAND(ID_TEST_ON, &docking_frame::OnOn)
+END_MESSAGE_MAP()
+
+TEST(AfxFloating, ABarFloatsKeepsItsCommandsAndComesBack) {
+    docking_frame frame;
+    ASSERT_TRUE(frame.open());
+    const int docked_top = frame.on_screen(frame.more).top;
+    frame.FloatControlBar(&frame.tools, CPoint(150, 120));
+    frame.RecalcLayout();
+    EXPECT_TRUE(frame.tools.IsFloating());
+    EXPECT_LT(frame.on_screen(frame.more).top, docked_top) << "its row is gone";
+    CFrameWnd& small = frame.around(frame.tools);
+    ASSERT_NE(&small, &frame);
+    EXPECT_EQ(frame.on_screen(small).TopLeft(), CPoint(150, 120));
+    EXPECT_TRUE(small.IsWindowVisible());
+    CString title;
+    small.GetWindowText(title);
+    EXPECT_STREQ(title, "Title");
+    CRect client;
+    small.GetClientRect(client);
+    EXPECT_EQ(client.Size(), frame.on_screen(frame.tools).Size());
+    EXPECT_EQ(frame.tools.GetDockingFrame(), &frame);
+    frame.tools.SendMessage(WM_IDLEUPDATECMDUI, TRUE);
+    EXPECT_NE(frame.tools.GetToolBarCtrl().IsButtonEnabled(ID_TEST_ON), 0);
+    frame.tools.SendMessage(WM_COMMAND, ID_TEST_ON);
+    EXPECT_EQ(frame.toggled, 1);
+
+    small.SendMessage(WM_CLOSE);
+    EXPECT_FALSE(frame.tools.IsVisible());
+    EXPECT_FALSE(small.IsWindowVisible());
+    EXPECT_TRUE(frame.OnBarCheck(ID_VIEW_TOOLBAR));
+    EXPECT_TRUE(small.IsWindowVisible()) << "shown again where it was";
+    EXPECT_EQ(frame.on_screen(small).TopLeft(), CPoint(150, 120));
+
+    const HWND gone = small.m_hWnd;
+    frame.DockControlBar(&frame.tools, AFX_IDW_DOCKBAR_LEFT);
+    frame.RecalcLayout();
+    EXPECT_FALSE(::IsWindow(gone));
+    EXPECT_FALSE(frame.tools.IsFloating());
+    EXPECT_LT(frame.on_screen(frame.tools).Width(), frame.on_screen(frame.tools).Height());
+    frame.tools.SendMessage(WM_LBUTTONDBLCLK, 0, MAKELPARAM(-1, -1));
+    EXPECT_TRUE(frame.tools.IsFloating()) << "a double click beside the buttons";
+    frame.around(frame.tools).SendMessage(WM_NCLBUTTONDBLCLK, HTCAPTION);
+    EXPECT_FALSE(frame.tools.IsFloating());
+    EXPECT_EQ(frame.tools.GetBarStyle() & CBRS_ALIGN_ANY, static_cast<DWORD>(CBRS_ALIGN_LEFT)) << "where it was";
+}
+
+TEST(AfxFloating, ABarIsDockedWhereItIsDroppedNearASide) {
+    docking_frame frame;
+    ASSERT_TRUE(frame.open());
+    frame.more.EnableDocking(CBRS_ALIGN_TOP | CBRS_ALIGN_RIGHT);
+    CRect inside;
+    frame.GetClientRect(inside);
+    frame.ClientToScreen(inside);
+    const CPoint middle = inside.CenterPoint();
+    const struct {
+        CPoint dropped;
+        DWORD side; // 0: it floats on
+    } rows[] = {{middle, 0},
+                {{inside.left + 5, middle.y}, 0}, // a side that it refuses
+                {{inside.right - 5, middle.y}, CBRS_ALIGN_RIGHT},
+                {{middle.x, inside.top + 5}, CBRS_ALIGN_TOP}};
+    for (const auto& row : rows) {
+        frame.FloatControlBar(&frame.more, CPoint(150, 120));
+        ::SetCursorPos(row.dropped.x, row.dropped.y);
+        frame.around(frame.more).SendMessage(WM_EXITSIZEMOVE);
+        const DWORD side = frame.more.IsFloating() ? 0 : frame.more.GetBarStyle() & CBRS_ALIGN_ANY;
+        EXPECT_EQ(side, row.side) << row.dropped.x;
+    }
+}
+
+TEST(AfxFloating, ABarIsResizedByWholeLinesOfButtons) {
+    docking_frame frame;
+    ASSERT_TRUE(frame.open());
+    frame.FloatControlBar(&frame.tools, CPoint(150, 120));
+    CFrameWnd& small = frame.around(frame.tools);
+    const CRect wide = frame.on_screen(small);
+    CRect rect = wide;
+    rect.right -= wide.Width() / 2;
+    small.SendMessage(WM_SIZING, WMSZ_RIGHT, reinterpret_cast<LPARAM>(&rect));
+    EXPECT_LT(rect.Width(), wide.Width() / 2 + 30);
+    EXPECT_GT(rect.Height(), wide.Height() + 15) << "more lines";
+    const CRect narrow = rect;
+    small.RecalcLayout();
+    EXPECT_EQ(frame.on_screen(small).Size(), narrow.Size());
+    frame.ShowControlBar(&frame.tools, FALSE, FALSE);
+    frame.ShowControlBar(&frame.tools, TRUE, FALSE);
+    EXPECT_EQ(frame.on_screen(small).Size(), narrow.Size()) << "as it was last";
+    rect.bottom = rect.top + wide.Height();
+    small.SendMessage(WM_SIZING, WMSZ_BOTTOM, reinterpret_cast<LPARAM>(&rect));
+    EXPECT_EQ(rect.Size(), wide.Size());
+}
+
+TEST(AfxDockState, PutsEveryBarBackWhereItWas) {
+    docking_frame frame;
+    ASSERT_TRUE(frame.open());
+    frame.DockControlBar(&frame.tools, AFX_IDW_DOCKBAR_TOP); // the second row now
+    frame.RecalcLayout();
+    const auto places = [&] {
+        frame.SendMessage(WM_IDLEUPDATECMDUI, TRUE);
+        return std::vector<int>{frame.on_screen(frame.tools).top, frame.on_screen(frame.more).top,
+                                frame.tools.IsFloating(), frame.more.IsFloating(), frame.more.IsVisible()};
+    };
+    CDockState rows, floating, read;
+    frame.GetDockState(rows);
+    const auto in_rows = places();
+    frame.FloatControlBar(&frame.more, CPoint(200, 150));
+    frame.ShowControlBar(&frame.tools, FALSE, FALSE);
+    frame.GetDockState(floating);
+    const auto in_float = places();
+    frame.SetDockState(rows);
+    EXPECT_EQ(places(), in_rows);
+    EXPECT_TRUE(frame.tools.IsVisible());
+
+    floating.SaveState("Floating");
+    read.LoadState("Floating");
+    frame.SetDockState(read);
+    EXPECT_EQ(places(), in_float);
+    EXPECT_FALSE(frame.tools.IsVisible());
+
+    CMemFile file;
+    {
+        CArchive out(&file, CArchive::store);
+        rows.Serialize(out);
+    }
+    file.SeekToBegin();
+    {
+        CArchive in(&file, CArchive::load);
+        read.Serialize(in);
+    }
+    EXPECT_EQ(read.m_arrBarInfo.GetSize(), 2);
+    frame.SetDockState(read);
+    EXPECT_EQ(places(), in_rows);
+}
+
+TEST(AfxMiniFrame, IsASmallPopupOfItsOwner) {
+    docking_frame frame;
+    ASSERT_TRUE(frame.open());
+    auto* small = new CMiniFrameWnd; // deletes itself
+    ASSERT_TRUE(small->Create(nullptr, "Tools", WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_VISIBLE | MFS_MOVEFRAME,
+                              CRect(100, 100, 200, 180), &frame));
+    EXPECT_EQ(small->GetExStyle() & WS_EX_TOOLWINDOW, static_cast<DWORD>(WS_EX_TOOLWINDOW));
+    EXPECT_EQ(::GetWindow(small->m_hWnd, GW_OWNER), frame.m_hWnd);
+    EXPECT_EQ(small->SendMessage(WM_NCHITTEST, 0, MAKELPARAM(101, 140)), HTCAPTION) << "any edge moves it";
+    CRect window(0, 0, 50, 50);
+    CMiniFrameWnd::CalcBorders(window, small->GetStyle(), small->GetExStyle());
+    CRect client;
+    small->SetWindowPos(nullptr, 0, 0, window.Width(), window.Height(), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    small->GetClientRect(client);
+    EXPECT_EQ(client.Size(), CSize(50, 50));
+}
+
+} // namespace

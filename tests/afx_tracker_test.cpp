@@ -1,0 +1,110 @@
+// Rectangles that follow the pointer, and device contexts that record.
+#include "afx_test_app.h"
+
+#include <afxext.h>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+// A tracking is run by messages that lie in the queue before it begins.
+class AfxTracker : public testing::Test {
+protected:
+    AfxTracker() { EXPECT_TRUE(create_visible_popup(wnd)); }
+    void queue(UINT message, int x, int y) { wnd.PostMessage(message, 0, MAKELPARAM(x, y)); }
+    CRect tracked(CRectTracker& tracker, CPoint from, CPoint to, UINT end = WM_LBUTTONUP, BOOL invert = FALSE) {
+        queue(WM_MOUSEMOVE, to.x, to.y);
+        wnd.PostMessage(end, end == WM_KEYDOWN ? VK_ESCAPE : 0, MAKELPARAM(to.x, to.y));
+        changed = tracker.Track(&wnd, from, invert);
+        EXPECT_EQ(::GetCapture(), nullptr);
+        return tracker.m_rect;
+    }
+
+    CWnd wnd;
+    BOOL changed = FALSE;
+};
+
+TEST_F(AfxTracker, MovesSidesCornersAndTheWhole) {
+    const CRect start(20, 20, 80, 60);
+    const struct {
+        CPoint from, by;
+        CRect to;
+    } rows[] = {{{20, 20}, {-5, 3}, {15, 23, 80, 60}}, {{79, 59}, {7, 7}, {20, 20, 87, 67}},
+                {{50, 21}, {9, 4}, {20, 24, 80, 60}},  {{79, 40}, {6, 9}, {20, 20, 86, 60}},
+                {{50, 40}, {-8, 5}, {12, 25, 72, 65}}, {{20, 40}, {90, 0}, {72, 20, 80, 60}}};
+    for (const auto& row : rows) {
+        CRectTracker tracker(start, CRectTracker::resizeInside | CRectTracker::solidLine);
+        EXPECT_EQ(tracked(tracker, row.from, row.from + row.by), row.to) << row.from.x << ' ' << row.from.y;
+        EXPECT_TRUE(changed);
+    }
+    CRectTracker tracker(start, CRectTracker::resizeInside);
+    EXPECT_EQ(tracked(tracker, {20, 20}, {30, 30}, WM_KEYDOWN), start) << "given up";
+    EXPECT_FALSE(changed);
+    EXPECT_EQ(tracked(tracker, {20, 40}, {95, 40}, WM_LBUTTONUP, TRUE), CRect(95, 20, 80, 60)) << "turned over";
+    EXPECT_EQ(tracker.NormalizeHit(CRectTracker::hitLeft), CRectTracker::hitRight);
+    EXPECT_EQ(tracker.HitTest({88, 40}), CRectTracker::hitMiddle);
+    EXPECT_EQ(tracker.HitTest({10, 10}), CRectTracker::hitNothing);
+
+    CRectTracker band;
+    queue(WM_LBUTTONUP, 10, 10);
+    EXPECT_FALSE(band.TrackRubberBand(&wnd, {10, 10})) << "a click";
+    queue(WM_MOUSEMOVE, 50, 40);
+    queue(WM_LBUTTONUP, 50, 40);
+    EXPECT_TRUE(band.TrackRubberBand(&wnd, {10, 10}));
+    EXPECT_EQ(band.m_rect, CRect(10, 10, 50, 40));
+}
+
+TEST_F(AfxTracker, DrawsHandlesWhereItFindsThem) {
+    CClientDC screen(&wnd);
+    CDC dc;
+    dc.CreateCompatibleDC(&screen);
+    CBitmap bitmap;
+    bitmap.CreateCompatibleBitmap(&screen, 120, 100);
+    CBitmap* before = dc.SelectObject(&bitmap);
+    for (const UINT style : {CRectTracker::resizeInside, CRectTracker::resizeOutside}) {
+        dc.PatBlt(0, 0, 120, 100, WHITENESS);
+        const CRectTracker tracker(CRect(20, 20, 80, 60), style);
+        tracker.Draw(&dc);
+        int wrong = 0, black = 0;
+        for (int y = 0; y < 100; ++y) {
+            for (int x = 0; x < 120; ++x) {
+                const int hit = tracker.HitTest({x, y});
+                const bool on_handle = hit >= 0 && hit != CRectTracker::hitMiddle, drawn = dc.GetPixel(x, y) == 0;
+                wrong += drawn != on_handle;
+                black += drawn;
+            }
+        }
+        EXPECT_EQ(wrong, 0) << style;
+        EXPECT_EQ(black, 8 * 16) << style;
+    }
+    dc.SelectObject(before);
+}
+
+TEST_F(AfxTracker, ARecordingIsPlayedWhereItIsWanted) {
+    CClientDC screen(&wnd);
+    CMetaFileDC plain, rich;
+    ASSERT_TRUE(plain.Create());
+    EXPECT_FALSE(plain.Create()) << "it records already";
+    EXPECT_EQ(plain.GetDeviceCaps(LOGPIXELSX), 0) << "no context tells its attributes";
+    plain.SetAttribDC(screen.m_hDC);
+    EXPECT_NE(plain.GetDeviceCaps(LOGPIXELSX), 0);
+    plain.FillSolidRect(10, 10, 20, 20, RGB(200, 0, 0));
+    const HMETAFILE recorded = plain.Close();
+    ASSERT_TRUE(rich.CreateEnhanced(&screen, nullptr, nullptr, nullptr));
+    rich.FillSolidRect(0, 0, 50, 50, RGB(0, 0, 200));
+    const HENHMETAFILE enhanced = rich.CloseEnhanced();
+    CDC dc;
+    dc.CreateCompatibleDC(&screen);
+    CBitmap bitmap;
+    bitmap.CreateCompatibleBitmap(&screen, 120, 100);
+    CBitmap* before = dc.SelectObject(&bitmap);
+    EXPECT_TRUE(dc.PlayMetaFile(recorded));
+    EXPECT_TRUE(dc.PlayMetaFile(enhanced, CRect(60, 60, 100, 100)));
+    EXPECT_EQ(dc.GetPixel(15, 15), RGB(200, 0, 0));
+    EXPECT_EQ(dc.GetPixel(80, 80), RGB(0, 0, 200));
+    dc.SelectObject(before);
+    ::DeleteMetaFile(recorded);
+    ::DeleteEnhMetaFile(enhanced);
+}
+
+} // namespace
