@@ -127,7 +127,8 @@ TEST(FrameModel, LaysOutBorderTitleAndContentAtAnySize) {
 
 TEST(FrameModel, ScriptLinesTellWhetherTheyAreSeen) {
     FrameModel m;
-    EXPECT_TRUE(m.load_line(":CLRBACK=DARKBLUE") && m.background == colour_lookup("DARKBLUE") && m.load_line(":TITLE=x"));
+    EXPECT_TRUE(m.load_line(":CLRBACK=DARKBLUE") && m.background == colour_lookup("DARKBLUE") &&
+                m.load_line(":TITLE=x"));
     for (const char* line : {":CLRBACK=DARKBLUE", ":CLRBACK=NOCOLOUR", ":TITLE=x", ":ALIGN=SIDEWAYS",
                              ":ALIGN=", ":BORDERTYPE=ROUND", ":FONT=Arial", "no key", ""})
         EXPECT_FALSE(m.load_line(line)) << line;
