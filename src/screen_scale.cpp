@@ -3,11 +3,25 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <atomic>
 
 namespace {
 
-int main_frame_percentage() {
-    const HMODULE library = ::LoadLibraryA("zopfdraw.dll");
+constexpr const char* drawing_support = "zopfdraw.dll";
+
+// Looking for a library that is not there takes longer than all else in a panel's creation: done once, and again when
+// settings change.
+HMODULE load_drawing_support(bool again) {
+    static std::atomic<bool> missing = false;
+    if (missing && !again && !::GetModuleHandleA(drawing_support))
+        return nullptr;
+    const HMODULE library = ::LoadLibraryA(drawing_support);
+    missing = !library;
+    return library;
+}
+
+int main_frame_percentage(bool again) {
+    const HMODULE library = load_drawing_support(again);
     if (!library)
         return 0;
     using Percentage = int (*)();
@@ -28,8 +42,8 @@ int screen_percentage() {
 
 } // namespace
 
-int wnt::screen_scale() {
-    int percentage = main_frame_percentage();
+int wnt::screen_scale(bool again) {
+    int percentage = main_frame_percentage(again);
     if (percentage <= 0)
         percentage = screen_percentage();
     return std::clamp(percentage, 1, 1000);

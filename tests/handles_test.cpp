@@ -66,7 +66,6 @@ Kind frame() {
         auto& shown = static_cast<CWntFrame&>(widget);
         shown.SetTitle("Boiler");
         shown.SetAnchor(plain_child(widget), 0, 0, 1, 1);
-        widget.SendMessage(WM_SETTINGCHANGE);
     };
     return made;
 }

@@ -66,7 +66,7 @@ CWntFrame::~CWntFrame() {
 }
 
 bool CWntFrame::build() {
-    rescale();
+    rescale(false);
     return true;
 }
 
@@ -79,8 +79,8 @@ void CWntFrame::take_text(const CString& text) {
         SetTitle(text);
 }
 
-void CWntFrame::rescale() {
-    scale_ = wnt::screen_scale();
+void CWntFrame::rescale(bool settings_changed) {
+    scale_ = wnt::screen_scale(settings_changed);
     title_font_.DeleteObject();
     title_font_.CreateFont(-::MulDiv(title_height, scale_, 100), 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET,
                            OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH | FF_DONTCARE,
@@ -180,7 +180,7 @@ void CWntFrame::lay_out(int, int) {
 
 void CWntFrame::OnSettingChange(UINT flags, LPCTSTR section) {
     wnt::PaneWindow::OnSettingChange(flags, section);
-    rescale();
+    rescale(true);
     StyleChanged();
 }
 

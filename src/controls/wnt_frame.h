@@ -78,7 +78,7 @@ private:
     struct Anchored;
 
     void take_text(const CString& text) override;
-    void rescale();
+    void rescale(bool settings_changed);
     int title_rows() const;
 
     std::unique_ptr<wnt::FrameModel> model_;
