@@ -4,6 +4,8 @@
 
 #include <string>
 
+#include "script/script_file.h"
+
 namespace wnt {
 
 /// A script file that others may read meanwhile, but not write; a byte source for feed_script().
@@ -31,5 +33,21 @@ public:
 private:
     HANDLE handle_;
 };
+
+/// Feeds the lines of a file to `consume(const char* line, int mode)`; quotes around the path are taken off. False when
+/// there is no such file.
+template <class Consumer> bool feed_script_on_disk(const char* path, Consumer&& consume) {
+    ScriptOnDisk file{std::string(script_file_name(path))};
+    if (!file.is_open())
+        return false;
+    feed_script(file, consume);
+    return true;
+}
+
+/// True when a dialog's text names a script instead of being a title.
+inline bool names_script(const char* text) {
+    const DWORD attributes = *text ? ::GetFileAttributesA(text) : INVALID_FILE_ATTRIBUTES;
+    return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
+}
 
 } // namespace wnt

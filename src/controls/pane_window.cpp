@@ -50,17 +50,4 @@ LRESULT PaneWindow::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
                   : ControlWindow::DefWindowProc(message, wParam, lParam);
 }
 
-LRESULT notify(CWnd& control, NMHDR& notification, UINT code, bool& alive) {
-    const HWND window = control.m_hWnd;
-    notification = {window, static_cast<UINT_PTR>(control.GetDlgCtrlID()), code};
-    alive = true;
-    const HWND parent = window ? ::GetParent(window) : nullptr;
-    if (!parent)
-        return 0;
-    const LRESULT answer =
-        ::SendMessage(parent, WM_NOTIFY, notification.idFrom, reinterpret_cast<LPARAM>(&notification));
-    alive = ::IsWindow(window) && CWnd::FromHandlePermanent(window) == &control;
-    return answer;
-}
-
 } // namespace wnt

@@ -20,8 +20,4 @@ protected:
 /// Makes a window of the host's a child; false for none, or for one that holds the parent.
 ZOPWNT_API bool adopt_child(CWnd& parent, CWnd* child);
 
-/// Sends a notification to the parent; what the handler answers. `alive` is false when the handler destroyed the
-/// control, which must not be used then.
-ZOPWNT_API LRESULT notify(CWnd& control, NMHDR& notification, UINT code, bool& alive);
-
 } // namespace wnt

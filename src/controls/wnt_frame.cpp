@@ -5,7 +5,6 @@
 #include "controls/frame_model.h"
 #include "screen_scale.h"
 #include "script/colours.h"
-#include "script/script_file.h"
 #include "script_on_disk.h"
 #include "widgets/painting/paint_pass.h"
 
@@ -72,8 +71,7 @@ bool CWntFrame::build() {
 
 // A dialog's text names a script or is the title.
 void CWntFrame::take_text(const CString& text) {
-    const DWORD attributes = text.IsEmpty() ? INVALID_FILE_ATTRIBUTES : ::GetFileAttributesA(text);
-    if (attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY))
+    if (wnt::names_script(text))
         LoadFromFile(text);
     else
         SetTitle(text);
@@ -110,12 +108,8 @@ unsigned char CWntFrame::LoadLine(const char* line, int mode) {
 unsigned char CWntFrame::LoadFromFile(const char* path) {
     if (!this || !path)
         return 0;
-    wnt::ScriptOnDisk file{std::string(wnt::script_file_name(path))};
-    if (!file.is_open())
-        return 0;
     LoadLine("", wnt::script_begin);
-    wnt::feed_script(file, [this](const char* line, int mode) { LoadLine(line, mode); });
-    return 1;
+    return wnt::feed_script_on_disk(path, [this](const char* line, int mode) { LoadLine(line, mode); });
 }
 
 void CWntFrame::SetTitle(const char* title) {

@@ -261,7 +261,7 @@ void CWntFrameEx::fold_by_user() {
     GetWindowRect(&window);
     WntFrameNotify notification = {{}, folded_, window.Height()};
     bool alive = true;
-    wnt::notify(*this, notification.hdr, WNT_FRAME_FOLDED, alive);
+    wnt::notify_parent(*this, notification.hdr, WNT_FRAME_FOLDED, alive);
 }
 
 void CWntFrameEx::OnPaint() {

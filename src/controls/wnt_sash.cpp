@@ -4,8 +4,8 @@
 
 #include "arithmetic.h"
 #include "controls/sash_model.h"
-#include "library_resources.h"
 #include "widgets/painting/paint_pass.h"
+#include "widgets/painting/surface_owner.h"
 
 namespace {
 
@@ -230,14 +230,14 @@ BOOL CWntSash::OnSetCursor(CWnd* window, UINT hit, UINT message) {
 bool CWntSash::tell(UINT code) {
     WntSashNotify notification = {{}, GetPosition(), GetFolded()};
     bool alive = true;
-    wnt::notify(*this, notification.hdr, code, alive);
+    wnt::notify_parent(*this, notification.hdr, code, alive);
     return alive;
 }
 
 bool CWntSash::allowed(int& position) {
     WntSashNotify notification = {{}, position, GetFolded()};
     bool alive = true;
-    const LRESULT refused = wnt::notify(*this, notification.hdr, WNT_SASH_MOVING, alive);
+    const LRESULT refused = wnt::notify_parent(*this, notification.hdr, WNT_SASH_MOVING, alive);
     if (!alive || refused)
         return false;
     position = model_->clamped(notification.position);

@@ -5,7 +5,6 @@
 #include <string>
 
 #include "script/keywords.h"
-#include "script/script_file.h"
 #include "script_on_disk.h"
 #include "widgets/gauge/gauge_model.h"
 #include "widgets/gauge/gauge_painter.h"
@@ -59,8 +58,7 @@ void CWntGauge::leave() {
 void CWntGauge::take_text(const CString& text) {
     if (text.IsEmpty())
         return;
-    const DWORD attributes = ::GetFileAttributesA(text);
-    if (attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY))
+    if (wnt::names_script(text))
         LoadFromFile(text);
     else
         SetTitles(text, "");
@@ -124,10 +122,7 @@ unsigned char CWntGauge::LoadFromFile(const char* path) {
     if (!this || !path)
         return 1;
     LoadLine("", wnt::script_begin);
-    wnt::ScriptOnDisk file{std::string(wnt::script_file_name(path))};
-    if (!file.is_open())
-        return 1;
-    wnt::feed_script(file, [this](const char* line, int mode) { LoadLine(line, mode); });
+    wnt::feed_script_on_disk(path, [this](const char* line, int mode) { LoadLine(line, mode); });
     return 1;
 }
 

@@ -29,11 +29,26 @@ inline void place_child(CWnd& child, int x, int y, int width, int height, bool s
     child.ShowWindow(shown ? SW_SHOW : SW_HIDE);
 }
 
-/// Tells the parent by a notify message. The parent may destroy the window on it.
-inline void notify_parent(CWnd& window, UINT code) {
-    NMHDR notification = {window.m_hWnd, static_cast<UINT_PTR>(window.GetDlgCtrlID()), code};
-    if (HWND parent = ::GetParent(window.m_hWnd))
+/// Tells the parent by a notify message that begins with this header; what the handler answers. `alive` is false when
+/// the parent destroyed the window, which must not be used then.
+inline LRESULT notify_parent(CWnd& window, NMHDR& notification, UINT code, bool& alive) {
+    const HWND self = window.m_hWnd;
+    notification = {self, static_cast<UINT_PTR>(window.GetDlgCtrlID()), code};
+    alive = true;
+    const HWND parent = ::GetParent(self);
+    if (!parent)
+        return 0;
+    const LRESULT answer =
         ::SendMessage(parent, WM_NOTIFY, notification.idFrom, reinterpret_cast<LPARAM>(&notification));
+    alive = ::IsWindow(self) && CWnd::FromHandlePermanent(self) == &window;
+    return answer;
+}
+
+/// The same with nothing but the code, as the last thing that the window does.
+inline void notify_parent(CWnd& window, UINT code) {
+    NMHDR notification;
+    bool alive;
+    notify_parent(window, notification, code, alive);
 }
 
 } // namespace wnt
