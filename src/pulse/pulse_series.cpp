@@ -1,6 +1,7 @@
 #include "pulse/pulse_series.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <new>
 
@@ -14,8 +15,8 @@ void PulseBlock::include(const PulseBlock& other) {
 
 PulseSeries::PulseSeries(std::size_t capacity)
     : capacity_(std::clamp<std::size_t>(capacity, 1, most_capacity)),
-      // One more: the oldest chunk is left sample by sample while the newest one fills.
-      chunks_((capacity_ + chunk_size - 1) / chunk_size + 1), tree_(2 * chunks_.size()) {}
+      most_chunks_((capacity_ + chunk_size - 1) / chunk_size + 1), chunks_(std::bit_ceil(most_chunks_)),
+      tree_(2 * chunks_.size()) {}
 
 bool PulseSeries::append(std::int64_t time, double value) {
     if (time < newest_ || time > latest)
@@ -40,7 +41,9 @@ void PulseSeries::clear() {
 }
 
 bool PulseSeries::begin_chunk() {
-    auto& chunk = chunks_[end_ / chunk_size % chunks_.size()];
+    auto& chunk = chunks_[place_of(end_)];
+    if (const std::uint64_t number = end_ / chunk_size; number >= most_chunks_ && !chunk)
+        chunk = std::move(chunks_[place_of((number - most_chunks_) * chunk_size)]); // all of it was dropped
     if (!chunk)
         chunk.reset(new (std::nothrow) Chunk);
     last_ = chunk.get();
@@ -54,23 +57,23 @@ std::size_t PulseSeries::block_place(std::uint64_t number, std::size_t size) {
     return place + number % chunk_size / size;
 }
 
-PulseBlock PulseSeries::of_sample(std::uint64_t number) const {
-    const PulsePoint& point = (*this)[number];
-    PulseBlock one;
-    if (std::isnan(point.value)) {
-        one.pause = PulseBlock::hole;
-        return one;
+// Of one chunk.
+PulseBlock PulseSeries::of_samples(std::uint64_t from, std::uint64_t to) const {
+    const PulsePoint* point = &(*this)[from];
+    std::int64_t before = from > first_ ? (*this)[from - 1].time : point->time;
+    PulseBlock result;
+    for (const PulsePoint* const end = point + (to - from); point != end; before = point++->time) {
+        if (std::isnan(point->value))
+            result.pause = PulseBlock::hole;
+        else
+            result.include({point->value, point->value, point->time - before});
     }
-    one.low = one.high = point.value;
-    one.pause = number > first_ ? point.time - (*this)[number - 1].time : 0;
-    return one;
+    return result;
 }
 
 // The blocks that end with the newest sample, each from those below it.
 void PulseSeries::finish_blocks() {
-    PulseBlock block;
-    for (std::uint64_t number = end_ - smallest_block; number != end_; ++number)
-        block.include(number >= first_ ? of_sample(number) : PulseBlock());
+    PulseBlock block = of_samples(std::max(first_, end_ - smallest_block), end_);
     std::size_t size = smallest_block;
     for (;;) {
         if (size == chunk_size)
@@ -88,7 +91,7 @@ void PulseSeries::finish_blocks() {
 
 void PulseSeries::finish_chunk(const PulseBlock& whole) {
     const std::size_t places = chunks_.size();
-    std::size_t node = places + (end_ - 1) / chunk_size % places;
+    std::size_t node = places + place_of(end_ - 1);
     tree_[node] = whole;
     while ((node /= 2) >= 1) {
         tree_[node] = tree_[2 * node];
@@ -101,7 +104,7 @@ PulseBlock PulseSeries::of_chunks(std::uint64_t from, std::uint64_t to) const {
     const std::size_t places = chunks_.size();
     PulseBlock result;
     for (std::uint64_t chunk = from / chunk_size; chunk < to / chunk_size;) {
-        const std::size_t begin = chunk % places;
+        const std::size_t begin = chunk & (places - 1);
         const std::size_t count =
             static_cast<std::size_t>(std::min<std::uint64_t>(to / chunk_size - chunk, places - begin));
         for (std::size_t l = places + begin, r = l + count; l < r; l /= 2, r /= 2) {
@@ -124,7 +127,7 @@ std::size_t PulseSeries::block_size(std::uint64_t from, std::uint64_t to) const 
 
 PulseBlock PulseSeries::block(std::uint64_t from, std::size_t size) const {
     if (size == 1)
-        return of_sample(from);
+        return of_samples(from, from + 1);
     return size == chunk_size ? of_chunks(from, from + size) : chunk_of(from).blocks[block_place(from, size)];
 }
 
@@ -135,6 +138,9 @@ PulseBlock PulseSeries::summary(std::uint64_t from, std::uint64_t to) const {
         if (size == chunk_size) {
             size = static_cast<std::size_t>((to - from) / chunk_size * chunk_size);
             result.include(of_chunks(from, from + size));
+        } else if (size == 1) { // up to the next block
+            size = static_cast<std::size_t>(std::min(to, (from | (smallest_block - 1)) + 1) - from);
+            result.include(of_samples(from, from + size));
         } else {
             result.include(block(from, size));
         }

@@ -72,20 +72,22 @@ private:
         PulseBlock blocks[256 + 64 + 16 + 4]; // of 16, 64, 256 and 1024 samples
     };
 
-    Chunk& chunk_of(std::uint64_t number) const { return *chunks_[number / chunk_size % chunks_.size()]; }
+    Chunk& chunk_of(std::uint64_t number) const { return *chunks_[place_of(number)]; }
+    std::size_t place_of(std::uint64_t number) const { return number / chunk_size & (chunks_.size() - 1); }
     static std::size_t block_place(std::uint64_t number, std::size_t size);
     bool begin_chunk();
     void finish_blocks();
     void finish_chunk(const PulseBlock& whole);
-    PulseBlock of_sample(std::uint64_t number) const;
+    PulseBlock of_samples(std::uint64_t from, std::uint64_t to) const;
     PulseBlock of_chunks(std::uint64_t from, std::uint64_t to) const;
 
     std::size_t capacity_;
+    std::size_t most_chunks_; // in use at one time: the oldest is left sample by sample while the newest fills
     std::uint64_t first_ = 0;
     std::uint64_t end_ = 0;
     std::int64_t newest_ = -latest;
     Chunk* last_ = nullptr;                      // where the next sample goes, unless it begins a chunk
-    std::vector<std::unique_ptr<Chunk>> chunks_; // a ring
+    std::vector<std::unique_ptr<Chunk>> chunks_; // a ring of a power of two places
     std::vector<PulseBlock> tree_;               // over the complete chunks by their places; leaves in the second half
 };
 

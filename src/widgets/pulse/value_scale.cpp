@@ -7,23 +7,23 @@ namespace wnt {
 
 namespace {
 
-// Of a scale with `height` rows between the two ends. Each row but the lowest is half a row off: see CWntAxis.
+// Of a scale. Rows lie half a row off the values' multiples, but for the lowest one: see CWntAxis.
 struct Rows {
-    double low, factor, height;
+    double low, factor;
+    std::int32_t base;
+
+    static constexpr double limit = ValueScale::beyond;
 
     explicit Rows(const ValueScale& scale)
         : low(scale.low), factor(scale.high == scale.low ? 0 : scale.height / (scale.high - scale.low)),
-          height(scale.height) {}
+          base(scale.height - 1 + 2 * ValueScale::beyond) {}
 
     std::int32_t operator()(double value) const {
-        constexpr double limit = ValueScale::beyond;
         double above = (value - low) * factor;
         above = above < limit ? above : limit; // false for what is no number
         above = above > -limit ? above : -limit;
-        // Floored by way of a positive number, which truncation floors.
-        const auto row = static_cast<std::int32_t>(above - 0.5 + 2 * limit) - 2 * ValueScale::beyond;
-        const bool lowest = above >= 0 && row < 0;
-        return static_cast<std::int32_t>(height) - 1 - (lowest ? 0 : row);
+        above -= above < 0.5 ? 0 : 0.5;
+        return base - static_cast<std::int32_t>(above + 2 * limit); // positive, so that truncation floors
     }
 };
 
