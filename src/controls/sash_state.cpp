@@ -39,10 +39,8 @@ int CWntSash::StoreState(const char* profile, const char* name) const {
     if (!this || !named(profile, name))
         return 0;
     const Profile to = {profile, name};
-    wnt::SashModel open = *model_;
-    open.fold(0);
-    return to.write("First", open.position()) && to.write("Second", open.second().length) &&
-           to.write("Share", static_cast<int>(open.share() * whole_share)) && to.write("Folded", GetFolded());
+    return to.write("First", model_->wished_position()) && to.write("Second", model_->wished_second()) &&
+           to.write("Share", static_cast<int>(model_->share() * whole_share)) && to.write("Folded", GetFolded());
 }
 
 int CWntSash::RestoreState(const char* profile, const char* name) {
