@@ -73,8 +73,9 @@ TEST(PulseSeries, HoldsTheNewestSamplesAndTheirBlocks) {
             ASSERT_EQ(found.low, expected.low);
             ASSERT_EQ(found.high, expected.high);
             // The oldest sample's block may still know the pause before it.
-            if (from > 16)
+            if (from > 16) {
                 ASSERT_EQ(found.pause, expected.pause) << from << " to " << to;
+            }
             const std::int64_t sought = time - random.upto(3000);
             const auto at = std::lower_bound(plain.points.begin(), plain.points.end(), sought,
                                              [](const PulsePoint& p, std::int64_t t) { return p.time < t; });
@@ -300,8 +301,9 @@ TEST(PulsePicture, ALiveTickDrawsNewColumnsOnly) {
         series.append(time, static_cast<double>(time % 100));
         scene.origin = scene.columns.column(time) - 499;
         picture.show(scene);
-        if (time)
+        if (time) {
             ASSERT_LE(picture.drawn(), 2 * (CurveRaster::margin + 2));
+        }
     }
 }
 

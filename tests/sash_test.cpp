@@ -120,6 +120,17 @@ TEST_F(Sash, IsDraggedAsTheHostAllows) {
     EXPECT_TRUE(host_.told.empty() && ::GetCapture() != sash_.m_hWnd);
 }
 
+TEST_F(Sash, GivesTheFocusBackUnlessItIsAStop) {
+    for (const bool stop : {false, true}) {
+        sash_.ModifyStyle(WS_TABSTOP, stop ? WS_TABSTOP : 0);
+        first_.SetFocus();
+        drag(sash_.GetPosition() + 2, 120);
+        EXPECT_EQ(::GetFocus(), sash_.m_hWnd); // for Escape
+        mouse(WM_LBUTTONUP, 120);
+        EXPECT_EQ(::GetFocus(), stop ? sash_.m_hWnd : first_.m_hWnd);
+    }
+}
+
 TEST_F(Sash, ATrackLineLeavesNothingBehind) {
     sash_.SetLiveDrag(0);
     const Pixels before = pixels_of(sash_);
