@@ -91,11 +91,13 @@ public:
             bar_.invalidate_item(index());
         }
     }
+    // The owner knows what goes together: no group is looked at.
     void SetCheck(int check) override {
-        if (!is_there() || item().check == check || !bar_.model_->has(index()))
-            return;
-        bar_.model_->set_check(index(), std::clamp<int>(check, wnt::unchecked, wnt::undecided));
-        bar_.invalidate_item(index());
+        check = std::clamp<int>(check, wnt::unchecked, wnt::undecided);
+        if (is_there() && item().check != check) {
+            item().check = check;
+            bar_.invalidate_item(index());
+        }
     }
     void SetRadio(BOOL on) override { SetCheck(on ? wnt::checked : wnt::unchecked); }
     void SetText(LPCTSTR) override {} // which is a menu's, with its keys
