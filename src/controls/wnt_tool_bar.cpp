@@ -243,10 +243,7 @@ int CWntToolBar::CheckItem(UINT id, int check) {
     const int index = FindItem(id);
     if (index < 0 || check < wnt::unchecked || check > wnt::undecided)
         return 0;
-    if (model_->set_check(index, check))
-        for (int i = 0; i < model_->count(); ++i)
-            if (i == index || model_->item(i).kind == wnt::ToolKind::radio)
-                invalidate_item(i);
+    change_checks([=, this] { model_->set_check(index, check); });
     return 1;
 }
 
@@ -421,6 +418,17 @@ void CWntToolBar::invalidate_item(int index) {
     const CRect place = place_of(index);
     if (m_hWnd && !place.IsRectEmpty())
         InvalidateRect(place, FALSE);
+}
+
+// Shows what became of each item, of which most stay as they are.
+void CWntToolBar::change_checks(const std::function<void()>& change) {
+    std::vector<int> before;
+    for (const wnt::ToolItem& item : model_->items())
+        before.push_back(item.check);
+    change();
+    for (int i = 0; i < model_->count(); ++i)
+        if (model_->item(i).check != before[static_cast<std::size_t>(i)])
+            invalidate_item(i);
 }
 
 void CWntToolBar::OnSettingChange(UINT flags, LPCTSTR section) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include "controls/pane_window.h"
@@ -199,6 +200,7 @@ private:
     wnt::ToolPlaces places_in(int width, int height) const;
     CRect place_of(int index) const; ///< of the chevron for `chevron`
     void invalidate_item(int index);
+    void change_checks(const std::function<void()>& change);
     void sync_tips();
     bool fill_tip(const NMHDR& header, WntTip& tip);
     CString shortcut_of(UINT id) const;

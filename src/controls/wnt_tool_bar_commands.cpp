@@ -156,12 +156,8 @@ bool CWntToolBar::send_command(UINT id) {
 }
 
 bool CWntToolBar::press(int index) {
-    model_->press(index);
-    const wnt::ToolItem& item = model_->item(index);
-    for (int i = 0; i < model_->count(); ++i)
-        if (i == index || (item.kind == wnt::ToolKind::radio && model_->item(i).kind == item.kind))
-            invalidate_item(i);
-    return send_command(static_cast<UINT>(item.id));
+    change_checks([=, this] { model_->press(index); });
+    return send_command(static_cast<UINT>(model_->item(index).id));
 }
 
 int CWntToolBar::PressItem(UINT id) {
