@@ -32,12 +32,7 @@ enum Command : UINT {
 };
 
 constexpr const char* scripts[] = {
-    // Everything there is.
-    ":RADIO=300,0,Start,Starts the measurement\n:RADIO=301,1,Pause,Keeps the values as they are\n"
-    ":RADIO=302,2,Stop,Ends the measurement\n:SEPARATOR\n:SPLIT=303,3,Open,Opens a recording\n:MENU=303,Open...\n"
-    ":MENU=\n:MENU=307,Yesterday's chart\n:MENU=308,Last week's bars\n:ITEM=304,4,Save,Writes what was measured\n"
-    ":ITEM=305,5,Print\n:SEPARATOR\n:LABEL=Zoom\n:WINDOW=40\n:ITEM=306,6,Find\n:SEPARATOR\n:CHECK=309,9,Alarm,"
-    "Sounds when a limit is passed\n:STRETCH\n:WINDOW=41\n:DROPDOWN=310,10,View\n:MENU=307,Chart\n:MENU=308,Bars",
+    nullptr, // everything there is: a script of its own, among the resources
     ":TEXT=BESIDE\n:RADIO=300,0,Start\n:RADIO=301,1,Pause\n:RADIO=302,2,Stop\n:SEPARATOR\n:ITEM=304,4,Save\n"
     ":ITEM=305,5,Print\n:SEPARATOR\n:CHECK=309,9,Alarm\n:STRETCH\n:DROPDOWN=310,10,View\n:MENU=307,Chart",
     ":TEXT=BELOW\n:RADIO=300,0,Start\n:RADIO=301,1,Pause\n:RADIO=302,2,Stop\n:SEPARATOR\n:SPLIT=303,3,Open\n"
@@ -101,7 +96,8 @@ protected:
                 return false;
             bar.SetPictures(i == 6 ? nullptr : static_cast<HBITMAP>(small_strip.m_hObject),
                             static_cast<HBITMAP>(large_strip.m_hObject));
-            LoadLines(scripts[i], [&](const char* line) { bar.LoadLine(line, 0); });
+            LoadLines(scripts[i] ? scripts[i] : StoredScript().c_str(),
+                      [&](const char* line) { bar.LoadLine(line, 0); });
             bar.LoadLine("", 2);
             labels_[i] = AddText(captions[i], CRect(0, 0, 10, 10));
         }
@@ -170,6 +166,13 @@ private:
         level_.SetTitles("", "%");
         level_.SetCurVal(80);
         return true;
+    }
+    static std::string StoredScript() {
+        const HRSRC found = ::FindResourceA(AfxGetInstanceHandle(), MAKEINTRESOURCEA(IDR_PLANT_TOOLS), RT_RCDATA);
+        const HGLOBAL loaded = found ? ::LoadResource(AfxGetInstanceHandle(), found) : nullptr;
+        if (!loaded)
+            return "";
+        return {static_cast<const char*>(::LockResource(loaded)), ::SizeofResource(AfxGetInstanceHandle(), found)};
     }
     static void Point(CWntToolBar& bar, UINT id, UINT message) {
         CRect place;
