@@ -70,6 +70,36 @@ Kind frame() {
     return made;
 }
 
+Kind tool_bar() {
+    Kind made = kind<CWntToolBar>("toolbar");
+    made.looks = 2;
+    made.prepare = [](CWnd& widget) {
+        auto& shown = static_cast<CWntToolBar&>(widget);
+        CWntToolItem item(100, "Save");
+        item.icon = ::LoadIconA(nullptr, IDI_WARNING);
+        shown.AddItem(item);
+        item = CWntToolItem(101, "In", WNT_TOOL_WINDOW);
+        item.window = plain_child(widget);
+        shown.AddItem(item);
+        shown.EnableItem(100, 0);
+        full_repaint(widget);
+        shown.SetTextPlace(WNT_TOOL_TEXT_BESIDE);
+    };
+    return made;
+}
+
+Kind with_tip() {
+    Kind made = kind<CWntToolBar>("tip");
+    made.looks = 2;
+    made.prepare = [](CWnd& widget) {
+        CToolTipCtrlEx* tips = static_cast<CWntToolBar&>(widget).GetTips();
+        tips->AddTip(&widget, {"Title", "text", ::LoadIconA(nullptr, IDI_WARNING), RGB(1, 2, 3)});
+        tips->ShowTip(&widget);
+        tips->TrackTip({"", "tracked"}, CPoint(10, 10));
+    };
+    return made;
+}
+
 std::vector<Kind> all_kinds() {
     return {kind<CWntOut>("surface"),
             kind<CWntButton>("button"),
@@ -87,7 +117,9 @@ std::vector<Kind> all_kinds() {
             kind<CWntTrace>("trace"),
             sash(),
             frame(),
-            kind<CWntFrameEx>("folding frame")};
+            kind<CWntFrameEx>("folding frame"),
+            tool_bar(),
+            with_tip()};
 }
 
 class HandlesTest : public WidgetTest {
