@@ -7,6 +7,7 @@
 #include "bitmap/dib_file.h"
 #include "bitmap/wnt_bitmap.h"
 #include "bitmap/wnt_bitmap_palette.h"
+#include "controls/tool_tip_ex.h"
 #include "controls/wnt_frame.h"
 #include "controls/wnt_frame_ex.h"
 #include "controls/wnt_sash.h"

@@ -3,22 +3,11 @@
 #include <string>
 #include <string_view>
 
+#include "controls/pixel_rect.h"
 #include "script/keywords.h"
 #include "script/values.h"
 
 namespace wnt {
-
-/// Client coordinates: y downwards, right and bottom exclusive.
-struct PixelRect {
-    int left = 0;
-    int top = 0;
-    int right = 0;
-    int bottom = 0;
-
-    int width() const { return right - left; }
-    int height() const { return bottom - top; }
-    friend bool operator==(const PixelRect&, const PixelRect&) = default;
-};
 
 inline constexpr std::string_view frame_keys[] = {"MSG",        "ID",          "TITLE",        "ALIGN",
                                                   "BORDERTYPE", "BORDERSTYLE", "BORDERHEIGHT", "CLRTEXT",

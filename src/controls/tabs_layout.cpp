@@ -12,10 +12,6 @@ bool upright(TabsSide side) {
     return side == TabsSide::left || side == TabsSide::right;
 }
 
-bool holds(const PixelRect& box, int x, int y) {
-    return x >= box.left && x < box.right && y >= box.top && y < box.bottom;
-}
-
 PixelRect swapped(const PixelRect& r) {
     return {r.top, r.left, r.bottom, r.right};
 }
@@ -195,7 +191,7 @@ TabParts TabsLayout::parts(int tab, const TabsSizes& sizes, bool has_icon, bool 
 
 int TabsLayout::tab_at(int x, int y) const {
     for (int tab = first; tab < first + shown; ++tab)
-        if (holds(tabs[static_cast<std::size_t>(tab)], x, y))
+        if (tabs[static_cast<std::size_t>(tab)].contains(x, y))
             return tab;
     return -1;
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "controls/control_font.h"
 #include "script/colours.h"
 #include "widgets/painting/memory_bitmap.h"
 #include "widgets/painting/paint_pass.h"
@@ -35,91 +36,66 @@ struct Colours {
     COLORREF outer(TabsSide side) const { return side == TabsSide::top || side == TabsSide::left ? sun : shadow; }
 };
 
-class Selected {
-public:
-    Selected(HDC dc, HGDIOBJ object) : dc_(dc), before_(::SelectObject(dc, object)) {}
-    ~Selected() { ::SelectObject(dc_, before_); }
-    Selected(const Selected&) = delete;
-    Selected& operator=(const Selected&) = delete;
-
-private:
-    HDC dc_;
-    HGDIOBJ before_;
-};
-
-int width_of(HDC dc, const std::string& text, std::size_t count) {
-    SIZE size = {};
-    ::GetTextExtentPoint32A(dc, text.c_str(), static_cast<int>(count), &size);
-    return size.cx;
-}
-
 // Not longer than the room, with dots where it was.
-void fit(HDC dc, std::string& text, int room) {
-    if (width_of(dc, text, text.size()) <= room)
+void fit(const ControlFont& font, std::string& text, int room) {
+    if (font.width(text) <= room)
         return;
-    int count = 0;
-    SIZE size = {};
-    ::GetTextExtentExPointA(dc, text.c_str(), static_cast<int>(text.size()), room - width_of(dc, "...", 3), &count,
-                            nullptr, &size);
-    text.resize(static_cast<std::size_t>(std::max(count, 0)));
+    const int dots = font.width("...");
+    while (!text.empty() && font.width(text) + dots > room)
+        text.pop_back();
     text += "...";
 }
 
 /// A text that runs upwards or downwards in the middle of its box. The system's text layout does not turn.
 class TurnedText {
 public:
-    TurnedText(HDC dc, const CRect& box, TabsSide side, CFont& font) : dc_(dc), box_(box), up_(side == TabsSide::left) {
-        LOGFONTA turned = {};
-        font.GetLogFont(&turned);
+    TurnedText(PaintPass& pass, const CRect& box, TabsSide side, ControlFont& font)
+        : pass_(pass), box_(box), up_(side == TabsSide::left), lying_(font) {
+        LOGFONT turned = {};
+        font.font().GetLogFont(&turned);
         turned.lfEscapement = turned.lfOrientation = up_ ? 900 : 2700;
         font_.CreateFontIndirect(&turned);
-        lying_ = static_cast<HFONT>(font.GetSafeHandle());
     }
 
     void write(const std::string& marked, COLORREF ink) {
         int mark = -1;
         std::string text = plain_text(marked, mark);
-        TEXTMETRICA metric = {};
-        {
-            const Selected font(dc_, lying_);
-            fit(dc_, text, box_.Height());
-            ::GetTextMetricsA(dc_, &metric);
-            start_ = (box_.Height() - width_of(dc_, text, text.size())) / 2;
-            top_ = (box_.Width() - metric.tmHeight) / 2;
-            if (const auto at = static_cast<std::size_t>(mark); mark >= 0 && at < text.size())
-                underline(width_of(dc_, text, at), width_of(dc_, text, at + 1), metric.tmAscent, ink);
-        }
-        const Selected font(dc_, font_.GetSafeHandle());
-        const UINT alignment = ::SetTextAlign(dc_, TA_LEFT | TA_TOP);
-        ::SetBkMode(dc_, TRANSPARENT);
-        ::SetTextColor(dc_, ink);
-        const CRect cell = place(0, 0, 0, 0);
-        ::ExtTextOutA(dc_, cell.left, cell.top, 0, nullptr, text.c_str(), static_cast<UINT>(text.size()), nullptr);
-        ::SetTextAlign(dc_, alignment);
+        fit(lying_, text, box_.Height());
+        start_ = (box_.Height() - lying_.width(text)) / 2;
+        above_ = (box_.Width() - lying_.row()) / 2;
+        const HDC dc = pass_.out().dc;
+        const HGDIOBJ before = ::SelectObject(dc, font_.GetSafeHandle());
+        const UINT alignment = ::SetTextAlign(dc, TA_LEFT | TA_TOP);
+        ::SetBkMode(dc, TRANSPARENT);
+        ::SetTextColor(dc, ink);
+        const CRect start = place(0, 0, 0, 0);
+        ::ExtTextOutA(dc, start.left, start.top, 0, nullptr, text.c_str(), static_cast<UINT>(text.size()), nullptr);
+        TEXTMETRIC metric = {};
+        ::GetTextMetrics(dc, &metric);
+        ::SetTextAlign(dc, alignment);
+        ::SelectObject(dc, before);
+        if (const auto at = static_cast<std::size_t>(mark); mark >= 0 && at < text.size())
+            pass_.fill(place(lying_.width(text.substr(0, at)), metric.tmAscent + 1,
+                             lying_.width(text.substr(0, at + 1)), metric.tmAscent + 2),
+                       ink);
     }
 
 private:
-    // Of a box that counts along the text and down from its upper edge.
-    CRect place(int from, int above, int to, int below) const {
+    // Of a box that counts along the text, and down from its upper edge.
+    CRect place(int from, int top, int to, int bottom) const {
         if (up_)
-            return CRect(box_.left + top_ + above, box_.bottom - start_ - to, box_.left + top_ + below,
+            return CRect(box_.left + above_ + top, box_.bottom - start_ - to, box_.left + above_ + bottom,
                          box_.bottom - start_ - from);
-        return CRect(box_.right - top_ - below, box_.top + start_ + from, box_.right - top_ - above,
+        return CRect(box_.right - above_ - bottom, box_.top + start_ + from, box_.right - above_ - top,
                      box_.top + start_ + to);
     }
-    void underline(int from, int to, int ascent, COLORREF ink) const {
-        const HBRUSH brush = ::CreateSolidBrush(ink);
-        const CRect line = place(from, ascent + 1, to, ascent + 2);
-        ::FillRect(dc_, &line, brush);
-        ::DeleteObject(brush);
-    }
 
-    HDC dc_;
+    PaintPass& pass_;
     CRect box_;
     bool up_;
+    ControlFont& lying_;
     CFont font_;
-    HFONT lying_;
-    int start_ = 0, top_ = 0;
+    int start_ = 0, above_ = 0;
 };
 
 class StripPainter {
@@ -187,10 +163,10 @@ private:
         const COLORREF ink = tab.enabled ? colours_.text : ::GetSysColor(COLOR_GRAYTEXT);
         const UINT format = DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS;
         if (layout_.side == TabsSide::top || layout_.side == TabsSide::bottom)
-            return pass_.text(box, tab.text.c_str(), format, ink, &look_.font);
+            return pass_.text(box, tab.text.c_str(), format, ink, &look_.font.font());
         if (box.IsRectEmpty() || !pass_.out().dc)
             return;
-        TurnedText(pass_.out().dc, box, layout_.side, look_.font).write(tab.text, ink);
+        TurnedText(pass_, box, layout_.side, look_.font).write(tab.text, ink);
     }
 
     // In a tab that is cut there may be no room for it.

@@ -6,6 +6,7 @@
 
 namespace wnt {
 
+class ControlFont;
 class PaintPass;
 
 /// Something that the pointer can be on.
@@ -22,7 +23,7 @@ struct TabsLook {
     const TabsModel& model;
     const TabsLayout& layout;
     const TabsSizes& sizes;
-    CFont& font;
+    ControlFont& font;
     TabsPoint hot;
     bool pressed; ///< what is hot is pressed
     int gap;      ///< where a dragged tab would go; -1: nowhere

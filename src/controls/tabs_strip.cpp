@@ -12,10 +12,8 @@ namespace wnt {
 
 namespace {
 
-constexpr int text_height = 13; // of the characters, pixels at 96 dots an inch
-
-bool holds(const PixelRect& box, CPoint point) {
-    return CRect(box.left, box.top, box.right, box.bottom).PtInRect(point) != FALSE;
+CRect rect_of(const PixelRect& r) {
+    return CRect(r.left, r.top, r.right, r.bottom);
 }
 
 } // namespace
@@ -45,60 +43,72 @@ TabsStrip::~TabsStrip() {
 
 void TabsStrip::rescale(bool settings_changed) {
     scale_ = screen_scale(settings_changed);
-    font_.DeleteObject();
-    font_.CreateFont(-::MulDiv(text_height, scale_, 100), 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET,
-                     OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH | FF_DONTCARE, "Arial");
-    measure();
+    font_ = std::make_unique<ControlFont>(scale_, false);
 }
 
 void TabsStrip::measure() {
-    if (!m_hWnd)
+    if (!font_)
         return;
-    CClientDC dc(this);
-    CFont* before = dc.SelectObject(&font_);
-    TEXTMETRIC metric = {};
-    dc.GetTextMetrics(&metric);
-    sizes_ = TabsSizes::at(scale_, metric.tmHeight);
+    sizes_ = TabsSizes::at(scale_, font_->row());
     lengths_.clear();
     for (int i = 0; i < tabs_.model_->count(); ++i) {
         const Tab& tab = tabs_.model_->at(i);
-        CRect box;
-        if (!tab.text.empty())
-            dc.DrawText(tab.text.c_str(), static_cast<int>(tab.text.size()), &box, DT_CALCRECT | DT_SINGLELINE);
-        lengths_.push_back(sizes_.length(box.Width(), tab.icon != nullptr, tab.closable));
+        int mark = -1;
+        lengths_.push_back(sizes_.length(font_->width(plain_text(tab.text, mark)), tab.icon != nullptr, tab.closable));
     }
-    dc.SelectObject(before);
 }
 
 void TabsStrip::arrange(int width, int height, int wanted) {
-    if (!m_hWnd)
+    if (!m_hWnd || !font_)
         return;
     layout_ = lay_out_tabs(*tabs_.model_, sizes_, lengths_, width, height, layout_.first, wanted);
     const PixelRect& r = layout_.strip;
     hot_ = pressed_ = {};
     end_press();
     SetWindowPos(nullptr, r.left, r.top, r.width(), r.height(), SWP_NOZORDER | SWP_NOACTIVATE);
+    place_tips();
     Invalidate(FALSE);
+}
+
+// One for each tab that is seen and has one.
+void TabsStrip::place_tips() {
+    for (int id = 1; id <= tip_count_; ++id)
+        tips_.DelTool(this, static_cast<UINT_PTR>(id));
+    tip_count_ = 0;
+    for (int i = layout_.first; i < layout_.first + layout_.shown; ++i) {
+        const std::string& text = tabs_.model_->at(i).tip;
+        if (text.empty() || (!tips_.m_hWnd && !tips_.Create(this)))
+            continue;
+        const CRect place = box(layout_.tabs[static_cast<std::size_t>(i)]);
+        tips_.AddTip(this, {"", text.c_str()}, &place, static_cast<UINT_PTR>(++tip_count_));
+    }
+}
+
+BOOL TabsStrip::PreTranslateMessage(MSG* message) {
+    if (tips_.m_hWnd)
+        tips_.RelayEvent(message);
+    return ControlWindow::PreTranslateMessage(message);
 }
 
 TabsPoint TabsStrip::hit(CPoint point) const {
     point += CPoint(layout_.strip.left, layout_.strip.top);
-    if (holds(layout_.back, point))
+    if (layout_.back.contains(point.x, point.y))
         return {TabsPoint::back};
-    if (holds(layout_.on, point))
+    if (layout_.on.contains(point.x, point.y))
         return {TabsPoint::on};
-    if (holds(layout_.menu, point))
+    if (layout_.menu.contains(point.x, point.y))
         return {TabsPoint::menu};
     const int index = layout_.tab_at(point.x, point.y);
     if (index < 0)
         return {};
     const Tab& tab = tabs_.model_->at(index);
-    const bool close = tab.closable && holds(layout_.parts(index, sizes_, tab.icon != nullptr, true).close, point);
+    const bool close =
+        tab.closable && layout_.parts(index, sizes_, tab.icon != nullptr, true).close.contains(point.x, point.y);
     return {close ? TabsPoint::close : TabsPoint::tab, index};
 }
 
 CRect TabsStrip::box(const PixelRect& r) const {
-    return CRect(r.left, r.top, r.right, r.bottom) - CPoint(layout_.strip.left, layout_.strip.top);
+    return rect_of(r) - CPoint(layout_.strip.left, layout_.strip.top);
 }
 
 void TabsStrip::repaint(const TabsPoint& at) {
@@ -117,7 +127,7 @@ BOOL TabsStrip::OnEraseBkgnd(CDC*) {
 
 void TabsStrip::OnPaint() {
     PaintPass pass(*this);
-    paint_tabs(pass, {*tabs_.model_, layout_, sizes_, font_, hot_, pressed_.part != TabsPoint::nothing, gap_,
+    paint_tabs(pass, {*tabs_.model_, layout_, sizes_, *font_, hot_, pressed_.part != TabsPoint::nothing, gap_,
                       ::GetFocus() == m_hWnd});
 }
 

@@ -1,10 +1,13 @@
 #pragma once
 
+#include <memory>
 #include <vector>
 
 #include "control_window.h"
+#include "controls/control_font.h"
 #include "controls/tabs_layout.h"
 #include "controls/tabs_painter.h"
+#include "controls/tool_tip_ex.h"
 
 class CWntTabs;
 
@@ -24,6 +27,8 @@ public:
     void measure();
     /// For this size of the owner's; `wanted` must be seen (-1: none).
     void arrange(int width, int height, int wanted);
+
+    BOOL PreTranslateMessage(MSG* message) override;
 
 protected:
     bool build() override { return true; }
@@ -52,6 +57,7 @@ private:
     void hover(const TabsPoint& at);
     void drag_to(CPoint point);
     void end_press();
+    void place_tips();
     void scroll(int step);
     void open_menu();
     void select_by_key(UINT key);
@@ -61,8 +67,10 @@ private:
     TabsSizes sizes_ = {};
     TabsLayout layout_;
     std::vector<int> lengths_;
-    CFont font_;
+    std::unique_ptr<ControlFont> font_;
     int scale_ = 100;
+    CToolTipCtrlEx tips_; // made when a tab has one
+    int tip_count_ = 0;
     TabsPoint hot_;
     TabsPoint pressed_; // what the button was pressed on, while it is held
     CPoint pressed_at_;

@@ -1,0 +1,483 @@
+#include "controls/tool_tip_ex.h"
+
+#include <algorithm>
+
+#include "controls/control_font.h"
+#include "controls/tip_layout.h"
+#include "screen_scale.h"
+#include "widgets/painting/paint_pass.h"
+
+namespace {
+
+constexpr UINT show_soon = WM_USER + 0x1F00; // beyond the control's own messages
+constexpr UINT_PTR keyboard_timer = 0x5A00;
+constexpr int default_width = 320; // pixels at 96 dots an inch
+constexpr int pointer_height = 20;
+constexpr int largest_icon = 64;
+constexpr std::size_t need_text_size = sizeof(NMTTDISPINFOA::szText);
+
+// The control itself sees this text alone: it decides when to show, and is not to ask or measure anything.
+char something[] = " ";
+
+CString text_of_tool(const TOOLINFO& info) {
+    if (!info.lpszText || info.lpszText == LPSTR_TEXTCALLBACK)
+        return CString();
+    if (!IS_INTRESOURCE(info.lpszText))
+        return info.lpszText;
+    char text[wnt::longest_tip];
+    const int length = ::LoadStringA(info.hinst, LOWORD(reinterpret_cast<UINT_PTR>(info.lpszText)), text, sizeof text);
+    return CString(text, length);
+}
+
+CString answered_text(const NMTTDISPINFOA& need) {
+    if (need.lpszText == need.szText)
+        return CString(need.szText, static_cast<int>(::strnlen(need.szText, need_text_size)));
+    TOOLINFO answer = {};
+    answer.hinst = need.hinst;
+    answer.lpszText = need.lpszText;
+    return text_of_tool(answer);
+}
+
+CString flat_text(const WntTip& tip) {
+    return tip.title.IsEmpty() || tip.text.IsEmpty() ? tip.title + tip.text : tip.title + "\n" + tip.text;
+}
+
+LRESULT copy_text(const CString& text, char* to, std::size_t capacity) {
+    if (!to || capacity == 0)
+        return 0;
+    const std::size_t length = std::min<std::size_t>(text.GetLength(), capacity - 1);
+    std::copy_n(text.GetString(), length, to);
+    to[length] = 0;
+    return static_cast<LRESULT>(length);
+}
+
+CSize icon_size(HICON icon) {
+    ICONINFO info;
+    if (!icon || !::GetIconInfo(icon, &info))
+        return CSize(0, 0);
+    BITMAP bitmap = {};
+    ::GetObjectA(info.hbmColor ? info.hbmColor : info.hbmMask, sizeof bitmap, &bitmap);
+    if (!info.hbmColor)
+        bitmap.bmHeight /= 2; // two masks, one above the other
+    if (info.hbmColor)
+        ::DeleteObject(info.hbmColor);
+    ::DeleteObject(info.hbmMask);
+    return CSize(std::min<LONG>(bitmap.bmWidth, largest_icon), std::min<LONG>(bitmap.bmHeight, largest_icon));
+}
+
+CRect work_area(CPoint at) {
+    MONITORINFO info = {};
+    info.cbSize = sizeof info;
+    if (!::GetMonitorInfoA(::MonitorFromPoint(at, MONITOR_DEFAULTTONEAREST), &info))
+        return CRect(0, 0, ::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN));
+    return info.rcWork;
+}
+
+bool ends_keyboard_tip(UINT message) {
+    return message == WM_KEYDOWN || message == WM_SYSKEYDOWN || message == WM_LBUTTONDOWN ||
+           message == WM_RBUTTONDOWN || message == WM_MBUTTONDOWN || message == WM_MOUSEWHEEL;
+}
+
+wnt::PixelRect pixels_of(const CRect& r) {
+    return {r.left, r.top, r.right, r.bottom};
+}
+
+CRect rect_of(const wnt::PixelRect& r) {
+    return CRect(r.left, r.top, r.right, r.bottom);
+}
+
+} // namespace
+
+struct CToolTipCtrlEx::Tool {
+    HWND window; ///< that has it; its parent for a tool that is a window itself
+    UINT_PTR id;
+    UINT flags;
+    bool asked;
+    WntTip tip;
+};
+
+struct CToolTipCtrlEx::Fonts : wnt::TipFonts {
+    explicit Fonts(int scale) : plain(scale, false), bold(scale, true) {}
+
+    wnt::ControlFont& of(bool is_bold) { return is_bold ? bold : plain; }
+    int width(std::string_view text, bool is_bold) override { return of(is_bold).width(text); }
+    int row() override { return std::max(plain.row(), bold.row()); }
+
+    wnt::ControlFont plain;
+    wnt::ControlFont bold;
+};
+
+BEGIN_MESSAGE_MAP(CToolTipCtrlEx, CToolTipCtrl)
+ON_MESSAGE(TTM_ADDTOOLA, &CToolTipCtrlEx::OnAddTool)
+ON_MESSAGE(TTM_DELTOOLA, &CToolTipCtrlEx::OnDelTool)
+ON_MESSAGE(TTM_UPDATETIPTEXTA, &CToolTipCtrlEx::OnUpdateText)
+ON_MESSAGE(TTM_GETTEXTA, &CToolTipCtrlEx::OnGetTipText)
+ON_MESSAGE(TTM_RELAYEVENT, &CToolTipCtrlEx::OnRelay)
+ON_MESSAGE(TTM_POP, &CToolTipCtrlEx::OnPop)
+ON_MESSAGE(TTM_TRACKACTIVATE, &CToolTipCtrlEx::OnTrackActivate)
+ON_MESSAGE(TTM_TRACKPOSITION, &CToolTipCtrlEx::OnTrackPosition)
+ON_MESSAGE(WM_GETTEXT, &CToolTipCtrlEx::OnWindowText)
+ON_MESSAGE(WM_GETTEXTLENGTH, &CToolTipCtrlEx::OnWindowTextLength)
+ON_MESSAGE(show_soon, &CToolTipCtrlEx::OnShowSoon)
+ON_WM_WINDOWPOSCHANGING()
+ON_WM_SETTINGCHANGE()
+ON_WM_TIMER()
+ON_WM_DESTROY()
+ON_WM_ERASEBKGND()
+ON_WM_PAINT()
+END_MESSAGE_MAP()
+
+CToolTipCtrlEx::CToolTipCtrlEx() : layout_(std::make_unique<wnt::TipLayout>()) {}
+
+CToolTipCtrlEx::~CToolTipCtrlEx() {
+    DestroyWindow(); // while its handlers and what they use still exist
+}
+
+BOOL CToolTipCtrlEx::PreCreateWindow(CREATESTRUCT& create) {
+    create.style &= ~(TTS_BALLOON | WS_BORDER);
+    create.style |= TTS_NOANIMATE | TTS_NOFADE;
+    return CToolTipCtrl::PreCreateWindow(create);
+}
+
+// The control gives itself an edge, on which the pointer would be on the tip and not on the tool.
+LRESULT CToolTipCtrlEx::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_NCCALCSIZE)
+        return 0;
+    if (message == WM_NCPAINT)
+        return 0;
+    if (message == WM_NCHITTEST)
+        return HTTRANSPARENT;
+    return CToolTipCtrl::WindowProc(message, wParam, lParam);
+}
+
+CToolTipCtrlEx::Tool* CToolTipCtrlEx::find(const TOOLINFO& info) {
+    const auto found = std::find_if(tools_.begin(), tools_.end(),
+                                    [&](const Tool& t) { return t.window == info.hwnd && t.id == info.uId; });
+    return found == tools_.end() ? nullptr : &*found;
+}
+
+LRESULT CToolTipCtrlEx::OnAddTool(WPARAM wParam, LPARAM lParam) {
+    const auto* given = reinterpret_cast<const TOOLINFO*>(lParam);
+    if (!given || given->cbSize < TTTOOLINFOA_V1_SIZE)
+        return FALSE;
+    WntTip tip;
+    tip.text = text_of_tool(*given);
+    TOOLINFO seen = {};
+    std::memcpy(&seen, given, std::min<std::size_t>(given->cbSize, TTTOOLINFOA_V2_SIZE));
+    seen.cbSize = TTTOOLINFOA_V2_SIZE; // what every version of the control takes
+    seen.hinst = nullptr;
+    seen.lpszText = something;
+    if (!DefWindowProc(TTM_ADDTOOLA, wParam, reinterpret_cast<LPARAM>(&seen)))
+        return FALSE;
+    const Tool tool = {given->hwnd, given->uId, given->uFlags, given->lpszText == LPSTR_TEXTCALLBACK, tip};
+    if (Tool* before = find(*given))
+        *before = tool;
+    else
+        tools_.push_back(tool);
+    return TRUE;
+}
+
+LRESULT CToolTipCtrlEx::OnDelTool(WPARAM, LPARAM lParam) {
+    if (const auto* given = reinterpret_cast<const TOOLINFO*>(lParam))
+        std::erase_if(tools_, [=](const Tool& t) { return t.window == given->hwnd && t.id == given->uId; });
+    return Default();
+}
+
+LRESULT CToolTipCtrlEx::OnUpdateText(WPARAM, LPARAM lParam) {
+    const auto* given = reinterpret_cast<const TOOLINFO*>(lParam);
+    Tool* tool = given ? find(*given) : nullptr;
+    if (!tool)
+        return 0;
+    tool->asked = given->lpszText == LPSTR_TEXTCALLBACK;
+    tool->tip.text = text_of_tool(*given);
+    if (tracked_.hwnd == tool->window && tracked_.uId == tool->id)
+        track_tool();
+    else if (shown_ == Shown::by_pointer && is_current(*tool))
+        PostMessage(show_soon);
+    return 0;
+}
+
+LRESULT CToolTipCtrlEx::OnGetTipText(WPARAM capacity, LPARAM lParam) {
+    constexpr std::size_t old_callers = 80; // they tell no length
+    const auto* given = reinterpret_cast<const TOOLINFO*>(lParam);
+    const Tool* tool = given ? find(*given) : nullptr;
+    return tool ? copy_text(flat_text(tool->tip), given->lpszText, capacity ? capacity : old_callers) : 0;
+}
+
+int CToolTipCtrlEx::AddTip(CWnd* window, const WntTip& tip, LPCRECT part, UINT_PTR id) {
+    if (!this || !m_hWnd || !window->GetSafeHwnd() || !AddTool(window, something, part, id))
+        return 0;
+    TOOLINFO info;
+    FillInToolInfo(info, window, id);
+    Tool* tool = find(info);
+    if (!tool)
+        return 0;
+    tool->tip = tip;
+    return 1;
+}
+
+int CToolTipCtrlEx::SetTip(CWnd* window, const WntTip& tip, UINT_PTR id) {
+    if (!this || !m_hWnd || !window->GetSafeHwnd())
+        return 0;
+    TOOLINFO info;
+    FillInToolInfo(info, window, id);
+    Tool* tool = find(info);
+    if (!tool)
+        return 0;
+    tool->asked = false;
+    tool->tip = tip;
+    if (shown_ == Shown::by_pointer && is_current(*tool))
+        PostMessage(show_soon);
+    return 1;
+}
+
+bool CToolTipCtrlEx::is_current(const Tool& tool) {
+    TOOLINFO current = {};
+    current.cbSize = TTTOOLINFOA_V2_SIZE;
+    return SendMessage(TTM_GETCURRENTTOOLA, 0, reinterpret_cast<LPARAM>(&current)) && current.hwnd == tool.window &&
+           current.uId == tool.id;
+}
+
+bool CToolTipCtrlEx::ask(const Tool& tool, WntTip& tip) {
+    const HWND self = m_hWnd;
+    const HWND host = tool.window;
+    const auto tell = [&](NMHDR& header, UINT code) {
+        header = {self, tool.id, code};
+        ::SendMessage(host, WM_NOTIFY, tool.id, reinterpret_cast<LPARAM>(&header));
+        return ::IsWindow(self) && CWnd::FromHandlePermanent(self) == this;
+    };
+    NMTTDISPINFOA need = {};
+    need.lpszText = need.szText;
+    need.uFlags = tool.flags;
+    if (!tell(need.hdr, TTN_GETDISPINFOA))
+        return false;
+    WntTipNotify more = {{}, tip};
+    if (const CString text = answered_text(need); !text.IsEmpty())
+        more.tip.text = text;
+    if (!tell(more.hdr, WNT_TIP_NEEDED))
+        return false;
+    tip = more.tip;
+    return true;
+}
+
+// The control is about to show. The host is asked when the control is no longer at work: it may destroy the tip.
+void CToolTipCtrlEx::OnWindowPosChanging(WINDOWPOS* position) {
+    if (!presenting_ && position->flags & SWP_SHOWWINDOW) {
+        position->flags = (position->flags & ~SWP_SHOWWINDOW) | SWP_NOMOVE | SWP_NOSIZE;
+        PostMessage(show_soon);
+    }
+    if (position->flags & SWP_HIDEWINDOW)
+        shown_ = Shown::nothing;
+}
+
+LRESULT CToolTipCtrlEx::OnShowSoon(WPARAM, LPARAM) {
+    TOOLINFO info = {};
+    info.cbSize = TTTOOLINFOA_V2_SIZE;
+    if (shown_ != Shown::tracked && SendMessage(TTM_GETCURRENTTOOLA, 0, reinterpret_cast<LPARAM>(&info)) &&
+        show_tool(info, Shown::by_pointer) == Outcome::empty)
+        Pop();
+    return 0;
+}
+
+CToolTipCtrlEx::Outcome CToolTipCtrlEx::show_tool(const TOOLINFO& info, Shown how) {
+    const Tool* found = find(info);
+    if (!found)
+        return Outcome::empty;
+    const Tool tool = *found;
+    WntTip tip = tool.tip;
+    if (tool.asked && !ask(tool, tip))
+        return Outcome::destroyed;
+    CPoint pointer;
+    ::GetCursorPos(&pointer);
+    const bool at_pointer = how == Shown::by_pointer && !(tool.flags & TTF_CENTERTIP);
+    return present(tip, at_pointer ? around_pointer(pointer) : around_tool(info), how) ? Outcome::shown
+                                                                                       : Outcome::empty;
+}
+
+CRect CToolTipCtrlEx::around_pointer(CPoint at) const {
+    return CRect(at.x, at.y, at.x, at.y + ::MulDiv(pointer_height, wnt::screen_scale(), 100));
+}
+
+CRect CToolTipCtrlEx::around_tool(const TOOLINFO& info) const {
+    CRect place;
+    if (info.uFlags & TTF_IDISHWND) {
+        ::GetWindowRect(reinterpret_cast<HWND>(info.uId), &place);
+        return place;
+    }
+    place = info.rect;
+    ::MapWindowPoints(info.hwnd, nullptr, reinterpret_cast<POINT*>(&place), 2);
+    return place;
+}
+
+int CToolTipCtrlEx::widest() const {
+    const int width = GetMaxTipWidth();
+    return width > 0 ? width : ::MulDiv(default_width, wnt::screen_scale(), 100);
+}
+
+CToolTipCtrlEx::Fonts& CToolTipCtrlEx::fonts() {
+    if (!fonts_)
+        fonts_ = std::make_unique<Fonts>(wnt::screen_scale());
+    return *fonts_;
+}
+
+bool CToolTipCtrlEx::present(const WntTip& tip, const CRect& around, Shown how) {
+    if (tip.IsEmpty())
+        return false;
+    const CSize icon = icon_size(tip.icon);
+    const wnt::TipParts parts = {std::string_view(tip.title.GetString(), tip.title.GetLength()),
+                                 std::string_view(tip.text.GetString(), tip.text.GetLength()), icon.cx, icon.cy,
+                                 tip.colour != CLR_NONE};
+    wnt::TipLayout layout = wnt::lay_out_tip(parts, fonts(), widest(), wnt::screen_scale());
+    if (how == Shown::tracked && shown_ == Shown::tracked) {
+        layout.width = std::max<int>(layout.width, least_.cx);
+        layout.height = std::max<int>(layout.height, least_.cy);
+    }
+    least_ = CSize(layout.width, layout.height);
+    const bool changed = shown_ != how || layout != *layout_ || tip.colour != tip_.colour || tip.icon != tip_.icon;
+    *layout_ = std::move(layout);
+    tip_ = tip;
+    shown_ = how;
+    const CRect place = rect_of(
+        wnt::place_tip(least_.cx, least_.cy, pixels_of(around), pixels_of(work_area(CPoint(around.left, around.top)))));
+    presenting_ = true;
+    SetWindowPos(&CWnd::wndTop, place.left, place.top, place.Width(), place.Height(),
+                 SWP_NOACTIVATE | SWP_NOOWNERZORDER | SWP_SHOWWINDOW);
+    presenting_ = false;
+    if (changed)
+        Invalidate(FALSE);
+    UpdateWindow();
+    return true;
+}
+
+int CToolTipCtrlEx::ShowTip(CWnd* window, UINT_PTR id) {
+    if (!this || !m_hWnd || !window->GetSafeHwnd())
+        return 0;
+    HideTip();
+    TOOLINFO info;
+    FillInToolInfo(info, window, id);
+    if (!SendMessage(TTM_GETTOOLINFOA, 0, reinterpret_cast<LPARAM>(&info)) ||
+        show_tool(info, Shown::by_keyboard) != Outcome::shown)
+        return 0;
+    SetTimer(keyboard_timer, std::max(GetDelayTime(TTDT_AUTOPOP), 1), nullptr);
+    return 1;
+}
+
+int CToolTipCtrlEx::TrackTip(const WntTip& tip, CPoint screen) {
+    if (!this || !m_hWnd || tip.IsEmpty())
+        return 0;
+    if (shown_ != Shown::tracked)
+        HideTip();
+    return present(tip, around_pointer(screen), Shown::tracked);
+}
+
+void CToolTipCtrlEx::HideTip() {
+    if (!this || !m_hWnd)
+        return;
+    tracked_ = {};
+    KillTimer(keyboard_timer);
+    DefWindowProc(TTM_POP, 0, 0);
+    if (shown_ != Shown::nothing)
+        ShowWindow(SW_HIDE);
+    shown_ = Shown::nothing;
+}
+
+int CToolTipCtrlEx::GetShownTip(WntTip* tip) const {
+    if (!this || shown_ == Shown::nothing)
+        return 0;
+    if (tip)
+        *tip = tip_;
+    return 1;
+}
+
+LRESULT CToolTipCtrlEx::OnPop(WPARAM, LPARAM) {
+    HideTip();
+    return 0;
+}
+
+LRESULT CToolTipCtrlEx::OnRelay(WPARAM, LPARAM lParam) {
+    const auto* message = reinterpret_cast<const MSG*>(lParam);
+    if (!message || shown_ == Shown::tracked)
+        return 0;
+    if (shown_ == Shown::by_keyboard && ends_keyboard_tip(message->message))
+        HideTip();
+    return Default();
+}
+
+// The framework's own way: a tool that is shown at a place of the host's until it is told otherwise.
+LRESULT CToolTipCtrlEx::OnTrackActivate(WPARAM wParam, LPARAM lParam) {
+    HideTip();
+    const auto* given = reinterpret_cast<const TOOLINFO*>(lParam);
+    if (wParam && given && find(*given)) {
+        tracked_.hwnd = given->hwnd;
+        tracked_.uId = given->uId;
+        track_tool();
+    }
+    return 0;
+}
+
+LRESULT CToolTipCtrlEx::OnTrackPosition(WPARAM, LPARAM lParam) {
+    track_at_ = CPoint(static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam)));
+    track_tool();
+    return 0;
+}
+
+void CToolTipCtrlEx::track_tool() {
+    const Tool* found = tracked_.hwnd ? find(tracked_) : nullptr;
+    if (!found)
+        return;
+    const Tool tool = *found;
+    WntTip tip = tool.tip;
+    if (!tool.asked || ask(tool, tip))
+        present(tip, CRect(track_at_, CSize(0, 0)), Shown::tracked);
+}
+
+LRESULT CToolTipCtrlEx::OnWindowText(WPARAM capacity, LPARAM lParam) {
+    return copy_text(shown_ == Shown::nothing ? CString() : flat_text(tip_), reinterpret_cast<char*>(lParam), capacity);
+}
+
+LRESULT CToolTipCtrlEx::OnWindowTextLength(WPARAM, LPARAM) {
+    return shown_ == Shown::nothing ? 0 : flat_text(tip_).GetLength();
+}
+
+void CToolTipCtrlEx::OnSettingChange(UINT flags, LPCTSTR section) {
+    CToolTipCtrl::OnSettingChange(flags, section);
+    wnt::screen_scale(true);
+    HideTip();
+    fonts_.reset();
+}
+
+void CToolTipCtrlEx::OnTimer(UINT_PTR timer) {
+    if (timer == keyboard_timer)
+        HideTip();
+    else
+        Default();
+}
+
+void CToolTipCtrlEx::OnDestroy() {
+    tools_.clear();
+    shown_ = Shown::nothing;
+    tracked_ = {};
+    CToolTipCtrl::OnDestroy();
+}
+
+BOOL CToolTipCtrlEx::OnEraseBkgnd(CDC*) {
+    return TRUE;
+}
+
+void CToolTipCtrlEx::OnPaint() {
+    wnt::PaintPass pass(*this);
+    const COLORREF ink = GetTipTextColor();
+    pass.fill(pass.area(), GetTipBkColor());
+    pass.frame(pass.area(), ink);
+    const CRect icon = rect_of(layout_->icon);
+    if (!icon.IsRectEmpty() && pass.out().dc)
+        ::DrawIconEx(pass.out().dc, icon.left, icon.top, tip_.icon, icon.Width(), icon.Height(), 0, nullptr, DI_NORMAL);
+    if (tip_.colour != CLR_NONE) {
+        const CRect sample = rect_of(layout_->sample);
+        pass.fill(sample, tip_.colour);
+        pass.frame(sample, ink);
+    }
+    for (const wnt::TipLine& line : layout_->lines)
+        pass.text(CRect(line.x, line.y, pass.area().right, pass.area().bottom), line.text.c_str(),
+                  DT_LEFT | DT_TOP | DT_SINGLELINE | DT_NOPREFIX, ink, &fonts().of(line.bold).font());
+}

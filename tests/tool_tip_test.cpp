@@ -1,0 +1,260 @@
+#include <zopwnt.h>
+
+#include <gmock/gmock.h>
+
+#include "widget_window.h"
+
+namespace {
+
+constexpr COLORREF odd_colour = RGB(12, 200, 34);
+
+// Has the tools, and answers what it is asked.
+class TipHost : public AttentiveHost {
+public:
+    CString need_text;
+    std::function<void(WntTip&)> fill = [](WntTip&) {};
+    std::vector<UINT> asked;
+
+protected:
+    BOOL OnNotify(WPARAM, LPARAM lParam, LRESULT*) override {
+        auto* told = reinterpret_cast<NMHDR*>(lParam);
+        if (told->code == TTN_NEEDTEXTA) {
+            asked.push_back(told->code);
+            lstrcpynA(reinterpret_cast<NMTTDISPINFOA*>(told)->szText, need_text, 80);
+        } else if (told->code == WNT_TIP_NEEDED) {
+            asked.push_back(told->code);
+            fill(reinterpret_cast<WntTipNotify*>(told)->tip);
+        }
+        return TRUE;
+    }
+};
+
+class ToolTip : public testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(host_.CreateEx(WS_EX_TOPMOST, nullptr, "host", WS_POPUP, CRect(100, 100, 400, 300), nullptr, 0));
+        host_.ShowWindow(SW_SHOW);
+        host_.SetActiveWindow();
+        ASSERT_TRUE(button_.Create("b", WS_CHILD | WS_VISIBLE, CRect(10, 10, 60, 40), &host_, 5));
+        tips_ = std::make_unique<CToolTipCtrlEx>();
+        ASSERT_TRUE(tips_->Create(&host_, TTS_ALWAYSTIP | TTS_BALLOON));
+        tips_->SetDelayTime(TTDT_INITIAL, 1);
+        tips_->SetDelayTime(TTDT_RESHOW, 1);
+    }
+    void TearDown() override {
+        tips_.reset();
+        host_.DestroyWindow();
+    }
+    void relay(UINT message, CPoint at) {
+        CPoint screen = at;
+        host_.ClientToScreen(&screen);
+        MSG event = {host_.m_hWnd, message, 0, MAKELPARAM(at.x, at.y), 0, screen};
+        if (const HWND child = ::ChildWindowFromPoint(host_.m_hWnd, at); child && child != host_.m_hWnd)
+            event.hwnd = child;
+        tips_->RelayEvent(&event);
+    }
+    void point_at(CPoint at) {
+        CPoint screen = at;
+        host_.ClientToScreen(&screen);
+        ::SetCursorPos(screen.x, screen.y);
+        relay(WM_MOUSEMOVE, at);
+    }
+    template <class Condition> bool pumped_until(Condition condition, DWORD limit = 3000) {
+        MSG message;
+        for (const DWORD start = ::GetTickCount(); !condition() && ::GetTickCount() - start < limit;) {
+            ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 20, QS_ALLINPUT);
+            while (::PeekMessage(&message, nullptr, 0, 0, PM_REMOVE))
+                ::DispatchMessage(&message);
+        }
+        return condition();
+    }
+    // What shows after the pointer came to a point; empty where nothing does.
+    std::string shown_at(CPoint at, DWORD limit = 3000) {
+        point_at(at);
+        pumped_until([&] { return tips_->IsWindowVisible(); }, limit);
+        return shown();
+    }
+    std::string shown() {
+        CString text;
+        if (tips_->IsWindowVisible())
+            tips_->GetWindowText(text);
+        return text.GetString();
+    }
+    CRect place() {
+        CRect r;
+        tips_->GetWindowRect(&r);
+        return r;
+    }
+
+    TipHost host_;
+    CButton button_;
+    std::unique_ptr<CToolTipCtrlEx> tips_;
+};
+
+TEST_F(ToolTip, ShowsBelowThePointerWhatItIs) {
+    const WntTip tip = {"Save", "Writes the document\nto its file", nullptr, CLR_NONE};
+    EXPECT_EQ(tips_->AddTip(&button_, tip), 1);
+    EXPECT_EQ(tips_->AddTip(&host_, {"", "part"}, CRect(100, 100, 150, 150), 7), 1);
+    EXPECT_EQ(shown_at({20, 20}), "Save\nWrites the document\nto its file");
+    CPoint pointer(20, 20);
+    host_.ClientToScreen(&pointer);
+    EXPECT_TRUE(place().left == pointer.x && place().top > pointer.y && place().top < pointer.y + 40);
+    WntTip now;
+    EXPECT_TRUE(tips_->GetShownTip(&now) && now.title == "Save");
+    EXPECT_EQ(tips_->SetTip(&button_, {"Changed", ""}), 1); // while it shows
+    EXPECT_TRUE(pumped_until([&] { return shown() == "Changed"; }));
+    host_.MoveWindow(150, 50, 300, 200); // its rectangles go with it
+    point_at({20, 150});
+    EXPECT_TRUE(pumped_until([&] { return shown().empty(); }));
+    EXPECT_EQ(tips_->GetShownTip(nullptr), 0);
+    EXPECT_EQ(shown_at({120, 120}), "part");
+    tips_->DelTool(&host_, 7);
+    EXPECT_EQ(tips_->ShowTip(&host_, 7), 0);
+    EXPECT_EQ(tips_->SetTip(&host_, tip, 7), 0);
+}
+
+TEST_F(ToolTip, AsksWhenItShows) {
+    tips_->AddTool(&host_, LPSTR_TEXTCALLBACK, CRect(100, 100, 150, 150), 7);
+    host_.need_text = "from the framework";
+    EXPECT_TRUE(host_.asked.empty());
+    EXPECT_EQ(shown_at({120, 120}), "from the framework");
+    EXPECT_THAT(host_.asked, testing::ElementsAre(UINT(TTN_NEEDTEXTA), WNT_TIP_NEEDED));
+    host_.fill = [](WntTip& tip) {
+        tip.title = "Level";
+        tip.text += ", 12 cm";
+    };
+    EXPECT_EQ(tips_->ShowTip(&host_, 7), 1);
+    EXPECT_EQ(shown(), "Level\nfrom the framework, 12 cm");
+    tips_->HideTip();
+    host_.need_text = "";
+    host_.fill = [](WntTip&) {};
+    host_.asked.clear();
+    EXPECT_EQ(tips_->ShowTip(&host_, 7), 0); // nothing to show
+    point_at({5, 150});
+    point_at({120, 120});
+    EXPECT_TRUE(pumped_until([&] { return host_.asked.size() >= 4; }));
+    EXPECT_EQ(shown(), "");
+}
+
+TEST_F(ToolTip, MayBeDestroyedWhenItAsks) {
+    for (const bool by_pointer : {true, false}) {
+        tips_ = std::make_unique<CToolTipCtrlEx>();
+        ASSERT_TRUE(tips_->Create(&host_, TTS_ALWAYSTIP));
+        tips_->SetDelayTime(TTDT_INITIAL, 1);
+        tips_->AddTool(&host_, LPSTR_TEXTCALLBACK, CRect(100, 100, 150, 150), 7);
+        host_.fill = [&](WntTip& tip) {
+            tip.text = "gone";
+            tips_.reset();
+        };
+        point_at({5, 150});
+        if (by_pointer)
+            point_at({120, 120});
+        else
+            EXPECT_EQ(tips_->ShowTip(&host_, 7), 0);
+        EXPECT_TRUE(pumped_until([&] { return !tips_; })) << by_pointer;
+    }
+}
+
+TEST_F(ToolTip, TheKeyboardShowsItUntilTheNextKey) {
+    tips_->AddTip(&button_, {"", "Save"});
+    EXPECT_EQ(tips_->ShowTip(&button_), 1);
+    CRect tool;
+    button_.GetWindowRect(&tool);
+    EXPECT_TRUE(shown() == "Save" && place().left == tool.left && place().top == tool.bottom);
+    relay(WM_KEYUP, {0, 0});
+    EXPECT_EQ(shown(), "Save");
+    relay(WM_KEYDOWN, {0, 0});
+    EXPECT_EQ(shown(), "");
+    EXPECT_EQ(tips_->ShowTip(&button_), 1);
+    tips_->Pop();
+    EXPECT_EQ(shown(), "");
+    tips_->SetDelayTime(TTDT_AUTOPOP, 1);
+    EXPECT_EQ(tips_->ShowTip(&button_), 1);
+    EXPECT_TRUE(pumped_until([&] { return shown().empty(); })); // its time is over
+    EXPECT_EQ(tips_->ShowTip(nullptr) + tips_->ShowTip(&host_), 0);
+}
+
+TEST_F(ToolTip, PaintsItsParts) {
+    const HICON icon = ::LoadIconA(nullptr, IDI_WARNING);
+    tips_->AddTip(&button_, {"Title", "text", icon, odd_colour});
+    const COLORREF ground = tips_->GetTipBkColor(), ink = tips_->GetTipTextColor();
+    ASSERT_TRUE(tips_->ShowTip(&button_));
+    const Pixels all = pixels_of(*tips_);
+    EXPECT_EQ(all.at(0, 0), ink); // framed
+    EXPECT_EQ(all.at(all.width - 1, all.height - 1), ink);
+    EXPECT_EQ(all.at(2, 2), ground);
+    const long sample = all.count(odd_colour);
+    EXPECT_GT(sample, 80);
+    EXPECT_GT(all.height, 32);
+    const auto ink_of = [&](const char* title, const char* text) {
+        tips_->SetTip(&button_, {title, text});
+        tips_->ShowTip(&button_);
+        const Pixels p = pixels_of(*tips_);
+        return p.width * p.height - p.count(ground) - 2 * (p.width + p.height - 2);
+    };
+    EXPECT_GT(ink_of("Title", ""), ink_of("", "Title") * 5 / 4); // bold
+    tips_->SetMaxTipWidth(100);
+    EXPECT_GT(ink_of("", "several words that need some lines here"), 100);
+    EXPECT_LE(place().Width(), 100);
+    EXPECT_GT(place().Height(), 40);
+}
+
+TEST_F(ToolTip, FollowsThePointerWithoutFlicker) {
+    EXPECT_EQ(tips_->TrackTip({"", "x = 10.00"}, CPoint(200, 200)), 1);
+    const CRect before = place();
+    {
+        CClientDC dc(tips_.get());
+        dc.FillSolidRect(CRect(0, 0, 5, 5), poison);
+    }
+    tips_->TrackTip({"", "x = 10.00"}, CPoint(230, 220)); // moved alone: painted nowhere
+    EXPECT_EQ(place(), before + CPoint(30, 20));
+    EXPECT_EQ(pixels_of(*tips_).count(poison), 25);
+    tips_->TrackTip({"", "x = 1"}, CPoint(230, 220));
+    EXPECT_EQ(place().Size(), before.Size());
+    EXPECT_EQ(pixels_of(*tips_).count(poison), 0);
+    EXPECT_EQ(shown(), "x = 1");
+    tips_->AddTip(&button_, {"", "other"});
+    point_at({20, 20});
+    EXPECT_FALSE(pumped_until([&] { return shown() != "x = 1"; }, 200));
+    const CRect screen(0, 0, ::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN));
+    tips_->TrackTip({"", "x = 1"}, CPoint(screen.right - 5, screen.bottom - 5));
+    EXPECT_TRUE(place().right <= screen.right && place().bottom <= screen.bottom - 5); // above the pointer
+    tips_->HideTip();
+    EXPECT_EQ(shown(), "");
+    tips_->TrackTip({"", "x"}, CPoint(200, 200));
+    EXPECT_LT(place().Width(), before.Width());
+    EXPECT_EQ(tips_->TrackTip({}, CPoint(200, 200)), 0);
+}
+
+TEST_F(ToolTip, KeepsToTheFrameworksWays) {
+    CString text;
+    const CString longer('m', 300);
+    EXPECT_TRUE(tips_->AddTool(&button_, longer));
+    tips_->GetText(text, &button_);
+    EXPECT_EQ(text, longer);
+    EXPECT_EQ(tips_->GetToolCount(), 1);
+    tips_->UpdateTipText("shorter", &button_);
+    EXPECT_EQ(tips_->ShowTip(&button_), 1);
+    EXPECT_EQ(shown(), "shorter");
+    TOOLINFO tool;
+    tips_->FillInToolInfo(tool, &button_, 0);
+    tips_->SendMessage(TTM_TRACKPOSITION, 0, MAKELPARAM(300, 200));
+    tips_->SendMessage(TTM_TRACKACTIVATE, TRUE, reinterpret_cast<LPARAM>(&tool));
+    EXPECT_TRUE(shown() == "shorter" && place().TopLeft() == CPoint(300, 200));
+    tips_->SendMessage(TTM_TRACKPOSITION, 0, MAKELPARAM(310, 210));
+    tips_->UpdateTipText("tracked", &button_);
+    EXPECT_TRUE(shown() == "tracked" && place().TopLeft() == CPoint(310, 210));
+    tips_->SendMessage(TTM_TRACKACTIVATE, FALSE, reinterpret_cast<LPARAM>(&tool));
+    EXPECT_EQ(shown(), "");
+    tips_->DelTool(&button_);
+    EXPECT_EQ(tips_->GetToolCount(), 0);
+    CToolTipCtrlEx* volatile none = nullptr;
+    CToolTipCtrlEx bare;
+    EXPECT_EQ(none->AddTip(&button_, {}) + none->ShowTip(&button_) + none->TrackTip({"a", ""}, CPoint()) +
+                  none->GetShownTip(nullptr) + bare.AddTip(&button_, {"a", ""}) + bare.ShowTip(&button_) +
+                  tips_->AddTip(nullptr, {"a", ""}) + tips_->SetTip(nullptr, {}),
+              0);
+    bare.HideTip();
+}
+
+} // namespace
