@@ -121,7 +121,7 @@ TabsLayout lay_out_tabs(const TabsModel& model, const TabsSizes& sizes, std::spa
     int needed = 2 * sizes.lift;
     for (const int length : lengths)
         needed += length;
-    const bool overflows = needed > room;
+    const bool overflows = needed > room && lengths.size() > 1;
     const int buttons = !overflows ? 0 : model.overflow == TabsOverflow::menu ? sizes.button : 2 * sizes.button;
     const int place = room - 2 * sizes.lift - buttons;
     if (place <= 0)
@@ -129,16 +129,17 @@ TabsLayout lay_out_tabs(const TabsModel& model, const TabsSizes& sizes, std::spa
     const Run run = fitting(lengths, place, first, wanted);
     layout.first = run.first;
     layout.shown = run.shown;
+    const int top = std::min(sizes.lift, depth);
     int at = sizes.lift;
     for (int tab = run.first; tab < run.first + run.shown; ++tab) {
         const auto i = static_cast<std::size_t>(tab);
         const int end = at + std::min(lengths[i], place);
-        layout.tabs[i] = layout.in_client({at, std::min(sizes.lift, depth), end, std::max(depth - 1, 0)});
+        layout.tabs[i] = layout.in_client({at, top, end, std::max(depth - 1, top)});
         at = end;
     }
     if (!overflows)
         return layout;
-    const int top = std::min(sizes.lift, depth), bottom = std::max(depth - sizes.lift, top);
+    const int bottom = std::max(depth - sizes.lift, top);
     const PixelRect last = layout.in_client({room - sizes.button, top, room, bottom});
     if (model.overflow == TabsOverflow::menu) {
         layout.menu = last;

@@ -73,6 +73,7 @@ bool TabsModel::insert(int at, Tab tab) {
     if (at < 0 || count() >= most_tabs)
         return false;
     at = std::min(at, count());
+    tab.id = ++last_id_;
     tab.text.resize(std::min(tab.text.size(), longest_text));
     tab.tip.resize(std::min(tab.tip.size(), longest_tip));
     tabs_.insert(tabs_.begin() + at, std::move(tab));
@@ -81,6 +82,11 @@ bool TabsModel::insert(int at, Tab tab) {
     else if (selected_ < 0 && this->at(at).enabled)
         selected_ = at;
     return true;
+}
+
+int TabsModel::position_of(int id) const {
+    const auto found = std::ranges::find(tabs_, id, &Tab::id);
+    return found == tabs_.end() ? -1 : static_cast<int>(found - tabs_.begin());
 }
 
 bool TabsModel::remove(int tab) {
@@ -95,11 +101,6 @@ bool TabsModel::remove(int tab) {
             selected_ = enabled_from(tab - 1, false);
     }
     return true;
-}
-
-void TabsModel::clear() {
-    tabs_.clear();
-    selected_ = -1;
 }
 
 bool TabsModel::move(int from, int to) {

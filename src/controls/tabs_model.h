@@ -25,6 +25,7 @@ struct Tab {
     bool closable = false;
     void* page = nullptr;
     void* icon = nullptr;
+    int id = 0; ///< given by the model, another one for each tab
 };
 
 /// The tabs of a strip, their order, which one is selected, and what a script line does to them. The selected tab is
@@ -39,13 +40,14 @@ public:
     bool has(int tab) const { return tab >= 0 && tab < count(); }
     const Tab& at(int tab) const { return tabs_[static_cast<std::size_t>(tab)]; }
     Tab& at(int tab) { return tabs_[static_cast<std::size_t>(tab)]; }
+    /// Of the tab with this id; -1: it is gone.
+    int position_of(int id) const;
     /// -1: none.
     int selected() const { return selected_; }
 
     /// Before the tab that is there; at the end where that is beyond it. False when it is full or `at` is negative.
     bool insert(int at, Tab tab);
     bool remove(int tab);
-    void clear();
     /// The tab gets position `to`.
     bool move(int from, int to);
     /// False for one that is disabled or not there.
@@ -81,6 +83,7 @@ private:
 
     std::vector<Tab> tabs_;
     int selected_ = -1;
+    int last_id_ = 0;
     bool in_script_ = false;
     int named_ = 0;    // tabs, by this script
     int current_ = -1; // the one that lines describe

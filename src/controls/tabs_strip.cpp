@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <utility>
 
 #include "controls/wnt_tabs.h"
 #include "screen_scale.h"
@@ -11,6 +12,9 @@
 namespace wnt {
 
 namespace {
+
+constexpr UINT_PTR repeat_timer = 1;
+constexpr UINT repeat_time = 200; // milliseconds
 
 CRect rect_of(const PixelRect& r) {
     return CRect(r.left, r.top, r.right, r.bottom);
@@ -33,12 +37,23 @@ ON_WM_SYSKEYDOWN()
 ON_WM_SETFOCUS()
 ON_WM_KILLFOCUS()
 ON_WM_GETDLGCODE()
+ON_WM_DESTROY()
+ON_WM_TIMER()
 END_MESSAGE_MAP()
 
 TabsStrip::TabsStrip(CWntTabs& tabs) : ControlWindow("WntTabsStrip", Draws::itself), tabs_(tabs) {}
 
 TabsStrip::~TabsStrip() {
     DestroyWindow(); // while its handlers and what they use still exist
+}
+
+// Its window is no child of the strip's.
+void TabsStrip::OnDestroy() {
+    tips_.DestroyWindow();
+    tip_count_ = 0;
+    hot_ = pressed_ = {};
+    gap_ = -1;
+    ControlWindow::OnDestroy();
 }
 
 void TabsStrip::rescale(bool settings_changed) {
@@ -170,6 +185,7 @@ void TabsStrip::drag_to(CPoint point) {
 
 void TabsStrip::end_press() {
     const TabsPoint pressed = std::exchange(pressed_, {});
+    KillTimer(repeat_timer);
     if (gap_ >= 0)
         InvalidateRect(box(layout_.gap_mark(std::exchange(gap_, -1), std::max(sizes_.lift, 2))), FALSE);
     if (pressed.part != TabsPoint::nothing)
@@ -187,16 +203,16 @@ void TabsStrip::OnLButtonDown(UINT, CPoint point) {
         return;
     if (at.part == TabsPoint::menu)
         return open_menu();
-    const HWND self = m_hWnd;
-    if (at.part == TabsPoint::tab &&
-        (!tabs_.select_by_user(at.index) || hit(point) != at || ::IsWindowVisible(self) == FALSE))
+    if (at.part == TabsPoint::tab && (!tabs_.select_by_user(at.index) || hit(point) != at))
         return;
     pressed_ = hot_ = at;
     pressed_at_ = point;
     SetCapture();
     repaint(at);
-    if (at.part == TabsPoint::back || at.part == TabsPoint::on)
+    if (at.part == TabsPoint::back || at.part == TabsPoint::on) {
+        SetTimer(repeat_timer, repeat_time, nullptr);
         scroll(at.part == TabsPoint::on ? 1 : -1);
+    }
 }
 
 void TabsStrip::OnLButtonDblClk(UINT flags, CPoint point) {
@@ -224,11 +240,20 @@ void TabsStrip::OnCancelMode() {
 }
 
 void TabsStrip::scroll(int step) {
-    const int first = layout_.first + step;
-    if (first < 0 || !layout_.overflows())
-        return;
-    layout_.first = first;
-    tabs_.arrange(-1);
+    CRect owner;
+    tabs_.GetClientRect(&owner);
+    const int first = std::max(layout_.first + step, 0);
+    layout_ = lay_out_tabs(*tabs_.model_, sizes_, lengths_, owner.Width(), owner.Height(), first, -1);
+    place_tips();
+    Invalidate(FALSE);
+}
+
+// A held arrow goes on.
+void TabsStrip::OnTimer(UINT_PTR timer) {
+    if (timer != repeat_timer)
+        return ControlWindow::OnTimer(timer);
+    if (hot_ == pressed_ && (pressed_.part == TabsPoint::back || pressed_.part == TabsPoint::on))
+        scroll(pressed_.part == TabsPoint::on ? 1 : -1);
 }
 
 // With the tabs that are not seen.

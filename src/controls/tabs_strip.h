@@ -48,6 +48,8 @@ protected:
     afx_msg void OnSetFocus(CWnd* old);
     afx_msg void OnKillFocus(CWnd* next);
     afx_msg UINT OnGetDlgCode();
+    afx_msg void OnDestroy();
+    afx_msg void OnTimer(UINT_PTR timer);
     DECLARE_MESSAGE_MAP()
 
 private:

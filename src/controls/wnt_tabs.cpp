@@ -333,36 +333,39 @@ bool CWntTabs::tell(UINT code, int tab, int other, HWND page, LRESULT* refused) 
     return alive;
 }
 
+CWntTabs::Answer CWntTabs::ask(UINT code, int& tab, int other) {
+    const int id = model_->at(tab).id;
+    LRESULT refused = 0;
+    if (!tell(code, tab, other, page_window(tab), &refused))
+        return Answer::destroyed;
+    tab = model_->position_of(id);
+    return refused || tab < 0 ? Answer::refused : Answer::allowed;
+}
+
 bool CWntTabs::select_by_user(int tab) {
     const int before = model_->selected();
     if (tab == before || !model_->has(tab) || !model_->at(tab).enabled)
         return true;
-    LRESULT refused = 0;
-    if (!tell(WNT_TABS_SELECTING, tab, before, page_window(tab), &refused))
-        return false;
-    if (refused || !Select(tab))
-        return true;
+    const Answer answer = ask(WNT_TABS_SELECTING, tab, before);
+    if (answer != Answer::allowed || !Select(tab))
+        return answer != Answer::destroyed;
     return tell(WNT_TABS_SELECTED, tab, before, page_window(tab));
 }
 
 bool CWntTabs::close_by_user(int tab) {
     const HWND page = page_window(tab);
-    LRESULT refused = 0;
-    if (!tell(WNT_TABS_CLOSING, tab, model_->selected(), page, &refused))
-        return false;
-    if (refused || !RemoveTab(tab))
-        return true;
+    const Answer answer = ask(WNT_TABS_CLOSING, tab, model_->selected());
+    if (answer != Answer::allowed || !RemoveTab(tab))
+        return answer != Answer::destroyed;
     return tell(WNT_TABS_CLOSED, tab, model_->selected(), page);
 }
 
 bool CWntTabs::move_by_user(int from, int to) {
     if (from == to)
         return true;
-    LRESULT refused = 0;
-    if (!tell(WNT_TABS_ORDERING, from, to, page_window(from), &refused))
-        return false;
-    if (refused || !MoveTab(from, to))
-        return true;
+    const Answer answer = ask(WNT_TABS_ORDERING, from, to);
+    if (answer != Answer::allowed || !MoveTab(from, to))
+        return answer != Answer::destroyed;
     return tell(WNT_TABS_ORDERED, to, from, page_window(to));
 }
 

@@ -138,6 +138,9 @@ private:
 
     // What the user does, told before and after. False when nothing is left to go on with.
     bool tell(UINT code, int tab, int other, HWND page, LRESULT* refused = nullptr);
+    enum class Answer { allowed, refused, destroyed };
+    /// Before it; `tab` is where that tab is afterwards.
+    Answer ask(UINT code, int& tab, int other);
     bool select_by_user(int tab);
     bool close_by_user(int tab);
     bool move_by_user(int from, int to);
