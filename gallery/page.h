@@ -129,6 +129,7 @@ std::unique_ptr<CGalleryPage> MakeFramesPage();
 std::unique_ptr<CGalleryPage> MakeFoldingFramesPage();
 std::unique_ptr<CGalleryPage> MakeSashPage();
 std::unique_ptr<CGalleryPage> MakeTabsPage();
+std::unique_ptr<CGalleryPage> MakeTipsPage();
 std::unique_ptr<CGalleryPage> MakePulsePage();
 std::unique_ptr<CGalleryPage> MakeCalendarPage();
 std::unique_ptr<CGalleryPage> MakeColoursPage();
