@@ -43,9 +43,9 @@ ChartLayout lay_out_chart(int width, int height, const ChartSizes& sizes) {
     const int across = axis_width, along = axis_height;
     if (sizes.time_axis)
         result.time_axis.bottom = take(along, plot.height(), least_plot_height);
-    if (sizes.left_axis)
+    if (sizes.left_axis && plot.height() > least_plot_height)
         result.left_axis.right = take(across, plot.width(), least_plot_width);
-    if (sizes.right_axis)
+    if (sizes.right_axis && plot.height() > least_plot_height)
         result.right_axis.right = take(across, plot.width() - result.left_axis.right, least_plot_width);
     int room = plot.height() - result.time_axis.bottom;
     const int bar = take(sizes.scroll_bar, room, least_plot_height);

@@ -119,7 +119,7 @@ std::vector<int> PulseChart::ranges() const {
         for (std::size_t i = 0; i < curves_.size(); ++i) {
             if (curves_[i].shown != shown || result[i] != no_curve)
                 continue;
-            for (std::size_t k = i; k < curves_.size(); ++k)
+            for (std::size_t k = 0; k < curves_.size(); ++k)
                 if (curves_[k].low == curves_[i].low && curves_[k].high == curves_[i].high)
                     result[k] = count;
             ++count;

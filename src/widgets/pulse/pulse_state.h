@@ -39,6 +39,10 @@ struct CWntPulse::State {
         const wnt::PixelRect& r = plot();
         return r.left <= point.x && point.x < r.right && r.top <= point.y && point.y < r.bottom;
     }
+    void know_history() {
+        if (const auto newest = chart.newest())
+            view.set_history(*chart.oldest(), *newest);
+    }
     std::int64_t time_at(int x) const { return view.time(x - plot().left); }
 };
 

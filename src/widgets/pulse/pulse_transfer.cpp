@@ -1,6 +1,7 @@
 #include "widgets/pulse/pulse_transfer.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <cstdio>
 #include <filesystem>
@@ -16,6 +17,9 @@ namespace {
 
 constexpr std::int64_t look_every = 4096; // characters between two looks at a file's size
 constexpr int no_error = 0;
+
+namespace chrono = std::chrono;
+constexpr chrono::sys_days day_zero{chrono::year(1979) / 12 / 31}; // of an axis
 
 std::string text_of(int error) {
     return CWntPulseFile::ErrorText(error);
@@ -186,19 +190,34 @@ std::int64_t axis_time_of(std::int64_t seconds) {
         fields = local_fields(seconds - 3600);
     if (!fields)
         return 0;
-    return time_value({fields->tm_mday, fields->tm_mon + 1, fields->tm_year + 1900, fields->tm_hour, fields->tm_min,
-                       fields->tm_sec, 0});
+    const chrono::year_month_day date{chrono::year(fields->tm_year + 1900), chrono::month(fields->tm_mon + 1),
+                                      chrono::day(fields->tm_mday)};
+    const std::int64_t day = (chrono::sys_days(date) - day_zero).count();
+    return day * hundredths_per_day + ((fields->tm_hour * 60 + fields->tm_min) * 60 + fields->tm_sec) * 100;
+}
+
+TAxisdatetime date_of_axis_time(std::int64_t time) {
+    const std::int64_t day = time / hundredths_per_day - (time % hundredths_per_day < 0);
+    const auto rest = static_cast<std::int32_t>(time - day * hundredths_per_day);
+    const chrono::year_month_day date(day_zero + chrono::days(std::clamp<std::int64_t>(day, -700'000, 10'000'000)));
+    return {static_cast<std::int32_t>(static_cast<unsigned>(date.day())),
+            static_cast<std::int32_t>(static_cast<unsigned>(date.month())),
+            static_cast<int>(date.year()),
+            rest / 360'000,
+            rest / 6'000 % 60,
+            rest / 100 % 60,
+            rest % 100};
 }
 
 std::optional<std::int64_t> moment_of_axis_time(std::int64_t time) {
-    const TAxisdatetime record = split_time(time);
+    const TAxisdatetime date = date_of_axis_time(time);
     std::tm fields{};
-    fields.tm_year = record.year;
-    fields.tm_mon = record.month - 1;
-    fields.tm_mday = record.day;
-    fields.tm_hour = record.hour;
-    fields.tm_min = record.minute;
-    fields.tm_sec = record.second;
+    fields.tm_year = date.year - 1900;
+    fields.tm_mon = date.month - 1;
+    fields.tm_mday = date.day;
+    fields.tm_hour = date.hour;
+    fields.tm_min = date.minute;
+    fields.tm_sec = date.second;
     fields.tm_isdst = 0;
     return seconds_of(fields);
 }

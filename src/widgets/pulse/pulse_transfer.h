@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "pulse/pulse_series.h"
+#include "widgets/axis/axis_types.h"
 
 class CWntPulseFile;
 
@@ -91,5 +92,7 @@ private:
 std::int64_t axis_time_of(std::int64_t seconds);
 /// And back; nothing for times without a date.
 std::optional<std::int64_t> moment_of_axis_time(std::int64_t time);
+/// Its calendar fields, with the full year.
+TAxisdatetime date_of_axis_time(std::int64_t time);
 
 } // namespace wnt

@@ -315,6 +315,7 @@ __int64 CWntPulse::GetSpan() const {
 int CWntPulse::ShowTime(__int64 start, __int64 end) {
     if (!this || start >= end)
         return 0;
+    state_->know_history();
     state_->view.show(start, end);
     refresh(false);
     return 1;
@@ -547,9 +548,7 @@ void CWntPulse::refresh(bool anew) {
     if (!m_hWnd)
         return;
     State& s = *state_;
-    const auto oldest = s.chart.oldest(), newest = s.chart.newest();
-    if (newest)
-        s.view.set_history(*oldest, *newest);
+    s.know_history();
     update_ranges();
     update_axes();
     update_scroll_bar();

@@ -4,7 +4,6 @@
 #include <string>
 
 #include "screen_scale.h"
-#include "widgets/axis/time_value.h"
 #include "widgets/painting/paint_pass.h"
 #include "widgets/pulse/pulse_state.h"
 
@@ -21,9 +20,9 @@ std::string value_text(double value) {
 }
 
 std::string time_text(std::int64_t time) {
-    const TAxisdatetime at = split_time(time);
+    const TAxisdatetime at = date_of_axis_time(time);
     char text[80];
-    std::snprintf(text, sizeof text, "%04d-%02d-%02d %02d:%02d:%02d.%02d", at.year + 1900, at.month, at.day, at.hour,
+    std::snprintf(text, sizeof text, "%04d-%02d-%02d %02d:%02d:%02d.%02d", at.year, at.month, at.day, at.hour,
                   at.minute, at.second, at.hundredths);
     return text;
 }

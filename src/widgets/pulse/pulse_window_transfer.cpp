@@ -7,7 +7,6 @@
 #include <string>
 
 #include "out/hardcopy.h"
-#include "widgets/axis/time_value.h"
 #include "widgets/colour_selector/wnt_color_sel.h"
 #include "widgets/painting/memory_bitmap.h"
 #include "widgets/painting/surface_owner.h"
@@ -43,10 +42,10 @@ HGLOBAL text_block(const std::string& text) {
 }
 
 void append_line(std::string& text, const PulsePoint& sample, const std::string& title) {
-    const TAxisdatetime at = split_time(sample.time);
+    const TAxisdatetime at = date_of_axis_time(sample.time);
     char line[160];
-    std::snprintf(line, sizeof line, "%04d-%02d-%02d %02d:%02d:%02d.%02d\t%s\t%.9g\r\n", at.year + 1900, at.month,
-                  at.day, at.hour, at.minute, at.second, at.hundredths, title.c_str(), sample.value);
+    std::snprintf(line, sizeof line, "%04d-%02d-%02d %02d:%02d:%02d.%02d\t%s\t%.9g\r\n", at.year, at.month, at.day,
+                  at.hour, at.minute, at.second, at.hundredths, title.c_str(), sample.value);
     text += line;
 }
 
@@ -174,7 +173,7 @@ void CWntPulse::end_reading(int whole) {
     s.reader = PulseReader();
     const auto oldest = s.chart.oldest(), newest = s.chart.newest();
     if (newest) {
-        s.view.set_history(*oldest, *newest);
+        s.know_history();
         s.view.show(*oldest, *newest + std::max<std::int64_t>((*newest - *oldest) / 50, 1));
     }
     restyle();
