@@ -25,8 +25,12 @@ struct CWntPulse::State {
     wnt::PulseReader reader;
     CFont title_font, font;
     bool reading = false;
+    bool tip_shown = false;
+    int scale = 100;
+    bool ticking = false;      // the timer runs: while samples arrive
     bool stale = false;        // samples arrived since the last picture
     bool legend_stale = false; // and since the legend was written
+    bool presented = false;    // the window shows the picture, all of it and nothing over it
     bool anew = true;          // the picture must be drawn anew
     Drag drag = Drag::none;
     CPoint drag_start, drag_at;
@@ -34,6 +38,8 @@ struct CWntPulse::State {
     std::int64_t drag_origin = 0;
     int wheel = 0;
 
+    /// Something lies over the curves.
+    bool overlaid() const { return cursors[0] || cursors[1] || drag == Drag::stretch || reading; }
     const wnt::PixelRect& plot() const { return layout.plot; }
     bool in_plot(CPoint point) const {
         const wnt::PixelRect& r = plot();

@@ -20,7 +20,7 @@ constexpr UINT left_id = 1, right_id = 2, time_id = 3, scroll_id = 4;
 constexpr UINT tick_milliseconds = 33; // a picture at most so often
 constexpr int least_grid_distance = 50;
 constexpr int title_pixels = 14, text_pixels = 12; // of the characters at 96 dots an inch
-constexpr int scroll_steps = 10'000;
+constexpr int scroll_steps = 1000;
 
 COLORREF swapped(std::uint32_t colour) {
     return (colour & 0xFF) << 16 | (colour & 0xFF00) | (colour >> 16 & 0xFF);
@@ -104,7 +104,7 @@ void CWntPulse::leave() {
 void CWntPulse::OnDestroy() {
     tip_.DestroyWindow();
     state_->drag = State::Drag::none;
-    state_->stale = false;
+    state_->stale = state_->ticking = false;
     CWnd::OnDestroy();
 }
 
@@ -393,16 +393,17 @@ bool CWntPulse::tell(UINT code, int which, __int64 time) {
 // Once for all that arrive between two pictures.
 void CWntPulse::samples_arrived() {
     state_->legend_stale = true;
-    if (std::exchange(state_->stale, true) || !m_hWnd)
-        return;
-    SetTimer(pulse_tick_timer, tick_milliseconds, nullptr);
+    state_->stale = true;
+    if (m_hWnd && !std::exchange(state_->ticking, true))
+        SetTimer(pulse_tick_timer, tick_milliseconds, nullptr);
 }
 
 void CWntPulse::OnTimer(UINT_PTR timer) {
     if (timer == pulse_tick_timer) {
-        KillTimer(pulse_tick_timer);
         if (std::exchange(state_->stale, false))
             refresh(false);
+        else if (std::exchange(state_->ticking, false))
+            KillTimer(pulse_tick_timer);
     } else if (timer == pulse_read_timer) {
         read_on();
     } else {
@@ -414,7 +415,7 @@ void CWntPulse::OnTimer(UINT_PTR timer) {
 void CWntPulse::restyle() {
     if (!m_hWnd)
         return;
-    const int scale = screen_scale(false);
+    const int scale = state_->scale = screen_scale(false);
     make_font(state_->title_font, title_pixels, scale, FW_BOLD);
     make_font(state_->font, text_pixels, scale, FW_NORMAL);
     arrange();
@@ -434,7 +435,7 @@ void CWntPulse::lay_out(int, int) {
 void CWntPulse::arrange() {
     const PulseChart& chart = state_->chart;
     ChartSizes sizes;
-    sizes.scale = screen_scale(false);
+    sizes.scale = state_->scale;
     CClientDC dc(this);
     TEXTMETRIC metrics;
     CFont* const before = dc.SelectObject(&state_->title_font);
@@ -553,10 +554,13 @@ void CWntPulse::refresh(bool anew) {
     update_axes();
     update_scroll_bar();
     s.anew = s.anew || anew;
-    const CRect plot = rect_of(s.plot());
-    InvalidateRect(plot, FALSE);
-    if (std::exchange(s.legend_stale, false))
-        InvalidateRect(rect_of(s.layout.legend), FALSE);
+    if (s.anew || s.overlaid()) {
+        InvalidateRect(rect_of(s.plot()), FALSE);
+    } else {
+        follow();
+    }
+    if (const CRect legend = rect_of(s.layout.legend); std::exchange(s.legend_stale, false) && !legend.IsRectEmpty())
+        InvalidateRect(legend, FALSE);
     update_tip();
 }
 
@@ -566,7 +570,8 @@ void CWntPulse::view_changed() {
     tell(WNT_PULSE_VIEW);
 }
 
-void CWntPulse::paint_plot(CDC& dc) {
+// Brings the picture up to the view.
+void CWntPulse::draw_plot() {
     State& s = *state_;
     const CRect plot = rect_of(s.plot());
     if (plot.IsRectEmpty())
@@ -582,7 +587,7 @@ void CWntPulse::paint_plot(CDC& dc) {
         if (left_.IsWindowVisible())
             scene.grid_rows = grid_rows(left_);
     }
-    const int thickness = std::max(screen_scale(false) / 100, 1);
+    const int thickness = std::max(s.scale / 100, 1);
     for (int i = 0; i < GetCurveCount(); ++i) {
         const ChartCurve& curve = s.chart.curve(i);
         if (curve.shown)
@@ -592,9 +597,47 @@ void CWntPulse::paint_plot(CDC& dc) {
                                     s.chart.effective_pause()});
     }
     s.picture.show(scene, std::exchange(s.anew, false));
-    const Canvas canvas = s.picture.canvas();
+}
+
+void CWntPulse::copy_columns(CDC& dc, int from, int to) {
+    const CRect plot = rect_of(state_->plot());
+    const PlotCanvas canvas = state_->picture.canvas();
     BITMAPINFO info = {};
-    info.bmiHeader = {sizeof info.bmiHeader, canvas.width, -canvas.height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-    ::SetDIBitsToDevice(dc, plot.left, plot.top, canvas.width, canvas.height, 0, 0, 0, canvas.height, canvas.pixels,
-                        &info, DIB_RGB_COLORS);
+    info.bmiHeader = {
+        sizeof info.bmiHeader, static_cast<LONG>(canvas.stride), -canvas.height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    const auto offset = static_cast<int>(state_->picture.offset());
+    ::SetDIBitsToDevice(dc, plot.left + from, plot.top, static_cast<DWORD>(to - from), canvas.height, offset + from, 0,
+                        0, canvas.height, canvas.pixels - offset, &info, DIB_RGB_COLORS);
+}
+
+void CWntPulse::paint_plot(CDC& dc) {
+    if (rect_of(state_->plot()).IsRectEmpty())
+        return;
+    draw_plot();
+    copy_columns(dc, 0, state_->picture.canvas().width);
+}
+
+// At once, without a paint message: where the window shows the picture before, all of it, that is moved.
+void CWntPulse::follow() {
+    State& s = *state_;
+    const CRect plot = rect_of(s.plot());
+    if (plot.IsRectEmpty())
+        return;
+    draw_plot();
+    CClientDC dc(this);
+    CRect seen;
+    const bool whole = dc.GetClipBox(&seen) == SIMPLEREGION && seen.left <= plot.left && seen.top <= plot.top &&
+                       seen.right >= plot.right && seen.bottom >= plot.bottom && !GetUpdateRect(nullptr);
+    const int width = s.picture.canvas().width;
+    const auto moved = static_cast<int>(s.picture.moved());
+    if (!whole || !s.presented) {
+        copy_columns(dc, 0, width);
+    } else {
+        if (moved != 0)
+            dc.BitBlt(plot.left + std::max(-moved, 0), plot.top, width - std::abs(moved), plot.Height(), &dc,
+                      plot.left + std::max(moved, 0), plot.top, SRCCOPY);
+        for (const auto& [left, right] : s.picture.drawn())
+            copy_columns(dc, static_cast<int>(left), static_cast<int>(right));
+    }
+    s.presented = whole;
 }

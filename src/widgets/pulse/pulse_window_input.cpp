@@ -220,8 +220,7 @@ void CWntPulse::OnSetFocus(CWnd* old) {
 void CWntPulse::OnKillFocus(CWnd* next) {
     ControlWindow::OnKillFocus(next);
     Invalidate(FALSE);
-    if (tip_.m_hWnd)
-        tip_.HideTip();
+    update_tip();
 }
 
 void CWntPulse::OnHScroll(UINT code, UINT position, CScrollBar* bar) {

@@ -2,8 +2,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <string>
+#include <utility>
 
-#include "screen_scale.h"
 #include "widgets/painting/paint_pass.h"
 #include "widgets/pulse/pulse_state.h"
 
@@ -54,9 +54,9 @@ void CWntPulse::OnPaint() {
     CRect dirty;
     GetUpdateRect(&dirty);
     CRect outside;
+    state_->presented = false; // only what was uncovered is painted
     const bool plot_alone = !outside.SubtractRect(&dirty, &plot);
-    const bool overlaid = s.cursors[0] || s.cursors[1] || s.drag == State::Drag::stretch || s.reading;
-    if (plot_alone && !overlaid) { // finished pixels
+    if (plot_alone && !s.overlaid()) { // finished pixels
         CPaintDC dc(this);
         paint_plot(dc);
         return;
@@ -103,7 +103,7 @@ void CWntPulse::paint_legend(PaintPass& pass) {
 void CWntPulse::paint_overlay(PaintPass& pass) {
     State& s = *state_;
     const CRect plot = rect_of(s.plot());
-    const int thickness = std::max(screen_scale(false) / 100, 1);
+    const int thickness = std::max(s.scale / 100, 1);
     for (int which = 0; which < 2; ++which) {
         const auto& cursor = s.cursors[static_cast<std::size_t>(which)];
         const std::int64_t x = cursor ? s.view.x(*cursor) : -1;
@@ -139,12 +139,12 @@ void CWntPulse::update_tip() {
     const int which = s.cursors[0] ? 0 : 1;
     const auto at = s.cursors[static_cast<std::size_t>(which)];
     const std::int64_t x = at ? s.view.x(*at) : -1;
-    if (!tip_.m_hWnd)
-        return;
-    if (x < 0 || x >= s.plot().width() || ::GetFocus() != m_hWnd || !IsWindowVisible()) {
-        tip_.HideTip();
+    if (!tip_.m_hWnd || x < 0 || x >= s.plot().width() || ::GetFocus() != m_hWnd || !IsWindowVisible()) {
+        if (std::exchange(s.tip_shown, false))
+            tip_.HideTip();
         return;
     }
+    s.tip_shown = true;
     WntTip tip;
     tip.title = time_text(*at).c_str();
     const auto other = which == 0 ? s.cursors[1] : std::nullopt;

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstring>
 #include <string>
+#include <utility>
 
 #include "out/hardcopy.h"
 #include "widgets/colour_selector/wnt_color_sel.h"
@@ -222,7 +223,8 @@ int CWntPulse::CopyValues() {
 int CWntPulse::Print() {
     if (!this || !m_hWnd)
         return 0;
-    tip_.HideTip();
+    if (std::exchange(state_->tip_shown, false))
+        tip_.HideTip();
     MakeHardcopy(this, state_->chart.title.empty() ? "Chart" : state_->chart.title.c_str());
     return 1;
 }
