@@ -18,6 +18,7 @@ class ToolHost : public CWnd {
 public:
     std::vector<UINT> commands;
     std::vector<UINT> told;
+    int index = -1; // of the last item that was told of
     std::function<void(UINT)> on_command = [](UINT) {};
     std::function<LRESULT(WntToolNotify&)> answer = [](WntToolNotify&) { return 0; };
     std::function<void(CCmdUI&)> state = [](CCmdUI& ui) { ui.Enable(); };
@@ -34,6 +35,7 @@ protected:
         if (header.code < WNT_TOOL_DROPPING || header.code > WNT_TOOL_MOVED)
             return FALSE;
         told.push_back(header.code);
+        index = reinterpret_cast<WntToolNotify&>(header).index;
         *result = answer(reinterpret_cast<WntToolNotify&>(header));
         return TRUE;
     }
@@ -175,6 +177,14 @@ TEST_F(ToolBar, SendsCommandsOfWhatIsPressed) {
     EXPECT_EQ(host_.commands.size(), 5u);
     EXPECT_EQ(bar_->PressItem(101) + bar_->PressItem(104) + bar_->PressItem(999), 1);
     EXPECT_EQ(checked(101), 0);
+    CWntToolItem item;
+    bar_->GetItem(bar_->FindItem(103), &item);
+    item.check = 1;
+    EXPECT_EQ(bar_->SetItem(bar_->FindItem(103), item), 1);
+    EXPECT_TRUE(checked(103) == 1 && checked(102) == 0); // one of a group
+    item.id = 105;
+    EXPECT_EQ(bar_->AddItem(item), 1);
+    EXPECT_TRUE(checked(105) == 1 && checked(103) == 0);
 }
 
 TEST_F(ToolBar, CommandsPassTheLibrarysPanes) {
@@ -250,6 +260,31 @@ TEST_F(ToolBar, ShowsStatesOfItsItems) {
     EXPECT_EQ(pixels_of(*bar_).count(red), 0);
 }
 
+TEST_F(ToolBar, TakesPicturesFromIconsAndFiles) {
+    CWntToolItem item(100, "warn");
+    item.icon = ::LoadIconA(nullptr, IDI_WARNING);
+    bar_->SetPictures(nullptr, nullptr);
+    bar_->AddItem(item);
+    full_repaint(*bar_);
+    const CRect r = place(100);
+    const Pixels icon = pixels_of(*bar_);
+    EXPECT_EQ(icon.at(r.left + 3, r.top + 3), ::GetSysColor(COLOR_BTNFACE)); // beside the triangle
+    EXPECT_NE(icon.at(r.CenterPoint().x, r.CenterPoint().y + 3), ::GetSysColor(COLOR_BTNFACE));
+
+    std::vector<std::uint8_t> bytes(54 + 16 * 16 * 4);
+    const BITMAPFILEHEADER file_header = {0x4D42, static_cast<DWORD>(bytes.size()), 0, 0, 54};
+    const BITMAPINFOHEADER header = {sizeof header, 16, 16, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    std::memcpy(bytes.data(), &file_header, sizeof file_header);
+    std::memcpy(bytes.data() + sizeof file_header, &header, sizeof header);
+    for (std::size_t i = 54; i < bytes.size() - 64; i += 4) // green, but for the upper row
+        bytes[i + 1] = 0xFF;
+    const TemporaryFile file(bytes);
+    script({CString(":PICTURES=") + file.name(), ":ITEM=100,0"});
+    full_repaint(*bar_);
+    EXPECT_EQ(pixels_of(*bar_).count(green), 15 * 16);
+    EXPECT_EQ(bar_->SetPictures(nullptr, static_cast<HBITMAP>(::GetStockObject(BLACK_PEN))), 0); // no bitmap
+}
+
 TEST_F(ToolBar, RepaintsOnlyWhatChanged) {
     script({":ITEM=100,0", ":CHECK=101,0", ":ITEM=102,0"});
     full_repaint(*bar_);
@@ -320,6 +355,14 @@ TEST_F(ToolBar, OpensMenus) {
                   EXPECT_TRUE(::GetMenuState(menu, 0, MF_BYPOSITION) & MF_GRAYED); // asked before it opens
               });
     EXPECT_THAT(host_.told, ElementsAre(WNT_TOOL_DROPPING));
+    CPoint on_it = place(100).CenterPoint(); // the click that closes the menu does not open it again
+    const LPARAM at = MAKELPARAM(on_it.x, on_it.y);
+    bar_->ClientToScreen(&on_it);
+    ::SetCursorPos(on_it.x, on_it.y);
+    with_menu([&] { click(100); }, {VK_ESCAPE}, [&](HMENU) { ::PostMessageA(bar_->m_hWnd, WM_LBUTTONDOWN, 0, at); });
+    MSG click_left;
+    EXPECT_FALSE(::PeekMessageA(&click_left, bar_->m_hWnd, WM_LBUTTONDOWN, WM_LBUTTONDOWN, PM_REMOVE));
+    EXPECT_EQ(host_.told.size(), 2u);
     host_.commands.clear();
     host_.state = [](CCmdUI& ui) { ui.Enable(); };
     edit_.SetFocus();
@@ -404,6 +447,10 @@ TEST_F(ToolBar, HoldsWindowsOfTheHosts) {
     EXPECT_EQ(window, place(130));
     button.SendMessage(BM_CLICK);
     EXPECT_THAT(host_.commands, ElementsAre(130u));
+    bar_->EnableItem(130, 0);
+    EXPECT_FALSE(button.IsWindowEnabled());
+    bar_->EnableItem(130, 1);
+    EXPECT_TRUE(button.IsWindowEnabled());
     edit_.SetFocus();
     bar_->SetFocus();
     key(VK_RIGHT);
@@ -487,7 +534,8 @@ TEST_F(ToolBar, ItemsAreDraggedWhereThatIsAllowed) {
     mouse(WM_LBUTTONUP, CPoint(390, 10));
     EXPECT_THAT(order(), ElementsAre(101u, 102u, 100u));
     EXPECT_THAT(host_.told, ElementsAre(WNT_TOOL_MOVING, WNT_TOOL_MOVED));
-    drag(102, CPoint(0, 10)); // refused
+    EXPECT_EQ(host_.index, 2); // where it is now
+    drag(102, CPoint(0, 10));  // refused
     mouse(WM_LBUTTONUP, CPoint(0, 10));
     EXPECT_THAT(order(), ElementsAre(101u, 102u, 100u));
     EXPECT_TRUE(host_.commands.empty());

@@ -276,9 +276,10 @@ CToolTipCtrlEx::Outcome CToolTipCtrlEx::show_tool(const TOOLINFO& info, Shown ho
         return Outcome::destroyed;
     CPoint pointer;
     ::GetCursorPos(&pointer);
-    const bool at_pointer = how == Shown::by_pointer && !(tool.flags & TTF_CENTERTIP);
-    return present(tip, at_pointer ? around_pointer(pointer) : around_tool(info), how) ? Outcome::shown
-                                                                                       : Outcome::empty;
+    const bool centred = tool.flags & TTF_CENTERTIP;
+    const bool at_pointer = how == Shown::by_pointer && !centred;
+    const CRect around = at_pointer ? around_pointer(pointer) : around_tool(info);
+    return present(tip, around, how, centred) ? Outcome::shown : Outcome::empty;
 }
 
 CRect CToolTipCtrlEx::around_pointer(CPoint at) const {
@@ -307,7 +308,7 @@ CToolTipCtrlEx::Fonts& CToolTipCtrlEx::fonts() {
     return *fonts_;
 }
 
-bool CToolTipCtrlEx::present(const WntTip& tip, const CRect& around, Shown how) {
+bool CToolTipCtrlEx::present(const WntTip& tip, const CRect& around, Shown how, bool centred) {
     if (tip.IsEmpty())
         return false;
     const CSize whole = wnt::icon_size(tip.icon);
@@ -325,8 +326,8 @@ bool CToolTipCtrlEx::present(const WntTip& tip, const CRect& around, Shown how) 
     *layout_ = std::move(layout);
     tip_ = tip;
     shown_ = how;
-    const CRect place = rect_of(
-        wnt::place_tip(least_.cx, least_.cy, pixels_of(around), pixels_of(work_area(CPoint(around.left, around.top)))));
+    const CRect place = rect_of(wnt::place_tip(least_.cx, least_.cy, pixels_of(around),
+                                               pixels_of(work_area(CPoint(around.left, around.top))), centred));
     presenting_ = true;
     SetWindowPos(&CWnd::wndTop, place.left, place.top, place.Width(), place.Height(),
                  SWP_NOACTIVATE | SWP_NOOWNERZORDER | SWP_SHOWWINDOW);

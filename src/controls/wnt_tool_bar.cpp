@@ -44,11 +44,14 @@ void describe(wnt::ToolItem& to, const CWntToolItem& from) {
     to.picture = std::max(from.picture, -1);
     to.icons[0] = from.icon;
     to.icons[1] = from.large;
-    to.group = std::clamp(from.group, 0, wnt::highest_command);
+    to.group = std::max(from.group, 0);
     to.host_menu = from.menu;
     to.window = from.window->GetSafeHwnd();
     to.enabled = from.enabled;
-    to.check = std::clamp<int>(from.check, wnt::unchecked, wnt::undecided);
+}
+
+int check_of(const CWntToolItem& item) {
+    return std::clamp<int>(item.check, wnt::unchecked, wnt::undecided);
 }
 
 bool named(const char* profile, const char* name) {
@@ -155,6 +158,7 @@ int CWntToolBar::InsertItem(int index, const CWntToolItem& item) {
     added.text_width = font_ ? font_->width(added.text) : 0;
     if (!model_->insert(index, std::move(added)))
         return 0;
+    model_->set_check(index, check_of(item));
     items_changed();
     return 1;
 }
@@ -172,7 +176,7 @@ int CWntToolBar::SetItem(int index, const CWntToolItem& item) {
             ::ShowWindow(before, SW_HIDE);
     describe(changed, item);
     changed.check = wnt::unchecked;
-    model_->set_check(index, std::clamp<int>(item.check, wnt::unchecked, wnt::undecided)); // one of a group
+    model_->set_check(index, check_of(item)); // one of its group
     changed.text_width = font_ ? font_->width(changed.text) : 0;
     items_changed();
     return 1;

@@ -45,7 +45,7 @@ public:
     int picture = -1;      ///< its number in the bar's pictures; -1: none
     HICON icon = nullptr;  ///< shown instead, where the bar's pictures are small ones
     HICON large = nullptr; ///< and where they are large
-    int group = 0;         ///< of WNT_TOOL_RADIO, 0 to 0xFFFF
+    int group = 0;         ///< of WNT_TOOL_RADIO; those of scripts are above 0xFFFF
     HMENU menu = nullptr;  ///< a popup menu
     CWnd* window = nullptr;
     bool enabled = true;
