@@ -12,6 +12,7 @@ install(TARGETS ${package_targets} EXPORT zopwnt_targets
 if(TARGET zopgallery)
   install(TARGETS zopgallery RUNTIME DESTINATION bin)
   install(DIRECTORY gallery/scripts DESTINATION share/zopwnt)
+  install(FILES gallery/tips.txt DESTINATION bin)
 endif()
 install(FILES ${ZOPWNT_RUNTIME_DLLS} DESTINATION bin)
 

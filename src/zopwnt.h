@@ -13,6 +13,8 @@
 #include "controls/wnt_sash.h"
 #include "controls/wnt_scroll_bar.h"
 #include "controls/wnt_tool_bar.h"
+#include "controls/wnt_tabs.h"
+#include "controls/wnt_tip_page.h"
 #include "controls/wnt_ulist.h"
 #include "diag/wnt_error_box.h"
 #include "diag/wnt_file_sel.h"

@@ -1,6 +1,4 @@
-#include <cstdlib>
-#include <string>
-
+#include "controls/profile_section.h"
 #include "controls/sash_model.h"
 #include "controls/wnt_sash.h"
 
@@ -10,45 +8,20 @@ namespace {
 
 constexpr int whole_share = 1'000'000;
 
-struct Profile {
-    const char* file;
-    const char* section;
-
-    bool write(const char* key, int value) const {
-        return ::WritePrivateProfileStringA(section, key, std::to_string(value).c_str(), file) != FALSE;
-    }
-    bool read(const char* key, int& value) const {
-        char text[16];
-        ::GetPrivateProfileStringA(section, key, "", text, sizeof text, file);
-        char* end = nullptr;
-        const long number = std::strtol(text, &end, 10);
-        if (end == text || *end != 0)
-            return false;
-        value = static_cast<int>(number);
-        return true;
-    }
-};
-
-bool named(const char* profile, const char* name) {
-    return profile && *profile && name && *name;
-}
-
 } // namespace
 
 int CWntSash::StoreState(const char* profile, const char* name) const {
-    if (!this || !named(profile, name))
+    const wnt::ProfileSection to = {profile, name};
+    if (!this || !to.named())
         return 0;
-    const Profile to = {profile, name};
-    wnt::SashModel open = *model_;
-    open.fold(0);
-    return to.write("First", open.position()) && to.write("Second", open.second().length) &&
-           to.write("Share", static_cast<int>(open.share() * whole_share)) && to.write("Folded", GetFolded());
+    return to.write("First", model_->wished_position()) && to.write("Second", model_->wished_second()) &&
+           to.write("Share", static_cast<int>(model_->share() * whole_share)) && to.write("Folded", GetFolded());
 }
 
 int CWntSash::RestoreState(const char* profile, const char* name) {
-    if (!this || !named(profile, name))
+    const wnt::ProfileSection from = {profile, name};
+    if (!this || !from.named())
         return 0;
-    const Profile from = {profile, name};
     int share = 0, first = 0, second = 0, folded = 0;
     if (!from.read("Share", share) || !from.read("First", first) || !from.read("Second", second))
         return 0;

@@ -1,0 +1,579 @@
+#include <zopwnt.h>
+
+#include <gmock/gmock.h>
+
+#include "modal.h"
+#include "temporary_file.h"
+#include "widget_window.h"
+
+namespace {
+
+using testing::ElementsAre;
+
+// Parent of tabs: keeps what they tell, and answers as it is told to.
+class TabsHost : public AttentiveHost {
+public:
+    std::vector<std::tuple<UINT, int, int>> told; // code, tab, other
+    std::vector<UINT> commands;
+    std::function<LRESULT(WntTabsNotify&)> answer = [](WntTabsNotify&) { return 0; };
+
+protected:
+    BOOL OnNotify(WPARAM, LPARAM lParam, LRESULT* result) override {
+        auto& n = *reinterpret_cast<WntTabsNotify*>(lParam);
+        told.emplace_back(n.hdr.code, n.tab, n.other);
+        *result = answer(n);
+        return TRUE;
+    }
+    BOOL OnCommand(WPARAM wParam, LPARAM) override {
+        commands.push_back(LOWORD(wParam));
+        return TRUE;
+    }
+};
+
+class Held {
+public:
+    explicit Held(std::initializer_list<int> keys) {
+        ::GetKeyboardState(before_);
+        BYTE now[256];
+        std::copy_n(before_, 256, now);
+        for (const int key : keys)
+            now[key] = 0x80;
+        ::SetKeyboardState(now);
+    }
+    ~Held() { ::SetKeyboardState(before_); }
+
+private:
+    BYTE before_[256];
+};
+
+class Tabs : public testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(host_.CreateEx(0, nullptr, "host", WS_POPUP, CRect(0, 0, 500, 400), nullptr, 0));
+        host_.ShowWindow(SW_SHOW);
+        open(tabs_, pages_, 300);
+    }
+    void TearDown() override { host_.DestroyWindow(); }
+
+    void open(CWntTabs& tabs, CButton (&pages)[3], int width) {
+        ASSERT_TRUE(tabs.Create(nullptr, "", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, width, 200), &host_, 9));
+        const char* texts[] = {"&One", "&Two", "T&hree"};
+        for (int i = 0; i < 3; ++i) {
+            ASSERT_TRUE(pages[i].Create("page", WS_CHILD | WS_VISIBLE, CRect(0, 0, 5, 5), &tabs, 11u + i));
+            ASSERT_EQ(tabs.AddTab(texts[i], &pages[i]), 1);
+        }
+        full_repaint(tabs);
+    }
+    CWnd& strip() { return *tabs_.GetWindow(GW_CHILD); }
+    CPoint in_strip(CPoint at) {
+        tabs_.ClientToScreen(&at);
+        strip().ScreenToClient(&at);
+        return at;
+    }
+    void mouse(UINT message, CPoint at) {
+        at = in_strip(at);
+        strip().SendMessage(message, MK_LBUTTON, MAKELPARAM(at.x, at.y));
+    }
+    CPoint middle(int tab) { return tabs_.GetTabRect(tab).CenterPoint(); }
+    void click(CPoint at) {
+        mouse(WM_LBUTTONDOWN, at);
+        mouse(WM_LBUTTONUP, at);
+    }
+    void key(UINT k) { strip().SendMessage(WM_KEYDOWN, k, 0); }
+    // As the message loop would give it to a window within.
+    bool translated(CWnd& window, UINT message, WPARAM wParam) {
+        MSG m = {window.m_hWnd, message, wParam, 0, 0, {}};
+        return CWnd::WalkPreTranslateTree(host_.m_hWnd, &m);
+    }
+    std::string shown() {
+        std::string all;
+        for (int i = 0; i < 3; ++i)
+            all += pages_[i].m_hWnd && pages_[i].IsWindowVisible() ? static_cast<char>('1' + i) : '-';
+        return all;
+    }
+    CRect place(CWnd& window) {
+        CRect r;
+        window.GetWindowRect(&r);
+        tabs_.ScreenToClient(&r);
+        return r;
+    }
+
+    TabsHost host_;
+    CWntTabs tabs_;
+    CButton pages_[3];
+};
+
+TEST_F(Tabs, OnlyTheSelectedPageIsShownWhereTheStripLeavesRoom) {
+    EXPECT_EQ(shown(), "1--");
+    EXPECT_EQ(place(pages_[0]), tabs_.GetPageRect());
+    for (const int side : {CWntTabs::at_bottom, CWntTabs::at_left, CWntTabs::at_right, CWntTabs::at_top}) {
+        EXPECT_EQ(tabs_.SetSide(side), 1);
+        CRect both;
+        EXPECT_FALSE(both.IntersectRect(place(strip()), tabs_.GetPageRect())) << side;
+        EXPECT_EQ(place(pages_[0]), tabs_.GetPageRect());
+    }
+    EXPECT_EQ(tabs_.Select(2), 1);
+    tabs_.MoveWindow(0, 0, 250, 150);
+    EXPECT_EQ(shown(), "--3");
+    EXPECT_EQ(place(pages_[2]), CRect(1, tabs_.GetPageRect().top, 249, 149));
+    EXPECT_EQ(tabs_.RemoveTab(2), 1);
+    EXPECT_EQ(shown(), "-2-");
+    tabs_.SetPage(1, &pages_[2]);
+    EXPECT_EQ(shown(), "--3");
+    pages_[2].DestroyWindow(); // its tab shows the ground
+    tabs_.SetSide(CWntTabs::at_left);
+    EXPECT_TRUE(tabs_.GetTabCount() == 2 && !tabs_.GetPage(1) && shown() == "---");
+    tabs_.EnableTab(1, 0);
+    EXPECT_TRUE(tabs_.GetSelected() == 0 && shown() == "1--");
+    EXPECT_TRUE(host_.told.empty()) << "calls tell nothing";
+    CWntTabs inner;
+    ASSERT_TRUE(inner.Create(nullptr, "", WS_CHILD, CRect(0, 0, 9, 9), &tabs_, 30));
+    CWntTabs* volatile none = nullptr;
+    EXPECT_EQ(tabs_.AddTab("again", &pages_[0]) + tabs_.AddTab("host", &host_) + tabs_.AddTab("self", &tabs_) +
+                  inner.AddTab("outer", &tabs_) + tabs_.InsertTab(-1, "", nullptr) + tabs_.SetPage(7, nullptr) +
+                  tabs_.Select(1) + tabs_.SetSide(4) + tabs_.SetOverflow(-1) + tabs_.MoveTab(0, 5) +
+                  none->AddTab("", nullptr) + none->GetTabCount() + none->LoadLine("", 2) + tabs_.LoadFromFile(nullptr),
+              0);
+    EXPECT_EQ(tabs_.FindPage(nullptr) + none->GetSelected(), -2);
+}
+
+TEST_F(Tabs, AClickSelectsAsTheHostAllows) {
+    click(middle(1));
+    EXPECT_EQ(shown(), "-2-");
+    EXPECT_THAT(host_.told, ElementsAre(std::tuple(WNT_TABS_SELECTING, 1, 0), std::tuple(WNT_TABS_SELECTED, 1, 0)));
+    EXPECT_EQ(::GetFocus(), strip().m_hWnd);
+    host_.told.clear();
+    click(middle(1)); // is selected
+    tabs_.EnableTab(2, 0);
+    click(middle(2));
+    EXPECT_TRUE(host_.told.empty());
+    host_.answer = [](WntTabsNotify&) { return 1; };
+    click(middle(0));
+    EXPECT_EQ(shown(), "-2-");
+    host_.told.clear();
+    host_.answer = [&](WntTabsNotify&) -> LRESULT { return tabs_.RemoveTab(0) == 0; };
+    click(middle(0)); // which the host takes away when it is asked
+    EXPECT_THAT(host_.told, ElementsAre(std::tuple(WNT_TABS_SELECTING, 0, 1)));
+    EXPECT_EQ(shown(), "-2-");
+    EXPECT_NE(::GetCapture(), strip().m_hWnd);
+}
+
+TEST_F(Tabs, KeysSelectOnTheStripAndFromWithinAPage) {
+    strip().SetFocus();
+    tabs_.EnableTab(1, 0);
+    for (const auto& [k, to] :
+         {std::pair{VK_RIGHT, 2}, {VK_RIGHT, 2}, {VK_DOWN, 2}, {VK_HOME, 0}, {VK_END, 2}, {VK_LEFT, 0}}) {
+        key(static_cast<UINT>(k));
+        EXPECT_EQ(tabs_.GetSelected(), to) << k;
+    }
+    tabs_.EnableTab(1, 1);
+    tabs_.SetSide(CWntTabs::at_left);
+    key(VK_DOWN);
+    EXPECT_EQ(tabs_.GetSelected(), 1);
+    EXPECT_EQ(::GetFocus(), strip().m_hWnd);
+
+    pages_[1].SetFocus();
+    EXPECT_FALSE(translated(pages_[1], WM_KEYDOWN, VK_TAB));
+    {
+        const Held control({VK_CONTROL});
+        EXPECT_TRUE(translated(pages_[1], WM_KEYDOWN, VK_TAB));
+        EXPECT_EQ(tabs_.GetSelected(), 2);
+        EXPECT_NE(::GetFocus(), pages_[1].m_hWnd) << "a hidden window has no focus";
+        EXPECT_TRUE(translated(strip(), WM_KEYDOWN, VK_NEXT)); // round the end
+        EXPECT_EQ(tabs_.GetSelected(), 0);
+        EXPECT_TRUE(translated(pages_[0], WM_KEYDOWN, VK_PRIOR));
+        EXPECT_EQ(tabs_.GetSelected(), 2);
+    }
+    {
+        const Held both({VK_CONTROL, VK_SHIFT});
+        EXPECT_TRUE(translated(pages_[2], WM_KEYDOWN, VK_TAB));
+        EXPECT_EQ(tabs_.GetSelected(), 1);
+    }
+    EXPECT_TRUE(translated(pages_[1], WM_SYSCHAR, 'H'));
+    EXPECT_EQ(tabs_.GetSelected(), 2);
+    EXPECT_FALSE(translated(pages_[2], WM_SYSCHAR, 'x'));
+
+    CWntTabs inner; // has the keys first
+    CButton first, second;
+    ASSERT_TRUE(inner.Create(nullptr, "", WS_CHILD, CRect(0, 0, 50, 50), &tabs_, 30));
+    ASSERT_TRUE(first.Create("1", WS_CHILD | WS_TABSTOP, CRect(0, 0, 5, 5), &inner, 31) &&
+                second.Create("2", WS_CHILD | WS_TABSTOP, CRect(0, 0, 5, 5), &inner, 32));
+    ASSERT_EQ(tabs_.AddTab("inner", &inner) + inner.AddTab("1", &first) + inner.AddTab("2", &second), 3);
+    const Held control({VK_CONTROL});
+    tabs_.Select(3);
+    EXPECT_TRUE(translated(first, WM_KEYDOWN, VK_TAB));
+    EXPECT_TRUE(inner.GetSelected() == 1 && tabs_.GetSelected() == 3);
+    inner.EnableTab(0, 0);
+    EXPECT_TRUE(translated(second, WM_KEYDOWN, VK_TAB)); // it has no other
+    EXPECT_EQ(tabs_.GetSelected(), 0);
+}
+
+TEST_F(Tabs, AreClosedByMarkAndKey) {
+    const CRect plain = tabs_.GetTabRect(1);
+    tabs_.SetClosable(1, 1);
+    const CRect tab = tabs_.GetTabRect(1);
+    EXPECT_GT(tab.Width(), plain.Width());
+    const CPoint mark(tab.right - 14, tab.CenterPoint().y);
+    mouse(WM_LBUTTONDOWN, mark);
+    mouse(WM_LBUTTONUP, middle(0)); // not on it
+    EXPECT_TRUE(host_.told.empty());
+    host_.answer = [](WntTabsNotify& n) { return n.hdr.code == WNT_TABS_CLOSING; };
+    click(mark);
+    EXPECT_EQ(tabs_.GetTabCount(), 3);
+    host_.answer = [&](WntTabsNotify& n) -> LRESULT { return n.page != pages_[1].m_hWnd; };
+    host_.told.clear();
+    click(mark);
+    EXPECT_THAT(host_.told, ElementsAre(std::tuple(WNT_TABS_CLOSING, 1, 0), std::tuple(WNT_TABS_CLOSED, 1, 0)));
+    EXPECT_EQ(tabs_.GetTabCount(), 2);
+    key(VK_DELETE); // has no mark
+    EXPECT_EQ(tabs_.GetTabCount(), 2);
+    tabs_.SetClosable(0, 1);
+    host_.answer = [](WntTabsNotify&) { return 0; };
+    key(VK_DELETE);
+    EXPECT_EQ(shown(), "--3");
+    EXPECT_EQ(pages_[0].GetParent(), &tabs_) << "it stays a window of the host's";
+}
+
+TEST_F(Tabs, AreOrderedByDragging) {
+    const auto drag = [&](int from, CPoint to) {
+        mouse(WM_LBUTTONDOWN, middle(from));
+        mouse(WM_MOUSEMOVE, middle(from) + CPoint(2, 0));
+        mouse(WM_MOUSEMOVE, to);
+    };
+    const CPoint end(tabs_.GetTabRect(2).right, 5);
+    drag(0, end);
+    mouse(WM_LBUTTONUP, end);
+    EXPECT_EQ(tabs_.GetTabText(0), "&One") << "not allowed";
+    tabs_.SetMovable(1);
+    strip().UpdateWindow();
+    const Pixels still = pixels_of(strip());
+    drag(0, end);
+    strip().UpdateWindow();
+    EXPECT_NE(pixels_of(strip()), still);
+    key(VK_ESCAPE);
+    mouse(WM_LBUTTONUP, end);
+    mouse(WM_MOUSEMOVE, CPoint(200, 100));
+    strip().UpdateWindow();
+    EXPECT_EQ(pixels_of(strip()), still);
+    EXPECT_EQ(tabs_.GetTabText(0), "&One");
+    drag(0, end);
+    mouse(WM_LBUTTONUP, end);
+    EXPECT_EQ(tabs_.GetTabText(2), "&One");
+    EXPECT_EQ(shown(), "1--") << "the selected page goes along";
+    EXPECT_THAT(host_.told, ElementsAre(std::tuple(WNT_TABS_ORDERING, 0, 2), std::tuple(WNT_TABS_ORDERED, 2, 0)));
+    host_.answer = [](WntTabsNotify&) { return 1; };
+    drag(2, CPoint(0, 5));
+    mouse(WM_LBUTTONUP, CPoint(0, 5));
+    EXPECT_EQ(tabs_.GetTabText(2), "&One");
+    host_.answer = [](WntTabsNotify&) { return 0; };
+    const Held control({VK_CONTROL});
+    key(VK_LEFT);
+    EXPECT_EQ(tabs_.GetTabText(1), "&One");
+}
+
+TEST_F(Tabs, WhatDoesNotFitScrollsOrIsInTheMenu) {
+    CButton more[9];
+    for (CButton& each : more) {
+        ASSERT_TRUE(each.Create("more", WS_CHILD, CRect(0, 0, 5, 5), &tabs_, 40));
+        tabs_.AddTab("another", &each);
+    }
+    EXPECT_TRUE(tabs_.GetTabRect(11).IsRectEmpty() && !tabs_.GetTabRect(0).IsRectEmpty());
+    const CPoint on(295, 12);
+    click(on);
+    EXPECT_TRUE(tabs_.GetTabRect(0).IsRectEmpty() && !tabs_.GetTabRect(1).IsRectEmpty());
+    EXPECT_EQ(tabs_.GetSelected(), 0);
+    mouse(WM_LBUTTONDOWN, on);
+    strip().SendMessage(WM_TIMER, 1); // goes on while it is held
+    EXPECT_TRUE(tabs_.GetTabRect(2).IsRectEmpty());
+    mouse(WM_MOUSEMOVE, middle(4));
+    strip().SendMessage(WM_TIMER, 1);
+    EXPECT_FALSE(tabs_.GetTabRect(3).IsRectEmpty());
+    mouse(WM_LBUTTONUP, middle(4));
+    for (int i = 0; i < 5; ++i)
+        click(on - CPoint(18, 0));
+    EXPECT_FALSE(tabs_.GetTabRect(0).IsRectEmpty());
+    tabs_.Select(11);
+    EXPECT_FALSE(tabs_.GetTabRect(11).IsRectEmpty());
+    EXPECT_EQ(tabs_.ShowTab(0), 1);
+    EXPECT_TRUE(!tabs_.GetTabRect(0).IsRectEmpty() && tabs_.GetSelected() == 11);
+
+    tabs_.SetOverflow(CWntTabs::by_menu);
+    tabs_.ShowTab(0);
+    CString listed;
+    WhileModal menu([&] {
+        const HWND shown = ::FindWindowA("#32768", nullptr);
+        if (!shown || !::IsWindowVisible(shown))
+            return false;
+        const auto handle = reinterpret_cast<HMENU>(::SendMessageA(shown, MN_GETHMENU, 0, 0));
+        listed.Format("%d to %u", ::GetMenuItemCount(handle), ::GetMenuItemID(handle, ::GetMenuItemCount(handle) - 1));
+        ::PostMessageA(shown, WM_KEYDOWN, VK_UP, 0); // the last one
+        ::PostMessageA(shown, WM_KEYDOWN, VK_UP, 0);
+        ::PostMessageA(shown, WM_KEYDOWN, VK_RETURN, 0);
+        return true;
+    });
+    host_.told.clear();
+    strip().SetFocus();
+    strip().SendMessage(WM_SYSKEYDOWN, VK_DOWN, 0);
+    int seen = 0;
+    while (!tabs_.GetTabRect(seen).IsRectEmpty() && seen < 12)
+        ++seen;
+    EXPECT_EQ(tabs_.GetSelected(), 10);
+    EXPECT_TRUE(listed.Right(5) == "to 12") << listed;
+}
+
+TEST_F(Tabs, TheSelectedTabIsJoinedToItsPageAtEverySide) {
+    tabs_.LoadLine(":CLRSUN=RED", 0);
+    tabs_.LoadLine(":CLRSHADOW=BLUE", 0);
+    tabs_.LoadLine(":CLRBACK=WHITE", 0);
+    const COLORREF red = RGB(255, 0, 0), blue = RGB(0, 0, 255), white = RGB(255, 255, 255);
+    const struct {
+        int side;
+        int from_left, from_top, from_right, from_bottom; // of the line between tabs and page
+        COLORREF line;
+    } cases[] = {{CWntTabs::at_top, 0, -1, 0, 0, red},
+                 {CWntTabs::at_bottom, 0, 0, 0, 1, blue},
+                 {CWntTabs::at_left, -1, 0, 0, 0, red},
+                 {CWntTabs::at_right, 0, 0, 1, 0, blue}};
+    tabs_.Select(1);
+    for (const auto& c : cases) {
+        tabs_.SetSide(c.side);
+        full_repaint(tabs_);
+        const Pixels seen = pixels_of(tabs_);
+        const CRect page = tabs_.GetPageRect();
+        const auto between = [&](int tab) {
+            CPoint at = middle(tab);
+            if (c.from_top || c.from_bottom)
+                at.y = c.from_top ? page.top - 1 : page.bottom;
+            else
+                at.x = c.from_left ? page.left - 1 : page.right;
+            return seen.at(at.x, at.y);
+        };
+        EXPECT_EQ(between(0), c.line) << c.side;
+        EXPECT_EQ(between(1), white) << c.side;
+        EXPECT_EQ(between(2), c.line) << c.side;
+        EXPECT_TRUE(seen.at(page.right, page.bottom - 3) == blue || c.side == CWntTabs::at_right) << c.side;
+        EXPECT_TRUE(seen.at(page.left - 1, page.bottom - 3) == red || c.side == CWntTabs::at_left) << c.side;
+    }
+}
+
+// Ink of a text, dark on the ground.
+CRect ink_in(const Pixels& seen, const CRect& part) {
+    CRect box(9999, 9999, 0, 0);
+    for (int y = part.top; y < part.bottom; ++y)
+        for (int x = part.left; x < part.right; ++x)
+            if (seen.at(x, y) == RGB(255, 0, 0))
+                box = CRect(std::min<int>(box.left, x), std::min<int>(box.top, y), std::max<int>(box.right, x + 1),
+                            std::max<int>(box.bottom, y + 1));
+    return box;
+}
+
+TEST_F(Tabs, TextsAreWholeAndTurnedWithTheSide) {
+    tabs_.LoadLine(":CLRTEXT=RED", 0);
+    tabs_.SetTabText(1, "LLLLLLi"); // heavy at the beginning's foot, with a thin end
+    CSize size;
+    for (const int side : {CWntTabs::at_top, CWntTabs::at_bottom, CWntTabs::at_left, CWntTabs::at_right}) {
+        tabs_.SetSide(side);
+        full_repaint(tabs_);
+        const Pixels seen = pixels_of(tabs_);
+        const CRect tab = tabs_.GetTabRect(1);
+        const CRect ink = ink_in(seen, tab);
+        const bool turned = side >= CWntTabs::at_left;
+        const CSize now = turned ? CSize(ink.Height(), ink.Width()) : ink.Size();
+        if (side == CWntTabs::at_top)
+            size = now;
+        EXPECT_NEAR(now.cx, size.cx, 2) << side;
+        EXPECT_NEAR(now.cy, size.cy, 1) << side;
+        const CPoint off = ink.CenterPoint() - tab.CenterPoint();
+        EXPECT_TRUE(std::abs(off.x) <= 2 && std::abs(off.y) <= 2) << side << ": " << off.x << ", " << off.y;
+        if (turned) { // the foot of the letters lies at the right when it runs upwards
+            const CRect right(ink.CenterPoint().x + 1, ink.top, ink.right, ink.bottom);
+            const CRect left(ink.left, ink.top, ink.CenterPoint().x, ink.bottom);
+            const auto count = [&](const CRect& r) {
+                int found = 0;
+                for (int y = r.top; y < r.bottom; ++y)
+                    for (int x = r.left; x < r.right; ++x)
+                        found += seen.at(x, y) == RGB(255, 0, 0);
+                return found;
+            };
+            EXPECT_EQ(count(right) > count(left), side == CWntTabs::at_left) << side;
+        }
+    }
+    tabs_.MoveWindow(0, 0, 300, 60); // one tab has room, and not for all of its text
+    tabs_.SetTabText(1, "a text that is much longer than there is room for it");
+    tabs_.Select(1);
+    full_repaint(tabs_);
+    const CRect tab = tabs_.GetTabRect(1);
+    CRect inside = tab;
+    inside.DeflateRect(3, 3);
+    EXPECT_EQ(ink_in(pixels_of(tabs_), tab), ink_in(pixels_of(tabs_), inside)) << "cut with dots, not written over";
+}
+
+TEST_F(Tabs, ASelectionPaintsNoPixelTwice) {
+    full_repaint(tabs_);
+    {
+        CClientDC page(&pages_[1]);
+        CClientDC dc(&tabs_);
+        const CRect r = tabs_.GetPageRect();
+        dc.FillSolidRect(CRect(250, 2, 290, r.top - 2), poison); // no ground of the strip's: clipped by the strip
+        EXPECT_EQ(pixels_of(tabs_).count(poison), 0);
+    }
+    int grounds = 0;
+    host_.on_message = [&](UINT message) { grounds += message == WM_ERASEBKGND || message == WM_PAINT; };
+    click(middle(1));
+    tabs_.UpdateWindow();
+    EXPECT_EQ(grounds, 0) << "nothing of the host's is uncovered";
+    EXPECT_FALSE(::GetUpdateRect(pages_[0].m_hWnd, nullptr, FALSE)) << "what is hidden is not painted";
+}
+
+TEST_F(Tabs, HoverAndFocusAreSeenAndGo) {
+    const Pixels still = pixels_of(strip());
+    mouse(WM_MOUSEMOVE, middle(1));
+    strip().UpdateWindow();
+    EXPECT_NE(pixels_of(strip()), still);
+    strip().SendMessage(WM_MOUSELEAVE);
+    strip().UpdateWindow();
+    EXPECT_EQ(pixels_of(strip()), still);
+    tabs_.SetFocus();
+    strip().UpdateWindow();
+    EXPECT_NE(pixels_of(strip()), still);
+    host_.SetFocus();
+    strip().UpdateWindow();
+    EXPECT_EQ(pixels_of(strip()), still);
+    tabs_.EnableTab(1, 0);
+    full_repaint(tabs_);
+    const Pixels grey = pixels_of(strip());
+    EXPECT_NE(grey, still);
+    mouse(WM_MOUSEMOVE, middle(1)); // a disabled one is not lit
+    strip().UpdateWindow();
+    EXPECT_EQ(pixels_of(strip()), grey);
+    const CRect plain = tabs_.GetTabRect(0);
+    tabs_.SetTabIcon(0, ::LoadIconA(nullptr, IDI_WARNING));
+    full_repaint(tabs_);
+    EXPECT_GT(tabs_.GetTabRect(0).Width(), plain.Width() + 15);
+    const Pixels bright = pixels_of(strip());
+    tabs_.EnableTab(0, 0); // pales
+    full_repaint(tabs_);
+    EXPECT_NE(pixels_of(strip()), bright);
+}
+
+TEST_F(Tabs, TipsBelongToTheirTabs) {
+    tabs_.SetTabTip(1, "the second");
+    tabs_.SetTabTip(2, "the third");
+    HWND tips = nullptr;
+    ::EnumThreadWindows(
+        ::GetCurrentThreadId(),
+        [](HWND window, LPARAM to) -> BOOL {
+            char name[32] = "";
+            ::GetClassNameA(window, name, sizeof name);
+            if (lstrcmpA(name, TOOLTIPS_CLASSA) == 0)
+                *reinterpret_cast<HWND*>(to) = window;
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&tips));
+    auto* control = dynamic_cast<CToolTipCtrlEx*>(CWnd::FromHandlePermanent(tips));
+    ASSERT_TRUE(control);
+    tabs_.MoveTab(2, 0);
+    EXPECT_EQ(control->GetToolCount(), 2);
+    TTHITTESTINFOA at = {};
+    at.ti.cbSize = sizeof at.ti;
+    at.hwnd = strip().m_hWnd;
+    const auto found = [&](int tab) {
+        at.pt = in_strip(middle(tab));
+        return control->SendMessage(TTM_HITTESTA, 0, reinterpret_cast<LPARAM>(&at)) != 0;
+    };
+    EXPECT_TRUE(found(0) && !found(1) && found(2));
+    WntTip tip;
+    EXPECT_TRUE(control->ShowTip(&strip(), 1) && control->GetShownTip(&tip) && tip.text == "the third");
+    const HWND window = strip().m_hWnd;
+    tabs_.DestroyWindow();
+    EXPECT_FALSE(::IsWindow(window) || ::IsWindow(tips));
+}
+
+TEST_F(Tabs, TheTabKeyGoesFromTheStripIntoThePage) {
+    for (CButton& page : pages_)
+        page.ModifyStyle(0, WS_TABSTOP);
+    CButton behind;
+    ASSERT_TRUE(behind.Create("", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(300, 0, 310, 10), &host_, 50));
+    tabs_.Select(1);
+    const HWND order[] = {strip().m_hWnd, pages_[1].m_hWnd, behind.m_hWnd, strip().m_hWnd};
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(::GetNextDlgTabItem(host_.m_hWnd, order[i], FALSE), order[i + 1]) << i;
+}
+
+TEST_F(Tabs, FollowTheMainFramesScaling) {
+    const int rows = place(strip()).Height();
+    char folder[MAX_PATH];
+    ::GetModuleFileNameA(nullptr, folder, sizeof folder);
+    const HMODULE stub =
+        ::LoadLibraryA(CString(folder).Left(CString(folder).ReverseFind('\\')) + "\\stub\\zopfdraw.dll");
+    ASSERT_TRUE(stub);
+    auto& percentage = *reinterpret_cast<int*>(reinterpret_cast<void*>(::GetProcAddress(stub, "percentage")));
+    percentage = 200;
+    tabs_.SendMessage(WM_SETTINGCHANGE);
+    EXPECT_EQ(tabs_.GetScale(), 200);
+    EXPECT_NEAR(place(strip()).Height(), 2 * rows, 4);
+    EXPECT_EQ(place(pages_[0]), tabs_.GetPageRect());
+    ::FreeLibrary(stub);
+    tabs_.SendMessage(WM_SETTINGCHANGE);
+    EXPECT_EQ(place(strip()).Height(), rows);
+}
+
+TEST_F(Tabs, MayBeDestroyedOnAnyNotification) {
+    for (const UINT code : {WNT_TABS_SELECTING, WNT_TABS_SELECTED, WNT_TABS_CLOSING, WNT_TABS_CLOSED, WNT_TABS_ORDERING,
+                            WNT_TABS_ORDERED})
+        for (const bool by_key : {false, true}) {
+            auto* tabs = new CWntTabs;
+            CButton pages[3];
+            open(*tabs, pages, 280);
+            tabs->SetMovable(1);
+            tabs->SetClosable(0, 1);
+            tabs->SetClosable(1, 1);
+            const HWND window = ::GetWindow(tabs->m_hWnd, GW_CHILD);
+            const CRect first = tabs->GetTabRect(0), second = tabs->GetTabRect(1);
+            host_.answer = [&](WntTabsNotify& n) -> LRESULT {
+                if (n.hdr.code == code)
+                    delete std::exchange(tabs, nullptr);
+                return 0;
+            };
+            const auto send = [&](UINT message, int x) { ::SendMessageA(window, message, 0, MAKELPARAM(x, 12)); };
+            if (by_key) {
+                const Held control({VK_CONTROL});
+                ::SendMessageA(window, WM_KEYDOWN, VK_RIGHT, 0);
+            } else {
+                send(WM_LBUTTONDOWN, first.left + 5);
+                send(WM_MOUSEMOVE, second.right);
+                send(WM_LBUTTONUP, second.right);
+            }
+            ::SendMessageA(window, WM_KEYDOWN, VK_HOME, 0);
+            ::SendMessageA(window, WM_KEYDOWN, VK_RIGHT, 0);
+            ::SendMessageA(window, WM_KEYDOWN, VK_LEFT, 0);
+            by_key ? ::SendMessageA(window, WM_KEYDOWN, VK_DELETE, 0)
+                   : (send(WM_LBUTTONDOWN, tabs ? tabs->GetTabRect(0).right - 14 : 0),
+                      send(WM_LBUTTONUP, tabs ? tabs->GetTabRect(0).right - 14 : 0), 0);
+            EXPECT_FALSE(tabs) << code;
+            EXPECT_FALSE(::IsWindow(window)) << code;
+            delete tabs;
+        }
+}
+
+TEST_F(Tabs, PassOnWhatTheirPagesTellAndFollowScripts) {
+    pages_[0].SendMessage(BM_CLICK);
+    EXPECT_THAT(host_.commands, ElementsAre(11u));
+    const std::string_view lines = ":SIDE=RIGHT\r\n:TAB=Kettle\r\n:TAB=Pump\r\n:DISABLED=YES\r\n";
+    const TemporaryFile file({lines.begin(), lines.end()});
+    tabs_.Select(2);
+    EXPECT_EQ(tabs_.LoadFromFile(file.name()), 1);
+    EXPECT_EQ(tabs_.GetTabCount(), 2);
+    EXPECT_EQ(shown(), "1--") << "pages keep their places, the one that has none is hidden";
+    EXPECT_EQ(tabs_.Select(1), 0);
+    EXPECT_EQ(place(strip()).right, 300);
+    EXPECT_EQ(tabs_.LoadFromFile("no such file"), 0);
+    const HWND blank = ::CreateWindowA("WntTabs", file.name(), WS_CHILD | WS_VISIBLE, 0, 0, 200, 100, host_.m_hWnd,
+                                       nullptr, nullptr, nullptr);
+    CWntTabs placed;
+    ASSERT_TRUE(placed.SubclassWindow(blank));
+    EXPECT_EQ(placed.GetTabText(1), "Pump");
+    EXPECT_TRUE(placed.GetPageRect().right < 190);
+}
+
+} // namespace
