@@ -20,9 +20,14 @@ public:
     std::vector<UINT> told;
     int index = -1; // of the last item that was told of
     std::function<void(UINT)> on_command = [](UINT) {};
+    std::function<void(UINT, WPARAM)> on_message = [](UINT, WPARAM) {};
     std::function<LRESULT(WntToolNotify&)> answer = [](WntToolNotify&) { return 0; };
     std::function<void(CCmdUI&)> state = [](CCmdUI& ui) { ui.Enable(); };
 
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        on_message(message, wParam);
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
     afx_msg void OnTool(UINT id) {
         commands.push_back(id);
         on_command(id);
@@ -596,6 +601,15 @@ TEST_F(ToolBar, MayBeDestroyedByAnythingItTells) {
             bar_->MoveWindow(0, 0, 20, 26);
             with_menu([&] { mouse(WM_LBUTTONDOWN, CPoint(12, 12)); }, {VK_ESCAPE}, [&](HMENU) { end_bar(); });
         },
+        [&] { // by the end of an input that the bar's focus ends
+            edit_.SetFocus();
+            host_.on_message = [&](UINT message, WPARAM w) {
+                if (message == WM_COMMAND && HIWORD(w) == EN_KILLFOCUS)
+                    end_bar();
+            };
+            MSG f6 = {edit_.m_hWnd, WM_KEYDOWN, VK_F6, 1, 0, {}};
+            bar_->FilterKey(&f6);
+        },
         [&] {
             bar_->SetDragging(1);
             host_.answer = [&](WntToolNotify&) -> LRESULT { return end_bar(), 0; };
@@ -608,6 +622,7 @@ TEST_F(ToolBar, MayBeDestroyedByAnythingItTells) {
     for (const auto& destroy : ways) {
         end_bar();
         host_.on_command = [](UINT) {};
+        host_.on_message = [](UINT, WPARAM) {};
         host_.answer = [](WntToolNotify&) { return 0; };
         host_.state = [](CCmdUI& ui) { ui.Enable(); };
         open();

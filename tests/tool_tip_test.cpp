@@ -173,6 +173,10 @@ TEST_F(ToolTip, TheKeyboardShowsItUntilTheNextKey) {
     EXPECT_EQ(tips_->ShowTip(&button_), 1);
     tips_->Pop();
     EXPECT_EQ(shown(), "");
+    EXPECT_EQ(tips_->ShowTip(&button_), 1);
+    tips_->DelTool(&button_);
+    EXPECT_EQ(shown(), "");
+    tips_->AddTip(&button_, {"", "Save"});
     tips_->SetDelayTime(TTDT_AUTOPOP, 1);
     EXPECT_EQ(tips_->ShowTip(&button_), 1);
     EXPECT_TRUE(pumped_until([&] { return shown().empty(); })); // its time is over

@@ -167,6 +167,8 @@ LRESULT CToolTipCtrlEx::OnAddTool(WPARAM wParam, LPARAM lParam) {
 LRESULT CToolTipCtrlEx::OnDelTool(WPARAM, LPARAM lParam) {
     if (const auto* given = reinterpret_cast<const TOOLINFO*>(lParam))
         std::erase_if(tools_, [=](const Tool& t) { return t.window == given->hwnd && t.id == given->uId; });
+    if (shown_ == Shown::by_keyboard)
+        HideTip(); // it may be this one's
     return Default();
 }
 
@@ -311,6 +313,7 @@ CToolTipCtrlEx::Fonts& CToolTipCtrlEx::fonts() {
 bool CToolTipCtrlEx::present(const WntTip& tip, const CRect& around, Shown how, bool centred) {
     if (tip.IsEmpty())
         return false;
+    KillTimer(keyboard_timer);
     const CSize whole = wnt::icon_size(tip.icon);
     const CSize icon(std::min<LONG>(whole.cx, largest_icon), std::min<LONG>(whole.cy, largest_icon));
     const wnt::TipParts parts = {std::string_view(tip.title.GetString(), tip.title.GetLength()),

@@ -232,6 +232,7 @@ private:
     void step_focus(int step);
     bool activate(int index, bool menu);
     void open_focused();
+    bool give_focus(HWND to);
     void give_focus_back();
     bool filter_embedded(const MSG& message);
     void start_drag(CPoint point);
