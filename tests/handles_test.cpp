@@ -70,6 +70,22 @@ Kind frame() {
     return made;
 }
 
+Kind tabs() {
+    Kind made = kind<CWntTabs>("tabs");
+    made.prepare = [](CWnd& widget) {
+        auto& shown = static_cast<CWntTabs&>(widget);
+        for (const int side : {CWntTabs::at_left, CWntTabs::at_top}) {
+            shown.AddTab("&one", plain_child(widget));
+            shown.SetTabIcon(shown.GetTabCount() - 1, ::LoadIconA(nullptr, IDI_WARNING));
+            shown.SetTabTip(shown.GetTabCount() - 1, "a tip");
+            shown.SetSide(side);
+            full_repaint(widget);
+        }
+        shown.EnableTab(1, 0);
+    };
+    return made;
+}
+
 std::vector<Kind> all_kinds() {
     return {kind<CWntOut>("surface"),
             kind<CWntButton>("button"),
@@ -87,7 +103,9 @@ std::vector<Kind> all_kinds() {
             kind<CWntTrace>("trace"),
             sash(),
             frame(),
-            kind<CWntFrameEx>("folding frame")};
+            kind<CWntFrameEx>("folding frame"),
+            tabs(),
+            kind<CWntTipPage>("tip page")};
 }
 
 class HandlesTest : public WidgetTest {
