@@ -146,8 +146,10 @@ GalleryPages MakePages(const NamedFiles& files) {
     pages.push_back(MakeFramesPage());
     pages.push_back(MakeFoldingFramesPage());
     pages.push_back(MakeSashPage());
+    pages.push_back(MakeToolBarsPage());
     pages.push_back(MakeTabsPage());
     pages.push_back(MakeTipsPage());
+    pages.push_back(MakeTipOfTheDayPage());
     pages.push_back(MakePulsePage());
     pages.push_back(MakeCalendarPage());
     pages.push_back(MakeColoursPage());

@@ -85,6 +85,8 @@ void ControlWindow::take_over() {
     }
     if (draws_ == Draws::on_surface)
         ModifyStyle(WS_CLIPCHILDREN, 0);
+    else
+        ModifyStyle(0, WS_CLIPCHILDREN);
     CString text;
     GetWindowText(text);
     if (!build_here())

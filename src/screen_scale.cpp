@@ -15,7 +15,10 @@ HMODULE load_drawing_support(bool again) {
     static std::atomic<bool> missing = false;
     if (missing && !again && !::GetModuleHandleA(drawing_support))
         return nullptr;
+    DWORD mode = 0;
+    ::SetThreadErrorMode(SEM_FAILCRITICALERRORS, &mode); // a damaged one is a missing one, without a message
     const HMODULE library = ::LoadLibraryA(drawing_support);
+    ::SetThreadErrorMode(mode, nullptr);
     missing = !library;
     return library;
 }

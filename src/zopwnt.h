@@ -12,6 +12,7 @@
 #include "controls/wnt_frame_ex.h"
 #include "controls/wnt_sash.h"
 #include "controls/wnt_scroll_bar.h"
+#include "controls/wnt_tool_bar.h"
 #include "controls/wnt_tabs.h"
 #include "controls/wnt_tip_page.h"
 #include "controls/wnt_ulist.h"

@@ -95,10 +95,18 @@ TEST_F(ColorSelTest, ShowsThePaletteAndTellsPicks) {
     EXPECT_EQ(shown.at(30, 75), RGB(192, 192, 192)); // 9, grey
 
     EXPECT_EQ(pick(50, 45), 2);
+    EXPECT_EQ(pick(50, 29), 2); // intended: a pixel above the cell as it is drawn
+    EXPECT_EQ(pick(50, 28), -1);
+    EXPECT_EQ(pick(50, 59), 10);
     EXPECT_EQ(pick(155, 85), 15);
     EXPECT_EQ(pick(50, 10), -1); // the strip
     const auto told = testing::FieldsAre(selector_.m_hWnd, 1u, 1u);
-    EXPECT_THAT(host_.notified, testing::ElementsAre(told, told, told));
+    EXPECT_THAT(host_.notified, testing::Each(told));
+    selector_.UpdateWindow();
+    const Pixels flat = pixels_of(selector_);
+    selector_.Set3DCells(1);
+    selector_.UpdateWindow();
+    EXPECT_NE(pixels_of(selector_), flat);
     selector_.SetColorPalette(nullptr, 16);
     DWORD table[] = {0};
     selector_.SetColorPalette(table, 0);

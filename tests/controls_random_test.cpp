@@ -267,4 +267,104 @@ TEST_F(ControlsAtRandom, TipPage) {
     std::remove("random_tips.txt");
 }
 
+TEST_F(ControlsAtRandom, ToolBar) {
+    CWntToolBar bar;
+    open(bar, 300, 40);
+    CButton embedded;
+    ASSERT_TRUE(embedded.Create("b", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 50, 20), &bar, 60));
+    const char* lines[] = {":TEXT=BELOW",   ":TEXT=BESIDE", ":TEXT=NONE", ":WRAP=1",    ":WRAP=0",         ":UPRIGHT=1",
+                           ":UPRIGHT=0",    ":DRAG=1",      ":DRAG=0",    ":WINDOW=60", ":ITEM=100,,text", ":STRETCH",
+                           ":CHECKED=100",  ":RADIO=101",   ":SPLIT=102", ":MENU=103",  ":DROPDOWN=104,1", ":SEPARATOR",
+                           ":DISABLED=104", ":LABEL=a",     ":CHECK=105"};
+    for (int i = 0; i < 1000; ++i) {
+        switch (some(9)) {
+        case 0:
+            for (int lines_left = some(60); lines_left > 0; --lines_left)
+                bar.LoadLine(lines[some(20)], 0);
+            bar.LoadLine("", some(3));
+            break;
+        case 1: {
+            CWntToolItem item(static_cast<UINT>(some(120)), some(1) ? "some text" : "",
+                              static_cast<WntToolKind>(some(9)));
+            item.icon = some(1) ? ::LoadIconA(nullptr, IDI_WARNING) : nullptr;
+            item.window = some(1) ? &embedded : nullptr;
+            bar.InsertItem(some(bar.GetItemCount() + 1), item);
+            bar.SetItem(some(20), item);
+            break;
+        }
+        case 2:
+            bar.RemoveItem(some(bar.GetItemCount()));
+            break;
+        case 3:
+            bar.EnableItem(static_cast<UINT>(some(120)), some(1));
+            bar.CheckItem(static_cast<UINT>(some(120)), some(3));
+            break;
+        case 4:
+            bar.PressItem(static_cast<UINT>(100 + some(6)));
+            bar.UpdateItems();
+            break;
+        case 5:
+        case 6:
+            resize_or_paint(bar);
+            break;
+        default: // menus that this opens are closed at once
+            for (int k = 0; k < 3; ++k)
+                host_.PostMessage(WM_KEYDOWN, VK_ESCAPE, 1);
+            input(bar);
+            MSG rest;
+            while (::PeekMessageA(&rest, nullptr, WM_KEYFIRST, WM_KEYLAST, PM_REMOVE)) {
+            }
+        }
+        CRect client, place;
+        bar.GetClientRect(&client);
+        for (int k = 0; k < bar.GetItemCount(); ++k) {
+            const bool shown = bar.GetItemRect(k, &place);
+            ASSERT_EQ(shown, place.Width() > 0 && place.Height() > 0 && place.left >= 0 && place.top >= 0);
+        }
+        ASSERT_GE(bar.GetThickness(some(2000)), 0);
+    }
+    bar.SetFocus();
+    bar.DestroyWindow();
+}
+
+TEST_F(ControlsAtRandom, ToolTip) {
+    CToolTipCtrlEx tips;
+    ASSERT_TRUE(tips.Create(&host_, TTS_ALWAYSTIP));
+    for (int i = 0; i < 1000; ++i) {
+        WntTip tip;
+        for (int words = some(3) == 0 ? some(2000) : some(9); words > 0; --words)
+            tip.text += words % 7 ? "word " : "word\n";
+        tip.title = some(1) ? tip.text.Left(some(60)) : CString();
+        tip.icon = some(1) ? ::LoadIconA(nullptr, IDI_WARNING) : nullptr;
+        tip.colour = some(1) ? RGB(some(255), some(255), some(255)) : CLR_NONE;
+        const auto tool = static_cast<UINT_PTR>(1 + some(5));
+        switch (some(7)) {
+        case 0:
+            tips.AddTip(&host_, tip, CRect(some(2000), some(2000), some(2000), some(2000)), tool);
+            break;
+        case 1:
+            tips.DelTool(&host_, tool);
+            break;
+        case 2:
+            tips.ShowTip(&host_, tool);
+            break;
+        case 3:
+            tips.SetTip(&host_, tip, tool);
+            tips.SetMaxTipWidth(some(600) - 100);
+            break;
+        case 4:
+            tips.HideTip();
+            break;
+        default:
+            tips.TrackTip(tip, CPoint(some(3000) - 500, some(3000) - 500));
+        }
+        ASSERT_LE(tips.GetToolCount(), 1000);
+        if (!tips.GetShownTip(nullptr))
+            continue;
+        CRect place;
+        tips.GetWindowRect(&place);
+        ASSERT_TRUE(place.left >= 0 && place.top >= 0 && place.Width() > 0 && place.Height() > 0);
+    }
+}
+
 } // namespace

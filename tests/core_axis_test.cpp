@@ -234,7 +234,8 @@ TEST(AxisTime, NoTextStandsTwiceInARow) {
     axis.type = axis_time;
     axis.resize(900, 40);
     int labels = 0;
-    for (const std::int64_t span : {day / 1440, day / 24, day, 40 * day, 2'000 * day}) {
+    for (const std::int64_t span :
+         {day / 1440, day / 24, day, 40 * day, 120 * day, 199 * day, 300 * day, 2'000 * day}) {
         axis.set_time_range(40'000 * day, 40'000 * day + span);
         std::string last;
         for (const AxisTick& tick : time_ticks(axis)) {

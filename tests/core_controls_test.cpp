@@ -12,6 +12,27 @@ using Keeps = SashModel::Keeps;
 
 namespace {
 
+TEST(SashModel, KeepsWhatThePresentLengthHasNoRoomFor) {
+    for (const Keeps keeps : {Keeps::share, Keeps::first, Keeps::second}) {
+        SashModel sash;
+        sash.set_keeps(keeps);
+        sash.resize(105);
+        sash.set_position(200);
+        EXPECT_EQ(sash.position(), 100);
+        EXPECT_EQ(sash.wished_position(), 200);
+        sash.resize(805);
+        EXPECT_EQ(sash.position(), 200);
+        sash.resize(0);
+        sash.set_keeps(Keeps::second);
+        sash.resize(805);
+        EXPECT_EQ(sash.position(), 200);
+        sash.resize(105);
+        sash.set_second(300);
+        sash.resize(805);
+        EXPECT_EQ(sash.second().length, 300);
+    }
+}
+
 // After any operations the parts fill the length, and the least lengths hold where there is room for both.
 TEST(SashModel, PartsFillTheLengthAfterAnyOperations) {
     std::mt19937 random(7);

@@ -124,13 +124,15 @@ TEST(GaugeScale, TicksAndLabelsKeepTheirDistances) {
             SCOPED_TRACE(testing::Message() << scales << " on " << length);
             const Tick* label = nullptr;
             for (std::size_t i = 0; i < ticks.size(); ++i) {
-                if (i > 0)
+                if (i > 0) {
                     EXPECT_GE((ticks[i].fraction - ticks[i - 1].fraction) * length, 3.9f) << i;
+                }
                 if (!ticks[i].major)
                     continue;
                 EXPECT_LE(std::abs(static_cast<float>(ticks[i].value) / 200 - ticks[i].fraction) * length, 0.51f);
-                if (label)
+                if (label) {
                     EXPECT_GE((ticks[i].fraction - label->fraction) * length, 29) << i;
+                }
                 label = &ticks[i];
             }
             EXPECT_EQ(ticks.front().fraction, 0);
@@ -169,14 +171,16 @@ TEST(GaugeViews, OutlinesLeaveAZoneItsColour) {
 
 TEST(GaugeViews, RoundTicksDifferByRankAndPointersKeepToTheirPlaces) {
     const Scene dial(zoned(gauge_analog, 10, {":CLRTEXT=MAGENTA", ":SCALES=40"}), stage, stage);
-    std::vector<float> widths;
+    std::vector<std::pair<float, float>> ticks; // width and length
     for (const auto& f : dial.face.figures())
         if (f.kind == Picture::Kind::polygon && f.colour == 0xFF00FF) {
             const PointF* p = dial.face.points(f);
-            widths.push_back(std::hypot(p[0].x - p[3].x, p[0].y - p[3].y));
+            ticks.emplace_back(std::hypot(p[0].x - p[3].x, p[0].y - p[3].y),
+                               std::hypot(p[0].x - p[1].x, p[0].y - p[1].y));
         }
-    const auto [thin, thick] = std::ranges::minmax(widths);
-    EXPECT_LT(thin, 0.7f * thick);
+    const auto [thin, thick] = std::ranges::minmax(ticks);
+    EXPECT_LT(thin.first, 0.7f * thick.first);
+    EXPECT_LT(thin.second, 0.8f * thick.second);
 
     GaugeModel model = zoned(gauge_analog, 40);
     model.set_current_value(150);
@@ -222,6 +226,11 @@ TEST(GaugeViews, TextOnTheBarIsReadableOnItsFill) {
             }
         EXPECT_TRUE(written) << colour;
     }
+}
+
+TEST(GaugeViews, PercentagesAreRounded) {
+    for (const auto& [value, text] : {std::pair{":CURVAL=1", " 33 %"}, {":CURVAL=2", " 67 %"}, {":CURVAL=3", "100 %"}})
+        EXPECT_TRUE(writes(Scene(model_of(gauge_percent_bar, {":MAXVAL=3", value}), 300, 80), text)) << text;
 }
 
 TEST(GaugeViews, ReadoutsStandInTheirPlates) {

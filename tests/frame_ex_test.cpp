@@ -111,6 +111,9 @@ TEST_F(FrameExTest, HoldsAToolAndAnchors) {
     EXPECT_EQ(frame_.SetTool(&tool), 1);
     EXPECT_EQ(on_screen(tool).right, 200 - 1 - 2);
     EXPECT_EQ(on_screen(tool).Height(), frame_.GetHeaderHeight() - 2);
+    tool.MoveWindow(0, 0, 30, 5);
+    frame_.SetTitle("Limits");
+    EXPECT_EQ(on_screen(tool).Height(), 5);
     frame_.MoveWindow(0, 0, 300, 150);
     EXPECT_EQ(on_screen(tool).right, 300 - 1 - 2);
     frame_.SetContentSize(200, 400);
@@ -132,6 +135,33 @@ TEST_F(FrameExTest, HoldsAToolAndAnchors) {
     EXPECT_EQ(commands, (std::vector<UINT>{7, 2}));
     EXPECT_EQ(frame_.SetTool(nullptr), 1);
     EXPECT_FALSE(tool.IsWindowVisible());
+}
+
+TEST_F(FrameExTest, KeepsItsContentWhileFoldedOrHidden) {
+    frame_.SetContentSize(150, 400);
+    ASSERT_EQ(frame_.SetAnchor(&child_, 0, 0, 1, 0), 1);
+    const CRect before = on_screen(child_);
+    frame_.Fold(1);
+    frame_.LoadLine(":BORDERHEIGHT=3", 0);
+    frame_.LoadLine("", 2);
+    EXPECT_EQ(on_screen(frame_).Height(), frame_.GetHeaderHeight() + 6);
+    CButton late;
+    ASSERT_TRUE(late.Create("late", WS_CHILD | WS_VISIBLE, CRect(10, 10, 60, 30), frame_.GetContent(), 3));
+    ASSERT_EQ(frame_.SetAnchor(&late, 0, 0, 1, 1), 1);
+    frame_.LoadLine(":BORDERHEIGHT=1", 0);
+    frame_.LoadLine("", 2);
+    frame_.Fold(0);
+    EXPECT_EQ(on_screen(child_), before);
+    EXPECT_EQ(on_screen(late).Size(), CSize(50, 20));
+    frame_.ShowWindow(SW_HIDE);
+    frame_.ShowContent(CRect(0, 390, 1, 400));
+    EXPECT_EQ(on_screen(child_).top, before.top - (400 - (150 - 2 - frame_.GetHeaderHeight())));
+    frame_.ShowWindow(SW_SHOW);
+    frame_.SetFocus();
+    frame_.SendMessage(WM_KEYDOWN, VK_HOME, 0);
+    EXPECT_EQ(on_screen(child_).top, before.top);
+    frame_.SendMessage(WM_KEYDOWN, VK_DOWN, 0);
+    EXPECT_EQ(on_screen(child_).top, before.top - 16);
 }
 
 TEST_F(FrameExTest, MayBeDestroyedWhenItTells) {

@@ -120,6 +120,17 @@ TEST_F(Sash, IsDraggedAsTheHostAllows) {
     EXPECT_TRUE(host_.told.empty() && ::GetCapture() != sash_.m_hWnd);
 }
 
+TEST_F(Sash, GivesTheFocusBackUnlessItIsAStop) {
+    for (const bool stop : {false, true}) {
+        sash_.ModifyStyle(WS_TABSTOP, stop ? WS_TABSTOP : 0);
+        first_.SetFocus();
+        drag(sash_.GetPosition() + 2, 120);
+        EXPECT_EQ(::GetFocus(), sash_.m_hWnd); // for Escape
+        mouse(WM_LBUTTONUP, 120);
+        EXPECT_EQ(::GetFocus(), stop ? sash_.m_hWnd : first_.m_hWnd);
+    }
+}
+
 TEST_F(Sash, ATrackLineLeavesNothingBehind) {
     sash_.SetLiveDrag(0);
     const Pixels before = pixels_of(sash_);
@@ -227,6 +238,58 @@ TEST_F(Sash, MayBeDestroyedOnAnyNotification) {
         }
 }
 
+// Whatever hosts do while panes follow.
+TEST_F(Sash, MayLoseItsDragOrItselfWhilePanesAreResized) {
+    struct Pane : CWnd {
+        std::function<void()> resized = [] {};
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+            const LRESULT result = CWnd::WindowProc(message, wParam, lParam);
+            if (message == WM_SIZE)
+                resized();
+            return result;
+        }
+    } pane;
+    ASSERT_TRUE(pane.Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 1, 1), &sash_, 14));
+    ASSERT_TRUE(sash_.SetPanes(&pane, nullptr));
+    mouse(WM_LBUTTONDOWN, 102);
+    pane.resized = [] { ::ReleaseCapture(); };
+    mouse(WM_MOUSEMOVE, 62);
+    EXPECT_EQ(sash_.GetPosition(), 100);
+    pane.resized = [&] { sash_.DestroyWindow(); };
+    mouse(WM_LBUTTONDOWN, 102);
+    mouse(WM_MOUSEMOVE, 62);
+    EXPECT_FALSE(sash_.m_hWnd);
+}
+
+TEST_F(Sash, AFoldedBarStaysUntilItIsReallyMoved) {
+    sash_.SetLeastSizes(80, 0);
+    sash_.SetFoldPane(1);
+    sash_.Fold(1);
+    sash_.SetFocus();
+    key(VK_LEFT);
+    key(VK_HOME);
+    drag(2, 3);
+    mouse(WM_LBUTTONUP, 3);
+    EXPECT_EQ(sash_.GetFolded(), 1);
+    host_.told.clear();
+    drag(2, 90);
+    mouse(WM_MOUSEMOVE, 2);
+    key(VK_ESCAPE);
+    EXPECT_EQ(sash_.GetFolded(), 1);
+    host_.told.clear();
+    key(VK_RIGHT);
+    EXPECT_EQ(sash_.GetPosition(), 80);
+    EXPECT_THAT(host_.told, testing::ElementsAre(testing::Pair(WNT_SASH_MOVING, 80), testing::Pair(WNT_SASH_MOVED, 80),
+                                                 testing::Pair(WNT_SASH_FOLDED, 80)));
+    sash_.Fold(1);
+    sash_.SetFoldPane(2); // the first one would never come back
+    EXPECT_EQ(sash_.GetFolded(), 0);
+    first_.SetFocus();
+    sash_.SetFoldPane(1);
+    sash_.Fold(1);
+    EXPECT_EQ(::GetFocus(), sash_.m_hWnd);
+}
+
 TEST_F(Sash, StoresItselfInAProfile) {
     char folder[MAX_PATH];
     ::GetTempPathA(sizeof folder, folder);
@@ -250,6 +313,14 @@ TEST_F(Sash, StoresItselfInAProfile) {
     EXPECT_EQ(sash_.RestoreState(file, "main"), 1);
     sash_.Fold(0);
     EXPECT_EQ(sash_.GetPosition(), 200);
+    sash_.SetKeptPane(1);
+    sash_.SetPosition(150);
+    sash_.MoveWindow(0, 0, 0, 0); // minimised
+    EXPECT_EQ(sash_.StoreState(file, "main"), 1);
+    sash_.MoveWindow(0, 0, 205, 100);
+    sash_.SetPosition(20);
+    EXPECT_EQ(sash_.RestoreState(file, "main"), 1);
+    EXPECT_EQ(sash_.GetPosition(), 150);
     ::WritePrivateProfileStringA("main", "Share", "half", file);
     EXPECT_EQ(sash_.RestoreState(file, "main"), 0);
     EXPECT_EQ(sash_.StoreState(nullptr, "main") + sash_.StoreState(file, ""), 0);

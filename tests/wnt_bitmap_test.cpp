@@ -129,14 +129,15 @@ TEST(WntBitmap, MapsItsColoursToAPalette) {
     EXPECT_EQ(bitmap.MapColorsToPalette(nullptr), FALSE);
     struct {
         WORD version = 0x300, count = 3;
-        PALETTEENTRY entries[3] = {{255, 0, 0, 0}, {62, 62, 62, 0}, {67, 67, 67, 0}};
+        PALETTEENTRY entries[3] = {{255, 20, 10, 0}, {62, 62, 62, 0}, {67, 67, 67, 0}};
     } colours;
     CPalette palette;
     ASSERT_TRUE(palette.CreatePalette(reinterpret_cast<LOGPALETTE*>(&colours)));
     bitmap.GetClrTabAddress()[1].rgbReserved = 9;
     EXPECT_EQ(bitmap.MapColorsToPalette(&palette), TRUE);
     EXPECT_EQ(rows_of(bitmap, 9, 1), "1 1 1 1 1 2 2 2 2 |");
-    const RGBQUAD second = bitmap.GetClrTabAddress()[1];
+    const RGBQUAD first = bitmap.GetClrTabAddress()[0], second = bitmap.GetClrTabAddress()[1];
+    EXPECT_THAT((Bytes{first.rgbBlue, first.rgbGreen, first.rgbRed}), ElementsAre(10, 20, 255));
     EXPECT_THAT((Bytes{second.rgbBlue, second.rgbRed, second.rgbReserved}), ElementsAre(62, 62, 9));
 
     const TemporaryFile disk(BitmapFile{8, 16, -5}.bytes()); // the upper row first, and all of it
@@ -429,6 +430,33 @@ TEST(BitmapPaths, AreAskedForAndFailuresTold) {
     });
     EXPECT_FALSE(bitmap.Load(static_cast<LPCTSTR>(nullptr)) || bitmap.Save("") || palette.Load(""));
     EXPECT_EQ(cancelled, 3);
+    // A name that fits the purpose is taken as it is; one that does not is asked about in a box of its own.
+    const TemporaryFile there;
+    const CString missing = CString(there.name()) + ".bmp";
+    for (const bool open : {true, false})
+        for (const bool exists : {true, false}) {
+            int step = 0;
+            bool asked = false;
+            const WhileModal typed([&] {
+                const HWND dialog = shown_dialog();
+                if (!dialog || !::IsWindowEnabled(dialog))
+                    return false;
+                const HWND name = ::GetDlgItem(dialog, 0x047C);
+                if (!name) { // the question
+                    asked = true;
+                    ::SendMessageA(dialog, WM_COMMAND, ::GetDlgItem(dialog, IDNO) ? IDNO : IDOK, 0);
+                } else if (step++ == 0) {
+                    ::SetWindowTextA(name, exists ? there.name() : static_cast<LPCTSTR>(missing));
+                    ::PostMessageA(dialog, WM_COMMAND, IDOK, 0);
+                } else {
+                    ::PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
+                }
+                return false;
+            });
+            open ? bitmap.Load("") : bitmap.Save("");
+            EXPECT_EQ(asked, open != exists) << open << exists;
+        }
+    ::DeleteFileA(missing);
     program.boxes.clear();
     const TemporaryFile disk;
     EXPECT_FALSE(bitmap.Load("no such.bmp") || bitmap.Save("no such folder\\x.bmp") || bitmap.Save(disk.name()) ||

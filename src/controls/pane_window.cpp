@@ -24,14 +24,27 @@ bool concerns_host(UINT message) {
 
 } // namespace
 
-bool adopt_child(CWnd& parent, CWnd* child) {
+bool adoptable(const CWnd& parent, const CWnd* child) {
     const HWND window = child->GetSafeHwnd();
-    if (!window || !parent.m_hWnd || window == parent.m_hWnd || ::IsChild(window, parent.m_hWnd))
+    return window && parent.m_hWnd && window != parent.m_hWnd && !::IsChild(window, parent.m_hWnd) &&
+           ::GetWindowThreadProcessId(window, nullptr) == ::GetWindowThreadProcessId(parent.m_hWnd, nullptr);
+}
+
+bool adopt_child(CWnd& parent, CWnd* child) {
+    if (!adoptable(parent, child))
         return false;
+    const HWND window = child->m_hWnd;
     if (::GetParent(window) == parent.m_hWnd)
         return true;
     child->ModifyStyle(WS_POPUP, WS_CHILD);
     return ::SetParent(window, parent.m_hWnd) != nullptr;
+}
+
+bool PaneWindow::asks_about_return() {
+    const MSG* const question = GetCurrentMessage();
+    const auto* const key = question ? reinterpret_cast<const MSG*>(question->lParam) : nullptr;
+    return question && question->message == WM_GETDLGCODE && key && key->message == WM_KEYDOWN &&
+           key->wParam == VK_RETURN;
 }
 
 HWND PaneWindow::living(HWND pane) const {
@@ -41,10 +54,14 @@ HWND PaneWindow::living(HWND pane) const {
 BOOL PaneWindow::PreCreateWindow(CREATESTRUCT& create) {
     const BOOL result = ControlWindow::PreCreateWindow(create);
     create.style |= WS_CLIPCHILDREN; // panes paint themselves
+    if (!(create.style & WS_TABSTOP))
+        create.dwExStyle |= WS_EX_CONTROLPARENT; // the Tab key goes on to what it holds
     return result;
 }
 
 LRESULT PaneWindow::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_SETTINGCHANGE)
+        SendMessageToDescendants(message, wParam, lParam, FALSE, TRUE); // each goes on to its own
     const HWND parent = concerns_host(message) && lParam ? ::GetParent(m_hWnd) : nullptr;
     return parent ? ::SendMessage(parent, message, wParam, lParam)
                   : ControlWindow::DefWindowProc(message, wParam, lParam);

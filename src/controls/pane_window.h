@@ -12,12 +12,17 @@ protected:
 
     /// The pane while it is a child of this window, otherwise null.
     HWND living(HWND pane) const;
+    /// The present WM_GETDLGCODE asks about the Return key, which is a dialog's default button's unless taken.
+    static bool asks_about_return();
 
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 };
 
-/// Makes a window of the host's a child; false for none, or for one that holds the parent.
+/// A window of the host's that may become a child: of this thread, and not one that holds the parent.
+ZOPWNT_API bool adoptable(const CWnd& parent, const CWnd* child);
+
+/// Makes it one; false where it must not.
 ZOPWNT_API bool adopt_child(CWnd& parent, CWnd* child);
 
 } // namespace wnt

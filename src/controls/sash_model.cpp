@@ -26,7 +26,7 @@ void SashModel::resize(int length) {
     if (asked_ == Asked::position)
         remember(kept_);
     else if (asked_ == Asked::second)
-        remember(room() - kept_);
+        remember_second(kept_);
     else if (asked_ == Asked::share)
         remember_share();
 }
@@ -36,6 +36,8 @@ void SashModel::set_bar(int thickness) {
 }
 
 void SashModel::set_keeps(Keeps keeps) {
+    if (asked_ == Asked::nothing && room() == 0)
+        asked_ = keeps_ == Keeps::share ? Asked::share : keeps_ == Keeps::first ? Asked::position : Asked::second;
     const int now = open_position();
     keeps_ = keeps;
     if (asked_ == Asked::nothing)
@@ -49,14 +51,17 @@ void SashModel::set_least(int first, int second) {
 
 void SashModel::remember(int position) {
     const int whole = room();
-    if (whole == 0) {
-        kept_ = position;
-        asked_ = Asked::position;
-        return;
-    }
-    asked_ = Asked::nothing;
-    share_ = std::clamp(static_cast<double>(position) / whole, 0.0, 1.0);
-    kept_ = keeps_ == Keeps::second ? whole - position : position;
+    if (whole > 0)
+        share_ = std::clamp(static_cast<double>(position) / whole, 0.0, 1.0);
+    asked_ = whole == 0 || position > whole ? Asked::position : Asked::nothing;
+    kept_ = keeps_ == Keeps::second && asked_ == Asked::nothing ? whole - position : position;
+}
+
+void SashModel::remember_second(int length) {
+    if (room() > 0 && length <= room())
+        return remember(room() - length);
+    kept_ = length;
+    asked_ = Asked::second;
 }
 
 void SashModel::remember_share() {
@@ -67,16 +72,12 @@ void SashModel::remember_share() {
 
 void SashModel::set_position(int position) {
     folded_ = 0;
-    remember(std::clamp(position, -longest, longest));
+    remember(length_of(position));
 }
 
 void SashModel::set_second(int length) {
     folded_ = 0;
-    kept_ = std::clamp(length, -longest, longest);
-    if (room() > 0)
-        remember(room() - kept_);
-    else
-        asked_ = Asked::second;
+    remember_second(length_of(length));
 }
 
 void SashModel::set_share(double share) {
@@ -110,7 +111,33 @@ int SashModel::position() const {
     return open_position();
 }
 
+int SashModel::wished_position() const {
+    const bool own = asked_ == Asked::position || (asked_ == Asked::nothing && keeps_ == Keeps::first);
+    return own ? kept_ : open_position();
+}
+
+int SashModel::wished_second() const {
+    const bool own = asked_ == Asked::second || (asked_ == Asked::nothing && keeps_ == Keeps::second);
+    return own ? kept_ : room() - open_position();
+}
+
+void SashModel::go_back(const SashModel& before) {
+    if (keeps_ == before.keeps_) {
+        share_ = before.share_;
+        kept_ = before.kept_;
+        asked_ = before.asked_;
+        resize(length_);
+    } else {
+        remember(before.open_position());
+    }
+    folded_ = before.folded_;
+}
+
 int SashModel::open_position() const {
+    if (asked_ == Asked::position)
+        return clamped(kept_);
+    if (asked_ == Asked::second)
+        return clamped(room() - kept_);
     switch (keeps_) {
     case Keeps::first:
         return clamped(kept_);

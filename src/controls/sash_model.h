@@ -34,6 +34,11 @@ public:
     /// A part of the panes' length from 0 to 1; not-a-number counts as 0.
     void set_share(double share);
     int position() const;
+    /// What was asked for, whatever the present length allows: the first pane's length, and the second's.
+    int wished_position() const;
+    int wished_second() const;
+    /// As it stood then; lengths and what was set since stay.
+    void go_back(const SashModel& before);
     /// The first pane's part of both, as it was asked for.
     double share() const;
     /// The nearest position that the least lengths allow.
@@ -49,11 +54,12 @@ public:
     Span second() const;
 
 private:
-    enum class Asked { nothing, position, second, share }; // for before there was any length
+    enum class Asked { nothing, position, second, share }; // what the present length has no room for
 
     int room() const;
     int open_position() const;
     void remember(int position);
+    void remember_second(int length);
     void remember_share();
 
     int length_ = 0;

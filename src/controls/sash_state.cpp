@@ -14,10 +14,8 @@ int CWntSash::StoreState(const char* profile, const char* name) const {
     const wnt::ProfileSection to = {profile, name};
     if (!this || !to.named())
         return 0;
-    wnt::SashModel open = *model_;
-    open.fold(0);
-    return to.write("First", open.position()) && to.write("Second", open.second().length) &&
-           to.write("Share", static_cast<int>(open.share() * whole_share)) && to.write("Folded", GetFolded());
+    return to.write("First", model_->wished_position()) && to.write("Second", model_->wished_second()) &&
+           to.write("Share", static_cast<int>(model_->share() * whole_share)) && to.write("Folded", GetFolded());
 }
 
 int CWntSash::RestoreState(const char* profile, const char* name) {

@@ -16,7 +16,7 @@ constexpr std::string_view dots = "...";
 /// Takes texts apart into lines that are no wider than the room.
 class LineBreaker {
 public:
-    LineBreaker(TipFonts& fonts, int room) : fonts_(fonts), room_(room) {}
+    LineBreaker(TipFonts& fonts, int first_room, int room) : fonts_(fonts), first_room_(first_room), room_(room) {}
 
     void add(std::string_view text, bool bold) {
         text = text.substr(0, longest_tip);
@@ -33,14 +33,13 @@ public:
     std::vector<TipLine> lines;
 
 private:
-    int width(std::string_view text, bool bold) { return fonts_.width(text, bold); }
-
     /// How many characters fit: a search between none and all, since text grows with every character.
     std::size_t fitting(std::string_view text, bool bold) {
+        const int room = lines.empty() ? first_room_ : room_;
         std::size_t low = 1, high = text.size();
         while (low < high) {
             const std::size_t middle = (low + high + 1) / 2;
-            if (width(text.substr(0, middle), bold) <= room_)
+            if (fonts_.width(text.substr(0, middle), bold) <= room)
                 low = middle;
             else
                 high = middle - 1;
@@ -69,6 +68,7 @@ private:
     }
 
     TipFonts& fonts_;
+    int first_room_;
     int room_;
 };
 
@@ -93,7 +93,9 @@ TipLayout lay_out_tip(const TipParts& parts, TipFonts& fonts, int widest, int sc
         first_left = x + row + scaled(part_gap);
         height = std::max(height, row);
     }
-    LineBreaker breaker(fonts, std::max(widest - first_left - scaled(margin_across), least_room));
+    const int right_end = widest - scaled(margin_across);
+    LineBreaker breaker(fonts, std::max(right_end - first_left, least_room),
+                        std::max(right_end - text_left, least_room));
     breaker.add(parts.title, true);
     const std::size_t titles = breaker.lines.size();
     breaker.add(parts.text, false);

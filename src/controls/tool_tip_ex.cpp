@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "controls/control_font.h"
+#include "controls/icon_pixels.h"
 #include "controls/tip_layout.h"
 #include "screen_scale.h"
 #include "widgets/painting/paint_pass.h"
@@ -49,20 +50,6 @@ LRESULT copy_text(const CString& text, char* to, std::size_t capacity) {
     std::copy_n(text.GetString(), length, to);
     to[length] = 0;
     return static_cast<LRESULT>(length);
-}
-
-CSize icon_size(HICON icon) {
-    ICONINFO info;
-    if (!icon || !::GetIconInfo(icon, &info))
-        return CSize(0, 0);
-    BITMAP bitmap = {};
-    ::GetObjectA(info.hbmColor ? info.hbmColor : info.hbmMask, sizeof bitmap, &bitmap);
-    if (!info.hbmColor)
-        bitmap.bmHeight /= 2; // two masks, one above the other
-    if (info.hbmColor)
-        ::DeleteObject(info.hbmColor);
-    ::DeleteObject(info.hbmMask);
-    return CSize(std::min<LONG>(bitmap.bmWidth, largest_icon), std::min<LONG>(bitmap.bmHeight, largest_icon));
 }
 
 CRect work_area(CPoint at) {
@@ -323,7 +310,8 @@ CToolTipCtrlEx::Fonts& CToolTipCtrlEx::fonts() {
 bool CToolTipCtrlEx::present(const WntTip& tip, const CRect& around, Shown how) {
     if (tip.IsEmpty())
         return false;
-    const CSize icon = icon_size(tip.icon);
+    const CSize whole = wnt::icon_size(tip.icon);
+    const CSize icon(std::min<LONG>(whole.cx, largest_icon), std::min<LONG>(whole.cy, largest_icon));
     const wnt::TipParts parts = {std::string_view(tip.title.GetString(), tip.title.GetLength()),
                                  std::string_view(tip.text.GetString(), tip.text.GetLength()), icon.cx, icon.cy,
                                  tip.colour != CLR_NONE};

@@ -122,8 +122,8 @@ void CWntFrame::SetTitle(const char* title) {
 void CWntFrame::StyleChanged() {
     if (!m_hWnd)
         return;
+    Invalidate(FALSE); // first: children may tell the host, which may end all this
     place_children();
-    Invalidate(FALSE);
 }
 
 CRect CWntFrame::GetContentRect() const {

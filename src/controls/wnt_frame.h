@@ -25,7 +25,8 @@ class PaintPass;
 /// tell their parent, and it does not handle, reaches its own parent. Its window always has WS_CLIPCHILDREN. In a
 /// dialog template its class is "WntFrame" and its text the name of a script or else the title.
 ///
-/// Unknown script keys and values are ignored; a colour that no script sets is the system's.
+/// Unknown script keys and values are ignored (sides without a known word are none, a height without digits is 0, as in
+/// all scripts); a colour that no script sets is the system's.
 class ZOPWNT_API CWntFrame : public wnt::PaneWindow {
 public:
     CWntFrame();

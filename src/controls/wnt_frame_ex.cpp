@@ -86,6 +86,8 @@ END_MESSAGE_MAP()
 BEGIN_MESSAGE_MAP(CWntFrameEx, CWntFrame)
 ON_WM_PAINT()
 ON_WM_LBUTTONDOWN()
+ON_WM_LBUTTONDBLCLK()
+ON_WM_GETDLGCODE()
 ON_WM_KEYDOWN()
 ON_WM_SETFOCUS()
 ON_WM_KILLFOCUS()
@@ -103,6 +105,7 @@ CWntFrameEx::~CWntFrameEx() {
 bool CWntFrameEx::build() {
     const CRect nowhere(0, 0, 0, 0);
     offset_ = CPoint();
+    size_ = CSize();
     folded_ = false;
     return CWntFrame::build() && content_->Create(nullptr, "", WS_CHILD | WS_VISIBLE, nowhere, this, content_id) &&
            across_.Create(WS_CHILD | SBS_HORZ, nowhere, this, across_id) &&
@@ -175,6 +178,7 @@ int CWntFrameEx::SetTool(CWnd* tool) {
     if (living(tool_) && tool_ != tool->GetSafeHwnd())
         ::ShowWindow(tool_, SW_HIDE);
     tool_ = tool->GetSafeHwnd();
+    tool_height_ = placed_tool_height_ = -1;
     StyleChanged();
     return 1;
 }
@@ -182,10 +186,27 @@ int CWntFrameEx::SetTool(CWnd* tool) {
 void CWntFrameEx::StyleChanged() {
     if (!m_hWnd || !content_->m_hWnd)
         return;
-    place_parts();
-    place_children();
-    content_->Invalidate(FALSE);
+    content_->Invalidate(FALSE); // first: children may tell the host, which may end all this
     Invalidate(FALSE);
+    const wnt::StillThere self(*this);
+    if (folded_ && folded_height_ != folded_height())
+        set_height(folded_height_ = folded_height());
+    if (self)
+        place_parts();
+    if (self)
+        place_children();
+}
+
+int CWntFrameEx::folded_height() const {
+    CRect window;
+    GetWindowRect(&window);
+    return GetHeaderHeight() + window.Height() - inside().Height();
+}
+
+void CWntFrameEx::set_height(int height) {
+    CRect window;
+    GetWindowRect(&window);
+    SetWindowPos(nullptr, 0, 0, window.Width(), height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 // A bar takes room from the other direction, which may then need one, too.
@@ -201,16 +222,27 @@ void CWntFrameEx::place_parts() {
     CRect view = room;
     view.right = std::max<LONG>(view.right - (down ? wide : 0), view.left);
     view.bottom = std::max<LONG>(view.bottom - (across ? tall : 0), view.top);
-    size_ = CSize(std::max<LONG>(view.Width(), least_.cx), std::max<LONG>(view.Height(), least_.cy));
+    if (open || size_ == CSize()) // anchors count from it, folded or not
+        size_ = CSize(std::max<LONG>(view.Width(), least_.cx), std::max<LONG>(view.Height(), least_.cy));
+    const wnt::StillThere self(*this);
     wnt::place_child(*content_, view.left, view.top, view.Width(), view.Height(), open);
     wnt::place_child(down_, view.right, view.top, wide, view.Height(), down);
     wnt::place_child(across_, view.left, view.bottom, view.Width(), tall, across);
-    scroll_to(offset_);
+    if (self)
+        scroll_to(offset_);
+    if (self)
+        place_tool();
+}
+
+void CWntFrameEx::place_tool() {
     if (const HWND tool = living(tool_)) {
         const CRect strip = header();
         CRect place;
         ::GetWindowRect(tool, &place);
-        const int height = std::min(place.Height(), std::max(strip.Height() - 2, 0));
+        if (place.Height() != placed_tool_height_)
+            tool_height_ = place.Height(); // as the host wants it
+        const int height = std::min(tool_height_, std::max(strip.Height() - 2, 0));
+        placed_tool_height_ = height;
         ::SetWindowPos(tool, nullptr, strip.right - place.Width() - 2, strip.top + (strip.Height() - height) / 2,
                        place.Width(), height, SWP_NOZORDER | SWP_NOACTIVATE | SWP_SHOWWINDOW);
     }
@@ -226,8 +258,26 @@ void CWntFrameEx::scroll_to(CPoint offset) {
     set_range(across_, size_.cx, view.Width(), offset_.x);
     if (way == CSize())
         return;
-    content_->ScrollWindowEx(way.cx, way.cy, nullptr, nullptr, nullptr, nullptr, SW_SCROLLCHILDREN | SW_INVALIDATE);
-    content_->UpdateWindow();
+    if (content_->IsWindowVisible()) {
+        content_->ScrollWindowEx(way.cx, way.cy, nullptr, nullptr, nullptr, nullptr, SW_SCROLLCHILDREN | SW_INVALIDATE);
+        content_->UpdateWindow();
+    } else {
+        move_content(way); // a hidden window is not scrolled
+    }
+}
+
+void CWntFrameEx::move_content(CSize way) {
+    HDWP moves = ::BeginDeferWindowPos(8);
+    for (HWND child = ::GetWindow(content_->m_hWnd, GW_CHILD); child && moves;
+         child = ::GetWindow(child, GW_HWNDNEXT)) {
+        RECT place;
+        ::GetWindowRect(child, &place);
+        ::MapWindowPoints(nullptr, content_->m_hWnd, reinterpret_cast<POINT*>(&place), 2);
+        moves = ::DeferWindowPos(moves, child, nullptr, place.left + way.cx, place.top + way.cy, 0, 0,
+                                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+    if (moves)
+        ::EndDeferWindowPos(moves);
 }
 
 void CWntFrameEx::ShowContent(const CRect& part) {
@@ -247,15 +297,16 @@ int CWntFrameEx::Fold(int folded) {
     if (folded)
         unfolded_height_ = window.Height();
     folded_ = folded != 0;
-    const int border = window.Height() - inside().Height();
-    const int height = folded_ ? GetHeaderHeight() + border : unfolded_height_;
-    SetWindowPos(nullptr, 0, 0, window.Width(), height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-    StyleChanged();
+    const wnt::StillThere self(*this);
+    set_height(folded_ ? folded_height_ = folded_height() : unfolded_height_);
+    if (self)
+        StyleChanged();
     return 1;
 }
 
 void CWntFrameEx::fold_by_user() {
-    if (!Fold(!folded_))
+    const wnt::StillThere self(*this);
+    if (!Fold(!folded_) || !self)
         return;
     CRect window;
     GetWindowRect(&window);
@@ -292,14 +343,31 @@ void CWntFrameEx::OnPaint() {
 void CWntFrameEx::OnLButtonDown(UINT flags, CPoint point) {
     if (!header().PtInRect(point))
         return CWntFrame::OnLButtonDown(flags, point);
+    const wnt::StillThere self(*this);
     if (GetStyle() & WS_TABSTOP)
         SetFocus();
-    fold_by_user();
+    if (self)
+        fold_by_user();
+}
+
+void CWntFrameEx::OnLButtonDblClk(UINT flags, CPoint point) {
+    OnLButtonDown(flags, point);
+}
+
+UINT CWntFrameEx::OnGetDlgCode() {
+    return DLGC_WANTARROWS | (asks_about_return() ? DLGC_WANTMESSAGE : 0);
 }
 
 void CWntFrameEx::OnKeyDown(UINT key, UINT, UINT) {
+    const int page = ContentRect().Height();
     if (key == VK_SPACE || key == VK_RETURN || (folded_ ? key == VK_RIGHT : key == VK_LEFT))
         fold_by_user();
+    else if (key == VK_UP || key == VK_DOWN)
+        scroll_to(CPoint(offset_.x, offset_.y + (key == VK_UP ? -line_step : line_step)));
+    else if (key == VK_PRIOR || key == VK_NEXT)
+        scroll_to(CPoint(offset_.x, offset_.y + (key == VK_PRIOR ? -page : page)));
+    else if (key == VK_HOME || key == VK_END)
+        scroll_to(CPoint(offset_.x, key == VK_HOME ? 0 : longest));
     else
         Default();
 }

@@ -22,7 +22,8 @@ struct WntFrameNotify {
 ///
 /// Children have GetContent() as their parent; anchors count from the content, which is as large as the room below the
 /// header, and at least as large as SetContentSize() says. The title stands in the header, whatever its alignment. A
-/// click on the header folds and unfolds; with WS_TABSTOP it takes the focus, and Space and Return do, too. Folding
+/// click on the header folds and unfolds; with WS_TABSTOP it takes the focus, Space and Return do, too, and arrows,
+/// Page Up and Down, Home and End scroll. The Tab key enters the content unless the frame has WS_TABSTOP. Folding
 /// changes the height of the window: who placed it there is told, and may move what lies below. In a dialog template
 /// its class is "WntFrameEx".
 class ZOPWNT_API CWntFrameEx : public CWntFrame {
@@ -36,8 +37,8 @@ public:
     int SetContentSize(int width, int height);
     /// Scrolls so that this part of the content is seen, its upper left corner first.
     void ShowContent(const CRect& part);
-    /// A window at the header's right end, as wide as it is; null: none. It becomes a child of the frame and stays the
-    /// host's.
+    /// A window at the header's right end, as wide as it is, and as high where the header is; null: none. It becomes a
+    /// child of the frame and stays the host's.
     int SetTool(CWnd* tool);
     /// 1 when that changed it.
     int Fold(int folded);
@@ -55,6 +56,8 @@ protected:
 
     afx_msg void OnPaint();
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
+    afx_msg UINT OnGetDlgCode();
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
     afx_msg void OnSetFocus(CWnd* old);
     afx_msg void OnKillFocus(CWnd* next);
@@ -69,6 +72,10 @@ private:
     CRect header() const;
     CRect inside() const;
     void place_parts();
+    void place_tool();
+    void move_content(CSize way);
+    int folded_height() const;
+    void set_height(int height);
     /// As near to it as the content's size allows.
     void scroll_to(CPoint offset);
     void fold_by_user();
@@ -82,5 +89,8 @@ private:
     CPoint offset_; // of the content's part that is seen
     bool folded_ = false;
     int unfolded_height_ = 0;
+    int folded_height_ = 0;
+    int tool_height_ = -1; // as the host wants it; it may get less
+    int placed_tool_height_ = -1;
     int wheel_ = 0; // turned, and not scrolled by yet
 };

@@ -1,14 +1,18 @@
 #include "controls/wnt_sash.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <utility>
 
 #include "arithmetic.h"
 #include "controls/sash_model.h"
+#include "screen_scale.h"
 #include "widgets/painting/paint_pass.h"
 #include "widgets/painting/surface_owner.h"
 
 namespace {
 
+constexpr int bar_size = 5; // at 96 dots an inch
 constexpr int key_step = 8;
 constexpr int thickest_bar = 64;
 constexpr int least_grips = 32; // a shorter bar shows none
@@ -22,7 +26,8 @@ struct CWntSash::Drag {
     int grip;   ///< from the bar's edge to the pointer
     int at;     ///< where it is, or the track line
     HWND focus; ///< where it goes back to; null: it stays
-    bool tracked = false;
+    bool live;
+    bool moved = false;
 };
 
 BEGIN_MESSAGE_MAP(CWntSash, wnt::ControlWindow)
@@ -52,6 +57,9 @@ int CWntSash::SetPanes(CWnd* first, CWnd* second) {
         return 0;
     CWnd* const wanted[2] = {first, second};
     HWND found[2] = {};
+    for (CWnd* pane : wanted)
+        if (pane && !wnt::adoptable(*this, pane))
+            return 0;
     for (int i = 0; i < 2; ++i) {
         if (wanted[i] && !wnt::adopt_child(*this, wanted[i]))
             return 0;
@@ -118,6 +126,7 @@ int CWntSash::SetBarSize(int pixels) {
     if (!this || pixels < 1 || pixels > thickest_bar)
         return 0;
     model_->set_bar(pixels);
+    own_bar_ = true;
     place_panes();
     return 1;
 }
@@ -131,6 +140,10 @@ int CWntSash::SetFoldPane(int pane) {
     if (!this || pane < 0 || pane > 2)
         return 0;
     fold_pane_ = pane;
+    if (model_->folded() && model_->folded() != pane) {
+        model_->fold(0); // nothing else could bring it back
+        place_panes();
+    }
     return 1;
 }
 
@@ -144,6 +157,13 @@ int CWntSash::Fold(int folded) {
 
 int CWntSash::GetFolded() const {
     return this ? model_->folded() : 0;
+}
+
+bool CWntSash::build() {
+    drag_.reset();
+    if (!own_bar_)
+        model_->set_bar(std::clamp(::MulDiv(bar_size, wnt::screen_scale(false), 100), 1, thickest_bar));
+    return true;
 }
 
 int CWntSash::length() const {
@@ -167,10 +187,11 @@ CRect CWntSash::bar_at(int position) const {
 }
 
 void CWntSash::place_panes() {
-    if (!m_hWnd)
+    if (!m_hWnd || !keep_focus())
         return;
     CRect client;
     GetClientRect(&client);
+    Invalidate(FALSE); // first: panes may tell the host, which may end all this
     HDWP moves = ::BeginDeferWindowPos(2);
     for (int i = 0; i < 2; ++i) {
         const HWND pane = living(panes_[i]);
@@ -185,7 +206,21 @@ void CWntSash::place_panes() {
     }
     if (moves)
         ::EndDeferWindowPos(moves);
-    Invalidate(FALSE);
+}
+
+// A pane without room is hidden, and must not keep the focus. False when that was the end of the sash.
+bool CWntSash::keep_focus() {
+    const HWND focus = ::GetFocus();
+    const wnt::StillThere self(*this);
+    for (int i = 0; i < 2; ++i) {
+        const HWND pane = living(panes_[i]);
+        const int room = (i == 0 ? model_->first() : model_->second()).length;
+        if (pane && focus && room == 0 && (focus == pane || ::IsChild(pane, focus))) {
+            SetFocus();
+            break;
+        }
+    }
+    return static_cast<bool>(self);
 }
 
 BOOL CWntSash::OnEraseBkgnd(CDC*) {
@@ -221,9 +256,7 @@ BOOL CWntSash::OnSetCursor(CWnd* window, UINT hit, UINT message) {
     if (window != this || hit != HTCLIENT || !bar().PtInRect(point))
         return wnt::PaneWindow::OnSetCursor(window, hit, message);
     CWntOut pointer;
-    pointer.setmouseshape(!model_->can_move() && !model_->folded() ? short{0}
-                          : upright_                               ? v_sash_pointer
-                                                                   : h_sash_pointer);
+    pointer.setmouseshape(!model_->can_move() ? short{0} : upright_ ? v_sash_pointer : h_sash_pointer);
     return TRUE;
 }
 
@@ -245,16 +278,28 @@ bool CWntSash::allowed(int& position) {
 }
 
 // A move by the keyboard is one step, told before and after.
-bool CWntSash::move_by_user(int position) {
+void CWntSash::move_by_user(int position) {
+    const int folded = GetFolded(), at = GetPosition();
+    if ((folded == 1 && position <= at) || (folded == 2 && position >= at))
+        return;
     position = model_->clamped(position);
-    if (position == GetPosition() || !allowed(position))
-        return false;
+    if (position == at || !allowed(position))
+        return;
+    const wnt::StillThere self(*this);
     SetPosition(position);
-    return tell(WNT_SASH_MOVED);
+    if (self)
+        tell_moved(folded);
+}
+
+// And where that brought a pane back, this.
+void CWntSash::tell_moved(int folded_before) {
+    if (tell(WNT_SASH_MOVED) && folded_before != GetFolded())
+        tell(WNT_SASH_FOLDED);
 }
 
 void CWntSash::fold_by_user() {
-    if (Fold(!GetFolded()))
+    const wnt::StillThere self(*this);
+    if (Fold(!GetFolded()) && self)
         tell(WNT_SASH_FOLDED);
 }
 
@@ -266,7 +311,7 @@ void CWntSash::OnLButtonDown(UINT, CPoint point) {
     const HWND before = ::GetFocus();
     if (moves) {
         const int at = GetPosition();
-        drag_.reset(new Drag{*model_, along(point) - at, at, keeps_focus ? nullptr : before});
+        drag_.reset(new Drag{*model_, along(point) - at, at, keeps_focus ? nullptr : before, live_});
         SetCapture();
     }
     if (moves || keeps_focus) // Escape comes to who has the focus
@@ -279,19 +324,25 @@ void CWntSash::OnMouseMove(UINT, CPoint point) {
 }
 
 void CWntSash::drag_to(int position) {
+    // A folded bar is not unfolded by a pointer that trembles in a double click.
+    const int slack = drag_->before.folded() && !drag_->moved ? ::GetSystemMetrics(SM_CXDRAG) : 0;
+    if (std::abs(std::int64_t{position} - drag_->at) < slack)
+        return;
     position = model_->clamped(position);
     if (position == drag_->at || !allowed(position) || !drag_ || position == drag_->at)
         return;
-    if (live_) {
-        SetPosition(position);
-        UpdateWindow();
-    } else {
-        if (drag_->tracked)
-            draw_track(drag_->at);
+    const int before = std::exchange(drag_->at, position);
+    const bool again = std::exchange(drag_->moved, true);
+    if (!drag_->live) {
+        if (again)
+            draw_track(before);
         draw_track(position);
-        drag_->tracked = true;
+        return;
     }
-    drag_->at = position;
+    const wnt::StillThere self(*this);
+    SetPosition(position);
+    if (self)
+        UpdateWindow();
 }
 
 // Drawn over the panes; twice at one place leaves nothing.
@@ -317,23 +368,25 @@ void CWntSash::end_drag(bool keep) {
     const std::unique_ptr<Drag> drag = std::move(drag_);
     if (!drag)
         return;
-    if (drag->tracked)
+    const wnt::StillThere self(*this);
+    if (drag->moved && !drag->live) {
         draw_track(drag->at);
+        RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN); // panes may have painted beneath it
+    }
     if (::GetCapture() == m_hWnd)
         ::ReleaseCapture();
     if (drag->focus && ::GetFocus() == m_hWnd)
         ::SetFocus(drag->focus);
-    if (drag->at == drag->before.position())
+    if (!self || !drag->moved || (!drag->live && !keep))
         return;
     if (keep) {
         SetPosition(drag->at);
-    } else if (live_) {
-        *model_ = drag->before;
-        model_->resize(length());
+    } else {
+        model_->go_back(drag->before);
         place_panes();
     }
-    if (keep || live_)
-        tell(WNT_SASH_MOVED);
+    if (self)
+        tell_moved(drag->before.folded());
 }
 
 void CWntSash::OnLButtonUp(UINT, CPoint) {
@@ -354,7 +407,8 @@ void CWntSash::OnLButtonDblClk(UINT, CPoint point) {
 }
 
 UINT CWntSash::OnGetDlgCode() {
-    return drag_ ? DLGC_WANTALLKEYS : DLGC_WANTARROWS;
+    const bool folds = fold_pane_ && asks_about_return();
+    return drag_ ? DLGC_WANTALLKEYS : DLGC_WANTARROWS | (folds ? DLGC_WANTMESSAGE : 0);
 }
 
 void CWntSash::OnKeyDown(UINT key, UINT, UINT) {

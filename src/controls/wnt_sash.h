@@ -11,8 +11,8 @@ class SashModel;
 /// Notifications of a sash, as WM_NOTIFY with a WntSashNotify.
 enum WntSashCode : UINT {
     WNT_SASH_MOVING = 120, ///< before a move by the user: the host may change `position`, or answer 1 to refuse it
-    WNT_SASH_MOVED = 121,  ///< after a move by the user, or when one was given up
-    WNT_SASH_FOLDED = 122, ///< after the user folded or unfolded a pane
+    WNT_SASH_MOVED = 121,  ///< after a move by the user, or when one that panes followed was given up
+    WNT_SASH_FOLDED = 122, ///< after the user folded or unfolded a pane, by a move, too
 };
 
 struct WntSashNotify {
@@ -30,9 +30,9 @@ struct WntSashNotify {
 ///     sash.SetPanes(&tree, &list);
 ///
 /// Sizes and positions are pixels along the way the bar moves. Panes become children of the sash and stay the host's;
-/// what their controls tell their parent reaches the parent of the sash. A sash may be a pane of another one. A new
-/// sash has an upright bar in the middle, keeps the panes' shares, moves live and folds nothing. In a dialog template
-/// its class is "WntSash".
+/// what their controls tell their parent reaches the parent of the sash. A sash may be a pane of another one. The Tab
+/// key enters panes unless the sash has WS_TABSTOP and stops it itself. A new sash has an upright bar in the middle,
+/// keeps the panes' shares, moves live and folds nothing. In a dialog template its class is "WntSash".
 ///
 /// The bar is dragged with the left button; Escape, and a lost capture, take it back. A double click folds the pane
 /// that SetFoldPane() names, and brings it back. With WS_TABSTOP a click gives it the focus: arrows move it by 8
@@ -60,11 +60,11 @@ public:
     int SetKeptPane(int pane);
     /// Where both cannot have theirs, they share what there is, and the bar cannot be moved.
     int SetLeastSizes(int first, int second);
-    /// From 1 to 64 pixels.
+    /// From 1 to 64 pixels; 5 at 96 dots an inch unless set.
     int SetBarSize(int pixels);
     /// 1: panes follow the drag; 0: a line shows where the bar would go.
     void SetLiveDrag(int live);
-    /// The pane that a double click folds, 1 or 2; 0: none.
+    /// The pane that a double click folds, 1 or 2; 0: none. The other one, if it is folded, comes back.
     int SetFoldPane(int pane);
     /// Folds that pane, or brings it back.
     int Fold(int folded);
@@ -95,7 +95,7 @@ protected:
 private:
     struct Drag;
 
-    bool build() override { return true; }
+    bool build() override;
     void lay_out(int cx, int cy) override;
 
     int along(CPoint point) const { return upright_ ? point.x : point.y; }
@@ -103,10 +103,12 @@ private:
     CRect bar_at(int position) const;
     CRect bar() const { return bar_at(GetPosition()); }
     void place_panes();
+    bool keep_focus();
     /// Asks the host; false when it refused, or when nothing is left to go on with.
     bool allowed(int& position);
     bool tell(UINT code);
-    bool move_by_user(int position);
+    void tell_moved(int folded_before);
+    void move_by_user(int position);
     void fold_by_user();
     void drag_to(int position);
     void end_drag(bool keep);
@@ -116,6 +118,7 @@ private:
     HWND panes_[2] = {};
     bool upright_ = true;
     bool live_ = true;
+    bool own_bar_ = false; // its thickness was set
     int fold_pane_ = 0;
     std::unique_ptr<Drag> drag_;
 };

@@ -20,6 +20,10 @@ PaintPass::PaintPass(CWnd& window) : painting_(&window), font_(nullptr) {
 }
 
 PaintPass::~PaintPass() {
+    if (font_before_) {
+        ::SelectObject(out_.dc, font_before_);
+        ::SetTextAlign(out_.dc, align_before_);
+    }
     out_.endpaint();
     const CRect part = painting_.m_ps.rcPaint;
     if (bitmap_)
@@ -58,15 +62,24 @@ void PaintPass::text(const CRect& rect, const CString& text, UINT format, COLORR
     if (!out_.dc || rect.IsRectEmpty() || text.IsEmpty())
         return;
     const HDC dc = out_.dc;
-    const HGDIOBJ chosen = font ? font->GetSafeHandle() : font_;
-    const HGDIOBJ before = ::SelectObject(dc, chosen ? chosen : ::GetStockObject(DEFAULT_GUI_FONT));
-    const UINT alignment = ::SetTextAlign(dc, TA_LEFT | TA_TOP);
-    ::SetBkMode(dc, TRANSPARENT);
+    const HGDIOBJ wanted = font ? font->GetSafeHandle() : font_;
+    use_font(wanted ? wanted : ::GetStockObject(DEFAULT_GUI_FONT));
     ::SetTextColor(dc, colour);
     RECT place = rect;
     ::DrawTextA(dc, text, text.GetLength(), &place, format);
-    ::SetTextAlign(dc, alignment);
-    ::SelectObject(dc, before);
+}
+
+// Selecting one takes as long as a short text.
+void PaintPass::use_font(HGDIOBJ font) {
+    if (font == selected_)
+        return;
+    const HGDIOBJ before = ::SelectObject(out_.dc, font);
+    selected_ = font;
+    if (font_before_)
+        return;
+    font_before_ = before;
+    align_before_ = ::SetTextAlign(out_.dc, TA_LEFT | TA_TOP);
+    ::SetBkMode(out_.dc, TRANSPARENT);
 }
 
 } // namespace wnt

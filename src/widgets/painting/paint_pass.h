@@ -34,6 +34,7 @@ public:
     void text(const CRect& rect, const CString& text, UINT format, COLORREF colour, CFont* font = nullptr);
 
 private:
+    void use_font(HGDIOBJ font);
     int up(int y) const { return area_.Height() - 1 - y; }
 
     CPaintDC painting_;
@@ -41,6 +42,9 @@ private:
     MemoryBitmap bitmap_;
     CWntOut out_;
     HFONT font_;
+    HGDIOBJ selected_ = nullptr;
+    HGDIOBJ font_before_ = nullptr; // and the next: what the first text found
+    UINT align_before_ = 0;
 };
 
 } // namespace wnt

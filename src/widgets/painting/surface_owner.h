@@ -29,18 +29,29 @@ inline void place_child(CWnd& child, int x, int y, int width, int height, bool s
     child.ShowWindow(shown ? SW_SHOW : SW_HIDE);
 }
 
+/// Whether a window and its object outlived what was called in between.
+class StillThere {
+public:
+    explicit StillThere(CWnd& window) : handle_(window.m_hWnd), window_(&window) {}
+    explicit operator bool() const { return ::IsWindow(handle_) && CWnd::FromHandlePermanent(handle_) == window_; }
+
+private:
+    const HWND handle_;
+    const CWnd* const window_;
+};
+
 /// Tells the parent by a notify message that begins with this header; what the handler answers. `alive` is false when
 /// the parent destroyed the window, which must not be used then.
 inline LRESULT notify_parent(CWnd& window, NMHDR& notification, UINT code, bool& alive) {
-    const HWND self = window.m_hWnd;
-    notification = {self, static_cast<UINT_PTR>(window.GetDlgCtrlID()), code};
+    const StillThere self(window);
+    notification = {window.m_hWnd, static_cast<UINT_PTR>(window.GetDlgCtrlID()), code};
     alive = true;
-    const HWND parent = ::GetParent(self);
+    const HWND parent = ::GetParent(window.m_hWnd);
     if (!parent)
         return 0;
     const LRESULT answer =
         ::SendMessage(parent, WM_NOTIFY, notification.idFrom, reinterpret_cast<LPARAM>(&notification));
-    alive = ::IsWindow(self) && CWnd::FromHandlePermanent(self) == &window;
+    alive = static_cast<bool>(self);
     return answer;
 }
 

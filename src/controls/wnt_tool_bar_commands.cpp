@@ -1,0 +1,302 @@
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "controls/tool_bar_drag.h"
+#include "controls/tool_bar_model.h"
+#include "controls/tool_bar_parts.h"
+#include "controls/wnt_tool_bar.h"
+#include "widgets/painting/surface_owner.h"
+
+// What presses do: commands, menus, and what the owner says about them.
+
+namespace {
+
+constexpr UINT first_hidden = 0x10000; // in the chevron's menu: beyond all commands
+
+bool is_alive(const CWnd* window, HWND handle) {
+    return ::IsWindow(handle) && CWnd::FromHandlePermanent(handle) == window;
+}
+
+/// A popup menu that may hold some of the host's.
+class PopupMenu {
+public:
+    PopupMenu() : menu_(::CreatePopupMenu()) {}
+    ~PopupMenu() {
+        for (int i = ::GetMenuItemCount(menu_) - 1; i >= 0; --i)
+            if (std::find(borrowed_.begin(), borrowed_.end(), ::GetSubMenu(menu_, i)) != borrowed_.end())
+                ::RemoveMenu(menu_, static_cast<UINT>(i), MF_BYPOSITION);
+        ::DestroyMenu(menu_);
+    }
+    PopupMenu(const PopupMenu&) = delete;
+    PopupMenu& operator=(const PopupMenu&) = delete;
+
+    HMENU handle() const { return menu_; }
+    void add(UINT id, const CString& text, UINT flags = 0) { ::AppendMenuA(menu_, MF_STRING | flags, id, text); }
+    void add_separator() {
+        if (::GetMenuItemCount(menu_) > 0)
+            ::AppendMenuA(menu_, MF_SEPARATOR, 0, nullptr);
+    }
+    void add_entries(const std::vector<wnt::ToolMenuEntry>& entries) {
+        for (const wnt::ToolMenuEntry& entry : entries)
+            if (entry.id > 0)
+                add(static_cast<UINT>(entry.id), entry.text.c_str());
+            else
+                add_separator();
+    }
+    void borrow(HMENU menu, const CString& text, UINT flags) {
+        borrowed_.push_back(menu);
+        ::AppendMenuA(menu_, MF_POPUP | flags, reinterpret_cast<UINT_PTR>(menu), text);
+    }
+    void add_popup(const std::vector<wnt::ToolMenuEntry>& entries, const CString& text, UINT flags) {
+        PopupMenu popup;
+        popup.add_entries(entries);
+        ::AppendMenuA(menu_, MF_POPUP | flags, reinterpret_cast<UINT_PTR>(std::exchange(popup.menu_, nullptr)), text);
+    }
+
+private:
+    HMENU menu_;
+    std::vector<HMENU> borrowed_;
+};
+
+CString menu_text(const wnt::ToolItem& item) {
+    if (!item.text.empty())
+        return item.text.c_str();
+    if (!item.tip.empty())
+        return CString(item.tip.c_str()).SpanExcluding("\r\n");
+    CString number;
+    number.Format("%d", item.id);
+    return number;
+}
+
+UINT flags_of(const wnt::ToolItem& item) {
+    return (item.enabled ? 0u : UINT{MF_GRAYED}) | (item.check == wnt::checked ? UINT{MF_CHECKED} : 0u);
+}
+
+} // namespace
+
+/// Tells the owner's handlers about one item, and the item what they say.
+class CWntToolBar::ItemState : public CCmdUI {
+public:
+    ItemState(CWntToolBar& bar, int index) : bar_(bar) {
+        m_nIndex = static_cast<UINT>(index);
+        m_nIndexMax = static_cast<UINT>(bar.model_->count());
+        m_nID = static_cast<UINT>(bar.model_->item(index).id);
+        m_pOther = &bar;
+    }
+    void Enable(BOOL on) override {
+        m_bEnableChanged = TRUE;
+        if (is_there() && item().enabled != (on != FALSE)) {
+            item().enabled = on != FALSE;
+            bar_.invalidate_item(index());
+        }
+    }
+    // The owner knows what goes together: no group is looked at.
+    void SetCheck(int check) override {
+        check = std::clamp<int>(check, wnt::unchecked, wnt::undecided);
+        if (is_there() && item().check != check) {
+            item().check = check;
+            bar_.invalidate_item(index());
+        }
+    }
+    void SetRadio(BOOL on) override { SetCheck(on ? wnt::checked : wnt::unchecked); }
+    void SetText(LPCTSTR) override {} // which is a menu's, with its keys
+
+private:
+    int index() const { return static_cast<int>(m_nIndex); }
+    wnt::ToolItem& item() { return bar_.model_->item(index()); }
+    // A handler may have changed the items.
+    bool is_there() { return bar_.model_->has(index()) && item().id == static_cast<int>(m_nID); }
+
+    CWntToolBar& bar_;
+};
+
+// Panes of the library's only hand on what they are told.
+CWnd* CWntToolBar::target() const {
+    CWnd* owner = GetOwner();
+    while (dynamic_cast<wnt::PaneWindow*>(owner))
+        owner = owner->GetParent();
+    return owner;
+}
+
+bool CWntToolBar::update_items(bool disable) {
+    const HWND self = m_hWnd;
+    CWnd* const owner = target();
+    if (!owner || CWnd::FromHandlePermanent(owner->m_hWnd) != owner)
+        return true; // a window of another kind has no handlers
+    for (int i = 0; i < model_->count(); ++i) {
+        const wnt::ToolKind kind = model_->item(i).kind;
+        if (!wnt::is_button(kind))
+            continue;
+        ItemState(*this, i).DoUpdate(owner, disable && kind != wnt::ToolKind::drop_down);
+        if (!is_alive(this, self))
+            return false;
+    }
+    return true;
+}
+
+int CWntToolBar::UpdateItems() {
+    if (!this || !m_hWnd)
+        return 0;
+    update_items(auto_disable_);
+    return 1;
+}
+
+LRESULT CWntToolBar::OnIdleUpdate(WPARAM wParam, LPARAM) {
+    if (GetStyle() & WS_VISIBLE)
+        update_items(wParam && auto_disable_);
+    return 0;
+}
+
+bool CWntToolBar::send_command(UINT id) {
+    const HWND self = m_hWnd;
+    if (CWnd* const owner = target())
+        owner->SendMessage(WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), reinterpret_cast<LPARAM>(self));
+    return is_alive(this, self);
+}
+
+bool CWntToolBar::press(int index) {
+    change_checks([=, this] { model_->press(index); });
+    return send_command(static_cast<UINT>(model_->item(index).id));
+}
+
+int CWntToolBar::PressItem(UINT id) {
+    const int index = FindItem(id);
+    if (index < 0 || !m_hWnd || !wnt::is_button(model_->item(index).kind) || !model_->item(index).enabled)
+        return 0;
+    press(index);
+    return 1;
+}
+
+bool CWntToolBar::tell(UINT code, WntToolNotify& told, LRESULT& answer) {
+    bool alive = true;
+    answer = wnt::notify_parent(*this, told.hdr, code, alive);
+    return alive;
+}
+
+// A frame does that itself for a menu of its own.
+bool CWntToolBar::update_menu(HMENU menu, int depth) {
+    constexpr int deepest = 8;
+    const HWND self = m_hWnd;
+    CWnd* const owner = target();
+    if (depth > deepest || !owner || CWnd::FromHandlePermanent(owner->m_hWnd) != owner)
+        return true;
+    CCmdUI state;
+    state.m_pMenu = CMenu::FromHandle(menu);
+    state.m_nIndexMax = static_cast<UINT>(std::max(::GetMenuItemCount(menu), 0));
+    for (; state.m_nIndex < state.m_nIndexMax; ++state.m_nIndex) {
+        const int position = static_cast<int>(state.m_nIndex);
+        if (const HMENU popup = ::GetSubMenu(menu, position)) {
+            if (!update_menu(popup, depth + 1))
+                return false;
+            continue;
+        }
+        state.m_nID = ::GetMenuItemID(menu, position);
+        if (state.m_nID == 0 || state.m_nID >= first_hidden)
+            continue;
+        state.DoUpdate(owner, auto_disable_);
+        if (!is_alive(this, self))
+            return false;
+    }
+    return true;
+}
+
+// The command that was chosen; 0: none. Nothing is left when the bar was destroyed meanwhile.
+UINT CWntToolBar::track_menu(HMENU menu, const CRect& place, CWnd* owner) {
+    const HWND self = m_hWnd;
+    if (!update_menu(menu, 0))
+        return 0;
+    TPMPARAMS around = {};
+    around.cbSize = sizeof around;
+    around.rcExclude = place;
+    const bool upright = model_->upright;
+    const UINT flags = TPM_LEFTALIGN | TPM_TOPALIGN | TPM_LEFTBUTTON | TPM_RETURNCMD | (upright ? 0 : TPM_VERTICAL);
+    UpdateWindow();
+    const UINT chosen = static_cast<UINT>(::TrackPopupMenuEx(
+        menu, flags, upright ? place.right : place.left, upright ? place.top : place.bottom, owner->m_hWnd, &around));
+    if (!is_alive(this, self))
+        return 0;
+    // The click on the item that closes its menu does not open it again.
+    MSG click;
+    CPoint pointer;
+    ::GetCursorPos(&pointer);
+    if (place.PtInRect(pointer))
+        ::PeekMessageA(&click, m_hWnd, WM_LBUTTONDOWN, WM_LBUTTONDOWN, PM_REMOVE);
+    return chosen;
+}
+
+bool CWntToolBar::drop_menu(int index) {
+    const HWND self = m_hWnd;
+    CRect place = place_of(index);
+    if (place.IsRectEmpty())
+        place = place_of(wnt::tool_chevron); // behind which it is
+    ClientToScreen(&place);
+    const wnt::ToolItem& item = model_->item(index);
+    const int id = item.id;
+    WntToolNotify told = {{}, static_cast<UINT>(id), index, index, static_cast<HMENU>(item.host_menu), place};
+    LRESULT answer = 0;
+    if (!tell(WNT_TOOL_DROPPING, told, answer))
+        return false;
+    if (answer || !model_->has(index) || model_->item(index).id != id)
+        return true;
+    PopupMenu own;
+    if (!told.menu || !::IsMenu(told.menu)) {
+        own.add_entries(model_->item(index).menu);
+        told.menu = own.handle();
+    }
+    CWnd* const owner = target();
+    if (!owner || ::GetMenuItemCount(told.menu) < 1)
+        return true;
+    pressed_ = index;
+    pressed_inside_ = true;
+    invalidate_item(index);
+    const UINT chosen = track_menu(told.menu, place, owner);
+    if (!is_alive(this, self))
+        return false;
+    pressed_ = wnt::no_tool;
+    invalidate_item(index);
+    return !chosen || send_command(chosen);
+}
+
+bool CWntToolBar::open_overflow() {
+    const HWND self = m_hWnd;
+    if (!update_items(auto_disable_))
+        return false;
+    PopupMenu menu;
+    for (int i = 0; i < model_->count(); ++i) {
+        const wnt::ToolItem& item = model_->item(i);
+        if (!place_of(i).IsRectEmpty())
+            continue;
+        if (item.kind == wnt::ToolKind::separator)
+            menu.add_separator();
+        if (!wnt::is_button(item.kind))
+            continue;
+        const CString text = menu_text(item);
+        const CString keys = shortcut_of(static_cast<UINT>(item.id));
+        const bool known = item.host_menu || !item.menu.empty();
+        if (item.kind != wnt::ToolKind::drop_down || !known)
+            menu.add(first_hidden + static_cast<UINT>(i), keys.IsEmpty() ? text : text + "\t" + keys, flags_of(item));
+        if (wnt::has_menu(item.kind) && item.host_menu)
+            menu.borrow(static_cast<HMENU>(item.host_menu), text, flags_of(item));
+        else if (wnt::has_menu(item.kind) && known)
+            menu.add_popup(item.menu, text, flags_of(item));
+    }
+    if (::GetMenuItemCount(menu.handle()) < 1)
+        return true;
+    CRect place = place_of(wnt::tool_chevron);
+    ClientToScreen(&place);
+    pressed_ = wnt::tool_chevron;
+    pressed_inside_ = true;
+    invalidate_item(pressed_);
+    const UINT chosen = track_menu(menu.handle(), place, this);
+    if (!is_alive(this, self))
+        return false;
+    pressed_ = wnt::no_tool;
+    invalidate_item(wnt::tool_chevron);
+    if (chosen < first_hidden)
+        return !chosen || send_command(chosen);
+    const int index = static_cast<int>(chosen - first_hidden);
+    if (!model_->has(index) || !wnt::is_button(model_->item(index).kind))
+        return true;
+    return model_->item(index).kind == wnt::ToolKind::drop_down ? drop_menu(index) : press(index);
+}

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "pulse/pulse_columns.h"
+#include "widgets/painting/shape_raster.h"
+#include "widgets/pulse/value_scale.h"
+
+#include <cstdint>
+#include <optional>
+
+namespace wnt {
+
+struct CurveStyle {
+    std::uint32_t colour = 0; ///< 0x00RRGGBB
+    int line = 0;             ///< a surface's line style, 0 to 7
+    int thickness = 1;        ///< 1 to 4 pixels
+    bool steps = false;       ///< a value holds until the next one
+    bool marks = false;       ///< samples far from their neighbours are marked
+
+    friend bool operator==(const CurveStyle&, const CurveStyle&) = default;
+};
+
+/// Draws a curve's runs into a part of a canvas; every pixel of a line, and the pattern of its style, depends on its
+/// ends and its place in time alone, not on what part of it is drawn.
+class CurveRaster final : public ColumnPainter {
+public:
+    /// Columns further away than this from a part have no mark in it.
+    static constexpr int margin = 16;
+
+    /// `origin` is the column at the canvas's left edge; nothing outside the area is touched.
+    CurveRaster(const Canvas& canvas, const CanvasArea& area, std::int64_t origin, const ValueScale& scale,
+                const CurveStyle& style);
+    ~CurveRaster();
+
+    void run(const ColumnRun& run) override;
+    bool covered(std::int64_t column, double low, double high) override;
+
+private:
+    static constexpr int mark_distance = 8;
+
+    struct Place {
+        std::int64_t x;
+        std::int32_t row;
+    };
+
+    void connect(const Place& from, const Place& to);
+    void flat_line(const Place& from, const Place& to);
+    void steep_line(const Place& from, const Place& to);
+    void upright(std::int64_t x, std::int32_t top, std::int32_t bottom);
+    void paint(std::int32_t x, std::int32_t top, std::int32_t bottom);
+    void mark(const Place& at);
+    bool shown(std::int64_t x, std::int32_t row) const;
+
+    const Canvas canvas_;
+    CanvasArea area_;
+    const std::int64_t origin_;
+    const ValueScale scale_;
+    const CurveStyle style_;
+    std::optional<Place> last_;
+    std::optional<Place> lonely_; // a sample that is marked if the next one is far
+};
+
+} // namespace wnt

@@ -1,0 +1,121 @@
+#include "widgets/pulse/pulse_picture.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace wnt {
+
+namespace {
+
+bool same(const PlotCurve& a, const PlotCurve& b) {
+    return a.series == b.series && a.scale == b.scale && a.style == b.style && a.longest_pause == b.longest_pause;
+}
+
+} // namespace
+
+void PulsePicture::show(const PlotScene& scene, bool anew) {
+    const std::int64_t width = scene.columns.width;
+    const std::int64_t moved = scene.origin - scene_.origin;
+    std::vector<Stretch> stretches{{0, width}};
+    if (!anew && follows(scene) && -width < moved && moved < width && same_grid(scene, moved)) {
+        stretches = stale(scene, moved);
+        move(moved);
+    }
+    remember(scene);
+    drawn_ = 0;
+    for (const Stretch& stretch : stretches)
+        draw(stretch);
+}
+
+// But for the origin and for what was appended.
+bool PulsePicture::follows(const PlotScene& scene) const {
+    return !pixels_.empty() && scene.columns.span == scene_.columns.span &&
+           scene.columns.width == scene_.columns.width && scene.height == scene_.height &&
+           scene.background == scene_.background && scene.grid == scene_.grid && scene.grid_rows == scene_.grid_rows &&
+           std::equal(scene.curves.begin(), scene.curves.end(), scene_.curves.begin(), scene_.curves.end(), same);
+}
+
+// On the columns that stay.
+bool PulsePicture::same_grid(const PlotScene& scene, std::int64_t moved) const {
+    const std::int64_t from = std::max(scene.origin, scene_.origin);
+    const std::int64_t to = from + scene.columns.width - std::abs(moved);
+    const auto staying = [&](const std::vector<std::int64_t>& columns) {
+        return std::pair(std::lower_bound(columns.begin(), columns.end(), from),
+                         std::lower_bound(columns.begin(), columns.end(), to));
+    };
+    const auto [now, now_end] = staying(scene.grid_columns);
+    const auto [before, before_end] = staying(scene_.grid_columns);
+    return std::equal(now, now_end, before, before_end);
+}
+
+// What moving leaves open, what new samples change and what lost samples leave behind; neither sorted nor apart.
+std::vector<PulsePicture::Stretch> PulsePicture::stale(const PlotScene& scene, std::int64_t moved) const {
+    const std::int64_t width = scene.columns.width;
+    Stretch fresh{moved < 0 ? 0 : width - moved, moved < 0 ? -moved : width};
+    std::int64_t changed = width, left_over = 0;
+    for (std::size_t i = 0; i < shown_.size(); ++i) {
+        const PulseSeries& series = *scene.curves[i].series;
+        const Shown& before = shown_[i];
+        if (series.end() < before.end || series.first() > before.end || (before.first == before.end && series.size()))
+            return {{0, width}}; // begun anew, or nothing of what was shown is left
+        if (series.end() != before.end)
+            changed = std::min(changed, before.newest_column - scene.origin - CurveRaster::margin);
+        if (series.first() != before.first && series.first() != series.end())
+            left_over = std::max(left_over, scene.columns.column(series[series.first()].time) - scene.origin +
+                                                CurveRaster::margin);
+        if (series.size() == 0 && before.first != before.end)
+            return {{0, width}};
+    }
+    std::vector<Stretch> result;
+    for (Stretch stretch :
+         {fresh, Stretch{std::max<std::int64_t>(changed, 0), width}, Stretch{0, std::min(left_over, width)}})
+        if (stretch.left < stretch.right)
+            result.push_back(stretch);
+    return result;
+}
+
+void PulsePicture::move(std::int64_t columns) {
+    const std::size_t width = scene_.columns.width;
+    const std::size_t kept = width - static_cast<std::size_t>(std::abs(columns));
+    if (columns == 0)
+        return;
+    for (std::int32_t row = 0; row < scene_.height; ++row) {
+        std::uint32_t* const pixels = pixels_.data() + row * width;
+        const std::uint32_t* const from = pixels + std::max<std::int64_t>(columns, 0);
+        std::memmove(pixels + std::max<std::int64_t>(-columns, 0), from, kept * sizeof *pixels);
+    }
+}
+
+void PulsePicture::remember(const PlotScene& scene) {
+    scene_ = scene;
+    pixels_.resize(static_cast<std::size_t>(scene.columns.width) * scene.height);
+    shown_.clear();
+    for (const PlotCurve& curve : scene.curves)
+        shown_.push_back({curve.series->first(), curve.series->end(),
+                          curve.series->size() ? scene.columns.column(curve.series->newest()) : 0});
+}
+
+void PulsePicture::draw(const Stretch& stretch) {
+    const auto left = static_cast<std::int32_t>(stretch.left), right = static_cast<std::int32_t>(stretch.right);
+    const auto fill = [&](std::int32_t row, std::uint32_t colour) {
+        std::uint32_t* const pixels = pixels_.data() + static_cast<std::size_t>(row) * scene_.columns.width;
+        std::fill(pixels + left, pixels + right, colour);
+    };
+    for (std::int32_t row = 0; row < scene_.height; ++row)
+        fill(row, scene_.background);
+    for (const std::int32_t row : scene_.grid_rows)
+        if (0 <= row && row < scene_.height)
+            fill(row, scene_.grid);
+    for (const std::int64_t column : scene_.grid_columns)
+        if (const std::int64_t x = column - scene_.origin; left <= x && x < right)
+            for (std::int32_t row = 0; row < scene_.height; ++row)
+                pixels_[static_cast<std::size_t>(row) * scene_.columns.width + x] = scene_.grid;
+    for (const PlotCurve& curve : scene_.curves) {
+        CurveRaster raster(canvas(), {left, 0, right, scene_.height}, scene_.origin, curve.scale, curve.style);
+        paint_columns(*curve.series, scene_.columns, scene_.origin + left - CurveRaster::margin,
+                      scene_.origin + right + CurveRaster::margin, curve.longest_pause, raster);
+    }
+    drawn_ += stretch.right - stretch.left;
+}
+
+} // namespace wnt

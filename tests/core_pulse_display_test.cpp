@@ -1,0 +1,431 @@
+#include "widgets/pulse/pulse_picture.h"
+#include "widgets/pulse/pulse_view.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <deque>
+#include <functional>
+#include <limits>
+#include <random>
+#include <string>
+
+using namespace wnt;
+
+namespace {
+
+constexpr double hole = std::numeric_limits<double>::quiet_NaN();
+
+struct Random {
+    std::mt19937 engine;
+    explicit Random(unsigned seed) : engine(seed) {}
+    int upto(int most) { return static_cast<int>(engine() % static_cast<unsigned>(most + 1)); }
+    bool one_in(int n) { return upto(n - 1) == 0; }
+    double unit() { return engine() / 4294967296.0; }
+};
+
+// What a history is, without blocks: all samples in a queue.
+struct PlainSeries {
+    std::size_t capacity;
+    std::deque<PulsePoint> points;
+    std::uint64_t first = 0;
+
+    void append(std::int64_t time, double value) {
+        points.push_back({time, value});
+        if (points.size() > capacity) {
+            points.pop_front();
+            ++first;
+        }
+    }
+};
+
+TEST(PulseSeries, HoldsTheNewestSamplesAndTheirBlocks) {
+    for (const std::size_t capacity : {1, 5, 16, 100, 4095, 4096, 9000}) {
+        Random random(static_cast<unsigned>(capacity));
+        PulseSeries series(capacity);
+        PlainSeries plain{capacity, {}};
+        std::int64_t time = -500;
+        for (int i = 0; i < 30'000; ++i) {
+            time += random.one_in(50) ? random.upto(5000) : random.upto(3);
+            const double value = random.one_in(200) ? hole : random.unit();
+            ASSERT_TRUE(series.append(time, value));
+            plain.append(time, value);
+            if (!random.one_in(300))
+                continue;
+            ASSERT_EQ(series.first(), plain.first);
+            ASSERT_EQ(series.size(), plain.points.size());
+            const auto size = static_cast<int>(plain.points.size());
+            int from = random.upto(size), to = random.upto(size);
+            if (from > to)
+                std::swap(from, to);
+            PulseBlock expected;
+            for (int k = from; k < to; ++k) {
+                const PulsePoint& point = plain.points[k];
+                if (std::isnan(point.value)) {
+                    expected.pause = PulseBlock::hole;
+                    continue;
+                }
+                const std::int64_t pause = k ? point.time - plain.points[k - 1].time : 0;
+                expected.include({point.value, point.value, pause});
+            }
+            const PulseBlock found = series.summary(series.first() + from, series.first() + to);
+            ASSERT_EQ(found.low, expected.low);
+            ASSERT_EQ(found.high, expected.high);
+            // The oldest sample's block may still know the pause before it.
+            if (from > 16) {
+                ASSERT_EQ(found.pause, expected.pause) << from << " to " << to;
+            }
+            const std::int64_t sought = time - random.upto(3000);
+            const auto at = std::lower_bound(plain.points.begin(), plain.points.end(), sought,
+                                             [](const PulsePoint& p, std::int64_t t) { return p.time < t; });
+            ASSERT_EQ(series.seek(sought, series.first() + random.upto(size + 5)),
+                      plain.first + static_cast<std::uint64_t>(at - plain.points.begin()));
+        }
+    }
+}
+
+TEST(PulseSeries, RefusesTimesThatRunBackAndTakesOthersOnly) {
+    PulseSeries series(3);
+    EXPECT_TRUE(series.append(10, 1));
+    EXPECT_TRUE(series.append(10, std::numeric_limits<double>::infinity()));
+    EXPECT_FALSE(series.append(9, 2));
+    EXPECT_FALSE(series.append(PulseSeries::latest + 1, 2));
+    EXPECT_EQ(series.size(), 2u);
+    EXPECT_TRUE(std::isnan(series[1].value));
+    series.clear();
+    EXPECT_TRUE(series.append(-PulseSeries::latest, 2));
+    EXPECT_EQ(series.size(), 1u);
+}
+
+TEST(PulseSeries, TakesAtMost24BytesASample) {
+    PulseSeries series;
+    for (int i = 0; i < 1'500'000; ++i)
+        series.append(i, i % 7);
+    EXPECT_EQ(series.size(), PulseSeries::default_capacity);
+    EXPECT_LE(series.memory() / series.size(), 24u);
+}
+
+// A picture with every sample a run of its own.
+class EverySample {
+public:
+    static void paint(const PulseSeries& series, const ColumnScale& scale, std::int64_t longest_pause,
+                      ColumnPainter& painter) {
+        bool joined = false;
+        std::int64_t before = 0;
+        for (std::uint64_t i = series.first(); i != series.end(); ++i) {
+            const auto [time, value] = series[i];
+            if (std::isnan(value)) {
+                joined = false;
+                continue;
+            }
+            joined = joined && time - before <= longest_pause;
+            painter.run({scale.column(time), 1, value, value, value, value, joined});
+            joined = true;
+            before = time;
+        }
+    }
+};
+
+using Pixels = std::vector<std::uint32_t>;
+
+std::int64_t random_pause(Random& random) {
+    const std::int64_t pauses[] = {5, 40, 1000, std::numeric_limits<std::int64_t>::max() - 1};
+    return pauses[random.upto(3)];
+}
+
+// Series of every kind: walks, bursts, spikes, constants, holes in plenty.
+void extend(PulseSeries& series, Random& random, int count) {
+    const int kind = random.upto(4), step = random.one_in(3) ? 300 : random.upto(4), holes = random.one_in(3) ? 3 : 500;
+    std::int64_t time = series.size() ? series.newest() : random.upto(1000) - 500;
+    double value = 50;
+    for (int i = 0; i < count; ++i) {
+        time += random.one_in(60) ? random.upto(2000) : random.upto(step);
+        value = kind == 0   ? value + random.unit() - 0.5
+                : kind == 1 ? random.unit() * 100
+                : kind == 2 ? (random.one_in(100) ? 1e300 : 20)
+                : kind == 3 ? std::sin(static_cast<double>(time) / 300) * 70 + 50
+                            : 33;
+        series.append(time, random.one_in(holes) ? hole : value);
+    }
+}
+
+CurveStyle random_style(Random& random) {
+    CurveStyle style;
+    style.colour = 0xFF0000 + random.upto(255);
+    style.line = random.upto(9) - 1;
+    style.thickness = 1 + (random.one_in(3) ? random.upto(2) : 0);
+    style.steps = random.one_in(3);
+    style.marks = random.one_in(2);
+    return style;
+}
+
+TEST(PulseDecimation, PaintsWhatAllSamplesPaint) {
+    for (unsigned seed = 0; seed < 400; ++seed) {
+        Random random(seed);
+        PulseSeries series(random.one_in(2) ? 3000 : 30'000);
+        extend(series, random, random.one_in(4) ? 40'000 : random.upto(3000));
+        if (series.size() == 0)
+            continue;
+        ColumnScale scale{1 + random.upto(random.one_in(2) ? 200'000 : 3000), 1 + random.upto(300)};
+        const std::int32_t height = 1 + random.upto(200);
+        const std::int64_t middle = series[series.first() + random.upto(static_cast<int>(series.size()) - 1)].time;
+        const std::int64_t origin = scale.column(middle) - random.upto(scale.width);
+        const std::int64_t pause = random_pause(random);
+        const ValueScale values{random.upto(40) * 1.0, 60.0 + random.upto(60), height};
+        const CurveStyle style = random_style(random);
+        Pixels pixels(static_cast<std::size_t>(scale.width) * height), expected = pixels;
+        const CanvasArea all{0, 0, scale.width, height};
+        {
+            CurveRaster raster({pixels.data(), scale.width, height}, all, origin, values, style);
+            paint_columns(series, scale, origin - CurveRaster::margin, origin + scale.width + CurveRaster::margin,
+                          pause, raster);
+            CurveRaster reference({expected.data(), scale.width, height}, all, origin, values, style);
+            EverySample::paint(series, scale, pause, reference);
+        }
+        ASSERT_TRUE(pixels == expected) << "seed " << seed;
+    }
+}
+
+TEST(PulseDecimation, TimeGrowsWithColumnsNotWithSamples) {
+    struct Counter final : ColumnPainter {
+        int runs = 0;
+        void run(const ColumnRun&) override { ++runs; }
+        bool covered(std::int64_t, double, double) override { return true; }
+    } counter;
+    PulseSeries series(200'000);
+    for (int i = 0; i < 200'000; ++i)
+        series.append(i, i % 3 ? i % 100 : hole); // a hole in every block
+    paint_columns(series, {200'000, 100}, 0, 100, 1000, counter);
+    EXPECT_LT(counter.runs,
+              100 * 2 * (2 * 64 + 16 * 4)); // the ends of each column's blocks and the samples beside them
+}
+
+// The line's rows by the definition: of each step along the longer way the nearest pixel, halves upwards.
+TEST(CurveRaster, LinesTakeTheNearestPixelAndBothEnds) {
+    const struct {
+        int x1, y1, x2, y2;
+    } lines[] = {{0, 0, 9, 0},  {0, 3, 9, 7},   {2, 19, 5, 0}, {0, 0, 19, 19},
+                 {3, 4, 4, 18}, {1, 12, 18, 9}, {7, 5, 7, 15}};
+    for (const auto& line : lines) {
+        Pixels pixels(400);
+        {
+            CurveRaster raster({pixels.data(), 20, 20}, {0, 0, 20, 20}, 100, {0, 20, 20}, {.colour = 1});
+            const double from = 20 - line.y1, to = 20 - line.y2;
+            raster.run({100 + line.x1, 1, from, from, from, from, false});
+            raster.run({100 + line.x2, 1, to, to, to, to, true});
+        }
+        int painted = 0;
+        const int dx = line.x2 - line.x1, dy = std::abs(line.y2 - line.y1), steps = std::max(dx, dy);
+        for (int y = 0; y < 20; ++y)
+            for (int x = 0; x < 20; ++x) {
+                if (!pixels[y * 20 + x])
+                    continue;
+                ++painted;
+                const double along = dx >= dy ? x - line.x1 : std::abs(y - line.y1);
+                const double off = dx >= dy ? line.y1 + (line.y2 - line.y1) * along / std::max(steps, 1) - y
+                                            : line.x1 + dx * along / steps - x;
+                EXPECT_LE(std::abs(off), 0.5) << x << ' ' << y;
+            }
+        EXPECT_EQ(painted, steps + 1);
+        EXPECT_TRUE(pixels[line.y1 * 20 + line.x1] && pixels[line.y2 * 20 + line.x2]);
+    }
+}
+
+TEST(CurveRaster, MarksWhatStandsAlone) {
+    const auto marked = [](std::initializer_list<std::int64_t> columns) {
+        Pixels pixels(100 * 20);
+        {
+            CurveRaster raster({pixels.data(), 100, 20}, {0, 0, 100, 20}, 0, {0, 20, 20}, {.colour = 1, .marks = true});
+            for (const std::int64_t column : columns)
+                raster.run({column, 1, 10, 10, 10, 10, column != *columns.begin()});
+        }
+        std::string found; // columns with more than the line
+        for (int x = 0; x < 100; ++x)
+            if (pixels[8 * 100 + x])
+                found += std::to_string(x) + ' ';
+        return found;
+    };
+    EXPECT_EQ(marked({10, 20}), "8 9 10 11 12 18 19 20 21 22 ");
+    EXPECT_EQ(marked({10, 30, 37, 60}), "8 9 10 11 12 58 59 60 61 62 ");
+}
+
+TEST(PulsePicture, FollowsAsIfDrawnAnew) {
+    for (unsigned seed = 0; seed < 60; ++seed) {
+        Random random(seed);
+        std::vector<PulseSeries> series;
+        for (int i = 0; i < 3; ++i)
+            series.emplace_back(random.one_in(2) ? 300 : 5000);
+        PlotScene scene;
+        scene.columns = {200 + random.upto(5000), 20 + random.upto(200)};
+        scene.height = 10 + random.upto(80);
+        for (PulseSeries& one : series)
+            scene.curves.push_back({&one, {0, 100, scene.height}, random_style(random), random_pause(random)});
+        PulsePicture picture;
+        std::int64_t drawn = 0, whole = 0;
+        for (int step = 0; step < 60; ++step) {
+            for (PulseSeries& one : series)
+                if (!random.one_in(4))
+                    extend(one, random, random.upto(20));
+            if (random.one_in(30))
+                series[random.upto(2)].clear();
+            std::int64_t newest = scene.origin;
+            for (const PulseSeries& one : series)
+                if (one.size())
+                    newest = std::max(newest, scene.columns.column(one.newest()));
+            scene.origin = random.one_in(4) ? scene.origin - random.upto(30) : newest - scene.columns.width + 1;
+            scene.grid_columns.clear();
+            for (std::int64_t grid = scene.origin - 40; grid < scene.origin + scene.columns.width; ++grid)
+                if (grid % 40 == 0)
+                    scene.grid_columns.push_back(grid);
+            picture.show(scene);
+            drawn += picture.drawn();
+            whole += scene.columns.width;
+            PulsePicture anew;
+            anew.show(scene);
+            const Canvas a = picture.canvas(), b = anew.canvas();
+            ASSERT_TRUE(std::equal(a.pixels, a.pixels + a.width * a.height, b.pixels)) << seed << ' ' << step;
+        }
+        EXPECT_LE(drawn, 3 * whole);
+    }
+}
+
+TEST(PulsePicture, ALiveTickDrawsNewColumnsOnly) {
+    PulseSeries series;
+    PlotScene scene;
+    scene.columns = {1000, 500};
+    scene.height = 100;
+    scene.curves = {{&series, {0, 100, 100}, {.colour = 1}, 1000}};
+    PulsePicture picture;
+    for (std::int64_t time = 0; time < 5000; time += 2) {
+        series.append(time, static_cast<double>(time % 100));
+        scene.origin = scene.columns.column(time) - 499;
+        picture.show(scene);
+        if (time) {
+            ASSERT_LE(picture.drawn(), 2 * (CurveRaster::margin + 2));
+        }
+    }
+}
+
+TEST(ValueScale, PutsTheEndsOnTheOutermostRowsAndKeepsOrder) {
+    for (const std::int32_t height : {1, 2, 7, 480}) {
+        const ValueScale scale{-5, 20, height};
+        EXPECT_EQ(scale.row(-5), height - 1);
+        EXPECT_EQ(scale.row(20), 0);
+        EXPECT_GT(scale.row(-5.0 - 30.0 / height), height - 1);
+        std::vector<double> values;
+        for (int i = -100; i <= 1100; ++i)
+            values.push_back(-5 + 25 * i / 1000.0);
+        for (const double odd : {-1e308, 1e308, -HUGE_VAL, HUGE_VAL})
+            values.push_back(odd);
+        std::vector<std::int32_t> rows(values.size());
+        scale.rows(values.data(), values.size(), rows.data());
+        for (std::size_t i = 0; i < values.size(); ++i)
+            EXPECT_EQ(rows[i], scale.row(values[i]));
+        for (int i = 1; i <= 1200; ++i)
+            EXPECT_LE(rows[i], rows[i - 1]);
+        EXPECT_GT(rows[1201], 10'000);
+        EXPECT_LT(rows[1202], -10'000);
+        for (std::int32_t row = 0; row < height - 1; ++row)
+            EXPECT_EQ(scale.row(scale.value(row)), row);
+    }
+    EXPECT_EQ((ValueScale{3, 3, 10}.row(7)), 9); // no range
+}
+
+TEST(ValueScale, FitsInRoundStepsAndRarely) {
+    const auto range = [](const ValueScale& present, double low, double high) {
+        const ValueScale found = fitted(present, low, high);
+        return std::pair(found.low, found.high);
+    };
+    const ValueScale present{0, 100, 50};
+    using Range = std::pair<double, double>;
+    EXPECT_EQ(range(present, 3, 97), Range(0, 100));
+    EXPECT_EQ(range(present, 3, 50), Range(0, 100));  // still filled well
+    EXPECT_EQ(range(present, 3, 30), Range(0, 30));   // shrinks
+    EXPECT_EQ(range(present, 3, 101), Range(0, 120)); // outgrown
+    EXPECT_EQ(range(present, -0.37, 0.12), Range(-0.4, 0.2));
+    EXPECT_EQ(range(present, 1, -1), Range(0, 100)); // nothing to show
+    EXPECT_LT(range(present, 7, 7).first, 7);
+    EXPECT_GT(range(present, 7, 7).second, 7);
+    for (const double odd : {1e308, -1e308, 5e-324, 0.0})
+        EXPECT_LT(range(present, odd, odd).first, range(present, odd, odd).second) << odd;
+    EXPECT_EQ(range(present, -1.7e308, 1.7e308), Range(0, 100)); // no range of doubles
+    // A rising value changes the range a few times, not with every sample.
+    ValueScale rising{0, 1, 50};
+    int changes = 0;
+    for (int i = 1; i < 10'000; ++i) {
+        const ValueScale next = fitted(rising, 0, i * 0.1);
+        changes += !(next == rising);
+        rising = next;
+    }
+    EXPECT_LT(changes, 40);
+}
+
+TEST(PulseView, FollowsNowUntilTheUserLooksBack) {
+    PulseView view;
+    view.resize(600);
+    view.zoom(6000, 0); // ten columns a second
+    view.set_history(0, 100'000);
+    EXPECT_TRUE(view.live());
+    EXPECT_EQ(view.x(100'000), 599);
+    view.scroll(-100);
+    EXPECT_FALSE(view.live());
+    EXPECT_EQ(view.x(100'000), 699);
+    view.set_history(0, 101'000); // more arrives
+    EXPECT_EQ(view.x(100'000), 699);
+    const std::int64_t there = view.time(200);
+    view.zoom(3000, 200);
+    EXPECT_EQ(view.time(200), there);
+    view.scroll(-1'000'000'000);
+    EXPECT_EQ(view.x(0), 0); // the oldest sample at the left edge
+    view.scroll(1'000'000'000);
+    EXPECT_TRUE(view.live());
+    EXPECT_EQ(view.x(101'000), 599);
+    view.show(20'000, 26'000);
+    EXPECT_FALSE(view.live());
+    EXPECT_EQ(view.start(), 20'000);
+    EXPECT_EQ(view.end(), 26'000);
+    view.resize(300);
+    EXPECT_EQ(view.x(25'999), 299);
+    view.set_live(true);
+    EXPECT_EQ(view.x(101'000), 299);
+    view.show(5, 1); // turned round
+    EXPECT_EQ(view.span(), PulseView::shortest_span);
+}
+
+TEST(PulseView, HoldsAtAnyCall) {
+    Random random(3);
+    const std::int64_t odd[] = {std::numeric_limits<std::int64_t>::min(),
+                                -1,
+                                0,
+                                1,
+                                std::numeric_limits<std::int64_t>::max(),
+                                PulseSeries::latest};
+    PulseView view;
+    const auto some = [&] { return random.one_in(3) ? odd[random.upto(5)] : random.upto(1'000'000) - 500'000; };
+    for (int i = 0; i < 20'000; ++i) {
+        switch (random.upto(5)) {
+        case 0:
+            view.resize(static_cast<std::int32_t>(some()));
+            break;
+        case 1:
+            view.zoom(some(), some());
+            break;
+        case 2:
+            view.show(some(), some());
+            break;
+        case 3:
+            view.scroll(some());
+            break;
+        case 4:
+            view.set_history(some(), some());
+            break;
+        default:
+            view.set_live(random.one_in(2));
+        }
+        ASSERT_LT(view.start(), view.end());
+        ASSERT_TRUE(PulseView::shortest_span <= view.span() && view.span() <= PulseView::longest_span);
+    }
+}
+
+} // namespace
