@@ -70,6 +70,22 @@ Kind frame() {
     return made;
 }
 
+Kind tabs() {
+    Kind made = kind<CWntTabs>("tabs");
+    made.prepare = [](CWnd& widget) {
+        auto& shown = static_cast<CWntTabs&>(widget);
+        for (const int side : {CWntTabs::at_left, CWntTabs::at_top}) {
+            shown.AddTab("&one", plain_child(widget));
+            shown.SetTabIcon(shown.GetTabCount() - 1, ::LoadIconA(nullptr, IDI_WARNING));
+            shown.SetTabTip(shown.GetTabCount() - 1, "a tip");
+            shown.SetSide(side);
+            full_repaint(widget);
+        }
+        shown.EnableTab(1, 0);
+    };
+    return made;
+}
+
 Kind tool_bar() {
     Kind made = kind<CWntToolBar>("toolbar");
     made.looks = 2;
@@ -118,6 +134,8 @@ std::vector<Kind> all_kinds() {
             sash(),
             frame(),
             kind<CWntFrameEx>("folding frame"),
+            tabs(),
+            kind<CWntTipPage>("tip page"),
             tool_bar(),
             with_tip()};
 }
