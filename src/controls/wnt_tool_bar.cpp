@@ -429,9 +429,15 @@ void CWntToolBar::change_checks(const std::function<void()>& change) {
     for (const wnt::ToolItem& item : model_->items())
         before.push_back(item.check);
     change();
-    for (int i = 0; i < model_->count(); ++i)
-        if (model_->item(i).check != before[static_cast<std::size_t>(i)])
-            invalidate_item(i);
+    CRgn changed; // told at once
+    changed.CreateRectRgn(0, 0, 0, 0);
+    for (int i = 0; i < model_->count(); ++i) {
+        CRgn one;
+        if (model_->item(i).check != before[static_cast<std::size_t>(i)] && one.CreateRectRgnIndirect(place_of(i)))
+            changed.CombineRgn(&changed, &one, RGN_OR);
+    }
+    if (m_hWnd)
+        InvalidateRgn(&changed, FALSE);
 }
 
 void CWntToolBar::OnSettingChange(UINT flags, LPCTSTR section) {

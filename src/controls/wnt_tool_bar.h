@@ -183,6 +183,7 @@ protected:
 private:
     class ItemState;
     struct Drag;
+    struct Painting;
 
     bool build() override;
     void leave() override;
@@ -206,7 +207,7 @@ private:
     CString shortcut_of(UINT id) const;
 
     // Painting.
-    void paint_item(wnt::PaintPass& pass, const wnt::ToolLook& shown, int index, const CRect& place);
+    void paint_item(const Painting& all, int index, const CRect& place);
     void paint_ground(wnt::PaintPass& pass, int index, const CRect& place, const CRect& arrow) const;
     void paint_separator(wnt::PaintPass& pass, CRect place) const;
     void paint_chevron(wnt::PaintPass& pass, const CRect& place) const;

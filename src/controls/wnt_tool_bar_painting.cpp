@@ -31,6 +31,16 @@ void paint_arrow(wnt::PaintPass& pass, CPoint middle, int reach, bool to_right, 
 
 } // namespace
 
+/// What all items of one painting share: asking the system for each would take as long as to draw some.
+struct CWntToolBar::Painting {
+    wnt::PaintPass& pass;
+    const wnt::ToolLook look;
+    const bool enabled;
+    const bool focused;
+    const COLORREF ink = ::GetSysColor(COLOR_BTNTEXT);
+    const COLORREF grey = ::GetSysColor(COLOR_GRAYTEXT);
+};
+
 BOOL CWntToolBar::OnEraseBkgnd(CDC*) {
     return TRUE;
 }
@@ -48,10 +58,10 @@ void CWntToolBar::OnEnable(BOOL enabled) {
 void CWntToolBar::OnPaint() {
     wnt::PaintPass pass(*this);
     pass.fill(pass.area(), ::GetSysColor(COLOR_BTNFACE));
-    const wnt::ToolLook shown = look();
+    const Painting all = {pass, look(), !(GetStyle() & WS_DISABLED), ::GetFocus() == m_hWnd};
     for (int i = 0; i < model_->count(); ++i)
         if (const CRect place = place_of(i); !place.IsRectEmpty() && pass.touches(place))
-            paint_item(pass, shown, i, place);
+            paint_item(all, i, place);
     if (const CRect place = place_of(wnt::tool_chevron); !place.IsRectEmpty() && pass.touches(place))
         paint_chevron(pass, place);
     if (drag_)
@@ -90,16 +100,17 @@ void CWntToolBar::paint_ground(wnt::PaintPass& pass, int index, const CRect& pla
     }
 }
 
-void CWntToolBar::paint_item(wnt::PaintPass& pass, const wnt::ToolLook& shown, int index, const CRect& place) {
+void CWntToolBar::paint_item(const Painting& all, int index, const CRect& place) {
+    wnt::PaintPass& pass = all.pass;
     const wnt::ToolItem& item = model_->item(index);
     if (item.kind == wnt::ToolKind::separator)
         return paint_separator(pass, place);
     if (item.kind == wnt::ToolKind::stretch || item.kind == wnt::ToolKind::window)
         return;
     const wnt::ToolParts parts =
-        wnt::tool_parts(content_of(index), shown, {place.left, place.top, place.right, place.bottom});
-    const bool usable = (item.enabled || item.kind == wnt::ToolKind::label) && !(GetStyle() & WS_DISABLED);
-    const COLORREF ink = ::GetSysColor(usable ? COLOR_BTNTEXT : COLOR_GRAYTEXT);
+        wnt::tool_parts(content_of(index), all.look, {place.left, place.top, place.right, place.bottom});
+    const bool usable = (item.enabled || item.kind == wnt::ToolKind::label) && all.enabled;
+    const COLORREF ink = usable ? all.ink : all.grey;
     CPoint shift;
     if (wnt::is_button(item.kind)) {
         paint_ground(pass, index, place, wnt::rect_of(parts.arrow));
@@ -113,8 +124,8 @@ void CWntToolBar::paint_item(wnt::PaintPass& pass, const wnt::ToolLook& shown, i
         pass.text(text + shift, item.text.c_str(), DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS,
                   ink, &font_->font());
     if (const CRect arrow = wnt::rect_of(parts.arrow); !arrow.IsRectEmpty())
-        paint_arrow(pass, arrow.CenterPoint() + shift, std::max(shown.arrow / 4, 2), model_->upright, ink);
-    if (focused_ == index && ::GetFocus() == m_hWnd) {
+        paint_arrow(pass, arrow.CenterPoint() + shift, std::max(all.look.arrow / 4, 2), model_->upright, ink);
+    if (focused_ == index && all.focused) {
         CRect inside = place;
         inside.DeflateRect(1, 1);
         pass.focus(inside);
