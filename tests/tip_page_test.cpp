@@ -159,7 +159,10 @@ TEST_F(TipPage, IsAPageOfTabsWithItsOwnKeys) {
     m.wParam = 'o';
     EXPECT_TRUE(CWnd::WalkPreTranslateTree(host_.m_hWnd, &m) && tabs.GetSelected() == 1);
     EXPECT_FALSE(page_->IsWindowVisible());
-    tabs.Select(0);
+    other.SetFocus();
+    m = {other.m_hWnd, WM_SYSCHAR, 'n', 0, 0, {}};
+    EXPECT_TRUE(CWnd::WalkPreTranslateTree(host_.m_hWnd, &m) && tabs.GetSelected() == 0);
+    EXPECT_EQ(::GetFocus(), ::GetDlgItem(page_->m_hWnd, text_id)) << "from page to page";
     EXPECT_EQ(::GetNextDlgTabItem(host_.m_hWnd, tabs.GetWindow(GW_CHILD)->m_hWnd, FALSE),
               ::GetDlgItem(page_->m_hWnd, text_id));
 }
