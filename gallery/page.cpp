@@ -150,6 +150,7 @@ GalleryPages MakePages(const NamedFiles& files) {
     pages.push_back(MakeTabsPage());
     pages.push_back(MakeTipsPage());
     pages.push_back(MakeTipOfTheDayPage());
+    pages.push_back(MakeChartsPage());
     pages.push_back(MakePulsePage());
     pages.push_back(MakeCalendarPage());
     pages.push_back(MakeColoursPage());

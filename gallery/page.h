@@ -132,6 +132,7 @@ std::unique_ptr<CGalleryPage> MakeToolBarsPage();
 std::unique_ptr<CGalleryPage> MakeTabsPage();
 std::unique_ptr<CGalleryPage> MakeTipsPage();
 std::unique_ptr<CGalleryPage> MakeTipOfTheDayPage();
+std::unique_ptr<CGalleryPage> MakeChartsPage();
 std::unique_ptr<CGalleryPage> MakePulsePage();
 std::unique_ptr<CGalleryPage> MakeCalendarPage();
 std::unique_ptr<CGalleryPage> MakeColoursPage();

@@ -35,3 +35,4 @@
 #include "widgets/colour_selector/wnt_color_sel.h"
 #include "widgets/data_exchange.h"
 #include "widgets/gauge/wnt_gauge.h"
+#include "widgets/pulse/wnt_pulse.h"

@@ -207,9 +207,10 @@ TEST(ToolBarModel, IgnoresWhatIsWrong) {
         EXPECT_FALSE(bar.load_line(line)) << line;
     EXPECT_EQ(bar.count(), 0);
     bar.load_line(":ITEM=65535,99999,x");
-    EXPECT_EQ(bar.item(0).picture, -1);
+    bar.load_line(":ITEM=1,-7,x");
+    EXPECT_TRUE(bar.item(0).picture == -1 && bar.item(1).picture == -1);
     bar.load_line(":MENU=5,on a push item");
-    EXPECT_TRUE(bar.item(0).menu.empty());
+    EXPECT_TRUE(bar.item(1).menu.empty());
     for (int i = 0; i < most_tools + 5; ++i)
         bar.load_line(":SEPARATOR");
     EXPECT_EQ(bar.count(), most_tools);

@@ -126,6 +126,11 @@ TEST_F(ToolTip, AsksWhenItShows) {
     EXPECT_EQ(tips_->ShowTip(&host_, 7), 1);
     EXPECT_EQ(shown(), "Level\nfrom the framework, 12 cm");
     tips_->HideTip();
+    EXPECT_EQ(tips_->SetTip(&host_, {"", "told"}, 7), 1); // asked no longer
+    EXPECT_EQ(tips_->ShowTip(&host_, 7), 1);
+    EXPECT_EQ(shown(), "told");
+    tips_->UpdateTipText(LPSTR_TEXTCALLBACK, &host_, 7);
+    tips_->HideTip();
     host_.need_text = "";
     host_.fill = [](WntTip&) {};
     host_.asked.clear();
@@ -168,6 +173,10 @@ TEST_F(ToolTip, TheKeyboardShowsItUntilTheNextKey) {
     EXPECT_EQ(tips_->ShowTip(&button_), 1);
     tips_->Pop();
     EXPECT_EQ(shown(), "");
+    EXPECT_EQ(tips_->ShowTip(&button_), 1);
+    tips_->DelTool(&button_);
+    EXPECT_EQ(shown(), "");
+    tips_->AddTip(&button_, {"", "Save"});
     tips_->SetDelayTime(TTDT_AUTOPOP, 1);
     EXPECT_EQ(tips_->ShowTip(&button_), 1);
     EXPECT_TRUE(pumped_until([&] { return shown().empty(); })); // its time is over
@@ -216,6 +225,8 @@ TEST_F(ToolTip, FollowsThePointerWithoutFlicker) {
     tips_->AddTip(&button_, {"", "other"});
     point_at({20, 20});
     EXPECT_FALSE(pumped_until([&] { return shown() != "x = 1"; }, 200));
+    point_at({20, 150}); // off that tool again
+    EXPECT_FALSE(pumped_until([&] { return shown() != "x = 1"; }, 300));
     const CRect screen(0, 0, ::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN));
     tips_->TrackTip({"", "x = 1"}, CPoint(screen.right - 5, screen.bottom - 5));
     EXPECT_TRUE(place().right <= screen.right && place().bottom <= screen.bottom - 5); // above the pointer
@@ -248,6 +259,13 @@ TEST_F(ToolTip, KeepsToTheFrameworksWays) {
     EXPECT_EQ(shown(), "");
     tips_->DelTool(&button_);
     EXPECT_EQ(tips_->GetToolCount(), 0);
+    tool.uFlags |= TTF_CENTERTIP;
+    tool.lpszText = const_cast<char*>("centred");
+    EXPECT_TRUE(tips_->SendMessage(TTM_ADDTOOL, 0, reinterpret_cast<LPARAM>(&tool)));
+    EXPECT_EQ(shown_at({12, 12}), "centred");
+    CRect button;
+    button_.GetWindowRect(&button);
+    EXPECT_TRUE(place().top == button.bottom && std::abs(place().CenterPoint().x - button.CenterPoint().x) <= 1);
     CToolTipCtrlEx* volatile none = nullptr;
     CToolTipCtrlEx bare;
     EXPECT_EQ(none->AddTip(&button_, {}) + none->ShowTip(&button_) + none->TrackTip({"a", ""}, CPoint()) +

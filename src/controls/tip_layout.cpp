@@ -127,8 +127,8 @@ TipLayout lay_out_tip(const TipParts& parts, TipFonts& fonts, int widest, int sc
     return layout;
 }
 
-PixelRect place_tip(int width, int height, const PixelRect& around, const PixelRect& screen) {
-    int left = std::min(around.left, screen.right - width);
+PixelRect place_tip(int width, int height, const PixelRect& around, const PixelRect& screen, bool centred) {
+    int left = std::min(around.left + (centred ? (around.width() - width) / 2 : 0), screen.right - width);
     int top = around.bottom;
     if (top + height > screen.bottom)
         top = around.top - height >= screen.top ? around.top - height : screen.bottom - height;

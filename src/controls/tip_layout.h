@@ -53,7 +53,8 @@ inline constexpr int most_tip_lines = 50;
 /// themselves. What has no place ends with dots. `scale` is a percentage of the distances at 96 dots an inch.
 TipLayout lay_out_tip(const TipParts& parts, TipFonts& fonts, int widest, int scale);
 
-/// Where a tip of this size stands: below the rectangle or, where there is no room for it, above; within `screen`.
-PixelRect place_tip(int width, int height, const PixelRect& around, const PixelRect& screen);
+/// Where a tip of this size stands: below the rectangle or, where there is no room for it, above; within `screen`. It
+/// begins where the rectangle does, or has its middle there.
+PixelRect place_tip(int width, int height, const PixelRect& around, const PixelRect& screen, bool centred = false);
 
 } // namespace wnt

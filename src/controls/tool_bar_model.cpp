@@ -33,7 +33,7 @@ std::string_view next_field(std::string_view& text) {
 int number_of(std::string_view field, int highest) {
     int number = -1;
     const auto [end, error] = std::from_chars(field.data(), field.data() + field.size(), number);
-    return error == std::errc() && end == field.data() + field.size() && number <= highest ? number : -1;
+    return error == std::errc() && end == field.data() + field.size() && number >= 0 && number <= highest ? number : -1;
 }
 
 template <class T> bool store(T& field, T value) {

@@ -167,6 +167,8 @@ LRESULT CToolTipCtrlEx::OnAddTool(WPARAM wParam, LPARAM lParam) {
 LRESULT CToolTipCtrlEx::OnDelTool(WPARAM, LPARAM lParam) {
     if (const auto* given = reinterpret_cast<const TOOLINFO*>(lParam))
         std::erase_if(tools_, [=](const Tool& t) { return t.window == given->hwnd && t.id == given->uId; });
+    if (shown_ == Shown::by_keyboard)
+        HideTip(); // it may be this one's
     return Default();
 }
 
@@ -276,9 +278,10 @@ CToolTipCtrlEx::Outcome CToolTipCtrlEx::show_tool(const TOOLINFO& info, Shown ho
         return Outcome::destroyed;
     CPoint pointer;
     ::GetCursorPos(&pointer);
-    const bool at_pointer = how == Shown::by_pointer && !(tool.flags & TTF_CENTERTIP);
-    return present(tip, at_pointer ? around_pointer(pointer) : around_tool(info), how) ? Outcome::shown
-                                                                                       : Outcome::empty;
+    const bool centred = tool.flags & TTF_CENTERTIP;
+    const bool at_pointer = how == Shown::by_pointer && !centred;
+    const CRect around = at_pointer ? around_pointer(pointer) : around_tool(info);
+    return present(tip, around, how, centred) ? Outcome::shown : Outcome::empty;
 }
 
 CRect CToolTipCtrlEx::around_pointer(CPoint at) const {
@@ -307,9 +310,10 @@ CToolTipCtrlEx::Fonts& CToolTipCtrlEx::fonts() {
     return *fonts_;
 }
 
-bool CToolTipCtrlEx::present(const WntTip& tip, const CRect& around, Shown how) {
+bool CToolTipCtrlEx::present(const WntTip& tip, const CRect& around, Shown how, bool centred) {
     if (tip.IsEmpty())
         return false;
+    KillTimer(keyboard_timer);
     const CSize whole = wnt::icon_size(tip.icon);
     const CSize icon(std::min<LONG>(whole.cx, largest_icon), std::min<LONG>(whole.cy, largest_icon));
     const wnt::TipParts parts = {std::string_view(tip.title.GetString(), tip.title.GetLength()),
@@ -325,8 +329,8 @@ bool CToolTipCtrlEx::present(const WntTip& tip, const CRect& around, Shown how) 
     *layout_ = std::move(layout);
     tip_ = tip;
     shown_ = how;
-    const CRect place = rect_of(
-        wnt::place_tip(least_.cx, least_.cy, pixels_of(around), pixels_of(work_area(CPoint(around.left, around.top)))));
+    const CRect place = rect_of(wnt::place_tip(least_.cx, least_.cy, pixels_of(around),
+                                               pixels_of(work_area(CPoint(around.left, around.top))), centred));
     presenting_ = true;
     SetWindowPos(&CWnd::wndTop, place.left, place.top, place.Width(), place.Height(),
                  SWP_NOACTIVATE | SWP_NOOWNERZORDER | SWP_SHOWWINDOW);

@@ -104,7 +104,7 @@ private:
     bool is_current(const Tool& tool);
     /// Asks the tool's window; false when nothing is left to go on with.
     bool ask(const Tool& tool, WntTip& tip);
-    bool present(const WntTip& tip, const CRect& around, Shown how);
+    bool present(const WntTip& tip, const CRect& around, Shown how, bool centred = false);
     Outcome show_tool(const TOOLINFO& info, Shown how);
     CRect around_tool(const TOOLINFO& info) const;
     CRect around_pointer(CPoint at) const;

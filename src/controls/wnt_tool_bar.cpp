@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "controls/control_font.h"
-#include "controls/shortcut_text.h"
 #include "controls/tool_bar_drag.h"
 #include "controls/tool_bar_model.h"
 #include "controls/tool_bar_parts.h"
@@ -44,11 +43,14 @@ void describe(wnt::ToolItem& to, const CWntToolItem& from) {
     to.picture = std::max(from.picture, -1);
     to.icons[0] = from.icon;
     to.icons[1] = from.large;
-    to.group = std::clamp(from.group, 0, wnt::highest_command);
+    to.group = std::max(from.group, 0);
     to.host_menu = from.menu;
     to.window = from.window->GetSafeHwnd();
     to.enabled = from.enabled;
-    to.check = std::clamp<int>(from.check, wnt::unchecked, wnt::undecided);
+}
+
+int check_of(const CWntToolItem& item) {
+    return std::clamp<int>(item.check, wnt::unchecked, wnt::undecided);
 }
 
 bool named(const char* profile, const char* name) {
@@ -155,6 +157,7 @@ int CWntToolBar::InsertItem(int index, const CWntToolItem& item) {
     added.text_width = font_ ? font_->width(added.text) : 0;
     if (!model_->insert(index, std::move(added)))
         return 0;
+    model_->set_check(index, check_of(item));
     items_changed();
     return 1;
 }
@@ -172,7 +175,7 @@ int CWntToolBar::SetItem(int index, const CWntToolItem& item) {
             ::ShowWindow(before, SW_HIDE);
     describe(changed, item);
     changed.check = wnt::unchecked;
-    model_->set_check(index, std::clamp<int>(item.check, wnt::unchecked, wnt::undecided)); // one of a group
+    model_->set_check(index, check_of(item)); // one of its group
     changed.text_width = font_ ? font_->width(changed.text) : 0;
     items_changed();
     return 1;
@@ -435,60 +438,6 @@ void CWntToolBar::OnSettingChange(UINT flags, LPCTSTR section) {
     wnt::PaneWindow::OnSettingChange(flags, section);
     rescale(true);
     items_changed();
-}
-
-// -- Tips -------------------------------------------------------------------------------------------------------------
-
-// Each item that is shown is a tool of the bar's, numbered from 1.
-void CWntToolBar::sync_tips() {
-    if (!tips_wanted_ || !tips_->m_hWnd)
-        return;
-    tips_wanted_ = false;
-    for (; tip_count_ > 0; --tip_count_)
-        tips_->DelTool(this, static_cast<UINT_PTR>(tip_count_));
-    for (int i = 0; i < model_->count(); ++i)
-        tips_->AddTool(this, LPSTR_TEXTCALLBACK, place_of(i), static_cast<UINT_PTR>(++tip_count_));
-}
-
-CString CWntToolBar::shortcut_of(UINT id) const {
-    HACCEL table = keys_;
-    if (CFrameWnd* frame = table ? nullptr : GetParentFrame())
-        table = frame->GetDefaultAccelerator();
-    std::vector<ACCEL> keys(table ? static_cast<std::size_t>(::CopyAcceleratorTable(table, nullptr, 0)) : 0);
-    if (!keys.empty())
-        ::CopyAcceleratorTable(table, keys.data(), static_cast<int>(keys.size()));
-    for (const ACCEL& key : keys)
-        if (key.cmd == id)
-            return wnt::shortcut_text(key.fVirt & FCONTROL, key.fVirt & FALT, key.fVirt & FSHIFT, key.fVirt & FVIRTKEY,
-                                      key.key)
-                .c_str();
-    return CString();
-}
-
-// A text that the item shows itself is said again only as a title.
-bool CWntToolBar::fill_tip(const NMHDR& header, WntTip& tip) {
-    const int index = static_cast<int>(header.idFrom) - 1;
-    if (!model_->has(index) || !wnt::is_button(model_->item(index).kind))
-        return false;
-    const wnt::ToolItem& item = model_->item(index);
-    CString title = item.text.c_str();
-    const CString keys = shortcut_of(static_cast<UINT>(item.id));
-    if (!keys.IsEmpty())
-        title += (title.IsEmpty() ? "" : " ") + ("(" + keys + ")");
-    if (item.tip.empty())
-        tip.text = keys.IsEmpty() && content_of(index).shows_text(look()) ? CString() : title;
-    else
-        tip = {title, item.tip.c_str()};
-    return true;
-}
-
-BOOL CWntToolBar::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) {
-    const auto* told = reinterpret_cast<const NMHDR*>(lParam);
-    if (!told || told->hwndFrom != tips_->GetSafeHwnd())
-        return wnt::PaneWindow::OnNotify(wParam, lParam, result);
-    if (told->code == WNT_TIP_NEEDED)
-        fill_tip(*told, reinterpret_cast<WntTipNotify*>(lParam)->tip);
-    return TRUE; // the rest concerns nobody else
 }
 
 // -- The order that the user made -------------------------------------------------------------------------------------

@@ -45,7 +45,7 @@ public:
     int picture = -1;      ///< its number in the bar's pictures; -1: none
     HICON icon = nullptr;  ///< shown instead, where the bar's pictures are small ones
     HICON large = nullptr; ///< and where they are large
-    int group = 0;         ///< of WNT_TOOL_RADIO, 0 to 0xFFFF
+    int group = 0;         ///< of WNT_TOOL_RADIO; those of scripts are above 0xFFFF
     HMENU menu = nullptr;  ///< a popup menu
     CWnd* window = nullptr;
     bool enabled = true;
@@ -232,6 +232,7 @@ private:
     void step_focus(int step);
     bool activate(int index, bool menu);
     void open_focused();
+    bool give_focus(HWND to);
     void give_focus_back();
     bool filter_embedded(const MSG& message);
     void start_drag(CPoint point);

@@ -59,14 +59,13 @@ private:
     std::vector<HMENU> borrowed_;
 };
 
+// Items have no access keys: a menu shows an & only where there are two.
 CString menu_text(const wnt::ToolItem& item) {
-    if (!item.text.empty())
-        return item.text.c_str();
-    if (!item.tip.empty())
-        return CString(item.tip.c_str()).SpanExcluding("\r\n");
-    CString number;
-    number.Format("%d", item.id);
-    return number;
+    CString text = item.text.empty() ? CString(item.tip.c_str()).SpanExcluding("\r\n") : CString(item.text.c_str());
+    if (text.IsEmpty())
+        text.Format("%d", item.id);
+    text.Replace("&", "&&");
+    return text;
 }
 
 UINT flags_of(const wnt::ToolItem& item) {

@@ -154,9 +154,8 @@ void CWntToolBar::end_press(CPoint point, bool keep) {
     invalidate_item(was);
     if (drag) {
         InvalidateRect(mark_at(drag->to), FALSE);
-        if (drag->focus && ::GetFocus() == m_hWnd)
-            ::SetFocus(drag->focus);
-        if (keep)
+        const HWND to = drag->focus;
+        if ((!to || ::GetFocus() != m_hWnd || give_focus(to)) && keep)
             drop_item(drag->from, drag->to);
     } else if (keep && pressed_inside_ && is_usable(was)) {
         activate(was, opens_menu(was, point));
@@ -169,7 +168,8 @@ void CWntToolBar::end_press(CPoint point, bool keep) {
 void CWntToolBar::start_drag(CPoint point) {
     const HWND before = ::GetFocus();
     drag_.reset(new Drag{pressed_, pressed_, before == m_hWnd ? nullptr : before});
-    SetFocus();
+    if (!give_focus(m_hWnd))
+        return;
     invalidate_item(pressed_);
     drag_to(point);
 }
@@ -228,8 +228,8 @@ void CWntToolBar::set_focused(int index) {
         ::SetFocus(static_cast<HWND>(model_->item(index).window));
         return;
     }
-    if (::GetFocus() != m_hWnd)
-        SetFocus();
+    if (!give_focus(m_hWnd))
+        return;
     sync_tips();
     if (index >= 0)
         tips_->ShowTip(this, static_cast<UINT_PTR>(index + 1));
@@ -314,6 +314,14 @@ void CWntToolBar::OnKillFocus(CWnd* next) {
     tips_->HideTip();
 }
 
+// False when who lost it destroyed the bar.
+bool CWntToolBar::give_focus(HWND to) {
+    const HWND self = m_hWnd;
+    if (::GetFocus() != to)
+        ::SetFocus(to);
+    return ::IsWindow(self) && CWnd::FromHandlePermanent(self) == this;
+}
+
 void CWntToolBar::give_focus_back() {
     const HWND to = focus_before_;
     const bool there = to && ::IsWindow(to) && ::IsWindowVisible(to) && ::IsWindowEnabled(to);
@@ -331,8 +339,8 @@ int CWntToolBar::FilterKey(const MSG* message) {
     }
     if (focus_stops().empty())
         return 0;
-    SetFocus();
-    set_focused(focused_ == wnt::no_tool ? focus_stops().front() : focused_);
+    if (give_focus(m_hWnd))
+        set_focused(focused_ == wnt::no_tool ? focus_stops().front() : focused_);
     return 1;
 }
 

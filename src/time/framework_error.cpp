@@ -24,3 +24,13 @@ public:
 void wnt::raise_result(std::int32_t code) {
     throw new DateException(code);
 }
+
+bool wnt::without_result_error(const std::function<void()>& work) {
+    try {
+        work();
+        return true;
+    } catch (COleException* error) {
+        error->Delete();
+        return false;
+    }
+}

@@ -3,3 +3,12 @@
 void wnt::raise_result(std::int32_t code) {
     throw ResultError{code};
 }
+
+bool wnt::without_result_error(const std::function<void()>& work) {
+    try {
+        work();
+        return true;
+    } catch (const ResultError&) {
+        return false;
+    }
+}

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 
 namespace wnt {
 
@@ -14,5 +15,8 @@ struct ResultError {
 
 /// Raises a result code: within the library as the framework's exception, otherwise as a ResultError.
 [[noreturn]] void raise_result(std::int32_t code);
+
+/// Does the work; false where that raised a result code.
+bool without_result_error(const std::function<void()>& work);
 
 } // namespace wnt

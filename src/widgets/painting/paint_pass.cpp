@@ -11,7 +11,11 @@ PaintPass::PaintPass(CWnd& window) : painting_(&window), font_(nullptr) {
     const CRect part = painting_.m_ps.rcPaint;
     if (part.IsRectEmpty())
         return;
-    const HDC target = bitmap_.create(painting_.m_hDC, area_.Width(), area_.Height()) ? bitmap_.dc() : painting_.m_hDC;
+    HDC target = painting_.m_hDC;
+    if (bitmap_.create(target, part.Width(), part.Height())) {
+        target = bitmap_.dc();
+        ::SetViewportOrgEx(target, -part.left, -part.top, nullptr);
+    }
     out_.targetmode = 1;
     out_.reset(target);
     out_.xmax = area_.Width() - 1;
@@ -28,7 +32,7 @@ PaintPass::~PaintPass() {
     const CRect part = painting_.m_ps.rcPaint;
     if (bitmap_)
         ::BitBlt(painting_.m_hDC, part.left, part.top, part.Width(), part.Height(), bitmap_.dc(), part.left, part.top,
-                 SRCCOPY);
+                 SRCCOPY); // both count from the client area's corner
 }
 
 void PaintPass::fill(const CRect& rect, COLORREF colour) {

@@ -28,7 +28,7 @@ CurveStyle bounded(CurveStyle style) {
 
 } // namespace
 
-CurveRaster::CurveRaster(const Canvas& canvas, const CanvasArea& area, std::int64_t origin, const ValueScale& scale,
+CurveRaster::CurveRaster(const PlotCanvas& canvas, const PlotArea& area, std::int64_t origin, const ValueScale& scale,
                          const CurveStyle& style)
     : canvas_(canvas), area_{std::max(area.left, 0), std::max(area.top, 0), std::min(area.right, canvas.width),
                              std::min(area.bottom, canvas.height)},
@@ -65,7 +65,7 @@ bool CurveRaster::covered(std::int64_t column, double low, double high) {
         for (auto y = std::max(row, area_.top); y <= std::min(row + reach, area_.bottom - 1); ++y)
             for (auto at = std::max<std::int64_t>(x, area_.left);
                  at <= std::min<std::int64_t>(x + reach, area_.right - 1); ++at)
-                if (canvas_.pixels[static_cast<std::size_t>(y) * canvas_.width + at] != style_.colour)
+                if (canvas_.row(y)[at] != style_.colour)
                     return false;
     }
     return true;
@@ -138,7 +138,7 @@ void CurveRaster::paint(std::int32_t x, std::int32_t top, std::int32_t bottom) {
     const std::int32_t left = std::max(x, area_.left), right = std::min(x + style_.thickness, area_.right);
     bottom = std::min(bottom + style_.thickness, area_.bottom);
     for (std::int32_t row = std::max(top, area_.top); row < bottom; ++row) {
-        std::uint32_t* const pixels = canvas_.pixels + static_cast<std::size_t>(row) * canvas_.width;
+        std::uint32_t* const pixels = canvas_.row(row);
         for (std::int32_t at = left; at < right; ++at)
             pixels[at] = style_.colour;
     }

@@ -1,13 +1,28 @@
 #pragma once
 
 #include "pulse/pulse_columns.h"
-#include "widgets/painting/shape_raster.h"
 #include "widgets/pulse/value_scale.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 
 namespace wnt {
+
+/// A picture in memory, 0x00RRGGBB, the upper row first; a row begins `stride` pixels behind the one above.
+struct PlotCanvas {
+    std::uint32_t* pixels;
+    std::int32_t width;
+    std::int32_t height;
+    std::ptrdiff_t stride;
+
+    std::uint32_t* row(std::int32_t y) const { return pixels + y * stride; }
+};
+
+/// A part of it; right and bottom exclusive.
+struct PlotArea {
+    std::int32_t left, top, right, bottom;
+};
 
 struct CurveStyle {
     std::uint32_t colour = 0; ///< 0x00RRGGBB
@@ -27,7 +42,7 @@ public:
     static constexpr int margin = 16;
 
     /// `origin` is the column at the canvas's left edge; nothing outside the area is touched.
-    CurveRaster(const Canvas& canvas, const CanvasArea& area, std::int64_t origin, const ValueScale& scale,
+    CurveRaster(const PlotCanvas& canvas, const PlotArea& area, std::int64_t origin, const ValueScale& scale,
                 const CurveStyle& style);
     ~CurveRaster();
 
@@ -50,8 +65,8 @@ private:
     void mark(const Place& at);
     bool shown(std::int64_t x, std::int32_t row) const;
 
-    const Canvas canvas_;
-    CanvasArea area_;
+    const PlotCanvas canvas_;
+    PlotArea area_;
     const std::int64_t origin_;
     const ValueScale scale_;
     const CurveStyle style_;

@@ -16,14 +16,15 @@ bool same(const PlotCurve& a, const PlotCurve& b) {
 void PulsePicture::show(const PlotScene& scene, bool anew) {
     const std::int64_t width = scene.columns.width;
     const std::int64_t moved = scene.origin - scene_.origin;
-    std::vector<Stretch> stretches{{0, width}};
+    drawn_ = {{0, width}};
+    moved_ = 0;
     if (!anew && follows(scene) && -width < moved && moved < width && same_grid(scene, moved)) {
-        stretches = stale(scene, moved);
+        drawn_ = stale(scene, moved);
+        moved_ = moved;
         move(moved);
     }
     remember(scene);
-    drawn_ = 0;
-    for (const Stretch& stretch : stretches)
+    for (const Stretch& stretch : drawn_)
         draw(stretch);
 }
 
@@ -75,20 +76,30 @@ std::vector<PulsePicture::Stretch> PulsePicture::stale(const PlotScene& scene, s
 }
 
 void PulsePicture::move(std::int64_t columns) {
-    const std::size_t width = scene_.columns.width;
-    const std::size_t kept = width - static_cast<std::size_t>(std::abs(columns));
-    if (columns == 0)
+    const std::ptrdiff_t width = scene_.columns.width, wanted = offset_ + columns;
+    if (0 <= wanted && wanted <= width) {
+        offset_ = wanted;
         return;
-    for (std::int32_t row = 0; row < scene_.height; ++row) {
-        std::uint32_t* const pixels = pixels_.data() + row * width;
-        const std::uint32_t* const from = pixels + std::max<std::int64_t>(columns, 0);
-        std::memmove(pixels + std::max<std::int64_t>(-columns, 0), from, kept * sizeof *pixels);
     }
+    // The other way round there is most room where scrolling goes on.
+    const std::ptrdiff_t start = columns > 0 ? 0 : width;
+    const std::ptrdiff_t kept = width - std::abs(columns);
+    const std::ptrdiff_t from = offset_ + std::max<std::int64_t>(columns, 0),
+                         to = start + std::max<std::int64_t>(-columns, 0);
+    for (std::int32_t row = 0; row < scene_.height; ++row) {
+        std::uint32_t* const pixels = pixels_.data() + row * stride();
+        std::memmove(pixels + to, pixels + from, static_cast<std::size_t>(kept) * sizeof *pixels);
+    }
+    offset_ = start;
 }
 
 void PulsePicture::remember(const PlotScene& scene) {
     scene_ = scene;
-    pixels_.resize(static_cast<std::size_t>(scene.columns.width) * scene.height);
+    const std::size_t size = static_cast<std::size_t>(stride()) * scene.height;
+    if (pixels_.size() != size) {
+        pixels_.resize(size);
+        offset_ = 0;
+    }
     shown_.clear();
     for (const PlotCurve& curve : scene.curves)
         shown_.push_back({curve.series->first(), curve.series->end(),
@@ -98,8 +109,7 @@ void PulsePicture::remember(const PlotScene& scene) {
 void PulsePicture::draw(const Stretch& stretch) {
     const auto left = static_cast<std::int32_t>(stretch.left), right = static_cast<std::int32_t>(stretch.right);
     const auto fill = [&](std::int32_t row, std::uint32_t colour) {
-        std::uint32_t* const pixels = pixels_.data() + static_cast<std::size_t>(row) * scene_.columns.width;
-        std::fill(pixels + left, pixels + right, colour);
+        std::fill(canvas().row(row) + left, canvas().row(row) + right, colour);
     };
     for (std::int32_t row = 0; row < scene_.height; ++row)
         fill(row, scene_.background);
@@ -109,13 +119,12 @@ void PulsePicture::draw(const Stretch& stretch) {
     for (const std::int64_t column : scene_.grid_columns)
         if (const std::int64_t x = column - scene_.origin; left <= x && x < right)
             for (std::int32_t row = 0; row < scene_.height; ++row)
-                pixels_[static_cast<std::size_t>(row) * scene_.columns.width + x] = scene_.grid;
+                canvas().row(row)[x] = scene_.grid;
     for (const PlotCurve& curve : scene_.curves) {
         CurveRaster raster(canvas(), {left, 0, right, scene_.height}, scene_.origin, curve.scale, curve.style);
         paint_columns(*curve.series, scene_.columns, scene_.origin + left - CurveRaster::margin,
                       scene_.origin + right + CurveRaster::margin, curve.longest_pause, raster);
     }
-    drawn_ += stretch.right - stretch.left;
 }
 
 } // namespace wnt

@@ -28,7 +28,7 @@ struct PlotScene {
     std::vector<PlotCurve> curves; ///< later ones over earlier ones
 };
 
-/// A plot's pixels, which follow the scene: what stays the same is moved, new columns alone are drawn. The result is
+/// A plot's pixels, which follow the scene: what stays the same is kept, new columns alone are drawn. The result is
 /// what drawing everything anew gives, pixel for pixel.
 class PulsePicture {
 public:
@@ -38,17 +38,20 @@ public:
     /// than its origin and what was appended to the series.
     void show(const PlotScene& scene, bool anew = false);
 
-    Canvas canvas() { return {pixels_.data(), scene_.columns.width, scene_.height}; }
-    /// Columns drawn by the last show(), for measuring.
-    std::int64_t drawn() const { return drawn_; }
+    PlotCanvas canvas() { return {pixels_.data() + offset_, scene_.columns.width, scene_.height, stride()}; }
+    /// Of the canvas in its rows.
+    std::ptrdiff_t offset() const { return offset_; }
+    struct Stretch { ///< of x
+        std::int64_t left, right;
+    };
+    /// What the last show() did: by how many columns what was there went to the left, and which it drew after that.
+    std::int64_t moved() const { return moved_; }
+    const std::vector<Stretch>& drawn() const { return drawn_; }
 
 private:
     struct Shown { // of a series
         std::uint64_t first, end;
         std::int64_t newest_column;
-    };
-    struct Stretch { // of x
-        std::int64_t left, right;
     };
 
     bool follows(const PlotScene& scene) const;
@@ -60,8 +63,13 @@ private:
 
     PlotScene scene_;
     std::vector<Shown> shown_;
+    std::ptrdiff_t stride() const { return std::ptrdiff_t{2} * scene_.columns.width; }
+
+    // Rows twice as long as the plot, which slides along them: only at their end pixels have to be moved back.
     std::vector<std::uint32_t> pixels_;
-    std::int64_t drawn_ = 0;
+    std::ptrdiff_t offset_ = 0;
+    std::int64_t moved_ = 0;
+    std::vector<Stretch> drawn_;
 };
 
 } // namespace wnt

@@ -27,12 +27,23 @@ struct Rows {
     }
 };
 
-double round_step(double raw) {
-    const double magnitude = std::pow(10.0, std::floor(std::log10(raw)));
-    for (const double multiplier : {1.0, 2.0, 5.0})
-        if (raw <= multiplier * magnitude)
-            return multiplier * magnitude;
-    return 10 * magnitude;
+// 1, 2 or 5 times a power of ten.
+struct Step {
+    double multiplier, power, inverse; // power or inverse is 1: whole numbers of both signs of the exponent are exact
+
+    double size() const { return multiplier * power / inverse; }
+    double times(double count) const { return count * multiplier * power / inverse; }
+};
+
+Step round_step(double raw) {
+    const double exponent = std::floor(std::log10(raw));
+    Step step{1, exponent > 0 ? std::pow(10.0, exponent) : 1, exponent < 0 ? std::pow(10.0, -exponent) : 1};
+    for (const double multiplier : {1.0, 2.0, 5.0, 10.0}) {
+        step.multiplier = multiplier;
+        if (raw <= step.size())
+            break;
+    }
+    return step;
 }
 
 } // namespace
@@ -61,13 +72,13 @@ ValueScale fitted(const ValueScale& present, double low, double high) {
     const double least = std::max({std::abs(low), std::abs(high), 1e-30}) * 1e-6;
     if (extent < least) // a level line: a range around it that its own digits can tell
         extent = std::max(least, 1e-30);
-    const double step = round_step(extent / 5);
+    const Step step = round_step(extent / 5);
     ValueScale result = present;
-    result.low = std::floor(low / step) * step;
-    result.high = std::ceil(high / step) * step;
+    result.low = step.times(std::floor(low / step.size()));
+    result.high = step.times(std::ceil(high / step.size()));
     if (result.low == result.high) {
-        result.low -= step;
-        result.high += step;
+        result.low -= step.size();
+        result.high += step.size();
     }
     const bool usable =
         std::isfinite(result.low) && std::isfinite(result.high) && std::isfinite(result.high - result.low);

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <afxwin.h>
+
+#include <array>
+#include <optional>
+
+#include "widgets/pulse/chart_layout.h"
+#include "widgets/pulse/pulse_chart.h"
+#include "widgets/pulse/pulse_picture.h"
+#include "widgets/pulse/pulse_transfer.h"
+#include "widgets/pulse/pulse_view.h"
+#include "widgets/pulse/wnt_pulse.h"
+
+struct CWntPulse::State {
+    enum class Drag { none, pan, stretch };
+
+    wnt::PulseChart chart;
+    wnt::PulseView view;
+    wnt::PulsePicture picture;
+    wnt::ChartLayout layout;
+    std::array<wnt::ValueScale, wnt::most_pulse_curves> scales; // of the curves, as shown
+    std::array<std::optional<std::int64_t>, 2> cursors;
+    wnt::PulseRecorder recorder;
+    wnt::PulseReader reader;
+    CFont title_font, font;
+    bool reading = false;
+    bool tip_shown = false;
+    int scale = 100;
+    bool ticking = false;      // the timer runs: while samples arrive
+    bool stale = false;        // samples arrived since the last picture
+    bool legend_stale = false; // and since the legend was written
+    bool presented = false;    // the window shows the picture, all of it and nothing over it
+    bool anew = true;          // the picture must be drawn anew
+    Drag drag = Drag::none;
+    CPoint drag_start, drag_at;
+    bool dragged = false;
+    std::int64_t drag_origin = 0;
+    int wheel = 0;
+
+    /// Something lies over the curves.
+    bool overlaid() const { return cursors[0] || cursors[1] || drag == Drag::stretch || reading; }
+    const wnt::PixelRect& plot() const { return layout.plot; }
+    bool in_plot(CPoint point) const {
+        const wnt::PixelRect& r = plot();
+        return r.left <= point.x && point.x < r.right && r.top <= point.y && point.y < r.bottom;
+    }
+    void know_history() {
+        if (const auto newest = chart.newest())
+            view.set_history(*chart.oldest(), *newest);
+    }
+    std::int64_t time_at(int x) const { return view.time(x - plot().left); }
+};
+
+namespace wnt {
+
+inline CRect rect_of(const PixelRect& r) {
+    return CRect(r.left, r.top, r.right, r.bottom);
+}
+
+inline constexpr UINT_PTR pulse_tick_timer = 1, pulse_read_timer = 2;
+
+} // namespace wnt

@@ -1,0 +1,98 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "pulse/pulse_series.h"
+#include "widgets/axis/axis_types.h"
+
+class CWntPulseFile;
+
+namespace wnt {
+
+/// Writes samples to pulse files: one, or one after the other by size or day.
+class PulseRecorder {
+public:
+    PulseRecorder();
+    ~PulseRecorder();
+
+    /// Begins a file, or goes on behind an existing one. Empty, or what the file's error is called.
+    std::string start(const std::string& path, std::vector<std::string> titles);
+    void stop();
+    bool running() const { return file_ != nullptr; }
+    /// A new file when the present one has reached this many bytes (0: none), or a day ends. Its name has the day, or
+    /// a number, before its ending.
+    void set_parts(std::int64_t bytes, bool daily) { most_bytes_ = bytes, daily_ = daily; }
+    /// `seconds` since 1970. False when it could not be written: recording has stopped then, and error() tells why.
+    bool put(int curve, double value, std::int64_t seconds);
+    const std::string& error() const { return error_; }
+    /// Of the present file.
+    const std::string& path() const { return path_; }
+
+private:
+    std::string open(const std::string& path);
+    bool grown();
+    std::string part_name(std::int64_t seconds);
+    bool next_part(std::int64_t seconds);
+
+    std::unique_ptr<CWntPulseFile> file_;
+    std::vector<std::string> titles_;
+    std::string first_path_, path_, error_;
+    std::int64_t most_bytes_ = 0;
+    bool daily_ = false;
+    std::int64_t written_ = 0; // characters since the size was looked at
+    std::int64_t size_ = 0;
+    std::int64_t day_ = -1;
+    int part_ = 1;
+};
+
+/// Reads a pulse file piece by piece.
+class PulseReader {
+public:
+    PulseReader();
+    PulseReader(PulseReader&&) noexcept;
+    PulseReader& operator=(PulseReader&&) noexcept;
+    ~PulseReader();
+
+    /// Empty, or what the file's error is called.
+    std::string open(const std::string& path);
+    const std::vector<std::string>& titles() const { return titles_; }
+    /// Samples of one second lie evenly within it instead of at its beginning.
+    void set_spread(bool spread) { spread_ = spread; }
+    /// Hands out samples of up to so many records, with times as an axis counts them: false at the end of the file.
+    /// Where stamps run back, because the clock was set, the samples stay in their order at the time that was reached.
+    bool read(int records, const std::function<void(int curve, std::int64_t time, double value)>& take);
+    std::int64_t records() const { return records_; }
+
+private:
+    struct Second {
+        std::int64_t time = 0;
+        std::vector<double> values;
+    };
+    void flush(int curve, const std::function<void(int, std::int64_t, double)>& take);
+    std::int64_t onward(int curve, std::int64_t time);
+
+    std::unique_ptr<CWntPulseFile> file_;
+    std::vector<std::string> titles_;
+    std::vector<Second> seconds_;
+    struct Onward {
+        std::int64_t last = -PulseSeries::latest, shift = 0;
+    };
+    std::vector<Onward> onwards_;
+    bool spread_ = false;
+    std::int64_t records_ = 0;
+};
+
+/// The time of a moment (seconds since 1970) as an axis counts it, in hundredths, in local time without daylight
+/// saving: it never runs back.
+std::int64_t axis_time_of(std::int64_t seconds);
+/// And back; nothing for times without a date.
+std::optional<std::int64_t> moment_of_axis_time(std::int64_t time);
+/// Its calendar fields, with the full year.
+TAxisdatetime date_of_axis_time(std::int64_t time);
+
+} // namespace wnt

@@ -1,0 +1,168 @@
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <utility>
+
+#include "widgets/painting/paint_pass.h"
+#include "widgets/pulse/pulse_state.h"
+
+using namespace wnt;
+
+namespace {
+
+constexpr UINT single_line = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS;
+
+std::string value_text(double value) {
+    char text[32];
+    std::snprintf(text, sizeof text, "%.6g", value);
+    return text;
+}
+
+std::string time_text(std::int64_t time) {
+    const TAxisdatetime at = date_of_axis_time(time);
+    char text[80];
+    std::snprintf(text, sizeof text, "%04d-%02d-%02d %02d:%02d:%02d.%02d", at.year, at.month, at.day, at.hour,
+                  at.minute, at.second, at.hundredths);
+    return text;
+}
+
+std::string span_text(std::int64_t hundredths) {
+    const char* sign = hundredths < 0 ? "-" : "+";
+    hundredths = std::abs(hundredths);
+    char text[80];
+    std::snprintf(text, sizeof text, "%s%lld:%02d:%02d.%02d", sign, static_cast<long long>(hundredths / 360'000),
+                  static_cast<int>(hundredths / 6'000 % 60), static_cast<int>(hundredths / 100 % 60),
+                  static_cast<int>(hundredths % 100));
+    return text;
+}
+
+COLORREF faded(COLORREF text, COLORREF ground) {
+    return RGB((GetRValue(text) + GetRValue(ground)) / 2, (GetGValue(text) + GetGValue(ground)) / 2,
+               (GetBValue(text) + GetBValue(ground)) / 2);
+}
+
+} // namespace
+
+BOOL CWntPulse::OnEraseBkgnd(CDC*) {
+    return TRUE;
+}
+
+void CWntPulse::OnPaint() {
+    const State& s = *state_;
+    const CRect plot = rect_of(s.plot());
+    CRect dirty;
+    GetUpdateRect(&dirty);
+    CRect outside;
+    state_->presented = false; // only what was uncovered is painted
+    const bool plot_alone = !outside.SubtractRect(&dirty, &plot);
+    if (plot_alone && !s.overlaid()) { // finished pixels
+        CPaintDC dc(this);
+        paint_plot(dc);
+        return;
+    }
+    PaintPass pass(*this);
+    if (!plot_alone) {
+        pass.fill(pass.area(), ::GetSysColor(COLOR_BTNFACE));
+        pass.text(rect_of(s.layout.title), s.chart.title.c_str(), DT_CENTER | single_line, ::GetSysColor(COLOR_BTNTEXT),
+                  &state_->title_font);
+        paint_legend(pass);
+    }
+    paint_plot(pass.dc());
+    paint_overlay(pass);
+    if (::GetFocus() == m_hWnd && !plot_alone) {
+        CRect around = plot;
+        around.InflateRect(2, 2);
+        pass.focus(around);
+    }
+}
+
+void CWntPulse::paint_legend(PaintPass& pass) {
+    State& s = *state_;
+    const COLORREF ground = ::GetSysColor(COLOR_BTNFACE), ink = ::GetSysColor(COLOR_BTNTEXT);
+    for (int i = 0; i < GetCurveCount() && i < static_cast<int>(s.layout.entries.size()); ++i) {
+        CRect entry = rect_of(s.layout.entries[static_cast<std::size_t>(i)]);
+        if (entry.IsRectEmpty())
+            continue;
+        const ChartCurve& curve = s.chart.curve(i);
+        const int side = std::max(static_cast<int>(entry.Height()) / 2, 3);
+        const CRect sample(CPoint(entry.left + side / 2, entry.CenterPoint().y - side / 2), CSize(side, side));
+        pass.fill(sample, curve.shown ? curve.colour : ground);
+        pass.frame(sample, curve.shown ? ink : curve.colour);
+        entry.left = sample.right + side / 2;
+        entry.right -= side;
+        const COLORREF colour = curve.shown ? ink : faded(ink, ground);
+        const PulseSeries& samples = *curve.samples;
+        const auto value = samples.size() ? s.chart.value_at(i, samples.newest()) : std::nullopt;
+        const std::string shown = value ? value_text(*value) : "";
+        pass.text(entry, (curve.title + "  " + shown).c_str(), DT_LEFT | single_line, colour, &s.font);
+    }
+}
+
+// What lies over the curves.
+void CWntPulse::paint_overlay(PaintPass& pass) {
+    State& s = *state_;
+    const CRect plot = rect_of(s.plot());
+    const int thickness = std::max(s.scale / 100, 1);
+    for (int which = 0; which < 2; ++which) {
+        const auto& cursor = s.cursors[static_cast<std::size_t>(which)];
+        const std::int64_t x = cursor ? s.view.x(*cursor) : -1;
+        if (x < 0 || x >= plot.Width())
+            continue;
+        const int left = plot.left + static_cast<int>(x);
+        const int step = which == 0 ? plot.Height() : 8; // the second one is dashed
+        for (int y = plot.top; y < plot.bottom; y += step)
+            pass.fill(CRect(left, y, std::min<int>(left + thickness, plot.right),
+                            std::min<int>(y + (which == 0 ? step : 5), plot.bottom)),
+                      s.chart.text);
+    }
+    if (s.drag == State::Drag::stretch) {
+        CRect band(s.drag_start, s.drag_at);
+        band.NormalizeRect();
+        band.top = plot.top;
+        band.bottom = plot.bottom;
+        band.IntersectRect(band, plot);
+        pass.frame(band, s.chart.text);
+    }
+    if (s.reading) {
+        char text[80];
+        std::snprintf(text, sizeof text, "Reading: %lld records. Escape cancels.",
+                      static_cast<long long>(s.reader.records()));
+        CRect place = plot;
+        place.bottom = std::min<int>(place.top + 24, place.bottom);
+        pass.text(place, text, DT_CENTER | single_line, s.chart.text, &s.font);
+    }
+}
+
+void CWntPulse::update_tip() {
+    State& s = *state_;
+    const int which = s.cursors[0] ? 0 : 1;
+    const auto at = s.cursors[static_cast<std::size_t>(which)];
+    const std::int64_t x = at ? s.view.x(*at) : -1;
+    if (!tip_.m_hWnd || x < 0 || x >= s.plot().width() || ::GetFocus() != m_hWnd || !IsWindowVisible()) {
+        if (std::exchange(s.tip_shown, false))
+            tip_.HideTip();
+        return;
+    }
+    s.tip_shown = true;
+    WntTip tip;
+    tip.title = time_text(*at).c_str();
+    const auto other = which == 0 ? s.cursors[1] : std::nullopt;
+    if (other)
+        tip.title += CString("\n") + span_text(*other - *at).c_str();
+    for (int i = 0; i < GetCurveCount(); ++i) {
+        const ChartCurve& curve = s.chart.curve(i);
+        if (!curve.shown)
+            continue;
+        const auto value = s.chart.value_at(i, *at), second = other ? s.chart.value_at(i, *other) : std::nullopt;
+        std::string line = curve.title + ": " + (value ? value_text(*value) : "-");
+        if (value && second) {
+            const double difference = *second - *value;
+            line += std::string(difference < 0 ? " (" : " (+") + value_text(difference) + ")";
+        }
+        tip.text += CString(tip.text.IsEmpty() ? "" : "\n") + line.c_str();
+    }
+    CPoint screen(s.plot().left + static_cast<int>(x), s.plot().top + s.plot().height() / 4);
+    ClientToScreen(&screen);
+    tip_.TrackTip(tip, screen);
+}

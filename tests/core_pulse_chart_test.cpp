@@ -1,0 +1,305 @@
+#include "pulse/wnt_pulse_file.h"
+#include "script/colours.h"
+#include "script/keywords.h"
+#include "time_zone.h"
+#include "widgets/axis/time_value.h"
+#include "widgets/pulse/chart_layout.h"
+#include "widgets/pulse/pulse_chart.h"
+#include "widgets/pulse/pulse_transfer.h"
+#include "widgets/pulse/pulse_view.h"
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <random>
+
+using namespace wnt;
+namespace fs = std::filesystem;
+using testing::ElementsAre;
+
+namespace {
+
+TEST(PulseChart, FollowsItsScript) {
+    PulseChart chart;
+    for (const char* line : {":TITLE=Boiler", ":SPAN=120", ":GAP=5", ":CURVE=Flow , RED , -2.5, 1e3", ":STEPS=ON",
+                             ":STYLE=DOT", ":CURVE=Plain,BLUE", ":MARKS=OFF", ":GRID=OFF", ":LEGEND=0", ":FIT=1",
+                             ":AXES=RIGHT", ":CLRBACK=BLACK", ":CLRTEXT=WHITE", ":CLRGRID=GRAY"})
+        EXPECT_TRUE(chart.load_line(line)) << line;
+    EXPECT_EQ(chart.title, "Boiler");
+    EXPECT_EQ(chart.span, 12'000);
+    EXPECT_EQ(chart.longest_pause, 500);
+    EXPECT_EQ(chart.axes, side_right);
+    EXPECT_TRUE(!chart.grid && !chart.legend && chart.fit);
+    EXPECT_EQ(chart.background, colour_values[0]);
+    EXPECT_EQ(chart.text, colour_values[1]);
+    EXPECT_EQ(chart.grid_colour, colour_values[9]);
+    ASSERT_EQ(chart.curves().size(), 2u);
+    const ChartCurve& flow = chart.curves()[0];
+    EXPECT_EQ(flow.title, "Flow");
+    EXPECT_TRUE(flow.colour == colour_values[6] && flow.low == -2.5 && flow.high == 1000 && flow.steps &&
+                flow.style == 2);
+    EXPECT_TRUE(chart.curves()[1].high == 100 && !chart.curves()[1].marks && !chart.curves()[1].steps);
+    for (const char* line : {":CURVE=No colour", ":CURVE=x,PINK,0,1", ":CURVE=x,RED,1,1", ":CURVE=x,RED,nan,2",
+                             ":CURVE=x,RED,0,1e999", ":CURVE=x,RED,,5", ":SPAN=0", ":SPAN=-1", ":STYLE=WAVE",
+                             ":GRID=MAYBE", ":CLRBACK=PINK", ":NOSUCHKEY=1", "GRID=ON", ""})
+        EXPECT_FALSE(chart.load_line(line)) << line;
+    EXPECT_TRUE(chart.load_line(":SPAN=2147483647"));
+    EXPECT_EQ(chart.span, PulseView::longest_span);
+    for (int i = 2; i < 10; ++i)
+        EXPECT_TRUE(chart.load_line(":CURVE=a title of more than twenty-four characters,RED,0,1"));
+    EXPECT_EQ(chart.curves()[9].title, "a title of more than twe");
+    EXPECT_FALSE(chart.load_line(":CURVE=eleventh,RED,0,1"));
+    EXPECT_TRUE(chart.load_line(":CLEARCURVES"));
+    EXPECT_TRUE(chart.curves().empty());
+}
+
+TEST(PulseChart, EqualRangesAreShared) {
+    PulseChart chart;
+    chart.add_curve("a", 0, 0, 1);
+    chart.add_curve("b", 0, 0, 10);
+    chart.add_curve("c", 0, 0, 1);
+    chart.add_curve("d", 0, 5, 10);
+    EXPECT_THAT(chart.ranges(), ElementsAre(0, 1, 0, 2));
+    chart.curve(0).shown = chart.curve(2).shown = false; // what is shown has the axes
+    EXPECT_THAT(chart.ranges(), ElementsAre(2, 0, 2, 1));
+    EXPECT_TRUE(chart.set_range(1, 0, 1));
+    EXPECT_THAT(chart.ranges(), ElementsAre(0, 0, 0, 1));
+    EXPECT_FALSE(chart.set_range(1, 1, 0) || chart.set_range(4, 0, 1) || chart.set_range(-1, 0, 1) ||
+                 chart.set_range(0, -1.7e308, 1.7e308));
+}
+
+TEST(PulseChart, BoundsTheSamplesOfAllCurvesTogether) {
+    PulseChart chart;
+    chart.add_curve("a", 0, 0, 1);
+    chart.add_curve("b", 0, 0, 1);
+    for (int i = 0; i < 100; ++i)
+        chart.curve(0).samples->append(i, i);
+    EXPECT_FALSE(chart.set_capacity(0) || chart.set_capacity(PulseChart::most_samples / 2 + 1));
+    EXPECT_TRUE(chart.set_capacity(10));
+    EXPECT_EQ(chart.curve(0).samples->size(), 10u);
+    EXPECT_EQ(chart.value_at(0, 1'000), 99);
+    EXPECT_EQ(chart.oldest(), 90);
+    EXPECT_TRUE(chart.set_capacity(PulseChart::most_samples / 2));
+    EXPECT_EQ(chart.add_curve("c", 0, 0, 1), PulseChart::no_curve); // no room for its samples
+}
+
+TEST(PulseChart, ReadsValuesOff) {
+    PulseChart chart;
+    chart.longest_pause = 100;
+    chart.add_curve("a", 0, 0, 1);
+    EXPECT_FALSE(chart.newest());
+    for (const auto& [time, value] : {std::pair{10, 1.0}, {50, 2.0}, {60, std::nan("")}, {70, 3.0}})
+        chart.curve(0).samples->append(time, value);
+    EXPECT_FALSE(chart.value_at(0, 9));
+    EXPECT_EQ(chart.value_at(0, 10), 1);
+    EXPECT_EQ(chart.value_at(0, 59), 2);
+    EXPECT_FALSE(chart.value_at(0, 60));
+    EXPECT_EQ(chart.value_at(0, 170), 3);
+    EXPECT_FALSE(chart.value_at(0, 171));
+    EXPECT_FALSE(chart.value_at(1, 10));
+}
+
+bool apart(const PixelRect& a, const PixelRect& b) {
+    return a.width() <= 0 || b.width() <= 0 || a.height() <= 0 || b.height() <= 0 || a.right <= b.left ||
+           b.right <= a.left || a.bottom <= b.top || b.bottom <= a.top;
+}
+
+TEST(ChartLayout, NothingOverlapsAtAnySize) {
+    std::mt19937 random(5);
+    const auto some = [&](int most) { return static_cast<int>(random() % static_cast<unsigned>(most + 1)); };
+    for (int run = 0; run < 3000; ++run) {
+        ChartSizes sizes{100 + 50 * some(2), some(30), some(20), 17, some(1) == 1, some(1) == 1, some(1) == 1, {}};
+        for (int i = some(10); i > 0; --i)
+            sizes.entries.push_back(20 + some(300));
+        const int width = some(1600), height = some(900);
+        const ChartLayout layout = lay_out_chart(width, height, sizes);
+        // Upright axes stand a row higher than the plot: see ValueScale.
+        std::vector<PixelRect> parts = {layout.title, layout.time_axis, layout.scroll_bar, layout.plot};
+        for (PixelRect axis : {layout.left_axis, layout.right_axis}) {
+            if (axis.height() > 0)
+                axis.top += 1, axis.bottom += 1;
+            parts.push_back(axis);
+        }
+        for (const PixelRect& entry : layout.entries)
+            parts.push_back(entry);
+        for (std::size_t i = 0; i < parts.size(); ++i) {
+            const PixelRect& part = parts[i];
+            ASSERT_TRUE(part.left >= 0 && part.top >= 0 && part.right <= width && part.bottom <= height) << i;
+            for (std::size_t k = i + 1; k < parts.size(); ++k)
+                ASSERT_TRUE(apart(part, parts[k])) << i << ' ' << k << " at " << width << 'x' << height;
+        }
+        ASSERT_TRUE(layout.plot.width() >= std::min(width, 60) - 40 &&
+                    layout.plot.height() >= std::min(height, 40) - 30);
+        if (width >= 400 && height >= 300 && sizes.left_axis && sizes.time_axis) {
+            ASSERT_TRUE(layout.left_axis.width() > 0 && layout.time_axis.width() > 0 && layout.scroll_bar.width() > 0);
+        }
+    }
+}
+
+struct PulseTransfer : testing::Test {
+    PulseTransfer() {
+        fs::create_directory(folder);
+        fs::current_path(folder);
+        set_zone("UTC0");
+    }
+    ~PulseTransfer() override {
+        fs::current_path(home);
+        std::error_code ignored;
+        fs::remove_all(folder, ignored);
+    }
+    std::vector<PulsePoint> read(const std::string& path, bool spread) {
+        PulseReader reader;
+        EXPECT_EQ(reader.open(path), "");
+        titles = reader.titles();
+        reader.set_spread(spread);
+        std::vector<PulsePoint> found;
+        while (reader.read(3, [&](int, std::int64_t time, double value) { found.push_back({time, value}); })) {
+        }
+        return found;
+    }
+    std::vector<std::string> files() {
+        std::vector<std::string> names;
+        for (const auto& each : fs::directory_iterator("."))
+            if (each.path().extension() == ".txt")
+                names.push_back(each.path().filename().string());
+        std::ranges::sort(names);
+        return names;
+    }
+
+    fs::path home = fs::current_path();
+    fs::path folder = fs::temp_directory_path() / ("transfer-" + std::to_string(std::random_device()()));
+    std::vector<std::string> titles;
+};
+
+constexpr std::int64_t afternoon = 1'794'837'839; // 16 November 2026, 14:03:59 UTC
+
+TEST_F(PulseTransfer, WhatWasRecordedIsRead) {
+    PulseRecorder recorder;
+    ASSERT_EQ(recorder.start("a.txt", {"Flow", "Pressure"}), "");
+    for (int i = 0; i < 4; ++i)
+        EXPECT_TRUE(recorder.put(i % 2, i + 0.5, afternoon + i / 2));
+    recorder.stop();
+    EXPECT_FALSE(recorder.put(0, 1, afternoon));
+    const auto found = read("a.txt", false);
+    EXPECT_THAT(titles, ElementsAre("Flow", "Pressure"));
+    ASSERT_EQ(found.size(), 4u);
+    const std::int64_t first = axis_time_of(afternoon);
+    EXPECT_EQ(moment_of_axis_time(first), afternoon);
+    EXPECT_THAT((std::vector{found[0].time, found[1].time, found[2].time, found[3].time}),
+                testing::UnorderedElementsAre(first, first, first + 100, first + 100));
+    ASSERT_EQ(recorder.start("a.txt", {"Flow", "Pressure"}), ""); // goes on behind it
+    recorder.put(1, 9, afternoon + 9);
+    recorder.stop();
+    EXPECT_EQ(read("a.txt", false).size(), 5u);
+    EXPECT_NE(recorder.start("no such folder/a.txt", {"Flow"}), "");
+    EXPECT_FALSE(recorder.running());
+    EXPECT_NE(PulseReader().open("nothing.txt"), "");
+}
+
+// Days as an axis labels them, each a day behind the one before.
+TEST_F(PulseTransfer, TimesAreThoseOfTheAxis) {
+    int wrong = 0;
+    for (std::int64_t day = 3653; day < 40'000; ++day) { // from 1980 on
+        const std::int64_t time = axis_time_of(day * 86'400 + 43'200);
+        EXPECT_EQ(time - axis_time_of(day * 86'400 - 43'200), hundredths_per_day);
+        const TAxisdatetime date = date_of_axis_time(time), label = split_time(time);
+        EXPECT_TRUE(date.hour == 12 && date.minute == 0 && label.hour == 12);
+        wrong += date.day != label.day || date.month != label.month || date.year != label.year + 1900;
+    }
+    EXPECT_LT(wrong, 400); // the axis has years of 365.25 days
+}
+
+TEST_F(PulseTransfer, SamplesOfASecondAreSpreadInIt) {
+    PulseRecorder recorder;
+    recorder.start("a.txt", {"Flow"});
+    for (const int second : {0, 0, 0, 0, 1, 2, 2})
+        recorder.put(0, 1, afternoon + second);
+    recorder.stop();
+    std::vector<std::int64_t> times;
+    for (const PulsePoint& point : read("a.txt", true))
+        times.push_back(point.time - axis_time_of(afternoon));
+    EXPECT_THAT(times, ElementsAre(0, 25, 50, 75, 100, 200, 250));
+}
+
+// In the zone of Berlin the clock goes back from three to two on 25 October 2026.
+TEST_F(PulseTransfer, AClockThatIsPutBackLosesNothing) {
+    set_zone("CET-1CEST,M3.5.0,M10.5.0/3");
+    constexpr std::int64_t two_thirty = 1'792'888'200; // the first of the two
+    PulseRecorder recorder;
+    recorder.start("a.txt", {"Flow"});
+    for (int minute = 0; minute < 180; minute += 10)
+        recorder.put(0, minute, two_thirty + 60 * minute);
+    recorder.stop();
+    const auto found = read("a.txt", true);
+    ASSERT_EQ(found.size(), 18u);
+    for (std::size_t i = 1; i < found.size(); ++i) {
+        EXPECT_GE(found[i].time, found[i - 1].time);
+        EXPECT_EQ(found[i].value, found[i - 1].value + 10);
+    }
+    EXPECT_GE(found[17].time - found[0].time, 100 * 60 * 100);
+    for (std::int64_t i = 1; i < 200; ++i) // and the axis' own clock never runs back
+        EXPECT_EQ(axis_time_of(two_thirty + 60 * i) - axis_time_of(two_thirty), 6000 * i);
+}
+
+TEST_F(PulseTransfer, FilesFollowEachOtherBySizeAndDay) {
+    PulseRecorder recorder;
+    recorder.set_parts(200, false);
+    recorder.start("a.txt", {"Flow"});
+    for (int i = 0; i < 20; ++i)
+        EXPECT_TRUE(recorder.put(0, i, afternoon + i));
+    recorder.stop();
+    EXPECT_THAT(files(), testing::Contains("a_2.txt"));
+    std::size_t records = 0;
+    for (const std::string& name : files()) {
+        EXPECT_LT(fs::file_size(name), 300u);
+        records += read(name, false).size();
+    }
+    EXPECT_EQ(records, 20u);
+    recorder.set_parts(0, true);
+    recorder.start("day.txt", {"Flow"});
+    recorder.put(0, 1, afternoon);
+    recorder.put(0, 1, afternoon + 86'400);
+    EXPECT_EQ(fs::path(recorder.path()).filename(), "day-20261117.txt");
+    EXPECT_TRUE(fs::exists("day-20261116.txt"));
+}
+
+// What a disk refuses is not told by the file itself.
+TEST_F(PulseTransfer, AFileThatDoesNotGrowEndsRecording) {
+    if (!fs::exists("/dev/full"))
+        GTEST_SKIP() << "no device that is always full";
+    PulseRecorder recorder;
+    ASSERT_EQ(recorder.start("/dev/full", {"Flow"}), "");
+    int written = 0;
+    while (written < 10'000 && recorder.put(0, 1, afternoon))
+        ++written;
+    EXPECT_LT(written, 1000);
+    EXPECT_FALSE(recorder.running());
+    EXPECT_NE(recorder.error(), "");
+}
+
+TEST_F(PulseTransfer, BrokenFilesGiveWhatCanBeRead) {
+    PulseRecorder recorder;
+    recorder.start("a.txt", {"Flow", "Pressure"});
+    for (int i = 0; i < 5; ++i)
+        recorder.put(1, i, afternoon + i);
+    recorder.stop();
+    std::ifstream whole("a.txt", std::ios::binary);
+    const std::string text{std::istreambuf_iterator<char>(whole), {}};
+    for (std::size_t length = 0; length < text.size(); ++length) {
+        std::ofstream("cut.txt", std::ios::binary) << text.substr(0, length);
+        PulseReader reader;
+        if (!reader.open("cut.txt").empty())
+            continue;
+        std::size_t count = 0;
+        while (reader.read(2, [&](int curve, std::int64_t, double) { count += curve == 1; })) {
+        }
+        EXPECT_LE(count, 5u);
+    }
+    std::ofstream("odd.txt") << "1\nFlow ;\n0;1.0;14:03:59;16/11/2026;\n0;2.0;99:99:99;99/99/2026;\n"
+                                "7;3.0;14:04:00;16/11/2026;\n0;4.0;14:04:01;16/11/2026;\n";
+    EXPECT_EQ(read("odd.txt", false).size(), 2u); // an impossible date, and a curve that is not there
+}
+
+} // namespace

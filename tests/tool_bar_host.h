@@ -1,0 +1,164 @@
+// A toolbar in a host that keeps what it is told.
+#pragma once
+
+#include <zopwnt.h>
+
+#include <afxpriv.h>
+
+#include <gmock/gmock.h>
+
+#include "widget_window.h"
+
+inline constexpr COLORREF red = RGB(255, 0, 0), green = RGB(0, 255, 0), key_colour = RGB(255, 0, 255);
+
+// Owner of bars: keeps commands and notifications, and tells states.
+class ToolHost : public CWnd {
+public:
+    std::vector<UINT> commands;
+    std::vector<UINT> told;
+    int index = -1; // of the last item that was told of
+    std::function<void(UINT)> on_command = [](UINT) {};
+    std::function<void(UINT, WPARAM)> on_message = [](UINT, WPARAM) {};
+    std::function<LRESULT(WntToolNotify&)> answer = [](WntToolNotify&) { return 0; };
+    std::function<void(CCmdUI&)> state = [](CCmdUI& ui) { ui.Enable(); };
+
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        on_message(message, wParam);
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+    // Commands 100 to 199 have a handler, the first half of them one for their state, too.
+    BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override {
+        if (code == CN_UPDATE_COMMAND_UI && id >= 100 && id < 150)
+            return state(*static_cast<CCmdUI*>(extra)), TRUE;
+        if (code != CN_COMMAND || id < 100 || id >= 200)
+            return CWnd::OnCmdMsg(id, code, extra, info);
+        if (info)
+            return TRUE; // only asked whether there is one
+        commands.push_back(id);
+        on_command(id);
+        return TRUE;
+    }
+
+protected:
+    BOOL OnNotify(WPARAM, LPARAM lParam, LRESULT* result) override {
+        auto& header = *reinterpret_cast<NMHDR*>(lParam);
+        if (header.code < WNT_TOOL_DROPPING || header.code > WNT_TOOL_MOVED)
+            return FALSE;
+        told.push_back(header.code);
+        index = reinterpret_cast<WntToolNotify&>(header).index;
+        *result = answer(reinterpret_cast<WntToolNotify&>(header));
+        return TRUE;
+    }
+};
+
+// A strip of plain squares.
+inline HBITMAP strip(int size, std::initializer_list<COLORREF> colours) {
+    Picture picture(size * static_cast<int>(colours.size()), size);
+    int x = 0;
+    const HDC screen = ::GetDC(nullptr);
+    const HDC dc = ::CreateCompatibleDC(screen);
+    const HBITMAP bitmap = ::CreateCompatibleBitmap(screen, picture.width(), size);
+    const HGDIOBJ before = ::SelectObject(dc, bitmap);
+    for (const COLORREF colour : colours) {
+        const RECT square = {x, 0, x += size, size};
+        const HBRUSH brush = ::CreateSolidBrush(colour);
+        ::FillRect(dc, &square, brush);
+        ::DeleteObject(brush);
+    }
+    ::SelectObject(dc, before);
+    ::DeleteDC(dc);
+    ::ReleaseDC(nullptr, screen);
+    return bitmap;
+}
+
+class ToolBar : public testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(host_.CreateEx(WS_EX_TOPMOST, nullptr, "host", WS_POPUP, CRect(50, 50, 650, 450), nullptr, 0));
+        host_.ShowWindow(SW_SHOW);
+        ASSERT_TRUE(edit_.Create(WS_CHILD | WS_VISIBLE, CRect(0, 300, 50, 320), &host_, 50));
+        open();
+    }
+    void TearDown() override {
+        delete bar_;
+        host_.DestroyWindow();
+    }
+    void open() {
+        bar_ = new CWntToolBar;
+        ASSERT_TRUE(bar_->Create(nullptr, "", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 400, 26), &host_, 9));
+        const HBITMAP pictures = strip(16, {red, green, key_colour});
+        EXPECT_EQ(bar_->SetPictures(pictures, nullptr, key_colour), 1);
+        ::DeleteObject(pictures);
+    }
+    void script(std::initializer_list<const char*> lines) {
+        bar_->LoadLine("", 1);
+        for (const char* line : lines)
+            bar_->LoadLine(line, 0);
+        bar_->LoadLine("", 2);
+    }
+    CRect place(UINT id) {
+        CRect r;
+        bar_->GetItemRect(bar_->FindItem(id), &r);
+        return r;
+    }
+    void mouse(UINT message, CPoint at) { bar_->SendMessage(message, MK_LBUTTON, MAKELPARAM(at.x, at.y)); }
+    void click(UINT id) {
+        const CPoint at = place(id).CenterPoint();
+        mouse(WM_LBUTTONDOWN, at);
+        if (bar_)
+            mouse(WM_LBUTTONUP, at);
+    }
+    void key(UINT k, UINT message = WM_KEYDOWN) { bar_->SendMessage(message, k, 1); }
+    int checked(UINT id) {
+        CWntToolItem item;
+        EXPECT_TRUE(bar_->GetItem(bar_->FindItem(id), &item)) << id;
+        return item.check + (item.enabled ? 0 : 10);
+    }
+    UINT focused() { return focused_in(pixels_of(*bar_)); }
+    // The one whose dotted frame is seen.
+    UINT focused_in(const Pixels& now) {
+        for (const UINT id : {100u, 101u, 102u, 103u, 104u, 105u}) {
+            const CRect r = place(id);
+            if (r.IsRectEmpty())
+                continue;
+            int changes = 0;
+            for (int x = r.left + 2; x < r.right - 2; ++x)
+                changes += now.at(x, r.top + 1) != now.at(x - 1, r.top + 1);
+            if (changes > r.Width() / 2)
+                return id;
+        }
+        return 0;
+    }
+    // Opens a menu by `open`; while it is up, `seen` is given what it holds and keys are pressed.
+    void with_menu(
+        const std::function<void()>& open, std::initializer_list<UINT> keys,
+        const std::function<void(HMENU)>& seen = [](HMENU) {}) {
+        static const std::function<void(HMENU)>* watcher;
+        static bool watched;
+        watcher = &seen;
+        watched = false;
+        const HHOOK hook = ::SetWindowsHookExA(
+            WH_CALLWNDPROC,
+            [](int code, WPARAM wParam, LPARAM lParam) -> LRESULT {
+                const auto& call = *reinterpret_cast<const CWPSTRUCT*>(lParam);
+                if (code == HC_ACTION && call.message == WM_INITMENUPOPUP && !watched) {
+                    watched = true;
+                    (*watcher)(reinterpret_cast<HMENU>(call.wParam));
+                }
+                return ::CallNextHookEx(nullptr, code, wParam, lParam);
+            },
+            nullptr, ::GetCurrentThreadId());
+        for (const UINT k : keys)
+            ::PostMessageA(host_.m_hWnd, WM_KEYDOWN, k, 1);
+        open();
+        ::UnhookWindowsHookEx(hook);
+        EXPECT_TRUE(watched);
+        MSG rest;
+        while (::PeekMessageA(&rest, nullptr, WM_KEYFIRST, WM_KEYLAST, PM_REMOVE)) {
+        }
+    }
+
+    ToolHost host_;
+    CEdit edit_;
+    CWntToolBar* bar_ = nullptr;
+};

@@ -1,0 +1,288 @@
+#include "tool_bar_host.h"
+
+namespace {
+
+using testing::ElementsAre;
+
+TEST_F(ToolBar, TheKeyboardWorksIt) {
+    script({":ITEM=100,0,one", ":DISABLED=100", ":SEPARATOR", ":CHECK=101,0,two", ":ITEM=102,0,three"});
+    edit_.SetFocus();
+    MSG f6 = {edit_.m_hWnd, WM_KEYDOWN, VK_F6, 1, 0, {}};
+    EXPECT_EQ(bar_->FilterKey(&f6), 1);
+    EXPECT_EQ(::GetFocus(), bar_->m_hWnd);
+    full_repaint(*bar_);
+    EXPECT_EQ(focused(), 101u); // the first that can be used
+    CString tip;
+    bar_->GetTips()->GetWindowText(tip);
+    EXPECT_EQ(tip, "two");
+    for (const auto& [k, id] : {std::pair{VK_RIGHT, 102u},
+                                {VK_RIGHT, 101u},
+                                {VK_LEFT, 102u},
+                                {VK_HOME, 101u},
+                                {VK_END, 102u},
+                                {VK_UP, 102u}}) {
+        key(static_cast<UINT>(k));
+        bar_->UpdateWindow();
+        EXPECT_EQ(focused(), id) << k;
+    }
+    key(VK_RETURN);
+    key(VK_HOME);
+    key(VK_SPACE);
+    bar_->SendMessage(WM_KEYDOWN, VK_SPACE, 1 | (1 << 30)); // held down
+    EXPECT_THAT(host_.commands, ElementsAre(102u, 101u));
+    EXPECT_EQ(checked(101), 1);
+    key(VK_ESCAPE);
+    EXPECT_EQ(::GetFocus(), edit_.m_hWnd);
+    full_repaint(*bar_);
+    EXPECT_EQ(focused(), 0u);
+    EXPECT_EQ(bar_->GetTips()->GetShownTip(nullptr), 0);
+    bar_->SetFocus();
+    f6.hwnd = bar_->m_hWnd;
+    EXPECT_EQ(bar_->PreTranslateMessage(&f6), TRUE);
+    EXPECT_EQ(::GetFocus(), edit_.m_hWnd);
+    MSG enter = {bar_->m_hWnd, WM_KEYDOWN, VK_RETURN, 1, 0, {}}, tab = {bar_->m_hWnd, WM_KEYDOWN, VK_TAB, 1, 0, {}};
+    EXPECT_TRUE(bar_->SendMessage(WM_GETDLGCODE, VK_RETURN, reinterpret_cast<LPARAM>(&enter)) & DLGC_WANTMESSAGE);
+    EXPECT_FALSE(bar_->SendMessage(WM_GETDLGCODE, VK_TAB, reinterpret_cast<LPARAM>(&tab)) & DLGC_WANTMESSAGE);
+    bar_->EnableItem(101, 0);
+    bar_->EnableItem(102, 0);
+    EXPECT_EQ(bar_->FilterKey(&f6) + bar_->FilterKey(nullptr), 0); // nothing to go to
+}
+
+TEST_F(ToolBar, OpensMenus) {
+    script({":DROPDOWN=100,0", ":MENU=110,First", ":MENU", ":MENU=111,Second", ":SPLIT=101,0", ":MENU=112,Third"});
+    host_.state = [](CCmdUI& ui) { ui.Enable(ui.m_nID != 110); };
+    with_menu([&] { click(100); }, {VK_DOWN, VK_RETURN},
+              [](HMENU menu) {
+                  EXPECT_EQ(::GetMenuItemCount(menu), 3);
+                  EXPECT_TRUE(::GetMenuState(menu, 0, MF_BYPOSITION) & MF_GRAYED); // asked before it opens
+              });
+    EXPECT_THAT(host_.told, ElementsAre(WNT_TOOL_DROPPING));
+    CPoint on_it = place(100).CenterPoint(); // the click that closes the menu does not open it again
+    const LPARAM at = MAKELPARAM(on_it.x, on_it.y);
+    bar_->ClientToScreen(&on_it);
+    ::SetCursorPos(on_it.x, on_it.y);
+    with_menu([&] { click(100); }, {VK_ESCAPE}, [&](HMENU) { ::PostMessageA(bar_->m_hWnd, WM_LBUTTONDOWN, 0, at); });
+    MSG click_left;
+    EXPECT_FALSE(::PeekMessageA(&click_left, bar_->m_hWnd, WM_LBUTTONDOWN, WM_LBUTTONDOWN, PM_REMOVE));
+    EXPECT_EQ(host_.told.size(), 2u);
+    host_.commands.clear();
+    host_.state = [](CCmdUI& ui) { ui.Enable(); };
+    edit_.SetFocus();
+    bar_->SetFocus();
+    with_menu([&] { key(VK_DOWN, WM_SYSKEYDOWN); }, {VK_DOWN, VK_DOWN, VK_RETURN});
+    EXPECT_THAT(host_.commands, ElementsAre(111u));
+    click(101); // the part without the arrow
+    with_menu([&] { mouse(WM_LBUTTONDOWN, CPoint(place(101).right - 3, 10)); }, {VK_ESCAPE});
+    EXPECT_THAT(host_.commands, ElementsAre(111u, 101u));
+    CMenu mine;
+    mine.CreatePopupMenu();
+    mine.AppendMenu(MF_STRING, 120, "Mine");
+    host_.answer = [&](WntToolNotify& n) -> LRESULT {
+        n.menu = mine.m_hMenu;
+        return n.id == 101; // which it opens itself
+    };
+    with_menu([&] { click(100); }, {VK_DOWN, VK_RETURN});
+    EXPECT_EQ(host_.commands.back(), 120u);
+    key(VK_RIGHT);
+    key(VK_F4);
+    EXPECT_EQ(host_.commands.size(), 3u);
+    EXPECT_TRUE(::IsMenu(mine.m_hMenu));
+}
+
+TEST_F(ToolBar, WhatDoesNotFitIsBehindTheChevron) {
+    CMenu host_menu;
+    host_menu.CreatePopupMenu();
+    host_menu.AppendMenu(MF_STRING, 120, "Deep");
+    script({":ITEM=100,0", ":ITEM=101,0", ":SEPARATOR", ":CHECK=102,0,Check", ":SEPARATOR", ":ITEM=103,0,,Tip & more"});
+    CWntToolItem drop(104, "Drop", WNT_TOOL_DROPDOWN);
+    drop.menu = host_menu.m_hMenu;
+    EXPECT_EQ(bar_->AddItem(drop), 1);
+    bar_->CheckItem(102, 1);
+    host_.state = [](CCmdUI& ui) { ui.Enable(ui.m_nID != 103); };
+    const auto shown = [&] {
+        int count = 0;
+        for (int i = 0; i < bar_->GetItemCount(); ++i)
+            count += bar_->GetItemRect(i, nullptr);
+        return count;
+    };
+    EXPECT_EQ(shown(), 7);
+    bar_->MoveWindow(0, 0, 66, 26);
+    EXPECT_EQ(shown(), 2);
+    const CPoint chevron(60, 12);
+    with_menu([&] { mouse(WM_LBUTTONDOWN, chevron); }, {VK_DOWN, VK_RETURN},
+              [](HMENU menu) {
+                  EXPECT_EQ(::GetMenuItemCount(menu), 4); // no separator first
+                  char text[40];
+                  ::GetMenuStringA(menu, 2, text, sizeof text, MF_BYPOSITION);
+                  EXPECT_STREQ(text, "Tip && more"); // as a menu writes it
+                  EXPECT_TRUE(::GetMenuState(menu, 0, MF_BYPOSITION) & MF_CHECKED);
+                  EXPECT_TRUE(::GetMenuState(menu, 2, MF_BYPOSITION) & MF_GRAYED);
+                  EXPECT_TRUE(::GetSubMenu(menu, 3));
+              });
+    EXPECT_THAT(host_.commands, ElementsAre(102u));
+    EXPECT_EQ(checked(102), 0);
+    EXPECT_TRUE(::IsMenu(host_menu.m_hMenu));
+    bar_->SetFocus();
+    key(VK_END);
+    with_menu([&] { key(VK_SPACE); }, {VK_UP, VK_RIGHT, VK_RETURN});
+    EXPECT_EQ(host_.commands.back(), 120u);
+    bar_->SetWrapping(1);
+    bar_->MoveWindow(0, 0, 66, 100);
+    EXPECT_GE(shown(), 5);
+    EXPECT_GT(bar_->GetThickness(66), 2 * bar_->GetThickness(400) - 10);
+}
+
+TEST_F(ToolBar, TipsTellTheShortcut) {
+    ACCEL keys[] = {{FVIRTKEY | FCONTROL, 'S', 100}, {FVIRTKEY, VK_F5, 101}};
+    const HACCEL table = ::CreateAcceleratorTableA(keys, 2);
+    script({":ITEM=100,0,Save,Writes it down", ":ITEM=101,0,Run", ":ITEM=102,0,Plain", ":TEXT=BESIDE"});
+    bar_->SetAccelerators(table);
+    bar_->SetFocus();
+    const auto tip_at = [&](UINT k) {
+        key(k);
+        CString text;
+        bar_->GetTips()->GetWindowText(text);
+        return text;
+    };
+    EXPECT_EQ(tip_at(VK_HOME), "Save (Ctrl+S)\nWrites it down");
+    EXPECT_EQ(tip_at(VK_RIGHT), "Run (F5)");
+    EXPECT_EQ(tip_at(VK_RIGHT), ""); // the text is there to be read
+    bar_->SetAccelerators(nullptr);
+    bar_->SetTextPlace(WNT_TOOL_TEXT_NONE);
+    EXPECT_EQ(tip_at(VK_LEFT), "Run");
+    ::DestroyAcceleratorTable(table);
+}
+
+TEST_F(ToolBar, ItemsAreDraggedWhereThatIsAllowed) {
+    script({":ITEM=100,0", ":ITEM=101,0", ":ITEM=102,0"});
+    const auto drag = [&](UINT id, CPoint to) {
+        mouse(WM_LBUTTONDOWN, place(id).CenterPoint());
+        mouse(WM_MOUSEMOVE, place(id).CenterPoint() + CPoint(9, 0));
+        mouse(WM_MOUSEMOVE, to);
+    };
+    const auto order = [&] {
+        std::vector<UINT> ids;
+        CWntToolItem item;
+        for (int i = 0; bar_->GetItem(i, &item); ++i)
+            ids.push_back(item.id);
+        return ids;
+    };
+    drag(100, CPoint(390, 10));
+    mouse(WM_LBUTTONUP, CPoint(390, 10));
+    EXPECT_THAT(order(), ElementsAre(100u, 101u, 102u)); // off unless set
+    bar_->SetDragging(1);
+    edit_.SetFocus();
+    full_repaint(*bar_);
+    const Pixels before = pixels_of(*bar_);
+    drag(100, CPoint(390, 10));
+    bar_->UpdateWindow();
+    EXPECT_NE(pixels_of(*bar_), before); // a mark shows where it would go
+    EXPECT_EQ(::GetFocus(), bar_->m_hWnd);
+    key(VK_ESCAPE);
+    bar_->UpdateWindow();
+    bar_->SendMessage(WM_MOUSELEAVE);
+    bar_->UpdateWindow();
+    EXPECT_EQ(pixels_of(*bar_), before);
+    EXPECT_EQ(::GetFocus(), edit_.m_hWnd);
+    mouse(WM_LBUTTONUP, CPoint(390, 10));
+    EXPECT_TRUE(host_.told.empty());
+    host_.answer = [](WntToolNotify& n) -> LRESULT { return n.hdr.code == WNT_TOOL_MOVING && n.id == 102; };
+    drag(100, CPoint(390, 10));
+    mouse(WM_LBUTTONUP, CPoint(390, 10));
+    EXPECT_THAT(order(), ElementsAre(101u, 102u, 100u));
+    EXPECT_THAT(host_.told, ElementsAre(WNT_TOOL_MOVING, WNT_TOOL_MOVED));
+    EXPECT_EQ(host_.index, 2); // where it is now
+    drag(102, CPoint(0, 10));  // refused
+    mouse(WM_LBUTTONUP, CPoint(0, 10));
+    EXPECT_THAT(order(), ElementsAre(101u, 102u, 100u));
+    EXPECT_TRUE(host_.commands.empty());
+    click(100);
+    EXPECT_THAT(host_.commands, ElementsAre(100u));
+
+    char folder[MAX_PATH];
+    ::GetTempPathA(sizeof folder, folder);
+    const CString file = CString(folder) + "tool_bar_test.ini";
+    ::DeleteFileA(file);
+    EXPECT_EQ(bar_->RestoreOrder(file, "main") + bar_->StoreOrder(nullptr, "main") + bar_->StoreOrder(file, ""), 0);
+    EXPECT_EQ(bar_->StoreOrder(file, "main"), 1);
+    script({":ITEM=100,0", ":ITEM=101,0", ":ITEM=102,0"});
+    EXPECT_EQ(bar_->RestoreOrder(file, "main"), 1);
+    EXPECT_THAT(order(), ElementsAre(101u, 102u, 100u));
+    EXPECT_LT(place(101).left, place(102).left);
+    ::DeleteFileA(file);
+}
+
+TEST_F(ToolBar, MayBeDestroyedByAnythingItTells) {
+    const auto end_bar = [&] { delete std::exchange(bar_, nullptr); };
+    const std::function<void()> ways[] = {
+        [&] {
+            host_.on_command = [&](UINT) { end_bar(); };
+            click(100);
+        },
+        [&] {
+            host_.on_command = [&](UINT) { end_bar(); };
+            bar_->SetFocus();
+            key(VK_SPACE);
+        },
+        [&] {
+            host_.answer = [&](WntToolNotify& n) -> LRESULT {
+                return n.hdr.code == WNT_TOOL_DROPPING ? end_bar(), 0 : 0;
+            };
+            click(101);
+        },
+        [&] {
+            host_.state = [&](CCmdUI&) { end_bar(); };
+            bar_->UpdateItems();
+        },
+        [&] {
+            host_.state = [&](CCmdUI& ui) {
+                if (ui.m_pMenu)
+                    end_bar();
+            };
+            click(101);
+        },
+        [&] {
+            host_.on_command = [&](UINT id) {
+                if (id == 110)
+                    end_bar();
+            };
+            with_menu([&] { click(101); }, {VK_DOWN, VK_RETURN});
+        },
+        [&] { with_menu([&] { click(101); }, {VK_ESCAPE}, [&](HMENU) { end_bar(); }); },
+        [&] {
+            bar_->MoveWindow(0, 0, 20, 26);
+            with_menu([&] { mouse(WM_LBUTTONDOWN, CPoint(12, 12)); }, {VK_ESCAPE}, [&](HMENU) { end_bar(); });
+        },
+        [&] { // by the end of an input that the bar's focus ends
+            edit_.SetFocus();
+            host_.on_message = [&](UINT message, WPARAM w) {
+                if (message == WM_COMMAND && HIWORD(w) == EN_KILLFOCUS)
+                    end_bar();
+            };
+            MSG f6 = {edit_.m_hWnd, WM_KEYDOWN, VK_F6, 1, 0, {}};
+            bar_->FilterKey(&f6);
+        },
+        [&] {
+            bar_->SetDragging(1);
+            host_.answer = [&](WntToolNotify&) -> LRESULT { return end_bar(), 0; };
+            mouse(WM_LBUTTONDOWN, place(100).CenterPoint());
+            mouse(WM_MOUSEMOVE, CPoint(390, 10));
+            mouse(WM_LBUTTONUP, CPoint(390, 10));
+        },
+    };
+    int way = 0;
+    for (const auto& destroy : ways) {
+        end_bar();
+        host_.on_command = [](UINT) {};
+        host_.on_message = [](UINT, WPARAM) {};
+        host_.answer = [](WntToolNotify&) { return 0; };
+        host_.state = [](CCmdUI& ui) { ui.Enable(); };
+        open();
+        script({":ITEM=100,0", ":DROPDOWN=101,0", ":MENU=110,Entry"});
+        destroy();
+        EXPECT_FALSE(bar_) << way;
+        ++way;
+    }
+}
+
+} // namespace
