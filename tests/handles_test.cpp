@@ -116,6 +116,20 @@ Kind with_tip() {
     return made;
 }
 
+Kind chart() {
+    Kind made = kind<CWntPulse>("strip chart");
+    made.prepare = [](CWnd& widget) {
+        auto& shown = static_cast<CWntPulse&>(widget);
+        shown.SetTitle("Boiler");
+        const int curve = shown.AddCurve("Flow", RGB(200, 0, 0), 0, 10);
+        for (int i = 0; i < 100; ++i)
+            shown.AddSample(curve, i % 10, i * 10);
+        shown.SetCursor(0, 500);
+        shown.SendMessage(WM_TIMER, 1, 0);
+    };
+    return made;
+}
+
 std::vector<Kind> all_kinds() {
     return {kind<CWntOut>("surface"),
             kind<CWntButton>("button"),
@@ -133,6 +147,7 @@ std::vector<Kind> all_kinds() {
             kind<CWntTrace>("trace"),
             sash(),
             frame(),
+            chart(),
             kind<CWntFrameEx>("folding frame"),
             tabs(),
             kind<CWntTipPage>("tip page"),
