@@ -7,6 +7,7 @@
 #include <limits>
 #include <random>
 
+#include "modal.h"
 #include "temporary_file.h"
 #include "widget_window.h"
 
@@ -245,6 +246,31 @@ TEST_F(Pulse, TheLegendHidesCurves) {
     show();
     EXPECT_LT(extent(blue).second, 0);
     EXPECT_GE(extent(red).second, 0);
+}
+
+TEST_F(Pulse, TakesAColourFromThePalette) {
+    feed(0, 6000);
+    bool clicked = false;
+    const WhileModal modal([&] {
+        const HWND dialog = shown_dialog();
+        const HWND surface = dialog ? ::GetDlgItem(::GetDlgItem(dialog, 100), 100) : nullptr;
+        if (!surface || clicked)
+            return clicked;
+        RECT area;
+        ::GetClientRect(surface, &area);
+        POINT at = {area.right * 13 / 16, area.bottom / 2}; // the seventh of eight: red
+        const LPARAM place = MAKELPARAM(at.x, at.y);
+        ::ClientToScreen(surface, &at);
+        ::SetCursorPos(at.x, at.y);
+        clicked = true;
+        ::SendMessageA(surface, WM_LBUTTONUP, 0, place);
+        return true;
+    });
+    chart_.SendMessage(WM_COMMAND, WNT_PULSE_CMD_CURVE + static_cast<UINT>(level_));
+    EXPECT_TRUE(clicked);
+    show();
+    EXPECT_LT(extent(blue).second, 0);
+    EXPECT_GE(extent(RGB(255, 0, 0)).second, 0);
 }
 
 TEST_F(Pulse, FitsInSteps) {

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 #include "screen_scale.h"
@@ -21,6 +22,11 @@ constexpr UINT tick_milliseconds = 33; // a picture at most so often
 constexpr int least_grid_distance = 50;
 constexpr int title_pixels = 14, text_pixels = 12; // of the characters at 96 dots an inch
 constexpr int scroll_steps = 1000;
+
+float float_of(double value) {
+    constexpr double limit = std::numeric_limits<float>::max();
+    return static_cast<float>(std::clamp(value, -limit, limit));
+}
 
 COLORREF swapped(std::uint32_t colour) {
     return (colour & 0xFF) << 16 | (colour & 0xFF00) | (colour >> 16 & 0xFF);
@@ -104,7 +110,8 @@ void CWntPulse::leave() {
 void CWntPulse::OnDestroy() {
     tip_.DestroyWindow();
     state_->drag = State::Drag::none;
-    state_->stale = state_->ticking = false;
+    state_->stale = state_->ticking = state_->reading = state_->tip_shown = false;
+    state_->reader = PulseReader();
     CWnd::OnDestroy();
 }
 
@@ -506,12 +513,13 @@ void CWntPulse::update_axes() {
         if (curve == ranges.end() || !axis.IsWindowVisible())
             return;
         const ValueScale& scale = state_->scales[static_cast<std::size_t>(curve - ranges.begin())];
+        const float least = float_of(scale.low), greatest = float_of(scale.high);
         float low = 0, high = 0;
         axis.ScreenToValue(state_->plot().height(), &low);
         axis.ScreenToValue(0, &high);
-        if (low == static_cast<float>(scale.low) && high == static_cast<float>(scale.high))
+        if (low == least && high == greatest)
             return;
-        axis.SetRange(static_cast<float>(scale.low), static_cast<float>(scale.high));
+        axis.SetRange(least, greatest);
         axis.Invalidate(FALSE);
     };
     show(left_, 0);

@@ -25,6 +25,7 @@ ON_WM_PAINT()
 ON_WM_TIMER()
 ON_WM_SETTINGCHANGE()
 ON_WM_LBUTTONDOWN()
+ON_WM_LBUTTONDBLCLK()
 ON_WM_LBUTTONUP()
 ON_WM_MOUSEMOVE()
 ON_WM_CAPTURECHANGED()
@@ -64,6 +65,10 @@ void CWntPulse::OnLButtonDown(UINT flags, CPoint point) {
     s.drag_origin = s.view.origin();
     s.dragged = false;
     SetCapture();
+}
+
+void CWntPulse::OnLButtonDblClk(UINT flags, CPoint point) {
+    OnLButtonDown(flags, point);
 }
 
 void CWntPulse::OnMouseMove(UINT, CPoint point) {

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "out/hardcopy.h"
+#include "script/colours.h"
 #include "widgets/colour_selector/wnt_color_sel.h"
 #include "widgets/painting/memory_bitmap.h"
 #include "widgets/painting/surface_owner.h"
@@ -69,8 +70,8 @@ protected:
         const auto* const told = reinterpret_cast<NMHDR*>(lParam);
         if (told->hwndFrom != selector_.m_hWnd || told->code != 1)
             return CDialog::OnNotify(wParam, lParam, result);
-        if (selector_.GetSelectedColorID() >= 0) {
-            colour = selector_.GetSelectedColor();
+        if (const int picked = selector_.GetSelectedColorID(); 0 <= picked && picked < colour_count) {
+            colour = colour_values[picked];
             EndDialog(IDOK);
         }
         return TRUE;
@@ -121,7 +122,7 @@ const char* CWntPulse::GetRecordingError() const {
 }
 
 int CWntPulse::OpenFile(const char* path, int spread) {
-    if (!this || !path)
+    if (!this || !path || !m_hWnd)
         return 0;
     State& s = *state_;
     PulseReader reader;
@@ -141,8 +142,7 @@ int CWntPulse::OpenFile(const char* path, int spread) {
     RemoveSamples();
     s.chart.fit = true;
     s.reading = true;
-    if (m_hWnd)
-        SetTimer(pulse_read_timer, 1, nullptr);
+    SetTimer(pulse_read_timer, 1, nullptr);
     return 1;
 }
 

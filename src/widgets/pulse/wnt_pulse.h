@@ -139,8 +139,9 @@ public:
     int SetRecordingParts(__int64 bytes, int daily);
     /// Of the last time; empty without. Belongs to the chart.
     const char* GetRecordingError() const;
-    /// Replaces the samples, and the curves' titles, by those of a file, in pieces, while the window stays alive:
-    /// Escape cancels, keeping what was read. spread: samples of a second lie evenly in it.
+    /// Replaces the samples, and the curves' titles, by those of a file, in pieces, while the window, without which
+    /// nothing is read, stays alive: Escape cancels, keeping what was read. spread: samples of a second lie evenly in
+    /// it.
     int OpenFile(const char* path, int spread);
     int IsReading() const;
 
@@ -160,6 +161,7 @@ protected:
     afx_msg void OnTimer(UINT_PTR timer);
     afx_msg void OnSettingChange(UINT flags, LPCTSTR section);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnCaptureChanged(CWnd* other);
