@@ -556,6 +556,20 @@ TEST_F(Tabs, MayBeDestroyedOnAnyNotification) {
         }
 }
 
+TEST_F(Tabs, MayBeDestroyedWhenTheyTakeTheFocus) {
+    auto* tabs = new CWntTabs;
+    CButton pages[3];
+    open(*tabs, pages, 280);
+    const HWND window = ::GetWindow(tabs->m_hWnd, GW_CHILD);
+    host_.SetFocus();
+    host_.on_message = [&](UINT message) {
+        if (message == WM_KILLFOCUS)
+            delete std::exchange(tabs, nullptr);
+    };
+    ::SendMessageA(window, WM_LBUTTONDOWN, 0, MAKELPARAM(20, 12));
+    EXPECT_FALSE(tabs || ::IsWindow(window));
+}
+
 TEST_F(Tabs, PassOnWhatTheirPagesTellAndFollowScripts) {
     pages_[0].SendMessage(BM_CLICK);
     EXPECT_THAT(host_.commands, ElementsAre(11u));

@@ -196,8 +196,11 @@ void TabsStrip::end_press() {
 
 void TabsStrip::OnLButtonDown(UINT, CPoint point) {
     end_press();
+    const HWND self = m_hWnd;
     if (GetStyle() & WS_TABSTOP)
         SetFocus();
+    if (!::IsWindow(self) || CWnd::FromHandlePermanent(self) != this)
+        return; // who lost the focus destroyed it
     const TabsPoint at = hit(point);
     if (at.part == TabsPoint::nothing)
         return;
