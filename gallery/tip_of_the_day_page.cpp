@@ -22,7 +22,7 @@ CString TipsFile() {
 class CTipOfTheDayPage : public CGalleryPage {
 public:
     const char* Title() const override { return "Tip of the day"; }
-    const char* Name() const override { return "tips"; }
+    const char* Name() const override { return "tip-of-the-day"; }
     void Settle() override { long_.ShowTip(1); }
 
 protected:

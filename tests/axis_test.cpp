@@ -252,11 +252,15 @@ TEST_F(AxisTest, LosingTheMouseEndsTheDrag) {
     axis_.SendMessage(WM_COMMAND, 100);
     mouse(WM_MOUSEMOVE, 297, 55); // the far grip
     mouse(WM_LBUTTONDOWN, 297, 55, MK_LBUTTON);
+    mouse(WM_MOUSEMOVE, 250, 55, MK_LBUTTON);
+    mouse(WM_LBUTTONUP, 250, 55);
+    mouse(WM_MOUSEMOVE, 150, 55);
+    mouse(WM_LBUTTONDOWN, 150, 55, MK_LBUTTON);
     host_.SetCapture();
     ::ReleaseCapture();
     full_repaint(axis_);
     const Pixels before = pixels_of(axis_);
-    mouse(WM_MOUSEMOVE, 200, 55, MK_LBUTTON); // the button is still down
+    mouse(WM_MOUSEMOVE, 180, 55, MK_LBUTTON); // the button is still down
     full_repaint(axis_);
     EXPECT_EQ(pixels_of(axis_), before);
     mouse(WM_MOUSEMOVE, 200, 55);

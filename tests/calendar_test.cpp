@@ -116,6 +116,11 @@ TEST_F(CalendarTest, ShowsTheDateThatIsSet) {
     calendar_.UpdateWindow();
     expect_shown(set);
     EXPECT_EQ(calendar_.GetShownDate().GetTime(), noon.GetTime());
+    const Days early = Days(std::chrono::year(2005) / 5 / 2); // of the year "05"
+    EXPECT_TRUE(calendar_.SetShownDate(CTime((early.time_since_epoch().count() * 24 + 12) * 3600)));
+    calendar_.UpdateWindow();
+    expect_shown(early);
+    EXPECT_TRUE(calendar_.SetShownDate(noon));
     EXPECT_FALSE(calendar_.SetShownDate(CTime(-1)) || calendar_.SetShownDate(CTime(LLONG_MAX)) ||
                  CWntCalendar().SetShownDate(noon));
     EXPECT_EQ(calendar_.GetShownDate().GetTime(), noon.GetTime());

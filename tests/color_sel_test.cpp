@@ -179,6 +179,7 @@ TEST_F(ColorSelTest, ItemsTakeThePickedColour) {
     EXPECT_STREQ(first, "apple");
     names_list.SendMessage(LB_SETCURSEL, 1); // "cherry" after sorting, but the second item
     selector_.SendMessage(WM_COMMAND, MAKEWPARAM(list_id, LBN_DBLCLK), 0);
+    EXPECT_EQ(colours[1], 4); // the sample shows the item's own
     full_repaint(selector_);
     EXPECT_EQ(colours[1], 0); // it is the selected one that the paint wrote into
     colours[1] = 4;

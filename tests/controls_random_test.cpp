@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
 #include <random>
 
 #include "widget_window.h"
@@ -170,6 +171,100 @@ TEST_F(ControlsAtRandom, FoldingFrame) {
         const CRect content = frame.GetContentRect();
         ASSERT_TRUE(content.Width() >= 0 && content.Height() >= 0);
     }
+}
+
+TEST_F(ControlsAtRandom, Tabs) {
+    CWntTabs tabs;
+    open(tabs, 300, 200);
+    std::vector<std::unique_ptr<CButton>> pages(12);
+    const char* lines[] = {":TAB=one more", ":TIP=a tip",       ":CLOSE=1",    ":DISABLED=1",    ":SIDE=LEFT",
+                           ":SIDE=TOP",     ":OVERFLOW=SCROLL", ":SIDE=RIGHT", ":OVERFLOW=MENU", ":CLRBACK=RED"};
+    const char* texts[] = {"", "&One", "a much longer text than that", "T&&o", nullptr};
+    host_.on_message = [&](UINT message) {
+        if (message == WM_NOTIFY && some(3) == 0)
+            tabs.RemoveTab(some(20));
+    };
+    for (int i = 0; i < 1000; ++i) {
+        auto& page = pages[static_cast<std::size_t>(some(11))];
+        const int tab = some(25) - 1;
+        switch (some(13)) {
+        case 0:
+            page = std::make_unique<CButton>();
+            page->Create("p", WS_CHILD | (some(1) ? WS_VISIBLE : 0), CRect(0, 0, 9, 9), &tabs, 4);
+            break;
+        case 1:
+            page.reset();
+            break;
+        case 2:
+        case 3:
+            tabs.InsertTab(tab, texts[some(4)], some(1) ? page.get() : nullptr);
+            break;
+        case 4:
+            tabs.RemoveTab(tab);
+            break;
+        case 5:
+            tabs.SetPage(tab, page.get());
+            break;
+        case 6:
+            tabs.Select(tab);
+            tabs.ShowTab(some(20));
+            break;
+        case 7:
+            tabs.MoveTab(tab, some(20));
+            tabs.SetMovable(some(1));
+            break;
+        case 8:
+            tabs.LoadLine("", some(2) ? 0 : 1);
+            tabs.LoadLine(lines[some(9)], 0);
+            tabs.LoadLine("", 2);
+            break;
+        case 9:
+            tabs.EnableTab(tab, some(1));
+            tabs.SetClosable(some(20), some(1));
+            tabs.SetTabIcon(some(20), some(1) ? ::LoadIconA(nullptr, IDI_WARNING) : nullptr);
+            break;
+        case 10:
+            while (some(20) && tabs.GetTabCount() < 200)
+                tabs.AddTab("many", nullptr);
+            break;
+        case 11:
+            resize_or_paint(tabs);
+            break;
+        default:
+            input(*tabs.GetWindow(GW_CHILD));
+        }
+        ASSERT_LT(tabs.GetSelected(), tabs.GetTabCount());
+        for (const auto& each : pages) {
+            const int at = tabs.FindPage(each.get());
+            ASSERT_TRUE(at < 0 || ((each->GetStyle() & WS_VISIBLE) != 0) == (at == tabs.GetSelected()));
+        }
+    }
+}
+
+TEST_F(ControlsAtRandom, TipPage) {
+    CWntTipPage page;
+    open(page, 300, 200);
+    std::ofstream("random_tips.txt") << "one\n\n" << std::string(8'000, 't') << "\n\nthree\n four\n";
+    for (int i = 0; i < 1000; ++i) {
+        switch (some(4)) {
+        case 0:
+            page.LoadTips(some(3) ? "random_tips.txt" : "no file");
+            break;
+        case 1:
+            page.ShowTip(some(6) - 2);
+            break;
+        case 2:
+            page.GetDlgItem(2 + some(2))->SendMessage(BM_CLICK);
+            break;
+        case 3:
+            page.EnableWindow(some(1));
+            break;
+        default:
+            resize_or_paint(page);
+        }
+        ASSERT_LT(page.GetTip(), std::max(page.GetTipCount(), 1));
+    }
+    std::remove("random_tips.txt");
 }
 
 TEST_F(ControlsAtRandom, ToolBar) {

@@ -70,6 +70,13 @@ TEST(AxisGrid, ChoosesNiceSteps) {
     }
 }
 
+TEST(AxisGrid, RoundingMissesNoLabelledLine) {
+    for (const float value : {2.0f, 1.9999f, 2.0001f, -3.9999f})
+        EXPECT_TRUE(is_scale_line(value, 0.4f)) << value;
+    for (const float value : {1.9f, 2.1f, 1.6f})
+        EXPECT_FALSE(is_scale_line(value, 0.4f)) << value;
+}
+
 TEST(AxisGrid, UnanswerableRangesKeepTheStep) {
     const float ranges[][3] = {{5, 5, 300},      {100, 0, 300},          {0, INFINITY, 300},
                                {NAN, 10, 300},   {-3e38f, 3e38f, 300},   {-INFINITY, INFINITY, 300},
@@ -276,6 +283,19 @@ TEST(AxisTime, DayCountAndSplit) {
                         ElementsAre(testing::AllOf(testing::Ge(14), testing::Le(16)), month, year - 1900, 1, 2, 3, 4));
 }
 
+TEST(AxisTime, RecordsAreRoundedDown) {
+    const auto fields = [](TimeRounding rounding) {
+        const TAxisdatetime r = rounded_down({6, 7, 126, 8, 9, 10, 11}, rounding);
+        return std::vector{r.month, r.day, r.hour, r.minute, r.second, r.hundredths};
+    };
+    EXPECT_EQ(fields(TimeRounding::none), (std::vector{7, 6, 8, 9, 10, 11}));
+    EXPECT_EQ(fields(TimeRounding::minute), (std::vector{7, 6, 8, 9, 0, 0}));
+    EXPECT_EQ(fields(TimeRounding::hour), (std::vector{7, 6, 8, 0, 0, 0}));
+    EXPECT_EQ(fields(TimeRounding::day), (std::vector{7, 6, 0, 0, 0, 0}));
+    EXPECT_EQ(fields(TimeRounding::month), (std::vector{7, 0, 0, 0, 0, 0}));
+    EXPECT_EQ(fields(TimeRounding::year), (std::vector{0, 0, 0, 0, 0, 0}));
+}
+
 TEST(AxisTime, LevelFollowsTheSpan) {
     const std::pair<std::int64_t, int> cases[] = {
         {401 * day, 12}, {400 * day, 11},   {201 * day, 11}, {200 * day, 10}, {91 * day, 10},    {90 * day, 9},
@@ -317,6 +337,8 @@ TEST(AxisTime, TicksEqualAWalkFromTheOrigin) {
 }
 
 TEST(AxisLabels, AreTrimmedAndBounded) {
+    EXPECT_EQ(numeric_label(0.0625f) + " " + numeric_label(1.0625f) + " " + numeric_label(10.0625f),
+              "0.0625 1.062 10.06");
     const std::pair<float, const char*> numbers[] = {{100, "100"}, {-0.5f, "-0.5"}, {5, "5"},      {0.25f, "0.25"},
                                                      {0, "0"},     {12.3f, "12.3"}, {1000, "1000"}};
     for (const auto& [value, text] : numbers)

@@ -124,6 +124,9 @@ TEST(FrameModel, LaysOutBorderTitleAndContentAtAnySize) {
     FrameModel m;
     m.load_line(":BORDERHEIGHT=2");
     EXPECT_EQ(frame_layout(m, 100, 60, 150, 20).content, (PixelRect{3, 3, 97, 57}));
+    m.load_line(":BORDERHEIGHT=1");
+    EXPECT_EQ(frame_layout(m, 100, 60, 150, 20).border, 2); // rounded
+    m.load_line(":BORDERHEIGHT=2");
     m.load_line(":BORDERSTYLE=LEFT BOTTOM");
     EXPECT_EQ(frame_layout(m, 100, 60, 100, 20).content, (PixelRect{2, 0, 100, 58}));
     m.load_line(":TITLE=Boiler");

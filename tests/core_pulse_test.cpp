@@ -94,6 +94,8 @@ TEST_F(PulseFile, BoundsEveryHeader) {
                  {"99999999999\n", 6, 0, ""},
                  {"-1\nA ;\n", 7, 0, ""},
                  {"1\n", 6, 1, ""},
+                 {"10\nA ;\nB ;\nC ;\nD ;\nE ;\nF ;\nG ;\nH ;\nI ;\nJ ;\n", 0, 10, "A "},
+                 {"11\nA ;\nB ;\nC ;\nD ;\nE ;\nF ;\nG ;\nH ;\nI ;\nJ ;\nK ;\n", 7, 0, ""},
                  {"1\nFlow left", 6, 1, "Flow left "},
                  {"1 Flow\n;", 0, 1, "Flow "},
                  {"1\n" + word + " ;\n", 0, 1, word},

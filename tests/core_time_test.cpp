@@ -45,6 +45,7 @@ void check_days(const char* zone, double offset, int first_year, int last_year, 
                 ASSERT_EQ(moment.GetJulianDay(), expected) << zone << ' ' << int{y} << ' ' << day << ' ' << hour;
                 ASSERT_EQ(moment.GetCalendarWeek(day), expected / 7 - behind) << zone << ' ' << int{y} << ' ' << day;
                 ASSERT_EQ(weekday(start + days(moment.GetFirstWeekend() - 1)), Saturday) << zone << ' ' << int{y};
+                ASSERT_TRUE(1 <= moment.GetFirstWeekend() && moment.GetFirstWeekend() <= 7) << int{y};
             }
         }
     }

@@ -1,6 +1,9 @@
+#include "controls/text_lines.h"
 #include "controls/tip_file.h"
 
 #include <gmock/gmock.h>
+
+#include <algorithm>
 
 using namespace wnt;
 using testing::ElementsAre;
@@ -74,6 +77,40 @@ TEST(TipFile, KeepsItsBounds) {
     const TipFile cut = parse_tip_file(huge);
     EXPECT_TRUE(cut.utf8) << "the last character is not whole for the cut alone";
     EXPECT_EQ(cut.tips.size(), 2u);
+}
+
+// Every character 2 wide, but for the dots, which are 1.
+std::wstring broken(std::wstring_view text, int width, int& lines) {
+    std::vector<int> right;
+    int at = 0;
+    for (const wchar_t c : text)
+        right.push_back(at += c == L'.' ? 1 : 2);
+    return break_lines(text, right, width, lines);
+}
+
+TEST(TextLines, BreaksAtBlanksAndWithinLongWords) {
+    const struct {
+        const wchar_t* text;
+        int width;
+        const wchar_t* result;
+    } cases[] = {
+        {L"", 10, L""},
+        {L"one two", 14, L"one two"},
+        {L"one two", 13, L"one\r\ntwo"},
+        {L"one two", 6, L"one\r\ntwo"},
+        {L"one.. two", 8, L"one..\r\ntwo"},
+        {L"one\ntwo three", 10, L"one\r\ntwo\r\nthree"},
+        {L"wonderful day", 8, L"wond\r\nerfu\r\nl\r\nday"},
+        {L"\n\na\n", 8, L"\r\n\r\na\r\n"},
+        {L"ab", 0, L"a\r\nb"},
+        {L"a b", -5, L"a\r\nb"},
+    };
+    for (const auto& c : cases) {
+        int lines = 0;
+        const std::wstring result = broken(c.text, c.width, lines);
+        EXPECT_EQ(result, c.result) << c.width;
+        EXPECT_EQ(lines, std::count(result.begin(), result.end(), L'\r') + 1);
+    }
 }
 
 } // namespace

@@ -233,6 +233,37 @@ TEST(GaugeViews, PercentagesAreRounded) {
         EXPECT_TRUE(writes(Scene(model_of(gauge_percent_bar, {":MAXVAL=3", value}), 300, 80), text)) << text;
 }
 
+// The size follows from the widest number of the range.
+TEST(GaugeViews, ReadoutsKeepTheirSizeWhileTheValueMoves) {
+    for (const int type : {gauge_thermometer, gauge_analog, gauge_turn_knob}) {
+        std::vector<int> sizes;
+        for (const int value : {7, -1'000'000}) {
+            GaugeModel model = model_of(type, {":MINVAL=-1000000", ":MAXVAL=9"});
+            model.set_current_value(value);
+            const Scene scene(model, 160, 160);
+            for (const auto& f : scene.value.figures())
+                if (f.kind == Picture::Kind::text && scene.value.characters(f) == std::to_string(value))
+                    sizes.push_back(f.tenths);
+        }
+        ASSERT_EQ(sizes.size(), 2u) << type;
+        EXPECT_EQ(sizes[0], sizes[1]) << type;
+    }
+}
+
+TEST(GaugeViews, EndsOfADigitalScaleStandAtTheirEnds) {
+    const Scene scene(zoned(gauge_digital, 10), stage, stage);
+    float left = 1e9f, right = -1e9f;
+    for (const Picture* picture : {&scene.face, &scene.value})
+        for (const auto& f : picture->figures()) {
+            if (f.kind == Picture::Kind::text && picture->characters(f) == "0")
+                left = f.bounds.left;
+            if (f.kind == Picture::Kind::text && picture->characters(f) == "200")
+                right = f.bounds.left;
+        }
+    EXPECT_LT(left, right);
+    EXPECT_EQ((std::vector{brightness(red), brightness(green), brightness(blue)}), (std::vector{76, 150, 27}));
+}
+
 TEST(GaugeViews, ReadoutsStandInTheirPlates) {
     for (const int type : {gauge_thermometer, gauge_analog, gauge_peak_line, gauge_turn_knob}) {
         const Scene scene(zoned(type, 137), stage, stage);

@@ -81,6 +81,24 @@ TEST(Bitmaps, ShowAndSaveEveryKindOfFile) {
     }
 }
 
+TEST(DibFile, IsReadFromWhereAFileStands) {
+    const BitmapFile file{24, 5, 3};
+    Bytes bytes(77, 0xEE);
+    const Bytes picture = file.bytes();
+    bytes.insert(bytes.end(), picture.begin(), picture.end());
+    const TemporaryFile disk(bytes);
+    const HANDLE open = ::CreateFileA(disk.name(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    ASSERT_EQ(::SetFilePointer(open, 77, nullptr, FILE_BEGIN), 77u);
+    CDibFile dib;
+    EXPECT_EQ(dib.StreamIn(open), 1);
+    ::CloseHandle(open);
+    const TemporaryFile whole(picture);
+    CDibFile expected;
+    ASSERT_EQ(expected.Load(whole.name()), 1);
+    const std::size_t count = 5 * 3 * 3;
+    EXPECT_EQ(bits_of(dib, count), bits_of(expected, count));
+}
+
 TEST(DibFile, TellsWhatFailed) {
     CDibFile dib;
     EXPECT_EQ(dib.Load(nullptr) + dib.Load("no such file.bmp") + dib.GetLastError(), 0);

@@ -42,6 +42,8 @@ TEST_F(FrameExTest, ScrollsWhatDoesNotFit) {
     EXPECT_EQ(bars(), 1);
     EXPECT_EQ(frame_.SetContentSize(190, 400), 1); // the first bar leaves no room for this width
     EXPECT_EQ(bars(), 2);
+    frame_.SetContentSize(300, on_screen(*frame_.GetContent()).Height() + ::GetSystemMetrics(SM_CYHSCROLL));
+    EXPECT_EQ(bars(), 2); // the bar below takes room that the height would just have had
     frame_.SetContentSize(150, 400);
     const int top = on_screen(child_).top;
     frame_.ShowContent(CRect(10, 300, 110, 320));

@@ -70,6 +70,22 @@ Kind frame() {
     return made;
 }
 
+Kind tabs() {
+    Kind made = kind<CWntTabs>("tabs");
+    made.prepare = [](CWnd& widget) {
+        auto& shown = static_cast<CWntTabs&>(widget);
+        for (const int side : {CWntTabs::at_left, CWntTabs::at_top}) {
+            shown.AddTab("&one", plain_child(widget));
+            shown.SetTabIcon(shown.GetTabCount() - 1, ::LoadIconA(nullptr, IDI_WARNING));
+            shown.SetTabTip(shown.GetTabCount() - 1, "a tip");
+            shown.SetSide(side);
+            full_repaint(widget);
+        }
+        shown.EnableTab(1, 0);
+    };
+    return made;
+}
+
 Kind tool_bar() {
     Kind made = kind<CWntToolBar>("toolbar");
     made.looks = 2;
@@ -100,6 +116,20 @@ Kind with_tip() {
     return made;
 }
 
+Kind chart() {
+    Kind made = kind<CWntPulse>("strip chart");
+    made.prepare = [](CWnd& widget) {
+        auto& shown = static_cast<CWntPulse&>(widget);
+        shown.SetTitle("Boiler");
+        const int curve = shown.AddCurve("Flow", RGB(200, 0, 0), 0, 10);
+        for (int i = 0; i < 100; ++i)
+            shown.AddSample(curve, i % 10, i * 10);
+        shown.SetCursor(0, 500);
+        shown.SendMessage(WM_TIMER, 1, 0);
+    };
+    return made;
+}
+
 std::vector<Kind> all_kinds() {
     return {kind<CWntOut>("surface"),
             kind<CWntButton>("button"),
@@ -117,7 +147,10 @@ std::vector<Kind> all_kinds() {
             kind<CWntTrace>("trace"),
             sash(),
             frame(),
+            chart(),
             kind<CWntFrameEx>("folding frame"),
+            tabs(),
+            kind<CWntTipPage>("tip page"),
             tool_bar(),
             with_tip()};
 }

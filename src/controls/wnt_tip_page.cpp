@@ -1,9 +1,11 @@
 #include "controls/wnt_tip_page.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "controls/control_font.h"
 #include "controls/profile_section.h"
+#include "controls/text_lines.h"
 #include "controls/tip_file.h"
 #include "screen_scale.h"
 #include "script_on_disk.h"
@@ -16,6 +18,7 @@ constexpr UINT text_id = 1, start_id = 2, previous_id = 3, next_id = 4;
 constexpr int margin = 10; // pixels at 96 dots an inch
 constexpr int band = 56;
 constexpr int heading_percent = 130;
+constexpr int narrowest = 80; // pixels, of the text
 constexpr wchar_t no_file[] = L"The file with the tips cannot be opened.";
 constexpr wchar_t no_tips[] = L"There are no tips in the file.";
 
@@ -34,6 +37,27 @@ std::wstring wide(const std::string& text, UINT code_page) {
                         L'\0');
     ::MultiByteToWideChar(code_page, 0, text.data(), size, result.data(), static_cast<int>(result.size()));
     return result;
+}
+
+// For each character, how far right it ends in a line of its text.
+std::vector<int> right_edges(const std::wstring& text, CFont& font) {
+    constexpr std::size_t most = 4096; // the system measures no more at once
+    std::vector<int> right(text.size());
+    CDC dc;
+    dc.CreateCompatibleDC(nullptr);
+    CFont* before = dc.SelectObject(&font);
+    int left = 0;
+    for (std::size_t start = 0; start < text.size(); start += most) {
+        const std::size_t count = std::min(most, text.size() - start);
+        SIZE size = {};
+        ::GetTextExtentExPointW(dc.m_hDC, text.data() + start, static_cast<int>(count), 0, nullptr, &right[start],
+                                &size);
+        for (std::size_t i = start; i < start + count; ++i)
+            right[i] += left;
+        left = right[start + count - 1];
+    }
+    dc.SelectObject(before);
+    return right;
 }
 
 } // namespace
@@ -62,8 +86,8 @@ bool CWntTipPage::build() {
     ModifyStyleEx(0, WS_EX_CONTROLPARENT); // its controls are places of the tab order
     const CRect nowhere(0, 0, 0, 0);
     const DWORD style = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
-    text_ = ::CreateWindowExW(0, L"EDIT", L"", style | WS_VSCROLL | ES_MULTILINE | ES_READONLY, 0, 0, 0, 0, m_hWnd,
-                              reinterpret_cast<HMENU>(UINT_PTR{text_id}), nullptr, nullptr);
+    text_ = ::CreateWindowExW(0, L"EDIT", L"", style | WS_VSCROLL | ES_MULTILINE | ES_AUTOHSCROLL | ES_READONLY, 0, 0,
+                              0, 0, m_hWnd, reinterpret_cast<HMENU>(UINT_PTR{text_id}), nullptr, nullptr);
     if (!text_ || !at_start_.Create("&Show tips at start", style | BS_AUTOCHECKBOX, nowhere, this, start_id) ||
         !previous_.Create("&Previous", style, nowhere, this, previous_id) ||
         !next_.Create("&Next", style, nowhere, this, next_id))
@@ -103,9 +127,8 @@ int CWntTipPage::LoadTips(const char* name) {
     wnt::ScriptOnDisk file{name};
     opened_ = file.is_open();
     *file_ = opened_ ? wnt::parse_tip_file(bytes_of(file)) : wnt::TipFile();
-    tip_ = file_->tips.empty() ? -1 : 0;
-    show_text();
-    return tip_ == 0;
+    start();
+    return tip_ >= 0;
 }
 
 int CWntTipPage::SetProfile(const char* profile, const char* name) {
@@ -116,11 +139,18 @@ int CWntTipPage::SetProfile(const char* profile, const char* name) {
     section_ = name;
     if (at_start_.m_hWnd)
         at_start_.SetCheck(IsShownAtStart(profile, name) ? BST_CHECKED : BST_UNCHECKED);
-    int last = 0;
-    if (from.read("Tip", last) && last >= 0 && GetTipCount() > 0)
-        tip_ = static_cast<int>((static_cast<unsigned>(last) + 1) % static_cast<unsigned>(GetTipCount()));
-    show_text();
+    start();
     return 1;
+}
+
+// With the first tip, or the one behind the last that was shown.
+void CWntTipPage::start() {
+    const wnt::ProfileSection from = {profile_, section_};
+    int last = 0;
+    tip_ = file_->tips.empty() ? -1 : 0;
+    if (tip_ == 0 && from.named() && from.read("Tip", last) && last >= 0)
+        tip_ = static_cast<int>((static_cast<unsigned>(last) + 1) % file_->tips.size());
+    show_text();
 }
 
 int CWntTipPage::IsShownAtStart(const char* profile, const char* name) {
@@ -148,15 +178,13 @@ int CWntTipPage::ShowTip(int tip) {
 std::wstring CWntTipPage::shown_text() const {
     if (tip_ < 0)
         return opened_ ? no_tips : no_file;
-    const std::wstring tip = wide(file_->tips[static_cast<std::size_t>(tip_)], file_->utf8 ? CP_UTF8 : CP_ACP);
-    std::wstring lines;
-    for (const wchar_t c : tip)
-        c == L'\n' ? lines += L"\r\n" : lines += c;
-    return lines;
+    return wide(file_->tips[static_cast<std::size_t>(tip_)], file_->utf8 ? CP_UTF8 : CP_ACP);
 }
 
 CString CWntTipPage::GetTipText() const {
-    return this ? CString(shown_text().c_str()) : CString();
+    CString text(this ? shown_text().c_str() : L"");
+    text.Replace("\n", "\r\n");
+    return text;
 }
 
 void CWntTipPage::store(const char* key, int value) {
@@ -165,17 +193,24 @@ void CWntTipPage::store(const char* key, int value) {
         to.write(key, value);
 }
 
-// The bar is there only where the text needs it.
+// Lines are broken here: the control takes seconds for a long tip of few blanks. The bar is there only where it is
+// needed.
 void CWntTipPage::show_text() {
     if (tip_ >= 0)
         store("Tip", tip_);
     if (!m_hWnd || !::IsWindow(text_))
         return;
-    ::SetWindowTextW(text_, shown_text().c_str());
     const CRect place = places().text;
-    ::ShowScrollBar(text_, SB_VERT, FALSE);
-    if (::SendMessageW(text_, EM_GETLINECOUNT, 0, 0) * font_->row() > place.Height())
-        ::ShowScrollBar(text_, SB_VERT, TRUE);
+    const std::wstring text = shown_text();
+    const std::vector<int> right = right_edges(text, font_->font());
+    const auto width = [](int pixels) { return std::max(pixels, narrowest); };
+    int lines = 0;
+    std::wstring broken = wnt::break_lines(text, right, width(place.Width()), lines);
+    const bool bar = lines * font_->row() > place.Height();
+    if (bar)
+        broken = wnt::break_lines(text, right, width(place.Width() - ::GetSystemMetrics(SM_CXVSCROLL)), lines);
+    ::ShowScrollBar(text_, SB_VERT, bar);
+    ::SetWindowTextW(text_, broken.c_str());
     for (CButton* button : {&previous_, &next_})
         button->EnableWindow(IsWindowEnabled() && GetTipCount() > 1);
 }

@@ -39,7 +39,7 @@ public:
     CWntTipPage();
     ~CWntTipPage() override;
 
-    /// Shows the first tip. 0 when the file cannot be opened or has no tip.
+    /// Shows the first tip, or with a profile the one behind the last. 0 when the file cannot be opened or has no tip.
     int LoadTips(const char* file);
     /// From now on the last tip and the choice are kept in section `name` of a profile file. Shows the tip behind the
     /// one that is stored there.
@@ -78,6 +78,7 @@ private:
     Places places() const;
     void paint_bulb(wnt::PaintPass& pass, const CRect& place);
     std::wstring shown_text() const;
+    void start();
     void show_text();
     void turn_by_user(int step);
     void choose_by_user();

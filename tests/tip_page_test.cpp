@@ -1,0 +1,184 @@
+#include <zopwnt.h>
+
+#include <gmock/gmock.h>
+
+#include "temporary_file.h"
+#include "widget_window.h"
+
+namespace {
+
+constexpr UINT text_id = 1, start_id = 2, previous_id = 3, next_id = 4;
+
+class TipPage : public WidgetTest {
+protected:
+    void SetUp() override {
+        WidgetTest::SetUp();
+        char folder[MAX_PATH];
+        ::GetTempPathA(sizeof folder, folder);
+        profile_ = CString(folder) + "tip_page_test.ini";
+        ::DeleteFileA(profile_);
+    }
+    void TearDown() override {
+        WidgetTest::TearDown();
+        ::DeleteFileA(profile_);
+    }
+    void load(const std::string& text) {
+        if (!page_->m_hWnd)
+            open(*page_, 400, 240);
+        const TemporaryFile file({text.begin(), text.end()});
+        page_->LoadTips(file.name());
+    }
+    void press(UINT id) { page_->GetDlgItem(static_cast<int>(id))->SendMessage(BM_CLICK); }
+    bool enabled(UINT id) { return page_->GetDlgItem(static_cast<int>(id))->IsWindowEnabled(); }
+    std::wstring shown() {
+        wchar_t text[200] = L"";
+        ::GetWindowTextW(::GetDlgItem(page_->m_hWnd, text_id), text, 200);
+        return text;
+    }
+    CRect place(UINT id) {
+        CRect r;
+        page_->GetDlgItem(static_cast<int>(id))->GetWindowRect(&r);
+        page_->ScreenToClient(&r);
+        return r;
+    }
+    bool translated(CWnd& window, WPARAM character) {
+        MSG m = {window.m_hWnd, WM_SYSCHAR, character, 0, 0, {}};
+        return CWnd::WalkPreTranslateTree(host_.m_hWnd, &m);
+    }
+
+    CString profile_;
+    std::unique_ptr<CWntTipPage> page_ = std::make_unique<CWntTipPage>();
+};
+
+TEST_F(TipPage, TurnsThroughTheTipsOfItsFile) {
+    load("one\n\n20 \xC2\xB0\x43 \xCE\xA9\n\nfirst\n second");
+    EXPECT_EQ(shown(), L"one");
+    press(next_id);
+    EXPECT_EQ(shown(), L"20 \u00B0C \u03A9") << "whatever the code page";
+    EXPECT_TRUE(host_.notified.back().code == WNT_TIP_TURNED && host_.notified.back().hwndFrom == page_->m_hWnd);
+    press(next_id);
+    EXPECT_EQ(page_->GetTipText(), "first\r\nsecond");
+    press(next_id); // round the end
+    EXPECT_EQ(page_->GetTip(), 0);
+    press(previous_id);
+    EXPECT_EQ(page_->GetTip(), 2);
+    EXPECT_TRUE(translated(*page_->GetDlgItem(start_id), 'P') && page_->GetTip() == 1);
+    EXPECT_TRUE(translated(*page_, 'n') && page_->GetTip() == 2);
+    EXPECT_FALSE(translated(*page_, 'x'));
+    EXPECT_EQ(page_->ShowTip(3) + page_->ShowTip(-1), 0);
+    load("\xB0");
+    EXPECT_EQ(shown(), L"\u00B0") << "of the code page";
+    EXPECT_FALSE(enabled(previous_id) || enabled(next_id) || translated(*page_, 'n'));
+}
+
+TEST_F(TipPage, SaysSoWhereThereIsNone) {
+    load("; only a comment\n");
+    const std::wstring empty = shown();
+    EXPECT_TRUE(empty.size() > 10 && page_->GetTip() == -1 && page_->GetTipCount() == 0);
+    EXPECT_FALSE(enabled(previous_id) || enabled(next_id));
+    EXPECT_EQ(page_->LoadTips("no such file") + page_->LoadTips(nullptr) + page_->LoadTips("C:\\"), 0);
+    EXPECT_TRUE(shown().size() > 10 && shown() != empty);
+    CWntTipPage* volatile none = nullptr;
+    EXPECT_EQ(none->LoadTips("") + none->GetTipCount() + none->ShowTip(0) + none->SetProfile("", "") +
+                  page_->SetProfile(nullptr, "tips") + page_->SetProfile(profile_, ""),
+              0);
+    CWntTipPage unopened;
+    EXPECT_TRUE(unopened.GetTip() == -1 && unopened.ShowTip(0) == 0 && unopened.SetProfile(profile_, "tips") == 1);
+}
+
+TEST_F(TipPage, RemembersTheLastTipAndTheChoice) {
+    const auto next_start = [&](const char* tips, bool profile_first = false) {
+        page_ = std::make_unique<CWntTipPage>();
+        const int before = profile_first && page_->SetProfile(profile_, "tips");
+        load(tips);
+        EXPECT_TRUE(before || page_->SetProfile(profile_, "tips"));
+        return page_->GetTip();
+    };
+    EXPECT_EQ(CWntTipPage::IsShownAtStart(profile_, "tips"), 1);
+    EXPECT_EQ(next_start("a\n\nb\n\nc"), 0);
+    EXPECT_EQ(next_start("a\n\nb\n\nc", true), 1);
+    press(next_id);
+    EXPECT_EQ(next_start("a\n\nb\n\nc"), 0);
+    EXPECT_EQ(next_start("a"), 0) << "fewer than there were";
+    for (const char* stored : {"2147483647", "-5", "x"}) {
+        ::WritePrivateProfileStringA("tips", "Tip", stored, profile_);
+        const int tip = next_start("a\n\nb\n\nc");
+        EXPECT_TRUE(tip >= 0 && tip < 3) << stored;
+    }
+    press(start_id);
+    EXPECT_EQ(host_.notified.back().code, WNT_TIP_START);
+    EXPECT_EQ(CWntTipPage::IsShownAtStart(profile_, "tips"), 0);
+    next_start("a");
+    EXPECT_EQ(static_cast<CButton*>(page_->GetDlgItem(start_id))->GetCheck(), BST_UNCHECKED);
+    EXPECT_TRUE(translated(*page_, 's'));
+    EXPECT_EQ(CWntTipPage::IsShownAtStart(profile_, "tips"), 1);
+}
+
+TEST_F(TipPage, ItsPartsKeepApartAndABarShowsWhereItIsNeeded) {
+    std::string lines;
+    for (int i = 0; i < 60; ++i)
+        lines += " a line\n";
+    load("short\n\n" + lines);
+    const HWND text = ::GetDlgItem(page_->m_hWnd, text_id);
+    const auto has_bar = [&] { return (::GetWindowLongPtr(text, GWL_STYLE) & WS_VSCROLL) != 0; };
+    EXPECT_FALSE(has_bar());
+    press(next_id);
+    EXPECT_TRUE(has_bar());
+    EXPECT_EQ(::SendMessage(text, EM_GETLINECOUNT, 0, 0), 60);
+    page_->MoveWindow(0, 0, 400, 1200);
+    EXPECT_FALSE(has_bar());
+    load(std::string(70'000, 't')); // broken, since it has no blanks
+    EXPECT_GT(::SendMessage(text, EM_GETLINECOUNT, 0, 0), 500);
+    load("short");
+    for (const CSize size : {CSize(400, 240), CSize(320, 180), CSize(700, 90)}) {
+        page_->MoveWindow(0, 0, size.cx, size.cy);
+        CRect all(CPoint(0, 0), size), both;
+        const UINT ids[] = {text_id, start_id, previous_id, next_id};
+        for (const UINT one : ids) {
+            EXPECT_TRUE(both.UnionRect(all, place(one)) && both == all) << one << " of " << size.cx;
+            for (const UINT other : ids)
+                EXPECT_TRUE(one == other || !both.IntersectRect(place(one), place(other))) << one << other;
+        }
+        EXPECT_TRUE(place(previous_id).top == place(next_id).top && place(start_id).top == place(next_id).top);
+    }
+}
+
+TEST_F(TipPage, IsAPageOfTabsWithItsOwnKeys) {
+    CWntTabs tabs;
+    CButton other;
+    open(tabs, 420, 260);
+    load("one\n\ntwo"); // first with a window of its own
+    ASSERT_TRUE(other.Create("other", WS_CHILD, CRect(0, 0, 9, 9), &tabs, 5));
+    ASSERT_EQ(tabs.AddTab("&News", page_.get()) + tabs.AddTab("&Other", &other), 2);
+    host_.SetFocus();
+    page_->SetFocus();
+    EXPECT_EQ(::GetFocus(), page_->GetDlgItem(next_id)->m_hWnd);
+    MSG m = {::GetFocus(), WM_SYSCHAR, 'n', 0, 0, {}};
+    EXPECT_TRUE(CWnd::WalkPreTranslateTree(host_.m_hWnd, &m) && page_->GetTip() == 1 && tabs.GetSelected() == 0);
+    EXPECT_EQ(host_.notified.back().code, WNT_TIP_TURNED) << "reaches the parent of the tabs";
+    m.wParam = 'o';
+    EXPECT_TRUE(CWnd::WalkPreTranslateTree(host_.m_hWnd, &m) && tabs.GetSelected() == 1);
+    EXPECT_FALSE(page_->IsWindowVisible());
+    tabs.Select(0);
+    EXPECT_EQ(::GetNextDlgTabItem(host_.m_hWnd, tabs.GetWindow(GW_CHILD)->m_hWnd, FALSE),
+              ::GetDlgItem(page_->m_hWnd, text_id));
+}
+
+TEST_F(TipPage, MayBeDestroyedWhenItTells) {
+    for (const UINT id : {next_id, start_id}) {
+        auto* doomed = new CWntTipPage;
+        open(*doomed, 300, 200);
+        const TemporaryFile file({'a', '\n', '\n', 'b'});
+        doomed->LoadTips(file.name());
+        const HWND button = doomed->GetDlgItem(static_cast<int>(id))->m_hWnd;
+        host_.on_message = [&](UINT message) {
+            if (message == WM_NOTIFY)
+                delete std::exchange(doomed, nullptr);
+        };
+        ::SendMessageA(button, BM_CLICK, 0, 0);
+        EXPECT_TRUE(!doomed && !::IsWindow(button)) << id;
+        host_.on_message = [](UINT) {};
+    }
+}
+
+} // namespace
