@@ -5,7 +5,6 @@
 #include "controls/pane_window.h"
 
 namespace wnt {
-struct Tab;
 class TabsModel;
 class TabsStrip;
 } // namespace wnt

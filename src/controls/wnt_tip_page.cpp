@@ -17,6 +17,7 @@ namespace {
 constexpr UINT text_id = 1, start_id = 2, previous_id = 3, next_id = 4;
 constexpr int margin = 10; // pixels at 96 dots an inch
 constexpr int band = 56;
+constexpr char heading[] = "Did you know?";
 constexpr int heading_percent = 130;
 constexpr int narrowest = 80; // pixels, of the text
 constexpr wchar_t no_file[] = L"The file with the tips cannot be opened.";
@@ -208,7 +209,8 @@ void CWntTipPage::show_text() {
     std::wstring broken = wnt::break_lines(text, right, width(place.Width()), lines);
     const bool bar = lines * font_->row() > place.Height();
     if (bar)
-        broken = wnt::break_lines(text, right, width(place.Width() - ::GetSystemMetrics(SM_CXVSCROLL)), lines);
+        broken =
+            wnt::break_lines(text, right, width(place.Width() - ::GetSystemMetrics(SM_CXVSCROLL) - margin / 2), lines);
     ::ShowScrollBar(text_, SB_VERT, bar);
     ::SetWindowTextW(text_, broken.c_str());
     for (CButton* button : {&previous_, &next_})
@@ -223,18 +225,27 @@ CWntTipPage::Places CWntTipPage::places() const {
     const int row = font_->row() + scaled(10);
     const int wide = std::max(font_->width("Previous"), font_->width("Next")) + scaled(24);
     Places p;
-    p.band = scaled(band);
     const int top = std::max<int>(client.bottom - m - row, m);
     p.next = CRect(client.right - m - wide, top, client.right - m, top + row);
     p.previous = p.next - CPoint(wide + scaled(6), 0);
-    p.start = CRect(m, top, std::max<int>(p.previous.left - m, m), top + row);
-    p.box = CRect(m, m, std::max<int>(client.right - m, m), std::max<int>(top - m, m));
+    const int start = font_->width("Show tips at start") + scaled(28);
+    const bool one_row = m + start <= p.previous.left;
+    const int start_top = one_row ? top : std::max(top - row, m); // above the buttons
+    p.start = CRect(m, start_top, m + start, start_top + row);
+    p.box = CRect(m, m, std::max<int>(client.right - m, m), std::max(start_top - (one_row ? m : m / 2), m));
     CRect inside = p.box;
     inside.DeflateRect(1, 1);
+    if (inside.Width() - scaled(band) - 2 * m >= heading_->width(heading)) // or else the texts need all the room
+        p.band = scaled(band);
     inside.left = std::min<int>(inside.left + p.band, inside.right);
     inside.DeflateRect(m, m);
-    p.heading = CRect(inside.left, inside.top, inside.right, inside.top + heading_->row());
-    p.text = CRect(inside.left, p.heading.bottom + m, inside.right, inside.bottom);
+    p.text = inside;
+    if (inside.Height() >= heading_->row() + m + 2 * font_->row()) {
+        p.heading = CRect(inside.left, inside.top, inside.right, inside.top + heading_->row());
+        p.text.top = p.heading.bottom + m;
+    }
+    if (const int rows = p.text.Height() / font_->row(); rows > 0) // no line is cut
+        p.text.bottom = p.text.top + rows * font_->row();
     return p;
 }
 
@@ -280,10 +291,10 @@ void CWntTipPage::OnPaint() {
     const Places p = places();
     pass.fill(p.box, ::GetSysColor(COLOR_WINDOW));
     CRect side = p.box;
-    side.right = std::min(side.left + p.band, side.right);
+    side.right = side.left + p.band;
     pass.fill(side, ::GetSysColor(COLOR_BTNSHADOW));
     paint_bulb(pass, side);
-    pass.text(p.heading, "Did you know?", DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS,
+    pass.text(p.heading, heading, DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS,
               ::GetSysColor(COLOR_WINDOWTEXT), &heading_->font());
     pass.edge(p.box, false);
 }
