@@ -18,11 +18,11 @@ struct ChartLayout;
 
 /// Notifications of a strip chart, as WM_NOTIFY with a WntPulseNotify, for what its user did and for what happened.
 enum WntPulseCode : UINT {
-    WNT_PULSE_VIEW = 160,      ///< another stretch of time is shown, or live or not
-    WNT_PULSE_CURSOR = 161,    ///< a cursor was moved: `which` 0 or 1, `time` where it stands now
-    WNT_PULSE_CURVE = 162,     ///< a curve was shown or hidden by the legend: `which`
-    WNT_PULSE_RECORDING = 163, ///< recording was started or ended, or failed: GetRecordingError()
-    WNT_PULSE_READ = 164,      ///< a file was read to its end, or reading was cancelled: `which` 1 or 0
+    WNT_PULSE_VIEW = 170,      ///< another stretch of time is shown, or live or not
+    WNT_PULSE_CURSOR = 171,    ///< a cursor was moved: `which` 0 or 1, `time` where it stands now
+    WNT_PULSE_CURVE = 172,     ///< a curve was shown or hidden by the legend: `which`
+    WNT_PULSE_RECORDING = 173, ///< recording was started or ended, or failed: GetRecordingError()
+    WNT_PULSE_READ = 174,      ///< a file was read to its end, or reading was cancelled: `which` 1 or 0
 };
 
 struct WntPulseNotify {
