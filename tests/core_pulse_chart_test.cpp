@@ -13,6 +13,7 @@
 #include <cmath>
 #include <filesystem>
 #include <fstream>
+#include <limits>
 #include <random>
 
 using namespace wnt;
@@ -99,6 +100,8 @@ TEST(PulseChart, ReadsValuesOff) {
     EXPECT_EQ(chart.value_at(0, 170), 3);
     EXPECT_FALSE(chart.value_at(0, 171));
     EXPECT_FALSE(chart.value_at(1, 10));
+    EXPECT_FALSE(chart.value_at(0, std::numeric_limits<std::int64_t>::min()));
+    EXPECT_FALSE(chart.value_at(0, std::numeric_limits<std::int64_t>::max()));
 }
 
 bool apart(const PixelRect& a, const PixelRect& b) {
@@ -216,10 +219,15 @@ TEST_F(PulseTransfer, SamplesOfASecondAreSpreadInIt) {
     recorder.start("a.txt", {"Flow"});
     for (const int second : {0, 0, 0, 0, 1, 2, 2})
         recorder.put(0, 1, afternoon + second);
+    for (int i = 0; i < 250; ++i)
+        recorder.put(0, 1, afternoon + 3);
+    recorder.put(0, 1, afternoon + 4);
     recorder.stop();
     std::vector<std::int64_t> times;
     for (const PulsePoint& point : read("a.txt", true))
         times.push_back(point.time - axis_time_of(afternoon));
+    EXPECT_EQ(times.back(), 400); // however many there are in a second
+    times.resize(7);
     EXPECT_THAT(times, ElementsAre(0, 25, 50, 75, 100, 200, 250));
 }
 
@@ -243,6 +251,28 @@ TEST_F(PulseTransfer, AClockThatIsPutBackLosesNothing) {
         EXPECT_EQ(axis_time_of(two_thirty + 60 * i) - axis_time_of(two_thirty), 6000 * i);
 }
 
+// In summer, in the hour when summer begins, and when it ends: times read are those recorded.
+TEST_F(PulseTransfer, DaylightSavingChangesNoTime) {
+#ifdef _WIN32
+    GTEST_SKIP() << "the runtime has no rules for zones";
+#endif
+    set_zone("CET-1CEST,M3.5.0,M10.5.0/3");
+    constexpr std::int64_t spring = 1'774'746'000; // 29 March 2026, 2:00, which is 3:00
+    for (std::int64_t minute = -90; minute < 200; ++minute)
+        EXPECT_EQ(axis_time_of(spring + 60 * minute) - axis_time_of(spring), 6000 * minute) << minute;
+    for (const std::int64_t moment : {spring - 60, spring + 60, spring + 100 * 86'400}) {
+        PulseRecorder recorder;
+        fs::remove("a.txt");
+        recorder.start("a.txt", {"Flow"});
+        recorder.put(0, 1, moment);
+        recorder.stop();
+        const auto found = read("a.txt", false);
+        ASSERT_EQ(found.size(), 1u);
+        EXPECT_EQ(found[0].time, axis_time_of(moment));
+        EXPECT_EQ(moment_of_axis_time(found[0].time), moment);
+    }
+}
+
 TEST_F(PulseTransfer, FilesFollowEachOtherBySizeAndDay) {
     PulseRecorder recorder;
     recorder.set_parts(200, false);
@@ -257,8 +287,15 @@ TEST_F(PulseTransfer, FilesFollowEachOtherBySizeAndDay) {
         records += read(name, false).size();
     }
     EXPECT_EQ(records, 20u);
+    recorder.start("a.txt", {"Flow"}); // full, as others behind it are
+    recorder.put(0, 1, afternoon);
+    recorder.stop();
+    for (const std::string& name : files())
+        EXPECT_LT(fs::file_size(name), 300u) << name;
     recorder.set_parts(0, true);
     recorder.start("day.txt", {"Flow"});
+    EXPECT_FALSE(fs::exists("day.txt"));
+    EXPECT_FALSE(recorder.records(1)); // no curve of the file
     recorder.put(0, 1, afternoon);
     recorder.put(0, 1, afternoon + 86'400);
     EXPECT_EQ(fs::path(recorder.path()).filename(), "day-20261117.txt");
@@ -297,6 +334,9 @@ TEST_F(PulseTransfer, BrokenFilesGiveWhatCanBeRead) {
         }
         EXPECT_LE(count, 5u);
     }
+    std::ofstream("table.csv") << "3\n" << std::string(100'000, 'x');
+    EXPECT_NE(PulseReader().open("table.csv"), "");
+    EXPECT_NE(PulseReader().open("."), "");
     std::ofstream("odd.txt") << "1\nFlow ;\n0;1.0;14:03:59;16/11/2026;\n0;2.0;99:99:99;99/99/2026;\n"
                                 "7;3.0;14:04:00;16/11/2026;\n0;4.0;14:04:01;16/11/2026;\n";
     EXPECT_EQ(read("odd.txt", false).size(), 2u); // an impossible date, and a curve that is not there

@@ -223,6 +223,11 @@ TEST_F(Pulse, CursorsReadOff) {
     chart_.GetCursor(0, &moved);
     EXPECT_GT(moved, first);
     EXPECT_LT(moved, first + 50);
+    chart_.SetSpan(100); // several pixels a hundredth
+    key(VK_LEFT);
+    chart_.GetCursor(0, &first);
+    EXPECT_LT(first, moved);
+    chart_.SetSpan(6000);
     key(VK_ESCAPE);
     EXPECT_EQ(chart_.GetCursor(0, &first) + chart_.GetCursor(1, &first), 0);
     show();
@@ -287,6 +292,37 @@ TEST_F(Pulse, FitsInSteps) {
     EXPECT_GT(rows[0] - rows[1], 100);
 }
 
+TEST_F(Pulse, CurvesThatShareARangeAreFittedAlike) {
+    chart_.SetFit(1);
+    for (int i = 0; i < 600; ++i)
+        chart_.AddSample(flow_, 800 + i, i * 10);
+    show();
+    const int late = chart_.AddCurve("Late", RGB(0, 200, 0), 0, 100);
+    chart_.AddSample(late, 900, 6000);
+    show();
+    const double value = 1000;
+    int rows[2];
+    chart_.ValuesToScreen(flow_, &value, 1, rows);
+    chart_.ValuesToScreen(late, &value, 1, rows + 1);
+    EXPECT_EQ(rows[0], rows[1]);
+}
+
+// In another window nothing goes on that belonged to the first.
+TEST_F(Pulse, GoesFromWindowToWindow) {
+    feed(0, 3000);
+    mouse(WM_LBUTTONDOWN, 200, 150);
+    chart_.AddSample(flow_, 1, 4000);
+    chart_.DestroyWindow();
+    chart_.AddSample(flow_, 1, 4500);
+    ASSERT_TRUE(chart_.Create(nullptr, "", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 600, 300), &host_, 5));
+    show();
+    const Pixels before = pixels_of(chart_);
+    feed(5000, 8000);
+    EXPECT_NE(pixels_of(chart_), before);
+    mouse(WM_MOUSEMOVE, 400, 150);
+    EXPECT_TRUE(chart_.IsLive());
+}
+
 TEST_F(Pulse, RecordsAndReads) {
     const CString path = "pulse_test_record.txt";
     ::DeleteFileA(path);
@@ -313,8 +349,6 @@ TEST_F(Pulse, RecordsAndReads) {
     reader.SendMessage(WM_KEYDOWN, VK_ESCAPE, 0);
     EXPECT_EQ(host_.told.back(), std::pair(UINT{WNT_PULSE_READ}, 0));
     ::DeleteFileA(path);
-    for (const char* protocol : {"Get.out", "ReadHeader.out"})
-        ::DeleteFileA(protocol);
 }
 
 TEST_F(Pulse, CopiesWhatIsShown) {
@@ -377,8 +411,6 @@ TEST_F(Pulse, MayBeDestroyedOnAnyNotification) {
         EXPECT_FALSE(chart) << code;
         EXPECT_FALSE(::IsWindow(window)) << code;
     }
-    for (const char* protocol : {"Get.out", "ReadHeader.out"})
-        ::DeleteFileA(protocol);
 }
 
 TEST_F(Pulse, HoldsAtAnyOperation) {

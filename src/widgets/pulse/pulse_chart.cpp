@@ -101,13 +101,16 @@ bool PulseChart::set_range(int index, double low, double high) {
 bool PulseChart::set_capacity(std::size_t samples) {
     if (samples == 0 || samples > most_samples / std::max<std::size_t>(curves_.size(), 1))
         return false;
-    for (ChartCurve& each : curves_) {
-        auto kept = std::make_unique<PulseSeries>(samples);
+    std::vector<std::unique_ptr<PulseSeries>> all;
+    for (const ChartCurve& each : curves_) {
+        PulseSeries& kept = *all.emplace_back(std::make_unique<PulseSeries>(samples));
         const PulseSeries& before = *each.samples;
         for (std::uint64_t i = before.end() - std::min<std::uint64_t>(before.size(), samples); i != before.end(); ++i)
-            kept->append(before[i].time, before[i].value);
-        each.samples = std::move(kept);
+            if (!kept.append(before[i].time, before[i].value))
+                return false;
     }
+    for (std::size_t i = 0; i < all.size(); ++i)
+        curves_[i].samples = std::move(all[i]);
     capacity_ = samples;
     return true;
 }
@@ -135,7 +138,8 @@ std::optional<double> PulseChart::value_at(int index, std::int64_t time) const {
     if (!has(index))
         return std::nullopt;
     const PulseSeries& samples = *curves_[static_cast<std::size_t>(index)].samples;
-    const std::uint64_t next = samples.seek(std::min(time, PulseSeries::latest) + 1, samples.end());
+    time = std::clamp(time, -PulseSeries::latest, PulseSeries::latest);
+    const std::uint64_t next = samples.seek(time + 1, samples.end());
     if (next == samples.first())
         return std::nullopt;
     const PulsePoint& last = samples[next - 1];

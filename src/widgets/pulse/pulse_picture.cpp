@@ -94,12 +94,12 @@ void PulsePicture::move(std::int64_t columns) {
 }
 
 void PulsePicture::remember(const PlotScene& scene) {
-    scene_ = scene;
-    const std::size_t size = static_cast<std::size_t>(stride()) * scene.height;
-    if (pixels_.size() != size) {
-        pixels_.resize(size);
+    const std::size_t size = std::size_t{2} * scene.columns.width * scene.height;
+    if (pixels_.size() != size || scene.columns.width != scene_.columns.width) {
+        pixels_.resize(size); // first: without memory all stays as it was
         offset_ = 0;
     }
+    scene_ = scene;
     shown_.clear();
     for (const PlotCurve& curve : scene.curves)
         shown_.push_back({curve.series->first(), curve.series->end(),

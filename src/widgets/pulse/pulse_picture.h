@@ -32,7 +32,7 @@ struct PlotScene {
 /// what drawing everything anew gives, pixel for pixel.
 class PulsePicture {
 public:
-    static constexpr std::int32_t most_height = 1 << 14;
+    static constexpr std::int32_t most_width = 1 << 13, most_height = 1 << 13;
 
     /// Series must live as long as they are shown. Draws everything where `anew` is set or the scene differs in more
     /// than its origin and what was appended to the series.

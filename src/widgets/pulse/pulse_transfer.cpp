@@ -4,9 +4,14 @@
 #include <chrono>
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
+#include <ctime>
 #include <filesystem>
+#include <fstream>
 
+#include "pulse/pulse_codec.h"
 #include "pulse/wnt_pulse_file.h"
+#include "time/calendar_time.h"
 #include "time/local_time.h"
 #include "time/result_error.h"
 #include "widgets/axis/time_value.h"
@@ -16,13 +21,31 @@ namespace wnt {
 namespace {
 
 constexpr std::int64_t look_every = 4096; // characters between two looks at a file's size
-constexpr int no_error = 0;
+constexpr int no_error = 0, cannot_open = 1, writing_failed = 9;
 
 namespace chrono = std::chrono;
 constexpr chrono::sys_days day_zero{chrono::year(1979) / 12 / 31}; // of an axis
 
 std::string text_of(int error) {
     return CWntPulseFile::ErrorText(error);
+}
+
+// What other files hold may go on for long without a title's end.
+bool begins_with_header(const std::string& path) {
+    constexpr std::size_t longest_header = 16'384;
+    std::string text(longest_header, 0);
+    std::ifstream file(path, std::ios::binary);
+    file.read(text.data(), static_cast<std::streamsize>(text.size()));
+    text.resize(static_cast<std::size_t>(file.gcount()));
+    const int curves = std::atoi(text.c_str());
+    return 0 < curves && curves <= most_pulse_curves && std::ranges::count(text, ';') >= curves;
+}
+
+constexpr int most_parts = 100'000;
+
+std::int64_t day_of(std::int64_t seconds) {
+    const auto fields = local_fields(seconds);
+    return fields ? fields->tm_year * 366 + fields->tm_yday : -1;
 }
 
 std::int64_t size_of(const std::string& path) {
@@ -38,11 +61,14 @@ PulseRecorder::~PulseRecorder() = default;
 
 std::string PulseRecorder::start(const std::string& path, std::vector<std::string> titles) {
     stop();
-    first_path_ = path;
+    std::error_code failed;
+    const auto whole = std::filesystem::absolute(path, failed); // wherever the current folder goes
+    first_path_ = failed ? path : whole.string();
     titles_ = std::move(titles);
     part_ = 1;
-    day_ = -1;
-    error_ = open(path);
+    const auto now = static_cast<std::int64_t>(std::time(nullptr));
+    day_ = day_of(now);
+    error_ = open(daily_ ? part_name(now) : first_path_);
     return error_;
 }
 
@@ -56,7 +82,7 @@ std::string PulseRecorder::open(const std::string& path) {
     for (std::size_t i = 0; i < titles_.size(); ++i)
         file->SetLineTitle(static_cast<int>(i), titles_[i].c_str());
     if (const int error = file->Open(path.c_str()); error != no_error)
-        return text_of(error);
+        return error == cannot_open ? "the file cannot be opened" : text_of(error);
     file_ = std::move(file);
     path_ = path;
     size_ = size_of(path);
@@ -75,7 +101,7 @@ bool PulseRecorder::grown() {
     return as_expected;
 }
 
-std::string PulseRecorder::part_name(std::int64_t seconds) {
+std::string PulseRecorder::part_name(std::int64_t seconds) const {
     const std::filesystem::path path(first_path_);
     char what[24] = "";
     if (const auto fields = local_fields(seconds); daily_ && fields)
@@ -87,20 +113,19 @@ std::string PulseRecorder::part_name(std::int64_t seconds) {
 }
 
 bool PulseRecorder::next_part(std::int64_t seconds) {
-    const auto fields = local_fields(seconds);
-    const std::int64_t day = fields ? fields->tm_year * 366 + fields->tm_yday : day_;
-    const bool next_day = daily_ && day != day_;
-    const bool full = most_bytes_ > 0 && size_ + written_ >= most_bytes_;
-    if (!next_day && !full)
+    const bool next_day = daily_ && day_of(seconds) != day_;
+    if (!next_day && !full())
         return true;
     part_ = next_day ? 1 : part_ + 1;
-    day_ = day;
-    error_ = open(part_name(seconds));
+    day_ = day_of(seconds);
+    do // those of an earlier time may be full
+        error_ = open(part_name(seconds));
+    while (error_.empty() && full() && ++part_ < most_parts);
     return error_.empty();
 }
 
 bool PulseRecorder::put(int curve, double value, std::int64_t seconds) {
-    if (!file_)
+    if (!records(curve))
         return false;
     bool written = next_part(seconds);
     if (written) {
@@ -108,7 +133,7 @@ bool PulseRecorder::put(int curve, double value, std::int64_t seconds) {
         written_ += std::max(characters, 0);
         written = characters > 0 && grown();
         if (!written)
-            error_ = text_of(9);
+            error_ = text_of(writing_failed);
     }
     if (!written)
         stop();
@@ -121,21 +146,23 @@ PulseReader& PulseReader::operator=(PulseReader&&) noexcept = default;
 PulseReader::~PulseReader() = default;
 
 std::string PulseReader::open(const std::string& path) {
-    file_ = std::make_unique<CWntPulseFile>(CWntPulseFile::read);
-    records_ = 0;
-    titles_.clear();
-    if (const int error = file_->Open(path.c_str()); error != no_error) {
+    *this = PulseReader();
+    std::error_code failed;
+    PulseHeader header;
+    if (!std::filesystem::is_regular_file(path, failed) || !begins_with_header(path))
+        return "no file of samples";
+    file_.reset(std::fopen(path.c_str(), "r"));
+    if (!file_ || read_header(file_.get(), header, nullptr) != PulseFault::none) {
         file_.reset();
-        return text_of(error);
+        return "no file of samples";
     }
-    const auto count = static_cast<std::size_t>(std::clamp(file_->GetLineCount(), 0, most_pulse_curves));
-    for (std::size_t i = 0; i < count; ++i) {
-        std::string title = file_->GetLineTitle(static_cast<int>(i));
+    for (int i = 0; i < header.line_count; ++i) {
+        std::string title = header.titles[i];
         title.erase(title.find_last_not_of(' ') + 1);
         titles_.push_back(std::move(title));
     }
-    seconds_.assign(count, {});
-    onwards_.assign(count, {});
+    seconds_.assign(titles_.size(), {});
+    onwards_.assign(titles_.size(), {});
     return {};
 }
 
@@ -157,43 +184,39 @@ void PulseReader::flush(int curve, const std::function<void(int, std::int64_t, d
 bool PulseReader::read(int records, const std::function<void(int, std::int64_t, double)>& take) {
     if (!file_)
         return false;
-    bool more = true;
-    for (int i = 0; i < records && more; ++i) {
-        int curve = 0;
-        float value = 0;
-        std::int64_t seconds = 0;
-        if (!without_result_error([&] { more = file_->Get(&curve, &value, &seconds) == no_error; }))
-            continue; // a date that is none was read past
-        if (!more)
-            break;
+    for (int i = 0; i < records; ++i) {
+        const auto sample = read_sample(file_.get());
+        if (!sample) {
+            broken_ = std::feof(file_.get()) == 0;
+            for (std::size_t k = 0; k < seconds_.size(); ++k)
+                flush(static_cast<int>(k), take);
+            file_.reset();
+            return false;
+        }
         ++records_;
-        if (curve < 0 || curve >= static_cast<int>(seconds_.size()))
+        std::int64_t moment = 0;
+        const bool dated = without_result_error([&] { moment = moment_of(parse_stamp(sample->stamp), -1); });
+        if (!dated || sample->curve < 0 || sample->curve >= static_cast<int>(seconds_.size()))
             continue;
-        const std::int64_t time = axis_time_of(seconds);
-        Second& second = seconds_[static_cast<std::size_t>(curve)];
-        if (second.time != time || second.values.size() == 100)
-            flush(curve, take);
+        const std::int64_t time = axis_time_of(moment);
+        Second& second = seconds_[static_cast<std::size_t>(sample->curve)];
+        if (second.time != time)
+            flush(sample->curve, take);
         second.time = time;
-        second.values.push_back(value);
+        second.values.push_back(sample->value);
     }
-    if (!more) {
-        for (std::size_t i = 0; i < seconds_.size(); ++i)
-            flush(static_cast<int>(i), take);
-        file_.reset();
-    }
-    return more;
+    return true;
 }
 
 std::int64_t axis_time_of(std::int64_t seconds) {
-    auto fields = local_fields(seconds);
-    if (fields && fields->tm_isdst > 0 && seconds >= 3600)
-        fields = local_fields(seconds - 3600);
+    const auto fields = local_fields(seconds);
     if (!fields)
         return 0;
     const chrono::year_month_day date{chrono::year(fields->tm_year + 1900), chrono::month(fields->tm_mon + 1),
                                       chrono::day(fields->tm_mday)};
     const std::int64_t day = (chrono::sys_days(date) - day_zero).count();
-    return day * hundredths_per_day + ((fields->tm_hour * 60 + fields->tm_min) * 60 + fields->tm_sec) * 100;
+    const int hours = fields->tm_hour - (fields->tm_isdst > 0 ? 1 : 0);
+    return day * hundredths_per_day + ((hours * 60 + fields->tm_min) * 60 + fields->tm_sec) * 100;
 }
 
 TAxisdatetime date_of_axis_time(std::int64_t time) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <cstdio>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -24,6 +25,8 @@ public:
     std::string start(const std::string& path, std::vector<std::string> titles);
     void stop();
     bool running() const { return file_ != nullptr; }
+    /// It runs, and the curve was there when it began.
+    bool records(int curve) const { return file_ && 0 <= curve && curve < static_cast<int>(titles_.size()); }
     /// A new file when the present one has reached this many bytes (0: none), or a day ends. Its name has the day, or
     /// a number, before its ending.
     void set_parts(std::int64_t bytes, bool daily) { most_bytes_ = bytes, daily_ = daily; }
@@ -36,7 +39,8 @@ public:
 private:
     std::string open(const std::string& path);
     bool grown();
-    std::string part_name(std::int64_t seconds);
+    std::string part_name(std::int64_t seconds) const;
+    bool full() const { return most_bytes_ > 0 && size_ + written_ >= most_bytes_; }
     bool next_part(std::int64_t seconds);
 
     std::unique_ptr<CWntPulseFile> file_;
@@ -67,6 +71,8 @@ public:
     /// Where stamps run back, because the clock was set, the samples stay in their order at the time that was reached.
     bool read(int records, const std::function<void(int curve, std::int64_t time, double value)>& take);
     std::int64_t records() const { return records_; }
+    /// It ended at what is no sample.
+    bool broken() const { return broken_; }
 
 private:
     struct Second {
@@ -76,7 +82,10 @@ private:
     void flush(int curve, const std::function<void(int, std::int64_t, double)>& take);
     std::int64_t onward(int curve, std::int64_t time);
 
-    std::unique_ptr<CWntPulseFile> file_;
+    struct Close {
+        void operator()(std::FILE* file) const { std::fclose(file); }
+    };
+    std::unique_ptr<std::FILE, Close> file_; // without the protocols of CWntPulseFile, a line or more a sample
     std::vector<std::string> titles_;
     std::vector<Second> seconds_;
     struct Onward {
@@ -85,6 +94,7 @@ private:
     std::vector<Onward> onwards_;
     bool spread_ = false;
     std::int64_t records_ = 0;
+    bool broken_ = false;
 };
 
 /// The time of a moment (seconds since 1970) as an axis counts it, in hundredths, in local time without daylight

@@ -22,6 +22,7 @@ constexpr UINT tick_milliseconds = 33; // a picture at most so often
 constexpr int least_grid_distance = 50;
 constexpr int title_pixels = 14, text_pixels = 12; // of the characters at 96 dots an inch
 constexpr int scroll_steps = 1000;
+constexpr ValueScale no_scale{0, 0, 1};
 
 float float_of(double value) {
     constexpr double limit = std::numeric_limits<float>::max();
@@ -57,6 +58,11 @@ std::vector<std::int64_t> grid_columns(const PulseView& view) {
         if ((*tick / interval) % stride == 0)
             result.push_back(view.columns().column(*tick));
     return result;
+}
+
+// By itself, whether or not its parents are.
+bool is_shown(const CWnd& window) {
+    return window.m_hWnd && window.GetStyle() & WS_VISIBLE;
 }
 
 std::vector<std::int32_t> grid_rows(CWntAxis& axis) {
@@ -103,15 +109,21 @@ void CWntPulse::leave() {
     for (CWnd* child : {static_cast<CWnd*>(&left_), static_cast<CWnd*>(&right_), static_cast<CWnd*>(&time_),
                         static_cast<CWnd*>(&scroll_), static_cast<CWnd*>(&tip_)})
         child->DestroyWindow();
-    KillTimer(pulse_tick_timer);
-    KillTimer(pulse_read_timer);
+    forget_window();
+}
+
+// What belongs to a window, and not to the samples.
+void CWntPulse::forget_window() {
+    State& s = *state_;
+    s.drag = State::Drag::none;
+    s.stale = s.ticking = s.reading = s.tip_shown = s.presented = false;
+    s.anew = true;
+    s.reader = PulseReader();
 }
 
 void CWntPulse::OnDestroy() {
     tip_.DestroyWindow();
-    state_->drag = State::Drag::none;
-    state_->stale = state_->ticking = state_->reading = state_->tip_shown = false;
-    state_->reader = PulseReader();
+    forget_window();
     CWnd::OnDestroy();
 }
 
@@ -127,9 +139,8 @@ unsigned char CWntPulse::LoadLine(const char* line, int mode) {
     if (!this || !line)
         return 0;
     if (mode == script_line) {
-        const std::int64_t span = state_->chart.span;
         state_->anew = state_->chart.load_line(line) || state_->anew;
-        if (state_->chart.span != span)
+        if (state_->chart.span != state_->view.span())
             state_->view.zoom(state_->chart.span, state_->view.columns().width / 2);
     } else if (mode == script_end) {
         restyle();
@@ -232,9 +243,10 @@ __int64 CWntPulse::Now() {
 }
 
 int CWntPulse::AddSample(int curve, double value, __int64 time) {
-    if (!this || !state_->chart.has(curve) || !state_->chart.curve(curve).samples->append(time, value))
+    if (!this || !state_->chart.has(curve) || state_->reading ||
+        !state_->chart.curve(curve).samples->append(time, value))
         return 0;
-    if (state_->recorder.running() && std::isfinite(value)) {
+    if (state_->recorder.records(curve) && std::isfinite(value)) {
         const auto moment = moment_of_axis_time(time);
         if (moment && !state_->recorder.put(curve, value, *moment)) {
             samples_arrived();
@@ -457,13 +469,15 @@ void CWntPulse::arrange() {
         sizes.entries.push_back(dc.GetTextExtent((curve.title + "  -0.00000e+00").c_str()).cx + 2 * metrics.tmHeight);
     dc.SelectObject(before);
     const std::vector<int> ranges = chart.ranges();
+    const int right_range = chart.axes & side_left ? 1 : 0;
     sizes.left_axis = (chart.axes & side_left) && !ranges.empty();
-    sizes.right_axis = (chart.axes & side_right) && std::ranges::find(ranges, 1) != ranges.end();
+    sizes.right_axis = (chart.axes & side_right) && std::ranges::find(ranges, right_range) != ranges.end();
     sizes.time_axis = (chart.axes & side_bottom) != 0;
     sizes.scroll_bar = ::GetSystemMetrics(SM_CYHSCROLL);
     CRect client;
     GetClientRect(&client);
-    state_->layout = lay_out_chart(client.Width(), client.Height(), sizes);
+    state_->layout = lay_out_chart(std::min<int>(client.Width(), PulsePicture::most_width),
+                                   std::min<int>(client.Height(), PulsePicture::most_height), sizes);
     const ChartLayout& layout = state_->layout;
     const StillThere self(*this);
     const auto place = [&](CWnd& child, const PixelRect& r) {
@@ -485,24 +499,28 @@ void CWntPulse::update_ranges() {
     PulseChart& chart = state_->chart;
     const std::vector<int> ranges = chart.ranges();
     const std::int32_t height = std::clamp(state_->plot().height(), 1, PulsePicture::most_height);
-    for (int i = 0; i < GetCurveCount(); ++i) {
-        ValueScale& scale = state_->scales[static_cast<std::size_t>(i)];
-        const ChartCurve& curve = chart.curve(i);
+    const auto count = static_cast<std::size_t>(GetCurveCount());
+    auto& scales = state_->scales;
+    std::fill(scales.begin() + static_cast<std::ptrdiff_t>(count), scales.end(), no_scale);
+    for (std::size_t i = 0; i < count; ++i) {
+        const ChartCurve& curve = chart.curves()[i];
+        const auto first = static_cast<std::size_t>(std::ranges::find(ranges, ranges[i]) - ranges.begin());
         if (!chart.fit) {
-            scale = {curve.low, curve.high, height};
-            continue;
+            scales[i] = {curve.low, curve.high, height};
+        } else if (first < i) {
+            scales[i] = scales[first]; // they share it
+        } else {
+            PulseBlock seen;
+            for (std::size_t k = i; k < count; ++k)
+                if (const PulseSeries& samples = *chart.curves()[k].samples;
+                    ranges[k] == ranges[i] && chart.curves()[k].shown)
+                    seen.include(samples.summary(samples.seek(state_->view.start(), samples.end()),
+                                                 samples.seek(state_->view.end(), samples.end())));
+            if (!(scales[i].low < scales[i].high))
+                scales[i] = {curve.low, curve.high, height};
+            scales[i] = fitted(scales[i], seen.low, seen.high);
+            scales[i].height = height;
         }
-        PulseBlock seen; // of all that share the range
-        for (int k = 0; k < GetCurveCount(); ++k) {
-            const PulseSeries& samples = *chart.curve(k).samples;
-            if (ranges[static_cast<std::size_t>(k)] == ranges[static_cast<std::size_t>(i)] && chart.curve(k).shown)
-                seen.include(samples.summary(samples.seek(state_->view.start(), samples.end()),
-                                             samples.seek(state_->view.end(), samples.end())));
-        }
-        if (!(scale.low < scale.high))
-            scale = {curve.low, curve.high, height};
-        scale = fitted(scale, seen.low, seen.high);
-        scale.height = height;
     }
 }
 
@@ -510,7 +528,7 @@ void CWntPulse::update_axes() {
     const std::vector<int> ranges = state_->chart.ranges();
     const auto show = [&](CWntAxis& axis, int range) {
         const auto curve = std::ranges::find(ranges, range);
-        if (curve == ranges.end() || !axis.IsWindowVisible())
+        if (curve == ranges.end() || !is_shown(axis))
             return;
         const ValueScale& scale = state_->scales[static_cast<std::size_t>(curve - ranges.begin())];
         const float least = float_of(scale.low), greatest = float_of(scale.high);
@@ -523,7 +541,7 @@ void CWntPulse::update_axes() {
         axis.Invalidate(FALSE);
     };
     show(left_, 0);
-    show(right_, 1);
+    show(right_, state_->chart.axes & side_left ? 1 : 0);
     std::int64_t start = 0, end = 0;
     time_.ScreenToValue(0, &start);
     time_.ScreenToValue(state_->plot().width(), &end);
@@ -592,8 +610,8 @@ void CWntPulse::draw_plot() {
     scene.grid = swapped(s.chart.grid_colour);
     if (s.chart.grid) {
         scene.grid_columns = grid_columns(s.view);
-        if (left_.IsWindowVisible())
-            scene.grid_rows = grid_rows(left_);
+        if (is_shown(left_) || is_shown(right_))
+            scene.grid_rows = grid_rows(is_shown(left_) ? left_ : right_);
     }
     const int thickness = std::max(s.scale / 100, 1);
     for (int i = 0; i < GetCurveCount(); ++i) {

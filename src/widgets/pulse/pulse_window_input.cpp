@@ -29,7 +29,7 @@ ON_WM_LBUTTONDBLCLK()
 ON_WM_LBUTTONUP()
 ON_WM_MOUSEMOVE()
 ON_WM_CAPTURECHANGED()
-ON_WM_RBUTTONUP()
+ON_WM_CONTEXTMENU()
 ON_WM_MOUSEWHEEL()
 ON_WM_KEYDOWN()
 ON_WM_CHAR()
@@ -101,7 +101,7 @@ void CWntPulse::OnLButtonUp(UINT flags, CPoint point) {
     if (!s.dragged) {
         put_cursor(flags & MK_CONTROL ? 1 : 0, s.time_at(point.x));
     } else if (drag == State::Drag::stretch) {
-        const auto [from, to] = std::minmax(s.time_at(s.drag_start.x), s.time_at(point.x));
+        const auto [from, to] = std::minmax({s.time_at(s.drag_start.x), s.time_at(point.x)});
         s.view.show(from, to);
         view_changed();
     }
@@ -120,8 +120,11 @@ void CWntPulse::OnCaptureChanged(CWnd*) {
     end_drag();
 }
 
-void CWntPulse::OnRButtonUp(UINT, CPoint point) {
-    ClientToScreen(&point);
+void CWntPulse::OnContextMenu(CWnd*, CPoint point) {
+    if (point == CPoint(-1, -1)) { // by the keyboard
+        point = rect_of(state_->plot()).CenterPoint();
+        ClientToScreen(&point);
+    }
     show_menu(point);
 }
 
@@ -133,6 +136,8 @@ void CWntPulse::zoom_at(int x, double factor) {
 
 BOOL CWntPulse::OnMouseWheel(UINT flags, short delta, CPoint point) {
     State& s = *state_;
+    if (s.drag != State::Drag::none)
+        return TRUE;
     s.wheel += delta;
     const int clicks = s.wheel / WHEEL_DELTA;
     s.wheel -= clicks * WHEEL_DELTA;
@@ -162,11 +167,23 @@ void CWntPulse::move_cursor(int which, int columns) {
     const PulseView& view = state_->view;
     const auto& cursor = state_->cursors[static_cast<std::size_t>(which)];
     const std::int64_t x = cursor ? view.x(*cursor) + columns : view.columns().width / 2;
-    put_cursor(which, view.time(std::clamp<std::int64_t>(x, 0, view.columns().width - 1)));
+    std::int64_t time = view.time(std::clamp<std::int64_t>(x, 0, view.columns().width - 1));
+    if (cursor && columns < 0) // where a hundredth is wider than a pixel
+        time = std::min(time, *cursor - 1);
+    else if (cursor)
+        time = std::max(time, *cursor + 1);
+    put_cursor(which, time);
 }
 
+// Escape is a dialog's own unless there is something here that it ends.
 UINT CWntPulse::OnGetDlgCode() {
-    return DLGC_WANTARROWS | DLGC_WANTCHARS;
+    const State& s = *state_;
+    const MSG* const question = GetCurrentMessage();
+    const auto* const key = question ? reinterpret_cast<const MSG*>(question->lParam) : nullptr;
+    const bool escape =
+        key && question->message == WM_GETDLGCODE && key->message == WM_KEYDOWN && key->wParam == VK_ESCAPE;
+    const bool ends = s.reading || s.drag != State::Drag::none || s.cursors[0] || s.cursors[1];
+    return DLGC_WANTARROWS | DLGC_WANTCHARS | (escape && ends ? DLGC_WANTMESSAGE : 0);
 }
 
 void CWntPulse::OnKeyDown(UINT key, UINT, UINT) {
@@ -243,6 +260,8 @@ void CWntPulse::OnHScroll(UINT code, UINT position, CScrollBar* bar) {
         const double whole = static_cast<double>(last - first);
         const auto start = first + static_cast<std::int64_t>(whole * info.nTrackPos / std::max(info.nMax, 1));
         s.view.scroll(s.view.columns().column(start) - s.view.origin());
+    } else if (code == SB_LEFT || code == SB_RIGHT) {
+        s.view.scroll((code == SB_LEFT ? std::int64_t{-1} : std::int64_t{1}) << 40);
     } else {
         const int page = code == SB_PAGELEFT || code == SB_PAGERIGHT ? width : std::max(width / scroll_part, 1);
         s.view.scroll(code == SB_LINELEFT || code == SB_PAGELEFT ? -page : page);

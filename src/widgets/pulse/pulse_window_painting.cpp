@@ -54,7 +54,9 @@ void CWntPulse::OnPaint() {
     CRect dirty;
     GetUpdateRect(&dirty);
     CRect outside;
-    state_->presented = false; // only what was uncovered is painted
+    const bool plot_touched = CRect().IntersectRect(&dirty, &plot) != FALSE;
+    if (plot_touched)
+        state_->presented = false; // only what was uncovered is painted
     const bool plot_alone = !outside.SubtractRect(&dirty, &plot);
     if (plot_alone && !s.overlaid()) { // finished pixels
         CPaintDC dc(this);
@@ -68,8 +70,10 @@ void CWntPulse::OnPaint() {
                   &state_->title_font);
         paint_legend(pass);
     }
-    paint_plot(pass.dc());
-    paint_overlay(pass);
+    if (plot_touched) {
+        paint_plot(pass.dc());
+        paint_overlay(pass);
+    }
     if (::GetFocus() == m_hWnd && !plot_alone) {
         CRect around = plot;
         around.InflateRect(2, 2);
@@ -129,7 +133,7 @@ void CWntPulse::paint_overlay(PaintPass& pass) {
         std::snprintf(text, sizeof text, "Reading: %lld records. Escape cancels.",
                       static_cast<long long>(s.reader.records()));
         CRect place = plot;
-        place.bottom = std::min<int>(place.top + 24, place.bottom);
+        place.bottom = std::min<int>(place.top + 24 * std::max(s.scale, 100) / 100, place.bottom);
         pass.text(place, text, DT_CENTER | single_line, s.chart.text, &s.font);
     }
 }

@@ -122,7 +122,7 @@ const char* CWntPulse::GetRecordingError() const {
 }
 
 int CWntPulse::OpenFile(const char* path, int spread) {
-    if (!this || !path || !m_hWnd)
+    if (!this || !path || !m_hWnd || state_->recorder.running())
         return 0;
     State& s = *state_;
     PulseReader reader;
@@ -162,7 +162,7 @@ void CWntPulse::read_on() {
                 s.chart.curve(curve).samples->append(time, value);
         });
     if (!more)
-        return end_reading(1);
+        return end_reading(s.reader.broken() ? 2 : 1);
     samples_arrived();
 }
 
@@ -184,6 +184,7 @@ void CWntPulse::end_reading(int whole) {
 int CWntPulse::CopyPicture() {
     if (!this || !m_hWnd)
         return 0;
+    RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN); // a menu may lie over it still
     CRect client;
     GetClientRect(&client);
     CClientDC screen(this);
@@ -209,10 +210,12 @@ int CWntPulse::CopyValues() {
     for (const ChartCurve& curve : s.chart.curves()) {
         const PulseSeries& samples = *curve.samples;
         const std::uint64_t end = samples.seek(s.view.end(), samples.end());
-        for (std::uint64_t i = samples.seek(s.view.start(), end); curve.shown && i != end && lines < most_copied;
+        for (std::uint64_t i = samples.seek(s.view.start(), end); curve.shown && i != end && lines <= most_copied;
              ++i, ++lines)
             append_line(text, samples[i], curve.title);
     }
+    if (lines > most_copied)
+        return 0;
     const HGLOBAL block = text_block(text);
     if (put_on_clipboard(*this, CF_TEXT, block))
         return 1;
@@ -225,6 +228,7 @@ int CWntPulse::Print() {
         return 0;
     if (std::exchange(state_->tip_shown, false))
         tip_.HideTip();
+    RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
     MakeHardcopy(this, state_->chart.title.empty() ? "Chart" : state_->chart.title.c_str());
     return 1;
 }
@@ -338,6 +342,8 @@ void CWntPulse::OnDropFiles(HDROP drop) {
     char path[MAX_PATH] = "";
     ::DragQueryFileA(drop, 0, path, sizeof path);
     ::DragFinish(drop);
-    if (!OpenFile(path, 1))
+    const StillThere self(*this);
+    SetFocus(); // for Escape
+    if (self && !OpenFile(path, 1))
         LoadFromFile(path);
 }

@@ -22,7 +22,7 @@ enum WntPulseCode : UINT {
     WNT_PULSE_CURSOR = 171,    ///< a cursor was moved: `which` 0 or 1, `time` where it stands now
     WNT_PULSE_CURVE = 172,     ///< a curve was shown or hidden by the legend: `which`
     WNT_PULSE_RECORDING = 173, ///< recording was started or ended, or failed: GetRecordingError()
-    WNT_PULSE_READ = 174,      ///< a file was read to its end, or reading was cancelled: `which` 1 or 0
+    WNT_PULSE_READ = 174,      ///< reading a file ended: `which` 1 at its end, 2 at what is no sample, 0 cancelled
 };
 
 struct WntPulseNotify {
@@ -78,6 +78,7 @@ public:
     /// Reads a whole script; quotes around the path are taken off. 1, or 0 when there is no such file.
     unsigned char LoadFromFile(const char* path);
     void SetTitle(const char* title);
+    /// Of the plot; text: of what lies over its curves.
     void SetColours(COLORREF background, COLORREF text, COLORREF grid);
 
     /// The curve's number, 0 to 9; -1 for an eleventh one, a range that is none, or without room for its samples. At
@@ -95,8 +96,8 @@ public:
 
     /// The present moment, in local time without daylight saving. It never runs back.
     static __int64 Now();
-    /// 0 for a curve that is not there, a time before the curve's newest one, and without memory. What is no number
-    /// makes a gap.
+    /// 0 for a curve that is not there, a time before the curve's newest one, while a file is read, and without memory.
+    /// What is no number makes a gap.
     int AddSample(int curve, double value, __int64 time);
     int AddSample(int curve, double value);
     /// How many of them were taken: up to the first that is refused.
@@ -130,8 +131,9 @@ public:
     /// The last value until then; 0 before the first and in a gap.
     int GetValueAt(int curve, __int64 time, double* value) const;
 
-    /// Writes every sample that arrives from now on, behind what an existing file holds. What comes with a time is
-    /// written with that, in whole seconds. It ends by itself, and the host is told, when the disk refuses.
+    /// Writes every value that arrives from now on for a curve that is there now, behind what an existing file holds:
+    /// with two decimals and in whole seconds of its time. It ends by itself, and the host is told, when the disk
+    /// refuses.
     int StartRecording(const char* path);
     int StopRecording();
     int IsRecording() const;
@@ -146,7 +148,7 @@ public:
     int IsReading() const;
 
     int CopyPicture();
-    /// The values shown, a line a sample: time, curve, value, parted by tabs.
+    /// The values shown, a line a sample: time, curve, value, parted by tabs. 0 for more than 2,000,000 of them.
     int CopyValues();
     /// Of the window, on the default printer.
     int Print();
@@ -165,7 +167,7 @@ protected:
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnCaptureChanged(CWnd* other);
-    afx_msg void OnRButtonUp(UINT flags, CPoint point);
+    afx_msg void OnContextMenu(CWnd* window, CPoint point);
     afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
     afx_msg void OnChar(UINT character, UINT repeat, UINT flags);
@@ -185,6 +187,7 @@ private:
     void take_text(const CString& text) override;
     void lay_out(int cx, int cy) override;
 
+    void forget_window();
     void arrange();
     void restyle();
     void samples_arrived();
