@@ -248,6 +248,8 @@ TEST(CurveRaster, MarksWhatStandsAlone) {
         return found;
     };
     EXPECT_EQ(marked({10, 20}), "8 9 10 11 12 18 19 20 21 22 ");
+    EXPECT_EQ(marked({10, 18}), "8 9 10 11 12 16 17 18 19 20 ");
+    EXPECT_EQ(marked({10, 17}), "");
     EXPECT_EQ(marked({10, 30, 37, 60}), "8 9 10 11 12 58 59 60 61 62 ");
 }
 
