@@ -54,6 +54,7 @@ protected:
     }
     void show() {
         chart_.SendMessage(WM_TIMER, 1, 0);
+        chart_.SendMessage(WM_TIMER, 1, 0); // nothing new: what is not shown at every tick is now
         chart_.UpdateWindow();
         for (CWnd* child = chart_.GetWindow(GW_CHILD); child; child = child->GetWindow(GW_HWNDNEXT))
             child->UpdateWindow();

@@ -17,10 +17,8 @@ void PulsePicture::show(const PlotScene& scene, bool anew) {
     const std::int64_t width = scene.columns.width;
     const std::int64_t moved = scene.origin - scene_.origin;
     drawn_ = {{0, width}};
-    moved_ = 0;
     if (!anew && follows(scene) && -width < moved && moved < width && same_grid(scene, moved)) {
         drawn_ = stale(scene, moved);
-        moved_ = moved;
         move(moved);
     }
     remember(scene);

@@ -27,11 +27,11 @@ struct CWntPulse::State {
     bool reading = false;
     bool tip_shown = false;
     int scale = 100;
-    bool ticking = false;      // the timer runs: while samples arrive
-    bool stale = false;        // samples arrived since the last picture
-    bool legend_stale = false; // and since the legend was written
-    bool presented = false;    // the window shows the picture, all of it and nothing over it
-    bool anew = true;          // the picture must be drawn anew
+    bool ticking = false;          // the timer runs: while samples arrive
+    ULONGLONG surroundings_at = 0; // when they were brought up to date
+    bool stale = false;            // samples arrived since the last picture
+    bool legend_stale = false;     // and since the legend was written
+    bool anew = true;              // the picture must be drawn anew
     Drag drag = Drag::none;
     CPoint drag_start, drag_at;
     bool dragged = false;

@@ -19,6 +19,7 @@ namespace {
 
 constexpr UINT left_id = 1, right_id = 2, time_id = 3, scroll_id = 4;
 constexpr UINT tick_milliseconds = 33; // a picture at most so often
+constexpr ULONGLONG surroundings_milliseconds = 200;
 constexpr int least_grid_distance = 50;
 constexpr int title_pixels = 14, text_pixels = 12; // of the characters at 96 dots an inch
 constexpr int scroll_steps = 1000;
@@ -116,7 +117,7 @@ void CWntPulse::leave() {
 void CWntPulse::forget_window() {
     State& s = *state_;
     s.drag = State::Drag::none;
-    s.stale = s.ticking = s.reading = s.tip_shown = s.presented = false;
+    s.stale = s.ticking = s.reading = s.tip_shown = false;
     s.anew = true;
     s.reader = PulseReader();
 }
@@ -419,10 +420,12 @@ void CWntPulse::samples_arrived() {
 
 void CWntPulse::OnTimer(UINT_PTR timer) {
     if (timer == pulse_tick_timer) {
-        if (std::exchange(state_->stale, false))
+        if (std::exchange(state_->stale, false)) {
             refresh(false);
-        else if (std::exchange(state_->ticking, false))
+        } else if (std::exchange(state_->ticking, false)) {
             KillTimer(pulse_tick_timer);
+            update_surroundings();
+        }
     } else if (timer == pulse_read_timer) {
         read_on();
     } else {
@@ -538,17 +541,17 @@ void CWntPulse::update_axes() {
         if (low == least && high == greatest)
             return;
         axis.SetRange(least, greatest);
-        axis.Invalidate(FALSE);
     };
     show(left_, 0);
     show(right_, state_->chart.axes & side_left ? 1 : 0);
+    if (!is_shown(time_))
+        return;
     std::int64_t start = 0, end = 0;
     time_.ScreenToValue(0, &start);
     time_.ScreenToValue(state_->plot().width(), &end);
     if (start == state_->view.start() && end == state_->view.end())
         return;
     time_.SetRange(state_->view.start(), state_->view.end());
-    time_.Invalidate(FALSE);
 }
 
 void CWntPulse::update_scroll_bar() {
@@ -578,16 +581,25 @@ void CWntPulse::refresh(bool anew) {
     s.know_history();
     update_ranges();
     update_axes();
-    update_scroll_bar();
     s.anew = s.anew || anew;
     if (s.anew || s.overlaid()) {
         InvalidateRect(rect_of(s.plot()), FALSE);
-    } else {
-        follow();
+    } else { // finished pixels, at once
+        CClientDC dc(this);
+        paint_plot(dc);
     }
+    if (anew || !s.ticking || ::GetTickCount64() - s.surroundings_at >= surroundings_milliseconds)
+        update_surroundings();
+    update_tip();
+}
+
+// The scroll bar, and the values of the legend, which are read rather than watched.
+void CWntPulse::update_surroundings() {
+    State& s = *state_;
+    s.surroundings_at = ::GetTickCount64();
+    update_scroll_bar();
     if (const CRect legend = rect_of(s.layout.legend); std::exchange(s.legend_stale, false) && !legend.IsRectEmpty())
         InvalidateRect(legend, FALSE);
-    update_tip();
 }
 
 void CWntPulse::view_changed() {
@@ -625,45 +637,16 @@ void CWntPulse::draw_plot() {
     s.picture.show(scene, std::exchange(s.anew, false));
 }
 
-void CWntPulse::copy_columns(CDC& dc, int from, int to) {
+void CWntPulse::paint_plot(CDC& dc) {
     const CRect plot = rect_of(state_->plot());
+    if (plot.IsRectEmpty())
+        return;
+    draw_plot();
     const PlotCanvas canvas = state_->picture.canvas();
     BITMAPINFO info = {};
     info.bmiHeader = {
         sizeof info.bmiHeader, static_cast<LONG>(canvas.stride), -canvas.height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
     const auto offset = static_cast<int>(state_->picture.offset());
-    ::SetDIBitsToDevice(dc, plot.left + from, plot.top, static_cast<DWORD>(to - from), canvas.height, offset + from, 0,
-                        0, canvas.height, canvas.pixels - offset, &info, DIB_RGB_COLORS);
-}
-
-void CWntPulse::paint_plot(CDC& dc) {
-    if (rect_of(state_->plot()).IsRectEmpty())
-        return;
-    draw_plot();
-    copy_columns(dc, 0, state_->picture.canvas().width);
-}
-
-// At once, without a paint message: where the window shows the picture before, all of it, that is moved.
-void CWntPulse::follow() {
-    State& s = *state_;
-    const CRect plot = rect_of(s.plot());
-    if (plot.IsRectEmpty())
-        return;
-    draw_plot();
-    CClientDC dc(this);
-    CRect seen;
-    const bool whole = dc.GetClipBox(&seen) == SIMPLEREGION && seen.left <= plot.left && seen.top <= plot.top &&
-                       seen.right >= plot.right && seen.bottom >= plot.bottom && !GetUpdateRect(nullptr);
-    const int width = s.picture.canvas().width;
-    const auto moved = static_cast<int>(s.picture.moved());
-    if (!whole || !s.presented) {
-        copy_columns(dc, 0, width);
-    } else {
-        if (moved != 0)
-            dc.BitBlt(plot.left + std::max(-moved, 0), plot.top, width - std::abs(moved), plot.Height(), &dc,
-                      plot.left + std::max(moved, 0), plot.top, SRCCOPY);
-        for (const auto& [left, right] : s.picture.drawn())
-            copy_columns(dc, static_cast<int>(left), static_cast<int>(right));
-    }
-    s.presented = whole;
+    ::SetDIBitsToDevice(dc, plot.left, plot.top, canvas.width, canvas.height, offset, 0, 0, canvas.height,
+                        canvas.pixels - offset, &info, DIB_RGB_COLORS);
 }

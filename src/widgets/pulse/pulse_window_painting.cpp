@@ -55,8 +55,6 @@ void CWntPulse::OnPaint() {
     GetUpdateRect(&dirty);
     CRect outside;
     const bool plot_touched = CRect().IntersectRect(&dirty, &plot) != FALSE;
-    if (plot_touched)
-        state_->presented = false; // only what was uncovered is painted
     const bool plot_alone = !outside.SubtractRect(&dirty, &plot);
     if (plot_alone && !s.overlaid()) { // finished pixels
         CPaintDC dc(this);

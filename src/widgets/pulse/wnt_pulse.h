@@ -195,14 +195,13 @@ private:
     void update_ranges();
     void update_axes();
     void update_scroll_bar();
+    void update_surroundings();
     void update_tip();
     void view_changed();
     bool tell(UINT code, int which = 0, __int64 time = 0);
     void paint_legend(wnt::PaintPass& pass);
     void draw_plot();
-    void copy_columns(CDC& dc, int from, int to);
     void paint_plot(CDC& dc);
-    void follow();
     void paint_overlay(wnt::PaintPass& pass);
     bool legend_click(CPoint point);
     void zoom_at(int x, double factor);
