@@ -3,6 +3,7 @@
 #include "compare.h"
 
 #include "widgets/pulse/pulse_picture.h"
+#include "widgets/pulse/pulse_transfer.h"
 
 #include <benchmark/benchmark.h>
 
@@ -10,6 +11,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <ctime>
+#include <string>
 #include <vector>
 
 using namespace wnt;
@@ -111,6 +114,58 @@ void rows(benchmark::State& state) {
         loop);
 }
 BENCHMARK(rows)->Name("pulse/rows of values/plain loop");
+
+// A file of ten curves, a sample a second of each, beside the plain library reading the same text into the same times.
+constexpr int records = 50'000;
+constexpr const char* record_file = "pulse_display_bench.txt";
+
+void write_records() {
+    PulseRecorder recorder;
+    std::vector<std::string> titles(10, "Curve");
+    check(recorder.start(record_file, titles).empty(), "the file cannot be written");
+    for (int i = 0; i < records; ++i)
+        recorder.put(i % 10, i * 0.25, 1'700'000'000 + i / 10);
+}
+
+double read_by_reader() {
+    PulseReader reader;
+    double sum = 0;
+    check(reader.open(record_file).empty(), "the file cannot be read");
+    while (reader.read(1000, [&](int curve, std::int64_t time, double value) { sum += curve + value + time % 1000; })) {
+    }
+    return sum;
+}
+
+double read_by_library() {
+    std::FILE* const file = std::fopen(record_file, "r");
+    char line[128];
+    for (int i = 0; i < 11; ++i) // the header
+        benchmark::DoNotOptimize(std::fgets(line, sizeof line, file));
+    double sum = 0;
+    int curve;
+    float value;
+    std::tm at{};
+    while (std::fscanf(file, "%d;%f;%d:%d:%d;%d/%d/%d;", &curve, &value, &at.tm_hour, &at.tm_min, &at.tm_sec,
+                       &at.tm_mday, &at.tm_mon, &at.tm_year) == 8) {
+        std::tm fields = at;
+        fields.tm_mon -= 1;
+        fields.tm_year -= 1900;
+        fields.tm_isdst = -1;
+        sum += curve + static_cast<double>(value) + static_cast<double>(axis_time_of(std::mktime(&fields)) % 1000);
+    }
+    std::fclose(file);
+    return sum;
+}
+
+void reading(benchmark::State& state) {
+    write_records();
+    check(read_by_reader() == read_by_library(), "other samples were read");
+    compare(
+        state, records, [] { benchmark::DoNotOptimize(read_by_reader()); },
+        [] { benchmark::DoNotOptimize(read_by_library()); });
+    std::remove(record_file);
+}
+BENCHMARK(reading)->Name("pulse/reading a file/fscanf and mktime");
 
 } // namespace
 

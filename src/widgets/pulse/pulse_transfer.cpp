@@ -103,7 +103,7 @@ bool PulseRecorder::grown() {
 
 std::string PulseRecorder::part_name(std::int64_t seconds) const {
     const std::filesystem::path path(first_path_);
-    char what[24] = "";
+    char what[40] = "";
     if (const auto fields = local_fields(seconds); daily_ && fields)
         std::snprintf(what, sizeof what, "-%04d%02d%02d", fields->tm_year + 1900, fields->tm_mon + 1, fields->tm_mday);
     std::string name = path.stem().string() + what;
@@ -194,15 +194,16 @@ bool PulseReader::read(int records, const std::function<void(int, std::int64_t, 
             return false;
         }
         ++records_;
-        std::int64_t moment = 0;
-        const bool dated = without_result_error([&] { moment = moment_of(parse_stamp(sample->stamp), -1); });
-        if (!dated || sample->curve < 0 || sample->curve >= static_cast<int>(seconds_.size()))
+        if (stamp_ != sample->stamp) { // most samples come with others of their second
+            stamp_ = sample->stamp;
+            dated_ = without_result_error([&] { time_ = axis_time_of(moment_of(parse_stamp(sample->stamp), -1)); });
+        }
+        if (!dated_ || sample->curve < 0 || sample->curve >= static_cast<int>(seconds_.size()))
             continue;
-        const std::int64_t time = axis_time_of(moment);
         Second& second = seconds_[static_cast<std::size_t>(sample->curve)];
-        if (second.time != time)
+        if (second.time != time_)
             flush(sample->curve, take);
-        second.time = time;
+        second.time = time_;
         second.values.push_back(sample->value);
     }
     return true;

@@ -92,6 +92,9 @@ private:
         std::int64_t last = -PulseSeries::latest, shift = 0;
     };
     std::vector<Onward> onwards_;
+    std::string stamp_; // of the last sample, and what it says
+    std::int64_t time_ = 0;
+    bool dated_ = false;
     bool spread_ = false;
     std::int64_t records_ = 0;
     bool broken_ = false;
