@@ -246,6 +246,17 @@ TEST_F(AxisTest, MarksAcrossTheAxisAreEngraved) {
     }
 }
 
+TEST_F(AxisTest, AnotherNumberOfTicksIsShownAtOnce) {
+    axis_.SetFlags(2, 7, 0);
+    size(300, 50);
+    axis_.SetRange(0.0f, 100.0f);
+    full_repaint(axis_);
+    const Pixels before = pixels_of(axis_);
+    axis_.SetTicks(10);
+    axis_.UpdateWindow();
+    EXPECT_NE(pixels_of(axis_), before);
+}
+
 TEST_F(AxisTest, LosingTheMouseEndsTheDrag) {
     size(300, 60);
     axis_.SetRange(0.0f, 100.0f);

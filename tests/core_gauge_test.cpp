@@ -1,4 +1,5 @@
 #include "widgets/gauge/gauge_scale.h"
+#include "widgets/gauge/value_history.h"
 
 #include <gtest/gtest.h>
 
@@ -13,6 +14,19 @@ GaugeModel model_of(std::initializer_list<std::string_view> lines) {
     for (std::string_view line : lines)
         model.load_line(line);
     return model;
+}
+
+TEST(ValueHistory, HoldsTheHighestOfAllSinceTheLastClear) {
+    ValueHistory history;
+    for (const int value : {-7, -9, -3})
+        history.record(value);
+    EXPECT_EQ(history.highest(), -3);
+    for (int i = 0; i < 2 * ValueHistory::capacity; ++i)
+        history.record(-100);
+    EXPECT_EQ(history.highest(), -3);
+    history.clear();
+    history.record(-50);
+    EXPECT_EQ(history.highest(), -50);
 }
 
 TEST(GaugeModel, EveryKeyMarksItsPartForRepaint) {

@@ -48,7 +48,13 @@ TEST(Keywords, LookupsKeepTheirOddAnswers) {
     EXPECT_EQ(leading_key_lookup(button_keys, "BORDERH=3", 19), 10);
     EXPECT_EQ(leading_key_lookup(button_keys, "WORDWRAP X", 18), -1);
 
-    EXPECT_EQ(colour_values[colour_lookup("DARKYELLOW")], 0x008080u);
+    for (const auto& [name, value] : {std::pair{"DARKYELLOW", 0x008080u},
+                                      {"GRAY", 0xC0C0C0u},
+                                      {"DARKGRAY", 0x808080u},
+                                      {"BLUE", 0xFF0000u},
+                                      {"DARKRED", 0x000080u},
+                                      {"CYAN", 0xFFFF00u}})
+        EXPECT_EQ(colour_values[colour_lookup(name)], value) << name;
     expect_codes(colour_lookup, {{"DARKBLUE ", 255}, {text_of(nullptr), 255}});
     EXPECT_TRUE(!keyword_at(colour_words, 255) && !keyword_at(side_words, -1) && !line_style_word(256));
 }
