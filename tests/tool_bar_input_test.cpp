@@ -214,6 +214,19 @@ TEST_F(ToolBar, ItemsAreDraggedWhereThatIsAllowed) {
 
 TEST_F(ToolBar, MayBeDestroyedByAnythingItTells) {
     const auto end_bar = [&] { delete std::exchange(bar_, nullptr); };
+    const auto embed_and = [&](const std::function<void()>& remove) {
+        CEdit edit;
+        ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 60, 18), &host_, 130));
+        CWntToolItem item(130, "", WNT_TOOL_WINDOW);
+        item.window = &edit;
+        ASSERT_EQ(bar_->AddItem(item), 1);
+        edit.SetFocus();
+        host_.on_message = [&](UINT message, WPARAM w) {
+            if (message == WM_COMMAND && HIWORD(w) == EN_KILLFOCUS)
+                end_bar();
+        };
+        remove();
+    };
     const std::function<void()> ways[] = {
         [&] {
             host_.on_command = [&](UINT) { end_bar(); };
@@ -253,6 +266,13 @@ TEST_F(ToolBar, MayBeDestroyedByAnythingItTells) {
             bar_->MoveWindow(0, 0, 20, 26);
             with_menu([&] { mouse(WM_LBUTTONDOWN, CPoint(12, 12)); }, {VK_ESCAPE}, [&](HMENU) { end_bar(); });
         },
+        [&] { // which then asks whether its command has a handler
+            host_.state = [&](CCmdUI&) { end_bar(); };
+            bar_->SendMessage(WM_IDLEUPDATECMDUI, TRUE);
+        },
+        [&] { embed_and([&] { bar_->RemoveItem(2); }); },
+        [&] { embed_and([&] { bar_->RemoveAll(); }); },
+        [&] { embed_and([&] { script({}); }); },
         [&] { // by the end of an input that the bar's focus ends
             edit_.SetFocus();
             host_.on_message = [&](UINT message, WPARAM w) {
@@ -283,6 +303,48 @@ TEST_F(ToolBar, MayBeDestroyedByAnythingItTells) {
         EXPECT_FALSE(bar_) << way;
         ++way;
     }
+}
+
+TEST_F(ToolBar, ItemsMayGoWhenItTakesTheFocus) {
+    CEdit edit;
+    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 60, 18), &host_, 130));
+    CWntToolItem item(130, "", WNT_TOOL_WINDOW);
+    item.window = &edit;
+    script({":ITEM=100,0", ":ITEM=101,0"});
+    ASSERT_EQ(bar_->AddItem(item), 1);
+    bar_->SetFocus();
+    key(VK_END);
+    EXPECT_EQ(::GetFocus(), edit.m_hWnd);
+    EXPECT_EQ(bar_->RemoveItem(2), 1); // the last one, where the focus was
+    EXPECT_EQ(::GetFocus(), bar_->m_hWnd);
+    key(VK_RIGHT);
+    full_repaint(*bar_);
+    EXPECT_EQ(focused(), 101u);
+
+    edit_.SetFocus();
+    host_.on_message = [&](UINT message, WPARAM w) {
+        if (message == WM_COMMAND && HIWORD(w) == EN_KILLFOCUS)
+            bar_->RemoveAll();
+    };
+    MSG f6 = {edit_.m_hWnd, WM_KEYDOWN, VK_F6, 1, 0, {}};
+    EXPECT_EQ(bar_->FilterKey(&f6), 1);
+    EXPECT_EQ(bar_->GetItemCount(), 0);
+}
+
+TEST_F(ToolBar, AnOwnerMayGoBeforeItsBar) {
+    auto* owner = new Trapping<ToolHost>;
+    ASSERT_TRUE(owner->CreateEx(0, nullptr, "owner", WS_POPUP, CRect(0, 0, 9, 9), &host_, 0));
+    bar_->SetOwner(owner);
+    script({":ITEM=100,0", ":ITEM=101,0", ":DROPDOWN=102,0", ":MENU=110,a", ":MENU=111,b"});
+    owner->state = [&](CCmdUI& ui) {
+        ui.Enable(ui.m_nID != 100);
+        const std::unique_ptr<ToolHost> ended(std::exchange(owner, nullptr));
+        ended->DestroyWindow();
+    };
+    bar_->UpdateItems();
+    EXPECT_FALSE(owner);
+    EXPECT_EQ(checked(100) + checked(101), 10);
+    click(102); // whose menu has nobody to go to
 }
 
 } // namespace

@@ -156,6 +156,8 @@ TEST_F(ToolBar, HoldsWindowsOfTheHosts) {
     embedded.window = &host_;
     EXPECT_EQ(bar_->AddItem(embedded), 0); // it holds the bar
     embedded.window = &button;
+    EXPECT_EQ(bar_->InsertItem(5000, embedded) + bar_->InsertItem(-1, embedded), 0);
+    EXPECT_EQ(button.GetParent(), &host_) << "what is refused stays where it was";
     EXPECT_EQ(bar_->AddItem(CWntToolItem(100, "a")) + bar_->AddItem(embedded) + bar_->AddItem(CWntToolItem(101, "b")),
               3);
     EXPECT_EQ(button.GetParent(), bar_);

@@ -113,7 +113,7 @@ bool ToolBarModel::add_menu_entry(std::string_view value) {
 }
 
 bool ToolBarModel::insert(int index, ToolItem item) {
-    if (index < 0 || index > count() || count() == most_tools)
+    if (!takes(index))
         return false;
     if (item.text.size() > longest_tool_text)
         item.text.resize(longest_tool_text);

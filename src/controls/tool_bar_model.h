@@ -57,7 +57,9 @@ public:
     const ToolItem& item(int index) const { return items_[static_cast<std::size_t>(index)]; }
     int count() const { return static_cast<int>(items_.size()); }
     bool has(int index) const { return index >= 0 && index < count(); }
-    /// False for one too many, or a place that is not there.
+    /// There is room for one more, and this is a place for it.
+    bool takes(int index) const { return index >= 0 && index <= count() && count() < most_tools; }
+    /// False where it does not.
     bool insert(int index, ToolItem item);
     bool remove(int index);
     void clear() { items_.clear(); }

@@ -214,13 +214,14 @@ private:
 
     // Commands and menus. Where they answer false, the host destroyed the bar.
     CWnd* target() const;
+    CWnd* handlers() const;
     bool update_items(bool disable);
     bool update_menu(HMENU menu, int depth);
     bool send_command(UINT id);
     bool press(int index);
     bool drop_menu(int index);
     bool open_overflow();
-    UINT track_menu(HMENU menu, const CRect& place, CWnd* owner);
+    UINT track_menu(HMENU menu, const CRect& place, HWND owner);
     bool tell(UINT code, WntToolNotify& told, LRESULT& answer);
 
     // Pointer and keyboard.

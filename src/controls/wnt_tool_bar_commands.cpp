@@ -77,7 +77,7 @@ UINT flags_of(const wnt::ToolItem& item) {
 /// Tells the owner's handlers about one item, and the item what they say.
 class CWntToolBar::ItemState : public CCmdUI {
 public:
-    ItemState(CWntToolBar& bar, int index) : bar_(bar) {
+    ItemState(CWntToolBar& bar, int index) : bar_(bar), bar_there_(bar) {
         m_nIndex = static_cast<UINT>(index);
         m_nIndexMax = static_cast<UINT>(bar.model_->count());
         m_nID = static_cast<UINT>(bar.model_->item(index).id);
@@ -104,10 +104,11 @@ public:
 private:
     int index() const { return static_cast<int>(m_nIndex); }
     wnt::ToolItem& item() { return bar_.model_->item(index()); }
-    // A handler may have changed the items.
-    bool is_there() { return bar_.model_->has(index()) && item().id == static_cast<int>(m_nID); }
+    // A handler may have changed the items, or ended the bar.
+    bool is_there() { return bar_there_ && bar_.model_->has(index()) && item().id == static_cast<int>(m_nID); }
 
     CWntToolBar& bar_;
+    const wnt::StillThere bar_there_;
 };
 
 // Panes of the library's only hand on what they are told.
@@ -118,15 +119,21 @@ CWnd* CWntToolBar::target() const {
     return owner;
 }
 
+// A window of another kind has no handlers: null. Asked anew after each of them, which may end it.
+CWnd* CWntToolBar::handlers() const {
+    CWnd* const owner = target();
+    return owner && CWnd::FromHandlePermanent(owner->m_hWnd) == owner ? owner : nullptr;
+}
+
 bool CWntToolBar::update_items(bool disable) {
     const HWND self = m_hWnd;
-    CWnd* const owner = target();
-    if (!owner || CWnd::FromHandlePermanent(owner->m_hWnd) != owner)
-        return true; // a window of another kind has no handlers
     for (int i = 0; i < model_->count(); ++i) {
         const wnt::ToolKind kind = model_->item(i).kind;
         if (!wnt::is_button(kind))
             continue;
+        CWnd* const owner = handlers();
+        if (!owner)
+            break;
         ItemState(*this, i).DoUpdate(owner, disable && kind != wnt::ToolKind::drop_down);
         if (!is_alive(this, self))
             return false;
@@ -177,8 +184,7 @@ bool CWntToolBar::tell(UINT code, WntToolNotify& told, LRESULT& answer) {
 bool CWntToolBar::update_menu(HMENU menu, int depth) {
     constexpr int deepest = 8;
     const HWND self = m_hWnd;
-    CWnd* const owner = target();
-    if (depth > deepest || !owner || CWnd::FromHandlePermanent(owner->m_hWnd) != owner)
+    if (depth > deepest)
         return true;
     CCmdUI state;
     state.m_pMenu = CMenu::FromHandle(menu);
@@ -193,6 +199,9 @@ bool CWntToolBar::update_menu(HMENU menu, int depth) {
         state.m_nID = ::GetMenuItemID(menu, position);
         if (state.m_nID == 0 || state.m_nID >= first_hidden)
             continue;
+        CWnd* const owner = handlers();
+        if (!owner)
+            break;
         state.DoUpdate(owner, auto_disable_);
         if (!is_alive(this, self))
             return false;
@@ -201,9 +210,9 @@ bool CWntToolBar::update_menu(HMENU menu, int depth) {
 }
 
 // The command that was chosen; 0: none. Nothing is left when the bar was destroyed meanwhile.
-UINT CWntToolBar::track_menu(HMENU menu, const CRect& place, CWnd* owner) {
+UINT CWntToolBar::track_menu(HMENU menu, const CRect& place, HWND owner) {
     const HWND self = m_hWnd;
-    if (!update_menu(menu, 0))
+    if (!update_menu(menu, 0) || !::IsWindow(owner))
         return 0;
     TPMPARAMS around = {};
     around.cbSize = sizeof around;
@@ -211,8 +220,8 @@ UINT CWntToolBar::track_menu(HMENU menu, const CRect& place, CWnd* owner) {
     const bool upright = model_->upright;
     const UINT flags = TPM_LEFTALIGN | TPM_TOPALIGN | TPM_LEFTBUTTON | TPM_RETURNCMD | (upright ? 0 : TPM_VERTICAL);
     UpdateWindow();
-    const UINT chosen = static_cast<UINT>(::TrackPopupMenuEx(
-        menu, flags, upright ? place.right : place.left, upright ? place.top : place.bottom, owner->m_hWnd, &around));
+    const UINT chosen = static_cast<UINT>(::TrackPopupMenuEx(menu, flags, upright ? place.right : place.left,
+                                                             upright ? place.top : place.bottom, owner, &around));
     if (!is_alive(this, self))
         return 0;
     // The click on the item that closes its menu does not open it again.
@@ -249,7 +258,7 @@ bool CWntToolBar::drop_menu(int index) {
     pressed_ = index;
     pressed_inside_ = true;
     invalidate_item(index);
-    const UINT chosen = track_menu(told.menu, place, owner);
+    const UINT chosen = track_menu(told.menu, place, owner->GetSafeHwnd());
     if (!is_alive(this, self))
         return false;
     pressed_ = wnt::no_tool;
@@ -287,7 +296,7 @@ bool CWntToolBar::open_overflow() {
     pressed_ = wnt::tool_chevron;
     pressed_inside_ = true;
     invalidate_item(pressed_);
-    const UINT chosen = track_menu(menu.handle(), place, this);
+    const UINT chosen = track_menu(menu.handle(), place, self);
     if (!is_alive(this, self))
         return false;
     pressed_ = wnt::no_tool;

@@ -58,7 +58,8 @@ void CWntToolBar::OnDestroy() {
 bool CWntToolBar::is_usable(int index) const {
     if (place_of(index).IsRectEmpty())
         return false;
-    return index == wnt::tool_chevron || (wnt::is_button(model_->item(index).kind) && model_->item(index).enabled);
+    return index == wnt::tool_chevron ||
+           (model_->has(index) && wnt::is_button(model_->item(index).kind) && model_->item(index).enabled);
 }
 
 int CWntToolBar::hit(CPoint point) const {
@@ -339,8 +340,13 @@ int CWntToolBar::FilterKey(const MSG* message) {
     }
     if (focus_stops().empty())
         return 0;
-    if (give_focus(m_hWnd))
-        set_focused(focused_ == wnt::no_tool ? focus_stops().front() : focused_);
+    if (!give_focus(m_hWnd))
+        return 1;
+    const std::vector<int> stops = focus_stops(); // anew: who lost the focus may have changed the items
+    if (focused_ != wnt::no_tool)
+        set_focused(focused_);
+    else if (!stops.empty())
+        set_focused(stops.front());
     return 1;
 }
 
