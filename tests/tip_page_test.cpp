@@ -108,8 +108,13 @@ TEST_F(TipPage, RemembersTheLastTipAndTheChoice) {
     press(start_id);
     EXPECT_EQ(host_.notified.back().code, WNT_TIP_START);
     EXPECT_EQ(CWntTipPage::IsShownAtStart(profile_, "tips"), 0);
-    next_start("a");
-    EXPECT_EQ(static_cast<CButton*>(page_->GetDlgItem(start_id))->GetCheck(), BST_UNCHECKED);
+    for (const bool profile_first : {false, true}) {
+        next_start("a", profile_first);
+        EXPECT_EQ(static_cast<CButton*>(page_->GetDlgItem(start_id))->GetCheck(), BST_UNCHECKED) << profile_first;
+    }
+    ::WritePrivateProfileStringA("tips", "Tip", "7", profile_); // by another one
+    page_->MoveWindow(0, 0, 300, 200);
+    EXPECT_EQ(::GetPrivateProfileIntA("tips", "Tip", 0, profile_), 7u) << "only a turn is stored";
     EXPECT_TRUE(translated(*page_, 's'));
     EXPECT_EQ(CWntTipPage::IsShownAtStart(profile_, "tips"), 1);
 }

@@ -126,6 +126,24 @@ TEST_F(ToolBar, WhatDoesNotFitIsBehindTheChevron) {
     key(VK_END);
     with_menu([&] { key(VK_SPACE); }, {VK_UP, VK_RIGHT, VK_RETURN});
     EXPECT_EQ(host_.commands.back(), 120u);
+    host_.state = [](CCmdUI& ui) { ui.Enable(); };
+    host_.commands.clear();
+    with_menu([&] { mouse(WM_LBUTTONDOWN, chevron); }, {VK_DOWN, VK_RETURN},
+              [&](HMENU) { bar_->EnableItem(102, 0); }); // meanwhile
+    EXPECT_TRUE(host_.commands.empty());
+    host_.answer = [&](WntToolNotify& n) -> LRESULT {
+        if (n.hdr.code == WNT_TOOL_DROPPING)
+            ::AppendMenuA(n.menu, MF_STRING, 121, "Deeper");
+        return 0;
+    };
+    with_menu([&] { mouse(WM_LBUTTONDOWN, chevron); }, {VK_ESCAPE},
+              [](HMENU menu) { EXPECT_EQ(::GetMenuItemCount(::GetSubMenu(menu, 3)), 2); });
+    ::DestroyMenu(host_menu.Detach());
+    with_menu([&] { mouse(WM_LBUTTONDOWN, chevron); }, {VK_ESCAPE},
+              [](HMENU menu) { EXPECT_EQ(::GetMenuItemCount(menu), 4) << "an item without its menu stays"; });
+    script({":ITEM=100,0", ":LABEL=only a text that has no room"});
+    EXPECT_EQ(bar_->GetItemRect(-2, nullptr), 0);
+    script({":ITEM=100,0", ":ITEM=101,0", ":ITEM=102,0", ":ITEM=103,0", ":ITEM=104,0"});
     bar_->SetWrapping(1);
     bar_->MoveWindow(0, 0, 66, 100);
     EXPECT_GE(shown(), 5);
@@ -198,6 +216,13 @@ TEST_F(ToolBar, ItemsAreDraggedWhereThatIsAllowed) {
     EXPECT_TRUE(host_.commands.empty());
     click(100);
     EXPECT_THAT(host_.commands, ElementsAre(100u));
+    host_.answer = [&](WntToolNotify& n) -> LRESULT {
+        return n.hdr.code == WNT_TOOL_MOVING && bar_->RemoveItem(bar_->FindItem(102)) == 0;
+    };
+    drag(100, CPoint(0, 10)); // which has another place when it is let go
+    mouse(WM_LBUTTONUP, CPoint(0, 10));
+    EXPECT_THAT(order(), ElementsAre(100u, 101u));
+    script({":ITEM=101,0", ":ITEM=102,0", ":ITEM=100,0"});
 
     char folder[MAX_PATH];
     ::GetTempPathA(sizeof folder, folder);

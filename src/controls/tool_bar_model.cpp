@@ -146,6 +146,11 @@ int ToolBarModel::find(int id) const {
     return found == items_.end() ? -1 : static_cast<int>(found - items_.begin());
 }
 
+int ToolBarModel::position_of(int added) const {
+    const auto found = std::find_if(items_.begin(), items_.end(), [=](const ToolItem& i) { return i.added == added; });
+    return found == items_.end() ? -1 : static_cast<int>(found - items_.begin());
+}
+
 bool ToolBarModel::set_check(int index, int check) {
     if (!has(index) || item(index).check == check)
         return false;

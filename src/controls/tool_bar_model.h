@@ -15,7 +15,7 @@ inline constexpr std::string_view tool_bar_keys[] = {
 inline constexpr std::string_view tool_text_words[] = {"NONE", "BESIDE", "BELOW"}; // as ToolText
 
 inline constexpr int most_tools = 1000;
-inline constexpr int highest_command = 0xFFFF;
+inline constexpr int highest_command = 0xFFFE; // the system's separators have the one behind
 inline constexpr int longest_tool_text = 100;
 
 enum ToolCheck { unchecked, checked, undecided };
@@ -70,6 +70,8 @@ public:
     int find(int id) const;
     /// Of a group no other item stays checked.
     bool set_check(int index, int check);
+    /// Where the item is that was added as this one, or -1.
+    int position_of(int added) const;
     /// What a press does to the item by itself: checks, picks.
     void press(int index);
 

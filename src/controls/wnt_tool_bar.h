@@ -182,6 +182,7 @@ protected:
 
 private:
     class ItemState;
+    class PopupMenu;
     struct Drag;
     struct Painting;
 
@@ -219,7 +220,9 @@ private:
     bool update_menu(HMENU menu, int depth);
     bool send_command(UINT id);
     bool press(int index);
+    bool ask_menu(int added, const CRect& place, PopupMenu& own, HMENU& menu);
     bool drop_menu(int index);
+    bool add_hidden(PopupMenu& all, int added, const CRect& place);
     bool open_overflow();
     UINT track_menu(HMENU menu, const CRect& place, HWND owner);
     bool tell(UINT code, WntToolNotify& told, LRESULT& answer);

@@ -205,7 +205,11 @@ void CWntToolBar::drop_item(int from, int to) {
     ClientToScreen(&place);
     WntToolNotify told = {{}, static_cast<UINT>(model_->item(from).id), from, to, nullptr, place};
     LRESULT refused = 0;
-    if (!tell(WNT_TOOL_MOVING, told, refused) || refused || !model_->move(from, told.to))
+    const int added = model_->item(from).added;
+    if (!tell(WNT_TOOL_MOVING, told, refused) || refused)
+        return;
+    from = model_->position_of(added);
+    if (!model_->has(from) || !model_->move(from, told.to))
         return;
     items_changed();
     told.to = told.index = told.to > from ? told.to - 1 : told.to;
