@@ -90,6 +90,16 @@ TEST_F(TabsFocus, APageThatLosesItMayEndTheTabs) {
     }
 }
 
+TEST_F(TabsFocus, GoesIntoTheNextPage) {
+    const std::function<void()> ways[] = {[&] { tabs_->Select(1); }, [&] { tabs_->RemoveTab(0); },
+                                          [&] { tabs_->EnableTab(0, 0); }};
+    for (const auto& leave : ways) {
+        open();
+        leave();
+        EXPECT_EQ(::GetFocus(), inputs_[1]->m_hWnd);
+    }
+}
+
 TEST_F(TabsFocus, APageThatLosesItMaySelectAnother) {
     for (const int chosen : {0, 2}) {
         open();

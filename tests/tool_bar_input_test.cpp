@@ -25,6 +25,19 @@ TEST_F(ToolBar, TheKeyboardWorksIt) {
         bar_->UpdateWindow();
         EXPECT_EQ(focused(), id) << k;
     }
+    script({":ITEM=100,0", ":ITEM=101,0", ":ITEM=102,0", ":ITEM=103,0"});
+    for (const auto& [k, id] : {std::pair{VK_LEFT, 101u}, {VK_RIGHT, 103u}}) {
+        bar_->EnableItem(102, 1);
+        key(VK_HOME);
+        key(VK_RIGHT);
+        key(VK_RIGHT);
+        bar_->EnableItem(102, 0);
+        key(static_cast<UINT>(k));
+        full_repaint(*bar_);
+        EXPECT_EQ(focused(), id) << "beside the one that was disabled";
+    }
+    script({":ITEM=100,0,one", ":DISABLED=100", ":SEPARATOR", ":CHECK=101,0,two", ":ITEM=102,0,three"});
+    key(VK_END);
     key(VK_RETURN);
     key(VK_HOME);
     key(VK_SPACE);

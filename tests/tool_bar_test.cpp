@@ -182,8 +182,12 @@ TEST_F(ToolBar, HoldsWindowsOfTheHosts) {
     EXPECT_EQ(::GetFocus(), button.m_hWnd);
     EXPECT_TRUE(bar_->PreTranslateMessage(&escape));
     EXPECT_EQ(::GetFocus(), edit_.m_hWnd);
+    bar_->SetFocus();
+    key(VK_RIGHT);
+    EXPECT_EQ(::GetFocus(), button.m_hWnd);
     bar_->MoveWindow(0, 0, 40, 26);
     EXPECT_FALSE(button.IsWindowVisible());
+    EXPECT_EQ(::GetFocus(), edit_.m_hWnd) << "a hidden window has no focus";
     bar_->MoveWindow(0, 0, 400, 26);
     EXPECT_TRUE(button.IsWindowVisible());
     script({":WINDOW=130", ":ITEM=100"}); // by its number

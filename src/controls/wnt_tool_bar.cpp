@@ -121,8 +121,9 @@ unsigned char CWntToolBar::LoadLine(const char* line, int mode) {
             model_->item(before).text_width = font_->width(model_->item(before).text);
     } else if (mode == wnt::script_end) {
         load_named_pictures();
+        const wnt::StillThere there(*this);
         items_changed();
-        if (m_hWnd)
+        if (there)
             UpdateWindow();
     }
     return 0;
@@ -277,8 +278,10 @@ int CWntToolBar::SetPictures(HBITMAP small_strip, HBITMAP large_strip, COLORREF 
         return 0;
     pictures_->set_strip(0, small_strip, key);
     pictures_->set_strip(1, large_strip, key);
+    const bool taken =
+        (small_strip == nullptr || pictures_->has_strip(0)) && (large_strip == nullptr || pictures_->has_strip(1));
     items_changed();
-    return (small_strip == nullptr || pictures_->has_strip(0)) && (large_strip == nullptr || pictures_->has_strip(1));
+    return taken;
 }
 
 int CWntToolBar::SetTextPlace(int place) {
@@ -394,12 +397,15 @@ void CWntToolBar::place_items() {
     GetClientRect(&client);
     *places_ = places_in(client.Width(), client.Height());
     tips_wanted_ = true;
+    const HWND focus = ::GetFocus();
+    bool focus_hidden = false;
     HDWP moves = ::BeginDeferWindowPos(8);
     for (int i = 0; i < model_->count(); ++i) {
         const HWND embedded = living(static_cast<HWND>(model_->item(i).window));
         if (!embedded || !moves)
             continue;
         const CRect place = place_of(i);
+        focus_hidden |= place.IsRectEmpty() && focus && (focus == embedded || ::IsChild(embedded, focus));
         // Hidden ones keep their size, by which they are given room again.
         const UINT flags = place.IsRectEmpty() ? SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE : SWP_SHOWWINDOW | SWP_NOSIZE;
         moves = ::DeferWindowPos(moves, embedded, nullptr, place.left, place.top, 0, 0,
@@ -408,6 +414,8 @@ void CWntToolBar::place_items() {
     if (moves)
         ::EndDeferWindowPos(moves);
     Invalidate(FALSE);
+    if (focus_hidden)
+        give_focus_back(); // the last thing: who loses it may end the bar
 }
 
 void CWntToolBar::lay_out(int, int) {
