@@ -366,7 +366,8 @@ bool CToolTipCtrlEx::present(const WntTip& tip, const CRect& around, Shown how, 
     const wnt::TipParts parts = {std::string_view(tip.title.GetString(), tip.title.GetLength()),
                                  std::string_view(tip.text.GetString(), tip.text.GetLength()), icon.cx, icon.cy,
                                  tip.colour != CLR_NONE};
-    wnt::TipLayout layout = wnt::lay_out_tip(parts, fonts(), widest(), fonts().scale);
+    const CRect screen = work_area(CPoint(around.left, around.top));
+    wnt::TipLayout layout = wnt::lay_out_tip(parts, fonts(), widest(), fonts().scale, screen.Height());
     if (how == Shown::tracked && shown_ == Shown::tracked) {
         layout.width = std::max<int>(layout.width, least_.cx);
         layout.height = std::max<int>(layout.height, least_.cy);
@@ -376,8 +377,7 @@ bool CToolTipCtrlEx::present(const WntTip& tip, const CRect& around, Shown how, 
     *layout_ = std::move(layout);
     tip_ = tip;
     shown_ = how;
-    const CRect place = rect_of(wnt::place_tip(least_.cx, least_.cy, pixels_of(around),
-                                               pixels_of(work_area(CPoint(around.left, around.top))), centred));
+    const CRect place = rect_of(wnt::place_tip(least_.cx, least_.cy, pixels_of(around), pixels_of(screen), centred));
     presenting_ = true;
     SetWindowPos(&CWnd::wndTop, place.left, place.top, place.Width(), place.Height(),
                  SWP_NOACTIVATE | SWP_NOOWNERZORDER | SWP_SHOWWINDOW);

@@ -54,7 +54,8 @@ public:
 
 /// Notifications of a toolbar, as WM_NOTIFY with a WntToolNotify.
 enum WntToolCode : UINT {
-    WNT_TOOL_DROPPING = 160, ///< before a menu opens: the host may set `menu`, or open one itself and answer 1
+    WNT_TOOL_DROPPING = 160, ///< before a menu opens, also as part of the chevron's: the host may set `menu`, or open
+                             ///< one itself and answer 1
     WNT_TOOL_MOVING = 161,   ///< before the user's drag moves an item: the host may change `to`, or answer 1 to refuse
     WNT_TOOL_MOVED = 162,    ///< after it
 };
