@@ -6,6 +6,7 @@
 #include "controls/control_font.h"
 #include "controls/icon_pixels.h"
 #include "controls/tip_layout.h"
+#include "controls/tool_tip_texts.h"
 #include "screen_scale.h"
 #include "widgets/painting/paint_pass.h"
 
@@ -16,53 +17,6 @@ constexpr UINT_PTR keyboard_timer = 0x5A00;
 constexpr int default_width = 320; // pixels at 96 dots an inch
 constexpr int pointer_height = 20;
 constexpr int largest_icon = 64;
-constexpr std::size_t old_callers = 80; // room for a text of those who tell no length
-constexpr std::size_t need_text_size = sizeof(NMTTDISPINFOA::szText);
-
-// The control itself sees this text alone: it decides when to show, and is not to ask or measure anything.
-char something[] = " ";
-
-CString text_of_tool(const TOOLINFO& info) {
-    if (!info.lpszText || info.lpszText == LPSTR_TEXTCALLBACK)
-        return CString();
-    if (!IS_INTRESOURCE(info.lpszText))
-        return info.lpszText;
-    char text[wnt::longest_tip];
-    const int length = ::LoadStringA(info.hinst, LOWORD(reinterpret_cast<UINT_PTR>(info.lpszText)), text, sizeof text);
-    return CString(text, length);
-}
-
-CString answered_text(const NMTTDISPINFOA& need) {
-    if (need.lpszText == need.szText)
-        return CString(need.szText, static_cast<int>(::strnlen(need.szText, need_text_size)));
-    TOOLINFO answer = {};
-    answer.hinst = need.hinst;
-    answer.lpszText = need.lpszText;
-    return text_of_tool(answer);
-}
-
-CString flat_text(const WntTip& tip) {
-    return tip.title.IsEmpty() || tip.text.IsEmpty() ? tip.title + tip.text : tip.title + "\n" + tip.text;
-}
-
-// What the control is to know of a tool.
-TOOLINFO with_something(const TOOLINFO& given) {
-    TOOLINFO seen = {};
-    std::memcpy(&seen, &given, std::min<std::size_t>(given.cbSize, TTTOOLINFOA_V2_SIZE));
-    seen.cbSize = TTTOOLINFOA_V2_SIZE; // what every version of the control takes
-    seen.hinst = nullptr;
-    seen.lpszText = something;
-    return seen;
-}
-
-LRESULT copy_text(const CString& text, char* to, std::size_t capacity) {
-    if (!to || capacity == 0)
-        return 0;
-    const std::size_t length = std::min<std::size_t>(text.GetLength(), capacity - 1);
-    std::copy_n(text.GetString(), length, to);
-    to[length] = 0;
-    return static_cast<LRESULT>(length);
-}
 
 CRect work_area(CPoint at) {
     MONITORINFO info = {};
@@ -163,8 +117,8 @@ LRESULT CToolTipCtrlEx::OnAddTool(WPARAM wParam, LPARAM lParam) {
     if (!given || given->cbSize < TTTOOLINFOA_V1_SIZE)
         return FALSE;
     WntTip tip;
-    tip.text = text_of_tool(*given);
-    TOOLINFO seen = with_something(*given);
+    tip.text = wnt::text_of_tool(*given);
+    TOOLINFO seen = wnt::with_something(*given);
     if (!DefWindowProc(TTM_ADDTOOLA, wParam, reinterpret_cast<LPARAM>(&seen)))
         return FALSE;
     const Tool tool = {given->hwnd, given->uId, given->uFlags, given->lpszText == LPSTR_TEXTCALLBACK, tip};
@@ -192,7 +146,7 @@ LRESULT CToolTipCtrlEx::OnGetTool(WPARAM, LPARAM lParam) {
     const LRESULT found = Default();
     given->lpszText = tool->asked ? LPSTR_TEXTCALLBACK : room;
     if (!tool->asked && !IS_INTRESOURCE(room) && room != LPSTR_TEXTCALLBACK)
-        copy_text(flat_text(tool->tip), room, old_callers);
+        wnt::copy_text(wnt::flat_text(tool->tip), room, wnt::old_callers);
     return found;
 }
 
@@ -201,12 +155,12 @@ LRESULT CToolTipCtrlEx::OnSetTool(WPARAM wParam, LPARAM lParam) {
     Tool* tool = given && given->cbSize >= TTTOOLINFOA_V1_SIZE ? find(*given) : nullptr;
     if (!tool)
         return 0;
-    TOOLINFO seen = with_something(*given);
+    TOOLINFO seen = wnt::with_something(*given);
     DefWindowProc(TTM_SETTOOLINFOA, wParam, reinterpret_cast<LPARAM>(&seen));
     tool->flags = given->uFlags;
     if (given->lpszText) { // or else it stays
         tool->asked = given->lpszText == LPSTR_TEXTCALLBACK;
-        tool->tip.text = text_of_tool(*given);
+        tool->tip.text = wnt::text_of_tool(*given);
         refresh(*tool);
     }
     return 0;
@@ -218,7 +172,7 @@ LRESULT CToolTipCtrlEx::OnUpdateText(WPARAM, LPARAM lParam) {
     if (!tool)
         return 0;
     tool->asked = given->lpszText == LPSTR_TEXTCALLBACK;
-    tool->tip.text = text_of_tool(*given);
+    tool->tip.text = wnt::text_of_tool(*given);
     refresh(*tool);
     return 0;
 }
@@ -238,11 +192,12 @@ void CToolTipCtrlEx::refresh(const Tool& tool) {
 LRESULT CToolTipCtrlEx::OnGetTipText(WPARAM capacity, LPARAM lParam) {
     const auto* given = reinterpret_cast<const TOOLINFO*>(lParam);
     const Tool* tool = given ? find(*given) : nullptr;
-    return tool ? copy_text(flat_text(tool->tip), given->lpszText, capacity ? capacity : old_callers) : 0;
+    return tool ? wnt::copy_text(wnt::flat_text(tool->tip), given->lpszText, capacity ? capacity : wnt::old_callers)
+                : 0;
 }
 
 int CToolTipCtrlEx::AddTip(CWnd* window, const WntTip& tip, LPCRECT part, UINT_PTR id) {
-    if (!this || !m_hWnd || !window->GetSafeHwnd() || !AddTool(window, something, part, id))
+    if (!this || !m_hWnd || !window->GetSafeHwnd() || !AddTool(window, wnt::something, part, id))
         return 0;
     TOOLINFO info;
     FillInToolInfo(info, window, id);
@@ -288,7 +243,7 @@ bool CToolTipCtrlEx::ask(const Tool& tool, WntTip& tip) {
     if (!tell(need.hdr, TTN_GETDISPINFOA))
         return false;
     WntTipNotify more = {{}, tip};
-    if (const CString text = answered_text(need); !text.IsEmpty())
+    if (const CString text = wnt::answered_text(need); !text.IsEmpty())
         more.tip.text = text;
     if (!tell(more.hdr, WNT_TIP_NEEDED))
         return false;
@@ -478,11 +433,12 @@ void CToolTipCtrlEx::track_tool() {
 }
 
 LRESULT CToolTipCtrlEx::OnWindowText(WPARAM capacity, LPARAM lParam) {
-    return copy_text(shown_ == Shown::nothing ? CString() : flat_text(tip_), reinterpret_cast<char*>(lParam), capacity);
+    return wnt::copy_text(shown_ == Shown::nothing ? CString() : wnt::flat_text(tip_), reinterpret_cast<char*>(lParam),
+                          capacity);
 }
 
 LRESULT CToolTipCtrlEx::OnWindowTextLength(WPARAM, LPARAM) {
-    return shown_ == Shown::nothing ? 0 : flat_text(tip_).GetLength();
+    return shown_ == Shown::nothing ? 0 : wnt::flat_text(tip_).GetLength();
 }
 
 void CToolTipCtrlEx::OnSettingChange(UINT flags, LPCTSTR section) {
