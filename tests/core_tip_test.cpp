@@ -52,6 +52,13 @@ TEST(TipLayout, EndsWhatIsTooLongWithDots) {
     const TipLayout rows = laid_out("", many);
     EXPECT_EQ(rows.lines.size(), std::size_t(most_tip_lines));
     EXPECT_EQ(rows.lines.back().text, "...");
+    for (const int highest : {-5, 0, 200, 333}) {
+        EvenFonts fonts;
+        const TipLayout low = lay_out_tip({"Title", many}, fonts, 300, 100, highest);
+        EXPECT_TRUE(low.height <= highest || low.lines.size() == 1) << highest;
+        EXPECT_GT(low.height + 2 * fonts.row(), highest) << "no line less than there is room for";
+        EXPECT_EQ(low.lines.back().text, "...");
+    }
     const TipLayout wide = laid_out("", std::string(20'000, 'x'), INT_MAX);
     EXPECT_EQ(wide.lines.size(), 1u);
     EXPECT_EQ(wide.lines[0].text.size(), std::size_t(longest_tip));

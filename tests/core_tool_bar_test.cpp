@@ -201,12 +201,12 @@ TEST(ToolBarModel, IsDescribedByScripts) {
 
 TEST(ToolBarModel, IgnoresWhatIsWrong) {
     ToolBarModel bar;
-    for (const char* line : {":ITEM", ":ITEM=", ":ITEM=0,1,Zero", ":ITEM=-5", ":ITEM=65536", ":ITEM=12x",
+    for (const char* line : {":ITEM", ":ITEM=", ":ITEM=0,1,Zero", ":ITEM=-5", ":ITEM=65535", ":ITEM=12x",
                              ":ITEM=99999999999999999999", ":MENU=5,nowhere", "ITEM=5", ":item=5", ":ITEMS=5",
                              ":TEXT=ABOVE", ":CHECKED=9", ":DISABLED=", ":WINDOW=0", ""})
         EXPECT_FALSE(bar.load_line(line)) << line;
     EXPECT_EQ(bar.count(), 0);
-    bar.load_line(":ITEM=65535,99999,x");
+    bar.load_line(":ITEM=65534,99999,x");
     bar.load_line(":ITEM=1,-7,x");
     EXPECT_TRUE(bar.item(0).picture == -1 && bar.item(1).picture == -1);
     bar.load_line(":MENU=5,on a push item");

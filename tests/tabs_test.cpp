@@ -72,6 +72,7 @@ protected:
     }
     void mouse(UINT message, CPoint at) {
         at = in_strip(at);
+        const Held button({message == WM_LBUTTONDOWN ? VK_LBUTTON : 0});
         strip().SendMessage(message, MK_LBUTTON, MAKELPARAM(at.x, at.y));
     }
     CPoint middle(int tab) { return tabs_.GetTabRect(tab).CenterPoint(); }
@@ -155,6 +156,11 @@ TEST_F(Tabs, AClickSelectsAsTheHostAllows) {
     click(middle(0)); // which the host takes away when it is asked
     EXPECT_THAT(host_.told, ElementsAre(std::tuple(WNT_TABS_SELECTING, 0, 1)));
     EXPECT_EQ(shown(), "-2-");
+    EXPECT_NE(::GetCapture(), strip().m_hWnd);
+    host_.answer = [](WntTabsNotify&) { return 0; };
+    const CPoint at = in_strip(middle(0)); // by a click that ended meanwhile, in a message box
+    strip().SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(at.x, at.y));
+    EXPECT_EQ(tabs_.GetSelected(), 0);
     EXPECT_NE(::GetCapture(), strip().m_hWnd);
 }
 
@@ -535,6 +541,7 @@ TEST_F(Tabs, MayBeDestroyedOnAnyNotification) {
                     delete std::exchange(tabs, nullptr);
                 return 0;
             };
+            const Held button({VK_LBUTTON});
             const auto send = [&](UINT message, int x) { ::SendMessageA(window, message, 0, MAKELPARAM(x, 12)); };
             if (by_key) {
                 const Held control({VK_CONTROL});

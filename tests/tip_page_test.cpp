@@ -108,8 +108,13 @@ TEST_F(TipPage, RemembersTheLastTipAndTheChoice) {
     press(start_id);
     EXPECT_EQ(host_.notified.back().code, WNT_TIP_START);
     EXPECT_EQ(CWntTipPage::IsShownAtStart(profile_, "tips"), 0);
-    next_start("a");
-    EXPECT_EQ(static_cast<CButton*>(page_->GetDlgItem(start_id))->GetCheck(), BST_UNCHECKED);
+    for (const bool profile_first : {false, true}) {
+        next_start("a", profile_first);
+        EXPECT_EQ(static_cast<CButton*>(page_->GetDlgItem(start_id))->GetCheck(), BST_UNCHECKED) << profile_first;
+    }
+    ::WritePrivateProfileStringA("tips", "Tip", "7", profile_); // by another one
+    page_->MoveWindow(0, 0, 300, 200);
+    EXPECT_EQ(::GetPrivateProfileIntA("tips", "Tip", 0, profile_), 7u) << "only a turn is stored";
     EXPECT_TRUE(translated(*page_, 's'));
     EXPECT_EQ(CWntTipPage::IsShownAtStart(profile_, "tips"), 1);
 }
@@ -166,6 +171,45 @@ TEST_F(TipPage, IsAPageOfTabsWithItsOwnKeys) {
     EXPECT_EQ(::GetFocus(), ::GetDlgItem(page_->m_hWnd, text_id)) << "from page to page";
     EXPECT_EQ(::GetNextDlgTabItem(host_.m_hWnd, tabs.GetWindow(GW_CHILD)->m_hWnd, FALSE),
               ::GetDlgItem(page_->m_hWnd, text_id));
+}
+
+class Form : public CDialog {
+public:
+    int cancelled = 0;
+
+protected:
+    void OnCancel() override { ++cancelled; }
+};
+
+TEST_F(TipPage, EscapeAndTabInItsTextAreTheDialogs) {
+    const struct {
+        DLGTEMPLATE head;
+        WORD menu, name, title;
+    } form = {{WS_POPUP | WS_VISIBLE, 0, 0, 0, 0, 300, 200}, 0, 0, 0};
+    Form dialog;
+    ASSERT_TRUE(dialog.CreateIndirect(&form.head, &host_));
+    CWntTabs tabs;
+    ASSERT_TRUE(tabs.Create(nullptr, "", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 400, 240), &dialog, 9));
+    ASSERT_TRUE(page_->Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 400, 240), &dialog, 5));
+    const auto press_in_text = [&](WPARAM key) {
+        const HWND text = ::GetDlgItem(page_->m_hWnd, text_id);
+        ::SetFocus(text);
+        MSG m = {text, WM_KEYDOWN, key, 1, 0, {}};
+        EXPECT_TRUE(::IsDialogMessageA(dialog.m_hWnd, &m));
+        while (::PeekMessageA(&m, page_->m_hWnd, WM_CLOSE, WM_CLOSE, PM_REMOVE))
+            ::DispatchMessageA(&m);
+    };
+    for (const bool in_tabs : {false, true}) {
+        ASSERT_TRUE(!in_tabs || tabs.AddTab("News", page_.get()));
+        press_in_text(VK_TAB);
+        EXPECT_EQ(::GetFocus(), ::GetDlgItem(page_->m_hWnd, start_id)) << in_tabs;
+        dialog.cancelled = 0;
+        press_in_text(VK_ESCAPE);
+        ASSERT_TRUE(page_->m_hWnd) << in_tabs;
+        EXPECT_EQ(dialog.cancelled, 1) << in_tabs;
+    }
+    page_->DestroyWindow();
+    dialog.DestroyWindow();
 }
 
 TEST_F(TipPage, MayBeDestroyedWhenItTells) {

@@ -84,7 +84,7 @@ protected:
         host_.DestroyWindow();
     }
     void open() {
-        bar_ = new CWntToolBar;
+        bar_ = new Trapping<CWntToolBar>;
         ASSERT_TRUE(bar_->Create(nullptr, "", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 400, 26), &host_, 9));
         const HBITMAP pictures = strip(16, {red, green, key_colour});
         EXPECT_EQ(bar_->SetPictures(pictures, nullptr, key_colour), 1);

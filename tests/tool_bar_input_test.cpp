@@ -25,6 +25,19 @@ TEST_F(ToolBar, TheKeyboardWorksIt) {
         bar_->UpdateWindow();
         EXPECT_EQ(focused(), id) << k;
     }
+    script({":ITEM=100,0", ":ITEM=101,0", ":ITEM=102,0", ":ITEM=103,0"});
+    for (const auto& [k, id] : {std::pair{VK_LEFT, 101u}, {VK_RIGHT, 103u}}) {
+        bar_->EnableItem(102, 1);
+        key(VK_HOME);
+        key(VK_RIGHT);
+        key(VK_RIGHT);
+        bar_->EnableItem(102, 0);
+        key(static_cast<UINT>(k));
+        full_repaint(*bar_);
+        EXPECT_EQ(focused(), id) << "beside the one that was disabled";
+    }
+    script({":ITEM=100,0,one", ":DISABLED=100", ":SEPARATOR", ":CHECK=101,0,two", ":ITEM=102,0,three"});
+    key(VK_END);
     key(VK_RETURN);
     key(VK_HOME);
     key(VK_SPACE);
@@ -126,6 +139,24 @@ TEST_F(ToolBar, WhatDoesNotFitIsBehindTheChevron) {
     key(VK_END);
     with_menu([&] { key(VK_SPACE); }, {VK_UP, VK_RIGHT, VK_RETURN});
     EXPECT_EQ(host_.commands.back(), 120u);
+    host_.state = [](CCmdUI& ui) { ui.Enable(); };
+    host_.commands.clear();
+    with_menu([&] { mouse(WM_LBUTTONDOWN, chevron); }, {VK_DOWN, VK_RETURN},
+              [&](HMENU) { bar_->EnableItem(102, 0); }); // meanwhile
+    EXPECT_TRUE(host_.commands.empty());
+    host_.answer = [&](WntToolNotify& n) -> LRESULT {
+        if (n.hdr.code == WNT_TOOL_DROPPING)
+            ::AppendMenuA(n.menu, MF_STRING, 121, "Deeper");
+        return 0;
+    };
+    with_menu([&] { mouse(WM_LBUTTONDOWN, chevron); }, {VK_ESCAPE},
+              [](HMENU menu) { EXPECT_EQ(::GetMenuItemCount(::GetSubMenu(menu, 3)), 2); });
+    ::DestroyMenu(host_menu.Detach());
+    with_menu([&] { mouse(WM_LBUTTONDOWN, chevron); }, {VK_ESCAPE},
+              [](HMENU menu) { EXPECT_EQ(::GetMenuItemCount(menu), 4) << "an item without its menu stays"; });
+    script({":ITEM=100,0", ":LABEL=only a text that has no room"});
+    EXPECT_EQ(bar_->GetItemRect(-2, nullptr), 0);
+    script({":ITEM=100,0", ":ITEM=101,0", ":ITEM=102,0", ":ITEM=103,0", ":ITEM=104,0"});
     bar_->SetWrapping(1);
     bar_->MoveWindow(0, 0, 66, 100);
     EXPECT_GE(shown(), 5);
@@ -198,6 +229,13 @@ TEST_F(ToolBar, ItemsAreDraggedWhereThatIsAllowed) {
     EXPECT_TRUE(host_.commands.empty());
     click(100);
     EXPECT_THAT(host_.commands, ElementsAre(100u));
+    host_.answer = [&](WntToolNotify& n) -> LRESULT {
+        return n.hdr.code == WNT_TOOL_MOVING && bar_->RemoveItem(bar_->FindItem(102)) == 0;
+    };
+    drag(100, CPoint(0, 10)); // which has another place when it is let go
+    mouse(WM_LBUTTONUP, CPoint(0, 10));
+    EXPECT_THAT(order(), ElementsAre(100u, 101u));
+    script({":ITEM=101,0", ":ITEM=102,0", ":ITEM=100,0"});
 
     char folder[MAX_PATH];
     ::GetTempPathA(sizeof folder, folder);
@@ -214,6 +252,19 @@ TEST_F(ToolBar, ItemsAreDraggedWhereThatIsAllowed) {
 
 TEST_F(ToolBar, MayBeDestroyedByAnythingItTells) {
     const auto end_bar = [&] { delete std::exchange(bar_, nullptr); };
+    const auto embed_and = [&](const std::function<void()>& remove) {
+        CEdit edit;
+        ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 60, 18), &host_, 130));
+        CWntToolItem item(130, "", WNT_TOOL_WINDOW);
+        item.window = &edit;
+        ASSERT_EQ(bar_->AddItem(item), 1);
+        edit.SetFocus();
+        host_.on_message = [&](UINT message, WPARAM w) {
+            if (message == WM_COMMAND && HIWORD(w) == EN_KILLFOCUS)
+                end_bar();
+        };
+        remove();
+    };
     const std::function<void()> ways[] = {
         [&] {
             host_.on_command = [&](UINT) { end_bar(); };
@@ -253,6 +304,13 @@ TEST_F(ToolBar, MayBeDestroyedByAnythingItTells) {
             bar_->MoveWindow(0, 0, 20, 26);
             with_menu([&] { mouse(WM_LBUTTONDOWN, CPoint(12, 12)); }, {VK_ESCAPE}, [&](HMENU) { end_bar(); });
         },
+        [&] { // which then asks whether its command has a handler
+            host_.state = [&](CCmdUI&) { end_bar(); };
+            bar_->SendMessage(WM_IDLEUPDATECMDUI, TRUE);
+        },
+        [&] { embed_and([&] { bar_->RemoveItem(2); }); },
+        [&] { embed_and([&] { bar_->RemoveAll(); }); },
+        [&] { embed_and([&] { script({}); }); },
         [&] { // by the end of an input that the bar's focus ends
             edit_.SetFocus();
             host_.on_message = [&](UINT message, WPARAM w) {
@@ -283,6 +341,48 @@ TEST_F(ToolBar, MayBeDestroyedByAnythingItTells) {
         EXPECT_FALSE(bar_) << way;
         ++way;
     }
+}
+
+TEST_F(ToolBar, ItemsMayGoWhenItTakesTheFocus) {
+    CEdit edit;
+    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 60, 18), &host_, 130));
+    CWntToolItem item(130, "", WNT_TOOL_WINDOW);
+    item.window = &edit;
+    script({":ITEM=100,0", ":ITEM=101,0"});
+    ASSERT_EQ(bar_->AddItem(item), 1);
+    bar_->SetFocus();
+    key(VK_END);
+    EXPECT_EQ(::GetFocus(), edit.m_hWnd);
+    EXPECT_EQ(bar_->RemoveItem(2), 1); // the last one, where the focus was
+    EXPECT_EQ(::GetFocus(), bar_->m_hWnd);
+    key(VK_RIGHT);
+    full_repaint(*bar_);
+    EXPECT_EQ(focused(), 101u);
+
+    edit_.SetFocus();
+    host_.on_message = [&](UINT message, WPARAM w) {
+        if (message == WM_COMMAND && HIWORD(w) == EN_KILLFOCUS)
+            bar_->RemoveAll();
+    };
+    MSG f6 = {edit_.m_hWnd, WM_KEYDOWN, VK_F6, 1, 0, {}};
+    EXPECT_EQ(bar_->FilterKey(&f6), 1);
+    EXPECT_EQ(bar_->GetItemCount(), 0);
+}
+
+TEST_F(ToolBar, AnOwnerMayGoBeforeItsBar) {
+    auto* owner = new Trapping<ToolHost>;
+    ASSERT_TRUE(owner->CreateEx(0, nullptr, "owner", WS_POPUP, CRect(0, 0, 9, 9), &host_, 0));
+    bar_->SetOwner(owner);
+    script({":ITEM=100,0", ":ITEM=101,0", ":DROPDOWN=102,0", ":MENU=110,a", ":MENU=111,b"});
+    owner->state = [&](CCmdUI& ui) {
+        ui.Enable(ui.m_nID != 100);
+        const std::unique_ptr<ToolHost> ended(std::exchange(owner, nullptr));
+        ended->DestroyWindow();
+    };
+    bar_->UpdateItems();
+    EXPECT_FALSE(owner);
+    EXPECT_EQ(checked(100) + checked(101), 10);
+    click(102); // whose menu has nobody to go to
 }
 
 } // namespace

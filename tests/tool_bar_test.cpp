@@ -156,6 +156,8 @@ TEST_F(ToolBar, HoldsWindowsOfTheHosts) {
     embedded.window = &host_;
     EXPECT_EQ(bar_->AddItem(embedded), 0); // it holds the bar
     embedded.window = &button;
+    EXPECT_EQ(bar_->InsertItem(5000, embedded) + bar_->InsertItem(-1, embedded), 0);
+    EXPECT_EQ(button.GetParent(), &host_) << "what is refused stays where it was";
     EXPECT_EQ(bar_->AddItem(CWntToolItem(100, "a")) + bar_->AddItem(embedded) + bar_->AddItem(CWntToolItem(101, "b")),
               3);
     EXPECT_EQ(button.GetParent(), bar_);
@@ -180,8 +182,12 @@ TEST_F(ToolBar, HoldsWindowsOfTheHosts) {
     EXPECT_EQ(::GetFocus(), button.m_hWnd);
     EXPECT_TRUE(bar_->PreTranslateMessage(&escape));
     EXPECT_EQ(::GetFocus(), edit_.m_hWnd);
+    bar_->SetFocus();
+    key(VK_RIGHT);
+    EXPECT_EQ(::GetFocus(), button.m_hWnd);
     bar_->MoveWindow(0, 0, 40, 26);
     EXPECT_FALSE(button.IsWindowVisible());
+    EXPECT_EQ(::GetFocus(), edit_.m_hWnd) << "a hidden window has no focus";
     bar_->MoveWindow(0, 0, 400, 26);
     EXPECT_TRUE(button.IsWindowVisible());
     script({":WINDOW=130", ":ITEM=100"}); // by its number

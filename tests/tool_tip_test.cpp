@@ -168,6 +168,12 @@ TEST_F(ToolTip, TheKeyboardShowsItUntilTheNextKey) {
     EXPECT_TRUE(shown() == "Save" && place().left == tool.left && place().top == tool.bottom);
     relay(WM_KEYUP, {0, 0});
     EXPECT_EQ(shown(), "Save");
+    tips_->SetTip(&button_, {"", "Save all"});
+    EXPECT_EQ(shown(), "Save all");
+    tips_->SetTip(&button_, {});
+    EXPECT_EQ(shown(), "");
+    tips_->SetTip(&button_, {"", "Save"});
+    EXPECT_EQ(tips_->ShowTip(&button_), 1);
     relay(WM_KEYDOWN, {0, 0});
     EXPECT_EQ(shown(), "");
     EXPECT_EQ(tips_->ShowTip(&button_), 1);
@@ -249,12 +255,24 @@ TEST_F(ToolTip, KeepsToTheFrameworksWays) {
     EXPECT_EQ(shown(), "shorter");
     TOOLINFO tool;
     tips_->FillInToolInfo(tool, &button_, 0);
+    char room[80] = "";
+    tool.lpszText = room;
+    EXPECT_TRUE(tips_->SendMessage(TTM_GETTOOLINFO, 0, reinterpret_cast<LPARAM>(&tool)));
+    EXPECT_STREQ(room, "shorter");
+    lstrcpyA(room, "set");
+    tips_->SendMessage(TTM_SETTOOLINFO, 0, reinterpret_cast<LPARAM>(&tool));
+    EXPECT_EQ(shown(), "set");
+    tips_->UpdateTipText("shorter", &button_);
     tips_->SendMessage(TTM_TRACKPOSITION, 0, MAKELPARAM(300, 200));
     tips_->SendMessage(TTM_TRACKACTIVATE, TRUE, reinterpret_cast<LPARAM>(&tool));
     EXPECT_TRUE(shown() == "shorter" && place().TopLeft() == CPoint(300, 200));
     tips_->SendMessage(TTM_TRACKPOSITION, 0, MAKELPARAM(310, 210));
     tips_->UpdateTipText("tracked", &button_);
     EXPECT_TRUE(shown() == "tracked" && place().TopLeft() == CPoint(310, 210));
+    for (const char* other : {"", "set"}) {
+        tips_->SetTip(&button_, {"", other});
+        EXPECT_EQ(shown(), other);
+    }
     tips_->SendMessage(TTM_TRACKACTIVATE, FALSE, reinterpret_cast<LPARAM>(&tool));
     EXPECT_EQ(shown(), "");
     tips_->DelTool(&button_);

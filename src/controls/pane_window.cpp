@@ -59,7 +59,24 @@ BOOL PaneWindow::PreCreateWindow(CREATESTRUCT& create) {
     return result;
 }
 
+// What an input of several lines tells its parent, which it takes for the dialog: to close on Escape, to give the focus
+// to another one on Tab.
+bool PaneWindow::answer_as_dialog(UINT message, WPARAM wParam, LPARAM lParam) {
+    if ((message != WM_CLOSE && message != WM_NEXTDLGCTL) || !(GetStyle() & WS_CHILD))
+        return false;
+    HWND dialog = ::GetParent(m_hWnd);
+    while (dynamic_cast<PaneWindow*>(CWnd::FromHandlePermanent(dialog)))
+        dialog = ::GetParent(dialog);
+    if (message == WM_CLOSE)
+        ::SendMessage(dialog, WM_COMMAND, IDCANCEL, 0);
+    else
+        ::SendMessage(dialog, message, wParam, lParam);
+    return true;
+}
+
 LRESULT PaneWindow::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (answer_as_dialog(message, wParam, lParam))
+        return 0;
     if (message == WM_SETTINGCHANGE)
         SendMessageToDescendants(message, wParam, lParam, FALSE, TRUE); // each goes on to its own
     const HWND parent = concerns_host(message) && lParam ? ::GetParent(m_hWnd) : nullptr;

@@ -17,6 +17,9 @@ protected:
 
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+private:
+    bool answer_as_dialog(UINT message, WPARAM wParam, LPARAM lParam);
 };
 
 /// A window of the host's that may become a child: of this thread, and not one that holds the parent.

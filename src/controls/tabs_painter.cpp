@@ -69,7 +69,8 @@ public:
         ::SetBkMode(dc, TRANSPARENT);
         ::SetTextColor(dc, ink);
         const CRect start = place(0, 0, 0, 0);
-        ::ExtTextOutA(dc, start.left, start.top, 0, nullptr, text.c_str(), static_cast<UINT>(text.size()), nullptr);
+        ::ExtTextOutA(dc, start.left, start.top, ETO_CLIPPED, &box_, text.c_str(), static_cast<UINT>(text.size()),
+                      nullptr);
         TEXTMETRIC metric = {};
         ::GetTextMetrics(dc, &metric);
         ::SetTextAlign(dc, alignment);

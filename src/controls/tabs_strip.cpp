@@ -208,6 +208,8 @@ void TabsStrip::OnLButtonDown(UINT, CPoint point) {
         return open_menu();
     if (at.part == TabsPoint::tab && (!tabs_.select_by_user(at.index) || hit(point) != at))
         return;
+    if (::GetKeyState(VK_LBUTTON) >= 0)
+        return; // a message box of the host's took its release
     pressed_ = hot_ = at;
     pressed_at_ = point;
     SetCapture();
@@ -259,21 +261,23 @@ void TabsStrip::OnTimer(UINT_PTR timer) {
         scroll(pressed_.part == TabsPoint::on ? 1 : -1);
 }
 
-// With the tabs that are not seen.
+// With the tabs that are not seen, by their ids: places may change while it is open.
 void TabsStrip::open_menu() {
     CMenu menu;
     if (layout_.menu.width() == 0 || !menu.CreatePopupMenu())
         return;
-    for (int i = 0; i < tabs_.model_->count(); ++i)
-        if (!layout_.shows(i))
-            menu.AppendMenu(MF_STRING | (tabs_.model_->at(i).enabled ? 0u : MF_GRAYED), static_cast<UINT_PTR>(i) + 1,
-                            tabs_.model_->at(i).text.c_str());
+    for (int i = 0; i < tabs_.model_->count(); ++i) {
+        if (layout_.shows(i))
+            continue;
+        const Tab& tab = tabs_.model_->at(i);
+        menu.AppendMenu(MF_STRING | (tab.enabled ? 0u : MF_GRAYED), static_cast<UINT_PTR>(tab.id), tab.text.c_str());
+    }
     CRect button = box(layout_.menu);
     ClientToScreen(&button);
     const HWND self = m_hWnd;
     const int chosen = menu.TrackPopupMenu(TPM_RETURNCMD | TPM_NONOTIFY, button.left, button.bottom, this);
     if (chosen > 0 && ::IsWindow(self) && CWnd::FromHandlePermanent(self) == this)
-        tabs_.select_by_user(chosen - 1);
+        tabs_.select_by_user(tabs_.model_->position_of(chosen));
 }
 
 UINT TabsStrip::OnGetDlgCode() {

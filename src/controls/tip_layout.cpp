@@ -16,7 +16,8 @@ constexpr std::string_view dots = "...";
 /// Takes texts apart into lines that are no wider than the room.
 class LineBreaker {
 public:
-    LineBreaker(TipFonts& fonts, int first_room, int room) : fonts_(fonts), first_room_(first_room), room_(room) {}
+    LineBreaker(TipFonts& fonts, int first_room, int room, int most)
+        : fonts_(fonts), first_room_(first_room), room_(room), most_(static_cast<std::size_t>(most)) {}
 
     void add(std::string_view text, bool bold) {
         text = text.substr(0, longest_tip);
@@ -49,7 +50,7 @@ private:
 
     void add_line(std::string_view line, bool bold) {
         do {
-            if (lines.size() == most_tip_lines) {
+            if (lines.size() == most_) {
                 lines.back().text = dots;
                 return;
             }
@@ -70,11 +71,12 @@ private:
     TipFonts& fonts_;
     int first_room_;
     int room_;
+    std::size_t most_;
 };
 
 } // namespace
 
-TipLayout lay_out_tip(const TipParts& parts, TipFonts& fonts, int widest, int scale) {
+TipLayout lay_out_tip(const TipParts& parts, TipFonts& fonts, int widest, int scale, int highest) {
     const auto scaled = [scale](int pixels) { return (pixels * std::clamp(scale, 1, 1000) + 50) / 100; };
     const int row = std::max(fonts.row(), 1);
     TipLayout layout;
@@ -94,8 +96,9 @@ TipLayout lay_out_tip(const TipParts& parts, TipFonts& fonts, int widest, int sc
         height = std::max(height, row);
     }
     const int right_end = widest - scaled(margin_across);
+    const int most = std::clamp((highest - 2 * top - scaled(title_gap)) / row, 1, most_tip_lines);
     LineBreaker breaker(fonts, std::max(right_end - first_left, least_room),
-                        std::max(right_end - text_left, least_room));
+                        std::max(right_end - text_left, least_room), most);
     breaker.add(parts.title, true);
     const std::size_t titles = breaker.lines.size();
     breaker.add(parts.text, false);

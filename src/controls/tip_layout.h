@@ -1,5 +1,6 @@
 #pragma once
 
+#include <climits>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -50,8 +51,9 @@ inline constexpr int longest_tip = 4096; ///< characters of title or text, what 
 inline constexpr int most_tip_lines = 50;
 
 /// Lines are broken at blanks where they would be wider than `widest` pixels, and within words that are wider by
-/// themselves. What has no place ends with dots. `scale` is a percentage of the distances at 96 dots an inch.
-TipLayout lay_out_tip(const TipParts& parts, TipFonts& fonts, int widest, int scale);
+/// themselves. Lines beyond `highest` pixels, or the most, are told by dots. `scale` is a percentage of the distances
+/// at 96 dots an inch.
+TipLayout lay_out_tip(const TipParts& parts, TipFonts& fonts, int widest, int scale, int highest = INT_MAX);
 
 /// Where a tip of this size stands: below the rectangle or, where there is no room for it, above; within `screen`. It
 /// begins where the rectangle does, or has its middle there.

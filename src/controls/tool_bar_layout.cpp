@@ -119,6 +119,13 @@ public:
         places_.items.resize(items.size());
     }
 
+    bool hides_button() const {
+        for (std::size_t i = 0; i < items_.size(); ++i)
+            if (is_button(items_[i].kind) && places_.items[i] == PixelRect())
+                return true;
+        return false;
+    }
+
     ToolPlaces placed() {
         int across = flow_.margin;
         if (flow_.wraps) {
@@ -126,6 +133,8 @@ public:
                 across = place_line(i, across);
         } else {
             across = place_one_line();
+            if (!hides_button())
+                places_.chevron = {}; // its menu would be empty
         }
         places_.thickness = across + flow_.margin;
         return std::move(places_);

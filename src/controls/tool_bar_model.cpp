@@ -113,7 +113,7 @@ bool ToolBarModel::add_menu_entry(std::string_view value) {
 }
 
 bool ToolBarModel::insert(int index, ToolItem item) {
-    if (index < 0 || index > count() || count() == most_tools)
+    if (!takes(index))
         return false;
     if (item.text.size() > longest_tool_text)
         item.text.resize(longest_tool_text);
@@ -143,6 +143,11 @@ bool ToolBarModel::move(int from, int to) {
 int ToolBarModel::find(int id) const {
     const auto found =
         std::find_if(items_.begin(), items_.end(), [=](const ToolItem& item) { return id > 0 && item.id == id; });
+    return found == items_.end() ? -1 : static_cast<int>(found - items_.begin());
+}
+
+int ToolBarModel::position_of(int added) const {
+    const auto found = std::find_if(items_.begin(), items_.end(), [=](const ToolItem& i) { return i.added == added; });
     return found == items_.end() ? -1 : static_cast<int>(found - items_.begin());
 }
 

@@ -15,7 +15,7 @@ inline constexpr std::string_view tool_bar_keys[] = {
 inline constexpr std::string_view tool_text_words[] = {"NONE", "BESIDE", "BELOW"}; // as ToolText
 
 inline constexpr int most_tools = 1000;
-inline constexpr int highest_command = 0xFFFF;
+inline constexpr int highest_command = 0xFFFE; // the system's separators have the one behind
 inline constexpr int longest_tool_text = 100;
 
 enum ToolCheck { unchecked, checked, undecided };
@@ -57,7 +57,9 @@ public:
     const ToolItem& item(int index) const { return items_[static_cast<std::size_t>(index)]; }
     int count() const { return static_cast<int>(items_.size()); }
     bool has(int index) const { return index >= 0 && index < count(); }
-    /// False for one too many, or a place that is not there.
+    /// There is room for one more, and this is a place for it.
+    bool takes(int index) const { return index >= 0 && index <= count() && count() < most_tools; }
+    /// False where it does not.
     bool insert(int index, ToolItem item);
     bool remove(int index);
     void clear() { items_.clear(); }
@@ -68,6 +70,8 @@ public:
     int find(int id) const;
     /// Of a group no other item stays checked.
     bool set_check(int index, int check);
+    /// Where the item is that was added as this one, or -1.
+    int position_of(int added) const;
     /// What a press does to the item by itself: checks, picks.
     void press(int index);
 

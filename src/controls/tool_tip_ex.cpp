@@ -1,10 +1,12 @@
 #include "controls/tool_tip_ex.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "controls/control_font.h"
 #include "controls/icon_pixels.h"
 #include "controls/tip_layout.h"
+#include "controls/tool_tip_texts.h"
 #include "screen_scale.h"
 #include "widgets/painting/paint_pass.h"
 
@@ -15,42 +17,6 @@ constexpr UINT_PTR keyboard_timer = 0x5A00;
 constexpr int default_width = 320; // pixels at 96 dots an inch
 constexpr int pointer_height = 20;
 constexpr int largest_icon = 64;
-constexpr std::size_t need_text_size = sizeof(NMTTDISPINFOA::szText);
-
-// The control itself sees this text alone: it decides when to show, and is not to ask or measure anything.
-char something[] = " ";
-
-CString text_of_tool(const TOOLINFO& info) {
-    if (!info.lpszText || info.lpszText == LPSTR_TEXTCALLBACK)
-        return CString();
-    if (!IS_INTRESOURCE(info.lpszText))
-        return info.lpszText;
-    char text[wnt::longest_tip];
-    const int length = ::LoadStringA(info.hinst, LOWORD(reinterpret_cast<UINT_PTR>(info.lpszText)), text, sizeof text);
-    return CString(text, length);
-}
-
-CString answered_text(const NMTTDISPINFOA& need) {
-    if (need.lpszText == need.szText)
-        return CString(need.szText, static_cast<int>(::strnlen(need.szText, need_text_size)));
-    TOOLINFO answer = {};
-    answer.hinst = need.hinst;
-    answer.lpszText = need.lpszText;
-    return text_of_tool(answer);
-}
-
-CString flat_text(const WntTip& tip) {
-    return tip.title.IsEmpty() || tip.text.IsEmpty() ? tip.title + tip.text : tip.title + "\n" + tip.text;
-}
-
-LRESULT copy_text(const CString& text, char* to, std::size_t capacity) {
-    if (!to || capacity == 0)
-        return 0;
-    const std::size_t length = std::min<std::size_t>(text.GetLength(), capacity - 1);
-    std::copy_n(text.GetString(), length, to);
-    to[length] = 0;
-    return static_cast<LRESULT>(length);
-}
 
 CRect work_area(CPoint at) {
     MONITORINFO info = {};
@@ -84,12 +50,13 @@ struct CToolTipCtrlEx::Tool {
 };
 
 struct CToolTipCtrlEx::Fonts : wnt::TipFonts {
-    explicit Fonts(int scale) : plain(scale, false), bold(scale, true) {}
+    explicit Fonts(int percent) : scale(percent), plain(percent, false), bold(percent, true) {}
 
     wnt::ControlFont& of(bool is_bold) { return is_bold ? bold : plain; }
     int width(std::string_view text, bool is_bold) override { return of(is_bold).width(text); }
     int row() override { return std::max(plain.row(), bold.row()); }
 
+    const int scale;
     wnt::ControlFont plain;
     wnt::ControlFont bold;
 };
@@ -97,6 +64,8 @@ struct CToolTipCtrlEx::Fonts : wnt::TipFonts {
 BEGIN_MESSAGE_MAP(CToolTipCtrlEx, CToolTipCtrl)
 ON_MESSAGE(TTM_ADDTOOLA, &CToolTipCtrlEx::OnAddTool)
 ON_MESSAGE(TTM_DELTOOLA, &CToolTipCtrlEx::OnDelTool)
+ON_MESSAGE(TTM_GETTOOLINFOA, &CToolTipCtrlEx::OnGetTool)
+ON_MESSAGE(TTM_SETTOOLINFOA, &CToolTipCtrlEx::OnSetTool)
 ON_MESSAGE(TTM_UPDATETIPTEXTA, &CToolTipCtrlEx::OnUpdateText)
 ON_MESSAGE(TTM_GETTEXTA, &CToolTipCtrlEx::OnGetTipText)
 ON_MESSAGE(TTM_RELAYEVENT, &CToolTipCtrlEx::OnRelay)
@@ -148,12 +117,8 @@ LRESULT CToolTipCtrlEx::OnAddTool(WPARAM wParam, LPARAM lParam) {
     if (!given || given->cbSize < TTTOOLINFOA_V1_SIZE)
         return FALSE;
     WntTip tip;
-    tip.text = text_of_tool(*given);
-    TOOLINFO seen = {};
-    std::memcpy(&seen, given, std::min<std::size_t>(given->cbSize, TTTOOLINFOA_V2_SIZE));
-    seen.cbSize = TTTOOLINFOA_V2_SIZE; // what every version of the control takes
-    seen.hinst = nullptr;
-    seen.lpszText = something;
+    tip.text = wnt::text_of_tool(*given);
+    TOOLINFO seen = wnt::with_something(*given);
     if (!DefWindowProc(TTM_ADDTOOLA, wParam, reinterpret_cast<LPARAM>(&seen)))
         return FALSE;
     const Tool tool = {given->hwnd, given->uId, given->uFlags, given->lpszText == LPSTR_TEXTCALLBACK, tip};
@@ -172,29 +137,67 @@ LRESULT CToolTipCtrlEx::OnDelTool(WPARAM, LPARAM lParam) {
     return Default();
 }
 
+LRESULT CToolTipCtrlEx::OnGetTool(WPARAM, LPARAM lParam) {
+    auto* given = reinterpret_cast<TOOLINFO*>(lParam);
+    const Tool* tool = given ? find(*given) : nullptr;
+    if (!tool)
+        return Default();
+    char* const room = std::exchange(given->lpszText, nullptr);
+    const LRESULT found = Default();
+    given->lpszText = tool->asked ? LPSTR_TEXTCALLBACK : room;
+    if (!tool->asked && !IS_INTRESOURCE(room) && room != LPSTR_TEXTCALLBACK)
+        wnt::copy_text(wnt::flat_text(tool->tip), room, wnt::old_callers);
+    return found;
+}
+
+LRESULT CToolTipCtrlEx::OnSetTool(WPARAM wParam, LPARAM lParam) {
+    const auto* given = reinterpret_cast<const TOOLINFO*>(lParam);
+    Tool* tool = given && given->cbSize >= TTTOOLINFOA_V1_SIZE ? find(*given) : nullptr;
+    if (!tool)
+        return 0;
+    TOOLINFO seen = wnt::with_something(*given);
+    DefWindowProc(TTM_SETTOOLINFOA, wParam, reinterpret_cast<LPARAM>(&seen));
+    tool->flags = given->uFlags;
+    if (given->lpszText) { // or else it stays
+        tool->asked = given->lpszText == LPSTR_TEXTCALLBACK;
+        tool->tip.text = wnt::text_of_tool(*given);
+        refresh(*tool);
+    }
+    return 0;
+}
+
 LRESULT CToolTipCtrlEx::OnUpdateText(WPARAM, LPARAM lParam) {
     const auto* given = reinterpret_cast<const TOOLINFO*>(lParam);
     Tool* tool = given ? find(*given) : nullptr;
     if (!tool)
         return 0;
     tool->asked = given->lpszText == LPSTR_TEXTCALLBACK;
-    tool->tip.text = text_of_tool(*given);
-    if (tracked_.hwnd == tool->window && tracked_.uId == tool->id)
-        track_tool();
-    else if (shown_ == Shown::by_pointer && is_current(*tool))
-        PostMessage(show_soon);
+    tool->tip.text = wnt::text_of_tool(*given);
+    refresh(*tool);
     return 0;
 }
 
+// Its contents are other ones now.
+void CToolTipCtrlEx::refresh(const Tool& tool) {
+    if (tracked_.hwnd == tool.window && tracked_.uId == tool.id) {
+        track_tool();
+    } else if (shown_ == Shown::by_pointer && is_current(tool)) {
+        PostMessage(show_soon);
+    } else if (shown_ == Shown::by_keyboard && keyed_.hwnd == tool.window && keyed_.uId == tool.id) {
+        if (show_keyed() == Outcome::empty)
+            HideTip();
+    }
+}
+
 LRESULT CToolTipCtrlEx::OnGetTipText(WPARAM capacity, LPARAM lParam) {
-    constexpr std::size_t old_callers = 80; // they tell no length
     const auto* given = reinterpret_cast<const TOOLINFO*>(lParam);
     const Tool* tool = given ? find(*given) : nullptr;
-    return tool ? copy_text(flat_text(tool->tip), given->lpszText, capacity ? capacity : old_callers) : 0;
+    return tool ? wnt::copy_text(wnt::flat_text(tool->tip), given->lpszText, capacity ? capacity : wnt::old_callers)
+                : 0;
 }
 
 int CToolTipCtrlEx::AddTip(CWnd* window, const WntTip& tip, LPCRECT part, UINT_PTR id) {
-    if (!this || !m_hWnd || !window->GetSafeHwnd() || !AddTool(window, something, part, id))
+    if (!this || !m_hWnd || !window->GetSafeHwnd() || !AddTool(window, wnt::something, part, id))
         return 0;
     TOOLINFO info;
     FillInToolInfo(info, window, id);
@@ -215,8 +218,7 @@ int CToolTipCtrlEx::SetTip(CWnd* window, const WntTip& tip, UINT_PTR id) {
         return 0;
     tool->asked = false;
     tool->tip = tip;
-    if (shown_ == Shown::by_pointer && is_current(*tool))
-        PostMessage(show_soon);
+    refresh(*tool);
     return 1;
 }
 
@@ -241,7 +243,7 @@ bool CToolTipCtrlEx::ask(const Tool& tool, WntTip& tip) {
     if (!tell(need.hdr, TTN_GETDISPINFOA))
         return false;
     WntTipNotify more = {{}, tip};
-    if (const CString text = answered_text(need); !text.IsEmpty())
+    if (const CString text = wnt::answered_text(need); !text.IsEmpty())
         more.tip.text = text;
     if (!tell(more.hdr, WNT_TIP_NEEDED))
         return false;
@@ -284,8 +286,8 @@ CToolTipCtrlEx::Outcome CToolTipCtrlEx::show_tool(const TOOLINFO& info, Shown ho
     return present(tip, around, how, centred) ? Outcome::shown : Outcome::empty;
 }
 
-CRect CToolTipCtrlEx::around_pointer(CPoint at) const {
-    return CRect(at.x, at.y, at.x, at.y + ::MulDiv(pointer_height, wnt::screen_scale(), 100));
+CRect CToolTipCtrlEx::around_pointer(CPoint at) {
+    return CRect(at.x, at.y, at.x, at.y + ::MulDiv(pointer_height, fonts().scale, 100));
 }
 
 CRect CToolTipCtrlEx::around_tool(const TOOLINFO& info) const {
@@ -299,9 +301,9 @@ CRect CToolTipCtrlEx::around_tool(const TOOLINFO& info) const {
     return place;
 }
 
-int CToolTipCtrlEx::widest() const {
+int CToolTipCtrlEx::widest() {
     const int width = GetMaxTipWidth();
-    return width > 0 ? width : ::MulDiv(default_width, wnt::screen_scale(), 100);
+    return width > 0 ? width : ::MulDiv(default_width, fonts().scale, 100);
 }
 
 CToolTipCtrlEx::Fonts& CToolTipCtrlEx::fonts() {
@@ -319,7 +321,8 @@ bool CToolTipCtrlEx::present(const WntTip& tip, const CRect& around, Shown how, 
     const wnt::TipParts parts = {std::string_view(tip.title.GetString(), tip.title.GetLength()),
                                  std::string_view(tip.text.GetString(), tip.text.GetLength()), icon.cx, icon.cy,
                                  tip.colour != CLR_NONE};
-    wnt::TipLayout layout = wnt::lay_out_tip(parts, fonts(), widest(), wnt::screen_scale());
+    const CRect screen = work_area(CPoint(around.left, around.top));
+    wnt::TipLayout layout = wnt::lay_out_tip(parts, fonts(), widest(), fonts().scale, screen.Height());
     if (how == Shown::tracked && shown_ == Shown::tracked) {
         layout.width = std::max<int>(layout.width, least_.cx);
         layout.height = std::max<int>(layout.height, least_.cy);
@@ -329,8 +332,7 @@ bool CToolTipCtrlEx::present(const WntTip& tip, const CRect& around, Shown how, 
     *layout_ = std::move(layout);
     tip_ = tip;
     shown_ = how;
-    const CRect place = rect_of(wnt::place_tip(least_.cx, least_.cy, pixels_of(around),
-                                               pixels_of(work_area(CPoint(around.left, around.top))), centred));
+    const CRect place = rect_of(wnt::place_tip(least_.cx, least_.cy, pixels_of(around), pixels_of(screen), centred));
     presenting_ = true;
     SetWindowPos(&CWnd::wndTop, place.left, place.top, place.Width(), place.Height(),
                  SWP_NOACTIVATE | SWP_NOOWNERZORDER | SWP_SHOWWINDOW);
@@ -345,13 +347,18 @@ int CToolTipCtrlEx::ShowTip(CWnd* window, UINT_PTR id) {
     if (!this || !m_hWnd || !window->GetSafeHwnd())
         return 0;
     HideTip();
-    TOOLINFO info;
-    FillInToolInfo(info, window, id);
-    if (!SendMessage(TTM_GETTOOLINFOA, 0, reinterpret_cast<LPARAM>(&info)) ||
-        show_tool(info, Shown::by_keyboard) != Outcome::shown)
-        return 0;
-    SetTimer(keyboard_timer, std::max(GetDelayTime(TTDT_AUTOPOP), 1), nullptr);
-    return 1;
+    FillInToolInfo(keyed_, window, id);
+    return show_keyed() == Outcome::shown;
+}
+
+CToolTipCtrlEx::Outcome CToolTipCtrlEx::show_keyed() {
+    TOOLINFO info = keyed_;
+    if (!SendMessage(TTM_GETTOOLINFOA, 0, reinterpret_cast<LPARAM>(&info)))
+        return Outcome::empty;
+    const Outcome outcome = show_tool(info, Shown::by_keyboard);
+    if (outcome == Outcome::shown)
+        SetTimer(keyboard_timer, std::max(GetDelayTime(TTDT_AUTOPOP), 1), nullptr);
+    return outcome;
 }
 
 int CToolTipCtrlEx::TrackTip(const WntTip& tip, CPoint screen) {
@@ -419,16 +426,19 @@ void CToolTipCtrlEx::track_tool() {
         return;
     const Tool tool = *found;
     WntTip tip = tool.tip;
-    if (!tool.asked || ask(tool, tip))
-        present(tip, CRect(track_at_, CSize(0, 0)), Shown::tracked);
+    if (tool.asked && !ask(tool, tip))
+        return;
+    if (!present(tip, CRect(track_at_, CSize(0, 0)), Shown::tracked))
+        ShowWindow(SW_HIDE); // until it has contents again
 }
 
 LRESULT CToolTipCtrlEx::OnWindowText(WPARAM capacity, LPARAM lParam) {
-    return copy_text(shown_ == Shown::nothing ? CString() : flat_text(tip_), reinterpret_cast<char*>(lParam), capacity);
+    return wnt::copy_text(shown_ == Shown::nothing ? CString() : wnt::flat_text(tip_), reinterpret_cast<char*>(lParam),
+                          capacity);
 }
 
 LRESULT CToolTipCtrlEx::OnWindowTextLength(WPARAM, LPARAM) {
-    return shown_ == Shown::nothing ? 0 : flat_text(tip_).GetLength();
+    return shown_ == Shown::nothing ? 0 : wnt::flat_text(tip_).GetLength();
 }
 
 void CToolTipCtrlEx::OnSettingChange(UINT flags, LPCTSTR section) {
@@ -447,6 +457,7 @@ void CToolTipCtrlEx::OnTimer(UINT_PTR timer) {
 
 void CToolTipCtrlEx::OnDestroy() {
     tools_.clear();
+    fonts_.reset(); // of the scaling that is in force when it is made again
     shown_ = Shown::nothing;
     tracked_ = {};
     CToolTipCtrl::OnDestroy();

@@ -42,7 +42,8 @@ struct WntTipNotify {
 ///         return CWnd::PreTranslateMessage(message);
 ///     }
 ///
-/// Whatever a CToolTipCtrl does, it does: tools are windows or, with an id, rectangles of one in its client
+/// A CToolTipCtrl's members work, save that titles and margins of its own (TTM_SETTITLE, TTM_SETMARGIN) are not shown
+/// and what enumerates or hits tools tells no texts. Tools are windows or, with an id, rectangles of one in its client
 /// coordinates, which move with it; delays, greatest width and colours are set by its members. Tools that were added
 /// with LPSTR_TEXTCALLBACK are asked for at the moment of showing: TTN_NEEDTEXT, then WNT_TIP_NEEDED with what that
 /// answered. Without SetMaxTipWidth() lines are up to 320 pixels wide at 96 dots an inch; its fonts follow the main
@@ -77,6 +78,8 @@ protected:
 
     afx_msg LRESULT OnAddTool(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnDelTool(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnGetTool(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSetTool(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnUpdateText(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnGetTipText(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnRelay(WPARAM wParam, LPARAM lParam);
@@ -102,13 +105,15 @@ private:
 
     Tool* find(const TOOLINFO& info);
     bool is_current(const Tool& tool);
+    void refresh(const Tool& tool);
+    Outcome show_keyed();
     /// Asks the tool's window; false when nothing is left to go on with.
     bool ask(const Tool& tool, WntTip& tip);
     bool present(const WntTip& tip, const CRect& around, Shown how, bool centred = false);
     Outcome show_tool(const TOOLINFO& info, Shown how);
     CRect around_tool(const TOOLINFO& info) const;
-    CRect around_pointer(CPoint at) const;
-    int widest() const;
+    CRect around_pointer(CPoint at);
+    int widest();
     void track_tool();
     Fonts& fonts();
 
@@ -119,6 +124,7 @@ private:
     Shown shown_ = Shown::nothing;
     bool presenting_ = false;
     CSize least_;           // of a tracked tip
+    TOOLINFO keyed_ = {};   // the one that was shown by the keyboard last
     TOOLINFO tracked_ = {}; // by the framework's messages; without a window: none
     CPoint track_at_;
 };

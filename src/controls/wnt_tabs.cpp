@@ -75,11 +75,12 @@ void CWntTabs::end_script() {
     model_->end_script();
     if (!m_hWnd)
         return;
+    const wnt::StillThere self(*this);
     changed();
-    for (std::size_t i = static_cast<std::size_t>(model_->count()); i < pages.size(); ++i)
-        if (pages[i])
-            ::ShowWindow(pages[i], SW_HIDE);
-    UpdateWindow();
+    for (std::size_t i = static_cast<std::size_t>(self ? model_->count() : 0); self && i < pages.size(); ++i)
+        retire(pages[i]);
+    if (self)
+        UpdateWindow();
 }
 
 unsigned char CWntTabs::LoadFromFile(const char* path) {
@@ -119,9 +120,10 @@ int CWntTabs::RemoveTab(int tab) {
         return 0;
     const HWND page = page_window(tab);
     model_->remove(tab);
+    const wnt::StillThere self(*this);
     changed();
-    if (page)
-        ::ShowWindow(page, SW_HIDE);
+    if (self)
+        retire(page);
     return 1;
 }
 
@@ -158,9 +160,10 @@ int CWntTabs::SetPage(int tab, CWnd* page) {
     if (page)
         page->ShowWindow(SW_HIDE);
     model_->at(tab).page = page->GetSafeHwnd();
+    const wnt::StillThere self(*this);
     show_page();
-    if (before)
-        ::ShowWindow(before, SW_HIDE);
+    if (self)
+        retire(before);
     return 1;
 }
 
@@ -282,18 +285,31 @@ void CWntTabs::show_page() {
     if (!m_hWnd || !strip_->m_hWnd)
         return;
     const HWND wanted = page_window(model_->selected());
+    const wnt::StillThere self(*this);
+    // Who loses the focus may end the tabs, or select another one.
+    const auto goes_on = [&] { return self && wanted == page_window(model_->selected()); };
     const CRect place = GetPageRect();
     if (wanted)
         ::SetWindowPos(wanted, strip_->m_hWnd, place.left, place.top, place.Width(), place.Height(),
                        SWP_NOACTIVATE | SWP_SHOWWINDOW);
-    for (int i = 0; i < model_->count(); ++i) {
+    for (int i = 0; goes_on() && i < model_->count(); ++i) {
         const HWND page = page_window(i);
         if (!page || page == wanted || !(::GetWindowLongPtr(page, GWL_STYLE) & WS_VISIBLE))
             continue;
         if (has_focus(page))
             focus_into(wanted);
-        ::ShowWindow(page, SW_HIDE);
+        if (goes_on())
+            ::ShowWindow(page, SW_HIDE);
     }
+}
+
+// A page that is none any more.
+void CWntTabs::retire(HWND page) {
+    const wnt::StillThere self(*this);
+    if (page && has_focus(page))
+        focus_into(page_window(model_->selected()));
+    if (page && self)
+        ::ShowWindow(page, SW_HIDE);
 }
 
 void CWntTabs::focus_into(HWND page) {
@@ -347,16 +363,26 @@ bool CWntTabs::select_by_user(int tab) {
     if (tab == before || !model_->has(tab) || !model_->at(tab).enabled)
         return true;
     const Answer answer = ask(WNT_TABS_SELECTING, tab, before);
-    if (answer != Answer::allowed || !Select(tab))
+    if (answer != Answer::allowed)
         return answer != Answer::destroyed;
+    const int id = model_->at(tab).id;
+    const wnt::StillThere self(*this);
+    if (!Select(tab) || !self)
+        return static_cast<bool>(self);
+    tab = model_->position_of(id);
+    if (tab < 0 || tab != model_->selected())
+        return true; // the page that was left brought another one forward
     return tell(WNT_TABS_SELECTED, tab, before, page_window(tab));
 }
 
 bool CWntTabs::close_by_user(int tab) {
     const HWND page = page_window(tab);
     const Answer answer = ask(WNT_TABS_CLOSING, tab, model_->selected());
-    if (answer != Answer::allowed || !RemoveTab(tab))
+    if (answer != Answer::allowed)
         return answer != Answer::destroyed;
+    const wnt::StillThere self(*this);
+    if (!RemoveTab(tab) || !self)
+        return static_cast<bool>(self);
     return tell(WNT_TABS_CLOSED, tab, model_->selected(), page);
 }
 
@@ -364,8 +390,11 @@ bool CWntTabs::move_by_user(int from, int to) {
     if (from == to)
         return true;
     const Answer answer = ask(WNT_TABS_ORDERING, from, to);
-    if (answer != Answer::allowed || !MoveTab(from, to))
+    if (answer != Answer::allowed)
         return answer != Answer::destroyed;
+    const wnt::StillThere self(*this);
+    if (!MoveTab(from, to) || !self)
+        return static_cast<bool>(self);
     return tell(WNT_TABS_ORDERED, to, from, page_window(to));
 }
 

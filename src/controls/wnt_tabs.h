@@ -132,6 +132,7 @@ private:
     void arrange(int wanted);
     void changed() { arrange(GetSelected()); }
     void show_page();
+    void retire(HWND page);
     void focus_into(HWND page);
     bool translate_key(const MSG& message);
 

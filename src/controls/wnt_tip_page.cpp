@@ -94,7 +94,7 @@ bool CWntTipPage::build() {
         !next_.Create("&Next", style, nowhere, this, next_id))
         return false;
     ::SendMessageW(text_, EM_SETLIMITTEXT, 0, 0);
-    at_start_.SetCheck(BST_CHECKED);
+    at_start_.SetCheck(IsShownAtStart(profile_, section_) ? BST_CHECKED : BST_UNCHECKED);
     rescale(false);
     show_text();
     return true;
@@ -114,9 +114,9 @@ void CWntTipPage::take_text(const CString& text) {
 }
 
 void CWntTipPage::rescale(bool settings_changed) {
-    const int scale = wnt::screen_scale(settings_changed);
-    font_ = std::make_unique<wnt::ControlFont>(scale, false);
-    heading_ = std::make_unique<wnt::ControlFont>(scale * heading_percent / 100, true);
+    scale_ = wnt::screen_scale(settings_changed);
+    font_ = std::make_unique<wnt::ControlFont>(scale_, false);
+    heading_ = std::make_unique<wnt::ControlFont>(scale_ * heading_percent / 100, true);
     for (const HWND control : {text_, at_start_.m_hWnd, previous_.m_hWnd, next_.m_hWnd})
         ::SendMessage(control, WM_SETFONT, reinterpret_cast<WPARAM>(font_->font().GetSafeHandle()), TRUE);
     ::SendMessage(text_, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
@@ -148,9 +148,16 @@ int CWntTipPage::SetProfile(const char* profile, const char* name) {
 void CWntTipPage::start() {
     const wnt::ProfileSection from = {profile_, section_};
     int last = 0;
-    tip_ = file_->tips.empty() ? -1 : 0;
-    if (tip_ == 0 && from.named() && from.read("Tip", last) && last >= 0)
-        tip_ = static_cast<int>((static_cast<unsigned>(last) + 1) % file_->tips.size());
+    int first = file_->tips.empty() ? -1 : 0;
+    if (first == 0 && from.named() && from.read("Tip", last) && last >= 0)
+        first = static_cast<int>((static_cast<unsigned>(last) + 1) % file_->tips.size());
+    turn_to(first);
+}
+
+void CWntTipPage::turn_to(int tip) {
+    tip_ = tip;
+    if (tip_ >= 0)
+        store("Tip", tip_);
     show_text();
 }
 
@@ -171,8 +178,7 @@ int CWntTipPage::GetTip() const {
 int CWntTipPage::ShowTip(int tip) {
     if (!this || tip < 0 || tip >= GetTipCount())
         return 0;
-    tip_ = tip;
-    show_text();
+    turn_to(tip);
     return 1;
 }
 
@@ -197,8 +203,6 @@ void CWntTipPage::store(const char* key, int value) {
 // Lines are broken here: the control takes seconds for a long tip of few blanks. The bar is there only where it is
 // needed.
 void CWntTipPage::show_text() {
-    if (tip_ >= 0)
-        store("Tip", tip_);
     if (!m_hWnd || !::IsWindow(text_))
         return;
     const CRect place = places().text;
@@ -218,7 +222,7 @@ void CWntTipPage::show_text() {
 }
 
 CWntTipPage::Places CWntTipPage::places() const {
-    const auto scaled = [](int pixels) { return ::MulDiv(pixels, wnt::screen_scale(), 100); };
+    const auto scaled = [this](int pixels) { return ::MulDiv(pixels, scale_, 100); };
     CRect client;
     GetClientRect(&client);
     const int m = scaled(margin);

@@ -79,6 +79,7 @@ private:
     void paint_bulb(wnt::PaintPass& pass, const CRect& place);
     std::wstring shown_text() const;
     void start();
+    void turn_to(int tip);
     void show_text();
     void turn_by_user(int step);
     void choose_by_user();
@@ -87,6 +88,7 @@ private:
     std::unique_ptr<wnt::TipFile> file_;
     bool opened_ = false;
     int tip_ = -1;
+    int scale_ = 100;
     CString profile_, section_;
     std::unique_ptr<wnt::ControlFont> font_, heading_;
     HWND text_ = nullptr; // takes any characters, whatever the code page

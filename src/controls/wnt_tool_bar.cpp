@@ -12,6 +12,7 @@
 #include "screen_scale.h"
 #include "script/keywords.h"
 #include "script_on_disk.h"
+#include "widgets/painting/surface_owner.h"
 
 namespace {
 
@@ -51,6 +52,12 @@ void describe(wnt::ToolItem& to, const CWntToolItem& from) {
 
 int check_of(const CWntToolItem& item) {
     return std::clamp<int>(item.check, wnt::unchecked, wnt::undecided);
+}
+
+// As the last thing: who loses the focus by it may end the bar.
+void hide_all(const std::vector<HWND>& windows) {
+    for (const HWND window : windows)
+        ::ShowWindow(window, SW_HIDE);
 }
 
 bool named(const char* profile, const char* name) {
@@ -114,8 +121,9 @@ unsigned char CWntToolBar::LoadLine(const char* line, int mode) {
             model_->item(before).text_width = font_->width(model_->item(before).text);
     } else if (mode == wnt::script_end) {
         load_named_pictures();
+        const wnt::StillThere there(*this);
         items_changed();
-        if (m_hWnd)
+        if (there)
             UpdateWindow();
     }
     return 0;
@@ -127,7 +135,11 @@ unsigned char CWntToolBar::LoadFromFile(const char* path) {
     const wnt::ScriptOnDisk file{std::string(wnt::script_file_name(path))};
     if (!file.is_open())
         return 0; // the items stay
+    const wnt::StillThere there(*this);
+    const bool has_window = m_hWnd != nullptr;
     LoadLine("", wnt::script_begin);
+    if (has_window && !there)
+        return 0;
     return wnt::feed_script_on_disk(path, [this](const char* line, int mode) { LoadLine(line, mode); });
 }
 
@@ -149,14 +161,14 @@ int CWntToolBar::AddItem(const CWntToolItem& item) {
 }
 
 int CWntToolBar::InsertItem(int index, const CWntToolItem& item) {
-    if (!this || !is_good(item) || (item.kind == WNT_TOOL_WINDOW && !wnt::adopt_child(*this, item.window)))
+    if (!this || !is_good(item) || !model_->takes(index) ||
+        (item.kind == WNT_TOOL_WINDOW && !wnt::adopt_child(*this, item.window)))
         return 0;
     wnt::ToolItem added;
     added.kind = static_cast<wnt::ToolKind>(item.kind);
     describe(added, item);
     added.text_width = font_ ? font_->width(added.text) : 0;
-    if (!model_->insert(index, std::move(added)))
-        return 0;
+    model_->insert(index, std::move(added));
     model_->set_check(index, check_of(item));
     items_changed();
     return 1;
@@ -170,14 +182,15 @@ int CWntToolBar::SetItem(int index, const CWntToolItem& item) {
     if (!is_good(same_kind) || (same_kind.kind == WNT_TOOL_WINDOW && !wnt::adopt_child(*this, item.window)))
         return 0;
     wnt::ToolItem& changed = model_->item(index);
+    std::vector<HWND> left;
     if (changed.window && changed.window != item.window->GetSafeHwnd())
-        if (const HWND before = living(static_cast<HWND>(changed.window)))
-            ::ShowWindow(before, SW_HIDE);
+        left.push_back(living(static_cast<HWND>(changed.window)));
     describe(changed, item);
     changed.check = wnt::unchecked;
     model_->set_check(index, check_of(item)); // one of its group
     changed.text_width = font_ ? font_->width(changed.text) : 0;
     items_changed();
+    hide_all(left);
     return 1;
 }
 
@@ -186,20 +199,20 @@ int CWntToolBar::RemoveItem(int index) {
         return 0;
     const HWND embedded = living(static_cast<HWND>(model_->item(index).window));
     model_->remove(index);
-    if (embedded)
-        ::ShowWindow(embedded, SW_HIDE);
     items_changed();
+    hide_all({embedded});
     return 1;
 }
 
 int CWntToolBar::RemoveAll() {
     if (!this)
         return 0;
+    std::vector<HWND> embedded;
     for (const wnt::ToolItem& item : model_->items())
-        if (const HWND embedded = living(static_cast<HWND>(item.window)))
-            ::ShowWindow(embedded, SW_HIDE);
+        embedded.push_back(living(static_cast<HWND>(item.window)));
     model_->clear();
     items_changed();
+    hide_all(embedded);
     return 1;
 }
 
@@ -265,8 +278,10 @@ int CWntToolBar::SetPictures(HBITMAP small_strip, HBITMAP large_strip, COLORREF 
         return 0;
     pictures_->set_strip(0, small_strip, key);
     pictures_->set_strip(1, large_strip, key);
+    const bool taken =
+        (small_strip == nullptr || pictures_->has_strip(0)) && (large_strip == nullptr || pictures_->has_strip(1));
     items_changed();
-    return (small_strip == nullptr || pictures_->has_strip(0)) && (large_strip == nullptr || pictures_->has_strip(1));
+    return taken;
 }
 
 int CWntToolBar::SetTextPlace(int place) {
@@ -382,12 +397,15 @@ void CWntToolBar::place_items() {
     GetClientRect(&client);
     *places_ = places_in(client.Width(), client.Height());
     tips_wanted_ = true;
+    const HWND focus = ::GetFocus();
+    bool focus_hidden = false;
     HDWP moves = ::BeginDeferWindowPos(8);
     for (int i = 0; i < model_->count(); ++i) {
         const HWND embedded = living(static_cast<HWND>(model_->item(i).window));
         if (!embedded || !moves)
             continue;
         const CRect place = place_of(i);
+        focus_hidden |= place.IsRectEmpty() && focus && (focus == embedded || ::IsChild(embedded, focus));
         // Hidden ones keep their size, by which they are given room again.
         const UINT flags = place.IsRectEmpty() ? SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE : SWP_SHOWWINDOW | SWP_NOSIZE;
         moves = ::DeferWindowPos(moves, embedded, nullptr, place.left, place.top, 0, 0,
@@ -396,6 +414,8 @@ void CWntToolBar::place_items() {
     if (moves)
         ::EndDeferWindowPos(moves);
     Invalidate(FALSE);
+    if (focus_hidden)
+        give_focus_back(); // the last thing: who loses it may end the bar
 }
 
 void CWntToolBar::lay_out(int, int) {

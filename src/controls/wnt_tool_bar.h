@@ -54,7 +54,8 @@ public:
 
 /// Notifications of a toolbar, as WM_NOTIFY with a WntToolNotify.
 enum WntToolCode : UINT {
-    WNT_TOOL_DROPPING = 160, ///< before a menu opens: the host may set `menu`, or open one itself and answer 1
+    WNT_TOOL_DROPPING = 160, ///< before a menu opens, also as part of the chevron's: the host may set `menu`, or open
+                             ///< one itself and answer 1
     WNT_TOOL_MOVING = 161,   ///< before the user's drag moves an item: the host may change `to`, or answer 1 to refuse
     WNT_TOOL_MOVED = 162,    ///< after it
 };
@@ -182,6 +183,7 @@ protected:
 
 private:
     class ItemState;
+    class PopupMenu;
     struct Drag;
     struct Painting;
 
@@ -214,13 +216,16 @@ private:
 
     // Commands and menus. Where they answer false, the host destroyed the bar.
     CWnd* target() const;
+    CWnd* handlers() const;
     bool update_items(bool disable);
     bool update_menu(HMENU menu, int depth);
     bool send_command(UINT id);
     bool press(int index);
+    bool ask_menu(int added, const CRect& place, PopupMenu& own, HMENU& menu);
     bool drop_menu(int index);
+    bool add_hidden(PopupMenu& all, int added, const CRect& place);
     bool open_overflow();
-    UINT track_menu(HMENU menu, const CRect& place, CWnd* owner);
+    UINT track_menu(HMENU menu, const CRect& place, HWND owner);
     bool tell(UINT code, WntToolNotify& told, LRESULT& answer);
 
     // Pointer and keyboard.

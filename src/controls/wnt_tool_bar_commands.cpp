@@ -18,8 +18,23 @@ bool is_alive(const CWnd* window, HWND handle) {
     return ::IsWindow(handle) && CWnd::FromHandlePermanent(handle) == window;
 }
 
+// Items have no access keys: a menu shows an & only where there are two.
+CString menu_text(const wnt::ToolItem& item) {
+    CString text = item.text.empty() ? CString(item.tip.c_str()).SpanExcluding("\r\n") : CString(item.text.c_str());
+    if (text.IsEmpty())
+        text.Format("%d", item.id);
+    text.Replace("&", "&&");
+    return text;
+}
+
+UINT flags_of(const wnt::ToolItem& item) {
+    return (item.enabled ? 0u : UINT{MF_GRAYED}) | (item.check == wnt::checked ? UINT{MF_CHECKED} : 0u);
+}
+
+} // namespace
+
 /// A popup menu that may hold some of the host's.
-class PopupMenu {
+class CWntToolBar::PopupMenu {
 public:
     PopupMenu() : menu_(::CreatePopupMenu()) {}
     ~PopupMenu() {
@@ -48,9 +63,7 @@ public:
         borrowed_.push_back(menu);
         ::AppendMenuA(menu_, MF_POPUP | flags, reinterpret_cast<UINT_PTR>(menu), text);
     }
-    void add_popup(const std::vector<wnt::ToolMenuEntry>& entries, const CString& text, UINT flags) {
-        PopupMenu popup;
-        popup.add_entries(entries);
+    void take(PopupMenu& popup, const CString& text, UINT flags) {
         ::AppendMenuA(menu_, MF_POPUP | flags, reinterpret_cast<UINT_PTR>(std::exchange(popup.menu_, nullptr)), text);
     }
 
@@ -59,25 +72,10 @@ private:
     std::vector<HMENU> borrowed_;
 };
 
-// Items have no access keys: a menu shows an & only where there are two.
-CString menu_text(const wnt::ToolItem& item) {
-    CString text = item.text.empty() ? CString(item.tip.c_str()).SpanExcluding("\r\n") : CString(item.text.c_str());
-    if (text.IsEmpty())
-        text.Format("%d", item.id);
-    text.Replace("&", "&&");
-    return text;
-}
-
-UINT flags_of(const wnt::ToolItem& item) {
-    return (item.enabled ? 0u : UINT{MF_GRAYED}) | (item.check == wnt::checked ? UINT{MF_CHECKED} : 0u);
-}
-
-} // namespace
-
 /// Tells the owner's handlers about one item, and the item what they say.
 class CWntToolBar::ItemState : public CCmdUI {
 public:
-    ItemState(CWntToolBar& bar, int index) : bar_(bar) {
+    ItemState(CWntToolBar& bar, int index) : bar_(bar), bar_there_(bar) {
         m_nIndex = static_cast<UINT>(index);
         m_nIndexMax = static_cast<UINT>(bar.model_->count());
         m_nID = static_cast<UINT>(bar.model_->item(index).id);
@@ -104,10 +102,11 @@ public:
 private:
     int index() const { return static_cast<int>(m_nIndex); }
     wnt::ToolItem& item() { return bar_.model_->item(index()); }
-    // A handler may have changed the items.
-    bool is_there() { return bar_.model_->has(index()) && item().id == static_cast<int>(m_nID); }
+    // A handler may have changed the items, or ended the bar.
+    bool is_there() { return bar_there_ && bar_.model_->has(index()) && item().id == static_cast<int>(m_nID); }
 
     CWntToolBar& bar_;
+    const wnt::StillThere bar_there_;
 };
 
 // Panes of the library's only hand on what they are told.
@@ -118,15 +117,21 @@ CWnd* CWntToolBar::target() const {
     return owner;
 }
 
+// A window of another kind has no handlers: null. Asked anew after each of them, which may end it.
+CWnd* CWntToolBar::handlers() const {
+    CWnd* const owner = target();
+    return owner && CWnd::FromHandlePermanent(owner->m_hWnd) == owner ? owner : nullptr;
+}
+
 bool CWntToolBar::update_items(bool disable) {
     const HWND self = m_hWnd;
-    CWnd* const owner = target();
-    if (!owner || CWnd::FromHandlePermanent(owner->m_hWnd) != owner)
-        return true; // a window of another kind has no handlers
     for (int i = 0; i < model_->count(); ++i) {
         const wnt::ToolKind kind = model_->item(i).kind;
         if (!wnt::is_button(kind))
             continue;
+        CWnd* const owner = handlers();
+        if (!owner)
+            break;
         ItemState(*this, i).DoUpdate(owner, disable && kind != wnt::ToolKind::drop_down);
         if (!is_alive(this, self))
             return false;
@@ -177,8 +182,7 @@ bool CWntToolBar::tell(UINT code, WntToolNotify& told, LRESULT& answer) {
 bool CWntToolBar::update_menu(HMENU menu, int depth) {
     constexpr int deepest = 8;
     const HWND self = m_hWnd;
-    CWnd* const owner = target();
-    if (depth > deepest || !owner || CWnd::FromHandlePermanent(owner->m_hWnd) != owner)
+    if (depth > deepest)
         return true;
     CCmdUI state;
     state.m_pMenu = CMenu::FromHandle(menu);
@@ -193,6 +197,9 @@ bool CWntToolBar::update_menu(HMENU menu, int depth) {
         state.m_nID = ::GetMenuItemID(menu, position);
         if (state.m_nID == 0 || state.m_nID >= first_hidden)
             continue;
+        CWnd* const owner = handlers();
+        if (!owner)
+            break;
         state.DoUpdate(owner, auto_disable_);
         if (!is_alive(this, self))
             return false;
@@ -201,9 +208,9 @@ bool CWntToolBar::update_menu(HMENU menu, int depth) {
 }
 
 // The command that was chosen; 0: none. Nothing is left when the bar was destroyed meanwhile.
-UINT CWntToolBar::track_menu(HMENU menu, const CRect& place, CWnd* owner) {
+UINT CWntToolBar::track_menu(HMENU menu, const CRect& place, HWND owner) {
     const HWND self = m_hWnd;
-    if (!update_menu(menu, 0))
+    if (!update_menu(menu, 0) || !::IsWindow(owner))
         return 0;
     TPMPARAMS around = {};
     around.cbSize = sizeof around;
@@ -211,8 +218,8 @@ UINT CWntToolBar::track_menu(HMENU menu, const CRect& place, CWnd* owner) {
     const bool upright = model_->upright;
     const UINT flags = TPM_LEFTALIGN | TPM_TOPALIGN | TPM_LEFTBUTTON | TPM_RETURNCMD | (upright ? 0 : TPM_VERTICAL);
     UpdateWindow();
-    const UINT chosen = static_cast<UINT>(::TrackPopupMenuEx(
-        menu, flags, upright ? place.right : place.left, upright ? place.top : place.bottom, owner->m_hWnd, &around));
+    const UINT chosen = static_cast<UINT>(::TrackPopupMenuEx(menu, flags, upright ? place.right : place.left,
+                                                             upright ? place.top : place.bottom, owner, &around));
     if (!is_alive(this, self))
         return 0;
     // The click on the item that closes its menu does not open it again.
@@ -224,78 +231,113 @@ UINT CWntToolBar::track_menu(HMENU menu, const CRect& place, CWnd* owner) {
     return chosen;
 }
 
+// The menu of an item: what the host says, the item's own (put into `own`), or null when the host refuses or shows one
+// itself. False when nothing is left.
+bool CWntToolBar::ask_menu(int added, const CRect& place, PopupMenu& own, HMENU& menu) {
+    const int index = model_->position_of(added);
+    const wnt::ToolItem& item = model_->item(index);
+    WntToolNotify told = {{}, static_cast<UINT>(item.id), index, index, static_cast<HMENU>(item.host_menu), place};
+    LRESULT answer = 0;
+    menu = nullptr;
+    if (!tell(WNT_TOOL_DROPPING, told, answer))
+        return false;
+    const int now = model_->position_of(added);
+    if (answer || now < 0)
+        return true;
+    menu = told.menu;
+    if (!menu || !::IsMenu(menu)) {
+        own.add_entries(model_->item(now).menu);
+        menu = own.handle();
+    }
+    return true;
+}
+
 bool CWntToolBar::drop_menu(int index) {
     const HWND self = m_hWnd;
     CRect place = place_of(index);
     if (place.IsRectEmpty())
         place = place_of(wnt::tool_chevron); // behind which it is
     ClientToScreen(&place);
-    const wnt::ToolItem& item = model_->item(index);
-    const int id = item.id;
-    WntToolNotify told = {{}, static_cast<UINT>(id), index, index, static_cast<HMENU>(item.host_menu), place};
-    LRESULT answer = 0;
-    if (!tell(WNT_TOOL_DROPPING, told, answer))
-        return false;
-    if (answer || !model_->has(index) || model_->item(index).id != id)
-        return true;
+    const int added = model_->item(index).added;
     PopupMenu own;
-    if (!told.menu || !::IsMenu(told.menu)) {
-        own.add_entries(model_->item(index).menu);
-        told.menu = own.handle();
-    }
+    HMENU menu = nullptr;
+    if (!ask_menu(added, place, own, menu))
+        return false;
     CWnd* const owner = target();
-    if (!owner || ::GetMenuItemCount(told.menu) < 1)
+    if (!owner || !menu || ::GetMenuItemCount(menu) < 1)
         return true;
-    pressed_ = index;
+    pressed_ = model_->position_of(added);
     pressed_inside_ = true;
-    invalidate_item(index);
-    const UINT chosen = track_menu(told.menu, place, owner);
+    invalidate_item(pressed_);
+    const UINT chosen = track_menu(menu, place, owner->m_hWnd);
     if (!is_alive(this, self))
         return false;
     pressed_ = wnt::no_tool;
-    invalidate_item(index);
+    invalidate_item(model_->position_of(added));
     return !chosen || send_command(chosen);
+}
+
+// What is behind the chevron. Only menus that are known beforehand become submenus: another one the host may open
+// itself.
+bool CWntToolBar::add_hidden(PopupMenu& all, int added, const CRect& place) {
+    int index = model_->position_of(added);
+    if (index < 0 || !place_of(index).IsRectEmpty())
+        return true;
+    const wnt::ToolKind kind = model_->item(index).kind;
+    if (kind == wnt::ToolKind::separator)
+        all.add_separator();
+    if (!wnt::is_button(kind))
+        return true;
+    PopupMenu own;
+    HMENU menu = nullptr;
+    const wnt::ToolItem& asked = model_->item(index);
+    const bool known = ::IsMenu(static_cast<HMENU>(asked.host_menu)) || !asked.menu.empty();
+    if (wnt::has_menu(kind) && known) {
+        if (!ask_menu(added, place, own, menu))
+            return false;
+        index = model_->position_of(added);
+        if (index < 0)
+            return true;
+    }
+    const wnt::ToolItem& item = model_->item(index);
+    const CString text = menu_text(item);
+    const CString keys = shortcut_of(static_cast<UINT>(item.id));
+    if (kind != wnt::ToolKind::drop_down || !menu)
+        all.add(first_hidden + static_cast<UINT>(added), keys.IsEmpty() ? text : text + "\t" + keys, flags_of(item));
+    if (menu && menu == own.handle())
+        all.take(own, text, flags_of(item));
+    else if (menu)
+        all.borrow(menu, text, flags_of(item));
+    return true;
 }
 
 bool CWntToolBar::open_overflow() {
     const HWND self = m_hWnd;
     if (!update_items(auto_disable_))
         return false;
-    PopupMenu menu;
-    for (int i = 0; i < model_->count(); ++i) {
-        const wnt::ToolItem& item = model_->item(i);
-        if (!place_of(i).IsRectEmpty())
-            continue;
-        if (item.kind == wnt::ToolKind::separator)
-            menu.add_separator();
-        if (!wnt::is_button(item.kind))
-            continue;
-        const CString text = menu_text(item);
-        const CString keys = shortcut_of(static_cast<UINT>(item.id));
-        const bool known = item.host_menu || !item.menu.empty();
-        if (item.kind != wnt::ToolKind::drop_down || !known)
-            menu.add(first_hidden + static_cast<UINT>(i), keys.IsEmpty() ? text : text + "\t" + keys, flags_of(item));
-        if (wnt::has_menu(item.kind) && item.host_menu)
-            menu.borrow(static_cast<HMENU>(item.host_menu), text, flags_of(item));
-        else if (wnt::has_menu(item.kind) && known)
-            menu.add_popup(item.menu, text, flags_of(item));
-    }
-    if (::GetMenuItemCount(menu.handle()) < 1)
-        return true;
     CRect place = place_of(wnt::tool_chevron);
     ClientToScreen(&place);
+    PopupMenu menu;
+    std::vector<int> items;
+    for (const wnt::ToolItem& item : model_->items())
+        items.push_back(item.added);
+    for (const int added : items)
+        if (!add_hidden(menu, added, place))
+            return false;
+    if (::GetMenuItemCount(menu.handle()) < 1)
+        return true;
     pressed_ = wnt::tool_chevron;
     pressed_inside_ = true;
     invalidate_item(pressed_);
-    const UINT chosen = track_menu(menu.handle(), place, this);
+    const UINT chosen = track_menu(menu.handle(), place, self);
     if (!is_alive(this, self))
         return false;
     pressed_ = wnt::no_tool;
     invalidate_item(wnt::tool_chevron);
     if (chosen < first_hidden)
         return !chosen || send_command(chosen);
-    const int index = static_cast<int>(chosen - first_hidden);
-    if (!model_->has(index) || !wnt::is_button(model_->item(index).kind))
+    const int index = model_->position_of(static_cast<int>(chosen - first_hidden));
+    if (index < 0 || !model_->item(index).enabled)
         return true;
     return model_->item(index).kind == wnt::ToolKind::drop_down ? drop_menu(index) : press(index);
 }

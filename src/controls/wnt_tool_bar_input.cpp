@@ -8,6 +8,7 @@
 #include "controls/tool_bar_model.h"
 #include "controls/tool_bar_parts.h"
 #include "controls/wnt_tool_bar.h"
+#include "widgets/painting/surface_owner.h"
 
 // Pointer and keyboard.
 
@@ -58,7 +59,8 @@ void CWntToolBar::OnDestroy() {
 bool CWntToolBar::is_usable(int index) const {
     if (place_of(index).IsRectEmpty())
         return false;
-    return index == wnt::tool_chevron || (wnt::is_button(model_->item(index).kind) && model_->item(index).enabled);
+    return index == wnt::tool_chevron ||
+           (model_->has(index) && wnt::is_button(model_->item(index).kind) && model_->item(index).enabled);
 }
 
 int CWntToolBar::hit(CPoint point) const {
@@ -204,9 +206,16 @@ void CWntToolBar::drop_item(int from, int to) {
     ClientToScreen(&place);
     WntToolNotify told = {{}, static_cast<UINT>(model_->item(from).id), from, to, nullptr, place};
     LRESULT refused = 0;
-    if (!tell(WNT_TOOL_MOVING, told, refused) || refused || !model_->move(from, told.to))
+    const int added = model_->item(from).added;
+    if (!tell(WNT_TOOL_MOVING, told, refused) || refused)
         return;
+    from = model_->position_of(added);
+    if (!model_->has(from) || !model_->move(from, told.to))
+        return;
+    const wnt::StillThere there(*this);
     items_changed();
+    if (!there)
+        return;
     told.to = told.index = told.to > from ? told.to - 1 : told.to;
     tell(WNT_TOOL_MOVED, told, refused);
 }
@@ -255,9 +264,12 @@ void CWntToolBar::step_focus(int step) {
     if (stops.empty())
         return;
     const int count = static_cast<int>(stops.size());
-    const int now = static_cast<int>(std::find(stops.begin(), stops.end(), focused_) - stops.begin());
-    const int next = now == count ? 0 : (now + step + count) % count;
-    set_focused(stops[static_cast<std::size_t>(next)]);
+    int now = static_cast<int>(std::find(stops.begin(), stops.end(), focused_) - stops.begin());
+    if (now == count) { // it was disabled: between those beside it
+        const auto before = std::count_if(stops.begin(), stops.end(), [this](int i) { return i >= 0 && i < focused_; });
+        now = static_cast<int>(before) - (step > 0 ? 1 : 0);
+    }
+    set_focused(stops[static_cast<std::size_t>((now + step + count) % count)]);
 }
 
 void CWntToolBar::OnKeyDown(UINT key, UINT, UINT flags) {
@@ -339,8 +351,13 @@ int CWntToolBar::FilterKey(const MSG* message) {
     }
     if (focus_stops().empty())
         return 0;
-    if (give_focus(m_hWnd))
-        set_focused(focused_ == wnt::no_tool ? focus_stops().front() : focused_);
+    if (!give_focus(m_hWnd))
+        return 1;
+    const std::vector<int> stops = focus_stops(); // anew: who lost the focus may have changed the items
+    if (focused_ != wnt::no_tool)
+        set_focused(focused_);
+    else if (!stops.empty())
+        set_focused(stops.front());
     return 1;
 }
 
@@ -354,7 +371,11 @@ bool CWntToolBar::filter_embedded(const MSG& message) {
             focused_ = i;
     }
     if (message.wParam == VK_TAB && !is_held(VK_CONTROL)) {
-        step_focus(is_held(VK_SHIFT) ? -1 : 1);
+        const bool back = is_held(VK_SHIFT);
+        const std::vector<int> stops = focus_stops();
+        if (stops.empty() || focused_ == (back ? stops.front() : stops.back()))
+            return false; // a dialog goes on behind the bar
+        step_focus(back ? -1 : 1);
         return true;
     }
     if (message.wParam == VK_ESCAPE && !has_open_list(message.hwnd)) {

@@ -11,7 +11,9 @@
 namespace {
 
 // A little of a colour over another.
-COLORREF tinted(COLORREF ground, COLORREF tint) {
+COLORREF tinted(HDC dc, COLORREF ground, COLORREF tint) {
+    if (::GetDeviceCaps(dc, BITSPIXEL) <= 8)
+        return ground; // few colours would dither it
     const auto mixed = [](int under, int over) { return (7 * under + over) / 8; };
     return RGB(mixed(GetRValue(ground), GetRValue(tint)), mixed(GetGValue(ground), GetGValue(tint)),
                mixed(GetBValue(ground), GetBValue(tint)));
@@ -88,7 +90,7 @@ void CWntToolBar::paint_ground(wnt::PaintPass& pass, int index, const CRect& pla
     const wnt::ToolItem& item = model_->item(index);
     const bool sunk = pressed_ == index && pressed_inside_ && !drag_;
     if (item.check != wnt::unchecked)
-        pass.fill(place, tinted(::GetSysColor(COLOR_BTNFACE), ::GetSysColor(COLOR_BTNSHADOW)));
+        pass.fill(place, tinted(pass.out().dc, ::GetSysColor(COLOR_BTNFACE), ::GetSysColor(COLOR_BTNSHADOW)));
     if (sunk || item.check == wnt::checked)
         pass.edge(place, false);
     else if (hot_ == index && item.enabled)

@@ -1,0 +1,119 @@
+#include <zopwnt.h>
+
+#include <gmock/gmock.h>
+
+#include "widget_window.h"
+
+namespace {
+
+class FocusHost : public CWnd {
+public:
+    std::function<void()> on_lost_focus = [] {};
+    std::vector<UINT> told;
+
+protected:
+    BOOL OnCommand(WPARAM wParam, LPARAM) override {
+        if (HIWORD(wParam) == EN_KILLFOCUS)
+            on_lost_focus();
+        return TRUE;
+    }
+    BOOL OnNotify(WPARAM, LPARAM lParam, LRESULT*) override {
+        told.push_back(reinterpret_cast<NMHDR*>(lParam)->code);
+        return TRUE;
+    }
+};
+
+// Tabs whose pages hold inputs, which tell the host when they lose the focus.
+class TabsFocus : public testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(host_.CreateEx(0, nullptr, "host", WS_POPUP, CRect(0, 0, 500, 400), nullptr, 0));
+        host_.ShowWindow(SW_SHOW);
+    }
+    void TearDown() override {
+        delete tabs_;
+        host_.DestroyWindow();
+    }
+    void open() {
+        host_.on_lost_focus = [] {};
+        host_.told.clear();
+        delete tabs_;
+        tabs_ = new Trapping<CWntTabs>;
+        ASSERT_TRUE(tabs_->Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &host_, 9));
+        for (int i = 0; i < 3; ++i) {
+            pages_[i] = std::make_unique<CWntFrame>();
+            inputs_[i] = std::make_unique<CEdit>();
+            ASSERT_TRUE(pages_[i]->Create(nullptr, "", WS_CHILD, CRect(0, 0, 9, 9), tabs_, 20u + i));
+            ASSERT_TRUE(
+                inputs_[i]->Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 9, 9), pages_[i].get(), 30u + i));
+            ASSERT_EQ(tabs_->AddTab("page", pages_[i].get()), 1);
+        }
+        inputs_[0]->SetFocus();
+        ASSERT_EQ(::GetFocus(), inputs_[0]->m_hWnd);
+    }
+    void next_by_key() {
+        BYTE before[256], now[256] = {};
+        ::GetKeyboardState(before);
+        now[VK_CONTROL] = 0x80;
+        ::SetKeyboardState(now);
+        MSG m = {inputs_[0]->m_hWnd, WM_KEYDOWN, VK_TAB, 1, 0, {}};
+        tabs_->PreTranslateMessage(&m);
+        ::SetKeyboardState(before);
+    }
+
+    FocusHost host_;
+    CWntTabs* tabs_ = nullptr;
+    std::unique_ptr<CWntFrame> pages_[3];
+    std::unique_ptr<CEdit> inputs_[3];
+};
+
+TEST_F(TabsFocus, APageThatLosesItMayEndTheTabs) {
+    const std::function<void()> ways[] = {
+        [&] { next_by_key(); },
+        [&] { tabs_->Select(2); },
+        [&] { tabs_->RemoveTab(0); },
+        [&] { tabs_->SetPage(0, nullptr); },
+        [&] { tabs_->EnableTab(0, 0); },
+        [&] {
+            for (const auto& [line, mode] : {std::pair{"", 1}, {":TAB=a", 0}, {":DISABLED=YES", 0}, {"", 2}})
+                tabs_->LoadLine(line, mode);
+        },
+    };
+    int way = 0;
+    for (const auto& leave : ways) {
+        open();
+        host_.on_lost_focus = [&] { delete std::exchange(tabs_, nullptr); };
+        leave();
+        EXPECT_FALSE(tabs_) << way;
+        EXPECT_FALSE(pages_[0]->m_hWnd || pages_[1]->m_hWnd) << way;
+        ++way;
+    }
+}
+
+TEST_F(TabsFocus, GoesIntoTheNextPage) {
+    const std::function<void()> ways[] = {[&] { tabs_->Select(1); }, [&] { tabs_->RemoveTab(0); },
+                                          [&] { tabs_->EnableTab(0, 0); }};
+    for (const auto& leave : ways) {
+        open();
+        leave();
+        EXPECT_EQ(::GetFocus(), inputs_[1]->m_hWnd);
+    }
+}
+
+TEST_F(TabsFocus, APageThatLosesItMaySelectAnother) {
+    for (const int chosen : {0, 2}) {
+        open();
+        bool told = false;
+        host_.on_lost_focus = [&] {
+            if (!std::exchange(told, true))
+                tabs_->Select(chosen);
+        };
+        next_by_key();
+        EXPECT_EQ(tabs_->GetSelected(), chosen);
+        for (int i = 0; i < 3; ++i)
+            EXPECT_EQ(pages_[i]->IsWindowVisible() != FALSE, i == chosen) << i << " of " << chosen;
+        EXPECT_THAT(host_.told, testing::ElementsAre(WNT_TABS_SELECTING)) << "another one is selected";
+    }
+}
+
+} // namespace
