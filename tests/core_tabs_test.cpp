@@ -46,6 +46,8 @@ TEST(TabsModel, SelectionStaysWithItsTabAndGoesToTheNearestEnabledOne) {
         {"it moves", [](TabsModel& m) { m.move(1, 3); }, "a c- d *b "},
         {"one passes it", [](TabsModel& m) { m.move(0, 2); }, "*b c- a d "},
         {"and back", [](TabsModel& m) { m.move(3, 0); }, "d a *b c- "},
+        {"one takes its place", [](TabsModel& m) { m.move(0, 1); }, "*b a c- d "},
+        {"from behind, too", [](TabsModel& m) { m.move(3, 1); }, "a d *b c- "},
         {"it is disabled", [](TabsModel& m) { m.enable(1, false); }, "a b- c- *d "},
         {"all are",
          [](TabsModel& m) {
