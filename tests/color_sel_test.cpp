@@ -103,6 +103,12 @@ TEST_F(ColorSelTest, ShowsThePaletteAndTellsPicks) {
     const auto told = testing::FieldsAre(selector_.m_hWnd, 1u, 1u);
     EXPECT_THAT(host_.notified, testing::Each(told));
     selector_.UpdateWindow();
+    DWORD greys[16];
+    for (DWORD i = 0; i < 16; ++i)
+        greys[i] = RGB(16 * i, 16 * i, 16 * i);
+    selector_.SetColorPalette(greys, 16);
+    selector_.UpdateWindow();
+    EXPECT_EQ(pixels_of(selector_).at(130, 45), greys[6]); // shown at once
     const Pixels flat = pixels_of(selector_);
     selector_.Set3DCells(1);
     selector_.UpdateWindow();
@@ -113,7 +119,7 @@ TEST_F(ColorSelTest, ShowsThePaletteAndTellsPicks) {
     selector_.SetColorPalette(table, -1); // none of these takes the palette away
     full_repaint(selector_);
     EXPECT_EQ(pick(130, 45), 6);
-    EXPECT_EQ(pixels_of(selector_).at(80, 15), RGB(255, 0, 0)); // the sample
+    EXPECT_EQ(pixels_of(selector_).at(80, 15), greys[6]); // the sample
     selector_.SetSelectedColor(5);
     EXPECT_EQ(selector_.GetSelectedColorID(), 6);
 }

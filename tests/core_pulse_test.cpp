@@ -46,6 +46,7 @@ TEST_F(PulseFile, WritesTheHeaderOnceAndASampleALine) {
         file.SetLineTitle(1, "ABCDEFGHIJKLMNOPQRSTUVWXYZ");
         ASSERT_EQ(file.Open("a.txt"), 0);
         EXPECT_EQ(file.Put(2, 17.499F, afternoon), 29);
+        EXPECT_NE(text_of("a.txt").find("2;17.50;"), std::string::npos); // on the disk at once
         EXPECT_EQ(file.Put(-3, -0.5F, 0), 30);
         EXPECT_EQ(file.Open("a.txt"), 8);
         EXPECT_EQ(file.Put(1, 1, 1), 0);

@@ -143,7 +143,7 @@ TEST(VersionFacts, AreEmptyWhereTheBlockDoesNotHoldThem) {
 TEST(VersionSheet, ShowsTheComponents) {
     ASSERT_TRUE(write_version_file("zopfdraw.dll", version_block(fixed_info, {0x04B00409})));
     set_times("zopfdraw.dll", CTime(2003, 2, 1, 13, 4, 5).GetTime());
-    ::SetFileAttributesA("zopfdraw.dll", FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM);
+    ::SetFileAttributesA("zopfdraw.dll", FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_SYSTEM);
     std::ofstream("zopcal.ocx") << "12345";
     set_times("zopcal.ocx", -86'400);
     const std::string earliest = CTime(0).Format("%d.%m.%Y, %H:%M:%S").GetString();
@@ -164,7 +164,7 @@ TEST(VersionSheet, ShowsTheComponents) {
                     ElementsAre(_, _, "ZOPWNT.dll", _, MatchesRegex("\\d\\d\\d\\d+ bytes"), moment, moment, "1.0.0.0",
                                 "1.0.0.0", "      ", "NT-Win32", "Dynamic Link Library", language_name(0x409)));
         // The file version under "Product".
-        EXPECT_THAT(rows[3], ElementsAre(_, _, _, StartsWith("rhs--"), _, "01.02.2003, 13:04:05",
+        EXPECT_THAT(rows[3], ElementsAre(_, _, _, StartsWith("r-s--"), _, "01.02.2003, 13:04:05",
                                          "01.02.2003, 13:04:05", "1.2.3.65535", "10.0.0.7", _, _, _, _));
         EXPECT_THAT(rows[5], ElementsAre(_, _, "zopgauge.ocx", "------", "0 bytes", _, _, "", "", "", "", "", ""));
         EXPECT_THAT(rows[8], ElementsAre(_, _, "zopcal.ocx", _, "5 bytes", earliest, earliest, "", "", "", "", "", ""));
