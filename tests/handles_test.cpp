@@ -191,7 +191,7 @@ TEST_F(HandlesTest, LivesGiveEverythingBack) {
     for (const Kind& kind : all_kinds()) {
         opened(kind); // what is made once
         const Counts before;
-        for (int i = 0; i < 1000 / kind.looks + 1; ++i)
+        for (int i = 0; i < 300 / kind.looks + 1; ++i)
             opened(kind);
         EXPECT_LT(before.grown(), tolerance) << kind.name;
     }
@@ -201,7 +201,7 @@ TEST_F(HandlesTest, RepaintsGiveEverythingBack) {
     for (const Kind& kind : all_kinds()) {
         const auto widget = opened(kind);
         const Counts before;
-        for (int i = 0; i < 2000 / kind.looks + 1; ++i)
+        for (int i = 0; i < 1000 / kind.looks + 1; ++i)
             full_repaint(*widget);
         EXPECT_LT(before.grown(), tolerance) << kind.name;
     }
