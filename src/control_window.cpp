@@ -38,11 +38,21 @@ ControlWindow::ControlWindow(const char* class_name, Draws draws) : draws_(draws
 
 ControlWindow::~ControlWindow() = default;
 
+// With children clipped away, a widget would not be told when its surface is uncovered.
+DWORD ControlWindow::with_clipping(DWORD style) const {
+    switch (draws_) {
+    case Draws::on_surface:
+        return style & ~DWORD{WS_CLIPCHILDREN};
+    case Draws::around_children:
+        return style | WS_CLIPCHILDREN;
+    default:
+        return style;
+    }
+}
+
 BOOL ControlWindow::PreCreateWindow(CREATESTRUCT& create) {
     created_here_ = true;
-    // With children clipped away, a widget would not be told when its surface is uncovered.
-    if (draws_ == Draws::on_surface)
-        create.style &= ~static_cast<LONG>(WS_CLIPCHILDREN);
+    create.style = static_cast<LONG>(with_clipping(static_cast<DWORD>(create.style)));
     return CWnd::PreCreateWindow(create);
 }
 
@@ -83,10 +93,8 @@ void ControlWindow::take_over() {
         built_in_ = nullptr;
         leave();
     }
-    if (draws_ == Draws::on_surface)
-        ModifyStyle(WS_CLIPCHILDREN, 0);
-    else
-        ModifyStyle(0, WS_CLIPCHILDREN);
+    const DWORD style = GetStyle();
+    ModifyStyle(style & ~with_clipping(style), with_clipping(style) & ~style);
     CString text;
     GetWindowText(text);
     if (!build_here())

@@ -14,7 +14,8 @@ public:
     ControlWindow& operator=(const ControlWindow&) = delete;
 
 protected:
-    enum class Draws { on_surface, itself };
+    /// A surface must be told when it is uncovered; around children nothing is painted over them.
+    enum class Draws { on_surface, itself, around_children };
 
     /// Registers the window class by whose name dialog templates place the widget, once a process. Its windows are
     /// blank until an object takes them over. A name that is taken stays who has it.
@@ -39,6 +40,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    DWORD with_clipping(DWORD style) const;
     bool build_here();
     void take_over();
 

@@ -8,10 +8,14 @@ constexpr int letter_height = 13; // pixels at 96 dots an inch
 
 } // namespace
 
+void make_control_font(CFont& font, int pixels, int scale, int weight) {
+    font.DeleteObject();
+    font.CreateFont(-::MulDiv(pixels, scale, 100), 0, 0, 0, weight, 0, 0, 0, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS,
+                    CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH | FF_DONTCARE, "Arial");
+}
+
 ControlFont::ControlFont(int scale, bool bold) : dc_(::CreateCompatibleDC(nullptr)) {
-    font_.CreateFont(-::MulDiv(letter_height, scale, 100), 0, 0, 0, bold ? FW_BOLD : FW_NORMAL, 0, 0, 0,
-                     DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
-                     DEFAULT_PITCH | FF_DONTCARE, "Arial");
+    make_control_font(font_, letter_height, scale, bold ? FW_BOLD : FW_NORMAL);
     previous_ = ::SelectObject(dc_, font_.GetSafeHandle());
     TEXTMETRICA metrics = {};
     ::GetTextMetricsA(dc_, &metrics);

@@ -6,6 +6,10 @@
 
 namespace wnt {
 
+/// Makes the controls' font in another size or weight. `pixels` is the characters' height at 96 dots an inch, `scale` a
+/// percentage of that.
+void make_control_font(CFont& font, int pixels, int scale, int weight);
+
 /// What the controls write their texts in, and how much room that takes. Sizes are pixels.
 class ControlFont {
 public:

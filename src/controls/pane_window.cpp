@@ -53,7 +53,6 @@ HWND PaneWindow::living(HWND pane) const {
 
 BOOL PaneWindow::PreCreateWindow(CREATESTRUCT& create) {
     const BOOL result = ControlWindow::PreCreateWindow(create);
-    create.style |= WS_CLIPCHILDREN; // panes paint themselves
     if (!(create.style & WS_TABSTOP))
         create.dwExStyle |= WS_EX_CONTROLPARENT; // the Tab key goes on to what it holds
     return result;

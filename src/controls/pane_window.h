@@ -8,7 +8,7 @@ namespace wnt {
 /// to the control's own parent, as if they were the host's children still.
 class ZOPWNT_API PaneWindow : public ControlWindow {
 protected:
-    explicit PaneWindow(const char* class_name) : ControlWindow(class_name, Draws::itself) {}
+    explicit PaneWindow(const char* class_name) : ControlWindow(class_name, Draws::around_children) {}
 
     /// The pane while it is a child of this window, otherwise null.
     HWND living(HWND pane) const;

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "controls/wnt_tabs.h"
+#include "controls/pixel_rects.h"
 #include "screen_scale.h"
 #include "widgets/painting/paint_pass.h"
 #include "widgets/painting/surface_owner.h"
@@ -15,10 +16,6 @@ namespace {
 
 constexpr UINT_PTR repeat_timer = 1;
 constexpr UINT repeat_time = 200; // milliseconds
-
-CRect rect_of(const PixelRect& r) {
-    return CRect(r.left, r.top, r.right, r.bottom);
-}
 
 } // namespace
 
@@ -196,10 +193,10 @@ void TabsStrip::end_press() {
 
 void TabsStrip::OnLButtonDown(UINT, CPoint point) {
     end_press();
-    const HWND self = m_hWnd;
+    const StillThere self(*this);
     if (GetStyle() & WS_TABSTOP)
         SetFocus();
-    if (!::IsWindow(self) || CWnd::FromHandlePermanent(self) != this)
+    if (!self)
         return; // who lost the focus destroyed it
     const TabsPoint at = hit(point);
     if (at.part == TabsPoint::nothing)
@@ -274,9 +271,9 @@ void TabsStrip::open_menu() {
     }
     CRect button = box(layout_.menu);
     ClientToScreen(&button);
-    const HWND self = m_hWnd;
+    const StillThere self(*this);
     const int chosen = menu.TrackPopupMenu(TPM_RETURNCMD | TPM_NONOTIFY, button.left, button.bottom, this);
-    if (chosen > 0 && ::IsWindow(self) && CWnd::FromHandlePermanent(self) == this)
+    if (chosen > 0 && self)
         tabs_.select_by_user(tabs_.model_->position_of(chosen));
 }
 

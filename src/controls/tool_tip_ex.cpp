@@ -7,8 +7,10 @@
 #include "controls/icon_pixels.h"
 #include "controls/tip_layout.h"
 #include "controls/tool_tip_texts.h"
+#include "controls/pixel_rects.h"
 #include "screen_scale.h"
 #include "widgets/painting/paint_pass.h"
+#include "widgets/painting/surface_owner.h"
 
 namespace {
 
@@ -29,14 +31,6 @@ CRect work_area(CPoint at) {
 bool ends_keyboard_tip(UINT message) {
     return message == WM_KEYDOWN || message == WM_SYSKEYDOWN || message == WM_LBUTTONDOWN ||
            message == WM_RBUTTONDOWN || message == WM_MBUTTONDOWN || message == WM_MOUSEWHEEL;
-}
-
-wnt::PixelRect pixels_of(const CRect& r) {
-    return {r.left, r.top, r.right, r.bottom};
-}
-
-CRect rect_of(const wnt::PixelRect& r) {
-    return CRect(r.left, r.top, r.right, r.bottom);
 }
 
 } // namespace
@@ -230,12 +224,12 @@ bool CToolTipCtrlEx::is_current(const Tool& tool) {
 }
 
 bool CToolTipCtrlEx::ask(const Tool& tool, WntTip& tip) {
-    const HWND self = m_hWnd;
+    const wnt::StillThere self(*this);
     const HWND host = tool.window;
     const auto tell = [&](NMHDR& header, UINT code) {
-        header = {self, tool.id, code};
+        header = {m_hWnd, tool.id, code};
         ::SendMessage(host, WM_NOTIFY, tool.id, reinterpret_cast<LPARAM>(&header));
-        return ::IsWindow(self) && CWnd::FromHandlePermanent(self) == this;
+        return static_cast<bool>(self);
     };
     NMTTDISPINFOA need = {};
     need.lpszText = need.szText;
@@ -332,7 +326,8 @@ bool CToolTipCtrlEx::present(const WntTip& tip, const CRect& around, Shown how, 
     *layout_ = std::move(layout);
     tip_ = tip;
     shown_ = how;
-    const CRect place = rect_of(wnt::place_tip(least_.cx, least_.cy, pixels_of(around), pixels_of(screen), centred));
+    const CRect place =
+        wnt::rect_of(wnt::place_tip(least_.cx, least_.cy, wnt::pixels_of(around), wnt::pixels_of(screen), centred));
     presenting_ = true;
     SetWindowPos(&CWnd::wndTop, place.left, place.top, place.Width(), place.Height(),
                  SWP_NOACTIVATE | SWP_NOOWNERZORDER | SWP_SHOWWINDOW);
@@ -472,11 +467,11 @@ void CToolTipCtrlEx::OnPaint() {
     const COLORREF ink = GetTipTextColor();
     pass.fill(pass.area(), GetTipBkColor());
     pass.frame(pass.area(), ink);
-    const CRect icon = rect_of(layout_->icon);
+    const CRect icon = wnt::rect_of(layout_->icon);
     if (!icon.IsRectEmpty() && pass.out().dc)
         ::DrawIconEx(pass.out().dc, icon.left, icon.top, tip_.icon, icon.Width(), icon.Height(), 0, nullptr, DI_NORMAL);
     if (tip_.colour != CLR_NONE) {
-        const CRect sample = rect_of(layout_->sample);
+        const CRect sample = wnt::rect_of(layout_->sample);
         pass.fill(sample, tip_.colour);
         pass.frame(sample, ink);
     }

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
+#include "controls/control_font.h"
 #include "controls/frame_model.h"
+#include "controls/pixel_rects.h"
 #include "screen_scale.h"
 #include "script/colours.h"
 #include "script_on_disk.h"
@@ -15,14 +17,6 @@ constexpr int title_margin = 4;
 
 COLORREF colour_of(int index, int system) {
     return index == wnt::system_colour ? ::GetSysColor(system) : wnt::colour_values[index];
-}
-
-CRect rect_of(const wnt::PixelRect& r) {
-    return CRect(r.left, r.top, r.right, r.bottom);
-}
-
-wnt::PixelRect pixels_of(const CRect& r) {
-    return {r.left, r.top, r.right, r.bottom};
 }
 
 // Upper and left sides last: the corners belong to the light.
@@ -79,10 +73,7 @@ void CWntFrame::take_text(const CString& text) {
 
 void CWntFrame::rescale(bool settings_changed) {
     scale_ = wnt::screen_scale(settings_changed);
-    title_font_.DeleteObject();
-    title_font_.CreateFont(-::MulDiv(title_height, scale_, 100), 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET,
-                           OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH | FF_DONTCARE,
-                           "Arial");
+    wnt::make_control_font(title_font_, title_height, scale_, FW_NORMAL);
 }
 
 int CWntFrame::GetScale() const {
@@ -133,7 +124,7 @@ CRect CWntFrame::GetContentRect() const {
 CRect CWntFrame::ContentRect() const {
     CRect client;
     GetClientRect(&client);
-    return rect_of(wnt::frame_layout(*model_, client.Width(), client.Height(), scale_, title_rows()).content);
+    return wnt::rect_of(wnt::frame_layout(*model_, client.Width(), client.Height(), scale_, title_rows()).content);
 }
 
 int CWntFrame::SetAnchor(CWnd* child, double left, double top, double right, double bottom) {
@@ -144,8 +135,8 @@ int CWntFrame::SetAnchor(CWnd* child, double left, double top, double right, dou
     child->GetWindowRect(&place);
     holder->ScreenToClient(&place);
     RemoveAnchor(child);
-    anchored_.push_back(
-        {child->m_hWnd, wnt::Anchor::at(pixels_of(place), pixels_of(GetAnchorArea()), {left, top, right, bottom})});
+    anchored_.push_back({child->m_hWnd, wnt::Anchor::at(wnt::pixels_of(place), wnt::pixels_of(GetAnchorArea()),
+                                                        {left, top, right, bottom})});
     return 1;
 }
 
@@ -156,10 +147,10 @@ int CWntFrame::RemoveAnchor(CWnd* child) {
 void CWntFrame::place_children() {
     const HWND holder = GetHolder()->GetSafeHwnd();
     std::erase_if(anchored_, [=](const Anchored& a) { return ::GetParent(a.window) != holder; });
-    const wnt::PixelRect content = pixels_of(GetAnchorArea());
+    const wnt::PixelRect content = wnt::pixels_of(GetAnchorArea());
     HDWP moves = ::BeginDeferWindowPos(static_cast<int>(anchored_.size()));
     for (const Anchored& each : anchored_) {
-        const CRect place = rect_of(each.anchor.place(content));
+        const CRect place = wnt::rect_of(each.anchor.place(content));
         if (moves)
             moves = ::DeferWindowPos(moves, each.window, nullptr, place.left, place.top, place.Width(), place.Height(),
                                      SWP_NOZORDER | SWP_NOACTIVATE);
@@ -203,7 +194,7 @@ void CWntFrame::PaintPanel(wnt::PaintPass& pass, bool titled) {
                  m.border_type == wnt::border_sunk ? sun : shadow);
     if (!titled)
         return;
-    CRect title = rect_of(layout.title);
+    CRect title = wnt::rect_of(layout.title);
     title.DeflateRect(::MulDiv(title_margin, scale_, 100), 0);
     pass.text(title, m.title.c_str(), format_of(m.align), TitleColour(), &title_font_);
 }

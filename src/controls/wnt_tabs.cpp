@@ -3,6 +3,7 @@
 #include "controls/tabs_model.h"
 #include "controls/tabs_painter.h"
 #include "controls/tabs_strip.h"
+#include "controls/pixel_rects.h"
 #include "script_on_disk.h"
 #include "widgets/painting/paint_pass.h"
 #include "widgets/painting/surface_owner.h"
@@ -10,10 +11,6 @@
 namespace {
 
 constexpr UINT strip_id = 0xE7AB; // out of the way of the pages'
-
-CRect rect_of(const wnt::PixelRect& r) {
-    return CRect(r.left, r.top, r.right, r.bottom);
-}
 
 bool has_focus(HWND window) {
     const HWND focus = ::GetFocus();
@@ -251,13 +248,13 @@ int CWntTabs::ShowTab(int tab) {
 }
 
 CRect CWntTabs::GetPageRect() const {
-    return this && m_hWnd ? rect_of(strip_->layout().page) : CRect(0, 0, 0, 0);
+    return this && m_hWnd ? wnt::rect_of(strip_->layout().page) : CRect(0, 0, 0, 0);
 }
 
 CRect CWntTabs::GetTabRect(int tab) const {
     if (!this || !m_hWnd || !model_->has(tab) || !strip_->layout().shows(tab))
         return CRect(0, 0, 0, 0);
-    return rect_of(strip_->layout().tabs[static_cast<std::size_t>(tab)]);
+    return wnt::rect_of(strip_->layout().tabs[static_cast<std::size_t>(tab)]);
 }
 
 int CWntTabs::GetScale() const {

@@ -14,10 +14,6 @@ namespace {
 
 constexpr UINT first_hidden = 0x10000; // in the chevron's menu: beyond all commands
 
-bool is_alive(const CWnd* window, HWND handle) {
-    return ::IsWindow(handle) && CWnd::FromHandlePermanent(handle) == window;
-}
-
 // Items have no access keys: a menu shows an & only where there are two.
 CString menu_text(const wnt::ToolItem& item) {
     CString text = item.text.empty() ? CString(item.tip.c_str()).SpanExcluding("\r\n") : CString(item.text.c_str());
@@ -124,7 +120,7 @@ CWnd* CWntToolBar::handlers() const {
 }
 
 bool CWntToolBar::update_items(bool disable) {
-    const HWND self = m_hWnd;
+    const wnt::StillThere self(*this);
     for (int i = 0; i < model_->count(); ++i) {
         const wnt::ToolKind kind = model_->item(i).kind;
         if (!wnt::is_button(kind))
@@ -133,7 +129,7 @@ bool CWntToolBar::update_items(bool disable) {
         if (!owner)
             break;
         ItemState(*this, i).DoUpdate(owner, disable && kind != wnt::ToolKind::drop_down);
-        if (!is_alive(this, self))
+        if (!self)
             return false;
     }
     return true;
@@ -153,10 +149,10 @@ LRESULT CWntToolBar::OnIdleUpdate(WPARAM wParam, LPARAM) {
 }
 
 bool CWntToolBar::send_command(UINT id) {
-    const HWND self = m_hWnd;
+    const wnt::StillThere self(*this);
     if (CWnd* const owner = target())
-        owner->SendMessage(WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), reinterpret_cast<LPARAM>(self));
-    return is_alive(this, self);
+        owner->SendMessage(WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), reinterpret_cast<LPARAM>(m_hWnd));
+    return static_cast<bool>(self);
 }
 
 bool CWntToolBar::press(int index) {
@@ -181,7 +177,7 @@ bool CWntToolBar::tell(UINT code, WntToolNotify& told, LRESULT& answer) {
 // A frame does that itself for a menu of its own.
 bool CWntToolBar::update_menu(HMENU menu, int depth) {
     constexpr int deepest = 8;
-    const HWND self = m_hWnd;
+    const wnt::StillThere self(*this);
     if (depth > deepest)
         return true;
     CCmdUI state;
@@ -201,7 +197,7 @@ bool CWntToolBar::update_menu(HMENU menu, int depth) {
         if (!owner)
             break;
         state.DoUpdate(owner, auto_disable_);
-        if (!is_alive(this, self))
+        if (!self)
             return false;
     }
     return true;
@@ -209,7 +205,7 @@ bool CWntToolBar::update_menu(HMENU menu, int depth) {
 
 // The command that was chosen; 0: none. Nothing is left when the bar was destroyed meanwhile.
 UINT CWntToolBar::track_menu(HMENU menu, const CRect& place, HWND owner) {
-    const HWND self = m_hWnd;
+    const wnt::StillThere self(*this);
     if (!update_menu(menu, 0) || !::IsWindow(owner))
         return 0;
     TPMPARAMS around = {};
@@ -220,7 +216,7 @@ UINT CWntToolBar::track_menu(HMENU menu, const CRect& place, HWND owner) {
     UpdateWindow();
     const UINT chosen = static_cast<UINT>(::TrackPopupMenuEx(menu, flags, upright ? place.right : place.left,
                                                              upright ? place.top : place.bottom, owner, &around));
-    if (!is_alive(this, self))
+    if (!self)
         return 0;
     // The click on the item that closes its menu does not open it again.
     MSG click;
@@ -253,7 +249,7 @@ bool CWntToolBar::ask_menu(int added, const CRect& place, PopupMenu& own, HMENU&
 }
 
 bool CWntToolBar::drop_menu(int index) {
-    const HWND self = m_hWnd;
+    const wnt::StillThere self(*this);
     CRect place = place_of(index);
     if (place.IsRectEmpty())
         place = place_of(wnt::tool_chevron); // behind which it is
@@ -270,7 +266,7 @@ bool CWntToolBar::drop_menu(int index) {
     pressed_inside_ = true;
     invalidate_item(pressed_);
     const UINT chosen = track_menu(menu, place, owner->m_hWnd);
-    if (!is_alive(this, self))
+    if (!self)
         return false;
     pressed_ = wnt::no_tool;
     invalidate_item(model_->position_of(added));
@@ -312,7 +308,7 @@ bool CWntToolBar::add_hidden(PopupMenu& all, int added, const CRect& place) {
 }
 
 bool CWntToolBar::open_overflow() {
-    const HWND self = m_hWnd;
+    const wnt::StillThere self(*this);
     if (!update_items(auto_disable_))
         return false;
     CRect place = place_of(wnt::tool_chevron);
@@ -329,8 +325,8 @@ bool CWntToolBar::open_overflow() {
     pressed_ = wnt::tool_chevron;
     pressed_inside_ = true;
     invalidate_item(pressed_);
-    const UINT chosen = track_menu(menu.handle(), place, self);
-    if (!is_alive(this, self))
+    const UINT chosen = track_menu(menu.handle(), place, m_hWnd);
+    if (!self)
         return false;
     pressed_ = wnt::no_tool;
     invalidate_item(wnt::tool_chevron);

@@ -328,10 +328,10 @@ void CWntToolBar::OnKillFocus(CWnd* next) {
 
 // False when who lost it destroyed the bar.
 bool CWntToolBar::give_focus(HWND to) {
-    const HWND self = m_hWnd;
+    const wnt::StillThere self(*this);
     if (::GetFocus() != to)
         ::SetFocus(to);
-    return ::IsWindow(self) && CWnd::FromHandlePermanent(self) == this;
+    return static_cast<bool>(self);
 }
 
 void CWntToolBar::give_focus_back() {

@@ -2,9 +2,12 @@
 
 #include <afxwin.h>
 
+#include <algorithm>
 #include <array>
 #include <optional>
+#include <utility>
 
+#include "controls/pixel_rects.h"
 #include "widgets/pulse/chart_layout.h"
 #include "widgets/pulse/pulse_chart.h"
 #include "widgets/pulse/pulse_picture.h"
@@ -49,14 +52,15 @@ struct CWntPulse::State {
         if (const auto newest = chart.newest())
             view.set_history(*chart.oldest(), *newest);
     }
+    /// What the scroll bar goes over: the history, and what is shown.
+    std::pair<std::int64_t, std::int64_t> scrolled() const {
+        return {std::min(chart.oldest().value_or(view.start()), view.start()),
+                std::max(chart.newest().value_or(view.end()), view.end())};
+    }
     std::int64_t time_at(int x) const { return view.time(x - plot().left); }
 };
 
 namespace wnt {
-
-inline CRect rect_of(const PixelRect& r) {
-    return CRect(r.left, r.top, r.right, r.bottom);
-}
 
 inline constexpr UINT_PTR pulse_tick_timer = 1, pulse_read_timer = 2;
 

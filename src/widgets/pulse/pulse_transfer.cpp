@@ -233,6 +233,14 @@ TAxisdatetime date_of_axis_time(std::int64_t time) {
             rest % 100};
 }
 
+std::string text_of_axis_time(std::int64_t time) {
+    const TAxisdatetime at = date_of_axis_time(time);
+    char text[80];
+    std::snprintf(text, sizeof text, "%04d-%02d-%02d %02d:%02d:%02d.%02d", at.year, at.month, at.day, at.hour,
+                  at.minute, at.second, at.hundredths);
+    return text;
+}
+
 std::optional<std::int64_t> moment_of_axis_time(std::int64_t time) {
     const TAxisdatetime date = date_of_axis_time(time);
     std::tm fields{};

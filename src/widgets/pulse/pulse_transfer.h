@@ -107,5 +107,7 @@ std::int64_t axis_time_of(std::int64_t seconds);
 std::optional<std::int64_t> moment_of_axis_time(std::int64_t time);
 /// Its calendar fields, with the full year.
 TAxisdatetime date_of_axis_time(std::int64_t time);
+/// "2026-11-16 14:03:59.00"
+std::string text_of_axis_time(std::int64_t time);
 
 } // namespace wnt

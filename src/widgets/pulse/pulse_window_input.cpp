@@ -255,8 +255,7 @@ void CWntPulse::OnHScroll(UINT code, UINT position, CScrollBar* bar) {
     scroll_.GetScrollInfo(&info);
     const int width = s.view.columns().width;
     if (code == SB_THUMBTRACK || code == SB_THUMBPOSITION) {
-        const std::int64_t first = std::min(s.chart.oldest().value_or(0), s.view.start());
-        const std::int64_t last = std::max(s.chart.newest().value_or(0), s.view.end());
+        const auto [first, last] = s.scrolled();
         const double whole = static_cast<double>(last - first);
         const auto start = first + static_cast<std::int64_t>(whole * info.nTrackPos / std::max(info.nMax, 1));
         s.view.scroll(s.view.columns().column(start) - s.view.origin());

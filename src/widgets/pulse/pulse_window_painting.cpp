@@ -19,14 +19,6 @@ std::string value_text(double value) {
     return text;
 }
 
-std::string time_text(std::int64_t time) {
-    const TAxisdatetime at = date_of_axis_time(time);
-    char text[80];
-    std::snprintf(text, sizeof text, "%04d-%02d-%02d %02d:%02d:%02d.%02d", at.year, at.month, at.day, at.hour,
-                  at.minute, at.second, at.hundredths);
-    return text;
-}
-
 std::string span_text(std::int64_t hundredths) {
     const char* sign = hundredths < 0 ? "-" : "+";
     hundredths = std::abs(hundredths);
@@ -148,7 +140,7 @@ void CWntPulse::update_tip() {
     }
     s.tip_shown = true;
     WntTip tip;
-    tip.title = time_text(*at).c_str();
+    tip.title = text_of_axis_time(*at).c_str();
     const auto other = which == 0 ? s.cursors[1] : std::nullopt;
     if (other)
         tip.title += CString("\n") + span_text(*other - *at).c_str();

@@ -44,11 +44,9 @@ HGLOBAL text_block(const std::string& text) {
 }
 
 void append_line(std::string& text, const PulsePoint& sample, const std::string& title) {
-    const TAxisdatetime at = date_of_axis_time(sample.time);
-    char line[160];
-    std::snprintf(line, sizeof line, "%04d-%02d-%02d %02d:%02d:%02d.%02d\t%s\t%.9g\r\n", at.year, at.month, at.day,
-                  at.hour, at.minute, at.second, at.hundredths, title.c_str(), sample.value);
-    text += line;
+    char value[32];
+    std::snprintf(value, sizeof value, "%.9g", sample.value);
+    text += text_of_axis_time(sample.time) + '\t' + title + '\t' + value + "\r\n";
 }
 
 // A box with nothing but a colour selector.

@@ -154,7 +154,6 @@ public:
     int Print();
 
 protected:
-    BOOL PreCreateWindow(CREATESTRUCT& create) override;
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override;
 
@@ -189,6 +188,7 @@ private:
 
     void forget_window();
     void arrange();
+    void rescale(bool settings_changed);
     void restyle();
     void samples_arrived();
     void refresh(bool anew);
@@ -198,7 +198,7 @@ private:
     void update_surroundings();
     void update_tip();
     void view_changed();
-    bool tell(UINT code, int which = 0, __int64 time = 0);
+    void tell(UINT code, int which = 0, __int64 time = 0);
     void paint_legend(wnt::PaintPass& pass);
     void draw_plot();
     void paint_plot(CDC& dc);
