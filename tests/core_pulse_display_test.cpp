@@ -178,7 +178,7 @@ TEST(PulseDecimation, PaintsWhatAllSamplesPaint) {
         const PlotArea all{0, 0, scale.width, height};
         {
             CurveRaster raster({pixels.data(), scale.width, height, scale.width}, all, origin, values, style);
-            paint_columns(series, scale, origin - CurveRaster::margin, origin + scale.width + CurveRaster::margin,
+            paint_columns(series, scale, origin - CurveRaster::margin(style), origin + scale.width + CurveRaster::margin(style),
                           pause, raster);
             CurveRaster reference({expected.data(), scale.width, height, scale.width}, all, origin, values, style);
             EverySample::paint(series, scale, pause, reference);
@@ -313,7 +313,7 @@ TEST(PulsePicture, ALiveTickDrawsNewColumnsOnly) {
         scene.origin = scene.columns.column(time) - 499;
         picture.show(scene);
         if (time) {
-            ASSERT_LE(columns_drawn(picture), 2 * (CurveRaster::margin + 2));
+            ASSERT_LE(columns_drawn(picture), 10);
         }
     }
 }

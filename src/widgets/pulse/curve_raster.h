@@ -38,8 +38,8 @@ struct CurveStyle {
 /// ends and its place in time alone, not on what part of it is drawn.
 class CurveRaster final : public ColumnPainter {
 public:
-    /// Columns further away than this from a part have no mark in it.
-    static constexpr int margin = 16;
+    /// Columns further away than this from a part have no pixel of theirs in it.
+    static int margin(const CurveStyle& style) { return style.marks ? 16 : 4; }
 
     /// `origin` is the column at the canvas's left edge; nothing outside the area is touched.
     CurveRaster(const PlotCanvas& canvas, const PlotArea& area, std::int64_t origin, const ValueScale& scale,

@@ -17,8 +17,10 @@ void PulsePicture::show(const PlotScene& scene, bool anew) {
     const std::int64_t width = scene.columns.width;
     const std::int64_t moved = scene.origin - scene_.origin;
     drawn_ = {{0, width}};
+    moved_ = 0;
     if (!anew && follows(scene) && -width < moved && moved < width && same_grid(scene, moved)) {
         drawn_ = stale(scene, moved);
+        moved_ = moved;
         move(moved);
     }
     remember(scene);
@@ -55,13 +57,13 @@ std::vector<PulsePicture::Stretch> PulsePicture::stale(const PlotScene& scene, s
     for (std::size_t i = 0; i < shown_.size(); ++i) {
         const PulseSeries& series = *scene.curves[i].series;
         const Shown& before = shown_[i];
+        const int margin = CurveRaster::margin(scene.curves[i].style);
         if (series.end() < before.end || series.first() > before.end || (before.first == before.end && series.size()))
             return {{0, width}}; // begun anew, or nothing of what was shown is left
         if (series.end() != before.end)
-            changed = std::min(changed, before.newest_column - scene.origin - CurveRaster::margin);
+            changed = std::min(changed, before.newest_column - scene.origin - margin);
         if (series.first() != before.first && series.first() != series.end())
-            left_over = std::max(left_over, scene.columns.column(series[series.first()].time) - scene.origin +
-                                                CurveRaster::margin);
+            left_over = std::max(left_over, scene.columns.column(series[series.first()].time) - scene.origin + margin);
         if (series.size() == 0 && before.first != before.end)
             return {{0, width}};
     }
@@ -120,8 +122,9 @@ void PulsePicture::draw(const Stretch& stretch) {
                 canvas().row(row)[x] = scene_.grid;
     for (const PlotCurve& curve : scene_.curves) {
         CurveRaster raster(canvas(), {left, 0, right, scene_.height}, scene_.origin, curve.scale, curve.style);
-        paint_columns(*curve.series, scene_.columns, scene_.origin + left - CurveRaster::margin,
-                      scene_.origin + right + CurveRaster::margin, curve.longest_pause, raster);
+        const int margin = CurveRaster::margin(curve.style);
+        paint_columns(*curve.series, scene_.columns, scene_.origin + left - margin, scene_.origin + right + margin,
+                      curve.longest_pause, raster);
     }
 }
 

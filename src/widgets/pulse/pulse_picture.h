@@ -44,7 +44,8 @@ public:
     struct Stretch { ///< of x
         std::int64_t left, right;
     };
-    /// What the last show() drew.
+    /// What the last show() did: by how many columns what was there went to the left, and which it drew after that.
+    std::int64_t moved() const { return moved_; }
     const std::vector<Stretch>& drawn() const { return drawn_; }
 
 private:
@@ -67,6 +68,7 @@ private:
     // Rows twice as long as the plot, which slides along them: only at their end pixels have to be moved back.
     std::vector<std::uint32_t> pixels_;
     std::ptrdiff_t offset_ = 0;
+    std::int64_t moved_ = 0;
     std::vector<Stretch> drawn_;
 };
 

@@ -35,6 +35,7 @@ struct CWntPulse::State {
     bool stale = false;            // samples arrived since the last picture
     bool legend_stale = false;     // and since the legend was written
     bool anew = true;              // the picture must be drawn anew
+    bool presented = false;        // the window shows the picture, all of it and nothing over it
     Drag drag = Drag::none;
     CPoint drag_start, drag_at;
     bool dragged = false;

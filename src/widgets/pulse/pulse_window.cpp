@@ -53,7 +53,7 @@ void CWntPulse::leave() {
 void CWntPulse::forget_window() {
     State& s = *state_;
     s.drag = State::Drag::none;
-    s.stale = s.ticking = s.reading = s.tip_shown = false;
+    s.stale = s.ticking = s.reading = s.tip_shown = s.presented = false;
     s.anew = true;
     s.reader = PulseReader();
 }

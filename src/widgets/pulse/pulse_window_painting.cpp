@@ -41,12 +41,14 @@ BOOL CWntPulse::OnEraseBkgnd(CDC*) {
 }
 
 void CWntPulse::OnPaint() {
-    const State& s = *state_;
+    State& s = *state_;
     const CRect plot = rect_of(s.plot());
     CRect dirty;
     GetUpdateRect(&dirty);
     CRect outside;
     const bool plot_touched = CRect().IntersectRect(&dirty, &plot) != FALSE;
+    if (plot_touched && std::exchange(s.presented, false)) // what was uncovered may have been moved since
+        InvalidateRect(plot, FALSE);
     const bool plot_alone = !outside.SubtractRect(&dirty, &plot);
     if (plot_alone && !s.overlaid()) { // finished pixels
         CPaintDC dc(this);

@@ -201,7 +201,9 @@ private:
     void tell(UINT code, int which = 0, __int64 time = 0);
     void paint_legend(wnt::PaintPass& pass);
     void draw_plot();
+    void copy_columns(CDC& dc, int from, int to);
     void paint_plot(CDC& dc);
+    void follow();
     void paint_overlay(wnt::PaintPass& pass);
     bool legend_click(CPoint point);
     void zoom_at(int x, double factor);
