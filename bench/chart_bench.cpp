@@ -114,9 +114,9 @@ int main(int argc, char** argv) {
         Plain plain(host);
         for (const bool furnished : {false, true}) {
             Chart chart(host, 10'000, furnished);
-            chart.pulse.SetSpan(1000);
+            chart.pulse.SetSpan(6000);
             chart.pulse.UpdateWindow();
-            const auto ours = [&](int) { chart.tick(2); };
+            const auto ours = [&](int) { chart.tick(12); };
             table.measure_shown(
                 furnished ? "a tick of ten samples, axes, legend" : "a tick of ten samples", ours,
                 [&] { return shown(chart.pulse); }, [&](int i) { plain.move(i); }, [&] { return shown(plain.window); },
