@@ -16,6 +16,7 @@ constexpr int print_height = 32;
 BEGIN_MESSAGE_MAP(CGalleryFrame, CFrameWnd)
 ON_WM_CREATE()
 ON_WM_SIZE()
+ON_WM_ENTERIDLE()
 ON_LBN_SELCHANGE(list_id, &CGalleryFrame::OnSelectPage)
 ON_BN_CLICKED(print_id, &CGalleryFrame::OnPrint)
 END_MESSAGE_MAP()
@@ -24,6 +25,15 @@ CGalleryFrame::CGalleryFrame(const NamedFiles& files) : pages_(MakePages(files))
 
 bool CGalleryFrame::Open() {
     return Create(nullptr, "ZOPWNT gallery", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CRect(40, 40, 1000, 680));
+}
+
+void CGalleryFrame::OnEnterIdle(UINT why, CWnd* who) {
+    const HWND window = who ? who->m_hWnd : nullptr;
+    if (why == MSGF_DIALOGBOX && window != dialog_) {
+        dialog_ = window;
+        Log("dialog");
+    }
+    CFrameWnd::OnEnterIdle(why, who);
 }
 
 int CGalleryFrame::OnCreate(LPCREATESTRUCT create) {

@@ -17,6 +17,7 @@ protected:
     afx_msg void OnSize(UINT type, int cx, int cy);
     afx_msg void OnSelectPage();
     afx_msg void OnPrint();
+    afx_msg void OnEnterIdle(UINT why, CWnd* who);
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -27,4 +28,5 @@ private:
     CButton print_;
     CFont list_font_;
     int shown_ = -1;
+    HWND dialog_ = nullptr; // the last one that waited for input
 };

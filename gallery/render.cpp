@@ -5,6 +5,7 @@
 
 #include "page.h"
 #include "png_file.h"
+#include "scripted_widget.h"
 
 namespace {
 
@@ -83,17 +84,17 @@ CString PictureName(const CString& script, const std::vector<CString>& scripts) 
 
 bool RenderScript(const CString& file, CSize size, const CString& script) {
     CStudio studio;
-    CWntGauge gauge;
     if (::GetFileAttributesA(script) & FILE_ATTRIBUTE_DIRECTORY) { // of a missing file all bits are set
         std::fprintf(stderr, "no such script: %s\n", script.GetString());
         return false;
     }
-    if (!studio.Open(size) ||
-        !gauge.Create(nullptr, "Gauge", WS_CHILD | WS_VISIBLE, CRect(CPoint(0, 0), size), &studio, 1))
+    if (!studio.Open(size))
         return false;
-    gauge.LoadFromFile(script);
-    const bool good = Shoot(gauge, size, file);
-    gauge.DestroyWindow();
+    const auto widget = MakeScripted(script, CRect(CPoint(0, 0), size), &studio, 1);
+    if (!widget)
+        return false;
+    const bool good = Shoot(*widget, size, file);
+    widget->DestroyWindow();
     return good;
 }
 

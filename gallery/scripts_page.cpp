@@ -2,9 +2,10 @@
 #include <cmath>
 
 #include "page.h"
+#include "scripted_widget.h"
 
-// One gauge for each attribute script that was named at start; one in test mode when none was. Drop a script file on
-// a gauge to load it there.
+// A gauge or a strip chart for each attribute script that was named at start; a gauge in test mode when none was. Drop
+// a script file on one of them to load it there.
 
 namespace {
 
@@ -12,24 +13,23 @@ class CScriptsPage : public CGalleryPage {
 public:
     explicit CScriptsPage(const std::vector<CString>& scripts) : scripts_(scripts) {}
 
-    const char* Title() const override { return "Gauge scripts"; }
+    const char* Title() const override { return "Scripts"; }
     const char* Name() const override { return "scripts"; }
 
 protected:
     bool CreateContents() override {
-        const std::size_t count = std::max<std::size_t>(scripts_.size(), 1);
-        for (std::size_t i = 0; i < count; ++i) {
+        constexpr UINT first_id = 10;
+        const CRect nowhere(0, 0, 0, 0);
+        for (const CString& script : scripts_)
+            widgets_.push_back(MakeScripted(script, nowhere, this, first_id + static_cast<UINT>(widgets_.size())));
+        if (scripts_.empty()) {
             auto gauge = std::make_unique<CWntGauge>();
-            if (!gauge->Create(nullptr, "Gauge", WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), this,
-                               static_cast<UINT>(10 + i)))
+            if (!gauge->Create(nullptr, "Gauge", WS_CHILD | WS_VISIBLE, nowhere, this, first_id))
                 return false;
-            if (i < scripts_.size())
-                gauge->LoadFromFile(scripts_[i]);
-            else
-                TryOut(*gauge);
-            gauges_.push_back(std::move(gauge));
+            TryOut(*gauge);
+            widgets_.push_back(std::move(gauge));
         }
-        return true;
+        return std::ranges::all_of(widgets_, [](const auto& widget) { return widget != nullptr; });
     }
 
     // The scroll bar sets the value, the button beside it goes through the views.
@@ -42,7 +42,7 @@ protected:
 
     void Arrange(int width, int height) override {
         constexpr int gap = 8;
-        const int count = static_cast<int>(gauges_.size());
+        const int count = static_cast<int>(widgets_.size());
         if (count == 0)
             return;
         const int columns = static_cast<int>(std::ceil(std::sqrt(static_cast<double>(count))));
@@ -50,13 +50,13 @@ protected:
         const int w = (width - gap) / columns;
         const int h = (height - gap) / rows;
         for (int i = 0; i < count; ++i)
-            Place(*gauges_[static_cast<std::size_t>(i)], gap + i % columns * w, gap + i / columns * h, w - gap,
+            Place(*widgets_[static_cast<std::size_t>(i)], gap + i % columns * w, gap + i / columns * h, w - gap,
                   h - gap);
     }
 
 private:
     std::vector<CString> scripts_;
-    std::vector<std::unique_ptr<CWntGauge>> gauges_;
+    std::vector<std::unique_ptr<CWnd>> widgets_;
 };
 
 } // namespace

@@ -158,7 +158,10 @@ struct PulseTransfer : testing::Test {
         titles = reader.titles();
         reader.set_spread(spread);
         std::vector<PulsePoint> found;
+        double progress = 0;
         while (reader.read(3, [&](int, std::int64_t time, double value) { found.push_back({time, value}); })) {
+            EXPECT_TRUE(progress < reader.progress() && reader.progress() <= 1);
+            progress = reader.progress();
         }
         return found;
     }

@@ -97,11 +97,24 @@ TEST_F(Pulse, ScrollsAsIfPaintedAnew) {
         show();
         EXPECT_EQ(pixels_of(chart_), scrolled) << time;
     }
+    // What was uncovered before pixels were moved.
+    host_.ValidateRect(nullptr);
+    feed(time, time + 50);
+    {
+        CClientDC dc(&chart_);
+        dc.FillSolidRect(CRect(200, 60, 400, 200), poison);
+    }
+    chart_.InvalidateRect(CRect(200, 60, 400, 200), FALSE);
+    chart_.AddSample(flow_, 50, time + 300);
+    feed(time + 310, time + 500);
+    EXPECT_EQ(pixels_of(chart_).count(poison), 0);
+    time += 500;
     const Pixels live = pixels_of(chart_);
     key(VK_SPACE);
+    const int samples = chart_.GetSampleCount(flow_);
     feed(time, time + 730);
     EXPECT_FALSE(chart_.IsLive());
-    EXPECT_EQ(chart_.GetSampleCount(flow_), time / 10 + 73); // pausing stops the picture, not the samples
+    EXPECT_EQ(chart_.GetSampleCount(flow_), samples + 73); // pausing stops the picture, not the samples
     key(VK_SPACE);
     EXPECT_TRUE(chart_.IsLive());
     show();
@@ -185,6 +198,47 @@ TEST_F(Pulse, LooksBackByMouseAndKeysAndReturns) {
     EXPECT_EQ(start(), there);
 }
 
+TEST_F(Pulse, APaintShowsWhatArrivedBeforeTheTick) {
+    for (int i = 0; i < 600; ++i)
+        chart_.AddSample(flow_, 50, 1'000'000 + i * 10);
+    chart_.Invalidate();
+    chart_.UpdateWindow();
+    const auto [left, right] = extent(red);
+    EXPECT_GT(right - left, 300);
+    EXPECT_NEAR(static_cast<double>(start()), 1'000'000, 50);
+}
+
+TEST_F(Pulse, TheTimeAxisZoomsToWhatItsSliderCovers) {
+    feed(0, 60'000);
+    auto& axis = dynamic_cast<CWntAxis&>(*chart_.GetDlgItem(3));
+    CRect size;
+    axis.GetClientRect(&size);
+    const auto drag = [&](int from, int to) {
+        axis.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(from, size.bottom - 5));
+        axis.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(from, size.bottom - 5));
+        axis.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(to, size.bottom - 5));
+        axis.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(to, size.bottom - 5));
+    };
+    double from = -1, to = -1;
+    drag(2, size.right / 2);
+    EXPECT_EQ(axis.GetZoom(&from, &to), 0);
+    EXPECT_TRUE(chart_.GetSpan() == 6000 && chart_.IsLive()); // there is no control yet
+    chart_.SendMessage(WM_COMMAND, WNT_PULSE_CMD_ZOOM, 0);
+    ASSERT_EQ(axis.GetZoom(&from, &to), 1);
+    EXPECT_TRUE(from == 0 && to == 1);
+    const __int64 live = start();
+    host_.told.clear();
+    drag(2, size.right / 2);
+    EXPECT_NEAR(static_cast<double>(chart_.GetSpan()), 3000, 30);
+    EXPECT_NEAR(static_cast<double>(start()), static_cast<double>(live + 3000), 30);
+    EXPECT_THAT(host_.told, testing::ElementsAre(std::pair(UINT{WNT_PULSE_VIEW}, 0)));
+    EXPECT_TRUE(axis.GetZoom(&from, &to) == 1 && from == 0 && to == 1); // ready for the next time
+    drag(size.right - 2, size.right / 4);
+    EXPECT_NEAR(static_cast<double>(chart_.GetSpan()), 750, 20);
+    drag(size.right / 2, size.right / 2);
+    EXPECT_EQ(host_.told.size(), 2u); // nothing was zoomed
+}
+
 TEST_F(Pulse, CursorsReadOff) {
     feed(0, 6000);
     const Pixels without = pixels_of(chart_);
@@ -229,8 +283,11 @@ TEST_F(Pulse, CursorsReadOff) {
     chart_.GetCursor(0, &first);
     EXPECT_LT(first, moved);
     chart_.SetSpan(6000);
+    host_.told.clear();
     key(VK_ESCAPE);
     EXPECT_EQ(chart_.GetCursor(0, &first) + chart_.GetCursor(1, &first), 0);
+    EXPECT_THAT(host_.told,
+                testing::ElementsAre(std::pair(UINT{WNT_PULSE_CURSOR}, 0), std::pair(UINT{WNT_PULSE_CURSOR}, 1)));
     show();
     host_.SetFocus();
     full_repaint(chart_);
@@ -377,6 +434,9 @@ TEST_F(Pulse, ReadsScriptsAndTakesWindowsOver) {
     ASSERT_TRUE(taken.SubclassWindow(blank));
     EXPECT_EQ(taken.GetCurveCount(), 1);
     EXPECT_EQ(taken.GetSpan(), 1000);
+    double low = -1, high = -1;
+    EXPECT_TRUE(taken.GetRange(0, &low, &high) == 1 && low == 0 && high == 3000);
+    EXPECT_EQ(taken.GetRange(1, &low, &high) + taken.GetRange(0, nullptr, &high), 0);
     EXPECT_EQ(taken.AddSample(0, 1500), 1);
     CWntPulse* volatile none = nullptr;
     EXPECT_EQ(none->AddSample(0, 1) + none->AddSample(0, 1, 1) + none->SetSpan(5) + none->GetCurveCount() +
@@ -406,6 +466,16 @@ TEST_F(Pulse, MayBeDestroyedOnAnyNotification) {
             send(WM_TIMER, 2, 0);
         send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(200, 150));
         send(WM_LBUTTONUP, 0, MAKELPARAM(200, 150));
+        if (const HWND axis = ::GetDlgItem(window, 3); axis && code == WNT_PULSE_VIEW) {
+            CRect size;
+            ::GetClientRect(axis, &size);
+            send(WM_COMMAND, WNT_PULSE_CMD_ZOOM, 0);
+            ::SendMessage(axis, WM_MOUSEMOVE, 0, MAKELPARAM(1, size.bottom - 5));
+            ::SendMessage(axis, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(1, size.bottom - 5));
+            ::SendMessage(axis, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(90, size.bottom - 5));
+            ::SendMessage(axis, WM_LBUTTONUP, 0, MAKELPARAM(90, size.bottom - 5));
+            EXPECT_FALSE(::IsWindow(window));
+        }
         send(WM_KEYDOWN, VK_PRIOR, 0);
         for (int y = 2; y < 40; y += 4)
             send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(20, y));

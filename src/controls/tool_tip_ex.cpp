@@ -96,7 +96,7 @@ LRESULT CToolTipCtrlEx::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_NCPAINT)
         return 0;
     if (message == WM_NCHITTEST)
-        return HTTRANSPARENT;
+        return HTTRANSPARENT; // within a thread; see let_clicks_through
     return CToolTipCtrl::WindowProc(message, wParam, lParam);
 }
 
@@ -306,6 +306,15 @@ CToolTipCtrlEx::Fonts& CToolTipCtrlEx::fonts() {
     return *fonts_;
 }
 
+// For systems that look for what lies below a transparent place within the same top-level window only.
+void CToolTipCtrlEx::let_clicks_through() {
+    constexpr DWORD wanted = WS_EX_LAYERED | WS_EX_TRANSPARENT;
+    if ((GetExStyle() & wanted) == wanted)
+        return;
+    ModifyStyleEx(0, wanted);
+    ::SetLayeredWindowAttributes(m_hWnd, 0, 255, LWA_ALPHA);
+}
+
 bool CToolTipCtrlEx::present(const WntTip& tip, const CRect& around, Shown how, bool centred) {
     if (tip.IsEmpty())
         return false;
@@ -328,6 +337,7 @@ bool CToolTipCtrlEx::present(const WntTip& tip, const CRect& around, Shown how, 
     shown_ = how;
     const CRect place =
         wnt::rect_of(wnt::place_tip(least_.cx, least_.cy, wnt::pixels_of(around), wnt::pixels_of(screen), centred));
+    let_clicks_through();
     presenting_ = true;
     SetWindowPos(&CWnd::wndTop, place.left, place.top, place.Width(), place.Height(),
                  SWP_NOACTIVATE | SWP_NOOWNERZORDER | SWP_SHOWWINDOW);

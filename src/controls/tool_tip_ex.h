@@ -109,6 +109,7 @@ private:
     Outcome show_keyed();
     /// Asks the tool's window; false when nothing is left to go on with.
     bool ask(const Tool& tool, WntTip& tip);
+    void let_clicks_through();
     bool present(const WntTip& tip, const CRect& around, Shown how, bool centred = false);
     Outcome show_tool(const TOOLINFO& info, Shown how);
     CRect around_tool(const TOOLINFO& info) const;

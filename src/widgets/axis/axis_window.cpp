@@ -206,6 +206,12 @@ void CWntAxis::SetZoomRects(int keep) {
     zoom_->lay_out(*model_, keep != 0);
 }
 
+int CWntAxis::GetZoom(double* from, double* to) const {
+    if (!from || !to || !zoom_->shown || !zoom_->part(model_->horizontal(), *from, *to))
+        return 0;
+    return 1;
+}
+
 void CWntAxis::lay_out(int cx, int cy) {
     model_->resize(cx, cy);
     SetZoomRects(0);
@@ -257,9 +263,15 @@ void CWntAxis::OnLButtonDown(UINT, CPoint point) {
 }
 
 void CWntAxis::OnLButtonUp(UINT, CPoint) {
-    if (zoom_->shown)
-        end_zoom_drag();
+    if (!zoom_->shown)
+        return;
+    const bool dragging = ::GetCapture() == m_hWnd;
+    end_zoom_drag();
+    if (dragging)
+        OnZoomed();
 }
+
+void CWntAxis::OnZoomed() {}
 
 void CWntAxis::end_zoom_drag() {
     zoom_->enlarging = false;

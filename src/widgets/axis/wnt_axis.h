@@ -38,8 +38,9 @@ enum class ZoomGrip;
 ///
 /// In a dialog template its class is "WntAxis"; DDX_Control() joins it to an object.
 ///
-/// Command 100 shows and hides a zoom control, whose slider the mouse moves without any effect on the range; command
-/// 101 opens the axis' properties. A double click is told to the parent by a notify message with code 103.
+/// Command 100 shows and hides a zoom control, whose slider the mouse moves without any effect on the range, but for
+/// what a derived class makes of it (OnZoomed); command 101 opens the axis' properties. A double click is told to the
+/// parent by a notify message with code 103.
 class ZOPWNT_API CWntAxis : public wnt::ControlWindow {
 public:
     CWntAxis();
@@ -114,6 +115,10 @@ public:
     /// Pixel of a moment; at and beyond the ends the pixel just outside. Runs downwards on a vertical axis.
     int SetCurrentTime(__int64 time);
 
+    /// Which part of the axis the zoom control's slider covers, as shares of its length from the minimum on, 0 to 1.
+    /// 0, and nothing stored, while it is hidden or covers nothing.
+    int GetZoom(double* from, double* to) const;
+
     /// Grid step that was double-clicked last on a text axis, counted from the left or from the top; a pixel without a
     /// grid. Not bounded by the number of labels.
     int QueryDoubleclickedItem();
@@ -134,6 +139,8 @@ protected:
 
     /// Lays the zoom control out; keep: its slider covers it again.
     void SetZoomRects(int keep);
+    /// The user let the zoom control's slider go. Does nothing; it may destroy the axis.
+    virtual void OnZoomed();
 
     /// flag 0 looks sunk, 1 raised; fill: the inside becomes grey.
     void DrawBorder(CPaintDC* dc, int x, int y, int width, int height, int flag, long fill);

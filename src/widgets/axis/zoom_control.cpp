@@ -48,6 +48,18 @@ void ZoomControl::lay_out(const AxisModel& axis, bool with_slider) {
         slider = box;
 }
 
+bool ZoomControl::part(bool horizontal, double& from, double& to) const {
+    const std::int32_t box_start = horizontal ? box.left : box.top, box_end = horizontal ? box.right : box.bottom;
+    const std::int32_t start = std::max(horizontal ? slider.left : slider.top, box_start);
+    const std::int32_t end = std::min(horizontal ? slider.right : slider.bottom, box_end);
+    if (start >= end)
+        return false;
+    const double length = box_end - box_start;
+    from = (horizontal ? start - box_start : box_end - end) / length;
+    to = (horizontal ? end - box_start : box_end - start) / length;
+    return true;
+}
+
 bool ZoomControl::hit(std::int32_t x, std::int32_t y) const {
     return box.left <= x && x < box.right && box.top <= y && y < box.bottom;
 }

@@ -26,6 +26,9 @@ struct ZoomControl {
         return horizontal ? slider.left < slider.right : slider.top < slider.bottom;
     }
 
+    /// The slider's share of the box, 0 to 1, from the left or from below; false without one.
+    bool part(bool horizontal, double& from, double& to) const;
+
     bool hit(std::int32_t x, std::int32_t y) const;
 
     /// What a press at the point would take hold of.

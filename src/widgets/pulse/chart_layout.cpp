@@ -48,7 +48,7 @@ ChartLayout lay_out_chart(int width, int height, const ChartSizes& sizes) {
     if (sizes.right_axis && plot.height() > least_plot_height)
         result.right_axis.right = take(across, plot.width() - result.left_axis.right, least_plot_width);
     int room = plot.height() - result.time_axis.bottom;
-    const int bar = take(sizes.scroll_bar, room, least_plot_height);
+    const int bar = take(sizes.scroll_bar, room, 2 * least_plot_height);
     room -= bar;
     const int title = take(sizes.title, room, least_plot_height);
     room -= title;

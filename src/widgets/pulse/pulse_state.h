@@ -63,6 +63,7 @@ struct CWntPulse::State {
 
 namespace wnt {
 
+inline constexpr UINT axis_zoom_command = 100, axis_properties_command = 101;
 inline constexpr UINT_PTR pulse_tick_timer = 1, pulse_read_timer = 2;
 
 } // namespace wnt

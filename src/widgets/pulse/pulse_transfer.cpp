@@ -156,6 +156,8 @@ std::string PulseReader::open(const std::string& path) {
         file_.reset();
         return "no file of samples";
     }
+    const std::uintmax_t size = std::filesystem::file_size(path, failed);
+    size_ = failed ? 0 : static_cast<std::int64_t>(size);
     for (int i = 0; i < header.line_count; ++i) {
         std::string title = header.titles[i];
         title.erase(title.find_last_not_of(' ') + 1);
@@ -179,6 +181,17 @@ void PulseReader::flush(int curve, const std::function<void(int, std::int64_t, d
         take(curve, onward(curve, second.time + (spread_ ? 100 * i / count : 0)),
              second.values[static_cast<std::size_t>(i)]);
     second.values.clear();
+}
+
+double PulseReader::progress() const {
+    if (!file_)
+        return 1;
+#ifdef _WIN32
+    const std::int64_t at = ::_ftelli64(file_.get());
+#else
+    const std::int64_t at = std::ftell(file_.get());
+#endif
+    return size_ > 0 ? std::clamp(static_cast<double>(at) / static_cast<double>(size_), 0.0, 1.0) : 0;
 }
 
 bool PulseReader::read(int records, const std::function<void(int, std::int64_t, double)>& take) {

@@ -71,6 +71,8 @@ public:
     /// Where stamps run back, because the clock was set, the samples stay in their order at the time that was reached.
     bool read(int records, const std::function<void(int curve, std::int64_t time, double value)>& take);
     std::int64_t records() const { return records_; }
+    /// How much of the file was read, 0 to 1.
+    double progress() const;
     /// It ended at what is no sample.
     bool broken() const { return broken_; }
 
@@ -97,6 +99,7 @@ private:
     bool dated_ = false;
     bool spread_ = false;
     std::int64_t records_ = 0;
+    std::int64_t size_ = 0; // of the file
     bool broken_ = false;
 };
 

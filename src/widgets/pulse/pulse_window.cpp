@@ -137,6 +137,14 @@ int CWntPulse::SetRange(int curve, double low, double high) {
     return 1;
 }
 
+int CWntPulse::GetRange(int curve, double* low, double* high) const {
+    if (!this || !low || !high || !state_->chart.has(curve))
+        return 0;
+    *low = state_->chart.curve(curve).low;
+    *high = state_->chart.curve(curve).high;
+    return 1;
+}
+
 int CWntPulse::SetColour(int curve, COLORREF colour) {
     if (!this || !state_->chart.has(curve))
         return 0;

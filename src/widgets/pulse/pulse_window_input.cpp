@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cstdlib>
+#include <initializer_list>
 #include <utility>
 
 #include "widgets/painting/surface_owner.h"
@@ -11,7 +12,7 @@ namespace {
 
 constexpr double zoom_step = 1.25;
 constexpr int scroll_part = 10; // of the plot's width
-constexpr UINT axis_double_click = 103, axis_properties_command = 101;
+constexpr UINT axis_double_click = 103;
 
 bool down(int key) {
     return ::GetKeyState(key) < 0;
@@ -107,6 +108,24 @@ void CWntPulse::OnLButtonUp(UINT flags, CPoint point) {
     }
 }
 
+void CWntPulse::TimeAxis::OnZoomed() {
+    auto* const chart = dynamic_cast<CWntPulse*>(GetParent());
+    if (!chart)
+        return;
+    PulseView& view = chart->state_->view;
+    double from = 0, to = 1;
+    const bool narrower = GetZoom(&from, &to) && (from > 0 || to < 1);
+    cover();
+    Invalidate(FALSE);
+    if (!narrower)
+        return;
+    const auto at = [&, start = view.start(), span = static_cast<double>(view.span())](double share) {
+        return start + static_cast<std::int64_t>(span * share);
+    };
+    view.show(at(from), at(to));
+    chart->view_changed();
+}
+
 void CWntPulse::end_drag() {
     const State::Drag drag = std::exchange(state_->drag, State::Drag::none);
     if (drag == State::Drag::none)
@@ -160,6 +179,15 @@ void CWntPulse::put_cursor(int which, __int64 time) {
     const StillThere self(*this);
     if (SetCursor(which, time) && self)
         tell(WNT_PULSE_CURSOR, which, time);
+}
+
+void CWntPulse::remove_cursors() {
+    const auto removed = std::exchange(state_->cursors, {});
+    const StillThere self(*this);
+    refresh(false);
+    for (int which = 0; which < 2 && self; ++which)
+        if (const auto& at = removed[static_cast<std::size_t>(which)])
+            tell(WNT_PULSE_CURSOR, which, *at);
 }
 
 // One that is not shown begins in the middle.
@@ -218,8 +246,7 @@ void CWntPulse::OnKeyDown(UINT key, UINT, UINT) {
             return end_reading(0);
         if (s.drag != State::Drag::none)
             return end_drag();
-        s.cursors = {};
-        return refresh(false);
+        return remove_cursors();
     default:
         Default();
     }
@@ -270,7 +297,7 @@ void CWntPulse::OnHScroll(UINT code, UINT position, CScrollBar* bar) {
 
 BOOL CWntPulse::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) {
     const auto* const told = reinterpret_cast<NMHDR*>(lParam);
-    for (CWntAxis* axis : {&left_, &right_, &time_})
+    for (CWntAxis* axis : std::initializer_list<CWntAxis*>{&left_, &right_, &time_})
         if (told && told->code == axis_double_click && axis->m_hWnd && told->hwndFrom == axis->m_hWnd) {
             axis->SendMessage(WM_COMMAND, axis_properties_command);
             return TRUE;

@@ -42,6 +42,8 @@ BOOL CWntPulse::OnEraseBkgnd(CDC*) {
 
 void CWntPulse::OnPaint() {
     State& s = *state_;
+    if (std::exchange(s.stale, false)) // painted before the next tick, as when it is printed
+        refresh(false);
     const CRect plot = rect_of(s.plot());
     CRect dirty;
     GetUpdateRect(&dirty);
@@ -121,12 +123,16 @@ void CWntPulse::paint_overlay(PaintPass& pass) {
         pass.frame(band, s.chart.text);
     }
     if (s.reading) {
-        char text[80];
-        std::snprintf(text, sizeof text, "Reading: %lld records. Escape cancels.",
-                      static_cast<long long>(s.reader.records()));
+        const double progress = s.reader.progress();
+        char text[100];
+        std::snprintf(text, sizeof text, "Reading: %lld records, %d %%. Escape cancels.",
+                      static_cast<long long>(s.reader.records()), static_cast<int>(100 * progress));
         CRect place = plot;
         place.bottom = std::min<int>(place.top + 24 * std::max(s.scale, 100) / 100, place.bottom);
         pass.text(place, text, DT_CENTER | single_line, s.chart.text, &s.font);
+        place.top = std::max<int>(place.bottom - 3 * thickness, place.top);
+        place.right = place.left + static_cast<int>(place.Width() * progress);
+        pass.fill(place, s.chart.text);
     }
 }
 

@@ -104,7 +104,7 @@ void CWntPulse::arrange() {
     if (chart.legend && !chart.curves().empty())
         sizes.legend = metrics.tmHeight + metrics.tmHeight / 3;
     for (const ChartCurve& curve : chart.curves()) // a sample, the title, and room for a value
-        sizes.entries.push_back(dc.GetTextExtent((curve.title + "  -0.00000e+00").c_str()).cx + 2 * metrics.tmHeight);
+        sizes.entries.push_back(dc.GetTextExtent((curve.title + "  -0000.00").c_str()).cx + 2 * metrics.tmHeight);
     dc.SelectObject(before);
     const std::vector<int> ranges = chart.ranges();
     const int right_range = chart.axes & side_left ? 1 : 0;
@@ -125,6 +125,8 @@ void CWntPulse::arrange() {
     place(left_, layout.left_axis);
     place(right_, layout.right_axis);
     place(time_, layout.time_axis);
+    if (self)
+        time_.cover();
     place(scroll_, layout.scroll_bar);
     if (!self)
         return;

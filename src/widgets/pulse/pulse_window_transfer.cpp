@@ -271,6 +271,8 @@ void CWntPulse::show_menu(CPoint screen) {
     item(WNT_PULSE_CMD_PAUSE, "&Pause\tSpace", !s.view.live());
     item(WNT_PULSE_CMD_FIT, "&Fit values", s.chart.fit);
     item(WNT_PULSE_CMD_CURSORS, "&Cursors", s.cursors[0] || s.cursors[1]);
+    double from = 0, to = 0;
+    item(WNT_PULSE_CMD_ZOOM, "&Zoom control", time_.GetZoom(&from, &to) != 0);
     menu.AppendMenu(MF_SEPARATOR);
     item(WNT_PULSE_CMD_RECORD, s.recorder.running() ? "End &recording" : "&Record...", s.recorder.running());
     item(WNT_PULSE_CMD_OPEN, "&Open...");
@@ -286,6 +288,18 @@ void CWntPulse::show_menu(CPoint screen) {
     item(WNT_PULSE_CMD_PRINT, "Pri&nt");
     colours.Detach(); // the menu's
     menu.TrackPopupMenu(TPM_LEFTALIGN | TPM_RIGHTBUTTON, screen.x, screen.y, this);
+}
+
+void CWntPulse::toggle_cursors() {
+    const State& s = *state_;
+    if (s.cursors[0] || s.cursors[1])
+        return remove_cursors();
+    const int width = s.view.columns().width;
+    const std::int64_t first = s.view.time(width / 3), second = s.view.time(2 * width / 3);
+    const StillThere self(*this);
+    put_cursor(0, first);
+    if (self)
+        put_cursor(1, second);
 }
 
 BOOL CWntPulse::OnCommand(WPARAM wParam, LPARAM lParam) {
@@ -306,13 +320,11 @@ BOOL CWntPulse::OnCommand(WPARAM wParam, LPARAM lParam) {
         SetFit(!s.chart.fit);
         break;
     case WNT_PULSE_CMD_CURSORS:
-        if (s.cursors[0] || s.cursors[1]) {
-            s.cursors = {};
-        } else {
-            const int width = s.view.columns().width;
-            s.cursors = {s.view.time(width / 3), s.view.time(2 * width / 3)};
-        }
-        refresh(false);
+        toggle_cursors();
+        break;
+    case WNT_PULSE_CMD_ZOOM:
+        time_.cover();
+        time_.SendMessage(WM_COMMAND, axis_zoom_command);
         break;
     case WNT_PULSE_CMD_RECORD:
         choose_recording();

@@ -19,7 +19,7 @@ struct ChartLayout;
 /// Notifications of a strip chart, as WM_NOTIFY with a WntPulseNotify, for what its user did and for what happened.
 enum WntPulseCode : UINT {
     WNT_PULSE_VIEW = 170,      ///< another stretch of time is shown, or live or not
-    WNT_PULSE_CURSOR = 171,    ///< a cursor was moved: `which` 0 or 1, `time` where it stands now
+    WNT_PULSE_CURSOR = 171,    ///< a cursor was set or moved to, or removed from (see GetCursor) `time`: `which` 0 or 1
     WNT_PULSE_CURVE = 172,     ///< a curve was shown or hidden by the legend: `which`
     WNT_PULSE_RECORDING = 173, ///< recording was started or ended, or failed: GetRecordingError()
     WNT_PULSE_READ = 174,      ///< reading a file ended: `which` 1 at its end, 2 at what is no sample, 0 cancelled
@@ -42,8 +42,9 @@ enum WntPulseCommand : UINT {
     WNT_PULSE_CMD_PRINT,
     WNT_PULSE_CMD_COPY_PICTURE,
     WNT_PULSE_CMD_COPY_VALUES,
-    WNT_PULSE_CMD_CURVE, ///< and the nine after it: another colour for that curve
-    WNT_PULSE_CMD_LAST = WNT_PULSE_CMD_CURVE + 10 - 1,
+    WNT_PULSE_CMD_CURVE,                           ///< and the nine after it: another colour for that curve
+    WNT_PULSE_CMD_ZOOM = WNT_PULSE_CMD_CURVE + 10, ///< shows and hides the time axis' zoom control
+    WNT_PULSE_CMD_LAST = WNT_PULSE_CMD_ZOOM,
 };
 
 /// A strip chart: up to ten curves of samples over time, live or looked back at, recorded to and read from pulse files.
@@ -60,7 +61,8 @@ enum WntPulseCommand : UINT {
 ///
 /// The newest sample stands at the right edge while the chart is live. Dragging the plot, the wheel with Shift, the
 /// scroll bar, arrows, Page Up and Down and Home look back; End is live again, Space pauses and goes on. The wheel
-/// zooms at the pointer, plus and minus in the middle, dragging with Shift to the stretch it marks. A click sets the
+/// zooms at the pointer, plus and minus in the middle, dragging with Shift to the stretch it marks, the slider of the
+/// time axis' zoom control to what it covers when it is let go. A click sets the
 /// first cursor, with Control the second one, whose difference to the first is told; Left and Right move the first one
 /// where it is shown, with Shift the second, with Control by ten pixels; Escape removes them. A click on a name of the
 /// legend hides and shows a curve, the right button opens the menu. A file of samples that is dropped is opened, any
@@ -87,6 +89,8 @@ public:
     void RemoveCurves();
     int GetCurveCount() const;
     int SetRange(int curve, double low, double high);
+    /// As set, whether or not what is shown was fitted.
+    int GetRange(int curve, double* low, double* high) const;
     int SetColour(int curve, COLORREF colour);
     /// style: a surface's line style, 0 to 7. steps: a value holds until the next. marks: samples that lie far apart
     /// are marked.
@@ -180,6 +184,14 @@ protected:
 
 private:
     struct State;
+    class TimeAxis : public CWntAxis {
+    public:
+        /// The zoom control's slider covers all of the axis again.
+        void cover() { SetZoomRects(1); }
+
+    protected:
+        void OnZoomed() override;
+    };
 
     bool build() override;
     void leave() override;
@@ -210,6 +222,8 @@ private:
     void move_cursor(int which, int columns);
     void put_cursor(int which, __int64 time);
     void end_drag();
+    void remove_cursors();
+    void toggle_cursors();
     void choose_recording();
     void choose_file();
     void choose_colour(int curve);
@@ -218,7 +232,8 @@ private:
     void end_reading(int whole);
 
     std::unique_ptr<State> state_;
-    CWntAxis left_, right_, time_;
+    CWntAxis left_, right_;
+    TimeAxis time_;
     CWntScrollBar scroll_;
     CToolTipCtrlEx tip_;
 };
