@@ -1,5 +1,7 @@
 #include <zopwnt.h>
 
+#include <psapi.h>
+
 #include <gmock/gmock.h>
 
 #include <cmath>
@@ -482,6 +484,35 @@ TEST_F(Pulse, MayBeDestroyedOnAnyNotification) {
         EXPECT_FALSE(chart) << code;
         EXPECT_FALSE(::IsWindow(window)) << code;
     }
+}
+
+// A hundred samples a second; the picture follows every 400 seconds.
+TEST_F(Pulse, AWeekOfLiveTimeGrowsNothing) {
+    constexpr __int64 day = 8'640'000, tick = 40'000;
+    struct Held {
+        DWORD objects, windows;
+        SIZE_T memory;
+    };
+    const auto held = [] {
+        PROCESS_MEMORY_COUNTERS memory = {};
+        ::K32GetProcessMemoryInfo(::GetCurrentProcess(), &memory, sizeof memory);
+        return Held{::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS),
+                    ::GetGuiResources(::GetCurrentProcess(), GR_USEROBJECTS), memory.PagefileUsage};
+    };
+    chart_.SetCapacity(100'000);
+    Held first = {};
+    for (__int64 time = 0; time < 7 * day; time += tick) {
+        for (__int64 at = time; at < time + tick; ++at)
+            chart_.AddSample(flow_, static_cast<double>(at % 977) / 10, at);
+        show();
+        if (time == day)
+            first = held();
+    }
+    const Held last = held();
+    EXPECT_EQ(chart_.GetSampleCount(flow_), 100'000);
+    EXPECT_EQ(last.objects, first.objects);
+    EXPECT_EQ(last.windows, first.windows);
+    EXPECT_TRUE(first.memory > 0 && last.memory < first.memory + 1'000'000) << first.memory << ' ' << last.memory;
 }
 
 TEST_F(Pulse, HoldsAtAnyOperation) {
