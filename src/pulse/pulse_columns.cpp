@@ -104,6 +104,7 @@ void paint_columns(const PulseSeries& series, const ColumnScale& scale, std::int
             return;
         }
         const std::uint64_t next = series.seek(scale.time(column + 1), number + in_column);
+        series.expect(next + (next - number));
         runs.add(column, number, next);
         in_column = next - number;
         number = next;

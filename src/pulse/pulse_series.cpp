@@ -131,22 +131,61 @@ PulseBlock PulseSeries::block(std::uint64_t from, std::size_t size) const {
     return size == chunk_size ? of_chunks(from, from + size) : chunk_of(from).blocks[block_place(from, size)];
 }
 
+// Of one chunk: up to ever larger blocks, and down again.
+PulseBlock PulseSeries::within_chunk(std::uint64_t from, std::uint64_t to) const {
+    const PulseBlock* level = chunk_of(from).blocks;
+    PulseBlock result;
+    std::size_t size = smallest_block;
+    if (from % size != 0) {
+        const std::uint64_t end = std::min(to, (from | (size - 1)) + 1);
+        result = of_samples(from, end);
+        from = end;
+    }
+    for (; size * fan <= chunk_size && from + size <= to; level += chunk_size / size, size *= fan)
+        for (; from % (size * fan) != 0 && from + size <= to; from += size)
+            result.include(level[from % chunk_size / size]);
+    for (;; size /= fan) {
+        for (; size < chunk_size && from + size <= to; from += size)
+            result.include(level[from % chunk_size / size]);
+        if (size == smallest_block)
+            break;
+        level -= chunk_size / (size / fan);
+    }
+    if (from < to)
+        result.include(of_samples(from, to));
+    return result;
+}
+
 PulseBlock PulseSeries::summary(std::uint64_t from, std::uint64_t to) const {
     PulseBlock result;
     while (from < to) {
-        std::size_t size = block_size(from, to);
-        if (size == chunk_size) {
-            size = static_cast<std::size_t>((to - from) / chunk_size * chunk_size);
-            result.include(of_chunks(from, from + size));
-        } else if (size == 1) { // up to the next block
-            size = static_cast<std::size_t>(std::min(to, (from | (smallest_block - 1)) + 1) - from);
-            result.include(of_samples(from, from + size));
+        std::uint64_t end = (from | (chunk_size - 1)) + 1;
+        if (from % chunk_size == 0 && to - from >= chunk_size) {
+            end = to - to % chunk_size;
+            result.include(of_chunks(from, end));
         } else {
-            result.include(block(from, size));
+            end = std::min(end, to);
+            result.include(within_chunk(from, end));
         }
-        from += size;
+        from = end;
     }
     return result;
+}
+
+void PulseSeries::expect(std::uint64_t number) const {
+#ifdef __GNUC__
+    if (number < first_ || number >= end_)
+        return;
+    const Chunk& chunk = chunk_of(number);
+    constexpr std::uint64_t line = 64 / sizeof(PulsePoint);
+    const std::uint64_t first = number % chunk_size & ~std::uint64_t{smallest_block - 1};
+    for (std::uint64_t i = first; i < first + smallest_block; i += line)
+        __builtin_prefetch(&chunk.points[i]);
+    for (std::size_t size = smallest_block; size < chunk_size; size *= fan)
+        __builtin_prefetch(&chunk.blocks[block_place(number, size)]);
+#else
+    static_cast<void>(number);
+#endif
 }
 
 std::uint64_t PulseSeries::seek(std::int64_t time, std::uint64_t guess) const {

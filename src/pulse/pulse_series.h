@@ -54,6 +54,8 @@ public:
 
     /// The first sample at or after the time, searched from `guess` on both ways.
     std::uint64_t seek(std::int64_t time, std::uint64_t guess) const;
+    /// Has the memory around a sample fetched, for a call that is about to ask for it.
+    void expect(std::uint64_t number) const;
     /// Of the samples [from, to), the pause before the first of them included.
     PulseBlock summary(std::uint64_t from, std::uint64_t to) const;
 
@@ -79,6 +81,7 @@ private:
     void finish_blocks();
     void finish_chunk(const PulseBlock& whole);
     PulseBlock of_samples(std::uint64_t from, std::uint64_t to) const;
+    PulseBlock within_chunk(std::uint64_t from, std::uint64_t to) const;
     PulseBlock of_chunks(std::uint64_t from, std::uint64_t to) const;
 
     std::size_t capacity_;
