@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
+#include <utility>
 
 IMPLEMENT_DYNCREATE(CSketchView, CScrollView)
 
