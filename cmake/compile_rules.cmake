@@ -1,6 +1,8 @@
 # Compile rules for every target of the project.
 if(MSVC)
-  add_compile_options(/W4 /utf-8 /fp:strict)
+  # /wd4100: a parameter unused; /wd4251: a private member of an exported class that is not exported itself.
+  add_compile_options("$<$<COMPILE_LANGUAGE:C,CXX>:/W4;/wd4100;/wd4251;/utf-8;/fp:precise;/bigobj>")
+  add_compile_definitions(_CRT_SECURE_NO_WARNINGS)
 else()
   add_compile_options(
     -Wall -Wextra -Wno-unused-parameter

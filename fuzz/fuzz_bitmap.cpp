@@ -5,7 +5,11 @@
 #include "bitmap_memory.h"
 #include "require.h"
 
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
 #include <numeric>
+#include <span>
 #include <vector>
 
 using namespace wnt;

@@ -26,7 +26,12 @@ wnt::LibraryResources::~LibraryResources() {
 }
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
-    if (reason == DLL_PROCESS_ATTACH && AfxInitExtensionModule(zopwnt_module, instance))
+    if (reason == DLL_PROCESS_ATTACH) {
+        if (!AfxInitExtensionModule(zopwnt_module, instance))
+            return FALSE;
         new CDynLinkLibrary(zopwnt_module); // the framework's from here on
+    } else if (reason == DLL_PROCESS_DETACH) {
+        AfxTermExtensionModule(zopwnt_module);
+    }
     return TRUE;
 }

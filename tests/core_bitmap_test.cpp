@@ -5,6 +5,7 @@
 
 #include <gmock/gmock.h>
 
+#include <array>
 #include <climits>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);

@@ -5,6 +5,8 @@
 
 #include <gmock/gmock.h>
 
+#include <cmath>
+
 using namespace wnt;
 
 namespace {

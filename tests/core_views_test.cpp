@@ -4,6 +4,9 @@
 
 #include <gmock/gmock.h>
 
+#include <cctype>
+#include <cmath>
+#include <iterator>
 #include <map>
 #include <random>
 

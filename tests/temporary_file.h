@@ -1,6 +1,7 @@
 // Files that tests write and read back.
 #pragma once
 
+#include <cstdint>
 #include <cstdio>
 #include <fstream>
 #include <iterator>

@@ -161,8 +161,8 @@ TEST(VersionSheet, ShowsTheComponents) {
         EXPECT_EQ(rows[0][2], working_folder());
         const auto moment = MatchesRegex("\\d\\d.\\d\\d.20\\d\\d, \\d\\d:\\d\\d:\\d\\d");
         EXPECT_THAT(rows[1],
-                    ElementsAre(_, _, "ZOPWNT.dll", _, MatchesRegex("\\d\\d\\d\\d+ bytes"), moment, moment, "1.0.0.0",
-                                "1.0.0.0", "      ", "NT-Win32", "Dynamic Link Library", language_name(0x409)));
+                    ElementsAre(_, _, "ZOPWNT.dll", _, MatchesRegex("\\d\\d\\d\\d+ bytes"), moment, moment, "1.1.0.0",
+                                "1.1.0.0", "      ", "NT-Win32", "Dynamic Link Library", language_name(0x409)));
         // The file version under "Product".
         EXPECT_THAT(rows[3], ElementsAre(_, _, _, StartsWith("r-s--"), _, "01.02.2003, 13:04:05",
                                          "01.02.2003, 13:04:05", "1.2.3.65535", "10.0.0.7", _, _, _, _));

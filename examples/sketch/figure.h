@@ -4,6 +4,7 @@
 #include "canvas.h"
 
 #include <memory>
+#include <utility>
 
 /// Figures never change: whoever wants another one makes a copy. So undo keeps pointers, and nothing else.
 /// Rectangles have their lower edge in `top` and their upper one in `bottom`, since y grows upwards.

@@ -2,6 +2,8 @@
 
 #include "resource.h"
 
+#include <iterator>
+
 IMPLEMENT_DYNCREATE(CMainFrame, CFrameWnd)
 
 BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)

@@ -15,9 +15,9 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(CSketchApp, CWinApp)
-ON_COMMAND(ID_FILE_NEW, &CWinApp::OnFileNew)
-ON_COMMAND(ID_FILE_OPEN, &CWinApp::OnFileOpen)
-ON_COMMAND(ID_FILE_PRINT_SETUP, &CWinApp::OnFilePrintSetup)
+ON_COMMAND(ID_FILE_NEW, &CSketchApp::OnFileNew)
+ON_COMMAND(ID_FILE_OPEN, &CSketchApp::OnFileOpen)
+ON_COMMAND(ID_FILE_PRINT_SETUP, &CSketchApp::OnFilePrintSetup)
 ON_COMMAND(ID_APP_ABOUT, &CSketchApp::OnAbout)
 END_MESSAGE_MAP()
 

@@ -3,6 +3,8 @@
 #include "dialogs.h"
 #include "resource.h"
 
+#include <utility>
+
 IMPLEMENT_DYNCREATE(CSketchDoc, CDocument)
 
 BEGIN_MESSAGE_MAP(CSketchDoc, CDocument)

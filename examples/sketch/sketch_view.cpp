@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
+#include <utility>
 
 IMPLEMENT_DYNCREATE(CSketchView, CScrollView)
 
@@ -35,8 +37,8 @@ ON_UPDATE_COMMAND_UI(ID_EDIT_CLEAR, &CSketchView::OnUpdateSelected)
 ON_COMMAND(ID_EDIT_COPY, &CSketchView::OnEditCopy)
 ON_UPDATE_COMMAND_UI(ID_EDIT_COPY, &CSketchView::OnUpdateCopy)
 ON_COMMAND(IDCANCEL, &CSketchView::OnCancel)
-ON_COMMAND(ID_FILE_PRINT, &CView::OnFilePrint)
-ON_COMMAND(ID_FILE_PRINT_DIRECT, &CView::OnFilePrint)
+ON_COMMAND(ID_FILE_PRINT, &CSketchView::OnFilePrint)
+ON_COMMAND(ID_FILE_PRINT_DIRECT, &CSketchView::OnFilePrint)
 ON_UPDATE_COMMAND_UI(ID_INDICATOR_POSITION, &CSketchView::OnUpdatePosition)
 ON_UPDATE_COMMAND_UI(ID_INDICATOR_ZOOM, &CSketchView::OnUpdateZoomText)
 END_MESSAGE_MAP()

@@ -113,10 +113,14 @@ public:                                                                         
 
 // An object of a serialisable class is read by its pointer. With VERSIONABLE_SCHEMA or'ed to the schema number, other
 // versions are read, too: Serialize asks CArchive::GetObjectSchema.
+// An extension library defines AFX_API as its export around a class to let its hosts do so, too.
 #define VERSIONABLE_SCHEMA 0x80000000
+#ifndef AFX_API
+#define AFX_API
+#endif
 #define DECLARE_SERIAL(class_name)                                                                                     \
     DECLARE_DYNCREATE(class_name)                                                                                      \
-    friend CArchive& AFXAPI operator>>(CArchive& ar, class_name*& pOb);
+    friend AFX_API CArchive& AFXAPI operator>>(CArchive& ar, class_name*& pOb);
 #define IMPLEMENT_SERIAL(class_name, base_class_name, schema)                                                          \
     AFX_IMPLEMENT_CREATION(class_name, base_class_name, static_cast<UINT>(schema))                                     \
     CArchive& AFXAPI operator>>(CArchive& ar, class_name*& pOb) {                                                      \

@@ -4,6 +4,10 @@
 
 #include "zopwnt_api.h"
 
+// What reads a bitmap through its pointer is exported like the bitmap.
+#undef AFX_API
+#define AFX_API ZOPWNT_API
+
 /// A bitmap in plain memory, made for 8 bits a pixel with 256 colours: loaded from bitmap files, resources and
 /// archives, drawn, copied in blocks and mapped to a palette. New bitmaps are 16 x 16 and grey.
 ///
@@ -95,3 +99,6 @@ private:
     ULONGLONG m_bits_size = 0;  // what the pixel buffer holds, whatever the header says
     ULONGLONG m_bits_given = 0; // what a file filled of it; the rest is zeros
 };
+
+#undef AFX_API
+#define AFX_API

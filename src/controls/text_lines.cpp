@@ -1,6 +1,7 @@
 #include "controls/text_lines.h"
 
 #include <algorithm>
+#include <cstddef>
 
 namespace wnt {
 

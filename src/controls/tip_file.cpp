@@ -1,6 +1,7 @@
 #include "controls/tip_file.h"
 
 #include <algorithm>
+#include <cstddef>
 
 namespace wnt {
 

@@ -8,6 +8,8 @@
 #include "widgets/painting/paint_pass.h"
 #include "widgets/painting/surface_owner.h"
 
+#include <utility>
+
 namespace {
 
 constexpr UINT strip_id = 0xE7AB; // out of the way of the pages'

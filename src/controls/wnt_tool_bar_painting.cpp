@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cstdlib>
 
 #include "controls/control_font.h"
 #include "controls/tool_bar_drag.h"

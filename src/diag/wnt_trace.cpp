@@ -2,6 +2,7 @@
 
 #include <cstdarg>
 #include <ctime>
+#include <utility>
 
 #include "diag/trace_state.h"
 #include "library_resources.h"

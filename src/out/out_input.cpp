@@ -3,6 +3,8 @@
 #include "library_resources.h"
 #include "out/key_code.h"
 
+#include <iterator>
+
 namespace {
 
 // Input that lands on the surface belongs to the widget behind it. Middle-button messages are not among them.

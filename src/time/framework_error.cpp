@@ -1,6 +1,6 @@
 #include "time/result_error.h"
 
-#include <afxwin.h>
+#include <afxdisp.h>
 
 namespace {
 

@@ -1,7 +1,9 @@
 #include "widgets/pulse/pulse_picture.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <cstring>
+#include <utility>
 
 namespace wnt {
 
