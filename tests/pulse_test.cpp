@@ -95,7 +95,7 @@ TEST_F(Pulse, ScrollsAsIfPaintedAnew) {
         feed(time, time + 730);
         EXPECT_EQ(extent(red).second, right) << time; // now stays at the right edge
         const Pixels scrolled = pixels_of(chart_);
-        chart_.SetColours(paper, 0, RGB(224, 224, 224)); // draws everything
+        chart_.SetColours(paper, 0, RGB(208, 208, 208)); // draws everything
         show();
         EXPECT_EQ(pixels_of(chart_), scrolled) << time;
     }

@@ -43,7 +43,7 @@ public:
     bool grid = true;
     bool legend = true;
     bool fit = false;
-    std::uint32_t background = 0xFFFFFF, text = 0, grid_colour = 0xE0E0E0;
+    std::uint32_t background = 0xFFFFFF, text = 0, grid_colour = 0xD0D0D0;
 
     const std::vector<ChartCurve>& curves() const { return curves_; }
     bool has(int curve) const { return 0 <= curve && curve < static_cast<int>(curves_.size()); }
