@@ -74,6 +74,6 @@ struct __POSITION;
 typedef __POSITION* POSITION;
 
 // What a variable argument list takes for a value; strings add their own.
-template <class Value> inline Value AfxVariadic(Value value) {
+template <class Value> inline Value afx_variadic(Value value) {
     return value;
 }

@@ -376,7 +376,7 @@ protected:
     WNDPROC m_pfnSuper = nullptr;
     bool m_modal = false;
     bool m_has_tips = false;
-    int m_modalResult = -1;
+    int m_nModalResult = -1;
 
 private:
     friend LRESULT AfxCallWndProc(CWnd* wnd, HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);

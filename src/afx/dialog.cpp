@@ -121,7 +121,7 @@ INT_PTR CDialog::DoModal() {
         return -1;
     modal_parent parent(m_pParentWnd);
     m_modal = true; // OnInitDialog may end the dialog before its loop has begun
-    m_modalResult = -1;
+    m_nModalResult = -1;
     if (!CreateFrom(form, module, parent.handle()))
         return -1;
     const DLGTEMPLATE& placed = *form;
@@ -130,7 +130,7 @@ INT_PTR CDialog::DoModal() {
     const DWORD idle = (GetStyle() & DS_NOIDLEMSG) != 0 ? MLF_SHOWONIDLE | MLF_NOIDLEMSG : MLF_SHOWONIDLE;
     if (m_modal)
         return parent.run(*this, idle);
-    const int result = m_modalResult;
+    const int result = m_nModalResult;
     parent.end(m_hWnd);
     return result;
 }

@@ -117,7 +117,7 @@ INT_PTR CPropertySheet::DoModal() {
     if (m_pages.empty() || !CreateSheet(parent.handle()))
         return -1;
     CenterWindow();
-    m_modalResult = -1;
+    m_nModalResult = -1;
     return parent.run(*this, MLF_SHOWONIDLE);
 }
 
