@@ -312,6 +312,46 @@ TEST(AfxHelp, IsAskedForTheNearestWindowThatKnowsATopic) {
     the_app.m_pMainWnd = nullptr;
 }
 
+TEST(AfxHelp, IsGivenAboutWhatIsClickedNext) {
+    bar_frame frame;
+    ASSERT_TRUE(frame.open());
+    frame.settle();
+    the_app.m_pMainWnd = &frame;
+    const auto click = [&](CWnd& wnd, CPoint place, UINT message, WPARAM key = 0) {
+        wnd.ClientToScreen(&place);
+        ::SetCursorPos(place.x, place.y);
+        frame.PostMessage(message, key);
+        frame.OnContextHelp();
+        EXPECT_TRUE(!frame.m_bHelpMode && ::GetCapture() == nullptr);
+    };
+    CRect button;
+    frame.tools.GetItemRect(0, button);
+    click(frame.tools, button.CenterPoint(), WM_LBUTTONDOWN);
+    click(frame, CPoint(10, 200), WM_LBUTTONDOWN);
+    click(frame.tools, button.CenterPoint(), WM_KEYDOWN, VK_ESCAPE);
+    const auto topic = [](DWORD_PTR number) { return number << 8 | HELP_CONTEXT; };
+    EXPECT_THAT(the_app.helped, ElementsAre(topic(0x10000 + ID_TEST_ON), topic(0x20000 + IDR_FRAME)));
+    the_app.helped.clear();
+    the_app.m_pMainWnd = nullptr;
+}
+
+TEST(AfxFrame, KeepsTheUserOutWhileItIsModal) {
+    bar_frame frame, other;
+    ASSERT_TRUE(frame.open() && other.open());
+    CDialog shown, disabled;
+    ASSERT_TRUE(shown.Create(IDD_TEST, &frame) && disabled.Create(IDD_TEST, &frame));
+    disabled.EnableWindow(FALSE);
+    frame.BeginModalState();
+    frame.BeginModalState();
+    frame.EndModalState();
+    EXPECT_TRUE(frame.InModalState() && other.IsWindowEnabled());
+    EXPECT_FALSE(frame.IsWindowEnabled() || shown.IsWindowEnabled());
+    frame.EndModalState();
+    frame.EndModalState();
+    EXPECT_TRUE(!frame.InModalState() && frame.IsWindowEnabled() && shown.IsWindowEnabled());
+    EXPECT_FALSE(disabled.IsWindowEnabled()) << "as it was";
+}
+
 // Objects whose memory goes with them, so that whoever touches one then is seen.
 template <class Base> class fenced : public Base {
 public:

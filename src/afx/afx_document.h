@@ -67,6 +67,9 @@ protected:
     afx_msg void OnFileClose();
     afx_msg void OnFileSave();
     afx_msg void OnFileSaveAs();
+    // For the maps of programs: a message of the platform's mail program with the document's file.
+    afx_msg void OnFileSendMail();
+    afx_msg void OnUpdateFileSendMail(CCmdUI* pCmdUI);
 
     CString m_strTitle;
     CString m_strPathName;

@@ -1,6 +1,7 @@
 // Dates and times: a picker and a calendar.
 #pragma once
 
+#include "atlcomtime.h"
 #include "afxwin.h"
 
 class CMonthCalCtrl;
@@ -25,6 +26,8 @@ public:
     BOOL SetTime(const CTime* pTimeNew);
     BOOL SetTime(LPSYSTEMTIME pTimeNew = nullptr);
     DWORD GetTime(CTime& timeDest) const;
+    BOOL SetTime(const COleDateTime& timeNew);
+    BOOL GetTime(COleDateTime& timeDest) const;
     DWORD GetTime(LPSYSTEMTIME pTimeDest) const {
         return static_cast<DWORD>(SendMessage(DTM_GETSYSTEMTIME, 0, afx_param(pTimeDest)));
     }
