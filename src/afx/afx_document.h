@@ -80,8 +80,8 @@ protected:
 private:
     friend class CDocTemplate;
     friend class CFrameWnd;
-    BOOL Read(LPCTSTR path);
-    BOOL Write(LPCTSTR path);
+    BOOL Transfer(LPCTSTR path, bool loading);
+    BOOL TryTransfer(LPCTSTR path, bool loading);
     BOOL AskForName(CString& path, BOOL replace);
 
     bool m_closing = false; // its frames go because it goes

@@ -76,24 +76,6 @@ DWORD CDateTimeCtrl::GetRange(CTime* pMinTime, CTime* pMaxTime) const {
     return range.flags;
 }
 
-// A null date is none at all; FALSE for one that is invalid.
-BOOL CDateTimeCtrl::SetTime(const COleDateTime& timeNew) {
-    SYSTEMTIME fields{};
-    if (timeNew.GetStatus() == COleDateTime::null)
-        return SetTime(LPSYSTEMTIME{nullptr});
-    return timeNew.GetAsSystemTime(fields) && SetTime(&fields);
-}
-
-BOOL CDateTimeCtrl::GetTime(COleDateTime& timeDest) const {
-    SYSTEMTIME fields{};
-    const DWORD found = GetTime(&fields);
-    if (found == GDT_VALID)
-        timeDest = fields;
-    else
-        timeDest.SetStatus(found == GDT_NONE ? COleDateTime::null : COleDateTime::invalid);
-    return timeDest.GetStatus() != COleDateTime::invalid;
-}
-
 BOOL CDateTimeCtrl::SetTime(const CTime* pTimeNew) {
     SYSTEMTIME fields{};
     const bool given = pTimeNew != nullptr && pTimeNew->GetAsSystemTime(fields);
