@@ -9,6 +9,8 @@
 
 namespace {
 
+static_assert(max(2, 3.5) == 3.5 && min(4L, 3) == 3); // which the standard library's headers must not take away
+
 TEST(AfxString, StaysWithinItsBounds) {
     CString text("framework");
     const std::pair<CString, LPCTSTR> parts[] = {

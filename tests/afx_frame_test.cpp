@@ -312,4 +312,105 @@ TEST(AfxHelp, IsAskedForTheNearestWindowThatKnowsATopic) {
     the_app.m_pMainWnd = nullptr;
 }
 
+TEST(AfxHelp, IsGivenAboutWhatIsClickedNext) {
+    bar_frame frame;
+    ASSERT_TRUE(frame.open());
+    frame.settle();
+    the_app.m_pMainWnd = &frame;
+    const auto click = [&](CWnd& wnd, CPoint place, UINT message, WPARAM key = 0) {
+        wnd.ClientToScreen(&place);
+        ::SetCursorPos(place.x, place.y);
+        frame.PostMessage(message, key);
+        frame.OnContextHelp();
+        EXPECT_TRUE(!frame.m_bHelpMode && ::GetCapture() == nullptr);
+    };
+    CRect button;
+    frame.tools.GetItemRect(0, button);
+    click(frame.tools, button.CenterPoint(), WM_LBUTTONDOWN);
+    click(frame, CPoint(10, 200), WM_LBUTTONDOWN);
+    click(frame.tools, button.CenterPoint(), WM_KEYDOWN, VK_ESCAPE);
+    const auto topic = [](DWORD_PTR number) { return number << 8 | HELP_CONTEXT; };
+    EXPECT_THAT(the_app.helped, ElementsAre(topic(0x10000 + ID_TEST_ON), topic(0x20000 + IDR_FRAME)));
+    the_app.helped.clear();
+    the_app.m_pMainWnd = nullptr;
+}
+
+TEST(AfxFrame, KeepsTheUserOutWhileItIsModal) {
+    bar_frame frame, other;
+    ASSERT_TRUE(frame.open() && other.open());
+    CDialog shown, disabled;
+    ASSERT_TRUE(shown.Create(IDD_TEST, &frame) && disabled.Create(IDD_TEST, &frame));
+    disabled.EnableWindow(FALSE);
+    frame.BeginModalState();
+    frame.BeginModalState();
+    frame.EndModalState();
+    EXPECT_TRUE(frame.InModalState() && other.IsWindowEnabled());
+    EXPECT_FALSE(frame.IsWindowEnabled() || shown.IsWindowEnabled());
+    frame.EndModalState();
+    frame.EndModalState();
+    EXPECT_TRUE(!frame.InModalState() && frame.IsWindowEnabled() && shown.IsWindowEnabled());
+    EXPECT_FALSE(disabled.IsWindowEnabled()) << "as it was";
+}
+
+// Objects whose memory goes with them, so that whoever touches one then is seen.
+template <class Base> class fenced : public Base {
+public:
+    static void* operator new(std::size_t size) { return ::VirtualAlloc(nullptr, size, MEM_COMMIT, PAGE_READWRITE); }
+    static void operator delete(void* at) { ::VirtualFree(at, 0, MEM_RELEASE); }
+};
+
+// Ends one of its windows, or itself, while commands are updated.
+class ending_frame : public fenced<CFrameWnd> {
+public:
+    template <class Bar> Bar* add() {
+        auto* bar = new fenced<Bar>;
+        bar->m_bAutoDelete = TRUE;
+        return bar;
+    }
+    CToolBar* tools = add<CToolBar>();
+    CStatusBar* status = add<CStatusBar>();
+    CDialogBar* dialog = add<CDialogBar>();
+    CWnd* ends = nullptr;
+
+    bool open() {
+        const UINT pane = ID_TEST_PANE;
+        return LoadFrame(IDR_FRAME) && tools->Create(this) && tools->LoadToolBar(IDR_FRAME) && status->Create(this) &&
+               status->SetIndicators(&pane, 1) && dialog->Create(this, IDD_FORM, CBRS_TOP, 0xE850);
+    }
+
+protected:
+    void OnUpdate(CCmdUI*) {
+        if (ends != nullptr)
+            std::exchange(ends, nullptr)->DestroyWindow();
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(ending_frame, CFrameWnd)
+ON_UPDATE_COMMAND_UI_RANGE(ID_TEST_ON, ID_TEST_PANE, &ending_frame::OnUpdate)
+END_MESSAGE_MAP()
+
+TEST(AfxFrame, UpdateHandlersMayEndWhatIsUpdated) {
+    using Part = CWnd* (*)(ending_frame&);
+    const Part whole = [](ending_frame& frame) -> CWnd* { return &frame; };
+    const Part parts[] = {[](ending_frame& frame) -> CWnd* { return frame.tools; },
+                          [](ending_frame& frame) -> CWnd* { return frame.status; },
+                          [](ending_frame& frame) -> CWnd* { return frame.dialog; }, whole};
+    for (Part updated : parts) {
+        for (Part ends : {updated, whole}) {
+            auto* frame = new ending_frame;
+            ASSERT_TRUE(frame->open());
+            frame->ShowWindow(SW_SHOWNOACTIVATE);
+            frame->ends = ends(*frame);
+            const HWND wnd = frame->m_hWnd, end = frame->ends->m_hWnd;
+            if (updated == whole)
+                ::SendMessage(wnd, WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(::GetSubMenu(::GetMenu(wnd), 1)), 1);
+            else
+                updated(*frame)->SendMessage(WM_IDLEUPDATECMDUI, TRUE);
+            EXPECT_FALSE(::IsWindow(end)) << "its handler was asked";
+            ::DestroyWindow(wnd);
+        }
+    }
+}
+
 } // namespace

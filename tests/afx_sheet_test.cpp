@@ -167,10 +167,13 @@ END_MESSAGE_MAP()
 
 TEST(AfxModelessSheet, HoldsPagesWithoutButtons) {
     sibling_page first(0), second(9, IDS_CAPTION), third(5);
-    CPropertySheet sheet("Modeless");
+    CPropertySheet sheet(IDS_CAPTION);
     sheet.AddPage(&first);
     sheet.AddPage(&second);
     ASSERT_TRUE(sheet.Create(nullptr, WS_POPUP | WS_CAPTION | WS_SYSMENU));
+    CString title;
+    sheet.GetWindowText(title);
+    EXPECT_STREQ(title, "Caption of its own");
     EXPECT_FALSE(sheet.GetDlgItem(IDOK)->IsWindowVisible() || sheet.GetDlgItem(IDCANCEL)->IsWindowVisible());
     EXPECT_TRUE(sheet.SetActivePage(1));
     EXPECT_EQ(sheet.GetActivePage(), &second);

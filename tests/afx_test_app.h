@@ -18,6 +18,7 @@ public:
         boxes.push_back(text);
         return answer;
     }
+    BOOL ProcessMessageFilter(int code, LPMSG) override { return code == filtered; }
     void WinHelp(DWORD_PTR topic, UINT command) override { helped.push_back(topic << 8 | command); }
     // The registry's key, or null for a file.
     void use_settings(const char* key) {
@@ -33,7 +34,7 @@ public:
 
     std::vector<std::string> boxes;
     std::vector<DWORD_PTR> helped;
-    int answer = IDOK;
+    int answer = IDOK, filtered = -1;
     bool box_fails = false;
 };
 

@@ -116,6 +116,16 @@ BEGIN_MESSAGE_MAP(receiver, CWnd)
 ON_MESSAGE(window_message, &receiver::OnSample)
 END_MESSAGE_MAP()
 
+TEST(AfxThread, FiltersTheMessagesOfTheSystemsLoops) {
+    AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), 0);
+    MSG message{nullptr, WM_KEYDOWN, VK_F1, 0, 0, {0, 0}};
+    the_app.filtered = MSGF_MENU;
+    EXPECT_TRUE(::CallMsgFilter(&message, MSGF_MENU));
+    EXPECT_FALSE(::CallMsgFilter(&message, MSGF_DIALOGBOX));
+    the_app.filtered = -1;
+    EXPECT_FALSE(::CallMsgFilter(&message, MSGF_MENU));
+}
+
 TEST(AfxThread, WorkersPostToWindowsOfOthers) {
     receiver wnd;
     ASSERT_TRUE(create_popup(wnd));

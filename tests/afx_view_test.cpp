@@ -136,6 +136,7 @@ TEST(AfxFormView, KeepsItsFocusAndLeavesKeysToTheFrameFirst) {
         return plain_view(at, context) && at.LoadAccelTable(MAKEINTRESOURCE(IDR_FRAME));
     }));
     auto& view = *static_cast<form*>(frame.GetDescendantWindow(AFX_IDW_PANE_FIRST));
+    EXPECT_FALSE(::IsChild(view, ::GetFocus())) << "its data is not there yet";
     frame.InitialUpdateFrame(nullptr, FALSE);
     CWnd *name = view.GetDlgItem(IDC_FORM_NAME), *button = view.GetDlgItem(IDC_FORM_BUTTON);
     view.SetFocus();

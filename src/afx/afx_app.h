@@ -115,6 +115,7 @@ public:
     afx_msg void OnHelpIndex();
     afx_msg void OnHelpFinder();
     afx_msg void OnHelpUsing();
+    afx_msg void OnContextHelp();
 
 protected:
     void SetRegistryKey(LPCTSTR lpszRegistryKey);

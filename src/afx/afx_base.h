@@ -29,8 +29,9 @@
 #undef GetNextWindow
 #undef GetCurrentTime
 
-// The platform's headers have these for C only, as macros, which would break the standard's.
-#if !defined(NOMINMAX) && !defined(min) && !defined(max)
+// The platform's headers have these for C only, as macros, which would break the standard's. NOMINMAX tells nothing of
+// the program: the standard library's headers define it.
+#if !defined(min) && !defined(max)
 template <class A, class B> constexpr std::common_type_t<A, B> min(A a, B b) {
     return b < a ? b : a;
 }
@@ -74,6 +75,6 @@ struct __POSITION;
 typedef __POSITION* POSITION;
 
 // What a variable argument list takes for a value; strings add their own.
-template <class Value> inline Value AfxVariadic(Value value) {
+template <class Value> inline Value afx_variadic(Value value) {
     return value;
 }

@@ -109,28 +109,28 @@ public:
     // Logical units.
     virtual int SetMapMode(int nMapMode) { return Both<int>(::SetMapMode, nMapMode); }
     int GetMapMode() const { return ::GetMapMode(m_hAttribDC); }
-    virtual CPoint SetViewportOrg(int x, int y) { return Both<CPoint>(&moved<&::SetViewportOrgEx>, x, y); }
+    virtual CPoint SetViewportOrg(int x, int y) { return Both<CPoint>(&Moved<&::SetViewportOrgEx>, x, y); }
     CPoint SetViewportOrg(POINT point) { return SetViewportOrg(point.x, point.y); }
     virtual CPoint OffsetViewportOrg(int nWidth, int nHeight) {
-        return Both<CPoint>(&moved<&::OffsetViewportOrgEx>, nWidth, nHeight);
+        return Both<CPoint>(&Moved<&::OffsetViewportOrgEx>, nWidth, nHeight);
     }
     CPoint GetViewportOrg() const;
-    virtual CSize SetViewportExt(int cx, int cy) { return Both<CSize>(&sized<&::SetViewportExtEx>, cx, cy); }
+    virtual CSize SetViewportExt(int cx, int cy) { return Both<CSize>(&Sized<&::SetViewportExtEx>, cx, cy); }
     CSize SetViewportExt(SIZE size) { return SetViewportExt(size.cx, size.cy); }
     virtual CSize ScaleViewportExt(int xNum, int xDenom, int yNum, int yDenom) {
-        return Both<CSize>(&scaled<&::ScaleViewportExtEx>, xNum, xDenom, yNum, yDenom);
+        return Both<CSize>(&Scaled<&::ScaleViewportExtEx>, xNum, xDenom, yNum, yDenom);
     }
     CSize GetViewportExt() const;
-    CPoint SetWindowOrg(int x, int y) { return Both<CPoint>(&moved<&::SetWindowOrgEx>, x, y); }
+    CPoint SetWindowOrg(int x, int y) { return Both<CPoint>(&Moved<&::SetWindowOrgEx>, x, y); }
     CPoint SetWindowOrg(POINT point) { return SetWindowOrg(point.x, point.y); }
     CPoint OffsetWindowOrg(int nWidth, int nHeight) {
-        return Both<CPoint>(&moved<&::OffsetWindowOrgEx>, nWidth, nHeight);
+        return Both<CPoint>(&Moved<&::OffsetWindowOrgEx>, nWidth, nHeight);
     }
     CPoint GetWindowOrg() const;
-    virtual CSize SetWindowExt(int cx, int cy) { return Both<CSize>(&sized<&::SetWindowExtEx>, cx, cy); }
+    virtual CSize SetWindowExt(int cx, int cy) { return Both<CSize>(&Sized<&::SetWindowExtEx>, cx, cy); }
     CSize SetWindowExt(SIZE size) { return SetWindowExt(size.cx, size.cy); }
     virtual CSize ScaleWindowExt(int xNum, int xDenom, int yNum, int yDenom) {
-        return Both<CSize>(&scaled<&::ScaleWindowExtEx>, xNum, xDenom, yNum, yDenom);
+        return Both<CSize>(&Scaled<&::ScaleWindowExtEx>, xNum, xDenom, yNum, yDenom);
     }
     CSize GetWindowExt() const;
     void DPtoLP(LPPOINT lpPoints, int nCount = 1) const { ::DPtoLP(m_hAttribDC, lpPoints, nCount); }
@@ -146,18 +146,18 @@ public:
     void HIMETRICtoLP(LPSIZE lpSize) const;
 
     // Regions and clipping.
-    BOOL FillRgn(CRgn* pRgn, CBrush* pBrush) { return ::FillRgn(m_hDC, region(pRgn), brush(pBrush)); }
+    BOOL FillRgn(CRgn* pRgn, CBrush* pBrush) { return ::FillRgn(m_hDC, RegionOf(pRgn), BrushOf(pBrush)); }
     BOOL FrameRgn(CRgn* pRgn, CBrush* pBrush, int nWidth, int nHeight) {
-        return ::FrameRgn(m_hDC, region(pRgn), brush(pBrush), nWidth, nHeight);
+        return ::FrameRgn(m_hDC, RegionOf(pRgn), BrushOf(pBrush), nWidth, nHeight);
     }
-    BOOL InvertRgn(CRgn* pRgn) { return ::InvertRgn(m_hDC, region(pRgn)); }
-    BOOL PaintRgn(CRgn* pRgn) { return ::PaintRgn(m_hDC, region(pRgn)); }
+    BOOL InvertRgn(CRgn* pRgn) { return ::InvertRgn(m_hDC, RegionOf(pRgn)); }
+    BOOL PaintRgn(CRgn* pRgn) { return ::PaintRgn(m_hDC, RegionOf(pRgn)); }
     virtual int GetClipBox(LPRECT lpRect) const { return ::GetClipBox(m_hAttribDC, lpRect); }
     virtual BOOL PtVisible(int x, int y) const { return ::PtVisible(m_hAttribDC, x, y); }
     BOOL PtVisible(POINT point) const { return PtVisible(point.x, point.y); }
     virtual BOOL RectVisible(LPCRECT lpRect) const { return ::RectVisible(m_hAttribDC, lpRect); }
-    int SelectClipRgn(CRgn* pRgn) { return Both<int>(::SelectClipRgn, region(pRgn)); }
-    int SelectClipRgn(CRgn* pRgn, int nMode) { return Both<int>(::ExtSelectClipRgn, region(pRgn), nMode); }
+    int SelectClipRgn(CRgn* pRgn) { return Both<int>(::SelectClipRgn, RegionOf(pRgn)); }
+    int SelectClipRgn(CRgn* pRgn, int nMode) { return Both<int>(::ExtSelectClipRgn, RegionOf(pRgn), nMode); }
     int ExcludeClipRect(int x1, int y1, int x2, int y2) { return Both<int>(::ExcludeClipRect, x1, y1, x2, y2); }
     int ExcludeClipRect(LPCRECT r) { return ExcludeClipRect(r->left, r->top, r->right, r->bottom); }
     int ExcludeUpdateRgn(CWnd* pWnd);
@@ -170,7 +170,7 @@ public:
 
     // Lines.
     CPoint GetCurrentPosition() const;
-    CPoint MoveTo(int x, int y) { return Both<CPoint>(&moved<&::MoveToEx>, x, y); }
+    CPoint MoveTo(int x, int y) { return Both<CPoint>(&Moved<&::MoveToEx>, x, y); }
     CPoint MoveTo(POINT point) { return MoveTo(point.x, point.y); }
     BOOL LineTo(int x, int y);
     BOOL LineTo(POINT point) { return LineTo(point.x, point.y); }
@@ -203,8 +203,8 @@ public:
     BOOL PolyBezierTo(const POINT* lpPoints, int nCount);
 
     // Shapes.
-    void FillRect(LPCRECT lpRect, CBrush* pBrush) { ::FillRect(m_hDC, lpRect, brush(pBrush)); }
-    void FrameRect(LPCRECT lpRect, CBrush* pBrush) { ::FrameRect(m_hDC, lpRect, brush(pBrush)); }
+    void FillRect(LPCRECT lpRect, CBrush* pBrush) { ::FillRect(m_hDC, lpRect, BrushOf(pBrush)); }
+    void FrameRect(LPCRECT lpRect, CBrush* pBrush) { ::FrameRect(m_hDC, lpRect, BrushOf(pBrush)); }
     void InvertRect(LPCRECT lpRect) { ::InvertRect(m_hDC, lpRect); }
     void FillSolidRect(LPCRECT lpRect, COLORREF clr);
     void FillSolidRect(int x, int y, int cx, int cy, COLORREF clr);
@@ -229,13 +229,13 @@ public:
     }
     BOOL DrawState(CPoint pt, CSize size, LPCTSTR lpszText, UINT nFlags, BOOL bPrefixText, int nTextLen,
                    CBrush* pBrush) {
-        return DrawState(pt, size, lpszText, nFlags, bPrefixText, nTextLen, brush(pBrush));
+        return DrawState(pt, size, lpszText, nFlags, bPrefixText, nTextLen, BrushOf(pBrush));
     }
     BOOL DrawState(CPoint pt, CSize size, CBitmap* pBitmap, UINT nFlags, CBrush* pBrush = nullptr) {
-        return DrawState(pt, size, static_cast<HBITMAP>(pBitmap->GetSafeHandle()), nFlags, brush(pBrush));
+        return DrawState(pt, size, static_cast<HBITMAP>(pBitmap->GetSafeHandle()), nFlags, BrushOf(pBrush));
     }
     BOOL DrawState(CPoint pt, CSize size, HICON hIcon, UINT nFlags, CBrush* pBrush) {
-        return DrawState(pt, size, hIcon, nFlags, brush(pBrush));
+        return DrawState(pt, size, hIcon, nFlags, BrushOf(pBrush));
     }
     BOOL DrawEdge(LPRECT lpRect, UINT nEdge, UINT nFlags) { return ::DrawEdge(m_hDC, lpRect, nEdge, nFlags); }
     BOOL DrawFrameControl(LPRECT lpRect, UINT nType, UINT nState) {
@@ -345,7 +345,7 @@ public:
     }
     virtual BOOL GrayString(CBrush* pBrush, BOOL(CALLBACK* lpfnOutput)(HDC, LPARAM, int), LPARAM lpData, int nCount,
                             int x, int y, int nWidth, int nHeight) {
-        return ::GrayString(m_hDC, brush(pBrush), lpfnOutput, lpData, nCount, x, y, nWidth, nHeight);
+        return ::GrayString(m_hDC, BrushOf(pBrush), lpfnOutput, lpData, nCount, x, y, nWidth, nHeight);
     }
     UINT SetTextAlign(UINT nFlags) { return Both<UINT>(::SetTextAlign, nFlags); }
     UINT GetTextAlign() const { return ::GetTextAlign(m_hAttribDC); }
@@ -379,7 +379,7 @@ public:
         return ::GetGlyphOutline(m_hAttribDC, nChar, nFormat, lpgm, cbBuffer, lpData, lpmat2);
     }
     BOOL ScrollDC(int dx, int dy, LPCRECT lpRectScroll, LPCRECT lpRectClip, CRgn* pRgnUpdate, LPRECT lpRectUpdate) {
-        return ::ScrollDC(m_hDC, dx, dy, lpRectScroll, lpRectClip, region(pRgnUpdate), lpRectUpdate);
+        return ::ScrollDC(m_hDC, dx, dy, lpRectScroll, lpRectClip, RegionOf(pRgnUpdate), lpRectUpdate);
     }
 
     // Paths.
@@ -432,8 +432,8 @@ protected:
 private:
     BOOL AttachNew(HDC hDC);
     HGDIOBJ Current(UINT kind) const { return ::GetCurrentObject(m_hAttribDC, kind); }
-    static HBRUSH brush(const CBrush* pBrush) { return static_cast<HBRUSH>(pBrush->GetSafeHandle()); }
-    static HRGN region(const CRgn* pRgn) { return static_cast<HRGN>(pRgn->GetSafeHandle()); }
+    static HBRUSH BrushOf(const CBrush* pBrush) { return static_cast<HBRUSH>(pBrush->GetSafeHandle()); }
+    static HRGN RegionOf(const CRgn* pRgn) { return static_cast<HRGN>(pRgn->GetSafeHandle()); }
 
     // What changes an attribute changes both contexts; the answer is the attribute context's.
     template <class Result, class Function, class... Arguments> Result Both(Function function, Arguments... arguments) {
@@ -442,17 +442,17 @@ private:
             result = function(m_hAttribDC, arguments...);
         return result;
     }
-    template <auto function> static CPoint moved(HDC dc, int x, int y) {
+    template <auto function> static CPoint Moved(HDC dc, int x, int y) {
         CPoint before;
         function(dc, x, y, &before);
         return before;
     }
-    template <auto function> static CSize sized(HDC dc, int x, int y) {
+    template <auto function> static CSize Sized(HDC dc, int x, int y) {
         CSize before;
         function(dc, x, y, &before);
         return before;
     }
-    template <auto function> static CSize scaled(HDC dc, int xn, int xd, int yn, int yd) {
+    template <auto function> static CSize Scaled(HDC dc, int xn, int xd, int yn, int yd) {
         CSize before;
         function(dc, xn, xd, yn, yd, &before);
         return before;

@@ -9,9 +9,9 @@
 
 // Shows where a check failed. TRUE where the program is to stop in the debugger; "Abort" ends the program.
 ZOPAFX_API BOOL AFXAPI AfxAssertFailedLine(LPCSTR lpszFileName, int nLine);
-ZOPAFX_API void AFX_CDECL AfxTraceText(LPCTSTR lpszFormat, ...) AFX_PRINTF(1, 2);
+ZOPAFX_API void AFX_CDECL afx_trace_text(LPCTSTR lpszFormat, ...) AFX_PRINTF(1, 2);
 template <class... Arguments> inline void AfxTrace(LPCTSTR lpszFormat, Arguments... arguments) {
-    AfxTraceText(lpszFormat, AfxVariadic(arguments)...);
+    afx_trace_text(lpszFormat, afx_variadic(arguments)...);
 }
 // Stops where the object is null, its memory is not there, or AssertValid objects to it.
 ZOPAFX_API void AFXAPI AfxAssertValidObject(const CObject* pOb, LPCSTR lpszFileName, int nLine);

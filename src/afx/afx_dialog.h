@@ -56,6 +56,7 @@ protected:
     virtual void PreInitDialog();
 
     afx_msg LRESULT OnCommandHelp(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnHelpHitTest(WPARAM wParam, LPARAM lParam);
 
     UINT m_nIDHelp = 0; // the template's number, or another for the help
     LPCTSTR m_lpszTemplateName = nullptr;

@@ -14,7 +14,9 @@ public:
 
     // The template has the style of a child without a border.
     virtual BOOL Create(CWnd* pParentWnd, LPCTSTR lpszTemplateName, UINT nStyle, UINT nID);
-    virtual BOOL Create(CWnd* pParentWnd, UINT nIDTemplate, UINT nStyle, UINT nID);
+    virtual BOOL Create(CWnd* pParentWnd, UINT nIDTemplate, UINT nStyle, UINT nID) {
+        return Create(pParentWnd, MAKEINTRESOURCE(nIDTemplate), nStyle, nID);
+    }
     using CControlBar::Create;
 
     CSize m_sizeDefault;

@@ -14,7 +14,7 @@ public:
     BOOL m_bHorz = TRUE;
     UINT m_nDockBarID = 0; // 0: neither docked nor floating
     int m_nRow = 0;
-    int m_nAt = 0;
+    int m_at = 0;
     CPoint m_pointPos = CPoint(0, 0); // of a floating bar, on the screen
     int m_nMRUWidth = 32767;
 };

@@ -67,6 +67,9 @@ protected:
     afx_msg void OnFileClose();
     afx_msg void OnFileSave();
     afx_msg void OnFileSaveAs();
+    // For the maps of programs: a message of the platform's mail program with the document's file.
+    afx_msg void OnFileSendMail();
+    afx_msg void OnUpdateFileSendMail(CCmdUI* pCmdUI);
 
     CString m_strTitle;
     CString m_strPathName;
@@ -77,8 +80,8 @@ protected:
 private:
     friend class CDocTemplate;
     friend class CFrameWnd;
-    BOOL Read(LPCTSTR path);
-    BOOL Write(LPCTSTR path);
+    BOOL Transfer(LPCTSTR path, bool loading);
+    BOOL TryTransfer(LPCTSTR path, bool loading);
     BOOL AskForName(CString& path, BOOL replace);
 
     bool m_closing = false; // its frames go because it goes

@@ -69,7 +69,7 @@ protected:
     afx_msg void OnUpdateEditUndo(CCmdUI* pCmdUI);
 
 private:
-    bool PaginateTo(CDC& dc, UINT page);
+    bool TurnTo(CDC& dc, UINT page);
 
     int m_nTabStops = 32; // a quarter of a character's breadth
     HFONT m_hPrinterFont = nullptr;

@@ -179,8 +179,9 @@ protected:
     virtual void Free(BYTE* lpMem) { std::free(lpMem); }
     virtual void GrowFile(SIZE_T dwNewLen);
 
+    UINT m_grow = 0; // 0: it may not
+
 private:
-    UINT m_grow = 0;
     SIZE_T m_position = 0, m_size = 0, m_room = 0;
     BYTE* m_memory = nullptr;
     bool m_own = true;

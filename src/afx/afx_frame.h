@@ -95,6 +95,16 @@ public:
     BOOL PreTranslateMessage(MSG* pMsg) override;
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
 
+    // Disables the windows of the frame, itself too, until as many calls end it.
+    void BeginModalState() override;
+    void EndModalState() override;
+    BOOL InModalState() const { return m_cModalStack != 0; }
+
+    // Help about what is clicked next, while it lasts.
+    BOOL m_bHelpMode = FALSE;
+    afx_msg void OnContextHelp();
+    virtual void ExitHelpMode();
+
     int m_nWindow = -1; // which of the windows of its document it is; -1 the only one
 
     afx_msg BOOL OnBarCheck(UINT nID);
@@ -124,6 +134,7 @@ protected:
     afx_msg LRESULT OnSetMessageString(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnPopMessageString(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnCommandHelp(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnHelpHitTest(WPARAM wParam, LPARAM lParam);
     afx_msg void OnIdleUpdateCmdUI();
     afx_msg void OnRecalcParent();
     afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
@@ -163,6 +174,8 @@ private:
     CView* m_pViewActive = nullptr;
     std::vector<CControlBar*> m_bars;
     CDockBar* m_dock_bars[4] = {};
+    UINT m_cModalStack = 0;
+    std::vector<HWND> m_disabled; // by BeginModalState
     bool m_in_layout = false;
     bool m_layout_wanted = false;
 };

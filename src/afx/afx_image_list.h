@@ -34,12 +34,16 @@ public:
     int GetImageCount() const { return ImageList_GetImageCount(m_hImageList); }
     BOOL SetImageCount(UINT uNewCount) { return ImageList_SetImageCount(m_hImageList, uNewCount); }
     // The index of the first new image, or -1.
-    int Add(CBitmap* pbmImage, CBitmap* pbmMask) { return ImageList_Add(m_hImageList, bits(pbmImage), bits(pbmMask)); }
-    int Add(CBitmap* pbmImage, COLORREF crMask) { return ImageList_AddMasked(m_hImageList, bits(pbmImage), crMask); }
+    int Add(CBitmap* pbmImage, CBitmap* pbmMask) {
+        return ImageList_Add(m_hImageList, BitmapOf(pbmImage), BitmapOf(pbmMask));
+    }
+    int Add(CBitmap* pbmImage, COLORREF crMask) {
+        return ImageList_AddMasked(m_hImageList, BitmapOf(pbmImage), crMask);
+    }
     int Add(HICON hIcon) { return ImageList_AddIcon(m_hImageList, hIcon); }
     BOOL Remove(int nImage) { return ImageList_Remove(m_hImageList, nImage); }
     BOOL Replace(int nImage, CBitmap* pbmImage, CBitmap* pbmMask) {
-        return ImageList_Replace(m_hImageList, nImage, bits(pbmImage), bits(pbmMask));
+        return ImageList_Replace(m_hImageList, nImage, BitmapOf(pbmImage), BitmapOf(pbmMask));
     }
     int Replace(int nImage, HICON hIcon) { return ImageList_ReplaceIcon(m_hImageList, nImage, hIcon); }
     BOOL Copy(int iDst, int iSrc, UINT uFlags = ILCF_MOVE) { return Copy(iDst, this, iSrc, uFlags); }
@@ -88,6 +92,6 @@ public:
     }
 
 private:
-    static HBITMAP bits(const CBitmap* pBitmap) { return static_cast<HBITMAP>(pBitmap->GetSafeHandle()); }
+    static HBITMAP BitmapOf(const CBitmap* pBitmap) { return static_cast<HBITMAP>(pBitmap->GetSafeHandle()); }
     BOOL AttachNew(HIMAGELIST hImageList);
 };

@@ -6,11 +6,11 @@
 #endif
 
 // Older programs take the timer's number as UINT: it is small where it is theirs.
-template <class Target> inline AFX_PMSG AfxTimerMethod(void (Target::*method)(UINT_PTR)) {
-    return AfxErasedMethod(static_cast<void (CWnd::*)(UINT_PTR)>(method));
+template <class Target> inline AFX_PMSG afx_timer_method(void (Target::*method)(UINT_PTR)) {
+    return afx_erased_method(static_cast<void (CWnd::*)(UINT_PTR)>(method));
 }
-template <class Target> inline AFX_PMSG AfxTimerMethod(void (Target::*method)(UINT)) {
-    return AfxErasedMethod(static_cast<void (CWnd::*)(UINT)>(method));
+template <class Target> inline AFX_PMSG afx_timer_method(void (Target::*method)(UINT)) {
+    return afx_erased_method(static_cast<void (CWnd::*)(UINT)>(method));
 }
 
 #define ON_WM_CLOSE() AFX_WM_ENTRY(WM_CLOSE, AfxSig_vv, void, (), OnClose)
@@ -61,7 +61,7 @@ template <class Target> inline AFX_PMSG AfxTimerMethod(void (Target::*method)(UI
 #define ON_WM_MOVE() AFX_WM_ENTRY(WM_MOVE, AfxSig_v_i_i, void, (int, int), OnMove)
 #define ON_WM_SIZE() AFX_WM_ENTRY(WM_SIZE, AfxSig_v_size, void, (UINT, int, int), OnSize)
 #define ON_WM_DISPLAYCHANGE() AFX_WM_ENTRY(WM_DISPLAYCHANGE, AfxSig_v_size, void, (UINT, int, int), OnDisplayChange)
-#define ON_WM_TIMER() {WM_TIMER, 0, 0, 0, AfxSig_v_timer, AfxTimerMethod(&ThisClass::OnTimer)},
+#define ON_WM_TIMER() {WM_TIMER, 0, 0, 0, AfxSig_v_timer, afx_timer_method(&ThisClass::OnTimer)},
 #define ON_WM_CHAR() AFX_WM_ENTRY(WM_CHAR, AfxSig_v_key, void, (UINT, UINT, UINT), OnChar)
 #define ON_WM_DEADCHAR() AFX_WM_ENTRY(WM_DEADCHAR, AfxSig_v_key, void, (UINT, UINT, UINT), OnDeadChar)
 #define ON_WM_KEYDOWN() AFX_WM_ENTRY(WM_KEYDOWN, AfxSig_v_key, void, (UINT, UINT, UINT), OnKeyDown)

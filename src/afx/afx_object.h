@@ -124,7 +124,7 @@ public:                                                                         
 #define IMPLEMENT_SERIAL(class_name, base_class_name, schema)                                                          \
     AFX_IMPLEMENT_CREATION(class_name, base_class_name, static_cast<UINT>(schema))                                     \
     CArchive& AFXAPI operator>>(CArchive& ar, class_name*& pOb) {                                                      \
-        pOb = static_cast<class_name*>(AfxReadObject(ar, RUNTIME_CLASS(class_name)));                                  \
+        pOb = static_cast<class_name*>(afx_read_object(ar, RUNTIME_CLASS(class_name)));                                \
         return ar;                                                                                                     \
     }
-ZOPAFX_API CObject* AFX_CDECL AfxReadObject(CArchive& ar, CRuntimeClass* pClass);
+ZOPAFX_API CObject* AFX_CDECL afx_read_object(CArchive& ar, CRuntimeClass* pClass);

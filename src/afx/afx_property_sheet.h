@@ -27,6 +27,15 @@ public:
     CPropertyPage();
     explicit CPropertyPage(UINT nIDTemplate, UINT nIDCaption = 0, DWORD dwSize = sizeof(PROPSHEETPAGE));
     explicit CPropertyPage(LPCTSTR lpszTemplateName, UINT nIDCaption = 0, DWORD dwSize = sizeof(PROPSHEETPAGE));
+    // With the header of a wizard with PSH_WIZARD97.
+    CPropertyPage(UINT nIDTemplate, UINT nIDCaption, UINT nIDHeaderTitle, UINT nIDHeaderSubTitle = 0,
+                  DWORD dwSize = sizeof(PROPSHEETPAGE));
+    CPropertyPage(LPCTSTR lpszTemplateName, UINT nIDCaption, UINT nIDHeaderTitle, UINT nIDHeaderSubTitle = 0,
+                  DWORD dwSize = sizeof(PROPSHEETPAGE));
+    void Construct(UINT nIDTemplate, UINT nIDCaption, UINT nIDHeaderTitle, UINT nIDHeaderSubTitle = 0) {
+        Construct(MAKEINTRESOURCE(nIDTemplate), nIDCaption, nIDHeaderTitle, nIDHeaderSubTitle);
+    }
+    void Construct(LPCTSTR lpszTemplateName, UINT nIDCaption, UINT nIDHeaderTitle, UINT nIDHeaderSubTitle = 0);
     void Construct(UINT nIDTemplate, UINT nIDCaption = 0) { Construct(MAKEINTRESOURCE(nIDTemplate), nIDCaption); }
     void Construct(LPCTSTR lpszTemplateName, UINT nIDCaption = 0);
 
@@ -62,7 +71,7 @@ protected:
     void OnCancel() override;
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
-    CString m_strCaption;
+    CString m_strCaption, m_strHeaderTitle, m_strHeaderSubTitle;
 
 private:
     friend class CPropertySheet;
@@ -151,3 +160,7 @@ private:
     bool m_modeless = false;
     DWORD m_style = 0, m_extended_style = 0;
 };
+
+// The older names of what can do this now.
+typedef CPropertyPage CPropertyPageEx;
+typedef CPropertySheet CPropertySheetEx;

@@ -45,6 +45,9 @@ public:
     // objects.
     virtual BOOL OnIdle(LONG lCount);
     virtual BOOL IsIdleMessage(MSG* pMsg);
+    // Told by the system of the messages in the loops of its own dialogs, menus and scroll bars (code MSGF_...). TRUE
+    // where nothing more is to come of the message.
+    virtual BOOL ProcessMessageFilter(int code, LPMSG lpMsg);
     // Told of an exception that a window's message raised; answers for the message. The caller deletes the exception.
     virtual LRESULT ProcessWndProcException(CException* e, const MSG* pMsg);
     // After the thread's end: deletes the object where it is to go.

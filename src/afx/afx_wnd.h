@@ -280,6 +280,13 @@ public:
     void CloseWindow() { ::CloseWindow(m_hWnd); }
     BOOL OpenIcon() { return ::OpenIcon(m_hWnd); }
     BOOL FlashWindow(BOOL bInvert) { return ::FlashWindow(m_hWnd, bInvert); }
+    BOOL AnimateWindow(DWORD dwTime, DWORD dwFlags) { return ::AnimateWindow(m_hWnd, dwTime, dwFlags); }
+    BOOL SetLayeredWindowAttributes(COLORREF crKey, BYTE bAlpha, DWORD dwFlags) {
+        return ::SetLayeredWindowAttributes(m_hWnd, crKey, bAlpha, dwFlags);
+    }
+    // While the user is kept to another window.
+    virtual void BeginModalState() { ::EnableWindow(m_hWnd, FALSE); }
+    virtual void EndModalState() { ::EnableWindow(m_hWnd, TRUE); }
     BOOL EnableWindow(BOOL bEnable = TRUE) { return ::EnableWindow(m_hWnd, bEnable); }
     BOOL IsWindowEnabled() const { return ::IsWindowEnabled(m_hWnd); }
     CWnd* SetFocus() { return FromHandle(::SetFocus(m_hWnd)); }
@@ -306,6 +313,7 @@ public:
     void EndPaint(LPPAINTSTRUCT lpPaint) { ::EndPaint(m_hWnd, lpPaint); }
     void Print(CDC* pDC, DWORD dwFlags) const;
     void PrintClient(CDC* pDC, DWORD dwFlags) const;
+    BOOL PrintWindow(CDC* pDC, UINT nFlags) const { return ::PrintWindow(m_hWnd, pDC->GetSafeHdc(), nFlags); }
     void UpdateWindow() { ::UpdateWindow(m_hWnd); }
     void SetRedraw(BOOL bRedraw = TRUE) { SendMessage(WM_SETREDRAW, bRedraw); }
     BOOL GetUpdateRect(LPRECT lpRect, BOOL bErase = FALSE) { return ::GetUpdateRect(m_hWnd, lpRect, bErase); }
@@ -376,7 +384,7 @@ protected:
     WNDPROC m_pfnSuper = nullptr;
     bool m_modal = false;
     bool m_has_tips = false;
-    int m_modalResult = -1;
+    int m_nModalResult = -1;
 
 private:
     friend LRESULT AfxCallWndProc(CWnd* wnd, HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);

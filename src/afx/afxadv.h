@@ -1,10 +1,33 @@
-// The list of recently used files.
+// The list of recently used files; files in memory of the system; where bars stand.
 #pragma once
 
 #include "afxwin.h"
 #include "afx_dock_state.h"
 
 #include <vector>
+
+// A file in memory of the system, as the clipboard takes and gives it.
+class ZOPAFX_API CSharedFile : public CMemFile {
+    DECLARE_DYNAMIC(CSharedFile)
+
+public:
+    explicit CSharedFile(UINT nAllocFlags = GMEM_MOVEABLE, UINT nGrowBytes = 4096);
+    ~CSharedFile() override;
+
+    // The memory, which is the caller's now: null where nothing was written.
+    HGLOBAL Detach();
+    // Over the memory, which stays its owner's as long as it need not grow.
+    void SetHandle(HGLOBAL hGlobalMemory, BOOL bAllowGrow = TRUE);
+
+protected:
+    BYTE* Alloc(SIZE_T nBytes) override;
+    BYTE* Realloc(BYTE* lpMem, SIZE_T nBytes) override;
+    void Free(BYTE* lpMem) override;
+
+private:
+    UINT m_flags;
+    HGLOBAL m_global = nullptr;
+};
 
 // The latest first, kept in the program's settings; entry names hold a %d for the number.
 class ZOPAFX_API CRecentFileList {

@@ -4,6 +4,8 @@
 #define __AFXDISP_H__
 
 #include "afxwin.h"
+#include "atlcomtime.h"
+#include "atlconv.h"
 
 // Programs call it as a matter of course. There are no OLE controls: a dialog whose template has one is not created.
 inline void AFX_CDECL AfxEnableControlContainer() {}

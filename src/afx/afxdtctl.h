@@ -1,6 +1,7 @@
 // Dates and times: a picker and a calendar.
 #pragma once
 
+#include "atlcomtime.h"
 #include "afxwin.h"
 
 class CMonthCalCtrl;
@@ -25,6 +26,22 @@ public:
     BOOL SetTime(const CTime* pTimeNew);
     BOOL SetTime(LPSYSTEMTIME pTimeNew = nullptr);
     DWORD GetTime(CTime& timeDest) const;
+    // A null date is none at all; FALSE for one that is invalid.
+    BOOL SetTime(const COleDateTime& timeNew) {
+        SYSTEMTIME fields{};
+        if (timeNew.GetStatus() == COleDateTime::null)
+            return SetTime(LPSYSTEMTIME{nullptr});
+        return timeNew.GetAsSystemTime(fields) && SetTime(&fields);
+    }
+    BOOL GetTime(COleDateTime& timeDest) const {
+        SYSTEMTIME fields{};
+        const DWORD found = GetTime(&fields);
+        if (found == GDT_VALID)
+            timeDest = fields;
+        else
+            timeDest.SetStatus(found == GDT_NONE ? COleDateTime::null : COleDateTime::invalid);
+        return timeDest.GetStatus() != COleDateTime::invalid;
+    }
     DWORD GetTime(LPSYSTEMTIME pTimeDest) const {
         return static_cast<DWORD>(SendMessage(DTM_GETSYSTEMTIME, 0, afx_param(pTimeDest)));
     }

@@ -6,7 +6,7 @@
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wcast-function-type"
 // The dispatcher turns the pointer back into the type that the signature names.
-template <class Method> inline AFX_PMSG AfxErasedMethod(Method method) {
+template <class Method> inline AFX_PMSG afx_erased_method(Method method) {
     return reinterpret_cast<AFX_PMSG>(method);
 }
 #pragma GCC diagnostic pop
@@ -15,7 +15,7 @@ template <class Method> inline AFX_PMSG AfxErasedMethod(Method method) {
 #define WM_REFLECT_BASE 0xBC00
 
 #define AFX_MSG_ENTRY(message, sig, target, result, arguments, method)                                                 \
-    {message, 0, 0, 0, sig, AfxErasedMethod(static_cast<result(target::*) arguments>(method))},
+    {message, 0, 0, 0, sig, afx_erased_method(static_cast<result(target::*) arguments>(method))},
 #define AFX_WM_ENTRY(message, sig, result, arguments, method)                                                          \
     AFX_MSG_ENTRY(message, sig, CWnd, result, arguments, &ThisClass::method)
 #define AFX_CODE_ENTRY(message, code, id, lastId, sig, result, arguments, method)                                      \
@@ -24,7 +24,7 @@ template <class Method> inline AFX_PMSG AfxErasedMethod(Method method) {
      static_cast<UINT>(id),                                                                                            \
      static_cast<UINT>(lastId),                                                                                        \
      sig,                                                                                                              \
-     AfxErasedMethod(static_cast<result(CCmdTarget::*) arguments>(method))},
+     afx_erased_method(static_cast<result(CCmdTarget::*) arguments>(method))},
 #define AFX_CMD_ENTRY(message, code, id, lastId, sig, result, arguments, method)                                       \
     AFX_CODE_ENTRY(message, static_cast<WORD>(code), id, lastId, sig, result, arguments, method)
 

@@ -2,12 +2,14 @@
 #pragma once
 
 #include "afxwin.h"
+#include "atlconv.h"
 
 #define WM_SIZEPARENT 0x0361       // lParam: AFX_SIZEPARENTPARAMS; a bar takes its part of the rectangle
 #define WM_SETMESSAGESTRING 0x0362 // wParam: the text's id, lParam: or the text; for the frame's message bar
 #define WM_IDLEUPDATECMDUI 0x0363  // wParam: whether commands without handler become disabled
 #define WM_INITIALUPDATE 0x0364    // to the views of a frame, before they are shown
 #define WM_COMMANDHELP 0x0365
+#define WM_HELPHITTEST 0x0366  // lParam: a place in the client area; answers its help topic, 0 where there is none
 #define WM_RECALCPARENT 0x0368 // to a frame: its layout is to be made anew
 #ifndef WM_KICKIDLE
 #define WM_KICKIDLE 0x036A

@@ -48,7 +48,7 @@ public:
     bool IsEmpty() const { return m_text.empty(); }
     void Empty() { m_text.clear(); }
     void FreeExtra() { m_text.shrink_to_fit(); }
-    void Preallocate(int length) { m_text.reserve(clamped_length(length)); }
+    void Preallocate(int length) { m_text.reserve(ClampedLength(length)); }
     char GetAt(int index) const; // raises CInvalidArgException outside the text
     void SetAt(int index, char c);
     char operator[](int index) const; // '\0' outside the text
@@ -132,8 +132,8 @@ public:
 
 private:
     // std::string wants no negative positions.
-    std::size_t clamp(int position) const;
-    static std::size_t clamped_length(int length) { return length > 0 ? static_cast<std::size_t>(length) : 0; }
+    std::size_t Clamp(int position) const;
+    static std::size_t ClampedLength(int length) { return length > 0 ? static_cast<std::size_t>(length) : 0; }
     CString& FormatArguments(LPCSTR format, ...);
     void FormatMessageArguments(LPCSTR format, ...);
     static CString Stored(UINT id);
@@ -143,24 +143,24 @@ private:
 
 typedef CString CStringA;
 
-inline LPCSTR AfxVariadic(const CString& text) {
+inline LPCSTR afx_variadic(const CString& text) {
     return text;
 }
 
 template <class... Arguments> void CString::Format(LPCSTR format, Arguments... arguments) {
-    *this = CString().FormatArguments(format, AfxVariadic(arguments)...);
+    *this = CString().FormatArguments(format, afx_variadic(arguments)...);
 }
 template <class... Arguments> void CString::Format(UINT id, Arguments... arguments) {
     Format(Stored(id).GetString(), arguments...);
 }
 template <class... Arguments> void CString::AppendFormat(LPCSTR format, Arguments... arguments) {
-    *this += CString().FormatArguments(format, AfxVariadic(arguments)...);
+    *this += CString().FormatArguments(format, afx_variadic(arguments)...);
 }
 template <class... Arguments> void CString::AppendFormat(UINT id, Arguments... arguments) {
     AppendFormat(Stored(id).GetString(), arguments...);
 }
 template <class... Arguments> void CString::FormatMessage(LPCSTR format, Arguments... arguments) {
-    FormatMessageArguments(format, AfxVariadic(arguments)...);
+    FormatMessageArguments(format, afx_variadic(arguments)...);
 }
 template <class... Arguments> void CString::FormatMessage(UINT id, Arguments... arguments) {
     FormatMessage(Stored(id).GetString(), arguments...);

@@ -206,6 +206,7 @@ BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCm
         app->m_nCmdShow = nCmdShow;
         app->SetNames();
     }
+    hook_message_filter();
     return TRUE;
 }
 

@@ -37,7 +37,7 @@ CRuntimeClass* PASCAL CRuntimeClass::Load(CArchive& ar, UINT* pwSchemaNum) {
     return FromName(name);
 }
 
-CObject* AFX_CDECL AfxReadObject(CArchive& ar, CRuntimeClass* pClass) {
+CObject* AFX_CDECL afx_read_object(CArchive& ar, CRuntimeClass* pClass) {
     return ar.ReadObject(pClass);
 }
 

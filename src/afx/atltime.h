@@ -55,9 +55,9 @@ public:
     CTime& operator=(__time64_t time) { return m_time = time, *this; }
 
     __time64_t GetTime() const { return m_time; }
-    // Null, without the record filled, for a moment that has no local time.
-    struct tm* GetLocalTm(struct tm* ptm) const;
-    struct tm* GetGmtTm(struct tm* ptm) const;
+    // Null, without the record filled, for a moment that has no local time. Without a record, the C library's own.
+    struct tm* GetLocalTm(struct tm* ptm = nullptr) const;
+    struct tm* GetGmtTm(struct tm* ptm = nullptr) const;
     bool GetAsSystemTime(SYSTEMTIME& st) const;
     // 0 for a moment that has no local time.
     int GetYear() const;

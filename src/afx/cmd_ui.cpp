@@ -8,6 +8,15 @@ bool is_button(const CWnd& wnd) {
     return (wnd.SendMessage(WM_GETDLGCODE) & DLGC_BUTTON) != 0;
 }
 
+// Null where the target is no window.
+HWND window_of(const CCmdTarget& target) {
+    return target.IsKindOf(RUNTIME_CLASS(CWnd)) ? static_cast<const CWnd&>(target).m_hWnd : nullptr;
+}
+
+bool is_gone(HWND window) {
+    return window != nullptr && !::IsWindow(window);
+}
+
 } // namespace
 
 void CCmdUI::Enable(BOOL bOn) {
@@ -70,7 +79,10 @@ BOOL CCmdUI::DoUpdate(CCmdTarget* pTarget, BOOL bDisableIfNoHndler) {
     if (m_nID == 0 || LOWORD(m_nID) == 0xFFFF)
         return TRUE; // nothing that anybody can handle
     m_bEnableChanged = FALSE;
+    const HWND shown = m_pOther->GetSafeHwnd(), asked = window_of(*pTarget);
     const BOOL updated = pTarget->OnCmdMsg(m_nID, CN_UPDATE_COMMAND_UI, this, nullptr);
+    if (is_gone(shown) || is_gone(asked))
+        return updated; // the handler ended it, and its object may be deleted
     if (bDisableIfNoHndler && !m_bEnableChanged) {
         AFX_CMDHANDLERINFO info{};
         Enable(pTarget->OnCmdMsg(m_nID, CN_COMMAND, this, &info));

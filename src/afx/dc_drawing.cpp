@@ -44,7 +44,7 @@ CPoint CDC::GetBrushOrg() const {
 }
 
 CPoint CDC::SetBrushOrg(int x, int y) {
-    return moved<&::SetBrushOrgEx>(m_hDC, x, y);
+    return Moved<&::SetBrushOrgEx>(m_hDC, x, y);
 }
 
 CGdiObject* PASCAL CDC::SelectGdiObject(HDC hDC, HGDIOBJ h) {

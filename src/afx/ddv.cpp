@@ -63,37 +63,19 @@ void AFXAPI DDV_MaxChars(CDataExchange* pDX, const CString& value, int nChars) {
         ::SendMessage(control, CB_LIMITTEXT, static_cast<WPARAM>(nChars), 0);
 }
 
-void AFXAPI DDV_MinMaxByte(CDataExchange* pDX, BYTE value, BYTE minVal, BYTE maxVal) {
-    check_number(pDX, value, minVal, maxVal);
-}
-
-void AFXAPI DDV_MinMaxShort(CDataExchange* pDX, short value, short minVal, short maxVal) {
-    check_number(pDX, value, minVal, maxVal);
-}
-
-void AFXAPI DDV_MinMaxInt(CDataExchange* pDX, int value, int minVal, int maxVal) {
-    check_number(pDX, value, minVal, maxVal);
-}
-
-void AFXAPI DDV_MinMaxLong(CDataExchange* pDX, long value, long minVal, long maxVal) {
-    check_number(pDX, value, minVal, maxVal);
-}
-
-void AFXAPI DDV_MinMaxUInt(CDataExchange* pDX, UINT value, UINT minVal, UINT maxVal) {
-    check_number(pDX, value, minVal, maxVal);
-}
-
-void AFXAPI DDV_MinMaxDWord(CDataExchange* pDX, DWORD value, DWORD minVal, DWORD maxVal) {
-    check_number(pDX, value, minVal, maxVal);
-}
-
-void AFXAPI DDV_MinMaxLongLong(CDataExchange* pDX, LONGLONG value, LONGLONG minVal, LONGLONG maxVal) {
-    check_number(pDX, value, minVal, maxVal);
-}
-
-void AFXAPI DDV_MinMaxULongLong(CDataExchange* pDX, ULONGLONG value, ULONGLONG minVal, ULONGLONG maxVal) {
-    check_number(pDX, value, minVal, maxVal);
-}
+#define CHECK_OF_NUMBER(Name, Number)                                                                                  \
+    void AFXAPI DDV_MinMax##Name(CDataExchange* pDX, Number value, Number minVal, Number maxVal) {                     \
+        check_number(pDX, value, minVal, maxVal);                                                                      \
+    }
+CHECK_OF_NUMBER(Byte, BYTE)
+CHECK_OF_NUMBER(Short, short)
+CHECK_OF_NUMBER(Int, int)
+CHECK_OF_NUMBER(Long, long)
+CHECK_OF_NUMBER(UInt, UINT)
+CHECK_OF_NUMBER(DWord, DWORD)
+CHECK_OF_NUMBER(LongLong, LONGLONG)
+CHECK_OF_NUMBER(ULongLong, ULONGLONG)
+#undef CHECK_OF_NUMBER
 
 void AFXAPI DDV_MinMaxFloat(CDataExchange* pDX, const float& value, float minVal, float maxVal) {
     check_real(pDX, value, minVal, maxVal, FLT_DIG);

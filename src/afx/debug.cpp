@@ -19,7 +19,7 @@ BOOL AFXAPI AfxAssertFailedLine(LPCSTR lpszFileName, int nLine) {
     }
 }
 
-void AFX_CDECL AfxTraceText(LPCTSTR lpszFormat, ...) {
+void AFX_CDECL afx_trace_text(LPCTSTR lpszFormat, ...) {
     char text[1024];
     va_list arguments;
     va_start(arguments, lpszFormat);

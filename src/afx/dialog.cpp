@@ -11,6 +11,7 @@ BEGIN_MESSAGE_MAP(CDialog, CWnd)
 ON_COMMAND(IDOK, &CDialog::OnOK)
 ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
 ON_MESSAGE(WM_COMMANDHELP, &CDialog::OnCommandHelp)
+ON_MESSAGE(WM_HELPHITTEST, &CDialog::OnHelpHitTest)
 ON_WM_HELPINFO()
 END_MESSAGE_MAP()
 
@@ -121,7 +122,7 @@ INT_PTR CDialog::DoModal() {
         return -1;
     modal_parent parent(m_pParentWnd);
     m_modal = true; // OnInitDialog may end the dialog before its loop has begun
-    m_modalResult = -1;
+    m_nModalResult = -1;
     if (!CreateFrom(form, module, parent.handle()))
         return -1;
     const DLGTEMPLATE& placed = *form;
@@ -130,7 +131,7 @@ INT_PTR CDialog::DoModal() {
     const DWORD idle = (GetStyle() & DS_NOIDLEMSG) != 0 ? MLF_SHOWONIDLE | MLF_NOIDLEMSG : MLF_SHOWONIDLE;
     if (m_modal)
         return parent.run(*this, idle);
-    const int result = m_modalResult;
+    const int result = m_nModalResult;
     parent.end(m_hWnd);
     return result;
 }

@@ -13,10 +13,6 @@ CDialogBar::~CDialogBar() {
     CControlBar::DestroyWindow();
 }
 
-BOOL CDialogBar::Create(CWnd* pParentWnd, UINT nIDTemplate, UINT nStyle, UINT nID) {
-    return Create(pParentWnd, MAKEINTRESOURCE(nIDTemplate), nStyle, nID);
-}
-
 BOOL CDialogBar::Create(CWnd* pParentWnd, LPCTSTR lpszTemplateName, UINT nStyle, UINT nID) {
     m_dwStyle = nStyle & CBRS_ALL;
     m_template = lpszTemplateName;

@@ -114,7 +114,8 @@ BOOL CWnd::ExecuteDlgInit(LPVOID lpResource) {
 
 void CWnd::UpdateDialogControls(CCmdTarget* pTarget, BOOL bDisableIfNoHndler) {
     CCmdUI state;
-    for (HWND at = ::GetTopWindow(m_hWnd); at != nullptr; at = ::GetWindow(at, GW_HWNDNEXT)) {
+    const HWND self = m_hWnd; // update handlers may end it
+    for (HWND at = ::GetTopWindow(self); at != nullptr && ::IsWindow(self); at = ::GetWindow(at, GW_HWNDNEXT)) {
         CWnd* control = FromHandle(at);
         state.m_nID = static_cast<UINT>(::GetDlgCtrlID(at));
         state.m_pOther = control;

@@ -28,7 +28,7 @@ template <class Visitor> void visit(CControlBarInfo& info, Visitor&& number) {
     each("Floating", info.m_bFloating);
     each("DockID", info.m_nDockBarID);
     each("Row", info.m_nRow);
-    each("At", info.m_nAt);
+    each("At", info.m_at);
     each("XPos", info.m_pointPos.x);
     each("YPos", info.m_pointPos.y);
     each("MRUWidth", info.m_nMRUWidth);

@@ -84,33 +84,41 @@ void CDocument::ReleaseFile(CFile* pFile, BOOL bAbort) {
         file->Close();
 }
 
-BOOL CDocument::Read(LPCTSTR path) {
+// FALSE where the file does not open, which is reported.
+BOOL CDocument::Transfer(LPCTSTR path, bool loading) {
+    const UINT mode = loading ? CFile::modeRead | CFile::shareDenyWrite
+                              : CFile::modeCreate | CFile::modeReadWrite | CFile::shareExclusive;
     CFileException reason;
-    document_file file(*this, GetFile(path, CFile::modeRead | CFile::shareDenyWrite, &reason));
+    document_file file(*this, GetFile(path, mode, &reason));
     if (file.get() == nullptr) {
-        ReportSaveLoadException(path, &reason, FALSE, AFX_IDP_FAILED_TO_OPEN_DOC);
+        ReportSaveLoadException(path, &reason, !loading,
+                                loading ? AFX_IDP_FAILED_TO_OPEN_DOC : AFX_IDP_INVALID_FILENAME);
         return FALSE;
     }
-    DeleteContents();
-    SetModifiedFlag(); // an exception leaves half a document
-    CArchive archive(file.get(), CArchive::load);
+    if (loading) {
+        DeleteContents();
+        SetModifiedFlag(); // an exception leaves half a document
+    }
+    CArchive archive(file.get(), loading ? CArchive::load : CArchive::store);
     archive.m_pDocument = this;
     const CWaitCursor wait;
-    if (file.get()->GetLength() != 0)
+    if (!loading || file.get()->GetLength() != 0)
         Serialize(archive);
     archive.Close();
     file.close();
     return TRUE;
 }
 
-BOOL CDocument::OnOpenDocument(LPCTSTR lpszPathName) {
+// FALSE, too, after an exception, which is reported.
+BOOL CDocument::TryTransfer(LPCTSTR path, bool loading) {
     try {
-        if (!Read(lpszPathName))
-            return FALSE;
+        return Transfer(path, loading);
     } catch (CException* exception) {
-        DeleteContents();
+        if (loading)
+            DeleteContents();
         try {
-            ReportSaveLoadException(lpszPathName, exception, FALSE, AFX_IDP_FAILED_TO_OPEN_DOC);
+            ReportSaveLoadException(path, exception, !loading,
+                                    loading ? AFX_IDP_FAILED_TO_OPEN_DOC : AFX_IDP_FAILED_TO_SAVE_DOC);
         } catch (...) {
             exception->Delete();
             throw;
@@ -118,40 +126,18 @@ BOOL CDocument::OnOpenDocument(LPCTSTR lpszPathName) {
         exception->Delete();
         return FALSE;
     }
+}
+
+BOOL CDocument::OnOpenDocument(LPCTSTR lpszPathName) {
+    if (!TryTransfer(lpszPathName, true))
+        return FALSE;
     SetModifiedFlag(FALSE);
     return TRUE;
 }
 
-BOOL CDocument::Write(LPCTSTR path) {
-    CFileException reason;
-    document_file file(*this, GetFile(path, CFile::modeCreate | CFile::modeReadWrite | CFile::shareExclusive, &reason));
-    if (file.get() == nullptr) {
-        ReportSaveLoadException(path, &reason, TRUE, AFX_IDP_INVALID_FILENAME);
-        return FALSE;
-    }
-    CArchive archive(file.get(), CArchive::store);
-    archive.m_pDocument = this;
-    const CWaitCursor wait;
-    Serialize(archive);
-    archive.Close();
-    file.close();
-    return TRUE;
-}
-
 BOOL CDocument::OnSaveDocument(LPCTSTR lpszPathName) {
-    try {
-        if (!Write(lpszPathName))
-            return FALSE;
-    } catch (CException* exception) {
-        try {
-            ReportSaveLoadException(lpszPathName, exception, TRUE, AFX_IDP_FAILED_TO_SAVE_DOC);
-        } catch (...) {
-            exception->Delete();
-            throw;
-        }
-        exception->Delete();
+    if (!TryTransfer(lpszPathName, false))
         return FALSE;
-    }
     SetModifiedFlag(FALSE);
     return TRUE;
 }

@@ -211,12 +211,12 @@ void CEditView::OnPrepareDC(CDC* pDC, CPrintInfo* pInfo) {
         return;
     ::SelectObject(*pDC, m_print_font != nullptr ? m_print_font : m_hPrinterFont);
     pInfo->m_bContinuePrinting =
-        PaginateTo(*pDC, pInfo->m_nCurPage) &&
+        TurnTo(*pDC, pInfo->m_nCurPage) &&
         (pInfo->m_nCurPage == 1 || m_pages[pInfo->m_nCurPage - 1] < static_cast<UINT>(m_shadow.GetLength()));
 }
 
 // Where a page begins shows only when those before it are laid out, drawn or not. FALSE behind the last one.
-bool CEditView::PaginateTo(CDC& dc, UINT page) {
+bool CEditView::TurnTo(CDC& dc, UINT page) {
     const auto length = static_cast<UINT>(m_shadow.GetLength());
     while (m_pages.size() < page && m_pages.back() < length) {
         CRect paper(0, 0, dc.GetDeviceCaps(HORZRES), dc.GetDeviceCaps(VERTRES));

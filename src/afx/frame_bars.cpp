@@ -7,6 +7,7 @@
 #include "dock_bar.h"
 #include "frame_state.h"
 
+#include <algorithm>
 #include <utility>
 
 void update_frames(CWnd* main_window) {
@@ -19,11 +20,12 @@ void update_frames(CWnd* main_window) {
     const HWND main = main_window->GetSafeHwnd();
     if (main != nullptr && ::GetWindowThreadProcessId(main, nullptr) == ::GetCurrentThreadId())
         update(main);
-    const std::vector<CFrameWnd*> frames = frames_of_this_thread().frames;
-    for (CFrameWnd* frame : frames) {
+    std::vector<HWND> others; // an update may end any frame
+    for (CFrameWnd* frame : frames_of_this_thread().frames) {
         if (frame->GetSafeHwnd() != main && (frame->GetStyle() & WS_CHILD) == 0)
-            update(frame->m_hWnd);
+            others.push_back(frame->GetSafeHwnd());
     }
+    std::for_each(others.begin(), others.end(), update);
 }
 
 void CFrameWnd::OnIdleUpdateCmdUI() {
@@ -145,7 +147,8 @@ void CFrameWnd::OnInitMenuPopup(CMenu* pMenu, UINT, BOOL bSysMenu) {
     state.m_pMenu = pMenu;
     state.m_pParentMenu = CMenu::FromHandle(menu_with_popup(::GetMenu(m_hWnd), pMenu->m_hMenu));
     state.m_nIndexMax = pMenu->GetMenuItemCount();
-    for (; state.m_nIndex < state.m_nIndexMax; ++state.m_nIndex) {
+    const HWND self = m_hWnd; // update handlers may end it
+    for (; state.m_nIndex < state.m_nIndexMax && ::IsWindow(self); ++state.m_nIndex) {
         state.m_nID = pMenu->GetMenuItemID(static_cast<int>(state.m_nIndex));
         state.m_pSubMenu = nullptr;
         if (state.m_nID == 0)
@@ -159,7 +162,8 @@ void CFrameWnd::OnInitMenuPopup(CMenu* pMenu, UINT, BOOL bSysMenu) {
         } else {
             state.DoUpdate(this, m_bAutoMenuEnable && state.m_nID < 0xF000);
         }
-        keep_place(state);
+        if (::IsWindow(self))
+            keep_place(state);
     }
 }
 

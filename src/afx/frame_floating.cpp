@@ -34,12 +34,12 @@ void CFrameWnd::FloatControlBar(CControlBar* pBar, CPoint point, DWORD dwStyle) 
     CMiniDockFrameWnd* frame = float_of(*pBar);
     if (frame == nullptr || (pBar->GetBarStyle() & CBRS_ALIGN_ANY) != side) {
         frame = CreateFloatingFrame(side | ((dwStyle | pBar->GetBarStyle()) & CBRS_SIZE_DYNAMIC));
-        CDockBar* before = std::exchange(pBar->m_pDockBar, &frame->bar());
+        CDockBar* before = std::exchange(pBar->m_pDockBar, &frame->Bar());
         if (before != nullptr)
             before->Remove(pBar);
         pBar->SetBarStyle((pBar->GetBarStyle() & ~static_cast<DWORD>(CBRS_ALIGN_ANY)) | side | CBRS_FLOATING);
-        frame->bar().Dock(pBar, nullptr);
-        pBar->SetParent(&frame->bar());
+        frame->Bar().Dock(pBar, nullptr);
+        pBar->SetParent(&frame->Bar());
         DestroyEmptyFloat(before);
         CString title;
         pBar->GetWindowText(title);
@@ -76,7 +76,7 @@ void CFrameWnd::GetDockState(CDockState& state) const {
             info->m_pointPos = place.TopLeft();
         } else if (bar->m_pDockBar != nullptr) {
             info->m_nDockBarID = static_cast<UINT>(bar->m_pDockBar->GetDlgCtrlID());
-            bar->m_pDockBar->PlaceOf(bar, info->m_nRow, info->m_nAt);
+            bar->m_pDockBar->PlaceOf(bar, info->m_nRow, info->m_at);
         }
     }
 }
@@ -87,7 +87,7 @@ void CFrameWnd::SetDockState(const CDockState& state) {
         infos.push_back(static_cast<const CControlBarInfo*>(state.m_arrBarInfo[i]));
     // Rows fill from the first, and each from its beginning.
     std::sort(infos.begin(), infos.end(), [](const CControlBarInfo* a, const CControlBarInfo* b) {
-        return std::pair(a->m_nRow, a->m_nAt) < std::pair(b->m_nRow, b->m_nAt);
+        return std::pair(a->m_nRow, a->m_at) < std::pair(b->m_nRow, b->m_at);
     });
     for (const CControlBarInfo* info : infos) {
         CControlBar* bar = GetControlBar(info->m_nBarID);
@@ -115,7 +115,7 @@ void CFrameWnd::PutBar(CControlBar& bar, const CControlBarInfo& info) {
     } else if (CDockBar* dock = DockBarOf(bar, info)) {
         DockControlBar(&bar, dock);
         dock->Remove(&bar);
-        dock->Append(&bar, static_cast<std::size_t>(info.m_nRow), info.m_nAt);
+        dock->Append(&bar, static_cast<std::size_t>(info.m_nRow), info.m_at);
     }
     ShowControlBar(&bar, info.m_bVisible, TRUE);
 }

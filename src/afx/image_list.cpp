@@ -1,4 +1,5 @@
 #include "afxcmn.h"
+#include "control_images.h"
 #include "handle_map.h"
 
 #include <algorithm>
@@ -77,6 +78,12 @@ private:
 
 void delete_temporary_image_lists() {
     image_lists().delete_temporary();
+}
+
+void release_image_list(CWnd& control, int kind, UINT get, UINT set) {
+    const auto list = reinterpret_cast<HIMAGELIST>(control.SendMessage(get, static_cast<WPARAM>(kind)));
+    if (list != nullptr && CImageList::FromHandlePermanent(list) != nullptr)
+        control.SendMessage(set, static_cast<WPARAM>(kind), 0);
 }
 
 CImageList::~CImageList() {

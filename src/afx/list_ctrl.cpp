@@ -1,4 +1,5 @@
 #include "afxcmn.h"
+#include "control_images.h"
 
 #include <vector>
 
@@ -18,11 +19,8 @@ BOOL CListCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd*
     return CWnd::CreateEx(dwExStyle, WC_LISTVIEW, nullptr, dwStyle | WS_CHILD, rect, pParentWnd, nID);
 }
 
-// The control deletes its lists with itself, but those that an object holds are not its own.
 void CListCtrl::RemoveImageList(int nImageList) {
-    const auto list = reinterpret_cast<HIMAGELIST>(SendMessage(LVM_GETIMAGELIST, static_cast<WPARAM>(nImageList)));
-    if (list != nullptr && CImageList::FromHandlePermanent(list) != nullptr)
-        SendMessage(LVM_SETIMAGELIST, static_cast<WPARAM>(nImageList), 0);
+    release_image_list(*this, nImageList, LVM_GETIMAGELIST, LVM_SETIMAGELIST);
 }
 
 void CListCtrl::OnNcDestroy() {

@@ -11,7 +11,7 @@ public:
     // dwBarStyle: the side (CBRS_ALIGN_...) that the bar is laid out for, and whether its size may change.
     BOOL Create(CWnd* pParentWnd, DWORD dwBarStyle);
     using CMiniFrameWnd::Create;
-    CDockBar& bar() { return *m_bar; }
+    CDockBar& Bar() { return *m_bar; }
 
 protected:
     void LayoutClient() override;

@@ -12,6 +12,34 @@ CPropertyPage::CPropertyPage(LPCTSTR lpszTemplateName, UINT nIDCaption, DWORD) :
     Construct(lpszTemplateName, nIDCaption);
 }
 
+CPropertyPage::CPropertyPage(UINT nIDTemplate, UINT nIDCaption, UINT nIDHeaderTitle, UINT nIDHeaderSubTitle,
+                             DWORD dwSize)
+    : CPropertyPage(MAKEINTRESOURCE(nIDTemplate), nIDCaption, nIDHeaderTitle, nIDHeaderSubTitle, dwSize) {}
+
+CPropertyPage::CPropertyPage(LPCTSTR lpszTemplateName, UINT nIDCaption, UINT nIDHeaderTitle, UINT nIDHeaderSubTitle,
+                             DWORD)
+    : m_psp{} {
+    Construct(lpszTemplateName, nIDCaption, nIDHeaderTitle, nIDHeaderSubTitle);
+}
+
+namespace {
+
+void load_text(CString& text, UINT id, DWORD& flags, DWORD flag) {
+    if (id == 0)
+        return;
+    if (!text.LoadString(id))
+        AfxThrowResourceException();
+    flags |= flag;
+}
+
+} // namespace
+
+void CPropertyPage::Construct(LPCTSTR lpszTemplateName, UINT nIDCaption, UINT nIDHeaderTitle, UINT nIDHeaderSubTitle) {
+    Construct(lpszTemplateName, nIDCaption);
+    load_text(m_strHeaderTitle, nIDHeaderTitle, m_psp.dwFlags, PSP_USEHEADERTITLE);
+    load_text(m_strHeaderSubTitle, nIDHeaderSubTitle, m_psp.dwFlags, PSP_USEHEADERSUBTITLE);
+}
+
 void CPropertyPage::Construct(LPCTSTR lpszTemplateName, UINT nIDCaption) {
     m_lpszTemplateName = lpszTemplateName;
     m_psp = {};
@@ -21,19 +49,21 @@ void CPropertyPage::Construct(LPCTSTR lpszTemplateName, UINT nIDCaption) {
     m_psp.pfnDlgProc = &CPropertyPage::PageProc;
     m_psp.pfnCallback = &CPropertyPage::PageCallback;
     m_psp.lParam = reinterpret_cast<LPARAM>(this);
-    if (nIDCaption == 0)
-        return;
-    if (!m_strCaption.LoadString(nIDCaption))
-        AfxThrowResourceException();
-    m_psp.dwFlags |= PSP_USETITLE;
-    m_psp.pszTitle = m_strCaption;
+    load_text(m_strCaption, nIDCaption, m_psp.dwFlags, PSP_USETITLE);
+    if (nIDCaption != 0)
+        m_psp.pszTitle = m_strCaption;
 }
 
 // The page as the platform takes it; FALSE where there is no template.
 BOOL CPropertyPage::Describe(PROPSHEETPAGE& record) const {
     record = m_psp;
-    if ((record.dwFlags & PSP_USETITLE) != 0 && !m_strCaption.IsEmpty())
-        record.pszTitle = m_strCaption; // it may have changed its place
+    const auto name = [&](LPCTSTR& name, const CString& text, DWORD flag) {
+        if ((record.dwFlags & flag) != 0 && !text.IsEmpty())
+            name = text; // it may have changed its place
+    };
+    name(record.pszTitle, m_strCaption, PSP_USETITLE);
+    name(record.pszHeaderTitle, m_strHeaderTitle, PSP_USEHEADERTITLE);
+    name(record.pszHeaderSubTitle, m_strHeaderSubTitle, PSP_USEHEADERSUBTITLE);
     return record.dwSize != 0 && FindModule(record.hInstance);
 }
 

@@ -32,7 +32,7 @@ CPropertySheet::CPropertySheet(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelec
 }
 
 void CPropertySheet::Construct(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage) {
-    m_caption = pszCaption;
+    m_caption = CString(pszCaption); // a number too
     m_parent = pParentWnd;
     m_psh = {};
     m_psh.dwSize = sizeof(m_psh);
@@ -117,7 +117,7 @@ INT_PTR CPropertySheet::DoModal() {
     if (m_pages.empty() || !CreateSheet(parent.handle()))
         return -1;
     CenterWindow();
-    m_modalResult = -1;
+    m_nModalResult = -1;
     return parent.run(*this, MLF_SHOWONIDLE);
 }
 

@@ -254,10 +254,12 @@ void CStatusBar::OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) {
     pane_cmd_ui state;
     state.m_pOther = this;
     state.m_nIndexMax = static_cast<UINT>(m_panes.size());
-    for (state.m_nIndex = 0; state.m_nIndex < state.m_nIndexMax; ++state.m_nIndex) {
+    const HWND self = m_hWnd; // update handlers may end it
+    for (; state.m_nIndex < state.m_nIndexMax && ::IsWindow(self); ++state.m_nIndex) {
         state.m_nID = GetItemID(static_cast<int>(state.m_nIndex));
         if (!CWnd::OnCmdMsg(state.m_nID, CN_UPDATE_COMMAND_UI, &state, nullptr))
             state.DoUpdate(pTarget, FALSE); // a pane that nobody updates shows what it was given
     }
-    UpdateDialogControls(pTarget, bDisableIfNoHndler);
+    if (::IsWindow(self))
+        UpdateDialogControls(pTarget, bDisableIfNoHndler);
 }

@@ -26,7 +26,7 @@ std::string to_ansi(LPCWSTR source) {
 
 } // namespace
 
-std::size_t CString::clamp(int position) const {
+std::size_t CString::Clamp(int position) const {
     return std::min(static_cast<std::size_t>(std::max(position, 0)), m_text.size());
 }
 
@@ -96,12 +96,12 @@ LPSTR CString::GetBuffer(int minimum) {
 }
 
 LPSTR CString::GetBufferSetLength(int length) {
-    m_text.resize(clamped_length(length), '\0');
+    m_text.resize(ClampedLength(length), '\0');
     return m_text.data();
 }
 
 void CString::ReleaseBuffer(int length) {
-    m_text.resize(length < 0 ? strnlen(m_text.data(), m_text.size()) : clamp(length));
+    m_text.resize(length < 0 ? strnlen(m_text.data(), m_text.size()) : Clamp(length));
 }
 
 CString CString::Mid(int first) const {
@@ -110,7 +110,7 @@ CString CString::Mid(int first) const {
 
 CString CString::Mid(int first, int count) const {
     CString part;
-    part.m_text = m_text.substr(clamp(first), static_cast<std::size_t>(std::max(count, 0)));
+    part.m_text = m_text.substr(Clamp(first), static_cast<std::size_t>(std::max(count, 0)));
     return part;
 }
 
@@ -119,7 +119,7 @@ CString CString::Left(int count) const {
 }
 
 CString CString::Right(int count) const {
-    return Mid(GetLength() - static_cast<int>(clamp(count)));
+    return Mid(GetLength() - static_cast<int>(Clamp(count)));
 }
 
 void CString::FormatV(LPCSTR format, va_list arguments) {

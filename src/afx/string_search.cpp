@@ -121,17 +121,17 @@ CString CString::Tokenize(LPCSTR characters, int& start) const {
 }
 
 int CString::Insert(int index, char c) {
-    m_text.insert(clamp(index), 1, c);
+    m_text.insert(Clamp(index), 1, c);
     return GetLength();
 }
 
 int CString::Insert(int index, LPCSTR text) {
-    m_text.insert(clamp(index), std::string(text != nullptr ? text : ""));
+    m_text.insert(Clamp(index), std::string(text != nullptr ? text : ""));
     return GetLength();
 }
 
 int CString::Delete(int index, int count) {
-    m_text.erase(clamp(index), clamped_length(count));
+    m_text.erase(Clamp(index), ClampedLength(count));
     return GetLength();
 }
 

@@ -41,7 +41,34 @@ BOOL is_idle_message(const MSG& message) {
     return message.pt.x != last.x || message.pt.y != last.y;
 }
 
+LRESULT CALLBACK filter_message(int code, WPARAM wParam, LPARAM lParam) {
+    CWinThread* thread = AfxGetThread();
+    if (code < 0 || thread == nullptr)
+        return ::CallNextHookEx(this_thread().filter_hook, code, wParam, lParam);
+    try {
+        return thread->ProcessMessageFilter(code, reinterpret_cast<MSG*>(lParam));
+    } catch (...) {
+        answer_exception({}); // out of a callback of the system
+        return FALSE;
+    }
+}
+
 } // namespace
+
+void hook_message_filter() {
+    HHOOK& hook = this_thread().filter_hook;
+    if (hook == nullptr)
+        hook = ::SetWindowsHookEx(WH_MSGFILTER, &filter_message, nullptr, ::GetCurrentThreadId());
+}
+
+thread_state::~thread_state() {
+    if (filter_hook != nullptr)
+        ::UnhookWindowsHookEx(filter_hook);
+}
+
+BOOL CWinThread::ProcessMessageFilter(int, LPMSG) {
+    return FALSE;
+}
 
 int quit_code() {
     const MSG& pumped = this_thread().pumped_message;

@@ -80,6 +80,7 @@ UINT CWinThread::Live() {
     try {
         if (m_pfnThreadProc != nullptr)
             return m_pfnThreadProc(m_pThreadParams);
+        hook_message_filter();
         return static_cast<UINT>(InitInstance() ? Run() : ExitInstance());
     } catch (...) {
         answer_exception({});

@@ -18,12 +18,15 @@ template <class State> State& of_this_thread() {
 }
 
 struct thread_state {
+    ~thread_state();
+
     CWinThread* thread = nullptr;
     MSG last_message{};   // the window message that is being handled; all zero while none is
     MSG pumped_message{}; // the message taken from the queue last
     POINT last_mouse{-1, -1};
     CWnd* wnd_in_creation = nullptr;
     HHOOK creation_hook = nullptr;
+    HHOOK filter_hook = nullptr;
     HWND updating = nullptr;      // the window whose UpdateData runs: its controls' notifications are held back
     HMENU tracked_menu = nullptr; // the popup that TrackPopupMenu shows
     int wait_cursors = 0;
@@ -33,6 +36,9 @@ struct thread_state {
 inline thread_state& this_thread() {
     return of_this_thread<thread_state>();
 }
+
+// Lets the calling thread's object filter the messages of the system's own loops.
+void hook_message_filter();
 
 // 1 and -1 begin and end a time of waiting, 0 shows its cursor again.
 void change_wait_cursor(int by);

@@ -105,11 +105,15 @@ BOOL WINAPI CTime::IsValidFILETIME(const FILETIME& ft) {
 }
 
 tm* CTime::GetLocalTm(tm* ptm) const {
-    return ptm != nullptr && _localtime64_s(ptm, &m_time) == 0 ? ptm : nullptr;
+    if (ptm == nullptr)
+        return _localtime64(&m_time);
+    return _localtime64_s(ptm, &m_time) == 0 ? ptm : nullptr;
 }
 
 tm* CTime::GetGmtTm(tm* ptm) const {
-    return ptm != nullptr && _gmtime64_s(ptm, &m_time) == 0 ? ptm : nullptr;
+    if (ptm == nullptr)
+        return _gmtime64(&m_time);
+    return _gmtime64_s(ptm, &m_time) == 0 ? ptm : nullptr;
 }
 
 bool CTime::GetAsSystemTime(SYSTEMTIME& st) const {

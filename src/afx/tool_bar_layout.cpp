@@ -220,7 +220,8 @@ void CToolBar::OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) {
     button_cmd_ui state;
     state.m_pOther = this;
     state.m_nIndexMax = static_cast<UINT>(SendMessage(TB_BUTTONCOUNT));
-    for (state.m_nIndex = 0; state.m_nIndex < state.m_nIndexMax; ++state.m_nIndex) {
+    const HWND self = m_hWnd; // update handlers may end it
+    for (; state.m_nIndex < state.m_nIndexMax && ::IsWindow(self); ++state.m_nIndex) {
         const TBBUTTON button = ButtonAt(static_cast<int>(state.m_nIndex));
         state.m_nID = static_cast<UINT>(button.idCommand);
         if ((button.fsStyle & TBSTYLE_SEP) != 0)
@@ -228,5 +229,6 @@ void CToolBar::OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) {
         if (!CWnd::OnCmdMsg(state.m_nID, CN_UPDATE_COMMAND_UI, &state, nullptr)) // the bar itself may care
             state.DoUpdate(pTarget, bDisableIfNoHndler);
     }
-    UpdateDialogControls(pTarget, bDisableIfNoHndler);
+    if (::IsWindow(self))
+        UpdateDialogControls(pTarget, bDisableIfNoHndler);
 }

@@ -1,4 +1,5 @@
 #include "afxcmn.h"
+#include "control_images.h"
 
 IMPLEMENT_DYNCREATE(CTreeCtrl, CWnd)
 
@@ -17,9 +18,7 @@ BOOL CTreeCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd*
 }
 
 void CTreeCtrl::RemoveImageList(int nImageList) {
-    const auto list = reinterpret_cast<HIMAGELIST>(SendMessage(TVM_GETIMAGELIST, static_cast<WPARAM>(nImageList)));
-    if (list != nullptr && CImageList::FromHandlePermanent(list) != nullptr)
-        SendMessage(TVM_SETIMAGELIST, static_cast<WPARAM>(nImageList), 0);
+    release_image_list(*this, nImageList, TVM_GETIMAGELIST, TVM_SETIMAGELIST);
 }
 
 void CTreeCtrl::OnDestroy() {

@@ -55,11 +55,11 @@ int CWnd::RunModalLoop(DWORD dwFlags) {
             count = 0;
         }
     }
-    return ::IsWindow(hwnd) ? m_modalResult : -1;
+    return ::IsWindow(hwnd) ? m_nModalResult : -1;
 }
 
 void CWnd::EndModalLoop(int nResult) {
-    m_modalResult = nResult;
+    m_nModalResult = nResult;
     if (m_modal) {
         m_modal = false;
         PostMessage(WM_NULL); // wakes the loop

@@ -1,0 +1,4 @@
+// Programs include this by custom.
+#pragma once
+
+#include "atlconv.h"

@@ -1,0 +1,126 @@
+// Dates of automation, texts in wide characters, and memory that the system shares.
+#include "afx_test_app.h"
+
+#include <afxadv.h>
+#include <afxdisp.h>
+#include <afxdtctl.h>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(AfxOleTime, TakesOnlyWhatIsADate) {
+    const struct {
+        int year, month, day, hour, minute, second;
+        DATE date; // 0: none
+    } cases[] = {{1900, 1, 1, 0, 0, 0, 2},         {2000, 2, 29, 12, 0, 0, 36585.5}, {1899, 12, 29, 6, 0, 0, -1.25},
+                 {9999, 12, 31, 0, 0, 0, 2958465}, {100, 1, 1, 0, 0, 0, -657434},    {1900, 2, 29, 0, 0, 0, 0},
+                 {2023, 4, 31, 0, 0, 0, 0},        {2023, 0, 1, 0, 0, 0, 0},         {99, 1, 1, 0, 0, 0, 0},
+                 {2023, 1, 1, 24, 0, 0, 0},        {2023, 1, 1, 0, 0, 60, 0},        {67536, 1, 1, 0, 0, 0, 0}};
+    for (const auto& one : cases) {
+        const COleDateTime time(one.year, one.month, one.day, one.hour, one.minute, one.second);
+        EXPECT_EQ(time.GetStatus(), one.date != 0 ? COleDateTime::valid : COleDateTime::invalid) << one.year;
+        EXPECT_EQ(time.GetDay(), one.date != 0 ? one.day : COleDateTime::error);
+        EXPECT_EQ(time.GetHour(), one.date != 0 ? one.hour : COleDateTime::error);
+        EXPECT_TRUE(one.date == 0 || time.m_dt == one.date);
+    }
+    const COleDateTime leap(2024, 12, 31, 0, 0, 0);
+    EXPECT_EQ(leap.GetDayOfYear(), 366);
+    EXPECT_EQ(leap.GetDayOfWeek(), 3);
+    EXPECT_EQ(COleDateTime(3e6).GetStatus(), COleDateTime::invalid);
+}
+
+TEST(AfxOleTime, CountsOverTheDayThatIsZero) {
+    const COleDateTime before(1899, 12, 29, 18, 0, 0), after(1899, 12, 30, 6, 0, 0);
+    EXPECT_EQ((after - before).GetTotalHours(), 12);
+    EXPECT_TRUE(before < after && after > before && before <= before && !(before >= after));
+    EXPECT_TRUE(before + COleDateTimeSpan(0, 12, 0, 0) == after && after - COleDateTimeSpan(0.5) == before);
+    EXPECT_TRUE(COleDateTime(1899, 12, 29, 6, 0, 0) < before) << "though its number is the greater one";
+    const COleDateTimeSpan span(-1, -2, -3, -4);
+    EXPECT_TRUE(span.GetDays() == -1 && span.GetHours() == -2 && span.GetMinutes() == -3 && span.GetSeconds() == -4);
+    COleDateTime none = after;
+    none.SetStatus(COleDateTime::null);
+    EXPECT_EQ((none + span).GetStatus(), COleDateTime::null);
+    EXPECT_EQ((after + COleDateTimeSpan(1e8)).GetStatus(), COleDateTime::invalid);
+    EXPECT_EQ((COleDateTime(1e8) - after).Format("%D"), "Invalid DateTimeSpan");
+}
+
+TEST(AfxOleTime, IsWrittenReadAndStored) {
+    COleDateTime time(2024, 7, 14, 8, 9, 10), again;
+    EXPECT_STREQ(time.Format("%Y-%m-%d %H:%M:%S %j %a"), "2024-07-14 08:09:10 196 Sun");
+    ASSERT_TRUE(again.ParseDateTime("2024-07-14 08:09:10"));
+    EXPECT_EQ(again, time);
+    EXPECT_FALSE(again.ParseDateTime("no date") || again.ParseDateTime(nullptr));
+    EXPECT_STREQ(again.Format(), "Invalid DateTime");
+    EXPECT_EQ(COleDateTime(__time64_t{-1} << 40).GetStatus(), COleDateTime::invalid);
+    CMemFile file;
+    CArchive out(&file, CArchive::store);
+    out << time << COleDateTimeSpan(1.5) << LONG{7} << 1.0; // of a damaged file
+    out.Close();
+    file.SeekToBegin();
+    CArchive in(&file, CArchive::load);
+    COleDateTimeSpan span;
+    COleDateTime damaged;
+    in >> again >> span >> damaged;
+    EXPECT_TRUE(again == time && span.GetTotalHours() == 36 && damaged.GetStatus() == COleDateTime::invalid);
+    CWnd parent;
+    ASSERT_TRUE(create_popup(parent));
+    CDateTimeCtrl picker;
+    ASSERT_TRUE(picker.Create(WS_CHILD | DTS_SHOWNONE, CRect(0, 0, 90, 20), &parent, 1));
+    EXPECT_TRUE(picker.SetTime(time) && picker.GetTime(again) && again == time);
+    again.SetStatus(COleDateTime::null);
+    EXPECT_TRUE(picker.SetTime(again) && picker.GetTime(time) && time.GetStatus() == COleDateTime::null);
+}
+
+// What an old function returns of its conversions; they last as long as it.
+int converted_length(LPCWSTR wide, LPCSTR narrow) {
+    USES_CONVERSION;
+    const int length = lstrlenA(W2A(wide));
+    const LPCWSTR none = A2W(nullptr), widened = A2W(narrow);
+    return none == nullptr ? length + lstrlenW(widened) : -1;
+}
+
+TEST(AfxConversion, GoesThroughTheCodePage) {
+    EXPECT_STREQ(CW2A(L"\u20AC \u4E00"), "\x80 ?");
+    EXPECT_TRUE(lstrcmpW(CA2W("\x80 a"), L"\u20AC a") == 0);
+    EXPECT_STREQ(CW2A(L"\u20AC", CP_UTF8), "\xE2\x82\xAC");
+    EXPECT_TRUE(LPWSTR(CA2W(nullptr)) == nullptr && LPSTR(CW2A(nullptr)) == nullptr && *LPSTR(CW2A(L"")) == '\0');
+    EXPECT_EQ(converted_length(L"abc", "\x80 def"), 8);
+}
+
+TEST(AfxSharedFile, IsTheSystemsMemory) {
+    CSharedFile out(GMEM_MOVEABLE, 4);
+    for (char c = 'a'; c <= 'z'; ++c)
+        out.Write(&c, 1);
+    const HGLOBAL memory = out.Detach();
+    ASSERT_NE(memory, nullptr);
+    EXPECT_TRUE(::GlobalSize(memory) >= 26 && out.GetLength() == 0 && out.Detach() == nullptr);
+    {
+        CSharedFile in;
+        in.SetHandle(memory, FALSE);
+        char text[27] = {};
+        EXPECT_EQ(in.Read(text, 26), 26u);
+        EXPECT_STREQ(text, "abcdefghijklmnopqrstuvwxyz");
+        in.SeekToEnd();
+        EXPECT_ANY_THROW(
+            try { in.Write(text, 26); } catch (CException* exception) {
+                exception->Delete();
+                throw 1;
+            })
+            << "it may not grow";
+        EXPECT_ANY_THROW(
+            try { in.SetHandle(memory); } catch (CException* exception) {
+                exception->Delete();
+                throw 1;
+            })
+            << "it has one";
+    }
+    CSharedFile longer;
+    longer.SetHandle(memory);
+    longer.SetLength(10000);
+    const HGLOBAL grown = longer.Detach();
+    EXPECT_TRUE(::GlobalSize(grown) >= 10000 && (::GlobalFlags(grown) & GMEM_LOCKCOUNT) == 0);
+    ::GlobalFree(grown);
+}
+
+} // namespace
