@@ -142,10 +142,10 @@ void CMainFrame::RestorePlace(int show) {
     if (::MonitorFromRect(kept, MONITOR_DEFAULTTONULL)) // a screen that is still there
         place.rcNormalPosition = kept;
     place.showCmd = static_cast<UINT>(number("Maximized", 0) ? SW_SHOWMAXIMIZED : show);
-    SetWindowPlacement(&place);
     for (CFrontPage* page : Pages())
         page->RestoreLayout();
     tabs_.Select(static_cast<int>(number("Page", 0)));
+    SetWindowPlacement(&place);
     if (CTipDialog::IsWanted(front_end_.profile))
         PostMessage(WM_COMMAND, ID_TIP); // over the window that is shown by then
 }

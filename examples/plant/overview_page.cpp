@@ -51,7 +51,7 @@ bool COverviewPage::CreateContents() {
     across_.SetPanes(&panels_[boiler], &right_);
     right_.SetPanes(&panels_[feed], &lower_);
     lower_.SetPanes(&panels_[furnace], &panels_[operation]);
-    ShowSetPoints();
+    ShowReadings();
     return true;
 }
 
