@@ -4,6 +4,8 @@
 #include "resource.h"
 #include "tip_dialog.h"
 
+#include <afxpriv.h>
+
 namespace {
 
 constexpr UINT_PTR update_timer = 1;
@@ -110,9 +112,12 @@ void CMainFrame::OnTimer(UINT_PTR timer) {
 }
 
 void CMainFrame::Update() {
+    const LinkState state = front_end_.station.Link().State();
     if (front_end_.station.Poll(::GetTickCount64(), front_end_.settings.limits))
         for (CFrontPage* page : Pages())
             page->ShowReadings();
+    if (front_end_.station.Link().State() != state) // while a dialog is open, the frame has no idle time
+        SendMessageToDescendants(WM_IDLEUPDATECMDUI, TRUE, 0, TRUE, TRUE);
     const CString before = banner_.Text();
     banner_.ShowReadings();
     if (banner_.Text() != before)

@@ -24,7 +24,8 @@ BOOL CTipDialog::OnInitDialog() {
     CDialog::OnInitDialog();
     tips_.LoadTips(file_);
     tips_.SetProfile(profile_, section); // goes on behind the last tip that was shown
-    return TRUE;
+    GetDlgItem(IDCANCEL)->SetFocus();    // the page's text would be selected
+    return FALSE;
 }
 
 // A dialog takes keys itself that are the page's.
