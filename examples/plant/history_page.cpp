@@ -83,9 +83,9 @@ void CHistoryPage::ShowPicked() {
     const RecordedDay& day = calendar_.Picked();
     CString text;
     if (day.year == 0)
-        text.Format("%d recorded days.\nPick one with the pointer.", static_cast<int>(days_.size()));
+        text.Format("Recorded days: %d\nPick one with the pointer.", static_cast<int>(days_.size()));
     else
-        text.Format("%d recorded days.\n%d-%02d-%02d %s", static_cast<int>(days_.size()), day.year, day.month, day.day,
+        text.Format("Recorded days: %d\n%d-%02d-%02d %s", static_cast<int>(days_.size()), day.year, day.month, day.day,
                     days_.count(day) ? "is shown." : "was not recorded.");
     text_.SetWindowText(text);
 }
