@@ -1,5 +1,7 @@
-// Uses the example programs as somebody would who has no source of theirs: drive sketch|channel|plant PROGRAM FOLDER
+// Uses the example programs as somebody would who has no source of theirs: drive sketch|channel|guide|plant PROGRAM
+// FOLDER
 #include "program.h"
+#include "scenes.h"
 
 #include "../../examples/measuring_channel/resource.h"
 #include "../../examples/sketch/resource.h"
@@ -18,10 +20,6 @@ constexpr int id_undo = 0xE12B, id_redo = 0xE12C, id_copy = 0xE122, id_save = 0x
 constexpr int file_name_field = 0x047C;
 
 using Picture = std::map<COLORREF, int>; // how many pixels of each colour
-
-void command(HWND window, int id) {
-    ::SendMessageA(window, WM_COMMAND, static_cast<WPARAM>(id), 0);
-}
 
 // What the program leaves on the clipboard.
 Picture copied(HWND frame) {
@@ -185,18 +183,8 @@ void drive_channel(const std::string& program, const std::string&) {
     again.expect_end();
 }
 
-// A window however deep inside another one.
-HWND descendant(HWND window, int id) {
-    for (HWND child = ::GetWindow(window, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
-        HWND found = ::GetDlgCtrlID(child) == id ? child : descendant(child, id);
-        if (found)
-            return found;
-    }
-    return nullptr;
-}
-
 // The numbers of the guide's program.
-void drive_plant(const std::string& program, const std::string&) {
+void drive_guide(const std::string& program, const std::string&) {
     constexpr int start = 40001, stop = 40002, settings = 40003, preview = 1002, status = 0xE801;
     Program plant(program);
     HWND frame = plant.frame();
@@ -218,7 +206,7 @@ void drive_plant(const std::string& program, const std::string&) {
 
 int main(int count, char** arguments) {
     const std::map<std::string, void (*)(const std::string&, const std::string&)> scenes = {
-        {"sketch", drive_sketch}, {"channel", drive_channel}, {"plant", drive_plant}};
+        {"sketch", drive_sketch}, {"channel", drive_channel}, {"guide", drive_guide}, {"plant", drive_front_end}};
     if (count != 4 || !scenes.count(arguments[1]))
         return 2;
     constexpr char settings[] = "Software\\ZOPWNT examples";

@@ -112,6 +112,20 @@ inline std::string text_of(HWND dialog, int field) {
     return text;
 }
 
+inline void command(HWND window, int id) {
+    ::SendMessageA(window, WM_COMMAND, static_cast<WPARAM>(id), 0);
+}
+
+// A window however deep inside another one.
+inline HWND descendant(HWND window, int id) {
+    for (HWND child = ::GetWindow(window, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
+        HWND found = ::GetDlgCtrlID(child) == id ? child : descendant(child, id);
+        if (found)
+            return found;
+    }
+    return nullptr;
+}
+
 // The colours that a window shows on the screen.
 inline std::set<COLORREF> colours_on_screen(HWND window) {
     RECT place = {};

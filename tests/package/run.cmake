@@ -58,7 +58,7 @@ take_block(cpp 2 ${WORK}/plant/sampler.cpp)
 take_block(cpp 3 ${WORK}/plant/plant.cpp)
 take_block(cpp 4 ${WORK}/plant/plant.h)
 take_block(rc 0 ${WORK}/plant/plant.rc)
-use_program(plant ${WORK}/plant plant)
+use_program(guide ${WORK}/plant plant)
 
 use_program(sketch ${EXAMPLES}/sketch sketch)
 # The drawing with its yellow figures on paper, where there are the tools to print.
@@ -79,3 +79,18 @@ else()
 endif()
 
 use_program(channel ${EXAMPLES}/measuring_channel measuring_channel)
+
+# Two programs with scripts, which run where they were built, beside the package's libraries.
+set(front_end ${WORK}/front-end)
+build_host(${EXAMPLES}/plant ${front_end})
+file(GLOB libraries ${WORK}/package/bin/*.dll)
+file(COPY ${libraries} DESTINATION ${front_end})
+string(REPLACE "/" "\\" path "Z:${front_end}/plant_front_end.exe")
+string(REPLACE "/" "\\" folder "Z:${WORK}")
+step(${EMULATOR} ${WORK}/package/bin/drive.exe plant ${path} ${folder})
+step(${EMULATOR} ${front_end}/plant_front_end.exe --render ${folder}\\pictures --data ${folder}\\front-end-data)
+file(GLOB pictures ${WORK}/pictures/plant-*.bmp)
+list(LENGTH pictures count)
+if(NOT count EQUAL 4)
+  message(FATAL_ERROR "the front end painted ${count} pages")
+endif()

@@ -1,0 +1,61 @@
+// Identifiers, for C++ and the resource script; scripts/tools.txt knows the commands, too.
+#pragma once
+
+#define IDR_MAINFRAME 128
+#define IDB_TOOLS_SMALL 129
+#define IDB_TOOLS_LARGE 130
+#define IDD_LIMITS 131
+#define IDD_COLOURS 132
+#define IDD_RECORDING 133
+#define IDD_TIP 134
+
+#define ID_SIMULATOR_START 33001
+#define ID_SIMULATOR_END 33002
+#define ID_PUMP 33003
+#define ID_BURNER 33004
+#define ID_FAULT_FIRST 33011
+#define ID_FAULT_LAST 33015
+#define ID_ACKNOWLEDGE 33021
+#define ID_SOUND 33022
+#define ID_RECORD 33023
+#define ID_REPORT_CLEAR 33024
+#define ID_SETTINGS 33025
+#define ID_PAGE_FIRST 33031
+#define ID_PAGE_LAST 33034
+#define ID_TRACE 33041
+#define ID_TIP 33042
+#define ID_VERSIONS 33043
+
+#define ID_INDICATOR_LINK 33051
+#define ID_INDICATOR_RECORDING 33052
+
+#define IDC_TOOLS 1001
+#define IDC_BANNER 1002
+#define IDC_TABS 1003
+#define IDC_OVERVIEW 1011
+#define IDC_TREND 1012
+#define IDC_HISTORY 1013
+#define IDC_REPORT 1014
+#define IDC_TIPS 1015
+
+#define IDC_GAUGE_FIRST 1021
+#define IDC_KNOB 1031
+#define IDC_FURNACE_TARGET 1032
+#define IDC_STEAM_VALVE 1033
+#define IDC_FURNACE_TEXT 1034
+#define IDC_STEAM_TEXT 1035
+#define IDC_IN_FORCE 1036
+#define IDC_EVENTS 1037
+
+#define IDC_CHART 1041
+#define IDC_CALENDAR 1042
+#define IDC_DAY_CHART 1043
+#define IDC_DAY_TEXT 1044
+
+#define IDC_LOW_FIRST 1051
+#define IDC_HIGH_FIRST 1061
+#define IDC_CHANNELS 1071
+#define IDC_COLOURS 1072
+#define IDC_FOLDER 1073
+#define IDC_BROWSE 1074
+#define IDC_SOUND 1075
