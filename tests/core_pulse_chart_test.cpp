@@ -200,8 +200,22 @@ TEST_F(PulseTransfer, WhatWasRecordedIsRead) {
     recorder.put(1, 9, afternoon + 9);
     recorder.stop();
     EXPECT_EQ(read("a.txt", false).size(), 5u);
+    for (const std::vector<std::string>& others : {std::vector<std::string>{"Flow"}, {"Flow", "Level"}})
+        EXPECT_NE(recorder.start("a.txt", others), ""); // whose records would be lost among them
+    EXPECT_EQ(read("a.txt", false).size(), 5u);
     EXPECT_NE(recorder.start("no such folder/a.txt", {"Flow"}), "");
     EXPECT_FALSE(recorder.running());
+    ASSERT_EQ(recorder.start("b.txt", {"Flow"}), "");
+    EXPECT_EQ(recorder.start("c.txt", {"Flow"}), "file already open");
+    EXPECT_TRUE(recorder.put(0, 1, afternoon)); // to the first one
+    EXPECT_TRUE(recorder.stop());
+    EXPECT_FALSE(fs::exists("c.txt"));
+    fs::remove("b.txt");
+    recorder.start("b.txt", {"Flow"});
+    recorder.put(0, 1, afternoon);
+    fs::resize_file("b.txt", 5); // as a disk that did not take it
+    EXPECT_FALSE(recorder.stop());
+    EXPECT_NE(recorder.error(), "");
     EXPECT_NE(PulseReader().open("nothing.txt"), "");
 }
 
@@ -250,7 +264,10 @@ TEST_F(PulseTransfer, AClockThatIsPutBackLosesNothing) {
         EXPECT_GE(found[i].time, found[i - 1].time);
         EXPECT_EQ(found[i].value, found[i - 1].value + 10);
     }
-    EXPECT_GE(found[17].time - found[0].time, 100 * 60 * 100);
+#ifndef _WIN32 // the runtime has no rules for this zone
+    for (std::int64_t i = 0; i < 18; ++i)
+        EXPECT_EQ(found[static_cast<std::size_t>(i)].time, axis_time_of(two_thirty) + 60'000 * i);
+#endif
     for (std::int64_t i = 1; i < 200; ++i) // and the axis' own clock never runs back
         EXPECT_EQ(axis_time_of(two_thirty + 60 * i) - axis_time_of(two_thirty), 6000 * i);
 }

@@ -178,8 +178,8 @@ TEST(PulseDecimation, PaintsWhatAllSamplesPaint) {
         const PlotArea all{0, 0, scale.width, height};
         {
             CurveRaster raster({pixels.data(), scale.width, height, scale.width}, all, origin, values, style);
-            paint_columns(series, scale, origin - CurveRaster::margin(style), origin + scale.width + CurveRaster::margin(style),
-                          pause, raster);
+            paint_columns(series, scale, origin - CurveRaster::margin(style),
+                          origin + scale.width + CurveRaster::margin(style), pause, raster);
             CurveRaster reference({expected.data(), scale.width, height, scale.width}, all, origin, values, style);
             EverySample::paint(series, scale, pause, reference);
         }
@@ -402,6 +402,27 @@ TEST(PulseView, FollowsNowUntilTheUserLooksBack) {
     EXPECT_EQ(view.x(101'000), 299);
     view.show(5, 1); // turned round
     EXPECT_EQ(view.span(), PulseView::shortest_span);
+}
+
+TEST(PulseView, StaysWhereItIsPut) {
+    PulseView view;
+    view.resize(600);
+    view.show(1'000'000, 1'006'000); // before there are samples
+    EXPECT_EQ(view.start(), 1'000'000);
+    view.set_history(0, 100'000);
+    EXPECT_EQ(view.start(), 1'000'000);
+    const std::int64_t end = view.time(599);
+    for (int width = 599; width > 1; width = width * 9 / 10)
+        view.resize(width);
+    view.resize(600);
+    EXPECT_EQ(view.time(599), end);
+    view.set_live(true);
+    view.zoom(600'000, 0); // more than there is
+    view.scroll(-10);
+    EXPECT_TRUE(view.live()); // nothing moved
+    view.zoom(100, 0);
+    EXPECT_EQ(view.x(100'000), 594);    // six columns a hundredth, all of the last one's
+    EXPECT_EQ(view.x(view.start()), 0); // where the axis begins
 }
 
 TEST(PulseView, HoldsAtAnyCall) {

@@ -490,14 +490,13 @@ TEST_F(Pulse, MayBeDestroyedOnAnyNotification) {
 TEST_F(Pulse, AWeekOfLiveTimeGrowsNothing) {
     constexpr __int64 day = 8'640'000, tick = 40'000;
     struct Held {
-        DWORD objects, windows;
+        int objects, windows;
         SIZE_T memory;
     };
     const auto held = [] {
         PROCESS_MEMORY_COUNTERS memory = {};
         ::K32GetProcessMemoryInfo(::GetCurrentProcess(), &memory, sizeof memory);
-        return Held{::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS),
-                    ::GetGuiResources(::GetCurrentProcess(), GR_USEROBJECTS), memory.PagefileUsage};
+        return Held{live_gdi_objects(), user_objects(), memory.PagefileUsage};
     };
     chart_.SetCapacity(100'000);
     Held first = {};
@@ -510,6 +509,7 @@ TEST_F(Pulse, AWeekOfLiveTimeGrowsNothing) {
     }
     const Held last = held();
     EXPECT_EQ(chart_.GetSampleCount(flow_), 100'000);
+    EXPECT_GT(first.objects, 0);
     EXPECT_EQ(last.objects, first.objects);
     EXPECT_EQ(last.windows, first.windows);
     EXPECT_TRUE(first.memory > 0 && last.memory < first.memory + 1'000'000) << first.memory << ' ' << last.memory;

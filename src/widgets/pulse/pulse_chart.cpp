@@ -131,7 +131,24 @@ std::vector<int> PulseChart::ranges() const {
 }
 
 std::int64_t PulseChart::effective_pause() const {
-    return longest_pause > 0 ? longest_pause : PulseBlock::hole - 1;
+    return longest_pause > 0 ? std::min(longest_pause, PulseBlock::hole - 1) : PulseBlock::hole - 1;
+}
+
+std::int64_t PulseChart::usual_pause() const {
+    constexpr std::uint64_t looked_at = 1000;
+    std::int64_t slowest = 0;
+    for (const ChartCurve& each : curves_) {
+        const PulseSeries& samples = *each.samples;
+        std::vector<std::int64_t> pauses;
+        for (std::uint64_t i = samples.first() + 1; i < samples.end() && pauses.size() < looked_at; ++i)
+            pauses.push_back(samples[i].time - samples[i - 1].time);
+        if (pauses.empty())
+            continue;
+        const auto middle = pauses.begin() + static_cast<std::ptrdiff_t>(pauses.size() / 2);
+        std::nth_element(pauses.begin(), middle, pauses.end());
+        slowest = std::max(slowest, *middle);
+    }
+    return slowest;
 }
 
 std::optional<double> PulseChart::value_at(int index, std::int64_t time) const {

@@ -37,9 +37,10 @@ public:
     static constexpr int no_curve = -1;
 
     std::string title;
-    std::int64_t span = 6000;          ///< hundredths
-    std::int64_t longest_pause = 1000; ///< hundredths; a longer one is a gap; 0: none is
-    int axes = 0b1011;                 ///< SideBits: left, right, bottom
+    std::int64_t span = 6000; ///< hundredths
+    static constexpr std::int64_t default_pause = 1000;
+    std::int64_t longest_pause = default_pause; ///< hundredths; a longer one is a gap; 0: none is
+    int axes = 0b1011;                          ///< SideBits: left, right, bottom
     bool grid = true;
     bool legend = true;
     bool fit = false;
@@ -68,6 +69,8 @@ public:
     std::optional<std::int64_t> oldest() const;
     std::optional<std::int64_t> newest() const;
     std::int64_t effective_pause() const;
+    /// Between most samples of the slowest curve; 0 without any.
+    std::int64_t usual_pause() const;
 
     /// True when it changed something that is seen. Unknown keys, words and numbers change nothing.
     bool load_line(std::string_view line);

@@ -1,6 +1,7 @@
 #include "widgets/pulse/pulse_transfer.h"
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <cmath>
 #include <cstdio>
@@ -8,6 +9,8 @@
 #include <ctime>
 #include <filesystem>
 #include <fstream>
+
+#include <sys/stat.h>
 
 #include "pulse/pulse_codec.h"
 #include "pulse/wnt_pulse_file.h"
@@ -21,7 +24,8 @@ namespace wnt {
 namespace {
 
 constexpr std::int64_t look_every = 4096; // characters between two looks at a file's size
-constexpr int no_error = 0, cannot_open = 1, writing_failed = 9;
+constexpr int no_error = 0, cannot_open = 1, already_open = 8, writing_failed = 9;
+constexpr std::size_t most_in_second = 65'536; // more are not spread among each other
 
 namespace chrono = std::chrono;
 constexpr chrono::sys_days day_zero{chrono::year(1979) / 12 / 31}; // of an axis
@@ -48,10 +52,38 @@ std::int64_t day_of(std::int64_t seconds) {
     return fields ? fields->tm_year * 366 + fields->tm_yday : -1;
 }
 
+// Of the open file: a folder's entry may tell an older size until the file is closed.
 std::int64_t size_of(const std::string& path) {
+    std::ifstream file(path, std::ios::binary | std::ios::ate);
+    return file ? static_cast<std::int64_t>(file.tellg()) : -1;
+}
+
+// Neither a folder nor a device.
+bool is_file(const std::string& path) {
+#ifdef _WIN32
+    struct _stat64 info;
+    return ::_stat64(path.c_str(), &info) == 0 && (info.st_mode & S_IFMT) == S_IFREG;
+#else
+    struct stat info;
+    return ::stat(path.c_str(), &info) == 0 && S_ISREG(info.st_mode);
+#endif
+}
+
+// Wherever the current folder goes. Names stay in the bytes that they came in.
+std::string absolute(const std::string& path) {
+#ifdef _WIN32
+    char whole[_MAX_PATH];
+    return ::_fullpath(whole, path.c_str(), sizeof whole) ? whole : path;
+#else
     std::error_code failed;
-    const auto size = std::filesystem::file_size(path, failed);
-    return failed ? -1 : static_cast<std::int64_t>(size);
+    const auto whole = std::filesystem::absolute(path, failed);
+    return failed ? path : whole.string();
+#endif
+}
+
+std::string without_trailing_blanks(std::string text) {
+    text.erase(text.find_last_not_of(' ') + 1);
+    return text;
 }
 
 } // namespace
@@ -60,10 +92,9 @@ PulseRecorder::PulseRecorder() = default;
 PulseRecorder::~PulseRecorder() = default;
 
 std::string PulseRecorder::start(const std::string& path, std::vector<std::string> titles) {
-    stop();
-    std::error_code failed;
-    const auto whole = std::filesystem::absolute(path, failed); // wherever the current folder goes
-    first_path_ = failed ? path : whole.string();
+    if (running())
+        return text_of(already_open);
+    first_path_ = absolute(path);
     titles_ = std::move(titles);
     part_ = 1;
     const auto now = static_cast<std::int64_t>(std::time(nullptr));
@@ -72,11 +103,27 @@ std::string PulseRecorder::start(const std::string& path, std::vector<std::strin
     return error_;
 }
 
-void PulseRecorder::stop() {
+bool PulseRecorder::stop() {
+    const bool written = !file_ || grown(true);
+    if (!written)
+        error_ = text_of(writing_failed);
     file_.reset();
+    return written;
+}
+
+// What is there must be of the same curves: other records would be lost among them.
+bool PulseRecorder::continues(const std::string& path) const {
+    PulseReader there;
+    if (size_of(path) <= 0)
+        return true;
+    if (!there.open(path).empty() || there.titles().size() != titles_.size())
+        return false;
+    return std::ranges::equal(there.titles(), titles_, {}, {}, without_trailing_blanks);
 }
 
 std::string PulseRecorder::open(const std::string& path) {
+    if (!continues(path))
+        return "the file holds something else";
     auto file = std::make_unique<CWntPulseFile>(CWntPulseFile::append);
     file->SetLineCount(static_cast<int>(titles_.size()));
     for (std::size_t i = 0; i < titles_.size(); ++i)
@@ -87,13 +134,16 @@ std::string PulseRecorder::open(const std::string& path) {
     path_ = path;
     size_ = size_of(path);
     written_ = 0;
+    looked_ = Clock::now();
     return {};
 }
 
 // What a full disk refuses shows in the file's size alone.
-bool PulseRecorder::grown() {
-    if (written_ < look_every)
+bool PulseRecorder::grown(bool at_once) {
+    const auto now = Clock::now();
+    if (!at_once && written_ < look_every && now - looked_ < std::chrono::seconds(1))
         return true;
+    looked_ = now;
     const std::int64_t size = size_of(path_);
     const bool as_expected = size >= size_ + written_;
     size_ = size;
@@ -102,14 +152,16 @@ bool PulseRecorder::grown() {
 }
 
 std::string PulseRecorder::part_name(std::int64_t seconds) const {
-    const std::filesystem::path path(first_path_);
+    const std::size_t name_at = first_path_.find_last_of("/\\:") + 1; // 0 without any
+    const std::size_t dot = first_path_.find_last_of('.');
+    const std::size_t stem_end = dot == std::string::npos || dot <= name_at ? first_path_.size() : dot;
     char what[40] = "";
     if (const auto fields = local_fields(seconds); daily_ && fields)
         std::snprintf(what, sizeof what, "-%04d%02d%02d", fields->tm_year + 1900, fields->tm_mon + 1, fields->tm_mday);
-    std::string name = path.stem().string() + what;
+    std::string name = first_path_.substr(0, stem_end) + what;
     if (part_ > 1)
         name += "_" + std::to_string(part_);
-    return (path.parent_path() / (name + path.extension().string())).string();
+    return name + first_path_.substr(stem_end);
 }
 
 bool PulseRecorder::next_part(std::int64_t seconds) {
@@ -131,12 +183,12 @@ bool PulseRecorder::put(int curve, double value, std::int64_t seconds) {
     if (written) {
         const int characters = file_->Put(curve, static_cast<float>(value), seconds);
         written_ += std::max(characters, 0);
-        written = characters > 0 && grown();
+        written = characters > 0 && grown(false);
         if (!written)
             error_ = text_of(writing_failed);
     }
     if (!written)
-        stop();
+        file_.reset();
     return written;
 }
 
@@ -147,22 +199,17 @@ PulseReader::~PulseReader() = default;
 
 std::string PulseReader::open(const std::string& path) {
     *this = PulseReader();
-    std::error_code failed;
     PulseHeader header;
-    if (!std::filesystem::is_regular_file(path, failed) || !begins_with_header(path))
+    if (!is_file(path) || !begins_with_header(path))
         return "no file of samples";
     file_.reset(std::fopen(path.c_str(), "r"));
     if (!file_ || read_header(file_.get(), header, nullptr) != PulseFault::none) {
         file_.reset();
         return "no file of samples";
     }
-    const std::uintmax_t size = std::filesystem::file_size(path, failed);
-    size_ = failed ? 0 : static_cast<std::int64_t>(size);
-    for (int i = 0; i < header.line_count; ++i) {
-        std::string title = header.titles[i];
-        title.erase(title.find_last_not_of(' ') + 1);
-        titles_.push_back(std::move(title));
-    }
+    size_ = size_of(path);
+    for (int i = 0; i < header.line_count; ++i)
+        titles_.push_back(without_trailing_blanks(header.titles[i]));
     seconds_.assign(titles_.size(), {});
     onwards_.assign(titles_.size(), {});
     return {};
@@ -181,6 +228,21 @@ void PulseReader::flush(int curve, const std::function<void(int, std::int64_t, d
         take(curve, onward(curve, second.time + (spread_ ? 100 * i / count : 0)),
              second.values[static_cast<std::size_t>(i)]);
     second.values.clear();
+}
+
+// The hour after summer ends is there twice: what a stamp of it may mean, the earlier time first.
+std::array<std::int64_t, 2> PulseReader::readings_of(const CalendarTime& stamp) {
+    const std::int64_t plain = axis_time_of(moment_of(stamp, -1));
+    std::array<std::int64_t, 2> times = {plain, plain};
+    for (const int daylight : {0, 1})
+        without_result_error([&] {
+            const std::int64_t moment = moment_of(stamp, daylight);
+            if (const auto fields = local_fields(moment); fields && fields->tm_isdst == daylight) {
+                const std::int64_t time = axis_time_of(moment);
+                times = {std::min(times[0], time), std::max(times[1], time)};
+            }
+        });
+    return times;
 }
 
 double PulseReader::progress() const {
@@ -209,14 +271,15 @@ bool PulseReader::read(int records, const std::function<void(int, std::int64_t, 
         ++records_;
         if (stamp_ != sample->stamp) { // most samples come with others of their second
             stamp_ = sample->stamp;
-            dated_ = without_result_error([&] { time_ = axis_time_of(moment_of(parse_stamp(sample->stamp), -1)); });
+            dated_ = without_result_error([&] { times_ = readings_of(parse_stamp(sample->stamp)); });
         }
         if (!dated_ || sample->curve < 0 || sample->curve >= static_cast<int>(seconds_.size()))
             continue;
         Second& second = seconds_[static_cast<std::size_t>(sample->curve)];
-        if (second.time != time_)
+        const std::int64_t time = times_[0] >= second.time ? times_[0] : times_[1];
+        if (second.time != time || second.values.size() == most_in_second)
             flush(sample->curve, take);
-        second.time = time_;
+        second.time = time;
         second.values.push_back(sample->value);
     }
     return true;

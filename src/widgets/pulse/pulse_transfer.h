@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <chrono>
 #include <cstdint>
 #include <cstdio>
 #include <functional>
@@ -9,6 +11,7 @@
 #include <vector>
 
 #include "pulse/pulse_series.h"
+#include "time/calendar_time.h"
 #include "widgets/axis/axis_types.h"
 
 class CWntPulseFile;
@@ -21,9 +24,11 @@ public:
     PulseRecorder();
     ~PulseRecorder();
 
-    /// Begins a file, or goes on behind an existing one. Empty, or what the file's error is called.
+    /// Begins a file, or goes on behind an existing one of the same curves. Empty, or what the error is called; nothing
+    /// changes while it runs.
     std::string start(const std::string& path, std::vector<std::string> titles);
-    void stop();
+    /// False, and error() tells why, where the disk did not take all that was put.
+    bool stop();
     bool running() const { return file_ != nullptr; }
     /// It runs, and the curve was there when it began.
     bool records(int curve) const { return file_ && 0 <= curve && curve < static_cast<int>(titles_.size()); }
@@ -38,7 +43,10 @@ public:
 
 private:
     std::string open(const std::string& path);
-    bool grown();
+    using Clock = std::chrono::steady_clock;
+
+    bool continues(const std::string& path) const;
+    bool grown(bool at_once);
     std::string part_name(std::int64_t seconds) const;
     bool full() const { return most_bytes_ > 0 && size_ + written_ >= most_bytes_; }
     bool next_part(std::int64_t seconds);
@@ -50,6 +58,7 @@ private:
     bool daily_ = false;
     std::int64_t written_ = 0; // characters since the size was looked at
     std::int64_t size_ = 0;
+    Clock::time_point looked_;
     std::int64_t day_ = -1;
     int part_ = 1;
 };
@@ -81,6 +90,7 @@ private:
         std::int64_t time = 0;
         std::vector<double> values;
     };
+    static std::array<std::int64_t, 2> readings_of(const CalendarTime& stamp);
     void flush(int curve, const std::function<void(int, std::int64_t, double)>& take);
     std::int64_t onward(int curve, std::int64_t time);
 
@@ -95,7 +105,7 @@ private:
     };
     std::vector<Onward> onwards_;
     std::string stamp_; // of the last sample, and what it says
-    std::int64_t time_ = 0;
+    std::array<std::int64_t, 2> times_{};
     bool dated_ = false;
     bool spread_ = false;
     std::int64_t records_ = 0;

@@ -3,6 +3,7 @@
 #include "pulse/pulse_columns.h"
 
 #include <cstdint>
+#include <optional>
 
 namespace wnt {
 
@@ -24,11 +25,11 @@ public:
     std::int64_t time(std::int64_t x) const { return columns_.time(origin_ + x); }
     std::int64_t x(std::int64_t time) const { return columns_.column(time) - origin_; }
 
-    /// 1 .. ColumnScale::most_width; the time at the right edge stays.
+    /// 1 .. ColumnScale::most_width; the time at the right edge stays, however often the width changes.
     void resize(std::int32_t width);
     /// Clamped; the time at x stays there, or live, now at the right edge.
     void zoom(std::int64_t span, std::int64_t x);
-    /// Shows a stretch and looks back.
+    /// Shows a stretch, within the history or not, and looks back.
     void show(std::int64_t start, std::int64_t end);
     /// Moves to later times; looks back, or is live again where that brings now back. Stops at the ends of the history.
     void scroll(std::int64_t columns);
@@ -39,13 +40,15 @@ public:
 
 private:
     void keep_in_history();
-    void put_end(std::int64_t column) { origin_ = column - columns_.width + 1; }
+    /// The origin that has the time's last column at the right edge.
+    std::int64_t origin_before(std::int64_t time) const;
 
     ColumnScale columns_;
     std::int64_t origin_ = 0;
     std::int64_t oldest_ = 0;
     std::int64_t now_ = 0;
     bool live_ = true;
+    std::optional<std::int64_t> kept_end_; // while nothing but the width changes
 };
 
 } // namespace wnt

@@ -14,7 +14,8 @@ using namespace wnt;
 namespace {
 
 constexpr UINT left_id = 1, right_id = 2, time_id = 3, scroll_id = 4;
-constexpr UINT tick_milliseconds = 33; // a picture at most so often
+constexpr UINT tick_milliseconds = 33;  // a picture at most so often
+constexpr UINT idle_milliseconds = 250; // and so often while no samples arrive
 
 } // namespace
 
@@ -54,7 +55,9 @@ void CWntPulse::forget_window() {
     State& s = *state_;
     s.drag = State::Drag::none;
     s.stale = s.ticking = s.reading = s.tip_shown = s.presented = false;
+    s.idle = false;
     s.anew = true;
+    s.axis_ranges = {};
     s.reader = PulseReader();
 }
 
@@ -76,8 +79,11 @@ unsigned char CWntPulse::LoadLine(const char* line, int mode) {
     if (!this || !line)
         return 0;
     if (mode == script_line) {
+        const std::int64_t span = state_->chart.span;
         state_->anew = state_->chart.load_line(line) || state_->anew;
-        if (state_->chart.span != state_->view.span())
+        if (state_->chart.curves().empty())
+            state_->recorder.stop();
+        if (state_->chart.span != span)
             state_->view.zoom(state_->chart.span, state_->view.columns().width / 2);
     } else if (mode == script_end) {
         restyle();
@@ -98,6 +104,8 @@ void CWntPulse::SetTitle(const char* title) {
     if (!this)
         return;
     state_->chart.title = text_of(title).substr(0, title_capacity - 1);
+    if (m_hWnd)
+        SetWindowText(state_->chart.title.c_str());
     restyle();
 }
 
@@ -123,6 +131,7 @@ void CWntPulse::RemoveCurves() {
         return;
     state_->picture = PulsePicture(); // it knows the series
     state_->chart.clear_curves();
+    state_->recorder.stop();
     restyle();
 }
 
@@ -180,9 +189,12 @@ int CWntPulse::IsCurveShown(int curve) const {
 __int64 CWntPulse::Now() {
     const auto running = [] { return static_cast<std::int64_t>(::GetTickCount64() / 10); };
     static const std::int64_t start = [&] {
-        SYSTEMTIME now;
-        ::GetSystemTime(&now);
-        return axis_time_of(CTime::GetCurrentTime().GetTime()) + now.wMilliseconds / 10 - running();
+        FILETIME now; // tenths of microseconds since 1601
+        ::GetSystemTimeAsFileTime(&now);
+        const auto hundredths =
+            static_cast<std::int64_t>(ULARGE_INTEGER{{now.dwLowDateTime, now.dwHighDateTime}}.QuadPart / 100'000);
+        constexpr std::int64_t from_1601_to_1970 = 11'644'473'600;
+        return axis_time_of(hundredths / 100 - from_1601_to_1970) + hundredths % 100 - running();
     }();
     return start + running();
 }
@@ -281,6 +293,7 @@ int CWntPulse::ShowTime(__int64 start, __int64 end) {
         return 0;
     state_->know_history();
     state_->view.show(start, end);
+    state_->chart.span = state_->view.span();
     refresh(false);
     return 1;
 }
@@ -357,18 +370,33 @@ void CWntPulse::tell(UINT code, int which, __int64 time) {
 void CWntPulse::samples_arrived() {
     state_->legend_stale = true;
     state_->stale = true;
-    if (m_hWnd && !std::exchange(state_->ticking, true))
+    if (!m_hWnd)
+        return;
+    const bool running = std::exchange(state_->ticking, true) && !std::exchange(state_->idle, false);
+    if (!running)
         SetTimer(pulse_tick_timer, tick_milliseconds, nullptr);
+}
+
+void CWntPulse::tick() {
+    State& s = *state_;
+    if (std::exchange(s.stale, false))
+        return refresh(false);
+    update_surroundings();
+    if (s.by_clock && s.view.live()) { // on into the time without samples
+        if (!std::exchange(s.idle, true))
+            SetTimer(pulse_tick_timer, idle_milliseconds, nullptr);
+        refresh(false);
+    } else if (std::exchange(s.ticking, false)) {
+        s.idle = false;
+        KillTimer(pulse_tick_timer);
+    }
 }
 
 void CWntPulse::OnTimer(UINT_PTR timer) {
     if (timer == pulse_tick_timer) {
-        if (std::exchange(state_->stale, false)) {
-            refresh(false);
-        } else if (std::exchange(state_->ticking, false)) {
-            KillTimer(pulse_tick_timer);
-            update_surroundings();
-        }
+        tick();
+    } else if (timer == pulse_tip_timer) {
+        update_tip(); // the window may have been moved or hidden
     } else if (timer == pulse_read_timer) {
         read_on();
     } else {

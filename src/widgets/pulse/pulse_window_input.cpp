@@ -48,11 +48,16 @@ bool CWntPulse::legend_click(CPoint point) {
         const int curve = static_cast<int>(i);
         if (!rect_of(entries[i]).PtInRect(point))
             continue;
-        ShowCurve(curve, !IsCurveShown(curve));
-        tell(WNT_PULSE_CURVE, curve);
+        toggle_curve(curve);
         return true;
     }
     return false;
+}
+
+void CWntPulse::toggle_curve(int curve) {
+    const StillThere self(*this);
+    if (ShowCurve(curve, !IsCurveShown(curve)) && self)
+        tell(WNT_PULSE_CURVE, curve);
 }
 
 void CWntPulse::OnLButtonDown(UINT flags, CPoint point) {
@@ -148,6 +153,8 @@ void CWntPulse::OnContextMenu(CWnd*, CPoint point) {
 }
 
 void CWntPulse::zoom_at(int x, double factor) {
+    if (state_->drag != State::Drag::none)
+        return; // it goes on from where it began
     const double span = static_cast<double>(state_->view.span()) * factor;
     state_->view.zoom(static_cast<std::int64_t>(span + 0.5), x);
     view_changed();
@@ -192,10 +199,21 @@ void CWntPulse::remove_cursors() {
 
 // One that is not shown begins in the middle.
 void CWntPulse::move_cursor(int which, int columns) {
-    const PulseView& view = state_->view;
-    const auto& cursor = state_->cursors[static_cast<std::size_t>(which)];
-    const std::int64_t x = cursor ? view.x(*cursor) + columns : view.columns().width / 2;
-    std::int64_t time = view.time(std::clamp<std::int64_t>(x, 0, view.columns().width - 1));
+    PulseView& view = state_->view;
+    const auto cursor = state_->cursors[static_cast<std::size_t>(which)];
+    const int width = view.columns().width;
+    if (cursor) { // the view follows
+        const std::int64_t at = view.x(*cursor) + columns;
+        const StillThere self(*this);
+        if (at < 0 || at >= width) {
+            view.scroll(at < 0 ? at : at - width + 1);
+            view_changed();
+        }
+        if (!self)
+            return;
+    }
+    const std::int64_t x = cursor ? view.x(*cursor) + columns : width / 2;
+    std::int64_t time = view.time(std::clamp<std::int64_t>(x, 0, width - 1));
     if (cursor && columns < 0) // where a hundredth is wider than a pixel
         time = std::min(time, *cursor - 1);
     else if (cursor)
@@ -254,7 +272,9 @@ void CWntPulse::OnKeyDown(UINT key, UINT, UINT) {
 
 void CWntPulse::OnChar(UINT character, UINT, UINT) {
     const int middle = state_->view.columns().width / 2;
-    if (character == '+')
+    if ('0' <= character && character <= '9')
+        toggle_curve(character == '0' ? 9 : static_cast<int>(character - '1'));
+    else if (character == '+')
         zoom_at(middle, 1 / zoom_step);
     else if (character == '-')
         zoom_at(middle, zoom_step);

@@ -11,6 +11,7 @@ using namespace wnt;
 
 namespace {
 
+constexpr UINT tip_milliseconds = 200; // between looks at whether the tip has to go with the window
 constexpr UINT single_line = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS;
 
 std::string value_text(double value) {
@@ -68,16 +69,25 @@ void CWntPulse::OnPaint() {
         paint_plot(pass.dc());
         paint_overlay(pass);
     }
-    if (::GetFocus() == m_hWnd && !plot_alone) {
-        CRect around = plot;
-        around.InflateRect(2, 2);
-        pass.focus(around);
+    if (::GetFocus() == m_hWnd && !plot_alone)
+        pass.focus(focus_place());
+}
+
+// Where no axis lies over it.
+CRect CWntPulse::focus_place() const {
+    CRect place;
+    place.UnionRect(rect_of(state_->layout.title), rect_of(state_->layout.legend));
+    if (place.IsRectEmpty()) {
+        place = rect_of(state_->plot());
+        place.InflateRect(2, 2);
     }
+    return place;
 }
 
 void CWntPulse::paint_legend(PaintPass& pass) {
     State& s = *state_;
     const COLORREF ground = ::GetSysColor(COLOR_BTNFACE), ink = ::GetSysColor(COLOR_BTNTEXT);
+    const auto newest = s.chart.newest();
     for (int i = 0; i < GetCurveCount() && i < static_cast<int>(s.layout.entries.size()); ++i) {
         CRect entry = rect_of(s.layout.entries[static_cast<std::size_t>(i)]);
         if (entry.IsRectEmpty())
@@ -90,10 +100,18 @@ void CWntPulse::paint_legend(PaintPass& pass) {
         entry.left = sample.right + side / 2;
         entry.right -= side;
         const COLORREF colour = curve.shown ? ink : faded(ink, ground);
-        const PulseSeries& samples = *curve.samples;
-        const auto value = samples.size() ? s.chart.value_at(i, samples.newest()) : std::nullopt;
-        const std::string shown = value ? value_text(*value) : "";
-        pass.text(entry, (curve.title + "  " + shown).c_str(), DT_LEFT | single_line, colour, &s.font);
+        // The present value; the name gives way to it.
+        const auto value = newest ? s.chart.value_at(i, *newest) : std::nullopt;
+        const std::string shown = value ? "  " + value_text(*value) : "";
+        CFont* const before = pass.dc().SelectObject(&s.font);
+        const CString title(curve.title.c_str());
+        const int number = pass.dc().GetTextExtent(shown.c_str()).cx, name = pass.dc().GetTextExtent(title).cx;
+        pass.dc().SelectObject(before);
+        CRect place(entry.left, entry.top,
+                    std::min<int>(entry.left + name, std::max<int>(entry.right - number, entry.left)), entry.bottom);
+        pass.text(place, title, DT_LEFT | single_line, colour, &s.font);
+        place = CRect(place.right, entry.top, entry.right, entry.bottom);
+        pass.text(place, shown.c_str(), DT_LEFT | single_line, colour, &s.font);
     }
 }
 
@@ -138,18 +156,24 @@ void CWntPulse::paint_overlay(PaintPass& pass) {
 
 void CWntPulse::update_tip() {
     State& s = *state_;
-    const int which = s.cursors[0] ? 0 : 1;
+    const auto seen = [&](const std::optional<std::int64_t>& cursor) {
+        return cursor && 0 <= s.view.x(*cursor) && s.view.x(*cursor) < s.plot().width();
+    };
+    const int which = seen(s.cursors[0]) ? 0 : 1;
     const auto at = s.cursors[static_cast<std::size_t>(which)];
     const std::int64_t x = at ? s.view.x(*at) : -1;
-    if (!tip_.m_hWnd || x < 0 || x >= s.plot().width() || ::GetFocus() != m_hWnd || !IsWindowVisible()) {
-        if (std::exchange(s.tip_shown, false))
+    if (!tip_.m_hWnd || !seen(at) || ::GetFocus() != m_hWnd || !IsWindowVisible()) {
+        if (std::exchange(s.tip_shown, false)) {
+            KillTimer(pulse_tip_timer);
             tip_.HideTip();
+        }
         return;
     }
-    s.tip_shown = true;
+    if (!std::exchange(s.tip_shown, true))
+        SetTimer(pulse_tip_timer, tip_milliseconds, nullptr);
     WntTip tip;
     tip.title = text_of_axis_time(*at).c_str();
-    const auto other = which == 0 ? s.cursors[1] : std::nullopt;
+    const auto other = which == 0 ? s.cursors[1] : s.cursors[0];
     if (other)
         tip.title += CString("\n") + span_text(*other - *at).c_str();
     for (int i = 0; i < GetCurveCount(); ++i) {

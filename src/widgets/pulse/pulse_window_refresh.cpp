@@ -59,7 +59,7 @@ bool is_shown(const CWnd& window) {
 std::vector<std::int32_t> grid_rows(CWntAxis& axis) {
     std::vector<std::int32_t> rows;
     const int lines = std::clamp(axis.GetScaleLineCount() + 1, 0, 200);
-    for (int i = 0; i < lines; ++i)
+    for (int i = -1; i < lines; ++i)                 // the count is from the first label above the minimum or below
         rows.push_back(axis.GetScaleLinePos(i) - 1); // see ValueScale
     return rows;
 }
@@ -154,8 +154,7 @@ void CWntPulse::update_ranges() {
             for (std::size_t k = i; k < count; ++k)
                 if (const PulseSeries& samples = *chart.curves()[k].samples;
                     ranges[k] == ranges[i] && chart.curves()[k].shown)
-                    seen.include(samples.summary(samples.seek(state_->view.start(), samples.end()),
-                                                 samples.seek(state_->view.end(), samples.end())));
+                    seen.include(state_->seen_of(samples));
             if (!(scales[i].low < scales[i].high))
                 scales[i] = {curve.low, curve.high, height};
             scales[i] = fitted(scales[i], seen.low, seen.high);
@@ -171,13 +170,9 @@ void CWntPulse::update_axes() {
         if (curve == ranges.end() || !is_shown(axis))
             return;
         const ValueScale& scale = state_->scales[static_cast<std::size_t>(curve - ranges.begin())];
-        const float least = float_of(scale.low), greatest = float_of(scale.high);
-        float low = 0, high = 0;
-        axis.ScreenToValue(state_->plot().height(), &low);
-        axis.ScreenToValue(0, &high);
-        if (low == least && high == greatest)
-            return;
-        axis.SetRange(least, greatest);
+        const std::pair shown(float_of(scale.low), float_of(scale.high));
+        if (std::exchange(state_->axis_ranges[static_cast<std::size_t>(&axis == &right_)], shown) != shown)
+            axis.SetRange(shown.first, shown.second);
     };
     show(left_, 0);
     show(right_, state_->chart.axes & side_left ? 1 : 0);

@@ -18,6 +18,7 @@ using namespace wnt;
 
 namespace {
 
+constexpr __int64 least_part = 4096; // more than what a file begins with
 constexpr int records_at_once = 200;
 constexpr auto piece = std::chrono::milliseconds(20); // of reading, between two looks at the window's messages
 constexpr std::size_t most_copied = 2'000'000;        // lines of values
@@ -104,12 +105,19 @@ int CWntPulse::StopRecording() {
     return 1;
 }
 
+int CWntPulse::StopReading() {
+    if (!IsReading())
+        return 0;
+    end_reading(0);
+    return 1;
+}
+
 int CWntPulse::IsRecording() const {
     return this && state_->recorder.running();
 }
 
 int CWntPulse::SetRecordingParts(__int64 bytes, int daily) {
-    if (!this || bytes < 0)
+    if (!this || bytes < 0 || (bytes > 0 && bytes < least_part))
         return 0;
     state_->recorder.set_parts(bytes, daily != 0);
     return 1;
@@ -164,16 +172,18 @@ void CWntPulse::read_on() {
     samples_arrived();
 }
 
-// Shows all that was read.
+// Shows all that was read. What is slow is not torn apart: a gap is far longer than the time between most samples.
 void CWntPulse::end_reading(int whole) {
     State& s = *state_;
     s.reading = false;
+    s.chart.longest_pause = std::max(PulseChart::default_pause, 10 * s.chart.usual_pause());
     KillTimer(pulse_read_timer);
     s.reader = PulseReader();
     const auto oldest = s.chart.oldest(), newest = s.chart.newest();
     if (newest) {
         s.know_history();
         s.view.show(*oldest, *newest + std::max<std::int64_t>((*newest - *oldest) / 50, 1));
+        s.chart.span = s.view.span();
     }
     restyle();
     tell(WNT_PULSE_READ, whole);
@@ -182,6 +192,8 @@ void CWntPulse::end_reading(int whole) {
 int CWntPulse::CopyPicture() {
     if (!this || !m_hWnd)
         return 0;
+    if (std::exchange(state_->tip_shown, false))
+        tip_.HideTip();
     RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN); // a menu may lie over it still
     CRect client;
     GetClientRect(&client);
@@ -237,8 +249,11 @@ void CWntPulse::choose_recording() {
         CFileDialog dialog(FALSE, "txt", nullptr, OFN_HIDEREADONLY, file_filter, this);
         if (dialog.DoModal() != IDOK || !self)
             return;
-        if (!StartRecording(dialog.GetPathName()) && state_->recorder.error().empty())
+        if (!StartRecording(dialog.GetPathName())) {
+            const std::string& error = state_->recorder.error();
+            MessageBox(error.empty() ? "There is nothing to record." : error.c_str(), nullptr, MB_ICONEXCLAMATION);
             return;
+        }
     }
     tell(WNT_PULSE_RECORDING);
 }
@@ -275,13 +290,15 @@ void CWntPulse::show_menu(CPoint screen) {
     item(WNT_PULSE_CMD_ZOOM, "&Zoom control", time_.GetZoom(&from, &to) != 0);
     menu.AppendMenu(MF_SEPARATOR);
     item(WNT_PULSE_CMD_RECORD, s.recorder.running() ? "End &recording" : "&Record...", s.recorder.running());
-    item(WNT_PULSE_CMD_OPEN, "&Open...");
+    menu.AppendMenu(MF_STRING | (s.recorder.running() ? MF_GRAYED : 0), WNT_PULSE_CMD_OPEN, "&Open...");
     menu.AppendMenu(MF_SEPARATOR);
-    for (int i = 0; i < GetCurveCount(); ++i)
-        colours.AppendMenu(MF_STRING, WNT_PULSE_CMD_CURVE + static_cast<UINT>(i),
-                           (state_->chart.curve(i).title + "...").c_str());
+    for (int i = 0; i < GetCurveCount(); ++i) {
+        CString title = (state_->chart.curve(i).title + "...").c_str();
+        title.Replace("&", "&&");
+        colours.AppendMenu(MF_STRING, WNT_PULSE_CMD_CURVE + static_cast<UINT>(i), title);
+    }
     menu.AppendMenu(MF_POPUP | (GetCurveCount() ? 0 : MF_GRAYED), reinterpret_cast<UINT_PTR>(colours.m_hMenu),
-                    "Co&lours");
+                    "Colo&urs");
     menu.AppendMenu(MF_SEPARATOR);
     item(WNT_PULSE_CMD_COPY_PICTURE, "Copy p&icture");
     item(WNT_PULSE_CMD_COPY_VALUES, "Copy &values");

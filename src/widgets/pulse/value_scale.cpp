@@ -69,9 +69,9 @@ ValueScale fitted(const ValueScale& present, double low, double high) {
     if (present.low <= low && high <= present.high && high - low >= 0.4 * shown)
         return present;
     double extent = high - low;
-    const double least = std::max({std::abs(low), std::abs(high), 1e-30}) * 1e-6;
-    if (extent < least) // a level line: a range around it that its own digits can tell
-        extent = std::max(least, 1e-30);
+    const double magnitude = std::max(std::abs(low), std::abs(high));
+    if (extent <= magnitude * 1e-6) // a level line, whose last digits' noise is not spread over the plot
+        extent = magnitude > 0 ? std::max(magnitude * 0.01, 1e-30) : 1;
     const Step step = round_step(extent / 5);
     ValueScale result = present;
     result.low = step.times(std::floor(low / step.size()));

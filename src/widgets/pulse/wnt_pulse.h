@@ -64,9 +64,9 @@ enum WntPulseCommand : UINT {
 /// zooms at the pointer, plus and minus in the middle, dragging with Shift to the stretch it marks, the slider of the
 /// time axis' zoom control to what it covers when it is let go. A click sets the
 /// first cursor, with Control the second one, whose difference to the first is told; Left and Right move the first one
-/// where it is shown, with Shift the second, with Control by ten pixels; Escape removes them. A click on a name of the
-/// legend hides and shows a curve, the right button opens the menu. A file of samples that is dropped is opened, any
-/// other one read as a script.
+/// where it is shown, with Shift the second, with Control by ten pixels; Escape removes them. The digits 1 to 9 and 0
+/// hide and show a curve, as a click on a name of the legend does; the right button opens the menu. A file of samples
+/// that is dropped is opened, any other one read as a script.
 ///
 /// In a dialog template its class is "WntPulse" and its text the name of a script or else the title. Operations answer
 /// 1, or 0 when they did nothing; unknown script keys and values are ignored.
@@ -108,7 +108,8 @@ public:
     int AddSamples(int curve, const double* values, const __int64* times, int count);
     /// Samples that each curve keeps; the oldest gives way. 1,000,000 unless set; 0 for more than 100,000,000 of all.
     int SetCapacity(int samples);
-    /// A pause longer than these hundredths is a gap in a curve; 0: none is.
+    /// A pause longer than these hundredths is a gap in a curve, 10 s unless set; 0: none is. A file that is opened
+    /// sets it to ten times the usual one, if that is more.
     int SetLongestPause(__int64 hundredths);
     int GetSampleCount(int curve) const;
     void RemoveSamples();
@@ -135,13 +136,16 @@ public:
     /// The last value until then; 0 before the first and in a gap.
     int GetValueAt(int curve, __int64 time, double* value) const;
 
-    /// Writes every value that arrives from now on for a curve that is there now, behind what an existing file holds:
-    /// with two decimals and in whole seconds of its time. It ends by itself, and the host is told, when the disk
-    /// refuses.
+    /// Writes every value that arrives from now on for a curve that is there now, behind what an existing file of the
+    /// same curves holds: with two decimals and in whole seconds of its time; gaps, and times before 1970, are left
+    /// out. It ends by itself, and the host is told, when the disk refuses, which is seen a second later at most if
+    /// samples arrive; and when the curves are removed. 0, and nothing changes, while it runs and for a file of
+    /// something else.
     int StartRecording(const char* path);
+    /// GetRecordingError() tells then whether all was written.
     int StopRecording();
     int IsRecording() const;
-    /// A new file at every so many bytes (0: never), or every day, with the day or a number in its name.
+    /// A new file at every so many bytes (0: never; at least 4096), or every day, with the day or a number in its name.
     int SetRecordingParts(__int64 bytes, int daily);
     /// Of the last time; empty without. Belongs to the chart.
     const char* GetRecordingError() const;
@@ -150,6 +154,8 @@ public:
     /// it.
     int OpenFile(const char* path, int spread);
     int IsReading() const;
+    /// Keeps what was read.
+    int StopReading();
 
     int CopyPicture();
     /// The values shown, a line a sample: time, curve, value, parted by tabs. 0 for more than 2,000,000 of them.
@@ -203,6 +209,7 @@ private:
     void rescale(bool settings_changed);
     void restyle();
     void samples_arrived();
+    void tick();
     void refresh(bool anew);
     void update_ranges();
     void update_axes();
@@ -211,6 +218,7 @@ private:
     void update_tip();
     void view_changed();
     void tell(UINT code, int which = 0, __int64 time = 0);
+    CRect focus_place() const;
     void paint_legend(wnt::PaintPass& pass);
     void draw_plot();
     void copy_columns(CDC& dc, int from, int to);
@@ -218,6 +226,7 @@ private:
     void follow();
     void paint_overlay(wnt::PaintPass& pass);
     bool legend_click(CPoint point);
+    void toggle_curve(int curve);
     void zoom_at(int x, double factor);
     void move_cursor(int which, int columns);
     void put_cursor(int which, __int64 time);
