@@ -210,6 +210,18 @@ TEST_F(Pulse, APaintShowsWhatArrivedBeforeTheTick) {
     EXPECT_NEAR(static_cast<double>(start()), 1'000'000, 50);
 }
 
+TEST_F(Pulse, NowGoesOnWithoutSamplesWhereTheyComeByTheClock) {
+    __int64 from = 0, to = 0;
+    for (const __int64 late : {300LL, 3000LL}) {
+        chart_.RemoveSamples();
+        const __int64 newest = CWntPulse::Now() - late;
+        chart_.AddSample(flow_, 50, newest);
+        show();
+        chart_.GetShownTime(&from, &to);
+        EXPECT_EQ(to > newest + 200, late == 300) << to - newest;
+    }
+}
+
 TEST_F(Pulse, TheTimeAxisZoomsToWhatItsSliderCovers) {
     feed(0, 60'000);
     auto& axis = dynamic_cast<CWntAxis&>(*chart_.GetDlgItem(3));
@@ -297,6 +309,14 @@ TEST_F(Pulse, CursorsReadOff) {
 }
 
 TEST_F(Pulse, TheLegendHidesCurves) {
+    host_.told.clear();
+    for (const int shown : {0, 1}) { // by its digit
+        chart_.SendMessage(WM_CHAR, '2', 0);
+        EXPECT_EQ(chart_.IsCurveShown(level_), shown);
+    }
+    chart_.SendMessage(WM_CHAR, '9', 0); // there is no ninth
+    EXPECT_THAT(host_.told,
+                testing::ElementsAre(std::pair(UINT{WNT_PULSE_CURVE}, 1), std::pair(UINT{WNT_PULSE_CURVE}, 1)));
     feed(0, 6000);
     EXPECT_GE(extent(blue).second, 0);
     for (int x = 5; x < 400 && chart_.IsCurveShown(level_); x += 5) // somewhere in the row below the title
