@@ -32,6 +32,29 @@ function(take_block language number to)
   file(WRITE ${to} "${text}")
 endfunction()
 
+# Follows a guide from an empty folder: writes each of its files, named on the line before its block, and builds at the
+# end of every step, which a heading begins.
+function(follow_guide guide folder)
+  file(READ ${guide} text)
+  while(text MATCHES "\n`([A-Za-z_]+\\.[a-z]+)`[^\n]*:\n\n```[a-z]+\n")
+    set(opening "${CMAKE_MATCH_0}")
+    set(name "${CMAKE_MATCH_1}")
+    string(FIND "${text}" "${opening}" start)
+    string(SUBSTRING "${text}" 0 ${start} before)
+    if(before MATCHES "\n## " AND EXISTS ${folder}/CMakeLists.txt)
+      build_host(${folder} ${folder}/build)
+    endif()
+    string(LENGTH "${opening}" length)
+    math(EXPR start "${start} + ${length}")
+    string(SUBSTRING "${text}" ${start} -1 text)
+    string(FIND "${text}" "```" end)
+    string(SUBSTRING "${text}" 0 ${end} block)
+    file(WRITE ${folder}/${name} "${block}")
+    string(SUBSTRING "${text}" ${end} -1 text)
+  endwhile()
+  build_host(${folder} ${folder}/build)
+endfunction()
+
 # Builds a program, puts it beside the package's libraries and uses it.
 function(use_program scene source program)
   build_host(${source} ${WORK}/${program}-build)
@@ -81,6 +104,9 @@ take_block(cpp 3 ${WORK}/plant/plant.cpp)
 take_block(cpp 4 ${WORK}/plant/plant.h)
 take_block(rc 0 ${WORK}/plant/plant.rc)
 use_program(guide ${WORK}/plant plant)
+
+get_filename_component(docs ${GUIDE} DIRECTORY)
+follow_guide(${docs}/plant.md ${WORK}/guided)
 
 use_program(sketch ${EXAMPLES}/sketch sketch)
 step_printing(printed.sketch ffff00ffff00ffff00ffff00 # the drawing's yellow figures
