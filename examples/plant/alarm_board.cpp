@@ -3,7 +3,8 @@
 #include <algorithm>
 
 // A value has to come back by a hundredth of its range: noise at a limit raises one alarm, not a hundred.
-void AlarmBoard::Judge(Alarm& alarm, double value, const ChannelLimits& limits, std::size_t channel, unsigned& turn) {
+void AlarmBoard::Judge(std::size_t channel, double value, const ChannelLimits& limits) {
+    Alarm& alarm = alarms_[channel];
     const ChannelRange& range = plant_ranges[channel];
     const bool lasts = alarm.state == State::raised || alarm.state == State::acknowledged;
     const double back = lasts ? (range.greatest - range.least) / 100.0 : 0;
@@ -11,7 +12,7 @@ void AlarmBoard::Judge(Alarm& alarm, double value, const ChannelLimits& limits, 
     const bool low = value < limits.low + (alarm.high ? 0 : back);
     if (high || low) {
         if (!lasts || alarm.high != high)
-            alarm = {State::raised, high, high ? limits.high : limits.low, ++turn};
+            alarm = {State::raised, high, high ? limits.high : limits.low, ++turn_};
     } else if (lasts) {
         alarm.state = alarm.state == State::raised ? State::passed : State::quiet;
     }
@@ -20,7 +21,7 @@ void AlarmBoard::Judge(Alarm& alarm, double value, const ChannelLimits& limits, 
 void AlarmBoard::Look(const PlantReadings& readings, const PlantLimits& limits, std::uint32_t unknown) {
     for (std::size_t i = 0; i < plant_channels; ++i)
         if (!(unknown >> i & 1))
-            Judge(alarms_[i], readings.values[i], limits[i], i, turn_);
+            Judge(i, readings.values[i], limits[i]);
 }
 
 void AlarmBoard::Acknowledge() {

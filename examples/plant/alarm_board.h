@@ -40,7 +40,7 @@ private:
         int limit = 0;
         unsigned turn = 0;
     };
-    static void Judge(Alarm& alarm, double value, const ChannelLimits& limits, std::size_t channel, unsigned& turn);
+    void Judge(std::size_t channel, double value, const ChannelLimits& limits);
 
     std::array<Alarm, plant_channels> alarms_{};
     unsigned turn_ = 0;

@@ -5,6 +5,7 @@ namespace {
 // The calendar's own measures, in pixels.
 constexpr int strip = 16, row_height = 30, columns = 7;
 constexpr COLORREF mark_colour = RGB(40, 96, 176), pick_colour = RGB(198, 60, 52);
+constexpr COLORREF headline_text = RGB(0, 0, 128), headline_ground = RGB(192, 192, 192);
 
 } // namespace
 
@@ -66,6 +67,35 @@ bool CDayCalendar::Hit(CPoint point, RecordedDay& day) const {
 void CDayCalendar::OnPaint() {
     CWntCalendar::OnPaint();
     CClientDC dc(GetWindow(GW_CHILD));
+    PaintWeekdays(dc);
+    PaintDays(dc);
+}
+
+// The headline is as many pixels high on any screen, and so has to be its text.
+void CDayCalendar::PaintWeekdays(CDC& dc) {
+    constexpr const char* names[columns] = {"Mon", "Tue", "Wed", "Thu", "Fri", "Sat", "Sun"};
+    constexpr int text_height = 13;
+    if (!headline_font_.m_hObject)
+        headline_font_.CreateFont(text_height, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
+                                  OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH, "Arial");
+    CFont* const before = dc.SelectObject(&headline_font_);
+    CRect headline = Grid();
+    headline.bottom = headline.top;
+    headline.top -= strip;
+    dc.FillSolidRect(headline, headline_text); // of which the lower line stays
+    headline.bottom -= 1;
+    dc.FillSolidRect(headline, headline_ground);
+    dc.SetTextColor(headline_text);
+    for (int column = 0; column < columns; ++column) {
+        CRect place = Cell(0, column);
+        place.top = headline.top;
+        place.bottom = headline.bottom;
+        dc.DrawText(names[column], place, DT_SINGLELINE | DT_CENTER | DT_VCENTER);
+    }
+    dc.SelectObject(before);
+}
+
+void CDayCalendar::PaintDays(CDC& dc) {
     for (int row = 0; row <= Grid().Height() / row_height; ++row) {
         for (int column = 0; column < columns; ++column) {
             const RecordedDay day = DayAt(row, column);
@@ -73,10 +103,10 @@ void CDayCalendar::OnPaint() {
             cell.IntersectRect(cell, Grid());
             if (marked_.count(day))
                 dc.FillSolidRect(cell.right - 11, cell.bottom - 8, 8, 5, mark_colour);
-            if (day == picked_) {
-                cell.DeflateRect(1, 1, 0, 0);
-                dc.Draw3dRect(cell, pick_colour, pick_colour);
-                cell.DeflateRect(1, 1);
+            if (day != picked_)
+                continue;
+            for (int inset = 0; inset < 2; ++inset) {
+                cell.DeflateRect(1, 1, inset, inset);
                 dc.Draw3dRect(cell, pick_colour, pick_colour);
             }
         }

@@ -9,7 +9,8 @@
 /// Told to the parent by WM_NOTIFY with an NMHDR when a day is clicked: Picked() tells which.
 inline constexpr UINT DAY_PICKED = 1;
 
-/// A calendar that marks days, and lets its user pick one.
+/// A calendar that marks days, and lets its user pick one. Its weekdays stand in the middle of their columns, at any
+/// resolution of the screen.
 class CDayCalendar : public CWntCalendar {
 public:
     void Mark(std::set<RecordedDay> days);
@@ -23,6 +24,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    void PaintWeekdays(CDC& dc);
+    void PaintDays(CDC& dc);
     CRect Grid() const;
     CRect Cell(int row, int column) const;
     RecordedDay DayAt(int row, int column) const;
@@ -32,4 +35,5 @@ private:
     std::set<RecordedDay> marked_;
     RecordedDay picked_{};
     RecordedDay pressed_{};
+    CFont headline_font_;
 };

@@ -38,7 +38,7 @@ bool CHistoryPage::CreateContents() {
     sash_.SetKeptPane(1);
     sash_.SetLeastSizes(Scaled(160), Scaled(240));
     sash_.SetPanes(&days_panel_, &chart_);
-    sash_.SetPosition(Scaled(410)); // the names of the weekdays want that much
+    sash_.SetPosition(Scaled(330));
     calendar_.SetShownDate(CTime::GetCurrentTime() - CTimeSpan(28, 0, 0, 0));
     ShowPicked();
     return AddPlantCurves(chart_, front_end_.settings);

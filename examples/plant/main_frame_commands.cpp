@@ -46,8 +46,10 @@ void CMainFrame::OnSimulatorStart() {
     STARTUPINFO start = {};
     start.cb = sizeof start;
     PROCESS_INFORMATION made = {};
-    if (!::CreateProcess(nullptr, command.GetBuffer(), nullptr, nullptr, FALSE, CREATE_NO_WINDOW, nullptr,
-                         front_end_.folder, &start, &made)) {
+    const BOOL started = ::CreateProcess(nullptr, command.GetBuffer(), nullptr, nullptr, FALSE, CREATE_NO_WINDOW,
+                                         nullptr, front_end_.folder, &start, &made);
+    command.ReleaseBuffer();
+    if (!started) {
         CWntErrorBox("Simulator", "The simulator does not start.", command).DoModal();
         return;
     }

@@ -145,7 +145,9 @@ void COverviewPage::Arrange(int width, int height) {
 void COverviewPage::ShowReadings() {
     const PlantLink& link = front_end_.station.Link();
     for (std::size_t i = 0; i < plant_channels; ++i) {
-        gauges_[i].SetCurVal(static_cast<int>(std::lround(link.Readings().values[i])));
+        const int value = static_cast<int>(std::lround(link.Readings().values[i]));
+        if (value != gauges_[i].GetCurVal()) // each call would be a line in the trace
+            gauges_[i].SetCurVal(value);
         const bool refused = link.Refused() >> i & 1;
         if (refused != static_cast<bool>(refused_ >> i & 1))
             gauges_[i].SetTitles(CString(plant_ranges[i].name) + (refused ? ": no signal" : ""), plant_ranges[i].unit);
@@ -190,7 +192,8 @@ void COverviewPage::ShowSetPoints() {
         if (shown != wanted)
             text.SetWindowText(wanted);
     };
-    knob_.SetCurVal(target);
+    if (target != knob_.GetCurVal())
+        knob_.SetCurVal(target);
     furnace_target_.SetScrollPos(target);
     steam_valve_.SetScrollPos(valve);
     show(furnace_text_, "Furnace: %d \260C", target);

@@ -80,8 +80,10 @@ void CReportPage::PaintAll(CDC& dc) {
     out_.fillcolour(face, 0);
     out_.boxa1(0, 0, out_.xmax, out_.ymax);
     out_.linecolour(ink, 0);
-    out_.titlechars(plot_.left, out_.ymax - Scaled(34), plot_.Width(), Scaled(24),
-                    const_cast<char*>("Least, mean and greatest values since the start, per cent of their ranges"));
+    out_.titlechars(
+        plot_.left, out_.ymax - Scaled(34), plot_.Width(), Scaled(24),
+        const_cast<char*>(
+            "Least, mean and greatest values since the start, per cent of their ranges; as a number the mean"));
     PaintGrid();
     for (std::size_t i = 0; i < plant_channels; ++i)
         if (front_end_.station.Statistics().Count(i) > 0)

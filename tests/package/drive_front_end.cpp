@@ -13,6 +13,7 @@ namespace {
 
 constexpr COLORREF amber = RGB(250, 232, 190), red = RGB(190, 40, 36), pale_red = RGB(246, 218, 214);
 constexpr const char* furnace_limit = "800"; // below what the plant rests at
+constexpr int id_print = 0xE107;
 constexpr int furnace_limit_field = IDC_HIGH_FIRST + furnace_temperature;
 
 // A block of the plant's, seen from a third process.
@@ -230,6 +231,8 @@ int use(const std::string& program, const std::string& data, Plant& plant) {
     raise_and_acknowledge(window);
     drag_sash(window);
     record(window, data);
+    window.Command(id_print); // without a printer nothing is printed
+    expect(::IsWindowVisible(window.Part(IDC_REPORT)) != 0, "what is printed is shown");
     end_and_start_the_plant(window, plant);
     play_faults(window, plant);
     open_a_day(window);

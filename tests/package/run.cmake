@@ -32,6 +32,29 @@ function(take_block language number to)
   file(WRITE ${to} "${text}")
 endfunction()
 
+# Follows a guide from an empty folder: writes each of its files, named on the line before its block, and builds at the
+# end of every step, which a heading begins.
+function(follow_guide guide folder)
+  file(READ ${guide} text)
+  while(text MATCHES "\n`([A-Za-z_]+\\.[a-z]+)`[^\n]*:\n\n```[a-z]+\n")
+    set(opening "${CMAKE_MATCH_0}")
+    set(name "${CMAKE_MATCH_1}")
+    string(FIND "${text}" "${opening}" start)
+    string(SUBSTRING "${text}" 0 ${start} before)
+    if(before MATCHES "\n## " AND EXISTS ${folder}/CMakeLists.txt)
+      build_host(${folder} ${folder}/build)
+    endif()
+    string(LENGTH "${opening}" length)
+    math(EXPR start "${start} + ${length}")
+    string(SUBSTRING "${text}" ${start} -1 text)
+    string(FIND "${text}" "```" end)
+    string(SUBSTRING "${text}" 0 ${end} block)
+    file(WRITE ${folder}/${name} "${block}")
+    string(SUBSTRING "${text}" ${end} -1 text)
+  endwhile()
+  build_host(${folder} ${folder}/build)
+endfunction()
+
 # Builds a program, puts it beside the package's libraries and uses it.
 function(use_program scene source program)
   build_host(${source} ${WORK}/${program}-build)
@@ -39,6 +62,28 @@ function(use_program scene source program)
   string(REPLACE "/" "\\" path "Z:${WORK}/package/bin/${program}.exe")
   string(REPLACE "/" "\\" folder "Z:${WORK}")
   step(${EMULATOR} ${WORK}/package/bin/drive.exe ${scene} ${path} ${folder})
+endfunction()
+
+# A step that prints a document, whose first page holds these pixels. Without tools to print it is not done, which
+# `printed` tells.
+function(step_printing document pixels)
+  set(page "${WORK}/printed/${document}.ppm") # the print server needs a moment
+  execute_process(COMMAND ${SOURCE}/../with_printer ${WORK}/printed bash -c
+      "\"$@\" && for ((i = 0; i < 600; ++i)); do [ ! -f '${page}' ] || exit 0; sleep 0.1; done; exit 1" - ${ARGN}
+    WORKING_DIRECTORY ${WORK} RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE output)
+  if(status EQUAL 77)
+    message(STATUS "${output}")
+    set(printed FALSE PARENT_SCOPE)
+    return()
+  elseif(NOT status EQUAL 0)
+    message(FATAL_ERROR "${ARGN}\nended with ${status}:\n${output}")
+  else()
+    file(READ ${page} shown HEX)
+    if(NOT shown MATCHES "${pixels}")
+      message(FATAL_ERROR "the printed page of ${document} is not what it should be")
+    endif()
+  endif()
+  set(printed TRUE PARENT_SCOPE)
 endfunction()
 
 file(REMOVE_RECURSE ${WORK})
@@ -60,23 +105,12 @@ take_block(cpp 4 ${WORK}/plant/plant.h)
 take_block(rc 0 ${WORK}/plant/plant.rc)
 use_program(guide ${WORK}/plant plant)
 
+get_filename_component(docs ${GUIDE} DIRECTORY)
+follow_guide(${docs}/plant.md ${WORK}/guided)
+
 use_program(sketch ${EXAMPLES}/sketch sketch)
-# The drawing with its yellow figures on paper, where there are the tools to print.
-set(page ${WORK}/printed/printed.sketch.ppm) # the print server needs a moment
-execute_process(COMMAND ${SOURCE}/../with_printer ${WORK}/printed bash -c
-    "\"$@\" && for ((i = 0; i < 600; ++i)); do [ ! -f ${page} ] || exit 0; sleep 0.1; done; exit 1" -
-    ${EMULATOR} ${WORK}/package/bin/sketch.exe /p printed.sketch
-  WORKING_DIRECTORY ${WORK} RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE output)
-if(status EQUAL 77)
-  message(STATUS "${output}")
-elseif(NOT status EQUAL 0)
-  message(FATAL_ERROR "printing ended with ${status}:\n${output}")
-else()
-  file(READ ${page} pixels HEX)
-  if(NOT pixels MATCHES "ffff00ffff00ffff00ffff00")
-    message(FATAL_ERROR "the printed page shows no figure")
-  endif()
-endif()
+step_printing(printed.sketch ffff00ffff00ffff00ffff00 # the drawing's yellow figures
+  ${EMULATOR} ${WORK}/package/bin/sketch.exe /p printed.sketch)
 
 use_program(channel ${EXAMPLES}/measuring_channel measuring_channel)
 
@@ -87,7 +121,11 @@ file(GLOB libraries ${WORK}/package/bin/*.dll)
 file(COPY ${libraries} DESTINATION ${front_end})
 string(REPLACE "/" "\\" path "Z:${front_end}/plant_front_end.exe")
 string(REPLACE "/" "\\" folder "Z:${WORK}")
-step(${EMULATOR} ${WORK}/package/bin/drive.exe plant ${path} ${folder})
+step_printing("Plant report" 808080808080808080808080 # its axes
+  ${EMULATOR} ${WORK}/package/bin/drive.exe plant ${path} ${folder})
+if(NOT printed)
+  step(${EMULATOR} ${WORK}/package/bin/drive.exe plant ${path} ${folder})
+endif()
 step(${EMULATOR} ${front_end}/plant_front_end.exe --render ${folder}\\pictures --data ${folder}\\front-end-data)
 file(GLOB pictures ${WORK}/pictures/plant-*.bmp)
 list(LENGTH pictures count)
