@@ -92,6 +92,8 @@ private:
     friend class CDockBar;
     friend class CFrameWnd;
     void Undelay();
+    bool DragOutline(CSize held, CPoint& dropped);
+    int OutlineAt(CPoint screen, CSize held, CRect& rect);
 
     enum class show { as_is, soon, not_soon };
     show m_delayed = show::as_is;
