@@ -40,11 +40,10 @@ private:
 } // namespace
 
 // Where the bar would be on the screen, held at the place; thin where it would be docked, else as its small frame.
-int CControlBar::OutlineAt(CPoint screen, CSize held, CRect& rect) {
+int CControlBar::OutlineAt(CPoint screen, CSize held, const outline_sizes& sizes, CRect& rect) {
     CDockBar* dock = m_pDockSite->DockBarFor(*this, screen);
     const bool upright = dock != nullptr && (dock->GetBarStyle() & CBRS_ORIENT_VERT) != 0;
-    const DWORD floating = LM_HORZ | LM_MRUWIDTH, docked = upright ? LM_VERTDOCK : LM_HORZ | LM_HORZDOCK;
-    rect = CRect(screen - held, CalcDynamicLayout(-1, dock != nullptr ? docked : floating));
+    rect = CRect(screen - held, dock == nullptr ? sizes.floating : upright ? sizes.upright : sizes.lying);
     if (dock == nullptr)
         CMiniFrameWnd::CalcBorders(rect, WS_POPUP | WS_CAPTION | WS_SYSMENU | MFS_SYNCACTIVE | MFS_4THICKFRAME);
     if (screen.x >= rect.right) // held beyond its end
@@ -56,6 +55,10 @@ int CControlBar::OutlineAt(CPoint screen, CSize held, CRect& rect) {
 
 // False where the user gave up.
 bool CControlBar::DragOutline(CSize held, CPoint& dropped) {
+    const outline_sizes sizes{CalcDynamicLayout(-1, LM_HORZ | LM_HORZDOCK), CalcDynamicLayout(-1, LM_VERTDOCK),
+                              CalcDynamicLayout(-1, LM_HORZ | LM_MRUWIDTH)};
+    m_pDockSite->RecalcLayout(); // measured in those forms, the bar gets its own back
+    UpdateWindow();
     drag_outline outline;
     MSG message;
     while (::GetCapture() == m_hWnd && ::GetMessage(&message, nullptr, 0, 0) > 0) {
@@ -67,7 +70,7 @@ bool CControlBar::DragOutline(CSize held, CPoint& dropped) {
             return false;
         if (message.message == WM_MOUSEMOVE) {
             CRect rect;
-            const int width = OutlineAt(message.pt, held, rect);
+            const int width = OutlineAt(message.pt, held, sizes, rect);
             outline.show(rect, width);
         } else {
             ::DispatchMessage(&message);
@@ -95,6 +98,4 @@ void CControlBar::OnLButtonDown(UINT nFlags, CPoint point) {
     const CPoint corner = dropped - held;
     if (done)
         m_pDockSite->DropControlBar(this, dropped, &corner);
-    else
-        m_pDockSite->RecalcLayout(); // the outline's sizes were those of other places
 }
