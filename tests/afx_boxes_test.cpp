@@ -46,23 +46,6 @@ TEST_F(AfxBoxes, ListsFindSelectAndForget) {
     EXPECT_TRUE(list.GetCount() == 0 && list.GetCurSel() == LB_ERR);
 }
 
-TEST_F(AfxBoxes, ListsOfSeveralTellWhatIsSelected) {
-    CListBox list;
-    ASSERT_TRUE(list.Create(shown | LBS_EXTENDEDSEL, place, &parent, 1));
-    for (int i = 0; i < 6; ++i)
-        list.AddString(CString('a' + static_cast<char>(i), 1));
-    list.SelItemRange(TRUE, 1, 4);
-    list.SelItemRange(FALSE, 2, 3);
-    int found[6] = {};
-    ASSERT_EQ(list.GetSelCount(), 2);
-    EXPECT_EQ(list.GetSelItems(6, found), 2);
-    EXPECT_TRUE(found[0] == 1 && found[1] == 4 && list.GetSel(1) > 0 && list.GetSel(2) == 0);
-    list.SetSel(-1);
-    EXPECT_EQ(list.GetSelCount(), 6) << "all";
-    list.SetCaretIndex(3);
-    EXPECT_EQ(list.GetCaretIndex(), 3);
-}
-
 // Sorts numbers by their size, and writes down what it lets go of.
 class numbers_box : public CComboBox {
 public:

@@ -296,44 +296,6 @@ TEST(AfxReflection, GivesAControlItsMessagesBeforeItsParent) {
                                          "compare", "update"));
 }
 
-// A menu that draws its own items.
-class drawn_menu : public CMenu {
-public:
-    int drawn = 0, measured = 0;
-    void DrawItem(LPDRAWITEMSTRUCT) override { ++drawn; }
-    void MeasureItem(LPMEASUREITEMSTRUCT item) override { ++measured, item->itemWidth = 77; }
-};
-
-TEST(AfxMenu, ObjectsHoldMenusAndDrawTheirItems) {
-    CWnd wnd;
-    ASSERT_TRUE(create_popup(wnd));
-    drawn_menu popup;
-    CMenu bar;
-    ASSERT_TRUE(popup.CreatePopupMenu());
-    EXPECT_FALSE(popup.CreatePopupMenu()) << "it holds one";
-    popup.AppendMenu(MF_OWNERDRAW, 50);
-    ASSERT_TRUE(bar.CreateMenu());
-    bar.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(popup.m_hMenu), "Popup");
-    EXPECT_EQ(bar.GetSubMenu(0), &popup) << "the permanent object";
-    ASSERT_TRUE(wnd.SetMenu(&bar));
-    MEASUREITEMSTRUCT measure{};
-    measure.CtlType = ODT_MENU;
-    measure.itemID = 50;
-    wnd.SendMessage(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&measure));
-    DRAWITEMSTRUCT draw{};
-    draw.CtlType = ODT_MENU;
-    draw.hwndItem = reinterpret_cast<HWND>(popup.m_hMenu);
-    wnd.SendMessage(WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&draw));
-    EXPECT_EQ(popup.measured, 1);
-    EXPECT_EQ(measure.itemWidth, 77u);
-    EXPECT_EQ(popup.drawn, 1);
-    CString name;
-    EXPECT_EQ(bar.GetMenuString(0, name, MF_BYPOSITION), 5);
-    EXPECT_STREQ(name, "Popup");
-    wnd.SetMenu(nullptr);
-    popup.Detach(); // the bar destroys it
-}
-
 TEST(AfxExceptions, MacrosDeleteWhatTheyCatchUnlessItIsThrownOn) {
     bool caught = false;
     TRY{TRY{throw new CUserException;

@@ -19,45 +19,6 @@ protected:
     CWnd parent;
 };
 
-TEST_F(AfxCommonControls, NumbersStayInTheirRanges) {
-    CSliderCtrl slider;
-    CSpinButtonCtrl spin;
-    CProgressCtrl progress;
-    CEdit buddy;
-    ASSERT_TRUE(slider.Create(shown | TBS_AUTOTICKS | TBS_ENABLESELRANGE, place, &parent, 1));
-    ASSERT_TRUE(buddy.Create(shown, CRect(0, 0, 50, 20), &parent, 2));
-    ASSERT_TRUE(spin.Create(shown | UDS_SETBUDDYINT | UDS_NOTHOUSANDS, CRect(50, 0, 60, 20), &parent, 3));
-    ASSERT_TRUE(progress.Create(shown, place, &parent, 4));
-    slider.SetRange(-20, 20);
-    slider.SetPos(30);
-    slider.SetTicFreq(10);
-    slider.SetSelection(-5, 5);
-    int least = 0, most = 0;
-    slider.GetSelection(least, most);
-    EXPECT_TRUE(slider.GetPos() == 20 && least == -5 && most == 5);
-    EXPECT_EQ(slider.GetNumTics(), 5u);
-    spin.SetBuddy(&buddy);
-    spin.SetRange32(-100000, 100000);
-    spin.SetPos32(70000); // more than 16 bits
-    CString text;
-    buddy.GetWindowText(text);
-    EXPECT_EQ(text, "70000");
-    spin.GetRange32(least, most);
-    EXPECT_TRUE(least == -100000 && most == 100000 && spin.GetPos32() == 70000);
-    BOOL wrong = FALSE;
-    buddy.SetWindowText("no number");
-    spin.GetPos32(&wrong);
-    EXPECT_TRUE(wrong);
-    spin.SetRange(5, -5); // downwards, as a spin button likes it
-    spin.GetRange(least, most);
-    EXPECT_TRUE(least == 5 && most == -5);
-    progress.SetRange32(0, 70000);
-    EXPECT_EQ(progress.SetPos(69999), 0);
-    progress.SetStep(10);
-    progress.StepIt();
-    EXPECT_LE(progress.GetPos(), 70000);
-}
-
 TEST_F(AfxCommonControls, AHotKeyHasANameWithItsModifiers) {
     CHotKeyCtrl key;
     ASSERT_TRUE(key.Create(shown, place, &parent, 1));
@@ -71,31 +32,6 @@ TEST_F(AfxCommonControls, AHotKeyHasANameWithItsModifiers) {
                         " + " + CHotKeyCtrl::GetKeyName('P', FALSE));
 }
 
-TEST_F(AfxCommonControls, AHeaderKeepsItsItemsAndTheirOrder) {
-    CHeaderCtrl header;
-    ASSERT_TRUE(header.Create(shown | HDS_DRAGDROP, place, &parent, 1));
-    for (int i = 0; i < 3; ++i) {
-        const CString name('a' + static_cast<char>(i), 1);
-        HDITEM item{};
-        item.mask = HDI_TEXT | HDI_WIDTH;
-        item.pszText = const_cast<LPTSTR>(name.GetString());
-        item.cxy = 10 * (i + 1);
-        EXPECT_EQ(header.InsertItem(99, &item), i);
-    }
-    int order[3] = {2, 0, 1}, found[3] = {};
-    ASSERT_TRUE(header.SetOrderArray(3, order) && header.GetOrderArray(found));
-    EXPECT_THAT(found, testing::ElementsAre(2, 0, 1));
-    EXPECT_EQ(header.OrderToIndex(0), 2);
-    CRect third;
-    EXPECT_TRUE(header.GetItemRect(2, third));
-    EXPECT_EQ(third.Width(), 30);
-    HDHITTESTINFO hit{};
-    hit.pt = CPoint(35, 5);
-    EXPECT_EQ(header.HitTest(&hit), 0) << "behind the third, which comes first";
-    EXPECT_TRUE(header.DeleteItem(0) && header.GetItemCount() == 2);
-    EXPECT_FALSE(header.DeleteItem(7));
-}
-
 TEST_F(AfxCommonControls, AFilmIsPlayedFromTheResources) {
     CAnimateCtrl film;
     ASSERT_TRUE(film.Create(shown | ACS_TRANSPARENT, place, &parent, 1));
@@ -104,27 +40,6 @@ TEST_F(AfxCommonControls, AFilmIsPlayedFromTheResources) {
     EXPECT_TRUE(film.Seek(3) && film.Play(0, UINT(-1), UINT(-1)));
     EXPECT_TRUE(film.Stop());
     EXPECT_TRUE(film.Close());
-}
-
-TEST_F(AfxCommonControls, AStatusBarKeepsTheTextsOfItsParts) {
-    CStatusBarCtrl bar;
-    ASSERT_TRUE(bar.Create(shown, place, &parent, 1));
-    int ends[3] = {30, 60, -1}, found[3] = {};
-    ASSERT_TRUE(bar.SetParts(3, ends));
-    EXPECT_EQ(bar.GetParts(3, found), 3);
-    EXPECT_THAT(found, testing::ElementsAre(30, 60, -1));
-    const CString longest('w', 300);
-    bar.SetText("one", 0, 0);
-    bar.SetText(longest, 1, SBT_POPOUT);
-    int type = 0;
-    EXPECT_EQ(bar.GetText(1, &type), longest);
-    EXPECT_EQ(type, SBT_POPOUT);
-    EXPECT_EQ(bar.GetTextLength(0), 3);
-    EXPECT_EQ(bar.GetText(2), "");
-    int horizontal = -1, vertical = -1, between = -1;
-    EXPECT_TRUE(bar.GetBorders(horizontal, vertical, between) && horizontal >= 0 && vertical >= 0 && between >= 0);
-    bar.SetSimple();
-    EXPECT_TRUE(bar.IsSimple());
 }
 
 TEST_F(AfxCommonControls, AToolbarKeepsItsButtonsAndTheirStates) {

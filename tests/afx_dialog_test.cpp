@@ -162,29 +162,6 @@ TEST_F(AfxDataDialog, ListHoldsItemsWithTheirData) {
     EXPECT_TRUE(pictures.DeleteImageList());
 }
 
-TEST_F(AfxDataDialog, TreeAndTabsAnswer) {
-    const HTREEITEM root = dialog.tree.InsertItem("root");
-    const HTREEITEM child = dialog.tree.InsertItem("child", root);
-    dialog.tree.SetItemData(child, 77);
-    EXPECT_TRUE(dialog.tree.Expand(root, TVE_EXPAND) && dialog.tree.SelectItem(child));
-    EXPECT_TRUE(dialog.tree.GetSelectedItem() == child && dialog.tree.GetParentItem(child) == root);
-    EXPECT_STREQ(dialog.tree.GetItemText(dialog.tree.GetChildItem(root)), "child");
-    EXPECT_EQ(dialog.tree.GetItemData(child), 77u);
-    CRect place;
-    EXPECT_TRUE(dialog.tree.GetItemRect(child, place, TRUE));
-    EXPECT_EQ(dialog.tree.HitTest(place.CenterPoint()), child);
-    EXPECT_EQ(dialog.tabs.InsertItem(0, "one"), 0);
-    EXPECT_EQ(dialog.tabs.InsertItem(1, "two"), 1);
-    EXPECT_EQ(dialog.tabs.SetCurSel(1), 0);
-    char text[8];
-    TCITEM item{};
-    item.mask = TCIF_TEXT;
-    item.pszText = text;
-    item.cchTextMax = sizeof(text);
-    EXPECT_TRUE(dialog.tabs.GetItem(dialog.tabs.GetCurSel(), &item));
-    EXPECT_STREQ(item.pszText, "two");
-}
-
 TEST_F(AfxDataDialog, CheckBoxesKeepTheirStateBesideTheProgramsData) {
     CCheckListBox& list = dialog.checks;
     for (const char* text : {"one", "two", "three"})
@@ -223,24 +200,6 @@ TEST(AfxControls, OwnerDrawnButtonsDrawThemselves) {
     CClientDC dc(&button);
     EXPECT_EQ(dc.GetPixel(10, 10), RGB(255, 0, 0));
     button.DestroyWindow();
-    parent.DestroyWindow();
-}
-
-TEST(AfxControls, ToolTipsKnowTheirTools) {
-    CWnd parent;
-    ASSERT_TRUE(create_popup(parent));
-    CToolTipCtrl tips;
-    ASSERT_TRUE(tips.Create(&parent));
-    EXPECT_TRUE(tips.AddTool(&parent, "here", CRect(0, 0, 10, 10), 3));
-    CString text;
-    tips.GetText(text, &parent, 3);
-    EXPECT_STREQ(text, "here");
-    tips.UpdateTipText("there", &parent, 3);
-    tips.GetText(text, &parent, 3);
-    EXPECT_STREQ(text, "there");
-    tips.DelTool(&parent, 3);
-    EXPECT_EQ(tips.GetToolCount(), 0);
-    tips.DestroyWindow();
     parent.DestroyWindow();
 }
 

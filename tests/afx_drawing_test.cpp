@@ -64,20 +64,6 @@ TEST_F(AfxDeviceContext, ConvertsUnitsAndPutsThemBack) {
     EXPECT_EQ(dc.GetMapMode(), MM_TEXT);
 }
 
-TEST_F(AfxDeviceContext, ClipsToRegions) {
-    CRgn left, hole;
-    ASSERT_TRUE(left.CreateRectRgn(0, 0, 50, 100) && hole.CreateRectRgnIndirect(CRect(10, 10, 20, 20)));
-    EXPECT_EQ(left.CombineRgn(&left, &hole, RGN_DIFF), COMPLEXREGION);
-    EXPECT_TRUE(left.PtInRegion(5, 5) && !left.PtInRegion(CPoint(15, 15)));
-    dc.SelectClipRgn(&left);
-    dc.FillSolidRect(0, 0, 100, 100, RGB(0, 128, 0));
-    dc.SelectClipRgn(nullptr);
-    const std::pair<CPoint, COLORREF> pixels[] = {
-        {CPoint(5, 5), RGB(0, 128, 0)}, {CPoint(15, 15), RGB(255, 255, 255)}, {CPoint(60, 50), RGB(255, 255, 255)}};
-    for (const auto& [at, colour] : pixels)
-        EXPECT_EQ(dc.GetPixel(at), colour) << at.x;
-}
-
 TEST_F(AfxDeviceContext, DragRectanglesVanishAgain) {
     dc.FillSolidRect(0, 0, 100, 100, RGB(12, 34, 56));
     const CRect first(10, 10, 60, 60), second(20, 20, 70, 70);
@@ -90,17 +76,6 @@ TEST_F(AfxDeviceContext, DragRectanglesVanishAgain) {
         for (int x = 0; x < 100; ++x)
             changed += dc.GetPixel(x, y) != RGB(12, 34, 56);
     EXPECT_EQ(changed, 0);
-}
-
-TEST_F(AfxDeviceContext, MeasuresWhatItWrites) {
-    const CString text("Wide");
-    const CSize size = dc.GetTextExtent(text);
-    CRect place(0, 0, 100, 100);
-    EXPECT_EQ(dc.DrawText(text, place, DT_CALCRECT | DT_SINGLELINE), size.cy);
-    EXPECT_EQ(place.Width(), size.cx);
-    CString face;
-    EXPECT_GT(dc.GetTextFace(face), 0);
-    EXPECT_FALSE(face.IsEmpty());
 }
 
 TEST_F(AfxDeviceContext, MapsUnitsOfLength) {
@@ -132,58 +107,6 @@ TEST_F(AfxDeviceContext, MapsUnitsOfLength) {
     EXPECT_EQ(dc.GetWindowExt(), CSize(20, 20));
     EXPECT_EQ(dc.OffsetViewportOrg(3, 4), CPoint(0, 0));
     EXPECT_EQ(dc.GetViewportOrg(), CPoint(3, 4));
-}
-
-TEST_F(AfxDeviceContext, DrawsAndClipsByPaths) {
-    const auto triangle = [&] {
-        dc.BeginPath();
-        dc.MoveTo(10, 90);
-        dc.LineTo(90, 90);
-        dc.LineTo(10, 10);
-        dc.CloseFigure();
-        return dc.EndPath();
-    };
-    CBrush brush(RGB(0, 0, 200));
-    CBrush* old_brush = dc.SelectObject(&brush);
-    ASSERT_TRUE(triangle());
-    EXPECT_EQ(dc.GetPath(nullptr, nullptr, 0), 3);
-    EXPECT_TRUE(dc.FillPath());
-    EXPECT_EQ(dc.GetPixel(20, 80), RGB(0, 0, 200));
-    EXPECT_EQ(dc.GetPixel(80, 20), RGB(255, 255, 255));
-    EXPECT_FALSE(dc.StrokePath()) << "a path is used up";
-    ASSERT_TRUE(triangle());
-    CRgn region;
-    ASSERT_TRUE(region.CreateFromPath(&dc));
-    EXPECT_TRUE(region.PtInRegion(20, 80) && !region.PtInRegion(80, 20));
-    ASSERT_TRUE(triangle() && dc.SelectClipPath(RGN_COPY));
-    dc.FillSolidRect(0, 0, 100, 100, RGB(200, 0, 0));
-    EXPECT_EQ(dc.GetPixel(20, 80), RGB(200, 0, 0));
-    EXPECT_EQ(dc.GetPixel(80, 20), RGB(255, 255, 255));
-    EXPECT_EQ(dc.ExcludeClipRect(CRect(10, 70, 40, 90)), COMPLEXREGION);
-    EXPECT_FALSE(dc.PtVisible(20, 80));
-    dc.SelectClipRgn(nullptr);
-    dc.SelectObject(old_brush);
-    EXPECT_FALSE(dc.EndPath()) << "none was begun";
-}
-
-TEST_F(AfxDeviceContext, RegionsDescribeThemselvesAndAreMadeAgain) {
-    CRgn round, box, both;
-    ASSERT_TRUE(round.CreateEllipticRgn(0, 0, 40, 40) && box.CreateRectRgn(30, 0, 60, 40));
-    ASSERT_TRUE(both.CreateRectRgn(0, 0, 0, 0));
-    EXPECT_EQ(both.CombineRgn(&round, &box, RGN_OR), COMPLEXREGION);
-    CRect bounds;
-    EXPECT_EQ(both.GetRgnBox(bounds), COMPLEXREGION);
-    EXPECT_EQ(bounds, CRect(0, 0, 60, 40));
-    const int size = both.GetRegionData(nullptr, 0);
-    std::vector<BYTE> data(static_cast<std::size_t>(size));
-    auto* described = reinterpret_cast<RGNDATA*>(data.data());
-    ASSERT_EQ(both.GetRegionData(described, size), size);
-    CRgn again;
-    ASSERT_TRUE(again.CreateFromData(nullptr, size, described));
-    EXPECT_TRUE(again.EqualRgn(&both));
-    again.OffsetRgn(5, 0);
-    EXPECT_FALSE(again.EqualRgn(&both));
-    EXPECT_EQ(again.CombineRgn(&round, &round, RGN_DIFF), NULLREGION);
 }
 
 TEST_F(AfxDeviceContext, SplitsOutputFromAttributes) {

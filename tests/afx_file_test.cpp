@@ -54,15 +54,16 @@ TEST_F(AfxFileModes, LinesHaveTheEndsOfTheirKind) {
     text.Close();
     EXPECT_EQ(bytes(), "one\r\ntwo\r\r\n") << "text: every line feed becomes two characters";
     CStdioFile binary(name, write_new | CFile::typeBinary);
-    binary.WriteString("one\ntwo\r\n\nlast");
+    const CString longest('x', 700);
+    binary.WriteString("one\ntwo\r\n\n" + longest);
     binary.Close();
-    EXPECT_EQ(bytes(), "one\ntwo\r\n\nlast");
+    EXPECT_EQ(bytes(), std::string("one\ntwo\r\n\n") + longest.GetString());
     CStdioFile in(name, CFile::modeRead | CFile::typeText);
     CString line;
     std::string lines;
     while (in.ReadString(line))
         (lines += "[").append(line).append("]");
-    EXPECT_EQ(lines, "[one][two][][last]");
+    EXPECT_EQ(lines, "[one][two][][" + std::string(longest.GetString()) + "]");
     in.SeekToBegin();
     char part[4];
     EXPECT_STREQ(in.ReadString(part, sizeof(part)), "one");
@@ -157,6 +158,17 @@ TEST_F(AfxFileModes, NamesAreChangedAndCausesAreTold) {
     EXPECT_EQ(cause_of([&] { CFile::Remove(folder + "\\no\\third.tmp"); }), CFileException::badPath);
     CFileStatus status;
     EXPECT_FALSE(CFile::GetStatus(folder + "\\third.tmp", status));
+    ASSERT_TRUE(CFile::GetStatus(name, status));
+    EXPECT_STREQ(status.m_szFullName, name);
+    status.m_mtime = CTime(2001, 2, 3, 4, 5, 6);
+    status.m_attribute |= CFile::readOnly;
+    CFile::SetStatus(name, status);
+    ASSERT_TRUE(CFile::GetStatus(name, status));
+    EXPECT_TRUE(status.m_mtime == CTime(2001, 2, 3, 4, 5, 6) && (status.m_attribute & CFile::readOnly) != 0);
+    status.m_attribute &= ~static_cast<DWORD>(CFile::readOnly);
+    CFile::SetStatus(name, status);
+    CFile::Rename(name, folder + "\\.dot");
+    EXPECT_FALSE(CFile::GetStatus(name, status));
     const CString longest('x', 400);
     CFileException why;
     CFile file;

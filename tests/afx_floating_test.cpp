@@ -8,6 +8,8 @@
 
 #include <gmock/gmock.h>
 
+#include <functional>
+
 using testing::ElementsAre;
 
 namespace {
@@ -41,7 +43,13 @@ public:
     }
     CFrameWnd& around(CToolBar& bar) { return *static_cast<CFrameWnd*>(CWnd::FromHandle(::GetAncestor(bar, GA_ROOT))); }
     int toggled = 0;
+    std::function<void()> look;
     void PostNcDestroy() override {} // lives on the stack
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == WM_USER)
+            look();
+        return CFrameWnd::WindowProc(message, wParam, lParam);
+    }
 
 protected:
     afx_msg void OnOn() { ++toggled; }
@@ -117,6 +125,59 @@ TEST(AfxFloating, ABarIsDockedWhereItIsDroppedNearASide) {
         frame.around(frame.more).SendMessage(WM_EXITSIZEMOVE);
         const DWORD side = frame.more.IsFloating() ? 0 : frame.more.GetBarStyle() & CBRS_ALIGN_ANY;
         EXPECT_EQ(side, row.side) << row.dropped.x;
+    }
+}
+
+// The upper left corner of what differs on the screen.
+CPoint first_change(const CRect& area, const std::vector<COLORREF>& before, const std::vector<COLORREF>& after) {
+    for (std::size_t i = 0; i < before.size(); ++i) {
+        if (before[i] != after[i])
+            return area.TopLeft() + CSize(static_cast<int>(i) % area.Width(), static_cast<int>(i) / area.Width());
+    }
+    return {-1, -1};
+}
+
+TEST(AfxFloating, ADraggedBarShowsWhereItWouldBe) {
+    docking_frame frame;
+    ASSERT_TRUE(frame.open());
+    CRect inside;
+    frame.GetClientRect(inside);
+    frame.ClientToScreen(inside);
+    const CPoint pointer = inside.CenterPoint(); // away from all sides
+    const CRect area(pointer - CSize(40, 40), CSize(80, 60));
+    const auto pixels = [&] {
+        std::vector<COLORREF> found;
+        CWindowDC screen(nullptr);
+        for (int y = area.top; y < area.bottom; ++y)
+            for (int x = area.left; x < area.right; ++x)
+                found.push_back(screen.GetPixel(x, y));
+        return found;
+    };
+    frame.UpdateWindow();
+    const auto before = pixels();
+    std::vector<COLORREF> dragged;
+    frame.look = [&] { dragged = pixels(); };
+    BYTE held[256] = {}, keys[256];
+    ::GetKeyboardState(keys);
+    held[VK_LBUTTON] = 0x80;
+    const CRect bar = frame.on_screen(frame.tools);
+    for (const bool dropped : {false, true}) {
+        ::SetCursorPos(pointer.x, pointer.y);
+        for (int i = 0; i < 2; ++i) // the first begins it
+            frame.tools.PostMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(300, 300));
+        frame.PostMessage(WM_USER);
+        frame.tools.PostMessage(dropped ? WM_LBUTTONUP : WM_KEYDOWN, dropped ? 0 : VK_ESCAPE);
+        ::SetKeyboardState(held);
+        frame.tools.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(-1, -1));
+        ::SetKeyboardState(keys);
+        ASSERT_EQ(dragged.size(), before.size()) << "it was dragged";
+        const CPoint corner = first_change(area, before, dragged);
+        EXPECT_EQ(frame.tools.IsFloating(), dropped);
+        EXPECT_EQ(dropped ? frame.on_screen(frame.tools) : bar, frame.on_screen(frame.tools));
+        EXPECT_NEAR(corner.x, pointer.x, 8);
+        EXPECT_LT(corner.y, pointer.y - 10) << "a caption above the bar";
+        if (!dropped)
+            EXPECT_EQ(first_change(area, before, pixels()), CPoint(-1, -1)) << "no trace";
     }
 }
 

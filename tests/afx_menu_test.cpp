@@ -130,6 +130,9 @@ TEST(AfxMenu, ItsOwnerPassesMeasuringAndDrawingOnToIt) {
     bar.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(menu.m_hMenu), "popup");
     owner.SetMenu(&bar);
     EXPECT_EQ(owner.GetMenu(), &bar);
+    owner.SendMessage(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&measured));
+    EXPECT_THAT(menu.measured, testing::ElementsAre(5u));
+    EXPECT_EQ(measured.itemWidth, 40u);
     owner.DestroyWindow(); // and its menu
     EXPECT_FALSE(::IsMenu(menu.m_hMenu));
     menu.Detach();

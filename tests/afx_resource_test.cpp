@@ -151,20 +151,12 @@ TEST(AfxShell, KnowsTheDocumentsUntilTheyAreTakenBack) {
     EXPECT_EQ(kind->MatchDocType("x.txt", open), CDocTemplate::yesAttemptForeign);
 }
 
-TEST(AfxDebug, TellsMemoryThatIsThereFromThatWhichIsNot) {
-    char here[16] = "text";
-    EXPECT_TRUE(AfxIsValidAddress(here, sizeof(here)));
-    EXPECT_TRUE(AfxIsValidAddress("constant", 4, FALSE));
-    EXPECT_FALSE(AfxIsValidAddress(nullptr, 1));
-    EXPECT_FALSE(AfxIsValidAddress(reinterpret_cast<void*>(16), 1));
-    EXPECT_FALSE(AfxIsValidAddress(here, ~UINT_PTR(0))) << "around the end of all memory";
-    EXPECT_TRUE(AfxIsValidString(here));
-    EXPECT_FALSE(AfxIsValidString(nullptr));
+TEST(AfxDebug, OnlyVerifyEvaluatesInARelease) {
     int evaluated = 0;
     VERIFY(++evaluated);
     ASSERT(++evaluated);
     TRACE("%d", ++evaluated);
-    EXPECT_EQ(evaluated, 1) << "only what VERIFY holds";
+    EXPECT_EQ(evaluated, 1);
 }
 
 TEST(AfxModule, FrameworksTextsStandBehindTheProgramsOwn) {

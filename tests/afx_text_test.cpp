@@ -35,6 +35,8 @@ TEST(AfxStringEdges, PlacesOutsideTheTextAreItsEnds) {
     EXPECT_TRUE(text[99] == '\0' && text[-1] == '\0' && text.GetAt(3) == '\0');
     EXPECT_TRUE(refuses([&] { text.GetAt(4); }) && refuses([&] { text.GetAt(-1); }));
     EXPECT_EQ(text.Find('c', 3), -1);
+    EXPECT_EQ(text.ReverseFind('x'), -1);
+    EXPECT_STREQ(CString(L"f\u00fcr"), "f\xFCr");
     EXPECT_EQ(text.Find('c', -1), -1);
     EXPECT_EQ(text.Find("", 3), 3);
     CString changed = text;

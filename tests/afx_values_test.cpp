@@ -1,4 +1,4 @@
-// Strings, rectangles, times and files.
+// Strings, rectangles, times and memory files.
 #include <afx.h>
 #include "afx_test_ids.h"
 
@@ -8,6 +8,8 @@
 #include <string>
 
 namespace {
+
+static_assert(max(2, 3.5) == 3.5 && min(4L, 3) == 3); // which the standard library's headers must not take away
 
 std::string spaced(CString text) {
     return std::string("[") + text.GetString() + "]";
@@ -66,6 +68,9 @@ TEST(AfxWholeString, FormatsStringsOfItsOwnKind) {
     EXPECT_STREQ(text, "gauge = 7, ok|gauge = 7, ok|");
     text.Format(IDS_FORMAT, 3, name);
     EXPECT_STREQ(text, "3 of gauge");
+    text.AppendFormat("%0*d", 5000, 1);
+    EXPECT_EQ(text.GetLength(), 10 + 5000);
+    EXPECT_EQ(CString(MAKEINTRESOURCE(IDS_FORMAT)), "%d of %s");
     text.FormatMessage("%2 before %1", name, "dial");
     EXPECT_STREQ(text, "dial before gauge");
     EXPECT_TRUE("a" < name && name > "a" && "gauge" == name && name != "Gauge" && name >= "gauge" && "z" >= name);
@@ -102,96 +107,6 @@ TEST(AfxTime, AddsSpansAndFormatsThem) {
     AfxTimeToFileTime(start, &file_time);
     EXPECT_EQ(CTime(file_time), start);
     EXPECT_LT(std::abs((CTime::GetCurrentTime() - CTime(std::time(nullptr))).GetTotalSeconds()), 5);
-}
-
-class AfxFiles : public testing::Test {
-protected:
-    AfxFiles() {
-        char base[MAX_PATH];
-        ::GetTempPath(MAX_PATH, base);
-        folder.Format("%safx%lu", base, ::GetCurrentProcessId());
-        ::CreateDirectory(folder, nullptr);
-    }
-    ~AfxFiles() override {
-        CFileFind find;
-        for (BOOL more = find.FindFile(folder + "\\*"); more;) {
-            more = find.FindNextFile();
-            if (!find.IsDots())
-                ::DeleteFile(find.GetFilePath());
-        }
-        find.Close();
-        ::RemoveDirectory(folder);
-    }
-    CString path(LPCTSTR name) const { return folder + "\\" + name; }
-    void write(LPCTSTR name, const char* text) const {
-        CFile file(path(name), CFile::modeCreate | CFile::modeWrite);
-        file.Write(text, static_cast<UINT>(std::strlen(text)));
-    }
-
-    CString folder;
-};
-
-TEST_F(AfxFiles, TellTheirStatusAndTakeAnother) {
-    write("one.txt", "12345");
-    CFileStatus status;
-    ASSERT_TRUE(CFile::GetStatus(path("one.txt"), status));
-    EXPECT_EQ(status.m_size, 5u);
-    EXPECT_STREQ(status.m_szFullName, path("one.txt"));
-    status.m_mtime = CTime(2001, 2, 3, 4, 5, 6);
-    status.m_attribute |= CFile::readOnly;
-    CFile::SetStatus(path("one.txt"), status);
-    ASSERT_TRUE(CFile::GetStatus(path("one.txt"), status));
-    EXPECT_EQ(status.m_mtime, CTime(2001, 2, 3, 4, 5, 6));
-    EXPECT_NE(status.m_attribute & CFile::readOnly, 0u);
-    status.m_attribute &= ~static_cast<DWORD>(CFile::readOnly);
-    CFile::SetStatus(path("one.txt"), status);
-    CFile::Rename(path("one.txt"), path("two.txt"));
-    EXPECT_FALSE(CFile::GetStatus(path("one.txt"), status));
-    CFile again(path("two.txt"), CFile::modeCreate | CFile::modeNoTruncate | CFile::modeReadWrite);
-    EXPECT_EQ(again.GetLength(), 5u);
-    EXPECT_STREQ(again.GetFileName(), "two.txt");
-    again.Close();
-    CFile::Remove(path("two.txt"));
-    try {
-        CFile::Remove(path("two.txt"));
-        ADD_FAILURE();
-    } catch (CFileException* e) {
-        EXPECT_EQ(e->m_cause, CFileException::fileNotFound);
-        e->Delete();
-    }
-}
-
-TEST_F(AfxFiles, AreFoundEachOnce) {
-    write("a.dat", "1");
-    write("b.dat", "22");
-    write("c.txt", "3");
-    std::string seen;
-    ULONGLONG bytes = 0;
-    CFileFind find;
-    for (BOOL more = find.FindFile(path("*.dat")); more;) {
-        more = find.FindNextFile();
-        seen += spaced(find.GetFileTitle());
-        bytes += find.GetLength();
-    }
-    EXPECT_TRUE(seen == "[a][b]" || seen == "[b][a]") << seen;
-    EXPECT_EQ(bytes, 3u);
-    EXPECT_FALSE(find.FindFile(path("*.none")));
-}
-
-TEST_F(AfxFiles, HoldLinesOfText) {
-    const CString longest('x', 700);
-    CStdioFile out(path("lines.txt"), CFile::modeCreate | CFile::modeWrite | CFile::typeText);
-    out.WriteString("first\n" + longest + "\nlast");
-    out.Close();
-    CFileStatus status;
-    ASSERT_TRUE(CFile::GetStatus(path("lines.txt"), status));
-    EXPECT_EQ(status.m_size, 5u + 2 + 700 + 2 + 4);
-    CStdioFile in(path("lines.txt"), CFile::modeRead | CFile::typeText);
-    CString line;
-    EXPECT_TRUE(in.ReadString(line) && line == "first");
-    EXPECT_TRUE(in.ReadString(line) && line == longest);
-    EXPECT_TRUE(in.ReadString(line) && line == "last");
-    EXPECT_FALSE(in.ReadString(line));
 }
 
 TEST(AfxMemFile, GrowsUnlessItsMemoryIsTheCallers) {

@@ -92,6 +92,11 @@ private:
     friend class CDockBar;
     friend class CFrameWnd;
     void Undelay();
+    struct outline_sizes {
+        CSize lying, upright, floating;
+    };
+    bool DragOutline(CSize held, CPoint& dropped);
+    int OutlineAt(CPoint screen, CSize held, const outline_sizes& sizes, CRect& rect);
 
     enum class show { as_is, soon, not_soon };
     show m_delayed = show::as_is;

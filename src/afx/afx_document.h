@@ -6,6 +6,7 @@
 #include "afx_menu.h"
 #include "afxcoll.h"
 
+class CCmdUI;
 class CDocTemplate;
 class CFrameWnd;
 class CView;

@@ -161,6 +161,7 @@ private:
     void DestroyDockBars();
     void DestroyEmptyFloat(CDockBar* dock);
     CDockBar* DockBarNear(const CControlBar& bar, CPoint screen);
+    CDockBar* DockBarFor(const CControlBar& bar, CPoint screen);
     // A bar was dragged: docked where the pointer is near a side. Elsewhere it floats, where floating tells the place.
     void DropControlBar(CControlBar* bar, CPoint screen, const CPoint* floating);
     void ToggleFloating(CControlBar* bar);

@@ -246,29 +246,6 @@ void CControlBar::OnMouseLeave() {
     Default();
 }
 
-// The bar is dragged by its gripper, or its empty parts: to another side, or away from all.
-void CControlBar::OnLButtonDown(UINT nFlags, CPoint point) {
-    if (m_pDockBar == nullptr || OnToolHitTest(point, nullptr) != -1)
-        return CWnd::OnLButtonDown(nFlags, point);
-    const CPoint held = point;
-    ClientToScreen(&point);
-    if (!::DragDetect(m_hWnd, point))
-        return;
-    ::SetCapture(m_hWnd);
-    MSG message;
-    while (::GetCapture() == m_hWnd && ::GetMessage(&message, nullptr, 0, 0) > 0) {
-        if (message.message == WM_LBUTTONUP) {
-            ::ReleaseCapture();
-            const CPoint corner = CPoint(message.pt) - CSize(held);
-            m_pDockSite->DropControlBar(this, message.pt, &corner);
-        } else if (message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE) {
-            ::ReleaseCapture();
-        } else if (message.message != WM_MOUSEMOVE) {
-            ::DispatchMessage(&message);
-        }
-    }
-}
-
 void CControlBar::OnLButtonDblClk(UINT nFlags, CPoint point) {
     if (m_pDockBar == nullptr || OnToolHitTest(point, nullptr) != -1)
         return CWnd::OnLButtonDblClk(nFlags, point);

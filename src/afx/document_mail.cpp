@@ -1,6 +1,8 @@
 // A document as the attachment of a message, by the simple interface of the platform's mail program.
 #include "afx_document.h"
 #include "afx_app.h"
+#include "afx_cmdui.h"
+#include "afxres.h"
 #include "file_names.h"
 
 #include <mapi.h>

@@ -92,11 +92,15 @@ CDockBar* CFrameWnd::DockBarNear(const CControlBar& bar, CPoint screen) {
 }
 
 // A key keeps the bar from being docked.
+CDockBar* CFrameWnd::DockBarFor(const CControlBar& bar, CPoint screen) {
+    return ::GetKeyState(VK_CONTROL) < 0 ? nullptr : DockBarNear(bar, screen);
+}
+
 void CFrameWnd::DropControlBar(CControlBar* bar, CPoint screen, const CPoint* floating) {
     CRect place;
     bar->GetWindowRect(place);
     place.OffsetRect(screen.x - place.left, screen.y - place.top);
-    CDockBar* dock = ::GetKeyState(VK_CONTROL) < 0 ? nullptr : DockBarNear(*bar, screen);
+    CDockBar* dock = DockBarFor(*bar, screen);
     if (dock != nullptr)
         DockControlBar(bar, dock, place);
     else if (floating != nullptr)
