@@ -87,16 +87,25 @@ private:
         settings_.Load(*this);
         station_ = std::make_unique<PlantStation>(static_cast<ReadingsBlock*>(readings_.GetPtr()),
                                                   static_cast<SetPointsBlock*>(set_points_.GetPtr()));
+        if (::GetFileAttributes(ProgramFolder() + "\\scripts") == INVALID_FILE_ATTRIBUTES)
+            return Refuse("The folder with the scripts is missing beside the program.");
         front_end_.reset(new FrontEnd{*station_, settings_, ProgramFolder(), m_pszProfileName});
         auto* frame = new CMainFrame(*front_end_); // it deletes itself with its window
         if (!frame->LoadFrame(IDR_MAINFRAME))
-            return Fail("the window cannot be made");
+            return Refuse("The window cannot be made.");
         m_pMainWnd = frame;
         frame->RestorePlace(m_nCmdShow);
         frame->UpdateWindow();
         return TRUE;
     }
 
+    BOOL Refuse(const char* why) {
+        AfxMessageBox(why, MB_ICONSTOP);
+        result_ = 1;
+        return FALSE;
+    }
+
+    // For who called it from a command line.
     BOOL Fail(const char* why) {
         std::fprintf(stderr, "plant_front_end: %s\n", why);
         result_ = 1;

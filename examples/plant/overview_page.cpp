@@ -37,6 +37,17 @@ bool PutGauge(CWntGauge& gauge, CWntFrame* panels, const GaugePlace& place, cons
     return panel.SetAnchor(&gauge, place.left, place.top, place.right, place.bottom) != 0;
 }
 
+// The greatest position counts as a page's beginning, so the range is as much longer.
+void SetRange(CScrollBar& bar, int least, int greatest, int page) {
+    SCROLLINFO range = {};
+    range.cbSize = sizeof range;
+    range.fMask = SIF_RANGE | SIF_PAGE;
+    range.nMin = least;
+    range.nMax = greatest + page - 1;
+    range.nPage = static_cast<UINT>(page);
+    bar.SetScrollInfo(&range);
+}
+
 } // namespace
 
 BEGIN_MESSAGE_MAP(COverviewPage, CFrontPage)
@@ -104,15 +115,16 @@ bool COverviewPage::CreateOperation() {
         !burner_.Open("Burner", &panel, ID_BURNER) ||
         !events_.Create(style | WS_VSCROLL | WS_BORDER | LBS_NOINTEGRALHEIGHT | LBS_NOSEL, nowhere, &panel, IDC_EVENTS))
         return false;
-    for (CWnd* text :
-         {static_cast<CWnd*>(&furnace_text_), static_cast<CWnd*>(&steam_text_), static_cast<CWnd*>(&in_force_)})
+    for (CStatic* text : {&furnace_text_, &steam_text_, &in_force_})
         text->SetFont(&font_);
     events_.SetFont(&small_font_);
-    SCROLLINFO range = {sizeof range, SIF_RANGE | SIF_PAGE, least_furnace_target, greatest_furnace_target, 25, 0, 0};
-    range.nMax += static_cast<int>(range.nPage) - 1; // the thumb's end stays within
-    furnace_target_.SetScrollInfo(&range);
-    range = {sizeof range, SIF_RANGE | SIF_PAGE, 0, 104, 5, 0, 0};
-    steam_valve_.SetScrollInfo(&range);
+    SetRange(furnace_target_, least_furnace_target, greatest_furnace_target, 25);
+    SetRange(steam_valve_, 0, 100, 5);
+    PlaceOperation();
+    return true;
+}
+
+void COverviewPage::PlaceOperation() {
     AddRow(furnace_text_, 0, 1, 4, 18);
     AddRow(furnace_target_, 0, 1, 22, 18);
     AddRow(steam_text_, 0, 1, 46, 18);
@@ -120,9 +132,10 @@ bool COverviewPage::CreateOperation() {
     AddRow(pump_, 0, 0.5, 90, 28);
     AddRow(burner_, 0.5, 1, 90, 28);
     AddRow(in_force_, 0, 1, 124, 18);
+    CWntFrame& panel = panels_[operation];
     const int events_top = 146, room = ::MulDiv(panel.GetContentRect().Height(), 96, Scaled(96));
     AddRow(events_, 0, 1, events_top, room - events_top - 6);
-    return panel.SetAnchor(&events_, 0, 0, 1, 1) != 0; // down to the panel's lower edge
+    panel.SetAnchor(&events_, 0, 0, 1, 1); // down to the panel's lower edge
 }
 
 // Between two shares of the panel's width; in pixels at 96 dots an inch from its top.

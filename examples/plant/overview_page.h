@@ -27,6 +27,7 @@ private:
     bool CreatePanels();
     bool CreateGauges();
     bool CreateOperation();
+    void PlaceOperation();
     void AddRow(CWnd& child, double left, double right, int top, int height);
     void ShowZones(CWntGauge& gauge, std::size_t channel) const;
     void ShowSetPoints();

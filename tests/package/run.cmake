@@ -121,10 +121,18 @@ file(GLOB libraries ${WORK}/package/bin/*.dll)
 file(COPY ${libraries} DESTINATION ${front_end})
 string(REPLACE "/" "\\" path "Z:${front_end}/plant_front_end.exe")
 string(REPLACE "/" "\\" folder "Z:${WORK}")
+# What is heard goes into a file.
+file(WRITE ${WORK}/sound.conf
+  "pcm.!default { type file slave.pcm { type null } file \"${WORK}/heard.raw\" format \"raw\" }\n")
+set(ENV{ALSA_CONFIG_PATH} ${WORK}/sound.conf)
 step_printing("Plant report" 808080808080808080808080 # its axes
   ${EMULATOR} ${WORK}/package/bin/drive.exe plant ${path} ${folder})
 if(NOT printed)
   step(${EMULATOR} ${WORK}/package/bin/drive.exe plant ${path} ${folder})
+endif()
+file(SIZE ${WORK}/heard.raw heard)
+if(heard LESS 10000)
+  message(FATAL_ERROR "the alarm's bell was not heard")
 endif()
 step(${EMULATOR} ${front_end}/plant_front_end.exe --render ${folder}\\pictures --data ${folder}\\front-end-data)
 file(GLOB pictures ${WORK}/pictures/plant-*.bmp)
