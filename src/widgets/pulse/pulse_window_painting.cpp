@@ -105,7 +105,9 @@ void CWntPulse::paint_legend(PaintPass& pass) {
         const std::string shown = value ? "  " + value_text(*value) : "";
         CFont* const before = pass.dc().SelectObject(&s.font);
         const CString title(curve.title.c_str());
-        const int number = pass.dc().GetTextExtent(shown.c_str()).cx, name = pass.dc().GetTextExtent(title).cx;
+        constexpr int overhang = 2; // of a last letter beyond its width
+        const int number = pass.dc().GetTextExtent(shown.c_str()).cx,
+                  name = pass.dc().GetTextExtent(title).cx + overhang;
         pass.dc().SelectObject(before);
         CRect place(entry.left, entry.top,
                     std::min<int>(entry.left + name, std::max<int>(entry.right - number, entry.left)), entry.bottom);
