@@ -169,12 +169,14 @@ TEST_F(AxisTest, DraggingTheZoomPaintsAllThatChanges) {
         axis_.SendMessage(WM_COMMAND, 100);
         across ? size(300, 70) : size(70, 300); // which the box follows, and the slider does not
         full_repaint(axis_);
+        const Pixels before = pixels_of(axis_);
         const CPoint end = across ? CPoint(297, 65) : CPoint(position == 1 ? 5 : 65, 297);
         const CPoint middle = across ? CPoint(150, 65) : CPoint(end.x, 150);
         mouse(WM_MOUSEMOVE, end.x, end.y);
         mouse(WM_LBUTTONDOWN, end.x, end.y, MK_LBUTTON);
         mouse(WM_MOUSEMOVE, middle.x, middle.y, MK_LBUTTON);
         const Pixels dragged = pixels_of(axis_);
+        EXPECT_EQ(dragged == before, position == 0) << "the one at the top cannot be dragged: " << position;
         full_repaint(axis_);
         EXPECT_EQ(dragged, pixels_of(axis_)) << "position " << position;
         ::ReleaseCapture();

@@ -165,5 +165,7 @@ TEST_F(ButtonTest, ScrollBarMovesItsOwnThumb) {
     bar.SetScrollInfo(&info);
     bar.SetThumb(SB_PAGEDOWN, 0, &bar);
     EXPECT_EQ(bar.GetScrollPos(), 30);
-    bar.SetThumb(SB_PAGEUP, 0, nullptr);
+    for (CScrollBar* each : {static_cast<CScrollBar*>(nullptr), static_cast<CScrollBar*>(&bar)})
+        bar.SetThumb(SB_PAGEUP, 0, each);
+    EXPECT_EQ(bar.GetScrollPos(), 10);
 }

@@ -152,6 +152,7 @@ TEST_F(PulseFile, KeepsTheFirstError) {
         file.SetLineCount(count);
         EXPECT_EQ(file.SetLineTitle(index, "title"), error) << count << ' ' << index;
     }
+    EXPECT_STREQ(CWntPulseFile::ErrorText(2), "wrong use of get");
     EXPECT_STREQ(CWntPulseFile::ErrorText(9), "errpr while writing data");
     EXPECT_STREQ(CWntPulseFile::ErrorText(10), "undifined error");
 

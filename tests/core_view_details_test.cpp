@@ -157,7 +157,8 @@ TEST(GaugeViews, OutlinesLeaveAZoneItsColour) {
             if (all[i].colour == edge_of(white) && all[i + 1].colour == white && !inner.empty() &&
                 inner.left >= outer.left && inner.right <= outer.right && inner.bottom >= outer.bottom &&
                 inner.top <= outer.top)
-                return inner.width() >= outer.width() - 6 && inner.height() >= outer.height() - 6;
+                return inner.width() < outer.width() && inner.width() >= outer.width() - 6 &&
+                       inner.height() >= outer.height() - 6;
         }
         return false;
     };
@@ -219,14 +220,16 @@ TEST(GaugeViews, TitlesOfTheFaceGiveWayToLabels) {
 TEST(GaugeViews, TextOnTheBarIsReadableOnItsFill) {
     for (const auto& [colour, ink] : {std::pair{"DARKBLUE", white}, std::pair{"YELLOW", black}}) {
         const std::string mark = std::string(":SETMARK=1000,") + colour;
-        const Scene scene(model_of(gauge_percent_bar, {":CLEARMARKS", mark.c_str(), ":CURVAL=100"}), stage, stage);
-        bool written = false;
+        const Lines lines = {":CLEARMARKS", mark.c_str(), ":CLRTEXT=CYAN", ":CURVAL=50"};
+        const Scene scene(model_of(gauge_percent_bar, lines), stage, stage);
+        const float edge = scene.value.figures()[0].bounds.right; // of the filled part
+        std::vector<Colour> inks;
         for (const auto& f : scene.value.figures())
-            if (f.kind == Picture::Kind::text && scene.value.characters(f) == "100 %") {
-                written = true;
-                EXPECT_EQ(f.colour, ink) << colour;
+            if (f.kind == Picture::Kind::text && scene.value.characters(f) == " 50 %") {
+                EXPECT_TRUE(inks.empty() ? f.bounds.right <= edge : f.bounds.left >= edge) << colour;
+                inks.push_back(f.colour);
             }
-        EXPECT_TRUE(written) << colour;
+        EXPECT_EQ(inks, (std::vector{ink, Colour{0xFFFF00}})) << colour;
     }
 }
 

@@ -191,7 +191,8 @@ TEST_F(Pulse, LooksBackByMouseAndKeysAndReturns) {
     EXPECT_TRUE(start() > before && chart_.GetSpan() < 1500);
     CWnd* bar = chart_.GetDlgItem(4);
     const __int64 zoomed = start();
-    chart_.SendMessage(WM_HSCROLL, SB_PAGELEFT, reinterpret_cast<LPARAM>(bar->m_hWnd));
+    for (const WPARAM code : {SB_PAGELEFT, SB_ENDSCROLL})
+        chart_.SendMessage(WM_HSCROLL, code, reinterpret_cast<LPARAM>(bar->m_hWnd));
     EXPECT_NEAR(static_cast<double>(zoomed - start()), static_cast<double>(chart_.GetSpan()), 30);
     mouse(WM_LBUTTONDOWN, 200, 150);
     ::ReleaseCapture(); // ends a drag
@@ -330,6 +331,8 @@ TEST_F(Pulse, TheLegendHidesCurves) {
     EXPECT_EQ(host_.told.back(), std::pair(UINT{WNT_PULSE_CURVE}, level_));
     show();
     EXPECT_LT(extent(blue).second, 0);
+    const long framed = pixels_of(chart_).count(blue); // in the legend, with the ground inside
+    EXPECT_TRUE(framed > 0 && framed < 60) << framed;
     EXPECT_GE(extent(red).second, 0);
 }
 
@@ -434,6 +437,8 @@ TEST_F(Pulse, RecordsAndReads) {
 TEST_F(Pulse, CopiesWhatIsShown) {
     for (int i = 0; i < 10; ++i)
         chart_.AddSample(flow_, 12.5 + i, i * 200);
+    chart_.AddSample(level_, 1, 400); // of a curve that is hidden
+    chart_.ShowCurve(level_, 0);
     chart_.ShowTime(350, 450);
     ASSERT_EQ(chart_.CopyValues(), 1);
     ASSERT_TRUE(host_.OpenClipboard());

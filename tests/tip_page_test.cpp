@@ -66,6 +66,10 @@ TEST_F(TipPage, TurnsThroughTheTipsOfItsFile) {
     EXPECT_TRUE(translated(*page_, 'n') && page_->GetTip() == 2);
     EXPECT_FALSE(translated(*page_, 'x'));
     EXPECT_EQ(page_->ShowTip(3) + page_->ShowTip(-1), 0);
+    for (const bool on : {false, true}) {
+        page_->EnableWindow(on);
+        EXPECT_TRUE(enabled(start_id) == on && enabled(next_id) == on);
+    }
     load("\xB0");
     EXPECT_EQ(shown(), L"\u00B0") << "of the code page";
     EXPECT_FALSE(enabled(previous_id) || enabled(next_id) || translated(*page_, 'n'));

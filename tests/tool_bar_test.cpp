@@ -106,6 +106,21 @@ TEST_F(ToolBar, ShowsStatesOfItsItems) {
     EXPECT_EQ(pixels_of(*bar_).count(red), 0);
 }
 
+TEST_F(ToolBar, SeparatorsAreEngravedEitherWay) {
+    script({":ITEM=100,0", ":SEPARATOR", ":ITEM=101,0"});
+    bar_->MoveWindow(0, 0, 90, 90);
+    for (const bool upright : {false, true}) {
+        bar_->SetUpright(upright);
+        full_repaint(*bar_);
+        CRect line;
+        ASSERT_TRUE(bar_->GetItemRect(1, line));
+        const CPoint light = line.CenterPoint(), dark = light - (upright ? CPoint(0, 1) : CPoint(1, 0));
+        const Pixels shown = pixels_of(*bar_);
+        EXPECT_EQ(shown.at(light.x, light.y), ::GetSysColor(COLOR_BTNHIGHLIGHT)) << upright;
+        EXPECT_EQ(shown.at(dark.x, dark.y), ::GetSysColor(COLOR_BTNSHADOW)) << upright;
+    }
+}
+
 TEST_F(ToolBar, TakesPicturesFromIconsAndFiles) {
     CWntToolItem item(100, "warn");
     item.icon = ::LoadIconA(nullptr, IDI_WARNING);

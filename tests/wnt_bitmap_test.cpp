@@ -342,8 +342,12 @@ TEST(BitmapPalette, RefusesFaultyFilesAndKeepsItsColours) {
         cut.pop_back();
         expect_refused(cut);
     }
-    disk.write(PaletteFile{.count = 7}.bytes()); // a chunk may be longer than its colours
-    EXPECT_TRUE(palette.Load(disk.name()));
+    Bytes longer = PaletteFile{.count = 7}.bytes(); // a chunk may be longer than its colours, and not the last one
+    longer[4] += 8;
+    longer.insert(longer.end(), 8, 0);
+    disk.write(longer);
+    CFile file(disk.name(), CFile::modeRead);
+    EXPECT_TRUE(palette.Load(&file) && file.GetPosition() == longer.size());
     EXPECT_EQ(palette.GetNumColors(), 7);
 }
 
