@@ -71,6 +71,38 @@ TEST_F(AfxCommonControls, AToolbarKeepsItsButtonsAndTheirStates) {
     EXPECT_FALSE(bar.DeleteButton(5));
 }
 
+TEST_F(AfxCommonControls, RichTextIsReadAndWrittenInItsRanges) {
+    CRichEditCtrl edit;
+    ASSERT_TRUE(AfxInitRichEdit() && edit.Create(shown | ES_MULTILINE, place, &parent, 1));
+    edit.SetWindowText("first line\r\nsecond");
+    EXPECT_EQ(edit.GetLineCount(), 2);
+    char line[32] = "";
+    EXPECT_GE(edit.GetLine(1, line, sizeof(line)), 6);
+    EXPECT_EQ(std::string(line, 6), "second");
+    EXPECT_EQ(edit.GetLine(1, line, 1), 0) << "no room for anything";
+    CString text;
+    EXPECT_EQ(edit.GetTextRange(6, 10, text), 4);
+    EXPECT_STREQ(text, "line");
+    EXPECT_EQ(edit.GetTextRange(11, -1, text), 6) << "to the end";
+    EXPECT_EQ(edit.GetTextRange(8, 3, text), 0);
+    edit.SetSel(0, 5);
+    CHARFORMAT bold{};
+    bold.dwMask = CFM_BOLD;
+    bold.dwEffects = CFE_BOLD;
+    EXPECT_TRUE(edit.SetSelectionCharFormat(bold));
+    EXPECT_EQ(edit.GetSelText(), "first");
+    std::string stream;
+    EDITSTREAM out{reinterpret_cast<DWORD_PTR>(&stream), 0, [](DWORD_PTR to, LPBYTE bytes, LONG count, LONG* done) {
+                       reinterpret_cast<std::string*>(to)->append(reinterpret_cast<char*>(bytes), *done = count);
+                       return DWORD{0};
+                   }};
+    edit.StreamOut(SF_RTF, out);
+    EXPECT_EQ(stream.rfind("{\\rtf", 0), 0u) << stream.substr(0, 40);
+    const std::size_t first = stream.find("first");
+    EXPECT_LT(stream.find("\\b"), first) << stream;
+    EXPECT_LT(first, stream.find("\\b0")) << stream;
+}
+
 // -- Dates ------------------------------------------------------------------------------------------------------------
 
 TEST_F(AfxCommonControls, DatesMayBeNoneAtAll) {

@@ -176,8 +176,9 @@ TEST(AfxFloating, ADraggedBarShowsWhereItWouldBe) {
         EXPECT_EQ(dropped ? frame.on_screen(frame.tools) : bar, frame.on_screen(frame.tools));
         EXPECT_NEAR(corner.x, pointer.x, 8);
         EXPECT_LT(corner.y, pointer.y - 10) << "a caption above the bar";
-        if (!dropped)
+        if (!dropped) {
             EXPECT_EQ(first_change(area, before, pixels()), CPoint(-1, -1)) << "no trace";
+        }
     }
 }
 
