@@ -59,7 +59,8 @@ enum WntPulseCommand : UINT {
 /// same range share it: the left axis shows the range of the first curve that is shown, the right one the next other
 /// range. Every sample counts in the picture, however many there are.
 ///
-/// The newest sample stands at the right edge while the chart is live. Dragging the plot, the wheel with Shift, the
+/// While the chart is live, now stands at the right edge: the newest sample's time, or, where samples bear the clock's
+/// time, the clock's. Dragging the plot, the wheel with Shift, the
 /// scroll bar, arrows, Page Up and Down and Home look back; End is live again, Space pauses and goes on. The wheel
 /// zooms at the pointer, plus and minus in the middle, dragging with Shift to the stretch it marks, the slider of the
 /// time axis' zoom control to what it covers when it is let go. A click sets the

@@ -1,0 +1,210 @@
+#include "pulse_host.h"
+
+#include <psapi.h>
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <limits>
+#include <random>
+
+#include "temporary_file.h"
+
+namespace {
+
+using PulseLives = PulseFixture;
+
+TEST_F(PulseLives, RecordsAndReads) {
+    const CString path = "pulse_test_record.txt";
+    ::DeleteFileA(path);
+    ASSERT_EQ(chart_.StartRecording(path), 1);
+    const __int64 now = CWntPulse::Now() / 100 * 100;
+    for (int i = 0; i < 500; ++i)
+        chart_.AddSample(i % 2, i, now + i / 2 * 100);
+    EXPECT_EQ(chart_.StopRecording(), 1);
+    EXPECT_EQ(chart_.StopRecording() + chart_.StartRecording("no such folder\\x.txt") + chart_.IsRecording(), 0);
+    CWntPulse reader;
+    ASSERT_TRUE(reader.Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 300, 600, 500), &host_, 6));
+    ASSERT_EQ(reader.OpenFile(path, 1), 1);
+    while (reader.IsReading())
+        reader.SendMessage(WM_TIMER, 2, 0);
+    EXPECT_EQ(host_.told.back(), std::pair(UINT{WNT_PULSE_READ}, 1));
+    EXPECT_EQ(reader.GetCurveCount(), 2);
+    EXPECT_EQ(reader.GetSampleCount(0) + reader.GetSampleCount(1), 500);
+    __int64 from = 0, to = 0;
+    reader.GetShownTime(&from, &to);
+    EXPECT_TRUE(from <= now && to >= now + 24'900 && to < now + 40'000);
+    EXPECT_EQ(reader.OpenFile("no such file", 0) + reader.OpenFile(nullptr, 0), 0);
+    EXPECT_EQ(reader.GetSampleCount(0), 250); // refused files leave what is there
+    reader.OpenFile(path, 1);
+    reader.SendMessage(WM_KEYDOWN, VK_ESCAPE, 0);
+    EXPECT_EQ(host_.told.back(), std::pair(UINT{WNT_PULSE_READ}, 0));
+    ::DeleteFileA(path);
+}
+
+TEST_F(PulseLives, CopiesWhatIsShown) {
+    for (int i = 0; i < 10; ++i)
+        chart_.AddSample(flow_, 12.5 + i, i * 200);
+    chart_.AddSample(level_, 1, 400); // of a curve that is hidden
+    chart_.ShowCurve(level_, 0);
+    chart_.ShowTime(350, 450);
+    ASSERT_EQ(chart_.CopyValues(), 1);
+    ASSERT_TRUE(host_.OpenClipboard());
+    const HANDLE block = ::GetClipboardData(CF_TEXT);
+    const CString text = block ? static_cast<const char*>(::GlobalLock(block)) : "";
+    ::GlobalUnlock(block);
+    ::CloseClipboard();
+    EXPECT_STREQ(text, "1979-12-31 00:00:04.00\tFlow\t14.5\r\n");
+    EXPECT_EQ(chart_.CopyPicture(), 1);
+    EXPECT_TRUE(::IsClipboardFormatAvailable(CF_BITMAP));
+}
+
+TEST_F(PulseLives, ReadsScriptsAndTakesWindowsOver) {
+    const std::string_view lines = ":TITLE=Pump\r\n:CURVE=Speed,RED,0,3000\r\n:SPAN=10\r\n";
+    const TemporaryFile file({lines.begin(), lines.end()});
+    const HWND blank = ::CreateWindowA("WntPulse", file.name(), WS_CHILD | WS_VISIBLE, 0, 0, 300, 200, host_.m_hWnd,
+                                       nullptr, nullptr, nullptr);
+    ASSERT_TRUE(blank);
+    CWntPulse taken;
+    ASSERT_TRUE(taken.SubclassWindow(blank));
+    EXPECT_EQ(taken.GetCurveCount(), 1);
+    EXPECT_EQ(taken.GetSpan(), 1000);
+    double low = -1, high = -1;
+    EXPECT_TRUE(taken.GetRange(0, &low, &high) == 1 && low == 0 && high == 3000);
+    EXPECT_EQ(taken.GetRange(1, &low, &high) + taken.GetRange(0, nullptr, &high), 0);
+    EXPECT_EQ(taken.AddSample(0, 1500), 1);
+    CWntPulse* volatile none = nullptr;
+    EXPECT_EQ(none->AddSample(0, 1) + none->AddSample(0, 1, 1) + none->SetSpan(5) + none->GetCurveCount() +
+                  none->OpenFile("x", 0) + none->CopyValues() + none->IsLive(),
+              0);
+}
+
+TEST_F(PulseLives, MayBeDestroyedOnAnyNotification) {
+    for (const UINT code : {WNT_PULSE_VIEW, WNT_PULSE_CURSOR, WNT_PULSE_CURVE, WNT_PULSE_READ}) {
+        auto* chart = new CWntPulse;
+        ASSERT_TRUE(chart->Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 400, 300), &host_, 7));
+        chart->AddCurve("a", red, 0, 1);
+        for (int i = 0; i < 1000; ++i)
+            chart->AddSample(0, 0.5, i * 100);
+        const HWND window = chart->m_hWnd;
+        host_.on_notify = [&](const WntPulseNotify& n) {
+            if (n.hdr.code == code)
+                delete std::exchange(chart, nullptr);
+        };
+        const auto send = [&](UINT message, WPARAM wParam, LPARAM lParam) {
+            ::SendMessage(window, message, wParam, lParam);
+        };
+        const TemporaryFile file({'1', '\n', 'a', ' ', ';', '\n'});
+        if (code == WNT_PULSE_READ)
+            chart->OpenFile(file.name(), 0);
+        for (int i = 0; i < 3; ++i)
+            send(WM_TIMER, 2, 0);
+        send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(200, 150));
+        send(WM_LBUTTONUP, 0, MAKELPARAM(200, 150));
+        if (const HWND axis = ::GetDlgItem(window, 3); axis && code == WNT_PULSE_VIEW) {
+            CRect size;
+            ::GetClientRect(axis, &size);
+            send(WM_COMMAND, WNT_PULSE_CMD_ZOOM, 0);
+            ::SendMessage(axis, WM_MOUSEMOVE, 0, MAKELPARAM(1, size.bottom - 5));
+            ::SendMessage(axis, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(1, size.bottom - 5));
+            ::SendMessage(axis, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(90, size.bottom - 5));
+            ::SendMessage(axis, WM_LBUTTONUP, 0, MAKELPARAM(90, size.bottom - 5));
+            EXPECT_FALSE(::IsWindow(window));
+        }
+        send(WM_KEYDOWN, VK_PRIOR, 0);
+        for (int y = 2; y < 40; y += 4)
+            send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(20, y));
+        EXPECT_FALSE(chart) << code;
+        EXPECT_FALSE(::IsWindow(window)) << code;
+    }
+}
+
+// A hundred samples a second; the picture follows every 400 seconds.
+TEST_F(PulseLives, AWeekOfLiveTimeGrowsNothing) {
+    constexpr __int64 day = 8'640'000, tick = 40'000;
+    struct Held {
+        int objects, windows;
+        SIZE_T memory;
+    };
+    const auto held = [] {
+        PROCESS_MEMORY_COUNTERS memory = {};
+        ::K32GetProcessMemoryInfo(::GetCurrentProcess(), &memory, sizeof memory);
+        return Held{live_gdi_objects(), user_objects(), memory.PagefileUsage};
+    };
+    chart_.SetCapacity(100'000);
+    Held first = {};
+    for (__int64 time = 0; time < 7 * day; time += tick) {
+        for (__int64 at = time; at < time + tick; ++at)
+            chart_.AddSample(flow_, static_cast<double>(at % 977) / 10, at);
+        show();
+        if (time == day)
+            first = held();
+    }
+    const Held last = held();
+    EXPECT_EQ(chart_.GetSampleCount(flow_), 100'000);
+    EXPECT_GT(first.objects, 0);
+    EXPECT_EQ(last.objects, first.objects);
+    EXPECT_EQ(last.windows, first.windows);
+    EXPECT_TRUE(first.memory > 0 && last.memory < first.memory + 1'000'000) << first.memory << ' ' << last.memory;
+}
+
+TEST_F(PulseLives, HoldsAtAnyOperation) {
+    std::mt19937 random(17);
+    const auto some = [&](int most) { return static_cast<int>(random() % static_cast<unsigned>(most + 1)); };
+    const __int64 odd[] = {std::numeric_limits<__int64>::min(), -1, 0, std::numeric_limits<__int64>::max(), 1LL << 44};
+    __int64 time = 0;
+    const auto any_time = [&] { return some(4) ? time - some(100'000) : odd[some(4)]; };
+    const UINT keys[] = {VK_LEFT, VK_RIGHT, VK_PRIOR, VK_NEXT, VK_HOME, VK_END, VK_SPACE, VK_ESCAPE};
+    for (int i = 0; i < 1000; ++i) {
+        switch (some(12)) {
+        case 0:
+            chart_.MoveWindow(0, 0, some(3) ? some(1600) : some(3), some(3) ? some(900) : some(3));
+            break;
+        case 1:
+            chart_.AddCurve("more", red, some(5) - 3, some(5));
+            break;
+        case 2:
+            if (some(20) == 0)
+                chart_.RemoveCurves();
+            chart_.ShowCurve(some(9), some(1));
+            break;
+        case 3:
+            chart_.SetSpan(any_time());
+            break;
+        case 4:
+            chart_.ShowTime(any_time(), any_time());
+            break;
+        case 5:
+            key(keys[some(7)]);
+            break;
+        case 6:
+            mouse(some(1) ? WM_LBUTTONDOWN : WM_LBUTTONUP, some(1600), some(900), static_cast<UINT>(some(15)));
+            mouse(WM_MOUSEMOVE, some(1600), some(900));
+            break;
+        case 7:
+            chart_.SetCursor(some(3) - 1, any_time());
+            break;
+        case 8:
+            chart_.SetFit(some(1));
+            chart_.SetCapacity(some(3) ? some(5000) : 1);
+            break;
+        case 9:
+            chart_.LoadLine(some(1) ? ":AXES=LEFT" : ":AXES=LEFT RIGHT BOTTOM", 0);
+            chart_.LoadLine("", 2);
+            break;
+        case 10:
+            chart_.SendMessage(WM_COMMAND, WNT_PULSE_CMD_LIVE + static_cast<UINT>(some(3)), 0);
+            break;
+        default:
+            for (int k = some(300); k > 0; --k) {
+                time += some(50) ? some(30) : some(100'000);
+                chart_.AddSample(some(10), some(40) ? some(1000) / 7.0 - 20 : std::nan(""), time);
+            }
+            show();
+        }
+    }
+    show();
+    EXPECT_TRUE(::IsWindow(chart_.m_hWnd));
+}
+
+} // namespace
