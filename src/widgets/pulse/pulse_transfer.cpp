@@ -232,13 +232,17 @@ void PulseReader::flush(int curve, const std::function<void(int, std::int64_t, d
 
 // The hour after summer ends is there twice: what a stamp of it may mean, the earlier time first.
 std::array<std::int64_t, 2> PulseReader::readings_of(const CalendarTime& stamp) {
-    const std::int64_t plain = axis_time_of(moment_of(stamp, -1));
+    const std::int64_t moment = moment_of(stamp, -1), plain = axis_time_of(moment);
     std::array<std::int64_t, 2> times = {plain, plain};
+    constexpr std::int64_t two_hours = 7200;
+    const auto before = local_fields(moment - two_hours), behind = local_fields(moment + two_hours);
+    if (!before || !behind || before->tm_isdst == behind->tm_isdst)
+        return times;
     for (const int daylight : {0, 1})
         without_result_error([&] {
-            const std::int64_t moment = moment_of(stamp, daylight);
-            if (const auto fields = local_fields(moment); fields && fields->tm_isdst == daylight) {
-                const std::int64_t time = axis_time_of(moment);
+            const std::int64_t meant = moment_of(stamp, daylight);
+            if (const auto fields = local_fields(meant); fields && fields->tm_isdst == daylight) {
+                const std::int64_t time = axis_time_of(meant);
                 times = {std::min(times[0], time), std::max(times[1], time)};
             }
         });
