@@ -15,6 +15,12 @@ if(TARGET zopgallery)
   install(FILES gallery/tips.txt DESTINATION bin)
 endif()
 install(FILES ${ZOPWNT_RUNTIME_DLLS} DESTINATION bin)
+if(ZOPWNT_RUNTIME_DLLS AND CMAKE_STRIP) # nine tenths of them are for debuggers
+  install(CODE "file(GLOB runtime \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/bin/lib*.dll\")
+    execute_process(COMMAND ${CMAKE_STRIP} --strip-debug \${runtime} COMMAND_ERROR_IS_FATAL ANY)")
+endif()
+install(FILES CHANGELOG.md DESTINATION .)
+install(DIRECTORY examples DESTINATION share/zopwnt PATTERN __pycache__ EXCLUDE)
 
 install(FILES src/zopwnt.h src/zopwnt_api.h DESTINATION include/zopwnt)
 foreach(header ${ZOPWNT_PUBLIC_HEADERS})
@@ -32,6 +38,7 @@ endif()
 
 if(TARGET zopafx)
   install(PROGRAMS cmake/rc-preprocess DESTINATION lib/cmake/zopwnt)
+  install(FILES cmake/mingw-w64.cmake DESTINATION lib/cmake/zopwnt)
 endif()
 install(EXPORT zopwnt_targets NAMESPACE zopwnt:: DESTINATION lib/cmake/zopwnt)
 configure_package_config_file(cmake/zopwnt-config.cmake.in ${PROJECT_BINARY_DIR}/zopwnt-config.cmake
