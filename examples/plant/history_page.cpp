@@ -69,6 +69,7 @@ void CHistoryPage::OpenDay(const RecordedDay& day) {
     calendar_.Pick(day);
     ShowPicked();
     if (!days_.count(day) || !chart_.OpenFile(PathOf(day), 1)) {
+        chart_.StopReading(); // of the day before, which would go on streaming in
         chart_.RemoveSamples();
         chart_.SetTitle("No recording");
         return;
