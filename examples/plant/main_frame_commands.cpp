@@ -40,8 +40,12 @@ END_MESSAGE_MAP()
 
 // -- The simulator ----------------------------------------------------------------------------------------------------
 
-// One that runs already tells the new one to go.
+// One that runs already tells the new one to go. The order to hang is taken back: one that hangs by it lives on, and
+// where it was killed, the next one would find the order and hang at once.
 void CMainFrame::OnSimulatorStart() {
+    PlantSetPoints wanted = front_end_.station.SetPoints();
+    wanted.faults &= ~static_cast<std::uint32_t>(simulator_hangs);
+    front_end_.station.Want(wanted);
     CString command = '"' + front_end_.folder + "\\plant_simulator.exe\"";
     STARTUPINFO start = {};
     start.cb = sizeof start;
