@@ -90,10 +90,14 @@ TEST(FrontEndSettings, AreKeptAndRepaired) {
     kept.colours[feed_flow] = 9;
     kept.folder = "C:\\recordings";
     kept.sound = 0;
-    kept.Save(program);
+    EXPECT_TRUE(kept.Save(program));
     found.Load(program);
     EXPECT_TRUE(found.limits[tank_level].low == 11 && found.limits[tank_level].high == 222);
     EXPECT_TRUE(found.colours == kept.colours && found.folder == kept.folder && found.sound == 0);
+
+    program.WriteProfileString("Settings", "Folder", "");
+    found.Load(program);
+    EXPECT_EQ(found.folder, kept.folder) << "none is the root of a drive";
 
     kept.limits[boiler_level] = {900, -900};
     kept.colours[0] = -1, kept.colours[1] = 16;
@@ -104,6 +108,10 @@ TEST(FrontEndSettings, AreKeptAndRepaired) {
     EXPECT_TRUE(kept.colours[0] == 0 && kept.colours[1] == 15);
     EXPECT_LT(kept.folder.GetLength(), MAX_PATH - 20);
     EXPECT_EQ(kept.sound, 1);
+
+    std::free(const_cast<char*>(program.m_pszProfileName));
+    program.m_pszProfileName = ::_strdup("Z:\\no folder\\plant.ini");
+    EXPECT_FALSE(kept.Save(program));
 }
 
 } // namespace
