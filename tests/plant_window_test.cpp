@@ -1,6 +1,8 @@
-// What of the plant's front end has windows or settings: the calendar's days, what a profile may hold.
+// What of the plant's front end has windows or settings: the calendar's days, what a profile may hold, a day's chart.
 #include "../examples/plant/day_calendar.h"
 #include "../examples/plant/front_end_settings.h"
+#include "../examples/plant/history_page.h"
+#include "../examples/plant/past_days.h"
 #include "quiet_program.h"
 #include "temporary_file.h"
 
@@ -79,6 +81,24 @@ TEST(DayCalendar, TellsOfWholeClicksInTheGridOnly) {
     EXPECT_FALSE(host.click(headline, headline));
     EXPECT_FALSE(host.click(strip, strip)) << "scrolls";
     EXPECT_FALSE(host.click(months, cell)) << "a drag of the months ends there";
+}
+
+TEST(HistoryPage, ADayWithoutRecordingEndsTheReadingOfTheDayBefore) {
+    PlantStation station(nullptr, nullptr);
+    FrontEndSettings settings;
+    settings.folder = "temporary_recordings";
+    ASSERT_EQ(WritePastDays(settings.folder, 1), "");
+    FrontEnd front_end{station, settings, "", ""};
+    Host host;
+    CHistoryPage page(front_end);
+    ASSERT_TRUE(page.Open(&host, 2));
+    page.FindDays();
+    page.OpenDay(*page.Days().begin());
+    EXPECT_TRUE(page.Chart().IsReading());
+    page.OpenDay({1999, 1, 1});
+    EXPECT_FALSE(page.Chart().IsReading());
+    EXPECT_EQ(page.Chart().GetSampleCount(0), 0);
+    std::filesystem::remove_all("temporary_recordings");
 }
 
 TEST(FrontEndSettings, AreKeptAndRepaired) {
