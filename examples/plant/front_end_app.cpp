@@ -1,7 +1,6 @@
 // plant_front_end [--data FOLDER]                                shows the plant; settings and recordings in FOLDER
-// plant_front_end --render PICTURES [--size WxH] [--data FOLDER] paints every page into bitmap files and ends; with
-// days
-//                                                                that it invents, in PICTURES/data unless told
+// plant_front_end --render PICTURES [--size WxH] [--data FOLDER] paints every page into bitmap files and ends
+// The days that pictures show are invented, in the folder data below PICTURES unless told: never among recordings.
 #include "main_frame.h"
 #include "pictures.h"
 #include "resource.h"
@@ -88,11 +87,8 @@ public:
     }
 
 private:
-    static constexpr char no_data_folder[] =
-        "The folder for settings and recordings cannot be made, or its name is too "
-        "long.";
+    static constexpr char no_data_folder[] = "The folder for settings and recordings cannot be made.";
 
-    // The days that pictures show are invented: they must not get among recordings.
     BOOL Paint(const CommandLine& line) {
         ::CreateDirectory(line.pictures, nullptr); // where it cannot be made, the one below it cannot either
         const CString data = DataFolder(line.data.IsEmpty() ? line.pictures + "\\data" : line.data);

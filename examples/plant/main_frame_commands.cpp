@@ -126,10 +126,10 @@ void CMainFrame::OnUpdateSound(CCmdUI* ui) {
 
 void CMainFrame::OnRecord() {
     CString fault;
-    if (!trend_.Chart().IsRecording())
+    if (trend_.Chart().StopRecording())
+        fault = trend_.Chart().GetRecordingError(); // of what was not yet on the disk
+    else
         fault = trend_.StartRecording();
-    else if (!trend_.Chart().StopRecording())
-        fault = trend_.Chart().GetRecordingError();
     if (!fault.IsEmpty())
         TellRecordingFault(fault);
 }
@@ -170,8 +170,8 @@ void CMainFrame::OnSettings() {
     front_end_.settings = sheet.Chosen();
     StoreSettings();
     if (moved && trend_.Chart().IsRecording()) {
-        trend_.Chart().StopRecording();
-        OnRecord();
+        OnRecord(); // ends in the old folder
+        OnRecord(); // goes on in the new one
     }
     ShowSettings();
 }
