@@ -101,6 +101,20 @@ TEST(HistoryPage, ADayWithoutRecordingEndsTheReadingOfTheDayBefore) {
     std::filesystem::remove_all("temporary_recordings");
 }
 
+TEST(PlantChart, LeavesItsCommandOutOfTheMenu) {
+    Host host;
+    CPlantChart chart(WNT_PULSE_CMD_OPEN);
+    ASSERT_TRUE(chart.Create(nullptr, "", WS_CHILD, CRect(0, 0, 300, 200), &host, 2));
+    CMenu menu;
+    menu.CreatePopupMenu();
+    for (const UINT command : {WNT_PULSE_CMD_RECORD, WNT_PULSE_CMD_OPEN, WNT_PULSE_CMD_PRINT})
+        menu.AppendMenu(MF_STRING, command, "Command");
+    chart.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu.m_hMenu));
+    ASSERT_EQ(menu.GetMenuItemCount(), 2);
+    EXPECT_EQ(menu.GetMenuItemID(0), WNT_PULSE_CMD_RECORD);
+    EXPECT_EQ(menu.GetMenuItemID(1), WNT_PULSE_CMD_PRINT);
+}
+
 TEST(FrontEndSettings, AreKeptAndRepaired) {
     TemporaryFile file;
     std::free(const_cast<char*>(program.m_pszProfileName));
