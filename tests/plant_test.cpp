@@ -138,7 +138,7 @@ TEST(PlantLink, TellsALivingSimulatorFromOneThatEndedOrHangs) {
     EXPECT_FALSE(PlantLink(nullptr).Poll(1));
 }
 
-TEST(PlantLink, BoundsWhatIsWrittenAndRefusesWhatIsNoNumber) {
+TEST(PlantLink, BoundsWhatIsNearARangeAndRefusesWhatNoPlantHas) {
     ReadingsBlock block{};
     PlantLink link(&block);
     block.Write(readings_of(7));
@@ -149,14 +149,18 @@ TEST(PlantLink, BoundsWhatIsWrittenAndRefusesWhatIsNoNumber) {
     wild.values[boiler_pressure] = not_a_number;
     wild.values[feed_flow] = infinite;
     wild.values[pump_speed] = 1e300;
+    wild.values[boiler_level] = 200; // as far outside as the range is wide
+    wild.values[furnace_temperature] = -1400;
+    wild.values[tank_level] = 801;
     wild.furnace_target = not_a_number;
     wild.switches = wild.faults = 0xFFFFFFFF;
     block.Write(wild);
     ASSERT_TRUE(link.Poll(2));
     EXPECT_EQ(link.State(), LinkState::nonsense);
-    EXPECT_EQ(link.Refused(), 1u << boiler_pressure | 1u << feed_flow);
+    constexpr std::uint32_t clamped = 1u << boiler_level | 1u << furnace_temperature;
+    EXPECT_EQ(link.Refused(), ((1u << plant_channels) - 1) & ~clamped);
     const PlantReadings& seen = link.Readings();
-    EXPECT_THAT(seen.values, testing::ElementsAre(8, 0, 0, 0, 8, 3000, 0));
+    EXPECT_THAT(seen.values, testing::ElementsAre(8, 8, 100, 8, 8, 8, 0));
     EXPECT_EQ(seen.furnace_target, least_furnace_target) << "that of the record before, bounded";
     EXPECT_EQ(seen.faults & ~every_fault, 0u);
     block.Write(readings_of(9));
@@ -183,7 +187,9 @@ TEST(AlarmBoard, ShowsAnAlarmUntilItIsSeenAndOver) {
     EXPECT_EQ(board.Text(), "Boiler pressure above 1100 kPa, back again");
     EXPECT_EQ(pressure(1101), State::raised);
     board.Acknowledge();
+    limits[boiler_pressure].high = 1150;
     EXPECT_EQ(pressure(1200), State::acknowledged);
+    EXPECT_EQ(board.Text(), "Boiler pressure above 1150 kPa") << "the limit that is in force";
     EXPECT_FALSE(board.IsCalling());
     EXPECT_EQ(pressure(100, 1u << boiler_pressure), State::acknowledged) << "not judged";
     EXPECT_EQ(pressure(100), State::raised) << "beyond the other limit is another alarm";

@@ -1,6 +1,8 @@
-// What of the plant's front end has windows or settings: the calendar's days, what a profile may hold.
+// What of the plant's front end has windows or settings: the calendar's days, what a profile may hold, a day's chart.
 #include "../examples/plant/day_calendar.h"
 #include "../examples/plant/front_end_settings.h"
+#include "../examples/plant/history_page.h"
+#include "../examples/plant/past_days.h"
 #include "quiet_program.h"
 #include "temporary_file.h"
 
@@ -81,6 +83,38 @@ TEST(DayCalendar, TellsOfWholeClicksInTheGridOnly) {
     EXPECT_FALSE(host.click(months, cell)) << "a drag of the months ends there";
 }
 
+TEST(HistoryPage, ADayWithoutRecordingEndsTheReadingOfTheDayBefore) {
+    PlantStation station(nullptr, nullptr);
+    FrontEndSettings settings;
+    settings.folder = "temporary_recordings";
+    ASSERT_EQ(WritePastDays(settings.folder, 1), "");
+    FrontEnd front_end{station, settings, "", ""};
+    Host host;
+    CHistoryPage page(front_end);
+    ASSERT_TRUE(page.Open(&host, 2));
+    page.FindDays();
+    page.OpenDay(*page.Days().begin());
+    EXPECT_TRUE(page.Chart().IsReading());
+    page.OpenDay({1999, 1, 1});
+    EXPECT_FALSE(page.Chart().IsReading());
+    EXPECT_EQ(page.Chart().GetSampleCount(0), 0);
+    std::filesystem::remove_all("temporary_recordings");
+}
+
+TEST(PlantChart, LeavesItsCommandOutOfTheMenu) {
+    Host host;
+    CPlantChart chart(WNT_PULSE_CMD_OPEN);
+    ASSERT_TRUE(chart.Create(nullptr, "", WS_CHILD, CRect(0, 0, 300, 200), &host, 2));
+    CMenu menu;
+    menu.CreatePopupMenu();
+    for (const UINT command : {WNT_PULSE_CMD_RECORD, WNT_PULSE_CMD_OPEN, WNT_PULSE_CMD_PRINT})
+        menu.AppendMenu(MF_STRING, command, "Command");
+    chart.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu.m_hMenu));
+    ASSERT_EQ(menu.GetMenuItemCount(), 2);
+    EXPECT_EQ(menu.GetMenuItemID(0), WNT_PULSE_CMD_RECORD);
+    EXPECT_EQ(menu.GetMenuItemID(1), WNT_PULSE_CMD_PRINT);
+}
+
 TEST(FrontEndSettings, AreKeptAndRepaired) {
     TemporaryFile file;
     std::free(const_cast<char*>(program.m_pszProfileName));
@@ -90,10 +124,14 @@ TEST(FrontEndSettings, AreKeptAndRepaired) {
     kept.colours[feed_flow] = 9;
     kept.folder = "C:\\recordings";
     kept.sound = 0;
-    kept.Save(program);
+    EXPECT_TRUE(kept.Save(program));
     found.Load(program);
     EXPECT_TRUE(found.limits[tank_level].low == 11 && found.limits[tank_level].high == 222);
     EXPECT_TRUE(found.colours == kept.colours && found.folder == kept.folder && found.sound == 0);
+
+    program.WriteProfileString("Settings", "Folder", "");
+    found.Load(program);
+    EXPECT_EQ(found.folder, kept.folder) << "none is the root of a drive";
 
     kept.limits[boiler_level] = {900, -900};
     kept.colours[0] = -1, kept.colours[1] = 16;
@@ -104,6 +142,10 @@ TEST(FrontEndSettings, AreKeptAndRepaired) {
     EXPECT_TRUE(kept.colours[0] == 0 && kept.colours[1] == 15);
     EXPECT_LT(kept.folder.GetLength(), MAX_PATH - 20);
     EXPECT_EQ(kept.sound, 1);
+
+    std::free(const_cast<char*>(program.m_pszProfileName));
+    program.m_pszProfileName = ::_strdup("Z:\\no folder\\plant.ini");
+    EXPECT_FALSE(kept.Save(program));
 }
 
 } // namespace

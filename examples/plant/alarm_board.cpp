@@ -12,7 +12,8 @@ void AlarmBoard::Judge(std::size_t channel, double value, const ChannelLimits& l
     const bool low = value < limits.low + (alarm.high ? 0 : back);
     if (high || low) {
         if (!lasts || alarm.high != high)
-            alarm = {State::raised, high, high ? limits.high : limits.low, ++turn_};
+            alarm = {State::raised, high, 0, ++turn_};
+        alarm.limit = high ? limits.high : limits.low; // which may be another one since
     } else if (lasts) {
         alarm.state = alarm.state == State::raised ? State::passed : State::quiet;
     }

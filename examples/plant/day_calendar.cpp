@@ -1,5 +1,8 @@
 #include "day_calendar.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace {
 
 // The calendar's own measures, in pixels.
@@ -66,7 +69,10 @@ bool CDayCalendar::Hit(CPoint point, RecordedDay& day) const {
 // Over what the calendar has painted on its surface.
 void CDayCalendar::OnPaint() {
     CWntCalendar::OnPaint();
-    CClientDC dc(GetWindow(GW_CHILD));
+    CWnd* const surface = GetWindow(GW_CHILD);
+    if (!surface)
+        return;
+    CClientDC dc(surface);
     PaintWeekdays(dc);
     PaintDays(dc);
 }

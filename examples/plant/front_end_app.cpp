@@ -1,5 +1,6 @@
 // plant_front_end [--data FOLDER]                                shows the plant; settings and recordings in FOLDER
 // plant_front_end --render PICTURES [--size WxH] [--data FOLDER] paints every page into bitmap files and ends
+// The days that pictures show are invented, in the folder data below PICTURES unless told: never among recordings.
 #include "main_frame.h"
 #include "pictures.h"
 #include "resource.h"
@@ -10,6 +11,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 
 namespace {
 
@@ -44,14 +46,19 @@ CString ProgramFolder() {
     return whole.Left(whole.ReverseFind('\\'));
 }
 
+// Whole, and there; empty where that cannot be.
 CString DataFolder(const CString& wish) {
-    char base[MAX_PATH] = "";
+    constexpr DWORD longest = MAX_PATH - 50; // room for the names of what lies below it
+    char base[MAX_PATH] = "", whole[MAX_PATH] = "";
     CString folder = wish;
     if (folder.IsEmpty() && SUCCEEDED(::SHGetFolderPath(nullptr, CSIDL_LOCAL_APPDATA, nullptr, 0, base)))
         folder = CString(base) + "\\ZOPWNT plant";
-    ::CreateDirectory(folder, nullptr);
-    char whole[MAX_PATH] = "";
-    return ::GetFullPathName(folder, MAX_PATH, whole, nullptr) ? CString(whole) : folder;
+    const DWORD length = ::GetFullPathName(folder, MAX_PATH, whole, nullptr);
+    if (length == 0 || length > longest)
+        return {};
+    ::CreateDirectory(whole, nullptr);
+    const DWORD attributes = ::GetFileAttributes(whole);
+    return attributes != INVALID_FILE_ATTRIBUTES && attributes & FILE_ATTRIBUTE_DIRECTORY ? whole : "";
 }
 
 class CFrontEndApp : public CWinApp {
@@ -61,11 +68,11 @@ public:
         const CommandLine line = ReadCommandLine(__argc, __argv);
         if (!line.good)
             return Fail("usage: plant_front_end [--render PICTURES [--size WxH]] [--data FOLDER]");
+        if (!line.pictures.IsEmpty())
+            return Paint(line);
         const CString data = DataFolder(line.data);
-        if (!line.pictures.IsEmpty()) {
-            const CString fault = PaintPictures(ProgramFolder(), data, line.pictures, line.size);
-            return fault.IsEmpty() ? FALSE : Fail(fault);
-        }
+        if (data.IsEmpty())
+            return Refuse(no_data_folder);
         alone_ = std::make_unique<CMutex>(FALSE, front_end_mutex_name);
         if (::WaitForSingleObject(alone_->m_hObject, 0) == WAIT_TIMEOUT) {
             AfxMessageBox("Another front end operates the plant.", MB_ICONINFORMATION);
@@ -80,7 +87,20 @@ public:
     }
 
 private:
+    static constexpr char no_data_folder[] = "The folder for settings and recordings cannot be made.";
+
+    BOOL Paint(const CommandLine& line) {
+        ::CreateDirectory(line.pictures, nullptr); // where it cannot be made, the one below it cannot either
+        const CString data = DataFolder(line.data.IsEmpty() ? line.pictures + "\\data" : line.data);
+        if (data.IsEmpty())
+            return Fail(no_data_folder);
+        const CString fault = PaintPictures(ProgramFolder(), data, line.pictures, line.size);
+        return fault.IsEmpty() ? FALSE : Fail(fault);
+    }
+
     BOOL Open(const CString& data) {
+        if (!readings_.GetPtr() || !set_points_.GetPtr())
+            return Refuse("There is no memory to share with the plant.");
         std::free(const_cast<char*>(m_pszProfileName)); // as the framework's documentation has it
         m_pszProfileName = ::_strdup(data + "\\plant.ini");
         settings_.folder = data + "\\recordings";

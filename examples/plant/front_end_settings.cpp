@@ -32,18 +32,20 @@ void FrontEndSettings::Load(CWinApp& program) {
         number(Entry("Colour", i), colours[i]);
     }
     number("Sound", sound);
-    folder = program.GetProfileString(section, "Folder", folder);
+    if (const CString kept = program.GetProfileString(section, "Folder"); !kept.IsEmpty())
+        folder = kept; // an empty one would be the root of a drive
     Repair();
 }
 
-void FrontEndSettings::Save(CWinApp& program) const {
-    for (std::size_t i = 0; i < plant_channels; ++i) {
-        program.WriteProfileInt(section, Entry("Low", i), limits[i].low);
-        program.WriteProfileInt(section, Entry("High", i), limits[i].high);
-        program.WriteProfileInt(section, Entry("Colour", i), colours[i]);
-    }
-    program.WriteProfileInt(section, "Sound", sound);
-    program.WriteProfileString(section, "Folder", folder);
+bool FrontEndSettings::Save(CWinApp& program) const {
+    const auto number = [&](const CString& entry, int value) {
+        return program.WriteProfileInt(section, entry, value) != 0;
+    };
+    bool kept = number("Sound", sound) && program.WriteProfileString(section, "Folder", folder);
+    for (std::size_t i = 0; kept && i < plant_channels; ++i)
+        kept = number(Entry("Low", i), limits[i].low) && number(Entry("High", i), limits[i].high) &&
+               number(Entry("Colour", i), colours[i]);
+    return kept;
 }
 
 void FrontEndSettings::Repair() {

@@ -13,7 +13,8 @@ struct FrontEndSettings {
 
     /// Whatever the file holds, what comes of it is within bounds.
     void Load(CWinApp& program);
-    void Save(CWinApp& program) const;
+    /// False where the file cannot be written.
+    bool Save(CWinApp& program) const;
     void Repair();
 
     COLORREF Colour(std::size_t channel) const { return Palette()[colours[channel]]; }

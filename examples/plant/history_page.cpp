@@ -3,12 +3,6 @@
 #include "resource.h"
 #include "trend_page.h"
 
-namespace {
-
-constexpr int longest_gap = 5 * 60 * 100; // hundredths: what is no gap in a recording
-
-} // namespace
-
 BEGIN_MESSAGE_MAP(CHistoryPage, CFrontPage)
 ON_NOTIFY(DAY_PICKED, IDC_CALENDAR, &CHistoryPage::OnDayPicked)
 END_MESSAGE_MAP()
@@ -34,7 +28,6 @@ bool CHistoryPage::CreateContents() {
     days_panel_.SetAnchor(&text_, 0, 1, 1, 1);
     text_.SetFont(&font_);
     chart_.LoadFromFile(front_end_.Script("history.dat"));
-    chart_.SetLongestPause(longest_gap);
     sash_.SetKeptPane(1);
     sash_.SetLeastSizes(Scaled(160), Scaled(240));
     sash_.SetPanes(&days_panel_, &chart_);
@@ -69,6 +62,7 @@ void CHistoryPage::OpenDay(const RecordedDay& day) {
     calendar_.Pick(day);
     ShowPicked();
     if (!days_.count(day) || !chart_.OpenFile(PathOf(day), 1)) {
+        chart_.StopReading(); // of the day before, which would go on streaming in
         chart_.RemoveSamples();
         chart_.SetTitle("No recording");
         return;

@@ -2,6 +2,7 @@
 
 #include "day_calendar.h"
 #include "front_page.h"
+#include "plant_chart.h"
 
 /// The recorded days: a calendar that marks them, and a chart of the one that is picked.
 class CHistoryPage : public CFrontPage {
@@ -33,6 +34,6 @@ private:
     CDayCalendar calendar_;
     CStatic text_;
     CFont font_;
-    CWntPulse chart_;
+    CPlantChart chart_{WNT_PULSE_CMD_RECORD};
     std::set<RecordedDay> days_;
 };

@@ -6,6 +6,9 @@
 
 #include <afxpriv.h>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 constexpr UINT_PTR update_timer = 1;
@@ -17,6 +20,11 @@ constexpr char place_section[] = "Window";
 HBITMAP LoadStrip(UINT id) {
     return static_cast<HBITMAP>(::LoadImage(AfxGetInstanceHandle(), MAKEINTRESOURCE(id), IMAGE_BITMAP, 0, 0,
                                             LR_CREATEDIBSECTION)); // with its opacity
+}
+
+CSize WorkArea() {
+    CRect area;
+    return ::SystemParametersInfo(SPI_GETWORKAREA, 0, &area, 0) ? area.Size() : CSize(640, 480);
 }
 
 } // namespace
@@ -79,10 +87,11 @@ void CMainFrame::RecalcLayout(BOOL notify) {
     take(tabs_, std::max(rest.Height(), 0));
 }
 
-// Below that the operation's panel would be cut.
+// Below that the operation's panel would be cut; but all of the window has to be within reach.
 void CMainFrame::OnGetMinMaxInfo(MINMAXINFO* sizes) {
     CFrameWnd::OnGetMinMaxInfo(sizes);
-    sizes->ptMinTrackSize = CPoint(Scaled(760), Scaled(540));
+    const CSize area = WorkArea();
+    sizes->ptMinTrackSize = CPoint(std::min<int>(Scaled(760), area.cx), std::min<int>(Scaled(540), area.cy));
 }
 
 // The scale of the panels follows what the system tells main windows only.
@@ -137,25 +146,51 @@ void CMainFrame::RestorePlace(int show) {
     WINDOWPLACEMENT place = {};
     place.length = sizeof place;
     GetWindowPlacement(&place);
-    const auto number = [&](const char* entry, long otherwise) {
-        return static_cast<long>(
-            static_cast<int>(program.GetProfileInt(place_section, entry, static_cast<int>(otherwise))));
+    const auto number = [&](const char* entry, int otherwise) {
+        constexpr int farthest = 32767; // where a window can be
+        return std::clamp(static_cast<int>(program.GetProfileInt(place_section, entry, otherwise)), -farthest,
+                          farthest);
     };
+    const CSize area = WorkArea();
     CRect kept(number("Left", 40), number("Top", 40), 0, 0);
-    kept.right = kept.left + std::max(number("Width", Scaled(1080)), 300l);
-    kept.bottom = kept.top + std::max(number("Height", Scaled(720)), 200l);
+    kept.right = kept.left + std::max(number("Width", std::min<int>(Scaled(1080), area.cx)), 300);
+    kept.bottom = kept.top + std::max(number("Height", std::min<int>(Scaled(720), area.cy)), 200);
     if (::MonitorFromRect(kept, MONITOR_DEFAULTTONULL)) // a screen that is still there
         place.rcNormalPosition = kept;
     place.showCmd = static_cast<UINT>(number("Maximized", 0) ? SW_SHOWMAXIMIZED : show);
     for (CFrontPage* page : Pages())
         page->RestoreLayout();
-    tabs_.Select(static_cast<int>(number("Page", 0)));
+    tabs_.Select(number("Page", 0));
     SetWindowPlacement(&place);
     if (CTipDialog::IsWanted(front_end_.profile))
         PostMessage(WM_COMMAND, ID_TIP); // over the window that is shown by then
 }
 
+// A window that a dialog has disabled is not closed below it.
 void CMainFrame::OnClose() {
+    if (!IsWindowEnabled())
+        return;
+    StorePlace();
+    StoreSettings();
+    CFrameWnd::OnClose();
+}
+
+void CMainFrame::OnEndSession(BOOL ends) {
+    if (ends) {
+        StorePlace();
+        front_end_.settings.Save(*AfxGetApp()); // nobody would read a box any more
+    }
+    CFrameWnd::OnEndSession(ends);
+}
+
+void CMainFrame::StoreSettings() {
+    if (front_end_.settings.Save(*AfxGetApp()) || told_unkept_)
+        return;
+    told_unkept_ = true;
+    CWntErrorBox("Settings", "The settings cannot be kept.", front_end_.profile).DoModal();
+}
+
+void CMainFrame::StorePlace() {
     CWinApp& program = *AfxGetApp();
     WINDOWPLACEMENT place = {};
     place.length = sizeof place;
@@ -169,6 +204,4 @@ void CMainFrame::OnClose() {
     program.WriteProfileInt(place_section, "Page", tabs_.GetSelected());
     for (CFrontPage* page : Pages())
         page->StoreLayout();
-    front_end_.settings.Save(program);
-    CFrameWnd::OnClose();
 }

@@ -35,6 +35,7 @@ protected:
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnTimer(UINT_PTR timer);
     afx_msg void OnClose();
+    afx_msg void OnEndSession(BOOL ends);
     afx_msg void OnGetMinMaxInfo(MINMAXINFO* sizes);
     afx_msg void OnSettingChange(UINT flags, LPCTSTR section);
 
@@ -51,6 +52,7 @@ protected:
     afx_msg void OnSound();
     afx_msg void OnUpdateSound(CCmdUI* ui);
     afx_msg void OnRecord();
+    afx_msg LRESULT OnRecordingFailed(WPARAM, LPARAM);
     afx_msg void OnUpdateRecord(CCmdUI* ui);
     afx_msg void OnReportClear();
     afx_msg void OnPrint();
@@ -70,6 +72,10 @@ private:
     bool CreateTools();
     bool CreatePages();
     void ShowSettings();
+    void TellRecordingFault(const CString& fault);
+    void StorePlace();
+    /// Told once where the profile cannot be written.
+    void StoreSettings();
 
     FrontEnd& front_end_;
     CWntToolBar tools_;
@@ -82,4 +88,5 @@ private:
     CReportPage report_;
     std::unique_ptr<CWntTrace> trace_;
     AlarmHorn horn_;
+    bool told_unkept_ = false;
 };

@@ -5,10 +5,13 @@
 #include "settings_sheet.h"
 #include "tip_dialog.h"
 
+#include <memory>
+
 BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
 ON_WM_CREATE()
 ON_WM_TIMER()
 ON_WM_CLOSE()
+ON_WM_ENDSESSION()
 ON_WM_GETMINMAXINFO()
 ON_WM_SETTINGCHANGE()
 ON_COMMAND(ID_SIMULATOR_START, &CMainFrame::OnSimulatorStart)
@@ -23,6 +26,7 @@ ON_COMMAND(ID_ACKNOWLEDGE, &CMainFrame::OnAcknowledge)
 ON_UPDATE_COMMAND_UI(ID_ACKNOWLEDGE, &CMainFrame::OnUpdateAcknowledge)
 ON_COMMAND(ID_SOUND, &CMainFrame::OnSound)
 ON_UPDATE_COMMAND_UI(ID_SOUND, &CMainFrame::OnUpdateSound)
+ON_MESSAGE(WM_RECORDING_FAILED, &CMainFrame::OnRecordingFailed)
 ON_COMMAND(ID_RECORD, &CMainFrame::OnRecord)
 ON_UPDATE_COMMAND_UI(ID_RECORD, &CMainFrame::OnUpdateRecord)
 ON_COMMAND(ID_REPORT_CLEAR, &CMainFrame::OnReportClear)
@@ -40,8 +44,12 @@ END_MESSAGE_MAP()
 
 // -- The simulator ----------------------------------------------------------------------------------------------------
 
-// One that runs already tells the new one to go.
+// One that runs already tells the new one to go. The order to hang is taken back: one that hangs by it lives on, and
+// where it was killed, the next one would find the order and hang at once.
 void CMainFrame::OnSimulatorStart() {
+    PlantSetPoints wanted = front_end_.station.SetPoints();
+    wanted.faults &= ~static_cast<std::uint32_t>(simulator_hangs);
+    front_end_.station.Want(wanted);
     CString command = '"' + front_end_.folder + "\\plant_simulator.exe\"";
     STARTUPINFO start = {};
     start.cb = sizeof start;
@@ -117,13 +125,23 @@ void CMainFrame::OnUpdateSound(CCmdUI* ui) {
 // -- Recording and report ---------------------------------------------------------------------------------------------
 
 void CMainFrame::OnRecord() {
-    if (trend_.Chart().IsRecording()) {
-        trend_.Chart().StopRecording();
-        return;
-    }
-    const CString fault = trend_.StartRecording();
+    CString fault;
+    if (trend_.Chart().StopRecording())
+        fault = trend_.Chart().GetRecordingError(); // of what was not yet on the disk
+    else
+        fault = trend_.StartRecording();
     if (!fault.IsEmpty())
-        CWntErrorBox("Recording", fault, front_end_.settings.folder).DoModal();
+        TellRecordingFault(fault);
+}
+
+LRESULT CMainFrame::OnRecordingFailed(WPARAM, LPARAM) {
+    TellRecordingFault(trend_.Chart().GetRecordingError());
+    return 0;
+}
+
+void CMainFrame::TellRecordingFault(const CString& fault) {
+    overview_.AddEvent("Not recorded: " + fault);
+    CWntErrorBox("Recording", fault, front_end_.settings.folder).DoModal();
 }
 
 void CMainFrame::OnUpdateRecord(CCmdUI* ui) {
@@ -150,10 +168,10 @@ void CMainFrame::OnSettings() {
         return;
     const bool moved = sheet.Chosen().folder != front_end_.settings.folder;
     front_end_.settings = sheet.Chosen();
-    front_end_.settings.Save(*AfxGetApp());
+    StoreSettings();
     if (moved && trend_.Chart().IsRecording()) {
-        trend_.Chart().StopRecording();
-        OnRecord();
+        OnRecord(); // ends in the old folder
+        OnRecord(); // goes on in the new one
     }
     ShowSettings();
 }

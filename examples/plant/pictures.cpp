@@ -5,6 +5,8 @@
 #include "plant_model.h"
 #include "resource.h"
 
+#include <memory>
+
 namespace {
 
 constexpr const char* names[] = {"overview", "trend", "history", "report"};

@@ -3,6 +3,7 @@
 
 #include "plant_values.h"
 
+#include <array>
 #include <atomic>
 #include <bit>
 #include <cstring>

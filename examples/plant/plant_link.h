@@ -6,7 +6,7 @@ enum class LinkState {
     absent,  ///< nothing was ever heard of a simulator
     live,    ///< records come
     silent,  ///< none has come for a while
-    nonsense ///< records come, with values that are no numbers
+    nonsense ///< records come, with values that no plant can have
 };
 
 /// A reader's end of the readings: never waits, and tells whether somebody is still writing.
@@ -21,7 +21,7 @@ public:
     LinkState State() const { return state_; }
     /// Of the last record, within their ranges.
     const PlantReadings& Readings() const { return readings_; }
-    /// A bit for every channel whose last value was no number.
+    /// A bit for every channel whose last value was none that a plant can have.
     std::uint32_t Refused() const { return refused_; }
 
 private:

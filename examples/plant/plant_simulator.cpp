@@ -63,9 +63,10 @@ int main(int count, char** arguments) {
         return RunAlone();
     if (count != 4 || std::strcmp(arguments[1], "--days") != 0)
         return Fail("usage: plant_simulator [--days FOLDER COUNT]");
-    const int days = std::atoi(arguments[3]);
-    if (days < 1 || days > most_past_days)
+    char* rest = nullptr;
+    const long days = std::strtol(arguments[3], &rest, 10);
+    if (*rest || days < 1 || days > most_past_days)
         return Fail("the number of days is out of range");
-    const CString fault = WritePastDays(arguments[2], days);
+    const CString fault = WritePastDays(arguments[2], static_cast<int>(days));
     return fault.IsEmpty() ? 0 : Fail(fault);
 }

@@ -17,11 +17,13 @@ std::uint32_t bound(PlantReadings& readings, const PlantReadings& before) {
     std::uint32_t refused = 0;
     for (std::size_t i = 0; i < plant_channels; ++i) {
         double& value = readings.values[i];
-        if (!std::isfinite(value)) {
+        const ChannelRange& range = plant_ranges[i];
+        const int width = range.greatest - range.least;
+        if (!(value >= range.least - width && value <= range.greatest + width)) {
             value = before.values[i];
             refused |= 1u << i;
         }
-        value = std::clamp<double>(value, plant_ranges[i].least, plant_ranges[i].greatest);
+        value = std::clamp<double>(value, range.least, range.greatest);
     }
     PlantSetPoints points{readings.furnace_target, readings.steam_valve, readings.switches, readings.faults, 0};
     if (!bound(points))

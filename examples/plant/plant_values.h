@@ -66,5 +66,6 @@ struct PlantReadings {
 
 /// Within their ranges; false, and nothing changed, where one of them is no number.
 bool bound(PlantSetPoints& points);
-/// Within their ranges; what is no number takes the value before. A bit for every channel where that was so.
+/// Within their ranges; what is no number, or farther outside than a range is wide, takes the value before. A bit for
+/// every channel where that was so.
 std::uint32_t bound(PlantReadings& readings, const PlantReadings& before);

@@ -3,6 +3,8 @@
 #include "resource.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace {
 

@@ -5,6 +5,10 @@
 
 #include <limits>
 
+BEGIN_MESSAGE_MAP(CPlantChart, CWntPulse)
+ON_WM_INITMENUPOPUP()
+END_MESSAGE_MAP()
+
 namespace {
 
 constexpr ULONGLONG sample_period = 500; // milliseconds: what a file of a whole day can bear
@@ -31,6 +35,7 @@ bool CTrendPage::CreateContents() {
         return false;
     chart_.LoadFromFile(front_end_.Script("trend.dat"));
     chart_.SetRecordingParts(0, 1);
+    chart_.DragAcceptFiles(FALSE); // what is dropped would replace the live curves
     return AddPlantCurves(chart_, front_end_.settings);
 }
 
@@ -65,9 +70,10 @@ CString CTrendPage::StartRecording() {
     return chart_.GetRecordingError();
 }
 
+// Posted: the chart is at work while it tells, and a box would hold it up.
 BOOL CTrendPage::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) {
     const auto& told = *reinterpret_cast<const NMHDR*>(lParam);
     if (told.code == WNT_PULSE_RECORDING && told.idFrom == IDC_CHART && *chart_.GetRecordingError())
-        WntTrace("Recording: %s\n", chart_.GetRecordingError());
+        GetTopLevelFrame()->PostMessage(WM_RECORDING_FAILED);
     return CFrontPage::OnNotify(wParam, lParam, result);
 }

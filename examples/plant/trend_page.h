@@ -1,6 +1,10 @@
 #pragma once
 
 #include "front_page.h"
+#include "plant_chart.h"
+
+/// To the main window, later, after a recording was ended by a fault.
+constexpr UINT WM_RECORDING_FAILED = WM_APP + 1;
 
 /// The measured values over time, live, and their recording, a file a day.
 class CTrendPage : public CFrontPage {
@@ -19,7 +23,7 @@ protected:
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override;
 
 private:
-    CWntPulse chart_;
+    CPlantChart chart_{WNT_PULSE_CMD_OPEN};
     ULONGLONG taken_ = 0; // when values were taken last
 };
 

@@ -181,11 +181,17 @@ void end_and_start_the_plant(const FrontEndWindow& window, Plant& plant) {
 }
 
 void play_faults(const FrontEndWindow& window, Plant& plant) {
-    for (const int fault : {ID_FAULT_FIRST + 3, ID_FAULT_LAST}) { // no number, no record
-        window.Command(fault);
-        window.ExpectBanner(amber, "fault " + std::to_string(fault));
-        window.Command(fault);
-        window.ExpectNoBanner(amber, "the end of fault " + std::to_string(fault));
+    struct {
+        int begin, end;
+        const char* what;
+    } constexpr faults[] = {{ID_FAULT_FIRST + 3, ID_FAULT_FIRST + 3, "no number"},
+                            {ID_FAULT_LAST, ID_FAULT_LAST, "no record"},
+                            {ID_FAULT_LAST, ID_SIMULATOR_START, "no record, until a start"}};
+    for (const auto& fault : faults) {
+        window.Command(fault.begin);
+        window.ExpectBanner(amber, fault.what);
+        window.Command(fault.end);
+        window.ExpectNoBanner(amber, std::string("the end of ") + fault.what);
     }
     PlantReadings wild; // a writer that is no simulator
     wild.values.fill(-1e308);
