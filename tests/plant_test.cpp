@@ -53,6 +53,7 @@ TEST(PlantModel, FaultsShowWhereTheyShouldAndPass) {
     } cases[] = {{pump_trips, 20, pump_speed, 0, 20},
                  {pump_trips, 120, boiler_level, 0, 25},
                  {tank_leaks, 60, tank_level, 0, 60},
+                 {tank_leaks, 600, feed_flow, 0, 10}, // an empty tank feeds nothing
                  {burner_fails, 120, furnace_temperature, 0, 150},
                  {every_fault, 36'000, boiler_pressure, -1, -1}}; // only no number will do
     for (const auto& c : cases) {
@@ -162,9 +163,13 @@ TEST(PlantLink, BoundsWhatIsNearARangeAndRefusesWhatNoPlantHas) {
     const PlantReadings& seen = link.Readings();
     EXPECT_THAT(seen.values, testing::ElementsAre(8, 8, 100, 8, 8, 8, 0));
     EXPECT_EQ(seen.furnace_target, least_furnace_target) << "that of the record before, bounded";
-    EXPECT_EQ(seen.faults & ~every_fault, 0u);
-    block.Write(readings_of(9));
+    wild.furnace_target = 800;
+    block.Write(wild);
     link.Poll(3);
+    EXPECT_EQ(seen.faults, every_fault);
+    EXPECT_EQ(seen.switches, every_switch);
+    block.Write(readings_of(9));
+    link.Poll(4);
     EXPECT_EQ(link.State(), LinkState::live);
 }
 
