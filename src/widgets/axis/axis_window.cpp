@@ -207,9 +207,7 @@ void CWntAxis::SetZoomRects(int keep) {
 }
 
 int CWntAxis::GetZoom(double* from, double* to) const {
-    if (!from || !to || !zoom_->shown || !zoom_->part(model_->horizontal(), *from, *to))
-        return 0;
-    return 1;
+    return from && to && zoom_->shown && zoom_->part(model_->horizontal(), *from, *to);
 }
 
 void CWntAxis::lay_out(int cx, int cy) {

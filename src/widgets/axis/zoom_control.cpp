@@ -49,14 +49,14 @@ void ZoomControl::lay_out(const AxisModel& axis, bool with_slider) {
 }
 
 bool ZoomControl::part(bool horizontal, double& from, double& to) const {
-    const std::int32_t box_start = horizontal ? box.left : box.top, box_end = horizontal ? box.right : box.bottom;
-    const std::int32_t start = std::max(horizontal ? slider.left : slider.top, box_start);
-    const std::int32_t end = std::min(horizontal ? slider.right : slider.bottom, box_end);
+    AxisRect boxes[] = {box, slider};
+    const Stretch whole = along(boxes[0], horizontal), covered = along(boxes[1], horizontal);
+    const std::int32_t start = std::max(covered.start, whole.start), end = std::min(covered.end, whole.end);
     if (start >= end)
         return false;
-    const double length = box_end - box_start;
-    from = (horizontal ? start - box_start : box_end - end) / length;
-    to = (horizontal ? end - box_start : box_end - start) / length;
+    const double length = whole.end - whole.start;
+    from = (horizontal ? start - whole.start : whole.end - end) / length;
+    to = (horizontal ? end - whole.start : whole.end - start) / length;
     return true;
 }
 

@@ -52,6 +52,12 @@ struct CWntPulse::State {
     /// Something lies over the curves.
     bool overlaid() const { return cursors[0] || cursors[1] || drag == Drag::stretch || reading; }
     const wnt::PixelRect& plot() const { return layout.plot; }
+    /// Of a cursor, within the plot; nothing for one that is not seen.
+    std::optional<int> seen_column(int which) const {
+        const auto& cursor = cursors[static_cast<std::size_t>(which)];
+        const std::int64_t x = cursor ? view.x(*cursor) : -1;
+        return 0 <= x && x < plot().width() ? std::optional(static_cast<int>(x)) : std::nullopt;
+    }
     bool in_plot(CPoint point) const {
         const wnt::PixelRect& r = plot();
         return r.left <= point.x && point.x < r.right && r.top <= point.y && point.y < r.bottom;

@@ -26,8 +26,8 @@ void PulseView::resize(std::int32_t width) {
 
 void PulseView::zoom(std::int64_t span, std::int64_t x) {
     kept_end_.reset();
-    const std::int64_t kept = time(std::clamp<std::int64_t>(x, 0, columns_.width - 1));
     x = std::clamp<std::int64_t>(x, 0, columns_.width - 1);
+    const std::int64_t kept = time(x);
     columns_.span = std::clamp(span, shortest_span, longest_span);
     origin_ = live_ ? origin_before(now_) : columns_.column(kept) - x;
     keep_in_history();

@@ -123,11 +123,10 @@ void CWntPulse::paint_overlay(PaintPass& pass) {
     const CRect plot = rect_of(s.plot());
     const int thickness = std::max(s.scale / 100, 1);
     for (int which = 0; which < 2; ++which) {
-        const auto& cursor = s.cursors[static_cast<std::size_t>(which)];
-        const std::int64_t x = cursor ? s.view.x(*cursor) : -1;
-        if (x < 0 || x >= plot.Width())
+        const auto x = s.seen_column(which);
+        if (!x)
             continue;
-        const int left = plot.left + static_cast<int>(x);
+        const int left = plot.left + *x;
         const int step = which == 0 ? plot.Height() : 8; // the second one is dashed
         for (int y = plot.top; y < plot.bottom; y += step)
             pass.fill(CRect(left, y, std::min<int>(left + thickness, plot.right),
@@ -158,13 +157,10 @@ void CWntPulse::paint_overlay(PaintPass& pass) {
 
 void CWntPulse::update_tip() {
     State& s = *state_;
-    const auto seen = [&](const std::optional<std::int64_t>& cursor) {
-        return cursor && 0 <= s.view.x(*cursor) && s.view.x(*cursor) < s.plot().width();
-    };
-    const int which = seen(s.cursors[0]) ? 0 : 1;
+    const int which = s.seen_column(0) ? 0 : 1;
     const auto at = s.cursors[static_cast<std::size_t>(which)];
-    const std::int64_t x = at ? s.view.x(*at) : -1;
-    if (!tip_.m_hWnd || !seen(at) || ::GetFocus() != m_hWnd || !IsWindowVisible()) {
+    const auto x = s.seen_column(which);
+    if (!tip_.m_hWnd || !x || ::GetFocus() != m_hWnd || !IsWindowVisible()) {
         if (std::exchange(s.tip_shown, false)) {
             KillTimer(pulse_tip_timer);
             tip_.HideTip();
@@ -175,7 +171,7 @@ void CWntPulse::update_tip() {
         SetTimer(pulse_tip_timer, tip_milliseconds, nullptr);
     WntTip tip;
     tip.title = text_of_axis_time(*at).c_str();
-    const auto other = which == 0 ? s.cursors[1] : s.cursors[0];
+    const auto other = s.cursors[static_cast<std::size_t>(1 - which)];
     if (other)
         tip.title += CString("\n") + span_text(*other - *at).c_str();
     for (int i = 0; i < GetCurveCount(); ++i) {
@@ -190,7 +186,7 @@ void CWntPulse::update_tip() {
         }
         tip.text += CString(tip.text.IsEmpty() ? "" : "\n") + line.c_str();
     }
-    CPoint screen(s.plot().left + static_cast<int>(x), s.plot().top + s.plot().height() / 4);
+    CPoint screen(s.plot().left + *x, s.plot().top + s.plot().height() / 4);
     ClientToScreen(&screen);
     tip_.TrackTip(tip, screen);
 }

@@ -275,7 +275,7 @@ void CWntPulse::copy_columns(CDC& dc, int from, int to) {
 }
 
 void CWntPulse::paint_plot(CDC& dc) {
-    if (state_->plot().width() <= 0 || state_->plot().height() <= 0)
+    if (rect_of(state_->plot()).IsRectEmpty())
         return;
     draw_plot();
     copy_columns(dc, 0, state_->picture.canvas().width);

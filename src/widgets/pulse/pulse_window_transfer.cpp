@@ -189,12 +189,17 @@ void CWntPulse::end_reading(int whole) {
     tell(WNT_PULSE_READ, whole);
 }
 
+// A tip or a menu may lie over it still.
+void CWntPulse::paint_for_copy() {
+    if (std::exchange(state_->tip_shown, false))
+        tip_.HideTip();
+    RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+}
+
 int CWntPulse::CopyPicture() {
     if (!this || !m_hWnd)
         return 0;
-    if (std::exchange(state_->tip_shown, false))
-        tip_.HideTip();
-    RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN); // a menu may lie over it still
+    paint_for_copy();
     CRect client;
     GetClientRect(&client);
     CClientDC screen(this);
@@ -236,9 +241,7 @@ int CWntPulse::CopyValues() {
 int CWntPulse::Print() {
     if (!this || !m_hWnd)
         return 0;
-    if (std::exchange(state_->tip_shown, false))
-        tip_.HideTip();
-    RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    paint_for_copy();
     MakeHardcopy(this, state_->chart.title.empty() ? "Chart" : state_->chart.title.c_str());
     return 1;
 }
