@@ -115,6 +115,20 @@ TEST_F(AxisTest, TimeTicksAndLabels) {
     expect_shown(1, true, {{600, 3, " 6h"}, {300, 3, " 7h"}});
 }
 
+TEST_F(AxisTest, AFollowedRangeIsSeenAtOnce) {
+    axis_.FollowRange(0, 6'000); // before it has a size
+    axis_.SetFlags(2, 0, 2);
+    for (const CSize& extent : {CSize(300, 40), CSize(500, 60), CSize(90, 30)}) {
+        size(extent.cx, extent.cy);
+        full_repaint(axis_);
+        axis_.FollowRange(extent.cx, extent.cx + 6'000);
+        EXPECT_FALSE(::GetUpdateRect(axis_, nullptr, FALSE));
+        const Pixels seen = pixels_of(axis_);
+        full_repaint(axis_);
+        EXPECT_TRUE(seen.values == pixels_of(axis_).values) << extent.cx;
+    }
+}
+
 TEST_F(AxisTest, ZoomControlFollowsTheMouse) {
     const auto zoom = [this] { // the slider's pixels and those of the box around it
         full_repaint(axis_);

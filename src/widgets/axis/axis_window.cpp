@@ -7,6 +7,7 @@
 #include "widgets/axis/axis_model.h"
 #include "widgets/axis/wnt_axis_properties.h"
 #include "widgets/axis/zoom_control.h"
+#include "widgets/painting/memory_bitmap.h"
 #include "widgets/painting/surface_owner.h"
 
 namespace {
@@ -42,7 +43,7 @@ END_MESSAGE_MAP()
 
 CWntAxis::CWntAxis()
     : ControlWindow("WntAxis", Draws::itself), model_(std::make_unique<wnt::AxisModel>()),
-      zoom_(std::make_unique<wnt::ZoomControl>()) {}
+      zoom_(std::make_unique<wnt::ZoomControl>()), picture_(std::make_unique<wnt::MemoryBitmap>()) {}
 
 CWntAxis::~CWntAxis() {
     DestroyWindow(); // while its handlers and what they use still exist

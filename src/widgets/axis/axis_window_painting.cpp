@@ -45,23 +45,35 @@ BOOL CWntAxis::OnEraseBkgnd(CDC*) {
 
 void CWntAxis::OnPaint() {
     CPaintDC dc(this);
+    paint(dc);
+}
+
+void CWntAxis::FollowRange(__int64 start, __int64 end) {
+    model_->set_time_range(start, end);
+    if (!m_hWnd)
+        return;
+    CClientDC dc(this);
+    paint(dc);
+}
+
+void CWntAxis::paint(CDC& dc) {
     const wnt::AxisRect& r = model_->rect;
-    const wnt::PaintBuffer buffer(dc, r.right - r.left, r.bottom - r.top);
+    const wnt::PaintBuffer buffer(dc, *picture_, r.right - r.left, r.bottom - r.top);
     const wnt::SelectGuard pen(dc.m_hDC, shadow_pen_.GetSafeHandle());
     const wnt::SelectGuard font(dc.m_hDC, label_font_.GetSafeHandle());
     dc.SetBkMode(TRANSPARENT);
-    DrawBorder(&dc, r.left, r.top, r.right, r.bottom, 1, 1);
-    draw_ticks(&dc);
+    draw_border(dc, r.left, r.top, r.right, r.bottom, true, true);
+    draw_ticks(dc);
     if (zoom_->shown)
-        PaintZoomControl(&dc);
+        draw_zoom_control(dc);
 }
 
-void CWntAxis::draw_ticks(CPaintDC* dc) {
+void CWntAxis::draw_ticks(CDC& dc) {
     const int position = model_->position;
     if (position < wnt::axis_top || position > wnt::axis_right)
         return;
     position_description_ = position_descriptions[position];
-    dc->SetTextAlign(label_alignments[position]);
+    dc.SetTextAlign(label_alignments[position]);
     if (model_->type == wnt::axis_time) {
         for (const wnt::AxisTick& tick : wnt::time_ticks(*model_))
             draw_time_tick(dc, tick);
@@ -72,29 +84,29 @@ void CWntAxis::draw_ticks(CPaintDC* dc) {
     }
 }
 
-void CWntAxis::draw_tick(CPaintDC* dc, const wnt::AxisTick& tick) {
+void CWntAxis::draw_tick(CDC& dc, const wnt::AxisTick& tick) {
     int ends[4];
     tick_line(tick_start, tick.length, tick.pixel, ends);
     if (engraved_ticks_)
-        shadowline(dc, ends[0], ends[1], ends[2], ends[3], model_->horizontal());
+        engrave(dc, ends[0], ends[1], ends[2], ends[3], model_->horizontal());
     else
-        line(dc->m_hDC, shadow_pen_.GetSafeHandle(), ends[0], ends[1], ends[2], ends[3]);
+        line(dc.m_hDC, shadow_pen_.GetSafeHandle(), ends[0], ends[1], ends[2], ends[3]);
     draw_label(dc, tick, tick_start + label_distance);
 }
 
-void CWntAxis::draw_time_tick(CPaintDC* dc, const wnt::AxisTick& tick) {
+void CWntAxis::draw_time_tick(CDC& dc, const wnt::AxisTick& tick) {
     int ends[4];
     tick_line(time_tick_start, tick.length, tick.pixel, ends);
-    shadowline(dc, ends[0], ends[1], ends[2], ends[3], model_->horizontal());
+    engrave(dc, ends[0], ends[1], ends[2], ends[3], model_->horizontal());
     draw_label(dc, tick, time_label_distance);
 }
 
-void CWntAxis::draw_label(CPaintDC* dc, const wnt::AxisTick& tick, int distance) {
+void CWntAxis::draw_label(CDC& dc, const wnt::AxisTick& tick, int distance) {
     if (tick.label.empty())
         return;
     int ends[4];
     tick_line(distance, 0, tick.pixel, ends);
-    dc->TextOut(ends[0], ends[1], tick.label.c_str(), static_cast<int>(tick.label.size()));
+    dc.TextOut(ends[0], ends[1], tick.label.c_str(), static_cast<int>(tick.label.size()));
 }
 
 // A line from `start` pixels within the tick edge inwards.
@@ -117,32 +129,32 @@ void CWntAxis::tick_line(int start, int length, int pixel, int (&ends)[4]) const
     }
 }
 
-void CWntAxis::shadowline(CPaintDC* dc, int x1, int y1, int x2, int y2, int horizontal) {
+void CWntAxis::engrave(CDC& dc, int x1, int y1, int x2, int y2, bool horizontal) {
     const int right = horizontal ? 1 : 0;
     const int down = 1 - right;
-    line(dc->m_hDC, shadow_pen_.GetSafeHandle(), x1, y1, x2, y2);
-    line(dc->m_hDC, highlight_pen_.GetSafeHandle(), x1 + right, y1 + down, x2 + right, y2 + down);
+    line(dc.m_hDC, shadow_pen_.GetSafeHandle(), x1, y1, x2, y2);
+    line(dc.m_hDC, highlight_pen_.GetSafeHandle(), x1 + right, y1 + down, x2 + right, y2 + down);
 }
 
-void CWntAxis::fill_box(CPaintDC* dc, int x, int y, int width, int height, COLORREF colour) {
+void CWntAxis::fill_box(CDC& dc, int x, int y, int width, int height, COLORREF colour) {
     if (width < 3 || height < 3)
         return;
     const wnt::GdiObject<HBRUSH> brush(::CreateSolidBrush(colour));
-    const wnt::SelectGuard selected(dc->m_hDC, brush.get());
-    dc->PatBlt(x + 1, y + 1, width - 2, height - 2, PATCOPY);
+    const wnt::SelectGuard selected(dc.m_hDC, brush.get());
+    dc.PatBlt(x + 1, y + 1, width - 2, height - 2, PATCOPY);
 }
 
-void CWntAxis::DrawBorder(CPaintDC* dc, int x, int y, int width, int height, int flag, long fill) {
+void CWntAxis::draw_border(CDC& dc, int x, int y, int width, int height, bool raised, bool fill) {
     if (width < 1 || height < 1)
         return;
-    const HGDIOBJ first = (flag ? highlight_pen_ : shadow_pen_).GetSafeHandle();
-    const HGDIOBJ second = (flag ? shadow_pen_ : highlight_pen_).GetSafeHandle();
+    const HGDIOBJ first = (raised ? highlight_pen_ : shadow_pen_).GetSafeHandle();
+    const HGDIOBJ second = (raised ? shadow_pen_ : highlight_pen_).GetSafeHandle();
     const int right = x + width - 1;
     const int bottom = y + height - 1;
-    line(dc->m_hDC, second, right, y, right, bottom);
-    line(dc->m_hDC, second, right, bottom, x - 1, bottom);
-    line(dc->m_hDC, first, x, bottom - 1, x, y);
-    line(dc->m_hDC, first, x, y, right, y);
+    line(dc.m_hDC, second, right, y, right, bottom);
+    line(dc.m_hDC, second, right, bottom, x - 1, bottom);
+    line(dc.m_hDC, first, x, bottom - 1, x, y);
+    line(dc.m_hDC, first, x, y, right, y);
     if (fill)
         fill_box(dc, x, y, width, height, ground);
 }
@@ -167,11 +179,25 @@ void CWntAxis::vertical_time_scale(CPaintDC* dc, float percent) {
         shadowline(dc, r.right - 1, y, r.right - 1 - length, y, 0);
 }
 
-void CWntAxis::PaintZoomControl(CPaintDC* dc) {
+void CWntAxis::draw_zoom_control(CDC& dc) {
     const wnt::AxisRect& box = zoom_->box;
-    DrawBorder(dc, box.left, box.top, box.right, box.bottom, 0, 1);
+    draw_border(dc, box.left, box.top, box.right, box.bottom, false, true);
     fill_box(dc, box.left, box.top, box.right, box.bottom, zoom_box_colour);
     const wnt::AxisRect& slider = zoom_->slider;
-    DrawBorder(dc, slider.left, slider.top, slider.right, slider.bottom, 1, 1);
+    draw_border(dc, slider.left, slider.top, slider.right, slider.bottom, true, true);
     fill_box(dc, slider.left, slider.top, slider.right, slider.bottom, zoom_slider_colour);
+}
+
+// For derived classes, which paint with the context of their own OnPaint().
+
+void CWntAxis::shadowline(CPaintDC* dc, int x1, int y1, int x2, int y2, int horizontal) {
+    engrave(*dc, x1, y1, x2, y2, horizontal != 0);
+}
+
+void CWntAxis::DrawBorder(CPaintDC* dc, int x, int y, int width, int height, int flag, long fill) {
+    draw_border(*dc, x, y, width, height, flag != 0, fill != 0);
+}
+
+void CWntAxis::PaintZoomControl(CPaintDC* dc) {
+    draw_zoom_control(*dc);
 }

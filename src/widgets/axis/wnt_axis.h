@@ -12,6 +12,7 @@ namespace wnt {
 struct AxisModel;
 struct AxisRect;
 struct AxisTick;
+class MemoryBitmap;
 struct ZoomControl;
 enum class ZoomGrip;
 } // namespace wnt
@@ -64,6 +65,8 @@ public:
     void SetRange(float minimum, float maximum);
     /// Range of a time axis; the type stays. The records that GetViewTime then copies hold the year less 1900.
     void SetRange(__int64 start, __int64 end);
+    /// The same for a range that moves many times a second: shown at once, without the detour over a paint message.
+    void FollowRange(__int64 start, __int64 end);
     /// Range of a time axis by full years; makes it one. Shown with the next repaint. An upright axis shows labels only
     /// for a range set by values.
     void SetViewTime(TAxisdatetime* start, TAxisdatetime* end);
@@ -170,11 +173,15 @@ private:
     void lay_out(int cx, int cy) override;
     void repaint();
     void tick_line(int start, int length, int pixel, int (&ends)[4]) const;
-    void draw_tick(CPaintDC* dc, const wnt::AxisTick& tick);
-    void draw_time_tick(CPaintDC* dc, const wnt::AxisTick& tick);
-    void draw_label(CPaintDC* dc, const wnt::AxisTick& tick, int distance);
-    void draw_ticks(CPaintDC* dc);
-    void fill_box(CPaintDC* dc, int x, int y, int width, int height, COLORREF colour);
+    void paint(CDC& dc);
+    void draw_ticks(CDC& dc);
+    void draw_tick(CDC& dc, const wnt::AxisTick& tick);
+    void draw_time_tick(CDC& dc, const wnt::AxisTick& tick);
+    void draw_label(CDC& dc, const wnt::AxisTick& tick, int distance);
+    void engrave(CDC& dc, int x1, int y1, int x2, int y2, bool horizontal);
+    void draw_border(CDC& dc, int x, int y, int width, int height, bool raised, bool fill);
+    void fill_box(CDC& dc, int x, int y, int width, int height, COLORREF colour);
+    void draw_zoom_control(CDC& dc);
     bool show_zoom_cursor(wnt::ZoomGrip grip);
     void drag_zoom(CPoint point);
     void invalidate_painted(const wnt::AxisRect& r);
@@ -189,4 +196,5 @@ private:
     CFont label_font_; ///< 10 pixels high.
     std::unique_ptr<wnt::AxisModel> model_;
     std::unique_ptr<wnt::ZoomControl> zoom_;
+    std::unique_ptr<wnt::MemoryBitmap> picture_; ///< What was painted last, kept for its room.
 };

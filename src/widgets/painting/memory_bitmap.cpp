@@ -2,18 +2,25 @@
 
 namespace wnt {
 
-MemoryBitmap::~MemoryBitmap() {
+void MemoryBitmap::release() {
     if (bitmap_) {
         ::SelectObject(dc_, previous_);
         ::DeleteObject(bitmap_);
     }
     if (dc_)
         ::DeleteDC(dc_);
+    bitmap_ = nullptr;
+    dc_ = nullptr;
 }
 
 bool MemoryBitmap::create(HDC like, int width, int height) {
+    if (bitmap_ && width == width_ && height == height_)
+        return true;
+    release();
     if (width < 1 || height < 1)
         return false;
+    width_ = width;
+    height_ = height;
     dc_ = ::CreateCompatibleDC(like);
     bitmap_ = dc_ ? ::CreateCompatibleBitmap(like, width, height) : nullptr;
     if (bitmap_)

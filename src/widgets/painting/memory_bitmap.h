@@ -9,12 +9,13 @@ namespace wnt {
 class MemoryBitmap {
 public:
     MemoryBitmap() = default;
-    ~MemoryBitmap();
+    ~MemoryBitmap() { release(); }
     MemoryBitmap(const MemoryBitmap&) = delete;
     MemoryBitmap& operator=(const MemoryBitmap&) = delete;
 
-    /// Once in an object's life; false where there is none.
+    /// False where there is none. The one of before stays where it has this size, with what is on it.
     bool create(HDC like, int width, int height);
+    void release();
     explicit operator bool() const { return bitmap_ != nullptr; }
     HDC dc() const { return dc_; }
 
@@ -22,6 +23,8 @@ private:
     HDC dc_ = nullptr;
     HBITMAP bitmap_ = nullptr;
     HGDIOBJ previous_ = nullptr;
+    int width_ = 0;
+    int height_ = 0;
 };
 
 } // namespace wnt

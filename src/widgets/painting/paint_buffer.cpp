@@ -2,7 +2,8 @@
 
 namespace wnt {
 
-PaintBuffer::PaintBuffer(CDC& dc, int width, int height) : dc_(dc), window_(dc.m_hDC), width_(width), height_(height) {
+PaintBuffer::PaintBuffer(CDC& dc, MemoryBitmap& bitmap, int width, int height)
+    : dc_(dc), window_(dc.m_hDC), width_(width), height_(height), bitmap_(bitmap) {
     if (bitmap_.create(window_, width, height))
         redirect(bitmap_.dc());
 }

@@ -183,7 +183,10 @@ void CWntPulse::update_axes() {
     time_.ScreenToValue(state_->plot().width(), &end);
     if (start == state_->view.start() && end == state_->view.end())
         return;
-    time_.SetRange(state_->view.start(), state_->view.end());
+    if (state_->anew)
+        time_.SetRange(state_->view.start(), state_->view.end());
+    else
+        time_.FollowRange(state_->view.start(), state_->view.end());
 }
 
 void CWntPulse::update_scroll_bar() {
@@ -210,8 +213,8 @@ void CWntPulse::refresh(bool anew) {
     State& s = *state_;
     s.know_history();
     update_ranges();
-    update_axes();
     s.anew = s.anew || anew;
+    update_axes();
     if (s.anew || s.overlaid()) {
         InvalidateRect(rect_of(s.plot()), FALSE);
     } else {
