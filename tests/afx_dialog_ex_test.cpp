@@ -1,0 +1,100 @@
+// Dialogs with a background of their own.
+#include "afx_test_app.h"
+#include "pixels.h"
+
+#include <SDKDDKVer.h>
+#include <afxdialogex.h>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr COLORREF green = RGB(0, 200, 0), red = RGB(255, 0, 0), blue = RGB(0, 0, 255);
+
+class ColouredDialog : public testing::Test {
+protected:
+    void SetUp() override {
+        const struct {
+            DLGTEMPLATE head;
+            WORD menu, name, title;
+        } form = {{WS_POPUP, 0, 0, 0, 0, 100, 60}, 0, 0, 0};
+        ASSERT_TRUE(dialog_.CreateIndirect(&form.head));
+        text_.Create("", WS_CHILD | WS_VISIBLE, CRect(11, 10, 31, 25), &dialog_);
+        edit_.Create(WS_CHILD | WS_VISIBLE | ES_READONLY, CRect(40, 10, 60, 25), &dialog_, 5);
+        dialog_.ShowWindow(SW_SHOWNOACTIVATE);
+    }
+    void TearDown() override { dialog_.DestroyWindow(); }
+
+    // Two columns, red and blue.
+    static HBITMAP columns() {
+        Picture picture(2, 1);
+        ::SetPixel(picture.dc(), 0, 0, red);
+        ::SetPixel(picture.dc(), 1, 0, blue);
+        const HBITMAP result = ::CreateBitmap(2, 1, 1, 32, nullptr);
+        CDC target;
+        target.CreateCompatibleDC(nullptr);
+        const HGDIOBJ before = ::SelectObject(target, result);
+        ::BitBlt(target, 0, 0, 2, 1, picture.dc(), 0, 0, SRCCOPY);
+        ::SelectObject(target, before);
+        return result;
+    }
+    COLORREF at(int x, int y) {
+        CClientDC dc(&dialog_);
+        return dc.GetPixel(x, y);
+    }
+
+    CDialogEx dialog_;
+    CStatic text_;
+    CEdit edit_;
+};
+
+TEST_F(ColouredDialog, ShowsItsColourBehindTexts) {
+    const COLORREF usual = at(2, 2);
+    dialog_.SetBackgroundColor(green);
+    EXPECT_EQ(at(2, 2), green);
+    EXPECT_EQ(at(12, 12), green);
+    EXPECT_NE(at(55, 20), green) << "what is read only has its own ground";
+    dialog_.SetBackgroundColor(red, FALSE);
+    EXPECT_EQ(at(2, 2), green);
+    dialog_.SetBackgroundColor(static_cast<COLORREF>(-1));
+    EXPECT_EQ(at(2, 2), usual);
+}
+
+TEST_F(ColouredDialog, ShowsItsImageBehindTexts) {
+    const HBITMAP image = columns();
+    dialog_.SetBackgroundImage(image, CDialogEx::BACKGR_TILE, FALSE);
+    for (const int x : {0, 1, 12, 13, 28, 99}) // the text begins at 11
+        EXPECT_EQ(at(x, 12), x % 2 ? blue : red) << x;
+    dialog_.SetBackgroundColor(green);
+    CRect client;
+    dialog_.GetClientRect(client);
+    const struct {
+        CDialogEx::BackgroundLocation location;
+        bool right, bottom;
+    } corners[] = {{CDialogEx::BACKGR_TOPLEFT, false, false},
+                   {CDialogEx::BACKGR_TOPRIGHT, true, false},
+                   {CDialogEx::BACKGR_BOTTOMLEFT, false, true},
+                   {CDialogEx::BACKGR_BOTTOMRIGHT, true, true}};
+    for (const auto& c : corners) {
+        dialog_.SetBackgroundImage(image, c.location, FALSE);
+        for (const bool right : {false, true})
+            for (const bool bottom : {false, true})
+                EXPECT_EQ(at(right ? client.right - 2 : 0, bottom ? client.bottom - 1 : 0),
+                          right == c.right && bottom == c.bottom ? red : green)
+                    << c.location;
+    }
+    dialog_.SetWindowPos(nullptr, 0, 0, client.right + 50, client.bottom + 40, SWP_NOMOVE | SWP_NOZORDER);
+    dialog_.UpdateWindow();
+    dialog_.GetClientRect(client);
+    EXPECT_EQ(at(client.right - 1, client.bottom - 1), blue) << "it keeps to the corner";
+    EXPECT_NE(::GetObjectType(image), 0u);
+
+    dialog_.SetBackgroundImage(image, CDialogEx::BACKGR_TILE, TRUE);
+    EXPECT_TRUE(dialog_.SetBackgroundImage(UINT(IDB_UP)));
+    EXPECT_EQ(::GetObjectType(image), 0u) << "the dialog's own is deleted when another comes";
+    EXPECT_FALSE(dialog_.SetBackgroundImage(UINT(4711)));
+    dialog_.SetBackgroundImage(HBITMAP(nullptr));
+    EXPECT_EQ(at(2, 2), green);
+}
+
+} // namespace
