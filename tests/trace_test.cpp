@@ -134,6 +134,14 @@ TEST_F(TraceTest, WindowShowsAndSelectsTheNewestLine) {
     trace.Trace("unseen");
     EXPECT_THAT(lines(), ElementsAre("one", "one", "one more", "one"));
     trace.SetFlags(2);
+    ::SendMessage(list(), WM_SETREDRAW, FALSE, 0);
+    for (int i = 4; i < 9'999; ++i)
+        ::SendMessage(list(), LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(""));
+    for (const char* text : {"last with all", "newest"})
+        trace.Trace(text);
+    EXPECT_EQ(::SendMessage(list(), LB_GETCOUNT, 0, 0), 10'000);
+    EXPECT_EQ(::SendMessage(list(), LB_GETCURSEL, 0, 0), 9'999);
+    EXPECT_EQ(::SendMessage(list(), LB_FINDSTRINGEXACT, 9'990, reinterpret_cast<LPARAM>("one more")), 1);
     trace.DestroyWindow();
     trace.Trace("after the window");
     WntTrace("after the window");

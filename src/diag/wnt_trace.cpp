@@ -14,6 +14,7 @@ using wnt::trace_state;
 namespace {
 
 constexpr int text_limit = 1024;
+constexpr int most_lines = 10'000; // in the list, whose program may run for months
 constexpr char separator[] = "----------------------------------------------------------------\n";
 static_assert(sizeof separator == 64 + 2);
 
@@ -60,7 +61,9 @@ void list_line(const char* text) {
     if (!::IsWindow(list))
         return;
     ::SendMessageA(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
-    const auto count = static_cast<int>(::SendMessageA(list, LB_GETCOUNT, 0, 0));
+    auto count = static_cast<int>(::SendMessageA(list, LB_GETCOUNT, 0, 0));
+    if (count > most_lines)
+        count = static_cast<int>(::SendMessageA(list, LB_DELETESTRING, 0, 0));
     if (count > 0)
         ::SendMessageA(list, LB_SELECTSTRING, static_cast<WPARAM>(count - 2), reinterpret_cast<LPARAM>(text));
 }

@@ -47,7 +47,7 @@ protected:
     void createdisplay();
     /// Closes it.
     void destroydisplay();
-    /// Adds a line to the list of the window, where there is one.
+    /// Adds a line to the list of the window, where there is one. The list keeps the newest 10,000.
     void display(const char* text);
 
     /// Makes a file the one that trace lines go to; the trace owns it, and closes the one before. It must come from the
