@@ -9,6 +9,7 @@
 #include <functional>
 #include <limits>
 #include <random>
+#include <set>
 #include <string>
 
 using namespace wnt;
@@ -254,10 +255,11 @@ TEST(CurveRaster, MarksWhatStandsAlone) {
 }
 
 std::int64_t columns_drawn(const PulsePicture& picture) {
-    std::int64_t columns = 0;
+    std::set<std::int64_t> columns;
     for (const auto& stretch : picture.drawn())
-        columns += stretch.right - stretch.left;
-    return columns;
+        for (std::int64_t x = stretch.left; x < stretch.right; ++x)
+            EXPECT_TRUE(columns.insert(x).second) << "drawn twice";
+    return static_cast<std::int64_t>(columns.size());
 }
 
 TEST(PulsePicture, FollowsAsIfDrawnAnew) {

@@ -13,6 +13,19 @@ bool same(const PlotCurve& a, const PlotCurve& b) {
     return a.series == b.series && a.scale == b.scale && a.style == b.style && a.longest_pause == b.longest_pause;
 }
 
+// Joined with those that it touches.
+void add(std::vector<PulsePicture::Stretch>& stretches, PulsePicture::Stretch added) {
+    if (added.left >= added.right)
+        return;
+    std::erase_if(stretches, [&](const PulsePicture::Stretch& other) {
+        const bool touches = other.left <= added.right && added.left <= other.right;
+        if (touches)
+            added = {std::min(added.left, other.left), std::max(added.right, other.right)};
+        return touches;
+    });
+    stretches.push_back(added);
+}
+
 } // namespace
 
 void PulsePicture::show(const PlotScene& scene, bool anew) {
@@ -51,7 +64,7 @@ bool PulsePicture::same_grid(const PlotScene& scene, std::int64_t moved) const {
     return std::equal(now, now_end, before, before_end);
 }
 
-// What moving leaves open, what new samples change and what lost samples leave behind; neither sorted nor apart.
+// What moving leaves open, what new samples change and what lost samples leave behind.
 std::vector<PulsePicture::Stretch> PulsePicture::stale(const PlotScene& scene, std::int64_t moved) const {
     const std::int64_t width = scene.columns.width;
     Stretch fresh{moved < 0 ? 0 : width - moved, moved < 0 ? -moved : width};
@@ -70,10 +83,9 @@ std::vector<PulsePicture::Stretch> PulsePicture::stale(const PlotScene& scene, s
             return {{0, width}};
     }
     std::vector<Stretch> result;
-    for (Stretch stretch :
-         {fresh, Stretch{std::max<std::int64_t>(changed, 0), width}, Stretch{0, std::min(left_over, width)}})
-        if (stretch.left < stretch.right)
-            result.push_back(stretch);
+    for (const Stretch& stretch :
+         {Stretch{0, std::min(left_over, width)}, Stretch{std::max<std::int64_t>(changed, 0), width}, fresh})
+        add(result, stretch);
     return result;
 }
 

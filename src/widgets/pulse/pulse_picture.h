@@ -44,7 +44,8 @@ public:
     struct Stretch { ///< of x
         std::int64_t left, right;
     };
-    /// What the last show() did: by how many columns what was there went to the left, and which it drew after that.
+    /// What the last show() did: by how many columns what was there went to the left, and which it drew after that,
+    /// each once.
     std::int64_t moved() const { return moved_; }
     const std::vector<Stretch>& drawn() const { return drawn_; }
 
