@@ -28,9 +28,9 @@ std::vector<COLORREF> shown(CWnd& window) {
 struct Chart {
     CWntPulse pulse;
     __int64 time = 0;
-    const bool furnished;
+    ULONGLONG painted = 0;
 
-    Chart(CWnd& host, int count, bool with_axes) : furnished(with_axes) {
+    Chart(CWnd& host, int count, bool furnished) {
         pulse.Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, width, height), &host, 1);
         if (!furnished) {
             pulse.LoadLine(":AXES=NONE", 0);
@@ -50,8 +50,10 @@ struct Chart {
             pulse.AddSample(curve, wave(curve, time, 5000), time);
         time += steps;
         pulse.SendMessage(WM_TIMER, 1, 0);
-        if (furnished)
-            pulse.UpdateWindow(); // and with it its axes
+        if (const ULONGLONG now = ::GetTickCount64(); now - painted >= 200) { // the legend changes as often
+            painted = now;
+            pulse.UpdateWindow();
+        }
     }
     void repaint(int i) { // in other colours, so that every picture is seen to be drawn
         pulse.SetColours(RGB(255, 255, 255 - i % 2), 0, 0);
