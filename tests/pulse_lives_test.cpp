@@ -55,8 +55,31 @@ TEST_F(PulseLives, CopiesWhatIsShown) {
     ::GlobalUnlock(block);
     ::CloseClipboard();
     EXPECT_STREQ(text, "1979-12-31 00:00:04.00\tFlow\t14.5\r\n");
-    EXPECT_EQ(chart_.CopyPicture(), 1);
-    EXPECT_TRUE(::IsClipboardFormatAvailable(CF_BITMAP));
+}
+
+TEST_F(PulseLives, CopiesItsPictureAlsoFromUnderOtherWindows) {
+    feed(0, 6000);
+    const Pixels shown = pixels_of(chart_);
+    CRect place;
+    chart_.GetWindowRect(&place);
+    CWnd above;
+    ASSERT_TRUE(above.CreateEx(0, nullptr, "above", WS_POPUP | WS_VISIBLE, place, nullptr, 0));
+    CClientDC(&above).FillSolidRect(CRect(0, 0, 600, 300), poison);
+    ASSERT_EQ(chart_.CopyPicture(), 1);
+    above.DestroyWindow();
+    ASSERT_TRUE(host_.OpenClipboard());
+    CDC copy;
+    copy.CreateCompatibleDC(nullptr);
+    const HGDIOBJ before = ::SelectObject(copy, ::GetClipboardData(CF_BITMAP));
+    Picture copied(shown.width, shown.height);
+    ::BitBlt(copied.dc(), 0, 0, shown.width, shown.height, copy, 0, 0, SRCCOPY);
+    ::SelectObject(copy, before);
+    ::CloseClipboard();
+    const auto values = copied.values();
+    CRect bar; // which is left out
+    chart_.GetDlgItem(4)->GetWindowRect(&bar);
+    const auto above_bar = shown.width * (bar.top - place.top);
+    EXPECT_TRUE(std::equal(values.begin(), values.begin() + above_bar, shown.values.begin()));
 }
 
 TEST_F(PulseLives, ReadsScriptsAndTakesWindowsOver) {

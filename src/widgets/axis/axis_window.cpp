@@ -32,6 +32,7 @@ void make_pen(CPen& pen, int system_colour) {
 BEGIN_MESSAGE_MAP(CWntAxis, wnt::ControlWindow)
 ON_WM_ERASEBKGND()
 ON_WM_PAINT()
+ON_MESSAGE(WM_PRINTCLIENT, &CWntAxis::OnPrintClient)
 ON_WM_LBUTTONDOWN()
 ON_WM_LBUTTONUP()
 ON_WM_LBUTTONDBLCLK()

@@ -48,6 +48,15 @@ void CWntAxis::OnPaint() {
     paint(dc);
 }
 
+// The same into any device context, whatever lies over the window.
+LRESULT CWntAxis::OnPrintClient(WPARAM wParam, LPARAM) {
+    CDC dc;
+    dc.Attach(reinterpret_cast<HDC>(wParam));
+    paint(dc);
+    dc.Detach();
+    return 0;
+}
+
 void CWntAxis::FollowRange(__int64 start, __int64 end) {
     model_->set_time_range(start, end);
     if (!m_hWnd)

@@ -4,17 +4,27 @@
 
 namespace wnt {
 
-PaintPass::PaintPass(CWnd& window) : painting_(&window), font_(nullptr) {
+PaintPass::PaintPass(CWnd& window)
+    : painting_(std::in_place, &window), shown_(painting_->m_hDC), part_(painting_->m_ps.rcPaint) {
     window.GetClientRect(&area_);
+    begin(window);
+}
+
+PaintPass::PaintPass(CWnd& window, CDC& onto) : shown_(onto.m_hDC) {
+    window.GetClientRect(&area_);
+    part_ = area_;
+    begin(window);
+}
+
+void PaintPass::begin(CWnd& window) {
     const HWND handle = window.m_hWnd;
     font_ = reinterpret_cast<HFONT>(::SendMessage(handle, WM_GETFONT, 0, 0));
-    const CRect part = painting_.m_ps.rcPaint;
-    if (part.IsRectEmpty())
+    if (part_.IsRectEmpty())
         return;
-    HDC target = painting_.m_hDC;
-    if (bitmap_.create(target, part.Width(), part.Height())) {
+    HDC target = shown_;
+    if (bitmap_.create(target, part_.Width(), part_.Height())) {
         target = bitmap_.dc();
-        ::SetViewportOrgEx(target, -part.left, -part.top, nullptr);
+        ::SetViewportOrgEx(target, -part_.left, -part_.top, nullptr);
     }
     out_.targetmode = 1;
     out_.reset(target);
@@ -29,9 +39,8 @@ PaintPass::~PaintPass() {
         ::SetTextAlign(out_.dc, align_before_);
     }
     out_.endpaint();
-    const CRect part = painting_.m_ps.rcPaint;
     if (bitmap_)
-        ::BitBlt(painting_.m_hDC, part.left, part.top, part.Width(), part.Height(), bitmap_.dc(), part.left, part.top,
+        ::BitBlt(shown_, part_.left, part_.top, part_.Width(), part_.Height(), bitmap_.dc(), part_.left, part_.top,
                  SRCCOPY); // both count from the client area's corner
 }
 

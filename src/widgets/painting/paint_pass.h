@@ -2,6 +2,8 @@
 
 #include <afxwin.h>
 
+#include <optional>
+
 #include "out/wnt_out.h"
 #include "widgets/painting/memory_bitmap.h"
 
@@ -13,6 +15,8 @@ class PaintPass {
 public:
     /// Answers a paint message.
     explicit PaintPass(CWnd& window);
+    /// Draws all of the window elsewhere, at the device context's origin.
+    PaintPass(CWnd& window, CDC& onto);
     ~PaintPass();
     PaintPass(const PaintPass&) = delete;
     PaintPass& operator=(const PaintPass&) = delete;
@@ -22,7 +26,7 @@ public:
     /// The client area.
     const CRect& area() const { return area_; }
     /// Something of it has to be painted.
-    bool touches(const CRect& rect) const { return CRect().IntersectRect(&rect, &painting_.m_ps.rcPaint) != FALSE; }
+    bool touches(const CRect& rect) const { return CRect().IntersectRect(&rect, &part_) != FALSE; }
 
     void fill(const CRect& rect, COLORREF colour);
     /// The library's border, a pixel wide, along the inside of the rectangle.
@@ -34,14 +38,17 @@ public:
     void text(const CRect& rect, const CString& text, UINT format, COLORREF colour, CFont* font = nullptr);
 
 private:
+    void begin(CWnd& window);
     void use_font(HGDIOBJ font);
     int up(int y) const { return area_.Height() - 1 - y; }
 
-    CPaintDC painting_;
+    std::optional<CPaintDC> painting_;
+    HDC shown_;
     CRect area_;
+    CRect part_; // of it, to be painted
     MemoryBitmap bitmap_;
     CWntOut out_;
-    HFONT font_;
+    HFONT font_ = nullptr;
     HGDIOBJ selected_ = nullptr;
     HGDIOBJ font_before_ = nullptr; // and the next: what the first text found
     UINT align_before_ = 0;

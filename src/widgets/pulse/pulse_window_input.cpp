@@ -23,6 +23,7 @@ bool down(int key) {
 BEGIN_MESSAGE_MAP(CWntPulse, wnt::ControlWindow)
 ON_WM_ERASEBKGND()
 ON_WM_PAINT()
+ON_MESSAGE(WM_PRINTCLIENT, &CWntPulse::OnPrintClient)
 ON_WM_TIMER()
 ON_WM_SETTINGCHANGE()
 ON_WM_LBUTTONDOWN()

@@ -59,18 +59,37 @@ void CWntPulse::OnPaint() {
         return;
     }
     PaintPass pass(*this);
-    if (!plot_alone) {
+    paint(pass, !plot_alone, plot_touched);
+    if (::GetFocus() == m_hWnd && !plot_alone)
+        pass.focus(focus_place());
+}
+
+// The same into any device context, whatever lies over the window.
+LRESULT CWntPulse::OnPrintClient(WPARAM wParam, LPARAM) {
+    CDC dc;
+    dc.Attach(reinterpret_cast<HDC>(wParam));
+    if (std::exchange(state_->stale, false))
+        refresh(false);
+    {
+        PaintPass pass(*this, dc);
+        paint(pass, true, true);
+    }
+    dc.Detach();
+    return 0;
+}
+
+void CWntPulse::paint(PaintPass& pass, bool surroundings, bool plot) {
+    State& s = *state_;
+    if (surroundings) {
         pass.fill(pass.area(), ::GetSysColor(COLOR_BTNFACE));
         pass.text(rect_of(s.layout.title), s.chart.title.c_str(), DT_CENTER | single_line, ::GetSysColor(COLOR_BTNTEXT),
                   &state_->title_font);
         paint_legend(pass);
     }
-    if (plot_touched) {
+    if (plot) {
         paint_plot(pass.dc());
         paint_overlay(pass);
     }
-    if (::GetFocus() == m_hWnd && !plot_alone)
-        pass.focus(focus_place());
 }
 
 // Where no axis lies over it.

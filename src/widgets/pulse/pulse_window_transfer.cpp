@@ -85,6 +85,12 @@ private:
     CWntColorSel selector_;
 };
 
+void print_client(CWnd& window, CDC& dc, CPoint corner) {
+    const CPoint before = dc.SetViewportOrg(corner);
+    window.SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.m_hDC), PRF_CLIENT);
+    dc.SetViewportOrg(before);
+}
+
 } // namespace
 
 int CWntPulse::StartRecording(const char* path) {
@@ -199,7 +205,6 @@ void CWntPulse::paint_for_copy() {
 int CWntPulse::CopyPicture() {
     if (!this || !m_hWnd)
         return 0;
-    paint_for_copy();
     CRect client;
     GetClientRect(&client);
     CClientDC screen(this);
@@ -208,9 +213,16 @@ int CWntPulse::CopyPicture() {
     if (!memory.CreateCompatibleDC(&screen) || !bitmap.CreateCompatibleBitmap(&screen, client.Width(), client.Height()))
         return 0;
     CBitmap* const before = memory.SelectObject(&bitmap);
-    const BOOL drawn = memory.BitBlt(0, 0, client.Width(), client.Height(), &screen, 0, 0, SRCCOPY);
+    // Not from the screen, where other windows may lie over it.
+    print_client(*this, memory, CPoint(0, 0));
+    for (CWnd* const child : {static_cast<CWnd*>(&left_), static_cast<CWnd*>(&right_), static_cast<CWnd*>(&time_)}) {
+        CPoint corner(0, 0);
+        child->MapWindowPoints(this, &corner, 1);
+        if (child->GetStyle() & WS_VISIBLE)
+            print_client(*child, memory, corner);
+    }
     memory.SelectObject(before);
-    if (!drawn || !put_on_clipboard(*this, CF_BITMAP, bitmap.m_hObject))
+    if (!put_on_clipboard(*this, CF_BITMAP, bitmap.m_hObject))
         return 0;
     bitmap.Detach();
     return 1;

@@ -158,6 +158,7 @@ public:
     /// Keeps what was read.
     int StopReading();
 
+    /// Without the scroll bar, whatever lies over the window.
     int CopyPicture();
     /// The values shown, a line a sample: time, curve, value, parted by tabs. 0 for more than 2,000,000 of them.
     int CopyValues();
@@ -170,6 +171,7 @@ protected:
 
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnPaint();
+    afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
     afx_msg void OnTimer(UINT_PTR timer);
     afx_msg void OnSettingChange(UINT flags, LPCTSTR section);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
@@ -220,6 +222,7 @@ private:
     void view_changed();
     void tell(UINT code, int which = 0, __int64 time = 0);
     CRect focus_place() const;
+    void paint(wnt::PaintPass& pass, bool surroundings, bool plot);
     void paint_legend(wnt::PaintPass& pass);
     void draw_plot();
     void copy_columns(CDC& dc, int from, int to);
