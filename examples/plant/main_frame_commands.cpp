@@ -157,7 +157,13 @@ void CMainFrame::OnReportClear() {
 void CMainFrame::OnPrint() {
     tabs_.Select(tabs_.FindPage(&report_));
     UpdateWindow();
-    MakeHardcopy(&report_, "Plant report");
+    PRINTDLG printer = {};
+    if (AfxGetApp()->GetPrinterDeviceDefaults(&printer)) {
+        MakeHardcopy(&report_, "Plant report");
+        return;
+    }
+    overview_.AddEvent("Not printed: there is no printer");
+    SetMessageText("There is no printer: nothing was printed");
 }
 
 // -- Settings, pages, help --------------------------------------------------------------------------------------------
