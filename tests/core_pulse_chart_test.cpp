@@ -1,7 +1,8 @@
+#include "own_folder.h"
 #include "pulse/wnt_pulse_file.h"
 #include "script/colours.h"
 #include "script/keywords.h"
-#include "time_zone.h"
+#include "test_random.h"
 #include "widgets/axis/time_value.h"
 #include "widgets/pulse/chart_layout.h"
 #include "widgets/pulse/pulse_chart.h"
@@ -11,11 +12,8 @@
 #include <gmock/gmock.h>
 
 #include <cmath>
-#include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <limits>
-#include <random>
 
 using namespace wnt;
 namespace fs = std::filesystem;
@@ -101,8 +99,8 @@ TEST(PulseChart, ReadsValuesOff) {
     EXPECT_EQ(chart.value_at(0, 170), 3);
     EXPECT_FALSE(chart.value_at(0, 171));
     EXPECT_FALSE(chart.value_at(1, 10));
-    EXPECT_FALSE(chart.value_at(0, std::numeric_limits<std::int64_t>::min()));
-    EXPECT_FALSE(chart.value_at(0, std::numeric_limits<std::int64_t>::max()));
+    EXPECT_FALSE(chart.value_at(0, INT64_MIN));
+    EXPECT_FALSE(chart.value_at(0, INT64_MAX));
 }
 
 bool apart(const PixelRect& a, const PixelRect& b) {
@@ -111,8 +109,8 @@ bool apart(const PixelRect& a, const PixelRect& b) {
 }
 
 TEST(ChartLayout, NothingOverlapsAtAnySize) {
-    std::mt19937 random(5);
-    const auto some = [&](int most) { return static_cast<int>(random() % static_cast<unsigned>(most + 1)); };
+    Random random(5);
+    const auto some = [&](int most) { return random.upto(most); };
     for (int run = 0; run < 3000; ++run) {
         ChartSizes sizes{100 + 50 * some(2), some(30), some(20), 17, some(1) == 1, some(1) == 1, some(1) == 1, {}};
         for (int i = some(10); i > 0; --i)
@@ -142,17 +140,7 @@ TEST(ChartLayout, NothingOverlapsAtAnySize) {
     }
 }
 
-struct PulseTransfer : testing::Test {
-    PulseTransfer() {
-        fs::create_directory(folder);
-        fs::current_path(folder);
-        set_zone("UTC0");
-    }
-    ~PulseTransfer() override {
-        fs::current_path(home);
-        std::error_code ignored;
-        fs::remove_all(folder, ignored);
-    }
+struct PulseTransfer : OwnFolder {
     std::vector<PulsePoint> read(const std::string& path, bool spread) {
         PulseReader reader;
         EXPECT_EQ(reader.open(path), "");
@@ -175,12 +163,8 @@ struct PulseTransfer : testing::Test {
         return names;
     }
 
-    fs::path home = fs::current_path();
-    fs::path folder = fs::temp_directory_path() / ("transfer-" + std::to_string(std::random_device()()));
     std::vector<std::string> titles;
 };
-
-constexpr std::int64_t afternoon = 1'794'837'839; // 16 November 2026, 14:03:59 UTC
 
 TEST_F(PulseTransfer, WhatWasRecordedIsRead) {
     PulseRecorder recorder;

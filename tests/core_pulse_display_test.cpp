@@ -1,3 +1,4 @@
+#include "test_random.h"
 #include "widgets/pulse/pulse_picture.h"
 #include "widgets/pulse/pulse_view.h"
 
@@ -8,7 +9,6 @@
 #include <deque>
 #include <functional>
 #include <limits>
-#include <random>
 #include <string>
 
 using namespace wnt;
@@ -17,56 +17,35 @@ namespace {
 
 constexpr double hole = std::numeric_limits<double>::quiet_NaN();
 
-struct Random {
-    std::mt19937 engine;
-    explicit Random(unsigned seed) : engine(seed) {}
-    int upto(int most) { return static_cast<int>(engine() % static_cast<unsigned>(most + 1)); }
-    bool one_in(int n) { return upto(n - 1) == 0; }
-    double unit() { return engine() / 4294967296.0; }
-};
-
-// What a history is, without blocks: all samples in a queue.
-struct PlainSeries {
-    std::size_t capacity;
-    std::deque<PulsePoint> points;
-    std::uint64_t first = 0;
-
-    void append(std::int64_t time, double value) {
-        points.push_back({time, value});
-        if (points.size() > capacity) {
-            points.pop_front();
-            ++first;
-        }
-    }
-};
-
 TEST(PulseSeries, HoldsTheNewestSamplesAndTheirBlocks) {
     for (const std::size_t capacity : {1, 5, 16, 100, 4095, 4096, 9000}) {
         Random random(static_cast<unsigned>(capacity));
         PulseSeries series(capacity);
-        PlainSeries plain{capacity, {}};
+        std::deque<PulsePoint> plain; // what a history is, without blocks
         std::int64_t time = -500;
         for (int i = 0; i < 30'000; ++i) {
             time += random.one_in(50) ? random.upto(5000) : random.upto(3);
             const double value = random.one_in(200) ? hole : random.unit();
             ASSERT_TRUE(series.append(time, value));
-            plain.append(time, value);
+            plain.push_back({time, value});
+            if (plain.size() > capacity)
+                plain.pop_front();
             if (!random.one_in(300))
                 continue;
-            ASSERT_EQ(series.first(), plain.first);
-            ASSERT_EQ(series.size(), plain.points.size());
-            const auto size = static_cast<int>(plain.points.size());
+            const auto size = static_cast<int>(plain.size());
+            ASSERT_EQ(series.first(), static_cast<std::uint64_t>(i + 1 - size));
+            ASSERT_EQ(series.size(), plain.size());
             int from = random.upto(size), to = random.upto(size);
             if (from > to)
                 std::swap(from, to);
             PulseBlock expected;
             for (int k = from; k < to; ++k) {
-                const PulsePoint& point = plain.points[k];
+                const PulsePoint& point = plain[k];
                 if (std::isnan(point.value)) {
                     expected.pause = PulseBlock::hole;
                     continue;
                 }
-                const std::int64_t pause = k ? point.time - plain.points[k - 1].time : 0;
+                const std::int64_t pause = k ? point.time - plain[k - 1].time : 0;
                 expected.include({point.value, point.value, pause});
             }
             const PulseBlock found = series.summary(series.first() + from, series.first() + to);
@@ -77,10 +56,10 @@ TEST(PulseSeries, HoldsTheNewestSamplesAndTheirBlocks) {
                 ASSERT_EQ(found.pause, expected.pause) << from << " to " << to;
             }
             const std::int64_t sought = time - random.upto(3000);
-            const auto at = std::lower_bound(plain.points.begin(), plain.points.end(), sought,
+            const auto at = std::lower_bound(plain.begin(), plain.end(), sought,
                                              [](const PulsePoint& p, std::int64_t t) { return p.time < t; });
             ASSERT_EQ(series.seek(sought, series.first() + random.upto(size + 5)),
-                      plain.first + static_cast<std::uint64_t>(at - plain.points.begin()));
+                      series.first() + static_cast<std::uint64_t>(at - plain.begin()));
         }
     }
 }
@@ -107,31 +86,24 @@ TEST(PulseSeries, TakesAtMost24BytesASample) {
 }
 
 // A picture with every sample a run of its own.
-class EverySample {
-public:
-    static void paint(const PulseSeries& series, const ColumnScale& scale, std::int64_t longest_pause,
-                      ColumnPainter& painter) {
-        bool joined = false;
-        std::int64_t before = 0;
-        for (std::uint64_t i = series.first(); i != series.end(); ++i) {
-            const auto [time, value] = series[i];
-            if (std::isnan(value)) {
-                joined = false;
-                continue;
-            }
-            joined = joined && time - before <= longest_pause;
-            painter.run({scale.column(time), 1, value, value, value, value, joined});
-            joined = true;
-            before = time;
-        }
+void paint_every_sample(const PulseSeries& series, const ColumnScale& scale, std::int64_t longest_pause,
+                        ColumnPainter& painter) {
+    bool joined = false;
+    std::int64_t before = 0;
+    for (std::uint64_t i = series.first(); i != series.end(); ++i) {
+        const auto [time, value] = series[i];
+        if (!std::isnan(value))
+            painter.run({scale.column(time), 1, value, value, value, value, joined && time - before <= longest_pause});
+        joined = !std::isnan(value);
+        before = time;
     }
-};
+}
 
 using Pixels = std::vector<std::uint32_t>;
 
 std::int64_t random_pause(Random& random) {
-    const std::int64_t pauses[] = {5, 40, 1000, std::numeric_limits<std::int64_t>::max() - 1};
-    return pauses[random.upto(3)];
+    const std::int64_t pauses[] = {5, 40, 1000, INT64_MAX - 1};
+    return random.of(pauses);
 }
 
 // Series of every kind: walks, bursts, spikes, constants, holes in plenty.
@@ -181,7 +153,7 @@ TEST(PulseDecimation, PaintsWhatAllSamplesPaint) {
             paint_columns(series, scale, origin - CurveRaster::margin(style),
                           origin + scale.width + CurveRaster::margin(style), pause, raster);
             CurveRaster reference({expected.data(), scale.width, height, scale.width}, all, origin, values, style);
-            EverySample::paint(series, scale, pause, reference);
+            paint_every_sample(series, scale, pause, reference);
         }
         ASSERT_TRUE(pixels == expected) << "seed " << seed;
     }
@@ -272,7 +244,6 @@ TEST(PulsePicture, FollowsAsIfDrawnAnew) {
         for (PulseSeries& one : series)
             scene.curves.push_back({&one, {0, 100, scene.height}, random_style(random), random_pause(random)});
         PulsePicture picture;
-        std::int64_t drawn = 0, whole = 0;
         for (int step = 0; step < 60; ++step) {
             for (PulseSeries& one : series)
                 if (!random.one_in(4))
@@ -289,15 +260,12 @@ TEST(PulsePicture, FollowsAsIfDrawnAnew) {
                 if (grid % 40 == 0)
                     scene.grid_columns.push_back(grid);
             picture.show(scene);
-            drawn += columns_drawn(picture);
-            whole += scene.columns.width;
             PulsePicture anew;
             anew.show(scene);
             const PlotCanvas a = picture.canvas(), b = anew.canvas();
             for (std::int32_t row = 0; row < a.height; ++row)
                 ASSERT_TRUE(std::equal(a.row(row), a.row(row) + a.width, b.row(row))) << seed << ' ' << step;
         }
-        EXPECT_LE(drawn, 3 * whole);
     }
 }
 
@@ -427,34 +395,17 @@ TEST(PulseView, StaysWhereItIsPut) {
 
 TEST(PulseView, HoldsAtAnyCall) {
     Random random(3);
-    const std::int64_t odd[] = {std::numeric_limits<std::int64_t>::min(),
-                                -1,
-                                0,
-                                1,
-                                std::numeric_limits<std::int64_t>::max(),
-                                PulseSeries::latest};
+    const std::int64_t odd[] = {INT64_MIN, -1, 0, 1, INT64_MAX, PulseSeries::latest};
     PulseView view;
-    const auto some = [&] { return random.one_in(3) ? odd[random.upto(5)] : random.upto(1'000'000) - 500'000; };
+    const auto some = [&] { return random.one_in(3) ? random.of(odd) : random.upto(1'000'000) - 500'000; };
+    const std::function<void()> calls[] = {[&] { view.resize(static_cast<std::int32_t>(some())); },
+                                           [&] { view.zoom(some(), some()); },
+                                           [&] { view.show(some(), some()); },
+                                           [&] { view.scroll(some()); },
+                                           [&] { view.set_history(some(), some()); },
+                                           [&] { view.set_live(random.one_in(2)); }};
     for (int i = 0; i < 20'000; ++i) {
-        switch (random.upto(5)) {
-        case 0:
-            view.resize(static_cast<std::int32_t>(some()));
-            break;
-        case 1:
-            view.zoom(some(), some());
-            break;
-        case 2:
-            view.show(some(), some());
-            break;
-        case 3:
-            view.scroll(some());
-            break;
-        case 4:
-            view.set_history(some(), some());
-            break;
-        default:
-            view.set_live(random.one_in(2));
-        }
+        random.of(calls)();
         ASSERT_LT(view.start(), view.end());
         ASSERT_TRUE(PulseView::shortest_span <= view.span() && view.span() <= PulseView::longest_span);
     }

@@ -1,8 +1,7 @@
 #include "controls/tabs_layout.h"
+#include "test_random.h"
 
 #include <gtest/gtest.h>
-
-#include <random>
 
 using namespace wnt;
 
@@ -218,8 +217,8 @@ TEST(TabsLayout, ShowsWholeTabsAndTheOneThatIsWanted) {
 
 // At any size, order of sizes and first tab: all within the strip, none over another, nothing turned round.
 TEST(TabsLayout, HoldsAtAnySize) {
-    std::mt19937 random(3);
-    const auto some = [&](int most) { return static_cast<int>(random() % static_cast<unsigned>(most + 1)); };
+    Random random(3);
+    const auto some = [&](int most) { return random.upto(most); };
     for (int run = 0; run < 3000; ++run) {
         const TabsSizes sizes = TabsSizes::at(some(400), some(60));
         TabsModel m;

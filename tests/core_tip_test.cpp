@@ -1,9 +1,9 @@
 #include "controls/tip_layout.h"
+#include "test_random.h"
 
 #include <gtest/gtest.h>
 
 #include <climits>
-#include <random>
 
 using namespace wnt;
 
@@ -81,8 +81,8 @@ TEST(TipLayout, PartsStandBesideEachOther) {
 }
 
 TEST(TipLayout, NothingLiesOutsideOrOverAnother) {
-    std::mt19937 random(3);
-    const auto some = [&](int most) { return static_cast<int>(random() % static_cast<unsigned>(most + 1)); };
+    Random random(3);
+    const auto some = [&](int most) { return random.upto(most); };
     for (int run = 0; run < 500; ++run) {
         std::string title, text;
         for (int i = some(40); i > 0; --i)

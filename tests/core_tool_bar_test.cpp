@@ -1,10 +1,9 @@
 #include "controls/shortcut_text.h"
 #include "controls/tool_bar_model.h"
 #include "controls/tool_picture.h"
+#include "test_random.h"
 
 #include <gtest/gtest.h>
-
-#include <random>
 
 using namespace wnt;
 using enum ToolKind;
@@ -85,8 +84,8 @@ TEST(ToolLayout, FindsItemsAndTheGapsBetweenThem) {
 }
 
 TEST(ToolLayout, ItemsNeverOverlapNorLeaveTheBar) {
-    std::mt19937 random(5);
-    const auto some = [&](int most) { return static_cast<int>(random() % static_cast<unsigned>(most + 1)); };
+    Random random(5);
+    const auto some = [&](int most) { return random.upto(most); };
     for (int run = 0; run < 2000; ++run) {
         std::vector<ToolSpace> items;
         for (int i = some(12); i > 0; --i)
