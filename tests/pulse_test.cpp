@@ -150,12 +150,7 @@ TEST_F(Pulse, TheTimeAxisZoomsToWhatItsSliderCovers) {
     auto& axis = dynamic_cast<CWntAxis&>(*chart_.GetDlgItem(3));
     CRect size;
     axis.GetClientRect(&size);
-    const auto drag = [&](int from, int to) {
-        axis.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(from, size.bottom - 5));
-        axis.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(from, size.bottom - 5));
-        axis.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(to, size.bottom - 5));
-        axis.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(to, size.bottom - 5));
-    };
+    const auto drag = [&](int from, int to) { PulseFixture::drag(axis.m_hWnd, from, to, size.bottom - 5); };
     double from = -1, to = -1;
     drag(2, size.right / 2);
     EXPECT_EQ(axis.GetZoom(&from, &to), 0);
