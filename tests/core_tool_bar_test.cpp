@@ -119,19 +119,17 @@ TEST(ToolLayout, PartsAreAsLargeAsTheyNeed) {
         ToolText text;
         ToolContent content;
         int width, height;
-    } sizes[] = {
-        {ToolText::none, pictured, 24, 24},
-        {ToolText::none, text_only, 38, 24},
-        {ToolText::none, split_one, 36, 24},
-        {ToolText::beside, pictured, 58, 24},
-        {ToolText::beside, bare, 24, 24},
-        {ToolText::beside, split_one, 70, 24},
-        {ToolText::below, pictured, 38, 42},
-        {ToolText::below, text_only, 38, 42},
-        {ToolText::below, bare, 24, 24},
-        {ToolText::none, label_one, 38, 24},
-        {ToolText::none, {window, false, 0, 50, 9}, 50, 9},
-    };
+    } sizes[] = {{ToolText::none, pictured, 24, 24},
+                 {ToolText::none, text_only, 38, 24},
+                 {ToolText::none, split_one, 36, 24},
+                 {ToolText::beside, pictured, 58, 24},
+                 {ToolText::beside, bare, 24, 24},
+                 {ToolText::beside, split_one, 70, 24},
+                 {ToolText::below, pictured, 38, 42},
+                 {ToolText::below, text_only, 38, 42},
+                 {ToolText::below, bare, 24, 24},
+                 {ToolText::none, label_one, 38, 24},
+                 {ToolText::none, {window, false, 0, 50, 9}, 50, 9}};
     for (const auto& s : sizes) {
         look.text = s.text;
         EXPECT_EQ(tool_size(s.content, look), (ToolSize{s.width, s.height})) << int(s.text) << s.width;
@@ -167,27 +165,12 @@ std::string described(const ToolBarModel& bar) {
 
 TEST(ToolBarModel, IsDescribedByScripts) {
     ToolBarModel bar;
-    for (const char* line : {":ITEM=100,2, Save as ,Writes, and closes",
-                             ":SEPARATOR",
-                             ":CHECK=101",
-                             ":RADIO=1",
-                             ":RADIO=2",
-                             ":LABEL= Zoom, in percent ",
-                             ":RADIO=3",
-                             ":STRETCH",
-                             ":WINDOW=7",
-                             ":DROPDOWN=5,0,View",
-                             ":MENU=105,Chart",
-                             ":MENU",
-                             ":SPLIT=6",
-                             ":CHECKED=1",
-                             ":CHECKED=2",
-                             ":CHECKED=3",
-                             ":DISABLED=100",
-                             ":TEXT=BELOW",
-                             ":WRAP=1",
-                             ":UPRIGHT=Y",
-                             ":DRAG=1"})
+    bar.load_line(":ITEM=100,2, Save as ,Writes, and closes");
+    for (const char* line :
+         {":SEPARATOR",    ":CHECK=101",  ":RADIO=1",   ":RADIO=2",           ":LABEL= Zoom, in percent ",
+          ":RADIO=3",      ":STRETCH",    ":WINDOW=7",  ":DROPDOWN=5,0,View", ":MENU=105,Chart",
+          ":MENU",         ":SPLIT=6",    ":CHECKED=1", ":CHECKED=2",         ":CHECKED=3",
+          ":DISABLED=100", ":TEXT=BELOW", ":WRAP=1",    ":UPRIGHT=Y",         ":DRAG=1"})
         bar.load_line(line);
     EXPECT_EQ(described(bar), "u100- _ c101 r1 r2+ l r3+ t w7 d5 s6 ");
     EXPECT_TRUE(bar.item(0).picture == 2 && bar.item(0).text == "Save as" && bar.item(0).tip == "Writes, and closes");
