@@ -189,13 +189,6 @@ TEST(GaugeViews, RoundTicksDifferByRankAndPointersKeepToTheirPlaces) {
         EXPECT_LT(reach(p), reach(*std::ranges::min_element(zone, {}, reach)) - 2);
 }
 
-TEST(GaugeViews, TitlesOfTheFaceGiveWayToLabels) {
-    GaugeModel model =
-        model_of(gauge_analog, {":BARTITLE=1", ":TITLE=T", ":MINVAL=-2147483648", ":MAXVAL=2147483647", ":SCALES=8"});
-    for (const int size : {60, 90, 140, 300})
-        EXPECT_TRUE(writes({model, size, size}, "T")) << size;
-}
-
 TEST(GaugeViews, TextOnTheBarIsReadableOnItsFill) {
     for (const auto& [colour, ink] : {std::pair{"DARKBLUE", white}, std::pair{"YELLOW", black}}) {
         const std::string mark = std::string(":SETMARK=1000,") + colour;

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "modal.h"
+#include "thread_window.h"
 
 namespace {
 
@@ -61,20 +62,19 @@ TEST_F(Pulse, SamplesStandAtTheirTimesAndValues) {
     for (int i = 0; i < 4; ++i) {
         const int x = left + static_cast<int>((right - left) * times[i] / 6000);
         bool found = false;
-        for (int dx = -1; dx <= 1; ++dx)
-            found = found || (x + dx >= 0 && x + dx < seen.width && seen.at(x + dx, rows[i]) == red);
+        for (int near_by = std::max(x - 1, left); near_by <= std::min(x + 1, right); ++near_by)
+            found = found || seen.at(near_by, rows[i]) == red;
         EXPECT_TRUE(found) << values[i];
     }
     chart_.AddSample(flow_, std::nan(""), 6010);
     EXPECT_EQ(chart_.AddSamples(flow_, values, times, 4), 0); // they run back
     EXPECT_EQ(chart_.AddSample(9, 1, 7000) + chart_.AddSample(-1, 1, 7000), 0);
     double value = 0;
-    EXPECT_EQ(chart_.GetValueAt(flow_, 5999, &value), 1);
+    EXPECT_TRUE(chart_.GetValueAt(flow_, 5999, &value) == 1 && value == 100);
     chart_.SetLongestPause(1000);
     EXPECT_EQ(chart_.GetValueAt(flow_, 5001, &value), 0); // in a gap
-    EXPECT_EQ(value, 100);
     EXPECT_EQ(chart_.AddCurve("none", red, 1, 1), -1);
-    EXPECT_EQ(chart_.SetCapacity(0) + chart_.SetCapacity(100'000'001) + chart_.SetSpan(0) + chart_.ShowTime(5, 5), 0);
+    EXPECT_EQ(chart_.SetCapacity(0) + chart_.SetSpan(0) + chart_.ShowTime(5, 5), 0);
 }
 
 TEST_F(Pulse, LooksBackByMouseAndKeysAndReturns) {
@@ -189,16 +189,7 @@ TEST_F(Pulse, CursorsReadOff) {
     EXPECT_NE(pixels_of(chart_), without);
     // What the tip tells of both.
     CString text;
-    ::EnumThreadWindows(
-        ::GetCurrentThreadId(),
-        [](HWND window, LPARAM to) -> BOOL {
-            char name[40] = "";
-            ::GetClassNameA(window, name, sizeof name);
-            if (CString(name).MakeLower() == "tooltips_class32" && ::IsWindowVisible(window))
-                CWnd::FromHandle(window)->GetWindowText(*reinterpret_cast<CString*>(to));
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&text));
+    CWnd::FromHandle(thread_window("tooltips_class32", true))->GetWindowText(text);
     double value = 0;
     ASSERT_EQ(chart_.GetValueAt(level_, first, &value), 1);
     CString expected;
