@@ -11,9 +11,9 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cmath>
 #include <fstream>
-#include <iterator>
 
 using namespace wnt;
 namespace fs = std::filesystem;
@@ -40,7 +40,8 @@ TEST(PulseChart, FollowsItsScript) {
     EXPECT_EQ(flow.title, "Flow");
     EXPECT_TRUE(flow.colour == colour_values[6] && flow.low == -2.5 && flow.high == 1000 && flow.steps &&
                 flow.style == 2);
-    EXPECT_TRUE(chart.curves()[1].high == 100 && !chart.curves()[1].marks && !chart.curves()[1].steps);
+    const ChartCurve& plain = chart.curves()[1];
+    EXPECT_TRUE(plain.low == 0 && plain.high == 100 && !plain.marks && !plain.steps);
     for (const char* line : {":CURVE=No colour", ":CURVE=x,PINK,0,1", ":CURVE=x,RED,1,1", ":CURVE=x,RED,nan,2",
                              ":CURVE=x,RED,0,1e999", ":CURVE=x,RED,,5", ":SPAN=0", ":SPAN=-1", ":STYLE=WAVE",
                              ":GRID=MAYBE", ":CLRBACK=PINK", ":NOSUCHKEY=1", "GRID=ON", ""})
@@ -178,8 +179,8 @@ TEST_F(PulseTransfer, WhatWasRecordedIsRead) {
     ASSERT_EQ(found.size(), 4u);
     const std::int64_t first = axis_time_of(afternoon);
     EXPECT_EQ(moment_of_axis_time(first), afternoon);
-    EXPECT_THAT((std::vector{found[0].time, found[1].time, found[2].time, found[3].time}),
-                testing::UnorderedElementsAre(first, first, first + 100, first + 100));
+    for (int i = 0; i < 4; ++i)
+        EXPECT_EQ(found[i].time, first + i / 2 * 100) << i;
     ASSERT_EQ(recorder.start("a.txt", {"Flow", "Pressure"}), ""); // goes on behind it
     recorder.put(1, 9, afternoon + 9);
     recorder.stop();
@@ -244,14 +245,13 @@ TEST_F(PulseTransfer, AClockThatIsPutBackLosesNothing) {
     recorder.stop();
     const auto found = read("a.txt", true);
     ASSERT_EQ(found.size(), 18u);
-    for (std::size_t i = 1; i < found.size(); ++i) {
-        EXPECT_GE(found[i].time, found[i - 1].time);
-        EXPECT_EQ(found[i].value, found[i - 1].value + 10);
-    }
+    for (int i = 0; i < 18; ++i) {
+        EXPECT_EQ(found[i].value, 10 * i);
+        EXPECT_GE(found[i].time, found[std::max(i - 1, 0)].time);
 #ifndef _WIN32 // the runtime has no rules for this zone
-    for (std::int64_t i = 0; i < 18; ++i)
-        EXPECT_EQ(found[static_cast<std::size_t>(i)].time, axis_time_of(two_thirty) + 60'000 * i);
+        EXPECT_EQ(found[i].time, axis_time_of(two_thirty) + 60'000 * i);
 #endif
+    }
     for (std::int64_t i = 1; i < 200; ++i) // and the axis' own clock never runs back
         EXPECT_EQ(axis_time_of(two_thirty + 60 * i) - axis_time_of(two_thirty), 6000 * i);
 }
@@ -271,10 +271,9 @@ TEST_F(PulseTransfer, DaylightSavingChangesNoTime) {
         recorder.start("a.txt", {"Flow"});
         recorder.put(0, 1, moment);
         recorder.stop();
-        const auto found = read("a.txt", false);
-        ASSERT_EQ(found.size(), 1u);
-        EXPECT_EQ(found[0].time, axis_time_of(moment));
-        EXPECT_EQ(moment_of_axis_time(found[0].time), moment);
+        const std::int64_t found = read("a.txt", false).at(0).time;
+        EXPECT_EQ(found, axis_time_of(moment));
+        EXPECT_EQ(moment_of_axis_time(found), moment);
     }
 }
 
@@ -326,17 +325,13 @@ TEST_F(PulseTransfer, BrokenFilesGiveWhatCanBeRead) {
     for (int i = 0; i < 5; ++i)
         recorder.put(1, i, afternoon + i);
     recorder.stop();
-    std::ifstream whole("a.txt", std::ios::binary);
-    const std::string text{std::istreambuf_iterator<char>(whole), {}};
-    for (std::size_t length = 0; length < text.size(); ++length) {
-        std::ofstream("cut.txt", std::ios::binary) << text.substr(0, length);
+    for (auto length = fs::file_size("a.txt"); length-- > 0;) {
+        fs::resize_file("a.txt", length);
         PulseReader reader;
-        if (!reader.open("cut.txt").empty())
-            continue;
-        std::size_t count = 0;
-        while (reader.read(2, [&](int curve, std::int64_t, double) { count += curve == 1; })) {
-        }
-        EXPECT_LE(count, 5u);
+        int count = 0;
+        if (reader.open("a.txt").empty())
+            while (reader.read(2, [&](int curve, std::int64_t, double) { count += curve == 1; }))
+                EXPECT_LE(count, 5);
     }
     std::ofstream("table.csv") << "3\n" << std::string(100'000, 'x');
     EXPECT_NE(PulseReader().open("table.csv"), "");

@@ -326,6 +326,7 @@ TEST(ValueScale, FitsInRoundStepsAndRarely) {
     EXPECT_EQ(range(present, 1, -1), Range(0, 100)); // nothing to show
     EXPECT_LT(range(present, 7, 7).first, 7);
     EXPECT_GT(range(present, 7, 7).second, 7);
+    EXPECT_EQ(range({-100, -50, 50}, -99, -60), Range(-100, -50)); // filled well below zero, too
     for (const double odd : {1e308, -1e308, 5e-324, 0.0})
         EXPECT_LT(range(present, odd, odd).first, range(present, odd, odd).second) << odd;
     EXPECT_EQ(range(present, -1.7e308, 1.7e308), Range(0, 100)); // no range of doubles

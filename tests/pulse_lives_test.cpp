@@ -1,5 +1,6 @@
 #include "pulse_host.h"
 
+#include <atlexcept.h>
 #include <psapi.h>
 
 #include <gmock/gmock.h>
@@ -175,6 +176,26 @@ TEST_F(PulseLives, HoldsAtAnyOperation) {
         random.of(calls)();
     show();
     EXPECT_TRUE(::IsWindow(chart_.m_hWnd));
+}
+
+// The result code of the framework's exception, which is what errors are through the DLL.
+template <class Call> SCODE code_of(Call call) {
+    try {
+        call();
+    } catch (COleException* error) {
+        const SCODE code = error->m_sc;
+        error->Delete();
+        return code;
+    }
+    return S_OK;
+}
+
+TEST(PulseLibrary, RaisesTheFrameworksException) {
+    EXPECT_EQ(code_of([] { CWntTime(1969, 12, 31, 0, 0, 0, 0); }), E_FAIL);
+    const TemporaryFile disk;
+    CWntPulseFile file(CWntPulseFile::write, disk.name());
+    EXPECT_EQ(code_of([&] { file.Put(1, 1, -1); }), E_INVALIDARG);
+    EXPECT_EQ(file.Put(1, 1, 1'794'837'839), 28);
 }
 
 } // namespace
