@@ -42,6 +42,12 @@ protected:
 
     void mouse(UINT message, int x, int y, WPARAM keys = 0) { axis_.SendMessage(message, keys, MAKELPARAM(x, y)); }
 
+    void drag(CPoint from, CPoint to) {
+        mouse(WM_MOUSEMOVE, from.x, from.y);
+        mouse(WM_LBUTTONDOWN, from.x, from.y, MK_LBUTTON);
+        mouse(WM_MOUSEMOVE, to.x, to.y, MK_LBUTTON);
+    }
+
     const COLORREF shadow_ = ::GetSysColor(COLOR_BTNSHADOW);
     CWntAxis axis_;
 };
@@ -133,25 +139,20 @@ TEST_F(AxisTest, ZoomControlFollowsTheMouse) {
     axis_.SendMessage(WM_COMMAND, 100);
     EXPECT_EQ(zoom(), "#######");
 
-    mouse(WM_MOUSEMOVE, 297, 55); // the far grip
-    mouse(WM_LBUTTONDOWN, 297, 55, MK_LBUTTON);
+    drag({297, 55}, {200, 55}); // the far grip
     EXPECT_TRUE(captured());
-    mouse(WM_MOUSEMOVE, 200, 55, MK_LBUTTON);
     mouse(WM_LBUTTONUP, 200, 55);
     EXPECT_FALSE(captured());
     EXPECT_EQ(zoom(), "#####..");
 
-    mouse(WM_MOUSEMOVE, 100, 55); // its middle
-    mouse(WM_LBUTTONDOWN, 100, 55, MK_LBUTTON);
-    mouse(WM_MOUSEMOVE, 130, 55, MK_LBUTTON);
+    drag({100, 55}, {130, 55}); // its middle
     EXPECT_EQ(zoom(), "..####.");
     mouse(WM_MOUSEMOVE, 30, 55, MK_LBUTTON); // further than the start
     mouse(WM_MOUSEMOVE, 30, 20, MK_LBUTTON); // outside the control: ignored
     mouse(WM_LBUTTONUP, 30, 55);
     EXPECT_EQ(zoom(), "#####..");
 
-    mouse(WM_MOUSEMOVE, 100, 55);
-    mouse(WM_LBUTTONDOWN, 100, 55, MK_LBUTTON);
+    drag({100, 55}, {100, 55});
     host_.SetCapture(); // takes the mouse away, which ends the drag though the button is down
     ::ReleaseCapture();
     mouse(WM_MOUSEMOVE, 130, 55, MK_LBUTTON);
@@ -179,9 +180,7 @@ TEST_F(AxisTest, DraggingTheZoomPaintsAllThatChanges) {
         const Pixels before = pixels_of(axis_);
         const CPoint end = across ? CPoint(297, 65) : CPoint(position == 1 ? 5 : 65, 297);
         const CPoint middle = across ? CPoint(150, 65) : CPoint(end.x, 150);
-        mouse(WM_MOUSEMOVE, end.x, end.y);
-        mouse(WM_LBUTTONDOWN, end.x, end.y, MK_LBUTTON);
-        mouse(WM_MOUSEMOVE, middle.x, middle.y, MK_LBUTTON);
+        drag(end, middle);
         const Pixels dragged = pixels_of(axis_);
         EXPECT_EQ(dragged == before, position == 0) << "the one at the top cannot be dragged: " << position;
         full_repaint(axis_);

@@ -353,9 +353,13 @@ TEST(PulseView, FollowsNowUntilTheUserLooksBack) {
     EXPECT_EQ(view.x(100'000), 699);
     view.set_history(0, 101'000); // more arrives
     EXPECT_EQ(view.x(100'000), 699);
-    const std::int64_t there = view.time(200);
-    view.zoom(3000, 200);
-    EXPECT_EQ(view.time(200), there);
+    const std::int64_t zooms[][3] = {{3000, 200, 200}, {600, -50, 0}, {300, 10'000, 599}}; // beside the plot, too
+    for (const auto& [span, x, kept] : zooms) {
+        const std::int64_t there = view.time(kept);
+        view.zoom(span, x);
+        EXPECT_EQ(view.time(kept), there) << span;
+    }
+    view.zoom(3000, 0);
     view.scroll(-1'000'000'000);
     EXPECT_EQ(view.x(0), 0); // the oldest sample at the left edge
     view.scroll(1'000'000'000);

@@ -122,6 +122,7 @@ TEST(TipLayout, StaysOnTheScreenBesideWhatItExplains) {
         const PixelRect place = place_tip(c.width, 40, c.around, screen);
         EXPECT_EQ(place, (PixelRect{c.left, c.top, c.left + c.width, c.top + 40})) << c.around.left << c.around.top;
     }
+    EXPECT_EQ(place_tip(100, 400, {10, 10, 50, 30}, screen).top, 0); // higher than the screen
     EXPECT_EQ(place_tip(100, 40, {10, 10, 50, 30}, screen, true).left, -20);
     EXPECT_EQ(place_tip(100, 40, {360, 10, 400, 30}, screen, true).left, 300);
 }
