@@ -7,7 +7,6 @@
 
 #include <cctype>
 #include <cmath>
-#include <iterator>
 
 using namespace wnt;
 

@@ -1,7 +1,6 @@
 #include "temporary_file.h"
 #include "widget_window.h"
 
-#include <cmath>
 #include <random>
 #include <shlobj.h>
 
