@@ -107,6 +107,7 @@ TEST_F(AxisTest, TimeTicksAndLabels) {
     TAxisdatetime shown_start, shown_end;
     axis_.GetViewTime(&shown_start, &shown_end);
     EXPECT_EQ(shown_start.year, 126);
+    EXPECT_EQ(shown_end.day, shown_start.day + 4);
     std::vector<AxisMark> days;
     for (int k = 0; k < 4; ++k)
         days.push_back({100 * k, 5, std::to_string(shown_start.day + k) + ".11.126"});

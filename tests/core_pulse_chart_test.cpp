@@ -2,6 +2,7 @@
 #include "pulse/wnt_pulse_file.h"
 #include "script/colours.h"
 #include "script/keywords.h"
+#include "script/values.h"
 #include "test_random.h"
 #include "widgets/axis/time_value.h"
 #include "widgets/pulse/chart_layout.h"
@@ -52,6 +53,7 @@ TEST(PulseChart, FollowsItsScript) {
         EXPECT_TRUE(chart.load_line(":CURVE=a title of more than twenty-four characters,RED,0,1"));
     EXPECT_EQ(chart.curves()[9].title, "a title of more than twe");
     EXPECT_FALSE(chart.load_line(":CURVE=eleventh,RED,0,1"));
+    EXPECT_TRUE(chart.load_line(":TITLE=" + std::string(80, 't')) && chart.title.size() == title_capacity - 1);
     EXPECT_TRUE(chart.load_line(":CLEARCURVES"));
     EXPECT_TRUE(chart.curves().empty());
 }

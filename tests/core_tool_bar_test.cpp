@@ -179,6 +179,7 @@ TEST(ToolBarModel, IsDescribedByScripts) {
     EXPECT_TRUE(bar.item(9).menu[0].id == 105 && bar.item(9).menu[0].text == "Chart" && bar.item(9).menu[1].id == 0);
     EXPECT_TRUE(bar.text == ToolText::below && bar.wraps && bar.upright && bar.movable);
     EXPECT_NE(bar.item(4).group, bar.item(6).group);
+    EXPECT_TRUE(bar.load_line(":TEXT=NONE") && bar.text == ToolText::none);
 }
 
 TEST(ToolBarModel, IgnoresWhatIsWrong) {
@@ -189,8 +190,9 @@ TEST(ToolBarModel, IgnoresWhatIsWrong) {
         EXPECT_FALSE(bar.load_line(line)) << line;
     EXPECT_EQ(bar.count(), 0);
     bar.load_line(":ITEM=65534,99999,x");
-    bar.load_line(":ITEM=1,-7,x");
+    bar.load_line(":ITEM=1,-7," + std::string(5000, 'x'));
     EXPECT_TRUE(bar.item(0).picture == -1 && bar.item(1).picture == -1);
+    EXPECT_EQ(bar.item(1).text.size(), std::size_t(longest_tool_text));
     bar.load_line(":MENU=5,on a push item");
     EXPECT_TRUE(bar.item(1).menu.empty());
     for (int i = 0; i < most_tools + 5; ++i)

@@ -384,8 +384,11 @@ TEST(ShapeRaster, CoversTheInsideAndTheOutlineAndAveragesThem) {
         for (const int scale : {2, 4})
             ASSERT_EQ(drawn(shape, size, scale, size), drawn(shape, size, scale, 13)) << round;
     }
-    // The left half of pixel (1, 1), to the middle of the outline.
-    EXPECT_EQ(drawn({{1, 1}, {1.25f, 1}, {1.25f, 1.75f}, {1, 1.75f}}, 3, 4, 3)[4], 0x902030u);
+    for (const int scale : {2, 4}) { // of pixel (1, 1) the left half, and the lower one
+        const float subpixel = 1.f / static_cast<float>(scale), half = 1.5f - subpixel, whole = 2 - subpixel;
+        EXPECT_EQ(drawn({{1, 1}, {half, 1}, {half, whole}, {1, whole}}, 3, scale, 3)[4], 0x902030u) << scale;
+        EXPECT_EQ(drawn({{1, 1}, {whole, 1}, {whole, half}, {1, half}}, 3, scale, 3)[4], 0x902030u) << scale;
+    }
 }
 
 } // namespace
