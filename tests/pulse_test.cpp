@@ -47,8 +47,8 @@ TEST_F(Pulse, ScrollsAsIfPaintedAnew) {
 }
 
 TEST_F(Pulse, SamplesStandAtTheirTimesAndValues) {
-    chart_.SetLook(flow_, 0, 0, 0);
-    chart_.SetLook(level_, 0, 0, 0);
+    EXPECT_EQ(chart_.SetLook(flow_, 0, 0, 0) + chart_.SetLook(level_, 7, 0, 0), 2);
+    EXPECT_EQ(chart_.SetLook(flow_, -1, 0, 0) + chart_.SetLook(flow_, 8, 0, 0), 0);
     const double values[] = {0, 25, 100, 50};
     const __int64 times[] = {0, 2000, 4000, 6000};
     EXPECT_EQ(chart_.AddSamples(flow_, values, times, 4), 4);
@@ -206,6 +206,10 @@ TEST_F(Pulse, CursorsReadOff) {
     chart_.GetCursor(0, &first);
     EXPECT_LT(first, moved);
     chart_.SetSpan(6000);
+    host_.told.clear();
+    chart_.SetCursor(0, start());
+    key(VK_LEFT); // the view follows
+    EXPECT_THAT(host_.told, testing::Contains(std::pair(UINT{WNT_PULSE_VIEW}, 0)));
     host_.told.clear();
     key(VK_ESCAPE);
     EXPECT_EQ(chart_.GetCursor(0, &first) + chart_.GetCursor(1, &first), 0);
