@@ -1,4 +1,4 @@
-// A button's picture drawn by its rules with plain GDI calls.
+// A button's picture drawn by its rules with boxes and texts of a surface, which tests of their own judge.
 #pragma once
 
 #include "pixels.h"
@@ -11,8 +11,11 @@ class ButtonReference {
 public:
     ButtonReference(int width, int height, const Tcbtn_properties& properties)
         : picture_(width, height), width_(width), height_(height), p_(properties) {
-        picture_.clear(0);
-        ::SetBkMode(picture_.dc(), TRANSPARENT);
+        surface_.targetmode = 1;
+        surface_.reset(picture_.dc());
+        surface_.xmax = width_ - 1;
+        surface_.ymax = height_ - 1;
+        surface_.fillcolour(2, 0); // at first black counts as in force
         if (!p_.visible)
             return;
         fill(0, 0, width_, height_, p_.clrback);
@@ -46,21 +49,19 @@ private:
     int top() const { return height_ - 1 - inset(); }
     int inner_width() const { return width_ - 1 - 2 * inset(); }
     bool has(Side side) const { return (p_.borderstyle & side) != 0; }
-    COLORREF colour(int index) { return surface_.rgbcolor(index); }
 
     // x and y of the lower left pixel; width and height beyond it.
-    void fill(int x, int y, int w, int h, int index) {
-        const RECT device = {x, height_ - 1 - y - h, x + w + 1, height_ - y};
-        const HBRUSH brush = ::CreateSolidBrush(colour(index));
-        ::FillRect(picture_.dc(), &device, brush);
-        ::DeleteObject(brush);
+    void fill(int x, int y, int w, int h, int index) { box(x, y, x + w, y + h, index); }
+    void box(int x1, int y1, int x2, int y2, int index) {
+        surface_.fillcolour(index, 0);
+        surface_.boxa2(x1, y1, x2, y2);
     }
     void scroll(int x, int y, int w, int h, int dx, int dy) {
         const int from = height_ - y - h;
         ::BitBlt(picture_.dc(), x + dx, from - dy, w, h, picture_.dc(), x, from, SRCCOPY);
     }
-    void row(int from, int to, int y, int index) { fill(std::min(from, to), y, std::abs(to - from), 0, index); }
-    void column(int x, int from, int to, int index) { fill(x, std::min(from, to), 0, std::abs(to - from), index); }
+    void row(int from, int to, int y, int index) { box(from, y, to, y, index); }
+    void column(int x, int from, int to, int index) { box(x, from, x, to, index); }
 
     void border() {
         const int f = frame(), w = width_, h = height_;
@@ -108,23 +109,10 @@ private:
     }
 
     void text(int x, int y, int index) {
-        constexpr UINT across[] = {TA_LEFT, TA_RIGHT, TA_CENTER, TA_LEFT};
-        const int tenths = 6 * (top() - bottom() - 4);
-        LOGFONTA face = {};
-        face.lfHeight = -std::abs(::MulDiv(96, tenths, 720));
-        face.lfCharSet = DEFAULT_CHARSET;
-        ::lstrcpyA(face.lfFaceName, "Arial");
-        const HFONT font = ::CreateFontIndirectA(&face);
-        const HGDIOBJ before = ::SelectObject(picture_.dc(), font);
-        ::SetTextColor(picture_.dc(), colour(index));
-        const bool known = p_.align <= 10 && p_.align % 4 != 3;
-        ::SetTextAlign(picture_.dc(), known ? across[p_.align % 4] | (p_.align < 4 ? TA_BOTTOM : TA_TOP) : TA_BOTTOM);
-        const int points = tenths / 10;
-        const int drop = p_.align & 8 ? points >> 1 : p_.align & 4 ? points : 0;
-        const std::string shown(p_.title, strnlen(p_.title, sizeof p_.title));
-        ::TextOutA(picture_.dc(), x, height_ - 1 - (y + drop), shown.data(), static_cast<int>(shown.size()));
-        ::SelectObject(picture_.dc(), before);
-        ::DeleteObject(font);
+        std::string shown(p_.title, strnlen(p_.title, sizeof p_.title));
+        surface_.linecolour(index, 0);
+        surface_.settext(0, 0, 0, top() - bottom() - 4, 0, 0);
+        surface_.chars(x, y, shown.data(), p_.align);
     }
 
     Picture picture_;

@@ -145,7 +145,7 @@ TEST_F(CalendarTest, DragsInTheMonthColumn) {
     ::ReleaseCapture();
     calendar_.UpdateWindow();
     expect_shown(today_ - weeks(4));
-    expect_dragged(WM_LBUTTONDOWN, 60, -4);
+    expect_dragged(WM_LBUTTONDOWN, 60, -4); // a press alone moves nothing
     expect_dragged(WM_LBUTTONUP, 60, -4);
 
     expect_dragged(WM_LBUTTONDOWN, 60, -4);

@@ -284,16 +284,13 @@ TEST(AxisTime, DayCountAndSplit) {
 }
 
 TEST(AxisTime, RecordsAreRoundedDown) {
-    const auto fields = [](TimeRounding rounding) {
-        const TAxisdatetime r = rounded_down({6, 7, 126, 8, 9, 10, 11}, rounding);
-        return std::vector{r.month, r.day, r.hour, r.minute, r.second, r.hundredths};
-    };
-    EXPECT_EQ(fields(TimeRounding::none), (std::vector{7, 6, 8, 9, 10, 11}));
-    EXPECT_EQ(fields(TimeRounding::minute), (std::vector{7, 6, 8, 9, 0, 0}));
-    EXPECT_EQ(fields(TimeRounding::hour), (std::vector{7, 6, 8, 0, 0, 0}));
-    EXPECT_EQ(fields(TimeRounding::day), (std::vector{7, 6, 0, 0, 0, 0}));
-    EXPECT_EQ(fields(TimeRounding::month), (std::vector{7, 0, 0, 0, 0, 0}));
-    EXPECT_EQ(fields(TimeRounding::year), (std::vector{0, 0, 0, 0, 0, 0}));
+    const auto rounded = [](TimeRounding to) { return fields(rounded_down({6, 7, 126, 8, 9, 10, 11}, to)); };
+    EXPECT_THAT(rounded(TimeRounding::none), ElementsAre(6, 7, 126, 8, 9, 10, 11));
+    EXPECT_THAT(rounded(TimeRounding::minute), ElementsAre(6, 7, 126, 8, 9, 0, 0));
+    EXPECT_THAT(rounded(TimeRounding::hour), ElementsAre(6, 7, 126, 8, 0, 0, 0));
+    EXPECT_THAT(rounded(TimeRounding::day), ElementsAre(6, 7, 126, 0, 0, 0, 0));
+    EXPECT_THAT(rounded(TimeRounding::month), ElementsAre(0, 7, 126, 0, 0, 0, 0));
+    EXPECT_THAT(rounded(TimeRounding::year), ElementsAre(0, 0, 126, 0, 0, 0, 0));
 }
 
 TEST(AxisTime, LevelFollowsTheSpan) {
@@ -333,7 +330,6 @@ TEST(AxisTime, TicksEqualAWalkFromTheOrigin) {
             EXPECT_EQ(ticks_of(grid), walked) << span;
             EXPECT_EQ(grid.origin() < 0, counted_from_1900);
         }
-    EXPECT_THAT(fields(rounded_down(start, TimeRounding::month)), ElementsAre(0, 5, 2026, 0, 0, 0, 0));
 }
 
 TEST(AxisLabels, AreTrimmedAndBounded) {
@@ -352,7 +348,6 @@ TEST(AxisLabels, AreTrimmedAndBounded) {
         EXPECT_EQ(time_label(static_cast<TimeLabel>(kind), {2, 10, 126, 3, 4, 5, 6}), texts[kind]);
     for (int month : {0, 13, -1})
         EXPECT_EQ(time_label(TimeLabel::month_name, {1, month, 80, 0, 0, 0, 0}), "");
-    EXPECT_TRUE(is_scale_line(0.3f, 0.02f) && is_scale_line(-10, 2) && !is_scale_line(4, 2));
 }
 
 } // namespace

@@ -84,15 +84,10 @@ int packed(int bits, int r, int g, int b) {
 }
 
 TEST(Pixels, PackColoursByDepth) {
-    const int cases[][6] = {{0, 0, 0, 0, 0, 0},
-                            {255, 255, 255, 60, 0x7FFF, 0xFFFFFF},
-                            {255, 0, 0, 0, 0x7C00, 0xFF0000},
-                            {0, 255, 0, 12, 0x03E0, 0x00FF00},
-                            {0, 0, 255, 60, 0x001F, 0x0000FF},
-                            {1, 1, 1, 0, 0x14A5, 0x010101},
-                            {16, 8, 4, 12, 0x4114, 0x100804},
-                            {-1, 256, 0x12345, 4, 0x7C15, 0xFF0045},
-                            {INT_MIN, INT_MAX, INT_MIN, 12, 0x03E0, 0x00FF00}};
+    const int cases[][6] = {{255, 255, 255, 60, 0x7FFF, 0xFFFFFF},   {255, 0, 0, 0, 0x7C00, 0xFF0000},
+                            {0, 255, 0, 12, 0x03E0, 0x00FF00},       {0, 0, 255, 60, 0x001F, 0x0000FF},
+                            {1, 1, 1, 0, 0x14A5, 0x010101},          {16, 8, 4, 12, 0x4114, 0x100804},
+                            {-1, 256, 0x12345, 4, 0x7C15, 0xFF0045}, {INT_MIN, INT_MAX, INT_MIN, 12, 0x03E0, 0x00FF00}};
     for (const auto& [r, g, b, index, word, triple] : cases) {
         const std::array all = {packed(8, r, g, b), packed(16, r, g, b), packed(24, r, g, b)};
         EXPECT_THAT(all, testing::ElementsAre(index, word, triple)) << r << ' ' << g << ' ' << b;

@@ -1,11 +1,12 @@
 #include "controls/frame_model.h"
 #include "controls/sash_model.h"
+#include "test_random.h"
 
 #include <gtest/gtest.h>
 
 #include <climits>
 #include <cmath>
-#include <random>
+#include <functional>
 
 using namespace wnt;
 using Keeps = SashModel::Keeps;
@@ -35,40 +36,24 @@ TEST(SashModel, KeepsWhatThePresentLengthHasNoRoomFor) {
 
 // After any operations the parts fill the length, and the least lengths hold where there is room for both.
 TEST(SashModel, PartsFillTheLengthAfterAnyOperations) {
-    std::mt19937 random(7);
-    const auto some = [&](int most) { return static_cast<int>(random() % static_cast<unsigned>(most + 1)); };
+    Random random(7);
+    const int odd[] = {INT_MIN, -1, 0, 1, INT_MAX};
+    const auto some = [&] { return random.one_in(10) ? random.of(odd) : random.upto(2000); };
     for (int run = 0; run < 200; ++run) {
         SashModel sash;
         int least[2] = {0, 0};
         int bar = 5;
+        const std::function<void()> calls[] = {
+            [&] { sash.resize(some()); },
+            [&] { sash.set_bar(bar = random.upto(64)); },
+            [&] { sash.set_least(least[0] = random.upto(300), least[1] = random.upto(300)); },
+            [&] { sash.set_position(some()); },
+            [&] { sash.set_second(some()); },
+            [&] { sash.set_share(random.one_in(4) ? NAN : some() / 1000.0 - 0.5); },
+            [&] { sash.set_keeps(static_cast<Keeps>(random.upto(2))); },
+            [&] { sash.fold(random.upto(3)); }};
         for (int step = 0; step < 50; ++step) {
-            const int odd[] = {INT_MIN, -1, 0, 1, INT_MAX};
-            const int value = some(9) == 0 ? odd[some(4)] : some(2000);
-            switch (some(7)) {
-            case 0:
-                sash.resize(value);
-                break;
-            case 1:
-                sash.set_bar(bar = some(64));
-                break;
-            case 2:
-                sash.set_least(least[0] = some(300), least[1] = some(300));
-                break;
-            case 3:
-                sash.set_position(value);
-                break;
-            case 4:
-                sash.set_second(value);
-                break;
-            case 5:
-                sash.set_share(some(3) == 0 ? NAN : value / 1000.0 - 0.5);
-                break;
-            case 6:
-                sash.set_keeps(static_cast<Keeps>(some(2)));
-                break;
-            default:
-                sash.fold(some(3));
-            }
+            random.of(calls)();
             const auto first = sash.first(), middle = sash.bar(), second = sash.second();
             ASSERT_TRUE(first.start == 0 && first.length >= 0 && second.length >= 0);
             ASSERT_TRUE(middle.start == first.length && second.start == middle.start + middle.length);

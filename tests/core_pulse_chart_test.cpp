@@ -1,7 +1,9 @@
+#include "own_folder.h"
 #include "pulse/wnt_pulse_file.h"
 #include "script/colours.h"
 #include "script/keywords.h"
-#include "time_zone.h"
+#include "script/values.h"
+#include "test_random.h"
 #include "widgets/axis/time_value.h"
 #include "widgets/pulse/chart_layout.h"
 #include "widgets/pulse/pulse_chart.h"
@@ -10,12 +12,9 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cmath>
-#include <filesystem>
 #include <fstream>
-#include <iterator>
-#include <limits>
-#include <random>
 
 using namespace wnt;
 namespace fs = std::filesystem;
@@ -42,7 +41,8 @@ TEST(PulseChart, FollowsItsScript) {
     EXPECT_EQ(flow.title, "Flow");
     EXPECT_TRUE(flow.colour == colour_values[6] && flow.low == -2.5 && flow.high == 1000 && flow.steps &&
                 flow.style == 2);
-    EXPECT_TRUE(chart.curves()[1].high == 100 && !chart.curves()[1].marks && !chart.curves()[1].steps);
+    const ChartCurve& plain = chart.curves()[1];
+    EXPECT_TRUE(plain.low == 0 && plain.high == 100 && !plain.marks && !plain.steps);
     for (const char* line : {":CURVE=No colour", ":CURVE=x,PINK,0,1", ":CURVE=x,RED,1,1", ":CURVE=x,RED,nan,2",
                              ":CURVE=x,RED,0,1e999", ":CURVE=x,RED,,5", ":SPAN=0", ":SPAN=-1", ":STYLE=WAVE",
                              ":GRID=MAYBE", ":CLRBACK=PINK", ":NOSUCHKEY=1", "GRID=ON", ""})
@@ -53,6 +53,7 @@ TEST(PulseChart, FollowsItsScript) {
         EXPECT_TRUE(chart.load_line(":CURVE=a title of more than twenty-four characters,RED,0,1"));
     EXPECT_EQ(chart.curves()[9].title, "a title of more than twe");
     EXPECT_FALSE(chart.load_line(":CURVE=eleventh,RED,0,1"));
+    EXPECT_TRUE(chart.load_line(":TITLE=" + std::string(80, 't')) && chart.title.size() == title_capacity - 1);
     EXPECT_TRUE(chart.load_line(":CLEARCURVES"));
     EXPECT_TRUE(chart.curves().empty());
 }
@@ -101,8 +102,8 @@ TEST(PulseChart, ReadsValuesOff) {
     EXPECT_EQ(chart.value_at(0, 170), 3);
     EXPECT_FALSE(chart.value_at(0, 171));
     EXPECT_FALSE(chart.value_at(1, 10));
-    EXPECT_FALSE(chart.value_at(0, std::numeric_limits<std::int64_t>::min()));
-    EXPECT_FALSE(chart.value_at(0, std::numeric_limits<std::int64_t>::max()));
+    EXPECT_FALSE(chart.value_at(0, INT64_MIN));
+    EXPECT_FALSE(chart.value_at(0, INT64_MAX));
 }
 
 bool apart(const PixelRect& a, const PixelRect& b) {
@@ -111,8 +112,8 @@ bool apart(const PixelRect& a, const PixelRect& b) {
 }
 
 TEST(ChartLayout, NothingOverlapsAtAnySize) {
-    std::mt19937 random(5);
-    const auto some = [&](int most) { return static_cast<int>(random() % static_cast<unsigned>(most + 1)); };
+    Random random(5);
+    const auto some = [&](int most) { return random.upto(most); };
     for (int run = 0; run < 3000; ++run) {
         ChartSizes sizes{100 + 50 * some(2), some(30), some(20), 17, some(1) == 1, some(1) == 1, some(1) == 1, {}};
         for (int i = some(10); i > 0; --i)
@@ -142,17 +143,7 @@ TEST(ChartLayout, NothingOverlapsAtAnySize) {
     }
 }
 
-struct PulseTransfer : testing::Test {
-    PulseTransfer() {
-        fs::create_directory(folder);
-        fs::current_path(folder);
-        set_zone("UTC0");
-    }
-    ~PulseTransfer() override {
-        fs::current_path(home);
-        std::error_code ignored;
-        fs::remove_all(folder, ignored);
-    }
+struct PulseTransfer : OwnFolder {
     std::vector<PulsePoint> read(const std::string& path, bool spread) {
         PulseReader reader;
         EXPECT_EQ(reader.open(path), "");
@@ -175,12 +166,8 @@ struct PulseTransfer : testing::Test {
         return names;
     }
 
-    fs::path home = fs::current_path();
-    fs::path folder = fs::temp_directory_path() / ("transfer-" + std::to_string(std::random_device()()));
     std::vector<std::string> titles;
 };
-
-constexpr std::int64_t afternoon = 1'794'837'839; // 16 November 2026, 14:03:59 UTC
 
 TEST_F(PulseTransfer, WhatWasRecordedIsRead) {
     PulseRecorder recorder;
@@ -194,8 +181,8 @@ TEST_F(PulseTransfer, WhatWasRecordedIsRead) {
     ASSERT_EQ(found.size(), 4u);
     const std::int64_t first = axis_time_of(afternoon);
     EXPECT_EQ(moment_of_axis_time(first), afternoon);
-    EXPECT_THAT((std::vector{found[0].time, found[1].time, found[2].time, found[3].time}),
-                testing::UnorderedElementsAre(first, first, first + 100, first + 100));
+    for (int i = 0; i < 4; ++i)
+        EXPECT_EQ(found[i].time, first + i / 2 * 100) << i;
     ASSERT_EQ(recorder.start("a.txt", {"Flow", "Pressure"}), ""); // goes on behind it
     recorder.put(1, 9, afternoon + 9);
     recorder.stop();
@@ -260,14 +247,13 @@ TEST_F(PulseTransfer, AClockThatIsPutBackLosesNothing) {
     recorder.stop();
     const auto found = read("a.txt", true);
     ASSERT_EQ(found.size(), 18u);
-    for (std::size_t i = 1; i < found.size(); ++i) {
-        EXPECT_GE(found[i].time, found[i - 1].time);
-        EXPECT_EQ(found[i].value, found[i - 1].value + 10);
-    }
+    for (int i = 0; i < 18; ++i) {
+        EXPECT_EQ(found[i].value, 10 * i);
+        EXPECT_GE(found[i].time, found[std::max(i - 1, 0)].time);
 #ifndef _WIN32 // the runtime has no rules for this zone
-    for (std::int64_t i = 0; i < 18; ++i)
-        EXPECT_EQ(found[static_cast<std::size_t>(i)].time, axis_time_of(two_thirty) + 60'000 * i);
+        EXPECT_EQ(found[i].time, axis_time_of(two_thirty) + 60'000 * i);
 #endif
+    }
     for (std::int64_t i = 1; i < 200; ++i) // and the axis' own clock never runs back
         EXPECT_EQ(axis_time_of(two_thirty + 60 * i) - axis_time_of(two_thirty), 6000 * i);
 }
@@ -287,10 +273,9 @@ TEST_F(PulseTransfer, DaylightSavingChangesNoTime) {
         recorder.start("a.txt", {"Flow"});
         recorder.put(0, 1, moment);
         recorder.stop();
-        const auto found = read("a.txt", false);
-        ASSERT_EQ(found.size(), 1u);
-        EXPECT_EQ(found[0].time, axis_time_of(moment));
-        EXPECT_EQ(moment_of_axis_time(found[0].time), moment);
+        const std::int64_t found = read("a.txt", false).at(0).time;
+        EXPECT_EQ(found, axis_time_of(moment));
+        EXPECT_EQ(moment_of_axis_time(found), moment);
     }
 }
 
@@ -342,17 +327,13 @@ TEST_F(PulseTransfer, BrokenFilesGiveWhatCanBeRead) {
     for (int i = 0; i < 5; ++i)
         recorder.put(1, i, afternoon + i);
     recorder.stop();
-    std::ifstream whole("a.txt", std::ios::binary);
-    const std::string text{std::istreambuf_iterator<char>(whole), {}};
-    for (std::size_t length = 0; length < text.size(); ++length) {
-        std::ofstream("cut.txt", std::ios::binary) << text.substr(0, length);
+    for (auto length = fs::file_size("a.txt"); length-- > 0;) {
+        fs::resize_file("a.txt", length);
         PulseReader reader;
-        if (!reader.open("cut.txt").empty())
-            continue;
-        std::size_t count = 0;
-        while (reader.read(2, [&](int curve, std::int64_t, double) { count += curve == 1; })) {
-        }
-        EXPECT_LE(count, 5u);
+        int count = 0;
+        if (reader.open("a.txt").empty())
+            while (reader.read(2, [&](int curve, std::int64_t, double) { count += curve == 1; }))
+                EXPECT_LE(count, 5);
     }
     std::ofstream("table.csv") << "3\n" << std::string(100'000, 'x');
     EXPECT_NE(PulseReader().open("table.csv"), "");

@@ -1,3 +1,4 @@
+#include "test_random.h"
 #include "widgets/pulse/pulse_picture.h"
 #include "widgets/pulse/pulse_view.h"
 
@@ -8,8 +9,6 @@
 #include <deque>
 #include <functional>
 #include <limits>
-#include <random>
-#include <set>
 #include <string>
 
 using namespace wnt;
@@ -18,56 +17,35 @@ namespace {
 
 constexpr double hole = std::numeric_limits<double>::quiet_NaN();
 
-struct Random {
-    std::mt19937 engine;
-    explicit Random(unsigned seed) : engine(seed) {}
-    int upto(int most) { return static_cast<int>(engine() % static_cast<unsigned>(most + 1)); }
-    bool one_in(int n) { return upto(n - 1) == 0; }
-    double unit() { return engine() / 4294967296.0; }
-};
-
-// What a history is, without blocks: all samples in a queue.
-struct PlainSeries {
-    std::size_t capacity;
-    std::deque<PulsePoint> points;
-    std::uint64_t first = 0;
-
-    void append(std::int64_t time, double value) {
-        points.push_back({time, value});
-        if (points.size() > capacity) {
-            points.pop_front();
-            ++first;
-        }
-    }
-};
-
 TEST(PulseSeries, HoldsTheNewestSamplesAndTheirBlocks) {
     for (const std::size_t capacity : {1, 5, 16, 100, 4095, 4096, 9000}) {
         Random random(static_cast<unsigned>(capacity));
         PulseSeries series(capacity);
-        PlainSeries plain{capacity, {}};
+        std::deque<PulsePoint> plain; // what a history is, without blocks
         std::int64_t time = -500;
         for (int i = 0; i < 30'000; ++i) {
             time += random.one_in(50) ? random.upto(5000) : random.upto(3);
             const double value = random.one_in(200) ? hole : random.unit();
             ASSERT_TRUE(series.append(time, value));
-            plain.append(time, value);
+            plain.push_back({time, value});
+            if (plain.size() > capacity)
+                plain.pop_front();
             if (!random.one_in(300))
                 continue;
-            ASSERT_EQ(series.first(), plain.first);
-            ASSERT_EQ(series.size(), plain.points.size());
-            const auto size = static_cast<int>(plain.points.size());
+            const auto size = static_cast<int>(plain.size());
+            ASSERT_EQ(series.first(), static_cast<std::uint64_t>(i + 1 - size));
+            ASSERT_EQ(series.size(), plain.size());
             int from = random.upto(size), to = random.upto(size);
             if (from > to)
                 std::swap(from, to);
             PulseBlock expected;
             for (int k = from; k < to; ++k) {
-                const PulsePoint& point = plain.points[k];
+                const PulsePoint& point = plain[k];
                 if (std::isnan(point.value)) {
                     expected.pause = PulseBlock::hole;
                     continue;
                 }
-                const std::int64_t pause = k ? point.time - plain.points[k - 1].time : 0;
+                const std::int64_t pause = k ? point.time - plain[k - 1].time : 0;
                 expected.include({point.value, point.value, pause});
             }
             const PulseBlock found = series.summary(series.first() + from, series.first() + to);
@@ -78,10 +56,10 @@ TEST(PulseSeries, HoldsTheNewestSamplesAndTheirBlocks) {
                 ASSERT_EQ(found.pause, expected.pause) << from << " to " << to;
             }
             const std::int64_t sought = time - random.upto(3000);
-            const auto at = std::lower_bound(plain.points.begin(), plain.points.end(), sought,
+            const auto at = std::lower_bound(plain.begin(), plain.end(), sought,
                                              [](const PulsePoint& p, std::int64_t t) { return p.time < t; });
             ASSERT_EQ(series.seek(sought, series.first() + random.upto(size + 5)),
-                      plain.first + static_cast<std::uint64_t>(at - plain.points.begin()));
+                      series.first() + static_cast<std::uint64_t>(at - plain.begin()));
         }
     }
 }
@@ -108,31 +86,24 @@ TEST(PulseSeries, TakesAtMost24BytesASample) {
 }
 
 // A picture with every sample a run of its own.
-class EverySample {
-public:
-    static void paint(const PulseSeries& series, const ColumnScale& scale, std::int64_t longest_pause,
-                      ColumnPainter& painter) {
-        bool joined = false;
-        std::int64_t before = 0;
-        for (std::uint64_t i = series.first(); i != series.end(); ++i) {
-            const auto [time, value] = series[i];
-            if (std::isnan(value)) {
-                joined = false;
-                continue;
-            }
-            joined = joined && time - before <= longest_pause;
-            painter.run({scale.column(time), 1, value, value, value, value, joined});
-            joined = true;
-            before = time;
-        }
+void paint_every_sample(const PulseSeries& series, const ColumnScale& scale, std::int64_t longest_pause,
+                        ColumnPainter& painter) {
+    bool joined = false;
+    std::int64_t before = 0;
+    for (std::uint64_t i = series.first(); i != series.end(); ++i) {
+        const auto [time, value] = series[i];
+        if (!std::isnan(value))
+            painter.run({scale.column(time), 1, value, value, value, value, joined && time - before <= longest_pause});
+        joined = !std::isnan(value);
+        before = time;
     }
-};
+}
 
 using Pixels = std::vector<std::uint32_t>;
 
 std::int64_t random_pause(Random& random) {
-    const std::int64_t pauses[] = {5, 40, 1000, std::numeric_limits<std::int64_t>::max() - 1};
-    return pauses[random.upto(3)];
+    const std::int64_t pauses[] = {5, 40, 1000, INT64_MAX - 1};
+    return random.of(pauses);
 }
 
 // Series of every kind: walks, bursts, spikes, constants, holes in plenty.
@@ -182,7 +153,7 @@ TEST(PulseDecimation, PaintsWhatAllSamplesPaint) {
             paint_columns(series, scale, origin - CurveRaster::margin(style),
                           origin + scale.width + CurveRaster::margin(style), pause, raster);
             CurveRaster reference({expected.data(), scale.width, height, scale.width}, all, origin, values, style);
-            EverySample::paint(series, scale, pause, reference);
+            paint_every_sample(series, scale, pause, reference);
         }
         ASSERT_TRUE(pixels == expected) << "seed " << seed;
     }
@@ -254,14 +225,6 @@ TEST(CurveRaster, MarksWhatStandsAlone) {
     EXPECT_EQ(marked({10, 30, 37, 60}), "8 9 10 11 12 58 59 60 61 62 ");
 }
 
-std::int64_t columns_drawn(const PulsePicture& picture) {
-    std::set<std::int64_t> columns;
-    for (const auto& stretch : picture.drawn())
-        for (std::int64_t x = stretch.left; x < stretch.right; ++x)
-            EXPECT_TRUE(columns.insert(x).second) << "drawn twice";
-    return static_cast<std::int64_t>(columns.size());
-}
-
 TEST(PulsePicture, FollowsAsIfDrawnAnew) {
     for (unsigned seed = 0; seed < 60; ++seed) {
         Random random(seed);
@@ -274,7 +237,6 @@ TEST(PulsePicture, FollowsAsIfDrawnAnew) {
         for (PulseSeries& one : series)
             scene.curves.push_back({&one, {0, 100, scene.height}, random_style(random), random_pause(random)});
         PulsePicture picture;
-        std::int64_t drawn = 0, whole = 0;
         for (int step = 0; step < 60; ++step) {
             for (PulseSeries& one : series)
                 if (!random.one_in(4))
@@ -291,15 +253,12 @@ TEST(PulsePicture, FollowsAsIfDrawnAnew) {
                 if (grid % 40 == 0)
                     scene.grid_columns.push_back(grid);
             picture.show(scene);
-            drawn += columns_drawn(picture);
-            whole += scene.columns.width;
             PulsePicture anew;
             anew.show(scene);
             const PlotCanvas a = picture.canvas(), b = anew.canvas();
             for (std::int32_t row = 0; row < a.height; ++row)
                 ASSERT_TRUE(std::equal(a.row(row), a.row(row) + a.width, b.row(row))) << seed << ' ' << step;
         }
-        EXPECT_LE(drawn, 3 * whole);
     }
 }
 
@@ -314,9 +273,8 @@ TEST(PulsePicture, ALiveTickDrawsNewColumnsOnly) {
         series.append(time, static_cast<double>(time % 100));
         scene.origin = scene.columns.column(time) - 499;
         picture.show(scene);
-        if (time) {
-            ASSERT_LE(columns_drawn(picture), 10);
-        }
+        ASSERT_EQ(picture.drawn().size(), 1u) << "each column once";
+        ASSERT_TRUE(time == 0 || picture.drawn()[0].right - picture.drawn()[0].left <= 10);
     }
 }
 
@@ -360,6 +318,7 @@ TEST(ValueScale, FitsInRoundStepsAndRarely) {
     EXPECT_EQ(range(present, 1, -1), Range(0, 100)); // nothing to show
     EXPECT_LT(range(present, 7, 7).first, 7);
     EXPECT_GT(range(present, 7, 7).second, 7);
+    EXPECT_EQ(range({-100, -50, 50}, -99, -60), Range(-100, -50)); // filled well below zero, too
     for (const double odd : {1e308, -1e308, 5e-324, 0.0})
         EXPECT_LT(range(present, odd, odd).first, range(present, odd, odd).second) << odd;
     EXPECT_EQ(range(present, -1.7e308, 1.7e308), Range(0, 100)); // no range of doubles
@@ -386,9 +345,13 @@ TEST(PulseView, FollowsNowUntilTheUserLooksBack) {
     EXPECT_EQ(view.x(100'000), 699);
     view.set_history(0, 101'000); // more arrives
     EXPECT_EQ(view.x(100'000), 699);
-    const std::int64_t there = view.time(200);
-    view.zoom(3000, 200);
-    EXPECT_EQ(view.time(200), there);
+    const std::int64_t zooms[][3] = {{3000, 200, 200}, {600, -50, 0}, {300, 10'000, 599}}; // beside the plot, too
+    for (const auto& [span, x, kept] : zooms) {
+        const std::int64_t there = view.time(kept);
+        view.zoom(span, x);
+        EXPECT_EQ(view.time(kept), there) << span;
+    }
+    view.zoom(3000, 0);
     view.scroll(-1'000'000'000);
     EXPECT_EQ(view.x(0), 0); // the oldest sample at the left edge
     view.scroll(1'000'000'000);
@@ -429,34 +392,17 @@ TEST(PulseView, StaysWhereItIsPut) {
 
 TEST(PulseView, HoldsAtAnyCall) {
     Random random(3);
-    const std::int64_t odd[] = {std::numeric_limits<std::int64_t>::min(),
-                                -1,
-                                0,
-                                1,
-                                std::numeric_limits<std::int64_t>::max(),
-                                PulseSeries::latest};
+    const std::int64_t odd[] = {INT64_MIN, -1, 0, 1, INT64_MAX, PulseSeries::latest};
     PulseView view;
-    const auto some = [&] { return random.one_in(3) ? odd[random.upto(5)] : random.upto(1'000'000) - 500'000; };
+    const auto some = [&] { return random.one_in(3) ? random.of(odd) : random.upto(1'000'000) - 500'000; };
+    const std::function<void()> calls[] = {[&] { view.resize(static_cast<std::int32_t>(some())); },
+                                           [&] { view.zoom(some(), some()); },
+                                           [&] { view.show(some(), some()); },
+                                           [&] { view.scroll(some()); },
+                                           [&] { view.set_history(some(), some()); },
+                                           [&] { view.set_live(random.one_in(2)); }};
     for (int i = 0; i < 20'000; ++i) {
-        switch (random.upto(5)) {
-        case 0:
-            view.resize(static_cast<std::int32_t>(some()));
-            break;
-        case 1:
-            view.zoom(some(), some());
-            break;
-        case 2:
-            view.show(some(), some());
-            break;
-        case 3:
-            view.scroll(some());
-            break;
-        case 4:
-            view.set_history(some(), some());
-            break;
-        default:
-            view.set_live(random.one_in(2));
-        }
+        random.of(calls)();
         ASSERT_LT(view.start(), view.end());
         ASSERT_TRUE(PulseView::shortest_span <= view.span() && view.span() <= PulseView::longest_span);
     }

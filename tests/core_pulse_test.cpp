@@ -1,43 +1,23 @@
+#include "own_folder.h"
 #include "pulse/wnt_pulse_file.h"
 #include "time/local_time.h"
-#include "time_zone.h"
 
-#include <gtest/gtest.h>
-
-#include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <random>
 
 using namespace wnt;
 namespace fs = std::filesystem;
 
 namespace {
 
-// Each test in an empty folder of its own, in universal time.
-struct PulseFile : testing::Test {
-    PulseFile() {
-        fs::create_directory(folder);
-        fs::current_path(folder);
-        set_zone("UTC0");
-    }
-    ~PulseFile() override {
-        fs::current_path(home);
-        fs::remove_all(folder);
-    }
-
+struct PulseFile : OwnFolder {
     // The bytes of a text file; lines end as the platform ends them.
     static std::string text_of(const char* name) {
         std::ifstream file(name);
         return {std::istreambuf_iterator<char>(file), {}};
     }
     static void write_text(const char* name, const std::string& text) { std::ofstream(name) << text; }
-
-    fs::path home = fs::current_path();
-    fs::path folder = fs::temp_directory_path() / ("pulse-" + std::to_string(std::random_device()()));
 };
-
-constexpr std::int64_t afternoon = 1'794'837'839; // 16 November 2026, 14:03:59 UTC
 
 TEST_F(PulseFile, WritesTheHeaderOnceAndASampleALine) {
     for (int run = 0; run < 2; ++run) {

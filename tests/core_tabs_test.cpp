@@ -1,8 +1,7 @@
 #include "controls/tabs_layout.h"
+#include "test_random.h"
 
 #include <gtest/gtest.h>
-
-#include <random>
 
 using namespace wnt;
 
@@ -31,6 +30,11 @@ TabsModel four() {
     return m;
 }
 
+void disable_all(TabsModel& m) {
+    for (int i = 0; i < m.count(); ++i)
+        m.enable(i, false);
+}
+
 TEST(TabsModel, SelectionStaysWithItsTabAndGoesToTheNearestEnabledOne) {
     const struct {
         const char* what;
@@ -49,19 +53,8 @@ TEST(TabsModel, SelectionStaysWithItsTabAndGoesToTheNearestEnabledOne) {
         {"one takes its place", [](TabsModel& m) { m.move(0, 1); }, "*b a c- d "},
         {"from behind, too", [](TabsModel& m) { m.move(3, 1); }, "a d *b c- "},
         {"it is disabled", [](TabsModel& m) { m.enable(1, false); }, "a b- c- *d "},
-        {"all are",
-         [](TabsModel& m) {
-             for (int i = 0; i < 4; ++i)
-                 m.enable(i, false);
-         },
-         "a- b- c- d- "},
-        {"one is again",
-         [](TabsModel& m) {
-             for (int i = 0; i < 4; ++i)
-                 m.enable(i, false);
-             m.enable(2, true);
-         },
-         "a- b- *c d- "},
+        {"all are", [](TabsModel& m) { disable_all(m); }, "a- b- c- d- "},
+        {"one is again", [](TabsModel& m) { disable_all(m), m.enable(2, true); }, "a- b- *c d- "},
     };
     for (const auto& c : cases) {
         TabsModel m = four();
@@ -138,61 +131,34 @@ TEST(TabsModel, AScriptNamesTheTabsAndKeepsTheirPages) {
 TEST(TabsLayout, StandsAtEverySide) {
     constexpr TabsSizes sizes = {2, 12, 8, 3, 2, 6, 5, 10};
     const int lengths[] = {20, 30};
-    const struct {
-        TabsSide side;
-        PixelRect strip, page, first, second, lifted, icon, close;
-    } cases[] = {
-        {TabsSide::top,
-         {0, 0, 100, 12},
-         {1, 12, 99, 59},
-         {2, 2, 22, 11},
-         {22, 2, 52, 11},
-         {20, 0, 54, 12},
-         {25, 3, 31, 9},
-         {44, 4, 49, 9}},
-        {TabsSide::bottom,
-         {0, 48, 100, 60},
-         {1, 1, 99, 48},
-         {2, 49, 22, 58},
-         {22, 49, 52, 58},
-         {20, 48, 54, 60},
-         {25, 51, 31, 57},
-         {44, 51, 49, 56}},
-        {TabsSide::left,
-         {0, 0, 12, 60},
-         {12, 1, 99, 59},
-         {2, 2, 11, 22},
-         {2, 22, 11, 52},
-         {0, 20, 12, 54},
-         {3, 43, 9, 49},
-         {4, 25, 9, 30}},
-        {TabsSide::right,
-         {88, 0, 100, 60},
-         {1, 1, 88, 59},
-         {89, 2, 98, 22},
-         {89, 22, 98, 52},
-         {88, 20, 100, 54},
-         {91, 25, 97, 31},
-         {91, 44, 96, 49}},
-    };
-    for (const auto& c : cases) {
+    enum Part { strip, page, first, second, lifted, icon, close };
+    constexpr TabsSide sides[] = {TabsSide::top, TabsSide::bottom, TabsSide::left, TabsSide::right};
+    const PixelRect parts[][4] = {{{0, 0, 100, 12}, {0, 48, 100, 60}, {0, 0, 12, 60}, {88, 0, 100, 60}},   // strip
+                                  {{1, 12, 99, 59}, {1, 1, 99, 48}, {12, 1, 99, 59}, {1, 1, 88, 59}},      // page
+                                  {{2, 2, 22, 11}, {2, 49, 22, 58}, {2, 2, 11, 22}, {89, 2, 98, 22}},      // first
+                                  {{22, 2, 52, 11}, {22, 49, 52, 58}, {2, 22, 11, 52}, {89, 22, 98, 52}},  // second
+                                  {{20, 0, 54, 12}, {20, 48, 54, 60}, {0, 20, 12, 54}, {88, 20, 100, 54}}, // lifted
+                                  {{25, 3, 31, 9}, {25, 51, 31, 57}, {3, 43, 9, 49}, {91, 25, 97, 31}},    // icon
+                                  {{44, 4, 49, 9}, {44, 51, 49, 56}, {4, 25, 9, 30}, {91, 44, 96, 49}}};   // close
+    for (int i = 0; i < 4; ++i) {
+        SCOPED_TRACE(i);
         TabsModel m;
-        m.side = c.side;
+        m.side = sides[i];
         const TabsLayout l = lay_out_tabs(m, sizes, lengths, 100, 60, 0, -1);
-        EXPECT_EQ(l.strip, c.strip);
-        EXPECT_EQ(l.page, c.page);
-        EXPECT_EQ(l.tabs[0], c.first);
-        EXPECT_EQ(l.tabs[1], c.second);
-        EXPECT_EQ(l.lifted(1, sizes), c.lifted);
-        const TabParts parts = l.parts(1, sizes, true, true);
-        EXPECT_EQ(parts.icon, c.icon);
-        EXPECT_EQ(parts.close, c.close);
+        const PixelRect &one = parts[first][i], &two = parts[second][i];
+        EXPECT_EQ(l.strip, parts[strip][i]);
+        EXPECT_EQ(l.page, parts[page][i]);
+        EXPECT_EQ(l.tabs[0], one);
+        EXPECT_EQ(l.tabs[1], two);
+        EXPECT_EQ(l.lifted(1, sizes), parts[lifted][i]);
+        EXPECT_EQ(l.parts(1, sizes, true, true).icon, parts[icon][i]);
+        EXPECT_EQ(l.parts(1, sizes, true, true).close, parts[close][i]);
         EXPECT_FALSE(l.overflows());
-        EXPECT_EQ(l.tab_at(c.second.left, c.second.top), 1);
+        EXPECT_EQ(l.tab_at(two.left, two.top), 1);
         EXPECT_EQ(l.tab_at(50, 30), -1);
-        EXPECT_EQ(l.gap_at(c.first.left, c.first.top), 0);
-        EXPECT_EQ(l.gap_at(c.second.left, c.second.top), 1);
-        EXPECT_EQ(l.gap_at(c.second.right, c.second.bottom), 2);
+        EXPECT_EQ(l.gap_at(one.left, one.top), 0);
+        EXPECT_EQ(l.gap_at(two.left, two.top), 1);
+        EXPECT_EQ(l.gap_at(two.right, two.bottom), 2);
     }
 }
 
@@ -218,8 +184,8 @@ TEST(TabsLayout, ShowsWholeTabsAndTheOneThatIsWanted) {
 
 // At any size, order of sizes and first tab: all within the strip, none over another, nothing turned round.
 TEST(TabsLayout, HoldsAtAnySize) {
-    std::mt19937 random(3);
-    const auto some = [&](int most) { return static_cast<int>(random() % static_cast<unsigned>(most + 1)); };
+    Random random(3);
+    const auto some = [&](int most) { return random.upto(most); };
     for (int run = 0; run < 3000; ++run) {
         const TabsSizes sizes = TabsSizes::at(some(400), some(60));
         TabsModel m;

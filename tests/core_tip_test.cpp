@@ -1,9 +1,9 @@
 #include "controls/tip_layout.h"
+#include "test_random.h"
 
 #include <gtest/gtest.h>
 
 #include <climits>
-#include <random>
 
 using namespace wnt;
 
@@ -81,8 +81,8 @@ TEST(TipLayout, PartsStandBesideEachOther) {
 }
 
 TEST(TipLayout, NothingLiesOutsideOrOverAnother) {
-    std::mt19937 random(3);
-    const auto some = [&](int most) { return static_cast<int>(random() % static_cast<unsigned>(most + 1)); };
+    Random random(3);
+    const auto some = [&](int most) { return random.upto(most); };
     for (int run = 0; run < 500; ++run) {
         std::string title, text;
         for (int i = some(40); i > 0; --i)
@@ -122,6 +122,7 @@ TEST(TipLayout, StaysOnTheScreenBesideWhatItExplains) {
         const PixelRect place = place_tip(c.width, 40, c.around, screen);
         EXPECT_EQ(place, (PixelRect{c.left, c.top, c.left + c.width, c.top + 40})) << c.around.left << c.around.top;
     }
+    EXPECT_EQ(place_tip(100, 400, {10, 10, 50, 30}, screen).top, 0); // higher than the screen
     EXPECT_EQ(place_tip(100, 40, {10, 10, 50, 30}, screen, true).left, -20);
     EXPECT_EQ(place_tip(100, 40, {360, 10, 400, 30}, screen, true).left, 300);
 }

@@ -1,10 +1,9 @@
 #include "controls/shortcut_text.h"
 #include "controls/tool_bar_model.h"
 #include "controls/tool_picture.h"
+#include "test_random.h"
 
 #include <gtest/gtest.h>
-
-#include <random>
 
 using namespace wnt;
 using enum ToolKind;
@@ -85,8 +84,8 @@ TEST(ToolLayout, FindsItemsAndTheGapsBetweenThem) {
 }
 
 TEST(ToolLayout, ItemsNeverOverlapNorLeaveTheBar) {
-    std::mt19937 random(5);
-    const auto some = [&](int most) { return static_cast<int>(random() % static_cast<unsigned>(most + 1)); };
+    Random random(5);
+    const auto some = [&](int most) { return random.upto(most); };
     for (int run = 0; run < 2000; ++run) {
         std::vector<ToolSpace> items;
         for (int i = some(12); i > 0; --i)
@@ -120,19 +119,17 @@ TEST(ToolLayout, PartsAreAsLargeAsTheyNeed) {
         ToolText text;
         ToolContent content;
         int width, height;
-    } sizes[] = {
-        {ToolText::none, pictured, 24, 24},
-        {ToolText::none, text_only, 38, 24},
-        {ToolText::none, split_one, 36, 24},
-        {ToolText::beside, pictured, 58, 24},
-        {ToolText::beside, bare, 24, 24},
-        {ToolText::beside, split_one, 70, 24},
-        {ToolText::below, pictured, 38, 42},
-        {ToolText::below, text_only, 38, 42},
-        {ToolText::below, bare, 24, 24},
-        {ToolText::none, label_one, 38, 24},
-        {ToolText::none, {window, false, 0, 50, 9}, 50, 9},
-    };
+    } sizes[] = {{ToolText::none, pictured, 24, 24},
+                 {ToolText::none, text_only, 38, 24},
+                 {ToolText::none, split_one, 36, 24},
+                 {ToolText::beside, pictured, 58, 24},
+                 {ToolText::beside, bare, 24, 24},
+                 {ToolText::beside, split_one, 70, 24},
+                 {ToolText::below, pictured, 38, 42},
+                 {ToolText::below, text_only, 38, 42},
+                 {ToolText::below, bare, 24, 24},
+                 {ToolText::none, label_one, 38, 24},
+                 {ToolText::none, {window, false, 0, 50, 9}, 50, 9}};
     for (const auto& s : sizes) {
         look.text = s.text;
         EXPECT_EQ(tool_size(s.content, look), (ToolSize{s.width, s.height})) << int(s.text) << s.width;
@@ -168,27 +165,12 @@ std::string described(const ToolBarModel& bar) {
 
 TEST(ToolBarModel, IsDescribedByScripts) {
     ToolBarModel bar;
-    for (const char* line : {":ITEM=100,2, Save as ,Writes, and closes",
-                             ":SEPARATOR",
-                             ":CHECK=101",
-                             ":RADIO=1",
-                             ":RADIO=2",
-                             ":LABEL= Zoom, in percent ",
-                             ":RADIO=3",
-                             ":STRETCH",
-                             ":WINDOW=7",
-                             ":DROPDOWN=5,0,View",
-                             ":MENU=105,Chart",
-                             ":MENU",
-                             ":SPLIT=6",
-                             ":CHECKED=1",
-                             ":CHECKED=2",
-                             ":CHECKED=3",
-                             ":DISABLED=100",
-                             ":TEXT=BELOW",
-                             ":WRAP=1",
-                             ":UPRIGHT=Y",
-                             ":DRAG=1"})
+    bar.load_line(":ITEM=100,2, Save as ,Writes, and closes");
+    for (const char* line :
+         {":SEPARATOR",    ":CHECK=101",  ":RADIO=1",   ":RADIO=2",           ":LABEL= Zoom, in percent ",
+          ":RADIO=3",      ":STRETCH",    ":WINDOW=7",  ":DROPDOWN=5,0,View", ":MENU=105,Chart",
+          ":MENU",         ":SPLIT=6",    ":CHECKED=1", ":CHECKED=2",         ":CHECKED=3",
+          ":DISABLED=100", ":TEXT=BELOW", ":WRAP=1",    ":UPRIGHT=Y",         ":DRAG=1"})
         bar.load_line(line);
     EXPECT_EQ(described(bar), "u100- _ c101 r1 r2+ l r3+ t w7 d5 s6 ");
     EXPECT_TRUE(bar.item(0).picture == 2 && bar.item(0).text == "Save as" && bar.item(0).tip == "Writes, and closes");
@@ -197,6 +179,7 @@ TEST(ToolBarModel, IsDescribedByScripts) {
     EXPECT_TRUE(bar.item(9).menu[0].id == 105 && bar.item(9).menu[0].text == "Chart" && bar.item(9).menu[1].id == 0);
     EXPECT_TRUE(bar.text == ToolText::below && bar.wraps && bar.upright && bar.movable);
     EXPECT_NE(bar.item(4).group, bar.item(6).group);
+    EXPECT_TRUE(bar.load_line(":TEXT=NONE") && bar.text == ToolText::none);
 }
 
 TEST(ToolBarModel, IgnoresWhatIsWrong) {
@@ -207,8 +190,9 @@ TEST(ToolBarModel, IgnoresWhatIsWrong) {
         EXPECT_FALSE(bar.load_line(line)) << line;
     EXPECT_EQ(bar.count(), 0);
     bar.load_line(":ITEM=65534,99999,x");
-    bar.load_line(":ITEM=1,-7,x");
+    bar.load_line(":ITEM=1,-7," + std::string(5000, 'x'));
     EXPECT_TRUE(bar.item(0).picture == -1 && bar.item(1).picture == -1);
+    EXPECT_EQ(bar.item(1).text.size(), std::size_t(longest_tool_text));
     bar.load_line(":MENU=5,on a push item");
     EXPECT_TRUE(bar.item(1).menu.empty());
     for (int i = 0; i < most_tools + 5; ++i)

@@ -1,4 +1,5 @@
 #include "gauge_scenes.h"
+#include "test_random.h"
 #include "widgets/painting/shape_raster.h"
 #include "widgets/gauge/views/view_parts.h"
 
@@ -6,9 +7,6 @@
 
 #include <cctype>
 #include <cmath>
-#include <iterator>
-#include <map>
-#include <random>
 
 using namespace wnt;
 
@@ -42,16 +40,13 @@ TEST(GaugeViews, StayInsideTheirStageAndTextsApartAtEverySize) {
                 SCOPED_TRACE(testing::Message() << "type " << type << " script " << &script - odd_scripts << " size "
                                                 << width << "x" << height);
                 const Scene scene(model, width, height);
-                std::vector<BoxF> texts;
                 for (const Picture* picture : {&scene.face, &scene.value})
-                    for (const Picture::Figure& f : picture->figures()) {
+                    for (const Picture::Figure& f : picture->figures())
                         EXPECT_TRUE(is_inside(f.bounds, width, height)) << f.bounds.left << "," << f.bounds.bottom;
-                        if (f.kind != Picture::Kind::text)
-                            continue;
-                        for (const BoxF& other : texts)
-                            EXPECT_TRUE(apart(other, f.bounds)) << f.bounds.left << "," << f.bounds.bottom;
-                        texts.push_back(f.bounds);
-                    }
+                const auto all = writings_of(scene);
+                for (std::size_t i = 0; i < all.size(); ++i)
+                    for (std::size_t k = 0; k < i; ++k)
+                        EXPECT_TRUE(apart(all[k].bounds, all[i].bounds)) << all[k].text << all[i].text;
             }
         }
 }
@@ -82,14 +77,11 @@ TEST(GaugeViews, ShowTheUnitAtEverySizeAndRange) {
                 model.set_titles("", unit.c_str());
                 const Scene scene(model, width, height);
                 std::string shown;
-                for (const Picture* picture : {&scene.face, &scene.value})
-                    for (const Picture::Figure& f : picture->figures())
-                        if (std::string text(f.kind == Picture::Kind::text ? picture->characters(f) : "");
-                            !text.empty()) {
-                            text.erase(0, text[0] == ' ');
-                            if (unit.starts_with(text.substr(0, text.find(".."))))
-                                shown = text;
-                        }
+                for (Writing& w : writings_of(scene)) {
+                    w.text.erase(0, w.text.starts_with(' '));
+                    if (!w.text.empty() && unit.starts_with(w.text.substr(0, w.text.find(".."))))
+                        shown = w.text;
+                }
                 EXPECT_NE(shown, "") << type << range.size() << " " << width << "x" << height;
                 if (width >= 320 && height >= 240)
                     EXPECT_TRUE(shown == unit || type == gauge_digital)
@@ -101,13 +93,15 @@ TEST(GaugeViews, ShowTheUnitAtEverySizeAndRange) {
 }
 
 TEST(GaugeViews, ShowTheTitleAtEverySize) {
-    const std::pair<int, int> sizes[] = {{24, 20}, {30, 40}, {200, 30}, {30, 200}, {120, 48}};
+    const std::pair<int, int> sizes[] = {{24, 20}, {30, 40}, {200, 30}, {30, 200}, {120, 48}, {90, 90}, {300, 300}};
+    const Lines wide_labels = {":BARTITLE=1", ":MINVAL=-2147483648", ":MAXVAL=2147483647", ":SCALES=8"};
     for (int type = 0; type < gauge_type_count; ++type)
-        for (const auto& [width, height] : sizes) {
-            GaugeModel model = model_of(type, {});
-            model.set_titles("T", "");
-            EXPECT_TRUE(writes({model, width, height}, "T")) << type << " " << width << "x" << height;
-        }
+        for (const Lines& lines : {Lines(), wide_labels}) // on its face a dial has no room between them
+            for (const auto& [width, height] : sizes) {
+                GaugeModel model = model_of(type, lines);
+                model.set_titles("T", "");
+                EXPECT_TRUE(writes({model, width, height}, "T")) << type << " " << width << "x" << height;
+            }
 }
 
 TEST(GaugeViews, ZonesAndValueStandWhereTheScaleSays) {
@@ -132,34 +126,22 @@ TEST(GaugeViews, ZonesAndValueStandWhereTheScaleSays) {
             } else if (type == gauge_digital) {
                 EXPECT_FALSE(shown.empty());
             } else {
-                for (const auto& f : scene.face.figures())
-                    for (std::uint32_t i = 0; f.colour == colour && f.kind == Picture::Kind::polygon && i < f.count;
-                         ++i) {
-                        EXPECT_LE(angle_of(scene.face.points(f)[i]), angle_at(from) + 0.1f);
-                        EXPECT_GE(angle_of(scene.face.points(f)[i]), angle_at(to) - 0.1f);
-                        const PointF p = scene.face.points(f)[i];
-                        if (const float reach = std::hypot(p.x - 120, p.y - 120) / 111.8f; type == gauge_analog)
-                            EXPECT_TRUE(reach > 0.79f && reach < 0.89f) << reach; // between ticks and rim
-                    }
-                const Colour pointer = type == gauge_analog ? blend(colour, black, 150) : colour;
-                PointF sum = {0, 0};
-                float count = 0;
-                for (const auto& f : scene.value.figures())
-                    for (std::uint32_t i = 0; f.colour == pointer && f.kind == Picture::Kind::polygon && i < f.count;
-                         ++i) {
-                        sum = {sum.x + scene.value.points(f)[i].x, sum.y + scene.value.points(f)[i].y};
-                        ++count;
-                    }
-                EXPECT_NEAR(angle_of({sum.x / count, sum.y / count}), angle_at(share * 200), 0.5f);
+                for (const PointF p : corners_of(scene.face, colour)) {
+                    EXPECT_LE(angle_of(p), angle_at(from) + 0.1f);
+                    EXPECT_GE(angle_of(p), angle_at(to) - 0.1f);
+                    if (type == gauge_analog)
+                        EXPECT_NEAR(reach(p) / 111.8f, 0.84f, 0.05f); // between ticks and rim
+                }
+                const auto pointer = corners_of(scene.value, type == gauge_analog ? blend(colour, black, 150) : colour);
+                PointF aside = {0, 0};
+                for (const PointF p : pointer)
+                    aside = {aside.x + (p.x - middle.x) / pointer.size(), aside.y + (p.y - middle.y) / pointer.size()};
+                EXPECT_NEAR(angle_of({middle.x + aside.x, middle.y + aside.y}), angle_at(share * 200), 0.5f);
             }
         }
 }
 
-TEST(GaugeViews, PreviousValueAndLightAreOnTheirSides) {
-    GaugeModel model = zoned(gauge_analog, 40);
-    model.set_current_value(150);
-    const Scene scene(model, stage, stage);
-    EXPECT_NEAR(angle_of(extent(scene.value, 0x606060).centre()), angle_at(40), 2);
+TEST(GaugeViews, TheNeedleIsBrightWhereTheLightComesFrom) {
     for (const int value : {40, 150}) {
         const Scene needle(zoned(gauge_analog, value), stage, stage);
         std::vector<std::pair<float, int>> halves; // how far to the top left, and how bright
@@ -172,22 +154,6 @@ TEST(GaugeViews, PreviousValueAndLightAreOnTheirSides) {
             }
         ASSERT_EQ(halves.size(), 2u);
         EXPECT_EQ(halves[0].first > halves[1].first, halves[0].second > halves[1].second) << value;
-    }
-    // Of a ring's parts: outwards the bright ones at the top left, inwards the dark ones.
-    for (const int type : {gauge_analog, gauge_turn_knob}) {
-        std::map<float, std::pair<int, int>>
-            rings; // by the parts' distance: brightness at the top left, at the bottom right
-        const Scene lit(zoned(type, 40), stage, stage);
-        for (const auto& f : lit.face.figures()) {
-            const PointF c = f.bounds.centre();
-            const float distance = std::round(std::hypot(c.x - 120, c.y - 120) / 4);
-            if (f.kind == Picture::Kind::polygon && f.count < 30 && std::abs(angle_of(c) - 135) < 8)
-                rings[distance].first = std::max(rings[distance].first, brightness(f.colour));
-            if (f.kind == Picture::Kind::polygon && f.count < 30 && std::abs(angle_of(c) + 45) < 8)
-                rings[distance].second = std::max(rings[distance].second, brightness(f.colour));
-        }
-        const auto& outer = std::prev(rings.end())->second;
-        EXPECT_TRUE(type == gauge_analog ? outer.first > outer.second : rings.size() > 1) << type;
     }
 }
 
@@ -205,10 +171,12 @@ TEST(GaugeViews, DigitsHaveTheirSegments) {
         std::string text = std::to_string(value);
         text.insert(0, 11 - text.size(), ' ');
         ASSERT_EQ(segments.size(), 7 * text.size());
+        std::vector<BoxF> cells;
         for (std::size_t digit = 0; digit < text.size(); ++digit) {
             BoxF cell = segments[7 * digit].bounds;
             for (std::size_t i = 0; i < 7; ++i)
                 cell = hull(cell, segments[7 * digit + i].bounds);
+            cells.push_back(cell);
             std::string shown(9, ' ');
             for (std::size_t i = 0; i < 7; ++i) {
                 const auto& f = segments[7 * digit + i];
@@ -224,6 +192,10 @@ TEST(GaugeViews, DigitsHaveTheirSegments) {
                                                               : drawn_digits[text[digit] - '0'];
             EXPECT_EQ(shown, expected) << text[digit];
         }
+        const float pitch = (cells.back().left - cells[0].left) / static_cast<float>(cells.size() - 1);
+        for (std::size_t digit = 0; digit < cells.size(); ++digit)
+            EXPECT_NEAR(cells[digit].left, cells[0].left + pitch * static_cast<float>(digit), 0.1f);
+        EXPECT_NEAR(cells.front().left + cells.back().right, 800, 4) << "in the middle";
     }
 }
 
@@ -275,38 +247,32 @@ TEST(GaugeViews, TextsStandAtTheirPlaces) {
         const Scene scene(zoned(type, 130, {":NOTITLE=0", ":TITLE=Flow", ":UNITTITLE=bar", ":CLRTEXT=MAGENTA"}), stage,
                           stage);
         const BoxF strip = hull(hull(extent(scene.face, blue), extent(scene.face, green)), extent(scene.face, red));
-        const Picture::Figure* number = nullptr;
-        for (const Picture* picture : {&scene.face, &scene.value})
-            for (const auto& f : picture->figures()) {
-                if (f.kind != Picture::Kind::text)
-                    continue;
-                const std::string text(picture->characters(f));
-                const PointF at = f.bounds.centre();
-                SCOPED_TRACE(testing::Message() << type << text);
-                if (text == "Flow") {
-                    EXPECT_TRUE(std::abs(at.x - 120) < 2 && at.y > 210 && f.colour == 0xFF00FF);
-                } else if (text == "130") {
-                    EXPECT_EQ(f.colour, red); // the value's zone
-                    number = &f;
-                } else if (text == " bar" && number) {
-                    EXPECT_NEAR(f.bounds.left, number->bounds.right - 2, 2);
-                    EXPECT_FALSE(alike(f.colour, ground_for(red)));
-                } else if (picture == &scene.face && std::isdigit(static_cast<unsigned char>(text[0]))) {
-                    const float value = std::stof(text);
-                    EXPECT_EQ(f.colour, 0xFF00FFu);
-                    if (type == gauge_percent_bar)
-                        EXPECT_NEAR(at.x, strip.left + strip.width() * value / 200, 1.5f);
-                    else if (type == gauge_analog || type == gauge_turn_knob)
-                        EXPECT_NEAR(std::remainder(angle_of({at.x, at.y + (type == gauge_analog ? 12.f : 11.f)}) -
-                                                       angle_at(value),
-                                                   360.f),
-                                    0, 8);
-                    else
-                        EXPECT_NEAR(at.y, strip.bottom + strip.height() * value / 200, 3);
-                }
+        const Writing* number = nullptr;
+        const auto all = writings_of(scene);
+        for (const Writing& w : all) {
+            const PointF at = w.bounds.centre();
+            SCOPED_TRACE(testing::Message() << type << w.text);
+            if (w.text == "Flow") {
+                EXPECT_TRUE(std::abs(at.x - 120) < 2 && at.y > 210 && w.colour == 0xFF00FF);
+            } else if (w.text == "130") {
+                EXPECT_EQ(w.colour, red); // the value's zone
+                number = &w;
+            } else if (w.text == " bar" && number) {
+                EXPECT_NEAR(w.bounds.left, number->bounds.right - 2, 2);
+                EXPECT_FALSE(alike(w.colour, ground_for(red)));
+            } else if (w.on_face && std::isdigit(static_cast<unsigned char>(w.text[0]))) {
+                const float value = std::stof(w.text);
+                const PointF raised = {at.x, at.y + (type == gauge_analog ? 12.f : 11.f)};
+                EXPECT_EQ(w.colour, 0xFF00FFu);
+                if (type == gauge_percent_bar)
+                    EXPECT_NEAR(at.x, strip.left + strip.width() * value / 200, 1.5f);
+                else if (type == gauge_analog || type == gauge_turn_knob)
+                    EXPECT_NEAR(std::remainder(angle_of(raised) - angle_at(value), 360.f), 0, 8);
+                else
+                    EXPECT_NEAR(at.y, strip.bottom + strip.height() * value / 200, 3);
             }
+        }
     }
-    EXPECT_TRUE(writes({zoned(gauge_percent_bar, 130), stage, stage}, " 65 %"));
 }
 
 TEST(GaugeViews, PeakLineKeepsItsCourseColumnByColumn) {
@@ -332,17 +298,8 @@ TEST(GaugeViews, PeakLineKeepsItsCourseColumnByColumn) {
     EXPECT_NEAR(extent(scene.value, black).top, plot.bottom + plot.height() * highest / 200, 6);
 }
 
-TEST(GaugeViews, ShowZonesOfTheGroundsColour) {
-    for (int type = 0; type < gauge_type_count; ++type) {
-        const GaugeModel model =
-            model_of(type, {":CLEARMARKS", ":SETMARK=20,WHITE", ":SETMARK=80,DARKGREEN", ":SETMARK=90,RED"});
-        const Scene scene(model, 200, 200);
-        const auto edged = [](const auto& f) { return f.colour == edge_of(white); };
-        const auto& part = type == gauge_digital ? scene.value : scene.face; // the lamps
-        EXPECT_TRUE(std::ranges::any_of(part.figures(), edged)) << type;
-    }
-    // What is wide enough keeps the zone's colour within its edge: lamps on the ground of a dark zone's digits,
-    // columns.
+// What is wide enough keeps the zone's colour within its edge: lamps on the ground of a dark zone's digits, columns.
+TEST(GaugeViews, ValuesInAZoneOfTheGroundsColourAreOutlined) {
     for (const int type : {gauge_digital, gauge_peak_line}) {
         GaugeModel model = model_of(type, {":CLEARMARKS", ":SETMARK=20,WHITE", ":SETMARK=90,RED", ":SETMARK=95,RED"});
         model.set_current_value(10);
@@ -351,6 +308,8 @@ TEST(GaugeViews, ShowZonesOfTheGroundsColour) {
         EXPECT_TRUE(std::ranges::any_of(scene.value.figures(), [](const auto& f) {
             return f.kind == Picture::Kind::box && f.colour == white && !f.bounds.empty();
         })) << type;
+        EXPECT_TRUE(
+            std::ranges::any_of(scene.value.figures(), [](const auto& f) { return f.colour == edge_of(white); }));
     }
 }
 
@@ -397,11 +356,11 @@ std::vector<std::uint32_t> drawn(const std::vector<PointF>& shape, int size, int
 
 TEST(ShapeRaster, CoversTheInsideAndTheOutlineAndAveragesThem) {
     constexpr int size = 40;
-    std::mt19937 random(5);
+    Random random(5);
     for (int round = 0; round < 300; ++round) {
-        std::vector<PointF> shape(3 + random() % 5);
+        std::vector<PointF> shape(3 + random.upto(4));
         for (PointF& p : shape)
-            p = {static_cast<float>(random() % 50) - 5, static_cast<float>(random() % 50) - 5};
+            p = {random.upto(49) - 5.f, random.upto(49) - 5.f};
         const auto whole = drawn(shape, size, 1, size);
         for (int y = 0; y < size; ++y)
             for (int x = 0; x < size; ++x) {
@@ -425,8 +384,11 @@ TEST(ShapeRaster, CoversTheInsideAndTheOutlineAndAveragesThem) {
         for (const int scale : {2, 4})
             ASSERT_EQ(drawn(shape, size, scale, size), drawn(shape, size, scale, 13)) << round;
     }
-    // The left half of pixel (1, 1), to the middle of the outline.
-    EXPECT_EQ(drawn({{1, 1}, {1.25f, 1}, {1.25f, 1.75f}, {1, 1.75f}}, 3, 4, 3)[4], 0x902030u);
+    for (const int scale : {2, 4}) { // of pixel (1, 1) the left half, and the lower one
+        const float subpixel = 1.f / static_cast<float>(scale), half = 1.5f - subpixel, whole = 2 - subpixel;
+        EXPECT_EQ(drawn({{1, 1}, {half, 1}, {half, whole}, {1, whole}}, 3, scale, 3)[4], 0x902030u) << scale;
+        EXPECT_EQ(drawn({{1, 1}, {whole, 1}, {whole, half}, {1, half}}, 3, scale, 3)[4], 0x902030u) << scale;
+    }
 }
 
 } // namespace

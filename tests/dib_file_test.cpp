@@ -7,11 +7,11 @@
 #include <chrono>
 #include <cstdio>
 #include <cstring>
-#include <random>
 
 #include "bitmap_files.h"
 #include "pixels.h"
 #include "temporary_file.h"
+#include "test_random.h"
 
 namespace {
 
@@ -82,21 +82,16 @@ TEST(Bitmaps, ShowAndSaveEveryKindOfFile) {
 }
 
 TEST(DibFile, IsReadFromWhereAFileStands) {
-    const BitmapFile file{24, 5, 3};
-    Bytes bytes(77, 0xEE);
-    const Bytes picture = file.bytes();
-    bytes.insert(bytes.end(), picture.begin(), picture.end());
+    Bytes bytes = BitmapFile{24, 5, 3}.bytes();
+    const auto pixels = bytes.begin() + 54;
+    const Bytes stored(pixels, pixels + 5 * 3 * 3);
+    bytes.insert(bytes.begin(), 77, 0xEE);
     const TemporaryFile disk(bytes);
-    const HANDLE open = ::CreateFileA(disk.name(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-    ASSERT_EQ(::SetFilePointer(open, 77, nullptr, FILE_BEGIN), 77u);
+    CFile file(disk.name(), CFile::modeRead);
+    file.Seek(77, CFile::begin);
     CDibFile dib;
-    EXPECT_EQ(dib.StreamIn(open), 1);
-    ::CloseHandle(open);
-    const TemporaryFile whole(picture);
-    CDibFile expected;
-    ASSERT_EQ(expected.Load(whole.name()), 1);
-    const std::size_t count = 5 * 3 * 3;
-    EXPECT_EQ(bits_of(dib, count), bits_of(expected, count));
+    ASSERT_EQ(dib.StreamIn(file), 1);
+    EXPECT_EQ(bits_of(dib, stored.size()), stored);
 }
 
 TEST(DibFile, TellsWhatFailed) {
@@ -290,12 +285,12 @@ TEST_F(BitmapFaults, DoNoHarm) {
     const auto start = std::chrono::steady_clock::now();
     const int objects = live_gdi_objects();
     try_broken_bitmap_files([this](const Bytes& bytes) { try_file(bytes); });
-    std::mt19937 random(7);
+    Random random(7);
     while (files < most_files && std::chrono::steady_clock::now() - start < most_time) {
-        Bytes bytes = files_to_break[random() % std::size(files_to_break)].bytes();
-        for (unsigned left = 1 + random() % 4; left > 0; --left) {
-            std::uint8_t& byte = bytes[2 + random() % 52];
-            byte = static_cast<std::uint8_t>(random() % 3 == 0 ? random() : byte ^ 1U << random() % 8);
+        Bytes bytes = random.of(files_to_break).bytes();
+        for (int left = 1 + random.upto(3); left > 0; --left) {
+            std::uint8_t& byte = bytes[2 + random.upto(51)];
+            byte = static_cast<std::uint8_t>(random.one_in(3) ? random.upto(255) : byte ^ 1 << random.upto(7));
         }
         try_file(bytes);
     }

@@ -4,7 +4,9 @@
 #include "even_meter.h"
 #include "widgets/gauge/views/view_parts.h"
 
+#include <algorithm>
 #include <cmath>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -22,12 +24,22 @@ inline GaugeModel model_of(int type, const Lines& lines = {}) {
     return model;
 }
 
-inline bool writes(const Scene& scene, std::string_view text) {
+struct Writing : Picture::Figure {
+    std::string text;
+    bool on_face;
+};
+
+inline std::vector<Writing> writings_of(const Scene& scene) {
+    std::vector<Writing> all;
     for (const Picture* picture : {&scene.face, &scene.value})
         for (const Picture::Figure& f : picture->figures())
-            if (f.kind == Picture::Kind::text && picture->characters(f).find(text) != std::string::npos)
-                return true;
-    return false;
+            if (f.kind == Picture::Kind::text)
+                all.push_back({f, std::string(picture->characters(f)), picture == &scene.face});
+    return all;
+}
+
+inline bool writes(const Scene& scene, std::string_view text) {
+    return std::ranges::any_of(writings_of(scene), [&](const Writing& w) { return w.text.find(text) != w.text.npos; });
 }
 
 inline constexpr Colour blue = 0xFF0000, green = 0x00FF00, red = 0x0000FF;
@@ -50,6 +62,20 @@ inline BoxF extent(const Picture& picture, Colour colour) {
         if (f.kind != Picture::Kind::text && f.colour == colour && !f.bounds.empty())
             all = hull(all, f.bounds);
     return all;
+}
+
+// The corners of all polygons of a colour.
+inline std::vector<PointF> corners_of(const Picture& picture, Colour colour) {
+    std::vector<PointF> all;
+    for (const auto& f : picture.figures())
+        if (f.kind == Picture::Kind::polygon && f.colour == colour)
+            all.insert(all.end(), picture.points(f), picture.points(f) + f.count);
+    return all;
+}
+
+// How far from the middle.
+inline float reach(PointF p) {
+    return std::hypot(p.x - middle.x, p.y - middle.y);
 }
 
 // Degrees counter-clockwise from +x, from -90 to 270.

@@ -10,36 +10,31 @@ namespace {
 struct Kind {
     const char* name;
     std::function<std::unique_ptr<CWnd>()> make;
-    int looks = 1; // of the widget, which share its lives and repaints
-    std::function<void(CWnd&)> prepare = [](CWnd&) {};
+    std::function<void(CWnd&)> prepare;
+    int looks; // of the widget, which share its lives and repaints
 };
 
-Kind gauge(const char* type) {
-    return {type, [] { return std::make_unique<CWntGauge>(); }, 6,
-            [type](CWnd& widget) {
-                auto& shown = static_cast<CWntGauge&>(widget);
-                shown.LoadLine((std::string(":TYPE=") + type).c_str(), 0);
-                shown.LoadLine("", 2);
-                for (int value = 0; value < 3; ++value)
-                    shown.SetCurVal(value);
-            }};
+template <class Widget>
+Kind kind(
+    const char* name, std::function<void(Widget&)> prepare = [](Widget&) {}, int looks = 1) {
+    return {name, [] { return std::make_unique<Widget>(); },
+            [prepare](CWnd& widget) { prepare(static_cast<Widget&>(widget)); }, looks};
 }
 
-Kind axis(const char* name, int type) {
-    return {name, [] { return std::make_unique<CWntAxis>(); }, 3,
-            [type](CWnd& widget) {
-                static CString texts[2] = {"one", "two"};
-                auto& shown = static_cast<CWntAxis&>(widget);
-                shown.SetFlags(2, 100, type);
-                if (type == 1)
-                    shown.SetTexts(2, texts);
-                if (type == 2)
-                    shown.SetRange(1'000'000'000LL, 1'010'000'000LL);
-            }};
+void prepare_gauge(CWntGauge& gauge, const char* type) {
+    gauge.LoadLine((std::string(":TYPE=") + type).c_str(), 0);
+    gauge.LoadLine("", 2);
+    for (int value = 0; value < 3; ++value)
+        gauge.SetCurVal(value);
 }
 
-template <class Widget> Kind kind(const char* name) {
-    return {name, [] { return std::make_unique<Widget>(); }};
+void prepare_axis(CWntAxis& axis, int type) {
+    static CString texts[2] = {"one", "two"};
+    axis.SetFlags(2, 100, type);
+    if (type == 1)
+        axis.SetTexts(2, texts);
+    if (type == 2)
+        axis.SetRange(1'000'000'000LL, 1'010'000'000LL);
 }
 
 CWnd* plain_child(CWnd& parent) {
@@ -47,112 +42,80 @@ CWnd* plain_child(CWnd& parent) {
                                             nullptr, nullptr, nullptr));
 }
 
-Kind sash() {
-    Kind made = kind<CWntSash>("sash");
-    made.prepare = [](CWnd& widget) {
-        auto& shown = static_cast<CWntSash&>(widget);
-        CWnd* first = plain_child(widget);
-        shown.SetPanes(first, plain_child(widget));
-        shown.SetLiveDrag(0);
-        for (const UINT message : {WM_LBUTTONDOWN, WM_MOUSEMOVE, WM_LBUTTONUP})
-            widget.SendMessage(message, 0, message == WM_LBUTTONDOWN ? MAKELPARAM(30, 5) : MAKELPARAM(20, 5));
-    };
-    return made;
+void prepare_sash(CWntSash& sash) {
+    CWnd* first = plain_child(sash);
+    sash.SetPanes(first, plain_child(sash));
+    sash.SetLiveDrag(0);
+    for (const UINT message : {WM_LBUTTONDOWN, WM_MOUSEMOVE, WM_LBUTTONUP})
+        sash.SendMessage(message, 0, message == WM_LBUTTONDOWN ? MAKELPARAM(30, 5) : MAKELPARAM(20, 5));
 }
 
-Kind frame() {
-    Kind made = kind<CWntFrame>("frame");
-    made.prepare = [](CWnd& widget) {
-        auto& shown = static_cast<CWntFrame&>(widget);
-        shown.SetTitle("Boiler");
-        shown.SetAnchor(plain_child(widget), 0, 0, 1, 1);
-    };
-    return made;
+void prepare_frame(CWntFrame& frame) {
+    frame.SetTitle("Boiler");
+    frame.SetAnchor(plain_child(frame), 0, 0, 1, 1);
 }
 
-Kind tabs() {
-    Kind made = kind<CWntTabs>("tabs");
-    made.prepare = [](CWnd& widget) {
-        auto& shown = static_cast<CWntTabs&>(widget);
-        for (const int side : {CWntTabs::at_left, CWntTabs::at_top}) {
-            shown.AddTab("&one", plain_child(widget));
-            shown.SetTabIcon(shown.GetTabCount() - 1, ::LoadIconA(nullptr, IDI_WARNING));
-            shown.SetTabTip(shown.GetTabCount() - 1, "a tip");
-            shown.SetSide(side);
-            full_repaint(widget);
-        }
-        shown.EnableTab(1, 0);
-    };
-    return made;
+void prepare_tabs(CWntTabs& tabs) {
+    for (const int side : {CWntTabs::at_left, CWntTabs::at_top}) {
+        tabs.AddTab("&one", plain_child(tabs));
+        tabs.SetTabIcon(tabs.GetTabCount() - 1, ::LoadIconA(nullptr, IDI_WARNING));
+        tabs.SetTabTip(tabs.GetTabCount() - 1, "a tip");
+        tabs.SetSide(side);
+        full_repaint(tabs);
+    }
+    tabs.EnableTab(1, 0);
 }
 
-Kind tool_bar() {
-    Kind made = kind<CWntToolBar>("toolbar");
-    made.looks = 2;
-    made.prepare = [](CWnd& widget) {
-        auto& shown = static_cast<CWntToolBar&>(widget);
-        CWntToolItem item(100, "Save");
-        item.icon = ::LoadIconA(nullptr, IDI_WARNING);
-        shown.AddItem(item);
-        item = CWntToolItem(101, "In", WNT_TOOL_WINDOW);
-        item.window = plain_child(widget);
-        shown.AddItem(item);
-        shown.EnableItem(100, 0);
-        full_repaint(widget);
-        shown.SetTextPlace(WNT_TOOL_TEXT_BESIDE);
-    };
-    return made;
+void prepare_tool_bar(CWntToolBar& bar) {
+    CWntToolItem item(100, "Save");
+    item.icon = ::LoadIconA(nullptr, IDI_WARNING);
+    bar.AddItem(item);
+    item = CWntToolItem(101, "In", WNT_TOOL_WINDOW);
+    item.window = plain_child(bar);
+    bar.AddItem(item);
+    bar.EnableItem(100, 0);
+    full_repaint(bar);
+    bar.SetTextPlace(WNT_TOOL_TEXT_BESIDE);
 }
 
-Kind with_tip() {
-    Kind made = kind<CWntToolBar>("tip");
-    made.looks = 2;
-    made.prepare = [](CWnd& widget) {
-        CToolTipCtrlEx* tips = static_cast<CWntToolBar&>(widget).GetTips();
-        tips->AddTip(&widget, {"Title", "text", ::LoadIconA(nullptr, IDI_WARNING), RGB(1, 2, 3)});
-        tips->ShowTip(&widget);
-        tips->TrackTip({"", "tracked"}, CPoint(10, 10));
-    };
-    return made;
+void show_tip(CWntToolBar& bar) {
+    CToolTipCtrlEx* tips = bar.GetTips();
+    tips->AddTip(&bar, {"Title", "text", ::LoadIconA(nullptr, IDI_WARNING), RGB(1, 2, 3)});
+    tips->ShowTip(&bar);
+    tips->TrackTip({"", "tracked"}, CPoint(10, 10));
 }
 
-Kind chart() {
-    Kind made = kind<CWntPulse>("strip chart");
-    made.prepare = [](CWnd& widget) {
-        auto& shown = static_cast<CWntPulse&>(widget);
-        shown.SetTitle("Boiler");
-        const int curve = shown.AddCurve("Flow", RGB(200, 0, 0), 0, 10);
-        for (int i = 0; i < 100; ++i)
-            shown.AddSample(curve, i % 10, i * 10);
-        shown.SetCursor(0, 500);
-        shown.SendMessage(WM_TIMER, 1, 0);
-    };
-    return made;
+void prepare_chart(CWntPulse& chart) {
+    chart.SetTitle("Boiler");
+    const int curve = chart.AddCurve("Flow", RGB(200, 0, 0), 0, 10);
+    for (int i = 0; i < 100; ++i)
+        chart.AddSample(curve, i % 10, i * 10);
+    chart.SetCursor(0, 500);
+    chart.SendMessage(WM_TIMER, 1, 0);
 }
 
 std::vector<Kind> all_kinds() {
-    return {kind<CWntOut>("surface"),
-            kind<CWntButton>("button"),
-            gauge("PERCENTBAR"),
-            gauge("THERMOMETER"),
-            gauge("ANALOG"),
-            gauge("DIGITAL"),
-            gauge("PEAKLINE"),
-            gauge("TURNKNOB"),
-            axis("numeric axis", 0),
-            axis("text axis", 1),
-            axis("time axis", 2),
-            kind<CWntCalendar>("calendar"),
-            kind<CWntColorSel>("colour selector"),
-            kind<CWntTrace>("trace"),
-            sash(),
-            frame(),
-            chart(),
-            kind<CWntFrameEx>("folding frame"),
-            tabs(),
-            kind<CWntTipPage>("tip page"),
-            tool_bar(),
-            with_tip()};
+    std::vector<Kind> kinds = {kind<CWntOut>("surface"),
+                               kind<CWntButton>("button"),
+                               kind<CWntCalendar>("calendar"),
+                               kind<CWntColorSel>("colour selector"),
+                               kind<CWntTrace>("trace"),
+                               kind<CWntFrameEx>("folding frame"),
+                               kind<CWntTipPage>("tip page"),
+                               kind<CWntSash>("sash", prepare_sash),
+                               kind<CWntFrame>("frame", prepare_frame),
+                               kind<CWntPulse>("strip chart", prepare_chart),
+                               kind<CWntTabs>("tabs", prepare_tabs),
+                               kind<CWntToolBar>("toolbar", prepare_tool_bar, 2),
+                               kind<CWntToolBar>("tip", show_tip, 2)};
+    for (const char* type : {"PERCENTBAR", "THERMOMETER", "ANALOG", "DIGITAL", "PEAKLINE", "TURNKNOB"})
+        kinds.push_back(kind<CWntGauge>(
+            type, [type](CWntGauge& gauge) { prepare_gauge(gauge, type); }, 6));
+    const char* const axes[] = {"numeric axis", "text axis", "time axis"};
+    for (int type = 0; type < 3; ++type)
+        kinds.push_back(kind<CWntAxis>(
+            axes[type], [type](CWntAxis& axis) { prepare_axis(axis, type); }, 3));
+    return kinds;
 }
 
 class HandlesTest : public WidgetTest {

@@ -75,10 +75,6 @@ TEST_F(SurfaceTest, LinesAndBoxesCoverTheirPixels) {
 }
 
 TEST_F(SurfaceTest, LinesOfEveryStyleReachBothEnds) {
-    const auto dashes = [](HDC dc, int x1, int y1, int x2, int y2) { // without the last pixel
-        ::MoveToEx(dc, x1, y1, nullptr);
-        ::LineTo(dc, x2, y2);
-    };
     for (int style = 0; style < 8; ++style)
         for (int length = 0; length < 60; ++length) {
             Picture ours(70, 70), plain(70, 70);
@@ -86,7 +82,8 @@ TEST_F(SurfaceTest, LinesOfEveryStyleReachBothEnds) {
             paint(ours, [&](CWntOut& o) { o.linecolour(green, style), o.line(3, 5, end.x, end.y); });
             paint(plain, [&](CWntOut& o) {
                 o.linecolour(green, style);
-                dashes(o.dc, 3, 69 - 5, end.x, 69 - end.y);
+                ::MoveToEx(o.dc, 3, 69 - 5, nullptr);
+                ::LineTo(o.dc, end.x, 69 - end.y); // without the last pixel
                 ::SetPixelV(o.dc, end.x, 69 - end.y, green);
             });
             ASSERT_EQ(ours.values(), plain.values()) << "style " << style << ", length " << length;
@@ -179,17 +176,13 @@ TEST_F(SurfaceTest, FilledCirclesHaveAnOutlineOfOnePixel) {
     EXPECT_EQ(drawn(8, 7,
                     [](CWntOut& o) {
                         o.fillcolour(COLORREF{OPAQUE}, 0); // taken for the mix mode
+                        o.fillcircle(3, 3, 3, 3);
+                        EXPECT_EQ(::GetBkMode(o.dc), TRANSPARENT); // as it was before
                         o.fillcolour(green, 0);
                         o.fillcircle(3, 3, 3, 3);
                         EXPECT_EQ(::GetBkMode(o.dc), TRANSPARENT);
                     }),
               "..LLL...\n.LFFFL..\nLFFFFFL.\nLFFFFFL.\n.LFFFL..\n..LLL...\n........\n");
-    Picture picture(9, 9);
-    paint(picture, [](CWntOut& o) {
-        o.fillcolour(COLORREF{OPAQUE}, 0);
-        o.fillcircle(3, 3, 3, 3);
-        EXPECT_EQ(::GetBkMode(o.dc), TRANSPARENT); // as it was before
-    });
 }
 
 TEST_F(SurfaceTest, PiesRunCounterClockwise) {

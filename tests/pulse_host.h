@@ -76,6 +76,12 @@ protected:
     void mouse(UINT message, int x, int y, UINT keys = MK_LBUTTON) {
         chart_.SendMessage(message, keys, MAKELPARAM(x, y));
     }
+    static void drag(HWND window, int from, int to, int y) {
+        ::SendMessage(window, WM_MOUSEMOVE, 0, MAKELPARAM(from, y));
+        ::SendMessage(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(from, y));
+        ::SendMessage(window, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(to, y));
+        ::SendMessage(window, WM_LBUTTONUP, 0, MAKELPARAM(to, y));
+    }
     void key(UINT k) { chart_.SendMessage(WM_KEYDOWN, k, 0); }
 
     ChartHost host_;

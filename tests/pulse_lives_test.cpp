@@ -1,14 +1,15 @@
 #include "pulse_host.h"
 
+#include <atlexcept.h>
 #include <psapi.h>
 
 #include <gmock/gmock.h>
 
 #include <filesystem>
-#include <limits>
-#include <random>
+#include <climits>
 
 #include "temporary_file.h"
+#include "test_random.h"
 
 namespace {
 
@@ -128,10 +129,7 @@ TEST_F(PulseLives, MayBeDestroyedOnAnyNotification) {
             CRect size;
             ::GetClientRect(axis, &size);
             send(WM_COMMAND, WNT_PULSE_CMD_ZOOM, 0);
-            ::SendMessage(axis, WM_MOUSEMOVE, 0, MAKELPARAM(1, size.bottom - 5));
-            ::SendMessage(axis, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(1, size.bottom - 5));
-            ::SendMessage(axis, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(90, size.bottom - 5));
-            ::SendMessage(axis, WM_LBUTTONUP, 0, MAKELPARAM(90, size.bottom - 5));
+            drag(axis, 1, 90, size.bottom - 5);
             EXPECT_FALSE(::IsWindow(window));
         }
         send(WM_KEYDOWN, VK_PRIOR, 0);
@@ -145,89 +143,82 @@ TEST_F(PulseLives, MayBeDestroyedOnAnyNotification) {
 // A hundred samples a second; the picture follows every 1,080 seconds.
 TEST_F(PulseLives, AWeekOfLiveTimeGrowsNothing) {
     constexpr __int64 day = 8'640'000, tick = 108'000;
-    struct Held {
-        int objects, windows;
-        SIZE_T memory;
-    };
-    const auto held = [] {
-        PROCESS_MEMORY_COUNTERS memory = {};
-        ::K32GetProcessMemoryInfo(::GetCurrentProcess(), &memory, sizeof memory);
-        return Held{live_gdi_objects(), user_objects(), memory.PagefileUsage};
+    const auto memory = [] {
+        PROCESS_MEMORY_COUNTERS counters = {};
+        ::K32GetProcessMemoryInfo(::GetCurrentProcess(), &counters, sizeof counters);
+        return counters.PagefileUsage;
     };
     chart_.SetCapacity(100'000);
-    Held first = {};
+    Counts first;
+    SIZE_T first_memory = 0;
     for (__int64 time = 0; time < 7 * day; time += tick) {
         for (__int64 at = time; at < time + tick; ++at)
             chart_.AddSample(flow_, static_cast<double>(at % 977) / 10, at);
         show();
-        if (time == day)
-            first = held();
+        if (time == day) {
+            first = {};
+            first_memory = memory();
+        }
     }
-    const Held last = held();
     EXPECT_EQ(chart_.GetSampleCount(flow_), 100'000);
-    EXPECT_GT(first.objects, 0);
-    EXPECT_EQ(last.objects, first.objects);
-    EXPECT_EQ(last.windows, first.windows);
-    EXPECT_TRUE(first.memory > 0 && last.memory < first.memory + 1'000'000) << first.memory << ' ' << last.memory;
+    EXPECT_LE(first.grown(), 0);
+    EXPECT_LT(memory(), first_memory + 1'000'000);
 }
 
 TEST_F(PulseLives, HoldsAtAnyOperation) {
-    std::mt19937 random(17);
-    const auto some = [&](int most) { return static_cast<int>(random() % static_cast<unsigned>(most + 1)); };
-    const __int64 odd[] = {std::numeric_limits<__int64>::min(), -1, 0, std::numeric_limits<__int64>::max(), 1LL << 44};
+    Random random(17);
+    const auto some = [&](int most) { return random.upto(most); };
+    const __int64 odd[] = {LLONG_MIN, -1, 0, LLONG_MAX, 1LL << 44};
     __int64 time = 0;
-    const auto any_time = [&] { return some(4) ? time - some(100'000) : odd[some(4)]; };
+    const auto any_time = [&] { return some(4) ? time - some(100'000) : random.of(odd); };
     const UINT keys[] = {VK_LEFT, VK_RIGHT, VK_PRIOR, VK_NEXT, VK_HOME, VK_END, VK_SPACE, VK_ESCAPE};
-    for (int i = 0; i < 1000; ++i) {
-        switch (some(12)) {
-        case 0:
-            chart_.MoveWindow(0, 0, some(3) ? some(1600) : some(3), some(3) ? some(900) : some(3));
-            break;
-        case 1:
-            chart_.AddCurve("more", red, some(5) - 3, some(5));
-            break;
-        case 2:
-            if (some(20) == 0)
-                chart_.RemoveCurves();
-            chart_.ShowCurve(some(9), some(1));
-            break;
-        case 3:
-            chart_.SetSpan(any_time());
-            break;
-        case 4:
-            chart_.ShowTime(any_time(), any_time());
-            break;
-        case 5:
-            key(keys[some(7)]);
-            break;
-        case 6:
-            mouse(some(1) ? WM_LBUTTONDOWN : WM_LBUTTONUP, some(1600), some(900), static_cast<UINT>(some(15)));
-            mouse(WM_MOUSEMOVE, some(1600), some(900));
-            break;
-        case 7:
-            chart_.SetCursor(some(3) - 1, any_time());
-            break;
-        case 8:
-            chart_.SetFit(some(1));
-            chart_.SetCapacity(some(3) ? some(5000) : 1);
-            break;
-        case 9:
-            chart_.LoadLine(some(1) ? ":AXES=LEFT" : ":AXES=LEFT RIGHT BOTTOM", 0);
-            chart_.LoadLine("", 2);
-            break;
-        case 10:
-            chart_.SendMessage(WM_COMMAND, WNT_PULSE_CMD_LIVE + static_cast<UINT>(some(3)), 0);
-            break;
-        default:
+    const std::function<void()> calls[] = {
+        [&] { chart_.MoveWindow(0, 0, some(3) ? some(1600) : some(3), some(3) ? some(900) : some(3)); },
+        [&] { chart_.AddCurve("more", red, some(5) - 3, some(5)); },
+        [&] { some(60) ? void() : chart_.RemoveCurves(); },
+        [&] { chart_.ShowCurve(some(9), some(1)); },
+        [&] { chart_.SetSpan(any_time()); },
+        [&] { chart_.ShowTime(any_time(), any_time()); },
+        [&] { key(random.of(keys)); },
+        [&] { mouse(some(1) ? WM_LBUTTONDOWN : WM_LBUTTONUP, some(1600), some(900), static_cast<UINT>(some(15))); },
+        [&] { mouse(WM_MOUSEMOVE, some(1600), some(900)); },
+        [&] { chart_.SetCursor(some(3) - 1, any_time()); },
+        [&] { chart_.SetFit(some(1)); },
+        [&] { chart_.SetCapacity(some(3) ? some(5000) : 1); },
+        [&] { chart_.LoadLine(some(1) ? ":AXES=LEFT" : ":AXES=LEFT RIGHT BOTTOM", 0); },
+        [&] { chart_.LoadLine("", 2); },
+        [&] { chart_.SendMessage(WM_COMMAND, WNT_PULSE_CMD_LIVE + static_cast<UINT>(some(3)), 0); },
+        [&] {
             for (int k = some(300); k > 0; --k) {
                 time += some(50) ? some(30) : some(100'000);
                 chart_.AddSample(some(10), some(40) ? some(1000) / 7.0 - 20 : std::nan(""), time);
             }
-            show();
-        }
-    }
+        },
+        [&] { show(); }};
+    for (int i = 0; i < 1600; ++i)
+        random.of(calls)();
     show();
     EXPECT_TRUE(::IsWindow(chart_.m_hWnd));
+}
+
+// The result code of the framework's exception, which is what errors are through the DLL.
+template <class Call> SCODE code_of(Call call) {
+    try {
+        call();
+    } catch (COleException* error) {
+        const SCODE code = error->m_sc;
+        error->Delete();
+        return code;
+    }
+    return S_OK;
+}
+
+TEST(PulseLibrary, RaisesTheFrameworksException) {
+    EXPECT_EQ(code_of([] { CWntTime(1969, 12, 31, 0, 0, 0, 0); }), E_FAIL);
+    const TemporaryFile disk;
+    CWntPulseFile file(CWntPulseFile::write, disk.name());
+    EXPECT_EQ(code_of([&] { file.Put(1, 1, -1); }), E_INVALIDARG);
+    EXPECT_EQ(file.Put(1, 1, 1'794'837'839), 28);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "modal.h"
+#include "thread_window.h"
 
 namespace {
 
@@ -46,8 +47,8 @@ TEST_F(Pulse, ScrollsAsIfPaintedAnew) {
 }
 
 TEST_F(Pulse, SamplesStandAtTheirTimesAndValues) {
-    chart_.SetLook(flow_, 0, 0, 0);
-    chart_.SetLook(level_, 0, 0, 0);
+    EXPECT_EQ(chart_.SetLook(flow_, 0, 0, 0) + chart_.SetLook(level_, 7, 0, 0), 2);
+    EXPECT_EQ(chart_.SetLook(flow_, -1, 0, 0) + chart_.SetLook(flow_, 8, 0, 0), 0);
     const double values[] = {0, 25, 100, 50};
     const __int64 times[] = {0, 2000, 4000, 6000};
     EXPECT_EQ(chart_.AddSamples(flow_, values, times, 4), 4);
@@ -61,20 +62,19 @@ TEST_F(Pulse, SamplesStandAtTheirTimesAndValues) {
     for (int i = 0; i < 4; ++i) {
         const int x = left + static_cast<int>((right - left) * times[i] / 6000);
         bool found = false;
-        for (int dx = -1; dx <= 1; ++dx)
-            found = found || (x + dx >= 0 && x + dx < seen.width && seen.at(x + dx, rows[i]) == red);
+        for (int near_by = std::max(x - 1, left); near_by <= std::min(x + 1, right); ++near_by)
+            found = found || seen.at(near_by, rows[i]) == red;
         EXPECT_TRUE(found) << values[i];
     }
     chart_.AddSample(flow_, std::nan(""), 6010);
     EXPECT_EQ(chart_.AddSamples(flow_, values, times, 4), 0); // they run back
     EXPECT_EQ(chart_.AddSample(9, 1, 7000) + chart_.AddSample(-1, 1, 7000), 0);
     double value = 0;
-    EXPECT_EQ(chart_.GetValueAt(flow_, 5999, &value), 1);
+    EXPECT_TRUE(chart_.GetValueAt(flow_, 5999, &value) == 1 && value == 100);
     chart_.SetLongestPause(1000);
     EXPECT_EQ(chart_.GetValueAt(flow_, 5001, &value), 0); // in a gap
-    EXPECT_EQ(value, 100);
     EXPECT_EQ(chart_.AddCurve("none", red, 1, 1), -1);
-    EXPECT_EQ(chart_.SetCapacity(0) + chart_.SetCapacity(100'000'001) + chart_.SetSpan(0) + chart_.ShowTime(5, 5), 0);
+    EXPECT_EQ(chart_.SetCapacity(0) + chart_.SetSpan(0) + chart_.ShowTime(5, 5), 0);
 }
 
 TEST_F(Pulse, LooksBackByMouseAndKeysAndReturns) {
@@ -150,12 +150,7 @@ TEST_F(Pulse, TheTimeAxisZoomsToWhatItsSliderCovers) {
     auto& axis = dynamic_cast<CWntAxis&>(*chart_.GetDlgItem(3));
     CRect size;
     axis.GetClientRect(&size);
-    const auto drag = [&](int from, int to) {
-        axis.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(from, size.bottom - 5));
-        axis.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(from, size.bottom - 5));
-        axis.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(to, size.bottom - 5));
-        axis.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(to, size.bottom - 5));
-    };
+    const auto drag = [&](int from, int to) { PulseFixture::drag(axis.m_hWnd, from, to, size.bottom - 5); };
     double from = -1, to = -1;
     drag(2, size.right / 2);
     EXPECT_EQ(axis.GetZoom(&from, &to), 0);
@@ -194,16 +189,7 @@ TEST_F(Pulse, CursorsReadOff) {
     EXPECT_NE(pixels_of(chart_), without);
     // What the tip tells of both.
     CString text;
-    ::EnumThreadWindows(
-        ::GetCurrentThreadId(),
-        [](HWND window, LPARAM to) -> BOOL {
-            char name[40] = "";
-            ::GetClassNameA(window, name, sizeof name);
-            if (CString(name).MakeLower() == "tooltips_class32" && ::IsWindowVisible(window))
-                CWnd::FromHandle(window)->GetWindowText(*reinterpret_cast<CString*>(to));
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&text));
+    CWnd::FromHandle(thread_window("tooltips_class32", true))->GetWindowText(text);
     double value = 0;
     ASSERT_EQ(chart_.GetValueAt(level_, first, &value), 1);
     CString expected;
@@ -220,6 +206,10 @@ TEST_F(Pulse, CursorsReadOff) {
     chart_.GetCursor(0, &first);
     EXPECT_LT(first, moved);
     chart_.SetSpan(6000);
+    host_.told.clear();
+    chart_.SetCursor(0, start());
+    key(VK_LEFT); // the view follows
+    EXPECT_THAT(host_.told, testing::Contains(std::pair(UINT{WNT_PULSE_VIEW}, 0)));
     host_.told.clear();
     key(VK_ESCAPE);
     EXPECT_EQ(chart_.GetCursor(0, &first) + chart_.GetCursor(1, &first), 0);
@@ -283,33 +273,23 @@ TEST_F(Pulse, TakesAColourFromThePalette) {
     EXPECT_GE(extent(RGB(255, 0, 0)).second, 0);
 }
 
-TEST_F(Pulse, FitsInSteps) {
+TEST_F(Pulse, FitsCurvesThatShareARangeAlike) {
     chart_.SetFit(1);
     for (int i = 0; i < 600; ++i)
         chart_.AddSample(flow_, 1000 + i, i * 10);
     show();
     const double ends[] = {1000, 1599};
-    int rows[2];
+    int rows[2], same[2];
     chart_.ValuesToScreen(flow_, ends, 2, rows);
     CRect client;
     chart_.GetClientRect(&client);
-    EXPECT_TRUE(0 < rows[1] && rows[1] < rows[0] && rows[0] < client.bottom);
-    EXPECT_GT(rows[0] - rows[1], 100);
-}
-
-TEST_F(Pulse, CurvesThatShareARangeAreFittedAlike) {
-    chart_.SetFit(1);
-    for (int i = 0; i < 600; ++i)
-        chart_.AddSample(flow_, 800 + i, i * 10);
-    show();
+    EXPECT_TRUE(0 < rows[1] && rows[1] + 100 < rows[0] && rows[0] < client.bottom);
     const int late = chart_.AddCurve("Late", RGB(0, 200, 0), 0, 100);
-    chart_.AddSample(late, 900, 6000);
+    chart_.AddSample(late, 1100, 6000);
     show();
-    const double value = 1000;
-    int rows[2];
-    chart_.ValuesToScreen(flow_, &value, 1, rows);
-    chart_.ValuesToScreen(late, &value, 1, rows + 1);
-    EXPECT_EQ(rows[0], rows[1]);
+    chart_.ValuesToScreen(flow_, ends, 2, rows);
+    chart_.ValuesToScreen(late, ends, 2, same);
+    EXPECT_TRUE(rows[0] == same[0] && rows[1] == same[1]);
 }
 
 // In another window nothing goes on that belonged to the first.

@@ -21,15 +21,21 @@ Drawing with_one_of_each() {
     return drawing;
 }
 
-std::string stored(Drawing& drawing) {
+// The bytes that are written, behind others.
+std::string written(const std::function<void(CArchive&)>& write, const std::string& head = "") {
     CMemFile file;
+    file.Write(head.data(), static_cast<UINT>(head.size()));
     CArchive archive(&file, CArchive::store);
-    drawing.Serialize(archive);
+    write(archive);
     archive.Close();
     std::string bytes(static_cast<std::size_t>(file.GetLength()), '\0');
     file.SeekToBegin();
     file.Read(bytes.data(), static_cast<UINT>(bytes.size()));
     return bytes;
+}
+
+std::string stored(Drawing& drawing) {
+    return written([&](CArchive& archive) { drawing.Serialize(archive); });
 }
 
 // False where an archive's exception refuses the file; any other exception fails the test.
@@ -86,19 +92,10 @@ TEST(SketchFile, WithADamagedByteDoesNoHarm) {
 }
 
 TEST(SketchFile, WithWhatNoDrawingHasIsRefused) {
-    const auto file_of = [](const std::function<void(CArchive&)>& write) {
-        Drawing empty;
-        std::string head = stored(empty);
-        CMemFile file;
-        file.Write(head.data(), static_cast<UINT>(head.size() - 2)); // without the count of figures
-        CArchive archive(&file, CArchive::store);
-        write(archive);
-        archive.Close();
-        std::string bytes(static_cast<std::size_t>(file.GetLength()), '\0');
-        file.SeekToBegin();
-        file.Read(bytes.data(), static_cast<UINT>(bytes.size()));
-        return bytes;
-    };
+    Drawing nothing;
+    std::string head = stored(nothing);
+    head.resize(head.size() - 2); // without the count of figures
+    const auto file_of = [&](const std::function<void(CArchive&)>& write) { return written(write, head); };
     CLineFigure line(CPoint(0, 0), CPoint(1, 1), red), far_away(CPoint(0, 0), CPoint(1, 20001), red),
         farthest(CPoint(0, LONG_MIN), CPoint(1, 1), red), odd_colour(CPoint(0, 0), CPoint(1, 1), {16, 0, 0, 1}),
         too_wide(CPoint(0, 0), CPoint(1, 1), {0, 0, 0, 51});

@@ -1,6 +1,7 @@
 // Bitmaps and palettes, and their files.
 #include <process.h>
 
+#include <cstring>
 #include <filesystem>
 
 #include "bitmap_files.h"
@@ -179,14 +180,17 @@ TEST(WntBitmap, ReadsBitFieldsByTheirMasks) {
     }
 }
 
+COLORREF colour_of(int i) {
+    return RGB(BitmapFile::colour_byte(i, 2), BitmapFile::colour_byte(i, 1), BitmapFile::colour_byte(i, 0));
+}
+
 // Rows that a file promises and does not hold are drawn as zeros, whatever the promise.
 TEST(WntBitmap, DrawsTheRowsThatAFileGave) {
     const TemporaryFile disk;
     for (const int height : {4, -4, 400'000'000, -400'000'000}) {
         const BitmapFile two_rows{8, 4, 2};
         Bytes bytes = two_rows.bytes();
-        for (int i = 0; i < 4; ++i)
-            bytes[22 + i] = static_cast<std::uint8_t>(static_cast<std::uint32_t>(height) >> 8 * i);
+        std::memcpy(&bytes[22], &height, sizeof height);
         disk.write(bytes);
         CWntBitmap bitmap;
         ASSERT_TRUE(bitmap.Load(disk.name()));
@@ -200,9 +204,7 @@ TEST(WntBitmap, DrawsTheRowsThatAFileGave) {
         for (int y = 0; y < 4; ++y) { // from below
             const int row = height > 0 ? y : 3 - y;
             const bool given = std::abs(height) == 4 && row < 2;
-            const COLORREF zero = BitmapFile::colour_byte(0, 0) << 16 | BitmapFile::colour_byte(0, 1) << 8 |
-                                  BitmapFile::colour_byte(0, 2);
-            EXPECT_EQ(picture.at(1, y), given ? two_rows.colour_at(1, row) : zero) << height << ' ' << y;
+            EXPECT_EQ(picture.at(1, y), given ? two_rows.colour_at(1, row) : colour_of(0)) << height << ' ' << y;
         }
     }
 }
@@ -280,10 +282,6 @@ struct PaletteFile {
         return file;
     }
 };
-
-COLORREF colour_of(int i) {
-    return RGB(BitmapFile::colour_byte(i, 2), BitmapFile::colour_byte(i, 1), BitmapFile::colour_byte(i, 0));
-}
 
 COLORREF colour_of(const PALETTEENTRY& entry) {
     return RGB(entry.peRed, entry.peGreen, entry.peBlue);
@@ -409,12 +407,10 @@ TEST(BitmapPaths, AreOpenedForReadingAlone) {
     } bitmap;
     const TemporaryFile disk(BitmapFile{8, 5, 2}.bytes());
     bitmap.name = disk.name();
-    ::SetFileAttributesA(disk.name(), FILE_ATTRIBUTE_READONLY);
-    EXPECT_TRUE(bitmap.Load(static_cast<LPCTSTR>(disk.name())));
-    ::SetFileAttributesA(disk.name(), FILE_ATTRIBUTE_NORMAL);
-    bitmap.writable = TRUE;
-    EXPECT_TRUE(bitmap.Load(static_cast<LPCTSTR>(disk.name())));
-    EXPECT_TRUE(bitmap.readable && !bitmap.writable);
+    for (const DWORD attributes : {FILE_ATTRIBUTE_NORMAL, FILE_ATTRIBUTE_READONLY, FILE_ATTRIBUTE_NORMAL}) {
+        ::SetFileAttributesA(disk.name(), attributes);
+        EXPECT_TRUE(bitmap.Load(static_cast<LPCTSTR>(disk.name())) && bitmap.readable && !bitmap.writable);
+    }
 }
 
 // Without a path the user is asked, and cancels.
