@@ -1,9 +1,5 @@
-#include <zopwnt.h>
-
-#include <gtest/gtest.h>
-
+#include "control_host.h"
 #include "temporary_file.h"
-#include "widget_window.h"
 
 namespace {
 
@@ -22,23 +18,12 @@ protected:
         frame_.LoadLine("", 2);
         full_repaint(frame_);
     }
-    // Where pixels of a colour lie; empty where there are none.
     CRect extent(COLORREF colour) {
-        const Pixels seen = pixels_of(frame_);
-        CRect box(seen.width, seen.height, 0, 0);
-        for (int y = 0; y < seen.height; ++y)
-            for (int x = 0; x < seen.width; ++x)
-                if (seen.at(x, y) == colour)
-                    box = CRect(std::min<int>(box.left, x), std::min<int>(box.top, y), std::max<int>(box.right, x + 1),
-                                std::max<int>(box.bottom, y + 1));
-        return box;
+        CRect client;
+        frame_.GetClientRect(&client);
+        return ::extent(pixels_of(frame_), colour, client);
     }
-    CRect place(CWnd& child) {
-        CRect r;
-        child.GetWindowRect(&r);
-        frame_.ScreenToClient(&r);
-        return r;
-    }
+    CRect place(CWnd& child) { return place_in(frame_, child); }
 
     CWntFrame frame_;
 };
@@ -127,15 +112,9 @@ TEST_F(FrameTest, FollowsTheMainFramesScaling) {
     script({":BORDERHEIGHT=2", ":TITLE=T"});
     EXPECT_EQ(frame_.GetScale(), 100);
     const CRect plain = frame_.GetContentRect();
-    char folder[MAX_PATH];
-    ::GetModuleFileNameA(nullptr, folder, sizeof folder);
-    const CString path = CString(folder).Left(CString(folder).ReverseFind('\\')) + "\\stub\\zopfdraw.dll";
-    const HMODULE stub = ::LoadLibraryA(path);
-    ASSERT_TRUE(stub);
-    auto& percentage = *reinterpret_cast<int*>(reinterpret_cast<void*>(::GetProcAddress(stub, "percentage")));
+    MainFrameScale main;
     for (const auto& [answer, scale] : {std::pair{200, 200}, {0, 100}, {-7, 100}, {INT_MAX, 1000}, {150, 150}}) {
-        percentage = answer;
-        frame_.SendMessage(WM_SETTINGCHANGE);
+        main.tell(frame_, answer);
         EXPECT_EQ(frame_.GetScale(), scale) << answer;
     }
     EXPECT_EQ(frame_.GetContentRect().left, 3);
@@ -143,7 +122,6 @@ TEST_F(FrameTest, FollowsTheMainFramesScaling) {
     CWntFrame second;
     ASSERT_TRUE(second.Create(nullptr, "", WS_CHILD, CRect(0, 0, 9, 9), &host_, 5));
     EXPECT_EQ(second.GetScale(), 150);
-    ::FreeLibrary(stub);
 }
 
 } // namespace

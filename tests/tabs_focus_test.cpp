@@ -1,8 +1,4 @@
-#include <zopwnt.h>
-
-#include <gmock/gmock.h>
-
-#include "widget_window.h"
+#include "control_host.h"
 
 namespace {
 
@@ -24,15 +20,11 @@ protected:
 };
 
 // Tabs whose pages hold inputs, which tell the host when they lose the focus.
-class TabsFocus : public testing::Test {
+class TabsFocus : public ControlTest<FocusHost> {
 protected:
-    void SetUp() override {
-        ASSERT_TRUE(host_.CreateEx(0, nullptr, "host", WS_POPUP, CRect(0, 0, 500, 400), nullptr, 0));
-        host_.ShowWindow(SW_SHOW);
-    }
     void TearDown() override {
         delete tabs_;
-        host_.DestroyWindow();
+        ControlTest::TearDown();
     }
     void open() {
         host_.on_lost_focus = [] {};
@@ -52,16 +44,11 @@ protected:
         ASSERT_EQ(::GetFocus(), inputs_[0]->m_hWnd);
     }
     void next_by_key() {
-        BYTE before[256], now[256] = {};
-        ::GetKeyboardState(before);
-        now[VK_CONTROL] = 0x80;
-        ::SetKeyboardState(now);
+        const HeldKeys control({VK_CONTROL});
         MSG m = {inputs_[0]->m_hWnd, WM_KEYDOWN, VK_TAB, 1, 0, {}};
         tabs_->PreTranslateMessage(&m);
-        ::SetKeyboardState(before);
     }
 
-    FocusHost host_;
     CWntTabs* tabs_ = nullptr;
     std::unique_ptr<CWntFrame> pages_[3];
     std::unique_ptr<CEdit> inputs_[3];

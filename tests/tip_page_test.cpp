@@ -1,9 +1,5 @@
-#include <zopwnt.h>
-
-#include <gmock/gmock.h>
-
+#include "control_host.h"
 #include "temporary_file.h"
-#include "widget_window.h"
 
 namespace {
 
@@ -35,12 +31,7 @@ protected:
         ::GetWindowTextW(::GetDlgItem(page_->m_hWnd, text_id), text, 200);
         return text;
     }
-    CRect place(UINT id) {
-        CRect r;
-        page_->GetDlgItem(static_cast<int>(id))->GetWindowRect(&r);
-        page_->ScreenToClient(&r);
-        return r;
-    }
+    CRect place(UINT id) { return place_in(*page_, *page_->GetDlgItem(static_cast<int>(id))); }
     bool translated(CWnd& window, WPARAM character) {
         MSG m = {window.m_hWnd, WM_SYSCHAR, character, 0, 0, {}};
         return CWnd::WalkPreTranslateTree(host_.m_hWnd, &m);

@@ -1,13 +1,9 @@
 // A toolbar in a host that keeps what it is told.
 #pragma once
 
-#include <zopwnt.h>
-
 #include <afxpriv.h>
 
-#include <gmock/gmock.h>
-
-#include "widget_window.h"
+#include "control_host.h"
 
 inline constexpr COLORREF red = RGB(255, 0, 0), green = RGB(0, 255, 0), key_colour = RGB(255, 0, 255);
 
@@ -71,17 +67,16 @@ inline HBITMAP strip(int size, std::initializer_list<COLORREF> colours) {
     return bitmap;
 }
 
-class ToolBar : public testing::Test {
+class ToolBar : public ControlTest<ToolHost> {
 protected:
     void SetUp() override {
-        ASSERT_TRUE(host_.CreateEx(WS_EX_TOPMOST, nullptr, "host", WS_POPUP, CRect(50, 50, 650, 450), nullptr, 0));
-        host_.ShowWindow(SW_SHOW);
+        ControlTest::SetUp();
         ASSERT_TRUE(edit_.Create(WS_CHILD | WS_VISIBLE, CRect(0, 300, 50, 320), &host_, 50));
         open();
     }
     void TearDown() override {
         delete bar_;
-        host_.DestroyWindow();
+        ControlTest::TearDown();
     }
     void open() {
         bar_ = new Trapping<CWntToolBar>;
@@ -158,7 +153,6 @@ protected:
         }
     }
 
-    ToolHost host_;
     CEdit edit_;
     CWntToolBar* bar_ = nullptr;
 };

@@ -1,8 +1,4 @@
-#include <zopwnt.h>
-
-#include <gmock/gmock.h>
-
-#include "widget_window.h"
+#include "control_host.h"
 
 namespace {
 
@@ -29,11 +25,10 @@ protected:
     }
 };
 
-class ToolTip : public testing::Test {
+class ToolTip : public ControlTest<TipHost> {
 protected:
     void SetUp() override {
-        ASSERT_TRUE(host_.CreateEx(WS_EX_TOPMOST, nullptr, "host", WS_POPUP, CRect(100, 100, 400, 300), nullptr, 0));
-        host_.ShowWindow(SW_SHOW);
+        ControlTest::SetUp();
         host_.SetActiveWindow();
         ASSERT_TRUE(button_.Create("b", WS_CHILD | WS_VISIBLE, CRect(10, 10, 60, 40), &host_, 5));
         tips_ = std::make_unique<CToolTipCtrlEx>();
@@ -43,7 +38,7 @@ protected:
     }
     void TearDown() override {
         tips_.reset();
-        host_.DestroyWindow();
+        ControlTest::TearDown();
     }
     void relay(UINT message, CPoint at) {
         CPoint screen = at;
@@ -86,7 +81,6 @@ protected:
         return r;
     }
 
-    TipHost host_;
     CButton button_;
     std::unique_ptr<CToolTipCtrlEx> tips_;
 };

@@ -1,0 +1,110 @@
+// Hosts of controls that tell their parent something, and what tests of such controls share.
+#pragma once
+
+#include <zopwnt.h>
+
+#include <gmock/gmock.h>
+
+#include "held_keys.h"
+#include "widget_window.h"
+
+/// Keeps commands and notifications, code first, and answers as it is told to.
+template <class Notify, auto... kept> class AnsweringHost : public AttentiveHost {
+public:
+    using Told = decltype(std::tuple(UINT(), std::declval<Notify>().*kept...));
+
+    std::vector<Told> told;
+    std::vector<UINT> commands;
+    std::function<LRESULT(Notify&)> answer = [](Notify&) { return 0; };
+
+protected:
+    BOOL OnNotify(WPARAM, LPARAM lParam, LRESULT* result) override {
+        auto& n = *reinterpret_cast<Notify*>(lParam);
+        told.emplace_back(n.hdr.code, n.*kept...);
+        *result = answer(n);
+        return TRUE;
+    }
+    BOOL OnCommand(WPARAM wParam, LPARAM) override {
+        commands.push_back(LOWORD(wParam));
+        return TRUE;
+    }
+};
+
+template <class Host> class ControlTest : public testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(host_.CreateEx(WS_EX_TOPMOST, nullptr, "host", WS_POPUP, CRect(0, 0, 600, 400), nullptr, 0));
+        host_.ShowWindow(SW_SHOW);
+    }
+    void TearDown() override { host_.DestroyWindow(); }
+    /// As the message loop would give it to a window within.
+    bool translated(CWnd& window, UINT message, WPARAM wParam) {
+        MSG m = {window.m_hWnd, message, wParam, 0, 0, {}};
+        return CWnd::WalkPreTranslateTree(host_.m_hWnd, &m);
+    }
+
+    Host host_;
+};
+
+inline CRect place_in(CWnd& parent, CWnd& window) {
+    CRect r;
+    window.GetWindowRect(&r);
+    parent.ScreenToClient(&r);
+    return r;
+}
+
+/// Where pixels of a colour lie; empty where there are none.
+inline CRect extent(const Pixels& seen, COLORREF colour, const CRect& part) {
+    CRect box;
+    for (int y = part.top; y < part.bottom; ++y)
+        for (int x = part.left; x < part.right; ++x)
+            if (seen.at(x, y) == colour)
+                box |= CRect(x, y, x + 1, y + 1);
+    return box;
+}
+
+/// A window of this thread's, of a class; null where there is none.
+inline HWND thread_window(const char* name) {
+    struct Search {
+        const char* name;
+        HWND found;
+    } search = {name, nullptr};
+    ::EnumThreadWindows(
+        ::GetCurrentThreadId(),
+        [](HWND window, LPARAM param) -> BOOL {
+            auto& search = *reinterpret_cast<Search*>(param);
+            char name[64] = "";
+            ::GetClassNameA(window, name, sizeof name);
+            if (::lstrcmpiA(name, search.name) == 0)
+                search.found = window;
+            return !search.found;
+        },
+        reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+/// The front end's library of scaling, as long as the object lives.
+class MainFrameScale {
+public:
+    MainFrameScale() : library_(::LoadLibraryA(path())) {
+        EXPECT_TRUE(library_);
+        percentage_ = reinterpret_cast<int*>(reinterpret_cast<void*>(::GetProcAddress(library_, "percentage")));
+    }
+    ~MainFrameScale() { ::FreeLibrary(library_); }
+    MainFrameScale(const MainFrameScale&) = delete;
+    MainFrameScale& operator=(const MainFrameScale&) = delete;
+    void tell(CWnd& control, int percentage) {
+        *percentage_ = percentage;
+        control.SendMessage(WM_SETTINGCHANGE);
+    }
+
+private:
+    static CString path() { // beside the program, which would find it by its name otherwise
+        char program[MAX_PATH];
+        ::GetModuleFileNameA(nullptr, program, sizeof program);
+        return CString(program).Left(CString(program).ReverseFind('\\')) + "\\stub\\zopfdraw.dll";
+    }
+
+    HMODULE library_;
+    int* percentage_;
+};
