@@ -1,26 +1,13 @@
 // Device contexts and what is selected into them.
 #include "afx_test_app.h"
 
-#include <gtest/gtest.h>
-
 #include <set>
 
 namespace {
 
-// A memory bitmap of 32 bits a pixel.
 class AfxDeviceContext : public testing::Test {
 protected:
-    AfxDeviceContext() {
-        CWindowDC screen(nullptr);
-        EXPECT_TRUE(dc.CreateCompatibleDC(&screen) && bitmap.CreateCompatibleBitmap(&screen, 100, 100));
-        before = dc.SelectObject(&bitmap);
-        dc.PatBlt(0, 0, 100, 100, WHITENESS);
-    }
-    ~AfxDeviceContext() override { dc.SelectObject(before); }
-
-    CDC dc;
-    CBitmap bitmap;
-    CBitmap* before;
+    canvas dc{100, 100};
 };
 
 TEST_F(AfxDeviceContext, GivesBackWhatWasSelected) {

@@ -1,14 +1,11 @@
 // Floating bars, small frames, and the places of all bars as one state.
 #include "afx_test_app.h"
+#include "held_keys.h"
 
 #include <afxadv.h>
 #include <afxcmn.h>
 #include <afxext.h>
 #include <afxpriv.h>
-
-#include <gmock/gmock.h>
-
-#include <functional>
 
 using testing::ElementsAre;
 
@@ -72,9 +69,7 @@ TEST(AfxFloating, ABarFloatsKeepsItsCommandsAndComesBack) {
     ASSERT_NE(&small, &frame);
     EXPECT_EQ(frame.on_screen(small).TopLeft(), CPoint(150, 120));
     EXPECT_TRUE(small.IsWindowVisible());
-    CString title;
-    small.GetWindowText(title);
-    EXPECT_STREQ(title, "Title");
+    EXPECT_EQ(text_of(small), "Title");
     CRect client;
     small.GetClientRect(client);
     EXPECT_EQ(client.Size(), frame.on_screen(frame.tools).Size());
@@ -157,9 +152,6 @@ TEST(AfxFloating, ADraggedBarShowsWhereItWouldBe) {
     const auto before = pixels();
     std::vector<COLORREF> dragged;
     frame.look = [&] { dragged = pixels(); };
-    BYTE held[256] = {}, keys[256];
-    ::GetKeyboardState(keys);
-    held[VK_LBUTTON] = 0x80;
     const CRect bar = frame.on_screen(frame.tools);
     for (const bool dropped : {false, true}) {
         ::SetCursorPos(pointer.x, pointer.y);
@@ -167,9 +159,10 @@ TEST(AfxFloating, ADraggedBarShowsWhereItWouldBe) {
             frame.tools.PostMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(300, 300));
         frame.PostMessage(WM_USER);
         frame.tools.PostMessage(dropped ? WM_LBUTTONUP : WM_KEYDOWN, dropped ? 0 : VK_ESCAPE);
-        ::SetKeyboardState(held);
-        frame.tools.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(-1, -1));
-        ::SetKeyboardState(keys);
+        {
+            const HeldKeys button({VK_LBUTTON});
+            frame.tools.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(-1, -1));
+        }
         ASSERT_EQ(dragged.size(), before.size()) << "it was dragged";
         const CPoint corner = first_change(area, before, dragged);
         EXPECT_EQ(frame.tools.IsFloating(), dropped);

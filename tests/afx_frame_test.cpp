@@ -1,10 +1,9 @@
 // Frames with menus, bars and what they show while the program is idle.
 #include "afx_test_app.h"
+#include "held_keys.h"
 
 #include <afxext.h>
 #include <afxpriv.h>
-
-#include <gmock/gmock.h>
 
 using testing::ElementsAre;
 using Texts = std::vector<std::string>;
@@ -87,12 +86,10 @@ TEST(AfxFrame, UpdatesItsMenuToolbarAndPanesByItsHandlers) {
     frame.SendMessage(WM_COMMAND, ID_TEST_OFF);
     EXPECT_TRUE(frame.log.empty()) << "a key for a disabled command";
     MSG key{frame.m_hWnd, WM_KEYDOWN, 'T', 0x140001, 0, {0, 0}};
-    BYTE keys[256] = {}, before[256];
-    ::GetKeyboardState(before);
-    keys[VK_CONTROL] = 0x80;
-    ::SetKeyboardState(keys);
-    EXPECT_TRUE(frame.PreTranslateMessage(&key));
-    ::SetKeyboardState(before);
+    {
+        const HeldKeys control({VK_CONTROL});
+        EXPECT_TRUE(frame.PreTranslateMessage(&key));
+    }
     EXPECT_THAT(frame.log, ElementsAre("on"));
 }
 
@@ -102,11 +99,7 @@ TEST(AfxFrame, ShowsPromptsOfMenusAndOfButtonsUnderThePointer) {
     const UINT panes[] = {ID_SEPARATOR};
     frame.status.SetIndicators(panes, 1);
     frame.settle();
-    const auto shown = [&] {
-        CString text;
-        frame.status.GetWindowText(text);
-        return std::string(text);
-    };
+    const auto shown = [&] { return text_of(frame.status); };
     frame.SetMessageText("as the program says");
     EXPECT_EQ(shown(), "as the program says");
     const auto menu = reinterpret_cast<LPARAM>(frame.GetMenu()->m_hMenu);
@@ -173,16 +166,7 @@ TEST(AfxFrame, LaysOutDockedBarsAndRemembersThem) {
     frame.LoadBarState("Layout");
     EXPECT_FALSE(frame.tools.IsVisible());
     EXPECT_EQ(frame.client_of(frame.more), CRect(CPoint(0, 0), left.Size()));
-    EXPECT_THROW(
-        {
-            try {
-                frame.DockControlBar(&frame.more, AFX_IDW_DOCKBAR_RIGHT);
-            } catch (CInvalidArgException* exception) {
-                exception->Delete();
-                throw 1;
-            }
-        },
-        int)
+    EXPECT_TRUE(raises<CInvalidArgException>([&] { frame.DockControlBar(&frame.more, AFX_IDW_DOCKBAR_RIGHT); }))
         << "a side that the bar refuses";
 }
 
@@ -242,15 +226,9 @@ TEST(AfxToolBar, HasABackgroundWhereTheFrameLeavesItsOwnToTheView) {
     auto* view = static_cast<CView*>(frame.CreateView(&context));
     frame.SetActiveView(view);
     frame.settle();
-    CClientDC screen(&frame);
-    CDC dc;
-    dc.CreateCompatibleDC(&screen);
-    CBitmap bitmap;
-    bitmap.CreateCompatibleBitmap(&screen, 40, 20);
-    CBitmap* before = dc.SelectObject(&bitmap);
+    canvas dc(40, 20);
     frame.tools.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc.m_hDC));
     EXPECT_EQ(dc.GetPixel(5, 5), ::GetSysColor(COLOR_BTNFACE));
-    dc.SelectObject(before);
     frame.SetActiveView(nullptr);
 }
 
@@ -262,16 +240,7 @@ TEST(AfxReBar, HoldsTheFramesBars) {
     const CSize wanted = frame.tools.CalcFixedLayout(FALSE, TRUE);
     ASSERT_TRUE(rebar.AddBar(&frame.tools));
     ASSERT_TRUE(rebar.AddBar(&frame.more, "More", nullptr, RBBS_BREAK | RBBS_GRIPPERALWAYS));
-    EXPECT_THROW(
-        {
-            try {
-                rebar.AddBar(nullptr);
-            } catch (CInvalidArgException* exception) {
-                exception->Delete();
-                throw 1;
-            }
-        },
-        int);
+    EXPECT_TRUE(raises<CInvalidArgException>([&] { rebar.AddBar(nullptr); }));
     EXPECT_EQ(rebar.GetReBarCtrl().GetBandCount(), 2u);
     EXPECT_EQ(rebar.GetReBarCtrl().GetRowCount(), 2u);
     EXPECT_EQ(::GetParent(frame.tools.m_hWnd), rebar.m_hWnd);

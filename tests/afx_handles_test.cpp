@@ -7,11 +7,6 @@
 #include <afxdtctl.h>
 #include <afxext.h>
 
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <utility>
-
 namespace {
 
 // The bound is a tenth of one object a life; caches of the system may fill.
@@ -114,11 +109,7 @@ TEST(AfxHandles, DrawingsGiveEverythingBack) {
     expect_flat([&] {
         try {
             CClientDC dc(&window);
-            CDC memory;
-            CBitmap bits;
-            memory.CreateCompatibleDC(&dc);
-            bits.CreateCompatibleBitmap(&dc, 50, 50);
-            CBitmap* before = memory.SelectObject(&bits);
+            canvas memory(50, 50);
             CPen pen(PS_DASH, 1, RGB(1, 2, 3));
             CPen* old = memory.SelectObject(&pen);
             memory.DrawDragRect(CRect(0, 0, 9, 9), CSize(1, 1), CRect(2, 2, 7, 7), CSize(1, 1));
@@ -127,7 +118,6 @@ TEST(AfxHandles, DrawingsGiveEverythingBack) {
             CBrush pattern(&image);
             memory.FillRect(CRect(0, 0, 50, 50), &pattern);
             memory.SelectObject(old);
-            memory.SelectObject(before);
             CClientDC(nullptr).SaveDC();
             AfxThrowUserException();
         } catch (CUserException* exception) {
@@ -169,9 +159,42 @@ TEST(AfxHandles, ChildrenOfAFrameGiveEverythingBack) {
     });
     EXPECT_EQ(the_app.GetOpenDocumentCount(), 0);
     frame->SendMessage(WM_CLOSE);
-    MSG quit;
-    ::PeekMessage(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
-    delete std::exchange(the_app.m_pDocManager, nullptr);
+    end_documents();
+}
+
+// A frame with everything around it.
+class full_frame : public CFrameWnd {
+    DECLARE_DYNCREATE(full_frame)
+
+public:
+    CToolBar tools;
+    CStatusBar status;
+    CSplitterWnd splitter;
+    BOOL OnCreateClient(LPCREATESTRUCT, CCreateContext* context) override {
+        const UINT panes[] = {ID_SEPARATOR, ID_INDICATOR_NUM};
+        if (!splitter.Create(this, 2, 2, CSize(10, 10), context) || !tools.Create(this) ||
+            !tools.LoadToolBar(IDR_FRAME) || !status.Create(this) || !status.SetIndicators(panes, 2))
+            return FALSE;
+        tools.EnableDocking(CBRS_ALIGN_ANY);
+        EnableDocking(CBRS_ALIGN_ANY);
+        DockControlBar(&tools);
+        return TRUE;
+    }
+};
+IMPLEMENT_DYNCREATE(full_frame, CFrameWnd)
+
+TEST(AfxHandles, FramesAndDocumentsGiveEverythingBack) {
+    the_app.AddDocTemplate(new CSingleDocTemplate(IDR_FRAME, RUNTIME_CLASS(plain_document), RUNTIME_CLASS(full_frame),
+                                                  RUNTIME_CLASS(plain_view)));
+    expect_flat([] {
+        the_app.OnFileNew();
+        auto* frame = static_cast<full_frame*>(the_app.m_pMainWnd);
+        frame->splitter.SplitRow(50);
+        the_app.OnIdle(0);
+        frame->SendMessage(WM_CLOSE);
+        the_app.OnIdle(1);
+    });
+    end_documents();
 }
 
 } // namespace

@@ -5,8 +5,6 @@
 #include <afxdisp.h>
 #include <afxdtctl.h>
 
-#include <gtest/gtest.h>
-
 namespace {
 
 TEST(AfxOleTime, TakesOnlyWhatIsADate) {
@@ -102,18 +100,8 @@ TEST(AfxSharedFile, IsTheSystemsMemory) {
         EXPECT_EQ(in.Read(text, 26), 26u);
         EXPECT_STREQ(text, "abcdefghijklmnopqrstuvwxyz");
         in.SeekToEnd();
-        EXPECT_ANY_THROW(
-            try { in.Write(text, 26); } catch (CException* exception) {
-                exception->Delete();
-                throw 1;
-            })
-            << "it may not grow";
-        EXPECT_ANY_THROW(
-            try { in.SetHandle(memory); } catch (CException* exception) {
-                exception->Delete();
-                throw 1;
-            })
-            << "it has one";
+        EXPECT_TRUE(raises<CException>([&] { in.Write(text, 26); })) << "it may not grow";
+        EXPECT_TRUE(raises<CException>([&] { in.SetHandle(memory); })) << "it has one";
     }
     CSharedFile longer;
     longer.SetHandle(memory);

@@ -3,8 +3,6 @@
 
 #include <afxdlgs.h>
 
-#include <gtest/gtest.h>
-
 test_app the_app;
 
 BEGIN_MESSAGE_MAP(test_app, CWinApp)

@@ -3,11 +3,6 @@
 
 #include <afxtempl.h>
 
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <memory>
-
 namespace {
 
 class described : public CObject {

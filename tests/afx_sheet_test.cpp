@@ -5,8 +5,6 @@
 #include <afxcmn.h>
 #include <afxdlgs.h>
 
-#include <gtest/gtest.h>
-
 namespace {
 
 // Takes the mark of a box over, and writes down what it is asked.
@@ -171,9 +169,7 @@ TEST(AfxModelessSheet, HoldsPagesWithoutButtons) {
     sheet.AddPage(&first);
     sheet.AddPage(&second);
     ASSERT_TRUE(sheet.Create(nullptr, WS_POPUP | WS_CAPTION | WS_SYSMENU));
-    CString title;
-    sheet.GetWindowText(title);
-    EXPECT_STREQ(title, "Caption of its own");
+    EXPECT_EQ(text_of(sheet), "Caption of its own");
     EXPECT_FALSE(sheet.GetDlgItem(IDOK)->IsWindowVisible() || sheet.GetDlgItem(IDCANCEL)->IsWindowVisible());
     EXPECT_TRUE(sheet.SetActivePage(1));
     EXPECT_EQ(sheet.GetActivePage(), &second);
@@ -194,9 +190,9 @@ TEST(AfxModelessSheet, HoldsPagesWithoutButtons) {
     EXPECT_EQ(second.m_hWnd, nullptr);
 }
 
-TEST(AfxExtendedControls, HoldPicturesAndAddresses) {
-    CWnd parent;
-    ASSERT_TRUE(create_popup(parent));
+using AfxExtendedControls = WithParent;
+
+TEST_F(AfxExtendedControls, HoldPicturesAndAddresses) {
     CComboBoxEx box;
     ASSERT_TRUE(box.Create(CBS_DROPDOWNLIST, CRect(0, 0, 100, 100), &parent, 1));
     CImageList pictures;

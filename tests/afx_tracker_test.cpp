@@ -3,8 +3,6 @@
 
 #include <afxext.h>
 
-#include <gmock/gmock.h>
-
 namespace {
 
 // A tracking is run by messages that lie in the queue before it begins.
@@ -55,12 +53,7 @@ TEST_F(AfxTracker, MovesSidesCornersAndTheWhole) {
 }
 
 TEST_F(AfxTracker, DrawsHandlesWhereItFindsThem) {
-    CClientDC screen(&wnd);
-    CDC dc;
-    dc.CreateCompatibleDC(&screen);
-    CBitmap bitmap;
-    bitmap.CreateCompatibleBitmap(&screen, 120, 100);
-    CBitmap* before = dc.SelectObject(&bitmap);
+    canvas dc(120, 100);
     for (const UINT style : {CRectTracker::resizeInside, CRectTracker::resizeOutside}) {
         dc.PatBlt(0, 0, 120, 100, WHITENESS);
         const CRectTracker tracker(CRect(20, 20, 80, 60), style);
@@ -77,7 +70,6 @@ TEST_F(AfxTracker, DrawsHandlesWhereItFindsThem) {
         EXPECT_EQ(wrong, 0) << style;
         EXPECT_EQ(black, 8 * 16) << style;
     }
-    dc.SelectObject(before);
 }
 
 TEST_F(AfxTracker, ARecordingIsPlayedWhereItIsWanted) {
@@ -93,16 +85,11 @@ TEST_F(AfxTracker, ARecordingIsPlayedWhereItIsWanted) {
     ASSERT_TRUE(rich.CreateEnhanced(&screen, nullptr, nullptr, nullptr));
     rich.FillSolidRect(0, 0, 50, 50, RGB(0, 0, 200));
     const HENHMETAFILE enhanced = rich.CloseEnhanced();
-    CDC dc;
-    dc.CreateCompatibleDC(&screen);
-    CBitmap bitmap;
-    bitmap.CreateCompatibleBitmap(&screen, 120, 100);
-    CBitmap* before = dc.SelectObject(&bitmap);
+    canvas dc(120, 100);
     EXPECT_TRUE(dc.PlayMetaFile(recorded));
     EXPECT_TRUE(dc.PlayMetaFile(enhanced, CRect(60, 60, 100, 100)));
     EXPECT_EQ(dc.GetPixel(15, 15), RGB(200, 0, 0));
     EXPECT_EQ(dc.GetPixel(80, 80), RGB(0, 0, 200));
-    dc.SelectObject(before);
     ::DeleteMetaFile(recorded);
     ::DeleteEnhMetaFile(enhanced);
 }

@@ -3,9 +3,6 @@
 
 #include <afxdtctl.h>
 
-#include <gmock/gmock.h>
-
-#include <functional>
 #include <limits>
 
 namespace {

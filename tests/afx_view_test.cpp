@@ -1,10 +1,10 @@
 // Views that scroll, hold controls, edit text; splitters that divide them.
 #include "afx_test_app.h"
+#include "held_keys.h"
+#include "thread_window.h"
 
 #include <afxext.h>
 #include <afxpriv.h>
-
-#include <gmock/gmock.h>
 
 namespace {
 
@@ -39,6 +39,14 @@ public:
         return Create(nullptr, "views", WS_OVERLAPPEDWINDOW, CRect(0, 0, 420, 320)) &&
                ShowWindow(SW_SHOWNOACTIVATE) == 0;
     }
+    // Around one view of a class.
+    template <class View> View& open() {
+        EXPECT_TRUE(open([](view_frame& frame, CCreateContext& context) {
+            context.m_pNewViewClass = RUNTIME_CLASS(View);
+            return frame.CreateView(&context) != nullptr;
+        }));
+        return *static_cast<View*>(GetDescendantWindow(AFX_IDW_PANE_FIRST));
+    }
     BOOL OnCreateClient(LPCREATESTRUCT, CCreateContext*) override {
         CCreateContext context;
         context.m_pNewViewClass = RUNTIME_CLASS(page_view);
@@ -58,18 +66,13 @@ public:
 };
 IMPLEMENT_DYNCREATE(printed_edit, CEditView)
 
-BOOL plain_view(view_frame& frame, CCreateContext& context) {
-    return frame.CreateView(&context) != nullptr;
-}
-
 BOOL dynamic_splitter(view_frame& frame, CCreateContext& context) {
     return frame.splitter.Create(&frame, 2, 2, CSize(20, 20), &context);
 }
 
 TEST(AfxScrollView, ScrollsWithinItsDocumentInLogicalUnits) {
     view_frame frame;
-    ASSERT_TRUE(frame.open(plain_view));
-    auto& view = *static_cast<page_view*>(frame.GetDescendantWindow(AFX_IDW_PANE_FIRST));
+    auto& view = frame.open<page_view>();
     view.SetScrollSizes(MM_TEXT, CSize(1000, 2000), CSize(100, 150), CSize(10, 15));
     BOOL horizontal = FALSE, vertical = FALSE;
     view.CheckScrollBars(horizontal, vertical);
@@ -107,11 +110,7 @@ TEST(AfxScrollView, ScrollsWithinItsDocumentInLogicalUnits) {
 
 TEST(AfxFormView, ExchangesDataAndScrollsItsTemplate) {
     view_frame frame;
-    ASSERT_TRUE(frame.open([](view_frame& at, CCreateContext& context) {
-        context.m_pNewViewClass = RUNTIME_CLASS(form);
-        return plain_view(at, context);
-    }));
-    auto& view = *static_cast<form*>(frame.GetDescendantWindow(AFX_IDW_PANE_FIRST));
+    auto& view = frame.open<form>();
     frame.InitialUpdateFrame(nullptr, FALSE);
     view.SendMessage(WM_INITIALUPDATE);
     EXPECT_EQ(view.exchanged, 1);
@@ -131,11 +130,8 @@ TEST(AfxFormView, ExchangesDataAndScrollsItsTemplate) {
 
 TEST(AfxFormView, KeepsItsFocusAndLeavesKeysToTheFrameFirst) {
     view_frame frame;
-    ASSERT_TRUE(frame.open([](view_frame& at, CCreateContext& context) {
-        context.m_pNewViewClass = RUNTIME_CLASS(form);
-        return plain_view(at, context) && at.LoadAccelTable(MAKEINTRESOURCE(IDR_FRAME));
-    }));
-    auto& view = *static_cast<form*>(frame.GetDescendantWindow(AFX_IDW_PANE_FIRST));
+    auto& view = frame.open<form>();
+    ASSERT_TRUE(frame.LoadAccelTable(MAKEINTRESOURCE(IDR_FRAME)));
     EXPECT_FALSE(::IsChild(view, ::GetFocus())) << "its data is not there yet";
     frame.InitialUpdateFrame(nullptr, FALSE);
     CWnd *name = view.GetDlgItem(IDC_FORM_NAME), *button = view.GetDlgItem(IDC_FORM_BUTTON);
@@ -148,13 +144,9 @@ TEST(AfxFormView, KeepsItsFocusAndLeavesKeysToTheFrameFirst) {
     ::SetFocus(frame);
     view.SetFocus();
     EXPECT_EQ(::GetFocus(), button->m_hWnd) << "the one that had it";
-    BYTE held[256] = {}, before[256];
-    ::GetKeyboardState(before);
-    held[VK_CONTROL] = 0x80;
-    ::SetKeyboardState(held);
+    const HeldKeys control({VK_CONTROL});
     MSG command{name->m_hWnd, WM_KEYDOWN, 'T', 0, 0, {}}; // a key of the frame's
     EXPECT_TRUE(view.PreTranslateMessage(&command));
-    ::SetKeyboardState(before);
 }
 
 // A bar whose controls are updated like items of a menu.
@@ -176,7 +168,7 @@ END_MESSAGE_MAP()
 
 TEST(AfxCmdUI, ChecksRadiosInMenusAndAmongControls) {
     choice_frame frame;
-    ASSERT_TRUE(frame.open(plain_view));
+    frame.open<page_view>();
     CButton buttons[2];
     for (const int i : {0, 1})
         ASSERT_TRUE(buttons[i].Create("?", WS_CHILD | WS_VISIBLE | BS_RADIOBUTTON, CRect(0, 0, 9, 9), &frame,
@@ -188,9 +180,7 @@ TEST(AfxCmdUI, ChecksRadiosInMenusAndAmongControls) {
         frame.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu.GetSubMenu(1)->m_hMenu), 1);
         std::string all;
         for (CButton& button : buttons) {
-            CString text;
-            button.GetWindowText(text);
-            all += std::string(text) + (button.GetCheck() == BST_CHECKED ? "* " : " ");
+            all += text_of(button) + (button.GetCheck() == BST_CHECKED ? "* " : " ");
         }
         for (const UINT item : {0u, 1u}) {
             const UINT state = menu.GetSubMenu(1)->GetMenuState(item, MF_BYPOSITION);
@@ -210,11 +200,7 @@ TEST(AfxCmdUI, ChecksRadiosInMenusAndAmongControls) {
 
 TEST(AfxEditView, EditsFindsAndMarksItsDocument) {
     view_frame frame;
-    ASSERT_TRUE(frame.open([](view_frame& at, CCreateContext& context) {
-        context.m_pNewViewClass = RUNTIME_CLASS(CEditView);
-        return plain_view(at, context);
-    }));
-    auto& view = *static_cast<CEditView*>(frame.GetDescendantWindow(AFX_IDW_PANE_FIRST));
+    auto& view = frame.open<CEditView>();
     frame.InitialUpdateFrame(nullptr, FALSE);
     view.SetWindowText("one two One");
     frame.SendMessage(WM_COMMAND, ID_EDIT_SELECT_ALL);
@@ -235,16 +221,8 @@ TEST(AfxEditView, EditsFindsAndMarksItsDocument) {
 
 TEST(AfxEditView, PrintsAnyOfItsPagesByItself) {
     view_frame frame;
-    ASSERT_TRUE(frame.open([](view_frame& at, CCreateContext& context) {
-        context.m_pNewViewClass = RUNTIME_CLASS(printed_edit);
-        return plain_view(at, context);
-    }));
-    auto& view = *static_cast<printed_edit*>(frame.GetDescendantWindow(AFX_IDW_PANE_FIRST));
-    CDC paper;
-    CBitmap strip; // of the upper edge
-    CClientDC screen(&view);
-    ASSERT_TRUE(paper.CreateCompatibleDC(&screen) && strip.CreateCompatibleBitmap(&screen, 40, 40));
-    CBitmap* before = paper.SelectObject(&strip);
+    auto& view = frame.open<printed_edit>();
+    canvas paper(40, 40);                               // of the upper edge
     const int lines = paper.GetDeviceCaps(VERTRES) / 8; // of text at ten points: more than one page, fewer than four
     CString text;
     for (int i = 0; i < lines; ++i)
@@ -273,7 +251,6 @@ TEST(AfxEditView, PrintsAnyOfItsPagesByItself) {
     EXPECT_TRUE(prints(2)) << "though the first was not printed";
     EXPECT_FALSE(prints(4));
     view.SetWindowText("");
-    paper.SelectObject(before);
 }
 
 TEST(AfxSplitter, FollowsTheMouseToCrossingsAndBackAgain) {
@@ -328,19 +305,11 @@ IMPLEMENT_DYNCREATE(searched_view, CEditView)
 
 TEST(AfxEditView, SearchesAndReplacesByItsBox) {
     view_frame frame;
-    ASSERT_TRUE(frame.open([](view_frame& at, CCreateContext& context) {
-        context.m_pNewViewClass = RUNTIME_CLASS(searched_view);
-        return plain_view(at, context);
-    }));
-    auto& view = *static_cast<searched_view*>(frame.GetDescendantWindow(AFX_IDW_PANE_FIRST));
+    auto& view = frame.open<searched_view>();
     frame.InitialUpdateFrame(nullptr, FALSE);
     view.SetWindowText("red, green, Red, red.");
     view.SendMessage(EM_SETSEL, 0, 3);
-    const auto box = [] {
-        CString title;
-        HWND found = ::FindWindow("#32770", nullptr);
-        return CWnd::FromHandlePermanent(found);
-    };
+    const auto box = [] { return CWnd::FromHandlePermanent(thread_window("#32770")); };
     const auto press = [&](int button) { box()->SendMessage(WM_COMMAND, static_cast<WPARAM>(button)); };
     frame.SendMessage(WM_COMMAND, ID_EDIT_FIND);
     ASSERT_NE(box(), nullptr);

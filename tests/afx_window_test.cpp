@@ -1,8 +1,6 @@
 // Windows of the framework: their lives, their messages, their mistakes.
 #include "afx_test_app.h"
 
-#include <gmock/gmock.h>
-
 #include <stdexcept>
 
 using testing::ElementsAre;
@@ -79,9 +77,7 @@ TEST(AfxWindow, OwnsWhatItCreatedAndNothingElse) {
     EXPECT_FALSE(CWnd().SubclassWindow(foreign)) << "it has an object already";
     subclass.SetWindowText("through the object");
     EXPECT_THAT(subclass.seen, testing::Contains(WM_SETTEXT));
-    CString text;
-    subclass.GetWindowText(text);
-    EXPECT_STREQ(text, "through the object") << "the static control's own procedure was called";
+    EXPECT_EQ(text_of(subclass), "through the object") << "the static control's own procedure was called";
     EXPECT_EQ(subclass.Detach(), foreign);
     ::DestroyWindow(foreign);
     EXPECT_EQ(std::count(subclass.seen.begin(), subclass.seen.end(), WM_DESTROY), 0);

@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 
 #include "held_keys.h"
+#include "thread_window.h"
 #include "widget_window.h"
 
 /// Keeps commands and notifications, code first, and answers as it is told to.
@@ -61,26 +62,6 @@ inline CRect extent(const Pixels& seen, COLORREF colour, const CRect& part) {
             if (seen.at(x, y) == colour)
                 box |= CRect(x, y, x + 1, y + 1);
     return box;
-}
-
-/// A window of this thread's, of a class; null where there is none.
-inline HWND thread_window(const char* name) {
-    struct Search {
-        const char* name;
-        HWND found;
-    } search = {name, nullptr};
-    ::EnumThreadWindows(
-        ::GetCurrentThreadId(),
-        [](HWND window, LPARAM param) -> BOOL {
-            auto& search = *reinterpret_cast<Search*>(param);
-            char name[64] = "";
-            ::GetClassNameA(window, name, sizeof name);
-            if (::lstrcmpiA(name, search.name) == 0)
-                search.found = window;
-            return !search.found;
-        },
-        reinterpret_cast<LPARAM>(&search));
-    return search.found;
 }
 
 /// The front end's library of scaling, as long as the object lives.

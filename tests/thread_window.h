@@ -1,0 +1,25 @@
+// Windows of the test's thread.
+#pragma once
+
+#include <windows.h>
+
+/// One of a class, visible where that is asked for; null where there is none.
+inline HWND thread_window(const char* class_name, bool visible = false) {
+    struct Search {
+        const char* class_name;
+        bool visible;
+        HWND found;
+    } search = {class_name, visible, nullptr};
+    ::EnumThreadWindows(
+        ::GetCurrentThreadId(),
+        [](HWND window, LPARAM param) -> BOOL {
+            auto& search = *reinterpret_cast<Search*>(param);
+            char name[64] = "";
+            ::GetClassNameA(window, name, sizeof name);
+            if (::lstrcmpiA(name, search.class_name) == 0 && (!search.visible || ::IsWindowVisible(window)))
+                search.found = window;
+            return !search.found;
+        },
+        reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
