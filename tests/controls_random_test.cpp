@@ -77,10 +77,7 @@ TEST_F(ControlsAtRandom, Sash) {
     }
 }
 
-TEST_F(ControlsAtRandom, Frame) {
-    CWntFrame frame;
-    open(frame, 300, 200);
-    std::vector<std::unique_ptr<CButton>> children(8);
+TEST_F(ControlsAtRandom, Frames) {
     const char* lines[] = {":TITLE=a longer title than usual",
                            ":TITLE=",
                            ":ALIGN=TOPLEFT",
@@ -93,43 +90,36 @@ TEST_F(ControlsAtRandom, Frame) {
                            ":BORDERTYPE=FLAT",
                            ":CLRBACK=RED",
                            ":ALIGN=---"};
-    for (int i = 0; i < 1000; ++i) {
+    CWntFrame plain;
+    CWntFrameEx folding;
+    open(plain, 300, 200);
+    open(folding, 300, 200);
+    std::vector<std::unique_ptr<CButton>> children(8);
+    CButton tool;
+    ASSERT_TRUE(tool.Create("t", WS_CHILD | WS_VISIBLE, CRect(0, 0, 20, 20), &folding, 5));
+    for (int i = 0; i < 3000; ++i) {
         auto& child = children[some(7)];
+        CWntFrame& frame = some(2) ? folding : plain;
+        CWnd& content = &frame == &plain ? plain : *folding.GetContent();
         one_of({
-            [&] { make(child, frame, CRect(some(300), some(200), some(400), some(300))); },
+            [&] { make(child, content, CRect(some(300), some(200), some(400), some(300))); },
             [&] { child.reset(); },
             [&] { frame.SetAnchor(child.get(), any_share(), any_share(), any_share(), any_share()); },
             [&] { frame.RemoveAnchor(child.get()); },
             [&] { frame.LoadLine(lines[some(11)], 0), frame.LoadLine("", 2); },
             [&] { resize_or_paint(frame); },
-        });
-        const CRect content = frame.GetContentRect();
-        ASSERT_TRUE(content.Width() >= 0 && content.Height() >= 0);
-    }
-}
-
-TEST_F(ControlsAtRandom, FoldingFrame) {
-    CWntFrameEx frame;
-    open(frame, 300, 200);
-    CButton child, tool;
-    ASSERT_TRUE(child.Create("b", WS_CHILD | WS_VISIBLE, CRect(10, 10, 90, 40), frame.GetContent(), 4));
-    ASSERT_TRUE(tool.Create("t", WS_CHILD | WS_VISIBLE, CRect(0, 0, 20, 20), &frame, 5));
-    for (int i = 0; i < 1000; ++i) {
-        one_of({
-            [&] { frame.SetContentSize(any_size() - 5, any_size()); },
-            [&] { frame.ShowContent(CRect(any_size(), any_size(), any_size() - 400, any_size())); },
-            [&] { frame.SetTool(some(1) ? &tool : nullptr); },
-            [&] { frame.Fold(some(1)); },
-            [&] {
-                frame.SendMessage(WM_VSCROLL, MAKEWPARAM(some(9), some(2000)),
-                                  reinterpret_cast<LPARAM>(frame.GetDlgItem(2 + some(1))->m_hWnd));
-            },
-            [&] { frame.SetAnchor(&child, any_share(), any_share(), any_share(), any_share()); },
             [&] { input(frame); },
-            [&] { resize_or_paint(frame); },
+            [&] { folding.SetContentSize(any_size() - 5, any_size()); },
+            [&] { folding.ShowContent(CRect(any_size(), any_size(), any_size() - 400, any_size())); },
+            [&] { folding.SetTool(some(1) ? &tool : nullptr); },
+            [&] { folding.Fold(some(1)); },
+            [&] {
+                folding.SendMessage(WM_VSCROLL, MAKEWPARAM(some(9), some(2000)),
+                                    reinterpret_cast<LPARAM>(folding.GetDlgItem(2 + some(1))->m_hWnd));
+            },
         });
-        const CRect content = frame.GetContentRect();
-        ASSERT_TRUE(content.Width() >= 0 && content.Height() >= 0);
+        const CRect room = frame.GetContentRect();
+        ASSERT_TRUE(room.Width() >= 0 && room.Height() >= 0);
     }
 }
 

@@ -1,5 +1,7 @@
 #include <zopwnt.h>
 
+#include <set>
+
 // The smallest host: a window with a gauge in it. Ends with 0 when the gauge has painted its face and its value.
 namespace {
 
@@ -12,21 +14,13 @@ public:
                gauge.Create(nullptr, "Gauge", WS_CHILD | WS_VISIBLE, CRect(0, 0, 200, 200), this, 1);
     }
 
-    int colours_shown() {
+    std::size_t colours_shown() {
         CClientDC dc(this);
-        COLORREF seen[3] = {};
-        int count = 0;
-        for (int y = 0; y < 200 && count < 3; y += 2) {
-            for (int x = 0; x < 200 && count < 3; x += 2) {
-                const COLORREF colour = dc.GetPixel(x, y);
-                bool known = false;
-                for (int i = 0; i < count; ++i)
-                    known = known || seen[i] == colour;
-                if (!known)
-                    seen[count++] = colour;
-            }
-        }
-        return count;
+        std::set<COLORREF> seen;
+        for (int y = 0; y < 200; y += 2)
+            for (int x = 0; x < 200; x += 2)
+                seen.insert(dc.GetPixel(x, y));
+        return seen.size();
     }
 };
 
@@ -47,11 +41,11 @@ public:
 
     int ExitInstance() override {
         CWinApp::ExitInstance();
-        return shown_ == 3 ? 0 : 1;
+        return shown_ > 2 ? 0 : 1;
     }
 
 private:
-    int shown_ = 0;
+    std::size_t shown_ = 0;
 };
 
 HostApp app;

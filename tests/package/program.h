@@ -102,6 +102,14 @@ inline void press(HWND dialog, int button) {
                    reinterpret_cast<LPARAM>(::GetDlgItem(dialog, button)));
 }
 
+// A message with one button, beside the windows that it is about.
+inline void dismiss(const Program& program, HWND dialog = nullptr) {
+    HWND box = program.window("a message", [dialog](HWND window) {
+        return window != dialog && !::GetMenu(window) && (::GetDlgItem(window, IDOK) || ::GetDlgItem(window, IDCANCEL));
+    });
+    press(box, ::GetDlgItem(box, IDOK) ? IDOK : IDCANCEL);
+}
+
 inline void enter(HWND dialog, int field, const char* text) {
     ::SendDlgItemMessageA(dialog, field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text));
 }
