@@ -148,6 +148,8 @@ protected:
         return *result = 9, log.push_back(text("n %u", id)), handled;
     }
     void OnNotifyRange(UINT id, NMHDR*, LRESULT*) { log.push_back(text("nr %u", id)); }
+    void OnNotified(NMHDR* header, LRESULT* result) { log.push_back(text("n %u", header->code)), *result = 42; }
+    void OnControl(UINT id) { log.push_back(text("control %u", id)); }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -160,12 +162,16 @@ ON_UPDATE_COMMAND_UI_RANGE(300, 301, &commander::OnPass)
 ON_WM_TIMER()
 ON_NOTIFY_EX(NM_CLICK, 400, &commander::OnNotifyMaybe)
 ON_NOTIFY_RANGE(NM_DBLCLK, 400, 401, &commander::OnNotifyRange)
+ON_NOTIFY(103, 400, &commander::OnNotified)
+ON_CONTROL_RANGE(EN_CHANGE, 500, 501, &commander::OnControl)
 END_MESSAGE_MAP()
 
 TEST(AfxCommands, AreHandledByRangeAndAnswer) {
     commander wnd;
     ASSERT_TRUE(create_popup(wnd));
-    const auto command = [&](UINT id) { return wnd.SendMessage(WM_COMMAND, id); };
+    const auto command = [&](WORD id, WORD code = 0, HWND control = nullptr) {
+        return wnd.SendMessage(WM_COMMAND, MAKEWPARAM(id, code), reinterpret_cast<LPARAM>(control));
+    };
     EXPECT_EQ(command(100), 1);
     EXPECT_EQ(command(110), 1);
     EXPECT_EQ(command(111), 0);
@@ -173,21 +179,28 @@ TEST(AfxCommands, AreHandledByRangeAndAnswer) {
     wnd.handled = TRUE;
     EXPECT_EQ(command(200), 1);
     EXPECT_EQ(command(201), 1);
+    EXPECT_EQ(command(201, 1), 1) << "from an accelerator";
     wnd.enabled = false;
     EXPECT_EQ(command(201), 1) << "disabled: not for anybody else, either";
+    EXPECT_EQ(command(501, EN_CHANGE, wnd), 1);
+    EXPECT_EQ(command(501, EN_UPDATE, wnd) + command(501, EN_CHANGE), 0);
     wnd.SendMessage(WM_TIMER, 77);
-    EXPECT_THAT(wnd.log, ElementsAre("range 100", "range 110", "maybe 200", "maybe 200", "plain", "timer 77"));
+    EXPECT_THAT(wnd.log, ElementsAre("range 100", "range 110", "maybe 200", "maybe 200", "plain", "plain",
+                                     "control 501", "timer 77"));
 
     wnd.log.clear();
-    NMHDR header{nullptr, 400, static_cast<UINT>(NM_CLICK)};
-    EXPECT_EQ(wnd.SendMessage(WM_NOTIFY, 400, reinterpret_cast<LPARAM>(&header)), 9);
-    header.code = static_cast<UINT>(NM_DBLCLK);
-    header.idFrom = 401;
-    wnd.SendMessage(WM_NOTIFY, 401, reinterpret_cast<LPARAM>(&header));
+    const auto notify = [&](UINT id, UINT code) {
+        NMHDR header{nullptr, id, code};
+        return wnd.SendMessage(WM_NOTIFY, id, reinterpret_cast<LPARAM>(&header));
+    };
+    EXPECT_EQ(notify(400, static_cast<UINT>(NM_CLICK)), 9); // codes of the platform are negative
+    EXPECT_EQ(notify(401, static_cast<UINT>(NM_DBLCLK)), 0);
+    EXPECT_EQ(notify(400, 103), 42);
+    EXPECT_EQ(notify(400, 104), 0);
     CCmdUI item;
     item.m_nID = 300;
     EXPECT_FALSE(wnd.OnCmdMsg(300, CN_UPDATE_COMMAND_UI, &item, nullptr)) << "continued";
-    EXPECT_THAT(wnd.log, ElementsAre("n 400", "nr 401", "pass"));
+    EXPECT_THAT(wnd.log, ElementsAre("n 400", "nr 401", "n 103", "pass"));
     AFX_CMDHANDLERINFO info{};
     EXPECT_TRUE(wnd.OnCmdMsg(201, CN_COMMAND, nullptr, &info));
     EXPECT_EQ(info.pTarget, &wnd);

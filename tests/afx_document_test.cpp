@@ -1,6 +1,7 @@
 // Documents: made, changed, asked about, saved, opened again; the files that were used last; the command line.
 #include "afx_test_app.h"
 #include "modal.h"
+#include "temporary_file.h"
 
 #include <afxadv.h>
 #include <afxext.h>
@@ -80,10 +81,7 @@ protected:
     note& document() { return *static_cast<note*>(frame().GetActiveDocument()); }
     CFrameWnd& frame() { return *static_cast<CFrameWnd*>(the_app.m_pMainWnd); }
     std::string title() { return text_of(frame()); }
-    std::string on_disk() {
-        std::ifstream file(path_, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
+    std::string on_disk() { return text_of(path_); }
     void write(const std::string& text) { std::ofstream(path_, std::ios::binary) << text; }
     void command(UINT id) { frame().SendMessage(WM_COMMAND, id); }
 

@@ -256,11 +256,23 @@ TEST(AfxReBar, HoldsTheFramesBars) {
     EXPECT_THAT(frame.log, ElementsAre("on"));
 }
 
-TEST(AfxHelp, IsAskedForTheNearestWindowThatKnowsATopic) {
+class AfxHelp : public testing::Test {
+protected:
+    AfxHelp() {
+        EXPECT_TRUE(frame.open());
+        frame.settle();
+        the_app.m_pMainWnd = &frame;
+    }
+    ~AfxHelp() override {
+        the_app.helped.clear();
+        the_app.m_pMainWnd = nullptr;
+    }
+    static DWORD_PTR topic(DWORD_PTR number) { return number << 8 | HELP_CONTEXT; }
+
     bar_frame frame;
-    ASSERT_TRUE(frame.open());
-    the_app.m_pMainWnd = &frame;
-    const auto topic = [](DWORD_PTR number) { return number << 8 | HELP_CONTEXT; };
+};
+
+TEST_F(AfxHelp, IsAskedForTheNearestWindowThatKnowsATopic) {
     the_app.OnHelp();
     frame.SendMessage(WM_MENUSELECT, MAKEWPARAM(ID_TEST_ON, MF_HILITE), 0);
     the_app.OnHelp();
@@ -270,22 +282,13 @@ TEST(AfxHelp, IsAskedForTheNearestWindowThatKnowsATopic) {
     CWnd* button = dialog.GetDlgItem(IDOK);
     button->OnHelp();
     HELPINFO key{sizeof(key), HELPINFO_WINDOW, IDOK, button->m_hWnd, 0, {0, 0}};
-    dialog.SendMessage(WM_HELP, 0, reinterpret_cast<LPARAM>(&key));
-    EXPECT_THAT(the_app.helped,
-                ElementsAre(topic(0x20000 + IDR_FRAME), topic(0x10000 + ID_TEST_ON), topic(0x20000 + IDD_TEST)))
-        << "and the key only sends the command, which nobody here handles";
-    the_app.helped.clear();
+    dialog.SendMessage(WM_HELP, 0, reinterpret_cast<LPARAM>(&key)); // sends the command, which nobody here handles
     the_app.OnHelpFinder();
-    EXPECT_THAT(the_app.helped, ElementsAre(DWORD_PTR{HELP_FINDER}));
-    the_app.helped.clear();
-    the_app.m_pMainWnd = nullptr;
+    EXPECT_THAT(the_app.helped, ElementsAre(topic(0x20000 + IDR_FRAME), topic(0x10000 + ID_TEST_ON),
+                                            topic(0x20000 + IDD_TEST), DWORD_PTR{HELP_FINDER}));
 }
 
-TEST(AfxHelp, IsGivenAboutWhatIsClickedNext) {
-    bar_frame frame;
-    ASSERT_TRUE(frame.open());
-    frame.settle();
-    the_app.m_pMainWnd = &frame;
+TEST_F(AfxHelp, IsGivenAboutWhatIsClickedNext) {
     const auto click = [&](CWnd& wnd, CPoint place, UINT message, WPARAM key = 0) {
         wnd.ClientToScreen(&place);
         ::SetCursorPos(place.x, place.y);
@@ -298,10 +301,7 @@ TEST(AfxHelp, IsGivenAboutWhatIsClickedNext) {
     click(frame.tools, button.CenterPoint(), WM_LBUTTONDOWN);
     click(frame, CPoint(10, 200), WM_LBUTTONDOWN);
     click(frame.tools, button.CenterPoint(), WM_KEYDOWN, VK_ESCAPE);
-    const auto topic = [](DWORD_PTR number) { return number << 8 | HELP_CONTEXT; };
     EXPECT_THAT(the_app.helped, ElementsAre(topic(0x10000 + ID_TEST_ON), topic(0x20000 + IDR_FRAME)));
-    the_app.helped.clear();
-    the_app.m_pMainWnd = nullptr;
 }
 
 TEST(AfxFrame, KeepsTheUserOutWhileItIsModal) {

@@ -66,10 +66,6 @@ public:
 };
 IMPLEMENT_DYNCREATE(printed_edit, CEditView)
 
-BOOL dynamic_splitter(view_frame& frame, CCreateContext& context) {
-    return frame.splitter.Create(&frame, 2, 2, CSize(20, 20), &context);
-}
-
 TEST(AfxScrollView, ScrollsWithinItsDocumentInLogicalUnits) {
     view_frame frame;
     auto& view = frame.open<page_view>();
@@ -253,41 +249,6 @@ TEST(AfxEditView, PrintsAnyOfItsPagesByItself) {
     view.SetWindowText("");
 }
 
-TEST(AfxSplitter, FollowsTheMouseToCrossingsAndBackAgain) {
-    view_frame frame;
-    ASSERT_TRUE(frame.open(dynamic_splitter));
-    CSplitterWnd& splitter = frame.splitter;
-    ASSERT_TRUE(splitter.SplitRow(80) && splitter.SplitColumn(120));
-    const auto sizes = [&] {
-        int height = 0, width = 0, least = 0;
-        splitter.GetRowInfo(0, height, least);
-        splitter.GetColumnInfo(0, width, least);
-        return CSize(width, height);
-    };
-    const auto send = [&](UINT message, CPoint at) {
-        splitter.SendMessage(message, MK_LBUTTON, MAKELPARAM(at.x, at.y));
-    };
-    const CSize first = sizes();
-    const CPoint crossing(first.cx + 3, first.cy + 3);
-    send(WM_LBUTTONDOWN, crossing);
-    send(WM_MOUSEMOVE, crossing + CSize(30, 40));
-    send(WM_LBUTTONUP, crossing + CSize(30, 40));
-    EXPECT_EQ(sizes(), first + CSize(30, 40)) << "both bars at once";
-    const CPoint moved = crossing + CSize(30, 40);
-    send(WM_LBUTTONDOWN, moved);
-    send(WM_MOUSEMOVE, moved - CSize(50, 50));
-    splitter.SendMessage(WM_KEYDOWN, VK_ESCAPE);
-    EXPECT_EQ(::GetCapture(), nullptr);
-    EXPECT_EQ(sizes(), first + CSize(30, 40)) << "the user thought better of it";
-    send(WM_LBUTTONDOWN, moved);
-    splitter.SendMessage(WM_CANCELMODE);
-    EXPECT_EQ(::GetCapture(), nullptr);
-    send(WM_LBUTTONDBLCLK, CPoint(moved.x, 10));
-    EXPECT_TRUE(splitter.GetColumnCount() == 1 && splitter.GetRowCount() == 2);
-    send(WM_LBUTTONDBLCLK, CPoint(10, moved.y));
-    EXPECT_EQ(splitter.GetRowCount(), 1);
-}
-
 // Searches as its box tells it to.
 class searched_view : public CEditView {
     DECLARE_DYNCREATE(searched_view)
@@ -335,39 +296,70 @@ TEST(AfxEditView, SearchesAndReplacesByItsBox) {
     EXPECT_EQ(box(), nullptr) << "it goes with its view";
 }
 
-TEST(AfxSplitter, SplitsWherePulledAndJoinsWhatBecomesTooSmall) {
+// Panes that the user divides.
+class AfxDynamicSplitter : public testing::Test {
+protected:
+    AfxDynamicSplitter() {
+        EXPECT_TRUE(frame.open([](view_frame& at, CCreateContext& context) {
+            return at.splitter.Create(&at, 2, 2, CSize(20, 20), &context);
+        }));
+    }
+    CSize first_pane() {
+        int height = 0, width = 0;
+        splitter.GetRowInfo(0, height, least);
+        splitter.GetColumnInfo(0, width, least);
+        return CSize(width, height);
+    }
+    void send(UINT message, CPoint at) { splitter.SendMessage(message, MK_LBUTTON, MAKELPARAM(at.x, at.y)); }
+    void drag(CPoint from, CPoint to) {
+        send(WM_LBUTTONDOWN, from);
+        send(WM_MOUSEMOVE, CPoint((from.x + to.x) / 2, (from.y + to.y) / 2));
+        send(WM_LBUTTONUP, to);
+    }
+
     view_frame frame;
-    ASSERT_TRUE(frame.open(dynamic_splitter));
     CSplitterWnd& splitter = frame.splitter;
+    int least = 0;
+};
+
+TEST_F(AfxDynamicSplitter, FollowsTheMouseToCrossingsAndBackAgain) {
+    ASSERT_TRUE(splitter.SplitRow(80) && splitter.SplitColumn(120));
+    const CSize first = first_pane(), by(30, 40);
+    const CPoint crossing(first.cx + 3, first.cy + 3), moved = crossing + by;
+    drag(crossing, moved);
+    EXPECT_EQ(first_pane(), first + by) << "both bars at once";
+    send(WM_LBUTTONDOWN, moved);
+    send(WM_MOUSEMOVE, moved - CSize(50, 50));
+    splitter.SendMessage(WM_KEYDOWN, VK_ESCAPE);
+    EXPECT_EQ(::GetCapture(), nullptr);
+    EXPECT_EQ(first_pane(), first + by) << "the user thought better of it";
+    send(WM_LBUTTONDOWN, moved);
+    splitter.SendMessage(WM_CANCELMODE);
+    EXPECT_EQ(::GetCapture(), nullptr);
+    send(WM_LBUTTONDBLCLK, CPoint(moved.x, 10));
+    EXPECT_TRUE(splitter.GetColumnCount() == 1 && splitter.GetRowCount() == 2);
+    send(WM_LBUTTONDBLCLK, CPoint(10, moved.y));
+    EXPECT_EQ(splitter.GetRowCount(), 1);
+}
+
+TEST_F(AfxDynamicSplitter, SplitsWherePulledAndJoinsWhatBecomesTooSmall) {
     EXPECT_EQ(splitter.GetRowCount() * splitter.GetColumnCount(), 1);
-    CRect inside;
-    splitter.GetPane(0, 0)->GetClientRect(inside);
-    ASSERT_GT(inside.Height(), 150);
-    const auto drag = [&](CPoint from, CPoint to) {
-        splitter.SendMessage(WM_LBUTTONDOWN, 0, MAKELPARAM(from.x, from.y));
-        splitter.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM((from.x + to.x) / 2, (from.y + to.y) / 2));
-        splitter.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(to.x, to.y));
-    };
     CRect client;
     splitter.GetClientRect(client);
     drag(CPoint(client.right - 4, 3), CPoint(client.right - 4, 100)); // the box above the scroll bar
     ASSERT_EQ(splitter.GetRowCount(), 2);
-    int height = 0, least = 0;
-    splitter.GetRowInfo(0, height, least);
-    EXPECT_NEAR(height, 97, 4);
+    EXPECT_NEAR(first_pane().cy, 97, 4);
     EXPECT_EQ(least, 20);
     EXPECT_TRUE(splitter.GetPane(1, 0)->IsKindOf(RUNTIME_CLASS(page_view)));
-    drag(CPoint(50, height + 3), CPoint(50, 150));
-    splitter.GetRowInfo(0, height, least);
-    EXPECT_NEAR(height, 147, 4);
+    drag(CPoint(50, first_pane().cy + 3), CPoint(50, 150));
+    EXPECT_NEAR(first_pane().cy, 147, 4);
     EXPECT_TRUE(splitter.SplitColumn(120));
     EXPECT_EQ(splitter.GetColumnCount(), 2);
     frame.SetActiveView(static_cast<CView*>(splitter.GetPane(0, 0)));
     frame.SendMessage(WM_COMMAND, ID_NEXT_PANE);
     EXPECT_EQ(frame.GetActiveView(), splitter.GetPane(0, 1));
     EXPECT_FALSE(splitter.SplitRow(5)) << "there are two already";
-    splitter.GetRowInfo(0, height, least);
-    drag(CPoint(20, height + 3), CPoint(20, 5));
+    drag(CPoint(20, first_pane().cy + 3), CPoint(20, 5));
     EXPECT_EQ(splitter.GetRowCount(), 1) << "the upper row became too small";
     EXPECT_NE(splitter.GetPane(0, 1), nullptr);
     EXPECT_EQ(splitter.GetPane(1, 0), nullptr);

@@ -47,26 +47,6 @@ protected:
     }
 };
 
-// A strip of plain squares.
-inline HBITMAP strip(int size, std::initializer_list<COLORREF> colours) {
-    Picture picture(size * static_cast<int>(colours.size()), size);
-    int x = 0;
-    const HDC screen = ::GetDC(nullptr);
-    const HDC dc = ::CreateCompatibleDC(screen);
-    const HBITMAP bitmap = ::CreateCompatibleBitmap(screen, picture.width(), size);
-    const HGDIOBJ before = ::SelectObject(dc, bitmap);
-    for (const COLORREF colour : colours) {
-        const RECT square = {x, 0, x += size, size};
-        const HBRUSH brush = ::CreateSolidBrush(colour);
-        ::FillRect(dc, &square, brush);
-        ::DeleteObject(brush);
-    }
-    ::SelectObject(dc, before);
-    ::DeleteDC(dc);
-    ::ReleaseDC(nullptr, screen);
-    return bitmap;
-}
-
 class ToolBar : public ControlTest<ToolHost> {
 protected:
     void SetUp() override {
@@ -81,9 +61,16 @@ protected:
     void open() {
         bar_ = new Trapping<CWntToolBar>;
         ASSERT_TRUE(bar_->Create(nullptr, "", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 400, 26), &host_, 9));
-        const HBITMAP pictures = strip(16, {red, green, key_colour});
-        EXPECT_EQ(bar_->SetPictures(pictures, nullptr, key_colour), 1);
-        ::DeleteObject(pictures);
+        CClientDC screen(nullptr);
+        CDC dc;
+        CBitmap squares;
+        ASSERT_TRUE(dc.CreateCompatibleDC(&screen) && squares.CreateCompatibleBitmap(&screen, 48, 16));
+        CBitmap* before = dc.SelectObject(&squares);
+        int x = 0;
+        for (const COLORREF colour : {red, green, key_colour})
+            dc.FillSolidRect(std::exchange(x, x + 16), 0, 16, 16, colour);
+        dc.SelectObject(before);
+        EXPECT_EQ(bar_->SetPictures(squares, nullptr, key_colour), 1);
     }
     void script(std::initializer_list<const char*> lines) {
         bar_->LoadLine("", 1);
