@@ -10,13 +10,10 @@ namespace {
 
 UINT registered = ::RegisterWindowMessage("afx_command_test");
 
-std::string text(const char* format, ...) {
-    char buffer[128];
-    va_list arguments;
-    va_start(arguments, format);
-    std::vsnprintf(buffer, sizeof(buffer), format, arguments);
-    va_end(arguments);
-    return buffer;
+template <class... Numbers> std::string text(const char* name, Numbers... numbers) {
+    std::string all = name;
+    ((all += " " + std::to_string(numbers)), ...);
+    return all;
 }
 
 // Writes down each message as its handler sees it.
@@ -26,10 +23,10 @@ public:
     using CWnd::WindowProc;
 
 protected:
-    void note(const char* name, long long a = -1, long long b = -1, long long c = -1) {
-        log.push_back(text("%s %lld %lld %lld", name, a, b, c));
+    template <class... Numbers> void note(const char* name, Numbers... numbers) {
+        log.push_back(text(name, numbers...));
     }
-    long long is(CWnd* wnd) { return wnd == this; }
+    int is(CWnd* wnd) { return wnd == this; }
     void OnMove(int x, int y) { note("move", x, y); }
     void OnKeyDown(UINT key, UINT count, UINT flags) { note("key", key, count, flags); }
     void OnNcLButtonDown(UINT hit, CPoint at) { note("nc", hit, at.x, at.y); }
@@ -44,13 +41,13 @@ protected:
     UINT OnGetDlgCode() { return note("code"), DLGC_WANTARROWS; }
     BOOL OnQueryEndSession() { return note("query"), FALSE; }
     void OnGetMinMaxInfo(MINMAXINFO* info) { info->ptMinTrackSize = {11, 12}; }
-    void OnTimer(UINT_PTR id) { note("timer", static_cast<long long>(id)); }
-    void OnSettingChange(UINT flags, LPCTSTR section) { log.push_back(text("setting %u %s", flags, section)); }
+    void OnTimer(UINT_PTR id) { note("timer", id); }
+    void OnSettingChange(UINT flags, LPCTSTR section) { log.push_back(text("setting", flags) + " " + section); }
     BOOL OnCopyData(CWnd* from, COPYDATASTRUCT* data) { return note("copy", is(from), data->cbData), TRUE; }
     void OnDisplayChange(UINT depth, int cx, int cy) { note("display", depth, cx, cy); }
     void OnParentNotify(UINT message, LPARAM) { note("parent", LOWORD(message), HIWORD(message)); }
-    LRESULT OnOwn(WPARAM w, LPARAM l) { return note("own", static_cast<long long>(w), l), 42; }
-    LRESULT OnRegistered(WPARAM w, LPARAM) { return note("registered", static_cast<long long>(w)), 43; }
+    LRESULT OnOwn(WPARAM w, LPARAM l) { return note("own", w, l), 42; }
+    LRESULT OnRegistered(WPARAM w, LPARAM) { return note("registered", w), 43; }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -95,26 +92,26 @@ TEST(AfxMessageMap, HandlersSeeTheParametersOfTheirMessages) {
         const char* seen;
         LRESULT answer;
     } cases[] = {
-        {WM_MOVE, 0, point, "move -3 4 -1", 0},
+        {WM_MOVE, 0, point, "move -3 4", 0},
         {WM_KEYDOWN, VK_UP, MAKELPARAM(1, 0x148), "key 38 1 328", 0},
         {WM_NCLBUTTONDOWN, HTCAPTION, point, "nc 2 -3 4", 0},
         {WM_ACTIVATE, MAKEWPARAM(WA_CLICKACTIVE, 1), self, "activate 2 1 1", 0},
-        {WM_SHOWWINDOW, TRUE, SW_PARENTOPENING, "show 1 3 -1", 0},
-        {WM_CAPTURECHANGED, 0, self, "capture 1 -1 -1", 0},
+        {WM_SHOWWINDOW, TRUE, SW_PARENTOPENING, "show 1 3", 0},
+        {WM_CAPTURECHANGED, 0, self, "capture 1", 0},
         {WM_CONTEXTMENU, static_cast<WPARAM>(self), -1, "context 1 -1 -1", 0},
-        {WM_SYSCOMMAND, SC_KEYMENU, 'x', "sys 61696 120 -1", 0},
+        {WM_SYSCOMMAND, SC_KEYMENU, 'x', "sys 61696 120", 0},
         {WM_SETCURSOR, static_cast<WPARAM>(self), MAKELPARAM(HTCLIENT, WM_MOUSEMOVE), "cursor 1 1 512", 1},
         {WM_MOUSEACTIVATE, static_cast<WPARAM>(self), MAKELPARAM(HTCLIENT, WM_LBUTTONDOWN), "click 1 1 513", 3},
-        {WM_NCACTIVATE, TRUE, 0, "ncactivate 1 -1 -1", 1},
-        {WM_GETDLGCODE, 0, 0, "code -1 -1 -1", DLGC_WANTARROWS},
-        {WM_QUERYENDSESSION, 0, 0, "query -1 -1 -1", 0},
-        {WM_TIMER, 0x123456789, 0, "timer 4886718345 -1 -1", 0},
+        {WM_NCACTIVATE, TRUE, 0, "ncactivate 1", 1},
+        {WM_GETDLGCODE, 0, 0, "code", DLGC_WANTARROWS},
+        {WM_QUERYENDSESSION, 0, 0, "query", 0},
+        {WM_TIMER, 0x123456789, 0, "timer 4886718345", 0},
         {WM_SETTINGCHANGE, 9, reinterpret_cast<LPARAM>("intl"), "setting 9 intl", 0},
-        {WM_COPYDATA, static_cast<WPARAM>(self), reinterpret_cast<LPARAM>(&data), "copy 1 5 -1", 1},
+        {WM_COPYDATA, static_cast<WPARAM>(self), reinterpret_cast<LPARAM>(&data), "copy 1 5", 1},
         {WM_DISPLAYCHANGE, 32, MAKELPARAM(640, 480), "display 32 640 480", 0},
-        {WM_PARENTNOTIFY, MAKEWPARAM(WM_LBUTTONDOWN, 9), point, "parent 513 9 -1", 0},
-        {WM_USER + 3, 5, -6, "own 5 -6 -1", 42},
-        {registered, 8, 0, "registered 8 -1 -1", 43},
+        {WM_PARENTNOTIFY, MAKEWPARAM(WM_LBUTTONDOWN, 9), point, "parent 513 9", 0},
+        {WM_USER + 3, 5, -6, "own 5 -6", 42},
+        {registered, 8, 0, "registered 8", 43},
     };
     for (const auto& one : cases) {
         wnd.log.clear();
@@ -135,21 +132,19 @@ public:
     bool enabled = true;
 
 protected:
-    void OnRange(UINT id) { log.push_back(text("range %u", id)); }
-    BOOL OnMaybe(UINT id) { return log.push_back(text("maybe %u", id)), handled; }
+    void OnRange(UINT id) { log.push_back(text("range", id)); }
+    BOOL OnMaybe(UINT id) { return log.push_back(text("maybe", id)), handled; }
     void OnPlain() { log.push_back("plain"); }
-    void OnTimer(UINT id) { log.push_back(text("timer %u", id)); } // as older programs write it
+    void OnTimer(UINT id) { log.push_back(text("timer", id)); } // as older programs write it
     void OnUpdate(CCmdUI* item) { item->Enable(enabled); }
     void OnPass(CCmdUI* item) {
         log.push_back("pass");
         item->ContinueRouting();
     }
-    BOOL OnNotifyMaybe(UINT id, NMHDR*, LRESULT* result) {
-        return *result = 9, log.push_back(text("n %u", id)), handled;
-    }
-    void OnNotifyRange(UINT id, NMHDR*, LRESULT*) { log.push_back(text("nr %u", id)); }
-    void OnNotified(NMHDR* header, LRESULT* result) { log.push_back(text("n %u", header->code)), *result = 42; }
-    void OnControl(UINT id) { log.push_back(text("control %u", id)); }
+    BOOL OnNotifyMaybe(UINT id, NMHDR*, LRESULT* result) { return *result = 9, log.push_back(text("n", id)), handled; }
+    void OnNotifyRange(UINT id, NMHDR*, LRESULT*) { log.push_back(text("nr", id)); }
+    void OnNotified(NMHDR* header, LRESULT* result) { log.push_back(text("n", header->code)), *result = 42; }
+    void OnControl(UINT id) { log.push_back(text("control", id)); }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -216,11 +211,11 @@ protected:
     BOOL OnClicked() { return log.push_back("clicked"), keeps; }
     void OnNotified(NMHDR*, LRESULT* result) { log.push_back("notified"), *result = 5; }
     HBRUSH CtlColor(CDC* dc, UINT kind) {
-        log.push_back(text("color %u", kind));
+        log.push_back(text("color", kind));
         return keeps && dc != nullptr ? static_cast<HBRUSH>(::GetStockObject(BLACK_BRUSH)) : nullptr;
     }
-    void HScroll(UINT code, UINT position) { log.push_back(text("scroll %u %u", code, position)); }
-    void DrawItem(LPDRAWITEMSTRUCT item) { log.push_back(text("draw %u", item->itemID)); }
+    void HScroll(UINT code, UINT position) { log.push_back(text("scroll", code, position)); }
+    void DrawItem(LPDRAWITEMSTRUCT item) { log.push_back(text("draw", item->itemID)); }
     int CompareItem(LPCOMPAREITEMSTRUCT) { return log.push_back("compare"), -1; }
     void OnUpdateSelf(CCmdUI* item) { log.push_back("update"), item->Enable(FALSE); }
     DECLARE_MESSAGE_MAP()

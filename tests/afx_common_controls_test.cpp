@@ -366,8 +366,10 @@ TEST_F(AfxCommonControls, BitmapButtonsShowTheBitmapOfTheirState) {
     CRect size;
     button.GetClientRect(size);
     EXPECT_EQ(size.Size(), CSize(8, 8));
+    button.RedrawWindow();
+    CClientDC dc(&button);
+    EXPECT_EQ(dc.GetPixel(4, 4), RGB(255, 0, 0)) << "it draws itself, whoever is asked to";
     const auto shows = [&](UINT state) {
-        CClientDC dc(&button);
         DRAWITEMSTRUCT item{};
         item.itemState = state;
         item.hDC = dc;

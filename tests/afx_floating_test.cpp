@@ -38,6 +38,11 @@ public:
         wnd.GetWindowRect(rect);
         return rect;
     }
+    CFrameWnd& floated(CToolBar& bar) {
+        FloatControlBar(&bar, CPoint(150, 120));
+        RecalcLayout();
+        return around(bar);
+    }
     CFrameWnd& around(CToolBar& bar) { return *static_cast<CFrameWnd*>(CWnd::FromHandle(::GetAncestor(bar, GA_ROOT))); }
     int toggled = 0;
     std::function<void()> look;
@@ -57,15 +62,19 @@ BEGIN_MESSAGE_MAP(docking_frame, CFrameWnd)
 ON_COMMAND(ID_TEST_ON, &docking_frame::OnOn)
 END_MESSAGE_MAP()
 
-TEST(AfxFloating, ABarFloatsKeepsItsCommandsAndComesBack) {
+class AfxFloating : public testing::Test {
+protected:
+    AfxFloating() { EXPECT_TRUE(frame.open()); }
     docking_frame frame;
-    ASSERT_TRUE(frame.open());
+};
+using AfxDockState = AfxFloating;
+using AfxMiniFrame = AfxFloating;
+
+TEST_F(AfxFloating, ABarFloatsKeepsItsCommandsAndComesBack) {
     const int docked_top = frame.on_screen(frame.more).top;
-    frame.FloatControlBar(&frame.tools, CPoint(150, 120));
-    frame.RecalcLayout();
+    CFrameWnd& small = frame.floated(frame.tools);
     EXPECT_TRUE(frame.tools.IsFloating());
     EXPECT_LT(frame.on_screen(frame.more).top, docked_top) << "its row is gone";
-    CFrameWnd& small = frame.around(frame.tools);
     ASSERT_NE(&small, &frame);
     EXPECT_EQ(frame.on_screen(small).TopLeft(), CPoint(150, 120));
     EXPECT_TRUE(small.IsWindowVisible());
@@ -99,9 +108,7 @@ TEST(AfxFloating, ABarFloatsKeepsItsCommandsAndComesBack) {
     EXPECT_EQ(frame.tools.GetBarStyle() & CBRS_ALIGN_ANY, static_cast<DWORD>(CBRS_ALIGN_LEFT)) << "where it was";
 }
 
-TEST(AfxFloating, ABarIsDockedWhereItIsDroppedNearASide) {
-    docking_frame frame;
-    ASSERT_TRUE(frame.open());
+TEST_F(AfxFloating, ABarIsDockedWhereItIsDroppedNearASide) {
     frame.more.EnableDocking(CBRS_ALIGN_TOP | CBRS_ALIGN_RIGHT);
     CRect inside;
     frame.GetClientRect(inside);
@@ -115,9 +122,9 @@ TEST(AfxFloating, ABarIsDockedWhereItIsDroppedNearASide) {
                 {{inside.right - 5, middle.y}, CBRS_ALIGN_RIGHT},
                 {{middle.x, inside.top + 5}, CBRS_ALIGN_TOP}};
     for (const auto& row : rows) {
-        frame.FloatControlBar(&frame.more, CPoint(150, 120));
+        CFrameWnd& small = frame.floated(frame.more);
         ::SetCursorPos(row.dropped.x, row.dropped.y);
-        frame.around(frame.more).SendMessage(WM_EXITSIZEMOVE);
+        small.SendMessage(WM_EXITSIZEMOVE);
         const DWORD side = frame.more.IsFloating() ? 0 : frame.more.GetBarStyle() & CBRS_ALIGN_ANY;
         EXPECT_EQ(side, row.side) << row.dropped.x;
     }
@@ -132,9 +139,7 @@ CPoint first_change(const CRect& area, const std::vector<COLORREF>& before, cons
     return {-1, -1};
 }
 
-TEST(AfxFloating, ADraggedBarShowsWhereItWouldBe) {
-    docking_frame frame;
-    ASSERT_TRUE(frame.open());
+TEST_F(AfxFloating, ADraggedBarShowsWhereItWouldBe) {
     CRect inside;
     frame.GetClientRect(inside);
     frame.ClientToScreen(inside);
@@ -175,11 +180,8 @@ TEST(AfxFloating, ADraggedBarShowsWhereItWouldBe) {
     }
 }
 
-TEST(AfxFloating, ABarIsResizedByWholeLinesOfButtons) {
-    docking_frame frame;
-    ASSERT_TRUE(frame.open());
-    frame.FloatControlBar(&frame.tools, CPoint(150, 120));
-    CFrameWnd& small = frame.around(frame.tools);
+TEST_F(AfxFloating, ABarIsResizedByWholeLinesOfButtons) {
+    CFrameWnd& small = frame.floated(frame.tools);
     const CRect wide = frame.on_screen(small);
     CRect rect = wide;
     rect.right -= wide.Width() / 2;
@@ -197,9 +199,7 @@ TEST(AfxFloating, ABarIsResizedByWholeLinesOfButtons) {
     EXPECT_EQ(rect.Size(), wide.Size());
 }
 
-TEST(AfxDockState, PutsEveryBarBackWhereItWas) {
-    docking_frame frame;
-    ASSERT_TRUE(frame.open());
+TEST_F(AfxDockState, PutsEveryBarBackWhereItWas) {
     frame.DockControlBar(&frame.tools, AFX_IDW_DOCKBAR_TOP); // the second row now
     frame.RecalcLayout();
     const auto places = [&] {
@@ -239,9 +239,7 @@ TEST(AfxDockState, PutsEveryBarBackWhereItWas) {
     EXPECT_EQ(places(), in_rows);
 }
 
-TEST(AfxMiniFrame, IsASmallPopupOfItsOwner) {
-    docking_frame frame;
-    ASSERT_TRUE(frame.open());
+TEST_F(AfxMiniFrame, IsASmallPopupOfItsOwner) {
     auto* small = new CMiniFrameWnd; // deletes itself
     ASSERT_TRUE(small->Create(nullptr, "Tools", WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_VISIBLE | MFS_MOVEFRAME,
                               CRect(100, 100, 200, 180), &frame));

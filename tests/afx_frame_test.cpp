@@ -1,6 +1,7 @@
 // Frames with menus, bars and what they show while the program is idle.
 #include "afx_test_app.h"
 #include "held_keys.h"
+#include "trapping.h"
 
 #include <afxext.h>
 #include <afxpriv.h>
@@ -56,9 +57,19 @@ ON_UPDATE_COMMAND_UI(ID_TEST_CHECKED, &bar_frame::OnUpdateChecked)
 ON_UPDATE_COMMAND_UI(ID_TEST_PANE, &bar_frame::OnUpdatePane)
 END_MESSAGE_MAP()
 
-TEST(AfxFrame, UpdatesItsMenuToolbarAndPanesByItsHandlers) {
+class AfxFrame : public testing::Test {
+protected:
+    AfxFrame() {
+        EXPECT_TRUE(frame.open());
+        frame.settle();
+    }
+
     bar_frame frame;
-    ASSERT_TRUE(frame.open());
+};
+using AfxToolBar = AfxFrame;
+using AfxReBar = AfxFrame;
+
+TEST_F(AfxFrame, UpdatesItsMenuToolbarAndPanesByItsHandlers) {
     const UINT panes[] = {ID_SEPARATOR, ID_TEST_PANE, ID_INDICATOR_CAPS};
     ASSERT_TRUE(frame.status.SetIndicators(panes, 3));
     frame.settle();
@@ -93,9 +104,7 @@ TEST(AfxFrame, UpdatesItsMenuToolbarAndPanesByItsHandlers) {
     EXPECT_THAT(frame.log, ElementsAre("on"));
 }
 
-TEST(AfxFrame, ShowsPromptsOfMenusAndOfButtonsUnderThePointer) {
-    bar_frame frame;
-    ASSERT_TRUE(frame.open());
+TEST_F(AfxFrame, ShowsPromptsOfMenusAndOfButtonsUnderThePointer) {
     const UINT panes[] = {ID_SEPARATOR};
     frame.status.SetIndicators(panes, 1);
     frame.settle();
@@ -124,9 +133,7 @@ TEST(AfxFrame, ShowsPromptsOfMenusAndOfButtonsUnderThePointer) {
     EXPECT_STREQ(tip.szText, "On");
 }
 
-TEST(AfxFrame, LaysOutDockedBarsAndRemembersThem) {
-    bar_frame frame;
-    ASSERT_TRUE(frame.open());
+TEST_F(AfxFrame, LaysOutDockedBarsAndRemembersThem) {
     CWnd client;
     ASSERT_TRUE(client.Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 1, 1), &frame, AFX_IDW_PANE_FIRST));
     frame.tools.EnableDocking(CBRS_ALIGN_ANY);
@@ -170,9 +177,7 @@ TEST(AfxFrame, LaysOutDockedBarsAndRemembersThem) {
         << "a side that the bar refuses";
 }
 
-TEST(AfxFrame, DialogBarsUpdateTheirControlsAndSendTheirCommands) {
-    bar_frame frame;
-    ASSERT_TRUE(frame.open());
+TEST_F(AfxFrame, DialogBarsUpdateTheirControlsAndSendTheirCommands) {
     ASSERT_TRUE(frame.dialog.Create(&frame, IDD_FORM, CBRS_BOTTOM | WS_VISIBLE, 0xE860));
     frame.settle();
     frame.RecalcLayout();
@@ -182,16 +187,7 @@ TEST(AfxFrame, DialogBarsUpdateTheirControlsAndSendTheirCommands) {
     EXPECT_THAT(frame.log, ElementsAre("on"));
 }
 
-TEST(AfxFrame, RefusesAMenuThatIsNotThere) {
-    auto* frame = new CFrameWnd; // deletes itself
-    EXPECT_FALSE(frame->Create(nullptr, "x", WS_OVERLAPPEDWINDOW, CFrameWnd::rectDefault, nullptr, "NoSuchMenu"));
-    CToolBar bar;
-    EXPECT_FALSE(bar.LoadToolBar(999));
-}
-
-TEST(AfxFrame, ButtonsAndPanesKeepTheirStyles) {
-    bar_frame frame;
-    ASSERT_TRUE(frame.open());
+TEST_F(AfxFrame, ButtonsAndPanesKeepTheirStyles) {
     CToolBar& bar = frame.tools;
     EXPECT_EQ(bar.CommandToIndex(ID_TEST_CHECKED), 3);
     EXPECT_EQ(bar.GetItemID(2), 0u) << "the gap";
@@ -216,11 +212,11 @@ TEST(AfxFrame, ButtonsAndPanesKeepTheirStyles) {
     EXPECT_LT(before.Width(), after.Width());
     EXPECT_EQ(frame.status.GetPaneStyle(1), static_cast<UINT>(SBPS_POPOUT));
     EXPECT_FALSE(frame.status.SetPaneText(2, "none such"));
+    auto* without = new CFrameWnd; // deletes itself
+    EXPECT_FALSE(without->Create(nullptr, "x", WS_OVERLAPPEDWINDOW, CFrameWnd::rectDefault, nullptr, "NoSuchMenu"));
 }
 
-TEST(AfxToolBar, HasABackgroundWhereTheFrameLeavesItsOwnToTheView) {
-    bar_frame frame;
-    ASSERT_TRUE(frame.open());
+TEST_F(AfxToolBar, HasABackgroundWhereTheFrameLeavesItsOwnToTheView) {
     CCreateContext context;
     context.m_pNewViewClass = RUNTIME_CLASS(CEditView);
     auto* view = static_cast<CView*>(frame.CreateView(&context));
@@ -232,9 +228,7 @@ TEST(AfxToolBar, HasABackgroundWhereTheFrameLeavesItsOwnToTheView) {
     frame.SetActiveView(nullptr);
 }
 
-TEST(AfxReBar, HoldsTheFramesBars) {
-    bar_frame frame;
-    ASSERT_TRUE(frame.open());
+TEST_F(AfxReBar, HoldsTheFramesBars) {
     CReBar rebar;
     ASSERT_TRUE(rebar.Create(&frame));
     const CSize wanted = frame.tools.CalcFixedLayout(FALSE, TRUE);
@@ -256,20 +250,14 @@ TEST(AfxReBar, HoldsTheFramesBars) {
     EXPECT_THAT(frame.log, ElementsAre("on"));
 }
 
-class AfxHelp : public testing::Test {
+class AfxHelp : public AfxFrame {
 protected:
-    AfxHelp() {
-        EXPECT_TRUE(frame.open());
-        frame.settle();
-        the_app.m_pMainWnd = &frame;
-    }
+    AfxHelp() { the_app.m_pMainWnd = &frame; }
     ~AfxHelp() override {
         the_app.helped.clear();
         the_app.m_pMainWnd = nullptr;
     }
     static DWORD_PTR topic(DWORD_PTR number) { return number << 8 | HELP_CONTEXT; }
-
-    bar_frame frame;
 };
 
 TEST_F(AfxHelp, IsAskedForTheNearestWindowThatKnowsATopic) {
@@ -304,9 +292,9 @@ TEST_F(AfxHelp, IsGivenAboutWhatIsClickedNext) {
     EXPECT_THAT(the_app.helped, ElementsAre(topic(0x10000 + ID_TEST_ON), topic(0x20000 + IDR_FRAME)));
 }
 
-TEST(AfxFrame, KeepsTheUserOutWhileItIsModal) {
-    bar_frame frame, other;
-    ASSERT_TRUE(frame.open() && other.open());
+TEST_F(AfxFrame, KeepsTheUserOutWhileItIsModal) {
+    bar_frame other;
+    ASSERT_TRUE(other.open());
     CDialog shown, disabled;
     ASSERT_TRUE(shown.Create(IDD_TEST, &frame) && disabled.Create(IDD_TEST, &frame));
     disabled.EnableWindow(FALSE);
@@ -321,18 +309,11 @@ TEST(AfxFrame, KeepsTheUserOutWhileItIsModal) {
     EXPECT_FALSE(disabled.IsWindowEnabled()) << "as it was";
 }
 
-// Objects whose memory goes with them, so that whoever touches one then is seen.
-template <class Base> class fenced : public Base {
-public:
-    static void* operator new(std::size_t size) { return ::VirtualAlloc(nullptr, size, MEM_COMMIT, PAGE_READWRITE); }
-    static void operator delete(void* at) { ::VirtualFree(at, 0, MEM_RELEASE); }
-};
-
 // Ends one of its windows, or itself, while commands are updated.
-class ending_frame : public fenced<CFrameWnd> {
+class ending_frame : public Trapping<CFrameWnd> {
 public:
     template <class Bar> Bar* add() {
-        auto* bar = new fenced<Bar>;
+        auto* bar = new Trapping<Bar>;
         bar->m_bAutoDelete = TRUE;
         return bar;
     }
@@ -359,7 +340,7 @@ BEGIN_MESSAGE_MAP(ending_frame, CFrameWnd)
 ON_UPDATE_COMMAND_UI_RANGE(ID_TEST_ON, ID_TEST_PANE, &ending_frame::OnUpdate)
 END_MESSAGE_MAP()
 
-TEST(AfxFrame, UpdateHandlersMayEndWhatIsUpdated) {
+TEST_F(AfxFrame, UpdateHandlersMayEndWhatIsUpdated) {
     using Part = CWnd* (*)(ending_frame&);
     const Part whole = [](ending_frame& frame) -> CWnd* { return &frame; };
     const Part parts[] = {[](ending_frame& frame) -> CWnd* { return frame.tools; },

@@ -58,12 +58,7 @@ std::string shown_at(CWnd& wnd, CPoint point) {
     if (::SendMessage(tip, TTM_GETTOOLCOUNT, 0, 0) == 0)
         return "";
     CWnd::WalkPreTranslateTree(nullptr, &move);
-    MSG message;
-    for (const DWORD start = ::GetTickCount(); !::IsWindowVisible(tip) && ::GetTickCount() - start < 3000;) {
-        ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 20, QS_ALLINPUT);
-        while (::PeekMessage(&message, nullptr, 0, 0, PM_REMOVE))
-            ::DispatchMessage(&message);
-    }
+    pumped_until([&] { return ::IsWindowVisible(tip); });
     return ::IsWindowVisible(tip) ? text_of(*CWnd::FromHandle(tip)) : "";
 }
 

@@ -120,14 +120,4 @@ TEST(AfxMemFile, GrowsUnlessItsMemoryIsTheCallers) {
     EXPECT_EQ(cause_of<CFileException>([&] { fixed.Write("x", 1); }), CFileException::diskFull);
 }
 
-TEST(AfxDump, WritesPlacesAsNumbers) {
-    CMemFile file;
-    CDumpContext dump(&file);
-    dump << CPoint(1, -2) << CSize(3, 4) << CRect(5, 6, 7, 8);
-    char text[64] = "";
-    file.SeekToBegin();
-    file.Read(text, sizeof(text) - 1);
-    EXPECT_STREQ(text, "(1, -2)(3 x 4)(L 5, T 6, R 7, B 8)");
-}
-
 } // namespace

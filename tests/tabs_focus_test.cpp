@@ -2,33 +2,20 @@
 
 namespace {
 
-class FocusHost : public CWnd {
-public:
-    std::function<void()> on_lost_focus = [] {};
-    std::vector<UINT> told;
-
-protected:
-    BOOL OnCommand(WPARAM wParam, LPARAM) override {
-        if (HIWORD(wParam) == EN_KILLFOCUS)
-            on_lost_focus();
-        return TRUE;
-    }
-    BOOL OnNotify(WPARAM, LPARAM lParam, LRESULT*) override {
-        told.push_back(reinterpret_cast<NMHDR*>(lParam)->code);
-        return TRUE;
-    }
-};
-
 // Tabs whose pages hold inputs, which tell the host when they lose the focus.
-class TabsFocus : public ControlTest<FocusHost> {
+class TabsFocus : public ControlTest<AnsweringHost<WntTabsNotify>> {
 protected:
     void TearDown() override {
         delete tabs_;
         ControlTest::TearDown();
     }
     void open() {
-        host_.on_lost_focus = [] {};
+        lost_focus_ = [] {};
         host_.told.clear();
+        host_.on_message = [&](UINT message) {
+            if (message == WM_COMMAND && HIWORD(std::get<1>(host_.seen.back())) == EN_KILLFOCUS)
+                lost_focus_();
+        };
         delete tabs_;
         tabs_ = new Trapping<CWntTabs>;
         ASSERT_TRUE(tabs_->Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &host_, 9));
@@ -49,6 +36,7 @@ protected:
         tabs_->PreTranslateMessage(&m);
     }
 
+    std::function<void()> lost_focus_;
     CWntTabs* tabs_ = nullptr;
     std::unique_ptr<CWntFrame> pages_[3];
     std::unique_ptr<CEdit> inputs_[3];
@@ -69,7 +57,7 @@ TEST_F(TabsFocus, APageThatLosesItMayEndTheTabs) {
     int way = 0;
     for (const auto& leave : ways) {
         open();
-        host_.on_lost_focus = [&] { delete std::exchange(tabs_, nullptr); };
+        lost_focus_ = [&] { delete std::exchange(tabs_, nullptr); };
         leave();
         EXPECT_FALSE(tabs_) << way;
         EXPECT_FALSE(pages_[0]->m_hWnd || pages_[1]->m_hWnd) << way;
@@ -91,7 +79,7 @@ TEST_F(TabsFocus, APageThatLosesItMaySelectAnother) {
     for (const int chosen : {0, 2}) {
         open();
         bool told = false;
-        host_.on_lost_focus = [&] {
+        lost_focus_ = [&] {
             if (!std::exchange(told, true))
                 tabs_->Select(chosen);
         };
@@ -99,7 +87,7 @@ TEST_F(TabsFocus, APageThatLosesItMaySelectAnother) {
         EXPECT_EQ(tabs_->GetSelected(), chosen);
         for (int i = 0; i < 3; ++i)
             EXPECT_EQ(pages_[i]->IsWindowVisible() != FALSE, i == chosen) << i << " of " << chosen;
-        EXPECT_THAT(host_.told, testing::ElementsAre(WNT_TABS_SELECTING)) << "another one is selected";
+        EXPECT_THAT(host_.told, testing::ElementsAre(std::tuple(WNT_TABS_SELECTING))) << "another one is selected";
     }
 }
 

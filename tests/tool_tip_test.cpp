@@ -54,15 +54,6 @@ protected:
         ::SetCursorPos(screen.x, screen.y);
         relay(WM_MOUSEMOVE, at);
     }
-    template <class Condition> bool pumped_until(Condition condition, DWORD limit = 3000) {
-        MSG message;
-        for (const DWORD start = ::GetTickCount(); !condition() && ::GetTickCount() - start < limit;) {
-            ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 20, QS_ALLINPUT);
-            while (::PeekMessage(&message, nullptr, 0, 0, PM_REMOVE))
-                ::DispatchMessage(&message);
-        }
-        return condition();
-    }
     // What shows after the pointer came to a point; empty where nothing does.
     std::string shown_at(CPoint at, DWORD limit = 3000) {
         point_at(at);
