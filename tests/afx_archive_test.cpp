@@ -43,14 +43,6 @@ IMPLEMENT_SERIAL(strict_node, CObject, 1)
 
 namespace {
 
-void store(CMemFile& file, const std::function<void(CArchive&)>& work) {
-    file.SetLength(0);
-    CArchive ar(&file, CArchive::store, 128);
-    work(ar);
-    ar.Close();
-    file.SeekToBegin();
-}
-
 TEST(AfxArchive, TextsMayBeOfAnyLength) {
     const int lengths[] = {0, 254, 255, 0xFFFD, 0xFFFE, 70000};
     CMemFile file;

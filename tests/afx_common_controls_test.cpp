@@ -304,15 +304,12 @@ TEST_F(AfxImageList, DrawsCopiesAndReplacesItsPictures) {
 
 TEST_F(AfxImageList, GoesThroughAnArchiveBetweenOtherThings) {
     CMemFile file;
-    {
-        CArchive ar(&file, CArchive::store, 128);
+    store(file, [&](CArchive& ar) {
         ar << 7;
         ASSERT_TRUE(list.Write(&ar));
         ar << CString("behind");
-    }
-    file.SeekToBegin();
-    {
-        CArchive ar(&file, CArchive::load, 128);
+    });
+    load(file, [&](CArchive& ar) {
         int before = 0;
         CString behind;
         CImageList read;
@@ -322,7 +319,7 @@ TEST_F(AfxImageList, GoesThroughAnArchiveBetweenOtherThings) {
         EXPECT_TRUE(before == 7 && behind == "behind");
         EXPECT_EQ(read.GetImageCount(), 2);
         EXPECT_EQ(drawn(read, 1), std::pair(green, blue));
-    }
+    });
     for (const int length : {0, 3, 10, 40, 90}) {
         file.SeekToBegin();
         CMemFile cut;

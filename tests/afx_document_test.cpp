@@ -337,28 +337,25 @@ TEST(AfxRecentFiles, AreKeptLatestFirstAndShownInTheMenu) {
     again.Remove(1);
     EXPECT_TRUE(again[2].IsEmpty());
 
-    CMenu menu;
-    menu.CreatePopupMenu();
-    menu.AppendMenu(MF_STRING, ID_FILE_MRU_FILE1, "Recent File");
-    menu.AppendMenu(MF_STRING, ID_APP_EXIT, "Exit");
-    CCmdUI item;
-    item.m_pMenu = &menu;
-    item.m_nID = ID_FILE_MRU_FILE1;
-    item.m_nIndexMax = 2;
-    again.UpdateMenu(&item);
+    CMenu menu, fresh;
+    const auto update = [](CRecentFileList& files, CMenu& in) {
+        in.CreatePopupMenu();
+        in.AppendMenu(MF_STRING, ID_FILE_MRU_FILE1, "Recent File");
+        in.AppendMenu(MF_STRING, ID_APP_EXIT, "Exit");
+        CCmdUI item;
+        item.m_pMenu = &in;
+        item.m_nID = ID_FILE_MRU_FILE1;
+        item.m_nIndexMax = 2;
+        files.UpdateMenu(&item);
+    };
+    update(again, menu);
     CString text;
     ASSERT_EQ(menu.GetMenuItemCount(), 3u);
     menu.GetMenuString(1, text, MF_BYPOSITION);
     EXPECT_STREQ(text, "&2 C:\\a&&b\\3.note");
     EXPECT_EQ(menu.GetMenuItemID(1), static_cast<UINT>(ID_FILE_MRU_FILE2));
     CRecentFileList empty(0, "Recent Test", "File%d", 3);
-    CMenu fresh;
-    fresh.CreatePopupMenu();
-    fresh.AppendMenu(MF_STRING, ID_FILE_MRU_FILE1, "Recent File");
-    item.m_pMenu = &fresh;
-    item.m_nID = ID_FILE_MRU_FILE1;
-    item.m_nIndex = 0;
-    empty.UpdateMenu(&item);
+    update(empty, fresh);
     EXPECT_NE(fresh.GetMenuState(0, MF_BYPOSITION) & MF_GRAYED, 0u);
 }
 

@@ -225,15 +225,8 @@ TEST_F(AfxDockState, PutsEveryBarBackWhereItWas) {
     EXPECT_FALSE(frame.tools.IsVisible());
 
     CMemFile file;
-    {
-        CArchive out(&file, CArchive::store);
-        rows.Serialize(out);
-    }
-    file.SeekToBegin();
-    {
-        CArchive in(&file, CArchive::load);
-        read.Serialize(in);
-    }
+    store(file, [&](CArchive& ar) { rows.Serialize(ar); });
+    load(file, [&](CArchive& ar) { read.Serialize(ar); });
     EXPECT_EQ(read.m_arrBarInfo.GetSize(), 2);
     frame.SetDockState(read);
     EXPECT_EQ(places(), in_rows);

@@ -52,14 +52,10 @@ TEST(AfxOleTime, IsWrittenReadAndStored) {
     EXPECT_STREQ(again.Format(), "Invalid DateTime");
     EXPECT_EQ(COleDateTime(__time64_t{-1} << 40).GetStatus(), COleDateTime::invalid);
     CMemFile file;
-    CArchive out(&file, CArchive::store);
-    out << time << COleDateTimeSpan(1.5) << LONG{7} << 1.0; // of a damaged file
-    out.Close();
-    file.SeekToBegin();
-    CArchive in(&file, CArchive::load);
+    store(file, [&](CArchive& ar) { ar << time << COleDateTimeSpan(1.5) << LONG{7} << 1.0; }); // of a damaged file
     COleDateTimeSpan span;
     COleDateTime damaged;
-    in >> again >> span >> damaged;
+    load(file, [&](CArchive& ar) { ar >> again >> span >> damaged; });
     EXPECT_TRUE(again == time && span.GetTotalHours() == 36 && damaged.GetStatus() == COleDateTime::invalid);
     CWnd parent;
     ASSERT_TRUE(create_popup(parent));

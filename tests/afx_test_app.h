@@ -133,6 +133,19 @@ private:
     CBitmap* m_before;
 };
 
+inline void store(CFile& file, const std::function<void(CArchive&)>& work) {
+    file.SetLength(0);
+    CArchive ar(&file, CArchive::store, 128);
+    work(ar);
+    ar.Close();
+    file.SeekToBegin();
+}
+
+inline void load(CFile& file, const std::function<void(CArchive&)>& work) {
+    CArchive ar(&file, CArchive::load, 128);
+    work(ar);
+}
+
 // Takes back what a program with documents registered, and the end that its last window asked for.
 inline void end_documents() {
     MSG quit;

@@ -34,7 +34,7 @@ protected:
 template <class Host> class ControlTest : public testing::Test {
 protected:
     void SetUp() override {
-        ASSERT_TRUE(host_.CreateEx(WS_EX_TOPMOST, nullptr, "host", WS_POPUP, CRect(0, 0, 600, 400), nullptr, 0));
+        ASSERT_TRUE(host_.CreateEx(WS_EX_TOPMOST, nullptr, "host", WS_POPUP, CRect(50, 50, 650, 450), nullptr, 0));
         host_.ShowWindow(SW_SHOW);
     }
     void TearDown() override { host_.DestroyWindow(); }
@@ -63,6 +63,24 @@ inline CRect extent(const Pixels& seen, COLORREF colour, const CRect& part) {
                 box |= CRect(x, y, x + 1, y + 1);
     return box;
 }
+
+/// Settings in a file of its own, which goes with the object.
+class TemporaryProfile {
+public:
+    TemporaryProfile() {
+        char folder[MAX_PATH];
+        ::GetTempPathA(sizeof folder, folder);
+        name_ = CString(folder) + "control_test.ini";
+        ::DeleteFileA(name_);
+    }
+    ~TemporaryProfile() { ::DeleteFileA(name_); }
+    TemporaryProfile(const TemporaryProfile&) = delete;
+    TemporaryProfile& operator=(const TemporaryProfile&) = delete;
+    operator const char*() const { return name_; }
+
+private:
+    CString name_;
+};
 
 /// The front end's library of scaling, as long as the object lives.
 class MainFrameScale {

@@ -252,10 +252,7 @@ TEST_F(Sash, AFoldedBarStaysUntilItIsReallyMoved) {
 }
 
 TEST_F(Sash, StoresItselfInAProfile) {
-    char folder[MAX_PATH];
-    ::GetTempPathA(sizeof folder, folder);
-    const CString file = CString(folder) + "sash_test.ini";
-    ::DeleteFileA(file);
+    const TemporaryProfile file;
     EXPECT_EQ(sash_.RestoreState(file, "main"), 0);
     sash_.SetPosition(60);
     sash_.SetFoldPane(2);
@@ -285,7 +282,6 @@ TEST_F(Sash, StoresItselfInAProfile) {
     ::WritePrivateProfileStringA("main", "Share", "half", file);
     EXPECT_EQ(sash_.RestoreState(file, "main"), 0);
     EXPECT_EQ(sash_.StoreState(nullptr, "main") + sash_.StoreState(file, ""), 0);
-    ::DeleteFileA(file);
 }
 
 TEST_F(Sash, AWindowOfATemplateBecomesOne) {

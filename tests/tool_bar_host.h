@@ -5,7 +5,7 @@
 
 #include "control_host.h"
 
-inline constexpr COLORREF red = RGB(255, 0, 0), green = RGB(0, 255, 0), key_colour = RGB(255, 0, 255);
+inline constexpr COLORREF red = RGB(255, 0, 0), green = RGB(0, 255, 0), key_colour = RGB(255, 0, 200);
 
 // Owner of bars: keeps commands and notifications, and tells states.
 class ToolHost : public CWnd {
@@ -91,6 +91,22 @@ protected:
             mouse(WM_LBUTTONUP, at);
     }
     void key(UINT k, UINT message = WM_KEYDOWN) { bar_->SendMessage(message, k, 1); }
+    bool filter_f6(CWnd& window) {
+        MSG f6 = {window.m_hWnd, WM_KEYDOWN, VK_F6, 1, 0, {}};
+        return bar_->FilterKey(&f6) != 0;
+    }
+    void embed(CEdit& edit) {
+        ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 60, 18), &host_, 130));
+        CWntToolItem item(130, "", WNT_TOOL_WINDOW);
+        item.window = &edit;
+        ASSERT_EQ(bar_->AddItem(item), 1);
+    }
+    void when_an_edit_loses_the_focus(const std::function<void()>& work) {
+        host_.on_message = [work](UINT message, WPARAM w) {
+            if (message == WM_COMMAND && HIWORD(w) == EN_KILLFOCUS)
+                work();
+        };
+    }
     int checked(UINT id) {
         CWntToolItem item;
         EXPECT_TRUE(bar_->GetItem(bar_->FindItem(id), &item)) << id;

@@ -186,6 +186,8 @@ TEST_F(ToolTip, PaintsItsParts) {
     const long sample = all.count(odd_colour);
     EXPECT_GT(sample, 80);
     EXPECT_GT(all.height, 32);
+    tips_->SetTip(&button_, {"Title", "text", icon, RGB(34, 12, 200)});
+    EXPECT_EQ(pixels_of(*tips_).count(odd_colour), 0);
     const auto ink_of = [&](const char* title, const char* text) {
         tips_->SetTip(&button_, {title, text});
         tips_->ShowTip(&button_);

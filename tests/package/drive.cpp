@@ -30,9 +30,7 @@ Picture copied(HWND frame) {
     if (bitmap && ::GetObjectA(bitmap, sizeof size, &size)) {
         HDC memory = ::CreateCompatibleDC(nullptr);
         HGDIOBJ before = ::SelectObject(memory, bitmap);
-        for (int y = 0; y < size.bmHeight; y += 2)
-            for (int x = 0; x < size.bmWidth; x += 2)
-                ++picture[::GetPixel(memory, x, y)];
+        picture = colours_of(memory, size.bmWidth, size.bmHeight);
         ::SelectObject(memory, before);
         ::DeleteDC(memory);
     }
