@@ -38,15 +38,9 @@ TEST_F(AfxDeviceContext, ConvertsUnitsAndPutsThemBack) {
     EXPECT_EQ(dc.SetWindowExt(50, 50), CSize(1, 1));
     dc.SetViewportExt(100, -100);
     EXPECT_EQ(dc.SetViewportOrg(0, 100), CPoint(0, 0));
-    CPoint point(10, 10);
-    dc.LPtoDP(&point);
-    EXPECT_EQ(point, CPoint(20, 80));
     CRect rect(0, 100, 20, 80);
     dc.DPtoLP(rect);
     EXPECT_EQ(rect, CRect(0, 0, 10, 10));
-    CSize size(10, 10);
-    dc.LPtoDP(&size);
-    EXPECT_EQ(size, CSize(20, 20));
     EXPECT_TRUE(dc.RestoreDC(saved));
     EXPECT_EQ(dc.GetMapMode(), MM_TEXT);
 }

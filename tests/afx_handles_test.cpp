@@ -1,10 +1,8 @@
 // What programs open and close all day gives everything back: dialogs, sheets, drawings, windows of documents.
-#include "afx_test_app.h"
+#include "afx_data_dialog.h"
 #include "pixels.h"
 
-#include <afxcmn.h>
 #include <afxdlgs.h>
-#include <afxdtctl.h>
 #include <afxext.h>
 
 namespace {
@@ -20,18 +18,10 @@ void expect_flat(const std::function<void()>& live) {
 }
 
 // Of every kind of control, with objects for some, tips, pictures and a brush of its own.
-class busy_dialog : public CDialog {
+class busy_dialog : public data_dialog {
 public:
-    busy_dialog() : CDialog(IDD_DATA) {}
-    void DoDataExchange(CDataExchange* exchange) override {
-        CDialog::DoDataExchange(exchange);
-        DDX_Control(exchange, IDC_CHECKS, checks);
-        DDX_Control(exchange, IDC_ROWS, rows);
-        DDX_Control(exchange, IDC_TREE, tree);
-        DDX_Control(exchange, IDC_TABS, tabs);
-    }
     BOOL OnInitDialog() override {
-        CDialog::OnInitDialog();
+        data_dialog::OnInitDialog();
         pictures.Create(16, 16, ILC_COLOR24 | ILC_MASK, 2, 2);
         rows.SetImageList(&pictures, LVSIL_SMALL);
         tabs.InsertItem(0, "tab");
@@ -53,17 +43,13 @@ public:
     bool end_at_once = false;
 
 private:
-    CCheckListBox checks;
-    CListCtrl rows;
-    CTreeCtrl tree;
-    CTabCtrl tabs;
     CImageList pictures;
     CToolTipCtrl tips;
     CBrush ground;
     CFont font;
 };
 
-BEGIN_MESSAGE_MAP(busy_dialog, CDialog)
+BEGIN_MESSAGE_MAP(busy_dialog, data_dialog)
 ON_WM_CTLCOLOR()
 END_MESSAGE_MAP()
 

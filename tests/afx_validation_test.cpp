@@ -1,20 +1,12 @@
 // What the user may enter: numbers at the ends of their types, dates and lengths at their limits.
-#include "afx_test_app.h"
-
-#include <afxdtctl.h>
+#include "afx_data_dialog.h"
 
 #include <limits>
 
 namespace {
 
-class AfxEntry : public testing::Test {
+class AfxEntry : public WithDataDialog<data_dialog> {
 protected:
-    AfxEntry() {
-        the_app.take_boxes();
-        EXPECT_TRUE(dialog.Create(IDD_DATA));
-    }
-    ~AfxEntry() override { dialog.DestroyWindow(); }
-
     // False where the exchange is refused: the user is told once.
     bool exchange(BOOL save, const std::function<void(CDataExchange*)>& work) {
         CDataExchange data(&dialog, save);
@@ -60,8 +52,6 @@ protected:
         for (const char* wrong : {"", " ", "5x", "x5", "5 5", "5.0", "0x5", "--5", "+", "99999999999999999999999"})
             EXPECT_FALSE(any(wrong)) << wrong;
     }
-
-    CDialog dialog;
 };
 
 TEST_F(AfxEntry, NumbersAreTakenUpToTheEndsOfTheirTypes) {

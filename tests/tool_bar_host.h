@@ -112,9 +112,9 @@ protected:
         EXPECT_TRUE(bar_->GetItem(bar_->FindItem(id), &item)) << id;
         return item.check + (item.enabled ? 0 : 10);
     }
-    UINT focused() { return focused_in(pixels_of(*bar_)); }
     // The one whose dotted frame is seen.
-    UINT focused_in(const Pixels& now) {
+    UINT focused() {
+        const Pixels now = pixels_of(*bar_);
         for (const UINT id : {100u, 101u, 102u, 103u, 104u, 105u}) {
             const CRect r = place(id);
             if (r.IsRectEmpty())

@@ -2,7 +2,6 @@
 // FOLDER
 #include "../end_to_end/dropping.h"
 #include "program.h"
-#include "scenes.h"
 
 #include "../../examples/measuring_channel/resource.h"
 #include "../../examples/sketch/resource.h"

@@ -1,6 +1,5 @@
 // The plant's front end and its simulator, as an operator and as a plant that fails would use them.
 #include "program.h"
-#include "scenes.h"
 
 #include "../../examples/plant/plant_blocks.h"
 #include "../../examples/plant/recorded_days.h"
@@ -75,11 +74,8 @@ public:
     void ExpectText(int id, const std::string& part) const {
         eventually("the text " + part, [&] { return Text(id).find(part) != std::string::npos; });
     }
-    void ExpectBanner(COLORREF colour, const std::string& what) const {
-        eventually(what, [&] { return colours_on_screen(Part(IDC_BANNER)).count(colour) != 0; });
-    }
-    void ExpectNoBanner(COLORREF colour, const std::string& what) const {
-        eventually(what, [&] { return colours_on_screen(Part(IDC_BANNER)).count(colour) == 0; });
+    void ExpectBanner(COLORREF colour, const std::string& what, bool shown = true) const {
+        eventually(what, [&] { return (colours_on_screen(Part(IDC_BANNER)).count(colour) != 0) == shown; });
     }
     HWND Settings() const {
         ::PostMessageA(frame, WM_COMMAND, ID_SETTINGS, 0);
@@ -164,7 +160,7 @@ void play_faults(const FrontEndWindow& window, Plant& plant) {
         window.Command(fault.begin);
         window.ExpectBanner(amber, fault.what);
         window.Command(fault.end);
-        window.ExpectNoBanner(amber, std::string("the end of ") + fault.what);
+        window.ExpectBanner(amber, std::string("the end of ") + fault.what, false);
     }
     PlantReadings wild; // a writer that is no simulator
     wild.values.fill(-1e308);

@@ -159,3 +159,6 @@ inline std::map<COLORREF, int> colours_on_screen(HWND window) {
     ::ReleaseDC(nullptr, screen);
     return counted;
 }
+
+// In a file of its own: throws where it finds something else than it expects.
+void drive_front_end(const std::string& program, const std::string& folder);
