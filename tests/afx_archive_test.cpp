@@ -56,6 +56,8 @@ TEST(AfxArchive, TextsMayBeOfAnyLength) {
         ar >> text;
         EXPECT_EQ(text, CString('b', length)) << length;
     }
+    CString line;
+    EXPECT_FALSE(ar.ReadString(line)) << "that was all";
 }
 
 TEST(AfxArchive, WritesTheKnownFormat) {

@@ -7,6 +7,7 @@
 #include <afxext.h>
 #include <afxpriv.h>
 
+#include <filesystem>
 #include <fstream>
 
 using testing::ElementsAre;
@@ -63,9 +64,7 @@ protected:
             new CSingleDocTemplate(IDR_FRAME, RUNTIME_CLASS(note), RUNTIME_CLASS(CFrameWnd), RUNTIME_CLASS(note_view)));
         the_app.take_boxes();
         note_view::log.clear();
-        char folder[MAX_PATH];
-        ::GetTempPath(MAX_PATH, folder);
-        path_ = std::string(folder) + "afx_document_test.note";
+        path_ = (std::filesystem::temp_directory_path() / "afx_document_test.note").string();
         ::DeleteFile(path_.c_str());
     }
     void TearDown() override {
@@ -207,9 +206,7 @@ protected:
 };
 
 TEST_F(AfxSeveralDocuments, AFileThatIsOpenIsShownNotOpenedAgain) {
-    char folder[MAX_PATH];
-    ::GetTempPath(MAX_PATH, folder);
-    const std::string path = std::string(folder) + "afx_open.note";
+    const std::string path = (std::filesystem::temp_directory_path() / "afx_open.note").string();
     std::ofstream(path) << "kept";
     CDocument* first = the_app.OpenDocumentFile(path.c_str());
     ASSERT_NE(first, nullptr);

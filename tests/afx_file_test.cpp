@@ -1,6 +1,7 @@
 // Files of text and of bytes: where they stand, what they refuse, what of them is found.
 #include "afx_test_app.h"
 
+#include <filesystem>
 #include <memory>
 #include <string>
 
@@ -9,18 +10,12 @@ namespace {
 class AfxFileModes : public testing::Test {
 protected:
     AfxFileModes() {
-        char base[MAX_PATH];
-        ::GetTempPath(MAX_PATH, base);
-        folder.Format("%safx modes %lu", base, ::GetCurrentProcessId());
+        folder.Format("%safx modes %lu", std::filesystem::temp_directory_path().string().c_str(),
+                      ::GetCurrentProcessId());
         ::CreateDirectory(folder, nullptr);
         name = folder + "\\file.tmp";
     }
-    ~AfxFileModes() override {
-        for (const char* file : {"\\file.tmp", "\\second.tmp", "\\.dot"})
-            ::DeleteFile(folder + file);
-        ::RemoveDirectory(folder + "\\inner");
-        ::RemoveDirectory(folder);
-    }
+    ~AfxFileModes() override { std::filesystem::remove_all(folder.GetString()); }
     std::string bytes() const {
         CFile file(name, CFile::modeRead | CFile::shareDenyNone);
         std::string all(static_cast<std::size_t>(file.GetLength()), '\0');

@@ -37,9 +37,9 @@ public:
     int count(int id, UINT message) { return static_cast<int>(SendDlgItemMessage(id, message)); }
 };
 
-TEST(AfxDialogData, FillsBoxesAndStopsAtWhatIsBroken) {
-    CWnd parent;
-    ASSERT_TRUE(create_popup(parent));
+using AfxDialogData = WithParent;
+
+TEST_F(AfxDialogData, FillsBoxesAndStopsAtWhatIsBroken) {
     boxes dialog;
     ASSERT_TRUE(dialog.open(parent));
     EXPECT_TRUE(dialog.ExecuteDlgInit(MAKEINTRESOURCE(IDD_BOXES)));

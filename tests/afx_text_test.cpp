@@ -1,7 +1,6 @@
 // Strings at their edges, where characters have two bytes, and moments that no clock shows.
 #include "afx_test_app.h"
 
-#include <clocale>
 #include <mbctype.h>
 #include <string>
 
@@ -87,7 +86,6 @@ TEST(AfxStringEdges, BuffersKeepTheTextUntilTheyAreReleased) {
 
 // In this code page the second byte of a character may look like a letter or a backslash: \x83\x5C is one.
 TEST(AfxStringEdges, CharactersOfTwoBytesAreNotTakenApart) {
-    const std::string locale = std::setlocale(LC_ALL, nullptr);
     const int page = _getmbcp();
     ASSERT_EQ(_setmbcp(932), 0);
     CString text("a\x83\x5C"
@@ -106,7 +104,6 @@ TEST(AfxStringEdges, CharactersOfTwoBytesAreNotTakenApart) {
     EXPECT_STREQ(CString("\x83\x5C\\z").Tokenize("\\", at), "\x83\x5C");
     EXPECT_EQ(CString("\x83\x5C").Replace("\\", "?"), 0);
     _setmbcp(page);
-    std::setlocale(LC_ALL, locale.c_str());
 }
 
 TEST(AfxTimeEdges, FieldsThatAreNoneAreRefused) {

@@ -48,11 +48,9 @@ ON_THREAD_MESSAGE(add_message, &window_thread::OnAdd)
 ON_THREAD_MESSAGE(end_message, &window_thread::OnEnd)
 END_MESSAGE_MAP()
 
+// Lasts longer than the object.
 HANDLE own_handle(CWinThread* thread) {
-    HANDLE handle = nullptr;
-    ::DuplicateHandle(::GetCurrentProcess(), thread->m_hThread, ::GetCurrentProcess(), &handle, 0, FALSE,
-                      DUPLICATE_SAME_ACCESS);
-    return handle;
+    return ::OpenThread(THREAD_ALL_ACCESS, FALSE, thread->m_nThreadID);
 }
 
 DWORD end_of(HANDLE thread) {

@@ -194,28 +194,7 @@ TEST(AfxCmdUI, ChecksRadiosInMenusAndAmongControls) {
     EXPECT_TRUE(menu.GetSubMenu(1)->GetMenuItemInfo(1, &info, TRUE) && (info.fType & MFT_RADIOCHECK) != 0);
 }
 
-TEST(AfxEditView, EditsFindsAndMarksItsDocument) {
-    view_frame frame;
-    auto& view = frame.open<CEditView>();
-    frame.InitialUpdateFrame(nullptr, FALSE);
-    view.SetWindowText("one two One");
-    frame.SendMessage(WM_COMMAND, ID_EDIT_SELECT_ALL);
-    CString text;
-    view.GetSelectedText(text);
-    EXPECT_STREQ(text, "one two One");
-    view.SendMessage(EM_SETSEL, 0, 0);
-    EXPECT_TRUE(view.FindText("ONE", TRUE, FALSE));
-    EXPECT_TRUE(view.FindText("one", TRUE, FALSE));
-    view.GetSelectedText(text);
-    EXPECT_STREQ(text, "One");
-    EXPECT_FALSE(view.FindText("one", TRUE, FALSE));
-    EXPECT_TRUE(view.FindText("one", FALSE));
-    frame.SendMessage(WM_COMMAND, ID_EDIT_CLEAR);
-    EXPECT_EQ(std::string(view.LockBuffer()), " two One");
-    view.UnlockBuffer();
-}
-
-TEST(AfxEditView, PrintsAnyOfItsPagesByItself) {
+TEST(AfxEditViewPrinting, PrintsAnyOfItsPagesByItself) {
     view_frame frame;
     auto& view = frame.open<printed_edit>();
     canvas paper(40, 40);                               // of the upper edge
@@ -264,10 +243,28 @@ public:
 };
 IMPLEMENT_DYNCREATE(searched_view, CEditView)
 
-TEST(AfxEditView, SearchesAndReplacesByItsBox) {
+class AfxEditView : public testing::Test {
+protected:
+    AfxEditView() { frame.InitialUpdateFrame(nullptr, FALSE); }
+
     view_frame frame;
-    auto& view = frame.open<searched_view>();
-    frame.InitialUpdateFrame(nullptr, FALSE);
+    searched_view& view = frame.open<searched_view>();
+};
+
+TEST_F(AfxEditView, EditsFindsAndMarksItsDocument) {
+    view.SetWindowText("one two One");
+    frame.SendMessage(WM_COMMAND, ID_EDIT_SELECT_ALL);
+    EXPECT_EQ(view.selected(), "one two One");
+    view.SendMessage(EM_SETSEL, 0, 0);
+    EXPECT_TRUE(view.FindText("ONE", TRUE, FALSE) && view.FindText("one", TRUE, FALSE));
+    EXPECT_EQ(view.selected(), "One");
+    EXPECT_FALSE(view.FindText("one", TRUE, FALSE));
+    EXPECT_TRUE(view.FindText("one", FALSE));
+    frame.SendMessage(WM_COMMAND, ID_EDIT_CLEAR);
+    EXPECT_EQ(std::string(view.LockBuffer()), " two One");
+}
+
+TEST_F(AfxEditView, SearchesAndReplacesByItsBox) {
     view.SetWindowText("red, green, Red, red.");
     view.SendMessage(EM_SETSEL, 0, 3);
     const auto box = [] { return CWnd::FromHandlePermanent(thread_window("#32770")); };

@@ -67,19 +67,14 @@ inline CRect extent(const Pixels& seen, COLORREF colour, const CRect& part) {
 /// Settings in a file of its own, which goes with the object.
 class TemporaryProfile {
 public:
-    TemporaryProfile() {
-        char folder[MAX_PATH];
-        ::GetTempPathA(sizeof folder, folder);
-        name_ = CString(folder) + "control_test.ini";
-        ::DeleteFileA(name_);
-    }
-    ~TemporaryProfile() { ::DeleteFileA(name_); }
+    TemporaryProfile() { std::remove(name_.c_str()); }
+    ~TemporaryProfile() { std::remove(name_.c_str()); }
     TemporaryProfile(const TemporaryProfile&) = delete;
     TemporaryProfile& operator=(const TemporaryProfile&) = delete;
-    operator const char*() const { return name_; }
+    operator const char*() const { return name_.c_str(); }
 
 private:
-    CString name_;
+    const std::string name_ = (std::filesystem::temp_directory_path() / "control_test.ini").string();
 };
 
 /// The front end's library of scaling, as long as the object lives.

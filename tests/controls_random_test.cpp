@@ -78,18 +78,9 @@ TEST_F(ControlsAtRandom, Sash) {
 }
 
 TEST_F(ControlsAtRandom, Frames) {
-    const char* lines[] = {":TITLE=a longer title than usual",
-                           ":TITLE=",
-                           ":ALIGN=TOPLEFT",
-                           ":ALIGN=BOTTOMRIGHT",
-                           ":ALIGN=CENTERCENTER",
-                           ":BORDERHEIGHT=5",
-                           ":BORDERHEIGHT=0",
-                           ":BORDERTYPE=3DDOWN",
-                           ":BORDERSTYLE=LEFT",
-                           ":BORDERTYPE=FLAT",
-                           ":CLRBACK=RED",
-                           ":ALIGN=---"};
+    const char* lines[] = {":TITLE=a longer one", ":TITLE=",          ":ALIGN=TOPLEFT",  ":ALIGN=BOTTOMRIGHT",
+                           ":ALIGN=CENTERCENTER", ":BORDERHEIGHT=5",  ":BORDERHEIGHT=0", ":BORDERTYPE=3DDOWN",
+                           ":BORDERSTYLE=LEFT",   ":BORDERTYPE=FLAT", ":CLRBACK=RED",    ":ALIGN=---"};
     CWntFrame plain;
     CWntFrameEx folding;
     open(plain, 300, 200);

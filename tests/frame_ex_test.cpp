@@ -13,15 +13,7 @@ protected:
         full_repaint(frame_);
     }
     CRect on_screen(CWnd& window) { return place_in(host_, window); }
-    int bars() {
-        int shown = 0;
-        for (CWnd* each = frame_.GetWindow(GW_CHILD); each; each = each->GetWindow(GW_HWNDNEXT)) {
-            char name[20];
-            ::GetClassNameA(each->m_hWnd, name, sizeof name);
-            shown += !::lstrcmpiA(name, "ScrollBar") && each->IsWindowVisible();
-        }
-        return shown;
-    }
+    int bars() { return frame_.GetDlgItem(2)->IsWindowVisible() + frame_.GetDlgItem(3)->IsWindowVisible(); }
 
     CWntFrameEx frame_;
     CButton child_;

@@ -7,8 +7,9 @@ constexpr COLORREF dark_blue = RGB(0, 0, 128), yellow = RGB(255, 255, 0), black 
 
 class FrameTest : public WidgetTest {
 protected:
-    void open(int width, int height) {
-        ASSERT_TRUE(frame_.Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, width, height), &host_, 1));
+    void SetUp() override {
+        WidgetTest::SetUp();
+        open(frame_, 200, 100);
         script({":CLRBACK=DARKBLUE", ":CLRTEXT=YELLOW", ":CLRSUN=WHITE", ":CLRSHADOW=BLACK"});
     }
     void script(std::initializer_list<const char*> lines) {
@@ -29,7 +30,6 @@ protected:
 };
 
 TEST_F(FrameTest, BorderAndTitleStandWhereTheScriptSays) {
-    open(200, 100);
     script({":BORDERHEIGHT=3", ":BORDERTYPE=3DDOWN", ":BORDERSTYLE=LEFT RIGHT TOP BOTTOM"});
     const Pixels sunk = pixels_of(frame_);
     EXPECT_TRUE(sunk.at(1, 50) == black && sunk.at(100, 2) == black && sunk.at(197, 50) == white &&
@@ -63,7 +63,6 @@ TEST_F(FrameTest, BorderAndTitleStandWhereTheScriptSays) {
 }
 
 TEST_F(FrameTest, ChildrenStayAtTheirAnchors) {
-    open(200, 100);
     CWntGauge gauge;
     CButton button;
     ASSERT_TRUE(gauge.Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(10, 10, 110, 90), &frame_, 2));
@@ -92,7 +91,6 @@ TEST_F(FrameTest, ChildrenStayAtTheirAnchors) {
 }
 
 TEST_F(FrameTest, PaintsOnlyWhatIsUncovered) {
-    open(200, 100);
     CButton child;
     ASSERT_TRUE(child.Create("child", WS_CHILD | WS_VISIBLE, CRect(20, 20, 100, 60), &frame_, 2));
     full_repaint(frame_);
@@ -108,7 +106,6 @@ TEST_F(FrameTest, PaintsOnlyWhatIsUncovered) {
 }
 
 TEST_F(FrameTest, FollowsTheMainFramesScaling) {
-    open(200, 100);
     script({":BORDERHEIGHT=2", ":TITLE=T"});
     EXPECT_EQ(frame_.GetScale(), 100);
     const CRect plain = frame_.GetContentRect();

@@ -464,21 +464,21 @@ TEST_F(Tabs, MayBeDestroyedOnAnyNotification) {
                 return 0;
             };
             const HeldKeys button({VK_LBUTTON});
-            const auto send = [&](UINT message, int x) { ::SendMessageA(window, message, 0, MAKELPARAM(x, 12)); };
+            const auto drag = [&](int from, int to) {
+                for (const auto& [message, x] :
+                     {std::pair{WM_LBUTTONDOWN, from}, {WM_MOUSEMOVE, to}, {WM_LBUTTONUP, to}})
+                    ::SendMessageA(window, static_cast<UINT>(message), 0, MAKELPARAM(x, 12));
+            };
+            const auto press = [&](WPARAM key) { ::SendMessageA(window, WM_KEYDOWN, key, 0); };
             if (by_key) {
                 const HeldKeys control({VK_CONTROL});
-                ::SendMessageA(window, WM_KEYDOWN, VK_RIGHT, 0);
-            } else {
-                send(WM_LBUTTONDOWN, first.left + 5);
-                send(WM_MOUSEMOVE, second.right);
-                send(WM_LBUTTONUP, second.right);
-            }
-            ::SendMessageA(window, WM_KEYDOWN, VK_HOME, 0);
-            ::SendMessageA(window, WM_KEYDOWN, VK_RIGHT, 0);
-            ::SendMessageA(window, WM_KEYDOWN, VK_LEFT, 0);
-            by_key ? ::SendMessageA(window, WM_KEYDOWN, VK_DELETE, 0)
-                   : (send(WM_LBUTTONDOWN, tabs ? tabs->GetTabRect(0).right - 14 : 0),
-                      send(WM_LBUTTONUP, tabs ? tabs->GetTabRect(0).right - 14 : 0), 0);
+                press(VK_RIGHT);
+            } else
+                drag(first.left + 5, second.right);
+            for (const WPARAM key : {VK_HOME, VK_RIGHT, VK_LEFT})
+                press(key);
+            const int mark = tabs ? tabs->GetTabRect(0).right - 14 : 0;
+            by_key ? press(VK_DELETE) : drag(mark, mark);
             EXPECT_FALSE(tabs) << code;
             EXPECT_FALSE(::IsWindow(window)) << code;
             delete tabs;
