@@ -40,6 +40,8 @@ protected:
     BOOL OnNcActivate(BOOL active) { return note("ncactivate", active), TRUE; }
     UINT OnGetDlgCode() { return note("code"), DLGC_WANTARROWS; }
     BOOL OnQueryEndSession() { return note("query"), FALSE; }
+    BOOL OnMouseWheel(UINT flags, short delta, CPoint at) { return note("wheel", flags, delta, at.y), TRUE; }
+    void OnInitMenuPopup(CMenu*, UINT index, BOOL system) { note("popup", index, system); }
     void OnGetMinMaxInfo(MINMAXINFO* info) { info->ptMinTrackSize = {11, 12}; }
     void OnTimer(UINT_PTR id) { note("timer", id); }
     void OnSettingChange(UINT flags, LPCTSTR section) { log.push_back(text("setting", flags) + " " + section); }
@@ -65,6 +67,8 @@ ON_WM_MOUSEACTIVATE()
 ON_WM_NCACTIVATE()
 ON_WM_GETDLGCODE()
 ON_WM_QUERYENDSESSION()
+ON_WM_MOUSEWHEEL()
+ON_WM_INITMENUPOPUP()
 ON_WM_GETMINMAXINFO()
 ON_WM_TIMER()
 ON_WM_SETTINGCHANGE()
@@ -105,6 +109,8 @@ TEST(AfxMessageMap, HandlersSeeTheParametersOfTheirMessages) {
         {WM_NCACTIVATE, TRUE, 0, "ncactivate 1", 1},
         {WM_GETDLGCODE, 0, 0, "code", DLGC_WANTARROWS},
         {WM_QUERYENDSESSION, 0, 0, "query", 0},
+        {WM_MOUSEWHEEL, MAKEWPARAM(MK_SHIFT, -120), point, "wheel 4 -120 4", 1},
+        {WM_INITMENUPOPUP, 0, MAKELPARAM(2, 1), "popup 2 1", 0},
         {WM_TIMER, 0x123456789, 0, "timer 4886718345", 0},
         {WM_SETTINGCHANGE, 9, reinterpret_cast<LPARAM>("intl"), "setting 9 intl", 0},
         {WM_COPYDATA, static_cast<WPARAM>(self), reinterpret_cast<LPARAM>(&data), "copy 1 5", 1},

@@ -360,8 +360,7 @@ TEST_F(AfxCommonControls, BitmapButtonsShowTheBitmapOfTheirState) {
     EXPECT_FALSE(button.LoadBitmaps("NOSUCHU"));
     ASSERT_TRUE(button.LoadBitmaps(MAKEINTRESOURCE(IDB_UP), MAKEINTRESOURCE(IDB_DOWN)));
     button.SizeToContent();
-    CRect size;
-    button.GetClientRect(size);
+    const CRect size = inside_of(button);
     EXPECT_EQ(size.Size(), CSize(8, 8));
     button.RedrawWindow();
     CClientDC dc(&button);

@@ -61,7 +61,6 @@ protected:
         the_app.take_boxes();
         EXPECT_TRUE(dialog.Create(IDD_DATA));
     }
-    ~WithDataDialog() override { dialog.DestroyWindow(); }
 
     Dialog dialog;
 };

@@ -33,11 +33,6 @@ public:
         bar.EnableDocking(CBRS_ALIGN_ANY);
         return true;
     }
-    CRect on_screen(CWnd& wnd) {
-        CRect rect;
-        wnd.GetWindowRect(rect);
-        return rect;
-    }
     CFrameWnd& floated(CToolBar& bar) {
         FloatControlBar(&bar, CPoint(150, 120));
         RecalcLayout();
@@ -71,17 +66,16 @@ using AfxDockState = AfxFloating;
 using AfxMiniFrame = AfxFloating;
 
 TEST_F(AfxFloating, ABarFloatsKeepsItsCommandsAndComesBack) {
-    const int docked_top = frame.on_screen(frame.more).top;
+    const int docked_top = on_screen(frame.more).top;
     CFrameWnd& small = frame.floated(frame.tools);
     EXPECT_TRUE(frame.tools.IsFloating());
-    EXPECT_LT(frame.on_screen(frame.more).top, docked_top) << "its row is gone";
+    EXPECT_LT(on_screen(frame.more).top, docked_top) << "its row is gone";
     ASSERT_NE(&small, &frame);
-    EXPECT_EQ(frame.on_screen(small).TopLeft(), CPoint(150, 120));
+    EXPECT_EQ(on_screen(small).TopLeft(), CPoint(150, 120));
     EXPECT_TRUE(small.IsWindowVisible());
     EXPECT_EQ(text_of(small), "Title");
-    CRect client;
-    small.GetClientRect(client);
-    EXPECT_EQ(client.Size(), frame.on_screen(frame.tools).Size());
+    const CRect client = inside_of(small);
+    EXPECT_EQ(client.Size(), on_screen(frame.tools).Size());
     EXPECT_EQ(frame.tools.GetDockingFrame(), &frame);
     frame.tools.SendMessage(WM_IDLEUPDATECMDUI, TRUE);
     EXPECT_NE(frame.tools.GetToolBarCtrl().IsButtonEnabled(ID_TEST_ON), 0);
@@ -93,14 +87,14 @@ TEST_F(AfxFloating, ABarFloatsKeepsItsCommandsAndComesBack) {
     EXPECT_FALSE(small.IsWindowVisible());
     EXPECT_TRUE(frame.OnBarCheck(ID_VIEW_TOOLBAR));
     EXPECT_TRUE(small.IsWindowVisible()) << "shown again where it was";
-    EXPECT_EQ(frame.on_screen(small).TopLeft(), CPoint(150, 120));
+    EXPECT_EQ(on_screen(small).TopLeft(), CPoint(150, 120));
 
     const HWND gone = small.m_hWnd;
     frame.DockControlBar(&frame.tools, AFX_IDW_DOCKBAR_LEFT);
     frame.RecalcLayout();
     EXPECT_FALSE(::IsWindow(gone));
     EXPECT_FALSE(frame.tools.IsFloating());
-    EXPECT_LT(frame.on_screen(frame.tools).Width(), frame.on_screen(frame.tools).Height());
+    EXPECT_LT(on_screen(frame.tools).Width(), on_screen(frame.tools).Height());
     frame.tools.SendMessage(WM_LBUTTONDBLCLK, 0, MAKELPARAM(-1, -1));
     EXPECT_TRUE(frame.tools.IsFloating()) << "a double click beside the buttons";
     frame.around(frame.tools).SendMessage(WM_NCLBUTTONDBLCLK, HTCAPTION);
@@ -110,8 +104,7 @@ TEST_F(AfxFloating, ABarFloatsKeepsItsCommandsAndComesBack) {
 
 TEST_F(AfxFloating, ABarIsDockedWhereItIsDroppedNearASide) {
     frame.more.EnableDocking(CBRS_ALIGN_TOP | CBRS_ALIGN_RIGHT);
-    CRect inside;
-    frame.GetClientRect(inside);
+    CRect inside = inside_of(frame);
     frame.ClientToScreen(inside);
     const CPoint middle = inside.CenterPoint();
     const struct {
@@ -131,8 +124,7 @@ TEST_F(AfxFloating, ABarIsDockedWhereItIsDroppedNearASide) {
 }
 
 TEST_F(AfxFloating, ADraggedBarShowsWhereItWouldBe) {
-    CRect inside;
-    frame.GetClientRect(inside);
+    CRect inside = inside_of(frame);
     frame.ClientToScreen(inside);
     const CPoint pointer = inside.CenterPoint(); // away from all sides
     const CRect area(pointer - CSize(40, 40), CSize(80, 60));
@@ -153,7 +145,7 @@ TEST_F(AfxFloating, ADraggedBarShowsWhereItWouldBe) {
     const auto before = pixels();
     std::vector<COLORREF> dragged;
     frame.look = [&] { dragged = pixels(); };
-    const CRect bar = frame.on_screen(frame.tools);
+    const CRect bar = on_screen(frame.tools);
     for (const bool dropped : {false, true}) {
         ::SetCursorPos(pointer.x, pointer.y);
         for (int i = 0; i < 2; ++i) // the first begins it
@@ -167,7 +159,7 @@ TEST_F(AfxFloating, ADraggedBarShowsWhereItWouldBe) {
         ASSERT_EQ(dragged.size(), before.size()) << "it was dragged";
         const CPoint corner = first_change(before, dragged);
         EXPECT_EQ(frame.tools.IsFloating(), dropped);
-        EXPECT_EQ(dropped ? frame.on_screen(frame.tools) : bar, frame.on_screen(frame.tools));
+        EXPECT_EQ(dropped ? on_screen(frame.tools) : bar, on_screen(frame.tools));
         EXPECT_NEAR(corner.x, pointer.x, 8);
         EXPECT_LT(corner.y, pointer.y - 10) << "a caption above the bar";
         if (!dropped) {
@@ -178,7 +170,7 @@ TEST_F(AfxFloating, ADraggedBarShowsWhereItWouldBe) {
 
 TEST_F(AfxFloating, ABarIsResizedByWholeLinesOfButtons) {
     CFrameWnd& small = frame.floated(frame.tools);
-    const CRect wide = frame.on_screen(small);
+    const CRect wide = on_screen(small);
     CRect rect = wide;
     rect.right -= wide.Width() / 2;
     small.SendMessage(WM_SIZING, WMSZ_RIGHT, reinterpret_cast<LPARAM>(&rect));
@@ -186,10 +178,10 @@ TEST_F(AfxFloating, ABarIsResizedByWholeLinesOfButtons) {
     EXPECT_GT(rect.Height(), wide.Height() + 15) << "more lines";
     const CRect narrow = rect;
     small.RecalcLayout();
-    EXPECT_EQ(frame.on_screen(small).Size(), narrow.Size());
+    EXPECT_EQ(on_screen(small).Size(), narrow.Size());
     frame.ShowControlBar(&frame.tools, FALSE, FALSE);
     frame.ShowControlBar(&frame.tools, TRUE, FALSE);
-    EXPECT_EQ(frame.on_screen(small).Size(), narrow.Size()) << "as it was last";
+    EXPECT_EQ(on_screen(small).Size(), narrow.Size()) << "as it was last";
     rect.bottom = rect.top + wide.Height();
     small.SendMessage(WM_SIZING, WMSZ_BOTTOM, reinterpret_cast<LPARAM>(&rect));
     EXPECT_EQ(rect.Size(), wide.Size());
@@ -200,8 +192,8 @@ TEST_F(AfxDockState, PutsEveryBarBackWhereItWas) {
     frame.RecalcLayout();
     const auto places = [&] {
         frame.SendMessage(WM_IDLEUPDATECMDUI, TRUE);
-        return std::vector<int>{frame.on_screen(frame.tools).top, frame.on_screen(frame.more).top,
-                                frame.tools.IsFloating(), frame.more.IsFloating(), frame.more.IsVisible()};
+        return std::vector<int>{on_screen(frame.tools).top, on_screen(frame.more).top, frame.tools.IsFloating(),
+                                frame.more.IsFloating(), frame.more.IsVisible()};
     };
     CDockState rows, floating, read;
     frame.GetDockState(rows);

@@ -33,8 +33,7 @@ public:
     void PostNcDestroy() override {} // lives on the stack
     using CFrameWnd::OnCreateClient;
     CRect client_of(CWnd& wnd) {
-        CRect rect;
-        wnd.GetWindowRect(rect);
+        CRect rect = on_screen(wnd);
         ScreenToClient(&rect);
         return rect;
     }
@@ -144,8 +143,7 @@ TEST_F(AfxFrame, LaysOutDockedBarsAndRemembersThem) {
     frame.SetWindowPos(nullptr, 0, 0, 500, 400, SWP_NOZORDER | SWP_NOACTIVATE);
     frame.settle();
     frame.RecalcLayout();
-    CRect all;
-    frame.GetClientRect(all);
+    const CRect all = inside_of(frame);
     const CRect top = frame.client_of(frame.tools), left = frame.client_of(frame.more),
                 status = frame.client_of(frame.status), middle = frame.client_of(client);
     EXPECT_EQ(top.top, 0);
@@ -163,8 +161,7 @@ TEST_F(AfxFrame, LaysOutDockedBarsAndRemembersThem) {
     frame.DockControlBar(&frame.more, AFX_IDW_DOCKBAR_TOP);
     frame.RecalcLayout();
     EXPECT_EQ(frame.client_of(frame.more).top, frame.client_of(frame.tools).bottom) << "a row of its own";
-    CRect beside;
-    frame.tools.GetWindowRect(beside);
+    CRect beside = on_screen(frame.tools);
     frame.DockControlBar(&frame.more, AFX_IDW_DOCKBAR_TOP,
                          CRect(beside.right, beside.top, beside.right + 10, beside.bottom));
     frame.RecalcLayout();
@@ -239,8 +236,7 @@ TEST_F(AfxReBar, HoldsTheFramesBars) {
     EXPECT_EQ(rebar.GetReBarCtrl().GetRowCount(), 2u);
     EXPECT_EQ(::GetParent(frame.tools.m_hWnd), rebar.m_hWnd);
     frame.settle();
-    CRect client;
-    frame.GetClientRect(client);
+    const CRect client = inside_of(frame);
     const CRect place = frame.client_of(rebar), bar = frame.client_of(frame.tools);
     EXPECT_EQ(place.Width(), client.Width());
     EXPECT_GE(place.Height(), 2 * wanted.cy);

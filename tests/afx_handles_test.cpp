@@ -83,7 +83,6 @@ TEST(AfxHandles, SheetsGiveEverythingBack) {
         sheet.DestroyWindow();
         the_app.OnIdle(1);
     });
-    owner.DestroyWindow();
 }
 
 // Pens, fonts, regions and contexts that go with their objects, or where an exception leaves them.
@@ -111,7 +110,6 @@ TEST(AfxHandles, DrawingsGiveEverythingBack) {
         }
         the_app.OnIdle(1);
     });
-    window.DestroyWindow();
 }
 
 class plain_document : public CDocument {

@@ -106,11 +106,22 @@ inline std::string text_of(const CWnd& wnd) {
     return text.GetString();
 }
 
+inline CRect inside_of(const CWnd& wnd) {
+    CRect rect;
+    wnd.GetClientRect(rect);
+    return rect;
+}
+
+inline CRect on_screen(const CWnd& wnd) {
+    CRect rect;
+    wnd.GetWindowRect(rect);
+    return rect;
+}
+
 // A window, for controls to stand in.
 class WithParent : public testing::Test {
 protected:
     WithParent() { EXPECT_TRUE(create_visible_popup(parent)); }
-    ~WithParent() override { parent.DestroyWindow(); }
     static constexpr DWORD shown = WS_CHILD | WS_VISIBLE;
     const CRect place{0, 0, 100, 60};
 

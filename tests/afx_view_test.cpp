@@ -73,8 +73,7 @@ TEST(AfxScrollView, ScrollsWithinItsDocumentInLogicalUnits) {
     BOOL horizontal = FALSE, vertical = FALSE;
     view.CheckScrollBars(horizontal, vertical);
     EXPECT_TRUE(horizontal && vertical);
-    CRect client;
-    view.GetClientRect(client);
+    const CRect client = inside_of(view);
     const auto scroll = [&](UINT message, UINT code) { view.SendMessage(message, code); };
     scroll(WM_VSCROLL, SB_LINEDOWN);
     scroll(WM_VSCROLL, SB_PAGEDOWN);
@@ -111,8 +110,7 @@ TEST(AfxFormView, ExchangesDataAndScrollsItsTemplate) {
     view.SendMessage(WM_INITIALUPDATE);
     EXPECT_EQ(view.exchanged, 1);
     EXPECT_NE(view.GetDlgItem(IDC_FORM_NAME), nullptr);
-    CRect client;
-    view.GetClientRect(client);
+    const CRect client = inside_of(view);
     EXPECT_GT(client.Width(), 300) << "as large as the frame, not as the template";
     BOOL horizontal = FALSE, vertical = FALSE;
     view.CheckScrollBars(horizontal, vertical);
@@ -341,8 +339,7 @@ TEST_F(AfxDynamicSplitter, FollowsTheMouseToCrossingsAndBackAgain) {
 
 TEST_F(AfxDynamicSplitter, SplitsWherePulledAndJoinsWhatBecomesTooSmall) {
     EXPECT_EQ(splitter.GetRowCount() * splitter.GetColumnCount(), 1);
-    CRect client;
-    splitter.GetClientRect(client);
+    const CRect client = inside_of(splitter);
     drag(CPoint(client.right - 4, 3), CPoint(client.right - 4, 100)); // the box above the scroll bar
     ASSERT_EQ(splitter.GetRowCount(), 2);
     EXPECT_NEAR(first_pane().cy, 97, 4);
@@ -386,8 +383,7 @@ TEST(AfxSplitter, HoldsPanesOfItsOwnAndSplittersAgain) {
     EXPECT_EQ(CView::GetParentSplitter(frame.inner.GetPane(1, 0), TRUE), &frame.inner);
     frame.splitter.SetColumnInfo(0, 150, 10);
     frame.splitter.RecalcLayout();
-    CRect rect;
-    frame.inner.GetWindowRect(rect);
+    CRect rect = on_screen(frame.inner);
     frame.splitter.ScreenToClient(&rect);
     EXPECT_EQ(rect.left, 157);
 }

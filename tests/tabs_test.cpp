@@ -407,12 +407,9 @@ TEST_F(Tabs, TipsBelongToTheirTabs) {
     ASSERT_TRUE(control);
     tabs_.MoveTab(2, 0);
     EXPECT_EQ(control->GetToolCount(), 2);
-    TTHITTESTINFOA at = {};
-    at.ti.cbSize = sizeof at.ti;
-    at.hwnd = strip().m_hWnd;
     const auto found = [&](int tab) {
-        at.pt = in_strip(middle(tab));
-        return control->SendMessage(TTM_HITTESTA, 0, reinterpret_cast<LPARAM>(&at)) != 0;
+        TOOLINFO tool = {};
+        return control->HitTest(&strip(), in_strip(middle(tab)), &tool) != FALSE;
     };
     EXPECT_TRUE(found(0) && !found(1) && found(2));
     WntTip tip;

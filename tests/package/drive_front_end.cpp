@@ -204,6 +204,7 @@ int use(const std::string& program, const std::string& data, Plant& plant) {
     change_set_points(window, plant);
     change_limit(window);
     window.ExpectBanner(red, "an alarm is raised");
+    window.Command(ID_ACKNOWLEDGE); // until then nothing else shows
     drag_sash(window);
     record(window, data);
     window.Command(id_print); // without a printer nothing is printed
