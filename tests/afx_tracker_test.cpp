@@ -6,19 +6,17 @@
 namespace {
 
 // A tracking is run by messages that lie in the queue before it begins.
-class AfxTracker : public testing::Test {
+class AfxTracker : public WithParent {
 protected:
-    AfxTracker() { EXPECT_TRUE(create_visible_popup(wnd)); }
-    void queue(UINT message, int x, int y) { wnd.PostMessage(message, 0, MAKELPARAM(x, y)); }
+    void queue(UINT message, int x, int y) { parent.PostMessage(message, 0, MAKELPARAM(x, y)); }
     CRect tracked(CRectTracker& tracker, CPoint from, CPoint to, UINT end = WM_LBUTTONUP, BOOL invert = FALSE) {
         queue(WM_MOUSEMOVE, to.x, to.y);
-        wnd.PostMessage(end, end == WM_KEYDOWN ? VK_ESCAPE : 0, MAKELPARAM(to.x, to.y));
-        changed = tracker.Track(&wnd, from, invert);
+        parent.PostMessage(end, end == WM_KEYDOWN ? VK_ESCAPE : 0, MAKELPARAM(to.x, to.y));
+        changed = tracker.Track(&parent, from, invert);
         EXPECT_EQ(::GetCapture(), nullptr);
         return tracker.m_rect;
     }
 
-    CWnd wnd;
     BOOL changed = FALSE;
 };
 
@@ -45,10 +43,10 @@ TEST_F(AfxTracker, MovesSidesCornersAndTheWhole) {
 
     CRectTracker band;
     queue(WM_LBUTTONUP, 10, 10);
-    EXPECT_FALSE(band.TrackRubberBand(&wnd, {10, 10})) << "a click";
+    EXPECT_FALSE(band.TrackRubberBand(&parent, {10, 10})) << "a click";
     queue(WM_MOUSEMOVE, 50, 40);
     queue(WM_LBUTTONUP, 50, 40);
-    EXPECT_TRUE(band.TrackRubberBand(&wnd, {10, 10}));
+    EXPECT_TRUE(band.TrackRubberBand(&parent, {10, 10}));
     EXPECT_EQ(band.m_rect, CRect(10, 10, 50, 40));
 }
 
@@ -73,7 +71,7 @@ TEST_F(AfxTracker, DrawsHandlesWhereItFindsThem) {
 }
 
 TEST_F(AfxTracker, ARecordingIsPlayedWhereItIsWanted) {
-    CClientDC screen(&wnd);
+    CClientDC screen(&parent);
     CMetaFileDC plain, rich;
     ASSERT_TRUE(plain.Create());
     EXPECT_FALSE(plain.Create()) << "it records already";

@@ -5,6 +5,14 @@
 
 #include <gmock/gmock.h>
 
+#include <cstdio>
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <tuple>
+#include <utility>
+#include <vector>
+
 #include "held_keys.h"
 #include "thread_window.h"
 #include "widget_window.h"
@@ -47,9 +55,14 @@ protected:
     Host host_;
 };
 
-inline CRect place_in(CWnd& parent, CWnd& window) {
+inline CRect on_screen(CWnd& window) {
     CRect r;
     window.GetWindowRect(&r);
+    return r;
+}
+
+inline CRect place_in(CWnd& parent, CWnd& window) {
+    CRect r = on_screen(window);
     parent.ScreenToClient(&r);
     return r;
 }
@@ -93,7 +106,7 @@ public:
     }
 
 private:
-    static CString path() { // beside the program, which would find it by its name otherwise
+    static CString path() { // a folder of its own: beside the programs all would find it
         char program[MAX_PATH];
         ::GetModuleFileNameA(nullptr, program, sizeof program);
         return CString(program).Left(CString(program).ReverseFind('\\')) + "\\stub\\zopfdraw.dll";

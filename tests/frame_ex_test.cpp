@@ -53,8 +53,7 @@ TEST_F(FrameExTest, ScrollingShowsWhatAFullRepaintShows) {
     frame_.SetContentSize(150, 400);
     frame_.ShowContent(CRect(0, 290, 1, 330));
     const Pixels scrolled = pixels_of(frame_);
-    full_repaint(frame_);
-    EXPECT_EQ(pixels_of(frame_), scrolled);
+    EXPECT_EQ(repainted(frame_), scrolled);
     EXPECT_TRUE(child_.IsWindowVisible());
 }
 
@@ -77,8 +76,7 @@ TEST_F(FrameExTest, FoldsByItsHeaderAndByKeys) {
     EXPECT_EQ(host_.told.size(), 4u); // calls tell nothing
 
     frame_.SetFocus();
-    full_repaint(frame_);
-    const Pixels focused = pixels_of(frame_);
+    const Pixels focused = repainted(frame_);
     host_.SetFocus();
     frame_.UpdateWindow();
     EXPECT_NE(pixels_of(frame_), focused);

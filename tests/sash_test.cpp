@@ -122,8 +122,7 @@ TEST_F(Sash, FoldsAndMovesByKeys) {
     EXPECT_TRUE(first_.IsWindowVisible());
     host_.told.clear();
     sash_.SetFocus();
-    full_repaint(sash_);
-    const Pixels focused = pixels_of(sash_);
+    const Pixels focused = repainted(sash_);
     host_.SetFocus();
     sash_.UpdateWindow();
     EXPECT_NE(pixels_of(sash_), focused);

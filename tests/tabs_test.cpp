@@ -290,8 +290,7 @@ TEST_F(Tabs, TheSelectedTabIsJoinedToItsPageAtEverySide) {
     tabs_.Select(1);
     for (const auto& c : cases) {
         tabs_.SetSide(c.side);
-        full_repaint(tabs_);
-        const Pixels seen = pixels_of(tabs_);
+        const Pixels seen = repainted(tabs_);
         const CRect page = tabs_.GetPageRect();
         const auto between = [&](int tab) {
             CPoint at = middle(tab);
@@ -315,8 +314,7 @@ TEST_F(Tabs, TextsAreWholeAndTurnedWithTheSide) {
     CSize size;
     for (const int side : {CWntTabs::at_top, CWntTabs::at_bottom, CWntTabs::at_left, CWntTabs::at_right}) {
         tabs_.SetSide(side);
-        full_repaint(tabs_);
-        const Pixels seen = pixels_of(tabs_);
+        const Pixels seen = repainted(tabs_);
         const CRect tab = tabs_.GetTabRect(1);
         const CRect ink = extent(seen, red, tab);
         const bool turned = side >= CWntTabs::at_left;

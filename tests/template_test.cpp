@@ -42,8 +42,7 @@ template <class Widget> Pixels created(CWnd& parent, CWnd& like, std::function<v
     Widget widget;
     EXPECT_TRUE(widget.Create(nullptr, "Created", WS_CHILD | WS_VISIBLE, client, &parent, 1));
     prepare(widget);
-    full_repaint(widget);
-    const Pixels shown = pixels_of(widget);
+    const Pixels shown = repainted(widget);
     widget.DestroyWindow();
     return shown;
 }
@@ -64,8 +63,7 @@ TEST_F(TemplateTest, WidgetsLookAsIfTheirObjectsHadCreatedThem) {
             if (!dialog.m_hWnd || !dialog.joined)
                 return false;
             const auto expect_as = [&](CWnd& widget, const Pixels& expected) {
-                full_repaint(widget);
-                EXPECT_TRUE(pixels_of(widget) == expected) << widget.GetDlgCtrlID();
+                EXPECT_TRUE(repainted(widget) == expected) << widget.GetDlgCtrlID();
             };
             expect_as(dialog.gauge,
                       created<CWntGauge>(host_, dialog.gauge, [](CWntGauge& g) { g.SetTitles("Pressure", ""); }));
@@ -121,8 +119,7 @@ TEST_F(TemplateTest, AWidgetGoesFromWindowToWindow) {
         button.GetClientRect(&client);
         button.GetDlgItem(101)->GetClientRect(&surface);
         EXPECT_EQ(client, surface);
-        full_repaint(button);
-        EXPECT_GT(pixels_of(button).count(RGB(0, 0, 128)), 1000); // its ground
+        EXPECT_GT(repainted(button).count(RGB(0, 0, 128)), 1000); // its ground
         button.UnsubclassWindow();
     }
 }

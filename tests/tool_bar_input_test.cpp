@@ -202,8 +202,7 @@ TEST_F(ToolBar, ItemsAreDraggedWhereThatIsAllowed) {
     EXPECT_THAT(order(), ElementsAre(100u, 101u, 102u)); // off unless set
     bar_->SetDragging(1);
     edit_.SetFocus();
-    full_repaint(*bar_);
-    const Pixels before = pixels_of(*bar_);
+    const Pixels before = repainted(*bar_);
     drag(100, CPoint(390, 10));
     bar_->UpdateWindow();
     EXPECT_NE(pixels_of(*bar_), before); // a mark shows where it would go

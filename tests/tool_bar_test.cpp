@@ -74,8 +74,7 @@ TEST_F(ToolBar, StatesComeFromUpdateHandlers) {
 
 TEST_F(ToolBar, ShowsStatesOfItsItems) {
     script({":ITEM=100,0", ":ITEM=101,1", ":ITEM=102,2,key", ":CHECK=103,0", ":LABEL=Text"});
-    full_repaint(*bar_);
-    const Pixels plain = pixels_of(*bar_);
+    const Pixels plain = repainted(*bar_);
     EXPECT_EQ(plain.count(red), 2 * 16 * 16);
     EXPECT_TRUE(plain.count(green) == 16 * 16 && plain.count(key_colour) == 0);
     const CRect first = place(100);
@@ -103,8 +102,7 @@ TEST_F(ToolBar, ShowsStatesOfItsItems) {
     EXPECT_TRUE(GetRValue(grey) == GetGValue(grey) && GetGValue(grey) == GetBValue(grey));
     EXPECT_NE(after([&] { bar_->SetTextPlace(WNT_TOOL_TEXT_BESIDE); }), disabled);
     bar_->EnableWindow(FALSE);
-    full_repaint(*bar_);
-    EXPECT_EQ(pixels_of(*bar_).count(red), 0);
+    EXPECT_EQ(repainted(*bar_).count(red), 0);
 }
 
 TEST_F(ToolBar, SeparatorsAreEngravedEitherWay) {
@@ -136,8 +134,7 @@ TEST_F(ToolBar, TakesPicturesFromIconsAndFiles) {
     const BitmapFile picture = {24, 16, 16};
     const TemporaryFile file(picture.bytes());
     script({CString(":PICTURES=") + file.name(), ":ITEM=100,0"});
-    full_repaint(*bar_);
-    const Pixels shown = pixels_of(*bar_);
+    const Pixels shown = repainted(*bar_);
     for (int i = 1; i < 16 * 16; ++i) // the first one's colour is not painted
         EXPECT_EQ(shown.at(r.left + 3 + i % 16, r.top + 3 + i / 16), picture.colour_at(i % 16, 15 - i / 16)) << i;
     EXPECT_EQ(bar_->SetPictures(nullptr, static_cast<HBITMAP>(::GetStockObject(BLACK_PEN))), 0); // no bitmap

@@ -66,11 +66,7 @@ protected:
             tips_->GetWindowText(text);
         return text.GetString();
     }
-    CRect place() {
-        CRect r;
-        tips_->GetWindowRect(&r);
-        return r;
-    }
+    CRect place() { return on_screen(*tips_); }
 
     CButton button_;
     std::unique_ptr<CToolTipCtrlEx> tips_;
@@ -148,8 +144,7 @@ TEST_F(ToolTip, MayBeDestroyedWhenItAsks) {
 TEST_F(ToolTip, TheKeyboardShowsItUntilTheNextKey) {
     tips_->AddTip(&button_, {"", "Save"});
     EXPECT_EQ(tips_->ShowTip(&button_), 1);
-    CRect tool;
-    button_.GetWindowRect(&tool);
+    const CRect tool = on_screen(button_);
     EXPECT_TRUE(shown() == "Save" && place().left == tool.left && place().top == tool.bottom);
     relay(WM_KEYUP, {0, 0});
     EXPECT_EQ(shown(), "Save");
@@ -268,8 +263,7 @@ TEST_F(ToolTip, KeepsToTheFrameworksWays) {
     tool.lpszText = const_cast<char*>("centred");
     EXPECT_TRUE(tips_->SendMessage(TTM_ADDTOOL, 0, reinterpret_cast<LPARAM>(&tool)));
     EXPECT_EQ(shown_at({12, 12}), "centred");
-    CRect button;
-    button_.GetWindowRect(&button);
+    const CRect button = on_screen(button_);
     EXPECT_TRUE(place().top == button.bottom && std::abs(place().CenterPoint().x - button.CenterPoint().x) <= 1);
     CToolTipCtrlEx* volatile none = nullptr;
     CToolTipCtrlEx bare;

@@ -33,6 +33,11 @@ inline void full_repaint(CWnd& widget) {
     widget.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
+inline Pixels repainted(CWnd& widget) {
+    full_repaint(widget);
+    return pixels_of(widget);
+}
+
 /// Covers a widget's surface: what is painted next shows as pixels that lost this colour.
 inline void cover(CWnd& widget, int surface_id, COLORREF colour) {
     CWnd* surface = widget.GetDlgItem(surface_id);
