@@ -104,6 +104,7 @@ TEST(AfxExceptions, SystemErrorsHaveTheirCauses) {
                  {ERROR_DISK_FULL, CFileException::diskFull},
                  {ERROR_HANDLE_EOF, CFileException::endOfFile},
                  {ERROR_INVALID_HANDLE, CFileException::invalidFile},
+                 {ERROR_NEGATIVE_SEEK, CFileException::badSeek},
                  {ERROR_CRC, CFileException::hardIO},
                  {123456, CFileException::genericException}};
     for (const auto& one : cases)
