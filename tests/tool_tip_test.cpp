@@ -106,6 +106,7 @@ TEST_F(ToolTip, AsksWhenItShows) {
     };
     EXPECT_EQ(tips_->ShowTip(&host_, 7), 1);
     EXPECT_EQ(shown(), "Level\nfrom the framework, 12 cm");
+    EXPECT_EQ(place().TopLeft(), on_screen(host_).TopLeft() + CSize(100, 150)) << "below its tool";
     tips_->HideTip();
     EXPECT_EQ(tips_->SetTip(&host_, {"", "told"}, 7), 1); // asked no longer
     EXPECT_EQ(tips_->ShowTip(&host_, 7), 1);
