@@ -1,19 +1,9 @@
 // List boxes, combo boxes, edit controls and scroll bars through their classes.
 #include "afx_test_app.h"
 
-#include <gmock/gmock.h>
-
 namespace {
 
-class AfxBoxes : public testing::Test {
-protected:
-    AfxBoxes() { EXPECT_TRUE(create_visible_popup(parent)); }
-    ~AfxBoxes() override { parent.DestroyWindow(); }
-    static constexpr DWORD shown = WS_CHILD | WS_VISIBLE;
-    const CRect place{0, 0, 100, 60};
-
-    CWnd parent;
-};
+using AfxBoxes = WithParent;
 
 TEST_F(AfxBoxes, ListsFindSelectAndForget) {
     CListBox list;
@@ -79,9 +69,8 @@ TEST_F(AfxBoxes, CombosHoldATextBesideTheirItems) {
     EXPECT_TRUE(box.SetEditSel(2, 5));
     EXPECT_EQ(box.GetEditSel(), static_cast<DWORD>(MAKELONG(2, 5)));
     EXPECT_EQ(box.SelectString(-1, "on"), 1);
+    EXPECT_EQ(text_of(box), "one");
     CString text;
-    box.GetWindowText(text);
-    EXPECT_EQ(text, "one");
     box.GetLBText(0, text);
     EXPECT_EQ(text, "zero");
     box.GetLBText(7, text);
@@ -110,21 +99,18 @@ TEST_F(AfxBoxes, EditsGiveTheirLinesAndTakeTextsBack) {
     EXPECT_TRUE(edit.LineIndex(1) == 7 && edit.LineLength(7) == 11 && edit.LineFromChar(8) == 1);
     edit.SetSel(7, 13);
     edit.ReplaceSel("2nd", TRUE);
-    CString text;
-    edit.GetWindowText(text);
-    EXPECT_EQ(text, "first\r\n2nd line\r\n");
+    EXPECT_EQ(text_of(edit), "first\r\n2nd line\r\n");
     EXPECT_TRUE(edit.CanUndo() && edit.Undo());
-    edit.GetWindowText(text);
-    EXPECT_EQ(text, "first\r\nsecond line\r\n");
+    const int whole = edit.GetWindowTextLength();
+    EXPECT_EQ(text_of(edit), "first\r\nsecond line\r\n");
     int from = 0, to = 0;
     edit.SetSel(static_cast<DWORD>(MAKELONG(0, -1))); // all of it
     edit.GetSel(from, to);
-    EXPECT_TRUE(from == 0 && to == text.GetLength());
+    EXPECT_TRUE(from == 0 && to == whole);
     edit.SetModify();
     EXPECT_TRUE(edit.GetModify());
     edit.SetLimitText(25);
-    edit.SetSel(-1, -1);
-    edit.SetSel(text.GetLength(), text.GetLength());
+    edit.SetSel(whole, whole);
     edit.ReplaceSel(CString('x', 50));
     EXPECT_EQ(edit.GetWindowTextLength(), 25);
 }

@@ -1,9 +1,8 @@
 // Collections, beside the standard library's.
+#include "afx_test_app.h"
+
 #include <afxtempl.h>
 
-#include <gtest/gtest.h>
-
-#include <functional>
 #include <map>
 #include <random>
 #include <string>
@@ -57,14 +56,8 @@ TEST(AfxArray, GrowsWhereAskedAndRefusesBadPlaces) {
     EXPECT_FALSE(flags.GetData()[2]);
     const std::function<void()> wrong[] = {[&] { array.GetAt(9); }, [&] { array.RemoveAt(8, 2); },
                                            [&] { array.InsertAt(-1, "x"); }, [&] { array.SetSize(-1); }};
-    for (const auto& call : wrong) {
-        try {
-            call();
-            ADD_FAILURE();
-        } catch (CInvalidArgException* e) {
-            e->Delete();
-        }
-    }
+    for (const auto& call : wrong)
+        EXPECT_TRUE(raises<CInvalidArgException>(call)) << &call - wrong;
 }
 
 TEST(AfxList, KeepsPlacesWhileOthersGo) {

@@ -3,8 +3,6 @@
 
 #include <afxpriv.h>
 
-#include <gmock/gmock.h>
-
 using testing::ElementsAre;
 using Texts = std::vector<std::string>;
 
@@ -12,13 +10,10 @@ namespace {
 
 UINT registered = ::RegisterWindowMessage("afx_command_test");
 
-std::string text(const char* format, ...) {
-    char buffer[128];
-    va_list arguments;
-    va_start(arguments, format);
-    std::vsnprintf(buffer, sizeof(buffer), format, arguments);
-    va_end(arguments);
-    return buffer;
+template <class... Numbers> std::string text(const char* name, Numbers... numbers) {
+    std::string all = name;
+    ((all += " " + std::to_string(numbers)), ...);
+    return all;
 }
 
 // Writes down each message as its handler sees it.
@@ -28,61 +23,51 @@ public:
     using CWnd::WindowProc;
 
 protected:
-    void note(const char* name, long long a = -1, long long b = -1, long long c = -1) {
-        log.push_back(text("%s %lld %lld %lld", name, a, b, c));
+    template <class... Numbers> void note(const char* name, Numbers... numbers) {
+        log.push_back(text(name, numbers...));
     }
-    long long is(CWnd* wnd) { return wnd == this; }
-    void OnSize(UINT type, int cx, int cy) { note("size", type, cx, cy); }
+    int is(CWnd* wnd) { return wnd == this; }
     void OnMove(int x, int y) { note("move", x, y); }
     void OnKeyDown(UINT key, UINT count, UINT flags) { note("key", key, count, flags); }
-    void OnMouseMove(UINT flags, CPoint at) { note("mouse", flags, at.x, at.y); }
     void OnNcLButtonDown(UINT hit, CPoint at) { note("nc", hit, at.x, at.y); }
-    BOOL OnMouseWheel(UINT flags, short delta, CPoint at) { return note("wheel", flags, delta, at.y), TRUE; }
     void OnActivate(UINT state, CWnd* other, BOOL minimized) { note("activate", state, is(other), minimized); }
     void OnShowWindow(BOOL show, UINT status) { note("show", show, status); }
-    void OnSetFocus(CWnd* old) { note("focus", is(old)); }
     void OnCaptureChanged(CWnd* wnd) { note("capture", is(wnd)); }
     void OnContextMenu(CWnd* wnd, CPoint at) { note("context", is(wnd), at.x, at.y); }
     void OnSysCommand(UINT id, LPARAM at) { note("sys", id, at); }
     BOOL OnSetCursor(CWnd* wnd, UINT hit, UINT message) { return note("cursor", is(wnd), hit, message), TRUE; }
     int OnMouseActivate(CWnd* top, UINT hit, UINT message) { return note("click", is(top), hit, message), 3; }
     BOOL OnNcActivate(BOOL active) { return note("ncactivate", active), TRUE; }
-    LRESULT OnNcHitTest(CPoint at) { return note("hit", at.x, at.y), 7; }
     UINT OnGetDlgCode() { return note("code"), DLGC_WANTARROWS; }
     BOOL OnQueryEndSession() { return note("query"), FALSE; }
-    void OnMenuSelect(UINT id, UINT flags, HMENU) { note("select", id, flags); }
-    void OnInitMenuPopup(CMenu* menu, UINT index, BOOL system) { note("popup", menu != nullptr, index, system); }
+    BOOL OnMouseWheel(UINT flags, short delta, CPoint at) { return note("wheel", flags, delta, at.y), TRUE; }
+    void OnInitMenuPopup(CMenu*, UINT index, BOOL system) { note("popup", index, system); }
     void OnGetMinMaxInfo(MINMAXINFO* info) { info->ptMinTrackSize = {11, 12}; }
-    void OnTimer(UINT_PTR id) { note("timer", static_cast<long long>(id)); }
-    void OnSettingChange(UINT flags, LPCTSTR section) { log.push_back(text("setting %u %s", flags, section)); }
+    void OnTimer(UINT_PTR id) { note("timer", id); }
+    void OnSettingChange(UINT flags, LPCTSTR section) { log.push_back(text("setting", flags) + " " + section); }
     BOOL OnCopyData(CWnd* from, COPYDATASTRUCT* data) { return note("copy", is(from), data->cbData), TRUE; }
     void OnDisplayChange(UINT depth, int cx, int cy) { note("display", depth, cx, cy); }
     void OnParentNotify(UINT message, LPARAM) { note("parent", LOWORD(message), HIWORD(message)); }
-    LRESULT OnOwn(WPARAM w, LPARAM l) { return note("own", static_cast<long long>(w), l), 42; }
-    LRESULT OnRegistered(WPARAM w, LPARAM) { return note("registered", static_cast<long long>(w)), 43; }
+    LRESULT OnOwn(WPARAM w, LPARAM l) { return note("own", w, l), 42; }
+    LRESULT OnRegistered(WPARAM w, LPARAM) { return note("registered", w), 43; }
     DECLARE_MESSAGE_MAP()
 };
 
 BEGIN_MESSAGE_MAP(unpacker, CWnd)
-ON_WM_SIZE()
 ON_WM_MOVE()
 ON_WM_KEYDOWN()
-ON_WM_MOUSEMOVE()
 ON_WM_NCLBUTTONDOWN()
-ON_WM_MOUSEWHEEL()
 ON_WM_ACTIVATE()
 ON_WM_SHOWWINDOW()
-ON_WM_SETFOCUS()
 ON_WM_CAPTURECHANGED()
 ON_WM_CONTEXTMENU()
 ON_WM_SYSCOMMAND()
 ON_WM_SETCURSOR()
 ON_WM_MOUSEACTIVATE()
 ON_WM_NCACTIVATE()
-ON_WM_NCHITTEST()
 ON_WM_GETDLGCODE()
 ON_WM_QUERYENDSESSION()
-ON_WM_MENUSELECT()
+ON_WM_MOUSEWHEEL()
 ON_WM_INITMENUPOPUP()
 ON_WM_GETMINMAXINFO()
 ON_WM_TIMER()
@@ -101,9 +86,7 @@ END_MESSAGE_MAP()
 TEST(AfxMessageMap, HandlersSeeTheParametersOfTheirMessages) {
     unpacker wnd;
     ASSERT_TRUE(create_popup(wnd));
-    CMenu menu;
-    menu.CreatePopupMenu();
-    const auto self = reinterpret_cast<LPARAM>(wnd.m_hWnd), popup = reinterpret_cast<LPARAM>(menu.m_hMenu);
+    const auto self = reinterpret_cast<LPARAM>(wnd.m_hWnd);
     COPYDATASTRUCT data{0, 5, nullptr};
     const LPARAM point = MAKELPARAM(-3, 4);
     const struct {
@@ -113,33 +96,28 @@ TEST(AfxMessageMap, HandlersSeeTheParametersOfTheirMessages) {
         const char* seen;
         LRESULT answer;
     } cases[] = {
-        {WM_SIZE, SIZE_RESTORED, MAKELPARAM(100, 50), "size 0 100 50", 0},
-        {WM_MOVE, 0, point, "move -3 4 -1", 0},
+        {WM_MOVE, 0, point, "move -3 4", 0},
         {WM_KEYDOWN, VK_UP, MAKELPARAM(1, 0x148), "key 38 1 328", 0},
-        {WM_MOUSEMOVE, MK_CONTROL, point, "mouse 8 -3 4", 0},
         {WM_NCLBUTTONDOWN, HTCAPTION, point, "nc 2 -3 4", 0},
-        {WM_MOUSEWHEEL, MAKEWPARAM(MK_SHIFT, -120), point, "wheel 4 -120 4", 1},
         {WM_ACTIVATE, MAKEWPARAM(WA_CLICKACTIVE, 1), self, "activate 2 1 1", 0},
-        {WM_SHOWWINDOW, TRUE, SW_PARENTOPENING, "show 1 3 -1", 0},
-        {WM_SETFOCUS, static_cast<WPARAM>(self), 0, "focus 1 -1 -1", 0},
-        {WM_CAPTURECHANGED, 0, self, "capture 1 -1 -1", 0},
+        {WM_SHOWWINDOW, TRUE, SW_PARENTOPENING, "show 1 3", 0},
+        {WM_CAPTURECHANGED, 0, self, "capture 1", 0},
         {WM_CONTEXTMENU, static_cast<WPARAM>(self), -1, "context 1 -1 -1", 0},
-        {WM_SYSCOMMAND, SC_KEYMENU, 'x', "sys 61696 120 -1", 0},
+        {WM_SYSCOMMAND, SC_KEYMENU, 'x', "sys 61696 120", 0},
         {WM_SETCURSOR, static_cast<WPARAM>(self), MAKELPARAM(HTCLIENT, WM_MOUSEMOVE), "cursor 1 1 512", 1},
         {WM_MOUSEACTIVATE, static_cast<WPARAM>(self), MAKELPARAM(HTCLIENT, WM_LBUTTONDOWN), "click 1 1 513", 3},
-        {WM_NCACTIVATE, TRUE, 0, "ncactivate 1 -1 -1", 1},
-        {WM_NCHITTEST, 0, point, "hit -3 4 -1", 7},
-        {WM_GETDLGCODE, 0, 0, "code -1 -1 -1", DLGC_WANTARROWS},
-        {WM_QUERYENDSESSION, 0, 0, "query -1 -1 -1", 0},
-        {WM_MENUSELECT, MAKEWPARAM(200, MF_HILITE), popup, "select 200 128 -1", 0},
-        {WM_INITMENUPOPUP, static_cast<WPARAM>(popup), MAKELPARAM(2, 1), "popup 1 2 1", 0},
-        {WM_TIMER, 0x123456789, 0, "timer 4886718345 -1 -1", 0},
+        {WM_NCACTIVATE, TRUE, 0, "ncactivate 1", 1},
+        {WM_GETDLGCODE, 0, 0, "code", DLGC_WANTARROWS},
+        {WM_QUERYENDSESSION, 0, 0, "query", 0},
+        {WM_MOUSEWHEEL, MAKEWPARAM(MK_SHIFT, -120), point, "wheel 4 -120 4", 1},
+        {WM_INITMENUPOPUP, 0, MAKELPARAM(2, 1), "popup 2 1", 0},
+        {WM_TIMER, 0x123456789, 0, "timer 4886718345", 0},
         {WM_SETTINGCHANGE, 9, reinterpret_cast<LPARAM>("intl"), "setting 9 intl", 0},
-        {WM_COPYDATA, static_cast<WPARAM>(self), reinterpret_cast<LPARAM>(&data), "copy 1 5 -1", 1},
+        {WM_COPYDATA, static_cast<WPARAM>(self), reinterpret_cast<LPARAM>(&data), "copy 1 5", 1},
         {WM_DISPLAYCHANGE, 32, MAKELPARAM(640, 480), "display 32 640 480", 0},
-        {WM_PARENTNOTIFY, MAKEWPARAM(WM_LBUTTONDOWN, 9), point, "parent 513 9 -1", 0},
-        {WM_USER + 3, 5, -6, "own 5 -6 -1", 42},
-        {registered, 8, 0, "registered 8 -1 -1", 43},
+        {WM_PARENTNOTIFY, MAKEWPARAM(WM_LBUTTONDOWN, 9), point, "parent 513 9", 0},
+        {WM_USER + 3, 5, -6, "own 5 -6", 42},
+        {registered, 8, 0, "registered 8", 43},
     };
     for (const auto& one : cases) {
         wnd.log.clear();
@@ -152,26 +130,6 @@ TEST(AfxMessageMap, HandlersSeeTheParametersOfTheirMessages) {
     EXPECT_EQ(wnd.SendMessage(registered + 1), 0) << "another registered message";
 }
 
-class old_timer : public CWnd {
-public:
-    UINT seen = 0;
-
-protected:
-    void OnTimer(UINT id) { seen = id; }
-    DECLARE_MESSAGE_MAP()
-};
-
-BEGIN_MESSAGE_MAP(old_timer, CWnd)
-ON_WM_TIMER()
-END_MESSAGE_MAP()
-
-TEST(AfxMessageMap, OlderHandlersOfTimersAreServed) {
-    old_timer wnd;
-    ASSERT_TRUE(create_popup(wnd));
-    wnd.SendMessage(WM_TIMER, 77);
-    EXPECT_EQ(wnd.seen, 77u);
-}
-
 // Commands by range, with an answer, and their updates.
 class commander : public CWnd {
 public:
@@ -180,18 +138,19 @@ public:
     bool enabled = true;
 
 protected:
-    void OnRange(UINT id) { log.push_back(text("range %u", id)); }
-    BOOL OnMaybe(UINT id) { return log.push_back(text("maybe %u", id)), handled; }
+    void OnRange(UINT id) { log.push_back(text("range", id)); }
+    BOOL OnMaybe(UINT id) { return log.push_back(text("maybe", id)), handled; }
     void OnPlain() { log.push_back("plain"); }
+    void OnTimer(UINT id) { log.push_back(text("timer", id)); } // as older programs write it
     void OnUpdate(CCmdUI* item) { item->Enable(enabled); }
     void OnPass(CCmdUI* item) {
         log.push_back("pass");
         item->ContinueRouting();
     }
-    BOOL OnNotifyMaybe(UINT id, NMHDR*, LRESULT* result) {
-        return *result = 9, log.push_back(text("n %u", id)), handled;
-    }
-    void OnNotifyRange(UINT id, NMHDR*, LRESULT*) { log.push_back(text("nr %u", id)); }
+    BOOL OnNotifyMaybe(UINT id, NMHDR*, LRESULT* result) { return *result = 9, log.push_back(text("n", id)), handled; }
+    void OnNotifyRange(UINT id, NMHDR*, LRESULT*) { log.push_back(text("nr", id)); }
+    void OnNotified(NMHDR* header, LRESULT* result) { log.push_back(text("n", header->code)), *result = 42; }
+    void OnControl(UINT id) { log.push_back(text("control", id)); }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -201,14 +160,19 @@ ON_COMMAND_EX(200, &commander::OnMaybe)
 ON_COMMAND(201, &commander::OnPlain)
 ON_UPDATE_COMMAND_UI(201, &commander::OnUpdate)
 ON_UPDATE_COMMAND_UI_RANGE(300, 301, &commander::OnPass)
+ON_WM_TIMER()
 ON_NOTIFY_EX(NM_CLICK, 400, &commander::OnNotifyMaybe)
 ON_NOTIFY_RANGE(NM_DBLCLK, 400, 401, &commander::OnNotifyRange)
+ON_NOTIFY(103, 400, &commander::OnNotified)
+ON_CONTROL_RANGE(EN_CHANGE, 500, 501, &commander::OnControl)
 END_MESSAGE_MAP()
 
 TEST(AfxCommands, AreHandledByRangeAndAnswer) {
     commander wnd;
     ASSERT_TRUE(create_popup(wnd));
-    const auto command = [&](UINT id) { return wnd.SendMessage(WM_COMMAND, id); };
+    const auto command = [&](WORD id, WORD code = 0, HWND control = nullptr) {
+        return wnd.SendMessage(WM_COMMAND, MAKEWPARAM(id, code), reinterpret_cast<LPARAM>(control));
+    };
     EXPECT_EQ(command(100), 1);
     EXPECT_EQ(command(110), 1);
     EXPECT_EQ(command(111), 0);
@@ -216,20 +180,28 @@ TEST(AfxCommands, AreHandledByRangeAndAnswer) {
     wnd.handled = TRUE;
     EXPECT_EQ(command(200), 1);
     EXPECT_EQ(command(201), 1);
+    EXPECT_EQ(command(201, 1), 1) << "from an accelerator";
     wnd.enabled = false;
     EXPECT_EQ(command(201), 1) << "disabled: not for anybody else, either";
-    EXPECT_THAT(wnd.log, ElementsAre("range 100", "range 110", "maybe 200", "maybe 200", "plain"));
+    EXPECT_EQ(command(501, EN_CHANGE, wnd), 1);
+    EXPECT_EQ(command(501, EN_UPDATE, wnd) + command(501, EN_CHANGE), 0);
+    wnd.SendMessage(WM_TIMER, 77);
+    EXPECT_THAT(wnd.log, ElementsAre("range 100", "range 110", "maybe 200", "maybe 200", "plain", "plain",
+                                     "control 501", "timer 77"));
 
     wnd.log.clear();
-    NMHDR header{nullptr, 400, static_cast<UINT>(NM_CLICK)};
-    EXPECT_EQ(wnd.SendMessage(WM_NOTIFY, 400, reinterpret_cast<LPARAM>(&header)), 9);
-    header.code = static_cast<UINT>(NM_DBLCLK);
-    header.idFrom = 401;
-    wnd.SendMessage(WM_NOTIFY, 401, reinterpret_cast<LPARAM>(&header));
+    const auto notify = [&](UINT id, UINT code) {
+        NMHDR header{nullptr, id, code};
+        return wnd.SendMessage(WM_NOTIFY, id, reinterpret_cast<LPARAM>(&header));
+    };
+    EXPECT_EQ(notify(400, static_cast<UINT>(NM_CLICK)), 9); // codes of the platform are negative
+    EXPECT_EQ(notify(401, static_cast<UINT>(NM_DBLCLK)), 0);
+    EXPECT_EQ(notify(400, 103), 42);
+    EXPECT_EQ(notify(400, 104), 0);
     CCmdUI item;
     item.m_nID = 300;
     EXPECT_FALSE(wnd.OnCmdMsg(300, CN_UPDATE_COMMAND_UI, &item, nullptr)) << "continued";
-    EXPECT_THAT(wnd.log, ElementsAre("n 400", "nr 401", "pass"));
+    EXPECT_THAT(wnd.log, ElementsAre("n 400", "nr 401", "n 103", "pass"));
     AFX_CMDHANDLERINFO info{};
     EXPECT_TRUE(wnd.OnCmdMsg(201, CN_COMMAND, nullptr, &info));
     EXPECT_EQ(info.pTarget, &wnd);
@@ -245,11 +217,11 @@ protected:
     BOOL OnClicked() { return log.push_back("clicked"), keeps; }
     void OnNotified(NMHDR*, LRESULT* result) { log.push_back("notified"), *result = 5; }
     HBRUSH CtlColor(CDC* dc, UINT kind) {
-        log.push_back(text("color %u", kind));
+        log.push_back(text("color", kind));
         return keeps && dc != nullptr ? static_cast<HBRUSH>(::GetStockObject(BLACK_BRUSH)) : nullptr;
     }
-    void HScroll(UINT code, UINT position) { log.push_back(text("scroll %u %u", code, position)); }
-    void DrawItem(LPDRAWITEMSTRUCT item) { log.push_back(text("draw %u", item->itemID)); }
+    void HScroll(UINT code, UINT position) { log.push_back(text("scroll", code, position)); }
+    void DrawItem(LPDRAWITEMSTRUCT item) { log.push_back(text("draw", item->itemID)); }
     int CompareItem(LPCOMPAREITEMSTRUCT) { return log.push_back("compare"), -1; }
     void OnUpdateSelf(CCmdUI* item) { log.push_back("update"), item->Enable(FALSE); }
     DECLARE_MESSAGE_MAP()
@@ -317,27 +289,9 @@ EXPECT_TRUE(caught);
 
 TEST(AfxExceptions, NewRaisesTheFrameworksOwn) {
     volatile std::size_t much = ~std::size_t(0) / 4;
-    EXPECT_THROW(
-        {
-            try {
-                delete[] new char[much];
-            } catch (CMemoryException* exception) {
-                exception->Delete();
-                throw 1;
-            }
-        },
-        int);
+    EXPECT_TRUE(raises<CMemoryException>([&] { delete[] new char[much]; }));
     EXPECT_EQ(new (std::nothrow) char[much], nullptr);
-    EXPECT_THROW(
-        {
-            try {
-                ENSURE(much == 0);
-            } catch (CInvalidArgException* exception) {
-                exception->Delete();
-                throw 1;
-            }
-        },
-        int);
+    EXPECT_TRUE(raises<CInvalidArgException>([&] { ENSURE(much == 0); }));
 }
 
 } // namespace

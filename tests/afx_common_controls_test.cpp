@@ -5,19 +5,9 @@
 #include <afxdtctl.h>
 #include <afxext.h>
 
-#include <gmock/gmock.h>
-
 namespace {
 
-class AfxCommonControls : public testing::Test {
-protected:
-    AfxCommonControls() { EXPECT_TRUE(create_visible_popup(parent)); }
-    ~AfxCommonControls() override { parent.DestroyWindow(); }
-    static constexpr DWORD shown = WS_CHILD | WS_VISIBLE;
-    const CRect place{0, 0, 100, 60};
-
-    CWnd parent;
-};
+using AfxCommonControls = WithParent;
 
 TEST_F(AfxCommonControls, AHotKeyHasANameWithItsModifiers) {
     CHotKeyCtrl key;
@@ -267,13 +257,10 @@ TEST_F(AfxCommonControls, ADraggedItemGoesWhereItIsDropped) {
 class AfxImageList : public AfxCommonControls {
 protected:
     AfxImageList() {
-        CClientDC screen(&parent);
-        EXPECT_TRUE(dc.CreateCompatibleDC(&screen) && bitmap.CreateCompatibleBitmap(&screen, 32, 16));
-        before = dc.SelectObject(&bitmap);
         EXPECT_TRUE(list.Create(16, 16, ILC_COLOR24 | ILC_MASK, 0, 4));
         for (const COLORREF colour : {red, green}) { // one after the other, each with a magenta hole
             CBitmap image;
-            image.CreateCompatibleBitmap(&screen, 16, 16);
+            image.CreateCompatibleBitmap(&dc, 16, 16);
             CBitmap* other = dc.SelectObject(&image);
             dc.FillSolidRect(0, 0, 16, 16, colour);
             dc.FillSolidRect(4, 4, 4, 4, hole);
@@ -281,7 +268,6 @@ protected:
             list.Add(&image, hole);
         }
     }
-    ~AfxImageList() override { dc.SelectObject(before); }
     // What is drawn over blue, at a corner and in the hole.
     std::pair<COLORREF, COLORREF> drawn(CImageList& from, int image) {
         dc.FillSolidRect(0, 0, 32, 16, blue);
@@ -291,9 +277,7 @@ protected:
 
     static constexpr COLORREF red = RGB(255, 0, 0), green = RGB(0, 255, 0), blue = RGB(0, 0, 255),
                               hole = RGB(255, 0, 255);
-    CDC dc;
-    CBitmap bitmap;
-    CBitmap* before = nullptr;
+    canvas dc{32, 16};
     CImageList list;
 };
 
@@ -320,15 +304,12 @@ TEST_F(AfxImageList, DrawsCopiesAndReplacesItsPictures) {
 
 TEST_F(AfxImageList, GoesThroughAnArchiveBetweenOtherThings) {
     CMemFile file;
-    {
-        CArchive ar(&file, CArchive::store, 128);
+    store(file, [&](CArchive& ar) {
         ar << 7;
         ASSERT_TRUE(list.Write(&ar));
         ar << CString("behind");
-    }
-    file.SeekToBegin();
-    {
-        CArchive ar(&file, CArchive::load, 128);
+    });
+    load(file, [&](CArchive& ar) {
         int before = 0;
         CString behind;
         CImageList read;
@@ -338,7 +319,7 @@ TEST_F(AfxImageList, GoesThroughAnArchiveBetweenOtherThings) {
         EXPECT_TRUE(before == 7 && behind == "behind");
         EXPECT_EQ(read.GetImageCount(), 2);
         EXPECT_EQ(drawn(read, 1), std::pair(green, blue));
-    }
+    });
     for (const int length : {0, 3, 10, 40, 90}) {
         file.SeekToBegin();
         CMemFile cut;
@@ -379,11 +360,12 @@ TEST_F(AfxCommonControls, BitmapButtonsShowTheBitmapOfTheirState) {
     EXPECT_FALSE(button.LoadBitmaps("NOSUCHU"));
     ASSERT_TRUE(button.LoadBitmaps(MAKEINTRESOURCE(IDB_UP), MAKEINTRESOURCE(IDB_DOWN)));
     button.SizeToContent();
-    CRect size;
-    button.GetClientRect(size);
+    const CRect size = inside_of(button);
     EXPECT_EQ(size.Size(), CSize(8, 8));
+    button.RedrawWindow();
+    CClientDC dc(&button);
+    EXPECT_EQ(dc.GetPixel(4, 4), RGB(255, 0, 0)) << "it draws itself, whoever is asked to";
     const auto shows = [&](UINT state) {
-        CClientDC dc(&button);
         DRAWITEMSTRUCT item{};
         item.itemState = state;
         item.hDC = dc;

@@ -4,15 +4,10 @@
 
 #include <afxdlgs.h>
 
-#include <gtest/gtest.h>
-
 namespace {
 
-class AfxCommonDialogs : public testing::Test {
+class AfxCommonDialogs : public WithParent {
 protected:
-    AfxCommonDialogs() { EXPECT_TRUE(create_popup(parent)); }
-    ~AfxCommonDialogs() override { parent.DestroyWindow(); }
-
     // Runs the dialog; `work` answers true once it has ended it.
     static INT_PTR run(CDialog& dialog, const std::function<bool()>& work) {
         WhileModal modal([&] { return dialog.m_hWnd != nullptr && dialog.IsWindowVisible() && work(); });
@@ -22,8 +17,6 @@ protected:
         return dialog.PostMessage(WM_COMMAND, static_cast<WPARAM>(button),
                                   reinterpret_cast<LPARAM>(::GetDlgItem(dialog, button)));
     }
-
-    CWnd parent;
 };
 
 class begun_colours : public CColorDialog {

@@ -1,14 +1,13 @@
 // Documents: made, changed, asked about, saved, opened again; the files that were used last; the command line.
 #include "afx_test_app.h"
 #include "modal.h"
-#include "pixels.h"
+#include "temporary_file.h"
 
 #include <afxadv.h>
 #include <afxext.h>
 #include <afxpriv.h>
 
-#include <gmock/gmock.h>
-
+#include <filesystem>
 #include <fstream>
 
 using testing::ElementsAre;
@@ -65,9 +64,7 @@ protected:
             new CSingleDocTemplate(IDR_FRAME, RUNTIME_CLASS(note), RUNTIME_CLASS(CFrameWnd), RUNTIME_CLASS(note_view)));
         the_app.take_boxes();
         note_view::log.clear();
-        char folder[MAX_PATH];
-        ::GetTempPath(MAX_PATH, folder);
-        path_ = std::string(folder) + "afx_document_test.note";
+        path_ = (std::filesystem::temp_directory_path() / "afx_document_test.note").string();
         ::DeleteFile(path_.c_str());
     }
     void TearDown() override {
@@ -75,24 +72,15 @@ protected:
         if (the_app.m_pMainWnd != nullptr)
             the_app.m_pMainWnd->SendMessage(WM_CLOSE);
         EXPECT_EQ(note::alive, 0);
-        delete std::exchange(the_app.m_pDocManager, nullptr);
+        end_documents();
         the_app.answer = IDOK;
-        MSG quit;
-        ::PeekMessage(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
         ::DeleteFile(path_.c_str());
         the_app.m_pMainWnd = nullptr;
     }
     note& document() { return *static_cast<note*>(frame().GetActiveDocument()); }
     CFrameWnd& frame() { return *static_cast<CFrameWnd*>(the_app.m_pMainWnd); }
-    std::string title() {
-        CString text;
-        frame().GetWindowText(text);
-        return std::string(text);
-    }
-    std::string on_disk() {
-        std::ifstream file(path_, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
+    std::string title() { return text_of(frame()); }
+    std::string on_disk() { return text_of(path_); }
     void write(const std::string& text) { std::ofstream(path_, std::ios::binary) << text; }
     void command(UINT id) { frame().SendMessage(WM_COMMAND, id); }
 
@@ -190,17 +178,35 @@ TEST_F(NoteProgram, OpensWhatTheUserChoosesUnlessNothingIsChosen) {
     EXPECT_EQ(the_app.OpenDocumentFile(quoted.c_str()), &document()) << "as a shell writes names";
 }
 
-TEST(AfxSeveralDocuments, AFileThatIsOpenIsShownNotOpenedAgain) {
-    the_app.m_nCmdShow = SW_SHOWNOACTIVATE;
-    the_app.AddDocTemplate(
-        new CMultiDocTemplate(IDR_FRAME, RUNTIME_CLASS(note), RUNTIME_CLASS(CMDIChildWnd), RUNTIME_CLASS(note_view)));
-    auto* frame = new CMDIFrameWnd;
-    ASSERT_TRUE(frame->LoadFrame(IDR_FRAME));
-    the_app.m_pMainWnd = frame;
-    frame->ShowWindow(SW_SHOWNOACTIVATE);
-    char folder[MAX_PATH];
-    ::GetTempPath(MAX_PATH, folder);
-    const std::string path = std::string(folder) + "afx_open.note";
+// Documents side by side in one frame.
+class AfxSeveralDocuments : public testing::Test {
+protected:
+    AfxSeveralDocuments() {
+        the_app.m_nCmdShow = SW_SHOWNOACTIVATE;
+        add(RUNTIME_CLASS(note), IDR_FRAME);
+        EXPECT_TRUE(frame->LoadFrame(IDR_FRAME));
+        the_app.m_pMainWnd = frame;
+        frame->ShowWindow(SW_SHOWNOACTIVATE);
+        the_app.take_boxes();
+    }
+    void TearDown() override {
+        the_app.answer = IDNO;
+        if (the_app.m_pMainWnd != nullptr)
+            frame->SendMessage(WM_CLOSE);
+        the_app.answer = IDOK;
+        EXPECT_EQ(note::alive, 0);
+        end_documents();
+    }
+    static void add(CRuntimeClass* document, UINT id) {
+        the_app.AddDocTemplate(
+            new CMultiDocTemplate(id, document, RUNTIME_CLASS(CMDIChildWnd), RUNTIME_CLASS(note_view)));
+    }
+
+    CMDIFrameWnd* frame = new CMDIFrameWnd; // deletes itself
+};
+
+TEST_F(AfxSeveralDocuments, AFileThatIsOpenIsShownNotOpenedAgain) {
+    const std::string path = (std::filesystem::temp_directory_path() / "afx_open.note").string();
     std::ofstream(path) << "kept";
     CDocument* first = the_app.OpenDocumentFile(path.c_str());
     ASSERT_NE(first, nullptr);
@@ -216,33 +222,10 @@ TEST(AfxSeveralDocuments, AFileThatIsOpenIsShownNotOpenedAgain) {
     for (POSITION at = the_app.GetFirstDocTemplatePosition(); at != nullptr; ++templates)
         the_app.GetNextDocTemplate(at);
     EXPECT_EQ(templates, 1);
-    frame->SendMessage(WM_CLOSE);
-    EXPECT_EQ(note::alive, 0);
     ::DeleteFile(path.c_str());
-    MSG quit;
-    ::PeekMessage(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
-    delete std::exchange(the_app.m_pDocManager, nullptr);
 }
 
-class main_frame : public CMDIFrameWnd {
-public:
-    std::string title() {
-        CString text;
-        GetWindowText(text);
-        return std::string(text);
-    }
-};
-
-TEST(AfxSeveralDocuments, LieInOneFrameThatShowsTheActiveOnes) {
-    the_app.m_nCmdShow = SW_SHOWNOACTIVATE;
-    auto* kind =
-        new CMultiDocTemplate(IDR_FRAME, RUNTIME_CLASS(note), RUNTIME_CLASS(CMDIChildWnd), RUNTIME_CLASS(note_view));
-    the_app.AddDocTemplate(kind);
-    auto* frame = new main_frame;
-    ASSERT_TRUE(frame->LoadFrame(IDR_FRAME));
-    the_app.m_pMainWnd = frame;
-    frame->ShowWindow(SW_SHOWNOACTIVATE);
-    the_app.take_boxes();
+TEST_F(AfxSeveralDocuments, LieInOneFrameThatShowsTheActiveOnes) {
     EXPECT_FALSE(frame->OnCmdMsg(ID_FILE_SAVE, CN_COMMAND, nullptr, nullptr)) << "no document is there to take it";
 
     frame->SendMessage(WM_COMMAND, ID_FILE_NEW);
@@ -250,17 +233,15 @@ TEST(AfxSeveralDocuments, LieInOneFrameThatShowsTheActiveOnes) {
     EXPECT_EQ(the_app.GetOpenDocumentCount(), 2);
     CMDIChildWnd* second = frame->MDIGetActive();
     ASSERT_NE(second, nullptr);
-    EXPECT_EQ(frame->title(), "Untitled2 - Tests");
+    EXPECT_EQ(text_of(*frame), "Untitled2 - Tests");
     EXPECT_EQ(frame->GetActiveFrame(), second);
     frame->MDINext();
-    EXPECT_EQ(frame->title(), "Untitled1 - Tests");
+    EXPECT_EQ(text_of(*frame), "Untitled1 - Tests");
     EXPECT_NE(frame->MDIGetActive(), second);
 
     frame->MDIActivate(second);
     frame->SendMessage(WM_COMMAND, ID_WINDOW_NEW);
-    CString title;
-    second->GetWindowText(title);
-    EXPECT_STREQ(title, "Untitled2:1");
+    EXPECT_EQ(text_of(*second), "Untitled2:1");
     EXPECT_EQ(the_app.GetOpenDocumentCount(), 2);
     static_cast<note*>(second->GetActiveDocument())->SetModifiedFlag();
     second->SendMessage(WM_CLOSE);
@@ -273,10 +254,6 @@ TEST(AfxSeveralDocuments, LieInOneFrameThatShowsTheActiveOnes) {
     frame->SendMessage(WM_CLOSE);
     EXPECT_EQ(note::alive, 0);
     EXPECT_EQ(the_app.m_pMainWnd, nullptr);
-    the_app.answer = IDOK;
-    MSG quit;
-    ::PeekMessage(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
-    delete std::exchange(the_app.m_pDocManager, nullptr);
 }
 
 // The document's views are a list that programs go through themselves.
@@ -288,16 +265,8 @@ public:
 };
 IMPLEMENT_DYNCREATE(listed_note, note)
 
-TEST(AfxSeveralKinds, AreOfferedToTheUser) {
-    const auto add = [](CRuntimeClass* document, UINT id) {
-        the_app.AddDocTemplate(
-            new CMultiDocTemplate(id, document, RUNTIME_CLASS(CMDIChildWnd), RUNTIME_CLASS(note_view)));
-    };
-    add(RUNTIME_CLASS(note), IDR_FRAME);
+TEST_F(AfxSeveralDocuments, OfSeveralKindsAreOfferedToTheUser) {
     add(RUNTIME_CLASS(listed_note), IDS_LIST_KIND);
-    auto* frame = new main_frame;
-    ASSERT_TRUE(frame->LoadFrame(IDR_FRAME));
-    the_app.m_pMainWnd = frame;
     std::vector<std::string> names;
     // Chooses a kind in the box for new documents; -1: none after all.
     const auto make = [&](int kind) {
@@ -324,56 +293,6 @@ TEST(AfxSeveralKinds, AreOfferedToTheUser) {
     EXPECT_TRUE(frame->GetActiveFrame()->GetActiveDocument()->IsKindOf(RUNTIME_CLASS(listed_note)));
     make(-1);
     EXPECT_EQ(the_app.GetOpenDocumentCount(), 1);
-    frame->SendMessage(WM_CLOSE);
-    MSG quit;
-    ::PeekMessage(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
-    delete std::exchange(the_app.m_pDocManager, nullptr);
-}
-
-// A frame with everything around it.
-class full_frame : public CFrameWnd {
-    DECLARE_DYNCREATE(full_frame)
-
-public:
-    CToolBar tools;
-    CStatusBar status;
-    CSplitterWnd splitter;
-    BOOL OnCreateClient(LPCREATESTRUCT, CCreateContext* context) override {
-        const UINT panes[] = {ID_SEPARATOR, ID_INDICATOR_NUM};
-        if (!splitter.Create(this, 2, 2, CSize(10, 10), context) || !tools.Create(this) ||
-            !tools.LoadToolBar(IDR_FRAME) || !status.Create(this) || !status.SetIndicators(panes, 2))
-            return FALSE;
-        tools.EnableDocking(CBRS_ALIGN_ANY);
-        EnableDocking(CBRS_ALIGN_ANY);
-        DockControlBar(&tools);
-        return TRUE;
-    }
-};
-IMPLEMENT_DYNCREATE(full_frame, CFrameWnd)
-
-TEST(AfxHandles, FramesAndDocumentsGiveEverythingBack) {
-    the_app.m_nCmdShow = SW_SHOWNOACTIVATE;
-    the_app.AddDocTemplate(
-        new CSingleDocTemplate(IDR_FRAME, RUNTIME_CLASS(note), RUNTIME_CLASS(full_frame), RUNTIME_CLASS(note_view)));
-    const auto live = [] {
-        the_app.OnFileNew();
-        auto* frame = static_cast<full_frame*>(the_app.m_pMainWnd);
-        frame->splitter.SplitRow(50);
-        the_app.OnIdle(0);
-        frame->SendMessage(WM_CLOSE);
-        the_app.OnIdle(1);
-    };
-    for (int i = 0; i < 10; ++i)
-        live(); // what is made once
-    const Counts before;
-    for (int i = 0; i < 200; ++i)
-        live();
-    EXPECT_LT(before.grown(), 20);
-    EXPECT_EQ(note::alive, 0);
-    MSG quit;
-    while (::PeekMessage(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) {
-    }
-    delete std::exchange(the_app.m_pDocManager, nullptr);
 }
 
 TEST(AfxCommandLine, SaysWhatTheShellWants) {
@@ -415,28 +334,25 @@ TEST(AfxRecentFiles, AreKeptLatestFirstAndShownInTheMenu) {
     again.Remove(1);
     EXPECT_TRUE(again[2].IsEmpty());
 
-    CMenu menu;
-    menu.CreatePopupMenu();
-    menu.AppendMenu(MF_STRING, ID_FILE_MRU_FILE1, "Recent File");
-    menu.AppendMenu(MF_STRING, ID_APP_EXIT, "Exit");
-    CCmdUI item;
-    item.m_pMenu = &menu;
-    item.m_nID = ID_FILE_MRU_FILE1;
-    item.m_nIndexMax = 2;
-    again.UpdateMenu(&item);
+    CMenu menu, fresh;
+    const auto update = [](CRecentFileList& files, CMenu& in) {
+        in.CreatePopupMenu();
+        in.AppendMenu(MF_STRING, ID_FILE_MRU_FILE1, "Recent File");
+        in.AppendMenu(MF_STRING, ID_APP_EXIT, "Exit");
+        CCmdUI item;
+        item.m_pMenu = &in;
+        item.m_nID = ID_FILE_MRU_FILE1;
+        item.m_nIndexMax = 2;
+        files.UpdateMenu(&item);
+    };
+    update(again, menu);
     CString text;
     ASSERT_EQ(menu.GetMenuItemCount(), 3u);
     menu.GetMenuString(1, text, MF_BYPOSITION);
     EXPECT_STREQ(text, "&2 C:\\a&&b\\3.note");
     EXPECT_EQ(menu.GetMenuItemID(1), static_cast<UINT>(ID_FILE_MRU_FILE2));
     CRecentFileList empty(0, "Recent Test", "File%d", 3);
-    CMenu fresh;
-    fresh.CreatePopupMenu();
-    fresh.AppendMenu(MF_STRING, ID_FILE_MRU_FILE1, "Recent File");
-    item.m_pMenu = &fresh;
-    item.m_nID = ID_FILE_MRU_FILE1;
-    item.m_nIndex = 0;
-    empty.UpdateMenu(&item);
+    update(empty, fresh);
     EXPECT_NE(fresh.GetMenuState(0, MF_BYPOSITION) & MF_GRAYED, 0u);
 }
 

@@ -1,41 +1,21 @@
 // Files of text and of bytes: where they stand, what they refuse, what of them is found.
-#include <afx.h>
+#include "afx_test_app.h"
 
-#include <gtest/gtest.h>
-
-#include <functional>
+#include <filesystem>
 #include <memory>
 #include <string>
 
 namespace {
 
-// The cause of the file's exception; -1 for none.
-int cause_of(const std::function<void()>& work) {
-    try {
-        work();
-    } catch (CFileException* exception) {
-        const int cause = exception->m_cause;
-        exception->Delete();
-        return cause;
-    }
-    return -1;
-}
-
 class AfxFileModes : public testing::Test {
 protected:
     AfxFileModes() {
-        char base[MAX_PATH];
-        ::GetTempPath(MAX_PATH, base);
-        folder.Format("%safx modes %lu", base, ::GetCurrentProcessId());
+        folder.Format("%safx modes %lu", std::filesystem::temp_directory_path().string().c_str(),
+                      ::GetCurrentProcessId());
         ::CreateDirectory(folder, nullptr);
         name = folder + "\\file.tmp";
     }
-    ~AfxFileModes() override {
-        for (const char* file : {"\\file.tmp", "\\second.tmp", "\\.dot"})
-            ::DeleteFile(folder + file);
-        ::RemoveDirectory(folder + "\\inner");
-        ::RemoveDirectory(folder);
-    }
+    ~AfxFileModes() override { std::filesystem::remove_all(folder.GetString()); }
     std::string bytes() const {
         CFile file(name, CFile::modeRead | CFile::shareDenyNone);
         std::string all(static_cast<std::size_t>(file.GetLength()), '\0');
@@ -79,7 +59,7 @@ TEST_F(AfxFileModes, StandWhereTheyWerePutAndGrowFromThere) {
     EXPECT_EQ(file.Seek(-3, CFile::end), 7u);
     char part[8] = "";
     EXPECT_EQ(file.Read(part, 8), 3u);
-    EXPECT_EQ(cause_of([&] { file.Seek(-1, CFile::begin); }), CFileException::badSeek);
+    EXPECT_EQ(cause_of<CFileException>([&] { file.Seek(-1, CFile::begin); }), CFileException::badSeek);
     file.SetLength(4);
     EXPECT_EQ(file.GetLength(), 4u);
     file.SeekToEnd();
@@ -89,14 +69,17 @@ TEST_F(AfxFileModes, StandWhereTheyWerePutAndGrowFromThere) {
     file.Close();
     CFile again(name, CFile::modeCreate | CFile::modeNoTruncate | CFile::modeWrite);
     EXPECT_EQ(again.SeekToEnd(), 5u);
-    EXPECT_EQ(cause_of([&] { again.Read(part, 1); }), CFileException::accessDenied) << "opened for writing only";
+    EXPECT_EQ(cause_of<CFileException>([&] { again.Read(part, 1); }), CFileException::accessDenied)
+        << "opened for writing only";
     again.Close();
-    EXPECT_EQ(cause_of([&] { CFile(name, CFile::modeRead).Write("x", 1); }), CFileException::accessDenied);
+    EXPECT_EQ(cause_of<CFileException>([&] { CFile(name, CFile::modeRead).Write("x", 1); }),
+              CFileException::accessDenied);
 }
 
 TEST_F(AfxFileModes, KeepOthersOutAsAsked) {
     CFile first(name, write_new | CFile::shareExclusive);
-    EXPECT_EQ(cause_of([&] { CFile(name, CFile::modeRead | CFile::shareDenyNone); }), CFileException::sharingViolation);
+    EXPECT_EQ(cause_of<CFileException>([&] { CFile(name, CFile::modeRead | CFile::shareDenyNone); }),
+              CFileException::sharingViolation);
     CFileException why;
     CFile refused;
     EXPECT_FALSE(refused.Open(folder + "\\none\\such", CFile::modeRead, &why));
@@ -108,10 +91,10 @@ TEST_F(AfxFileModes, KeepOthersOutAsAsked) {
     open.Write("0123456789", 10);
     open.LockRange(2, 4);
     CFile other(name, CFile::modeReadWrite | CFile::shareDenyNone);
-    EXPECT_EQ(cause_of([&] { other.LockRange(5, 9); }), CFileException::lockViolation);
+    EXPECT_EQ(cause_of<CFileException>([&] { other.LockRange(5, 9); }), CFileException::lockViolation);
     open.UnlockRange(2, 4);
-    EXPECT_EQ(cause_of([&] { other.LockRange(5, 9); }), -1);
-    EXPECT_EQ(cause_of([&] { open.UnlockRange(50, 1); }), CFileException::lockViolation);
+    EXPECT_EQ(cause_of<CFileException>([&] { other.LockRange(5, 9); }), -1);
+    EXPECT_EQ(cause_of<CFileException>([&] { open.UnlockRange(50, 1); }), CFileException::lockViolation);
     const std::unique_ptr<CFile> twin(open.Duplicate());
     open.SeekToBegin();
     EXPECT_EQ(twin->GetPosition(), 0u) << "one place for both";
@@ -153,9 +136,10 @@ TEST_F(AfxFileModes, FoundOnesTellWhatTheyAre) {
 TEST_F(AfxFileModes, NamesAreChangedAndCausesAreTold) {
     CFile(name, write_new).Close();
     CFile(folder + "\\second.tmp", write_new).Close();
-    EXPECT_EQ(cause_of([&] { CFile::Rename(name, folder + "\\second.tmp"); }), CFileException::accessDenied);
-    EXPECT_EQ(cause_of([&] { CFile::Remove(folder + "\\third.tmp"); }), CFileException::fileNotFound);
-    EXPECT_EQ(cause_of([&] { CFile::Remove(folder + "\\no\\third.tmp"); }), CFileException::badPath);
+    EXPECT_EQ(cause_of<CFileException>([&] { CFile::Rename(name, folder + "\\second.tmp"); }),
+              CFileException::accessDenied);
+    EXPECT_EQ(cause_of<CFileException>([&] { CFile::Remove(folder + "\\third.tmp"); }), CFileException::fileNotFound);
+    EXPECT_EQ(cause_of<CFileException>([&] { CFile::Remove(folder + "\\no\\third.tmp"); }), CFileException::badPath);
     CFileStatus status;
     EXPECT_FALSE(CFile::GetStatus(folder + "\\third.tmp", status));
     ASSERT_TRUE(CFile::GetStatus(name, status));

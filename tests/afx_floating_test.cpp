@@ -1,14 +1,11 @@
 // Floating bars, small frames, and the places of all bars as one state.
 #include "afx_test_app.h"
+#include "held_keys.h"
 
 #include <afxadv.h>
 #include <afxcmn.h>
 #include <afxext.h>
 #include <afxpriv.h>
-
-#include <gmock/gmock.h>
-
-#include <functional>
 
 using testing::ElementsAre;
 
@@ -36,10 +33,10 @@ public:
         bar.EnableDocking(CBRS_ALIGN_ANY);
         return true;
     }
-    CRect on_screen(CWnd& wnd) {
-        CRect rect;
-        wnd.GetWindowRect(rect);
-        return rect;
+    CFrameWnd& floated(CToolBar& bar) {
+        FloatControlBar(&bar, CPoint(150, 120));
+        RecalcLayout();
+        return around(bar);
     }
     CFrameWnd& around(CToolBar& bar) { return *static_cast<CFrameWnd*>(CWnd::FromHandle(::GetAncestor(bar, GA_ROOT))); }
     int toggled = 0;
@@ -60,24 +57,25 @@ BEGIN_MESSAGE_MAP(docking_frame, CFrameWnd)
 ON_COMMAND(ID_TEST_ON, &docking_frame::OnOn)
 END_MESSAGE_MAP()
 
-TEST(AfxFloating, ABarFloatsKeepsItsCommandsAndComesBack) {
+class AfxFloating : public testing::Test {
+protected:
+    AfxFloating() { EXPECT_TRUE(frame.open()); }
     docking_frame frame;
-    ASSERT_TRUE(frame.open());
-    const int docked_top = frame.on_screen(frame.more).top;
-    frame.FloatControlBar(&frame.tools, CPoint(150, 120));
-    frame.RecalcLayout();
+};
+using AfxDockState = AfxFloating;
+using AfxMiniFrame = AfxFloating;
+
+TEST_F(AfxFloating, ABarFloatsKeepsItsCommandsAndComesBack) {
+    const int docked_top = on_screen(frame.more).top;
+    CFrameWnd& small = frame.floated(frame.tools);
     EXPECT_TRUE(frame.tools.IsFloating());
-    EXPECT_LT(frame.on_screen(frame.more).top, docked_top) << "its row is gone";
-    CFrameWnd& small = frame.around(frame.tools);
+    EXPECT_LT(on_screen(frame.more).top, docked_top) << "its row is gone";
     ASSERT_NE(&small, &frame);
-    EXPECT_EQ(frame.on_screen(small).TopLeft(), CPoint(150, 120));
+    EXPECT_EQ(on_screen(small).TopLeft(), CPoint(150, 120));
     EXPECT_TRUE(small.IsWindowVisible());
-    CString title;
-    small.GetWindowText(title);
-    EXPECT_STREQ(title, "Title");
-    CRect client;
-    small.GetClientRect(client);
-    EXPECT_EQ(client.Size(), frame.on_screen(frame.tools).Size());
+    EXPECT_EQ(text_of(small), "Title");
+    const CRect client = inside_of(small);
+    EXPECT_EQ(client.Size(), on_screen(frame.tools).Size());
     EXPECT_EQ(frame.tools.GetDockingFrame(), &frame);
     frame.tools.SendMessage(WM_IDLEUPDATECMDUI, TRUE);
     EXPECT_NE(frame.tools.GetToolBarCtrl().IsButtonEnabled(ID_TEST_ON), 0);
@@ -89,14 +87,14 @@ TEST(AfxFloating, ABarFloatsKeepsItsCommandsAndComesBack) {
     EXPECT_FALSE(small.IsWindowVisible());
     EXPECT_TRUE(frame.OnBarCheck(ID_VIEW_TOOLBAR));
     EXPECT_TRUE(small.IsWindowVisible()) << "shown again where it was";
-    EXPECT_EQ(frame.on_screen(small).TopLeft(), CPoint(150, 120));
+    EXPECT_EQ(on_screen(small).TopLeft(), CPoint(150, 120));
 
     const HWND gone = small.m_hWnd;
     frame.DockControlBar(&frame.tools, AFX_IDW_DOCKBAR_LEFT);
     frame.RecalcLayout();
     EXPECT_FALSE(::IsWindow(gone));
     EXPECT_FALSE(frame.tools.IsFloating());
-    EXPECT_LT(frame.on_screen(frame.tools).Width(), frame.on_screen(frame.tools).Height());
+    EXPECT_LT(on_screen(frame.tools).Width(), on_screen(frame.tools).Height());
     frame.tools.SendMessage(WM_LBUTTONDBLCLK, 0, MAKELPARAM(-1, -1));
     EXPECT_TRUE(frame.tools.IsFloating()) << "a double click beside the buttons";
     frame.around(frame.tools).SendMessage(WM_NCLBUTTONDBLCLK, HTCAPTION);
@@ -104,12 +102,9 @@ TEST(AfxFloating, ABarFloatsKeepsItsCommandsAndComesBack) {
     EXPECT_EQ(frame.tools.GetBarStyle() & CBRS_ALIGN_ANY, static_cast<DWORD>(CBRS_ALIGN_LEFT)) << "where it was";
 }
 
-TEST(AfxFloating, ABarIsDockedWhereItIsDroppedNearASide) {
-    docking_frame frame;
-    ASSERT_TRUE(frame.open());
+TEST_F(AfxFloating, ABarIsDockedWhereItIsDroppedNearASide) {
     frame.more.EnableDocking(CBRS_ALIGN_TOP | CBRS_ALIGN_RIGHT);
-    CRect inside;
-    frame.GetClientRect(inside);
+    CRect inside = inside_of(frame);
     frame.ClientToScreen(inside);
     const CPoint middle = inside.CenterPoint();
     const struct {
@@ -120,28 +115,16 @@ TEST(AfxFloating, ABarIsDockedWhereItIsDroppedNearASide) {
                 {{inside.right - 5, middle.y}, CBRS_ALIGN_RIGHT},
                 {{middle.x, inside.top + 5}, CBRS_ALIGN_TOP}};
     for (const auto& row : rows) {
-        frame.FloatControlBar(&frame.more, CPoint(150, 120));
+        CFrameWnd& small = frame.floated(frame.more);
         ::SetCursorPos(row.dropped.x, row.dropped.y);
-        frame.around(frame.more).SendMessage(WM_EXITSIZEMOVE);
+        small.SendMessage(WM_EXITSIZEMOVE);
         const DWORD side = frame.more.IsFloating() ? 0 : frame.more.GetBarStyle() & CBRS_ALIGN_ANY;
         EXPECT_EQ(side, row.side) << row.dropped.x;
     }
 }
 
-// The upper left corner of what differs on the screen.
-CPoint first_change(const CRect& area, const std::vector<COLORREF>& before, const std::vector<COLORREF>& after) {
-    for (std::size_t i = 0; i < before.size(); ++i) {
-        if (before[i] != after[i])
-            return area.TopLeft() + CSize(static_cast<int>(i) % area.Width(), static_cast<int>(i) / area.Width());
-    }
-    return {-1, -1};
-}
-
-TEST(AfxFloating, ADraggedBarShowsWhereItWouldBe) {
-    docking_frame frame;
-    ASSERT_TRUE(frame.open());
-    CRect inside;
-    frame.GetClientRect(inside);
+TEST_F(AfxFloating, ADraggedBarShowsWhereItWouldBe) {
+    CRect inside = inside_of(frame);
     frame.ClientToScreen(inside);
     const CPoint pointer = inside.CenterPoint(); // away from all sides
     const CRect area(pointer - CSize(40, 40), CSize(80, 60));
@@ -153,41 +136,41 @@ TEST(AfxFloating, ADraggedBarShowsWhereItWouldBe) {
                 found.push_back(screen.GetPixel(x, y));
         return found;
     };
+    // The upper left corner of what differs.
+    const auto first_change = [&](const std::vector<COLORREF>& from, const std::vector<COLORREF>& to) {
+        const auto at = std::mismatch(from.begin(), from.end(), to.begin()).first - from.begin();
+        return area.TopLeft() + CSize(static_cast<int>(at) % area.Width(), static_cast<int>(at) / area.Width());
+    };
     frame.UpdateWindow();
     const auto before = pixels();
     std::vector<COLORREF> dragged;
     frame.look = [&] { dragged = pixels(); };
-    BYTE held[256] = {}, keys[256];
-    ::GetKeyboardState(keys);
-    held[VK_LBUTTON] = 0x80;
-    const CRect bar = frame.on_screen(frame.tools);
+    const CRect bar = on_screen(frame.tools);
     for (const bool dropped : {false, true}) {
         ::SetCursorPos(pointer.x, pointer.y);
         for (int i = 0; i < 2; ++i) // the first begins it
             frame.tools.PostMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(300, 300));
         frame.PostMessage(WM_USER);
         frame.tools.PostMessage(dropped ? WM_LBUTTONUP : WM_KEYDOWN, dropped ? 0 : VK_ESCAPE);
-        ::SetKeyboardState(held);
-        frame.tools.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(-1, -1));
-        ::SetKeyboardState(keys);
+        {
+            const HeldKeys button({VK_LBUTTON});
+            frame.tools.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(-1, -1));
+        }
         ASSERT_EQ(dragged.size(), before.size()) << "it was dragged";
-        const CPoint corner = first_change(area, before, dragged);
+        const CPoint corner = first_change(before, dragged);
         EXPECT_EQ(frame.tools.IsFloating(), dropped);
-        EXPECT_EQ(dropped ? frame.on_screen(frame.tools) : bar, frame.on_screen(frame.tools));
+        EXPECT_EQ(dropped ? on_screen(frame.tools) : bar, on_screen(frame.tools));
         EXPECT_NEAR(corner.x, pointer.x, 8);
         EXPECT_LT(corner.y, pointer.y - 10) << "a caption above the bar";
         if (!dropped) {
-            EXPECT_EQ(first_change(area, before, pixels()), CPoint(-1, -1)) << "no trace";
+            EXPECT_EQ(before, pixels()) << "no trace";
         }
     }
 }
 
-TEST(AfxFloating, ABarIsResizedByWholeLinesOfButtons) {
-    docking_frame frame;
-    ASSERT_TRUE(frame.open());
-    frame.FloatControlBar(&frame.tools, CPoint(150, 120));
-    CFrameWnd& small = frame.around(frame.tools);
-    const CRect wide = frame.on_screen(small);
+TEST_F(AfxFloating, ABarIsResizedByWholeLinesOfButtons) {
+    CFrameWnd& small = frame.floated(frame.tools);
+    const CRect wide = on_screen(small);
     CRect rect = wide;
     rect.right -= wide.Width() / 2;
     small.SendMessage(WM_SIZING, WMSZ_RIGHT, reinterpret_cast<LPARAM>(&rect));
@@ -195,24 +178,22 @@ TEST(AfxFloating, ABarIsResizedByWholeLinesOfButtons) {
     EXPECT_GT(rect.Height(), wide.Height() + 15) << "more lines";
     const CRect narrow = rect;
     small.RecalcLayout();
-    EXPECT_EQ(frame.on_screen(small).Size(), narrow.Size());
+    EXPECT_EQ(on_screen(small).Size(), narrow.Size());
     frame.ShowControlBar(&frame.tools, FALSE, FALSE);
     frame.ShowControlBar(&frame.tools, TRUE, FALSE);
-    EXPECT_EQ(frame.on_screen(small).Size(), narrow.Size()) << "as it was last";
+    EXPECT_EQ(on_screen(small).Size(), narrow.Size()) << "as it was last";
     rect.bottom = rect.top + wide.Height();
     small.SendMessage(WM_SIZING, WMSZ_BOTTOM, reinterpret_cast<LPARAM>(&rect));
     EXPECT_EQ(rect.Size(), wide.Size());
 }
 
-TEST(AfxDockState, PutsEveryBarBackWhereItWas) {
-    docking_frame frame;
-    ASSERT_TRUE(frame.open());
+TEST_F(AfxDockState, PutsEveryBarBackWhereItWas) {
     frame.DockControlBar(&frame.tools, AFX_IDW_DOCKBAR_TOP); // the second row now
     frame.RecalcLayout();
     const auto places = [&] {
         frame.SendMessage(WM_IDLEUPDATECMDUI, TRUE);
-        return std::vector<int>{frame.on_screen(frame.tools).top, frame.on_screen(frame.more).top,
-                                frame.tools.IsFloating(), frame.more.IsFloating(), frame.more.IsVisible()};
+        return std::vector<int>{on_screen(frame.tools).top, on_screen(frame.more).top, frame.tools.IsFloating(),
+                                frame.more.IsFloating(), frame.more.IsVisible()};
     };
     CDockState rows, floating, read;
     frame.GetDockState(rows);
@@ -232,23 +213,14 @@ TEST(AfxDockState, PutsEveryBarBackWhereItWas) {
     EXPECT_FALSE(frame.tools.IsVisible());
 
     CMemFile file;
-    {
-        CArchive out(&file, CArchive::store);
-        rows.Serialize(out);
-    }
-    file.SeekToBegin();
-    {
-        CArchive in(&file, CArchive::load);
-        read.Serialize(in);
-    }
+    store(file, [&](CArchive& ar) { rows.Serialize(ar); });
+    load(file, [&](CArchive& ar) { read.Serialize(ar); });
     EXPECT_EQ(read.m_arrBarInfo.GetSize(), 2);
     frame.SetDockState(read);
     EXPECT_EQ(places(), in_rows);
 }
 
-TEST(AfxMiniFrame, IsASmallPopupOfItsOwner) {
-    docking_frame frame;
-    ASSERT_TRUE(frame.open());
+TEST_F(AfxMiniFrame, IsASmallPopupOfItsOwner) {
     auto* small = new CMiniFrameWnd; // deletes itself
     ASSERT_TRUE(small->Create(nullptr, "Tools", WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_VISIBLE | MFS_MOVEFRAME,
                               CRect(100, 100, 200, 180), &frame));

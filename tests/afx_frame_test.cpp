@@ -1,10 +1,10 @@
 // Frames with menus, bars and what they show while the program is idle.
 #include "afx_test_app.h"
+#include "held_keys.h"
+#include "trapping.h"
 
 #include <afxext.h>
 #include <afxpriv.h>
-
-#include <gmock/gmock.h>
 
 using testing::ElementsAre;
 using Texts = std::vector<std::string>;
@@ -33,8 +33,7 @@ public:
     void PostNcDestroy() override {} // lives on the stack
     using CFrameWnd::OnCreateClient;
     CRect client_of(CWnd& wnd) {
-        CRect rect;
-        wnd.GetWindowRect(rect);
+        CRect rect = on_screen(wnd);
         ScreenToClient(&rect);
         return rect;
     }
@@ -57,9 +56,19 @@ ON_UPDATE_COMMAND_UI(ID_TEST_CHECKED, &bar_frame::OnUpdateChecked)
 ON_UPDATE_COMMAND_UI(ID_TEST_PANE, &bar_frame::OnUpdatePane)
 END_MESSAGE_MAP()
 
-TEST(AfxFrame, UpdatesItsMenuToolbarAndPanesByItsHandlers) {
+class AfxFrame : public testing::Test {
+protected:
+    AfxFrame() {
+        EXPECT_TRUE(frame.open());
+        frame.settle();
+    }
+
     bar_frame frame;
-    ASSERT_TRUE(frame.open());
+};
+using AfxToolBar = AfxFrame;
+using AfxReBar = AfxFrame;
+
+TEST_F(AfxFrame, UpdatesItsMenuToolbarAndPanesByItsHandlers) {
     const UINT panes[] = {ID_SEPARATOR, ID_TEST_PANE, ID_INDICATOR_CAPS};
     ASSERT_TRUE(frame.status.SetIndicators(panes, 3));
     frame.settle();
@@ -87,26 +96,18 @@ TEST(AfxFrame, UpdatesItsMenuToolbarAndPanesByItsHandlers) {
     frame.SendMessage(WM_COMMAND, ID_TEST_OFF);
     EXPECT_TRUE(frame.log.empty()) << "a key for a disabled command";
     MSG key{frame.m_hWnd, WM_KEYDOWN, 'T', 0x140001, 0, {0, 0}};
-    BYTE keys[256] = {}, before[256];
-    ::GetKeyboardState(before);
-    keys[VK_CONTROL] = 0x80;
-    ::SetKeyboardState(keys);
-    EXPECT_TRUE(frame.PreTranslateMessage(&key));
-    ::SetKeyboardState(before);
+    {
+        const HeldKeys control({VK_CONTROL});
+        EXPECT_TRUE(frame.PreTranslateMessage(&key));
+    }
     EXPECT_THAT(frame.log, ElementsAre("on"));
 }
 
-TEST(AfxFrame, ShowsPromptsOfMenusAndOfButtonsUnderThePointer) {
-    bar_frame frame;
-    ASSERT_TRUE(frame.open());
+TEST_F(AfxFrame, ShowsPromptsOfMenusAndOfButtonsUnderThePointer) {
     const UINT panes[] = {ID_SEPARATOR};
     frame.status.SetIndicators(panes, 1);
     frame.settle();
-    const auto shown = [&] {
-        CString text;
-        frame.status.GetWindowText(text);
-        return std::string(text);
-    };
+    const auto shown = [&] { return text_of(frame.status); };
     frame.SetMessageText("as the program says");
     EXPECT_EQ(shown(), "as the program says");
     const auto menu = reinterpret_cast<LPARAM>(frame.GetMenu()->m_hMenu);
@@ -131,9 +132,7 @@ TEST(AfxFrame, ShowsPromptsOfMenusAndOfButtonsUnderThePointer) {
     EXPECT_STREQ(tip.szText, "On");
 }
 
-TEST(AfxFrame, LaysOutDockedBarsAndRemembersThem) {
-    bar_frame frame;
-    ASSERT_TRUE(frame.open());
+TEST_F(AfxFrame, LaysOutDockedBarsAndRemembersThem) {
     CWnd client;
     ASSERT_TRUE(client.Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 1, 1), &frame, AFX_IDW_PANE_FIRST));
     frame.tools.EnableDocking(CBRS_ALIGN_ANY);
@@ -144,8 +143,7 @@ TEST(AfxFrame, LaysOutDockedBarsAndRemembersThem) {
     frame.SetWindowPos(nullptr, 0, 0, 500, 400, SWP_NOZORDER | SWP_NOACTIVATE);
     frame.settle();
     frame.RecalcLayout();
-    CRect all;
-    frame.GetClientRect(all);
+    const CRect all = inside_of(frame);
     const CRect top = frame.client_of(frame.tools), left = frame.client_of(frame.more),
                 status = frame.client_of(frame.status), middle = frame.client_of(client);
     EXPECT_EQ(top.top, 0);
@@ -163,8 +161,7 @@ TEST(AfxFrame, LaysOutDockedBarsAndRemembersThem) {
     frame.DockControlBar(&frame.more, AFX_IDW_DOCKBAR_TOP);
     frame.RecalcLayout();
     EXPECT_EQ(frame.client_of(frame.more).top, frame.client_of(frame.tools).bottom) << "a row of its own";
-    CRect beside;
-    frame.tools.GetWindowRect(beside);
+    CRect beside = on_screen(frame.tools);
     frame.DockControlBar(&frame.more, AFX_IDW_DOCKBAR_TOP,
                          CRect(beside.right, beside.top, beside.right + 10, beside.bottom));
     frame.RecalcLayout();
@@ -173,22 +170,11 @@ TEST(AfxFrame, LaysOutDockedBarsAndRemembersThem) {
     frame.LoadBarState("Layout");
     EXPECT_FALSE(frame.tools.IsVisible());
     EXPECT_EQ(frame.client_of(frame.more), CRect(CPoint(0, 0), left.Size()));
-    EXPECT_THROW(
-        {
-            try {
-                frame.DockControlBar(&frame.more, AFX_IDW_DOCKBAR_RIGHT);
-            } catch (CInvalidArgException* exception) {
-                exception->Delete();
-                throw 1;
-            }
-        },
-        int)
+    EXPECT_TRUE(raises<CInvalidArgException>([&] { frame.DockControlBar(&frame.more, AFX_IDW_DOCKBAR_RIGHT); }))
         << "a side that the bar refuses";
 }
 
-TEST(AfxFrame, DialogBarsUpdateTheirControlsAndSendTheirCommands) {
-    bar_frame frame;
-    ASSERT_TRUE(frame.open());
+TEST_F(AfxFrame, DialogBarsUpdateTheirControlsAndSendTheirCommands) {
     ASSERT_TRUE(frame.dialog.Create(&frame, IDD_FORM, CBRS_BOTTOM | WS_VISIBLE, 0xE860));
     frame.settle();
     frame.RecalcLayout();
@@ -198,16 +184,7 @@ TEST(AfxFrame, DialogBarsUpdateTheirControlsAndSendTheirCommands) {
     EXPECT_THAT(frame.log, ElementsAre("on"));
 }
 
-TEST(AfxFrame, RefusesAMenuThatIsNotThere) {
-    auto* frame = new CFrameWnd; // deletes itself
-    EXPECT_FALSE(frame->Create(nullptr, "x", WS_OVERLAPPEDWINDOW, CFrameWnd::rectDefault, nullptr, "NoSuchMenu"));
-    CToolBar bar;
-    EXPECT_FALSE(bar.LoadToolBar(999));
-}
-
-TEST(AfxFrame, ButtonsAndPanesKeepTheirStyles) {
-    bar_frame frame;
-    ASSERT_TRUE(frame.open());
+TEST_F(AfxFrame, ButtonsAndPanesKeepTheirStyles) {
     CToolBar& bar = frame.tools;
     EXPECT_EQ(bar.CommandToIndex(ID_TEST_CHECKED), 3);
     EXPECT_EQ(bar.GetItemID(2), 0u) << "the gap";
@@ -232,52 +209,34 @@ TEST(AfxFrame, ButtonsAndPanesKeepTheirStyles) {
     EXPECT_LT(before.Width(), after.Width());
     EXPECT_EQ(frame.status.GetPaneStyle(1), static_cast<UINT>(SBPS_POPOUT));
     EXPECT_FALSE(frame.status.SetPaneText(2, "none such"));
+    auto* without = new CFrameWnd; // deletes itself
+    EXPECT_FALSE(without->Create(nullptr, "x", WS_OVERLAPPEDWINDOW, CFrameWnd::rectDefault, nullptr, "NoSuchMenu"));
 }
 
-TEST(AfxToolBar, HasABackgroundWhereTheFrameLeavesItsOwnToTheView) {
-    bar_frame frame;
-    ASSERT_TRUE(frame.open());
+TEST_F(AfxToolBar, HasABackgroundWhereTheFrameLeavesItsOwnToTheView) {
     CCreateContext context;
     context.m_pNewViewClass = RUNTIME_CLASS(CEditView);
     auto* view = static_cast<CView*>(frame.CreateView(&context));
     frame.SetActiveView(view);
     frame.settle();
-    CClientDC screen(&frame);
-    CDC dc;
-    dc.CreateCompatibleDC(&screen);
-    CBitmap bitmap;
-    bitmap.CreateCompatibleBitmap(&screen, 40, 20);
-    CBitmap* before = dc.SelectObject(&bitmap);
+    canvas dc(40, 20);
     frame.tools.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc.m_hDC));
     EXPECT_EQ(dc.GetPixel(5, 5), ::GetSysColor(COLOR_BTNFACE));
-    dc.SelectObject(before);
     frame.SetActiveView(nullptr);
 }
 
-TEST(AfxReBar, HoldsTheFramesBars) {
-    bar_frame frame;
-    ASSERT_TRUE(frame.open());
+TEST_F(AfxReBar, HoldsTheFramesBars) {
     CReBar rebar;
     ASSERT_TRUE(rebar.Create(&frame));
     const CSize wanted = frame.tools.CalcFixedLayout(FALSE, TRUE);
     ASSERT_TRUE(rebar.AddBar(&frame.tools));
     ASSERT_TRUE(rebar.AddBar(&frame.more, "More", nullptr, RBBS_BREAK | RBBS_GRIPPERALWAYS));
-    EXPECT_THROW(
-        {
-            try {
-                rebar.AddBar(nullptr);
-            } catch (CInvalidArgException* exception) {
-                exception->Delete();
-                throw 1;
-            }
-        },
-        int);
+    EXPECT_TRUE(raises<CInvalidArgException>([&] { rebar.AddBar(nullptr); }));
     EXPECT_EQ(rebar.GetReBarCtrl().GetBandCount(), 2u);
     EXPECT_EQ(rebar.GetReBarCtrl().GetRowCount(), 2u);
     EXPECT_EQ(::GetParent(frame.tools.m_hWnd), rebar.m_hWnd);
     frame.settle();
-    CRect client;
-    frame.GetClientRect(client);
+    const CRect client = inside_of(frame);
     const CRect place = frame.client_of(rebar), bar = frame.client_of(frame.tools);
     EXPECT_EQ(place.Width(), client.Width());
     EXPECT_GE(place.Height(), 2 * wanted.cy);
@@ -287,11 +246,17 @@ TEST(AfxReBar, HoldsTheFramesBars) {
     EXPECT_THAT(frame.log, ElementsAre("on"));
 }
 
-TEST(AfxHelp, IsAskedForTheNearestWindowThatKnowsATopic) {
-    bar_frame frame;
-    ASSERT_TRUE(frame.open());
-    the_app.m_pMainWnd = &frame;
-    const auto topic = [](DWORD_PTR number) { return number << 8 | HELP_CONTEXT; };
+class AfxHelp : public AfxFrame {
+protected:
+    AfxHelp() { the_app.m_pMainWnd = &frame; }
+    ~AfxHelp() override {
+        the_app.helped.clear();
+        the_app.m_pMainWnd = nullptr;
+    }
+    static DWORD_PTR topic(DWORD_PTR number) { return number << 8 | HELP_CONTEXT; }
+};
+
+TEST_F(AfxHelp, IsAskedForTheNearestWindowThatKnowsATopic) {
     the_app.OnHelp();
     frame.SendMessage(WM_MENUSELECT, MAKEWPARAM(ID_TEST_ON, MF_HILITE), 0);
     the_app.OnHelp();
@@ -301,22 +266,13 @@ TEST(AfxHelp, IsAskedForTheNearestWindowThatKnowsATopic) {
     CWnd* button = dialog.GetDlgItem(IDOK);
     button->OnHelp();
     HELPINFO key{sizeof(key), HELPINFO_WINDOW, IDOK, button->m_hWnd, 0, {0, 0}};
-    dialog.SendMessage(WM_HELP, 0, reinterpret_cast<LPARAM>(&key));
-    EXPECT_THAT(the_app.helped,
-                ElementsAre(topic(0x20000 + IDR_FRAME), topic(0x10000 + ID_TEST_ON), topic(0x20000 + IDD_TEST)))
-        << "and the key only sends the command, which nobody here handles";
-    the_app.helped.clear();
+    dialog.SendMessage(WM_HELP, 0, reinterpret_cast<LPARAM>(&key)); // sends the command, which nobody here handles
     the_app.OnHelpFinder();
-    EXPECT_THAT(the_app.helped, ElementsAre(DWORD_PTR{HELP_FINDER}));
-    the_app.helped.clear();
-    the_app.m_pMainWnd = nullptr;
+    EXPECT_THAT(the_app.helped, ElementsAre(topic(0x20000 + IDR_FRAME), topic(0x10000 + ID_TEST_ON),
+                                            topic(0x20000 + IDD_TEST), DWORD_PTR{HELP_FINDER}));
 }
 
-TEST(AfxHelp, IsGivenAboutWhatIsClickedNext) {
-    bar_frame frame;
-    ASSERT_TRUE(frame.open());
-    frame.settle();
-    the_app.m_pMainWnd = &frame;
+TEST_F(AfxHelp, IsGivenAboutWhatIsClickedNext) {
     const auto click = [&](CWnd& wnd, CPoint place, UINT message, WPARAM key = 0) {
         wnd.ClientToScreen(&place);
         ::SetCursorPos(place.x, place.y);
@@ -329,15 +285,12 @@ TEST(AfxHelp, IsGivenAboutWhatIsClickedNext) {
     click(frame.tools, button.CenterPoint(), WM_LBUTTONDOWN);
     click(frame, CPoint(10, 200), WM_LBUTTONDOWN);
     click(frame.tools, button.CenterPoint(), WM_KEYDOWN, VK_ESCAPE);
-    const auto topic = [](DWORD_PTR number) { return number << 8 | HELP_CONTEXT; };
     EXPECT_THAT(the_app.helped, ElementsAre(topic(0x10000 + ID_TEST_ON), topic(0x20000 + IDR_FRAME)));
-    the_app.helped.clear();
-    the_app.m_pMainWnd = nullptr;
 }
 
-TEST(AfxFrame, KeepsTheUserOutWhileItIsModal) {
-    bar_frame frame, other;
-    ASSERT_TRUE(frame.open() && other.open());
+TEST_F(AfxFrame, KeepsTheUserOutWhileItIsModal) {
+    bar_frame other;
+    ASSERT_TRUE(other.open());
     CDialog shown, disabled;
     ASSERT_TRUE(shown.Create(IDD_TEST, &frame) && disabled.Create(IDD_TEST, &frame));
     disabled.EnableWindow(FALSE);
@@ -352,18 +305,11 @@ TEST(AfxFrame, KeepsTheUserOutWhileItIsModal) {
     EXPECT_FALSE(disabled.IsWindowEnabled()) << "as it was";
 }
 
-// Objects whose memory goes with them, so that whoever touches one then is seen.
-template <class Base> class fenced : public Base {
-public:
-    static void* operator new(std::size_t size) { return ::VirtualAlloc(nullptr, size, MEM_COMMIT, PAGE_READWRITE); }
-    static void operator delete(void* at) { ::VirtualFree(at, 0, MEM_RELEASE); }
-};
-
 // Ends one of its windows, or itself, while commands are updated.
-class ending_frame : public fenced<CFrameWnd> {
+class ending_frame : public Trapping<CFrameWnd> {
 public:
     template <class Bar> Bar* add() {
-        auto* bar = new fenced<Bar>;
+        auto* bar = new Trapping<Bar>;
         bar->m_bAutoDelete = TRUE;
         return bar;
     }
@@ -390,7 +336,7 @@ BEGIN_MESSAGE_MAP(ending_frame, CFrameWnd)
 ON_UPDATE_COMMAND_UI_RANGE(ID_TEST_ON, ID_TEST_PANE, &ending_frame::OnUpdate)
 END_MESSAGE_MAP()
 
-TEST(AfxFrame, UpdateHandlersMayEndWhatIsUpdated) {
+TEST_F(AfxFrame, UpdateHandlersMayEndWhatIsUpdated) {
     using Part = CWnd* (*)(ending_frame&);
     const Part whole = [](ending_frame& frame) -> CWnd* { return &frame; };
     const Part parts[] = {[](ending_frame& frame) -> CWnd* { return frame.tools; },

@@ -1,16 +1,9 @@
 // What programs open and close all day gives everything back: dialogs, sheets, drawings, windows of documents.
-#include "afx_test_app.h"
+#include "afx_data_dialog.h"
 #include "pixels.h"
 
-#include <afxcmn.h>
 #include <afxdlgs.h>
-#include <afxdtctl.h>
 #include <afxext.h>
-
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <utility>
 
 namespace {
 
@@ -25,18 +18,10 @@ void expect_flat(const std::function<void()>& live) {
 }
 
 // Of every kind of control, with objects for some, tips, pictures and a brush of its own.
-class busy_dialog : public CDialog {
+class busy_dialog : public data_dialog {
 public:
-    busy_dialog() : CDialog(IDD_DATA) {}
-    void DoDataExchange(CDataExchange* exchange) override {
-        CDialog::DoDataExchange(exchange);
-        DDX_Control(exchange, IDC_CHECKS, checks);
-        DDX_Control(exchange, IDC_ROWS, rows);
-        DDX_Control(exchange, IDC_TREE, tree);
-        DDX_Control(exchange, IDC_TABS, tabs);
-    }
     BOOL OnInitDialog() override {
-        CDialog::OnInitDialog();
+        data_dialog::OnInitDialog();
         pictures.Create(16, 16, ILC_COLOR24 | ILC_MASK, 2, 2);
         rows.SetImageList(&pictures, LVSIL_SMALL);
         tabs.InsertItem(0, "tab");
@@ -58,17 +43,13 @@ public:
     bool end_at_once = false;
 
 private:
-    CCheckListBox checks;
-    CListCtrl rows;
-    CTreeCtrl tree;
-    CTabCtrl tabs;
     CImageList pictures;
     CToolTipCtrl tips;
     CBrush ground;
     CFont font;
 };
 
-BEGIN_MESSAGE_MAP(busy_dialog, CDialog)
+BEGIN_MESSAGE_MAP(busy_dialog, data_dialog)
 ON_WM_CTLCOLOR()
 END_MESSAGE_MAP()
 
@@ -102,7 +83,6 @@ TEST(AfxHandles, SheetsGiveEverythingBack) {
         sheet.DestroyWindow();
         the_app.OnIdle(1);
     });
-    owner.DestroyWindow();
 }
 
 // Pens, fonts, regions and contexts that go with their objects, or where an exception leaves them.
@@ -114,11 +94,7 @@ TEST(AfxHandles, DrawingsGiveEverythingBack) {
     expect_flat([&] {
         try {
             CClientDC dc(&window);
-            CDC memory;
-            CBitmap bits;
-            memory.CreateCompatibleDC(&dc);
-            bits.CreateCompatibleBitmap(&dc, 50, 50);
-            CBitmap* before = memory.SelectObject(&bits);
+            canvas memory(50, 50);
             CPen pen(PS_DASH, 1, RGB(1, 2, 3));
             CPen* old = memory.SelectObject(&pen);
             memory.DrawDragRect(CRect(0, 0, 9, 9), CSize(1, 1), CRect(2, 2, 7, 7), CSize(1, 1));
@@ -127,7 +103,6 @@ TEST(AfxHandles, DrawingsGiveEverythingBack) {
             CBrush pattern(&image);
             memory.FillRect(CRect(0, 0, 50, 50), &pattern);
             memory.SelectObject(old);
-            memory.SelectObject(before);
             CClientDC(nullptr).SaveDC();
             AfxThrowUserException();
         } catch (CUserException* exception) {
@@ -135,7 +110,6 @@ TEST(AfxHandles, DrawingsGiveEverythingBack) {
         }
         the_app.OnIdle(1);
     });
-    window.DestroyWindow();
 }
 
 class plain_document : public CDocument {
@@ -169,9 +143,42 @@ TEST(AfxHandles, ChildrenOfAFrameGiveEverythingBack) {
     });
     EXPECT_EQ(the_app.GetOpenDocumentCount(), 0);
     frame->SendMessage(WM_CLOSE);
-    MSG quit;
-    ::PeekMessage(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
-    delete std::exchange(the_app.m_pDocManager, nullptr);
+    end_documents();
+}
+
+// A frame with everything around it.
+class full_frame : public CFrameWnd {
+    DECLARE_DYNCREATE(full_frame)
+
+public:
+    CToolBar tools;
+    CStatusBar status;
+    CSplitterWnd splitter;
+    BOOL OnCreateClient(LPCREATESTRUCT, CCreateContext* context) override {
+        const UINT panes[] = {ID_SEPARATOR, ID_INDICATOR_NUM};
+        if (!splitter.Create(this, 2, 2, CSize(10, 10), context) || !tools.Create(this) ||
+            !tools.LoadToolBar(IDR_FRAME) || !status.Create(this) || !status.SetIndicators(panes, 2))
+            return FALSE;
+        tools.EnableDocking(CBRS_ALIGN_ANY);
+        EnableDocking(CBRS_ALIGN_ANY);
+        DockControlBar(&tools);
+        return TRUE;
+    }
+};
+IMPLEMENT_DYNCREATE(full_frame, CFrameWnd)
+
+TEST(AfxHandles, FramesAndDocumentsGiveEverythingBack) {
+    the_app.AddDocTemplate(new CSingleDocTemplate(IDR_FRAME, RUNTIME_CLASS(plain_document), RUNTIME_CLASS(full_frame),
+                                                  RUNTIME_CLASS(plain_view)));
+    expect_flat([] {
+        the_app.OnFileNew();
+        auto* frame = static_cast<full_frame*>(the_app.m_pMainWnd);
+        frame->splitter.SplitRow(50);
+        the_app.OnIdle(0);
+        frame->SendMessage(WM_CLOSE);
+        the_app.OnIdle(1);
+    });
+    end_documents();
 }
 
 } // namespace

@@ -1,8 +1,6 @@
 // Menus: built, changed, asked, owner-drawn, attached.
 #include "afx_test_app.h"
 
-#include <gmock/gmock.h>
-
 namespace {
 
 CString text_of(const CMenu& menu, UINT item) {

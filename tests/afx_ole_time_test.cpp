@@ -5,8 +5,6 @@
 #include <afxdisp.h>
 #include <afxdtctl.h>
 
-#include <gtest/gtest.h>
-
 namespace {
 
 TEST(AfxOleTime, TakesOnlyWhatIsADate) {
@@ -54,14 +52,10 @@ TEST(AfxOleTime, IsWrittenReadAndStored) {
     EXPECT_STREQ(again.Format(), "Invalid DateTime");
     EXPECT_EQ(COleDateTime(__time64_t{-1} << 40).GetStatus(), COleDateTime::invalid);
     CMemFile file;
-    CArchive out(&file, CArchive::store);
-    out << time << COleDateTimeSpan(1.5) << LONG{7} << 1.0; // of a damaged file
-    out.Close();
-    file.SeekToBegin();
-    CArchive in(&file, CArchive::load);
+    store(file, [&](CArchive& ar) { ar << time << COleDateTimeSpan(1.5) << LONG{7} << 1.0; }); // of a damaged file
     COleDateTimeSpan span;
     COleDateTime damaged;
-    in >> again >> span >> damaged;
+    load(file, [&](CArchive& ar) { ar >> again >> span >> damaged; });
     EXPECT_TRUE(again == time && span.GetTotalHours() == 36 && damaged.GetStatus() == COleDateTime::invalid);
     CWnd parent;
     ASSERT_TRUE(create_popup(parent));
@@ -102,18 +96,8 @@ TEST(AfxSharedFile, IsTheSystemsMemory) {
         EXPECT_EQ(in.Read(text, 26), 26u);
         EXPECT_STREQ(text, "abcdefghijklmnopqrstuvwxyz");
         in.SeekToEnd();
-        EXPECT_ANY_THROW(
-            try { in.Write(text, 26); } catch (CException* exception) {
-                exception->Delete();
-                throw 1;
-            })
-            << "it may not grow";
-        EXPECT_ANY_THROW(
-            try { in.SetHandle(memory); } catch (CException* exception) {
-                exception->Delete();
-                throw 1;
-            })
-            << "it has one";
+        EXPECT_TRUE(raises<CException>([&] { in.Write(text, 26); })) << "it may not grow";
+        EXPECT_TRUE(raises<CException>([&] { in.SetHandle(memory); })) << "it has one";
     }
     CSharedFile longer;
     longer.SetHandle(memory);

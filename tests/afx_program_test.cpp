@@ -1,10 +1,6 @@
 // The program around the windows: dialogs and fonts.
 #include "afx_test_app.h"
 
-#include <afxdlgs.h>
-
-#include <gtest/gtest.h>
-
 test_app the_app;
 
 BEGIN_MESSAGE_MAP(test_app, CWinApp)
@@ -80,11 +76,6 @@ TEST(AfxDialog, IsRefusedWhereItCannotBeInitialised) {
     dialog.on_open = [] { throw new CUserException; };
     EXPECT_FALSE(dialog.Create(IDD_TEST));
     EXPECT_EQ(dialog.m_hWnd, nullptr);
-}
-
-TEST(AfxFileDialog, EndsItsListOfFilters) {
-    const CFileDialog dialog(TRUE, nullptr, nullptr, 0, "Text|*.txt");
-    EXPECT_EQ(std::string(dialog.m_ofn.lpstrFilter, 12), std::string("Text\0*.txt\0\0", 12));
 }
 
 TEST(AfxDrawing, PointFontsAreAsHighAsTheDeviceSays) {

@@ -4,8 +4,6 @@
 #include <afxext.h>
 #include <afxpriv.h>
 
-#include <gmock/gmock.h>
-
 using testing::ElementsAre;
 
 namespace {
@@ -39,9 +37,9 @@ public:
     int count(int id, UINT message) { return static_cast<int>(SendDlgItemMessage(id, message)); }
 };
 
-TEST(AfxDialogData, FillsBoxesAndStopsAtWhatIsBroken) {
-    CWnd parent;
-    ASSERT_TRUE(create_popup(parent));
+using AfxDialogData = WithParent;
+
+TEST_F(AfxDialogData, FillsBoxesAndStopsAtWhatIsBroken) {
     boxes dialog;
     ASSERT_TRUE(dialog.open(parent));
     EXPECT_TRUE(dialog.ExecuteDlgInit(MAKEINTRESOURCE(IDD_BOXES)));
@@ -74,19 +72,12 @@ TEST(AfxWindowFamily, FindsParentsOwnersFramesAndDescendants) {
     child.SetOwner(&owned);
     EXPECT_EQ(child.GetOwner(), &owned);
 
-    class counter : public CWnd {
-    public:
-        int seen = 0;
-        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-            seen += message == WM_USER;
-            return CWnd::WindowProc(message, wParam, lParam);
-        }
-    } deep;
+    recorder deep;
     ASSERT_TRUE(deep.Create(nullptr, "", WS_CHILD, CRect(0, 0, 1, 1), &grandchild, 8));
     frame.SendMessageToDescendants(WM_USER, 0, 0, FALSE);
-    EXPECT_EQ(deep.seen, 0) << "children only";
+    EXPECT_THAT(deep.seen, testing::Not(testing::Contains(WM_USER))) << "children only";
     frame.SendMessageToDescendants(WM_USER);
-    EXPECT_EQ(deep.seen, 1);
+    EXPECT_THAT(deep.seen, testing::Contains(WM_USER));
 }
 
 TEST(AfxWindowStyle, ChangesAndAnswersWhetherItDid) {

@@ -5,8 +5,6 @@
 #include <afxcmn.h>
 #include <afxdlgs.h>
 
-#include <gtest/gtest.h>
-
 namespace {
 
 // Takes the mark of a box over, and writes down what it is asked.
@@ -38,17 +36,25 @@ private:
     std::string& log;
 };
 
+// Runs the sheet, taking a step whenever it is idle.
+INT_PTR run(CPropertySheet& sheet, const std::vector<std::function<void()>>& steps) {
+    std::size_t step = 0;
+    WhileModal modal([&] {
+        if (sheet.m_hWnd == nullptr || PropSheet_GetCurrentPageHwnd(sheet.m_hWnd) == nullptr)
+            return false;
+        steps[step++]();
+        return step == steps.size();
+    });
+    const INT_PTR result = sheet.DoModal();
+    EXPECT_EQ(step, steps.size());
+    return result;
+}
+
 class AfxSheet : public testing::Test {
 protected:
     AfxSheet() {
         sheet.AddPage(&first);
         sheet.AddPage(&second);
-    }
-    // Runs the sheet; each call of `work` may press a button, true after the last.
-    INT_PTR run(std::function<bool()> work) {
-        log.clear();
-        WhileModal modal([&] { return sheet.m_hWnd && PropSheet_GetCurrentPageHwnd(sheet.m_hWnd) && work(); });
-        return sheet.DoModal();
     }
     void press(int button) { PropSheet_PressButton(sheet.m_hWnd, button); }
     void show(int page) { PropSheet_SetCurSel(sheet.m_hWnd, nullptr, page); }
@@ -59,43 +65,37 @@ protected:
 };
 
 TEST_F(AfxSheet, OkTakesThePagesDataOver) {
-    EXPECT_EQ(run([&] {
-                  first.CheckDlgButton(IDC_MARK, TRUE);
-                  show(1);
-                  second.CheckDlgButton(IDC_MARK, TRUE);
-                  press(PSBTN_OK);
-                  return true;
-              }),
-              IDOK);
+    const auto mark_both = [&] {
+        first.CheckDlgButton(IDC_MARK, TRUE);
+        show(1);
+        second.CheckDlgButton(IDC_MARK, TRUE);
+        press(PSBTN_OK);
+    };
+    EXPECT_EQ(run(sheet, {mark_both}), IDOK);
     EXPECT_TRUE(first.marked && second.marked);
     EXPECT_EQ(log, "1.set 1.kill 2.set 2.kill 1.apply 1.ok 2.apply 2.ok ");
-    EXPECT_EQ(run([&] { return press(PSBTN_CANCEL), true; }), IDCANCEL);
+    log.clear();
+    EXPECT_EQ(run(sheet, {[&] { press(PSBTN_CANCEL); }}), IDCANCEL);
     EXPECT_EQ(log, "1.set 1.query 1.cancel ");
 }
 
 TEST_F(AfxSheet, PagesMayRefuse) {
-    int step = 0;
-    EXPECT_EQ(run([&] {
-                  EXPECT_TRUE(::IsWindow(sheet.m_hWnd));
-                  switch (step++) {
-                  case 0:
-                      first.valid = false;
-                      show(1);
-                      EXPECT_EQ(sheet.GetActiveIndex(), 0) << "what was entered is wrong";
-                      return press(PSBTN_OK), false;
-                  case 1:
-                      first.valid = true;
-                      first.applies = false;
-                      return press(PSBTN_OK), false;
-                  case 2:
-                      first.cancels = false;
-                      return press(PSBTN_CANCEL), false;
-                  default:
-                      first.cancels = true;
-                      return press(PSBTN_CANCEL), true;
-                  }
-              }),
-              IDCANCEL);
+    const auto wrong_entry = [&] {
+        first.valid = false;
+        show(1);
+        EXPECT_EQ(sheet.GetActiveIndex(), 0) << "what was entered is wrong";
+        press(PSBTN_OK);
+    };
+    const auto not_applied = [&] {
+        first.valid = true;
+        first.applies = false;
+        press(PSBTN_OK);
+    };
+    const auto cancel = [&](bool allowed) {
+        first.cancels = allowed;
+        press(PSBTN_CANCEL);
+    };
+    EXPECT_EQ(run(sheet, {wrong_entry, not_applied, [&] { cancel(false); }, [&] { cancel(true); }}), IDCANCEL);
     EXPECT_EQ(log, "1.set 1.kill 1.kill 1.kill 1.apply 1.ok 1.query 1.query 1.cancel ");
 }
 
@@ -125,31 +125,27 @@ TEST(AfxWizard, StepsRefusesAndFinishes) {
     sheet.AddPage(&first);
     sheet.AddPage(&last);
     sheet.SetWizardMode();
-    int step = 0;
-    WhileModal modal([&] {
-        if (sheet.m_hWnd == nullptr || sheet.GetActivePage() == nullptr)
-            return false;
-        switch (step++) {
-        case 0:
-            sheet.PressButton(PSBTN_NEXT);
-            EXPECT_EQ(sheet.GetActivePage(), &first) << "it refuses to be left";
-            first.next = 0;
-            return sheet.PressButton(PSBTN_NEXT), false;
-        case 1:
-            EXPECT_EQ(sheet.GetActivePage(), &last);
-            return sheet.PressButton(PSBTN_FINISH), false;
-        case 2:
-            last.finishes = TRUE;
-            return sheet.PressButton(PSBTN_BACK), false;
-        case 3:
-            EXPECT_EQ(sheet.GetActiveIndex(), 0);
-            return sheet.PressButton(PSBTN_NEXT), false;
-        default:
-            return sheet.PressButton(PSBTN_FINISH), true;
-        }
-    });
-    EXPECT_EQ(sheet.DoModal(), ID_WIZFINISH);
-    EXPECT_EQ(step, 5);
+    const auto press = [&](int button) { sheet.PressButton(button); };
+    EXPECT_EQ(run(sheet, {[&] {
+                              press(PSBTN_NEXT);
+                              EXPECT_EQ(sheet.GetActivePage(), &first) << "it refuses to be left";
+                              first.next = 0;
+                              press(PSBTN_NEXT);
+                          },
+                          [&] {
+                              EXPECT_EQ(sheet.GetActivePage(), &last);
+                              press(PSBTN_FINISH);
+                          },
+                          [&] {
+                              last.finishes = TRUE;
+                              press(PSBTN_BACK);
+                          },
+                          [&] {
+                              EXPECT_EQ(sheet.GetActiveIndex(), 0);
+                              press(PSBTN_NEXT);
+                          },
+                          [&] { press(PSBTN_FINISH); }}),
+              ID_WIZFINISH);
 }
 
 // Answers the other pages' question with its own number.
@@ -171,9 +167,7 @@ TEST(AfxModelessSheet, HoldsPagesWithoutButtons) {
     sheet.AddPage(&first);
     sheet.AddPage(&second);
     ASSERT_TRUE(sheet.Create(nullptr, WS_POPUP | WS_CAPTION | WS_SYSMENU));
-    CString title;
-    sheet.GetWindowText(title);
-    EXPECT_STREQ(title, "Caption of its own");
+    EXPECT_EQ(text_of(sheet), "Caption of its own");
     EXPECT_FALSE(sheet.GetDlgItem(IDOK)->IsWindowVisible() || sheet.GetDlgItem(IDCANCEL)->IsWindowVisible());
     EXPECT_TRUE(sheet.SetActivePage(1));
     EXPECT_EQ(sheet.GetActivePage(), &second);
@@ -194,9 +188,9 @@ TEST(AfxModelessSheet, HoldsPagesWithoutButtons) {
     EXPECT_EQ(second.m_hWnd, nullptr);
 }
 
-TEST(AfxExtendedControls, HoldPicturesAndAddresses) {
-    CWnd parent;
-    ASSERT_TRUE(create_popup(parent));
+using AfxExtendedControls = WithParent;
+
+TEST_F(AfxExtendedControls, HoldPicturesAndAddresses) {
     CComboBoxEx box;
     ASSERT_TRUE(box.Create(CBS_DROPDOWNLIST, CRect(0, 0, 100, 100), &parent, 1));
     CImageList pictures;

@@ -4,6 +4,8 @@
 #include <afxwin.h>
 #include "afx_test_ids.h"
 
+#include <gmock/gmock.h>
+
 #include <functional>
 #include <string>
 #include <utility>
@@ -75,3 +77,90 @@ public:
     std::vector<UINT> seen;
     bool refuse = false, fail = false, accept = true, had_handle = true;
 };
+
+// The cause that the work's exception tells; -1 where it raises none.
+template <class Exception> int cause_of(const std::function<void()>& work) {
+    try {
+        work();
+    } catch (Exception* exception) {
+        const int cause = exception->m_cause;
+        exception->Delete();
+        return cause;
+    }
+    return -1;
+}
+
+template <class Exception> bool raises(const std::function<void()>& work) {
+    try {
+        work();
+    } catch (Exception* exception) {
+        exception->Delete();
+        return true;
+    }
+    return false;
+}
+
+inline std::string text_of(const CWnd& wnd) {
+    CString text;
+    wnd.GetWindowText(text);
+    return text.GetString();
+}
+
+inline CRect inside_of(const CWnd& wnd) {
+    CRect rect;
+    wnd.GetClientRect(rect);
+    return rect;
+}
+
+inline CRect on_screen(const CWnd& wnd) {
+    CRect rect;
+    wnd.GetWindowRect(rect);
+    return rect;
+}
+
+// A window, for controls to stand in.
+class WithParent : public testing::Test {
+protected:
+    WithParent() { EXPECT_TRUE(create_visible_popup(parent)); }
+    static constexpr DWORD shown = WS_CHILD | WS_VISIBLE;
+    const CRect place{0, 0, 100, 60};
+
+    CWnd parent;
+};
+
+// A memory bitmap like the screen's, white.
+class canvas : public CDC {
+public:
+    canvas(int width, int height) {
+        CWindowDC screen(nullptr);
+        EXPECT_TRUE(CreateCompatibleDC(&screen) && m_bitmap.CreateCompatibleBitmap(&screen, width, height));
+        m_before = SelectObject(&m_bitmap);
+        PatBlt(0, 0, width, height, WHITENESS);
+    }
+    ~canvas() override { SelectObject(m_before); }
+
+private:
+    CBitmap m_bitmap;
+    CBitmap* m_before;
+};
+
+inline void store(CFile& file, const std::function<void(CArchive&)>& work) {
+    file.SetLength(0);
+    CArchive ar(&file, CArchive::store, 128);
+    work(ar);
+    ar.Close();
+    file.SeekToBegin();
+}
+
+inline void load(CFile& file, const std::function<void(CArchive&)>& work) {
+    CArchive ar(&file, CArchive::load, 128);
+    work(ar);
+}
+
+// Takes back what a program with documents registered, and the end that its last window asked for.
+inline void end_documents() {
+    MSG quit;
+    while (::PeekMessage(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) {
+    }
+    delete std::exchange(the_app.m_pDocManager, nullptr);
+}

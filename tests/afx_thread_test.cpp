@@ -3,8 +3,6 @@
 
 #include <afxmt.h>
 
-#include <gmock/gmock.h>
-
 #include <atomic>
 #include <memory>
 
@@ -50,11 +48,9 @@ ON_THREAD_MESSAGE(add_message, &window_thread::OnAdd)
 ON_THREAD_MESSAGE(end_message, &window_thread::OnEnd)
 END_MESSAGE_MAP()
 
+// Lasts longer than the object.
 HANDLE own_handle(CWinThread* thread) {
-    HANDLE handle = nullptr;
-    ::DuplicateHandle(::GetCurrentProcess(), thread->m_hThread, ::GetCurrentProcess(), &handle, 0, FALSE,
-                      DUPLICATE_SAME_ACCESS);
-    return handle;
+    return ::OpenThread(THREAD_ALL_ACCESS, FALSE, thread->m_nThreadID);
 }
 
 DWORD end_of(HANDLE thread) {
@@ -103,18 +99,11 @@ UINT post_samples(LPVOID parameter) {
 class receiver : public CWnd {
 public:
     int sum = 0;
-
-protected:
-    LRESULT OnSample(WPARAM w, LPARAM) {
-        sum += static_cast<int>(w);
-        return 0;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        sum += message == window_message ? static_cast<int>(wParam) : 0;
+        return CWnd::WindowProc(message, wParam, lParam);
     }
-    DECLARE_MESSAGE_MAP()
 };
-
-BEGIN_MESSAGE_MAP(receiver, CWnd)
-ON_MESSAGE(window_message, &receiver::OnSample)
-END_MESSAGE_MAP()
 
 TEST(AfxThread, FiltersTheMessagesOfTheSystemsLoops) {
     AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), 0);

@@ -1,9 +1,8 @@
 // Tips of a window's parts, shown where the pointer rests.
 #include "afx_test_app.h"
+#include "thread_window.h"
 
 #include <afxext.h>
-
-#include <gmock/gmock.h>
 
 namespace {
 
@@ -43,21 +42,6 @@ BEGIN_MESSAGE_MAP(tips_window, CWnd)
 ON_NOTIFY_EX(TTN_NEEDTEXT, 0, &tips_window::OnNeedText)
 END_MESSAGE_MAP()
 
-HWND tip_control() {
-    HWND found = nullptr;
-    ::EnumThreadWindows(
-        ::GetCurrentThreadId(),
-        [](HWND hwnd, LPARAM at) -> BOOL {
-            char name[64] = "";
-            ::GetClassName(hwnd, name, sizeof(name));
-            if (::lstrcmpi(name, TOOLTIPS_CLASS) == 0)
-                *reinterpret_cast<HWND*>(at) = hwnd;
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&found));
-    return found;
-}
-
 // What the tip shows after the pointer came to a point of the window; empty where none appears.
 std::string shown_at(CWnd& wnd, CPoint point) {
     wnd.ClientToScreen(&point);
@@ -66,7 +50,7 @@ std::string shown_at(CWnd& wnd, CPoint point) {
     if (!::IsChild(wnd.m_hWnd, move.hwnd))
         move.hwnd = wnd.m_hWnd;
     CWnd::WalkPreTranslateTree(nullptr, &move);
-    const HWND tip = tip_control();
+    const HWND tip = thread_window(TOOLTIPS_CLASS);
     if (tip == nullptr)
         return "";
     ::SendMessage(tip, TTM_SETDELAYTIME, TTDT_INITIAL, 1);
@@ -74,15 +58,8 @@ std::string shown_at(CWnd& wnd, CPoint point) {
     if (::SendMessage(tip, TTM_GETTOOLCOUNT, 0, 0) == 0)
         return "";
     CWnd::WalkPreTranslateTree(nullptr, &move);
-    MSG message;
-    for (const DWORD start = ::GetTickCount(); !::IsWindowVisible(tip) && ::GetTickCount() - start < 3000;) {
-        ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 20, QS_ALLINPUT);
-        while (::PeekMessage(&message, nullptr, 0, 0, PM_REMOVE))
-            ::DispatchMessage(&message);
-    }
-    CString text;
-    CWnd::FromHandle(tip)->GetWindowText(text);
-    return std::string(::IsWindowVisible(tip) ? text.GetString() : "");
+    pumped_until([&] { return ::IsWindowVisible(tip); });
+    return ::IsWindowVisible(tip) ? text_of(*CWnd::FromHandle(tip)) : "";
 }
 
 TEST(AfxTips, AreAskedForByTheWindowThatHasThem) {
@@ -98,7 +75,7 @@ TEST(AfxTips, AreAskedForByTheWindowThatHasThem) {
     wnd.own_parts = true;
     EXPECT_EQ(shown_at(wnd, {120, 80}), "of its own");
     EXPECT_TRUE(wnd.EnableToolTips(FALSE));
-    EXPECT_FALSE(::IsWindowVisible(tip_control()));
+    EXPECT_FALSE(::IsWindowVisible(thread_window(TOOLTIPS_CLASS)));
 }
 
 } // namespace

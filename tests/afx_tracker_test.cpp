@@ -3,24 +3,20 @@
 
 #include <afxext.h>
 
-#include <gmock/gmock.h>
-
 namespace {
 
 // A tracking is run by messages that lie in the queue before it begins.
-class AfxTracker : public testing::Test {
+class AfxTracker : public WithParent {
 protected:
-    AfxTracker() { EXPECT_TRUE(create_visible_popup(wnd)); }
-    void queue(UINT message, int x, int y) { wnd.PostMessage(message, 0, MAKELPARAM(x, y)); }
+    void queue(UINT message, int x, int y) { parent.PostMessage(message, 0, MAKELPARAM(x, y)); }
     CRect tracked(CRectTracker& tracker, CPoint from, CPoint to, UINT end = WM_LBUTTONUP, BOOL invert = FALSE) {
         queue(WM_MOUSEMOVE, to.x, to.y);
-        wnd.PostMessage(end, end == WM_KEYDOWN ? VK_ESCAPE : 0, MAKELPARAM(to.x, to.y));
-        changed = tracker.Track(&wnd, from, invert);
+        parent.PostMessage(end, end == WM_KEYDOWN ? VK_ESCAPE : 0, MAKELPARAM(to.x, to.y));
+        changed = tracker.Track(&parent, from, invert);
         EXPECT_EQ(::GetCapture(), nullptr);
         return tracker.m_rect;
     }
 
-    CWnd wnd;
     BOOL changed = FALSE;
 };
 
@@ -47,20 +43,15 @@ TEST_F(AfxTracker, MovesSidesCornersAndTheWhole) {
 
     CRectTracker band;
     queue(WM_LBUTTONUP, 10, 10);
-    EXPECT_FALSE(band.TrackRubberBand(&wnd, {10, 10})) << "a click";
+    EXPECT_FALSE(band.TrackRubberBand(&parent, {10, 10})) << "a click";
     queue(WM_MOUSEMOVE, 50, 40);
     queue(WM_LBUTTONUP, 50, 40);
-    EXPECT_TRUE(band.TrackRubberBand(&wnd, {10, 10}));
+    EXPECT_TRUE(band.TrackRubberBand(&parent, {10, 10}));
     EXPECT_EQ(band.m_rect, CRect(10, 10, 50, 40));
 }
 
 TEST_F(AfxTracker, DrawsHandlesWhereItFindsThem) {
-    CClientDC screen(&wnd);
-    CDC dc;
-    dc.CreateCompatibleDC(&screen);
-    CBitmap bitmap;
-    bitmap.CreateCompatibleBitmap(&screen, 120, 100);
-    CBitmap* before = dc.SelectObject(&bitmap);
+    canvas dc(120, 100);
     for (const UINT style : {CRectTracker::resizeInside, CRectTracker::resizeOutside}) {
         dc.PatBlt(0, 0, 120, 100, WHITENESS);
         const CRectTracker tracker(CRect(20, 20, 80, 60), style);
@@ -77,11 +68,10 @@ TEST_F(AfxTracker, DrawsHandlesWhereItFindsThem) {
         EXPECT_EQ(wrong, 0) << style;
         EXPECT_EQ(black, 8 * 16) << style;
     }
-    dc.SelectObject(before);
 }
 
 TEST_F(AfxTracker, ARecordingIsPlayedWhereItIsWanted) {
-    CClientDC screen(&wnd);
+    CClientDC screen(&parent);
     CMetaFileDC plain, rich;
     ASSERT_TRUE(plain.Create());
     EXPECT_FALSE(plain.Create()) << "it records already";
@@ -93,16 +83,11 @@ TEST_F(AfxTracker, ARecordingIsPlayedWhereItIsWanted) {
     ASSERT_TRUE(rich.CreateEnhanced(&screen, nullptr, nullptr, nullptr));
     rich.FillSolidRect(0, 0, 50, 50, RGB(0, 0, 200));
     const HENHMETAFILE enhanced = rich.CloseEnhanced();
-    CDC dc;
-    dc.CreateCompatibleDC(&screen);
-    CBitmap bitmap;
-    bitmap.CreateCompatibleBitmap(&screen, 120, 100);
-    CBitmap* before = dc.SelectObject(&bitmap);
+    canvas dc(120, 100);
     EXPECT_TRUE(dc.PlayMetaFile(recorded));
     EXPECT_TRUE(dc.PlayMetaFile(enhanced, CRect(60, 60, 100, 100)));
     EXPECT_EQ(dc.GetPixel(15, 15), RGB(200, 0, 0));
     EXPECT_EQ(dc.GetPixel(80, 80), RGB(0, 0, 200));
-    dc.SelectObject(before);
     ::DeleteMetaFile(recorded);
     ::DeleteEnhMetaFile(enhanced);
 }

@@ -1,23 +1,12 @@
 // What the user may enter: numbers at the ends of their types, dates and lengths at their limits.
-#include "afx_test_app.h"
+#include "afx_data_dialog.h"
 
-#include <afxdtctl.h>
-
-#include <gmock/gmock.h>
-
-#include <functional>
 #include <limits>
 
 namespace {
 
-class AfxEntry : public testing::Test {
+class AfxEntry : public WithDataDialog<data_dialog> {
 protected:
-    AfxEntry() {
-        the_app.take_boxes();
-        EXPECT_TRUE(dialog.Create(IDD_DATA));
-    }
-    ~AfxEntry() override { dialog.DestroyWindow(); }
-
     // False where the exchange is refused: the user is told once.
     bool exchange(BOOL save, const std::function<void(CDataExchange*)>& work) {
         CDataExchange data(&dialog, save);
@@ -48,22 +37,21 @@ protected:
             return digits.back()++, digits;
         };
         Number number = 7;
-        EXPECT_TRUE(take(std::to_string(Limits::max()).c_str(), number, limit, Limits::min(), Limits::max()));
+        const auto any = [&](const std::string& text) {
+            return take(text.c_str(), number, limit, Limits::min(), Limits::max());
+        };
+        EXPECT_TRUE(any(std::to_string(Limits::max())));
         EXPECT_EQ(number, Limits::max());
-        EXPECT_FALSE(
-            take(plus_one(std::to_string(Limits::max())).c_str(), number, limit, Limits::min(), Limits::max()));
+        EXPECT_FALSE(any(plus_one(std::to_string(Limits::max()))));
         EXPECT_EQ(number, Limits::max()) << "what is refused changes nothing";
-        EXPECT_TRUE(take(std::to_string(Limits::min()).c_str(), number, limit, Limits::min(), Limits::max()));
+        EXPECT_TRUE(any(std::to_string(Limits::min())));
         EXPECT_EQ(number, Limits::min());
-        const std::string below = Limits::is_signed ? plus_one(std::to_string(Limits::min())) : "-1";
-        EXPECT_FALSE(take(below.c_str(), number, limit, Limits::min(), Limits::max()));
-        EXPECT_TRUE(take("5", number, limit, Number{5}, Number{9}) && take("9", number, limit, Number{5}, Number{9}));
-        EXPECT_FALSE(take("4", number, limit, Number{5}, Number{9}) || take("10", number, limit, Number{5}, Number{9}));
+        EXPECT_FALSE(any(Limits::is_signed ? plus_one(std::to_string(Limits::min())) : "-1"));
+        for (const auto& [text, taken] : {std::pair{"4", false}, {"5", true}, {"9", true}, {"10", false}})
+            EXPECT_EQ(take(text, number, limit, Number{5}, Number{9}), taken) << text;
         for (const char* wrong : {"", " ", "5x", "x5", "5 5", "5.0", "0x5", "--5", "+", "99999999999999999999999"})
-            EXPECT_FALSE(take(wrong, number, limit, Limits::min(), Limits::max())) << wrong;
+            EXPECT_FALSE(any(wrong)) << wrong;
     }
-
-    CDialog dialog;
 };
 
 TEST_F(AfxEntry, NumbersAreTakenUpToTheEndsOfTheirTypes) {

@@ -1,10 +1,6 @@
 // Strings, rectangles, times and memory files.
-#include <afx.h>
-#include "afx_test_ids.h"
+#include "afx_test_app.h"
 
-#include <gtest/gtest.h>
-
-#include <functional>
 #include <string>
 
 namespace {
@@ -52,12 +48,7 @@ TEST(AfxWholeString, FindsAndTakesApart) {
     for (CString part = text.Tokenize(";", at); at != -1; part = text.Tokenize(";", at))
         parts += spaced(part);
     EXPECT_EQ(parts, "[one][two][three]");
-    EXPECT_THROW(
-        try { CString("abc").SetAt(3, 'x'); } catch (CInvalidArgException* e) {
-            e->Delete();
-            throw 1;
-        },
-        int);
+    EXPECT_TRUE(raises<CInvalidArgException>([] { CString("abc").SetAt(3, 'x'); }));
 }
 
 TEST(AfxWholeString, FormatsStringsOfItsOwnKind) {
@@ -126,23 +117,7 @@ TEST(AfxMemFile, GrowsUnlessItsMemoryIsTheCallers) {
     CMemFile fixed(memory, sizeof(memory));
     EXPECT_EQ(fixed.GetLength(), 4u);
     fixed.SeekToEnd();
-    try {
-        fixed.Write("x", 1);
-        ADD_FAILURE() << "beyond the caller's memory";
-    } catch (CFileException* e) {
-        EXPECT_EQ(e->m_cause, CFileException::diskFull);
-        e->Delete();
-    }
-}
-
-TEST(AfxDump, WritesPlacesAsNumbers) {
-    CMemFile file;
-    CDumpContext dump(&file);
-    dump << CPoint(1, -2) << CSize(3, 4) << CRect(5, 6, 7, 8);
-    char text[64] = "";
-    file.SeekToBegin();
-    file.Read(text, sizeof(text) - 1);
-    EXPECT_STREQ(text, "(1, -2)(3 x 4)(L 5, T 6, R 7, B 8)");
+    EXPECT_EQ(cause_of<CFileException>([&] { fixed.Write("x", 1); }), CFileException::diskFull);
 }
 
 } // namespace

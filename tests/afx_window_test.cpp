@@ -1,8 +1,6 @@
 // Windows of the framework: their lives, their messages, their mistakes.
 #include "afx_test_app.h"
 
-#include <gmock/gmock.h>
-
 #include <stdexcept>
 
 using testing::ElementsAre;
@@ -79,9 +77,7 @@ TEST(AfxWindow, OwnsWhatItCreatedAndNothingElse) {
     EXPECT_FALSE(CWnd().SubclassWindow(foreign)) << "it has an object already";
     subclass.SetWindowText("through the object");
     EXPECT_THAT(subclass.seen, testing::Contains(WM_SETTEXT));
-    CString text;
-    subclass.GetWindowText(text);
-    EXPECT_STREQ(text, "through the object") << "the static control's own procedure was called";
+    EXPECT_EQ(text_of(subclass), "through the object") << "the static control's own procedure was called";
     EXPECT_EQ(subclass.Detach(), foreign);
     ::DestroyWindow(foreign);
     EXPECT_EQ(std::count(subclass.seen.begin(), subclass.seen.end(), WM_DESTROY), 0);
@@ -121,56 +117,6 @@ TEST(AfxHandles, ObjectsHoldOneUntilItIsTakenFromThem) {
     temporary->Detach();
     EXPECT_EQ(CWnd::FromHandle(other)->m_hWnd, other) << "a handle's value may come again";
     ::DestroyWindow(other);
-}
-
-// Writes down every call.
-class scribe : public CWnd {
-public:
-    Texts take() { return std::exchange(m_log, {}); }
-
-protected:
-    void OnOne() { m_log.push_back("one"); }
-    void OnRange(UINT id) { m_log.push_back("range " + std::to_string(id)); }
-    void OnNotify103(NMHDR* header, LRESULT* result) {
-        m_log.push_back("notify " + std::to_string(header->idFrom));
-        *result = 42;
-    }
-    DECLARE_MESSAGE_MAP()
-
-private:
-    Texts m_log;
-};
-
-BEGIN_MESSAGE_MAP(scribe, CWnd)
-ON_COMMAND(100, &scribe::OnOne)
-ON_CONTROL_RANGE(EN_CHANGE, 300, 301, &scribe::OnRange)
-ON_NOTIFY(103, 400, &scribe::OnNotify103)
-ON_NOTIFY(NM_CLICK, 400, &scribe::OnNotify103)
-END_MESSAGE_MAP()
-
-TEST(AfxMessageMap, RoutesCommandsAndNotificationsByCodeAndId) {
-    scribe wnd;
-    ASSERT_TRUE(create_popup(wnd));
-    const auto command = [&](WORD id, WORD code, HWND control) {
-        return wnd.SendMessage(WM_COMMAND, MAKEWPARAM(id, code), reinterpret_cast<LPARAM>(control));
-    };
-    const HWND control = ::GetDesktopWindow();
-    EXPECT_EQ(command(100, 0, nullptr), 1);
-    EXPECT_EQ(command(100, 1, nullptr), 1) << "from an accelerator";
-    EXPECT_EQ(command(301, EN_CHANGE, control), 1);
-    EXPECT_THAT(wnd.take(), ElementsAre("one", "one", "range 301"));
-    EXPECT_EQ(command(101, 0, nullptr), 0);
-    EXPECT_EQ(command(301, EN_UPDATE, control), 0);
-    EXPECT_EQ(command(301, EN_CHANGE, nullptr), 0);
-
-    NMHDR header{nullptr, 400, 103};
-    const auto notify = [&] { return wnd.SendMessage(WM_NOTIFY, 400, reinterpret_cast<LPARAM>(&header)); };
-    EXPECT_EQ(notify(), 42);
-    header.code = NM_CLICK; // codes of the platform are negative
-    EXPECT_EQ(notify(), 42);
-    header.code = 104;
-    EXPECT_EQ(notify(), 0);
-    EXPECT_THAT(wnd.take(), ElementsAre("notify 400", "notify 400"));
 }
 
 class thrower : public CWnd {

@@ -1,35 +1,19 @@
-#include <zopwnt.h>
-
-#include <gtest/gtest.h>
-
-#include "widget_window.h"
+#include "control_host.h"
 
 namespace {
 
-class FrameExTest : public WidgetTest {
+class FrameExTest
+    : public ControlTest<AnsweringHost<WntFrameNotify, &WntFrameNotify::folded, &WntFrameNotify::height>> {
 protected:
     void SetUp() override {
-        WidgetTest::SetUp();
+        ControlTest::SetUp();
         ASSERT_TRUE(frame_.Create(nullptr, "", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 200, 150), &host_, 1));
         frame_.SetTitle("Limits");
         ASSERT_TRUE(child_.Create("child", WS_CHILD | WS_VISIBLE, CRect(10, 300, 110, 320), frame_.GetContent(), 2));
         full_repaint(frame_);
     }
-    CRect on_screen(CWnd& window) {
-        CRect r;
-        window.GetWindowRect(&r);
-        host_.ScreenToClient(&r);
-        return r;
-    }
-    int bars() {
-        int shown = 0;
-        for (CWnd* each = frame_.GetWindow(GW_CHILD); each; each = each->GetWindow(GW_HWNDNEXT)) {
-            char name[20];
-            ::GetClassNameA(each->m_hWnd, name, sizeof name);
-            shown += !::lstrcmpiA(name, "ScrollBar") && each->IsWindowVisible();
-        }
-        return shown;
-    }
+    CRect on_screen(CWnd& window) { return place_in(host_, window); }
+    int bars() { return frame_.GetDlgItem(2)->IsWindowVisible() + frame_.GetDlgItem(3)->IsWindowVisible(); }
 
     CWntFrameEx frame_;
     CButton child_;
@@ -69,20 +53,11 @@ TEST_F(FrameExTest, ScrollingShowsWhatAFullRepaintShows) {
     frame_.SetContentSize(150, 400);
     frame_.ShowContent(CRect(0, 290, 1, 330));
     const Pixels scrolled = pixels_of(frame_);
-    full_repaint(frame_);
-    EXPECT_EQ(pixels_of(frame_), scrolled);
+    EXPECT_EQ(repainted(frame_), scrolled);
     EXPECT_TRUE(child_.IsWindowVisible());
 }
 
 TEST_F(FrameExTest, FoldsByItsHeaderAndByKeys) {
-    std::vector<std::pair<int, int>> told;
-    host_.on_message = [&](UINT message) {
-        if (message != WM_NOTIFY)
-            return;
-        const auto& n = *reinterpret_cast<WntFrameNotify*>(std::get<2>(host_.seen.back()));
-        EXPECT_EQ(n.hdr.code, WNT_FRAME_FOLDED);
-        told.emplace_back(n.folded, n.height);
-    };
     const int folded = frame_.GetHeaderHeight() + 2; // and the border
     frame_.SendMessage(WM_LBUTTONDOWN, 0, MAKELPARAM(50, 10));
     EXPECT_EQ(on_screen(frame_).Height(), folded);
@@ -94,14 +69,14 @@ TEST_F(FrameExTest, FoldsByItsHeaderAndByKeys) {
     frame_.SendMessage(WM_KEYDOWN, VK_RIGHT, 0);
     frame_.SendMessage(WM_KEYDOWN, VK_RIGHT, 0);
     frame_.SendMessage(WM_LBUTTONDOWN, 0, MAKELPARAM(50, 100)); // not the header
-    EXPECT_EQ(told, (std::vector<std::pair<int, int>>{{1, folded}, {0, 150}, {1, folded}, {0, 150}}));
+    const std::tuple closed(WNT_FRAME_FOLDED, 1, folded), open(WNT_FRAME_FOLDED, 0, 150);
+    EXPECT_THAT(host_.told, testing::ElementsAre(closed, open, closed, open));
     EXPECT_EQ(frame_.Fold(0) + frame_.IsFolded(), 0);
     EXPECT_EQ(frame_.Fold(1), 1);
-    EXPECT_EQ(told.size(), 4u); // calls tell nothing
+    EXPECT_EQ(host_.told.size(), 4u); // calls tell nothing
 
     frame_.SetFocus();
-    full_repaint(frame_);
-    const Pixels focused = pixels_of(frame_);
+    const Pixels focused = repainted(frame_);
     host_.SetFocus();
     frame_.UpdateWindow();
     EXPECT_NE(pixels_of(frame_), focused);
@@ -127,14 +102,9 @@ TEST_F(FrameExTest, HoldsAToolAndAnchors) {
     frame_.MoveWindow(0, 0, 360, 150);
     EXPECT_EQ(on_screen(child_).right, before.right + 60);
     EXPECT_LT(on_screen(child_).top, before.top);
-    std::vector<UINT> commands;
-    host_.on_message = [&](UINT message) {
-        if (message == WM_COMMAND)
-            commands.push_back(LOWORD(std::get<1>(host_.seen.back())));
-    };
     tool.SendMessage(BM_CLICK);
     child_.SendMessage(BM_CLICK);
-    EXPECT_EQ(commands, (std::vector<UINT>{7, 2}));
+    EXPECT_THAT(host_.commands, testing::ElementsAre(7u, 2u));
     EXPECT_EQ(frame_.SetTool(nullptr), 1);
     EXPECT_FALSE(tool.IsWindowVisible());
 }
@@ -169,10 +139,7 @@ TEST_F(FrameExTest, KeepsItsContentWhileFoldedOrHidden) {
 TEST_F(FrameExTest, MayBeDestroyedWhenItTells) {
     auto* doomed = new CWntFrameEx;
     ASSERT_TRUE(doomed->Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 100), &host_, 9));
-    host_.on_message = [&](UINT message) {
-        if (message == WM_NOTIFY)
-            delete std::exchange(doomed, nullptr);
-    };
+    host_.answer = [&](WntFrameNotify&) { return delete std::exchange(doomed, nullptr), 0; };
     doomed->SendMessage(WM_LBUTTONDOWN, 0, MAKELPARAM(20, 10));
     EXPECT_FALSE(doomed);
 }

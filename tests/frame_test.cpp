@@ -1,9 +1,5 @@
-#include <zopwnt.h>
-
-#include <gtest/gtest.h>
-
+#include "control_host.h"
 #include "temporary_file.h"
-#include "widget_window.h"
 
 namespace {
 
@@ -11,8 +7,9 @@ constexpr COLORREF dark_blue = RGB(0, 0, 128), yellow = RGB(255, 255, 0), black 
 
 class FrameTest : public WidgetTest {
 protected:
-    void open(int width, int height) {
-        ASSERT_TRUE(frame_.Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, width, height), &host_, 1));
+    void SetUp() override {
+        WidgetTest::SetUp();
+        open(frame_, 200, 100);
         script({":CLRBACK=DARKBLUE", ":CLRTEXT=YELLOW", ":CLRSUN=WHITE", ":CLRSHADOW=BLACK"});
     }
     void script(std::initializer_list<const char*> lines) {
@@ -22,29 +19,17 @@ protected:
         frame_.LoadLine("", 2);
         full_repaint(frame_);
     }
-    // Where pixels of a colour lie; empty where there are none.
     CRect extent(COLORREF colour) {
-        const Pixels seen = pixels_of(frame_);
-        CRect box(seen.width, seen.height, 0, 0);
-        for (int y = 0; y < seen.height; ++y)
-            for (int x = 0; x < seen.width; ++x)
-                if (seen.at(x, y) == colour)
-                    box = CRect(std::min<int>(box.left, x), std::min<int>(box.top, y), std::max<int>(box.right, x + 1),
-                                std::max<int>(box.bottom, y + 1));
-        return box;
+        CRect client;
+        frame_.GetClientRect(&client);
+        return ::extent(pixels_of(frame_), colour, client);
     }
-    CRect place(CWnd& child) {
-        CRect r;
-        child.GetWindowRect(&r);
-        frame_.ScreenToClient(&r);
-        return r;
-    }
+    CRect place(CWnd& child) { return place_in(frame_, child); }
 
     CWntFrame frame_;
 };
 
 TEST_F(FrameTest, BorderAndTitleStandWhereTheScriptSays) {
-    open(200, 100);
     script({":BORDERHEIGHT=3", ":BORDERTYPE=3DDOWN", ":BORDERSTYLE=LEFT RIGHT TOP BOTTOM"});
     const Pixels sunk = pixels_of(frame_);
     EXPECT_TRUE(sunk.at(1, 50) == black && sunk.at(100, 2) == black && sunk.at(197, 50) == white &&
@@ -78,7 +63,6 @@ TEST_F(FrameTest, BorderAndTitleStandWhereTheScriptSays) {
 }
 
 TEST_F(FrameTest, ChildrenStayAtTheirAnchors) {
-    open(200, 100);
     CWntGauge gauge;
     CButton button;
     ASSERT_TRUE(gauge.Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(10, 10, 110, 90), &frame_, 2));
@@ -107,7 +91,6 @@ TEST_F(FrameTest, ChildrenStayAtTheirAnchors) {
 }
 
 TEST_F(FrameTest, PaintsOnlyWhatIsUncovered) {
-    open(200, 100);
     CButton child;
     ASSERT_TRUE(child.Create("child", WS_CHILD | WS_VISIBLE, CRect(20, 20, 100, 60), &frame_, 2));
     full_repaint(frame_);
@@ -123,19 +106,12 @@ TEST_F(FrameTest, PaintsOnlyWhatIsUncovered) {
 }
 
 TEST_F(FrameTest, FollowsTheMainFramesScaling) {
-    open(200, 100);
     script({":BORDERHEIGHT=2", ":TITLE=T"});
     EXPECT_EQ(frame_.GetScale(), 100);
     const CRect plain = frame_.GetContentRect();
-    char folder[MAX_PATH];
-    ::GetModuleFileNameA(nullptr, folder, sizeof folder);
-    const CString path = CString(folder).Left(CString(folder).ReverseFind('\\')) + "\\stub\\zopfdraw.dll";
-    const HMODULE stub = ::LoadLibraryA(path);
-    ASSERT_TRUE(stub);
-    auto& percentage = *reinterpret_cast<int*>(reinterpret_cast<void*>(::GetProcAddress(stub, "percentage")));
+    MainFrameScale main;
     for (const auto& [answer, scale] : {std::pair{200, 200}, {0, 100}, {-7, 100}, {INT_MAX, 1000}, {150, 150}}) {
-        percentage = answer;
-        frame_.SendMessage(WM_SETTINGCHANGE);
+        main.tell(frame_, answer);
         EXPECT_EQ(frame_.GetScale(), scale) << answer;
     }
     EXPECT_EQ(frame_.GetContentRect().left, 3);
@@ -143,7 +119,6 @@ TEST_F(FrameTest, FollowsTheMainFramesScaling) {
     CWntFrame second;
     ASSERT_TRUE(second.Create(nullptr, "", WS_CHILD, CRect(0, 0, 9, 9), &host_, 5));
     EXPECT_EQ(second.GetScale(), 150);
-    ::FreeLibrary(stub);
 }
 
 } // namespace

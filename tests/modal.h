@@ -6,6 +6,8 @@
 #include <functional>
 #include <utility>
 
+#include "thread_window.h"
+
 /// Calls the function again and again while messages are dispatched, until it answers true.
 class WhileModal {
 public:
@@ -26,17 +28,5 @@ private:
 
 /// The dialog of this thread that is shown; null while there is none.
 inline HWND shown_dialog() {
-    HWND found = nullptr;
-    ::EnumThreadWindows(
-        ::GetCurrentThreadId(),
-        [](HWND window, LPARAM to) -> BOOL {
-            char name[32] = "";
-            ::GetClassNameA(window, name, sizeof name);
-            if (lstrcmpA(name, "#32770") != 0 || !::IsWindowVisible(window))
-                return TRUE;
-            *reinterpret_cast<HWND*>(to) = window;
-            return FALSE;
-        },
-        reinterpret_cast<LPARAM>(&found));
-    return found;
+    return thread_window("#32770", true);
 }

@@ -1,56 +1,21 @@
-#include <zopwnt.h>
-
-#include <gmock/gmock.h>
-
-#include "widget_window.h"
+#include "control_host.h"
 
 namespace {
 
-// Parent of sashes: keeps what they tell, and answers as it is told to.
-class SashHost : public AttentiveHost {
-public:
-    std::vector<std::pair<UINT, int>> told; // code and position
-    std::vector<UINT> commands;
-    std::function<LRESULT(WntSashNotify&)> answer = [](WntSashNotify&) { return 0; };
-
-protected:
-    BOOL OnNotify(WPARAM, LPARAM lParam, LRESULT* result) override {
-        auto& n = *reinterpret_cast<WntSashNotify*>(lParam);
-        told.emplace_back(n.hdr.code, n.position);
-        *result = answer(n);
-        return TRUE;
-    }
-    BOOL OnCommand(WPARAM wParam, LPARAM) override {
-        commands.push_back(LOWORD(wParam));
-        return TRUE;
-    }
-};
-
-class Sash : public testing::Test {
+class Sash : public ControlTest<AnsweringHost<WntSashNotify, &WntSashNotify::position>> {
 protected:
     static constexpr int bar = 5;
 
     void SetUp() override {
-        ASSERT_TRUE(host_.CreateEx(0, nullptr, "host", WS_POPUP, CRect(0, 0, 300, 200), nullptr, 0));
-        host_.ShowWindow(SW_SHOW);
-        open(sash_, host_);
+        ControlTest::SetUp();
+        ASSERT_TRUE(sash_.Create(nullptr, "", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 205, 100), &host_, 9));
+        ASSERT_TRUE(first_.Create("one", WS_CHILD | WS_VISIBLE, CRect(0, 0, 1, 1), &sash_, 11));
+        ASSERT_TRUE(second_.Create("two", WS_CHILD | WS_VISIBLE, CRect(0, 0, 1, 1), &sash_, 12));
+        ASSERT_TRUE(sash_.SetPanes(&first_, &second_));
+        sash_.SetPosition(100);
+        full_repaint(sash_);
     }
-    void TearDown() override { host_.DestroyWindow(); }
-
-    void open(CWntSash& sash, CWnd& parent) {
-        ASSERT_TRUE(sash.Create(nullptr, "", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 205, 100), &parent, 9));
-        ASSERT_TRUE(first_.Create("one", WS_CHILD | WS_VISIBLE, CRect(0, 0, 1, 1), &sash, 11));
-        ASSERT_TRUE(second_.Create("two", WS_CHILD | WS_VISIBLE, CRect(0, 0, 1, 1), &sash, 12));
-        ASSERT_TRUE(sash.SetPanes(&first_, &second_));
-        sash.SetPosition(100);
-        full_repaint(sash);
-    }
-    CRect place(CWnd& pane) {
-        CRect r;
-        pane.GetWindowRect(&r);
-        sash_.ScreenToClient(&r);
-        return r;
-    }
+    CRect place(CWnd& pane) { return place_in(sash_, pane); }
     void mouse(UINT message, int x, int y = 50) { sash_.SendMessage(message, MK_LBUTTON, MAKELPARAM(x, y)); }
     void drag(int from, int to) {
         mouse(WM_LBUTTONDOWN, from);
@@ -58,7 +23,6 @@ protected:
     }
     void key(UINT k) { sash_.SendMessage(WM_KEYDOWN, k, 0); }
 
-    SashHost host_;
     CWntSash sash_;
     CButton first_, second_;
 };
@@ -89,7 +53,7 @@ TEST_F(Sash, IsDraggedAsTheHostAllows) {
     drag(102, 62);
     EXPECT_EQ(place(first_).Width(), 60);
     mouse(WM_LBUTTONUP, 62);
-    EXPECT_THAT(host_.told, testing::ElementsAre(std::pair(WNT_SASH_MOVING, 60), std::pair(WNT_SASH_MOVED, 60)));
+    EXPECT_THAT(host_.told, testing::ElementsAre(std::tuple(WNT_SASH_MOVING, 60), std::tuple(WNT_SASH_MOVED, 60)));
     EXPECT_NE(::GetCapture(), sash_.m_hWnd);
 
     host_.answer = [](WntSashNotify& n) -> LRESULT {
@@ -158,8 +122,7 @@ TEST_F(Sash, FoldsAndMovesByKeys) {
     EXPECT_TRUE(first_.IsWindowVisible());
     host_.told.clear();
     sash_.SetFocus();
-    full_repaint(sash_);
-    const Pixels focused = pixels_of(sash_);
+    const Pixels focused = repainted(sash_);
     host_.SetFocus();
     sash_.UpdateWindow();
     EXPECT_NE(pixels_of(sash_), focused);
@@ -167,16 +130,13 @@ TEST_F(Sash, FoldsAndMovesByKeys) {
         key(static_cast<UINT>(k));
         EXPECT_EQ(sash_.GetPosition(), at) << k;
     }
-    BYTE keys[256];
-    ::GetKeyboardState(keys);
-    keys[VK_CONTROL] = 0x80;
-    ::SetKeyboardState(keys);
-    key(VK_LEFT);
+    {
+        const HeldKeys control({VK_CONTROL});
+        key(VK_LEFT);
+    }
     EXPECT_EQ(sash_.GetPosition(), 199);
-    keys[VK_CONTROL] = 0;
-    ::SetKeyboardState(keys);
     key(VK_SPACE);
-    EXPECT_THAT(host_.told.back(), testing::Pair(WNT_SASH_FOLDED, 0));
+    EXPECT_EQ(host_.told.back(), std::tuple(WNT_SASH_FOLDED, 0));
 }
 
 TEST_F(Sash, ItsPointerTellsWhereItMoves) {
@@ -213,7 +173,7 @@ TEST_F(Sash, PassesOnWhatItsPanesTell) {
     inner.SetFoldPane(2);
     host_.told.clear();
     inner.SendMessage(WM_KEYDOWN, VK_SPACE, 0);
-    EXPECT_THAT(host_.told, testing::ElementsAre(testing::Pair(WNT_SASH_FOLDED, testing::_)));
+    EXPECT_THAT(host_.told, testing::ElementsAre(testing::FieldsAre(WNT_SASH_FOLDED, testing::_)));
 }
 
 TEST_F(Sash, MayBeDestroyedOnAnyNotification) {
@@ -279,8 +239,8 @@ TEST_F(Sash, AFoldedBarStaysUntilItIsReallyMoved) {
     host_.told.clear();
     key(VK_RIGHT);
     EXPECT_EQ(sash_.GetPosition(), 80);
-    EXPECT_THAT(host_.told, testing::ElementsAre(testing::Pair(WNT_SASH_MOVING, 80), testing::Pair(WNT_SASH_MOVED, 80),
-                                                 testing::Pair(WNT_SASH_FOLDED, 80)));
+    EXPECT_THAT(host_.told, testing::ElementsAre(std::tuple(WNT_SASH_MOVING, 80), std::tuple(WNT_SASH_MOVED, 80),
+                                                 std::tuple(WNT_SASH_FOLDED, 80)));
     sash_.Fold(1);
     sash_.SetFoldPane(2); // the first one would never come back
     EXPECT_EQ(sash_.GetFolded(), 0);
@@ -291,10 +251,7 @@ TEST_F(Sash, AFoldedBarStaysUntilItIsReallyMoved) {
 }
 
 TEST_F(Sash, StoresItselfInAProfile) {
-    char folder[MAX_PATH];
-    ::GetTempPathA(sizeof folder, folder);
-    const CString file = CString(folder) + "sash_test.ini";
-    ::DeleteFileA(file);
+    const TemporaryProfile file;
     EXPECT_EQ(sash_.RestoreState(file, "main"), 0);
     sash_.SetPosition(60);
     sash_.SetFoldPane(2);
@@ -324,7 +281,6 @@ TEST_F(Sash, StoresItselfInAProfile) {
     ::WritePrivateProfileStringA("main", "Share", "half", file);
     EXPECT_EQ(sash_.RestoreState(file, "main"), 0);
     EXPECT_EQ(sash_.StoreState(nullptr, "main") + sash_.StoreState(file, ""), 0);
-    ::DeleteFileA(file);
 }
 
 TEST_F(Sash, AWindowOfATemplateBecomesOne) {

@@ -1,42 +1,21 @@
-#include <zopwnt.h>
-
-#include <gmock/gmock.h>
-
-#include "widget_window.h"
+#include "control_host.h"
 
 namespace {
 
-class FocusHost : public CWnd {
-public:
-    std::function<void()> on_lost_focus = [] {};
-    std::vector<UINT> told;
-
-protected:
-    BOOL OnCommand(WPARAM wParam, LPARAM) override {
-        if (HIWORD(wParam) == EN_KILLFOCUS)
-            on_lost_focus();
-        return TRUE;
-    }
-    BOOL OnNotify(WPARAM, LPARAM lParam, LRESULT*) override {
-        told.push_back(reinterpret_cast<NMHDR*>(lParam)->code);
-        return TRUE;
-    }
-};
-
 // Tabs whose pages hold inputs, which tell the host when they lose the focus.
-class TabsFocus : public testing::Test {
+class TabsFocus : public ControlTest<AnsweringHost<WntTabsNotify>> {
 protected:
-    void SetUp() override {
-        ASSERT_TRUE(host_.CreateEx(0, nullptr, "host", WS_POPUP, CRect(0, 0, 500, 400), nullptr, 0));
-        host_.ShowWindow(SW_SHOW);
-    }
     void TearDown() override {
         delete tabs_;
-        host_.DestroyWindow();
+        ControlTest::TearDown();
     }
     void open() {
-        host_.on_lost_focus = [] {};
+        lost_focus_ = [] {};
         host_.told.clear();
+        host_.on_message = [&](UINT message) {
+            if (message == WM_COMMAND && HIWORD(std::get<1>(host_.seen.back())) == EN_KILLFOCUS)
+                lost_focus_();
+        };
         delete tabs_;
         tabs_ = new Trapping<CWntTabs>;
         ASSERT_TRUE(tabs_->Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &host_, 9));
@@ -52,16 +31,12 @@ protected:
         ASSERT_EQ(::GetFocus(), inputs_[0]->m_hWnd);
     }
     void next_by_key() {
-        BYTE before[256], now[256] = {};
-        ::GetKeyboardState(before);
-        now[VK_CONTROL] = 0x80;
-        ::SetKeyboardState(now);
+        const HeldKeys control({VK_CONTROL});
         MSG m = {inputs_[0]->m_hWnd, WM_KEYDOWN, VK_TAB, 1, 0, {}};
         tabs_->PreTranslateMessage(&m);
-        ::SetKeyboardState(before);
     }
 
-    FocusHost host_;
+    std::function<void()> lost_focus_;
     CWntTabs* tabs_ = nullptr;
     std::unique_ptr<CWntFrame> pages_[3];
     std::unique_ptr<CEdit> inputs_[3];
@@ -82,7 +57,7 @@ TEST_F(TabsFocus, APageThatLosesItMayEndTheTabs) {
     int way = 0;
     for (const auto& leave : ways) {
         open();
-        host_.on_lost_focus = [&] { delete std::exchange(tabs_, nullptr); };
+        lost_focus_ = [&] { delete std::exchange(tabs_, nullptr); };
         leave();
         EXPECT_FALSE(tabs_) << way;
         EXPECT_FALSE(pages_[0]->m_hWnd || pages_[1]->m_hWnd) << way;
@@ -104,7 +79,7 @@ TEST_F(TabsFocus, APageThatLosesItMaySelectAnother) {
     for (const int chosen : {0, 2}) {
         open();
         bool told = false;
-        host_.on_lost_focus = [&] {
+        lost_focus_ = [&] {
             if (!std::exchange(told, true))
                 tabs_->Select(chosen);
         };
@@ -112,7 +87,7 @@ TEST_F(TabsFocus, APageThatLosesItMaySelectAnother) {
         EXPECT_EQ(tabs_->GetSelected(), chosen);
         for (int i = 0; i < 3; ++i)
             EXPECT_EQ(pages_[i]->IsWindowVisible() != FALSE, i == chosen) << i << " of " << chosen;
-        EXPECT_THAT(host_.told, testing::ElementsAre(WNT_TABS_SELECTING)) << "another one is selected";
+        EXPECT_THAT(host_.told, testing::ElementsAre(std::tuple(WNT_TABS_SELECTING))) << "another one is selected";
     }
 }
 

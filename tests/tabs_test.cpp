@@ -1,60 +1,19 @@
-#include <zopwnt.h>
-
-#include <gmock/gmock.h>
-
+#include "control_host.h"
 #include "modal.h"
 #include "temporary_file.h"
-#include "widget_window.h"
 
 namespace {
 
 using testing::ElementsAre;
 
-// Parent of tabs: keeps what they tell, and answers as it is told to.
-class TabsHost : public AttentiveHost {
-public:
-    std::vector<std::tuple<UINT, int, int>> told; // code, tab, other
-    std::vector<UINT> commands;
-    std::function<LRESULT(WntTabsNotify&)> answer = [](WntTabsNotify&) { return 0; };
+constexpr COLORREF red = RGB(255, 0, 0), blue = RGB(0, 0, 255), white = RGB(255, 255, 255);
 
-protected:
-    BOOL OnNotify(WPARAM, LPARAM lParam, LRESULT* result) override {
-        auto& n = *reinterpret_cast<WntTabsNotify*>(lParam);
-        told.emplace_back(n.hdr.code, n.tab, n.other);
-        *result = answer(n);
-        return TRUE;
-    }
-    BOOL OnCommand(WPARAM wParam, LPARAM) override {
-        commands.push_back(LOWORD(wParam));
-        return TRUE;
-    }
-};
-
-class Held {
-public:
-    explicit Held(std::initializer_list<int> keys) {
-        ::GetKeyboardState(before_);
-        BYTE now[256];
-        std::copy_n(before_, 256, now);
-        for (const int key : keys)
-            now[key] = 0x80;
-        ::SetKeyboardState(now);
-    }
-    ~Held() { ::SetKeyboardState(before_); }
-
-private:
-    BYTE before_[256];
-};
-
-class Tabs : public testing::Test {
+class Tabs : public ControlTest<AnsweringHost<WntTabsNotify, &WntTabsNotify::tab, &WntTabsNotify::other>> {
 protected:
     void SetUp() override {
-        ASSERT_TRUE(host_.CreateEx(0, nullptr, "host", WS_POPUP, CRect(0, 0, 500, 400), nullptr, 0));
-        host_.ShowWindow(SW_SHOW);
+        ControlTest::SetUp();
         open(tabs_, pages_, 300);
     }
-    void TearDown() override { host_.DestroyWindow(); }
-
     void open(CWntTabs& tabs, CButton (&pages)[3], int width) {
         ASSERT_TRUE(tabs.Create(nullptr, "", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, width, 200), &host_, 9));
         const char* texts[] = {"&One", "&Two", "T&hree"};
@@ -72,7 +31,7 @@ protected:
     }
     void mouse(UINT message, CPoint at) {
         at = in_strip(at);
-        const Held button({message == WM_LBUTTONDOWN ? VK_LBUTTON : 0});
+        const HeldKeys button({message == WM_LBUTTONDOWN ? VK_LBUTTON : 0});
         strip().SendMessage(message, MK_LBUTTON, MAKELPARAM(at.x, at.y));
     }
     CPoint middle(int tab) { return tabs_.GetTabRect(tab).CenterPoint(); }
@@ -81,25 +40,14 @@ protected:
         mouse(WM_LBUTTONUP, at);
     }
     void key(UINT k) { strip().SendMessage(WM_KEYDOWN, k, 0); }
-    // As the message loop would give it to a window within.
-    bool translated(CWnd& window, UINT message, WPARAM wParam) {
-        MSG m = {window.m_hWnd, message, wParam, 0, 0, {}};
-        return CWnd::WalkPreTranslateTree(host_.m_hWnd, &m);
-    }
     std::string shown() {
         std::string all;
         for (int i = 0; i < 3; ++i)
             all += pages_[i].m_hWnd && pages_[i].IsWindowVisible() ? static_cast<char>('1' + i) : '-';
         return all;
     }
-    CRect place(CWnd& window) {
-        CRect r;
-        window.GetWindowRect(&r);
-        tabs_.ScreenToClient(&r);
-        return r;
-    }
+    CRect place(CWnd& window) { return place_in(tabs_, window); }
 
-    TabsHost host_;
     CWntTabs tabs_;
     CButton pages_[3];
 };
@@ -181,7 +129,7 @@ TEST_F(Tabs, KeysSelectOnTheStripAndFromWithinAPage) {
     pages_[1].SetFocus();
     EXPECT_FALSE(translated(pages_[1], WM_KEYDOWN, VK_TAB));
     {
-        const Held control({VK_CONTROL});
+        const HeldKeys control({VK_CONTROL});
         EXPECT_TRUE(translated(pages_[1], WM_KEYDOWN, VK_TAB));
         EXPECT_EQ(tabs_.GetSelected(), 2);
         EXPECT_NE(::GetFocus(), pages_[1].m_hWnd) << "a hidden window has no focus";
@@ -191,7 +139,7 @@ TEST_F(Tabs, KeysSelectOnTheStripAndFromWithinAPage) {
         EXPECT_EQ(tabs_.GetSelected(), 2);
     }
     {
-        const Held both({VK_CONTROL, VK_SHIFT});
+        const HeldKeys both({VK_CONTROL, VK_SHIFT});
         EXPECT_TRUE(translated(pages_[2], WM_KEYDOWN, VK_TAB));
         EXPECT_EQ(tabs_.GetSelected(), 1);
     }
@@ -205,7 +153,7 @@ TEST_F(Tabs, KeysSelectOnTheStripAndFromWithinAPage) {
     ASSERT_TRUE(first.Create("1", WS_CHILD | WS_TABSTOP, CRect(0, 0, 5, 5), &inner, 31) &&
                 second.Create("2", WS_CHILD | WS_TABSTOP, CRect(0, 0, 5, 5), &inner, 32));
     ASSERT_EQ(tabs_.AddTab("inner", &inner) + inner.AddTab("1", &first) + inner.AddTab("2", &second), 3);
-    const Held control({VK_CONTROL});
+    const HeldKeys control({VK_CONTROL});
     tabs_.Select(3);
     EXPECT_TRUE(translated(first, WM_KEYDOWN, VK_TAB));
     EXPECT_TRUE(inner.GetSelected() == 1 && tabs_.GetSelected() == 3);
@@ -272,7 +220,7 @@ TEST_F(Tabs, AreOrderedByDragging) {
     mouse(WM_LBUTTONUP, CPoint(0, 5));
     EXPECT_EQ(tabs_.GetTabText(2), "&One");
     host_.answer = [](WntTabsNotify&) { return 0; };
-    const Held control({VK_CONTROL});
+    const HeldKeys control({VK_CONTROL});
     key(VK_LEFT);
     EXPECT_EQ(tabs_.GetTabText(1), "&One");
 }
@@ -331,7 +279,6 @@ TEST_F(Tabs, TheSelectedTabIsJoinedToItsPageAtEverySide) {
     tabs_.LoadLine(":CLRSUN=RED", 0);
     tabs_.LoadLine(":CLRSHADOW=BLUE", 0);
     tabs_.LoadLine(":CLRBACK=WHITE", 0);
-    const COLORREF red = RGB(255, 0, 0), blue = RGB(0, 0, 255), white = RGB(255, 255, 255);
     const struct {
         int side;
         int from_left, from_top, from_right, from_bottom; // of the line between tabs and page
@@ -343,8 +290,7 @@ TEST_F(Tabs, TheSelectedTabIsJoinedToItsPageAtEverySide) {
     tabs_.Select(1);
     for (const auto& c : cases) {
         tabs_.SetSide(c.side);
-        full_repaint(tabs_);
-        const Pixels seen = pixels_of(tabs_);
+        const Pixels seen = repainted(tabs_);
         const CRect page = tabs_.GetPageRect();
         const auto between = [&](int tab) {
             CPoint at = middle(tab);
@@ -362,27 +308,15 @@ TEST_F(Tabs, TheSelectedTabIsJoinedToItsPageAtEverySide) {
     }
 }
 
-// Ink of a text, dark on the ground.
-CRect ink_in(const Pixels& seen, const CRect& part) {
-    CRect box(9999, 9999, 0, 0);
-    for (int y = part.top; y < part.bottom; ++y)
-        for (int x = part.left; x < part.right; ++x)
-            if (seen.at(x, y) == RGB(255, 0, 0))
-                box = CRect(std::min<int>(box.left, x), std::min<int>(box.top, y), std::max<int>(box.right, x + 1),
-                            std::max<int>(box.bottom, y + 1));
-    return box;
-}
-
 TEST_F(Tabs, TextsAreWholeAndTurnedWithTheSide) {
     tabs_.LoadLine(":CLRTEXT=RED", 0);
     tabs_.SetTabText(1, "LLLLLLi"); // heavy at the beginning's foot, with a thin end
     CSize size;
     for (const int side : {CWntTabs::at_top, CWntTabs::at_bottom, CWntTabs::at_left, CWntTabs::at_right}) {
         tabs_.SetSide(side);
-        full_repaint(tabs_);
-        const Pixels seen = pixels_of(tabs_);
+        const Pixels seen = repainted(tabs_);
         const CRect tab = tabs_.GetTabRect(1);
-        const CRect ink = ink_in(seen, tab);
+        const CRect ink = extent(seen, red, tab);
         const bool turned = side >= CWntTabs::at_left;
         const CSize now = turned ? CSize(ink.Height(), ink.Width()) : ink.Size();
         if (side == CWntTabs::at_top)
@@ -398,7 +332,7 @@ TEST_F(Tabs, TextsAreWholeAndTurnedWithTheSide) {
                 int found = 0;
                 for (int y = r.top; y < r.bottom; ++y)
                     for (int x = r.left; x < r.right; ++x)
-                        found += seen.at(x, y) == RGB(255, 0, 0);
+                        found += seen.at(x, y) == red;
                 return found;
             };
             EXPECT_EQ(count(right) > count(left), side == CWntTabs::at_left) << side;
@@ -411,7 +345,8 @@ TEST_F(Tabs, TextsAreWholeAndTurnedWithTheSide) {
     const CRect tab = tabs_.GetTabRect(1);
     CRect inside = tab;
     inside.DeflateRect(3, 3);
-    EXPECT_EQ(ink_in(pixels_of(tabs_), tab), ink_in(pixels_of(tabs_), inside)) << "cut with dots, not written over";
+    EXPECT_EQ(extent(pixels_of(tabs_), red, tab), extent(pixels_of(tabs_), red, inside))
+        << "cut with dots, not written over";
 }
 
 TEST_F(Tabs, ASelectionPaintsNoPixelTwice) {
@@ -465,27 +400,14 @@ TEST_F(Tabs, HoverAndFocusAreSeenAndGo) {
 TEST_F(Tabs, TipsBelongToTheirTabs) {
     tabs_.SetTabTip(1, "the second");
     tabs_.SetTabTip(2, "the third");
-    HWND tips = nullptr;
-    ::EnumThreadWindows(
-        ::GetCurrentThreadId(),
-        [](HWND window, LPARAM to) -> BOOL {
-            char name[32] = "";
-            ::GetClassNameA(window, name, sizeof name);
-            if (lstrcmpA(name, TOOLTIPS_CLASSA) == 0)
-                *reinterpret_cast<HWND*>(to) = window;
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&tips));
+    const HWND tips = thread_window(TOOLTIPS_CLASSA);
     auto* control = dynamic_cast<CToolTipCtrlEx*>(CWnd::FromHandlePermanent(tips));
     ASSERT_TRUE(control);
     tabs_.MoveTab(2, 0);
     EXPECT_EQ(control->GetToolCount(), 2);
-    TTHITTESTINFOA at = {};
-    at.ti.cbSize = sizeof at.ti;
-    at.hwnd = strip().m_hWnd;
     const auto found = [&](int tab) {
-        at.pt = in_strip(middle(tab));
-        return control->SendMessage(TTM_HITTESTA, 0, reinterpret_cast<LPARAM>(&at)) != 0;
+        TOOLINFO tool = {};
+        return control->HitTest(&strip(), in_strip(middle(tab)), &tool) != FALSE;
     };
     EXPECT_TRUE(found(0) && !found(1) && found(2));
     WntTip tip;
@@ -508,18 +430,13 @@ TEST_F(Tabs, TheTabKeyGoesFromTheStripIntoThePage) {
 
 TEST_F(Tabs, FollowTheMainFramesScaling) {
     const int rows = place(strip()).Height();
-    char folder[MAX_PATH];
-    ::GetModuleFileNameA(nullptr, folder, sizeof folder);
-    const HMODULE stub =
-        ::LoadLibraryA(CString(folder).Left(CString(folder).ReverseFind('\\')) + "\\stub\\zopfdraw.dll");
-    ASSERT_TRUE(stub);
-    auto& percentage = *reinterpret_cast<int*>(reinterpret_cast<void*>(::GetProcAddress(stub, "percentage")));
-    percentage = 200;
-    tabs_.SendMessage(WM_SETTINGCHANGE);
-    EXPECT_EQ(tabs_.GetScale(), 200);
-    EXPECT_NEAR(place(strip()).Height(), 2 * rows, 4);
-    EXPECT_EQ(place(pages_[0]), tabs_.GetPageRect());
-    ::FreeLibrary(stub);
+    {
+        MainFrameScale scale;
+        scale.tell(tabs_, 200);
+        EXPECT_EQ(tabs_.GetScale(), 200);
+        EXPECT_NEAR(place(strip()).Height(), 2 * rows, 4);
+        EXPECT_EQ(place(pages_[0]), tabs_.GetPageRect());
+    }
     tabs_.SendMessage(WM_SETTINGCHANGE);
     EXPECT_EQ(place(strip()).Height(), rows);
 }
@@ -541,22 +458,22 @@ TEST_F(Tabs, MayBeDestroyedOnAnyNotification) {
                     delete std::exchange(tabs, nullptr);
                 return 0;
             };
-            const Held button({VK_LBUTTON});
-            const auto send = [&](UINT message, int x) { ::SendMessageA(window, message, 0, MAKELPARAM(x, 12)); };
+            const HeldKeys button({VK_LBUTTON});
+            const auto drag = [&](int from, int to) {
+                for (const auto& [message, x] :
+                     {std::pair{WM_LBUTTONDOWN, from}, {WM_MOUSEMOVE, to}, {WM_LBUTTONUP, to}})
+                    ::SendMessageA(window, static_cast<UINT>(message), 0, MAKELPARAM(x, 12));
+            };
+            const auto press = [&](WPARAM key) { ::SendMessageA(window, WM_KEYDOWN, key, 0); };
             if (by_key) {
-                const Held control({VK_CONTROL});
-                ::SendMessageA(window, WM_KEYDOWN, VK_RIGHT, 0);
-            } else {
-                send(WM_LBUTTONDOWN, first.left + 5);
-                send(WM_MOUSEMOVE, second.right);
-                send(WM_LBUTTONUP, second.right);
-            }
-            ::SendMessageA(window, WM_KEYDOWN, VK_HOME, 0);
-            ::SendMessageA(window, WM_KEYDOWN, VK_RIGHT, 0);
-            ::SendMessageA(window, WM_KEYDOWN, VK_LEFT, 0);
-            by_key ? ::SendMessageA(window, WM_KEYDOWN, VK_DELETE, 0)
-                   : (send(WM_LBUTTONDOWN, tabs ? tabs->GetTabRect(0).right - 14 : 0),
-                      send(WM_LBUTTONUP, tabs ? tabs->GetTabRect(0).right - 14 : 0), 0);
+                const HeldKeys control({VK_CONTROL});
+                press(VK_RIGHT);
+            } else
+                drag(first.left + 5, second.right);
+            for (const WPARAM key : {VK_HOME, VK_RIGHT, VK_LEFT})
+                press(key);
+            const int mark = tabs ? tabs->GetTabRect(0).right - 14 : 0;
+            by_key ? press(VK_DELETE) : drag(mark, mark);
             EXPECT_FALSE(tabs) << code;
             EXPECT_FALSE(::IsWindow(window)) << code;
             delete tabs;

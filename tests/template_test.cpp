@@ -42,13 +42,18 @@ template <class Widget> Pixels created(CWnd& parent, CWnd& like, std::function<v
     Widget widget;
     EXPECT_TRUE(widget.Create(nullptr, "Created", WS_CHILD | WS_VISIBLE, client, &parent, 1));
     prepare(widget);
-    full_repaint(widget);
-    const Pixels shown = pixels_of(widget);
+    const Pixels shown = repainted(widget);
     widget.DestroyWindow();
     return shown;
 }
 
-class TemplateTest : public WidgetTest {};
+class TemplateTest : public WidgetTest {
+protected:
+    HWND plain_window(int width, int height) {
+        return ::CreateWindowA("STATIC", "", WS_CHILD | WS_VISIBLE, 0, 0, width, height, host_.m_hWnd, nullptr, nullptr,
+                               nullptr);
+    }
+};
 
 TEST_F(TemplateTest, WidgetsLookAsIfTheirObjectsHadCreatedThem) {
     std::ofstream("template.dat") << ":TYPE=ANALOG\n:MAXVAL=50\n:TITLE=From a script\n";
@@ -58,8 +63,7 @@ TEST_F(TemplateTest, WidgetsLookAsIfTheirObjectsHadCreatedThem) {
             if (!dialog.m_hWnd || !dialog.joined)
                 return false;
             const auto expect_as = [&](CWnd& widget, const Pixels& expected) {
-                full_repaint(widget);
-                EXPECT_TRUE(pixels_of(widget) == expected) << widget.GetDlgCtrlID();
+                EXPECT_TRUE(repainted(widget) == expected) << widget.GetDlgCtrlID();
             };
             expect_as(dialog.gauge,
                       created<CWntGauge>(host_, dialog.gauge, [](CWntGauge& g) { g.SetTitles("Pressure", ""); }));
@@ -102,17 +106,12 @@ TEST_F(TemplateTest, ByItsClassNameAWidgetIsMadeOnce) {
     EXPECT_EQ(children, 1);
     CWntGauge refused; // and takes over a window after that
     EXPECT_FALSE(refused.Create("no such class", "", WS_CHILD, CRect(0, 0, 9, 9), &host_, 2));
-    CStatic place;
-    ASSERT_TRUE(place.Create("", WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 60), &host_, 3));
-    ASSERT_TRUE(refused.SubclassWindow(place.UnsubclassWindow()));
+    ASSERT_TRUE(refused.SubclassWindow(plain_window(100, 60)));
     EXPECT_NE(refused.GetDlgItem(100), nullptr);
 }
 
 TEST_F(TemplateTest, AWidgetGoesFromWindowToWindow) {
-    CStatic first, second;
-    ASSERT_TRUE(first.Create("", WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 60), &host_, 3));
-    ASSERT_TRUE(second.Create("Second", WS_CHILD | WS_VISIBLE, CRect(100, 0, 260, 60), &host_, 4));
-    const HWND places[] = {first.UnsubclassWindow(), second.UnsubclassWindow()};
+    const HWND places[] = {plain_window(100, 60), plain_window(160, 60)};
     CWntButton button;
     for (const HWND place : {places[0], places[0], places[1], places[0]}) {
         ASSERT_TRUE(button.SubclassWindow(place));
@@ -120,8 +119,7 @@ TEST_F(TemplateTest, AWidgetGoesFromWindowToWindow) {
         button.GetClientRect(&client);
         button.GetDlgItem(101)->GetClientRect(&surface);
         EXPECT_EQ(client, surface);
-        full_repaint(button);
-        EXPECT_GT(pixels_of(button).count(RGB(0, 0, 128)), 1000); // its ground
+        EXPECT_GT(repainted(button).count(RGB(0, 0, 128)), 1000); // its ground
         button.UnsubclassWindow();
     }
 }
@@ -136,9 +134,7 @@ TEST_F(TemplateTest, ADerivedClassMayKeepItsCreationToItself) {
     ASSERT_TRUE(selector.Create(nullptr, "Own", WS_CHILD | WS_VISIBLE, CRect(0, 0, 160, 90), &host_, 1));
     EXPECT_NE(selector.GetDlgItem(101), nullptr);
     CWntGauge gauge; // of no size at first
-    CStatic place;
-    ASSERT_TRUE(place.Create("", WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), &host_, 3));
-    ASSERT_TRUE(gauge.SubclassWindow(place.UnsubclassWindow()));
+    ASSERT_TRUE(gauge.SubclassWindow(plain_window(0, 0)));
     gauge.MoveWindow(0, 0, 90, 60);
     EXPECT_NE(gauge.GetDlgItem(100), nullptr);
 }

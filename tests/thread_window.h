@@ -1,4 +1,4 @@
-// Windows of the test's thread.
+// Windows and messages of the test's thread.
 #pragma once
 
 #include <windows.h>
@@ -22,4 +22,15 @@ inline HWND thread_window(const char* class_name, bool visible = false) {
         },
         reinterpret_cast<LPARAM>(&search));
     return search.found;
+}
+
+/// Dispatches messages until the condition holds, for so many milliseconds at most; answers whether it holds.
+template <class Condition> bool pumped_until(Condition condition, DWORD limit = 3000) {
+    MSG message;
+    for (const DWORD start = ::GetTickCount(); !condition() && ::GetTickCount() - start < limit;) {
+        ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 20, QS_ALLINPUT);
+        while (::PeekMessage(&message, nullptr, 0, 0, PM_REMOVE))
+            ::DispatchMessage(&message);
+    }
+    return condition();
 }

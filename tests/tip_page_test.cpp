@@ -1,9 +1,5 @@
-#include <zopwnt.h>
-
-#include <gmock/gmock.h>
-
+#include "control_host.h"
 #include "temporary_file.h"
-#include "widget_window.h"
 
 namespace {
 
@@ -11,17 +7,6 @@ constexpr UINT text_id = 1, start_id = 2, previous_id = 3, next_id = 4;
 
 class TipPage : public WidgetTest {
 protected:
-    void SetUp() override {
-        WidgetTest::SetUp();
-        char folder[MAX_PATH];
-        ::GetTempPathA(sizeof folder, folder);
-        profile_ = CString(folder) + "tip_page_test.ini";
-        ::DeleteFileA(profile_);
-    }
-    void TearDown() override {
-        WidgetTest::TearDown();
-        ::DeleteFileA(profile_);
-    }
     void load(const std::string& text) {
         if (!page_->m_hWnd)
             open(*page_, 400, 240);
@@ -35,18 +20,13 @@ protected:
         ::GetWindowTextW(::GetDlgItem(page_->m_hWnd, text_id), text, 200);
         return text;
     }
-    CRect place(UINT id) {
-        CRect r;
-        page_->GetDlgItem(static_cast<int>(id))->GetWindowRect(&r);
-        page_->ScreenToClient(&r);
-        return r;
-    }
+    CRect place(UINT id) { return place_in(*page_, *page_->GetDlgItem(static_cast<int>(id))); }
     bool translated(CWnd& window, WPARAM character) {
         MSG m = {window.m_hWnd, WM_SYSCHAR, character, 0, 0, {}};
         return CWnd::WalkPreTranslateTree(host_.m_hWnd, &m);
     }
 
-    CString profile_;
+    TemporaryProfile profile_;
     std::unique_ptr<CWntTipPage> page_ = std::make_unique<CWntTipPage>();
 };
 
@@ -163,15 +143,12 @@ TEST_F(TipPage, IsAPageOfTabsWithItsOwnKeys) {
     host_.SetFocus();
     page_->SetFocus();
     EXPECT_EQ(::GetFocus(), page_->GetDlgItem(next_id)->m_hWnd);
-    MSG m = {::GetFocus(), WM_SYSCHAR, 'n', 0, 0, {}};
-    EXPECT_TRUE(CWnd::WalkPreTranslateTree(host_.m_hWnd, &m) && page_->GetTip() == 1 && tabs.GetSelected() == 0);
+    EXPECT_TRUE(translated(*CWnd::GetFocus(), 'n') && page_->GetTip() == 1 && tabs.GetSelected() == 0);
     EXPECT_EQ(host_.notified.back().code, WNT_TIP_TURNED) << "reaches the parent of the tabs";
-    m.wParam = 'o';
-    EXPECT_TRUE(CWnd::WalkPreTranslateTree(host_.m_hWnd, &m) && tabs.GetSelected() == 1);
+    EXPECT_TRUE(translated(*CWnd::GetFocus(), 'o') && tabs.GetSelected() == 1);
     EXPECT_FALSE(page_->IsWindowVisible());
     other.SetFocus();
-    m = {other.m_hWnd, WM_SYSCHAR, 'n', 0, 0, {}};
-    EXPECT_TRUE(CWnd::WalkPreTranslateTree(host_.m_hWnd, &m) && tabs.GetSelected() == 0);
+    EXPECT_TRUE(translated(other, 'n') && tabs.GetSelected() == 0);
     EXPECT_EQ(::GetFocus(), ::GetDlgItem(page_->m_hWnd, text_id)) << "from page to page";
     EXPECT_EQ(::GetNextDlgTabItem(host_.m_hWnd, tabs.GetWindow(GW_CHILD)->m_hWnd, FALSE),
               ::GetDlgItem(page_->m_hWnd, text_id));

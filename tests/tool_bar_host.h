@@ -1,15 +1,11 @@
 // A toolbar in a host that keeps what it is told.
 #pragma once
 
-#include <zopwnt.h>
-
 #include <afxpriv.h>
 
-#include <gmock/gmock.h>
+#include "control_host.h"
 
-#include "widget_window.h"
-
-inline constexpr COLORREF red = RGB(255, 0, 0), green = RGB(0, 255, 0), key_colour = RGB(255, 0, 255);
+inline constexpr COLORREF red = RGB(255, 0, 0), green = RGB(0, 255, 0), key_colour = RGB(255, 0, 200);
 
 // Owner of bars: keeps commands and notifications, and tells states.
 class ToolHost : public CWnd {
@@ -51,44 +47,30 @@ protected:
     }
 };
 
-// A strip of plain squares.
-inline HBITMAP strip(int size, std::initializer_list<COLORREF> colours) {
-    Picture picture(size * static_cast<int>(colours.size()), size);
-    int x = 0;
-    const HDC screen = ::GetDC(nullptr);
-    const HDC dc = ::CreateCompatibleDC(screen);
-    const HBITMAP bitmap = ::CreateCompatibleBitmap(screen, picture.width(), size);
-    const HGDIOBJ before = ::SelectObject(dc, bitmap);
-    for (const COLORREF colour : colours) {
-        const RECT square = {x, 0, x += size, size};
-        const HBRUSH brush = ::CreateSolidBrush(colour);
-        ::FillRect(dc, &square, brush);
-        ::DeleteObject(brush);
-    }
-    ::SelectObject(dc, before);
-    ::DeleteDC(dc);
-    ::ReleaseDC(nullptr, screen);
-    return bitmap;
-}
-
-class ToolBar : public testing::Test {
+class ToolBar : public ControlTest<ToolHost> {
 protected:
     void SetUp() override {
-        ASSERT_TRUE(host_.CreateEx(WS_EX_TOPMOST, nullptr, "host", WS_POPUP, CRect(50, 50, 650, 450), nullptr, 0));
-        host_.ShowWindow(SW_SHOW);
+        ControlTest::SetUp();
         ASSERT_TRUE(edit_.Create(WS_CHILD | WS_VISIBLE, CRect(0, 300, 50, 320), &host_, 50));
         open();
     }
     void TearDown() override {
         delete bar_;
-        host_.DestroyWindow();
+        ControlTest::TearDown();
     }
     void open() {
         bar_ = new Trapping<CWntToolBar>;
         ASSERT_TRUE(bar_->Create(nullptr, "", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 400, 26), &host_, 9));
-        const HBITMAP pictures = strip(16, {red, green, key_colour});
-        EXPECT_EQ(bar_->SetPictures(pictures, nullptr, key_colour), 1);
-        ::DeleteObject(pictures);
+        CClientDC screen(nullptr);
+        CDC dc;
+        CBitmap squares;
+        ASSERT_TRUE(dc.CreateCompatibleDC(&screen) && squares.CreateCompatibleBitmap(&screen, 48, 16));
+        CBitmap* before = dc.SelectObject(&squares);
+        int x = 0;
+        for (const COLORREF colour : {red, green, key_colour})
+            dc.FillSolidRect(std::exchange(x, x + 16), 0, 16, 16, colour);
+        dc.SelectObject(before);
+        EXPECT_EQ(bar_->SetPictures(squares, nullptr, key_colour), 1);
     }
     void script(std::initializer_list<const char*> lines) {
         bar_->LoadLine("", 1);
@@ -109,14 +91,30 @@ protected:
             mouse(WM_LBUTTONUP, at);
     }
     void key(UINT k, UINT message = WM_KEYDOWN) { bar_->SendMessage(message, k, 1); }
+    bool filter_f6(CWnd& window) {
+        MSG f6 = {window.m_hWnd, WM_KEYDOWN, VK_F6, 1, 0, {}};
+        return bar_->FilterKey(&f6) != 0;
+    }
+    void embed(CEdit& edit) {
+        ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 60, 18), &host_, 130));
+        CWntToolItem item(130, "", WNT_TOOL_WINDOW);
+        item.window = &edit;
+        ASSERT_EQ(bar_->AddItem(item), 1);
+    }
+    void when_an_edit_loses_the_focus(const std::function<void()>& work) {
+        host_.on_message = [work](UINT message, WPARAM w) {
+            if (message == WM_COMMAND && HIWORD(w) == EN_KILLFOCUS)
+                work();
+        };
+    }
     int checked(UINT id) {
         CWntToolItem item;
         EXPECT_TRUE(bar_->GetItem(bar_->FindItem(id), &item)) << id;
         return item.check + (item.enabled ? 0 : 10);
     }
-    UINT focused() { return focused_in(pixels_of(*bar_)); }
     // The one whose dotted frame is seen.
-    UINT focused_in(const Pixels& now) {
+    UINT focused() {
+        const Pixels now = pixels_of(*bar_);
         for (const UINT id : {100u, 101u, 102u, 103u, 104u, 105u}) {
             const CRect r = place(id);
             if (r.IsRectEmpty())
@@ -158,7 +156,6 @@ protected:
         }
     }
 
-    ToolHost host_;
     CEdit edit_;
     CWntToolBar* bar_ = nullptr;
 };

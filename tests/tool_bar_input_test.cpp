@@ -7,8 +7,7 @@ using testing::ElementsAre;
 TEST_F(ToolBar, TheKeyboardWorksIt) {
     script({":ITEM=100,0,one", ":DISABLED=100", ":SEPARATOR", ":CHECK=101,0,two", ":ITEM=102,0,three"});
     edit_.SetFocus();
-    MSG f6 = {edit_.m_hWnd, WM_KEYDOWN, VK_F6, 1, 0, {}};
-    EXPECT_EQ(bar_->FilterKey(&f6), 1);
+    EXPECT_TRUE(filter_f6(edit_));
     EXPECT_EQ(::GetFocus(), bar_->m_hWnd);
     full_repaint(*bar_);
     EXPECT_EQ(focused(), 101u); // the first that can be used
@@ -50,7 +49,7 @@ TEST_F(ToolBar, TheKeyboardWorksIt) {
     EXPECT_EQ(focused(), 0u);
     EXPECT_EQ(bar_->GetTips()->GetShownTip(nullptr), 0);
     bar_->SetFocus();
-    f6.hwnd = bar_->m_hWnd;
+    MSG f6 = {bar_->m_hWnd, WM_KEYDOWN, VK_F6, 1, 0, {}};
     EXPECT_EQ(bar_->PreTranslateMessage(&f6), TRUE);
     EXPECT_EQ(::GetFocus(), edit_.m_hWnd);
     MSG enter = {bar_->m_hWnd, WM_KEYDOWN, VK_RETURN, 1, 0, {}}, tab = {bar_->m_hWnd, WM_KEYDOWN, VK_TAB, 1, 0, {}};
@@ -203,8 +202,7 @@ TEST_F(ToolBar, ItemsAreDraggedWhereThatIsAllowed) {
     EXPECT_THAT(order(), ElementsAre(100u, 101u, 102u)); // off unless set
     bar_->SetDragging(1);
     edit_.SetFocus();
-    full_repaint(*bar_);
-    const Pixels before = pixels_of(*bar_);
+    const Pixels before = repainted(*bar_);
     drag(100, CPoint(390, 10));
     bar_->UpdateWindow();
     EXPECT_NE(pixels_of(*bar_), before); // a mark shows where it would go
@@ -237,32 +235,22 @@ TEST_F(ToolBar, ItemsAreDraggedWhereThatIsAllowed) {
     EXPECT_THAT(order(), ElementsAre(100u, 101u));
     script({":ITEM=101,0", ":ITEM=102,0", ":ITEM=100,0"});
 
-    char folder[MAX_PATH];
-    ::GetTempPathA(sizeof folder, folder);
-    const CString file = CString(folder) + "tool_bar_test.ini";
-    ::DeleteFileA(file);
+    const TemporaryProfile file;
     EXPECT_EQ(bar_->RestoreOrder(file, "main") + bar_->StoreOrder(nullptr, "main") + bar_->StoreOrder(file, ""), 0);
     EXPECT_EQ(bar_->StoreOrder(file, "main"), 1);
     script({":ITEM=100,0", ":ITEM=101,0", ":ITEM=102,0"});
     EXPECT_EQ(bar_->RestoreOrder(file, "main"), 1);
     EXPECT_THAT(order(), ElementsAre(101u, 102u, 100u));
     EXPECT_LT(place(101).left, place(102).left);
-    ::DeleteFileA(file);
 }
 
 TEST_F(ToolBar, MayBeDestroyedByAnythingItTells) {
     const auto end_bar = [&] { delete std::exchange(bar_, nullptr); };
     const auto embed_and = [&](const std::function<void()>& remove) {
         CEdit edit;
-        ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 60, 18), &host_, 130));
-        CWntToolItem item(130, "", WNT_TOOL_WINDOW);
-        item.window = &edit;
-        ASSERT_EQ(bar_->AddItem(item), 1);
+        embed(edit);
         edit.SetFocus();
-        host_.on_message = [&](UINT message, WPARAM w) {
-            if (message == WM_COMMAND && HIWORD(w) == EN_KILLFOCUS)
-                end_bar();
-        };
+        when_an_edit_loses_the_focus(end_bar);
         remove();
     };
     const std::function<void()> ways[] = {
@@ -313,12 +301,8 @@ TEST_F(ToolBar, MayBeDestroyedByAnythingItTells) {
         [&] { embed_and([&] { script({}); }); },
         [&] { // by the end of an input that the bar's focus ends
             edit_.SetFocus();
-            host_.on_message = [&](UINT message, WPARAM w) {
-                if (message == WM_COMMAND && HIWORD(w) == EN_KILLFOCUS)
-                    end_bar();
-            };
-            MSG f6 = {edit_.m_hWnd, WM_KEYDOWN, VK_F6, 1, 0, {}};
-            bar_->FilterKey(&f6);
+            when_an_edit_loses_the_focus(end_bar);
+            filter_f6(edit_);
         },
         [&] {
             bar_->SetDragging(1);
@@ -345,11 +329,8 @@ TEST_F(ToolBar, MayBeDestroyedByAnythingItTells) {
 
 TEST_F(ToolBar, ItemsMayGoWhenItTakesTheFocus) {
     CEdit edit;
-    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 60, 18), &host_, 130));
-    CWntToolItem item(130, "", WNT_TOOL_WINDOW);
-    item.window = &edit;
     script({":ITEM=100,0", ":ITEM=101,0"});
-    ASSERT_EQ(bar_->AddItem(item), 1);
+    embed(edit);
     bar_->SetFocus();
     key(VK_END);
     EXPECT_EQ(::GetFocus(), edit.m_hWnd);
@@ -360,12 +341,8 @@ TEST_F(ToolBar, ItemsMayGoWhenItTakesTheFocus) {
     EXPECT_EQ(focused(), 101u);
 
     edit_.SetFocus();
-    host_.on_message = [&](UINT message, WPARAM w) {
-        if (message == WM_COMMAND && HIWORD(w) == EN_KILLFOCUS)
-            bar_->RemoveAll();
-    };
-    MSG f6 = {edit_.m_hWnd, WM_KEYDOWN, VK_F6, 1, 0, {}};
-    EXPECT_EQ(bar_->FilterKey(&f6), 1);
+    when_an_edit_loses_the_focus([&] { bar_->RemoveAll(); });
+    EXPECT_TRUE(filter_f6(edit_));
     EXPECT_EQ(bar_->GetItemCount(), 0);
 }
 

@@ -1,3 +1,4 @@
+#include "bitmap_files.h"
 #include "tool_bar_host.h"
 #include "temporary_file.h"
 
@@ -73,8 +74,7 @@ TEST_F(ToolBar, StatesComeFromUpdateHandlers) {
 
 TEST_F(ToolBar, ShowsStatesOfItsItems) {
     script({":ITEM=100,0", ":ITEM=101,1", ":ITEM=102,2,key", ":CHECK=103,0", ":LABEL=Text"});
-    full_repaint(*bar_);
-    const Pixels plain = pixels_of(*bar_);
+    const Pixels plain = repainted(*bar_);
     EXPECT_EQ(plain.count(red), 2 * 16 * 16);
     EXPECT_TRUE(plain.count(green) == 16 * 16 && plain.count(key_colour) == 0);
     const CRect first = place(100);
@@ -102,8 +102,7 @@ TEST_F(ToolBar, ShowsStatesOfItsItems) {
     EXPECT_TRUE(GetRValue(grey) == GetGValue(grey) && GetGValue(grey) == GetBValue(grey));
     EXPECT_NE(after([&] { bar_->SetTextPlace(WNT_TOOL_TEXT_BESIDE); }), disabled);
     bar_->EnableWindow(FALSE);
-    full_repaint(*bar_);
-    EXPECT_EQ(pixels_of(*bar_).count(red), 0);
+    EXPECT_EQ(repainted(*bar_).count(red), 0);
 }
 
 TEST_F(ToolBar, SeparatorsAreEngravedEitherWay) {
@@ -132,17 +131,12 @@ TEST_F(ToolBar, TakesPicturesFromIconsAndFiles) {
     EXPECT_EQ(icon.at(r.left + 3, r.top + 3), ::GetSysColor(COLOR_BTNFACE)); // beside the triangle
     EXPECT_NE(icon.at(r.CenterPoint().x, r.CenterPoint().y + 3), ::GetSysColor(COLOR_BTNFACE));
 
-    std::vector<std::uint8_t> bytes(54 + 16 * 16 * 4);
-    const BITMAPFILEHEADER file_header = {0x4D42, static_cast<DWORD>(bytes.size()), 0, 0, 54};
-    const BITMAPINFOHEADER header = {sizeof header, 16, 16, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-    std::memcpy(bytes.data(), &file_header, sizeof file_header);
-    std::memcpy(bytes.data() + sizeof file_header, &header, sizeof header);
-    for (std::size_t i = 54; i < bytes.size() - 64; i += 4) // green, but for the upper row
-        bytes[i + 1] = 0xFF;
-    const TemporaryFile file(bytes);
+    const BitmapFile picture = {24, 16, 16};
+    const TemporaryFile file(picture.bytes());
     script({CString(":PICTURES=") + file.name(), ":ITEM=100,0"});
-    full_repaint(*bar_);
-    EXPECT_EQ(pixels_of(*bar_).count(green), 15 * 16);
+    const Pixels shown = repainted(*bar_);
+    for (int i = 1; i < 16 * 16; ++i) // the first one's colour is not painted
+        EXPECT_EQ(shown.at(r.left + 3 + i % 16, r.top + 3 + i / 16), picture.colour_at(i % 16, 15 - i / 16)) << i;
     EXPECT_EQ(bar_->SetPictures(nullptr, static_cast<HBITMAP>(::GetStockObject(BLACK_PEN))), 0); // no bitmap
 }
 

@@ -1,8 +1,4 @@
-#include <zopwnt.h>
-
-#include <gmock/gmock.h>
-
-#include "widget_window.h"
+#include "control_host.h"
 
 namespace {
 
@@ -29,11 +25,10 @@ protected:
     }
 };
 
-class ToolTip : public testing::Test {
+class ToolTip : public ControlTest<TipHost> {
 protected:
     void SetUp() override {
-        ASSERT_TRUE(host_.CreateEx(WS_EX_TOPMOST, nullptr, "host", WS_POPUP, CRect(100, 100, 400, 300), nullptr, 0));
-        host_.ShowWindow(SW_SHOW);
+        ControlTest::SetUp();
         host_.SetActiveWindow();
         ASSERT_TRUE(button_.Create("b", WS_CHILD | WS_VISIBLE, CRect(10, 10, 60, 40), &host_, 5));
         tips_ = std::make_unique<CToolTipCtrlEx>();
@@ -43,7 +38,7 @@ protected:
     }
     void TearDown() override {
         tips_.reset();
-        host_.DestroyWindow();
+        ControlTest::TearDown();
     }
     void relay(UINT message, CPoint at) {
         CPoint screen = at;
@@ -59,15 +54,6 @@ protected:
         ::SetCursorPos(screen.x, screen.y);
         relay(WM_MOUSEMOVE, at);
     }
-    template <class Condition> bool pumped_until(Condition condition, DWORD limit = 3000) {
-        MSG message;
-        for (const DWORD start = ::GetTickCount(); !condition() && ::GetTickCount() - start < limit;) {
-            ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 20, QS_ALLINPUT);
-            while (::PeekMessage(&message, nullptr, 0, 0, PM_REMOVE))
-                ::DispatchMessage(&message);
-        }
-        return condition();
-    }
     // What shows after the pointer came to a point; empty where nothing does.
     std::string shown_at(CPoint at, DWORD limit = 3000) {
         point_at(at);
@@ -80,13 +66,8 @@ protected:
             tips_->GetWindowText(text);
         return text.GetString();
     }
-    CRect place() {
-        CRect r;
-        tips_->GetWindowRect(&r);
-        return r;
-    }
+    CRect place() { return on_screen(*tips_); }
 
-    TipHost host_;
     CButton button_;
     std::unique_ptr<CToolTipCtrlEx> tips_;
 };
@@ -125,6 +106,7 @@ TEST_F(ToolTip, AsksWhenItShows) {
     };
     EXPECT_EQ(tips_->ShowTip(&host_, 7), 1);
     EXPECT_EQ(shown(), "Level\nfrom the framework, 12 cm");
+    EXPECT_EQ(place().TopLeft(), on_screen(host_).TopLeft() + CSize(100, 150)) << "below its tool";
     tips_->HideTip();
     EXPECT_EQ(tips_->SetTip(&host_, {"", "told"}, 7), 1); // asked no longer
     EXPECT_EQ(tips_->ShowTip(&host_, 7), 1);
@@ -163,8 +145,7 @@ TEST_F(ToolTip, MayBeDestroyedWhenItAsks) {
 TEST_F(ToolTip, TheKeyboardShowsItUntilTheNextKey) {
     tips_->AddTip(&button_, {"", "Save"});
     EXPECT_EQ(tips_->ShowTip(&button_), 1);
-    CRect tool;
-    button_.GetWindowRect(&tool);
+    const CRect tool = on_screen(button_);
     EXPECT_TRUE(shown() == "Save" && place().left == tool.left && place().top == tool.bottom);
     relay(WM_KEYUP, {0, 0});
     EXPECT_EQ(shown(), "Save");
@@ -201,6 +182,8 @@ TEST_F(ToolTip, PaintsItsParts) {
     const long sample = all.count(odd_colour);
     EXPECT_GT(sample, 80);
     EXPECT_GT(all.height, 32);
+    tips_->SetTip(&button_, {"Title", "text", icon, RGB(34, 12, 200)});
+    EXPECT_EQ(pixels_of(*tips_).count(odd_colour), 0);
     const auto ink_of = [&](const char* title, const char* text) {
         tips_->SetTip(&button_, {title, text});
         tips_->ShowTip(&button_);
@@ -281,8 +264,7 @@ TEST_F(ToolTip, KeepsToTheFrameworksWays) {
     tool.lpszText = const_cast<char*>("centred");
     EXPECT_TRUE(tips_->SendMessage(TTM_ADDTOOL, 0, reinterpret_cast<LPARAM>(&tool)));
     EXPECT_EQ(shown_at({12, 12}), "centred");
-    CRect button;
-    button_.GetWindowRect(&button);
+    const CRect button = on_screen(button_);
     EXPECT_TRUE(place().top == button.bottom && std::abs(place().CenterPoint().x - button.CenterPoint().x) <= 1);
     CToolTipCtrlEx* volatile none = nullptr;
     CToolTipCtrlEx bare;

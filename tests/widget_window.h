@@ -6,6 +6,7 @@
 
 #include "pixels.h"
 #include "quiet_program.h"
+#include "trapping.h"
 
 inline constexpr COLORREF poison = RGB(255, 0, 254); // no widget paints it
 
@@ -32,6 +33,11 @@ inline void full_repaint(CWnd& widget) {
     widget.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
+inline Pixels repainted(CWnd& widget) {
+    full_repaint(widget);
+    return pixels_of(widget);
+}
+
 /// Covers a widget's surface: what is painted next shows as pixels that lost this colour.
 inline void cover(CWnd& widget, int surface_id, COLORREF colour) {
     CWnd* surface = widget.GetDlgItem(surface_id);
@@ -40,15 +46,6 @@ inline void cover(CWnd& widget, int surface_id, COLORREF colour) {
     surface->GetClientRect(&area);
     dc.FillSolidRect(&area, colour);
 }
-
-/// A widget whose memory is out of reach once it is deleted: any use after that traps.
-template <class Widget> class Trapping : public Widget {
-public:
-    static void* operator new(std::size_t size) {
-        return ::VirtualAlloc(nullptr, size, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE);
-    }
-    static void operator delete(void* memory) { ::VirtualFree(memory, 0, MEM_RELEASE); }
-};
 
 /// A host that keeps the messages and notifications that it gets.
 class AttentiveHost : public CWnd {

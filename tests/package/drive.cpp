@@ -1,12 +1,10 @@
 // Uses the example programs as somebody would who has no source of theirs: drive sketch|channel|guide|plant PROGRAM
 // FOLDER
+#include "../end_to_end/dropping.h"
 #include "program.h"
-#include "scenes.h"
 
 #include "../../examples/measuring_channel/resource.h"
 #include "../../examples/sketch/resource.h"
-
-#include <shlobj.h>
 
 #include <cstdio>
 #include <fstream>
@@ -31,9 +29,7 @@ Picture copied(HWND frame) {
     if (bitmap && ::GetObjectA(bitmap, sizeof size, &size)) {
         HDC memory = ::CreateCompatibleDC(nullptr);
         HGDIOBJ before = ::SelectObject(memory, bitmap);
-        for (int y = 0; y < size.bmHeight; y += 2)
-            for (int x = 0; x < size.bmWidth; x += 2)
-                ++picture[::GetPixel(memory, x, y)];
+        picture = colours_of(memory, size.bmWidth, size.bmHeight);
         ::SelectObject(memory, before);
         ::DeleteDC(memory);
     }
@@ -46,14 +42,6 @@ void drag(HWND view, int x1, int y1, int x2, int y2) {
     ::SendMessageA(view, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x1, y1));
     ::SendMessageA(view, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(x2, y2));
     ::SendMessageA(view, WM_LBUTTONUP, 0, MAKELPARAM(x2, y2));
-}
-
-// A message with one button, beside the dialog that it is about.
-void dismiss(const Program& program, HWND dialog) {
-    HWND box = program.window("a message", [dialog](HWND window) {
-        return window != dialog && (::GetDlgItem(window, IDOK) || ::GetDlgItem(window, IDCANCEL));
-    });
-    press(box, ::GetDlgItem(box, IDOK) ? IDOK : IDCANCEL);
 }
 
 std::string bytes_of(const std::string& path) {
@@ -105,21 +93,6 @@ void open_and_change(const std::string& program, const std::string& file, const 
     expect(bytes_of(file) == before, "nothing was saved");
 }
 
-// Drops a file on a window of another process, as a file manager does.
-void drop(HWND window, const std::string& file) {
-    DROPFILES header = {};
-    header.pFiles = sizeof header;
-    std::string list(reinterpret_cast<const char*>(&header), sizeof header);
-    list.append(file).append(2, '\0');
-    DWORD id = 0;
-    ::GetWindowThreadProcessId(window, &id);
-    const HANDLE process = ::OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_WRITE, FALSE, id);
-    void* there = ::VirtualAllocEx(process, nullptr, list.size(), MEM_COMMIT, PAGE_READWRITE);
-    expect(there && ::WriteProcessMemory(process, there, list.data(), list.size(), nullptr), "a file can be dropped");
-    ::PostMessageA(window, WM_DROPFILES, reinterpret_cast<WPARAM>(there), 0);
-    ::CloseHandle(process);
-}
-
 void open_otherwise(const std::string& program, const std::string& file, const Picture& saved) {
     {
         Program sketch(program);
@@ -130,13 +103,8 @@ void open_otherwise(const std::string& program, const std::string& file, const P
     }
     Program sketch(program);
     HWND frame = sketch.frame();
-    drop(frame, file);
-    eventually("the dropped file is opened", [&] {
-        char title[200] = "";
-        ::GetWindowTextA(frame, title, sizeof title);
-        return std::string(title).find("drawing") != std::string::npos;
-    });
-    expect(copied(frame) == saved, "it is the one that was dropped");
+    expect(drop(frame, file), "a file can be dropped");
+    eventually("the dropped file is opened", [&] { return copied(frame) == saved; });
     sketch.expect_end(frame);
 }
 
@@ -144,7 +112,7 @@ void open_damaged(const std::string& program, const std::string& file) {
     const std::string whole = bytes_of(file);
     std::ofstream(file, std::ios::binary) << whole.substr(0, whole.size() - 5);
     Program sketch(program + " \"" + file + "\"");
-    dismiss(sketch, nullptr);
+    dismiss(sketch);
     sketch.expect_end();
 }
 

@@ -4,7 +4,7 @@
 #include <windows.h>
 
 #include <functional>
-#include <set>
+#include <map>
 #include <stdexcept>
 #include <string>
 
@@ -102,6 +102,14 @@ inline void press(HWND dialog, int button) {
                    reinterpret_cast<LPARAM>(::GetDlgItem(dialog, button)));
 }
 
+// A message with one button, beside the windows that it is about.
+inline void dismiss(const Program& program, HWND dialog = nullptr) {
+    HWND box = program.window("a message", [dialog](HWND window) {
+        return window != dialog && !::GetMenu(window) && (::GetDlgItem(window, IDOK) || ::GetDlgItem(window, IDCANCEL));
+    });
+    press(box, ::GetDlgItem(box, IDOK) ? IDOK : IDCANCEL);
+}
+
 inline void enter(HWND dialog, int field, const char* text) {
     ::SendDlgItemMessageA(dialog, field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text));
 }
@@ -126,8 +134,17 @@ inline HWND descendant(HWND window, int id) {
     return nullptr;
 }
 
-// The colours that a window shows on the screen.
-inline std::set<COLORREF> colours_on_screen(HWND window) {
+// How many pixels there are of each colour.
+inline std::map<COLORREF, int> colours_of(HDC dc, int width, int height) {
+    std::map<COLORREF, int> seen;
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x)
+            ++seen[::GetPixel(dc, x, y)];
+    return seen;
+}
+
+// What a window shows on the screen.
+inline std::map<COLORREF, int> colours_on_screen(HWND window) {
     RECT place = {};
     ::GetWindowRect(window, &place);
     const int width = place.right - place.left, height = place.bottom - place.top;
@@ -135,13 +152,13 @@ inline std::set<COLORREF> colours_on_screen(HWND window) {
     HBITMAP bitmap = ::CreateCompatibleBitmap(screen, width, height);
     HGDIOBJ before = ::SelectObject(memory, bitmap);
     ::BitBlt(memory, 0, 0, width, height, screen, place.left, place.top, SRCCOPY);
-    std::set<COLORREF> seen;
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x)
-            seen.insert(::GetPixel(memory, x, y));
+    const std::map<COLORREF, int> counted = colours_of(memory, width, height);
     ::SelectObject(memory, before);
     ::DeleteObject(bitmap);
     ::DeleteDC(memory);
     ::ReleaseDC(nullptr, screen);
-    return seen;
+    return counted;
 }
+
+// In a file of its own: throws where it finds something else than it expects.
+void drive_front_end(const std::string& program, const std::string& folder);

@@ -1,5 +1,5 @@
-# Installs the package into an empty folder, builds an outside host against it and runs the host from there; then the
-# hosts that the hosting guide prints and the example programs, which are used from outside.
+# Installs the package into an empty folder, and builds against it the hosts that the hosting guide prints and the
+# example programs, which are used from outside.
 #   cmake -DBUILD=... -DSOURCE=... -DGUIDE=... -DWORK=... -DTOOLCHAIN=... -DEMULATOR=... -P run.cmake
 function(step)
   execute_process(COMMAND ${ARGN} RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE output)
@@ -90,9 +90,8 @@ file(REMOVE_RECURSE ${WORK})
 step(${CMAKE_COMMAND} --install ${BUILD} --prefix ${WORK}/first)
 file(RENAME ${WORK}/first ${WORK}/package) # a package that may be moved
 set(EXAMPLES ${WORK}/package/share/zopwnt/examples) # the package's: with nothing of the checkout around them
-build_host(${SOURCE} ${WORK}/host)
-file(COPY ${WORK}/host/host.exe ${WORK}/host/drive.exe DESTINATION ${WORK}/package/bin)
-step(${EMULATOR} ${WORK}/package/bin/host.exe)
+build_host(${SOURCE} ${WORK}/drive)
+file(COPY ${WORK}/drive/drive.exe DESTINATION ${WORK}/package/bin)
 
 take_block(cmake 0 ${WORK}/guide/CMakeLists.txt)
 take_block(cpp 0 ${WORK}/guide/host.cpp)

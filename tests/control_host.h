@@ -1,0 +1,117 @@
+// Hosts of controls that tell their parent something, and what tests of such controls share.
+#pragma once
+
+#include <zopwnt.h>
+
+#include <gmock/gmock.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <tuple>
+#include <utility>
+#include <vector>
+
+#include "held_keys.h"
+#include "thread_window.h"
+#include "widget_window.h"
+
+/// Keeps commands and notifications, code first, and answers as it is told to.
+template <class Notify, auto... kept> class AnsweringHost : public AttentiveHost {
+public:
+    using Told = decltype(std::tuple(UINT(), std::declval<Notify>().*kept...));
+
+    std::vector<Told> told;
+    std::vector<UINT> commands;
+    std::function<LRESULT(Notify&)> answer = [](Notify&) { return 0; };
+
+protected:
+    BOOL OnNotify(WPARAM, LPARAM lParam, LRESULT* result) override {
+        auto& n = *reinterpret_cast<Notify*>(lParam);
+        told.emplace_back(n.hdr.code, n.*kept...);
+        *result = answer(n);
+        return TRUE;
+    }
+    BOOL OnCommand(WPARAM wParam, LPARAM) override {
+        commands.push_back(LOWORD(wParam));
+        return TRUE;
+    }
+};
+
+template <class Host> class ControlTest : public testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(host_.CreateEx(WS_EX_TOPMOST, nullptr, "host", WS_POPUP, CRect(50, 50, 650, 450), nullptr, 0));
+        host_.ShowWindow(SW_SHOW);
+    }
+    void TearDown() override { host_.DestroyWindow(); }
+    /// As the message loop would give it to a window within.
+    bool translated(CWnd& window, UINT message, WPARAM wParam) {
+        MSG m = {window.m_hWnd, message, wParam, 0, 0, {}};
+        return CWnd::WalkPreTranslateTree(host_.m_hWnd, &m);
+    }
+
+    Host host_;
+};
+
+inline CRect on_screen(CWnd& window) {
+    CRect r;
+    window.GetWindowRect(&r);
+    return r;
+}
+
+inline CRect place_in(CWnd& parent, CWnd& window) {
+    CRect r = on_screen(window);
+    parent.ScreenToClient(&r);
+    return r;
+}
+
+/// Where pixels of a colour lie; empty where there are none.
+inline CRect extent(const Pixels& seen, COLORREF colour, const CRect& part) {
+    CRect box;
+    for (int y = part.top; y < part.bottom; ++y)
+        for (int x = part.left; x < part.right; ++x)
+            if (seen.at(x, y) == colour)
+                box |= CRect(x, y, x + 1, y + 1);
+    return box;
+}
+
+/// Settings in a file of its own, which goes with the object.
+class TemporaryProfile {
+public:
+    TemporaryProfile() { std::remove(name_.c_str()); }
+    ~TemporaryProfile() { std::remove(name_.c_str()); }
+    TemporaryProfile(const TemporaryProfile&) = delete;
+    TemporaryProfile& operator=(const TemporaryProfile&) = delete;
+    operator const char*() const { return name_.c_str(); }
+
+private:
+    const std::string name_ = (std::filesystem::temp_directory_path() / "control_test.ini").string();
+};
+
+/// The front end's library of scaling, as long as the object lives.
+class MainFrameScale {
+public:
+    MainFrameScale() : library_(::LoadLibraryA(path())) {
+        EXPECT_TRUE(library_);
+        percentage_ = reinterpret_cast<int*>(reinterpret_cast<void*>(::GetProcAddress(library_, "percentage")));
+    }
+    ~MainFrameScale() { ::FreeLibrary(library_); }
+    MainFrameScale(const MainFrameScale&) = delete;
+    MainFrameScale& operator=(const MainFrameScale&) = delete;
+    void tell(CWnd& control, int percentage) {
+        *percentage_ = percentage;
+        control.SendMessage(WM_SETTINGCHANGE);
+    }
+
+private:
+    static CString path() { // a folder of its own: beside the programs all would find it
+        char program[MAX_PATH];
+        ::GetModuleFileNameA(nullptr, program, sizeof program);
+        return CString(program).Left(CString(program).ReverseFind('\\')) + "\\stub\\zopfdraw.dll";
+    }
+
+    HMODULE library_;
+    int* percentage_;
+};
