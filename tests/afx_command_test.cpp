@@ -262,6 +262,8 @@ TEST(AfxReflection, GivesAControlItsMessagesBeforeItsParent) {
     COMPAREITEMSTRUCT compare{};
     compare.hwndItem = control.m_hWnd;
     EXPECT_EQ(parent.SendMessage(WM_COMPAREITEM, 7, reinterpret_cast<LPARAM>(&compare)), -1);
+    for (const UINT message : {WM_NOTIFY, WM_DRAWITEM, WM_MEASUREITEM, WM_DELETEITEM, WM_COMPAREITEM})
+        EXPECT_EQ(parent.SendMessage(message, 7, 0), 0) << "without its record";
     parent.UpdateDialogControls(&parent, FALSE);
     EXPECT_FALSE(control.IsWindowEnabled());
     EXPECT_THAT(control.log, ElementsAre("clicked", "clicked", "notified", "color 3", "color 3", "scroll 1 3", "draw 4",

@@ -128,6 +128,8 @@ TEST(KeyCode, Translates) {
         {key_down, 0x7C, 0x64, 0, {}, 1, 1, 0x7C}, // F13 has no function key's scan code
         {0x104, 0x73, 0x3E, alt, {}, 0, 0, 0},
         {system_character, 'x', 0x2D, alt, {}, 1, 5, 'X'},
+        {system_character, 'a', 0x1E, alt, {}, 1, 5, 'A'},
+        {system_character, 'z', 0x2C, alt, {}, 1, 5, 'Z'},
         {system_character, '/', 0x35, alt, {}, 0, 0, 0},
         {character, '@', 0x10, alt, {control}, 1, 1, '@'}, // AltGr is no modifier
         {key_down, 'A', 0x1E, 0, {'A'}, 0, 0, 0},

@@ -204,6 +204,19 @@ TEST(CurveRaster, LinesTakeTheNearestPixelAndBothEnds) {
     }
 }
 
+TEST(CurveRaster, StepsKeepAValueUntilTheNext) {
+    Pixels pixels(100);
+    {
+        CurveRaster raster({pixels.data(), 10, 10, 10}, {0, 0, 10, 10}, 0, {0, 10, 10}, {.colour = 1, .steps = true});
+        raster.run({2, 1, 8, 8, 8, 8, false});
+        raster.run({6, 1, 3, 3, 3, 3, true});
+    }
+    for (int x = 0; x < 10; ++x)
+        for (int y = 0; y < 10; ++y)
+            EXPECT_EQ(pixels[y * 10 + x], (y == 2 && 2 <= x && x <= 6) || (x == 6 && 2 <= y && y <= 7))
+                << x << ' ' << y;
+}
+
 TEST(CurveRaster, MarksWhatStandsAlone) {
     const auto marked = [](std::initializer_list<std::int64_t> columns) {
         Pixels pixels(100 * 20);

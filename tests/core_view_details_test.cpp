@@ -234,10 +234,21 @@ TEST(GaugeViews, EndsOfADigitalScaleStandAtTheirEnds) {
     EXPECT_EQ((std::vector{brightness(red), brightness(green), brightness(blue)}), (std::vector{76, 150, 27}));
 }
 
+TEST(GaugeViews, WhatIsTooLongEndsInDots) {
+    EvenMeter meter; // six units a letter
+    for (const auto& [width, shown] :
+         {std::pair{60.5f, "abcdefghij"}, {59.0f, "abcdefg.."}, {30.5f, "abc.."}, {17.0f, "a"}, {5.0f, ""}})
+        EXPECT_EQ(fit(meter, "abcdefghij", 80, width, 80).text, shown) << width;
+}
+
 TEST(GaugeViews, ReadoutsStandInTheirPlates) {
     for (const int type : {gauge_thermometer, gauge_analog, gauge_peak_line, gauge_turn_knob}) {
         const Scene scene(zoned(type, 137), stage, stage);
         const BoxF plate = extent(scene.value, ground_for(red));
+        const Shapes shapes(scene); // sunk: dark to the upper left
+        EXPECT_LT(shapes.brightness_of({plate.left - 1, plate.bottom, plate.left, plate.top}) + 20,
+                  shapes.brightness_of({plate.right, plate.bottom, plate.right + 1, plate.top}))
+            << type;
         bool found = false;
         for (const Writing& w : writings_of(scene))
             if (w.text == "137") {

@@ -54,6 +54,14 @@ TEST(SharedMemory, DISABLED_OtherProcess) {
     block.Scramble();
 }
 
+TEST(SharedMemory, GoesWithItsLastUser) {
+    {
+        const CWntShMem block(block_name, block_size);
+        static_cast<unsigned char*>(block.GetPtr())[0] = 77;
+    }
+    EXPECT_EQ(bytes_of(CWntShMem(block_name, block_size)), Bytes(block_size));
+}
+
 TEST(SharedMemory, IsNullWhereThereIsNoSuchBlock) {
     for (const std::int32_t size : {0, -1, INT32_MIN}) {
         CWntShMem none("zopwnt test nothing", size);

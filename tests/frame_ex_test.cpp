@@ -32,6 +32,8 @@ TEST_F(FrameExTest, ScrollsWhatDoesNotFit) {
     const int top = on_screen(child_).top;
     frame_.ShowContent(CRect(10, 300, 110, 320));
     EXPECT_EQ(on_screen(child_).bottom, on_screen(*frame_.GetContent()).bottom);
+    frame_.ShowContent(CRect(0, 100, 1, 390)); // more than there is room for: its beginning
+    EXPECT_EQ(on_screen(child_).top, top - 100);
     frame_.ShowContent(CRect(0, 0, 1, 1));
     EXPECT_EQ(on_screen(child_).top, top);
     frame_.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), 0);

@@ -76,6 +76,9 @@ TEST_F(GaugeTest, StaleFaceIsNotPaintedOver) {
     gauge_.SetWindowPos(nullptr, 0, 0, 90, 70, SWP_NOMOVE | SWP_NOZORDER);
     gauge_.UpdateWindow();
     EXPECT_TRUE(equals_full_repaint());
+    gauge_.AddMark(15, "BLUE");
+    gauge_.SetCurVal(21);
+    EXPECT_TRUE(equals_full_repaint());
 
     for (const int unknown : {-1, 6, INT_MAX, INT_MIN}) {
         gauge_.SetType(unknown);

@@ -40,7 +40,10 @@ TEST_F(PulseLives, RecordsAndReads) {
     reader.OpenFile(path, 1);
     reader.SendMessage(WM_KEYDOWN, VK_ESCAPE, 0);
     EXPECT_EQ(host_.told.back(), std::pair(UINT{WNT_PULSE_READ}, 0));
-    ::DeleteFileA(path);
+    ASSERT_EQ(reader.StartRecording(path), 1);
+    reader.RemoveCurves(); // ends what is recorded of them
+    EXPECT_EQ(reader.IsRecording(), 0);
+    EXPECT_TRUE(::DeleteFileA(path));
 }
 
 TEST_F(PulseLives, CopiesWhatIsShown) {

@@ -78,6 +78,7 @@ TEST_F(Pulse, SamplesStandAtTheirTimesAndValues) {
 }
 
 TEST_F(Pulse, LooksBackByMouseAndKeysAndReturns) {
+    EXPECT_EQ(chart_.SendMessage(WM_GETDLGCODE), DLGC_WANTARROWS | DLGC_WANTCHARS); // + and - in dialogs, too
     feed(0, 60'000);
     host_.told.clear();
     const __int64 live = start();
@@ -290,6 +291,11 @@ TEST_F(Pulse, FitsCurvesThatShareARangeAlike) {
     chart_.ValuesToScreen(flow_, ends, 2, rows);
     chart_.ValuesToScreen(late, ends, 2, same);
     EXPECT_TRUE(rows[0] == same[0] && rows[1] == same[1]);
+    chart_.ShowCurve(flow_, 0); // no room is left for what is hidden
+    show();
+    const double least = 1500;
+    chart_.ValuesToScreen(late, &least, 1, same);
+    EXPECT_LT(same[0], 0);
 }
 
 // In another window nothing goes on that belonged to the first.

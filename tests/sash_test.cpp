@@ -161,6 +161,21 @@ TEST_F(Sash, ItsPointerTellsWhereItMoves) {
 TEST_F(Sash, PassesOnWhatItsPanesTell) {
     first_.SendMessage(BM_CLICK);
     EXPECT_THAT(host_.commands, testing::ElementsAre(11u));
+    // A list that its host draws, sorts and reads the keys of.
+    const HWND list =
+        ::CreateWindowA("LISTBOX", "", WS_CHILD | WS_VISIBLE | LBS_OWNERDRAWVARIABLE | LBS_SORT | LBS_WANTKEYBOARDINPUT,
+                        0, 0, 90, 60, sash_.m_hWnd, nullptr, nullptr, nullptr);
+    host_.seen.clear();
+    for (const LPARAM item : {1, 2})
+        ::SendMessageA(list, LB_ADDSTRING, 0, item);
+    ::UpdateWindow(list);
+    ::SendMessageA(list, WM_KEYDOWN, 'A', 0);
+    ::SendMessageA(list, WM_CHAR, 'a', 0);
+    ::DestroyWindow(list);
+    for (const UINT message :
+         {WM_MEASUREITEM, WM_COMPAREITEM, WM_DRAWITEM, WM_VKEYTOITEM, WM_CHARTOITEM, WM_DELETEITEM})
+        EXPECT_TRUE(std::ranges::any_of(host_.seen, [&](const auto& m) { return std::get<0>(m) == message; }))
+            << message;
     CWntSash inner;
     ASSERT_TRUE(inner.Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 1, 1), &sash_, 13));
     CWnd* none = nullptr;

@@ -66,6 +66,14 @@ TEST_F(ToolBar, StatesComeFromUpdateHandlers) {
     full_repaint(*bar_);
     bar_->UpdateItems();
     EXPECT_FALSE(::GetUpdateRect(bar_->m_hWnd, nullptr, FALSE)); // nothing new
+    host_.state = [](CCmdUI& ui) { ui.Enable(ui.m_nID != 101); };
+    bar_->UpdateItems();
+    full_repaint(*bar_);
+    host_.state = [](CCmdUI& ui) { ui.Enable(ui.m_nID != 102); };
+    bar_->UpdateItems();
+    CRect stale;
+    bar_->GetUpdateRect(&stale);
+    EXPECT_EQ(stale, place(101) | place(102));
     script({":ITEM=180,0"});
     bar_->SetAutoDisable(0);
     bar_->SendMessage(WM_IDLEUPDATECMDUI, TRUE);

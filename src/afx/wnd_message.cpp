@@ -15,6 +15,12 @@ UINT drag_list_message() {
     return number;
 }
 
+// Anyone may send them with nothing.
+bool lacks_its_record(UINT message, LPARAM lParam) {
+    return lParam == 0 && (message == WM_NOTIFY || message == WM_DRAWITEM || message == WM_MEASUREITEM ||
+                           message == WM_DELETEITEM || message == WM_COMPAREITEM || message == drag_list_message());
+}
+
 AFX_CTLCOLOR color_record(UINT message, WPARAM wParam, LPARAM lParam) {
     return {reinterpret_cast<HWND>(lParam), reinterpret_cast<HDC>(wParam), message - WM_CTLCOLORMSGBOX};
 }
@@ -29,12 +35,14 @@ LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
 BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     LRESULT result = 0;
     AFX_CTLCOLOR color;
+    if (lacks_its_record(message, lParam))
+        return FALSE;
     if (message == WM_COMMAND) {
         if (!OnCommand(wParam, lParam))
             return FALSE;
         result = 1;
     } else if (message == WM_NOTIFY) {
-        if (lParam == 0 || !OnNotify(wParam, lParam, &result))
+        if (!OnNotify(wParam, lParam, &result))
             return FALSE;
     } else {
         if (is_color_message(message)) {
