@@ -55,11 +55,10 @@ TEST(SharedMemory, DISABLED_OtherProcess) {
 }
 
 TEST(SharedMemory, GoesWithItsLastUser) {
-    {
-        const CWntShMem block(block_name, block_size);
-        static_cast<unsigned char*>(block.GetPtr())[0] = 77;
-    }
-    EXPECT_EQ(bytes_of(CWntShMem(block_name, block_size)), Bytes(block_size));
+    const void* const place = CWntShMem(block_name, block_size).GetPtr();
+    MEMORY_BASIC_INFORMATION memory = {};
+    ::VirtualQuery(place, &memory, sizeof memory);
+    EXPECT_EQ(memory.State, static_cast<DWORD>(MEM_FREE));
 }
 
 TEST(SharedMemory, IsNullWhereThereIsNoSuchBlock) {

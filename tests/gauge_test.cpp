@@ -69,16 +69,18 @@ TEST_F(GaugeTest, ValueRepaintsTouchLittle) {
 }
 
 TEST_F(GaugeTest, StaleFaceIsNotPaintedOver) {
-    open_with(200, 200, {":TYPE=ANALOG", ":CURVAL=10"});
+    open_with(200, 200, {":TYPE=ANALOG", ":CURVAL=10", ":CLEARMARKS"});
     gauge_.SetType(5); // shown with the next repaint
     gauge_.SetCurVal(20);
     EXPECT_TRUE(equals_full_repaint());
     gauge_.SetWindowPos(nullptr, 0, 0, 90, 70, SWP_NOMOVE | SWP_NOZORDER);
     gauge_.UpdateWindow();
     EXPECT_TRUE(equals_full_repaint());
-    gauge_.AddMark(15, "BLUE");
+    gauge_.AddMark(60, "BLUE");
     gauge_.SetCurVal(21);
-    EXPECT_TRUE(equals_full_repaint());
+    const Pixels marked = pixels_of(gauge_);
+    gauge_.SetType(5); // all of it is drawn anew
+    EXPECT_EQ(repainted(gauge_), marked);
 
     for (const int unknown : {-1, 6, INT_MAX, INT_MIN}) {
         gauge_.SetType(unknown);
