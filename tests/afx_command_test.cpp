@@ -1,6 +1,8 @@
 // The ways of messages and commands: map entries, routing, reflection, the update of menus.
 #include "afx_test_app.h"
 
+#include <afxcmn.h>
+
 #include <afxpriv.h>
 
 using testing::ElementsAre;
@@ -262,8 +264,11 @@ TEST(AfxReflection, GivesAControlItsMessagesBeforeItsParent) {
     COMPAREITEMSTRUCT compare{};
     compare.hwndItem = control.m_hWnd;
     EXPECT_EQ(parent.SendMessage(WM_COMPAREITEM, 7, reinterpret_cast<LPARAM>(&compare)), -1);
+    CListCtrl list;
+    ASSERT_TRUE(list.Create(WS_CHILD | LVS_REPORT, CRect(0, 0, 50, 50), &parent, 8));
     for (const UINT message : {WM_NOTIFY, WM_DRAWITEM, WM_MEASUREITEM, WM_DELETEITEM, WM_COMPAREITEM})
-        EXPECT_EQ(parent.SendMessage(message, 7, 0), 0) << "without its record";
+        for (CWnd* window : {static_cast<CWnd*>(&parent), static_cast<CWnd*>(&list)})
+            EXPECT_EQ(window->SendMessage(message, 7, 0), 0) << "without its record";
     parent.UpdateDialogControls(&parent, FALSE);
     EXPECT_FALSE(control.IsWindowEnabled());
     EXPECT_THAT(control.log, ElementsAre("clicked", "clicked", "notified", "color 3", "color 3", "scroll 1 3", "draw 4",

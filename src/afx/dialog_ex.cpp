@@ -102,19 +102,22 @@ void CDialogEx::PlaceImage() {
 }
 
 BOOL CDialogEx::OnEraseBkgnd(CDC* pDC) {
-    const HBRUSH brush = Background();
+    const HBRUSH brush = pDC != nullptr ? Background() : nullptr;
     if (brush == nullptr)
         return CDialog::OnEraseBkgnd(pDC);
     CRect client;
     GetClientRect(client);
+    const CPoint before = pDC->SetBrushOrg(pDC->GetViewportOrg()); // controls have it drawn behind themselves
     ::FillRect(*pDC, client, brush);
+    pDC->SetBrushOrg(before);
     return TRUE;
 }
 
 HBRUSH CDialogEx::OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor) {
     const HWND control = pWnd->GetSafeHwnd();
-    const bool ours = nCtlColor == CTLCOLOR_DLG ||
-                      ((nCtlColor == CTLCOLOR_STATIC || nCtlColor == CTLCOLOR_BTN) && is_transparent(control));
+    const bool has_ground = nCtlColor == CTLCOLOR_DLG ||
+                            ((nCtlColor == CTLCOLOR_STATIC || nCtlColor == CTLCOLOR_BTN) && is_transparent(control));
+    const bool ours = pDC != nullptr && has_ground;
     const HBRUSH brush = ours ? Background() : nullptr;
     if (brush == nullptr)
         return CDialog::OnCtlColor(pDC, pWnd, nCtlColor);
@@ -130,7 +133,7 @@ HBRUSH CDialogEx::OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor) {
 void CDialogEx::OnSize(UINT nType, int cx, int cy) {
     CDialog::OnSize(nType, cx, cy);
     if (m_hBkgrBitmap != nullptr && m_BkgrLocation > BACKGR_TOPLEFT)
-        Invalidate(); // the image moves
+        RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN); // the image moves
 }
 
 void CDialogEx::OnSysColorChange() {
@@ -140,6 +143,7 @@ void CDialogEx::OnSysColorChange() {
 
 void CDialogEx::OnDestroy() {
     CDialog::OnDestroy();
-    DropImage();
+    if (m_bAutoDestroyBmp)
+        DropImage();
     m_background.DeleteObject();
 }

@@ -35,8 +35,11 @@ LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
 BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     LRESULT result = 0;
     AFX_CTLCOLOR color;
-    if (lacks_its_record(message, lParam))
-        return FALSE;
+    if (lacks_its_record(message, lParam)) { // nor does the control's own procedure look
+        if (pResult != nullptr)
+            *pResult = 0;
+        return TRUE;
+    }
     if (message == WM_COMMAND) {
         if (!OnCommand(wParam, lParam))
             return FALSE;

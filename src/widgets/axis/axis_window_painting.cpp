@@ -32,6 +32,13 @@ void line(HDC dc, HGDIOBJ pen, int x1, int y1, int x2, int y2) {
     ::LineTo(dc, x2, y2);
 }
 
+// Somebody else's, of which neither the framework's maps nor its deletion must know.
+class BorrowedContext : public CDC {
+public:
+    explicit BorrowedContext(HDC dc) { m_hDC = m_hAttribDC = dc; }
+    ~BorrowedContext() override { m_hDC = m_hAttribDC = nullptr; }
+};
+
 int pixels_of(float percent, int length) {
     const float pixels = static_cast<float>(length) * std::clamp(wnt::finite(percent), 0.0f, 100.0f) / 100.0f;
     return std::clamp(wnt::truncated_int(pixels), 0, std::max(length, 0));
@@ -45,29 +52,37 @@ BOOL CWntAxis::OnEraseBkgnd(CDC*) {
 
 void CWntAxis::OnPaint() {
     CPaintDC dc(this);
-    paint(dc);
+    paint(dc, *picture_);
 }
 
 // The same into any device context, whatever lies over the window.
 LRESULT CWntAxis::OnPrintClient(WPARAM wParam, LPARAM) {
-    CDC dc;
-    dc.Attach(reinterpret_cast<HDC>(wParam));
-    paint(dc);
-    dc.Detach();
+    if (!wParam)
+        return 0;
+    BorrowedContext dc(reinterpret_cast<HDC>(wParam));
+    wnt::MemoryBitmap picture; // as that device has them
+    paint(dc, picture);
     return 0;
 }
 
-void CWntAxis::FollowRange(__int64 start, __int64 end) {
+void CWntAxis::FollowRange(__int64 start, __int64 end, CDC* onto) {
     model_->set_time_range(start, end);
     if (!m_hWnd)
         return;
-    CClientDC dc(this);
-    paint(dc);
+    try {
+        if (onto)
+            return paint(*onto, *picture_);
+        CClientDC dc(this);
+        paint(dc, *picture_);
+    } catch (...) {
+        repaint(); // as soon as there is memory for it
+        throw;
+    }
 }
 
-void CWntAxis::paint(CDC& dc) {
+void CWntAxis::paint(CDC& dc, wnt::MemoryBitmap& picture) {
     const wnt::AxisRect& r = model_->rect;
-    const wnt::PaintBuffer buffer(dc, *picture_, r.right - r.left, r.bottom - r.top);
+    const wnt::PaintBuffer buffer(dc, picture, r.right - r.left, r.bottom - r.top);
     const wnt::SelectGuard pen(dc.m_hDC, shadow_pen_.GetSafeHandle());
     const wnt::SelectGuard font(dc.m_hDC, label_font_.GetSafeHandle());
     dc.SetBkMode(TRANSPARENT);

@@ -65,8 +65,9 @@ public:
     void SetRange(float minimum, float maximum);
     /// Range of a time axis; the type stays. The records that GetViewTime then copies hold the year less 1900.
     void SetRange(__int64 start, __int64 end);
-    /// The same for a range that moves many times a second: shown at once, without the detour over a paint message.
-    void FollowRange(__int64 start, __int64 end);
+    /// The same for a range that moves many times a second: drawn at once, without the detour over a paint message and
+    /// without OnPaint(). `onto` shows the axis' client area at its origin; null: the window's own device context.
+    void FollowRange(__int64 start, __int64 end, CDC* onto = nullptr);
     /// Range of a time axis by full years; makes it one. Shown with the next repaint. An upright axis shows labels only
     /// for a range set by values.
     void SetViewTime(TAxisdatetime* start, TAxisdatetime* end);
@@ -174,7 +175,7 @@ private:
     void lay_out(int cx, int cy) override;
     void repaint();
     void tick_line(int start, int length, int pixel, int (&ends)[4]) const;
-    void paint(CDC& dc);
+    void paint(CDC& dc, wnt::MemoryBitmap& picture);
     void draw_ticks(CDC& dc);
     void draw_tick(CDC& dc, const wnt::AxisTick& tick);
     void draw_time_tick(CDC& dc, const wnt::AxisTick& tick);

@@ -10,7 +10,7 @@ PaintPass::PaintPass(CWnd& window)
     begin(window);
 }
 
-PaintPass::PaintPass(CWnd& window, CDC& onto) : shown_(onto.m_hDC) {
+PaintPass::PaintPass(CWnd& window, HDC onto) : shown_(onto) {
     window.GetClientRect(&area_);
     part_ = area_;
     begin(window);

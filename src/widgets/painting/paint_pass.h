@@ -16,7 +16,7 @@ public:
     /// Answers a paint message.
     explicit PaintPass(CWnd& window);
     /// Draws all of the window elsewhere, at the device context's origin.
-    PaintPass(CWnd& window, CDC& onto);
+    PaintPass(CWnd& window, HDC onto);
     ~PaintPass();
     PaintPass(const PaintPass&) = delete;
     PaintPass& operator=(const PaintPass&) = delete;

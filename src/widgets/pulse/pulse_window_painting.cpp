@@ -66,15 +66,13 @@ void CWntPulse::OnPaint() {
 
 // The same into any device context, whatever lies over the window.
 LRESULT CWntPulse::OnPrintClient(WPARAM wParam, LPARAM) {
-    CDC dc;
-    dc.Attach(reinterpret_cast<HDC>(wParam));
+    const auto onto = reinterpret_cast<HDC>(wParam);
+    if (!onto)
+        return 0;
     if (std::exchange(state_->stale, false))
         refresh(false);
-    {
-        PaintPass pass(*this, dc);
-        paint(pass, true, true);
-    }
-    dc.Detach();
+    PaintPass pass(*this, onto);
+    paint(pass, true, true);
     return 0;
 }
 

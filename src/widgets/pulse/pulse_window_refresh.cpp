@@ -51,6 +51,22 @@ std::vector<std::int64_t> grid_columns(const PulseView& view) {
     return result;
 }
 
+// Of the client area, its children's places included: what changes many times a second is drawn through one device
+// context, since some systems bring the whole window to the screen where several take turns.
+class WholeContext : public CDC {
+public:
+    explicit WholeContext(CWnd& window) : window_(window.m_hWnd) {
+        m_hDC = m_hAttribDC = ::GetDCEx(window_, nullptr, DCX_CACHE | DCX_CLIPSIBLINGS);
+    }
+    ~WholeContext() override {
+        ::ReleaseDC(window_, m_hDC);
+        m_hDC = m_hAttribDC = nullptr;
+    }
+
+private:
+    const HWND window_;
+};
+
 // By itself, whether or not its parents are.
 bool is_shown(const CWnd& window) {
     return window.m_hWnd && window.GetStyle() & WS_VISIBLE;
@@ -163,7 +179,7 @@ void CWntPulse::update_ranges() {
     }
 }
 
-void CWntPulse::update_axes() {
+void CWntPulse::update_axes(CDC* onto) {
     const std::vector<int> ranges = state_->chart.ranges();
     const auto show = [&](CWntAxis& axis, int range) {
         const auto curve = std::ranges::find(ranges, range);
@@ -183,10 +199,15 @@ void CWntPulse::update_axes() {
     time_.ScreenToValue(state_->plot().width(), &end);
     if (start == state_->view.start() && end == state_->view.end())
         return;
-    if (state_->anew)
+    if (!onto) {
         time_.SetRange(state_->view.start(), state_->view.end());
-    else
-        time_.FollowRange(state_->view.start(), state_->view.end());
+        return;
+    }
+    CPoint corner(0, 0);
+    time_.MapWindowPoints(this, &corner, 1);
+    const CPoint before = onto->SetViewportOrg(corner);
+    time_.FollowRange(state_->view.start(), state_->view.end(), onto);
+    onto->SetViewportOrg(before);
 }
 
 void CWntPulse::update_scroll_bar() {
@@ -214,11 +235,13 @@ void CWntPulse::refresh(bool anew) {
     s.know_history();
     update_ranges();
     s.anew = s.anew || anew;
-    update_axes();
     if (s.anew || s.overlaid()) {
+        update_axes(nullptr);
         InvalidateRect(rect_of(s.plot()), FALSE);
     } else {
-        follow();
+        WholeContext dc(*this);
+        update_axes(dc.m_hDC ? &dc : nullptr);
+        follow(dc);
     }
     if (anew || !s.ticking || ::GetTickCount64() - s.surroundings_at >= surroundings_milliseconds)
         update_surroundings();
@@ -286,13 +309,12 @@ void CWntPulse::paint_plot(CDC& dc) {
 
 // Finished pixels, at once. Where the window shows the last picture, all of it, they are moved there: the system does
 // that three times as fast as it takes them all.
-void CWntPulse::follow() {
+void CWntPulse::follow(CDC& dc) {
     State& s = *state_;
     const CRect plot = rect_of(s.plot());
     if (plot.IsRectEmpty())
         return;
     draw_plot();
-    CClientDC dc(this);
     dc.IntersectClipRect(plot);
     CRect seen;
     const bool whole = dc.GetClipBox(&seen) == SIMPLEREGION && seen == plot;

@@ -208,18 +208,19 @@ int CWntPulse::CopyPicture() {
     CRect client;
     GetClientRect(&client);
     CClientDC screen(this);
+    CBitmap bitmap; // goes after what it may be selected into
     CDC memory;
-    CBitmap bitmap;
     if (!memory.CreateCompatibleDC(&screen) || !bitmap.CreateCompatibleBitmap(&screen, client.Width(), client.Height()))
         return 0;
     CBitmap* const before = memory.SelectObject(&bitmap);
     // Not from the screen, where other windows may lie over it.
     print_client(*this, memory, CPoint(0, 0));
     for (CWnd* const child : {static_cast<CWnd*>(&left_), static_cast<CWnd*>(&right_), static_cast<CWnd*>(&time_)}) {
+        if (!child->m_hWnd || !(child->GetStyle() & WS_VISIBLE))
+            continue;
         CPoint corner(0, 0);
         child->MapWindowPoints(this, &corner, 1);
-        if (child->GetStyle() & WS_VISIBLE)
-            print_client(*child, memory, corner);
+        print_client(*child, memory, corner);
     }
     memory.SelectObject(before);
     if (!put_on_clipboard(*this, CF_BITMAP, bitmap.m_hObject))

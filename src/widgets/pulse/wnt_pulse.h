@@ -215,7 +215,7 @@ private:
     void tick();
     void refresh(bool anew);
     void update_ranges();
-    void update_axes();
+    void update_axes(CDC* onto);
     void update_scroll_bar();
     void update_surroundings();
     void update_tip();
@@ -227,7 +227,7 @@ private:
     void draw_plot();
     void copy_columns(CDC& dc, int from, int to);
     void paint_plot(CDC& dc);
-    void follow();
+    void follow(CDC& dc);
     void paint_overlay(wnt::PaintPass& pass);
     bool legend_click(CPoint point);
     void toggle_curve(int curve);
