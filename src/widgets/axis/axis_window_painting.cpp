@@ -7,6 +7,7 @@
 #include "widgets/axis/axis_model.h"
 #include "widgets/axis/axis_ticks.h"
 #include "widgets/axis/zoom_control.h"
+#include "widgets/painting/borrowed_context.h"
 #include "widgets/painting/paint_buffer.h"
 
 namespace {
@@ -32,13 +33,6 @@ void line(HDC dc, HGDIOBJ pen, int x1, int y1, int x2, int y2) {
     ::LineTo(dc, x2, y2);
 }
 
-// Somebody else's, of which neither the framework's maps nor its deletion must know.
-class BorrowedContext : public CDC {
-public:
-    explicit BorrowedContext(HDC dc) { m_hDC = m_hAttribDC = dc; }
-    ~BorrowedContext() override { m_hDC = m_hAttribDC = nullptr; }
-};
-
 int pixels_of(float percent, int length) {
     const float pixels = static_cast<float>(length) * std::clamp(wnt::finite(percent), 0.0f, 100.0f) / 100.0f;
     return std::clamp(wnt::truncated_int(pixels), 0, std::max(length, 0));
@@ -59,7 +53,7 @@ void CWntAxis::OnPaint() {
 LRESULT CWntAxis::OnPrintClient(WPARAM wParam, LPARAM) {
     if (!wParam)
         return 0;
-    BorrowedContext dc(reinterpret_cast<HDC>(wParam));
+    wnt::BorrowedContext dc(reinterpret_cast<HDC>(wParam));
     wnt::MemoryBitmap picture; // as that device has them
     paint(dc, picture);
     return 0;

@@ -15,11 +15,12 @@ public:
 
     /// False where there is none. The one of before stays where it has this size, with what is on it.
     bool create(HDC like, int width, int height);
-    void release();
     explicit operator bool() const { return bitmap_ != nullptr; }
     HDC dc() const { return dc_; }
 
 private:
+    void release();
+
     HDC dc_ = nullptr;
     HBITMAP bitmap_ = nullptr;
     HGDIOBJ previous_ = nullptr;

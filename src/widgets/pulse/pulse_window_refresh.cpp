@@ -6,6 +6,7 @@
 #include "screen_scale.h"
 #include "script/keywords.h"
 #include "widgets/axis/axis_model.h"
+#include "widgets/painting/borrowed_context.h"
 #include "widgets/painting/surface_owner.h"
 #include "widgets/pulse/pulse_state.h"
 
@@ -53,15 +54,11 @@ std::vector<std::int64_t> grid_columns(const PulseView& view) {
 
 // Of the client area, its children's places included: what changes many times a second is drawn through one device
 // context, since some systems bring the whole window to the screen where several take turns.
-class WholeContext : public CDC {
+class WholeContext : public BorrowedContext {
 public:
-    explicit WholeContext(CWnd& window) : window_(window.m_hWnd) {
-        m_hDC = m_hAttribDC = ::GetDCEx(window_, nullptr, DCX_CACHE | DCX_CLIPSIBLINGS);
-    }
-    ~WholeContext() override {
-        ::ReleaseDC(window_, m_hDC);
-        m_hDC = m_hAttribDC = nullptr;
-    }
+    explicit WholeContext(CWnd& window)
+        : BorrowedContext(::GetDCEx(window.m_hWnd, nullptr, DCX_CACHE | DCX_CLIPSIBLINGS)), window_(window.m_hWnd) {}
+    ~WholeContext() override { ::ReleaseDC(window_, m_hDC); }
 
 private:
     const HWND window_;

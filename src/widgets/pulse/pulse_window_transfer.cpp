@@ -195,13 +195,6 @@ void CWntPulse::end_reading(int whole) {
     tell(WNT_PULSE_READ, whole);
 }
 
-// A tip or a menu may lie over it still.
-void CWntPulse::paint_for_copy() {
-    if (std::exchange(state_->tip_shown, false))
-        tip_.HideTip();
-    RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
-}
-
 int CWntPulse::CopyPicture() {
     if (!this || !m_hWnd)
         return 0;
@@ -254,7 +247,9 @@ int CWntPulse::CopyValues() {
 int CWntPulse::Print() {
     if (!this || !m_hWnd)
         return 0;
-    paint_for_copy();
+    if (std::exchange(state_->tip_shown, false)) // what is on the screen is printed
+        tip_.HideTip();
+    RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
     MakeHardcopy(this, state_->chart.title.empty() ? "Chart" : state_->chart.title.c_str());
     return 1;
 }

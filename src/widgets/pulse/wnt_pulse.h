@@ -237,7 +237,6 @@ private:
     void end_drag();
     void remove_cursors();
     void toggle_cursors();
-    void paint_for_copy();
     void choose_recording();
     void choose_file();
     void choose_colour(int curve);
