@@ -27,15 +27,6 @@ int nearest(float v) {
     return whole + (rest >= 0.5f) - (rest <= -0.5f);
 }
 
-// For each set of four neighbours, as bits, which of their values it takes.
-constexpr auto chosen = [] {
-    std::array<std::array<std::uint32_t, 4>, 16> table{};
-    for (unsigned set = 0; set < 16; ++set)
-        for (unsigned i = 0; i < 4; ++i)
-            table[set][i] = set >> i & 1 ? 0xFFFFFFFFu : 0;
-    return table;
-}();
-
 // The mean of a pixel's subpixels, each channel rounded to the nearest; of subpixels of one colour, that colour.
 template <unsigned count> std::uint32_t average(const std::uint32_t* subpixels) {
     constexpr std::uint32_t lanes = 0x00FF00FF; // two of four bytes, each with room for the sum of 16
@@ -65,6 +56,55 @@ template <> std::uint32_t average<16>(const std::uint32_t* subpixels) {
 }
 #endif
 
+// Paints what lies in the runs within one pixel's block of subpixels, `x` being its first column.
+template <int shift> class SubpixelRuns {
+public:
+    template <class Runs> SubpixelRuns(const Runs& runs, std::uint32_t colour) : colour_(colour) {
+        for (int i = 0; i < scale; ++i) {
+            first_[i] = runs[static_cast<std::size_t>(i)].first;
+            end_[i] = runs[static_cast<std::size_t>(i)].end;
+        }
+    }
+    void paint(std::uint32_t* block, int x) const {
+        for (int i = 0; i < scale; ++i)
+            for (int k = 0; k < scale; ++k, ++block)
+                *block = x + k >= first_[i] && x + k < end_[i] ? colour_ : *block;
+    }
+
+private:
+    static constexpr int scale = 1 << shift;
+    int first_[scale], end_[scale];
+    std::uint32_t colour_;
+};
+
+#if defined(__SSE2__) || defined(_M_X64)
+// The hot case, a row of four at once.
+template <> class SubpixelRuns<2> {
+public:
+    template <class Runs>
+    SubpixelRuns(const Runs& runs, std::uint32_t colour) : colour_(_mm_set1_epi32(static_cast<int>(colour))) {
+        for (std::size_t i = 0; i < 4; ++i) {
+            before_[i] = _mm_set1_epi32(runs[i].first - 1);
+            end_[i] = _mm_set1_epi32(runs[i].end);
+        }
+    }
+    void paint(std::uint32_t* block, int x) const {
+        const __m128i columns = _mm_add_epi32(_mm_set1_epi32(x), _mm_setr_epi32(0, 1, 2, 3));
+        for (int i = 0; i < 4; ++i) {
+            auto* row = reinterpret_cast<__m128i*>(block + 4 * i);
+            const __m128i inside =
+                _mm_and_si128(_mm_cmpgt_epi32(columns, before_[i]), _mm_cmpgt_epi32(end_[i], columns));
+            const __m128i four = _mm_loadu_si128(row);
+            _mm_storeu_si128(row, _mm_xor_si128(four, _mm_and_si128(inside, _mm_xor_si128(four, colour_))));
+        }
+    }
+
+private:
+    __m128i before_[4], end_[4];
+    __m128i colour_;
+};
+#endif
+
 // Dividing 64 bits takes several times as long as dividing 32, which most edges fit.
 std::int64_t quotient(std::int64_t numerator, std::int64_t denominator) {
     if (numerator == static_cast<std::int32_t>(numerator) && denominator == static_cast<std::int32_t>(denominator))
@@ -78,6 +118,10 @@ public:
     RisingQuotient(std::int64_t numerator, std::int64_t denominator, std::int64_t step)
         : denominator_(denominator), whole_(quotient(step, denominator)), part_(step - whole_ * denominator),
           value_(quotient(numerator, denominator)), rest_(value_ * denominator - numerator) {
+        if (part_ < 0) {
+            --whole_;
+            part_ += denominator;
+        }
         if (rest_ < 0) {
             ++value_;
             rest_ += denominator;
@@ -86,21 +130,17 @@ public:
     int value() const { return static_cast<int>(value_); }
     /// The quotient rounded to the nearest, halves down.
     int nearest() const { return static_cast<int>(value_ - (2 * rest_ >= denominator_)); }
+    // Which way the rest goes is as good as chance: no branch.
     void advance() {
-        value_ += whole_;
         rest_ -= part_;
-        if (rest_ < 0) {
-            ++value_;
-            rest_ += denominator_;
-        } else if (rest_ >= denominator_) {
-            --value_;
-            rest_ -= denominator_;
-        }
+        const std::int64_t below = rest_ >> 63; // 0 or -1
+        rest_ += denominator_ & below;
+        value_ += whole_ - below;
     }
 
 private:
     std::int64_t denominator_;
-    std::int64_t whole_, part_; // of a step
+    std::int64_t whole_, part_; // of a step, the part from 0 to below the denominator
     std::int64_t value_;
     std::int64_t rest_; // value * denominator - numerator, from 0 to below the denominator
 };
@@ -138,20 +178,6 @@ std::uint32_t ShapeRaster::add_block(std::size_t place, std::uint32_t* pixel) {
     return static_cast<std::uint32_t>(blocks_.size());
 }
 
-inline void ShapeRaster::take_apart(int x, int y, unsigned mask) {
-    const std::size_t place = place_of(x, y);
-    std::uint32_t& number = parted_[place];
-    if (!number)
-        number = add_block(place, canvas_.pixels + static_cast<std::size_t>(y) * canvas_.width + x);
-    Block& block = blocks_[number - 1];
-    const std::uint32_t colour = colour_; // known to stay while the block changes
-    for (std::size_t i = 0; i < block.size(); i += 4) {
-        const auto taken = chosen[mask >> i & 15];
-        for (std::size_t k = 0; k < 4; ++k)
-            block[i + k] ^= (block[i + k] ^ colour) & taken[k];
-    }
-}
-
 // Paints one run of subpixels in each row of a row of pixels; a run may be empty.
 void ShapeRaster::cover(int y, const Runs& runs) {
     shift_ == 2 ? cover_scaled<2>(y, runs) : shift_ == 1 ? cover_scaled<1>(y, runs) : cover_scaled<0>(y, runs);
@@ -172,32 +198,27 @@ template <int shift> void ShapeRaster::cover_scaled(int y, Runs runs) {
             outer = {std::min(outer.first, run.first), std::max(outer.end, run.end)};
         inner = {std::max(inner.first, run.first), std::min(inner.end, run.end)};
     }
+    if (outer.first >= outer.end)
+        return;
+    const Range touched = {outer.first >> shift, (outer.end + scale - 1) >> shift};
     const Range whole = {(inner.first + scale - 1) >> shift, inner.end >> shift};
-    const int end = (outer.end + scale - 1) >> shift;
-    for (int x = outer.first >> shift; x < end;) {
-        if (x == whole.first && whole.first < whole.end) {
-            fill(x, y, whole.end - x);
-            x = whole.end;
-            continue;
-        }
-        // Many pixels' bits at once, up to the whole ones.
-        constexpr int window = 60;
-        std::uint64_t bits[scale];
-        for (int i = 0; i < scale; ++i) {
-            const Range run = runs[static_cast<std::size_t>(i)];
-            bits[i] = (std::uint64_t{1} << std::clamp(run.end - (x << shift), 0, window)) -
-                      (std::uint64_t{1} << std::clamp(run.first - (x << shift), 0, window));
-        }
-        const int stop = std::min({x + window / scale, end, x < whole.first ? whole.first : end});
-        for (; x < stop; ++x) {
-            unsigned mask = 0;
-            for (int i = 0; i < scale; ++i) {
-                mask |= static_cast<unsigned>(bits[i] & ((1u << scale) - 1)) << (i << shift);
-                bits[i] >>= scale;
-            }
-            if (mask)
-                take_apart(x, y, mask);
-        }
+    if (whole.first >= whole.end)
+        return take_apart<shift>(touched, y, runs);
+    take_apart<shift>({touched.first, whole.first}, y, runs);
+    fill(whole.first, y, whole.end - whole.first);
+    take_apart<shift>({whole.end, touched.end}, y, runs);
+}
+
+// The pixels of a row that are covered in part.
+template <int shift> void ShapeRaster::take_apart(Range pixels, int y, const Runs& runs) {
+    const SubpixelRuns<shift> covered(runs, colour_);
+    std::size_t place = place_of(pixels.first, y);
+    std::uint32_t* pixel = canvas_.pixels + static_cast<std::size_t>(y) * canvas_.width + pixels.first;
+    for (int x = pixels.first; x < pixels.end; ++x, ++place, ++pixel) {
+        std::uint32_t number = parted_[place];
+        if (!number)
+            parted_[place] = number = add_block(place, pixel);
+        covered.paint(blocks_[number - 1].data(), x << shift);
     }
 }
 
@@ -244,20 +265,59 @@ void ShapeRaster::polygon(const PointF* points, int count, Colour colour) {
     if (!reach(left.x, top.y, right.x + 1, bottom.y + 1))
         return;
     colour_ = pixel_of(colour);
-    count_crossings();
+    if (goes_down_and_up_once()) {
+        spans_.assign(static_cast<std::size_t>(rows_.end - rows_.first), {right.x + 1, left.x});
+        walk_edges([this](int y, bool, const Crossing& crossing) {
+            Range& span = spans_[static_cast<std::size_t>(y - rows_.first)];
+            span = {std::min(span.first, crossing.from), std::max(span.end, crossing.to)};
+        });
+        fill_spans();
+    } else {
+        count_crossings();
+        walk_edges([this](int y, bool last, const Crossing& crossing) { cross(y, last, crossing); });
+        fill_between_crossings();
+    }
+}
+
+// True where every row is one run, as those of all convex shapes are.
+bool ShapeRaster::goes_down_and_up_once() const {
+    int turns = 0;
+    int before = 0;
+    int first = 0;
+    for (std::size_t i = 0; i < corners_.size(); ++i) {
+        const int fall = corners_[i + 1 < corners_.size() ? i + 1 : 0].y - corners_[i].y;
+        const int way = (fall > 0) - (fall < 0);
+        if (!way)
+            continue;
+        turns += before && way != before;
+        first = first ? first : way;
+        before = way;
+    }
+    return turns + (before != first) <= 2;
+}
+
+template <class Take> void ShapeRaster::walk_edges(Take take) const {
     for (std::size_t i = 0; i < corners_.size(); ++i) {
         Point a = corners_[i];
         Point b = corners_[i + 1 < corners_.size() ? i + 1 : 0];
         if (a.y > b.y)
             std::swap(a, b);
         if (a.y == b.y)
-            cover_level(a, b);
+            walk_level(a, b, take);
         else if (std::abs(b.x - a.x) <= b.y - a.y)
-            walk_steep(a, b);
+            walk_steep(a, b, take);
         else
-            walk_flat(a, b);
+            walk_flat(a, b, take);
     }
-    fill_between_crossings();
+}
+
+void ShapeRaster::fill_spans() {
+    for (int y = reach_.top; y < reach_.bottom; ++y) {
+        Runs runs{};
+        for (int row = std::max(y << shift_, rows_.first); row < std::min((y + 1) << shift_, rows_.end); ++row)
+            runs[static_cast<std::size_t>(row - (y << shift_))] = spans_[static_cast<std::size_t>(row - rows_.first)];
+        cover(y, runs);
+    }
 }
 
 // Counts the crossings of edges and rows, and gives each row its place among them.
@@ -285,22 +345,22 @@ void ShapeRaster::count_crossings() {
 }
 
 // An edge within a row. One of no length is no edge.
-void ShapeRaster::cover_level(const Point& a, const Point& b) {
+template <class Take> void ShapeRaster::walk_level(const Point& a, const Point& b, Take& take) const {
     if (a.x != b.x && a.y >= rows_.first && a.y < rows_.end)
-        cover_row(a.y, {std::min(a.x, b.x), std::max(a.x, b.x) + 1});
+        take(a.y, true, {0, std::min(a.x, b.x), std::max(a.x, b.x) + 1});
 }
 
 // What lies inside begins or ends, in every row but the edge's last one, at the first subpixel right of the edge; the
 // outline's subpixels about it belong to it, too. In the last row there is the outline alone.
-void ShapeRaster::cross(int y, const Point& lower, const Crossing& crossing) {
-    if (y == lower.y)
+void ShapeRaster::cross(int y, bool last, const Crossing& crossing) {
+    if (last)
         cover_row(y, {crossing.from, crossing.to});
     else
         crossings_[static_cast<std::size_t>(ends_[static_cast<std::size_t>(y - rows_.first)]++)] = crossing;
 }
 
 // An edge of at least as many rows as columns: its outline is one subpixel a row. Halves go left.
-void ShapeRaster::walk_steep(const Point& upper, const Point& lower) {
+template <class Take> void ShapeRaster::walk_steep(const Point& upper, const Point& lower, Take& take) const {
     const std::int64_t dx = lower.x - upper.x;
     const int first = std::max(upper.y, rows_.first);
     const int last = std::min(lower.y, rows_.end - 1);
@@ -308,12 +368,12 @@ void ShapeRaster::walk_steep(const Point& upper, const Point& lower) {
     for (int y = first; y <= last; ++y, crossing.advance()) {
         const int outline = upper.x + crossing.nearest();
         const int x = upper.x + crossing.value();
-        cross(y, lower, {x, outline, std::max(outline + 1, x)});
+        take(y, y == lower.y, {x, outline, std::max(outline + 1, x)});
     }
 }
 
 // An edge of more columns than rows: its outline is a run of subpixels in each row. Halves go up.
-void ShapeRaster::walk_flat(const Point& upper, const Point& lower) {
+template <class Take> void ShapeRaster::walk_flat(const Point& upper, const Point& lower, Take& take) const {
     const std::int64_t dx = std::abs(lower.x - upper.x);
     const std::int64_t dy = lower.y - upper.y;
     const bool falls = upper.x < lower.x; // from left to right
@@ -331,7 +391,7 @@ void ShapeRaster::walk_flat(const Point& upper, const Point& lower) {
     for (int y = first; y <= last; ++y, crossing.advance(), bound.advance()) {
         const int from = left + (falls ? previous : bound.value());
         const int to = left + (falls ? bound.value() : previous);
-        cross(y, lower, {left + crossing.value(), std::max(from, left), std::min(to, right + 1)});
+        take(y, y == lower.y, {left + crossing.value(), std::max(from, left), std::min(to, right + 1)});
         previous = bound.value();
     }
 }

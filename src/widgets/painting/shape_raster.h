@@ -53,15 +53,18 @@ private:
     template <int shift> void cover_scaled(int y, Runs runs);
     void cover_row(int row, Range run);
     void fill(int x, int y, int count);
-    void take_apart(int x, int y, unsigned mask);
+    template <int shift> void take_apart(Range pixels, int y, const Runs& runs);
     std::uint32_t add_block(std::size_t place, std::uint32_t* pixel);
     std::size_t place_of(int x, int y) const;
 
+    bool goes_down_and_up_once() const;
+    template <class Take> void walk_edges(Take take) const;
+    template <class Take> void walk_level(const Point& a, const Point& b, Take& take) const;
+    template <class Take> void walk_steep(const Point& upper, const Point& lower, Take& take) const;
+    template <class Take> void walk_flat(const Point& upper, const Point& lower, Take& take) const;
+    void fill_spans();
     void count_crossings();
-    void cover_level(const Point& a, const Point& b);
-    void walk_steep(const Point& upper, const Point& lower);
-    void walk_flat(const Point& upper, const Point& lower);
-    void cross(int y, const Point& lower, const Crossing& crossing);
+    void cross(int y, bool last, const Crossing& crossing);
     void fill_between_crossings();
     static Range run_between(const Crossing& a, const Crossing& b);
 
@@ -73,6 +76,7 @@ private:
     Range rows_ = {};
     std::uint32_t colour_ = 0;
     std::vector<Point> corners_;
+    std::vector<Range> spans_;        // of each row, where each is one run
     std::vector<Crossing> crossings_; // row by row
     std::vector<int> ends_;           // where each row's crossings end
     // Of the area: for each pixel 0 or the number of its block, counted from 1.
