@@ -18,7 +18,7 @@ namespace {
 constexpr double hole = std::numeric_limits<double>::quiet_NaN();
 
 TEST(PulseSeries, HoldsTheNewestSamplesAndTheirBlocks) {
-    for (const std::size_t capacity : {1, 5, 16, 100, 4095, 4096, 9000}) {
+    for (const std::size_t capacity : {1, 5, 16, 100, 255, 256, 9000}) {
         Random random(static_cast<unsigned>(capacity));
         PulseSeries series(capacity);
         std::deque<PulsePoint> plain; // what a history is, without blocks

@@ -183,6 +183,9 @@ void PulseSeries::expect(std::uint64_t number) const {
         __builtin_prefetch(&chunk.points[i]);
     for (std::size_t size = smallest_block; size < chunk_size; size *= fan)
         __builtin_prefetch(&chunk.blocks[block_place(number, size)]);
+    const std::size_t leaf = chunks_.size() + place_of(number);
+    for (int height = 0; height < 4; ++height) // where ways up from near chunks have not met yet
+        __builtin_prefetch(&tree_[leaf >> height]);
 #else
     static_cast<void>(number);
 #endif

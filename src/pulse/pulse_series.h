@@ -68,10 +68,10 @@ public:
     std::size_t memory() const;
 
 private:
-    static constexpr std::size_t chunk_size = 4096, smallest_block = 16, fan = 4;
+    static constexpr std::size_t chunk_size = 256, smallest_block = 16, fan = 4;
     struct Chunk {
         PulsePoint points[chunk_size];
-        PulseBlock blocks[256 + 64 + 16 + 4]; // of 16, 64, 256 and 1024 samples
+        PulseBlock blocks[16 + 4]; // of 16 and of 64 samples
     };
 
     Chunk& chunk_of(std::uint64_t number) const { return *chunks_[place_of(number)]; }
