@@ -67,6 +67,10 @@ TEST(AxisGrid, ChoosesNiceSteps) {
         EXPECT_EQ(Pair(count, lines), Pair(c.count, c.lines)) << c.maximum;
         const std::vector<float> expected = {c.first, c.first_scale, c.step};
         EXPECT_THAT((std::vector{first, first_scale, step}), testing::Pointwise(testing::FloatEq(), expected));
+        AxisModel axis;
+        axis.set_range(c.minimum, c.maximum);
+        axis.resize(static_cast<std::int32_t>(c.length), 30);
+        EXPECT_EQ(axis.grid.count, count);
     }
 }
 
@@ -230,6 +234,7 @@ TEST(AxisZoom, GripsAndLimitsOfTheSlider) {
     EXPECT_TRUE(zoom.far_end);
     EXPECT_EQ(grab(200), ZoomGrip::none);
     grab(100);
+    zoom.drag(true, 130, 35);
     zoom.drag(true, 170, 35); // the far end stays in the box, the near one follows
     EXPECT_EQ(zoom.slider.left, zoom.box.left + 70);
     EXPECT_EQ(zoom.slider.right, zoom.box.right);

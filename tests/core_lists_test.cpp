@@ -61,6 +61,8 @@ void compare_objlist(unsigned seed) {
         const std::string tag(text, 4);
         std::string data(dice(0, 30), static_cast<char>(dice(0, 255)));
         const int length = static_cast<int>(data.size());
+        if (dice(0, 99) == 0 && list.flush())
+            model.clear(), cursor = 0;
         const bool fits = size - packed(model.size()).size() > data.size() + 8;
         switch (dice(0, 6)) {
         case 0:

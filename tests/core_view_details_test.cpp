@@ -169,6 +169,7 @@ TEST(GaugeViews, RoundTicksDifferByRankAndPointersKeepToTheirPlaces) {
     const auto [thin, thick] = std::ranges::minmax(ticks);
     EXPECT_LT(thin.first, 0.7f * thick.first);
     EXPECT_LT(thin.second, 0.8f * thick.second);
+    EXPECT_NEAR(thick.first, 2, 0.05f);
 
     GaugeModel model = zoned(gauge_analog, 40);
     model.set_current_value(150);

@@ -248,6 +248,7 @@ TEST(GaugeViews, TextsStandAtTheirPlaces) {
                           stage);
         const BoxF strip = hull(hull(extent(scene.face, blue), extent(scene.face, green)), extent(scene.face, red));
         const Writing* number = nullptr;
+        float end = 0;
         const auto all = writings_of(scene);
         for (const Writing& w : all) {
             const PointF at = w.bounds.centre();
@@ -270,6 +271,8 @@ TEST(GaugeViews, TextsStandAtTheirPlaces) {
                     EXPECT_NEAR(std::remainder(angle_of(raised) - angle_at(value), 360.f), 0, 8);
                 else
                     EXPECT_NEAR(at.y, strip.bottom + strip.height() * value / 200, 3);
+                if (type == gauge_thermometer || type == gauge_peak_line) // in a column
+                    EXPECT_TRUE(end == w.bounds.right || !std::exchange(end, w.bounds.right));
             }
         }
     }

@@ -142,7 +142,10 @@ TEST(DibFile, CreatesBlankBitmaps) {
     Picture picture(4, 3);
     dib.Draw(picture.dc(), 0, 0, 0, 0);
     EXPECT_EQ(picture.at(0, 0), RGB(0x0A, 0x14, 0x37));
-    check(dib.CreateNew256Color(4, 3, 11, 1), 8);
+    const int objects = live_gdi_objects();
+    for (int i = 0; i < 30; ++i)
+        check(dib.CreateNew256Color(4, 3, 11, 1), 8);
+    EXPECT_LT(live_gdi_objects(), objects + 20);
     dib.Draw(picture.dc(), 0, 0, 0, 0);
     EXPECT_EQ(picture.at(0, 0), RGB(3 * 255 / 7, 255 / 7, 0));
 }

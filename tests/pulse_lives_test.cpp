@@ -22,6 +22,7 @@ TEST_F(PulseLives, RecordsAndReads) {
     const __int64 now = CWntPulse::Now() / 100 * 100;
     for (int i = 0; i < 500; ++i)
         chart_.AddSample(i % 2, i, now + i / 2 * 100);
+    EXPECT_EQ(chart_.OpenFile(path, 0), 0); // what is recorded goes on
     EXPECT_EQ(chart_.StopRecording(), 1);
     EXPECT_EQ(chart_.StopRecording() + chart_.StartRecording("no such folder\\x.txt") + chart_.IsRecording(), 0);
     CWntPulse reader;
