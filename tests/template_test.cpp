@@ -145,6 +145,9 @@ TEST_F(TemplateTest, ControlsAreBuiltInTheirPlacesAndGoWithTheDialog) {
         EXPECT_EQ(dialog.tip.GetTipCount(), 1); // the file's only paragraph
         dialog.frame.GetClientRect(&client);
         EXPECT_TRUE(content.top > 5 && content.Height() > client.Height() / 2) << "the title takes a line";
+        CButton inside;
+        inside.Create("", WS_CHILD | WS_VISIBLE | WS_TABSTOP, content, &dialog.frame, 1);
+        EXPECT_EQ(dialog.GetNextDlgTabItem(&dialog.folded, TRUE), &inside) << "what a panel holds is in the tab order";
         dialog.sash.GetClientRect(&client);
         CStatic left, right; // panes that the program makes
         for (CStatic* pane : {&left, &right})
