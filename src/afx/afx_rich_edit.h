@@ -50,6 +50,7 @@ public:
         return static_cast<long>(SendMessage(EM_FINDTEXTEX, dwFlags, afx_param(pFindText)));
     }
     CPoint GetCharPos(long lChar) const;
+    CPoint PosFromChar(UINT nChar) const { return GetCharPos(static_cast<long>(nChar)); }
     int CharFromPos(CPoint pt) const;
     void LimitText(long nChars = 0) { SendMessage(EM_EXLIMITTEXT, 0, nChars); }
     long GetLimitText() const { return static_cast<long>(SendMessage(EM_GETLIMITTEXT)); }
