@@ -1,6 +1,8 @@
 // List boxes, combo boxes, edit controls and scroll bars through their classes.
 #include "afx_test_app.h"
 
+#include <afxcmn.h>
+
 namespace {
 
 using AfxBoxes = WithParent;
@@ -46,6 +48,50 @@ public:
     void DeleteItem(LPDELETEITEMSTRUCT item) override { deleted.push_back(static_cast<int>(item->itemData)); }
     std::vector<int> deleted;
 };
+
+// Windows that are created while it lives are of version 6 of the common controls.
+class newer_controls {
+public:
+    newer_controls() {
+        ACTCTX wanted{};
+        wanted.cbSize = sizeof(wanted);
+        wanted.dwFlags = ACTCTX_FLAG_RESOURCE_NAME_VALID | ACTCTX_FLAG_HMODULE_VALID;
+        wanted.lpResourceName = MAKEINTRESOURCE(IDR_NEW_CONTROLS);
+        wanted.hModule = ::GetModuleHandle(nullptr);
+        context = ::CreateActCtx(&wanted);
+        EXPECT_TRUE(::ActivateActCtx(context, &cookie));
+    }
+    ~newer_controls() { ::DeactivateActCtx(0, cookie), ::ReleaseActCtx(context); }
+
+private:
+    HANDLE context;
+    ULONG_PTR cookie = 0;
+};
+
+TEST_F(AfxBoxes, HintsAndNotesComeBackInTheProgramsCodePage) {
+    CEdit old;
+    ASSERT_TRUE(old.Create(shown, place, &parent, 1));
+    EXPECT_TRUE(!old.SetCueBanner(L"hint") && old.GetCueBanner().IsEmpty()) << "version 5 has none";
+    const newer_controls newer;
+    CEdit edit;
+    CButton link, split;
+    ASSERT_TRUE(edit.Create(shown, place, &parent, 2) && link.Create("", shown | BS_COMMANDLINK, place, &parent, 3) &&
+                split.Create("", shown | BS_SPLITBUTTON, place, &parent, 4));
+    const std::wstring longer(1000, L'\xe9');
+    EXPECT_TRUE(edit.SetCueBanner(longer.c_str(), TRUE));
+    EXPECT_EQ(edit.GetCueBanner(), CString('\xe9', 1000));
+    EXPECT_TRUE(link.SetNote("Caf\xe9") && link.GetNote() == "Caf\xe9" && link.GetNoteLength() == 4);
+    char note[5] = "left";
+    UINT room = 4;
+    EXPECT_TRUE(!link.GetNote(note, &room) && room == 5 && std::string(note) == "left") << "no room for its end";
+    EXPECT_TRUE(link.GetNote(note, &room) && room == 4 && std::string(note) == "Caf\xe9");
+    SIZE size{9, 8}, found{};
+    CImageList list;
+    EXPECT_TRUE(split.SetSplitGlyph('5') && split.GetSplitGlyph() == '5');
+    EXPECT_TRUE(split.SetSplitSize(&size) && split.GetSplitSize(&found) && found.cx == 9 && found.cy == 8);
+    ASSERT_TRUE(list.Create(8, 8, ILC_COLOR24, 1, 1) && split.SetSplitImageList(&list));
+    EXPECT_EQ(split.GetSplitImageList(), &list);
+}
 
 TEST_F(AfxBoxes, OwnerDrawnOnesAreMeasuredComparedAndDeleted) {
     numbers_box box;

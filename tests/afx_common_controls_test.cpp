@@ -61,6 +61,81 @@ TEST_F(AfxCommonControls, AToolbarKeepsItsButtonsAndTheirStates) {
     EXPECT_FALSE(bar.DeleteButton(5));
 }
 
+TEST_F(AfxCommonControls, AToolbarsButtonsAreChangedMovedAndRestored) {
+    class restorer : public CWnd { // offers the buttons of a bar that is being restored
+        BOOL OnNotify(WPARAM, LPARAM lParam, LRESULT* result) override {
+            auto* told = reinterpret_cast<NMTBRESTORE*>(lParam);
+            if (told->hdr.code == TBN_RESTORE)
+                told->tbButton.iBitmap = I_IMAGENONE;
+            *result = 0;
+            return TRUE;
+        }
+    } owner;
+    CToolBarCtrl bar;
+    ASSERT_TRUE(create_popup(owner) && bar.Create(shown, place, &owner, 1));
+    bar.AddStrings("&First\0Second\0");
+    TBBUTTON buttons[2]{};
+    for (int i = 0; i < 2; ++i)
+        buttons[i].idCommand = 100 + i, buttons[i].fsState = TBSTATE_ENABLED, buttons[i].iString = i;
+    ASSERT_TRUE(bar.AddButtons(2, buttons));
+    char text[7] = "";
+    EXPECT_TRUE(bar.GetButtonText(101) == "Second" && bar.GetString(1, text, 7) == 6 && bar.GetString(1, text, 3) < 0);
+    EXPECT_TRUE(bar.MoveButton(1, 0) && bar.CommandToIndex(101) == 0);
+    bar.SaveState(HKEY_CURRENT_USER, "Software\\afx_test", "bar");
+    bar.DeleteButton(0);
+    bar.RestoreState(HKEY_CURRENT_USER, "Software\\afx_test", "bar");
+    EXPECT_TRUE(bar.GetButtonCount() == 2 && bar.CommandToIndex(101) == 0 && bar.CommandToIndex(100) == 1);
+    ::RegDeleteKey(HKEY_CURRENT_USER, "Software\\afx_test");
+}
+
+// Where this system's controls do nothing, what they are told is all that shows.
+template <class Control, class Call>
+void expect_told(CWnd& parent, UINT message, WPARAM wParam, LPARAM lParam, Call call) {
+    class listener : public Control {
+    public:
+        LRESULT WindowProc(UINT m, WPARAM w, LPARAM l) override {
+            if (!listening)
+                return Control::WindowProc(m, w, l);
+            EXPECT_EQ(std::tuple(m, w, l), std::exchange(awaited, {}));
+            return 1;
+        }
+        std::tuple<UINT, WPARAM, LPARAM> awaited;
+        bool listening = false;
+    } control;
+    ASSERT_TRUE(control.Create(WS_CHILD, CRect(0, 0, 100, 60), &parent, 1));
+    control.awaited = {message, wParam, lParam};
+    control.listening = true, call(control), control.listening = false;
+    EXPECT_EQ(std::get<0>(control.awaited), 0U) << "it was not told " << message;
+}
+
+TEST_F(AfxCommonControls, ControlsAreToldWhatTheProgramSays) {
+    LVGROUP group{};
+    LVITEMINDEX item{2, 3};
+    const auto key = reinterpret_cast<WPARAM>(&item);
+    CRect where;
+    const LPARAM at = afx_param(&where), of = afx_param(&group);
+    const PFNLVGROUPCOMPARE sorter = [](INT, INT, void*) { return 0; };
+    const auto sort = reinterpret_cast<WPARAM>(sorter);
+    expect_told<CListCtrl>(parent, LVM_INSERTGROUP, 2, of, [&](auto& l) { l.InsertGroup(2, &group); });
+    expect_told<CListCtrl>(parent, LVM_SORTGROUPS, sort, of, [&](auto& l) { l.SortGroups(sorter, &group); });
+    expect_told<CListCtrl>(parent, LVM_GETGROUPRECT, 7, at, [&](auto& l) { l.GetGroupRect(7, where, LVGGR_HEADER); });
+    EXPECT_EQ(where.top, LVGGR_HEADER);
+    expect_told<CListCtrl>(parent, LVM_GETITEMINDEXRECT, key, at,
+                           [&](auto& l) { l.GetItemIndexRect(&item, 4, LVIR_LABEL, where); });
+    EXPECT_TRUE(where.top == 4 && where.left == LVIR_LABEL);
+    expect_told<CListCtrl>(parent, LVM_GETNEXTITEMINDEX, key, 9, [&](auto& l) { l.GetNextItemIndex(&item, 9); });
+    expect_told<CTreeCtrl>(parent, TVM_SETEXTENDEDSTYLE, 1, 2, [](auto& t) { t.SetExtendedStyle(1, 2); });
+    expect_told<CHeaderCtrl>(parent, HDM_CLEARFILTER, WPARAM(-1), 0, [](auto& h) { h.ClearAllFilters(); });
+    expect_told<CHeaderCtrl>(parent, HDM_SETHOTDIVIDER, 1, 0x40003, [](auto& h) { h.SetHotDivider(CPoint(3, 4)); });
+    expect_told<CReBarCtrl>(parent, RB_MAXIMIZEBAND, 2, TRUE, [](auto& r) { r.RestoreBand(2); });
+    expect_told<CReBarCtrl>(parent, RB_BEGINDRAG, 2, 0xFFFFFFFF, [](auto& r) { r.BeginDrag(2); });
+    expect_told<CMonthCalCtrl>(parent, MCM_SETCURRENTVIEW, 0, MCMV_YEAR, [](auto& m) { m.SetYearView(); });
+    expect_told<CMonthCalCtrl>(parent, MCM_SETCALENDARBORDER, TRUE, 8, [](auto& m) { m.SetCalendarBorder(8); });
+    CListCtrl list;
+    ASSERT_TRUE(list.Create(shown, place, &parent, 1));
+    EXPECT_FALSE(list.SetItemIndexState(&item, LVIS_SELECTED, LVIS_SELECTED)) << "there is no such item";
+}
+
 TEST_F(AfxCommonControls, RichTextIsReadAndWrittenInItsRanges) {
     CRichEditCtrl edit;
     ASSERT_TRUE(AfxInitRichEdit() && edit.Create(shown | ES_MULTILINE, place, &parent, 1));
@@ -141,6 +216,25 @@ TEST_F(AfxCommonControls, MonthsSelectDaysAndStretchesOfThem) {
     EXPECT_TRUE(several.SetRange(&first, nullptr) && several.GetRange(&found, &other) == GDTR_MIN && found == first);
 }
 
+TEST_F(AfxCommonControls, DatesOfAutomationBoundAndChooseDays) {
+    const COleDateTime first(2024, 2, 10, 0, 0, 0), last(2024, 2, 16, 0, 0, 0);
+    COleDateTime none, least, most;
+    none.SetStatus(COleDateTime::null);
+    CDateTimeCtrl picker;
+    CMonthCalCtrl month, several;
+    ASSERT_TRUE(picker.Create(shown, place, &parent, 1) && month.Create(shown, place, &parent, 2) &&
+                several.Create(shown | MCS_MULTISELECT, place, &parent, 3));
+    EXPECT_TRUE(picker.SetRange(&first, &last) && picker.GetRange(&least, &most) == 3 && least == first &&
+                most == last);
+    EXPECT_TRUE(month.SetRange(&first, &none) && month.GetRange(&least, &most) == GDTR_MIN && least == first);
+    EXPECT_EQ(most.GetStatus(), COleDateTime::null);
+    EXPECT_TRUE(month.SetCurSel(last) && month.GetCurSel(least) && least == last);
+    EXPECT_TRUE(several.SetSelRange(first, last) && several.GetSelRange(least, most) && least == first && most == last);
+    EXPECT_FALSE(several.SetSelRange(none, last));
+    several.SetToday(first);
+    EXPECT_TRUE(several.GetToday(least) && least == first);
+}
+
 // -- Tips and checks --------------------------------------------------------------------------------------------------
 
 TEST_F(AfxCommonControls, TipsAreChangedAndTakenBack) {
@@ -162,6 +256,15 @@ TEST_F(AfxCommonControls, TipsAreChangedAndTakenBack) {
     EXPECT_EQ(tips.GetToolCount(), 1);
     tips.SetMaxTipWidth(120);
     EXPECT_EQ(tips.GetMaxTipWidth(), 120);
+    CToolInfo info;
+    tips.UpdateTipText(CString('x', 600), &tool);
+    EXPECT_TRUE(tips.GetToolInfo(info, &tool) && info.lpszText == info.szText && info.szText[0] == 'x');
+    EXPECT_LT(std::strlen(info.szText), sizeof(info.szText));
+    info.lpszText = const_cast<char*>("third");
+    tips.SetToolInfo(&info);
+    tips.GetText(text, &tool);
+    EXPECT_EQ(text, "third");
+    EXPECT_FALSE(tips.GetToolInfo(info, &parent, 3)) << "no longer there";
 }
 
 TEST_F(AfxCommonControls, ChecksGoRoundThreeStatesAndShowThem) {

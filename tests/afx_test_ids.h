@@ -39,3 +39,4 @@
 #define IDR_FILM 160
 #define IDB_UP 161
 #define IDB_DOWN 162
+#define IDR_NEW_CONTROLS 163

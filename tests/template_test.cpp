@@ -97,6 +97,70 @@ TEST_F(TemplateTest, WidgetsLookAsIfTheirObjectsHadCreatedThem) {
     std::remove("template.dat");
 }
 
+class ControlsDialog : public CDialog {
+public:
+    explicit ControlsDialog(CWnd* parent) : CDialog(IDD_CONTROLS, parent) {}
+    void DoDataExchange(CDataExchange* exchange) override {
+        CDialog::DoDataExchange(exchange);
+        for (const auto& [name, id, control] : places)
+            DDX_Control(exchange, id, *control);
+    }
+
+    CWntPulse pulse;
+    CWntTabs tabs;
+    CWntSash sash;
+    CWntToolBar bar;
+    CWntTipPage tip;
+    CWntFrame frame;
+    CWntFrameEx folded;
+    const struct {
+        const char* name;
+        int id;
+        CWnd* control;
+    } places[7] = {{"WntPulse", IDC_PULSE, &pulse},    {"WntTabs", IDC_TABS, &tabs},  {"WntSash", IDC_SASH, &sash},
+                   {"WntToolBar", IDC_BAR, &bar},      {"WntTipPage", IDC_TIP, &tip}, {"WntFrame", IDC_FRAME, &frame},
+                   {"WntFrameEx", IDC_FOLDED, &folded}};
+};
+
+TEST_F(TemplateTest, ControlsAreBuiltInTheirPlacesAndGoWithTheDialog) {
+    std::ofstream("template.dat") << ":TAB=One\n:TAB=Two\n:ITEM=7,-1,Go\n:CLEARCURVES=\n:CURVE=Level,RED\n";
+    ControlsDialog dialog(&host_);
+    for (int round = 0; round < 2; ++round) { // the objects serve it again
+        ASSERT_TRUE(dialog.Create(IDD_CONTROLS, &host_));
+        for (const auto& [name, id, control] : dialog.places) {
+            char kind[32] = "";
+            ::GetClassName(control->m_hWnd, kind, sizeof(kind));
+            EXPECT_STREQ(kind, name);
+            const Pixels built = repainted(*control);
+            EXPECT_GT(built.width, 100) << name;
+            const std::set<COLORREF> colours(built.values.begin(), built.values.end());
+            EXPECT_TRUE(colours.size() > 1 || control == &dialog.sash) << name << " is blank";
+        }
+        CRect client, tab = dialog.tabs.GetTabRect(1), item, content = dialog.frame.GetContentRect();
+        dialog.tabs.GetClientRect(&client);
+        EXPECT_EQ(dialog.tabs.GetTabCount(), 2); // of the script that the text names
+        EXPECT_TRUE(!tab.IsRectEmpty() && client.PtInRect(tab.CenterPoint()) && tab.Height() * 4 < client.Height());
+        EXPECT_TRUE(dialog.bar.GetItemCount() == 1 && dialog.bar.GetItemRect(0, &item) && !item.IsRectEmpty());
+        EXPECT_EQ(dialog.pulse.GetCurveCount(), 1);
+        EXPECT_EQ(dialog.tip.GetTipCount(), 1); // the file's only paragraph
+        dialog.frame.GetClientRect(&client);
+        EXPECT_TRUE(content.top > 5 && content.Height() > client.Height() / 2) << "the title takes a line";
+        CButton inside;
+        inside.Create("", WS_CHILD | WS_VISIBLE | WS_TABSTOP, content, &dialog.frame, 1);
+        EXPECT_EQ(dialog.GetNextDlgTabItem(&dialog.folded, TRUE), &inside) << "what a panel holds is in the tab order";
+        dialog.sash.GetClientRect(&client);
+        CStatic left, right; // panes that the program makes
+        for (CStatic* pane : {&left, &right})
+            pane->Create("", WS_CHILD, CRect(0, 0, 9, 9), &dialog);
+        EXPECT_TRUE(dialog.sash.SetPanes(&left, &right) && left.IsWindowVisible());
+        EXPECT_NEAR(dialog.sash.GetPosition(), client.Width() / 2, 5);
+        dialog.DestroyWindow();
+        for (const auto& place : dialog.places)
+            EXPECT_EQ(place.control->m_hWnd, nullptr) << place.name;
+    }
+    std::remove("template.dat");
+}
+
 TEST_F(TemplateTest, ByItsClassNameAWidgetIsMadeOnce) {
     CWntCalendar calendar;
     ASSERT_TRUE(calendar.Create("WntCalendar", "Calendar", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &host_, 1));

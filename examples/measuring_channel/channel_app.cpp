@@ -6,6 +6,7 @@ class CChannelApp : public CWinApp {
 public:
     BOOL InitInstance() override {
         SetRegistryKey("ZOPWNT examples");
+        AfxInitRichEdit2(); // knows the template's class "RichEdit20A"
         ChannelSettings settings;
         settings.Load(*this);
         CChannelDialog dialog(settings);

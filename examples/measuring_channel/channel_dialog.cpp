@@ -14,6 +14,13 @@ ON_BN_CLICKED(IDC_APPLY, &CChannelDialog::OnApply)
 ON_BN_CLICKED(IDC_RUN, &CChannelDialog::OnRun)
 ON_NOTIFY(TCN_SELCHANGE, IDC_PAGES, &CChannelDialog::OnPage)
 ON_NOTIFY(DTN_DATETIMECHANGE, IDC_LAST, &CChannelDialog::OnLast)
+ON_NOTIFY(WNT_TABS_SELECTED, IDC_TABS, &CChannelDialog::OnTab)
+ON_NOTIFY(WNT_SASH_MOVED, IDC_SASH, &CChannelDialog::OnSash)
+ON_NOTIFY(HDN_ENDTRACK, IDC_REPORT_HEADER, &CChannelDialog::OnColumn)
+ON_CBN_SELENDOK(IDC_INK, &CChannelDialog::OnInk)
+ON_COMMAND(ID_INSERT_READING, &CChannelDialog::OnInsertReading)
+ON_COMMAND(ID_NEXT_TIP, &CChannelDialog::OnNextTip)
+ON_COMMAND_RANGE(ID_EDIT_CLEAR, ID_EDIT_UNDO, &CChannelDialog::OnEdit)
 ON_WM_TIMER()
 ON_WM_HSCROLL()
 ON_WM_DESTROY()
@@ -25,7 +32,6 @@ constexpr const char* views[] = {"Percent bar", "Thermometer", "Dial", "Digits",
 constexpr const char* units[] = {"bar x 10", "\260C", "l/min", "rpm", "%"};
 constexpr const char* places[] = {"Boiler house", "Cold store", "Pump room", "Roof"};
 constexpr const char* listeners[] = {"Operator", "Maintenance", "Log book", "Horn"};
-constexpr const char* parts[] = {"Value", "Trend", "Zone", "Time"}; // of a report
 
 } // namespace
 
@@ -49,6 +55,9 @@ BOOL CChannelDialog::OnInitDialog() {
     HICON icon = AfxGetApp()->LoadIcon(IDI_CHANNEL);
     SetIcon(icon, TRUE);
     SetIcon(icon, FALSE);
+    CollectPages();
+    BuildPanes();
+    BuildBars();
     FillBoxes();
     FillPages();
     PrepareRanges();
@@ -73,14 +82,13 @@ void CChannelDialog::FillBoxes() {
 void CChannelDialog::FillPages() {
     pages_.InsertItem(0, "Readings");
     pages_.InsertItem(1, "Plant");
+    PlacePages();
     log_.SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_GRIDLINES);
     CRect room;
     log_.GetClientRect(room);
-    const int unit = std::max(room.Width() / 10, 1);
-    log_.InsertColumn(0, "Reading", LVCFMT_LEFT, 2 * unit);
-    log_.InsertColumn(1, "Time", LVCFMT_LEFT, 2 * unit);
-    log_.InsertColumn(2, "Value", LVCFMT_RIGHT, 2 * unit);
-    log_.InsertColumn(3, "Zone", LVCFMT_LEFT, 3 * unit);
+    const int unit = std::max((room.Width() - ::GetSystemMetrics(SM_CXVSCROLL)) / 4, 1);
+    for (const char* title : {"Reading", "Time", "Value", "Zone"})
+        log_.InsertColumn(log_.GetHeaderCtrl()->GetItemCount(), title, LVCFMT_LEFT, unit);
     const HTREEITEM plant = plant_.InsertItem("Plant");
     for (const char* place : places)
         plant_.InsertItem(place, plant);
@@ -111,11 +119,10 @@ void CChannelDialog::PrepareTips() {
 BOOL CChannelDialog::PreTranslateMessage(MSG* message) {
     if (tips_.m_hWnd)
         tips_.RelayEvent(message);
-    return CDialog::PreTranslateMessage(message);
+    return actions_.FilterKey(message) || TurnPage(*message) || CDialog::PreTranslateMessage(message);
 }
 
-// -- Exchange of data
-// ---------------------------------------------------------------------------------------------------
+// -- Exchange of data -------------------------------------------------------------------------------------------------
 
 namespace {
 
@@ -133,19 +140,6 @@ void exchange_checks(CDataExchange* exchange, CCheckListBox& list, int& bits) {
         else
             bits = (bits & ~(1 << i)) | (list.GetCheck(i) ? 1 << i : 0);
     }
-}
-
-// The list shows the parts in their order; dragging changes it.
-void exchange_order(CDataExchange* exchange, CListBox& list, CString& order) {
-    if (!exchange->m_bSaveAndValidate) {
-        list.ResetContent();
-        for (int i = 0; i < order.GetLength(); ++i)
-            list.SetItemData(list.AddString(parts[order[i] - '0']), static_cast<DWORD_PTR>(order[i]));
-        return;
-    }
-    order.Empty();
-    for (int i = 0; i < list.GetCount(); ++i)
-        order += static_cast<char>(list.GetItemData(i));
 }
 
 void exchange_key(CDataExchange* exchange, CHotKeyCtrl& control, int& key) {
@@ -169,7 +163,14 @@ void CChannelDialog::JoinControls(CDataExchange* exchange) {
     const struct {
         int id;
         CWnd* control;
-    } controls[] = {{IDC_GAUGE, &gauge_},
+    } controls[] = {{IDC_ACTIONS, &actions_},
+                    {IDC_TABS, &tabs_},
+                    {IDC_TIPS_PAGE, &tip_page_},
+                    {IDC_READING, &reading_},
+                    {IDC_SIMULATION, &simulation_},
+                    {IDC_SASH, &sash_},
+                    {IDC_CHART, &chart_},
+                    {IDC_GAUGE, &gauge_},
                     {IDC_TREND, &trend_},
                     {IDC_AXIS, &axis_},
                     {IDC_RUN, &run_},
@@ -184,7 +185,6 @@ void CChannelDialog::JoinControls(CDataExchange* exchange) {
                     {IDC_DAMPING, &damping_},
                     {IDC_HOT_KEY, &hot_key_},
                     {IDC_TELL, &tell_},
-                    {IDC_ORDER, &order_},
                     {IDC_LAST, &last_},
                     {IDC_NEXT, &next_},
                     {IDC_RUNNING, &animation_},
@@ -195,6 +195,7 @@ void CChannelDialog::JoinControls(CDataExchange* exchange) {
                     {IDC_STATUS, &status_}};
     for (const auto& [id, control] : controls)
         DDX_Control(exchange, id, *control);
+    report_.Join(exchange);
 }
 
 void CChannelDialog::ExchangeChannel(CDataExchange* exchange) {
@@ -220,7 +221,7 @@ void CChannelDialog::ExchangeChannel(CDataExchange* exchange) {
     exchange_key(exchange, hot_key_, s.hot_key);
     DDX_LBString(exchange, IDC_PLACE, s.place);
     exchange_checks(exchange, tell_, s.told);
-    exchange_order(exchange, order_, s.order);
+    report_.ExchangeOrder(exchange, s.order);
 }
 
 void CChannelDialog::ExchangeLimits(CDataExchange* exchange) {

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "channel_report.h"
 #include "simulated_channel.h"
 
 #include <afxcmn.h>
 #include <afxdtctl.h>
+
+#include <vector>
 
 /// A button of the library that sends its parent a command, which it does not do by itself.
 class CCommandButton : public CWntButton {
@@ -33,6 +36,13 @@ protected:
     afx_msg void OnHScroll(UINT request, UINT position, CScrollBar* bar);
     afx_msg void OnPage(NMHDR* header, LRESULT* result);
     afx_msg void OnLast(NMHDR* header, LRESULT* result);
+    afx_msg void OnTab(NMHDR* header, LRESULT* result);
+    afx_msg void OnSash(NMHDR* header, LRESULT* result);
+    afx_msg void OnColumn(NMHDR* header, LRESULT* result);
+    afx_msg void OnInk();
+    afx_msg void OnInsertReading();
+    afx_msg void OnNextTip();
+    afx_msg void OnEdit(UINT command);
     afx_msg void OnDestroy();
     DECLARE_MESSAGE_MAP()
 
@@ -46,6 +56,13 @@ private:
     void PrepareRanges();
     void PrepareTips();
     void UpdateTexts();
+    void CollectPages();
+    void BuildPanes();
+    void BuildBars();
+    void ShowTabPage(int page);
+    void ShowPageOf(HWND control);
+    void PlacePages();
+    bool TurnPage(const MSG& message);
 
     void ShowSettings();
     void ShowZones(CWntGauge& gauge) const;
@@ -60,8 +77,16 @@ private:
     ChannelSettings entered_;  // what the controls show; some of it may be refused yet
     SimulatedChannel channel_;
     bool running_ = false;
-    int readings_ = 0;
+    int readings_ = 0, last_value_ = 0;
+    std::vector<HWND> tab_pages_[4]; // the controls of each
 
+    CWntToolBar actions_;
+    CWntTabs tabs_;
+    CWntFrame reading_;
+    CWntFrameEx simulation_;
+    CWntSash sash_;
+    CWntPulse chart_;
+    CWntTipPage tip_page_;
     CWntGauge gauge_, trend_;
     CWntAxis axis_;
     CCommandButton run_;
@@ -73,7 +98,7 @@ private:
     CScrollBar damping_;
     CHotKeyCtrl hot_key_;
     CCheckListBox tell_;
-    CDragListBox order_;
+    ChannelReport report_;
     CDateTimeCtrl last_;
     CMonthCalCtrl next_;
     CAnimateCtrl animation_;

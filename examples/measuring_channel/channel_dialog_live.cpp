@@ -3,6 +3,7 @@
 #include "resource.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -23,8 +24,10 @@ void load(CWntButton& button, std::initializer_list<const char*> lines) {
 
 // Measuring goes on meanwhile, with what was confirmed before.
 bool CChannelDialog::TakeOver() {
-    if (!UpdateData())
+    if (!UpdateData()) {
+        ShowPageOf(::GetFocus()); // where the refused one has it
         return false;
+    }
     settings_ = entered_;
     return true;
 }
@@ -69,6 +72,8 @@ void CChannelDialog::ShowSettings() {
     // A little more than the range: the last label is centred on its tick, too.
     axis_.SetRange(static_cast<float>(s.lower), s.upper + 0.06f * static_cast<float>(s.upper - s.lower));
     axis_.Invalidate();
+    chart_.RemoveCurves();
+    chart_.AddCurve(s.name.Left(16), RGB(0, 160, 60), s.lower, s.upper);
     plan_.SetShownDate(s.last_calibration);
     // The key that brings this window to the front from anywhere.
     SendMessage(WM_SETHOTKEY, static_cast<WPARAM>(s.hot_key));
@@ -92,8 +97,7 @@ CString CChannelDialog::ZoneOf(int value) const {
     return value > settings_.high_limit ? "too high" : "inside";
 }
 
-// -- Measuring
-// ----------------------------------------------------------------------------------------------------------
+// -- Measuring --------------------------------------------------------------------------------------------------------
 
 void CChannelDialog::OnRun() {
     Run(!running_);
@@ -104,7 +108,7 @@ void CChannelDialog::Run(bool running) {
     running_ = running;
     load(run_, {":TITLE=", running ? ":CLRBACK=GREEN" : ":CLRBACK=DARKGREEN", ":CLRSUN=WHITE", ":CLRSHADOW=DARKGRAY",
                 ":BORDERHEIGHT=3"});
-    SetDlgItemText(IDC_RUN_TEXT, running ? "Stop" : "Start");
+    simulation_.GetContent()->SetDlgItemText(IDC_RUN_TEXT, running ? "Stop" : "Start");
     if (running) {
         SetTimer(reading_timer, static_cast<UINT>(1000 / settings_.rate), nullptr);
         animation_.Play(0, static_cast<UINT>(-1), static_cast<UINT>(-1));
@@ -113,12 +117,15 @@ void CChannelDialog::Run(bool running) {
         animation_.Stop();
     }
     status_.SetText(running ? "Measuring" : "Stopped", 0, 0);
+    actions_.CheckItem(IDC_RUN, running);
+    chart_.SetLive(running);
 }
 
 void CChannelDialog::OnTimer(UINT_PTR) {
     const int value = channel_.Next(settings_);
     gauge_.SetCurVal(value);
     trend_.SetCurVal(value);
+    chart_.AddSample(0, value);
     if (readings_++ % settings_.rate == 0)
         Log(value);
 }
@@ -132,9 +139,10 @@ void CChannelDialog::Log(int value) {
     text.Format("%d %s", value, settings_.unit.GetString());
     log_.SetItemText(0, 2, text);
     log_.SetItemText(0, 3, ZoneOf(value));
+    report_.Tell({value, value - std::exchange(last_value_, value), ZoneOf(value), settings_.unit});
     if (log_.GetItemCount() > most_rows)
         log_.DeleteItem(most_rows);
-    filling_.SetPos(100 * log_.GetItemCount() / most_rows);
+    filling_.SetPos(log_.GetItemCount());
 }
 
 void CChannelDialog::OnDestroy() {
@@ -142,8 +150,7 @@ void CChannelDialog::OnDestroy() {
     CDialog::OnDestroy();
 }
 
-// -- Controls that have to be watched
-// -----------------------------------------------------------------------------------
+// -- Controls that have to be watched ---------------------------------------------------------------------------------
 
 void CChannelDialog::OnHScroll(UINT request, UINT position, CScrollBar* bar) {
     if (bar && bar->m_hWnd == damping_.m_hWnd) {

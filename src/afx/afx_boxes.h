@@ -48,6 +48,7 @@ public:
     void SetTabStops() { Ask(LB_SETTABSTOPS); }
     BOOL SetTabStops(const int& cxEachStop) { return Ask(LB_SETTABSTOPS, 1, afx_param(&cxEachStop)) != 0; }
     int InitStorage(int nItems, UINT nBytes) { return Ask(LB_INITSTORAGE, nItems, nBytes); }
+    DWORD GetListBoxInfo() const { return static_cast<DWORD>(SendMessage(LB_GETLISTBOXINFO)); }
     LCID GetLocale() const { return static_cast<LCID>(Ask(LB_GETLOCALE)); }
     LCID SetLocale(LCID nNewLocale) { return static_cast<LCID>(SendMessage(LB_SETLOCALE, nNewLocale)); }
     // The item nearest to a point of the client area.
@@ -135,6 +136,13 @@ public:
         pcbi->cbSize = sizeof(*pcbi);
         return ::GetComboBoxInfo(m_hWnd, pcbi);
     }
+    // These need version 6 of the common controls; FALSE, 0 or an empty text without it.
+    BOOL SetMinVisibleItems(int nMinVisibleItems) { return Ask(CB_SETMINVISIBLE, nMinVisibleItems); }
+    int GetMinVisible() const { return Ask(CB_GETMINVISIBLE); }
+    BOOL SetCueBanner(LPCTSTR lpszText);
+    CString GetCueBanner() const;
+    // FALSE, too, for a text that the room is too small for.
+    BOOL GetCueBanner(LPTSTR lpszText, int cchText) const;
 
     int AddString(LPCTSTR lpszString) { return Ask(CB_ADDSTRING, 0, afx_param(lpszString)); }
     int DeleteString(UINT nIndex) { return Ask(CB_DELETESTRING, static_cast<int>(nIndex)); }

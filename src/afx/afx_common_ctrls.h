@@ -10,6 +10,8 @@
     virtual BOOL CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);               \
     using CWnd::CreateEx;
 
+class CToolTipCtrl;
+
 class ZOPAFX_API CSliderCtrl : public CWnd {
     DECLARE_DYNAMIC(CSliderCtrl)
 
@@ -47,6 +49,8 @@ public:
             reinterpret_cast<HWND>(SendMessage(TBM_SETBUDDY, WPARAM(fLocation), afx_param(pWndBuddy->GetSafeHwnd()))));
     }
     int SetTipSide(int nLocation) { return Ask(TBM_SETTIPSIDE, nLocation); }
+    CToolTipCtrl* GetToolTips() const;
+    void SetToolTips(CToolTipCtrl* pWndTip);
     void ClearSel(BOOL bRedraw = FALSE) { Ask(TBM_CLEARSEL, bRedraw); }
     void VerifyPos() { SetPos(GetPos()); }
     void ClearTics(BOOL bRedraw = FALSE) { Ask(TBM_CLEARTICS, bRedraw); }
@@ -110,6 +114,16 @@ public:
     int StepIt() { return afx_int(SendMessage(PBM_STEPIT)); }
     COLORREF SetBkColor(COLORREF clrNew) { return COLORREF(SendMessage(PBM_SETBKCOLOR, 0, LPARAM(clrNew))); }
     COLORREF SetBarColor(COLORREF clrBar) { return COLORREF(SendMessage(PBM_SETBARCOLOR, 0, LPARAM(clrBar))); }
+    COLORREF GetBkColor() const { return COLORREF(SendMessage(PBM_GETBKCOLOR)); }
+    COLORREF GetBarColor() const { return COLORREF(SendMessage(PBM_GETBARCOLOR)); }
+    int GetStep() const { return afx_int(SendMessage(PBM_GETSTEP)); }
+    // PBST_NORMAL, PBST_ERROR or PBST_PAUSED.
+    int GetState() const { return afx_int(SendMessage(PBM_GETSTATE)); }
+    int SetState(int iState) { return afx_int(SendMessage(PBM_SETSTATE, WPARAM(iState))); }
+    // For a control with PBS_MARQUEE.
+    BOOL SetMarquee(BOOL fMarqueeMode, int nInterval) {
+        return afx_int(SendMessage(PBM_SETMARQUEE, WPARAM(fMarqueeMode), nInterval));
+    }
 };
 
 class ZOPAFX_API CHotKeyCtrl : public CWnd {
@@ -167,6 +181,26 @@ public:
     }
     BOOL SetOrderArray(int iCount, LPINT piArray) { return Ask(HDM_SETORDERARRAY, iCount, afx_param(piArray)); }
     int SetHotDivider(int nIndex) { return Ask(HDM_SETHOTDIVIDER, FALSE, nIndex); }
+    int SetHotDivider(CPoint pt) { return Ask(HDM_SETHOTDIVIDER, TRUE, MAKELPARAM(pt.x, pt.y)); }
+    int GetBitmapMargin() const { return Ask(HDM_GETBITMAPMARGIN); }
+    int SetBitmapMargin(int nWidth) { return Ask(HDM_SETBITMAPMARGIN, nWidth); }
+    int GetFocusedItem() const { return Ask(HDM_GETFOCUSEDITEM); }
+    BOOL SetFocusedItem(int iItem) { return Ask(HDM_SETFOCUSEDITEM, 0, iItem); }
+    BOOL GetItemDropDownRect(int iItem, LPRECT lpRect) const {
+        return Ask(HDM_GETITEMDROPDOWNRECT, iItem, afx_param(lpRect));
+    }
+    BOOL GetOverflowRect(LPRECT lpRect) const { return Ask(HDM_GETOVERFLOWRECT, 0, afx_param(lpRect)); }
+    // Filters of a control with HDS_FILTERBAR.
+    BOOL EditFilter(int nColumn, BOOL bDiscardChanges) {
+        return Ask(HDM_EDITFILTER, nColumn, MAKELPARAM(bDiscardChanges, 0));
+    }
+    BOOL ClearFilter(int nColumn) { return Ask(HDM_CLEARFILTER, nColumn); }
+    BOOL ClearAllFilters() { return ClearFilter(-1); }
+    int SetFilterChangeTimeout(DWORD dwTimeOut) { return Ask(HDM_SETFILTERCHANGETIMEOUT, 0, LPARAM(dwTimeOut)); }
+    // A temporary object for dragging the item's picture; the list is the caller's to delete.
+    CImageList* CreateDragImage(int nIndex) {
+        return CImageList::FromHandle(reinterpret_cast<HIMAGELIST>(SendMessage(HDM_CREATEDRAGIMAGE, WPARAM(nIndex))));
+    }
     CImageList* GetImageList() const {
         return CImageList::FromHandle(reinterpret_cast<HIMAGELIST>(SendMessage(HDM_GETIMAGELIST)));
     }
@@ -184,8 +218,6 @@ private:
         return afx_int(SendMessage(message, static_cast<WPARAM>(wParam), lParam));
     }
 };
-
-class CToolTipCtrl;
 
 class ZOPAFX_API CTabCtrl : public CWnd {
     DECLARE_DYNAMIC(CTabCtrl)
@@ -241,6 +273,8 @@ public:
     }
     void DeselectAll(BOOL fExcludeFocus) { Ask(TCM_DESELECTALL, fExcludeFocus); }
     void RemoveImage(int nImage) { Ask(TCM_REMOVEIMAGE, nImage); }
+    // Bytes of the program's own for every tab, behind the TCITEMHEADER; before the first tab is inserted.
+    BOOL SetItemExtra(int nBytes) { return Ask(TCM_SETITEMEXTRA, nBytes); }
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
 
 protected:
@@ -251,6 +285,12 @@ private:
     int Ask(UINT message, int wParam = 0, LPARAM lParam = 0) const {
         return afx_int(SendMessage(message, static_cast<WPARAM>(wParam), lParam));
     }
+};
+
+// What a tip knows of a tool; its text is cut where it is longer.
+class CToolInfo : public TOOLINFO {
+public:
+    TCHAR szText[256];
 };
 
 // A tool is a window, or with an id other than 0 a rectangle of one. Its owner passes the messages on by RelayEvent.
@@ -288,6 +328,30 @@ public:
     COLORREF GetTipTextColor() const { return COLORREF(SendMessage(TTM_GETTIPTEXTCOLOR)); }
     void SetTipTextColor(COLORREF clr) { SendMessage(TTM_SETTIPTEXTCOLOR, clr); }
     void FillInToolInfo(TOOLINFO& ti, CWnd* pWnd, UINT_PTR nIDTool) const;
+    BOOL GetToolInfo(CToolInfo& ToolInfo, CWnd* pWnd, UINT_PTR nIDTool = 0) const;
+    void SetToolInfo(LPTOOLINFO lpToolInfo) { SendMessage(TTM_SETTOOLINFO, 0, afx_param(lpToolInfo)); }
+    // Of the tool whose tip is shown; the record's text, where it has one, is the caller's room of 1024 characters.
+    BOOL GetCurrentTool(LPTOOLINFO lpToolInfo) const {
+        return afx_int(SendMessage(TTM_GETCURRENTTOOL, 0, afx_param(lpToolInfo)));
+    }
+    CSize GetBubbleSize(LPTOOLINFO lpToolInfo) const {
+        return CSize(static_cast<DWORD>(SendMessage(TTM_GETBUBBLESIZE, 0, afx_param(lpToolInfo))));
+    }
+    BOOL AdjustRect(LPRECT lprc, BOOL bLarger = TRUE) {
+        return afx_int(SendMessage(TTM_ADJUSTRECT, WPARAM(bLarger), afx_param(lprc)));
+    }
+    // An icon, TTI_NONE for none, and a title above the text.
+    BOOL SetTitle(UINT uIcon, LPCTSTR lpstrTitle) {
+        return afx_int(SendMessage(TTM_SETTITLE, uIcon, afx_param(lpstrTitle)));
+    }
+    void GetTitle(PTTGETTITLE pttgt) const {
+        pttgt->dwSize = sizeof(*pttgt);
+        SendMessage(TTM_GETTITLE, 0, afx_param(pttgt));
+    }
+    void Popup() { SendMessage(TTM_POPUP); }
+    HRESULT SetWindowTheme(LPCWSTR pszSubAppName) {
+        return static_cast<HRESULT>(SendMessage(TTM_SETWINDOWTHEME, 0, afx_param(pszSubAppName)));
+    }
 
 protected:
     afx_msg LRESULT OnWindowFromPoint(WPARAM wParam, LPARAM lParam);
@@ -322,6 +386,7 @@ public:
     HICON GetIcon(int iPart) const { return reinterpret_cast<HICON>(SendMessage(SB_GETICON, WPARAM(iPart))); }
     BOOL SetIcon(int nPane, HICON hIcon) { return afx_int(SendMessage(SB_SETICON, WPARAM(nPane), afx_param(hIcon))); }
     void SetTipText(int nPane, LPCTSTR pszTipText) { SendMessage(SB_SETTIPTEXT, WPARAM(nPane), afx_param(pszTipText)); }
+    CString GetTipText(int nPane) const;
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
 
 protected:

@@ -4,6 +4,8 @@
 
 #include "afx_wnd.h"
 
+class CImageList;
+
 inline int afx_int(LRESULT result) {
     return static_cast<int>(result);
 }
@@ -61,10 +63,40 @@ public:
     }
     HCURSOR GetCursor() { return reinterpret_cast<HCURSOR>(SendMessage(BM_GETIMAGE, IMAGE_CURSOR)); }
     void Click() { SendMessage(BM_CLICK); }
+
+    // These need version 6 of the common controls, which a program's manifest asks for; FALSE or 0 without it.
+    BOOL GetIdealSize(LPSIZE psize) const { return Tell(BCM_GETIDEALSIZE, psize); }
+    BOOL GetImageList(PBUTTON_IMAGELIST pbuttonImagelist) const { return Tell(BCM_GETIMAGELIST, pbuttonImagelist); }
+    BOOL SetImageList(PBUTTON_IMAGELIST pbuttonImagelist) { return Tell(BCM_SETIMAGELIST, pbuttonImagelist); }
+    BOOL GetTextMargin(RECT* pmargin) const { return Tell(BCM_GETTEXTMARGIN, pmargin); }
+    BOOL SetTextMargin(RECT* pmargin) { return Tell(BCM_SETTEXTMARGIN, pmargin); }
+    BOOL SetElevationRequired(BOOL fElevationRequired) { return Tell(BCM_SETSHIELD, fElevationRequired); }
+    // Of command links. A note that the room is too small for is refused, and the room that it wants is told.
+    BOOL SetNote(LPCTSTR lpszNote);
+    CString GetNote() const;
+    BOOL GetNote(LPTSTR lpszNote, UINT* cchNote) const;
+    UINT GetNoteLength() const { return static_cast<UINT>(SendMessage(BCM_GETNOTELENGTH)); }
+    // Of split buttons.
+    BOOL SetDropDownState(BOOL fDropDown) { return afx_int(SendMessage(BCM_SETDROPDOWNSTATE, WPARAM(fDropDown))); }
+    BOOL GetSplitInfo(PBUTTON_SPLITINFO pInfo) const { return Tell(BCM_GETSPLITINFO, pInfo); }
+    BOOL SetSplitInfo(PBUTTON_SPLITINFO pInfo) { return Tell(BCM_SETSPLITINFO, pInfo); }
+    TCHAR GetSplitGlyph() const;
+    BOOL SetSplitGlyph(TCHAR chGlyph);
+    CImageList* GetSplitImageList() const;
+    BOOL SetSplitImageList(CImageList* pSplitImageList);
+    UINT GetSplitStyle() const { return Split(BCSIF_STYLE).uSplitStyle; }
+    BOOL SetSplitStyle(UINT uSplitStyle);
+    BOOL GetSplitSize(LPSIZE pSize) const;
+    BOOL SetSplitSize(LPSIZE pSize);
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
 
 protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
+
+private:
+    BOOL Tell(UINT message, const void* record) const { return afx_int(SendMessage(message, 0, afx_param(record))); }
+    BOOL Tell(UINT message, BOOL flag) const { return afx_int(SendMessage(message, 0, flag)); }
+    BUTTON_SPLITINFO Split(UINT mask) const;
 };
 
 // Shows bitmaps for its states: up, and where they are given, pushed, with the focus, disabled.
@@ -155,6 +187,22 @@ public:
     }
     void SetTabStops() { SendMessage(EM_SETTABSTOPS); }
     BOOL SetTabStops(const int& cxEachStop) { return SendMessage(EM_SETTABSTOPS, 1, afx_param(&cxEachStop)) != 0; }
+    // Shown in an empty control; the balloon stands at the caret. Version 6 of the common controls; FALSE without it.
+    BOOL SetCueBanner(LPCWSTR lpszText, BOOL fDrawIfFocused = FALSE) {
+        return afx_int(SendMessage(EM_SETCUEBANNER, WPARAM(fDrawIfFocused), afx_param(lpszText)));
+    }
+    BOOL GetCueBanner(LPWSTR lpszText, int cchText) const {
+        return afx_int(SendMessage(EM_GETCUEBANNER, reinterpret_cast<WPARAM>(lpszText), cchText));
+    }
+    CString GetCueBanner() const;
+    BOOL ShowBalloonTip(PEDITBALLOONTIP pEditBalloonTip) {
+        return afx_int(SendMessage(EM_SHOWBALLOONTIP, 0, afx_param(pEditBalloonTip)));
+    }
+    BOOL ShowBalloonTip(LPCWSTR lpszTitle, LPCWSTR lpszText, INT ttiIcon = TTI_NONE) {
+        EDITBALLOONTIP balloon{sizeof(balloon), lpszTitle, lpszText, ttiIcon};
+        return ShowBalloonTip(&balloon);
+    }
+    BOOL HideBalloonTip() { return afx_int(SendMessage(EM_HIDEBALLOONTIP)); }
     CPoint PosFromChar(UINT nChar) const { return CPoint(SendMessage(EM_POSFROMCHAR, nChar)); }
     int CharFromPos(CPoint pt) const { return afx_int(SendMessage(EM_CHARFROMPOS, 0, MAKELPARAM(pt.x, pt.y))); }
     void Clear() { SendMessage(WM_CLEAR); }
@@ -184,4 +232,8 @@ public:
         return CWnd::GetScrollInfo(SB_CTL, lpScrollInfo, nMask);
     }
     int GetScrollLimit() { return CWnd::GetScrollLimit(SB_CTL); }
+    BOOL GetScrollBarInfo(PSCROLLBARINFO pScrollInfo) const {
+        pScrollInfo->cbSize = sizeof(*pScrollInfo);
+        return afx_int(SendMessage(SBM_GETSCROLLBARINFO, 0, afx_param(pScrollInfo)));
+    }
 };

@@ -25,6 +25,9 @@ public:
     DWORD SetExtendedStyle(DWORD dwExMask, DWORD dwExStyles) {
         return static_cast<DWORD>(SendMessage(CBEM_SETEXTENDEDSTYLE, dwExMask, LPARAM(dwExStyles)));
     }
+    HRESULT SetWindowTheme(LPCWSTR pszSubAppName) {
+        return static_cast<HRESULT>(SendMessage(CBEM_SETWINDOWTHEME, 0, afx_param(pszSubAppName)));
+    }
     BOOL HasEditChanged() { return afx_int(SendMessage(CBEM_HASEDITCHANGED)); }
     CEdit* GetEditCtrl();
     CComboBox* GetComboBoxCtrl();

@@ -43,6 +43,19 @@ public:
         return static_cast<DWORD>(SendMessage(LVM_SETEXTENDEDLISTVIEWSTYLE, 0, static_cast<LPARAM>(dwNewStyle)));
     }
 
+    // Which states the program keeps itself: LVIS_ values.
+    UINT GetCallbackMask() const { return static_cast<UINT>(Ask(LVM_GETCALLBACKMASK)); }
+    BOOL SetCallbackMask(UINT nMask) { return Ask(LVM_SETCALLBACKMASK, static_cast<int>(nMask)); }
+    COLORREF GetOutlineColor() const { return static_cast<COLORREF>(SendMessage(LVM_GETOUTLINECOLOR)); }
+    COLORREF SetOutlineColor(COLORREF color) {
+        return static_cast<COLORREF>(SendMessage(LVM_SETOUTLINECOLOR, 0, static_cast<LPARAM>(color)));
+    }
+    CToolTipCtrl* GetToolTips() const;
+    CToolTipCtrl* SetToolTips(CToolTipCtrl* pWndTip);
+    BOOL SetInfoTip(PLVSETINFOTIP plvInfoTip) { return Ask(LVM_SETINFOTIP, 0, afx_param(plvInfoTip)); }
+    // What an empty control shows.
+    CString GetEmptyText() const;
+
     int GetItemCount() const { return Ask(LVM_GETITEMCOUNT); }
     void SetItemCount(int nItems) { Ask(LVM_SETITEMCOUNT, nItems); }
     BOOL SetItemCountEx(int iCount, DWORD dwFlags = LVSICF_NOINVALIDATEALL) {
@@ -100,6 +113,21 @@ public:
         return SendMessage(LVM_SORTITEMS, dwData, reinterpret_cast<LPARAM>(pfnCompare)) != 0;
     }
 
+    // The function is given the items' indices.
+    BOOL SortItemsEx(PFNLVCOMPARE pfnCompare, DWORD_PTR dwData) {
+        return SendMessage(LVM_SORTITEMSEX, dwData, reinterpret_cast<LPARAM>(pfnCompare)) != 0;
+    }
+    // A number that stays with an item while its index changes.
+    UINT MapIndexToID(UINT index) const { return static_cast<UINT>(SendMessage(LVM_MAPINDEXTOID, index)); }
+    UINT MapIDToIndex(UINT id) const { return static_cast<UINT>(SendMessage(LVM_MAPIDTOINDEX, id)); }
+    BOOL IsItemVisible(int index) const { return Ask(LVM_ISITEMVISIBLE, index); }
+    // An item of a group.
+    BOOL GetNextItemIndex(PLVITEMINDEX pItemIndex, int nFlags) const;
+    BOOL SetItemIndexState(PLVITEMINDEX pItemIndex, DWORD dwState, DWORD dwMask) const;
+    BOOL GetItemIndexRect(PLVITEMINDEX pItemIndex, int iColumn, int rectType, LPRECT pRect) const;
+
+    UINT GetSelectedColumn() const { return static_cast<UINT>(SendMessage(LVM_GETSELECTEDCOLUMN)); }
+    LRESULT SetSelectedColumn(int iCol) { return SendMessage(LVM_SETSELECTEDCOLUMN, WPARAM(iCol)); }
     BOOL GetColumn(int nCol, LVCOLUMN* pColumn) const { return Ask(LVM_GETCOLUMN, nCol, afx_param(pColumn)); }
     BOOL SetColumn(int nCol, const LVCOLUMN* pColumn) { return Ask(LVM_SETCOLUMN, nCol, afx_param(pColumn)); }
     int InsertColumn(int nCol, const LVCOLUMN* pColumn) { return Ask(LVM_INSERTCOLUMN, nCol, afx_param(pColumn)); }
@@ -138,8 +166,60 @@ public:
     }
     DWORD SetView(int nView) { return static_cast<DWORD>(SendMessage(LVM_SETVIEW, WPARAM(nView))); }
     DWORD GetView() const { return static_cast<DWORD>(SendMessage(LVM_GETVIEW)); }
+    BOOL GetItemSpacing(BOOL fSmall, int* pnHorzSpacing, int* pnVertSpacing) const;
+    BOOL GetTileInfo(PLVTILEINFO plvti) const { return Ask(LVM_GETTILEINFO, 0, afx_param(plvti)); }
+    BOOL SetTileInfo(PLVTILEINFO pTileInfo) { return Ask(LVM_SETTILEINFO, 0, afx_param(pTileInfo)); }
+    BOOL GetTileViewInfo(PLVTILEVIEWINFO ptvi) const { return Ask(LVM_GETTILEVIEWINFO, 0, afx_param(ptvi)); }
+    BOOL SetTileViewInfo(PLVTILEVIEWINFO ptvi) { return Ask(LVM_SETTILEVIEWINFO, 0, afx_param(ptvi)); }
+    // Parts of the view that icons are arranged in.
+    void SetWorkAreas(int nWorkAreas, LPRECT lpRect) { Ask(LVM_SETWORKAREAS, nWorkAreas, afx_param(lpRect)); }
+    void GetWorkAreas(int nWorkAreas, LPRECT pRect) const { Ask(LVM_GETWORKAREAS, nWorkAreas, afx_param(pRect)); }
+    UINT GetNumberOfWorkAreas() const;
+    // The mark shows where a dragged item would go.
+    BOOL GetInsertMark(LPLVINSERTMARK plvim) const { return Ask(LVM_GETINSERTMARK, 0, afx_param(plvim)); }
+    BOOL SetInsertMark(LPLVINSERTMARK plvim) { return Ask(LVM_SETINSERTMARK, 0, afx_param(plvim)); }
+    int GetInsertMarkRect(LPRECT pRect) const { return Ask(LVM_GETINSERTMARKRECT, 0, afx_param(pRect)); }
+    COLORREF GetInsertMarkColor() const { return static_cast<COLORREF>(SendMessage(LVM_GETINSERTMARKCOLOR)); }
+    COLORREF SetInsertMarkColor(COLORREF color) {
+        return static_cast<COLORREF>(SendMessage(LVM_SETINSERTMARKCOLOR, 0, static_cast<LPARAM>(color)));
+    }
+    int InsertMarkHitTest(LPPOINT pPoint, LPLVINSERTMARK plvim) const {
+        return afx_int(SendMessage(LVM_INSERTMARKHITTEST, reinterpret_cast<WPARAM>(pPoint), afx_param(plvim)));
+    }
+
+    // Groups of items, whose records hold wide texts. They need version 6 of the common controls, which a program's
+    // manifest asks for.
+    LRESULT EnableGroupView(BOOL fEnable) { return SendMessage(LVM_ENABLEGROUPVIEW, WPARAM(fEnable)); }
+    BOOL IsGroupViewEnabled() const { return Ask(LVM_ISGROUPVIEWENABLED); }
+    LRESULT InsertGroup(int index, PLVGROUP pgrp) {
+        return SendMessage(LVM_INSERTGROUP, WPARAM(index), afx_param(pgrp));
+    }
+    LRESULT InsertGroupSorted(PLVINSERTGROUPSORTED pStructInsert) {
+        return SendMessage(LVM_INSERTGROUPSORTED, reinterpret_cast<WPARAM>(pStructInsert));
+    }
+    LRESULT RemoveGroup(int iGroupId) { return SendMessage(LVM_REMOVEGROUP, WPARAM(iGroupId)); }
+    void RemoveAllGroups() { SendMessage(LVM_REMOVEALLGROUPS); }
+    LRESULT MoveGroup(int iGroupId, int toIndex) { return SendMessage(LVM_MOVEGROUP, WPARAM(iGroupId), toIndex); }
+    BOOL SortGroups(PFNLVGROUPCOMPARE pfnGroupCompare, LPVOID plv) {
+        return afx_int(SendMessage(LVM_SORTGROUPS, reinterpret_cast<WPARAM>(pfnGroupCompare), afx_param(plv)));
+    }
+    BOOL HasGroup(int iGroupId) const { return Ask(LVM_HASGROUP, iGroupId); }
+    int GetGroupCount() const { return Ask(LVM_GETGROUPCOUNT); }
+    int GetFocusedGroup() const { return Ask(LVM_GETFOCUSEDGROUP); }
+    int GetGroupInfo(int iGroupId, PLVGROUP pgrp) const { return Ask(LVM_GETGROUPINFO, iGroupId, afx_param(pgrp)); }
+    int SetGroupInfo(int iGroupId, PLVGROUP pgrp) { return Ask(LVM_SETGROUPINFO, iGroupId, afx_param(pgrp)); }
+    BOOL GetGroupInfoByIndex(int iIndex, PLVGROUP pGroup) const {
+        return Ask(LVM_GETGROUPINFOBYINDEX, iIndex, afx_param(pGroup));
+    }
+    UINT GetGroupState(int iGroupId, DWORD dwMask) const {
+        return static_cast<UINT>(Ask(LVM_GETGROUPSTATE, iGroupId, static_cast<LPARAM>(dwMask)));
+    }
+    BOOL GetGroupRect(int iGroupId, LPRECT lpRect, int iCoords = LVGGR_GROUP) const;
+    void GetGroupMetrics(PLVGROUPMETRICS pGroupMetrics) const { Ask(LVM_GETGROUPMETRICS, 0, afx_param(pGroupMetrics)); }
+    void SetGroupMetrics(PLVGROUPMETRICS pGroupMetrics) { Ask(LVM_SETGROUPMETRICS, 0, afx_param(pGroupMetrics)); }
 
     CEdit* EditLabel(int nItem);
+    void CancelEditLabel() { SendMessage(LVM_CANCELEDITLABEL); }
     CEdit* GetEditControl() const;
     BOOL EnsureVisible(int nItem, BOOL bPartialOK) { return Ask(LVM_ENSUREVISIBLE, nItem, MAKELPARAM(bPartialOK, 0)); }
     BOOL Scroll(CSize size) { return Ask(LVM_SCROLL, size.cx, size.cy); }
@@ -193,8 +273,23 @@ public:
     COLORREF SetInsertMarkColor(COLORREF clr) {
         return static_cast<COLORREF>(SendMessage(TVM_SETINSERTMARKCOLOR, 0, LPARAM(clr)));
     }
+    COLORREF GetInsertMarkColor() const { return static_cast<COLORREF>(SendMessage(TVM_GETINSERTMARKCOLOR)); }
     BOOL SetInsertMark(HTREEITEM hItem, BOOL fAfter = TRUE) {
         return afx_int(SendMessage(TVM_SETINSERTMARK, WPARAM(fAfter), afx_param(hItem)));
+    }
+    // CLR_DEFAULT for the system's.
+    COLORREF GetLineColor() const { return static_cast<COLORREF>(SendMessage(TVM_GETLINECOLOR)); }
+    COLORREF SetLineColor(COLORREF clrNew = CLR_DEFAULT) {
+        return static_cast<COLORREF>(SendMessage(TVM_SETLINECOLOR, 0, LPARAM(clrNew)));
+    }
+    UINT GetScrollTime() const { return static_cast<UINT>(SendMessage(TVM_GETSCROLLTIME)); }
+    UINT SetScrollTime(UINT uScrollTime) { return static_cast<UINT>(SendMessage(TVM_SETSCROLLTIME, uScrollTime)); }
+    BOOL SetAutoscrollInfo(UINT uPixelsPerSec, UINT uUpdateTime) {
+        return afx_int(SendMessage(TVM_SETAUTOSCROLLINFO, uPixelsPerSec, static_cast<LPARAM>(uUpdateTime)));
+    }
+    DWORD GetExtendedStyle() const { return static_cast<DWORD>(SendMessage(TVM_GETEXTENDEDSTYLE)); }
+    DWORD SetExtendedStyle(DWORD dwExMask, DWORD dwExStyles) {
+        return static_cast<DWORD>(SendMessage(TVM_SETEXTENDEDSTYLE, dwExMask, static_cast<LPARAM>(dwExStyles)));
     }
     SHORT GetItemHeight() const { return static_cast<SHORT>(SendMessage(TVM_GETITEMHEIGHT)); }
     SHORT SetItemHeight(SHORT cyHeight) { return static_cast<SHORT>(SendMessage(TVM_SETITEMHEIGHT, WPARAM(cyHeight))); }
@@ -214,11 +309,28 @@ public:
     HTREEITEM GetDropHilightItem() const { return GetNextItem(nullptr, TVGN_DROPHILITE); }
     HTREEITEM GetRootItem() const { return GetNextItem(nullptr, TVGN_ROOT); }
     UINT GetVisibleCount() const { return static_cast<UINT>(SendMessage(TVM_GETVISIBLECOUNT)); }
+    UINT GetSelectedCount() const { return static_cast<UINT>(SendMessage(TVM_GETSELECTEDCOUNT)); }
+    UINT MapItemToAccID(HTREEITEM hItem) const {
+        return static_cast<UINT>(SendMessage(TVM_MAPHTREEITEMTOACCID, reinterpret_cast<WPARAM>(hItem)));
+    }
+    HTREEITEM MapAccIdToItem(UINT uAccId) const {
+        return reinterpret_cast<HTREEITEM>(SendMessage(TVM_MAPACCIDTOHTREEITEM, uAccId));
+    }
 
     BOOL GetItem(TVITEM* pItem) const { return Ask(TVM_GETITEM, pItem); }
     BOOL SetItem(TVITEM* pItem) { return Ask(TVM_SETITEM, pItem); }
     BOOL SetItem(HTREEITEM hItem, UINT nMask, LPCTSTR lpszItem, int nImage, int nSelectedImage, UINT nState,
                  UINT nStateMask, LPARAM lParam);
+    BOOL SetItemEx(HTREEITEM hItem, UINT nMask, LPCTSTR lpszItem, int nImage, int nSelectedImage, UINT nState,
+                   UINT nStateMask, LPARAM lParam, UINT uStateEx, HWND hWnd, int iExpandedImage);
+    UINT GetItemStateEx(HTREEITEM hItem) const;
+    BOOL SetItemStateEx(HTREEITEM hItem, UINT uStateEx) {
+        return SetItemEx(hItem, TVIF_STATEEX, nullptr, 0, 0, 0, 0, 0, uStateEx, nullptr, 0);
+    }
+    int GetItemExpandedImageIndex(HTREEITEM hItem) const;
+    BOOL SetItemExpandedImageIndex(HTREEITEM hItem, int iExpandedImage) {
+        return SetItemEx(hItem, TVIF_EXPANDEDIMAGE, nullptr, 0, 0, 0, 0, 0, 0, nullptr, iExpandedImage);
+    }
     HTREEITEM InsertItem(LPTVINSERTSTRUCT lpInsertStruct) {
         return reinterpret_cast<HTREEITEM>(SendMessage(TVM_INSERTITEM, 0, afx_param(lpInsertStruct)));
     }
@@ -252,6 +364,7 @@ public:
     BOOL SetCheck(HTREEITEM hItem, BOOL fCheck = TRUE);
     BOOL ItemHasChildren(HTREEITEM hItem) const;
     BOOL GetItemRect(HTREEITEM hItem, LPRECT lpRect, BOOL bTextOnly) const;
+    BOOL GetItemPartRect(HTREEITEM hItem, TVITEMPART nPart, LPRECT lpRect);
     HTREEITEM HitTest(TVHITTESTINFO* pHitTestInfo) const {
         return reinterpret_cast<HTREEITEM>(SendMessage(TVM_HITTEST, 0, afx_param(pHitTestInfo)));
     }
@@ -266,6 +379,10 @@ public:
     BOOL SortChildren(HTREEITEM hItem) { return Ask(TVM_SORTCHILDREN, hItem); }
     BOOL SortChildrenCB(LPTVSORTCB pSort) { return Ask(TVM_SORTCHILDRENCB, pSort); }
     CEdit* EditLabel(HTREEITEM hItem);
+    BOOL EndEditLabelNow(BOOL fCancelWithoutSave) {
+        return afx_int(SendMessage(TVM_ENDEDITLABELNOW, WPARAM(fCancelWithoutSave)));
+    }
+    void ShowInfoTip(HTREEITEM hItem) { SendMessage(TVM_SHOWINFOTIP, 0, afx_param(hItem)); }
     CEdit* GetEditControl() const;
     CToolTipCtrl* GetToolTips() const;
     CToolTipCtrl* SetToolTips(CToolTipCtrl* pWndTip);

@@ -4,6 +4,10 @@
 #include "afx_frame.h"
 #include "afx_image_list.h"
 
+#include <uxtheme.h>
+
+class CToolTipCtrl;
+
 // An operation sends the message of its name.
 class ZOPAFX_API CReBarCtrl : public CWnd {
     DECLARE_DYNAMIC(CReBarCtrl)
@@ -31,6 +35,41 @@ public:
     BOOL SizeToRect(CRect& rect) { return Ask(RB_SIZETORECT, 0, &rect); }
     void MinimizeBand(UINT uBand) { SendMessage(RB_MINIMIZEBAND, uBand); }
     void MaximizeBand(UINT uBand) { SendMessage(RB_MAXIMIZEBAND, uBand); }
+    // To the ideal size of the band's record.
+    void RestoreBand(UINT uBand) { SendMessage(RB_MAXIMIZEBAND, uBand, TRUE); }
+    BOOL SetBandWidth(UINT uBand, int cxWidth) { return SendMessage(RB_SETBANDWIDTH, uBand, cxWidth) != 0; }
+    void GetBandBorders(UINT uBand, LPRECT prc) const { Ask(RB_GETBANDBORDERS, uBand, prc); }
+    void GetBandMargins(PMARGINS pMargins) { Ask(RB_GETBANDMARGINS, 0, pMargins); }
+    void PushChevron(UINT uBand, LPARAM lAppValue) { SendMessage(RB_PUSHCHEVRON, uBand, lAppValue); }
+    // Dragging by the program: positions as the mouse's messages have them, -1 for where it is.
+    void BeginDrag(UINT uBand, DWORD dwPos = static_cast<DWORD>(-1)) {
+        SendMessage(RB_BEGINDRAG, uBand, static_cast<LPARAM>(dwPos));
+    }
+    void DragMove(DWORD dwPos = static_cast<DWORD>(-1)) { SendMessage(RB_DRAGMOVE, 0, static_cast<LPARAM>(dwPos)); }
+    void EndDrag() { SendMessage(RB_ENDDRAG); }
+    // Who is told what the user does; the one before.
+    CWnd* SetOwner(CWnd* pWnd) {
+        return FromHandle(
+            reinterpret_cast<HWND>(SendMessage(RB_SETPARENT, reinterpret_cast<WPARAM>(pWnd->GetSafeHwnd()))));
+    }
+    CToolTipCtrl* GetToolTips() const;
+    void SetToolTips(CToolTipCtrl* pToolTip);
+    CPalette* GetPalette() const {
+        return CPalette::FromHandle(reinterpret_cast<HPALETTE>(SendMessage(RB_GETPALETTE)));
+    }
+    CPalette* SetPalette(HPALETTE hPal) {
+        return CPalette::FromHandle(
+            reinterpret_cast<HPALETTE>(SendMessage(RB_SETPALETTE, 0, reinterpret_cast<LPARAM>(hPal))));
+    }
+    DWORD GetExtendedStyle() const { return static_cast<DWORD>(SendMessage(RB_GETEXTENDEDSTYLE)); }
+    DWORD SetExtendedStyle(DWORD dwMask, DWORD dwStyleEx) {
+        return static_cast<DWORD>(SendMessage(RB_SETEXTENDEDSTYLE, dwMask, static_cast<LPARAM>(dwStyleEx)));
+    }
+    BOOL GetColorScheme(COLORSCHEME* lpcs) const;
+    void SetColorScheme(const COLORSCHEME* lpcs);
+    HRESULT SetWindowTheme(LPCWSTR pszSubAppName) {
+        return static_cast<HRESULT>(SendMessage(RB_SETWINDOWTHEME, 0, reinterpret_cast<LPARAM>(pszSubAppName)));
+    }
     COLORREF GetBkColor() const { return static_cast<COLORREF>(SendMessage(RB_GETBKCOLOR)); }
     COLORREF SetBkColor(COLORREF clr) { return static_cast<COLORREF>(SendMessage(RB_SETBKCOLOR, 0, clr)); }
     COLORREF GetTextColor() const { return static_cast<COLORREF>(SendMessage(RB_GETTEXTCOLOR)); }

@@ -27,6 +27,14 @@ public:
     // Without a terminator; at most nMaxLength characters.
     int GetLine(int nIndex, LPTSTR lpszBuffer, int nMaxLength) const;
     long GetTextLength() const { return static_cast<long>(SendMessage(WM_GETTEXTLENGTH)); }
+    // By a unit and an accuracy: GTL_ values.
+    long GetTextLengthEx(DWORD dwFlags, UINT uCodePage = static_cast<UINT>(-1)) const {
+        GETTEXTLENGTHEX how{dwFlags, uCodePage == static_cast<UINT>(-1) ? UINT{CP_ACP} : uCodePage};
+        return static_cast<long>(SendMessage(EM_GETTEXTLENGTHEX, reinterpret_cast<WPARAM>(&how)));
+    }
+    DWORD FindWordBreak(UINT nCode, DWORD nStart) const {
+        return static_cast<DWORD>(SendMessage(EM_FINDWORDBREAK, nCode, static_cast<LPARAM>(nStart)));
+    }
     int GetTextRange(int nFirst, int nLast, CString& refString) const;
     void GetSel(long& nStartChar, long& nEndChar) const;
     void GetSel(CHARRANGE& cr) const { SendMessage(EM_EXGETSEL, 0, afx_param(&cr)); }
@@ -42,6 +50,7 @@ public:
         return static_cast<long>(SendMessage(EM_FINDTEXTEX, dwFlags, afx_param(pFindText)));
     }
     CPoint GetCharPos(long lChar) const;
+    CPoint PosFromChar(UINT nChar) const { return GetCharPos(static_cast<long>(nChar)); }
     int CharFromPos(CPoint pt) const;
     void LimitText(long nChars = 0) { SendMessage(EM_EXLIMITTEXT, 0, nChars); }
     long GetLimitText() const { return static_cast<long>(SendMessage(EM_GETLIMITTEXT)); }
@@ -71,7 +80,12 @@ public:
         return static_cast<DWORD>(SendMessage(EM_SETEVENTMASK, 0, static_cast<LPARAM>(dwEventMask)));
     }
     DWORD GetEventMask() const { return static_cast<DWORD>(SendMessage(EM_GETEVENTMASK)); }
+    DWORD GetOptions() const { return static_cast<DWORD>(SendMessage(EM_GETOPTIONS)); }
     void SetOptions(WORD wOp, DWORD dwFlags) { SendMessage(EM_SETOPTIONS, wOp, static_cast<LPARAM>(dwFlags)); }
+    // TM_ values; an empty control only takes others.
+    UINT GetTextMode() const { return static_cast<UINT>(Ask(EM_GETTEXTMODE)); }
+    BOOL SetTextMode(UINT fMode) { return Ask(EM_SETTEXTMODE, static_cast<int>(fMode)); }
+    BOOL SetAutoURLDetect(BOOL bEnable = TRUE) { return Ask(EM_AUTOURLDETECT, bEnable); }
     void GetRect(LPRECT lpRect) const { SendMessage(EM_GETRECT, 0, afx_param(lpRect)); }
     void SetRect(LPCRECT lpRect) { SendMessage(EM_SETRECT, 0, afx_param(lpRect)); }
     void RequestResize() { SendMessage(EM_REQUESTRESIZE); }
@@ -81,6 +95,11 @@ public:
     BOOL CanRedo() const { return Ask(EM_CANREDO); }
     BOOL Redo() { return Ask(EM_REDO); }
     void EmptyUndoBuffer() { SendMessage(EM_EMPTYUNDOBUFFER); }
+    // What undoing or redoing would change.
+    UNDONAMEID GetUndoName() const { return static_cast<UNDONAMEID>(Ask(EM_GETUNDONAME)); }
+    UNDONAMEID GetRedoName() const { return static_cast<UNDONAMEID>(Ask(EM_GETREDONAME)); }
+    UINT SetUndoLimit(UINT nLimit) { return static_cast<UINT>(SendMessage(EM_SETUNDOLIMIT, nLimit)); }
+    void StopGroupTyping() { SendMessage(EM_STOPGROUPTYPING); }
     BOOL CanPaste(UINT nFormat = 0) const { return Ask(EM_CANPASTE, static_cast<int>(nFormat)); }
     void PasteSpecial(UINT nClipFormat, DWORD dvAspect = 0, HMETAFILE hMF = nullptr);
     void Clear() { SendMessage(WM_CLEAR); }

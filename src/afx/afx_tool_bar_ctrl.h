@@ -50,6 +50,32 @@ public:
     int AddString(UINT nStringID);
     int AddStrings(LPCTSTR lpszStrings) { return Ask(TB_ADDSTRING, 0, afx_param(lpszStrings)); }
     int GetString(int nString, CString& str) const;
+    int GetString(int nString, LPTSTR lpstrString, int cchMaxLen) const {
+        return afx_int(SendMessage(TB_GETSTRING, MAKEWPARAM(cchMaxLen, nString), afx_param(lpstrString)));
+    }
+    CString GetButtonText(int idButton) const;
+    // The record tells its size and, by a mask, what it holds. The button's index, or -1.
+    int GetButtonInfo(int nID, TBBUTTONINFO* ptbbi) const { return Ask(TB_GETBUTTONINFO, nID, afx_param(ptbbi)); }
+    BOOL SetButtonInfo(int nID, TBBUTTONINFO* ptbbi) { return Ask(TB_SETBUTTONINFO, nID, afx_param(ptbbi)); }
+    BOOL MoveButton(UINT nOldPos, UINT nNewPos) {
+        return afx_int(SendMessage(TB_MOVEBUTTON, nOldPos, static_cast<LPARAM>(nNewPos)));
+    }
+    BOOL MarkButton(int nID, BOOL fHighlight = TRUE) { return Ask(TB_MARKBUTTON, nID, MAKELPARAM(fHighlight, 0)); }
+    BOOL IsButtonHighlighted(int nID) const { return Ask(TB_ISBUTTONHIGHLIGHTED, nID); }
+    int GetHotItem() const { return Ask(TB_GETHOTITEM); }
+    int SetHotItem(int nHot) { return Ask(TB_SETHOTITEM, nHot); }
+    BOOL GetAnchorHighlight() const { return Ask(TB_GETANCHORHIGHLIGHT); }
+    BOOL SetAnchorHighlight(BOOL fAnchor = TRUE) { return Ask(TB_SETANCHORHIGHLIGHT, fAnchor); }
+    BOOL MapAccelerator(TCHAR chAccel, UINT* pIDBtn) {
+        return Ask(TB_MAPACCELERATOR, static_cast<unsigned char>(chAccel), afx_param(pIDBtn));
+    }
+    // Which buttons there are, in a value of the registry; the parent is asked for the buttons of a restored bar.
+    void SaveState(HKEY hKeyRoot, LPCTSTR lpszSubKey, LPCTSTR lpszValueName);
+    void RestoreState(HKEY hKeyRoot, LPCTSTR lpszSubKey, LPCTSTR lpszValueName);
+    // Who is told what the user does.
+    void SetOwner(CWnd* pWnd) { SendMessage(TB_SETPARENT, reinterpret_cast<WPARAM>(pWnd->GetSafeHwnd())); }
+    DWORD GetStyle() const { return static_cast<DWORD>(SendMessage(TB_GETSTYLE)); }
+    void SetStyle(DWORD dwStyle) { SendMessage(TB_SETSTYLE, 0, static_cast<LPARAM>(dwStyle)); }
     void AutoSize() { Ask(TB_AUTOSIZE); }
     void Customize() { Ask(TB_CUSTOMIZE); }
     CToolTipCtrl* GetToolTips() const;
@@ -62,12 +88,36 @@ public:
     BOOL ChangeBitmap(int idButton, int iBitmap) { return Ask(TB_CHANGEBITMAP, idButton, MAKELPARAM(iBitmap, 0)); }
     int GetBitmap(int nID) const { return Ask(TB_GETBITMAP, nID); }
     UINT GetBitmapFlags() const { return static_cast<UINT>(Ask(TB_GETBITMAPFLAGS)); }
-    CSize GetMaxSize() const {
-        CSize size;
-        Ask(TB_GETMAXSIZE, 0, afx_param(&size));
-        return size;
-    }
+    BOOL GetMaxSize(LPSIZE pSize) const { return Ask(TB_GETMAXSIZE, 0, afx_param(pSize)); }
     BOOL SetIndent(int iIndent) { return Ask(TB_SETINDENT, iIndent); }
+    int GetMaxTextRows() const { return Ask(TB_GETTEXTROWS); }
+    BOOL SetMaxTextRows(int iMaxRows) { return Ask(TB_SETMAXTEXTROWS, iMaxRows); }
+    DWORD SetDrawTextFlags(DWORD dwMask, DWORD dwDTFlags) {
+        return static_cast<DWORD>(SendMessage(TB_SETDRAWTEXTFLAGS, dwMask, static_cast<LPARAM>(dwDTFlags)));
+    }
+    BOOL GetPadding(int* pnHorzPadding, int* pnVertPadding) const;
+    // The padding before: its width in the low word, its height in the high one.
+    DWORD SetPadding(int nHorzPadding, int nVertPadding) {
+        return static_cast<DWORD>(SendMessage(TB_SETPADDING, 0, MAKELPARAM(nHorzPadding, nVertPadding)));
+    }
+    void GetMetrics(LPTBMETRICS ptbm) const { Ask(TB_GETMETRICS, 0, afx_param(ptbm)); }
+    void SetMetrics(LPTBMETRICS ptbm) { Ask(TB_SETMETRICS, 0, afx_param(ptbm)); }
+    BOOL GetColorScheme(COLORSCHEME* lpColorScheme) const {
+        lpColorScheme->dwSize = sizeof(*lpColorScheme);
+        return Ask(TB_GETCOLORSCHEME, 0, afx_param(lpColorScheme));
+    }
+    void SetColorScheme(const COLORSCHEME* lpColorScheme) { Ask(TB_SETCOLORSCHEME, 0, afx_param(lpColorScheme)); }
+    HRESULT SetWindowTheme(LPCWSTR pszSubAppName) { return Ask(TB_SETWINDOWTHEME, 0, afx_param(pszSubAppName)); }
+    // The mark shows where a dragged button would go.
+    void GetInsertMark(TBINSERTMARK* ptbim) const { Ask(TB_GETINSERTMARK, 0, afx_param(ptbim)); }
+    void SetInsertMark(TBINSERTMARK* ptbim) { Ask(TB_SETINSERTMARK, 0, afx_param(ptbim)); }
+    BOOL InsertMarkHitTest(LPPOINT ppt, LPTBINSERTMARK ptbim) const {
+        return afx_int(SendMessage(TB_INSERTMARKHITTEST, reinterpret_cast<WPARAM>(ppt), afx_param(ptbim)));
+    }
+    COLORREF GetInsertMarkColor() const { return static_cast<COLORREF>(SendMessage(TB_GETINSERTMARKCOLOR)); }
+    COLORREF SetInsertMarkColor(COLORREF clrNew) {
+        return static_cast<COLORREF>(SendMessage(TB_SETINSERTMARKCOLOR, 0, static_cast<LPARAM>(clrNew)));
+    }
     BOOL SetButtonWidth(int cxMin, int cxMax) { return Ask(TB_SETBUTTONWIDTH, 0, MAKELPARAM(cxMin, cxMax)); }
     DWORD GetExtendedStyle() const { return static_cast<DWORD>(SendMessage(TB_GETEXTENDEDSTYLE)); }
     DWORD SetExtendedStyle(DWORD dw) { return static_cast<DWORD>(SendMessage(TB_SETEXTENDEDSTYLE, 0, LPARAM(dw))); }
@@ -77,6 +127,11 @@ public:
     CImageList* SetHotImageList(CImageList* pImageList) { return List(TB_SETHOTIMAGELIST, pImageList); }
     CImageList* GetDisabledImageList() const { return List(TB_GETDISABLEDIMAGELIST); }
     CImageList* SetDisabledImageList(CImageList* pImageList) { return List(TB_SETDISABLEDIMAGELIST, pImageList); }
+    CImageList* GetPressedImageList() { return List(TB_GETPRESSEDIMAGELIST); }
+    CImageList* SetPressedImageList(int iImageID, CImageList* pImageList) {
+        return List(TB_SETPRESSEDIMAGELIST, pImageList, iImageID);
+    }
+    BOOL ReplaceBitmap(LPTBREPLACEBITMAP pReplaceBitmap) { return Ask(TB_REPLACEBITMAP, 0, afx_param(pReplaceBitmap)); }
     void LoadImages(int iBitmapID, HINSTANCE hinst) { Ask(TB_LOADIMAGES, iBitmapID, afx_param(hinst)); }
 
 protected:
@@ -86,9 +141,9 @@ private:
     int Ask(UINT message, int wParam = 0, LPARAM lParam = 0) const {
         return afx_int(SendMessage(message, static_cast<WPARAM>(wParam), lParam));
     }
-    CImageList* List(UINT message, const CImageList* list = nullptr) const {
+    CImageList* List(UINT message, const CImageList* list = nullptr, int which = 0) const {
         return CImageList::FromHandle(
-            reinterpret_cast<HIMAGELIST>(SendMessage(message, 0, afx_param(list->GetSafeHandle()))));
+            reinterpret_cast<HIMAGELIST>(SendMessage(message, WPARAM(which), afx_param(list->GetSafeHandle()))));
     }
 };
 

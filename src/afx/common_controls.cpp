@@ -114,6 +114,14 @@ BOOL CTabCtrl::SetItemState(int nItem, DWORD dwMask, DWORD dwState) {
     return SetItem(nItem, &item);
 }
 
+CToolTipCtrl* CSliderCtrl::GetToolTips() const {
+    return static_cast<CToolTipCtrl*>(FromHandle(reinterpret_cast<HWND>(SendMessage(TBM_GETTOOLTIPS))));
+}
+
+void CSliderCtrl::SetToolTips(CToolTipCtrl* pWndTip) {
+    SendMessage(TBM_SETTOOLTIPS, reinterpret_cast<WPARAM>(pWndTip->GetSafeHwnd()));
+}
+
 CToolTipCtrl* CTabCtrl::GetToolTips() const {
     return static_cast<CToolTipCtrl*>(FromHandle(reinterpret_cast<HWND>(SendMessage(TCM_GETTOOLTIPS))));
 }
@@ -139,6 +147,17 @@ int CStatusBarCtrl::GetText(LPTSTR lpszText, int nPane, int* pType) const {
 CString CStatusBarCtrl::GetText(int nPane, int* pType) const {
     CString text;
     GetText(text.GetBuffer(GetTextLength(nPane) + 1), nPane, pType);
+    text.ReleaseBuffer();
+    return text;
+}
+
+// The control does not tell how long a tip is.
+CString CStatusBarCtrl::GetTipText(int nPane) const {
+    constexpr int longest_tip = 1024;
+    CString text;
+    char* room = text.GetBufferSetLength(longest_tip);
+    *room = '\0';
+    SendMessage(SB_GETTIPTEXT, MAKEWPARAM(nPane, longest_tip), afx_param(room));
     text.ReleaseBuffer();
     return text;
 }

@@ -170,6 +170,52 @@ BOOL CListCtrl::GetSubItemRect(int iItem, int iSubItem, int nArea, CRect& ref) c
     return Ask(LVM_GETSUBITEMRECT, iItem, afx_param(&ref));
 }
 
+BOOL CListCtrl::GetItemIndexRect(PLVITEMINDEX pItemIndex, int iColumn, int rectType, LPRECT pRect) const {
+    pRect->top = iColumn;
+    pRect->left = rectType;
+    return afx_int(SendMessage(LVM_GETITEMINDEXRECT, reinterpret_cast<WPARAM>(pItemIndex), afx_param(pRect)));
+}
+
+BOOL CListCtrl::GetNextItemIndex(PLVITEMINDEX pItemIndex, int nFlags) const {
+    return afx_int(SendMessage(LVM_GETNEXTITEMINDEX, reinterpret_cast<WPARAM>(pItemIndex), MAKELPARAM(nFlags, 0)));
+}
+
+// A control that does not know the message answers as if it had done it.
+BOOL CListCtrl::SetItemIndexState(PLVITEMINDEX pItemIndex, DWORD dwState, DWORD dwMask) const {
+    LVITEM item{};
+    item.state = dwState;
+    item.stateMask = dwMask;
+    const LRESULT result = SendMessage(LVM_SETITEMINDEXSTATE, reinterpret_cast<WPARAM>(pItemIndex), afx_param(&item));
+    return SUCCEEDED(static_cast<HRESULT>(result)) && GetItemState(pItemIndex->iItem, dwMask) == (dwState & dwMask);
+}
+
+BOOL CListCtrl::GetGroupRect(int iGroupId, LPRECT lpRect, int iCoords) const {
+    lpRect->top = iCoords;
+    return Ask(LVM_GETGROUPRECT, iGroupId, afx_param(lpRect));
+}
+
+BOOL CListCtrl::GetItemSpacing(BOOL fSmall, int* pnHorzSpacing, int* pnVertSpacing) const {
+    const LRESULT spacing = SendMessage(LVM_GETITEMSPACING, static_cast<WPARAM>(fSmall));
+    *pnHorzSpacing = LOWORD(spacing);
+    *pnVertSpacing = HIWORD(spacing);
+    return spacing != 0;
+}
+
+UINT CListCtrl::GetNumberOfWorkAreas() const {
+    UINT count = 0;
+    SendMessage(LVM_GETNUMBEROFWORKAREAS, 0, afx_param(&count));
+    return count;
+}
+
+CToolTipCtrl* CListCtrl::GetToolTips() const {
+    return static_cast<CToolTipCtrl*>(CWnd::FromHandle(reinterpret_cast<HWND>(SendMessage(LVM_GETTOOLTIPS))));
+}
+
+CToolTipCtrl* CListCtrl::SetToolTips(CToolTipCtrl* pWndTip) {
+    return static_cast<CToolTipCtrl*>(CWnd::FromHandle(
+        reinterpret_cast<HWND>(SendMessage(LVM_SETTOOLTIPS, reinterpret_cast<WPARAM>(pWndTip->GetSafeHwnd())))));
+}
+
 int CListCtrl::HitTest(CPoint pt, UINT* pFlags) const {
     LVHITTESTINFO place{};
     place.pt = pt;

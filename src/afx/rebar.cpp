@@ -1,4 +1,5 @@
 #include "afx_rebar.h"
+#include "afx_common_ctrls.h"
 #include "afxmsg_.h"
 #include "afxpriv.h"
 
@@ -41,6 +42,23 @@ CImageList* CReBarCtrl::GetImageList() const {
 BOOL CReBarCtrl::SetImageList(CImageList* pImageList) {
     REBARINFO info{sizeof(info), RBIM_IMAGELIST, pImageList->GetSafeHandle()};
     return SetBarInfo(&info);
+}
+
+CToolTipCtrl* CReBarCtrl::GetToolTips() const {
+    return static_cast<CToolTipCtrl*>(FromHandle(reinterpret_cast<HWND>(SendMessage(RB_GETTOOLTIPS))));
+}
+
+void CReBarCtrl::SetToolTips(CToolTipCtrl* pToolTip) {
+    SendMessage(RB_SETTOOLTIPS, reinterpret_cast<WPARAM>(pToolTip->GetSafeHwnd()));
+}
+
+BOOL CReBarCtrl::GetColorScheme(COLORSCHEME* lpcs) const {
+    lpcs->dwSize = sizeof(*lpcs);
+    return Ask(RB_GETCOLORSCHEME, 0, lpcs);
+}
+
+void CReBarCtrl::SetColorScheme(const COLORSCHEME* lpcs) {
+    SendMessage(RB_SETCOLORSCHEME, 0, reinterpret_cast<LPARAM>(lpcs));
 }
 
 CReBar::CReBar() {

@@ -1,4 +1,5 @@
 #include "afxcmn.h"
+#include "atlconv.h"
 
 IMPLEMENT_DYNAMIC(CToolBarCtrl, CWnd)
 
@@ -45,6 +46,36 @@ int CToolBarCtrl::GetString(int nString, CString& str) const {
     SendMessage(TB_GETSTRING, MAKEWPARAM(length + 1, nString), afx_param(str.GetBuffer(length + 1)));
     str.ReleaseBuffer();
     return length;
+}
+
+CString CToolBarCtrl::GetButtonText(int idButton) const {
+    CString text;
+    const int length = Ask(TB_GETBUTTONTEXT, idButton);
+    if (length <= 0)
+        return text;
+    Ask(TB_GETBUTTONTEXT, idButton, afx_param(text.GetBuffer(length + 1)));
+    text.ReleaseBuffer();
+    return text;
+}
+
+BOOL CToolBarCtrl::GetPadding(int* pnHorzPadding, int* pnVertPadding) const {
+    const LRESULT padding = SendMessage(TB_GETPADDING);
+    *pnHorzPadding = LOWORD(padding);
+    *pnVertPadding = HIWORD(padding);
+    return padding != 0;
+}
+
+// In wide characters, which every version of the control takes.
+void CToolBarCtrl::SaveState(HKEY hKeyRoot, LPCTSTR lpszSubKey, LPCTSTR lpszValueName) {
+    const CA2W key(lpszSubKey), name(lpszValueName);
+    const TBSAVEPARAMSW place{hKeyRoot, key, name};
+    SendMessage(TB_SAVERESTOREW, TRUE, afx_param(&place));
+}
+
+void CToolBarCtrl::RestoreState(HKEY hKeyRoot, LPCTSTR lpszSubKey, LPCTSTR lpszValueName) {
+    const CA2W key(lpszSubKey), name(lpszValueName);
+    const TBSAVEPARAMSW place{hKeyRoot, key, name};
+    SendMessage(TB_SAVERESTOREW, FALSE, afx_param(&place));
 }
 
 CToolTipCtrl* CToolBarCtrl::GetToolTips() const {

@@ -88,6 +88,17 @@ void CToolTipCtrl::GetText(CString& str, CWnd* pWnd, UINT_PTR nIDTool) const {
     str.ReleaseBuffer();
 }
 
+BOOL CToolTipCtrl::GetToolInfo(CToolInfo& ToolInfo, CWnd* pWnd, UINT_PTR nIDTool) const {
+    char text[longest_tip + 1] = ""; // the control asks for no length
+    FillInToolInfo(ToolInfo, pWnd, nIDTool);
+    ToolInfo.lpszText = text;
+    const LRESULT known = SendMessage(TTM_GETTOOLINFO, 0, afx_param(&ToolInfo));
+    ::lstrcpyn(ToolInfo.szText, ToolInfo.lpszText == text ? text : "", sizeof(ToolInfo.szText));
+    if (ToolInfo.lpszText == text)
+        ToolInfo.lpszText = ToolInfo.szText;
+    return known != 0;
+}
+
 void CToolTipCtrl::SetToolRect(CWnd* pWnd, UINT_PTR nIDTool, LPCRECT lpRect) {
     TOOLINFO tool;
     FillInToolInfo(tool, pWnd, nIDTool);

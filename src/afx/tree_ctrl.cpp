@@ -41,6 +41,42 @@ BOOL CTreeCtrl::SetItem(HTREEITEM hItem, UINT nMask, LPCTSTR lpszItem, int nImag
     return SetItem(&item);
 }
 
+BOOL CTreeCtrl::SetItemEx(HTREEITEM hItem, UINT nMask, LPCTSTR lpszItem, int nImage, int nSelectedImage, UINT nState,
+                          UINT nStateMask, LPARAM lParam, UINT uStateEx, HWND hWnd, int iExpandedImage) {
+    TVITEMEX item{};
+    item.hItem = hItem;
+    item.mask = nMask;
+    item.pszText = const_cast<LPTSTR>(lpszItem);
+    item.iImage = nImage;
+    item.iSelectedImage = nSelectedImage;
+    item.state = nState;
+    item.stateMask = nStateMask;
+    item.lParam = lParam;
+    item.uStateEx = uStateEx;
+    item.hwnd = hWnd;
+    item.iExpandedImage = iExpandedImage;
+    return Ask(TVM_SETITEM, &item);
+}
+
+UINT CTreeCtrl::GetItemStateEx(HTREEITEM hItem) const {
+    TVITEMEX item{};
+    item.hItem = hItem;
+    item.mask = TVIF_STATEEX;
+    return Ask(TVM_GETITEM, &item) ? item.uStateEx : 0;
+}
+
+int CTreeCtrl::GetItemExpandedImageIndex(HTREEITEM hItem) const {
+    TVITEMEX item{};
+    item.hItem = hItem;
+    item.mask = TVIF_EXPANDEDIMAGE;
+    return Ask(TVM_GETITEM, &item) ? item.iExpandedImage : 0;
+}
+
+BOOL CTreeCtrl::GetItemPartRect(HTREEITEM hItem, TVITEMPART nPart, LPRECT lpRect) {
+    TVGETITEMPARTRECTINFO part{hItem, lpRect, nPart};
+    return Ask(TVM_GETITEMPARTRECT, &part);
+}
+
 HTREEITEM CTreeCtrl::InsertItem(UINT nMask, LPCTSTR lpszItem, int nImage, int nSelectedImage, UINT nState,
                                 UINT nStateMask, LPARAM lParam, HTREEITEM hParent, HTREEITEM hInsertAfter) {
     TVINSERTSTRUCT place{};

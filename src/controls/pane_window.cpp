@@ -58,6 +58,13 @@ BOOL PaneWindow::PreCreateWindow(CREATESTRUCT& create) {
     return result;
 }
 
+// A dialog's template says nothing of it.
+void PaneWindow::PreSubclassWindow() {
+    if (!(GetStyle() & WS_TABSTOP))
+        ModifyStyleEx(0, WS_EX_CONTROLPARENT);
+    ControlWindow::PreSubclassWindow();
+}
+
 // What an input of several lines tells its parent, which it takes for the dialog: to close on Escape, to give the focus
 // to another one on Tab.
 bool PaneWindow::answer_as_dialog(UINT message, WPARAM wParam, LPARAM lParam) {

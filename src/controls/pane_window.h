@@ -16,6 +16,7 @@ protected:
     static bool asks_about_return();
 
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
+    void PreSubclassWindow() override;
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
 private:

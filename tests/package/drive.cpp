@@ -129,23 +129,33 @@ void drive_sketch(const std::string& program, const std::string& folder) {
 void drive_channel(const std::string& program, const std::string&) {
     {
         Program channel(program);
-        HWND dialog = channel.dialog(IDC_GAUGE);
-        for (const int widget : {IDC_GAUGE, IDC_TREND, IDC_AXIS, IDC_PLAN, IDC_INSIDE, IDC_RUN})
-            eventually("widget " + std::to_string(widget) + " shows",
-                       [&] { return colours_on_screen(::GetDlgItem(dialog, widget)).size() > 2; });
-        HWND readings = ::GetDlgItem(dialog, IDC_READINGS);
+        HWND dialog = channel.dialog(IDC_NAME);
+        const auto shows = [&](std::initializer_list<int> widgets) {
+            for (const int widget : widgets)
+                eventually("widget " + std::to_string(widget) + " shows",
+                           [&] { return colours_on_screen(descendant(dialog, widget)).size() > 2; });
+        };
+        shows({IDC_GAUGE, IDC_TREND, IDC_AXIS, IDC_RUN, IDC_ACTIONS, IDC_TABS, IDC_READING, IDC_SIMULATION, IDC_CHART});
+        HWND readings = descendant(dialog, IDC_READINGS);
         eventually("readings come", [&] { return ::SendMessageA(readings, 0x1004 /* LVM_GETITEMCOUNT */, 0, 0) > 1; });
-        enter(dialog, IDC_UPPER, "-5"); // below the lower end
+        command(dialog, ID_INSERT_READING);
+        eventually("the report has a line", [&] { return !text_of(dialog, IDC_REPORT).empty(); });
+        shows({IDC_REPORT_PAGE, IDC_INK, IDC_REPORT_HEADER});
+        command(dialog, ID_NEXT_TIP);
+        shows({IDC_TIPS_PAGE});
+        enter(dialog, IDC_HIGH_LIMIT, "500"); // beyond the range, on a page that is hidden
         press(dialog, IDOK);
         dismiss(channel, dialog);
         eventually("the message is gone", [&] { return ::IsWindowEnabled(dialog) != 0; });
+        shows({IDC_PLAN, IDC_INSIDE});
+        enter(dialog, IDC_HIGH_LIMIT, "80");
         enter(dialog, IDC_UPPER, "120");
         enter(dialog, IDC_NAME, "Feed water");
         press(dialog, IDOK);
         channel.expect_end();
     }
     Program again(program);
-    HWND dialog = again.dialog(IDC_GAUGE);
+    HWND dialog = again.dialog(IDC_NAME);
     expect(text_of(dialog, IDC_NAME) == "Feed water" && text_of(dialog, IDC_UPPER) == "120", "settings are kept");
     press(dialog, IDCANCEL);
     again.expect_end();
