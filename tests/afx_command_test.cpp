@@ -153,6 +153,23 @@ TEST(AfxMessageMap, HandlersSeeTheParametersOfTheirMessages) {
     EXPECT_EQ(wnd.SendMessage(registered + 1), 0) << "another registered message";
 }
 
+template <class Number> class counting : public CWnd {
+public:
+    Number count{};
+    afx_msg void OnTimer(UINT_PTR id) { count += static_cast<Number>(id); }
+    DECLARE_MESSAGE_MAP()
+};
+BEGIN_TEMPLATE_MESSAGE_MAP(counting, Number, CWnd)
+ON_WM_TIMER()
+END_MESSAGE_MAP()
+
+TEST(AfxMessageMap, MayBeAClassTemplates) {
+    counting<short> wnd;
+    ASSERT_TRUE(create_popup(wnd));
+    wnd.SendMessage(WM_TIMER, 0x10005);
+    EXPECT_EQ(wnd.count, 5);
+}
+
 // Commands by range, with an answer, and their updates.
 class commander : public CWnd {
 public:

@@ -1,6 +1,7 @@
 // What objects and exceptions tell about themselves.
 #include "afx_test_app.h"
 
+#include <afxdisp.h>
 #include <afxtempl.h>
 
 namespace {
@@ -112,6 +113,31 @@ TEST(AfxExceptions, SystemErrorsHaveTheirCauses) {
     EXPECT_EQ(CFileException::ErrnoToException(ENOENT), CFileException::fileNotFound);
     EXPECT_EQ(CFileException::ErrnoToException(EACCES), CFileException::accessDenied);
     EXPECT_EQ(CFileException::ErrnoToException(9999), CFileException::genericException);
+}
+
+TEST(AfxClasses, ThatArchivesHoldAreCounted) {
+    std::vector<std::string> names;
+    AfxDoForAllClasses([](const CRuntimeClass* type,
+                          void* all) { static_cast<std::vector<std::string>*>(all)->push_back(type->m_lpszClassName); },
+                       &names);
+    EXPECT_THAT(names, testing::Contains("CByteArray"));
+    EXPECT_THAT(names, testing::Not(testing::Contains("CFrameWnd"))) << "can be created, but not stored";
+}
+
+TEST(AfxOle, LastsAsLongAsItsThread) {
+    CWinThread* thread = AfxBeginThread(
+        [](LPVOID) -> UINT {
+            const BOOL begun = AfxOleInit() && AfxOleInit();
+            const HRESULT other = ::CoInitializeEx(nullptr, COINIT_MULTITHREADED);
+            return begun && other == RPC_E_CHANGED_MODE;
+        },
+        nullptr, THREAD_PRIORITY_NORMAL, 0, CREATE_SUSPENDED);
+    thread->m_bAutoDelete = FALSE;
+    thread->ResumeThread();
+    ::WaitForSingleObject(thread->m_hThread, INFINITE);
+    DWORD begun = 0;
+    EXPECT_TRUE(::GetExitCodeThread(thread->m_hThread, &begun) && begun == 1);
+    delete thread;
 }
 
 TEST(AfxMemory, AddressesAreCheckedBeforeTheyAreUsed) {

@@ -134,6 +134,16 @@ protected:                                                                      
         typedef baseClass TheBaseClass;                                                                                \
         static const AFX_MSGMAP_ENTRY messageEntries[] = {
 
+// For a class template of one type.
+#define BEGIN_TEMPLATE_MESSAGE_MAP(theClass, type_name, baseClass)                                                     \
+    template <typename type_name> const AFX_MSGMAP* theClass<type_name>::GetMessageMap() const {                       \
+        return theClass<type_name>::GetThisMessageMap();                                                               \
+    }                                                                                                                  \
+    template <typename type_name> const AFX_MSGMAP* PASCAL theClass<type_name>::GetThisMessageMap() {                  \
+        [[maybe_unused]] typedef theClass<type_name> ThisClass;                                                        \
+        typedef baseClass TheBaseClass;                                                                                \
+        static const AFX_MSGMAP_ENTRY messageEntries[] = {
+
 #define END_MESSAGE_MAP()                                                                                              \
     { 0, 0, 0, 0, AfxSig_end, nullptr }                                                                                \
     }                                                                                                                  \
