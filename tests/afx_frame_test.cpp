@@ -132,6 +132,20 @@ TEST_F(AfxFrame, ShowsPromptsOfMenusAndOfButtonsUnderThePointer) {
     EXPECT_STREQ(tip.szText, "On");
 }
 
+TEST_F(AfxFrame, HasTheProgramsIconAndUpdatesItselfWhenIdle) {
+    const auto icon = reinterpret_cast<HICON>(::GetClassLongPtr(frame, GCLP_HICON));
+    EXPECT_TRUE(icon != nullptr && icon == the_app.LoadIcon(AFX_IDI_STD_FRAME));
+    CMenu other;
+    other.CreateMenu();
+    frame.SetTitle("later");
+    frame.DelayUpdateFrameTitle();
+    frame.DelayUpdateFrameMenu(other);
+    EXPECT_TRUE(text_of(frame) != "later" && frame.GetMenu()->m_hMenu != other.m_hMenu);
+    frame.settle();
+    EXPECT_TRUE(text_of(frame) == "later" && frame.GetMenu()->m_hMenu == other.m_hMenu);
+    frame.OnUpdateFrameMenu(nullptr);
+}
+
 TEST_F(AfxFrame, LaysOutDockedBarsAndRemembersThem) {
     CWnd client;
     ASSERT_TRUE(client.Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 1, 1), &frame, AFX_IDW_PANE_FIRST));
@@ -303,6 +317,10 @@ TEST_F(AfxFrame, KeepsTheUserOutWhileItIsModal) {
     frame.EndModalState();
     EXPECT_TRUE(!frame.InModalState() && frame.IsWindowEnabled() && shown.IsWindowEnabled());
     EXPECT_FALSE(disabled.IsWindowEnabled()) << "as it was";
+    frame.EnableWindow(FALSE); // as a modal dialog does
+    EXPECT_TRUE(frame.InModalState() && !shown.IsWindowEnabled() && other.IsWindowEnabled());
+    frame.EnableWindow(TRUE);
+    EXPECT_TRUE(!frame.InModalState() && shown.IsWindowEnabled() && !disabled.IsWindowEnabled());
 }
 
 // Ends one of its windows, or itself, while commands are updated.

@@ -133,6 +133,9 @@ TEST(AfxShell, KnowsTheDocumentsUntilTheyAreTakenBack) {
     EXPECT_STREQ(registered(".note"), "Test.Note");
     EXPECT_STREQ(registered("Test.Note"), "Test Note");
     EXPECT_STREQ(registered("Test.Note\\shell\\print\\command").Right(8), " /p \"%1\"");
+    EXPECT_NE(the_app.DelRegTree(HKEY_CURRENT_USER, ""), ERROR_SUCCESS) << "all the user has";
+    EXPECT_EQ(the_app.DelRegTree(HKEY_CURRENT_USER, "Software\\Classes\\Test.Note\\shell"), ERROR_SUCCESS);
+    EXPECT_STREQ(registered("Test.Note\\shell\\print\\command") + registered("Test.Note"), "Test Note");
     manager.UnregisterShellFileTypes();
     EXPECT_STREQ(registered(".note"), "");
     EXPECT_STREQ(registered("Test.Note"), "");

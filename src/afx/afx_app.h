@@ -66,6 +66,11 @@ public:
     BOOL Enable3dControls() { return TRUE; }
     BOOL Enable3dControlsStatic() { return TRUE; }
 
+    // Dialogs of objects that are active inside the frame: there are none.
+    void EnableModeless(BOOL) {}
+    // Deletes the key with all below it.
+    LONG DelRegTree(HKEY hParentKey, const CString& strKeyName, ATL::CAtlTransactionManager* pTM = nullptr);
+
     // Every question of the framework for help comes through here: a command of the platform's help program.
     virtual void WinHelp(DWORD_PTR dwData, UINT nCmd = HELP_CONTEXT);
 
