@@ -10,6 +10,8 @@
 #include <filesystem>
 #include <fstream>
 
+#include <dde.h>
+
 using testing::ElementsAre;
 
 namespace {
@@ -254,6 +256,52 @@ TEST_F(AfxSeveralDocuments, LieInOneFrameThatShowsTheActiveOnes) {
     frame->SendMessage(WM_CLOSE);
     EXPECT_EQ(note::alive, 0);
     EXPECT_EQ(the_app.m_pMainWnd, nullptr);
+}
+
+// The shell, which opens a file in the program that runs already.
+class shell_window : public CWnd {
+public:
+    HWND server = nullptr;
+    int answers = 0;
+    void talk(CWnd& to, UINT message, LPARAM l) { to.SendMessage(message, reinterpret_cast<WPARAM>(m_hWnd), l); }
+    LRESULT WindowProc(UINT message, WPARAM w, LPARAM l) override {
+        if (message == WM_DDE_ACK)
+            server = reinterpret_cast<HWND>(w), ++answers;
+        return CWnd::WindowProc(message, w, l);
+    }
+};
+
+TEST_F(AfxSeveralDocuments, AreOpenedByTheShellsCommands) {
+    const TemporaryFile file({'a', ' ', 'n', 'o', 't', 'e'});
+    shell_window shell;
+    ASSERT_TRUE(create_popup(shell));
+    shell.talk(*frame, WM_DDE_INITIATE, 0);
+    EXPECT_EQ(shell.server, nullptr) << "nobody is asked for";
+    the_app.EnableShellOpen();
+    shell.talk(*frame, WM_DDE_INITIATE, MAKELPARAM(the_app.m_atomApp, the_app.m_atomSystemTopic));
+    EXPECT_EQ(shell.server, frame->m_hWnd);
+    const std::string command = std::string("[open(\"") + file.name() + "\")]";
+    const HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, command.size()); // without the end of a text
+    std::memcpy(::GlobalLock(memory), command.data(), command.size());
+    ::GlobalUnlock(memory);
+    shell.talk(*frame, WM_DDE_EXECUTE, ::PackDDElParam(WM_DDE_EXECUTE, 0, reinterpret_cast<UINT_PTR>(memory)));
+    for (MSG message; ::PeekMessage(&message, shell, 0, 0, PM_REMOVE);)
+        ::DispatchMessage(&message);
+    EXPECT_EQ(shell.answers, 2);
+    ::GlobalFree(memory);
+    auto* opened = static_cast<note*>(frame->GetActiveFrame()->GetActiveDocument());
+    EXPECT_TRUE(opened != nullptr && opened->text == "a note");
+    for (std::string wrong :
+         {"", "[open(x)]", "[open(\"x\"]", "[open(\"x)]", "[close(\"x\")]", "[printto(\"x\",\"y\")]"})
+        EXPECT_FALSE(the_app.OnDDECommand(wrong.data())) << wrong;
+
+    add(RUNTIME_CLASS(note), IDS_LIST_KIND);
+    the_app.m_pDocManager->RegisterShellFileTypes(FALSE);
+    char start[MAX_PATH] = "";
+    LONG room = sizeof(start);
+    ::RegQueryValue(HKEY_CURRENT_USER, "Software\\Classes\\Test.List\\shell\\open\\command", start, &room);
+    EXPECT_STREQ(CString(start).Right(5), " /dde");
+    the_app.m_pDocManager->UnregisterShellFileTypes();
 }
 
 // The document's views are a list that programs go through themselves.

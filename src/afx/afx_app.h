@@ -99,6 +99,10 @@ public:
     BOOL DoPromptFileName(CString& fileName, UINT nIDSTitle, DWORD lFlags, BOOL bOpenFileDialog,
                           CDocTemplate* pTemplate);
 
+    // A command that the shell sends to the main window of a program that is running, once EnableShellOpen was called.
+    virtual BOOL OnDDECommand(LPTSTR lpszCommand);
+    ATOM m_atomApp = 0, m_atomSystemTopic = 0;
+
     // The command line of the program as a wish, and its fulfilment; FALSE where the program is to end.
     void ParseCommandLine(CCommandLineInfo& rCmdInfo);
     BOOL ProcessShellCommand(CCommandLineInfo& rCmdInfo);
@@ -128,7 +132,7 @@ protected:
     // Reads the recent files; 0 keeps none.
     void LoadStdProfileSettings(UINT nMaxMRU = _AFX_MRU_COUNT);
     void SaveStdProfileSettings();
-    void EnableShellOpen();
+    void EnableShellOpen(); // before RegisterShellFileTypes
     void RegisterShellFileTypes(BOOL bCompat = FALSE);
     void UnregisterShellFileTypes();
 
@@ -141,6 +145,7 @@ protected:
 private:
     friend BOOL AFXAPI AfxWinInit(HINSTANCE, HINSTANCE, LPTSTR, int);
     void SetNames();
+    void DisableShellOpen();
     void UpdatePrinterSelection(BOOL bForceDefaults);
 };
 

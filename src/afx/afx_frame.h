@@ -148,6 +148,9 @@ protected:
     afx_msg BOOL OnQueryEndSession();
     afx_msg void OnEndSession(BOOL bEnding);
     afx_msg void OnEnable(BOOL bEnable);
+    afx_msg void OnDDEInitiate(CWnd* pWnd, UINT nApp, UINT nTopic);
+    afx_msg void OnDDEExecute(CWnd* pWnd, HANDLE hCommands);
+    afx_msg void OnDDETerminate(CWnd* pWnd);
     afx_msg void OnUpdateKeyIndicator(CCmdUI* pCmdUI);
     afx_msg BOOL OnToolTipText(UINT nID, NMHDR* pNMHDR, LRESULT* pResult);
 

@@ -93,6 +93,7 @@ CWinApp::CWinApp(LPCTSTR lpszAppName) : m_pszAppName(lpszAppName != nullptr ? ::
 }
 
 CWinApp::~CWinApp() {
+    DisableShellOpen();
     delete m_pDocManager;
     delete m_pRecentFileList;
     for (HGLOBAL memory : {m_hDevMode, m_hDevNames}) {

@@ -8,6 +8,8 @@
 
 #include <utility>
 
+#include <dde.h>
+
 IMPLEMENT_DYNCREATE(CFrameWnd, CWnd)
 
 BEGIN_MESSAGE_MAP(CFrameWnd, CWnd)
@@ -26,6 +28,9 @@ ON_WM_DROPFILES()
 ON_WM_QUERYENDSESSION()
 ON_WM_ENDSESSION()
 ON_WM_ENABLE()
+AFX_WM_ENTRY(WM_DDE_INITIATE, AfxSig_v_w_u_u, void, (CWnd*, UINT, UINT), OnDDEInitiate)
+AFX_WM_ENTRY(WM_DDE_EXECUTE, AfxSig_v_w_h, void, (CWnd*, HANDLE), OnDDEExecute)
+AFX_WM_ENTRY(WM_DDE_TERMINATE, AfxSig_v_w_from_w, void, (CWnd*), OnDDETerminate)
 ON_MESSAGE(WM_SETMESSAGESTRING, &CFrameWnd::OnSetMessageString)
 ON_MESSAGE(WM_POPMESSAGESTRING, &CFrameWnd::OnPopMessageString)
 ON_MESSAGE_VOID(WM_IDLEUPDATECMDUI, &CFrameWnd::OnIdleUpdateCmdUI)
