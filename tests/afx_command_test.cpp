@@ -54,9 +54,7 @@ protected:
     void OnMouseHWheel(UINT flags, short delta, CPoint at) { note("hwheel", flags, delta, at.x); }
     void OnAppCommand(CWnd* wnd, UINT id, UINT device, UINT keys) { note("app", is(wnd), id, device, keys); }
     void OnSessionChange(UINT state, UINT id) { note("session", state, id); }
-    void OnUpdateUIState(UINT action, UINT element) { note("ui", action, element); }
     UINT OnMenuDrag(UINT at, CMenu* menu) { return note("drag", at, menu == nullptr), MND_ENDMENU; }
-    void OnHotKey(UINT id, UINT held, UINT key) { note("hot", id, held, key); }
     LRESULT OnOwn(WPARAM w, LPARAM l) { return note("own", w, l), 42; }
     LRESULT OnRegistered(WPARAM w, LPARAM) { return note("registered", w), 43; }
     DECLARE_MESSAGE_MAP()
@@ -88,9 +86,7 @@ ON_WM_NCXBUTTONDOWN()
 ON_WM_MOUSEHWHEEL()
 ON_WM_APPCOMMAND()
 ON_WM_WTSSESSION_CHANGE()
-ON_WM_UPDATEUISTATE()
 ON_WM_MENUDRAG()
-ON_WM_HOTKEY()
 #ifdef __clang__
 ON_MESSAGE(WM_USER + 3, &unpacker::OnOwn)
 #else
@@ -136,9 +132,7 @@ TEST(AfxMessageMap, HandlersSeeTheParametersOfTheirMessages) {
         {WM_MOUSEHWHEEL, MAKEWPARAM(MK_SHIFT, -120), point, "hwheel 4 -120 -3", 0},
         {WM_APPCOMMAND, static_cast<WPARAM>(self), MAKELPARAM(MK_CONTROL, FAPPCOMMAND_MOUSE | 8), "app 1 8 32768 8", 0},
         {WM_WTSSESSION_CHANGE, WTS_SESSION_LOCK, 0x12345, "session 7 74565", 0},
-        {WM_UPDATEUISTATE, MAKEWPARAM(UIS_SET, UISF_HIDEFOCUS), 0, "ui 1 1", 0},
         {WM_MENUDRAG, 3, 0, "drag 3 1", MND_ENDMENU},
-        {WM_HOTKEY, 5, MAKELPARAM(MOD_ALT, VK_F9), "hot 5 1 120", 0},
         {WM_USER + 3, 5, -6, "own 5 -6", 42},
         {registered, 8, 0, "registered 8", 43},
     };
@@ -151,23 +145,6 @@ TEST(AfxMessageMap, HandlersSeeTheParametersOfTheirMessages) {
     wnd.SendMessage(WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&info));
     EXPECT_EQ(info.ptMinTrackSize.y, 12);
     EXPECT_EQ(wnd.SendMessage(registered + 1), 0) << "another registered message";
-}
-
-template <class Number> class counting : public CWnd {
-public:
-    Number count{};
-    afx_msg void OnTimer(UINT_PTR id) { count += static_cast<Number>(id); }
-    DECLARE_MESSAGE_MAP()
-};
-BEGIN_TEMPLATE_MESSAGE_MAP(counting, Number, CWnd)
-ON_WM_TIMER()
-END_MESSAGE_MAP()
-
-TEST(AfxMessageMap, MayBeAClassTemplates) {
-    counting<short> wnd;
-    ASSERT_TRUE(create_popup(wnd));
-    wnd.SendMessage(WM_TIMER, 0x10005);
-    EXPECT_EQ(wnd.count, 5);
 }
 
 // Commands by range, with an answer, and their updates.

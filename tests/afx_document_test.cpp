@@ -258,36 +258,23 @@ TEST_F(AfxSeveralDocuments, LieInOneFrameThatShowsTheActiveOnes) {
     EXPECT_EQ(the_app.m_pMainWnd, nullptr);
 }
 
-// The shell, which opens a file in the program that runs already.
-class shell_window : public CWnd {
-public:
-    HWND server = nullptr;
-    int answers = 0;
-    void talk(CWnd& to, UINT message, LPARAM l) { to.SendMessage(message, reinterpret_cast<WPARAM>(m_hWnd), l); }
-    LRESULT WindowProc(UINT message, WPARAM w, LPARAM l) override {
-        if (message == WM_DDE_ACK)
-            server = reinterpret_cast<HWND>(w), ++answers;
-        return CWnd::WindowProc(message, w, l);
-    }
-};
-
 TEST_F(AfxSeveralDocuments, AreOpenedByTheShellsCommands) {
     const TemporaryFile file({'a', ' ', 'n', 'o', 't', 'e'});
-    shell_window shell;
+    recorder shell;
     ASSERT_TRUE(create_popup(shell));
-    shell.talk(*frame, WM_DDE_INITIATE, 0);
-    EXPECT_EQ(shell.server, nullptr) << "nobody is asked for";
+    const auto talk = [&](UINT message, LPARAM l) {
+        frame->SendMessage(message, reinterpret_cast<WPARAM>(shell.m_hWnd), l);
+        for (MSG posted; ::PeekMessage(&posted, shell, WM_DDE_ACK, WM_DDE_ACK, PM_REMOVE);)
+            ::DispatchMessage(&posted);
+        return std::count(shell.seen.begin(), shell.seen.end(), WM_DDE_ACK);
+    };
+    EXPECT_EQ(talk(WM_DDE_INITIATE, 0), 0) << "nobody is asked for";
     the_app.EnableShellOpen();
-    shell.talk(*frame, WM_DDE_INITIATE, MAKELPARAM(the_app.m_atomApp, the_app.m_atomSystemTopic));
-    EXPECT_EQ(shell.server, frame->m_hWnd);
+    EXPECT_EQ(talk(WM_DDE_INITIATE, MAKELPARAM(the_app.m_atomApp, the_app.m_atomSystemTopic)), 1);
     const std::string command = std::string("[open(\"") + file.name() + "\")]";
-    const HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, command.size()); // without the end of a text
-    std::memcpy(::GlobalLock(memory), command.data(), command.size());
-    ::GlobalUnlock(memory);
-    shell.talk(*frame, WM_DDE_EXECUTE, ::PackDDElParam(WM_DDE_EXECUTE, 0, reinterpret_cast<UINT_PTR>(memory)));
-    for (MSG message; ::PeekMessage(&message, shell, 0, 0, PM_REMOVE);)
-        ::DispatchMessage(&message);
-    EXPECT_EQ(shell.answers, 2);
+    const HGLOBAL memory = ::GlobalAlloc(GMEM_FIXED, command.size()); // without the end of a text
+    std::memcpy(memory, command.data(), command.size());
+    EXPECT_EQ(talk(WM_DDE_EXECUTE, reinterpret_cast<LPARAM>(memory)), 2);
     ::GlobalFree(memory);
     auto* opened = static_cast<note*>(frame->GetActiveFrame()->GetActiveDocument());
     EXPECT_TRUE(opened != nullptr && opened->text == "a note");

@@ -7,11 +7,8 @@ namespace {
 class library_app : public CWinApp {
 public:
     BOOL InitInstance() override { return begun = AfxGetApp() == this; }
-    int ExitInstance() override {
-        ::SetEnvironmentVariable("AFX_LIBRARY", "ended");
-        return CWinApp::ExitInstance();
-    }
-    BOOL begun = FALSE;
+    int ExitInstance() override { return *told = FALSE, CWinApp::ExitInstance(); }
+    BOOL begun = FALSE, *told = &begun;
 } library;
 
 class library_window : public CWnd {
@@ -22,16 +19,14 @@ class library_window : public CWnd {
 
 } // namespace
 
-// Without a window: whether its own state is in force in it and in a thread that it begins.
+// Whether its own state is in force in it and in a thread that it begins; FALSE again at its end.
 extern "C" __declspec(dllexport) HWND call_library(BOOL* own) {
     AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    CWinThread* thread =
-        AfxBeginThread([](LPVOID seen) -> UINT { return *static_cast<BOOL*>(seen) = AfxGetApp() == &library; }, own,
-                       THREAD_PRIORITY_NORMAL, 0, CREATE_SUSPENDED);
-    thread->m_bAutoDelete = FALSE;
-    thread->ResumeThread();
-    ::WaitForSingleObject(thread->m_hThread, INFINITE);
-    delete thread;
+    library.told = own;
+    const auto seen = [](LPVOID seen) -> UINT { return *static_cast<BOOL*>(seen) = AfxGetApp() == &library; };
+    CWinThread thread(seen, own);
+    thread.m_bAutoDelete = FALSE;
+    ::WaitForSingleObject(thread.CreateThread() ? thread.m_hThread : nullptr, INFINITE);
     *own = *own && library.begun && AfxGetApp() == &library && AfxGetResourceHandle() == library.m_hInstance;
     window.CreateEx(0, nullptr, "", WS_POPUP, CRect(0, 0, 1, 1), nullptr, 0);
     return window.m_hWnd;
