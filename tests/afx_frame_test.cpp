@@ -1,6 +1,7 @@
 // Frames with menus, bars and what they show while the program is idle.
 #include "afx_test_app.h"
 #include "held_keys.h"
+#include "modal.h"
 #include "trapping.h"
 
 #include <afxext.h>
@@ -321,6 +322,16 @@ TEST_F(AfxFrame, KeepsTheUserOutWhileItIsModal) {
     EXPECT_TRUE(frame.InModalState() && !shown.IsWindowEnabled() && other.IsWindowEnabled());
     frame.EnableWindow(TRUE);
     EXPECT_TRUE(!frame.InModalState() && shown.IsWindowEnabled() && !disabled.IsWindowEnabled());
+    CDialog modal(IDD_TEST, &shown);
+    bool kept = false;
+    const WhileModal work([&] {
+        if (modal.m_hWnd == nullptr)
+            return false;
+        kept = modal.IsWindowEnabled() && !frame.IsWindowEnabled();
+        return modal.EndDialog(IDOK), true;
+    });
+    modal.DoModal();
+    EXPECT_TRUE(kept && frame.IsWindowEnabled() && shown.IsWindowEnabled()) << "though in front of another dialog";
 }
 
 // Ends one of its windows, or itself, while commands are updated.

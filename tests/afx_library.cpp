@@ -12,6 +12,7 @@ public:
 } library;
 
 class library_window : public CWnd {
+    BOOL PreTranslateMessage(MSG*) override { return AfxGetApp() == &library; }
     LRESULT WindowProc(UINT message, WPARAM w, LPARAM l) override {
         return message == WM_USER ? AfxGetApp() == &library : CWnd::WindowProc(message, w, l);
     }

@@ -183,6 +183,8 @@ TEST(AfxLibrary, HasItsOwnProgramObjectAndLeavesTheProgramsItsOwn) {
     const HWND window = reinterpret_cast<HWND (*)(BOOL*)>(call)(&own);
     EXPECT_TRUE(own && AfxGetApp() == &the_app && AfxGetInstanceHandle() == ::GetModuleHandle(nullptr));
     EXPECT_NE(::SendMessage(window, WM_USER, 0, 0), 0) << "its window's messages come under its state";
+    MSG key{window, WM_KEYDOWN, 'A', 1, 0, {0, 0}};
+    EXPECT_TRUE(AfxPreTranslateMessage(&key)) << "and what comes before them";
     ::DestroyWindow(window);
     EXPECT_TRUE(AfxFreeLibrary(module) && !own && AfxGetThread() == &the_app);
 }

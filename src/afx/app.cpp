@@ -83,6 +83,7 @@ LPCTSTR AFXAPI AfxGetAppName() {
 CWinApp::CWinApp(LPCTSTR lpszAppName) : m_pszAppName(lpszAppName != nullptr ? ::_strdup(lpszAppName) : nullptr) {
     AFX_MODULE_STATE* state = afx_state_of_module(module_of(this)); // the object is static in its module
     state->m_pCurrentWinApp = this;
+    m_pModuleState = state;
     if (state == AfxGetAppModuleState() || this_thread().thread == nullptr)
         this_thread().thread = this;
     m_bAutoDelete = FALSE;
