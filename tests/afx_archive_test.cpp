@@ -87,6 +87,8 @@ TEST(AfxArchive, RefusesWhatDoesNotFit) {
     file.Seek(2, CFile::begin);
     file.Write("\x09", 1); // the schema number of another version
     EXPECT_EQ(read([](CArchive& ar) { delete ar.ReadObject(nullptr); }), CArchiveException::badSchema);
+    BYTE more[512];
+    EXPECT_EQ(read([&](CArchive& ar) { ar.EnsureRead(more, sizeof(more)); }), CArchiveException::endOfFile);
     const std::pair<std::string, int> damaged[] = {
         {"", CArchiveException::endOfFile},
         {std::string("\x05\x00", 2), CArchiveException::badIndex},                    // an object that is not there

@@ -50,6 +50,11 @@ protected:
     BOOL OnCopyData(CWnd* from, COPYDATASTRUCT* data) { return note("copy", is(from), data->cbData), TRUE; }
     void OnDisplayChange(UINT depth, int cx, int cy) { note("display", depth, cx, cy); }
     void OnParentNotify(UINT message, LPARAM) { note("parent", LOWORD(message), HIWORD(message)); }
+    void OnNcXButtonDown(short hit, UINT button, CPoint at) { note("ncx", hit, button, at.x); }
+    void OnMouseHWheel(UINT flags, short delta, CPoint at) { note("hwheel", flags, delta, at.x); }
+    void OnAppCommand(CWnd* wnd, UINT id, UINT device, UINT keys) { note("app", is(wnd), id, device, keys); }
+    void OnSessionChange(UINT state, UINT id) { note("session", state, id); }
+    UINT OnMenuDrag(UINT at, CMenu* menu) { return note("drag", at, menu == nullptr), MND_ENDMENU; }
     LRESULT OnOwn(WPARAM w, LPARAM l) { return note("own", w, l), 42; }
     LRESULT OnRegistered(WPARAM w, LPARAM) { return note("registered", w), 43; }
     DECLARE_MESSAGE_MAP()
@@ -77,6 +82,11 @@ ON_WM_SETTINGCHANGE()
 ON_WM_COPYDATA()
 ON_WM_DISPLAYCHANGE()
 ON_WM_PARENTNOTIFY()
+ON_WM_NCXBUTTONDOWN()
+ON_WM_MOUSEHWHEEL()
+ON_WM_APPCOMMAND()
+ON_WM_WTSSESSION_CHANGE()
+ON_WM_MENUDRAG()
 #ifdef __clang__
 ON_MESSAGE(WM_USER + 3, &unpacker::OnOwn)
 #else
@@ -118,6 +128,11 @@ TEST(AfxMessageMap, HandlersSeeTheParametersOfTheirMessages) {
         {WM_COPYDATA, static_cast<WPARAM>(self), reinterpret_cast<LPARAM>(&data), "copy 1 5", 1},
         {WM_DISPLAYCHANGE, 32, MAKELPARAM(640, 480), "display 32 640 480", 0},
         {WM_PARENTNOTIFY, MAKEWPARAM(WM_LBUTTONDOWN, 9), point, "parent 513 9", 0},
+        {WM_NCXBUTTONDOWN, MAKEWPARAM(HTTRANSPARENT, XBUTTON2), point, "ncx -1 2 -3", 0},
+        {WM_MOUSEHWHEEL, MAKEWPARAM(MK_SHIFT, -120), point, "hwheel 4 -120 -3", 0},
+        {WM_APPCOMMAND, static_cast<WPARAM>(self), MAKELPARAM(MK_CONTROL, FAPPCOMMAND_MOUSE | 8), "app 1 8 32768 8", 0},
+        {WM_WTSSESSION_CHANGE, WTS_SESSION_LOCK, 0x12345, "session 7 74565", 0},
+        {WM_MENUDRAG, 3, 0, "drag 3 1", MND_ENDMENU},
         {WM_USER + 3, 5, -6, "own 5 -6", 42},
         {registered, 8, 0, "registered 8", 43},
     };

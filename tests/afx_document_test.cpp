@@ -10,6 +10,8 @@
 #include <filesystem>
 #include <fstream>
 
+#include <dde.h>
+
 using testing::ElementsAre;
 
 namespace {
@@ -254,6 +256,39 @@ TEST_F(AfxSeveralDocuments, LieInOneFrameThatShowsTheActiveOnes) {
     frame->SendMessage(WM_CLOSE);
     EXPECT_EQ(note::alive, 0);
     EXPECT_EQ(the_app.m_pMainWnd, nullptr);
+}
+
+TEST_F(AfxSeveralDocuments, AreOpenedByTheShellsCommands) {
+    const TemporaryFile file({'a', ' ', 'n', 'o', 't', 'e'});
+    recorder shell;
+    ASSERT_TRUE(create_popup(shell));
+    const auto talk = [&](UINT message, LPARAM l) {
+        frame->SendMessage(message, reinterpret_cast<WPARAM>(shell.m_hWnd), l);
+        for (MSG posted; ::PeekMessage(&posted, shell, WM_DDE_ACK, WM_DDE_ACK, PM_REMOVE);)
+            ::DispatchMessage(&posted);
+        return std::count(shell.seen.begin(), shell.seen.end(), WM_DDE_ACK);
+    };
+    EXPECT_EQ(talk(WM_DDE_INITIATE, 0), 0) << "nobody is asked for";
+    the_app.EnableShellOpen();
+    EXPECT_EQ(talk(WM_DDE_INITIATE, MAKELPARAM(the_app.m_atomApp, the_app.m_atomSystemTopic)), 1);
+    const std::string command = std::string("[open(\"") + file.name() + "\")]";
+    const HGLOBAL memory = ::GlobalAlloc(GMEM_FIXED, command.size()); // without the end of a text
+    std::memcpy(memory, command.data(), command.size());
+    EXPECT_EQ(talk(WM_DDE_EXECUTE, reinterpret_cast<LPARAM>(memory)), 2);
+    ::GlobalFree(memory);
+    auto* opened = static_cast<note*>(frame->GetActiveFrame()->GetActiveDocument());
+    EXPECT_TRUE(opened != nullptr && opened->text == "a note");
+    for (std::string wrong :
+         {"", "[open(x)]", "[open(\"x\"]", "[open(\"x)]", "[close(\"x\")]", "[printto(\"x\",\"y\")]"})
+        EXPECT_FALSE(the_app.OnDDECommand(wrong.data())) << wrong;
+
+    add(RUNTIME_CLASS(note), IDS_LIST_KIND);
+    the_app.m_pDocManager->RegisterShellFileTypes(FALSE);
+    char start[MAX_PATH] = "";
+    LONG room = sizeof(start);
+    ::RegQueryValue(HKEY_CURRENT_USER, "Software\\Classes\\Test.List\\shell\\open\\command", start, &room);
+    EXPECT_STREQ(CString(start).Right(5), " /dde");
+    the_app.m_pDocManager->UnregisterShellFileTypes();
 }
 
 // The document's views are a list that programs go through themselves.

@@ -146,7 +146,35 @@ TEST_F(AfxDeviceContext, BrushesAndEdgesDrawWhatTheySay) {
     EXPECT_EQ(copy.GetPixel(9, 9), RGB(9, 9, 9));
     dc.TransparentBlt(0, 60, 10, 10, &copy, 0, 0, 10, 10, RGB(9, 9, 9));
     EXPECT_EQ(dc.GetPixel(5, 65), RGB(255, 255, 255)) << "all of it is seen through";
+    copy.PatBlt(0, 0, 10, 10, BLACKNESS);
+    dc.AlphaBlend(0, 60, 10, 10, &copy, 0, 0, 10, 10, {AC_SRC_OVER, 0, 51, 0});
+    EXPECT_EQ(dc.GetPixel(5, 65), RGB(204, 204, 204)) << "a fifth of black over white";
     copy.SelectObject(before_bits);
+}
+
+TEST_F(AfxDeviceContext, ShortensTextsAndMeasuresGlyphs) {
+    CFont font;
+    font.CreatePointFont(200, "Arial");
+    CFont* before = dc.SelectObject(&font);
+    DRAWTEXTPARAMS margins{sizeof(margins), 8, 10, 0, 0};
+    char path[64] = "C:\\a folder\\with a file.txt";
+    dc.DrawTextEx(path, -1, CRect(0, 0, 100, 40), DT_END_ELLIPSIS | DT_MODIFYSTRING, &margins);
+    EXPECT_STREQ(path + std::strlen(path) - 3, "...");
+    CRect place(0, 0, 1, 1);
+    dc.DrawTextEx(CString("x"), place, DT_CALCRECT, &margins);
+    EXPECT_EQ(place.Width(), dc.GetTextExtent("x").cx + 10) << "and the left margin";
+    WORD glyphs[2] = {};
+    GCP_RESULTS placed{};
+    placed.lStructSize = sizeof(placed);
+    placed.lpGlyphs = reinterpret_cast<LPWSTR>(glyphs);
+    placed.nGlyphs = 2;
+    CString letters("Wi");
+    EXPECT_EQ(LOWORD(dc.GetCharacterPlacement(letters, 0, &placed, 0)), dc.GetTextExtent(letters).cx);
+    int widths[2] = {}, letter = 0;
+    CSize all;
+    EXPECT_TRUE(dc.GetCharWidthI(0, 2, glyphs, widths) && dc.GetTextExtentPointI(glyphs, 2, &all));
+    EXPECT_TRUE(dc.GetCharWidth('i', 'i', &letter) && letter == widths[1] && all.cx == widths[0] + widths[1]);
+    dc.SelectObject(before);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // Frames with menus, bars and what they show while the program is idle.
 #include "afx_test_app.h"
 #include "held_keys.h"
+#include "modal.h"
 #include "trapping.h"
 
 #include <afxext.h>
@@ -130,6 +131,20 @@ TEST_F(AfxFrame, ShowsPromptsOfMenusAndOfButtonsUnderThePointer) {
     tip.hdr = {frame.tools.m_hWnd, ID_TEST_ON, static_cast<UINT>(TTN_NEEDTEXTA)};
     frame.SendMessage(WM_NOTIFY, ID_TEST_ON, reinterpret_cast<LPARAM>(&tip));
     EXPECT_STREQ(tip.szText, "On");
+}
+
+TEST_F(AfxFrame, HasTheProgramsIconAndUpdatesItselfWhenIdle) {
+    const auto icon = reinterpret_cast<HICON>(::GetClassLongPtr(frame, GCLP_HICON));
+    EXPECT_TRUE(icon != nullptr && icon == the_app.LoadIcon(AFX_IDI_STD_FRAME));
+    CMenu other;
+    other.CreateMenu();
+    frame.SetTitle("later");
+    frame.DelayUpdateFrameTitle();
+    frame.DelayUpdateFrameMenu(other);
+    EXPECT_TRUE(text_of(frame) != "later" && frame.GetMenu()->m_hMenu != other.m_hMenu);
+    frame.settle();
+    EXPECT_TRUE(text_of(frame) == "later" && frame.GetMenu()->m_hMenu == other.m_hMenu);
+    frame.OnUpdateFrameMenu(nullptr);
 }
 
 TEST_F(AfxFrame, LaysOutDockedBarsAndRemembersThem) {
@@ -303,6 +318,20 @@ TEST_F(AfxFrame, KeepsTheUserOutWhileItIsModal) {
     frame.EndModalState();
     EXPECT_TRUE(!frame.InModalState() && frame.IsWindowEnabled() && shown.IsWindowEnabled());
     EXPECT_FALSE(disabled.IsWindowEnabled()) << "as it was";
+    frame.EnableWindow(FALSE); // as a modal dialog does
+    EXPECT_TRUE(frame.InModalState() && !shown.IsWindowEnabled() && other.IsWindowEnabled());
+    frame.EnableWindow(TRUE);
+    EXPECT_TRUE(!frame.InModalState() && shown.IsWindowEnabled() && !disabled.IsWindowEnabled());
+    CDialog modal(IDD_TEST, &shown);
+    bool kept = false;
+    const WhileModal work([&] {
+        if (modal.m_hWnd == nullptr)
+            return false;
+        kept = modal.IsWindowEnabled() && !frame.IsWindowEnabled();
+        return modal.EndDialog(IDOK), true;
+    });
+    modal.DoModal();
+    EXPECT_TRUE(kept && frame.IsWindowEnabled() && shown.IsWindowEnabled()) << "though in front of another dialog";
 }
 
 // Ends one of its windows, or itself, while commands are updated.

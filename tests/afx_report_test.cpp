@@ -1,6 +1,7 @@
 // What objects and exceptions tell about themselves.
 #include "afx_test_app.h"
 
+#include <afxdisp.h>
 #include <afxtempl.h>
 
 namespace {
@@ -112,6 +113,17 @@ TEST(AfxExceptions, SystemErrorsHaveTheirCauses) {
     EXPECT_EQ(CFileException::ErrnoToException(ENOENT), CFileException::fileNotFound);
     EXPECT_EQ(CFileException::ErrnoToException(EACCES), CFileException::accessDenied);
     EXPECT_EQ(CFileException::ErrnoToException(9999), CFileException::genericException);
+}
+
+TEST(AfxOle, IsBegunForItsThreadOnce) {
+    EXPECT_TRUE(AfxOleInit() && AfxOleInit());
+    EXPECT_EQ(::CoInitializeEx(nullptr, COINIT_MULTITHREADED), RPC_E_CHANGED_MODE);
+    std::string names;
+    const auto add = [](const CRuntimeClass* type, void* all) {
+        *static_cast<std::string*>(all) += std::string(type->m_lpszClassName) + " ";
+    };
+    AfxDoForAllClasses(add, &names);
+    EXPECT_TRUE(names.find("CByteArray ") != names.npos && names.find("CFrameWnd ") == names.npos) << names;
 }
 
 TEST(AfxMemory, AddressesAreCheckedBeforeTheyAreUsed) {

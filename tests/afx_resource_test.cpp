@@ -133,6 +133,9 @@ TEST(AfxShell, KnowsTheDocumentsUntilTheyAreTakenBack) {
     EXPECT_STREQ(registered(".note"), "Test.Note");
     EXPECT_STREQ(registered("Test.Note"), "Test Note");
     EXPECT_STREQ(registered("Test.Note\\shell\\print\\command").Right(8), " /p \"%1\"");
+    EXPECT_NE(the_app.DelRegTree(HKEY_CURRENT_USER, ""), ERROR_SUCCESS) << "all the user has";
+    EXPECT_EQ(the_app.DelRegTree(HKEY_CURRENT_USER, "Software\\Classes\\Test.Note\\shell"), ERROR_SUCCESS);
+    EXPECT_STREQ(registered("Test.Note\\shell\\print\\command") + registered("Test.Note"), "Test Note");
     manager.UnregisterShellFileTypes();
     EXPECT_STREQ(registered(".note"), "");
     EXPECT_STREQ(registered("Test.Note"), "");
@@ -170,6 +173,20 @@ TEST(AfxExtensionModule, GivesItsResourcesAsLongAsItIsThere) {
     EXPECT_TRUE(found());
     AfxTermExtensionModule(state);
     EXPECT_FALSE(found());
+}
+
+TEST(AfxLibrary, HasItsOwnProgramObjectAndLeavesTheProgramsItsOwn) {
+    const HINSTANCE module = AfxLoadLibrary("afx_library.dll");
+    ASSERT_NE(module, nullptr);
+    const auto call = reinterpret_cast<void*>(::GetProcAddress(module, "call_library"));
+    BOOL own = FALSE;
+    const HWND window = reinterpret_cast<HWND (*)(BOOL*)>(call)(&own);
+    EXPECT_TRUE(own && AfxGetApp() == &the_app && AfxGetInstanceHandle() == ::GetModuleHandle(nullptr));
+    EXPECT_NE(::SendMessage(window, WM_USER, 0, 0), 0) << "its window's messages come under its state";
+    MSG key{window, WM_KEYDOWN, 'A', 1, 0, {0, 0}};
+    EXPECT_TRUE(AfxPreTranslateMessage(&key)) << "and what comes before them";
+    ::DestroyWindow(window);
+    EXPECT_TRUE(AfxFreeLibrary(module) && !own && AfxGetThread() == &the_app);
 }
 
 } // namespace

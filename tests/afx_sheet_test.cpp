@@ -109,6 +109,9 @@ public:
     }
     LRESULT OnWizardNext() override { return next; }
     BOOL OnWizardFinish() override { return finishes; }
+    HWND OnWizardFinishEx() override {
+        return marked_page::OnWizardFinishEx() == nullptr ? nullptr : ::GetDlgItem(m_hWnd, IDC_MARK);
+    }
 
     DWORD buttons = PSWIZB_NEXT;
     LRESULT next = 0;
@@ -134,9 +137,11 @@ TEST(AfxWizard, StepsRefusesAndFinishes) {
                           },
                           [&] {
                               EXPECT_EQ(sheet.GetActivePage(), &last);
+                              sheet.GetDlgItem(ID_WIZFINISH)->SetFocus();
                               press(PSBTN_FINISH);
                           },
                           [&] {
+                              EXPECT_EQ(::GetFocus(), ::GetDlgItem(last, IDC_MARK));
                               last.finishes = TRUE;
                               press(PSBTN_BACK);
                           },

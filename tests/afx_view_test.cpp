@@ -13,7 +13,9 @@ class page_view : public CScrollView {
 
 public:
     void OnDraw(CDC*) override {}
+    CSize GetWheelScrollDistance(CSize by, BOOL, BOOL) override { return CSize(0, by.cy * wheel); }
     using CScrollView::OnPrepareDC;
+    int wheel = 1;
 };
 IMPLEMENT_DYNCREATE(page_view, CScrollView)
 
@@ -28,10 +30,21 @@ public:
 };
 IMPLEMENT_DYNCREATE(form, CFormView)
 
+// Tells of its drags, and keeps its first column.
+class told_splitter : public CSplitterWnd {
+public:
+    std::string log;
+    int narrowest = 0;
+    void StartTracking(int ht) override { log += "start " + std::to_string(ht), CSplitterWnd::StartTracking(ht); }
+    void StopTracking(BOOL take) override { log += " stop " + std::to_string(take), CSplitterWnd::StopTracking(take); }
+    void TrackRowSize(int y, int row) override { log += " row", CSplitterWnd::TrackRowSize(y, row); }
+    void TrackColumnSize(int x, int col) override { CSplitterWnd::TrackColumnSize(std::max(x, narrowest), col); }
+};
+
 // A frame around a view or a splitter, without a document.
 class view_frame : public CFrameWnd {
 public:
-    CSplitterWnd splitter, inner;
+    told_splitter splitter, inner;
     std::function<BOOL(view_frame&, CCreateContext&)> make;
 
     bool open(std::function<BOOL(view_frame&, CCreateContext&)> client) {
@@ -85,6 +98,10 @@ TEST(AfxScrollView, ScrollsWithinItsDocumentInLogicalUnits) {
     EXPECT_EQ(view.GetScrollPosition().y, 2000 - client.Height()) << "not beyond the end";
     view.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, WHEEL_DELTA));
     EXPECT_EQ(view.GetScrollPosition().y, 2000 - client.Height() - 3 * 15);
+    view.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(MK_CONTROL, WHEEL_DELTA));
+    view.wheel = 2;
+    EXPECT_TRUE(view.DoMouseWheel(0, WHEEL_DELTA, CPoint()));
+    EXPECT_EQ(view.GetScrollPosition().y, 2000 - client.Height() - 9 * 15) << "twice as far, but not with a key";
     view.ScrollToPosition(CPoint(-5, 40));
     EXPECT_EQ(view.GetScrollPosition(), CPoint(0, 40));
     {
@@ -313,7 +330,7 @@ protected:
     }
 
     view_frame frame;
-    CSplitterWnd& splitter = frame.splitter;
+    told_splitter& splitter = frame.splitter;
     int least = 0;
 };
 
@@ -323,6 +340,11 @@ TEST_F(AfxDynamicSplitter, FollowsTheMouseToCrossingsAndBackAgain) {
     const CPoint crossing(first.cx + 3, first.cy + 3), moved = crossing + by;
     drag(crossing, moved);
     EXPECT_EQ(first_pane(), first + by) << "both bars at once";
+    EXPECT_EQ(splitter.log, "start 301 stop 1 row");
+    splitter.narrowest = 60;
+    drag(CPoint(moved.x, 5), CPoint(30, 5));
+    EXPECT_EQ(first_pane().cx, 60) << "as narrow as it lets it be";
+    drag(CPoint(63, 5), CPoint(moved.x, 5));
     send(WM_LBUTTONDOWN, moved);
     send(WM_MOUSEMOVE, moved - CSize(50, 50));
     splitter.SendMessage(WM_KEYDOWN, VK_ESCAPE);
@@ -359,6 +381,17 @@ TEST_F(AfxDynamicSplitter, SplitsWherePulledAndJoinsWhatBecomesTooSmall) {
     EXPECT_EQ(splitter.GetPane(0, 0), lower);
 }
 
+TEST_F(AfxDynamicSplitter, TurnsPanesThatShareABarTogether) {
+    ASSERT_TRUE(splitter.SplitColumn(120));
+    for (int column : {0, 1})
+        static_cast<page_view*>(splitter.GetPane(0, column))
+            ->SetScrollSizes(MM_TEXT, CSize(10, 2000), CSize(0, 90), CSize(0, 10));
+    auto& view = *static_cast<page_view*>(splitter.GetPane(0, 0));
+    frame.SetActiveView(&view);
+    splitter.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA));
+    EXPECT_EQ(view.GetScrollPosition().y, 30) << "each by as much, from where it was";
+}
+
 TEST(AfxSplitter, HoldsPanesOfItsOwnAndSplittersAgain) {
     view_frame frame;
     ASSERT_TRUE(frame.open([](view_frame& at, CCreateContext& context) {
@@ -381,6 +414,8 @@ TEST(AfxSplitter, HoldsPanesOfItsOwnAndSplittersAgain) {
     EXPECT_TRUE(frame.splitter.IsChildPane(&frame.inner, row, column));
     EXPECT_EQ(column, 1);
     EXPECT_EQ(CView::GetParentSplitter(frame.inner.GetPane(1, 0), TRUE), &frame.inner);
+    frame.SetActiveView(static_cast<CView*>(frame.splitter.GetPane(0, 0)));
+    frame.splitter.GetPane(0, 0)->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(MK_CONTROL, WHEEL_DELTA)); // comes back to it
     frame.splitter.SetColumnInfo(0, 150, 10);
     frame.splitter.RecalcLayout();
     CRect rect = on_screen(frame.inner);

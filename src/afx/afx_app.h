@@ -66,6 +66,11 @@ public:
     BOOL Enable3dControls() { return TRUE; }
     BOOL Enable3dControlsStatic() { return TRUE; }
 
+    // Dialogs of objects that are active inside the frame: there are none.
+    void EnableModeless(BOOL) {}
+    // Deletes the key with all below it.
+    LONG DelRegTree(HKEY hParentKey, const CString& strKeyName, ATL::CAtlTransactionManager* pTM = nullptr);
+
     // Every question of the framework for help comes through here: a command of the platform's help program.
     virtual void WinHelp(DWORD_PTR dwData, UINT nCmd = HELP_CONTEXT);
 
@@ -93,6 +98,10 @@ public:
     void CloseAllDocuments(BOOL bEndSession);
     BOOL DoPromptFileName(CString& fileName, UINT nIDSTitle, DWORD lFlags, BOOL bOpenFileDialog,
                           CDocTemplate* pTemplate);
+
+    // A command that the shell sends to the main window of a program that is running, once EnableShellOpen was called.
+    virtual BOOL OnDDECommand(LPTSTR lpszCommand);
+    ATOM m_atomApp = 0, m_atomSystemTopic = 0;
 
     // The command line of the program as a wish, and its fulfilment; FALSE where the program is to end.
     void ParseCommandLine(CCommandLineInfo& rCmdInfo);
@@ -123,7 +132,7 @@ protected:
     // Reads the recent files; 0 keeps none.
     void LoadStdProfileSettings(UINT nMaxMRU = _AFX_MRU_COUNT);
     void SaveStdProfileSettings();
-    void EnableShellOpen();
+    void EnableShellOpen(); // before RegisterShellFileTypes
     void RegisterShellFileTypes(BOOL bCompat = FALSE);
     void UnregisterShellFileTypes();
 
@@ -136,6 +145,7 @@ protected:
 private:
     friend BOOL AFXAPI AfxWinInit(HINSTANCE, HINSTANCE, LPTSTR, int);
     void SetNames();
+    void DisableShellOpen();
     void UpdatePrinterSelection(BOOL bForceDefaults);
 };
 

@@ -33,7 +33,12 @@ public:
 
     // Fewer bytes than asked for at the end of the file.
     UINT Read(void* lpBuf, UINT nMax);
+    // Raises CArchiveException where the file has fewer.
+    void EnsureRead(void* lpBuf, UINT nCount);
     void Write(const void* lpBuf, UINT nMax);
+    // How many objects are expected; to be told before the first.
+    void SetLoadParams(UINT nGrowBy = 1024);
+    void SetStoreParams(UINT nHashSize = 2053, UINT nBlockSize = 128);
     // One line, without its end. False, or null, where the file has ended.
     BOOL ReadString(CString& rString);
     LPTSTR ReadString(LPTSTR lpsz, UINT nMax); // at most nMax characters and the terminator
@@ -103,11 +108,10 @@ private:
     }
     template <class Value> CArchive& Get(Value& value) {
         Value read;
-        ReadAll(&read, sizeof(read));
+        EnsureRead(&read, sizeof(read));
         value = read;
         return *this;
     }
-    void ReadAll(void* bytes, UINT count);
     [[noreturn]] void Fail(int cause) const;
     void CheckCount() const;
     bool Refill();

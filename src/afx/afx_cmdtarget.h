@@ -33,6 +33,9 @@ enum AfxSig : UINT {
     AfxSig_v_u,           // wParam
     AfxSig_v_u_u,         // wParam, low lParam
     AfxSig_v_u_l,         // wParam, lParam
+    AfxSig_v_u_d,         // wParam, lParam's low double word
+    AfxSig_v_u_b,         // wParam, lParam
+    AfxSig_v_words,       // low wParam, high wParam
     AfxSig_v_u_s,         // wParam, lParam
     AfxSig_v_s,           // lParam
     AfxSig_v_i_p,         // wParam, lParam
@@ -44,6 +47,8 @@ enum AfxSig : UINT {
     AfxSig_v_key,         // wParam, low lParam, high lParam
     AfxSig_v_u_P,         // wParam, lParam
     AfxSig_v_xbutton,     // low wParam, high wParam, lParam
+    AfxSig_v_ncxbutton,   // short, UINT, CPoint
+    AfxSig_v_wheel,       // UINT, short, CPoint
     AfxSig_v_w_from_w,    // wParam
     AfxSig_v_w_from_l,    // lParam
     AfxSig_v_w_P,         // wParam, lParam
@@ -59,8 +64,10 @@ enum AfxSig : UINT {
     AfxSig_v_m,           // wParam
     AfxSig_v_m_u,         // wParam, high lParam
     AfxSig_v_m_u_b,       // wParam, low lParam, high lParam
+    AfxSig_v_u_m,         // wParam, lParam
     AfxSig_v_menuselect,  // UINT, UINT, HMENU
     AfxSig_v_parent,      // UINT, LPARAM
+    AfxSig_v_appcommand,  // CWnd*, UINT, UINT, UINT
     // Window messages with an answer.
     AfxSig_l_w_l,      // wParam, lParam
     AfxSig_l_d_u,      // wParam, lParam
@@ -80,13 +87,14 @@ enum AfxSig : UINT {
     AfxSig_uv,         // nothing
     AfxSig_u_u_l,      // wParam, lParam
     AfxSig_u_w_u,      // wParam, lParam
+    AfxSig_u_u_m,      // wParam, lParam
+    AfxSig_u_p,        // lParam
     AfxSig_l_P,        // lParam
     AfxSig_l_menuchar, // UINT, UINT, CMenu*
     AfxSig_hv,         // nothing
     AfxSig_h_ctlcolor, // CDC*, CWnd*, UINT
     // Messages that come back to the control they came from.
     AfxSig_h_ctlcolor_reflect, // CDC*, UINT
-    AfxSig_v_scroll_reflect,   // UINT, UINT
     AfxSig_v_p_reflect,        // lParam
     AfxSig_i_p_reflect,        // lParam
     AfxSig_i_listkey_reflect,  // UINT, UINT
@@ -123,6 +131,16 @@ protected:                                                                      
     }                                                                                                                  \
     const AFX_MSGMAP* PASCAL theClass::GetThisMessageMap() {                                                           \
         [[maybe_unused]] typedef theClass ThisClass;                                                                   \
+        typedef baseClass TheBaseClass;                                                                                \
+        static const AFX_MSGMAP_ENTRY messageEntries[] = {
+
+// For a class template of one type.
+#define BEGIN_TEMPLATE_MESSAGE_MAP(theClass, type_name, baseClass)                                                     \
+    template <typename type_name> const AFX_MSGMAP* theClass<type_name>::GetMessageMap() const {                       \
+        return theClass<type_name>::GetThisMessageMap();                                                               \
+    }                                                                                                                  \
+    template <typename type_name> const AFX_MSGMAP* PASCAL theClass<type_name>::GetThisMessageMap() {                  \
+        [[maybe_unused]] typedef theClass<type_name> ThisClass;                                                        \
         typedef baseClass TheBaseClass;                                                                                \
         static const AFX_MSGMAP_ENTRY messageEntries[] = {
 

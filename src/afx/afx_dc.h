@@ -237,6 +237,13 @@ public:
     BOOL DrawState(CPoint pt, CSize size, HICON hIcon, UINT nFlags, CBrush* pBrush) {
         return DrawState(pt, size, hIcon, nFlags, BrushOf(pBrush));
     }
+    BOOL DrawState(CPoint pt, CSize size, DRAWSTATEPROC lpDrawProc, LPARAM lData, UINT nFlags,
+                   HBRUSH hBrush = nullptr) {
+        return ::DrawState(m_hDC, hBrush, lpDrawProc, lData, 0, pt.x, pt.y, size.cx, size.cy, nFlags | DST_COMPLEX);
+    }
+    BOOL DrawState(CPoint pt, CSize size, DRAWSTATEPROC lpDrawProc, LPARAM lData, UINT nFlags, CBrush* pBrush) {
+        return DrawState(pt, size, lpDrawProc, lData, nFlags, BrushOf(pBrush));
+    }
     BOOL DrawEdge(LPRECT lpRect, UINT nEdge, UINT nFlags) { return ::DrawEdge(m_hDC, lpRect, nEdge, nFlags); }
     BOOL DrawFrameControl(LPRECT lpRect, UINT nType, UINT nState) {
         return ::DrawFrameControl(m_hDC, lpRect, nType, nState);
@@ -282,6 +289,11 @@ public:
                         UINT clrTransparent) {
         return ::GdiTransparentBlt(m_hDC, x, y, cx, cy, pSrcDC->GetSafeHdc(), xSrc, ySrc, cxSrc, cySrc, clrTransparent);
     }
+    BOOL AlphaBlend(int xDest, int yDest, int nDestWidth, int nDestHeight, CDC* pSrcDC, int xSrc, int ySrc,
+                    int nSrcWidth, int nSrcHeight, BLENDFUNCTION blend) {
+        return ::GdiAlphaBlend(m_hDC, xDest, yDest, nDestWidth, nDestHeight, pSrcDC->GetSafeHdc(), xSrc, ySrc,
+                               nSrcWidth, nSrcHeight, blend);
+    }
     BOOL MaskBlt(int x, int y, int cx, int cy, CDC* pSrcDC, int xSrc, int ySrc, CBitmap& maskBitmap, int xMask,
                  int yMask, DWORD dwRop) {
         return ::MaskBlt(m_hDC, x, y, cx, cy, pSrcDC->GetSafeHdc(), xSrc, ySrc, maskBitmap, xMask, yMask, dwRop);
@@ -304,96 +316,44 @@ public:
         return ::GdiGradientFill(m_hDC, pVertices, nVertices, pMesh, nMeshElements, dwMode);
     }
 
-    // Texts.
-    virtual BOOL TextOut(int x, int y, LPCTSTR lpszString, int nCount);
-    BOOL TextOut(int x, int y, const CString& str) { return TextOut(x, y, str, str.GetLength()); }
-    virtual BOOL ExtTextOut(int x, int y, UINT nOptions, LPCRECT lpRect, LPCTSTR lpszString, UINT nCount,
-                            LPINT lpDxWidths) {
-        return ::ExtTextOut(m_hDC, x, y, nOptions, lpRect, lpszString, nCount, lpDxWidths);
-    }
-    BOOL ExtTextOut(int x, int y, UINT nOptions, LPCRECT lpRect, const CString& str, LPINT lpDxWidths) {
-        return ExtTextOut(x, y, nOptions, lpRect, str, static_cast<UINT>(str.GetLength()), lpDxWidths);
-    }
-    virtual CSize TabbedTextOut(int x, int y, LPCTSTR lpszString, int nCount, int nTabPositions,
-                                LPINT lpnTabStopPositions, int nTabOrigin) {
-        return CSize(static_cast<DWORD>(
-            ::TabbedTextOut(m_hDC, x, y, lpszString, nCount, nTabPositions, lpnTabStopPositions, nTabOrigin)));
-    }
-    CSize TabbedTextOut(int x, int y, const CString& str, int nTabPositions, LPINT lpnTabStopPositions,
-                        int nTabOrigin) {
-        return TabbedTextOut(x, y, str, str.GetLength(), nTabPositions, lpnTabStopPositions, nTabOrigin);
-    }
-    virtual int DrawText(LPCTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat) {
-        return ::DrawText(m_hDC, lpszString, nCount, lpRect, nFormat);
-    }
-    int DrawText(const CString& str, LPRECT lpRect, UINT nFormat) {
-        return DrawText(str, str.GetLength(), lpRect, nFormat);
-    }
-    CSize GetTextExtent(LPCTSTR lpszString, int nCount) const;
-    CSize GetTextExtent(const CString& str) const { return GetTextExtent(str, str.GetLength()); }
-    BOOL GetTextExtentExPointI(LPWORD pgiIn, int cgi, int nMaxExtent, LPINT lpnFit, LPINT alpDx, LPSIZE lpSize) const {
-        return ::GetTextExtentExPointI(m_hDC, pgiIn, cgi, nMaxExtent, lpnFit, alpDx, lpSize);
-    }
-    CSize GetOutputTextExtent(LPCTSTR lpszString, int nCount) const;
-    CSize GetOutputTextExtent(const CString& str) const { return GetOutputTextExtent(str, str.GetLength()); }
-    CSize GetTabbedTextExtent(LPCTSTR lpszString, int nCount, int nTabPositions, LPINT lpnTabStopPositions) const {
-        return CSize(static_cast<DWORD>(
-            ::GetTabbedTextExtent(m_hAttribDC, lpszString, nCount, nTabPositions, lpnTabStopPositions)));
-    }
-    CSize GetTabbedTextExtent(const CString& str, int nTabPositions, LPINT lpnTabStopPositions) const {
-        return GetTabbedTextExtent(str, str.GetLength(), nTabPositions, lpnTabStopPositions);
-    }
-    virtual BOOL GrayString(CBrush* pBrush, BOOL(CALLBACK* lpfnOutput)(HDC, LPARAM, int), LPARAM lpData, int nCount,
-                            int x, int y, int nWidth, int nHeight) {
-        return ::GrayString(m_hDC, BrushOf(pBrush), lpfnOutput, lpData, nCount, x, y, nWidth, nHeight);
-    }
-    UINT SetTextAlign(UINT nFlags) { return Both<UINT>(::SetTextAlign, nFlags); }
-    UINT GetTextAlign() const { return ::GetTextAlign(m_hAttribDC); }
-    int GetTextFace(int nCount, LPTSTR lpszFacename) const { return ::GetTextFace(m_hAttribDC, nCount, lpszFacename); }
-    int GetTextFace(CString& rString) const;
-    BOOL GetTextMetrics(LPTEXTMETRIC lpMetrics) const { return ::GetTextMetrics(m_hAttribDC, lpMetrics); }
-    BOOL GetOutputTextMetrics(LPTEXTMETRIC lpMetrics) const { return ::GetTextMetrics(m_hDC, lpMetrics); }
-    UINT GetOutlineTextMetrics(UINT cbData, LPOUTLINETEXTMETRIC lpotm) const {
-        return ::GetOutlineTextMetrics(m_hAttribDC, cbData, lpotm);
-    }
-    int SetTextJustification(int nBreakExtra, int nBreakCount) {
-        return Both<int>(::SetTextJustification, nBreakExtra, nBreakCount);
-    }
-    int SetTextCharacterExtra(int nCharExtra) { return Both<int>(::SetTextCharacterExtra, nCharExtra); }
-    int GetTextCharacterExtra() const { return ::GetTextCharacterExtra(m_hAttribDC); }
-    DWORD SetMapperFlags(DWORD dwFlag) { return Both<DWORD>(::SetMapperFlags, dwFlag); }
-    BOOL GetCharWidth(UINT nFirstChar, UINT nLastChar, LPINT lpBuffer) const {
-        return ::GetCharWidth(m_hAttribDC, nFirstChar, nLastChar, lpBuffer);
-    }
-    BOOL GetOutputCharWidth(UINT nFirstChar, UINT nLastChar, LPINT lpBuffer) const {
-        return ::GetCharWidth(m_hDC, nFirstChar, nLastChar, lpBuffer);
-    }
-    BOOL GetCharABCWidths(UINT nFirstChar, UINT nLastChar, LPABC lpabc) const {
-        return ::GetCharABCWidths(m_hAttribDC, nFirstChar, nLastChar, lpabc);
-    }
-    DWORD GetFontData(DWORD dwTable, DWORD dwOffset, LPVOID lpData, DWORD cbData) const {
-        return ::GetFontData(m_hAttribDC, dwTable, dwOffset, lpData, cbData);
-    }
-    DWORD GetGlyphOutline(UINT nChar, UINT nFormat, LPGLYPHMETRICS lpgm, DWORD cbBuffer, LPVOID lpData,
-                          const MAT2* lpmat2) const {
-        return ::GetGlyphOutline(m_hAttribDC, nChar, nFormat, lpgm, cbBuffer, lpData, lpmat2);
-    }
+#include "afx_dc_text.h"
+
     BOOL ScrollDC(int dx, int dy, LPCRECT lpRectScroll, LPCRECT lpRectClip, CRgn* pRgnUpdate, LPRECT lpRectUpdate) {
         return ::ScrollDC(m_hDC, dx, dy, lpRectScroll, lpRectClip, RegionOf(pRgnUpdate), lpRectUpdate);
     }
 
     // Paths.
-    BOOL BeginPath() { return ::BeginPath(m_hDC); }
-    BOOL EndPath() { return ::EndPath(m_hDC); }
-    BOOL AbortPath() { return ::AbortPath(m_hDC); }
-    BOOL CloseFigure() { return ::CloseFigure(m_hDC); }
-    BOOL FillPath() { return ::FillPath(m_hDC); }
-    BOOL FlattenPath() { return ::FlattenPath(m_hDC); }
-    BOOL StrokePath() { return ::StrokePath(m_hDC); }
-    BOOL StrokeAndFillPath() { return ::StrokeAndFillPath(m_hDC); }
-    BOOL WidenPath() { return ::WidenPath(m_hDC); }
+    BOOL BeginPath() {
+        return ::BeginPath(m_hDC);
+    }
+    BOOL EndPath() {
+        return ::EndPath(m_hDC);
+    }
+    BOOL AbortPath() {
+        return ::AbortPath(m_hDC);
+    }
+    BOOL CloseFigure() {
+        return ::CloseFigure(m_hDC);
+    }
+    BOOL FillPath() {
+        return ::FillPath(m_hDC);
+    }
+    BOOL FlattenPath() {
+        return ::FlattenPath(m_hDC);
+    }
+    BOOL StrokePath() {
+        return ::StrokePath(m_hDC);
+    }
+    BOOL StrokeAndFillPath() {
+        return ::StrokeAndFillPath(m_hDC);
+    }
+    BOOL WidenPath() {
+        return ::WidenPath(m_hDC);
+    }
     float GetMiterLimit() const;
-    BOOL SetMiterLimit(float fMiterLimit) { return ::SetMiterLimit(m_hDC, fMiterLimit, nullptr); }
+    BOOL SetMiterLimit(float fMiterLimit) {
+        return ::SetMiterLimit(m_hDC, fMiterLimit, nullptr);
+    }
     int GetPath(LPPOINT lpPoints, LPBYTE lpTypes, int nCount) const {
         return ::GetPath(m_hDC, lpPoints, lpTypes, nCount);
     }
@@ -409,14 +369,28 @@ public:
     int DrawEscape(int nEscape, int nInputSize, LPCSTR lpszInputData) {
         return ::DrawEscape(m_hDC, nEscape, nInputSize, lpszInputData);
     }
-    int StartDoc(LPDOCINFO lpDocInfo) { return ::StartDoc(m_hDC, lpDocInfo); }
+    int StartDoc(LPDOCINFO lpDocInfo) {
+        return ::StartDoc(m_hDC, lpDocInfo);
+    }
     int StartDoc(LPCTSTR lpszDocName);
-    int StartPage() { return ::StartPage(m_hDC); }
-    int EndPage() { return ::EndPage(m_hDC); }
-    int SetAbortProc(BOOL(CALLBACK* lpfn)(HDC, int)) { return ::SetAbortProc(m_hDC, lpfn); }
-    int AbortDoc() { return ::AbortDoc(m_hDC); }
-    int EndDoc() { return ::EndDoc(m_hDC); }
-    BOOL PlayMetaFile(HMETAFILE hMF) { return ::PlayMetaFile(m_hDC, hMF); }
+    int StartPage() {
+        return ::StartPage(m_hDC);
+    }
+    int EndPage() {
+        return ::EndPage(m_hDC);
+    }
+    int SetAbortProc(BOOL(CALLBACK* lpfn)(HDC, int)) {
+        return ::SetAbortProc(m_hDC, lpfn);
+    }
+    int AbortDoc() {
+        return ::AbortDoc(m_hDC);
+    }
+    int EndDoc() {
+        return ::EndDoc(m_hDC);
+    }
+    BOOL PlayMetaFile(HMETAFILE hMF) {
+        return ::PlayMetaFile(m_hDC, hMF);
+    }
     BOOL PlayMetaFile(HENHMETAFILE hEnhMetaFile, LPCRECT lpBounds) {
         return ::PlayEnhMetaFile(m_hDC, hEnhMetaFile, lpBounds);
     }
@@ -431,9 +405,15 @@ protected:
 
 private:
     BOOL AttachNew(HDC hDC);
-    HGDIOBJ Current(UINT kind) const { return ::GetCurrentObject(m_hAttribDC, kind); }
-    static HBRUSH BrushOf(const CBrush* pBrush) { return static_cast<HBRUSH>(pBrush->GetSafeHandle()); }
-    static HRGN RegionOf(const CRgn* pRgn) { return static_cast<HRGN>(pRgn->GetSafeHandle()); }
+    HGDIOBJ Current(UINT kind) const {
+        return ::GetCurrentObject(m_hAttribDC, kind);
+    }
+    static HBRUSH BrushOf(const CBrush* pBrush) {
+        return static_cast<HBRUSH>(pBrush->GetSafeHandle());
+    }
+    static HRGN RegionOf(const CRgn* pRgn) {
+        return static_cast<HRGN>(pRgn->GetSafeHandle());
+    }
 
     // What changes an attribute changes both contexts; the answer is the attribute context's.
     template <class Result, class Function, class... Arguments> Result Both(Function function, Arguments... arguments) {

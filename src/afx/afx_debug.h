@@ -16,6 +16,8 @@ template <class... Arguments> inline void AfxTrace(LPCTSTR lpszFormat, Arguments
 // Stops where the object is null, its memory is not there, or AssertValid objects to it.
 ZOPAFX_API void AFXAPI AfxAssertValidObject(const CObject* pOb, LPCSTR lpszFileName, int nLine);
 ZOPAFX_API BOOL AFXAPI AfxIsValidAddress(const void* lp, UINT_PTR nBytes, BOOL bReadWrite = TRUE);
+// Whether the memory that new takes from is whole.
+ZOPAFX_API BOOL AFXAPI AfxCheckMemory();
 // nLength -1: up to the null character.
 ZOPAFX_API BOOL AFXAPI AfxIsValidString(LPCSTR lpsz, int nLength = -1);
 

@@ -100,6 +100,8 @@ public:
     virtual void OnFileOpen();
     virtual CDocument* OpenDocumentFile(LPCTSTR lpszFileName);
     virtual CDocument* OpenDocumentFile(LPCTSTR lpszFileName, BOOL bAddToMRU);
+    // A command of the shell's; FALSE where it is none.
+    virtual BOOL OnDDECommand(LPTSTR lpszCommand);
     // Asks the user for a file of the template, or of any.
     virtual BOOL DoPromptFileName(CString& fileName, UINT nIDSTitle, DWORD lFlags, BOOL bOpenFileDialog,
                                   CDocTemplate* pTemplate);

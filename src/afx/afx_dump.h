@@ -60,3 +60,5 @@ ZOPAFX_API CDumpContext& AFXAPI operator<<(CDumpContext& dc, POINT point);
 ZOPAFX_API CDumpContext& AFXAPI operator<<(CDumpContext& dc, const RECT& rect);
 
 extern ZOPAFX_API CDumpContext afxDump;
+// To the debugger, which may call it, too.
+ZOPAFX_API void AFXAPI AfxDump(const CObject* pOb);

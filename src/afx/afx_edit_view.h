@@ -39,6 +39,9 @@ protected:
     void OnEndPrinting(CDC* pDC, CPrintInfo* pInfo) override;
     void OnPrepareDC(CDC* pDC, CPrintInfo* pInfo = nullptr) override;
 
+    // Lays out the pages up to the record's current one; FALSE where there is no such page.
+    BOOL PaginateTo(CDC* pDC, CPrintInfo* pInfo);
+
     // What the box for searching asks for; nothing found is no error, and sounds.
     virtual void OnFindNext(LPCTSTR lpszFind, BOOL bNext, BOOL bCase);
     virtual void OnReplaceSel(LPCTSTR lpszFind, BOOL bNext, BOOL bCase, LPCTSTR lpszReplace);
@@ -69,8 +72,6 @@ protected:
     afx_msg void OnUpdateEditUndo(CCmdUI* pCmdUI);
 
 private:
-    bool TurnTo(CDC& dc, UINT page);
-
     int m_nTabStops = 32; // a quarter of a character's breadth
     HFONT m_hPrinterFont = nullptr;
     HFONT m_print_font = nullptr; // the screen's at the printer's size, where no other was set

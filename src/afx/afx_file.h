@@ -69,6 +69,8 @@ public:
     // Fewer bytes than asked for at the end of the file.
     virtual UINT Read(void* lpBuf, UINT nCount);
     virtual void Write(const void* lpBuf, UINT nCount);
+    UINT ReadHuge(void* lpBuffer, UINT nCount) { return Read(lpBuffer, nCount); } // older names
+    void WriteHuge(const void* lpBuffer, UINT nCount) { Write(lpBuffer, nCount); }
     virtual ULONGLONG Seek(LONGLONG lOff, UINT nFrom);
     void SeekToBegin() { Seek(0, begin); }
     ULONGLONG SeekToEnd() { return Seek(0, end); }

@@ -67,6 +67,10 @@ public:
     void SetTitle(LPCTSTR lpszTitle) { m_strTitle = lpszTitle; }
     virtual void OnUpdateFrameTitle(BOOL bAddToTitle);
     virtual void OnUpdateFrameMenu(HMENU hMenuAlt);
+    // The same, and the layout, when the thread is idle.
+    void DelayUpdateFrameTitle() { m_title_wanted = true; }
+    virtual void DelayUpdateFrameMenu(HMENU hMenuAlt);
+    void DelayRecalcLayout(BOOL bNotify = TRUE) { m_layout_wanted = true; }
     virtual HACCEL GetDefaultAccelerator();
 
     // Texts of the message bar: the status bar, where there is one.
@@ -95,7 +99,8 @@ public:
     BOOL PreTranslateMessage(MSG* pMsg) override;
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
 
-    // Disables the windows of the frame, itself too, until as many calls end it.
+    // Disables the windows of the frame, itself too, until as many calls end it. So does disabling the frame, as a
+    // modal dialog in front of it does. A window that answers WM_DISABLEMODAL with anything but 0 stays as it is.
     void BeginModalState() override;
     void EndModalState() override;
     BOOL InModalState() const { return m_cModalStack != 0; }
@@ -142,10 +147,15 @@ protected:
     afx_msg void OnDropFiles(HDROP hDropInfo);
     afx_msg BOOL OnQueryEndSession();
     afx_msg void OnEndSession(BOOL bEnding);
+    afx_msg void OnEnable(BOOL bEnable);
+    afx_msg void OnDDEInitiate(CWnd* pWnd, UINT nApp, UINT nTopic);
+    afx_msg void OnDDEExecute(CWnd* pWnd, HANDLE hCommands);
+    afx_msg void OnDDETerminate(CWnd* pWnd);
     afx_msg void OnUpdateKeyIndicator(CCmdUI* pCmdUI);
     afx_msg BOOL OnToolTipText(UINT nID, NMHDR* pNMHDR, LRESULT* pResult);
 
     HMENU m_hMenuDefault = nullptr; // the menu while no document's own is shown
+    HMENU m_hMenuAlt = nullptr;     // that DelayUpdateFrameMenu was given
     HACCEL m_hAccelTable = nullptr;
     CString m_strTitle;
     UINT m_nIDHelp = 0; // the number it was loaded by
@@ -178,5 +188,6 @@ private:
     UINT m_cModalStack = 0;
     std::vector<HWND> m_disabled; // by BeginModalState
     bool m_in_layout = false;
-    bool m_layout_wanted = false;
+    bool m_layout_wanted = false, m_title_wanted = false, m_menu_wanted = false; // by the idle frame
+    bool m_modal_by_disabling = false;
 };

@@ -1,6 +1,7 @@
 // The modules of a process and the search for resources among them.
 #pragma once
 
+#include "afx_module_state.h"
 #include "afx_object.h"
 
 struct AFX_EXTENSION_MODULE {
@@ -32,7 +33,7 @@ public:
 };
 
 ZOPAFX_API HINSTANCE AFXAPI AfxGetInstanceHandle();
-// Where resources are looked for first; the program itself unless another module was set.
+// Of the module in force. Resources are looked for there first, unless another module was set.
 ZOPAFX_API HINSTANCE AFXAPI AfxGetResourceHandle();
 ZOPAFX_API void AFXAPI AfxSetResourceHandle(HINSTANCE hInstResource);
 // The module that holds the resource: the current one, the program, then each extension library.

@@ -31,17 +31,31 @@ template <class Target> inline AFX_PMSG afx_timer_method(void (Target::*method)(
 #define ON_WM_NCMOUSELEAVE() AFX_WM_ENTRY(WM_NCMOUSELEAVE, AfxSig_vv, void, (), OnNcMouseLeave)
 #define ON_WM_ENTERSIZEMOVE() AFX_WM_ENTRY(WM_ENTERSIZEMOVE, AfxSig_vv, void, (), OnEnterSizeMove)
 #define ON_WM_EXITSIZEMOVE() AFX_WM_ENTRY(WM_EXITSIZEMOVE, AfxSig_vv, void, (), OnExitSizeMove)
+#define ON_WM_USERCHANGED() AFX_WM_ENTRY(WM_USERCHANGED, AfxSig_vv, void, (), OnUserChanged)
+#define ON_WM_DWMCOMPOSITIONCHANGED() AFX_WM_ENTRY(WM_DWMCOMPOSITIONCHANGED, AfxSig_vv, void, (), OnCompositionChanged)
 #define ON_WM_ENABLE() AFX_WM_ENTRY(WM_ENABLE, AfxSig_v_b, void, (BOOL), OnEnable)
 #define ON_WM_ENDSESSION() AFX_WM_ENTRY(WM_ENDSESSION, AfxSig_v_b, void, (BOOL), OnEndSession)
 #define ON_WM_ENTERMENULOOP() AFX_WM_ENTRY(WM_ENTERMENULOOP, AfxSig_v_b, void, (BOOL), OnEnterMenuLoop)
 #define ON_WM_EXITMENULOOP() AFX_WM_ENTRY(WM_EXITMENULOOP, AfxSig_v_b, void, (BOOL), OnExitMenuLoop)
+#define ON_WM_DWMNCRENDERINGCHANGED()                                                                                  \
+    AFX_WM_ENTRY(WM_DWMNCRENDERINGCHANGED, AfxSig_v_b, void, (BOOL), OnNcRenderingChanged)
+#define ON_WM_DWMWINDOWMAXIMIZEDCHANGE()                                                                               \
+    AFX_WM_ENTRY(WM_DWMWINDOWMAXIMIZEDCHANGE, AfxSig_v_b, void, (BOOL), OnWindowMaximizedChanged)
 #define ON_WM_SHOWWINDOW() AFX_WM_ENTRY(WM_SHOWWINDOW, AfxSig_v_b_u, void, (BOOL, UINT), OnShowWindow)
 #define ON_WM_ACTIVATEAPP() AFX_WM_ENTRY(WM_ACTIVATEAPP, AfxSig_v_b_u, void, (BOOL, DWORD), OnActivateApp)
 #define ON_WM_COMPACTING() AFX_WM_ENTRY(WM_COMPACTING, AfxSig_v_u, void, (UINT), OnCompacting)
 #define ON_WM_RENDERFORMAT() AFX_WM_ENTRY(WM_RENDERFORMAT, AfxSig_v_u, void, (UINT), OnRenderFormat)
+#define ON_WM_INPUT_DEVICE_CHANGE()                                                                                    \
+    AFX_WM_ENTRY(WM_INPUT_DEVICE_CHANGE, AfxSig_v_u, void, (unsigned short), OnInputDeviceChange)
 #define ON_WM_SPOOLERSTATUS() AFX_WM_ENTRY(WM_SPOOLERSTATUS, AfxSig_v_u_u, void, (UINT, UINT), OnSpoolerStatus)
 #define ON_WM_INPUTLANGCHANGE() AFX_WM_ENTRY(WM_INPUTLANGCHANGE, AfxSig_v_u_u, void, (UINT, UINT), OnInputLangChange)
+#define ON_WM_CHANGEUISTATE() AFX_WM_ENTRY(WM_CHANGEUISTATE, AfxSig_v_words, void, (UINT, UINT), OnChangeUIState)
+#define ON_WM_UPDATEUISTATE() AFX_WM_ENTRY(WM_UPDATEUISTATE, AfxSig_v_words, void, (UINT, UINT), OnUpdateUIState)
 #define ON_WM_SYSCOMMAND() AFX_WM_ENTRY(WM_SYSCOMMAND, AfxSig_v_u_l, void, (UINT, LPARAM), OnSysCommand)
+#define ON_WM_WTSSESSION_CHANGE() AFX_WM_ENTRY(WM_WTSSESSION_CHANGE, AfxSig_v_u_d, void, (UINT, UINT), OnSessionChange)
+#define ON_WM_TCARD() AFX_WM_ENTRY(WM_TCARD, AfxSig_v_u_d, void, (UINT, DWORD), OnTCard)
+#define ON_WM_DWMCOLORIZATIONCOLORCHANGED()                                                                            \
+    AFX_WM_ENTRY(WM_DWMCOLORIZATIONCOLORCHANGED, AfxSig_v_u_b, void, (DWORD, BOOL), OnColorizationColorChanged)
 #define ON_WM_SETTINGCHANGE() AFX_WM_ENTRY(WM_SETTINGCHANGE, AfxSig_v_u_s, void, (UINT, LPCTSTR), OnSettingChange)
 #define ON_WM_ASKCBFORMATNAME() AFX_WM_ENTRY(WM_ASKCBFORMATNAME, AfxSig_v_u_s, void, (UINT, LPTSTR), OnAskCbFormatName)
 #define ON_WM_WININICHANGE() AFX_WM_ENTRY(WM_WININICHANGE, AfxSig_v_s, void, (LPCTSTR), OnWinIniChange)
@@ -53,6 +67,10 @@ template <class Target> inline AFX_PMSG afx_timer_method(void (Target::*method)(
 #define ON_WM_STYLECHANGING() AFX_WM_ENTRY(WM_STYLECHANGING, AfxSig_v_i_p, void, (int, LPSTYLESTRUCT), OnStyleChanging)
 #define ON_WM_SIZING() AFX_WM_ENTRY(WM_SIZING, AfxSig_v_u_p, void, (UINT, LPRECT), OnSizing)
 #define ON_WM_MOVING() AFX_WM_ENTRY(WM_MOVING, AfxSig_v_u_p, void, (UINT, LPRECT), OnMoving)
+#define ON_WM_NEXTMENU() AFX_WM_ENTRY(WM_NEXTMENU, AfxSig_v_u_p, void, (UINT, LPMDINEXTMENU), OnNextMenu)
+#define ON_WM_INPUT() AFX_WM_ENTRY(WM_INPUT, AfxSig_v_u_p, void, (UINT, HRAWINPUT), OnRawInput)
+#define ON_WM_INPUTLANGCHANGEREQUEST()                                                                                 \
+    AFX_WM_ENTRY(WM_INPUTLANGCHANGEREQUEST, AfxSig_v_u_p, void, (UINT, HKL), OnInputLangChangeRequest)
 #define ON_WM_NCCALCSIZE() AFX_WM_ENTRY(WM_NCCALCSIZE, AfxSig_v_i_p, void, (BOOL, NCCALCSIZE_PARAMS*), OnNcCalcSize)
 #define ON_WM_GETMINMAXINFO() AFX_WM_ENTRY(WM_GETMINMAXINFO, AfxSig_v_p, void, (MINMAXINFO*), OnGetMinMaxInfo)
 #define ON_WM_WINDOWPOSCHANGING()                                                                                      \
@@ -64,6 +82,8 @@ template <class Target> inline AFX_PMSG afx_timer_method(void (Target::*method)(
 #define ON_WM_TIMER() {WM_TIMER, 0, 0, 0, AfxSig_v_timer, afx_timer_method(&ThisClass::OnTimer)},
 #define ON_WM_CHAR() AFX_WM_ENTRY(WM_CHAR, AfxSig_v_key, void, (UINT, UINT, UINT), OnChar)
 #define ON_WM_DEADCHAR() AFX_WM_ENTRY(WM_DEADCHAR, AfxSig_v_key, void, (UINT, UINT, UINT), OnDeadChar)
+#define ON_WM_UNICHAR() AFX_WM_ENTRY(WM_UNICHAR, AfxSig_v_key, void, (UINT, UINT, UINT), OnUniChar)
+#define ON_WM_HOTKEY() AFX_WM_ENTRY(WM_HOTKEY, AfxSig_v_key, void, (UINT, UINT, UINT), OnHotKey)
 #define ON_WM_KEYDOWN() AFX_WM_ENTRY(WM_KEYDOWN, AfxSig_v_key, void, (UINT, UINT, UINT), OnKeyDown)
 #define ON_WM_KEYUP() AFX_WM_ENTRY(WM_KEYUP, AfxSig_v_key, void, (UINT, UINT, UINT), OnKeyUp)
 #define ON_WM_SYSCHAR() AFX_WM_ENTRY(WM_SYSCHAR, AfxSig_v_key, void, (UINT, UINT, UINT), OnSysChar)
@@ -82,6 +102,7 @@ template <class Target> inline AFX_PMSG afx_timer_method(void (Target::*method)(
 #define ON_WM_RBUTTONUP() AFX_WM_ENTRY(WM_RBUTTONUP, AfxSig_v_u_P, void, (UINT, CPoint), OnRButtonUp)
 #define ON_WM_RBUTTONDBLCLK() AFX_WM_ENTRY(WM_RBUTTONDBLCLK, AfxSig_v_u_P, void, (UINT, CPoint), OnRButtonDblClk)
 #define ON_WM_NCMOUSEMOVE() AFX_WM_ENTRY(WM_NCMOUSEMOVE, AfxSig_v_u_P, void, (UINT, CPoint), OnNcMouseMove)
+#define ON_WM_NCMOUSEHOVER() AFX_WM_ENTRY(WM_NCMOUSEHOVER, AfxSig_v_u_P, void, (UINT, CPoint), OnNcMouseHover)
 #define ON_WM_NCLBUTTONDOWN() AFX_WM_ENTRY(WM_NCLBUTTONDOWN, AfxSig_v_u_P, void, (UINT, CPoint), OnNcLButtonDown)
 #define ON_WM_NCLBUTTONUP() AFX_WM_ENTRY(WM_NCLBUTTONUP, AfxSig_v_u_P, void, (UINT, CPoint), OnNcLButtonUp)
 #define ON_WM_NCLBUTTONDBLCLK() AFX_WM_ENTRY(WM_NCLBUTTONDBLCLK, AfxSig_v_u_P, void, (UINT, CPoint), OnNcLButtonDblClk)
@@ -95,6 +116,11 @@ template <class Target> inline AFX_PMSG afx_timer_method(void (Target::*method)(
 #define ON_WM_XBUTTONUP() AFX_WM_ENTRY(WM_XBUTTONUP, AfxSig_v_xbutton, void, (UINT, UINT, CPoint), OnXButtonUp)
 #define ON_WM_XBUTTONDBLCLK()                                                                                          \
     AFX_WM_ENTRY(WM_XBUTTONDBLCLK, AfxSig_v_xbutton, void, (UINT, UINT, CPoint), OnXButtonDblClk)
+#define ON_WM_NCXBUTTONDOWN()                                                                                          \
+    AFX_WM_ENTRY(WM_NCXBUTTONDOWN, AfxSig_v_ncxbutton, void, (short, UINT, CPoint), OnNcXButtonDown)
+#define ON_WM_NCXBUTTONUP() AFX_WM_ENTRY(WM_NCXBUTTONUP, AfxSig_v_ncxbutton, void, (short, UINT, CPoint), OnNcXButtonUp)
+#define ON_WM_NCXBUTTONDBLCLK()                                                                                        \
+    AFX_WM_ENTRY(WM_NCXBUTTONDBLCLK, AfxSig_v_ncxbutton, void, (short, UINT, CPoint), OnNcXButtonDblClk)
 #define ON_WM_SETFOCUS() AFX_WM_ENTRY(WM_SETFOCUS, AfxSig_v_w_from_w, void, (CWnd*), OnSetFocus)
 #define ON_WM_KILLFOCUS() AFX_WM_ENTRY(WM_KILLFOCUS, AfxSig_v_w_from_w, void, (CWnd*), OnKillFocus)
 #define ON_WM_PALETTECHANGED() AFX_WM_ENTRY(WM_PALETTECHANGED, AfxSig_v_w_from_w, void, (CWnd*), OnPaletteChanged)
@@ -121,8 +147,11 @@ template <class Target> inline AFX_PMSG afx_timer_method(void (Target::*method)(
 #define ON_WM_INITMENUPOPUP()                                                                                          \
     AFX_WM_ENTRY(WM_INITMENUPOPUP, AfxSig_v_m_u_b, void, (CMenu*, UINT, BOOL), OnInitMenuPopup)
 #define ON_WM_UNINITMENUPOPUP() AFX_WM_ENTRY(WM_UNINITMENUPOPUP, AfxSig_v_m_u, void, (CMenu*, UINT), OnUnInitMenuPopup)
+#define ON_WM_MENURBUTTONUP() AFX_WM_ENTRY(WM_MENURBUTTONUP, AfxSig_v_u_m, void, (UINT, CMenu*), OnMenuRButtonUp)
 #define ON_WM_MENUSELECT() AFX_WM_ENTRY(WM_MENUSELECT, AfxSig_v_menuselect, void, (UINT, UINT, HMENU), OnMenuSelect)
 #define ON_WM_PARENTNOTIFY() AFX_WM_ENTRY(WM_PARENTNOTIFY, AfxSig_v_parent, void, (UINT, LPARAM), OnParentNotify)
+#define ON_WM_APPCOMMAND()                                                                                             \
+    AFX_WM_ENTRY(WM_APPCOMMAND, AfxSig_v_appcommand, void, (CWnd*, UINT, UINT, UINT), OnAppCommand)
 #define ON_WM_PRINTCLIENT() AFX_WM_ENTRY(WM_PRINTCLIENT, AfxSig_l_d_u, LRESULT, (CDC*, UINT), OnPrintClient)
 #define ON_WM_THEMECHANGED() AFX_WM_ENTRY(WM_THEMECHANGED, AfxSig_lv, LRESULT, (), OnThemeChanged)
 #define ON_WM_QUERYENDSESSION() AFX_WM_ENTRY(WM_QUERYENDSESSION, AfxSig_bv, BOOL, (), OnQueryEndSession)
@@ -137,13 +166,17 @@ template <class Target> inline AFX_PMSG afx_timer_method(void (Target::*method)(
 #define ON_WM_SETCURSOR() AFX_WM_ENTRY(WM_SETCURSOR, AfxSig_b_w_u_u, BOOL, (CWnd*, UINT, UINT), OnSetCursor)
 #define ON_WM_MOUSEACTIVATE() AFX_WM_ENTRY(WM_MOUSEACTIVATE, AfxSig_i_w_u_u, int, (CWnd*, UINT, UINT), OnMouseActivate)
 #define ON_WM_MOUSEWHEEL() AFX_WM_ENTRY(WM_MOUSEWHEEL, AfxSig_b_wheel, BOOL, (UINT, short, CPoint), OnMouseWheel)
+#define ON_WM_MOUSEHWHEEL() AFX_WM_ENTRY(WM_MOUSEHWHEEL, AfxSig_v_wheel, void, (UINT, short, CPoint), OnMouseHWheel)
 #define ON_WM_CREATE() AFX_WM_ENTRY(WM_CREATE, AfxSig_i_p, int, (LPCREATESTRUCT), OnCreate)
 #define ON_WM_COMPAREITEM() AFX_WM_ENTRY(WM_COMPAREITEM, AfxSig_i_i_p, int, (int, LPCOMPAREITEMSTRUCT), OnCompareItem)
 #define ON_WM_CHARTOITEM() AFX_WM_ENTRY(WM_CHARTOITEM, AfxSig_i_listkey, int, (UINT, CListBox*, UINT), OnCharToItem)
 #define ON_WM_VKEYTOITEM() AFX_WM_ENTRY(WM_VKEYTOITEM, AfxSig_i_listkey, int, (UINT, CListBox*, UINT), OnVKeyToItem)
 #define ON_WM_GETDLGCODE() AFX_WM_ENTRY(WM_GETDLGCODE, AfxSig_uv, UINT, (), OnGetDlgCode)
+#define ON_WM_QUERYUISTATE() AFX_WM_ENTRY(WM_QUERYUISTATE, AfxSig_uv, UINT, (), OnQueryUIState)
 #define ON_WM_POWERBROADCAST() AFX_WM_ENTRY(WM_POWERBROADCAST, AfxSig_u_u_l, UINT, (UINT, LPARAM), OnPowerBroadcast)
 #define ON_WM_NOTIFYFORMAT() AFX_WM_ENTRY(WM_NOTIFYFORMAT, AfxSig_u_w_u, UINT, (CWnd*, UINT), OnNotifyFormat)
+#define ON_WM_MENUDRAG() AFX_WM_ENTRY(WM_MENUDRAG, AfxSig_u_u_m, UINT, (UINT, CMenu*), OnMenuDrag)
+#define ON_WM_MENUGETOBJECT() AFX_WM_ENTRY(WM_MENUGETOBJECT, AfxSig_u_p, UINT, (MENUGETOBJECTINFO*), OnMenuGetObject)
 #define ON_WM_NCHITTEST() AFX_WM_ENTRY(WM_NCHITTEST, AfxSig_l_P, LRESULT, (CPoint), OnNcHitTest)
 #define ON_WM_MENUCHAR() AFX_WM_ENTRY(WM_MENUCHAR, AfxSig_l_menuchar, LRESULT, (UINT, UINT, CMenu*), OnMenuChar)
 #define ON_WM_QUERYDRAGICON() AFX_WM_ENTRY(WM_QUERYDRAGICON, AfxSig_hv, HCURSOR, (), OnQueryDragIcon)
@@ -152,10 +185,8 @@ template <class Target> inline AFX_PMSG afx_timer_method(void (Target::*method)(
 // In the map of the control itself.
 #define ON_WM_CTLCOLOR_REFLECT()                                                                                       \
     AFX_WM_ENTRY(WM_REFLECT_BASE + WM_CTLCOLOR, AfxSig_h_ctlcolor_reflect, HBRUSH, (CDC*, UINT), CtlColor)
-#define ON_WM_HSCROLL_REFLECT()                                                                                        \
-    AFX_WM_ENTRY(WM_REFLECT_BASE + WM_HSCROLL, AfxSig_v_scroll_reflect, void, (UINT, UINT), HScroll)
-#define ON_WM_VSCROLL_REFLECT()                                                                                        \
-    AFX_WM_ENTRY(WM_REFLECT_BASE + WM_VSCROLL, AfxSig_v_scroll_reflect, void, (UINT, UINT), VScroll)
+#define ON_WM_HSCROLL_REFLECT() AFX_WM_ENTRY(WM_REFLECT_BASE + WM_HSCROLL, AfxSig_v_words, void, (UINT, UINT), HScroll)
+#define ON_WM_VSCROLL_REFLECT() AFX_WM_ENTRY(WM_REFLECT_BASE + WM_VSCROLL, AfxSig_v_words, void, (UINT, UINT), VScroll)
 #define ON_WM_DRAWITEM_REFLECT()                                                                                       \
     AFX_WM_ENTRY(WM_REFLECT_BASE + WM_DRAWITEM, AfxSig_v_p_reflect, void, (LPDRAWITEMSTRUCT), DrawItem)
 #define ON_WM_MEASUREITEM_REFLECT()                                                                                    \

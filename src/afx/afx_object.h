@@ -70,6 +70,10 @@ protected:
     (static_cast<class_name*>(AfxDynamicDownCast(RUNTIME_CLASS(class_name), object)))
 #define STATIC_DOWNCAST(class_name, object) (static_cast<class_name*>(object))
 
+// Calls the function for every class whose objects an archive can hold.
+ZOPAFX_API void AFXAPI AfxDoForAllClasses(void(CALLBACK* pfn)(const CRuntimeClass* pClass, void* pContext),
+                                          void* pContext);
+
 // The object where it is of the class, else null.
 ZOPAFX_API CObject* AFX_CDECL AfxDynamicDownCast(CRuntimeClass* pClass, CObject* pObject);
 

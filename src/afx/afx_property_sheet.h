@@ -56,6 +56,8 @@ public:
     virtual LRESULT OnWizardBack();
     virtual LRESULT OnWizardNext();
     virtual BOOL OnWizardFinish();
+    // Null ends the sheet; else it stays, with the focus in the control. Calls OnWizardFinish.
+    virtual HWND OnWizardFinishEx();
 
     void SetModified(BOOL bChanged = TRUE);
     // What was done cannot be undone any more: the buttons say so.
@@ -76,6 +78,7 @@ protected:
 private:
     friend class CPropertySheet;
     void RefuseToOpen() override { EnableWindow(FALSE); } // stays: the sheet counts on its page's window and shows it
+    void FinishWizard(LRESULT* result);
     BOOL FindModule(HINSTANCE& module) const;
     BOOL Describe(PROPSHEETPAGE& record) const;
     static UINT CALLBACK PageCallback(HWND hwnd, UINT message, PROPSHEETPAGE* page);

@@ -24,6 +24,10 @@ public:
     void FillOutsideRect(CDC* pDC, CBrush* pBrush);
     void ResizeParentToFit(BOOL bShrinkOnly = TRUE);
     void CheckScrollBars(BOOL& bHasHorzBar, BOOL& bHasVertBar) const;
+    // What the wheel does: down or, without a vertical bar, to the side. FALSE where there is nothing more to see.
+    BOOL DoMouseWheel(UINT fFlags, short zDelta, CPoint point);
+    // Which part of a distance the wheel goes.
+    virtual CSize GetWheelScrollDistance(CSize sizeDistance, BOOL bHorz, BOOL bVert);
 
     BOOL OnScroll(UINT nScrollCode, UINT nPos, BOOL bDoScroll = TRUE) override;
     BOOL OnScrollBy(CSize sizeScroll, BOOL bDoScroll = TRUE) override;
@@ -48,6 +52,8 @@ protected:
     BOOL m_bCenter = FALSE; // what is smaller than the window stands in its middle
 
 private:
+    friend class CSplitterWnd;
+    CSize WheelDistance(short delta);
     bool HasOwnBar(int bar) const;
     CSize Room(bool& horizontal, bool& vertical) const;
     CSize RangeFor(CSize room) const;

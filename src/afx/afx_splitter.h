@@ -65,6 +65,30 @@ protected:
     enum ESplitType { splitBox, splitBar, splitIntersection, splitBorder };
     virtual void OnDrawSplitter(CDC* pDC, ESplitType nType, const CRect& rect);
     virtual void OnInvertTracker(const CRect& rect);
+    virtual void OnDraw(CDC* pDC); // the bars, and what is beside the panes
+    virtual void DrawAllSplitBars(CDC* pDC, int cxInside, int cyInside);
+    virtual void GetInsideRect(CRect& rect) const; // without shared scroll bars
+
+    // What the pointer is at: a box that makes a bar, the bar below a row or behind a column, a crossing of two.
+    enum HitTestValue {
+        noHit = 0,
+        vSplitterBox = 1,
+        hSplitterBox = 2,
+        vSplitterBar1 = 101,
+        vSplitterBar15 = 115,
+        hSplitterBar1 = 201,
+        hSplitterBar15 = 215,
+        splitterIntersection1 = 301, // of the first row; fifteen for each
+        splitterIntersection225 = 525
+    };
+    virtual int HitTest(CPoint pt) const;
+    virtual void GetHitRect(int ht, CRect& rect); // of a box or bar
+    virtual void SetSplitCursor(int ht);
+    // A drag begins, and ends; an accepted one splits, or gives rows and columns the size up to the place.
+    virtual void StartTracking(int ht);
+    virtual void StopTracking(BOOL bAccept);
+    virtual void TrackRowSize(int y, int row);
+    virtual void TrackColumnSize(int x, int col);
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
@@ -88,33 +112,35 @@ protected:
     int m_nRows = 0, m_nCols = 0;
     CRuntimeClass* m_pDynamicViewClass = nullptr;
 
+    struct CRowColInfo {
+        int nMinSize = 0; // a smaller one goes
+        int nIdealSize = 0;
+        int nCurSize = 0;
+    };
+    CRowColInfo *m_pRowInfo = nullptr, *m_pColInfo = nullptr;
+    BOOL m_bTracking = FALSE, m_bTracking2 = FALSE; // two bars at once
+    CPoint m_ptTrackOffset;
+    CRect m_rectLimit, m_rectTracker, m_rectTracker2;
+    int m_htTrack = noHit;
+
 private:
-    struct line { // a row, or a column
-        int ideal = 0, least = 0, now = 0;
-    };
-    // What the pointer is at: a bar behind a row or column, a box that makes one, or nothing.
-    struct hit {
-        enum kind { nothing, row_bar, column_bar, row_box, column_box, crossing } what = nothing;
-        int index = 0, column = 0;
-    };
     BOOL CreateCommon(CWnd* parent, SIZE least, DWORD style, UINT id);
-    hit HitTest(CPoint point) const;
-    CRect Inside() const;
-    CRect BarRect(const hit& at) const;
+    static bool IsRowHit(int ht);
+    static bool IsCrossingHit(int ht);
+    CRect InsideRect() const;
+    CRect BarRect(bool row, int index) const;
     CRect BoxRect(bool row) const;
     bool ShowsBox(bool row) const;
-    int EndOf(const std::vector<line>& lines, int index, int gap) const;
+    int EndOf(const std::vector<CRowColInfo>& lines, int index, int gap) const;
     void PlacePanes(const CRect& inside);
     void PlaceScrollBars(const CRect& inside);
-    void BeginDrag(const hit& at, CPoint point);
+    void InvertTrackers();
     void DragTo(CPoint point);
-    void EndDrag(bool accept);
-    void MoveBar(const hit& at, CPoint point);
+    void MoveBar(int ht);
+    int Share(CRowColInfo* pair, int wanted) const;
     CWnd* ScrollBarAt(UINT first, int index) const;
+    template <class Scroll> BOOL ScrollWith(CView* view, bool rows, Scroll scroll);
 
-    std::vector<line> m_row_info, m_column_info;
+    std::vector<CRowColInfo> m_row_info, m_column_info;
     DWORD m_scroll_style = 0;
-    hit m_tracking;
-    CRect m_tracker;
-    CPoint m_offset;
 };

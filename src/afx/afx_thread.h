@@ -18,7 +18,8 @@ public:
 
     // Its end ends the message loop. A thread starts with its creator's.
     CWnd* m_pMainWnd = nullptr;
-    BOOL m_bAutoDelete = TRUE; // the object goes with its thread
+    BOOL m_bAutoDelete = TRUE;                              // the object goes with its thread
+    AFX_MODULE_STATE* m_pModuleState = AfxGetModuleState(); // in force in what it does
     HANDLE m_hThread = nullptr;
     DWORD m_nThreadID = 0;
 

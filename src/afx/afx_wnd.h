@@ -387,6 +387,7 @@ protected:
     int m_nModalResult = -1;
 
 private:
+    AFX_MODULE_STATE* m_module_state = nullptr; // that its window was created under
     friend LRESULT AfxCallWndProc(CWnd* wnd, HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
     friend bool take_over_window(CWnd* wnd, HWND hwnd);
     explicit CWnd(HWND place) : m_hWnd(place) {}

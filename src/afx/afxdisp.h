@@ -1,4 +1,4 @@
-// Only included by programs that say so by custom: there is no automation.
+// Dates and conversions of texts; else for programs that include it by custom: there is no automation.
 #pragma once
 #ifndef __AFXDISP_H__
 #define __AFXDISP_H__
@@ -9,5 +9,9 @@
 
 // Programs call it as a matter of course. There are no OLE controls: a dialog whose template has one is not created.
 inline void AFX_CDECL AfxEnableControlContainer() {}
+
+// Begins OLE in the calling thread until its end, or the program's AfxWinMain's. In a library it is the program's
+// doing.
+ZOPAFX_API BOOL AFXAPI AfxOleInit();
 
 #endif

@@ -14,6 +14,7 @@
 #ifndef WM_KICKIDLE
 #define WM_KICKIDLE 0x036A
 #endif
+#define WM_DISABLEMODAL 0x036C     // to each window that a modal state would disable; other answers than 0 refuse
 #define WM_POPMESSAGESTRING 0x0375 // like WM_SETMESSAGESTRING, where the message that was set may go
 
 // Where the numbers of help topics begin: of commands, of resources.

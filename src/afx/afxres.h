@@ -108,6 +108,10 @@
 #define ID_INDICATOR_REC 0xE705
 #define ID_INDICATOR_KANA 0xE706
 
+// A program's icons of these numbers are those of frames that have none of their own.
+#define AFX_IDI_STD_MDIFRAME 1
+#define AFX_IDI_STD_FRAME 2
+
 // Children of a frame.
 #define AFX_IDW_CONTROLBAR_FIRST 0xE800
 #define AFX_IDW_CONTROLBAR_LAST 0xE8FF

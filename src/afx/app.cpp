@@ -4,6 +4,8 @@
 #include "afxadv.h"
 #include "afxmsg_.h"
 #include "afxres.h"
+#include "module_state.h"
+#include "ole_state.h"
 #include "thread_state.h"
 #include "wnd_state.h"
 
@@ -17,11 +19,9 @@ END_MESSAGE_MAP()
 
 namespace {
 
-CWinApp* the_app = nullptr;
-
 CString program_path() {
     char path[MAX_PATH + 1] = "";
-    ::GetModuleFileName(nullptr, path, MAX_PATH);
+    ::GetModuleFileName(AfxGetInstanceHandle(), path, MAX_PATH);
     return path;
 }
 
@@ -63,7 +63,7 @@ HWND message_box_owner() {
 } // namespace
 
 CWinApp* AFXAPI AfxGetApp() {
-    return the_app;
+    return AfxGetModuleState()->m_pCurrentWinApp;
 }
 
 CWinThread* AFXAPI AfxGetThread() {
@@ -76,20 +76,25 @@ CWnd* AFXAPI AfxGetMainWnd() {
 }
 
 LPCTSTR AFXAPI AfxGetAppName() {
-    return the_app != nullptr ? the_app->m_pszAppName : nullptr;
+    const CWinApp* app = AfxGetApp();
+    return app != nullptr ? app->m_pszAppName : nullptr;
 }
 
 CWinApp::CWinApp(LPCTSTR lpszAppName) : m_pszAppName(lpszAppName != nullptr ? ::_strdup(lpszAppName) : nullptr) {
-    the_app = this;
-    this_thread().thread = this;
+    AFX_MODULE_STATE* state = afx_state_of_module(module_of(this)); // the object is static in its module
+    state->m_pCurrentWinApp = this;
+    m_pModuleState = state;
+    if (state == AfxGetAppModuleState() || this_thread().thread == nullptr)
+        this_thread().thread = this;
     m_bAutoDelete = FALSE;
     m_nThreadID = ::GetCurrentThreadId();
     ::DuplicateHandle(::GetCurrentProcess(), ::GetCurrentThread(), ::GetCurrentProcess(), &m_hThread, 0, FALSE,
                       DUPLICATE_SAME_ACCESS);
-    m_hInstance = AfxGetInstanceHandle();
+    m_hInstance = state->m_hCurrentInstanceHandle;
 }
 
 CWinApp::~CWinApp() {
+    DisableShellOpen();
     delete m_pDocManager;
     delete m_pRecentFileList;
     for (HGLOBAL memory : {m_hDevMode, m_hDevNames}) {
@@ -98,8 +103,9 @@ CWinApp::~CWinApp() {
     }
     for (LPCTSTR name : {m_pszAppName, m_pszExeName, m_pszProfileName, m_pszRegistryKey, m_pszHelpFilePath})
         std::free(const_cast<LPTSTR>(name));
-    if (the_app == this)
-        the_app = nullptr;
+    AFX_MODULE_STATE* state = afx_state_of_module(module_of(this));
+    if (state->m_pCurrentWinApp == this)
+        state->m_pCurrentWinApp = nullptr;
 }
 
 void CWinApp::SetNames() {
@@ -206,21 +212,32 @@ BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCm
         app->m_nCmdShow = nCmdShow;
         app->SetNames();
     }
-    hook_message_filter();
+    if (AfxGetModuleState() == AfxGetAppModuleState()) // a library's threads are its program's
+        hook_message_filter();
     return TRUE;
 }
+
+namespace {
+
+int live(CWinApp& app) {
+    if (!app.InitApplication())
+        return -1;
+    if (app.InitInstance())
+        return app.Run();
+    if (app.m_pMainWnd != nullptr)
+        app.m_pMainWnd->DestroyWindow();
+    return app.ExitInstance();
+}
+
+} // namespace
 
 int AFXAPI AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow) {
     CWinApp* app = AfxGetApp();
     if (!AfxWinInit(hInstance, hPrevInstance, lpCmdLine, nCmdShow) || app == nullptr)
         return -1;
-    if (!app->InitApplication())
-        return -1;
-    if (app->InitInstance())
-        return app->Run();
-    if (app->m_pMainWnd != nullptr)
-        app->m_pMainWnd->DestroyWindow();
-    return app->ExitInstance();
+    const int code = live(*app);
+    of_this_thread<ole_state>().end();
+    return code;
 }
 
 // Programs that define none of their own take this one from the import library.

@@ -112,6 +112,11 @@ HKEY CWinApp::GetSectionKey(LPCTSTR lpszSection, ATL::CAtlTransactionManager*) {
     return sub_key(program, lpszSection);
 }
 
+LONG CWinApp::DelRegTree(HKEY hParentKey, const CString& strKeyName, ATL::CAtlTransactionManager*) {
+    return strKeyName.IsEmpty() ? ERROR_INVALID_PARAMETER // not all that the parent holds
+                                : ::RegDeleteTree(hParentKey, strKeyName);
+}
+
 UINT CWinApp::GetProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nDefault) {
     if (m_pszRegistryKey == nullptr)
         return ::GetPrivateProfileInt(lpszSection, lpszEntry, nDefault, m_pszProfileName);

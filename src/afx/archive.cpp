@@ -64,8 +64,8 @@ UINT CArchive::Read(void* lpBuf, UINT nMax) {
     return nMax - left;
 }
 
-void CArchive::ReadAll(void* bytes, UINT count) {
-    if (Read(bytes, count) != count)
+void CArchive::EnsureRead(void* lpBuf, UINT nCount) {
+    if (Read(lpBuf, nCount) != nCount)
         Fail(CArchiveException::endOfFile);
 }
 

@@ -2,6 +2,7 @@
 // number has its highest bit set, a new class is announced by a tag of its own, numbers from 0x7FFF on are long ones.
 #include "afx_archive.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -39,6 +40,24 @@ CRuntimeClass* PASCAL CRuntimeClass::Load(CArchive& ar, UINT* pwSchemaNum) {
 
 CObject* AFX_CDECL afx_read_object(CArchive& ar, CRuntimeClass* pClass) {
     return ar.ReadObject(pClass);
+}
+
+namespace {
+
+// What is reserved ahead; the maps grow by themselves.
+std::size_t expected(UINT count) {
+    constexpr UINT most = 0x10000;
+    return std::min(count, most);
+}
+
+} // namespace
+
+void CArchive::SetLoadParams(UINT nGrowBy) {
+    m_loaded.reserve(expected(nGrowBy));
+}
+
+void CArchive::SetStoreParams(UINT nHashSize, UINT) {
+    m_stored.reserve(expected(nHashSize));
 }
 
 void CArchive::CheckCount() const {

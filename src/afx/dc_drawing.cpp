@@ -1,5 +1,6 @@
 // What a device context draws with and how it measures.
 #include "afx_dc.h"
+#include "afx_debug.h"
 #include "afx_wnd.h"
 
 #include <algorithm>
@@ -260,6 +261,18 @@ void CDC::DrawDragRect(LPCRECT lpRect, SIZE size, LPCRECT lpRectLast, SIZE sizeL
 
 BOOL CDC::TextOut(int x, int y, LPCTSTR lpszString, int nCount) {
     return ::TextOut(m_hDC, x, y, lpszString, nCount);
+}
+
+int CDC::DrawTextEx(const CString& str, LPRECT lpRect, UINT nFormat, LPDRAWTEXTPARAMS lpDTParams) {
+    constexpr UINT shortening = DT_END_ELLIPSIS | DT_PATH_ELLIPSIS | DT_WORD_ELLIPSIS;
+    ENSURE_ARG((nFormat & DT_MODIFYSTRING) == 0 || (nFormat & shortening) == 0); // the text is the caller's
+    return DrawTextEx(const_cast<LPTSTR>(str.GetString()), str.GetLength(), lpRect, nFormat, lpDTParams);
+}
+
+CSize CDC::GetAspectRatioFilter() const {
+    CSize size;
+    ::GetAspectRatioFilterEx(m_hDC, &size);
+    return size;
 }
 
 CSize CDC::GetTextExtent(LPCTSTR lpszString, int nCount) const {

@@ -5,6 +5,8 @@
 #include <cstdlib>
 #include <new>
 
+#include <malloc.h>
+
 BOOL AFXAPI AfxAssertFailedLine(LPCSTR lpszFileName, int nLine) {
     char text[1024];
     std::snprintf(text, sizeof(text), "An assertion failed.\n%s(%d)", lpszFileName, nLine);
@@ -50,6 +52,11 @@ BOOL AFXAPI AfxIsValidAddress(const void* lp, UINT_PTR nBytes, BOOL bReadWrite) 
         at = static_cast<const char*>(pages.BaseAddress) + pages.RegionSize;
     } while (at < end);
     return TRUE;
+}
+
+BOOL AFXAPI AfxCheckMemory() {
+    const int found = ::_heapchk();
+    return found == _HEAPOK || found == _HEAPEMPTY;
 }
 
 BOOL AFXAPI AfxIsValidString(LPCSTR lpsz, int nLength) {

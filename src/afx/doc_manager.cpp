@@ -266,6 +266,10 @@ BOOL CWinApp::ProcessShellCommand(CCommandLineInfo& rCmdInfo) {
             m_pMainWnd->SendMessage(WM_COMMAND, ID_FILE_PRINT_DIRECT);
         m_pCmdInfo = nullptr;
         return FALSE;
+    case CCommandLineInfo::FileDDE:
+        if (m_atomApp != 0)
+            m_nCmdShow = SW_HIDE; // until the command comes
+        return TRUE;
     case CCommandLineInfo::AppRegister:
         RegisterShellFileTypes();
         return FALSE;

@@ -117,7 +117,7 @@ void CDocument::DeleteContents() {}
 BOOL CDocument::OnNewDocument() {
     DeleteContents();
     m_bModified = FALSE;
-    m_strPathName.Empty();
+    ClearPathName();
     return TRUE;
 }
 

@@ -7,6 +7,10 @@
 
 CDumpContext afxDump;
 
+void AFXAPI AfxDump(const CObject* pOb) {
+    afxDump << pOb;
+}
+
 void CDumpContext::OutputString(LPCTSTR lpsz) {
     if (m_pFile != nullptr)
         m_pFile->Write(lpsz, static_cast<UINT>(std::strlen(lpsz)));

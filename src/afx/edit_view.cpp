@@ -210,26 +210,25 @@ void CEditView::OnPrepareDC(CDC* pDC, CPrintInfo* pInfo) {
     if (pInfo == nullptr)
         return;
     ::SelectObject(*pDC, m_print_font != nullptr ? m_print_font : m_hPrinterFont);
-    pInfo->m_bContinuePrinting =
-        TurnTo(*pDC, pInfo->m_nCurPage) &&
-        (pInfo->m_nCurPage == 1 || m_pages[pInfo->m_nCurPage - 1] < static_cast<UINT>(m_shadow.GetLength()));
+    pInfo->m_bContinuePrinting = PaginateTo(pDC, pInfo);
 }
 
-// Where a page begins shows only when those before it are laid out, drawn or not. FALSE behind the last one.
-bool CEditView::TurnTo(CDC& dc, UINT page) {
+// Where a page begins shows only when those before it are laid out, drawn or not.
+BOOL CEditView::PaginateTo(CDC* pDC, CPrintInfo* pInfo) {
     const auto length = static_cast<UINT>(m_shadow.GetLength());
+    const std::size_t page = pInfo->m_nCurPage;
     while (m_pages.size() < page && m_pages.back() < length) {
-        CRect paper(0, 0, dc.GetDeviceCaps(HORZRES), dc.GetDeviceCaps(VERTRES));
-        dc.DPtoLP(paper);
-        const int state = dc.SaveDC();
-        dc.IntersectClipRect(CRect(0, 0, 0, 0));
-        const UINT end = PrintInsideRect(&dc, paper, m_pages.back(), length);
-        dc.RestoreDC(state);
+        CRect paper(0, 0, pDC->GetDeviceCaps(HORZRES), pDC->GetDeviceCaps(VERTRES));
+        pDC->DPtoLP(paper);
+        const int state = pDC->SaveDC();
+        pDC->IntersectClipRect(CRect(0, 0, 0, 0));
+        const UINT end = PrintInsideRect(pDC, paper, m_pages.back(), length);
+        pDC->RestoreDC(state);
         if (end == m_pages.back())
-            return false; // not even a line finds room
+            return FALSE; // not even a line finds room
         m_pages.push_back(end);
     }
-    return page <= m_pages.size();
+    return page <= m_pages.size() && (page == 1 || m_pages[page - 1] < length);
 }
 
 void CEditView::OnPrint(CDC* pDC, CPrintInfo* pInfo) {

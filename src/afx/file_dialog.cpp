@@ -38,7 +38,8 @@ CFileDialog::CFileDialog(BOOL bOpenFileDialog, LPCTSTR lpszDefExt, LPCTSTR lpszF
 }
 
 INT_PTR CFileDialog::DoModal() {
-    m_ofn.hwndOwner = modal_owner(m_pParentWnd);
+    const modal_parent parent(m_pParentWnd);
+    m_ofn.hwndOwner = parent.handle();
     m_ofn.lCustData = reinterpret_cast<LPARAM>(this);
     const BOOL chosen = m_bOpenFileDialog ? ::GetOpenFileName(&m_ofn) : ::GetSaveFileName(&m_ofn);
     return chosen ? IDOK : IDCANCEL;

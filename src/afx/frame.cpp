@@ -8,6 +8,8 @@
 
 #include <utility>
 
+#include <dde.h>
+
 IMPLEMENT_DYNCREATE(CFrameWnd, CWnd)
 
 BEGIN_MESSAGE_MAP(CFrameWnd, CWnd)
@@ -25,6 +27,10 @@ ON_WM_VSCROLL()
 ON_WM_DROPFILES()
 ON_WM_QUERYENDSESSION()
 ON_WM_ENDSESSION()
+ON_WM_ENABLE()
+AFX_WM_ENTRY(WM_DDE_INITIATE, AfxSig_v_w_u_u, void, (CWnd*, UINT, UINT), OnDDEInitiate)
+AFX_WM_ENTRY(WM_DDE_EXECUTE, AfxSig_v_w_h, void, (CWnd*, HANDLE), OnDDEExecute)
+AFX_WM_ENTRY(WM_DDE_TERMINATE, AfxSig_v_w_from_w, void, (CWnd*), OnDDETerminate)
 ON_MESSAGE(WM_SETMESSAGESTRING, &CFrameWnd::OnSetMessageString)
 ON_MESSAGE(WM_POPMESSAGESTRING, &CFrameWnd::OnPopMessageString)
 ON_MESSAGE_VOID(WM_IDLEUPDATECMDUI, &CFrameWnd::OnIdleUpdateCmdUI)
@@ -84,10 +90,20 @@ BOOL CFrameWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwSt
     return FALSE;
 }
 
+LPCTSTR frame_class(HICON icon) {
+    return AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW), reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1),
+                               icon);
+}
+
+HICON standard_icon(UINT id) {
+    LPCTSTR name = MAKEINTRESOURCE(id);
+    const HICON own = ::LoadIcon(AfxFindResourceHandle(name, RT_GROUP_ICON), name);
+    return own != nullptr ? own : ::LoadIcon(nullptr, IDI_APPLICATION);
+}
+
 BOOL CFrameWnd::PreCreateWindow(CREATESTRUCT& cs) {
     if (cs.lpszClass == nullptr)
-        cs.lpszClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW),
-                                           reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1));
+        cs.lpszClass = frame_class(standard_icon(AFX_IDI_STD_FRAME));
     if ((cs.style & FWS_ADDTOTITLE) != 0)
         cs.style |= FWS_PREFIXTITLE;
     return TRUE;
@@ -96,9 +112,7 @@ BOOL CFrameWnd::PreCreateWindow(CREATESTRUCT& cs) {
 LPCTSTR CFrameWnd::GetIconWndClass(DWORD, UINT nIDResource) {
     const HINSTANCE module = AfxFindResourceHandle(MAKEINTRESOURCE(nIDResource), RT_GROUP_ICON);
     const HICON icon = ::LoadIcon(module, MAKEINTRESOURCE(nIDResource));
-    return icon != nullptr ? AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW),
-                                                 reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1), icon)
-                           : nullptr;
+    return icon != nullptr ? frame_class(icon) : nullptr;
 }
 
 BOOL CFrameWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pParentWnd, CCreateContext* pContext) {

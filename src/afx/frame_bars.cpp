@@ -28,7 +28,16 @@ void update_frames(CWnd* main_window) {
     std::for_each(others.begin(), others.end(), update);
 }
 
+void CFrameWnd::DelayUpdateFrameMenu(HMENU hMenuAlt) {
+    m_hMenuAlt = hMenuAlt;
+    m_menu_wanted = true;
+}
+
 void CFrameWnd::OnIdleUpdateCmdUI() {
+    if (std::exchange(m_title_wanted, false))
+        OnUpdateFrameTitle(TRUE);
+    if (std::exchange(m_menu_wanted, false))
+        OnUpdateFrameMenu(m_hMenuAlt);
     for (CControlBar* bar : m_bars)
         m_layout_wanted = m_layout_wanted || bar->m_delayed != CControlBar::show::as_is;
     if (m_layout_wanted)

@@ -1,5 +1,6 @@
 // Frames whose user is kept to one window of theirs for a while.
 #include "afx_frame.h"
+#include "afxpriv.h"
 
 #include <utility>
 
@@ -16,7 +17,8 @@ BOOL CALLBACK collect(HWND hwnd, LPARAM record) {
     HWND at = hwnd;
     while (at != nullptr && at != above)
         at = ::GetWindow(at, GW_OWNER);
-    if (at == above && ::IsWindowEnabled(hwnd) && CWnd::FromHandlePermanent(hwnd) != nullptr)
+    if (at == above && ::IsWindowEnabled(hwnd) && CWnd::FromHandlePermanent(hwnd) != nullptr &&
+        ::SendMessage(hwnd, WM_DISABLEMODAL, 0, 0) == 0)
         found.push_back(hwnd);
     return TRUE;
 }
@@ -37,4 +39,18 @@ void CFrameWnd::EndModalState() {
         return;
     for (HWND hwnd : std::exchange(m_disabled, {}))
         ::EnableWindow(hwnd, TRUE);
+}
+
+// A modal dialog disables the frame alone: what else is the frame's would stay open to the user.
+void CFrameWnd::OnEnable(BOOL bEnable) {
+    if (GetParent() != nullptr)
+        return;
+    if (!bEnable && !InModalState()) {
+        m_modal_by_disabling = true;
+        BeginModalState();
+    } else if (bEnable && std::exchange(m_modal_by_disabling, false)) {
+        EndModalState();
+        if (::GetActiveWindow() == m_hWnd)
+            SendMessage(WM_ACTIVATE, WA_ACTIVE); // the view takes the focus back
+    }
 }

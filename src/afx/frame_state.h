@@ -18,6 +18,10 @@ inline frame_state& frames_of_this_thread() {
 // What a thread does when it becomes idle: has the bars of its visible windows ask for the state of their commands.
 void update_frames(CWnd* main_window);
 
+// The window class of frames with the icon. The program's icon of the number, or the platform's for programs.
+LPCTSTR frame_class(HICON icon);
+HICON standard_icon(UINT id);
+
 // Moves a bar, together with the others of its layout.
 struct AFX_SIZEPARENTPARAMS;
 void reposition_window(AFX_SIZEPARENTPARAMS& layout, HWND hwnd, const RECT& rect);

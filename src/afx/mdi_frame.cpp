@@ -4,6 +4,7 @@
 #include "afx_view.h"
 #include "afxmsg_.h"
 #include "afxpriv.h"
+#include "frame_state.h"
 
 IMPLEMENT_DYNCREATE(CMDIFrameWnd, CFrameWnd)
 
@@ -24,6 +25,12 @@ CMDIFrameWnd::~CMDIFrameWnd() = default;
 
 BOOL CMDIFrameWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pParentWnd, CCreateContext* pContext) {
     return CFrameWnd::LoadFrame(nIDResource, dwDefaultStyle, pParentWnd, pContext);
+}
+
+BOOL CMDIFrameWnd::PreCreateWindow(CREATESTRUCT& cs) {
+    if (cs.lpszClass == nullptr)
+        cs.lpszClass = frame_class(standard_icon(AFX_IDI_STD_MDIFRAME));
+    return CFrameWnd::PreCreateWindow(cs);
 }
 
 BOOL CMDIFrameWnd::OnCreateClient(LPCREATESTRUCT lpcs, CCreateContext*) {
@@ -68,9 +75,9 @@ void CMDIFrameWnd::OnSize(UINT nType, int, int) {
 
 void CMDIFrameWnd::OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized) {
     CFrameWnd::OnActivate(nState, pWndOther, bMinimized);
-    CMDIChildWnd* active = MDIGetActive();
-    if (active != nullptr && nState != WA_INACTIVE && active->GetActiveView() != nullptr && !bMinimized)
-        active->GetActiveView()->SetFocus();
+    CView* view = GetActiveFrame()->GetActiveView();
+    if (nState != WA_INACTIVE && view != nullptr && !bMinimized)
+        view->SetFocus();
 }
 
 BOOL CMDIFrameWnd::OnEraseBkgnd(CDC*) {
@@ -182,6 +189,10 @@ void CMDIFrameWnd::OnUpdateFrameMenu(HMENU hMenuAlt) {
     const HMENU popup = GetWindowMenuPopup(menu);
     ::SendMessage(m_hWndMDIClient, WM_MDISETMENU, reinterpret_cast<WPARAM>(menu), reinterpret_cast<LPARAM>(popup));
     DrawMenuBar();
+}
+
+void CMDIFrameWnd::DelayUpdateFrameMenu(HMENU hMenuAlt) {
+    OnUpdateFrameMenu(hMenuAlt);
 }
 
 void CMDIFrameWnd::OnUpdateMDIWindowCmd(CCmdUI* pCmdUI) {

@@ -3,6 +3,8 @@
 
 #include "afx_app.h"
 
+#include <utility>
+
 // The wanted parent's top-level window: a disabled child cannot hold a dialog. Without a wanted one, the main window,
 // or the modal dialog that runs in front of it.
 inline HWND modal_owner(CWnd* wanted) {
@@ -15,15 +17,38 @@ inline HWND modal_owner(CWnd* wanted) {
     return owner != nullptr ? ::GetAncestor(owner, GA_ROOT) : nullptr;
 }
 
-// Keeps a modal dialog's owner disabled, whichever way the dialog ends.
+// Disabled as long as the object lives, where it was enabled.
+class disabled_window {
+public:
+    explicit disabled_window(HWND hwnd) : m_hwnd(hwnd != nullptr && ::IsWindowEnabled(hwnd) ? hwnd : nullptr) {
+        if (m_hwnd != nullptr)
+            ::EnableWindow(m_hwnd, FALSE);
+    }
+    ~disabled_window() { enable(); }
+    disabled_window(const disabled_window&) = delete;
+    disabled_window& operator=(const disabled_window&) = delete;
+
+    void enable() {
+        if (const HWND hwnd = std::exchange(m_hwnd, nullptr))
+            ::EnableWindow(hwnd, TRUE);
+    }
+
+private:
+    HWND m_hwnd;
+};
+
+// The frame behind a modeless dialog, and behind that one's own.
+inline HWND last_owner(HWND hwnd) {
+    for (HWND at = hwnd; at != nullptr; at = ::GetWindow(at, GW_OWNER))
+        hwnd = at;
+    return hwnd;
+}
+
+// Keeps a modal dialog's owner disabled, and the last of the owners, whichever way the dialog ends.
 class modal_parent {
 public:
     explicit modal_parent(CWnd* wanted)
-        : m_owner(modal_owner(wanted)), m_disabled(m_owner != nullptr && ::IsWindowEnabled(m_owner)) {
-        if (m_disabled)
-            ::EnableWindow(m_owner, FALSE);
-    }
-    ~modal_parent() { enable(); }
+        : m_owner(modal_owner(wanted)), m_disabled(m_owner), m_last_disabled(last_owner(m_owner)) {}
     modal_parent(const modal_parent&) = delete;
     modal_parent& operator=(const modal_parent&) = delete;
 
@@ -64,11 +89,10 @@ private:
     }
 
     void enable() {
-        if (m_disabled)
-            ::EnableWindow(m_owner, TRUE);
-        m_disabled = false;
+        m_last_disabled.enable();
+        m_disabled.enable();
     }
 
     HWND m_owner;
-    bool m_disabled;
+    disabled_window m_disabled, m_last_disabled;
 };

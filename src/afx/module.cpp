@@ -5,7 +5,6 @@ extern "C" IMAGE_DOS_HEADER __ImageBase; // the linker's: this library
 namespace {
 
 CDynLinkLibrary* first_library = nullptr;
-HINSTANCE resource_handle = nullptr;
 
 // Deletes what is left of the chain when the process ends. A library that was unloaded before is only forgotten.
 struct chain_owner {
@@ -78,15 +77,16 @@ CDynLinkLibrary::~CDynLinkLibrary() {
 }
 
 HINSTANCE AFXAPI AfxGetInstanceHandle() {
-    return ::GetModuleHandle(nullptr);
+    return AfxGetModuleState()->m_hCurrentInstanceHandle;
 }
 
 HINSTANCE AFXAPI AfxGetResourceHandle() {
-    return resource_handle != nullptr ? resource_handle : AfxGetInstanceHandle();
+    const AFX_MODULE_STATE& state = *AfxGetModuleState();
+    return state.m_hCurrentResourceHandle != nullptr ? state.m_hCurrentResourceHandle : state.m_hCurrentInstanceHandle;
 }
 
 void AFXAPI AfxSetResourceHandle(HINSTANCE hInstResource) {
-    resource_handle = hInstResource;
+    AfxGetModuleState()->m_hCurrentResourceHandle = hInstResource;
 }
 
 HINSTANCE AFXAPI AfxFindResourceHandle(LPCTSTR lpszName, LPCTSTR lpszType) {

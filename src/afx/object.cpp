@@ -76,6 +76,13 @@ CObject* PASCAL CRuntimeClass::CreateObject(LPCSTR lpszClassName) {
     return found != nullptr ? found->CreateObject() : nullptr;
 }
 
+void AFXAPI AfxDoForAllClasses(void(CALLBACK* pfn)(const CRuntimeClass* pClass, void* pContext), void* pContext) {
+    for (const CRuntimeClass* at = first_class; at != nullptr; at = at->m_pNextClass) {
+        if (at->m_wSchema != 0xFFFF)
+            pfn(at, pContext);
+    }
+}
+
 AFX_CLASSINIT::AFX_CLASSINIT(CRuntimeClass* pNewClass) : m_class(pNewClass) {
     pNewClass->m_pNextClass = first_class;
     first_class = pNewClass;

@@ -131,6 +131,10 @@ BOOL CPropertyPage::OnWizardFinish() {
     return TRUE;
 }
 
+HWND CPropertyPage::OnWizardFinishEx() {
+    return OnWizardFinish() ? nullptr : m_hWnd;
+}
+
 void CPropertyPage::OnOK() {}
 
 void CPropertyPage::OnCancel() {}
@@ -159,6 +163,14 @@ void CPropertyPage::EndDialog(int nEndID) {
         sheet->EndDialog(nEndID);
 }
 
+// Not every version of the sheet sees to the focus.
+void CPropertyPage::FinishWizard(LRESULT* result) {
+    const HWND stay = OnWizardFinishEx();
+    *result = stay != nullptr;
+    if (stay != m_hWnd && ::IsChild(m_hWnd, stay))
+        ::SendMessage(::GetParent(m_hWnd), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(stay), TRUE);
+}
+
 BOOL CPropertyPage::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     const auto* header = reinterpret_cast<const NMHDR*>(lParam);
     if (CDialog::OnNotify(wParam, lParam, pResult))
@@ -185,7 +197,7 @@ BOOL CPropertyPage::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
         *pResult = OnWizardNext();
         return TRUE;
     case PSN_WIZFINISH:
-        *pResult = !OnWizardFinish();
+        FinishWizard(pResult);
         return TRUE;
     case PSN_QUERYCANCEL:
         *pResult = !OnQueryCancel();

@@ -273,19 +273,36 @@ BOOL CScrollView::OnScrollBy(CSize sizeScroll, BOOL bDoScroll) {
     return TRUE;
 }
 
-BOOL CScrollView::OnMouseWheel(UINT, short zDelta, CPoint) {
+// With keys the wheel means something else. A splitter turns the panes that share a bar with the view, too.
+BOOL CScrollView::OnMouseWheel(UINT nFlags, short zDelta, CPoint pt) {
+    if ((nFlags & (MK_SHIFT | MK_CONTROL)) != 0)
+        return FALSE;
+    CSplitterWnd* splitter = GetParentSplitter(this, FALSE);
+    return splitter != nullptr ? splitter->DoScrollBy(this, WheelDistance(zDelta)) : DoMouseWheel(nFlags, zDelta, pt);
+}
+
+BOOL CScrollView::DoMouseWheel(UINT, short zDelta, CPoint) {
+    const BOOL scrolled = OnScrollBy(WheelDistance(zDelta));
+    if (scrolled)
+        UpdateWindow();
+    return scrolled;
+}
+
+CSize CScrollView::WheelDistance(short delta) {
     UINT lines = 3;
     ::SystemParametersInfo(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
     BOOL horizontal = FALSE, vertical = FALSE;
     CheckScrollBars(horizontal, vertical);
     const auto distance = [&](LONG line, LONG page) {
-        return lines == WHEEL_PAGESCROLL ? -zDelta * page / WHEEL_DELTA
-                                         : -zDelta * line * static_cast<LONG>(std::min(lines, 100u)) / WHEEL_DELTA;
+        return lines == WHEEL_PAGESCROLL ? -delta * page / WHEEL_DELTA
+                                         : -delta * line * static_cast<LONG>(std::min(lines, 100u)) / WHEEL_DELTA;
     };
-    const CSize by =
-        vertical ? CSize(0, distance(m_lineDev.cy, m_pageDev.cy)) : CSize(distance(m_lineDev.cx, m_pageDev.cx), 0);
-    CSplitterWnd* splitter = GetParentSplitter(this, FALSE);
-    return splitter != nullptr ? splitter->DoScrollBy(this, by) : OnScrollBy(by);
+    const CSize by(distance(m_lineDev.cx, m_pageDev.cx), distance(m_lineDev.cy, m_pageDev.cy));
+    return GetWheelScrollDistance(by, horizontal && !vertical, vertical);
+}
+
+CSize CScrollView::GetWheelScrollDistance(CSize sizeDistance, BOOL bHorz, BOOL bVert) {
+    return CSize(bHorz ? sizeDistance.cx : 0, bVert ? sizeDistance.cy : 0);
 }
 
 void CScrollView::FillOutsideRect(CDC* pDC, CBrush* pBrush) {

@@ -36,6 +36,19 @@ bool type_of(const CDocTemplate& from, CString& id, CString& title) {
     return true;
 }
 
+// A program with several documents in one window that takes the shell's commands opens files in that window.
+void register_opening(const CDocTemplate& type, const CString& id, const CString& program) {
+    const CWinApp* app = AfxGetApp();
+    CString title;
+    const bool several = !type.GetDocString(title, CDocTemplate::windowTitle) || title.IsEmpty();
+    const bool told = several && app != nullptr && app->m_atomApp != 0;
+    set_value(id + "\\shell\\open\\command", program + (told ? " /dde" : " \"%1\""));
+    if (!told)
+        return;
+    set_value(id + "\\shell\\open\\ddeexec", "[open(\"%1\")]");
+    set_value(id + "\\shell\\open\\ddeexec\\application", app->m_pszExeName);
+}
+
 } // namespace
 
 void CDocManager::RegisterShellFileTypes(BOOL bCompat) {
@@ -48,7 +61,7 @@ void CDocManager::RegisterShellFileTypes(BOOL bCompat) {
         set_value(id, title);
         place.Format("%s,%d", program.GetString(), icon++);
         set_value(id + "\\DefaultIcon", place);
-        set_value(id + "\\shell\\open\\command", program + " \"%1\"");
+        register_opening(*one, id, program);
         if (bCompat) {
             set_value(id + "\\shell\\print\\command", program + " /p \"%1\"");
             set_value(id + "\\shell\\printto\\command", program + " /pt \"%1\" \"%2\" \"%3\" \"%4\"");
@@ -73,9 +86,6 @@ void CDocManager::UnregisterShellFileTypes() {
             ::RegDeleteTree(HKEY_CURRENT_USER, classes_key(extension));
     }
 }
-
-// Files come by the command line; the shell asks for no conversation with the program.
-void CWinApp::EnableShellOpen() {}
 
 void CWinApp::RegisterShellFileTypes(BOOL bCompat) {
     if (m_pDocManager != nullptr)

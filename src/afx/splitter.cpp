@@ -38,6 +38,8 @@ CSplitterWnd::~CSplitterWnd() = default;
 BOOL CSplitterWnd::CreateCommon(CWnd* parent, SIZE least, DWORD style, UINT id) {
     m_row_info.assign(static_cast<std::size_t>(m_nMaxRows), {least.cy, least.cy, 0});
     m_column_info.assign(static_cast<std::size_t>(m_nMaxCols), {least.cx, least.cx, 0});
+    m_pRowInfo = m_row_info.data();
+    m_pColInfo = m_column_info.data();
     const DWORD bars = style & (WS_HSCROLL | WS_VSCROLL);
     const LPCTSTR name = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW));
     if (!CreateEx(0, name, nullptr, (style & ~bars) | WS_CLIPCHILDREN, 0, 0, 0, 0, parent->GetSafeHwnd(),
@@ -73,8 +75,8 @@ BOOL CSplitterWnd::CreateStatic(CWnd* pParentWnd, int nRows, int nCols, DWORD dw
 BOOL CSplitterWnd::CreateView(int row, int col, CRuntimeClass* pViewClass, SIZE sizeInit, CCreateContext* pContext) {
     if (GetDlgItem(IdFromRowCol(row, col)) != nullptr)
         return FALSE; // there is a pane already
-    m_row_info[static_cast<std::size_t>(row)].ideal = sizeInit.cy;
-    m_column_info[static_cast<std::size_t>(col)].ideal = sizeInit.cx;
+    m_row_info[static_cast<std::size_t>(row)].nIdealSize = sizeInit.cy;
+    m_column_info[static_cast<std::size_t>(col)].nIdealSize = sizeInit.cx;
     CCreateContext context;
     if (pContext == nullptr) { // like the view that there is
         if (auto* view = DYNAMIC_DOWNCAST(CView, GetActivePane())) {
@@ -118,27 +120,27 @@ BOOL CSplitterWnd::IsChildPane(CWnd* pWnd, int* pRow, int* pCol) {
 }
 
 void CSplitterWnd::GetRowInfo(int row, int& cyCur, int& cyMin) const {
-    const line& at = m_row_info.at(static_cast<std::size_t>(row));
-    cyCur = at.now;
-    cyMin = at.least;
+    const CRowColInfo& at = m_row_info.at(static_cast<std::size_t>(row));
+    cyCur = at.nCurSize;
+    cyMin = at.nMinSize;
 }
 
 void CSplitterWnd::SetRowInfo(int row, int cyIdeal, int cyMin) {
-    line& at = m_row_info.at(static_cast<std::size_t>(row));
-    at.ideal = std::max(cyIdeal, 0);
-    at.least = std::max(cyMin, 0);
+    CRowColInfo& at = m_row_info.at(static_cast<std::size_t>(row));
+    at.nIdealSize = std::max(cyIdeal, 0);
+    at.nMinSize = std::max(cyMin, 0);
 }
 
 void CSplitterWnd::GetColumnInfo(int col, int& cxCur, int& cxMin) const {
-    const line& at = m_column_info.at(static_cast<std::size_t>(col));
-    cxCur = at.now;
-    cxMin = at.least;
+    const CRowColInfo& at = m_column_info.at(static_cast<std::size_t>(col));
+    cxCur = at.nCurSize;
+    cxMin = at.nMinSize;
 }
 
 void CSplitterWnd::SetColumnInfo(int col, int cxIdeal, int cxMin) {
-    line& at = m_column_info.at(static_cast<std::size_t>(col));
-    at.ideal = std::max(cxIdeal, 0);
-    at.least = std::max(cxMin, 0);
+    CRowColInfo& at = m_column_info.at(static_cast<std::size_t>(col));
+    at.nIdealSize = std::max(cxIdeal, 0);
+    at.nMinSize = std::max(cxMin, 0);
 }
 
 // The pane that has the focus, or the frame's active view.
@@ -176,7 +178,7 @@ void CSplitterWnd::ActivateNext(BOOL bPrev) {
 }
 
 BOOL CSplitterWnd::DoKeyboardSplit() {
-    const CRect inside = Inside();
+    const CRect inside = InsideRect();
     BOOL split = FALSE;
     if (m_nRows < m_nMaxRows)
         split = SplitRow(inside.Height() / 2);
@@ -188,23 +190,23 @@ BOOL CSplitterWnd::DoKeyboardSplit() {
 BOOL CSplitterWnd::SplitRow(int cyBefore) {
     if (m_nRows >= m_nMaxRows)
         return FALSE;
-    line& above = m_row_info[static_cast<std::size_t>(m_nRows - 1)];
-    line& fresh = m_row_info[static_cast<std::size_t>(m_nRows)];
-    const int rest = above.now - cyBefore - m_cySplitterGap;
-    if (cyBefore < above.least || rest < fresh.least)
+    CRowColInfo& above = m_row_info[static_cast<std::size_t>(m_nRows - 1)];
+    CRowColInfo& fresh = m_row_info[static_cast<std::size_t>(m_nRows)];
+    const int rest = above.nCurSize - cyBefore - m_cySplitterGap;
+    if (cyBefore < above.nMinSize || rest < fresh.nMinSize)
         return FALSE;
     if ((m_scroll_style & WS_VSCROLL) != 0 && !CreateScrollBarCtrl(SBS_VERT, AFX_IDW_VSCROLL_FIRST + UINT(m_nRows)))
         return FALSE;
     ++m_nRows;
     for (int column = 0; column < m_nCols; ++column) {
-        const CSize size(m_column_info[static_cast<std::size_t>(column)].now, rest);
+        const CSize size(m_column_info[static_cast<std::size_t>(column)].nCurSize, rest);
         if (!CreateView(m_nRows - 1, column, m_pDynamicViewClass, size, nullptr)) {
             DeleteRow(m_nRows - 1);
             return FALSE;
         }
     }
-    above.ideal = cyBefore;
-    fresh.ideal = rest;
+    above.nIdealSize = cyBefore;
+    fresh.nIdealSize = rest;
     RecalcLayout();
     return TRUE;
 }
@@ -212,23 +214,23 @@ BOOL CSplitterWnd::SplitRow(int cyBefore) {
 BOOL CSplitterWnd::SplitColumn(int cxBefore) {
     if (m_nCols >= m_nMaxCols)
         return FALSE;
-    line& left = m_column_info[static_cast<std::size_t>(m_nCols - 1)];
-    line& fresh = m_column_info[static_cast<std::size_t>(m_nCols)];
-    const int rest = left.now - cxBefore - m_cxSplitterGap;
-    if (cxBefore < left.least || rest < fresh.least)
+    CRowColInfo& left = m_column_info[static_cast<std::size_t>(m_nCols - 1)];
+    CRowColInfo& fresh = m_column_info[static_cast<std::size_t>(m_nCols)];
+    const int rest = left.nCurSize - cxBefore - m_cxSplitterGap;
+    if (cxBefore < left.nMinSize || rest < fresh.nMinSize)
         return FALSE;
     if ((m_scroll_style & WS_HSCROLL) != 0 && !CreateScrollBarCtrl(SBS_HORZ, AFX_IDW_HSCROLL_FIRST + UINT(m_nCols)))
         return FALSE;
     ++m_nCols;
     for (int row = 0; row < m_nRows; ++row) {
-        const CSize size(rest, m_row_info[static_cast<std::size_t>(row)].now);
+        const CSize size(rest, m_row_info[static_cast<std::size_t>(row)].nCurSize);
         if (!CreateView(row, m_nCols - 1, m_pDynamicViewClass, size, nullptr)) {
             DeleteColumn(m_nCols - 1);
             return FALSE;
         }
     }
-    left.ideal = cxBefore;
-    fresh.ideal = rest;
+    left.nIdealSize = cxBefore;
+    fresh.nIdealSize = rest;
     RecalcLayout();
     return TRUE;
 }

@@ -19,37 +19,41 @@ constexpr int box_size = 7; // what the user pulls the first bar out of
 template <class Line> void share(std::vector<Line>& lines, int count, int room, int gap) {
     for (int i = 0; i < count; ++i) {
         Line& at = lines[static_cast<std::size_t>(i)];
-        at.now = i + 1 < count ? std::clamp(at.ideal, 0, std::max(room, 0)) : std::max(room, 0);
-        if (at.now < at.least)
-            at.now = 0;
-        room -= at.now + (i + 1 < count ? gap : 0);
+        at.nCurSize = i + 1 < count ? std::clamp(at.nIdealSize, 0, std::max(room, 0)) : std::max(room, 0);
+        if (at.nCurSize < at.nMinSize)
+            at.nCurSize = 0;
+        room -= at.nCurSize + (i + 1 < count ? gap : 0);
     }
 }
 
 } // namespace
 
-CRect CSplitterWnd::Inside() const {
+CRect CSplitterWnd::InsideRect() const {
     CRect rect;
+    GetInsideRect(rect);
+    return rect;
+}
+
+void CSplitterWnd::GetInsideRect(CRect& rect) const {
     GetClientRect(rect);
     if ((m_scroll_style & WS_VSCROLL) != 0)
         rect.right = std::max<LONG>(rect.right - bar_breadth(true), 0);
     if ((m_scroll_style & WS_HSCROLL) != 0)
         rect.bottom = std::max<LONG>(rect.bottom - bar_breadth(false), 0);
-    return rect;
 }
 
 // Where the line begins.
-int CSplitterWnd::EndOf(const std::vector<line>& lines, int index, int gap) const {
+int CSplitterWnd::EndOf(const std::vector<CRowColInfo>& lines, int index, int gap) const {
     int at = 0;
     for (int i = 0; i < index; ++i)
-        at += lines[static_cast<std::size_t>(i)].now + gap;
+        at += lines[static_cast<std::size_t>(i)].nCurSize + gap;
     return at;
 }
 
 void CSplitterWnd::RecalcLayout() {
     if (m_hWnd == nullptr || m_nRows == 0 || m_nCols == 0)
         return;
-    const CRect inside = Inside();
+    const CRect inside = InsideRect();
     if (inside.Width() <= 0 || inside.Height() <= 0)
         return; // iconic, or not laid out yet
     share(m_row_info, m_nRows, inside.Height(), m_cySplitterGap);
@@ -66,8 +70,8 @@ void CSplitterWnd::PlacePanes(const CRect&) {
             if (pane == nullptr)
                 continue; // of a static splitter that is not complete yet
             const int x = EndOf(m_column_info, column, m_cxSplitterGap), y = EndOf(m_row_info, row, m_cySplitterGap);
-            pane->MoveWindow(x, y, m_column_info[static_cast<std::size_t>(column)].now,
-                             m_row_info[static_cast<std::size_t>(row)].now);
+            pane->MoveWindow(x, y, m_column_info[static_cast<std::size_t>(column)].nCurSize,
+                             m_row_info[static_cast<std::size_t>(row)].nCurSize);
         }
     }
 }
@@ -77,13 +81,14 @@ void CSplitterWnd::PlaceScrollBars(const CRect& inside) {
         const int box = row == 0 && ShowsBox(true) ? box_size : 0;
         const int y = EndOf(m_row_info, row, m_cySplitterGap) + box;
         if (CWnd* bar = ScrollBarAt(AFX_IDW_VSCROLL_FIRST, row))
-            bar->MoveWindow(inside.right, y, bar_breadth(true), m_row_info[static_cast<std::size_t>(row)].now - box);
+            bar->MoveWindow(inside.right, y, bar_breadth(true),
+                            m_row_info[static_cast<std::size_t>(row)].nCurSize - box);
     }
     for (int column = 0; (m_scroll_style & WS_HSCROLL) != 0 && column < m_nCols; ++column) {
         const int box = column == 0 && ShowsBox(false) ? box_size : 0;
         const int x = EndOf(m_column_info, column, m_cxSplitterGap) + box;
         if (CWnd* bar = ScrollBarAt(AFX_IDW_HSCROLL_FIRST, column))
-            bar->MoveWindow(x, inside.bottom, m_column_info[static_cast<std::size_t>(column)].now - box,
+            bar->MoveWindow(x, inside.bottom, m_column_info[static_cast<std::size_t>(column)].nCurSize - box,
                             bar_breadth(false));
     }
 }
@@ -100,7 +105,7 @@ bool CSplitterWnd::ShowsBox(bool row) const {
 
 // At the end of the shared scroll bar; in the corner where there is none.
 CRect CSplitterWnd::BoxRect(bool row) const {
-    const CRect inside = Inside();
+    const CRect inside = InsideRect();
     if (row) {
         const int breadth = (m_scroll_style & WS_VSCROLL) != 0 ? bar_breadth(true) : box_size;
         const int x = (m_scroll_style & WS_VSCROLL) != 0 ? inside.right : inside.right - breadth;
@@ -111,33 +116,42 @@ CRect CSplitterWnd::BoxRect(bool row) const {
     return CRect(0, y, box_size, y + breadth);
 }
 
-CRect CSplitterWnd::BarRect(const hit& at) const {
-    const CRect inside = Inside();
-    if (at.what == hit::row_bar) {
-        const int y = EndOf(m_row_info, at.index + 1, m_cySplitterGap) - m_cySplitterGap;
+CRect CSplitterWnd::BarRect(bool row, int index) const {
+    const CRect inside = InsideRect();
+    if (row) {
+        const int y = EndOf(m_row_info, index + 1, m_cySplitterGap) - m_cySplitterGap;
         return CRect(inside.left, y, inside.right, y + m_cySplitter);
     }
-    const int x = EndOf(m_column_info, at.index + 1, m_cxSplitterGap) - m_cxSplitterGap;
+    const int x = EndOf(m_column_info, index + 1, m_cxSplitterGap) - m_cxSplitterGap;
     return CRect(x, inside.top, x + m_cxSplitter, inside.bottom);
 }
 
 void CSplitterWnd::OnPaint() {
     CPaintDC dc(this);
+    OnDraw(&dc);
+}
+
+void CSplitterWnd::OnDraw(CDC* pDC) {
     CRect client;
     GetClientRect(client);
-    const CRect inside = Inside();
-    ::FillRect(dc, CRect(inside.right, inside.bottom, client.right, client.bottom), ::GetSysColorBrush(COLOR_BTNFACE));
+    const CRect inside = InsideRect();
+    const HBRUSH face = ::GetSysColorBrush(COLOR_BTNFACE);
+    ::FillRect(*pDC, CRect(inside.right, inside.bottom, client.right, client.bottom), face);
     for (bool row : {true, false}) {
         const CRect strip = row ? CRect(inside.right, 0, client.right, inside.bottom)
                                 : CRect(0, inside.bottom, inside.right, client.bottom);
-        ::FillRect(dc, strip, ::GetSysColorBrush(COLOR_BTNFACE));
+        ::FillRect(*pDC, strip, face);
         if (ShowsBox(row))
-            OnDrawSplitter(&dc, splitBox, BoxRect(row));
+            OnDrawSplitter(pDC, splitBox, BoxRect(row));
     }
+    DrawAllSplitBars(pDC, inside.right, inside.bottom);
+}
+
+void CSplitterWnd::DrawAllSplitBars(CDC* pDC, int, int) {
     for (int row = 0; row + 1 < m_nRows; ++row)
-        OnDrawSplitter(&dc, splitBar, BarRect({hit::row_bar, row, 0}));
+        OnDrawSplitter(pDC, splitBar, BarRect(true, row));
     for (int column = 0; column + 1 < m_nCols; ++column)
-        OnDrawSplitter(&dc, splitBar, BarRect({hit::column_bar, column, 0}));
+        OnDrawSplitter(pDC, splitBar, BarRect(false, column));
 }
 
 BOOL CSplitterWnd::OnEraseBkgnd(CDC*) {
@@ -182,69 +196,4 @@ BOOL CSplitterWnd::CreateScrollBarCtrl(DWORD dwStyle, UINT nID) {
     return ::CreateWindow("SCROLLBAR", nullptr, dwStyle | WS_VISIBLE | WS_CHILD, 0, 0, 1, 1, m_hWnd,
                           reinterpret_cast<HMENU>(static_cast<UINT_PTR>(nID)), AfxGetInstanceHandle(),
                           nullptr) != nullptr;
-}
-
-// A shared bar moves the panes of its row or column.
-void CSplitterWnd::OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar) {
-    const int column = static_cast<WORD>(pScrollBar->GetDlgCtrlID()) - static_cast<int>(AFX_IDW_HSCROLL_FIRST);
-    if (column < 0 || column >= m_nCols)
-        return;
-    const int before = pScrollBar->GetScrollPos();
-    for (int row = 0; row < m_nRows; ++row) {
-        pScrollBar->SetScrollPos(before, FALSE); // each begins where the first did
-        if (CWnd* pane = GetPane(row, column))
-            pane->SendMessage(WM_HSCROLL, MAKELONG(nSBCode, nPos), reinterpret_cast<LPARAM>(pScrollBar->m_hWnd));
-    }
-}
-
-void CSplitterWnd::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar) {
-    const int row = static_cast<WORD>(pScrollBar->GetDlgCtrlID()) - static_cast<int>(AFX_IDW_VSCROLL_FIRST);
-    if (row < 0 || row >= m_nRows)
-        return;
-    const int before = pScrollBar->GetScrollPos();
-    for (int column = 0; column < m_nCols; ++column) {
-        pScrollBar->SetScrollPos(before, FALSE);
-        if (CWnd* pane = GetPane(row, column))
-            pane->SendMessage(WM_VSCROLL, MAKELONG(nSBCode, nPos), reinterpret_cast<LPARAM>(pScrollBar->m_hWnd));
-    }
-}
-
-BOOL CSplitterWnd::DoScroll(CView* pViewFrom, UINT nScrollCode, BOOL bDoScroll) {
-    int row = 0, column = 0;
-    if (!IsChildPane(pViewFrom, &row, &column))
-        return FALSE;
-    BOOL scrolled = FALSE;
-    const auto scroll = [&](CWnd* pane, UINT code) {
-        auto* view = DYNAMIC_DOWNCAST(CView, pane);
-        scrolled = (view != nullptr && view->OnScroll(code, 0, bDoScroll)) || scrolled;
-    };
-    for (int i = 0; i < m_nCols && HIBYTE(nScrollCode) != 0xFF; ++i)
-        scroll(GetPane(row, i), MAKEWORD(0xFF, HIBYTE(nScrollCode)));
-    for (int i = 0; i < m_nRows && LOBYTE(nScrollCode) != 0xFF; ++i)
-        scroll(GetPane(i, column), MAKEWORD(LOBYTE(nScrollCode), 0xFF));
-    return scrolled;
-}
-
-BOOL CSplitterWnd::DoScrollBy(CView* pViewFrom, CSize sizeScroll, BOOL bDoScroll) {
-    int row = 0, column = 0;
-    if (!IsChildPane(pViewFrom, &row, &column))
-        return FALSE;
-    BOOL scrolled = FALSE;
-    for (int i = 0; i < m_nRows; ++i) {
-        for (int j = 0; j < m_nCols; ++j) {
-            const CSize by(j == column ? sizeScroll.cx : 0, i == row ? sizeScroll.cy : 0);
-            auto* view = DYNAMIC_DOWNCAST(CView, GetPane(i, j));
-            if (view != nullptr && (by.cx != 0 || by.cy != 0))
-                scrolled = view->OnScrollBy(by, bDoScroll) || scrolled;
-        }
-    }
-    return scrolled;
-}
-
-// The wheel turns the active pane.
-BOOL CSplitterWnd::OnMouseWheel(UINT nFlags, short zDelta, CPoint pt) {
-    CWnd* pane = GetActivePane();
-    if (pane == nullptr)
-        return FALSE;
-    return pane->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(nFlags, zDelta), MAKELPARAM(pt.x, pt.y)) != 0;
 }

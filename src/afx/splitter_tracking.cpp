@@ -5,44 +5,60 @@
 #include <algorithm>
 #include <utility>
 
-CSplitterWnd::hit CSplitterWnd::HitTest(CPoint point) const {
+namespace {
+
+constexpr int most_bars = 15;
+
+} // namespace
+
+bool CSplitterWnd::IsRowHit(int ht) {
+    return ht == vSplitterBox || (ht >= vSplitterBar1 && ht <= vSplitterBar15);
+}
+
+bool CSplitterWnd::IsCrossingHit(int ht) {
+    return ht >= splitterIntersection1 && ht <= splitterIntersection225;
+}
+
+int CSplitterWnd::HitTest(CPoint pt) const {
     for (bool row : {true, false}) {
-        if (ShowsBox(row) && ::PtInRect(BoxRect(row), point))
-            return {row ? hit::row_box : hit::column_box, 0, 0};
+        if (ShowsBox(row) && ::PtInRect(BoxRect(row), pt))
+            return row ? vSplitterBox : hSplitterBox;
     }
-    hit found;
-    for (int row = 0; row + 1 < m_nRows; ++row) {
-        if (::PtInRect(BarRect({hit::row_bar, row, 0}), point))
-            found = {hit::row_bar, row, 0};
-    }
-    for (int column = 0; column + 1 < m_nCols; ++column) {
-        if (!::PtInRect(BarRect({hit::column_bar, column, 0}), point))
-            continue;
-        if (found.what == hit::row_bar)
-            return {hit::crossing, found.index, column};
-        found = {hit::column_bar, column, 0};
-    }
-    return found;
+    int hit_row = -1, hit_column = -1;
+    for (int row = 0; row + 1 < m_nRows; ++row)
+        hit_row = ::PtInRect(BarRect(true, row), pt) ? row : hit_row;
+    for (int column = 0; column + 1 < m_nCols; ++column)
+        hit_column = ::PtInRect(BarRect(false, column), pt) ? column : hit_column;
+    if (hit_row >= 0 && hit_column >= 0)
+        return splitterIntersection1 + hit_row * most_bars + hit_column;
+    return hit_row >= 0 ? vSplitterBar1 + hit_row : hit_column >= 0 ? hSplitterBar1 + hit_column : noHit;
+}
+
+// The bar that is tracked; one that a box makes begins at the edge.
+void CSplitterWnd::GetHitRect(int ht, CRect& rect) {
+    const CRect inside = InsideRect();
+    if (ht == vSplitterBox)
+        rect = CRect(inside.left, 0, inside.right, m_cySplitter);
+    else if (ht == hSplitterBox)
+        rect = CRect(0, inside.top, m_cxSplitter, inside.bottom);
+    else
+        rect = IsRowHit(ht) ? BarRect(true, ht - vSplitterBar1) : BarRect(false, ht - hSplitterBar1);
+}
+
+void CSplitterWnd::SetSplitCursor(int ht) {
+    if (ht != noHit)
+        ::SetCursor(::LoadCursor(nullptr, IsCrossingHit(ht) ? IDC_SIZEALL : IsRowHit(ht) ? IDC_SIZENS : IDC_SIZEWE));
 }
 
 BOOL CSplitterWnd::OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message) {
-    if (nHitTest != HTCLIENT || pWnd != this)
-        return CWnd::OnSetCursor(pWnd, nHitTest, message);
     CPoint point;
     ::GetCursorPos(&point);
     ScreenToClient(&point);
-    switch (HitTest(point).what) {
-    case hit::row_bar:
-    case hit::row_box:
-        return ::SetCursor(::LoadCursor(nullptr, IDC_SIZENS)), TRUE;
-    case hit::column_bar:
-    case hit::column_box:
-        return ::SetCursor(::LoadCursor(nullptr, IDC_SIZEWE)), TRUE;
-    case hit::crossing:
-        return ::SetCursor(::LoadCursor(nullptr, IDC_SIZEALL)), TRUE;
-    default:
+    const int ht = nHitTest == HTCLIENT && pWnd == this ? HitTest(point) : int{noHit};
+    if (ht == noHit)
         return CWnd::OnSetCursor(pWnd, nHitTest, message);
-    }
+    SetSplitCursor(ht);
+    return TRUE;
 }
 
 // A bar that follows the pointer, drawn by inversion.
@@ -51,134 +67,149 @@ void CSplitterWnd::OnInvertTracker(const CRect& rect) {
     ::PatBlt(dc, rect.left, rect.top, rect.Width(), rect.Height(), DSTINVERT);
 }
 
-void CSplitterWnd::BeginDrag(const hit& at, CPoint point) {
-    if (at.what == hit::nothing)
+void CSplitterWnd::InvertTrackers() {
+    OnInvertTracker(m_rectTracker);
+    if (m_bTracking2)
+        OnInvertTracker(m_rectTracker2);
+}
+
+void CSplitterWnd::StartTracking(int ht) {
+    if (ht == noHit)
         return;
-    m_tracking = at;
-    const CRect inside = Inside();
-    switch (at.what) {
-    case hit::row_box:
-        m_tracker = CRect(inside.left, 0, inside.right, m_cySplitter);
-        break;
-    case hit::column_box:
-        m_tracker = CRect(0, inside.top, m_cxSplitter, inside.bottom);
-        break;
-    case hit::crossing:
-        m_tracker =
-            CRect(CPoint(BarRect({hit::column_bar, at.column, 0}).left, BarRect({hit::row_bar, at.index, 0}).top),
-                  CSize(m_cxSplitter, m_cySplitter));
-        break;
-    default:
-        m_tracker = BarRect(at);
+    GetInsideRect(m_rectLimit);
+    m_bTracking2 = IsCrossingHit(ht);
+    if (m_bTracking2) {
+        GetHitRect(vSplitterBar1 + (ht - splitterIntersection1) / most_bars, m_rectTracker);
+        GetHitRect(hSplitterBar1 + (ht - splitterIntersection1) % most_bars, m_rectTracker2);
+    } else {
+        GetHitRect(ht, m_rectTracker);
     }
-    m_offset = CPoint(m_tracker.left - point.x, m_tracker.top - point.y);
+    m_ptTrackOffset = CPoint(-m_cxSplitter / 2, -m_cySplitter / 2); // the bar's middle is at the pointer
+    m_bTracking = TRUE;
+    m_htTrack = ht;
     SetCapture();
     SetFocus();
     ModifyStyle(WS_CLIPCHILDREN, 0); // the tracker goes over the panes
-    OnInvertTracker(m_tracker);
+    InvertTrackers();
+    SetSplitCursor(ht);
 }
 
 void CSplitterWnd::DragTo(CPoint point) {
-    const CRect inside = Inside();
-    const bool rows = m_tracking.what == hit::row_bar || m_tracking.what == hit::row_box;
-    const bool columns = m_tracking.what == hit::column_bar || m_tracking.what == hit::column_box;
-    OnInvertTracker(m_tracker);
-    const CSize size = m_tracker.Size();
-    CPoint at(point.x + m_offset.x, point.y + m_offset.y);
-    at.x = rows ? m_tracker.left : std::clamp<LONG>(at.x, 0, std::max<LONG>(inside.right - size.cx, 0));
-    at.y = columns ? m_tracker.top : std::clamp<LONG>(at.y, 0, std::max<LONG>(inside.bottom - size.cy, 0));
-    m_tracker = CRect(at, size);
-    OnInvertTracker(m_tracker);
+    point.Offset(m_ptTrackOffset);
+    const int x =
+        std::clamp<int>(point.x, m_rectLimit.left, std::max(m_rectLimit.right - m_cxSplitter, m_rectLimit.left));
+    const int y =
+        std::clamp<int>(point.y, m_rectLimit.top, std::max(m_rectLimit.bottom - m_cySplitter, m_rectLimit.top));
+    InvertTrackers();
+    if (m_bTracking2)
+        m_rectTracker2.OffsetRect(x - m_rectTracker2.left, 0);
+    if (m_bTracking2 || IsRowHit(m_htTrack))
+        m_rectTracker.OffsetRect(0, y - m_rectTracker.top);
+    else
+        m_rectTracker.OffsetRect(x - m_rectTracker.left, 0);
+    InvertTrackers();
 }
 
-void CSplitterWnd::EndDrag(bool accept) {
-    if (m_tracking.what == hit::nothing)
+void CSplitterWnd::StopTracking(BOOL bAccept) {
+    if (!m_bTracking)
         return;
-    const hit at = std::exchange(m_tracking, {});
-    OnInvertTracker(m_tracker);
+    InvertTrackers();
+    m_bTracking = m_bTracking2 = FALSE;
     ModifyStyle(0, WS_CLIPCHILDREN);
     ::ReleaseCapture();
-    if (accept)
-        MoveBar(at, CPoint(m_tracker.left, m_tracker.top));
+    const int ht = std::exchange(m_htTrack, int{noHit});
+    if (bAccept)
+        MoveBar(ht);
+    if (CWnd* pane = GetActivePane())
+        pane->SetFocus();
 }
 
-// A dynamic row or column that becomes too small goes.
-void CSplitterWnd::MoveBar(const hit& at, CPoint point) {
-    const bool dynamic = (GetStyle() & SPLS_DYNAMIC_SPLIT) != 0;
-    if (at.what == hit::row_box)
-        SplitRow(point.y);
-    else if (at.what == hit::column_box)
-        SplitColumn(point.x);
-    if (at.what == hit::row_bar || at.what == hit::crossing) {
-        const auto index = static_cast<std::size_t>(at.index);
-        line &above = m_row_info[index], &below = m_row_info[index + 1];
-        const int both = above.now + below.now, wanted = point.y - EndOf(m_row_info, at.index, m_cySplitterGap);
-        above.ideal = std::clamp(wanted, 0, both);
-        below.ideal = both - above.ideal;
-        if (dynamic && above.ideal < above.least)
-            DeleteRow(at.index);
-        else if (dynamic && below.ideal < below.least)
-            DeleteRow(at.index + 1);
-    }
-    if (at.what == hit::column_bar || at.what == hit::crossing) {
-        const int column = at.what == hit::crossing ? at.column : at.index;
-        const auto index = static_cast<std::size_t>(column);
-        line &left = m_column_info[index], &right = m_column_info[index + 1];
-        const int both = left.now + right.now, wanted = point.x - EndOf(m_column_info, column, m_cxSplitterGap);
-        left.ideal = std::clamp(wanted, 0, both);
-        right.ideal = both - left.ideal;
-        if (dynamic && left.ideal < left.least)
-            DeleteColumn(column);
-        else if (dynamic && right.ideal < right.least)
-            DeleteColumn(column + 1);
+void CSplitterWnd::MoveBar(int ht) {
+    if (ht == vSplitterBox) {
+        SplitRow(m_rectTracker.top);
+    } else if (ht == hSplitterBox) {
+        SplitColumn(m_rectTracker.left);
+    } else if (IsCrossingHit(ht)) {
+        TrackRowSize(m_rectTracker.top, (ht - splitterIntersection1) / most_bars);
+        TrackColumnSize(m_rectTracker2.left, (ht - splitterIntersection1) % most_bars);
+    } else if (IsRowHit(ht)) {
+        TrackRowSize(m_rectTracker.top, ht - vSplitterBar1);
+    } else {
+        TrackColumnSize(m_rectTracker.left, ht - hSplitterBar1);
     }
     RecalcLayout();
 }
 
+// Which of the two goes: 0, 1, or neither.
+int CSplitterWnd::Share(CRowColInfo* pair, int wanted) const {
+    const int both = pair[0].nCurSize + pair[1].nCurSize;
+    pair[0].nIdealSize = std::clamp(wanted, 0, both);
+    pair[1].nIdealSize = both - pair[0].nIdealSize;
+    if ((GetStyle() & SPLS_DYNAMIC_SPLIT) == 0)
+        return -1;
+    return pair[0].nIdealSize < pair[0].nMinSize ? 0 : pair[1].nIdealSize < pair[1].nMinSize ? 1 : -1;
+}
+
+void CSplitterWnd::TrackRowSize(int y, int row) {
+    const int goes = Share(m_pRowInfo + row, y - EndOf(m_row_info, row, m_cySplitterGap));
+    if (goes >= 0)
+        DeleteRow(row + goes);
+}
+
+void CSplitterWnd::TrackColumnSize(int x, int col) {
+    const int goes = Share(m_pColInfo + col, x - EndOf(m_column_info, col, m_cxSplitterGap));
+    if (goes >= 0)
+        DeleteColumn(col + goes);
+}
+
 void CSplitterWnd::OnLButtonDown(UINT, CPoint point) {
-    if (m_tracking.what == hit::nothing)
-        BeginDrag(HitTest(point), point);
+    if (!m_bTracking)
+        StartTracking(HitTest(point));
 }
 
 void CSplitterWnd::OnMouseMove(UINT nFlags, CPoint point) {
-    if (m_tracking.what != hit::nothing)
+    if (m_bTracking)
         DragTo(point);
     else
         CWnd::OnMouseMove(nFlags, point);
 }
 
 void CSplitterWnd::OnLButtonUp(UINT nFlags, CPoint point) {
-    if (m_tracking.what == hit::nothing)
+    if (!m_bTracking)
         return CWnd::OnLButtonUp(nFlags, point);
     DragTo(point);
-    EndDrag(true);
+    StopTracking(TRUE);
 }
 
 // Divides in the middle, or joins what a bar divides.
 void CSplitterWnd::OnLButtonDblClk(UINT, CPoint point) {
-    const hit at = HitTest(point);
-    EndDrag(false);
+    const int ht = HitTest(point);
+    StopTracking(FALSE);
     if ((GetStyle() & SPLS_DYNAMIC_SPLIT) == 0)
         return;
-    const CRect inside = Inside();
-    if (at.what == hit::row_box)
+    const CRect inside = InsideRect();
+    if (ht == vSplitterBox) {
         SplitRow(inside.Height() / 2);
-    else if (at.what == hit::column_box)
+    } else if (ht == hSplitterBox) {
         SplitColumn(inside.Width() / 2);
-    if (at.what == hit::row_bar || at.what == hit::crossing)
-        DeleteRow(at.index + 1);
-    if (at.what == hit::column_bar || at.what == hit::crossing)
-        DeleteColumn((at.what == hit::crossing ? at.column : at.index) + 1);
+    } else if (IsCrossingHit(ht)) {
+        DeleteRow((ht - splitterIntersection1) / most_bars + 1);
+        DeleteColumn((ht - splitterIntersection1) % most_bars + 1);
+    } else if (IsRowHit(ht)) {
+        DeleteRow(ht - vSplitterBar1 + 1);
+    } else if (ht != noHit) {
+        DeleteColumn(ht - hSplitterBar1 + 1);
+    }
 }
 
 void CSplitterWnd::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
     if (nChar == VK_ESCAPE)
-        EndDrag(false);
+        StopTracking(FALSE);
     else if (nChar == VK_RETURN)
-        EndDrag(true);
+        StopTracking(TRUE);
     CWnd::OnKeyDown(nChar, nRepCnt, nFlags);
 }
 
 void CSplitterWnd::OnCancelMode() {
-    EndDrag(false);
+    StopTracking(FALSE);
 }

@@ -15,7 +15,10 @@ namespace {
 
 BOOL pre_translate(MSG* message) {
     CWinThread* thread = AfxGetThread();
-    return thread != nullptr ? thread->PreTranslateMessage(message) : CWnd::WalkPreTranslateTree(nullptr, message);
+    if (thread == nullptr)
+        return CWnd::WalkPreTranslateTree(nullptr, message);
+    AFX_MANAGE_STATE(thread->m_pModuleState); // a library's window may run the loop
+    return thread->PreTranslateMessage(message);
 }
 
 BOOL pump_message() {
@@ -45,6 +48,7 @@ LRESULT CALLBACK filter_message(int code, WPARAM wParam, LPARAM lParam) {
     CWinThread* thread = AfxGetThread();
     if (code < 0 || thread == nullptr)
         return ::CallNextHookEx(this_thread().filter_hook, code, wParam, lParam);
+    AFX_MANAGE_STATE(thread->m_pModuleState);
     try {
         return thread->ProcessMessageFilter(code, reinterpret_cast<MSG*>(lParam));
     } catch (...) {
@@ -109,7 +113,10 @@ BOOL CWinThread::IsIdleMessage(MSG* pMsg) {
 
 BOOL AFXAPI AfxPumpMessage() {
     CWinThread* thread = AfxGetThread();
-    return thread != nullptr ? thread->PumpMessage() : pump_message();
+    if (thread == nullptr)
+        return pump_message();
+    AFX_MANAGE_STATE(thread->m_pModuleState);
+    return thread->PumpMessage();
 }
 
 BOOL AFXAPI AfxIsIdleMessage(MSG* pMsg) {

@@ -61,6 +61,7 @@ unsigned __stdcall thread_start::run(void* record) {
             *std::unique_ptr<std::shared_ptr<thread_start>>(static_cast<std::shared_ptr<thread_start>*>(record));
         CWinThread* thread = start->thread;
         this_thread().thread = thread;
+        this_thread().module_state = thread->m_pModuleState;
         if (start->main_window != nullptr && thread->m_pMainWnd == nullptr) {
             CWnd& wnd = of_this_thread<borrowed_window>().wnd;
             wnd.Attach(start->main_window);

@@ -4,6 +4,7 @@
 #include "afx_base.h"
 
 class CWinThread;
+struct AFX_MODULE_STATE;
 class CWnd;
 
 // A slot holds one object for each thread that asks for it; it goes with its thread. The objects of the thread that
@@ -21,8 +22,9 @@ struct thread_state {
     ~thread_state();
 
     CWinThread* thread = nullptr;
-    MSG last_message{};   // the window message that is being handled; all zero while none is
-    MSG pumped_message{}; // the message taken from the queue last
+    AFX_MODULE_STATE* module_state = nullptr; // null: the program's
+    MSG last_message{};                       // the window message that is being handled; all zero while none is
+    MSG pumped_message{};                     // the message taken from the queue last
     POINT last_mouse{-1, -1};
     CWnd* wnd_in_creation = nullptr;
     HHOOK creation_hook = nullptr;

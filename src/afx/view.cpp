@@ -105,10 +105,6 @@ void CView::OnUpdate(CView*, LPARAM, CObject*) {
     Invalidate();
 }
 
-BOOL CView::IsSelected(const CObject*) const {
-    return FALSE;
-}
-
 BOOL CView::OnScroll(UINT, UINT, BOOL) {
     return FALSE;
 }

@@ -66,9 +66,13 @@ bool tell_of_input(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, const parameters& p
         return tell(wnd, entry, p.word(), p.point()), true;
     case AfxSig_v_xbutton:
         return tell(wnd, entry, p.low_w(), p.high_w(), p.point()), true;
+    case AfxSig_v_ncxbutton:
+        return tell<short, UINT, CPoint>(wnd, entry, static_cast<short>(p.low_w()), p.high_w(), p.point()), true;
+    case AfxSig_v_wheel:
+        return tell<UINT, short, CPoint>(wnd, entry, p.low_w(), static_cast<short>(p.high_w()), p.point()), true;
     case AfxSig_v_scroll:
         return tell(wnd, entry, p.low_w(), p.high_w(), p.bar()), true;
-    case AfxSig_v_scroll_reflect:
+    case AfxSig_v_words:
         return tell(wnd, entry, p.low_w(), p.high_w()), true;
     case AfxSig_v_drop:
         return tell(wnd, entry, reinterpret_cast<HDROP>(p.w)), true;
@@ -92,6 +96,10 @@ bool tell_of_values(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, const parameters& 
         return tell(wnd, entry, p.word(), p.low_l()), true;
     case AfxSig_v_u_l:
         return tell<UINT, LPARAM>(wnd, entry, p.word(), p.l), true;
+    case AfxSig_v_u_d:
+        return tell<UINT, DWORD>(wnd, entry, p.word(), static_cast<DWORD>(p.l)), true;
+    case AfxSig_v_u_b:
+        return tell<UINT, BOOL>(wnd, entry, p.word(), p.l != 0), true;
     case AfxSig_v_u_s:
     case AfxSig_v_u_p:
         return tell(wnd, entry, p.word(), p.record()), true;
@@ -135,6 +143,11 @@ void tell_of_objects(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, const parameters&
         return tell(wnd, entry, p.menu_w(), p.high_l());
     case AfxSig_v_m_u_b:
         return tell<CMenu*, UINT, BOOL>(wnd, entry, p.menu_w(), p.low_l(), p.high_l() != 0);
+    case AfxSig_v_u_m:
+        return tell(wnd, entry, p.word(), p.menu_l());
+    case AfxSig_v_appcommand: // the command's word also tells which device it comes from
+        return tell<CWnd*, UINT, UINT, UINT>(wnd, entry, p.wnd_w(), p.high_l() & ~UINT{FAPPCOMMAND_MASK},
+                                             p.high_l() & UINT{FAPPCOMMAND_MASK}, p.low_l());
     case AfxSig_v_menuselect:
         return tell(wnd, entry, p.low_w(), p.high_w(), reinterpret_cast<HMENU>(p.l));
     default:
@@ -196,6 +209,10 @@ LRESULT dispatch(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, const parameters& p) 
         return ask<UINT, UINT, LPARAM>(wnd, entry, p.word(), p.l);
     case AfxSig_u_w_u:
         return ask<UINT>(wnd, entry, p.wnd_w(), static_cast<UINT>(p.l));
+    case AfxSig_u_u_m:
+        return ask<UINT>(wnd, entry, p.word(), p.menu_l());
+    case AfxSig_u_p:
+        return ask<UINT>(wnd, entry, p.record());
     case AfxSig_l_P:
         return ask<LRESULT>(wnd, entry, p.point());
     case AfxSig_l_menuchar:

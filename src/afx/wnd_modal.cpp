@@ -23,9 +23,11 @@ void show(HWND hwnd) {
 
 BOOL PASCAL CWnd::WalkPreTranslateTree(HWND hWndStop, MSG* pMsg) {
     for (HWND at = pMsg->hwnd; at != nullptr; at = ::GetParent(at)) {
-        CWnd* wnd = FromHandlePermanent(at);
-        if (wnd != nullptr && wnd->PreTranslateMessage(pMsg))
-            return TRUE;
+        if (CWnd* wnd = FromHandlePermanent(at)) {
+            AFX_MANAGE_STATE(wnd->m_module_state);
+            if (wnd->PreTranslateMessage(pMsg))
+                return TRUE;
+        }
         if (at == hWndStop)
             break;
     }

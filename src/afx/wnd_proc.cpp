@@ -92,6 +92,7 @@ LRESULT answer_exception(const MSG& message) {
 LRESULT AfxCallWndProc(CWnd* wnd, HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
     const MSG current{hwnd, message, wParam, lParam, 0, {0, 0}};
     const message_scope scope(current);
+    AFX_MANAGE_STATE(wnd->m_module_state);
     try {
         return wnd->WindowProc(message, wParam, lParam);
     } catch (...) {
@@ -126,6 +127,7 @@ bool take_over_window(CWnd* wnd, HWND hwnd) {
         wnd->m_pfnSuper = nullptr;
     else if (old != &AfxWndProc) // a window that was detached and comes back keeps what it had
         wnd->m_pfnSuper = old;
+    wnd->m_module_state = AfxGetModuleState();
     return true;
 }
 
