@@ -9,6 +9,21 @@
 #endif
 #define _MFC_VER 0x0E00
 
+// Structures and messages of the controls are those of this platform at least, also where a program names an older one.
+#if defined(_WIN32_WINNT) && _WIN32_WINNT < 0x0600
+#undef _WIN32_WINNT
+#undef NTDDI_VERSION
+#define _WIN32_WINNT 0x0600
+#endif
+#if defined(WINVER) && WINVER < 0x0600
+#undef WINVER
+#define WINVER 0x0600
+#endif
+#if defined(_WIN32_IE) && _WIN32_IE < 0x0600
+#undef _WIN32_IE
+#define _WIN32_IE 0x0600
+#endif
+
 #include <windows.h>
 #include <commctrl.h>
 #include <commdlg.h>

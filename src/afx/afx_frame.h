@@ -150,7 +150,7 @@ protected:
     afx_msg void OnEnable(BOOL bEnable);
     afx_msg void OnDDEInitiate(CWnd* pWnd, UINT nApp, UINT nTopic);
     afx_msg void OnDDEExecute(CWnd* pWnd, HANDLE hCommands);
-    afx_msg void OnDDETerminate(CWnd* pWnd);
+    afx_msg void OnDDETerminate(CWnd* pWnd); // of those who began a conversation
     afx_msg void OnUpdateKeyIndicator(CCmdUI* pCmdUI);
     afx_msg BOOL OnToolTipText(UINT nID, NMHDR* pNMHDR, LRESULT* pResult);
 
@@ -166,6 +166,7 @@ protected:
 private:
     friend class CControlBar;
     friend class CDocument;
+    HWND m_talks_to = nullptr; // by DDE
     friend class CMiniDockFrameWnd;
     CDockBar* DockBarAt(UINT id);
     void DestroyDockBars();

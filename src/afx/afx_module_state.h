@@ -10,6 +10,7 @@ struct AFX_MODULE_STATE {
     CWinApp* m_pCurrentWinApp = nullptr;
     HINSTANCE m_hCurrentInstanceHandle = nullptr;
     HINSTANCE m_hCurrentResourceHandle = nullptr; // null: the module's own
+    bool begun = false;                           // a library's program object
 };
 
 // The program's; the one in force in the calling thread. Setting one answers which was; null is the program's.

@@ -42,6 +42,7 @@ public:
     CDocument* GetDocument() const { return m_pDocument; }
     // Before the view is shown the first time, and whenever its document is another.
     virtual void OnInitialUpdate();
+    virtual BOOL IsSelected(const CObject*) const { return FALSE; }
     virtual BOOL OnScroll(UINT nScrollCode, UINT nPos, BOOL bDoScroll = TRUE);
     virtual BOOL OnScrollBy(CSize sizeScroll, BOOL bDoScroll = TRUE);
     virtual void OnPrepareDC(CDC* pDC, CPrintInfo* pInfo = nullptr);

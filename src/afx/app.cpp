@@ -67,7 +67,9 @@ CWinApp* AFXAPI AfxGetApp() {
 }
 
 CWinThread* AFXAPI AfxGetThread() {
-    return this_thread().thread;
+    CWinThread* thread = this_thread().thread;
+    const AFX_MODULE_STATE* state = AfxGetModuleState();
+    return thread != nullptr || state == AfxGetAppModuleState() ? thread : state->m_pCurrentWinApp;
 }
 
 CWnd* AFXAPI AfxGetMainWnd() {
@@ -84,7 +86,7 @@ CWinApp::CWinApp(LPCTSTR lpszAppName) : m_pszAppName(lpszAppName != nullptr ? ::
     AFX_MODULE_STATE* state = afx_state_of_module(module_of(this)); // the object is static in its module
     state->m_pCurrentWinApp = this;
     m_pModuleState = state;
-    if (state == AfxGetAppModuleState() || this_thread().thread == nullptr)
+    if (state == AfxGetAppModuleState()) // a library may go in another thread than it came
         this_thread().thread = this;
     m_bAutoDelete = FALSE;
     m_nThreadID = ::GetCurrentThreadId();
@@ -236,7 +238,7 @@ int AFXAPI AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmd
     if (!AfxWinInit(hInstance, hPrevInstance, lpCmdLine, nCmdShow) || app == nullptr)
         return -1;
     const int code = live(*app);
-    of_this_thread<ole_state>().end();
+    end_ole();
     return code;
 }
 

@@ -217,6 +217,8 @@ void CEditView::OnPrepareDC(CDC* pDC, CPrintInfo* pInfo) {
 BOOL CEditView::PaginateTo(CDC* pDC, CPrintInfo* pInfo) {
     const auto length = static_cast<UINT>(m_shadow.GetLength());
     const std::size_t page = pInfo->m_nCurPage;
+    if (page == 0 || m_pages.empty())
+        return FALSE;
     while (m_pages.size() < page && m_pages.back() < length) {
         CRect paper(0, 0, pDC->GetDeviceCaps(HORZRES), pDC->GetDeviceCaps(VERTRES));
         pDC->DPtoLP(paper);

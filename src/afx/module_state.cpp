@@ -5,6 +5,7 @@
 
 #include <map>
 #include <mutex>
+#include <utility>
 
 namespace {
 
@@ -61,9 +62,13 @@ BOOL AFXAPI afx_library_main(HINSTANCE module, DWORD reason) {
     AFX_MANAGE_STATE(state);
     static char no_arguments[] = "";
     try {
-        if (reason == DLL_PROCESS_ATTACH && AfxWinInit(module, nullptr, no_arguments, 0) && app->InitInstance())
-            return TRUE;
-        app->ExitInstance();
+        if (reason == DLL_PROCESS_ATTACH) {
+            state->begun = AfxWinInit(module, nullptr, no_arguments, 0);
+            if (state->begun && app->InitInstance())
+                return TRUE;
+        }
+        if (std::exchange(state->begun, false)) // a library that could not begin is told of its end, too
+            app->ExitInstance();
     } catch (CException* exception) {
         exception->Delete();
     } catch (...) { // out of a call of the system's loader: the library is not loaded

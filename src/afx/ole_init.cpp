@@ -2,14 +2,21 @@
 #include "afxdisp.h"
 #include "ole_state.h"
 
-ole_state::~ole_state() {
-    end();
-}
+#include "thread_state.h"
 
-void ole_state::end() {
-    if (begun)
+#include <utility>
+
+namespace {
+
+struct ole_state {
+    bool begun = false;
+};
+
+} // namespace
+
+void end_ole() {
+    if (std::exchange(of_this_thread<ole_state>().begun, false))
         ::OleUninitialize();
-    begun = false;
 }
 
 BOOL AFXAPI AfxOleInit() {

@@ -1,11 +1,5 @@
 // Whether OLE is to be ended in a thread.
 #pragma once
 
-#include "thread_state.h"
-
-struct ole_state {
-    ~ole_state();
-    void end();
-
-    bool begun = false;
-};
+// Not by itself where a thread ends that the framework did not start: the system's loader is at work then.
+void end_ole();

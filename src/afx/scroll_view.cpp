@@ -294,8 +294,8 @@ CSize CScrollView::WheelDistance(short delta) {
     BOOL horizontal = FALSE, vertical = FALSE;
     CheckScrollBars(horizontal, vertical);
     const auto distance = [&](LONG line, LONG page) {
-        return lines == WHEEL_PAGESCROLL ? -delta * page / WHEEL_DELTA
-                                         : -delta * line * static_cast<LONG>(std::min(lines, 100u)) / WHEEL_DELTA;
+        const std::int64_t step = lines == WHEEL_PAGESCROLL ? page : std::int64_t{line} * std::min(lines, 100u);
+        return static_cast<int>(std::clamp<std::int64_t>(-delta * step / WHEEL_DELTA, -INT_MAX, INT_MAX));
     };
     const CSize by(distance(m_lineDev.cx, m_pageDev.cx), distance(m_lineDev.cy, m_pageDev.cy));
     return GetWheelScrollDistance(by, horizontal && !vertical, vertical);

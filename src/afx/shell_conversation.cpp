@@ -13,6 +13,8 @@
 
 namespace {
 
+constexpr SIZE_T longest_command = 32 * 1024;
+
 // False where the text is no command of the shell's.
 bool parse(CString text, CCommandLineInfo& wish) {
     const int open = text.Find('(');
@@ -45,16 +47,32 @@ void show(CWnd& main) {
     main.SetForegroundWindow();
 }
 
+// For as long as this is there, printing asks nobody.
+class print_wish {
+public:
+    print_wish(CWinApp& app, CCommandLineInfo& wish) : m_app(app) { m_app.m_pCmdInfo = &wish; }
+    ~print_wish() { m_app.m_pCmdInfo = nullptr; }
+    print_wish(const print_wish&) = delete;
+    print_wish& operator=(const print_wish&) = delete;
+
+private:
+    CWinApp& m_app;
+};
+
 // A document that was not open is closed again, and a program that only prints ends.
-void print(CWinApp& app, CWnd& main, CCommandLineInfo& wish) {
+void print(CWinApp& app, HWND main, CCommandLineInfo& wish) {
     const int before = app.GetOpenDocumentCount();
-    app.m_pCmdInfo = &wish; // the printing asks nobody
-    CDocument* document = app.OpenDocumentFile(wish.m_strFileName);
-    if (document != nullptr)
-        main.SendMessage(WM_COMMAND, ID_FILE_PRINT_DIRECT);
-    app.m_pCmdInfo = nullptr;
-    if (!main.IsWindowVisible())
-        main.PostMessage(WM_CLOSE);
+    CDocument* document = nullptr;
+    {
+        const print_wish unasked(app, wish);
+        document = app.OpenDocumentFile(wish.m_strFileName);
+        if (document != nullptr)
+            ::SendMessage(main, WM_COMMAND, ID_FILE_PRINT_DIRECT, 0);
+    }
+    if (!::IsWindow(main))
+        return;
+    if (!::IsWindowVisible(main))
+        ::PostMessage(main, WM_CLOSE, 0, 0);
     else if (document != nullptr && app.GetOpenDocumentCount() > before)
         document->OnCloseDocument();
 }
@@ -67,7 +85,7 @@ ATOM atom_like(ATOM atom) {
 
 CString text_in(HGLOBAL memory) {
     const auto* text = static_cast<const char*>(::GlobalLock(memory));
-    const char* end = text != nullptr ? text + ::GlobalSize(memory) : text;
+    const char* end = text != nullptr ? text + std::min(::GlobalSize(memory), longest_command) : text;
     const CString copy(text, static_cast<int>(std::find(text, end, '\0') - text));
     ::GlobalUnlock(memory);
     return copy;
@@ -105,16 +123,17 @@ BOOL CDocManager::OnDDECommand(LPTSTR lpszCommand) {
         app->OpenDocumentFile(wish.m_strFileName);
         app->m_nCmdShow = -1; // what comes next is shown as it is
     } else {
-        print(*app, *main, wish);
+        print(*app, main->m_hWnd, wish);
     }
     return TRUE;
 }
 
 void CFrameWnd::OnDDEInitiate(CWnd* pWnd, UINT nApp, UINT nTopic) {
     const CWinApp* app = AfxGetApp();
-    if (app == nullptr || app->m_pMainWnd != this || app->m_atomApp == 0 || nApp != app->m_atomApp ||
+    if (pWnd == nullptr || app == nullptr || app->m_pMainWnd != this || app->m_atomApp == 0 || nApp != app->m_atomApp ||
         nTopic != app->m_atomSystemTopic)
         return;
+    m_talks_to = pWnd->m_hWnd;
     // The answer's names are the receiver's to delete.
     pWnd->SendMessage(WM_DDE_ACK, reinterpret_cast<WPARAM>(m_hWnd),
                       MAKELPARAM(atom_like(app->m_atomApp), atom_like(app->m_atomSystemTopic)));
@@ -122,6 +141,10 @@ void CFrameWnd::OnDDEInitiate(CWnd* pWnd, UINT nApp, UINT nTopic) {
 
 // Acknowledged before it is executed: the shell does not wait for the user's answers.
 void CFrameWnd::OnDDEExecute(CWnd* pWnd, HANDLE) {
+    if (pWnd == nullptr || pWnd->m_hWnd != m_talks_to) {
+        Default();
+        return;
+    }
     const LPARAM packed = GetCurrentMessage()->lParam;
     UINT_PTR unused = 0, memory = 0;
     ::UnpackDDElParam(WM_DDE_EXECUTE, packed, &unused, &memory);
@@ -138,5 +161,10 @@ void CFrameWnd::OnDDEExecute(CWnd* pWnd, HANDLE) {
 }
 
 void CFrameWnd::OnDDETerminate(CWnd* pWnd) {
+    if (pWnd == nullptr || pWnd->m_hWnd != m_talks_to) {
+        Default();
+        return;
+    }
+    m_talks_to = nullptr;
     pWnd->PostMessage(WM_DDE_TERMINATE, reinterpret_cast<WPARAM>(m_hWnd));
 }

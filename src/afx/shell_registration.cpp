@@ -43,8 +43,10 @@ void register_opening(const CDocTemplate& type, const CString& id, const CString
     const bool several = !type.GetDocString(title, CDocTemplate::windowTitle) || title.IsEmpty();
     const bool told = several && app != nullptr && app->m_atomApp != 0;
     set_value(id + "\\shell\\open\\command", program + (told ? " /dde" : " \"%1\""));
-    if (!told)
+    if (!told) { // nor by what an earlier version registered
+        ::RegDeleteTree(HKEY_CURRENT_USER, classes_key(id + "\\shell\\open\\ddeexec"));
         return;
+    }
     set_value(id + "\\shell\\open\\ddeexec", "[open(\"%1\")]");
     set_value(id + "\\shell\\open\\ddeexec\\application", app->m_pszExeName);
 }

@@ -19,6 +19,7 @@ ON_WM_LBUTTONDBLCLK()
 ON_WM_LBUTTONUP()
 ON_WM_KEYDOWN()
 ON_WM_CANCELMODE()
+ON_WM_CAPTURECHANGED()
 ON_WM_SETCURSOR()
 ON_WM_MOUSEWHEEL()
 ON_WM_HSCROLL()
@@ -40,6 +41,7 @@ BOOL CSplitterWnd::CreateCommon(CWnd* parent, SIZE least, DWORD style, UINT id) 
     m_column_info.assign(static_cast<std::size_t>(m_nMaxCols), {least.cx, least.cx, 0});
     m_pRowInfo = m_row_info.data();
     m_pColInfo = m_column_info.data();
+    m_bTracking = FALSE;
     const DWORD bars = style & (WS_HSCROLL | WS_VSCROLL);
     const LPCTSTR name = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW));
     if (!CreateEx(0, name, nullptr, (style & ~bars) | WS_CLIPCHILDREN, 0, 0, 0, 0, parent->GetSafeHwnd(),
@@ -246,6 +248,9 @@ void CSplitterWnd::DeleteView(int row, int col) {
 
 // The panes behind the row or column take the place of those that go.
 void CSplitterWnd::DeleteRow(int rowDelete) {
+    StopTracking(FALSE);
+    if (rowDelete < 0 || rowDelete >= m_nRows || m_nRows < 2)
+        return;
     for (int column = 0; column < m_nCols; ++column) {
         DeleteView(rowDelete, column);
         for (int row = rowDelete + 1; row < m_nRows; ++row) {
@@ -260,6 +265,9 @@ void CSplitterWnd::DeleteRow(int rowDelete) {
 }
 
 void CSplitterWnd::DeleteColumn(int colDelete) {
+    StopTracking(FALSE);
+    if (colDelete < 0 || colDelete >= m_nCols || m_nCols < 2)
+        return;
     for (int row = 0; row < m_nRows; ++row) {
         DeleteView(row, colDelete);
         for (int column = colDelete + 1; column < m_nCols; ++column) {

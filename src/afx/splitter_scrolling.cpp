@@ -8,40 +8,58 @@ namespace {
 // Each pane begins where the first did, though that has moved the bar that they share.
 class shared_bar {
 public:
-    explicit shared_bar(CScrollBar* bar) : m_bar(bar), m_before(bar != nullptr ? bar->GetScrollPos() : 0) {}
-    void begin() const {
-        if (m_bar != nullptr)
-            m_bar->SetScrollPos(m_before, FALSE);
+    explicit shared_bar(CScrollBar* bar)
+        : m_bar(bar->GetSafeHwnd()), m_before(::GetScrollPos(m_bar, SB_CTL)), m_after(m_before) {}
+    ~shared_bar() { move_to(m_after); } // also past panes that do not scroll
+    shared_bar(const shared_bar&) = delete;
+    shared_bar& operator=(const shared_bar&) = delete;
+    void begin() const { move_to(m_before); }
+    void end() {
+        const int now = ::GetScrollPos(m_bar, SB_CTL);
+        m_after = now != m_before ? now : m_after;
     }
 
 private:
-    CScrollBar* m_bar;
-    int m_before;
+    void move_to(int position) const {
+        if (::GetScrollPos(m_bar, SB_CTL) != position)
+            ::SetScrollPos(m_bar, SB_CTL, position, TRUE);
+    }
+
+    HWND m_bar;
+    int m_before, m_after;
 };
 
 } // namespace
 
 void CSplitterWnd::OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar) {
+    if (pScrollBar == nullptr)
+        return CWnd::OnHScroll(nSBCode, nPos, pScrollBar);
     const int column = static_cast<WORD>(pScrollBar->GetDlgCtrlID()) - static_cast<int>(AFX_IDW_HSCROLL_FIRST);
     if (column < 0 || column >= m_nCols)
         return;
-    const shared_bar bar(pScrollBar);
+    const HWND handle = pScrollBar->m_hWnd;
+    shared_bar bar(pScrollBar);
     for (int row = 0; row < m_nRows; ++row) {
         bar.begin();
         if (CWnd* pane = GetPane(row, column))
-            pane->SendMessage(WM_HSCROLL, MAKELONG(nSBCode, nPos), reinterpret_cast<LPARAM>(pScrollBar->m_hWnd));
+            pane->SendMessage(WM_HSCROLL, MAKELONG(nSBCode, nPos), reinterpret_cast<LPARAM>(handle));
+        bar.end();
     }
 }
 
 void CSplitterWnd::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar) {
+    if (pScrollBar == nullptr)
+        return CWnd::OnVScroll(nSBCode, nPos, pScrollBar);
     const int row = static_cast<WORD>(pScrollBar->GetDlgCtrlID()) - static_cast<int>(AFX_IDW_VSCROLL_FIRST);
     if (row < 0 || row >= m_nRows)
         return;
-    const shared_bar bar(pScrollBar);
+    const HWND handle = pScrollBar->m_hWnd;
+    shared_bar bar(pScrollBar);
     for (int column = 0; column < m_nCols; ++column) {
         bar.begin();
         if (CWnd* pane = GetPane(row, column))
-            pane->SendMessage(WM_VSCROLL, MAKELONG(nSBCode, nPos), reinterpret_cast<LPARAM>(pScrollBar->m_hWnd));
+            pane->SendMessage(WM_VSCROLL, MAKELONG(nSBCode, nPos), reinterpret_cast<LPARAM>(handle));
+        bar.end();
     }
 }
 
@@ -51,13 +69,14 @@ template <class Scroll> BOOL CSplitterWnd::ScrollWith(CView* view, bool rows, Sc
     if (!IsChildPane(view, &row, &column))
         return FALSE;
     BOOL scrolled = FALSE;
-    const shared_bar bar(view->GetScrollBarCtrl(rows ? SB_VERT : SB_HORZ));
+    shared_bar bar(view->GetScrollBarCtrl(rows ? SB_VERT : SB_HORZ));
     for (int i = 0; i < (rows ? m_nCols : m_nRows); ++i) {
         auto* pane = DYNAMIC_DOWNCAST(CView, rows ? GetPane(row, i) : GetPane(i, column));
         if (pane == nullptr)
             continue;
         bar.begin();
         scrolled = scroll(*pane) || scrolled;
+        bar.end();
     }
     return scrolled;
 }

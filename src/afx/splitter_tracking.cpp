@@ -213,3 +213,8 @@ void CSplitterWnd::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
 void CSplitterWnd::OnCancelMode() {
     StopTracking(FALSE);
 }
+
+void CSplitterWnd::OnCaptureChanged(CWnd* pWnd) {
+    if (pWnd != this)
+        StopTracking(FALSE);
+}

@@ -1,5 +1,6 @@
 // The beginning and the end of threads.
 #include "afx_app.h"
+#include "ole_state.h"
 #include "thread_state.h"
 #include "wnd_state.h"
 
@@ -49,6 +50,7 @@ void end_thread(BOOL remove) {
     CWinThread* thread = this_thread().thread;
     if (thread != nullptr && remove)
         thread->Delete();
+    end_ole();
     end_thread_state();
 }
 
