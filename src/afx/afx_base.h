@@ -49,6 +49,7 @@ template <class A, class B> constexpr std::common_type_t<A, B> max(A a, B b) {
 #define AFXAPI __stdcall
 #define AFX_CDECL __cdecl
 #define afx_msg
+#define AFX_MSG_CALL
 #ifdef __clang__
 #define AFX_PRINTF(text, first) __attribute__((format(printf, text, first)))
 #else
