@@ -16,6 +16,12 @@
 #include <ole2.h>
 #include <tchar.h>
 
+#include <crtdbg.h>
+#include <float.h>
+#include <limits.h>
+#include <malloc.h>
+#include <math.h>
+
 #include <cstdarg>
 #include <cstddef>
 #include <cstdint>
@@ -28,6 +34,12 @@
 // The platform's macros of these names would take members for them.
 #undef GetNextWindow
 #undef GetCurrentTime
+inline HWND GetNextWindow(HWND hWnd, UINT nDirection) {
+    return ::GetWindow(hWnd, nDirection);
+}
+inline DWORD GetCurrentTime() {
+    return ::GetTickCount();
+}
 
 // The platform's headers have these for C only, as macros, which would break the standard's. NOMINMAX tells nothing of
 // the program: the standard library's headers define it.

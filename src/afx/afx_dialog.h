@@ -55,6 +55,7 @@ protected:
     // Before OnInitDialog.
     virtual void PreInitDialog();
 
+    afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
     afx_msg LRESULT OnCommandHelp(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnHelpHitTest(WPARAM wParam, LPARAM lParam);
 
@@ -72,3 +73,6 @@ private:
     virtual void RefuseToOpen();
     BOOL CreateFrom(LPCDLGTEMPLATE form, HINSTANCE module, HWND owner);
 };
+
+// Its name in the first versions.
+#define CModalDialog CDialog

@@ -16,15 +16,16 @@ template <class Method> inline AFX_PMSG afx_erased_method(Method method) {
 
 // Whether a handler fits though it is not declared as documented: programs that began on 32 bits have integers of other
 // names there, and a result where none is asked for. The platform passes them in the same registers.
+template <class Type> constexpr std::size_t afx_width = 0;
+template <class Type>
+requires std::is_integral_v<Type>
+constexpr std::size_t afx_width<Type> = sizeof(Type);
 template <class Given, class Named>
 constexpr bool afx_same_or_narrower = std::is_same_v<Given, Named> ||
-                                      (std::is_integral_v<Given> && std::is_integral_v<Named> &&
-                                       sizeof(Given) >= sizeof(WORD) && sizeof(Given) <= sizeof(Named));
+                                      (afx_width<Given> >= sizeof(WORD) && afx_width<Given> <= afx_width<Named>);
 template <class Given, class Named>
-constexpr bool afx_result_serves = std::is_same_v<Given, Named> ||
-                                   (std::is_void_v<Named> && std::is_integral_v<Given> && sizeof(Given) >= 4) ||
-                                   (std::is_same_v<Named, LRESULT> && std::is_integral_v<Given> &&
-                                    std::is_signed_v<Given> && sizeof(Given) == 4);
+constexpr bool afx_result_serves = std::is_same_v<Given, Named> || (std::is_void_v<Named> && afx_width<Given> >= 4) ||
+                                   (std::is_same_v<Named, LRESULT> && std::is_signed_v<Given> && afx_width<Given> == 4);
 template <class Given, class Named> constexpr bool afx_older_form = false;
 template <class R, class... A, class Result, class... Arguments>
 requires(sizeof...(A) == sizeof...(Arguments)) constexpr bool afx_older_form<R(A...), Result(Arguments...)> =
