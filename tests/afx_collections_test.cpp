@@ -10,6 +10,29 @@
 
 namespace {
 
+struct counted {
+    int calls;
+};
+void AFXAPI SerializeElements(CArchive&, counted* at, int count) { // the form of 32 bits
+    at->calls += count;
+}
+
+TEST(AfxArray, SerialisesByTheProgramsFormAndHoldsWhatIsNeverCopied) {
+    CMemFile file;
+    CArchive ar(&file, CArchive::store);
+    CArray<counted> seen;
+    seen.SetSize(2);
+    seen.Serialize(ar);
+    EXPECT_EQ(seen[0].calls, 2);
+    CArray<CStringArray, CStringArray&> rows;
+    rows.SetSize(2);
+    rows[1].Add("x");
+    rows.SetSize(9);
+    rows.RemoveAt(0);
+    EXPECT_STREQ(rows[0][0], "x");
+    EXPECT_TRUE(raises<CNotSupportedException>([&] { rows.Serialize(ar); }));
+}
+
 TEST(AfxArray, DoesAsAVectorDoes) {
     CArray<int, int> array;
     CDWordArray words;

@@ -56,7 +56,11 @@ protected:
     void OnSessionChange(UINT state, UINT id) { note("session", state, id); }
     UINT OnMenuDrag(UINT at, CMenu* menu) { return note("drag", at, menu == nullptr), MND_ENDMENU; }
     LRESULT OnOwn(WPARAM w, LPARAM l) { return note("own", w, l), 42; }
-    LRESULT OnRegistered(WPARAM w, LPARAM) { return note("registered", w), 43; }
+    LONG OnRegistered(UINT w, LONG l) {
+        return note("registered", w, l), -43;
+    } // this and the next as older programs do
+    UINT OnNcHitTest(CPoint at) { return note("hit", at.x), static_cast<UINT>(HTTRANSPARENT); }
+    void OnSilent(WPARAM w) { note("silent", w), ::SetLastError(7); }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -93,6 +97,8 @@ ON_MESSAGE(WM_USER + 3, &unpacker::OnOwn)
 ON_MESSAGE(WM_USER + 3, OnOwn) // the older way to name a handler, which not every compiler takes
 #endif
 ON_REGISTERED_MESSAGE(registered, &unpacker::OnRegistered)
+ON_WM_NCHITTEST()
+ON_MESSAGE(WM_USER + 4, &unpacker::OnSilent)
 END_MESSAGE_MAP()
 
 TEST(AfxMessageMap, HandlersSeeTheParametersOfTheirMessages) {
@@ -134,7 +140,9 @@ TEST(AfxMessageMap, HandlersSeeTheParametersOfTheirMessages) {
         {WM_WTSSESSION_CHANGE, WTS_SESSION_LOCK, 0x12345, "session 7 74565", 0},
         {WM_MENUDRAG, 3, 0, "drag 3 1", MND_ENDMENU},
         {WM_USER + 3, 5, -6, "own 5 -6", 42},
-        {registered, 8, 0, "registered 8", 43},
+        {registered, 8, -9, "registered 8 -9", -43},
+        {WM_NCHITTEST, 0, point, "hit -3", HTTRANSPARENT},
+        {WM_USER + 4, 6, 0, "silent 6", 0},
     };
     for (const auto& one : cases) {
         wnd.log.clear();
@@ -166,7 +174,7 @@ protected:
     }
     BOOL OnNotifyMaybe(UINT id, NMHDR*, LRESULT* result) { return *result = 9, log.push_back(text("n", id)), handled; }
     void OnNotifyRange(UINT id, NMHDR*, LRESULT*) { log.push_back(text("nr", id)); }
-    void OnNotified(NMHDR* header, LRESULT* result) { log.push_back(text("n", header->code)), *result = 42; }
+    void OnNotified(NMLISTVIEW* list, LRESULT* result) { log.push_back(text("n", list->hdr.code)), *result = 42; }
     void OnControl(UINT id) { log.push_back(text("control", id)); }
     DECLARE_MESSAGE_MAP()
 };

@@ -60,6 +60,13 @@ TEST_F(ColouredDialog, ShowsItsColourBehindTexts) {
     EXPECT_EQ(at(2, 2), usual);
 }
 
+TEST_F(ColouredDialog, TakesTheProgramsColourWhereItHasNone) {
+    the_app.SetDialogBkColor(green, blue);
+    dialog_.RedrawWindow();
+    EXPECT_TRUE(at(2, 2) == green && at(12, 12) == green);
+    the_app.SetDialogBkColor(::GetSysColor(COLOR_BTNFACE), ::GetSysColor(COLOR_BTNTEXT));
+}
+
 TEST_F(ColouredDialog, ShowsItsImageBehindTexts) {
     const HBITMAP image = columns();
     dialog_.SetBackgroundImage(image, CDialogEx::BACKGR_TILE, FALSE);

@@ -50,6 +50,17 @@ INT_PTR run(CPropertySheet& sheet, const std::vector<std::function<void()>>& ste
     return result;
 }
 
+// Changes the last page's record before its window is made.
+class titled_sheet : public CPropertySheet {
+public:
+    using CPropertySheet::CPropertySheet;
+    void BuildPropPageArray() override {
+        CPropertySheet::BuildPropPageArray();
+        auto& last = const_cast<PROPSHEETPAGE&>(m_psh.ppsp[m_pages.GetUpperBound()]);
+        last.dwFlags |= PSP_USETITLE, last.pszTitle = "Changed";
+    }
+};
+
 class AfxSheet : public testing::Test {
 protected:
     AfxSheet() {
@@ -61,11 +72,14 @@ protected:
 
     std::string log;
     marked_page first{"1", log}, second{"2", log};
-    CPropertySheet sheet{"Sheet"};
+    titled_sheet sheet{"Sheet"};
 };
 
 TEST_F(AfxSheet, OkTakesThePagesDataOver) {
+    char title[20] = "";
     const auto mark_both = [&] {
+        TCITEM item{TCIF_TEXT, 0, 0, title, 20, 0, 0};
+        EXPECT_TRUE(sheet.GetTabControl()->GetItem(1, &item) && std::string("Changed") == title);
         first.CheckDlgButton(IDC_MARK, TRUE);
         show(1);
         second.CheckDlgButton(IDC_MARK, TRUE);

@@ -22,6 +22,7 @@ public:
     }
     BOOL ProcessMessageFilter(int code, LPMSG) override { return code == filtered; }
     using CWinApp::EnableShellOpen;
+    using CWinApp::SetDialogBkColor;
     void WinHelp(DWORD_PTR topic, UINT command) override { helped.push_back(topic << 8 | command); }
     // The registry's key, or null for a file.
     void use_settings(const char* key) {

@@ -50,6 +50,10 @@ TEST(AfxStringEdges, NoTextIsAnEmptyOne) {
     EXPECT_TRUE(text.IsEmpty());
     EXPECT_FALSE(text.LoadString(0xFFF0u) || text.GetEnvironmentVariable("NO SUCH VARIABLE"));
     EXPECT_EQ(CString('x', -3).GetLength(), 0);
+    char printed[20];
+    const CString letter = 'x';
+    EXPECT_EQ(sprintf(printed, "%s%d%s", letter, 5, letter + "y") + sprintf_s(printed, "%s%s", "z", letter), 6);
+    EXPECT_STREQ(printed, "zx");
     CString* nobody = new CString("old");
     *nobody = nobody->GetString() + 1; // a part of itself
     EXPECT_STREQ(*nobody, "ld");

@@ -1,6 +1,8 @@
 // What the user may enter: numbers at the ends of their types, dates and lengths at their limits.
 #include "afx_data_dialog.h"
 
+#include <atlcomtime.h>
+
 #include <limits>
 
 namespace {
@@ -127,6 +129,23 @@ TEST_F(AfxEntry, DatesStayBetweenTheirBounds) {
     EXPECT_FALSE(calendar.SetCurSel(first - CTimeSpan(3, 0, 0, 0)));
     EXPECT_TRUE(calendar.SetCurSel(CTime(2031, 1, 2, 0, 0, 0)) && calendar.GetCurSel(shown));
     EXPECT_EQ(shown.GetYear(), 2031);
+}
+
+TEST_F(AfxEntry, DatesOfAutomationAreExchangedToo) {
+    COleDateTime day(2020, 3, 1, 5, 6, 7), month(2021, 5, 1, 9, 0, 0), typed(2019, 8, 7, 6, 5, 4), none;
+    const COleDateTime first(2020, 2, 29, 0, 0, 0), was[] = {day, typed};
+    const auto all = [&](CDataExchange* data) {
+        DDX_DateTimeCtrl(data, IDC_DAY, day);
+        DDV_MinMaxDateTime(data, day, &first, nullptr);
+        DDX_MonthCalCtrl(data, IDC_MONTH, month);
+        DDX_Text(data, IDC_COUNT, typed);
+    };
+    EXPECT_TRUE(exchange(FALSE, all));
+    day = month = typed = none;
+    EXPECT_TRUE(exchange(TRUE, all) && day == was[0] && typed == was[1]);
+    EXPECT_TRUE(month == COleDateTime(2021, 5, 1, 0, 0, 0));
+    dialog.SetDlgItemText(IDC_COUNT, "no day");
+    EXPECT_FALSE(exchange(TRUE, all));
 }
 
 TEST_F(AfxEntry, LengthsAreLimitedInEditsAndInCombos) {

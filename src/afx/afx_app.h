@@ -17,6 +17,9 @@ class CAtlTransactionManager;
 #define _AFX_MRU_COUNT 4
 #define _AFX_MRU_MAX_COUNT 16
 
+// For m_dwRestartManagerSupportFlags: the system starts the program again after it failed. Documents are not kept.
+#define AFX_RESTART_MANAGER_SUPPORT_RESTART 0x01
+
 // The one object of a program that stands for the program itself.
 class ZOPAFX_API CWinApp : public CWinThread {
     DECLARE_DYNAMIC(CWinApp)
@@ -38,6 +41,7 @@ public:
     int m_nCmdShow = SW_SHOWNORMAL;
     CDocManager* m_pDocManager = nullptr;
     CCommandLineInfo* m_pCmdInfo = nullptr;
+    DWORD m_dwRestartManagerSupportFlags = 0; // what InitInstance asks the system for
 
     virtual BOOL InitApplication();
     BOOL InitInstance() override;
@@ -65,6 +69,10 @@ public:
     // Controls look as the system has them draw themselves: without effect since there is nothing else.
     BOOL Enable3dControls() { return TRUE; }
     BOOL Enable3dControlsStatic() { return TRUE; }
+
+    // The taskbar's pictures of document windows in tabs: no frame has such. FALSE when there is a main window already.
+    BOOL EnableTaskbarInteraction(BOOL bEnable = TRUE);
+    virtual BOOL IsTaskbarInteractionEnabled() { return m_taskbar; }
 
     // Dialogs of objects that are active inside the frame: there are none.
     void EnableModeless(BOOL) {}
@@ -127,6 +135,10 @@ public:
     afx_msg void OnContextHelp();
 
 protected:
+    // The name under which the taskbar keeps the program's windows together.
+    void SetAppID(LPCTSTR lpcszAppID);
+    // Of dialogs and what has no ground of its own in them; boxes of the system keep theirs.
+    void SetDialogBkColor(COLORREF clrCtlBk = RGB(192, 192, 192), COLORREF clrCtlText = RGB(0, 0, 0));
     void SetRegistryKey(LPCTSTR lpszRegistryKey);
     void SetRegistryKey(UINT nIDRegistryKey);
     // Reads the recent files; 0 keeps none.
@@ -143,10 +155,15 @@ protected:
     HGLOBAL m_hDevNames = nullptr;
 
 private:
+    friend class CDialog;
     friend BOOL AFXAPI AfxWinInit(HINSTANCE, HINSTANCE, LPTSTR, int);
     void SetNames();
     void DisableShellOpen();
     void UpdatePrinterSelection(BOOL bForceDefaults);
+
+    BOOL m_taskbar = TRUE;
+    HBRUSH m_dialog_ground = nullptr;
+    COLORREF m_dialog_colors[2]{}; // ground, text
 };
 
 // Null in a program without one.

@@ -31,6 +31,12 @@
 #include <ole2.h>
 #include <tchar.h>
 
+#include <crtdbg.h>
+#include <float.h>
+#include <limits.h>
+#include <malloc.h>
+#include <math.h>
+
 #include <cstdarg>
 #include <cstddef>
 #include <cstdint>
@@ -43,6 +49,12 @@
 // The platform's macros of these names would take members for them.
 #undef GetNextWindow
 #undef GetCurrentTime
+inline HWND GetNextWindow(HWND hWnd, UINT nDirection) {
+    return ::GetWindow(hWnd, nDirection);
+}
+inline DWORD GetCurrentTime() {
+    return ::GetTickCount();
+}
 
 // The platform's headers have these for C only, as macros, which would break the standard's. NOMINMAX tells nothing of
 // the program: the standard library's headers define it.
@@ -64,6 +76,7 @@ template <class A, class B> constexpr std::common_type_t<A, B> max(A a, B b) {
 #define AFXAPI __stdcall
 #define AFX_CDECL __cdecl
 #define afx_msg
+#define AFX_MSG_CALL
 #ifdef __clang__
 #define AFX_PRINTF(text, first) __attribute__((format(printf, text, first)))
 #else

@@ -100,6 +100,9 @@ enum AfxSig : UINT {
     AfxSig_i_listkey_reflect,  // UINT, UINT
 };
 
+// How the result of a window message's handler is read where it is not the documented one.
+enum AfxResult : UINT { AfxResult_named, AfxResult_none, AfxResult_int };
+
 // nSig is a signature, or, for a registered message, where its number is kept.
 struct AFX_MSGMAP_ENTRY {
     UINT nMessage;

@@ -4,17 +4,56 @@
 #include "afx_archive.h"
 
 #include <algorithm>
+#include <climits>
+#include <memory>
 #include <utility>
 #include <vector>
+
+// Where an array keeps an element: in the array itself, or apart from it where the type cannot be copied, which then
+// never is, and assigned only by what is called with an element.
+template <class Item, bool = std::is_copy_constructible_v<Item>> class afx_cell {
+public:
+    afx_cell() = default;
+    explicit afx_cell(const Item& item) : m_value(item) {}
+    Item& value() { return m_value; }
+    const Item& value() const { return m_value; }
+
+private:
+    Item m_value{};
+};
+template <class Item> class afx_cell<Item, false> {
+public:
+    afx_cell() : m_value(std::make_unique<Item>()) {}
+    explicit afx_cell(const Item& item) : afx_cell() { *m_value = item; }
+    afx_cell(const afx_cell& other) : afx_cell(other.value()) {}
+    afx_cell(afx_cell&&) noexcept = default;
+    afx_cell& operator=(const afx_cell& other) { return *this = afx_cell(other); }
+    afx_cell& operator=(afx_cell&&) noexcept = default;
+    Item& value() { return *m_value; }
+    const Item& value() const { return *m_value; }
+
+private:
+    std::unique_ptr<Item> m_value;
+};
 
 // Indices out of range raise CInvalidArgException.
 template <class Item> class afx_items {
 public:
     INT_PTR size() const { return static_cast<INT_PTR>(m_cells.size()); }
-    Item* data() { return m_cells.empty() ? nullptr : &m_cells.front().value; }
-    const Item* data() const { return m_cells.empty() ? nullptr : &m_cells.front().value; }
-    Item& at(INT_PTR index) { return m_cells[checked(index, size())].value; }
-    const Item& at(INT_PTR index) const { return m_cells[checked(index, size())].value; }
+    Item* data() {
+        static_assert(in_a_row, "elements that cannot be copied do not lie in a row");
+        return m_cells.empty() ? nullptr : &m_cells.front().value();
+    }
+    const Item* data() const { return const_cast<afx_items*>(this)->data(); }
+    Item& at(INT_PTR index) { return m_cells[checked(index, size())].value(); }
+    const Item& at(INT_PTR index) const { return m_cells[checked(index, size())].value(); }
+    // Calls with each run of elements that lie in a row, of which an int can tell the length.
+    template <class Call> void each_run(Call call) {
+        for (INT_PTR first = 0, count; first < size(); first += count) {
+            count = in_a_row ? std::min<INT_PTR>(size() - first, INT_MAX) : 1;
+            call(&at(first), static_cast<int>(count));
+        }
+    }
 
     void resize(INT_PTR count, INT_PTR grow_by) {
         require(count >= 0);
@@ -28,16 +67,16 @@ public:
             at(index) = item;
             return;
         }
-        const Item copy(item); // it may lie in this array
+        cell copy(item); // it may lie in this array
         resize(index, -1);
-        m_cells.push_back({copy});
+        m_cells.push_back(std::move(copy));
     }
     void insert(INT_PTR index, const Item& item, INT_PTR count) {
         require(index >= 0 && count > 0);
-        const Item copy(item);
+        const cell copy(item);
         if (index > size())
             resize(index, -1);
-        m_cells.insert(m_cells.begin() + index, static_cast<std::size_t>(count), cell{copy});
+        m_cells.insert(m_cells.begin() + index, static_cast<std::size_t>(count), copy);
     }
     void insert(INT_PTR index, const afx_items& items) {
         require(index >= 0);
@@ -54,9 +93,10 @@ public:
     void shrink() { m_cells.shrink_to_fit(); }
 
 private:
-    struct cell { // of the standard's vectors, the one of bool has no elements
-        Item value{};
+    struct cell : afx_cell<Item> { // a class of its own: an array may be a member of its elements
+        using afx_cell<Item>::afx_cell;
     };
+    static constexpr bool in_a_row = std::is_copy_constructible_v<Item>;
     static void require(bool condition) {
         if (!condition)
             AfxThrowInvalidArgException();
@@ -94,7 +134,9 @@ public:
     // Before the place; null stands for the end.
     POSITION insert(POSITION position, const Item& item) {
         node* after = reinterpret_cast<node*>(position);
-        node* made = new node{item, after != nullptr ? after->before : m_last, after};
+        node* made = new_node(item);
+        made->before = after != nullptr ? after->before : m_last;
+        made->after = after;
         (made->before != nullptr ? made->before->after : m_first) = made;
         (after != nullptr ? after->before : m_last) = made;
         ++m_count;
@@ -111,13 +153,16 @@ public:
         for (INT_PTR i = items.size(); i > 0; --i)
             insert(head(), items.before(at));
     }
-    Item remove(POSITION position) {
+    void erase(POSITION position) {
         node* gone = link(position);
         (gone->before != nullptr ? gone->before->after : m_first) = gone->after;
         (gone->after != nullptr ? gone->after->before : m_last) = gone->before;
         --m_count;
-        Item value = std::move(gone->value);
         delete gone;
+    }
+    Item remove(POSITION position) {
+        Item value = std::move(at(position));
+        erase(position);
         return value;
     }
     void clear() {
@@ -143,9 +188,16 @@ public:
 
 private:
     struct node {
-        Item value;
-        node *before, *after;
+        Item value{};
+        node *before = nullptr, *after = nullptr;
     };
+    static node* new_node(const Item& item) {
+        if constexpr (std::is_copy_constructible_v<Item>)
+            return new node{item};
+        auto made = std::make_unique<node>();
+        made->value = item;
+        return made.release();
+    }
     static POSITION place(node* at) { return reinterpret_cast<POSITION>(at); }
     static node* link(POSITION position) {
         if (position == nullptr)

@@ -4,6 +4,10 @@
 #include "afx_wnd.h"
 #include "atltime.h"
 
+namespace ATL {
+class COleDateTime;
+}
+
 // What DoDataExchange is given; it throws CUserException to end the exchange.
 class ZOPAFX_API CDataExchange {
 public:
@@ -35,6 +39,7 @@ ZOPAFX_API void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, CString& value);
 ZOPAFX_API void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, LPTSTR value, int nMaxLen);
 ZOPAFX_API void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, float& value);
 ZOPAFX_API void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, double& value);
+ZOPAFX_API void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, ATL::COleDateTime& value);
 ZOPAFX_API void AFXAPI DDX_Check(CDataExchange* pDX, int nIDC, int& value);
 // The id of a group's first button; the value counts the group's radio buttons, -1 where none is chosen.
 ZOPAFX_API void AFXAPI DDX_Radio(CDataExchange* pDX, int nIDC, int& value);
@@ -48,8 +53,10 @@ ZOPAFX_API void AFXAPI DDX_Scroll(CDataExchange* pDX, int nIDC, int& value);
 ZOPAFX_API void AFXAPI DDX_Slider(CDataExchange* pDX, int nIDC, int& value);
 ZOPAFX_API void AFXAPI DDX_IPAddress(CDataExchange* pDX, int nIDC, DWORD& value);
 ZOPAFX_API void AFXAPI DDX_DateTimeCtrl(CDataExchange* pDX, int nIDC, CTime& value);
+ZOPAFX_API void AFXAPI DDX_DateTimeCtrl(CDataExchange* pDX, int nIDC, ATL::COleDateTime& value);
 ZOPAFX_API void AFXAPI DDX_DateTimeCtrl(CDataExchange* pDX, int nIDC, CString& value);
 ZOPAFX_API void AFXAPI DDX_MonthCalCtrl(CDataExchange* pDX, int nIDC, CTime& value);
+ZOPAFX_API void AFXAPI DDX_MonthCalCtrl(CDataExchange* pDX, int nIDC, ATL::COleDateTime& value);
 
 // Each right behind its control's DDX function. While values are shown, a length limits what can be entered, the
 // bounds of times and sliders become the control's; a number out of its bounds is shown as it is.
@@ -59,6 +66,7 @@ ZOPAFX_API void AFXAPI DDV_MinMaxShort(CDataExchange* pDX, short value, short mi
 ZOPAFX_API void AFXAPI DDV_MinMaxInt(CDataExchange* pDX, int value, int minVal, int maxVal);
 ZOPAFX_API void AFXAPI DDV_MinMaxLong(CDataExchange* pDX, long value, long minVal, long maxVal);
 ZOPAFX_API void AFXAPI DDV_MinMaxUInt(CDataExchange* pDX, UINT value, UINT minVal, UINT maxVal);
+ZOPAFX_API void AFXAPI DDV_MinMaxUnsigned(CDataExchange* pDX, UINT value, UINT minVal, UINT maxVal);
 ZOPAFX_API void AFXAPI DDV_MinMaxDWord(CDataExchange* pDX, DWORD value, DWORD minVal, DWORD maxVal);
 ZOPAFX_API void AFXAPI DDV_MinMaxLongLong(CDataExchange* pDX, LONGLONG value, LONGLONG minVal, LONGLONG maxVal);
 ZOPAFX_API void AFXAPI DDV_MinMaxULongLong(CDataExchange* pDX, ULONGLONG value, ULONGLONG minVal, ULONGLONG maxVal);
@@ -67,5 +75,9 @@ ZOPAFX_API void AFXAPI DDV_MinMaxDouble(CDataExchange* pDX, const double& value,
 ZOPAFX_API void AFXAPI DDV_MinMaxSlider(CDataExchange* pDX, DWORD value, DWORD minVal, DWORD maxVal);
 ZOPAFX_API void AFXAPI DDV_MinMaxDateTime(CDataExchange* pDX, CTime& refValue, const CTime* pMinRange,
                                           const CTime* pMaxRange);
+ZOPAFX_API void AFXAPI DDV_MinMaxDateTime(CDataExchange* pDX, ATL::COleDateTime& refValue,
+                                          const ATL::COleDateTime* pMinRange, const ATL::COleDateTime* pMaxRange);
 ZOPAFX_API void AFXAPI DDV_MinMaxMonth(CDataExchange* pDX, CTime& refValue, const CTime* pMinRange,
                                        const CTime* pMaxRange);
+ZOPAFX_API void AFXAPI DDV_MinMaxMonth(CDataExchange* pDX, ATL::COleDateTime& refValue,
+                                       const ATL::COleDateTime* pMinRange, const ATL::COleDateTime* pMaxRange);

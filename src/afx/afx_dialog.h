@@ -55,6 +55,10 @@ protected:
     // Before OnInitDialog.
     virtual void PreInitDialog();
 
+    afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
+    // For the maps of programs: WM_INITDIALOG and WM_SETFONT lead to OnInitDialog and OnSetFont without them.
+    afx_msg LRESULT HandleInitDialog(WPARAM, LPARAM) { return Default(); }
+    afx_msg LRESULT HandleSetFont(WPARAM, LPARAM) { return Default(); }
     afx_msg LRESULT OnCommandHelp(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnHelpHitTest(WPARAM wParam, LPARAM lParam);
 
@@ -72,3 +76,6 @@ private:
     virtual void RefuseToOpen();
     BOOL CreateFrom(LPCDLGTEMPLATE form, HINSTANCE module, HWND owner);
 };
+
+// Its name in the first versions.
+#define CModalDialog CDialog

@@ -27,6 +27,5 @@ public:
 protected:
     afx_msg LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
 
-private:
-    LPCTSTR m_template = nullptr;
+    LPCTSTR m_lpszTemplateName = nullptr; // while it is created
 };

@@ -3,8 +3,7 @@
 
 #include "afx_cmdtarget.h"
 #include "afx_menu.h"
-
-#include <vector>
+#include "afxcoll.h"
 
 class CDocument;
 class CFrameWnd;
@@ -112,8 +111,9 @@ public:
     virtual void RegisterShellFileTypes(BOOL bCompat);
     void UnregisterShellFileTypes();
 
+protected:
+    CPtrList m_templateList;
+
 private:
     CDocTemplate* ChooseTemplate();
-
-    std::vector<CDocTemplate*> m_templates;
 };

@@ -3,6 +3,7 @@
 
 #include "afx_control_bar.h"
 #include "afx_wnd.h"
+#include "afxcoll.h"
 #include "afxres.h"
 
 #include <vector>
@@ -14,6 +15,7 @@ class CDockState;
 class CControlBarInfo;
 class CMiniDockFrameWnd;
 class CView;
+struct CPrintPreviewState;
 
 // What a window is made for: handed to OnCreateClient, and on to the views.
 struct CCreateContext {
@@ -87,6 +89,9 @@ public:
     // nDockBarID 0: the side that the bar's style names first. lpRect: where on the screen it would be.
     void DockControlBar(CControlBar* pBar, UINT nDockBarID = 0, LPCRECT lpRect = nullptr);
     void DockControlBar(CControlBar* pBar, CDockBar* pDockBar, LPCRECT lpRect = nullptr);
+    void ReDockControlBar(CControlBar* pBar, CDockBar* pDockBar, LPCRECT lpRect = nullptr) {
+        DockControlBar(pBar, pDockBar, lpRect);
+    }
     // In a small frame of its own, whose corner lies at the point of the screen.
     void FloatControlBar(CControlBar* pBar, CPoint point, DWORD dwStyle = CBRS_ALIGN_TOP);
     CMiniDockFrameWnd* CreateFloatingFrame(DWORD dwStyle);
@@ -95,6 +100,10 @@ public:
     void SetDockState(const CDockState& state);
     void LoadBarState(LPCTSTR lpszProfileName);
     void SaveBarState(LPCTSTR lpszProfileName) const;
+
+    void ShowOwnedWindows(BOOL bShow) { ShowOwnedPopups(bShow); }
+    // For programs that have one themselves: the framework has no preview.
+    virtual void OnSetPreviewMode(BOOL bPreview, CPrintPreviewState* pState) {}
 
     BOOL PreTranslateMessage(MSG* pMsg) override;
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
@@ -110,7 +119,8 @@ public:
     afx_msg void OnContextHelp();
     virtual void ExitHelpMode();
 
-    int m_nWindow = -1; // which of the windows of its document it is; -1 the only one
+    CPtrList m_listControlBars; // of all bars, those that dock others too
+    int m_nWindow = -1;         // which of the windows of its document it is; -1 the only one
 
     afx_msg BOOL OnBarCheck(UINT nID);
     afx_msg void OnUpdateControlBarMenu(CCmdUI* pCmdUI);
@@ -162,6 +172,7 @@ protected:
     UINT m_nIDTracking = 0;
     UINT m_nIDLastMessage = 0;
     CRect m_rectBorder;
+    CView* m_pViewActive = nullptr;
 
 private:
     friend class CControlBar;
@@ -183,8 +194,6 @@ private:
     bool IsOnlyFrameOf(CDocument* pDocument) const;
 
     HACCEL m_loaded_keys = nullptr; // what LoadAccelTable made; another table is somebody else's
-    CView* m_pViewActive = nullptr;
-    std::vector<CControlBar*> m_bars;
     CDockBar* m_dock_bars[4] = {};
     UINT m_cModalStack = 0;
     std::vector<HWND> m_disabled; // by BeginModalState

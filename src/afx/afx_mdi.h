@@ -125,7 +125,8 @@ public:
 protected:
     void PrepareFrame(CFrameWnd& frame) override;
 
+    UINT m_nUntitledCount = 0; // of the last title
+
 private:
     std::vector<CDocument*> m_documents;
-    UINT m_untitled = 0;
 };

@@ -39,5 +39,7 @@ ZOPAFX_API void AFXAPI AfxSetResourceHandle(HINSTANCE hInstResource);
 // The module that holds the resource: the current one, the program, then each extension library.
 // Where none does, the current one.
 ZOPAFX_API HINSTANCE AFXAPI AfxFindResourceHandle(LPCTSTR lpszName, LPCTSTR lpszType);
+// A text of the resource chain, cut to the buffer; answers its length there.
+ZOPAFX_API int AFXAPI AfxLoadString(UINT nID, LPTSTR lpszBuf, UINT nMaxBuf = 256);
 // The same search for a string; null where none has it.
 ZOPAFX_API HINSTANCE AFXAPI AfxFindStringResourceHandle(UINT nID);

@@ -5,14 +5,6 @@
 #define WM_CTLCOLOR 0x0019
 #endif
 
-// Older programs take the timer's number as UINT: it is small where it is theirs.
-template <class Target> inline AFX_PMSG afx_timer_method(void (Target::*method)(UINT_PTR)) {
-    return afx_erased_method(static_cast<void (CWnd::*)(UINT_PTR)>(method));
-}
-template <class Target> inline AFX_PMSG afx_timer_method(void (Target::*method)(UINT)) {
-    return afx_erased_method(static_cast<void (CWnd::*)(UINT)>(method));
-}
-
 #define ON_WM_CLOSE() AFX_WM_ENTRY(WM_CLOSE, AfxSig_vv, void, (), OnClose)
 #define ON_WM_DESTROY() AFX_WM_ENTRY(WM_DESTROY, AfxSig_vv, void, (), OnDestroy)
 #define ON_WM_NCDESTROY() AFX_WM_ENTRY(WM_NCDESTROY, AfxSig_vv, void, (), OnNcDestroy)
@@ -42,7 +34,7 @@ template <class Target> inline AFX_PMSG afx_timer_method(void (Target::*method)(
 #define ON_WM_DWMWINDOWMAXIMIZEDCHANGE()                                                                               \
     AFX_WM_ENTRY(WM_DWMWINDOWMAXIMIZEDCHANGE, AfxSig_v_b, void, (BOOL), OnWindowMaximizedChanged)
 #define ON_WM_SHOWWINDOW() AFX_WM_ENTRY(WM_SHOWWINDOW, AfxSig_v_b_u, void, (BOOL, UINT), OnShowWindow)
-#define ON_WM_ACTIVATEAPP() AFX_WM_ENTRY(WM_ACTIVATEAPP, AfxSig_v_b_u, void, (BOOL, DWORD), OnActivateApp)
+#define ON_WM_ACTIVATEAPP() AFX_OLDER_WM_ENTRY(WM_ACTIVATEAPP, AfxSig_v_b_u, void, (BOOL, DWORD), OnActivateApp)
 #define ON_WM_COMPACTING() AFX_WM_ENTRY(WM_COMPACTING, AfxSig_v_u, void, (UINT), OnCompacting)
 #define ON_WM_RENDERFORMAT() AFX_WM_ENTRY(WM_RENDERFORMAT, AfxSig_v_u, void, (UINT), OnRenderFormat)
 #define ON_WM_INPUT_DEVICE_CHANGE()                                                                                    \
@@ -51,7 +43,7 @@ template <class Target> inline AFX_PMSG afx_timer_method(void (Target::*method)(
 #define ON_WM_INPUTLANGCHANGE() AFX_WM_ENTRY(WM_INPUTLANGCHANGE, AfxSig_v_u_u, void, (UINT, UINT), OnInputLangChange)
 #define ON_WM_CHANGEUISTATE() AFX_WM_ENTRY(WM_CHANGEUISTATE, AfxSig_v_words, void, (UINT, UINT), OnChangeUIState)
 #define ON_WM_UPDATEUISTATE() AFX_WM_ENTRY(WM_UPDATEUISTATE, AfxSig_v_words, void, (UINT, UINT), OnUpdateUIState)
-#define ON_WM_SYSCOMMAND() AFX_WM_ENTRY(WM_SYSCOMMAND, AfxSig_v_u_l, void, (UINT, LPARAM), OnSysCommand)
+#define ON_WM_SYSCOMMAND() AFX_OLDER_WM_ENTRY(WM_SYSCOMMAND, AfxSig_v_u_l, void, (UINT, LPARAM), OnSysCommand)
 #define ON_WM_WTSSESSION_CHANGE() AFX_WM_ENTRY(WM_WTSSESSION_CHANGE, AfxSig_v_u_d, void, (UINT, UINT), OnSessionChange)
 #define ON_WM_TCARD() AFX_WM_ENTRY(WM_TCARD, AfxSig_v_u_d, void, (UINT, DWORD), OnTCard)
 #define ON_WM_DWMCOLORIZATIONCOLORCHANGED()                                                                            \
@@ -79,7 +71,7 @@ template <class Target> inline AFX_PMSG afx_timer_method(void (Target::*method)(
 #define ON_WM_MOVE() AFX_WM_ENTRY(WM_MOVE, AfxSig_v_i_i, void, (int, int), OnMove)
 #define ON_WM_SIZE() AFX_WM_ENTRY(WM_SIZE, AfxSig_v_size, void, (UINT, int, int), OnSize)
 #define ON_WM_DISPLAYCHANGE() AFX_WM_ENTRY(WM_DISPLAYCHANGE, AfxSig_v_size, void, (UINT, int, int), OnDisplayChange)
-#define ON_WM_TIMER() {WM_TIMER, 0, 0, 0, AfxSig_v_timer, afx_timer_method(&ThisClass::OnTimer)},
+#define ON_WM_TIMER() AFX_OLDER_WM_ENTRY(WM_TIMER, AfxSig_v_timer, void, (UINT_PTR), OnTimer)
 #define ON_WM_CHAR() AFX_WM_ENTRY(WM_CHAR, AfxSig_v_key, void, (UINT, UINT, UINT), OnChar)
 #define ON_WM_DEADCHAR() AFX_WM_ENTRY(WM_DEADCHAR, AfxSig_v_key, void, (UINT, UINT, UINT), OnDeadChar)
 #define ON_WM_UNICHAR() AFX_WM_ENTRY(WM_UNICHAR, AfxSig_v_key, void, (UINT, UINT, UINT), OnUniChar)
@@ -161,7 +153,7 @@ template <class Target> inline AFX_PMSG afx_timer_method(void (Target::*method)(
 #define ON_WM_NCCREATE() AFX_WM_ENTRY(WM_NCCREATE, AfxSig_b_p, BOOL, (LPCREATESTRUCT), OnNcCreate)
 #define ON_WM_HELPINFO() AFX_WM_ENTRY(WM_HELP, AfxSig_b_p, BOOL, (HELPINFO*), OnHelpInfo)
 #define ON_WM_COPYDATA() AFX_WM_ENTRY(WM_COPYDATA, AfxSig_b_w_p, BOOL, (CWnd*, COPYDATASTRUCT*), OnCopyData)
-#define ON_WM_DEVICECHANGE() AFX_WM_ENTRY(WM_DEVICECHANGE, AfxSig_b_u_l, BOOL, (UINT, DWORD_PTR), OnDeviceChange)
+#define ON_WM_DEVICECHANGE() AFX_OLDER_WM_ENTRY(WM_DEVICECHANGE, AfxSig_b_u_l, BOOL, (UINT, DWORD_PTR), OnDeviceChange)
 #define ON_WM_ERASEBKGND() AFX_WM_ENTRY(WM_ERASEBKGND, AfxSig_b_d, BOOL, (CDC*), OnEraseBkgnd)
 #define ON_WM_SETCURSOR() AFX_WM_ENTRY(WM_SETCURSOR, AfxSig_b_w_u_u, BOOL, (CWnd*, UINT, UINT), OnSetCursor)
 #define ON_WM_MOUSEACTIVATE() AFX_WM_ENTRY(WM_MOUSEACTIVATE, AfxSig_i_w_u_u, int, (CWnd*, UINT, UINT), OnMouseActivate)
@@ -173,12 +165,13 @@ template <class Target> inline AFX_PMSG afx_timer_method(void (Target::*method)(
 #define ON_WM_VKEYTOITEM() AFX_WM_ENTRY(WM_VKEYTOITEM, AfxSig_i_listkey, int, (UINT, CListBox*, UINT), OnVKeyToItem)
 #define ON_WM_GETDLGCODE() AFX_WM_ENTRY(WM_GETDLGCODE, AfxSig_uv, UINT, (), OnGetDlgCode)
 #define ON_WM_QUERYUISTATE() AFX_WM_ENTRY(WM_QUERYUISTATE, AfxSig_uv, UINT, (), OnQueryUIState)
-#define ON_WM_POWERBROADCAST() AFX_WM_ENTRY(WM_POWERBROADCAST, AfxSig_u_u_l, UINT, (UINT, LPARAM), OnPowerBroadcast)
+#define ON_WM_POWERBROADCAST()                                                                                         \
+    AFX_OLDER_WM_ENTRY(WM_POWERBROADCAST, AfxSig_u_u_l, UINT, (UINT, LPARAM), OnPowerBroadcast)
 #define ON_WM_NOTIFYFORMAT() AFX_WM_ENTRY(WM_NOTIFYFORMAT, AfxSig_u_w_u, UINT, (CWnd*, UINT), OnNotifyFormat)
 #define ON_WM_MENUDRAG() AFX_WM_ENTRY(WM_MENUDRAG, AfxSig_u_u_m, UINT, (UINT, CMenu*), OnMenuDrag)
 #define ON_WM_MENUGETOBJECT() AFX_WM_ENTRY(WM_MENUGETOBJECT, AfxSig_u_p, UINT, (MENUGETOBJECTINFO*), OnMenuGetObject)
-#define ON_WM_NCHITTEST() AFX_WM_ENTRY(WM_NCHITTEST, AfxSig_l_P, LRESULT, (CPoint), OnNcHitTest)
-#define ON_WM_MENUCHAR() AFX_WM_ENTRY(WM_MENUCHAR, AfxSig_l_menuchar, LRESULT, (UINT, UINT, CMenu*), OnMenuChar)
+#define ON_WM_NCHITTEST() AFX_OLDER_WM_ENTRY(WM_NCHITTEST, AfxSig_l_P, LRESULT, (CPoint), OnNcHitTest)
+#define ON_WM_MENUCHAR() AFX_OLDER_WM_ENTRY(WM_MENUCHAR, AfxSig_l_menuchar, LRESULT, (UINT, UINT, CMenu*), OnMenuChar)
 #define ON_WM_QUERYDRAGICON() AFX_WM_ENTRY(WM_QUERYDRAGICON, AfxSig_hv, HCURSOR, (), OnQueryDragIcon)
 #define ON_WM_CTLCOLOR() AFX_WM_ENTRY(WM_CTLCOLOR, AfxSig_h_ctlcolor, HBRUSH, (CDC*, CWnd*, UINT), OnCtlColor)
 

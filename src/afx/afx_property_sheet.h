@@ -1,6 +1,7 @@
 // Property sheets and their pages; included by afxdlgs.h.
 #pragma once
 
+#include "afxtempl.h"
 #include "afxwin.h"
 
 #include <vector>
@@ -115,8 +116,8 @@ public:
     void AddPage(CPropertyPage* pPage);
     void RemovePage(CPropertyPage* pPage);
     void RemovePage(int nPage);
-    int GetPageCount() const { return static_cast<int>(m_pages.size()); }
-    CPropertyPage* GetPage(int nPage) const { return m_pages.at(static_cast<std::size_t>(nPage)); }
+    int GetPageCount() const { return static_cast<int>(m_pages.GetSize()); }
+    CPropertyPage* GetPage(int nPage) const { return m_pages[nPage]; }
     int GetPageIndex(CPropertyPage* pPage); // -1 where it is not in the sheet
     int GetActiveIndex() const;
     CPropertyPage* GetActivePage() const;
@@ -127,6 +128,7 @@ public:
     void EnableStackedTabs(BOOL bStacked) { m_bStacked = bStacked; }
     void SetTitle(LPCTSTR lpszText, UINT nStyle = 0);
 
+    BOOL IsModeless() const { return m_bModeless; }
     void SetWizardMode() { m_psh.dwFlags |= PSH_WIZARD; }
     BOOL IsWizard() const { return (m_psh.dwFlags & (PSH_WIZARD | PSH_WIZARD97)) != 0; }
     void SetWizardButtons(DWORD dwFlags) { PostMessage(PSM_SETWIZBUTTONS, 0, static_cast<LPARAM>(dwFlags)); }
@@ -146,8 +148,13 @@ public:
     BOOL ContinueModal() override;
 
     PROPSHEETHEADER m_psh;
+    // Makes the pages' records in m_psh, which a program may change then: ppsp null where a template is missing.
+    virtual void BuildPropPageArray();
 
 protected:
+    CTypedPtrArray<CPtrArray, CPropertyPage*> m_pages;
+    BOOL m_bModeless = FALSE;
+
     afx_msg LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
     afx_msg void OnClose();
 
@@ -158,9 +165,8 @@ private:
 
     CString m_caption;
     CWnd* m_parent = nullptr;
-    std::vector<CPropertyPage*> m_pages;
+    std::vector<PROPSHEETPAGE> m_records;
     BOOL m_bStacked = TRUE;
-    bool m_modeless = false;
     DWORD m_style = 0, m_extended_style = 0;
 };
 

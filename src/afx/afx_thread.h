@@ -22,6 +22,9 @@ public:
     AFX_MODULE_STATE* m_pModuleState = AfxGetModuleState(); // in force in what it does
     HANDLE m_hThread = nullptr;
     DWORD m_nThreadID = 0;
+    CWnd* m_pActiveWnd = nullptr; // before the main window where a program sets it
+    LPVOID m_pThreadParams = nullptr;
+    AFX_THREADPROC m_pfnThreadProc = nullptr;
 
     operator HANDLE() const { return this == nullptr ? nullptr : m_hThread; }
     // For an object that AfxBeginThread did not make; TRUE when the thread is there.
@@ -34,7 +37,7 @@ public:
         return ::PostThreadMessage(m_nThreadID, message, wParam, lParam);
     }
 
-    virtual CWnd* GetMainWnd() { return m_pMainWnd; }
+    virtual CWnd* GetMainWnd() { return m_pActiveWnd != nullptr ? m_pActiveWnd : m_pMainWnd; }
     // FALSE ends the thread without a message loop.
     virtual BOOL InitInstance();
     virtual int ExitInstance();
@@ -63,9 +66,6 @@ protected:
 private:
     friend struct thread_start;
     UINT Live();
-
-    AFX_THREADPROC m_pfnThreadProc = nullptr;
-    LPVOID m_pThreadParams = nullptr;
 };
 
 // A worker thread runs the function; a thread of the class, which is dynamically creatable, its InitInstance and Run.

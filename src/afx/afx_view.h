@@ -3,6 +3,7 @@
 
 #include "afx_frame.h"
 
+class CPreviewView;
 class CDocument;
 class CPrintDialog;
 class CSplitterWnd;
@@ -24,6 +25,8 @@ struct ZOPAFX_API CPrintInfo {
     LPVOID m_lpUserData = nullptr;
     CRect m_rectDraw; // the page, in the context's logical units
     int m_nOffsetPage = 0;
+    BOOL m_bDocObject = FALSE; // there are none
+    DWORD m_dwFlags = 0;
 
     void SetMinPage(UINT nMinPage);
     void SetMaxPage(UINT nMaxPage);
@@ -31,6 +34,7 @@ struct ZOPAFX_API CPrintInfo {
     UINT GetMaxPage() const;
     UINT GetFromPage() const;
     UINT GetToPage() const;
+    UINT GetOffsetPage() const { return static_cast<UINT>(m_nOffsetPage); }
 };
 
 // Draws its document by OnDraw, on the screen and on the printer.
@@ -68,6 +72,8 @@ protected:
     virtual void OnBeginPrinting(CDC* pDC, CPrintInfo* pInfo);
     virtual void OnPrint(CDC* pDC, CPrintInfo* pInfo);
     virtual void OnEndPrinting(CDC* pDC, CPrintInfo* pInfo);
+    // For programs that have a preview themselves: the framework has none.
+    virtual void OnEndPrintPreview(CDC* pDC, CPrintInfo* pInfo, POINT point, CPreviewView* pView) {}
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     void PostNcDestroy() override;
 

@@ -280,9 +280,36 @@ public:
     void CloseWindow() { ::CloseWindow(m_hWnd); }
     BOOL OpenIcon() { return ::OpenIcon(m_hWnd); }
     BOOL FlashWindow(BOOL bInvert) { return ::FlashWindow(m_hWnd, bInvert); }
+    BOOL FlashWindowEx(DWORD dwFlags, UINT uCount, DWORD dwTimeout = 0) {
+        FLASHWINFO how{sizeof(how), m_hWnd, dwFlags, uCount, dwTimeout};
+        return ::FlashWindowEx(&how);
+    }
+    CWnd* GetAncestor(UINT gaFlags) const { return FromHandle(::GetAncestor(m_hWnd, gaFlags)); }
+    int GetWindowRgn(HRGN hRgn) const { return ::GetWindowRgn(m_hWnd, hRgn); }
+    // The records' sizes are the framework's to set.
+    BOOL GetWindowInfo(PWINDOWINFO pwi) const {
+        pwi->cbSize = sizeof(*pwi);
+        return ::GetWindowInfo(m_hWnd, pwi);
+    }
+    BOOL GetTitleBarInfo(PTITLEBARINFO pti) const {
+        pti->cbSize = sizeof(*pti);
+        return ::GetTitleBarInfo(m_hWnd, pti);
+    }
+    BOOL GetScrollBarInfo(LONG idObject, PSCROLLBARINFO psbi) const {
+        psbi->cbSize = sizeof(*psbi);
+        return ::GetScrollBarInfo(m_hWnd, idObject, psbi);
+    }
     BOOL AnimateWindow(DWORD dwTime, DWORD dwFlags) { return ::AnimateWindow(m_hWnd, dwTime, dwFlags); }
     BOOL SetLayeredWindowAttributes(COLORREF crKey, BYTE bAlpha, DWORD dwFlags) {
         return ::SetLayeredWindowAttributes(m_hWnd, crKey, bAlpha, dwFlags);
+    }
+    BOOL GetLayeredWindowAttributes(COLORREF* pcrKey, BYTE* pbAlpha, DWORD* pdwFlags) const {
+        return ::GetLayeredWindowAttributes(m_hWnd, pcrKey, pbAlpha, pdwFlags);
+    }
+    BOOL UpdateLayeredWindow(CDC* pDCDst, POINT* pptDst, SIZE* psize, CDC* pDCSrc, POINT* pptSrc, COLORREF crKey,
+                             BLENDFUNCTION* pblend, DWORD dwFlags) {
+        return ::UpdateLayeredWindow(m_hWnd, pDCDst->GetSafeHdc(), pptDst, psize, pDCSrc->GetSafeHdc(), pptSrc, crKey,
+                                     pblend, dwFlags);
     }
     // While the user is kept to another window.
     virtual void BeginModalState() { ::EnableWindow(m_hWnd, FALSE); }

@@ -37,7 +37,13 @@ public:
                     int nMaxDispLen = AFX_ABBREV_FILENAME_LEN);
     virtual ~CRecentFileList();
 
-    int GetSize() const { return static_cast<int>(m_names.size()); }
+    CRecentFileList(const CRecentFileList&) = delete;
+    CRecentFileList& operator=(const CRecentFileList&) = delete;
+
+    int m_nSize;
+    CString* m_arrNames;
+
+    int GetSize() const { return m_nSize; }
     CString& operator[](int nIndex) { return m_names.at(static_cast<std::size_t>(nIndex)); }
 
     virtual void Remove(int nIndex);

@@ -17,9 +17,14 @@
 #define WM_DISABLEMODAL 0x036C     // to each window that a modal state would disable; other answers than 0 refuse
 #define WM_POPMESSAGESTRING 0x0375 // like WM_SETMESSAGESTRING, where the message that was set may go
 
-// Where the numbers of help topics begin: of commands, of resources.
+// Where the numbers of help topics begin: of commands, of resources, of message boxes, of parts of a frame, of
+// controls, of what is called by automation.
 #define HID_BASE_COMMAND 0x00010000UL
 #define HID_BASE_RESOURCE 0x00020000UL
+#define HID_BASE_PROMPT 0x00030000UL
+#define HID_BASE_NCAREAS 0x00040000UL
+#define HID_BASE_CONTROL 0x00050000UL
+#define HID_BASE_DISPATCH 0x00060000UL
 
 struct AFX_SIZEPARENTPARAMS {
     HDWP hDWP;      // null: only the rectangle is asked for

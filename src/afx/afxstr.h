@@ -5,6 +5,12 @@
 
 #include <string>
 
+#ifdef _ATL_CSTRING_EXPLICIT_CONSTRUCTORS
+#define AFX_EXPLICIT_STRING explicit
+#else
+#define AFX_EXPLICIT_STRING
+#endif
+
 // Positions and lengths are byte counts. Positions outside the text are clamped; searches step by characters, of which
 // some code pages make two bytes. A null text is an empty one; a resource id in place of the constructor's text
 // (MAKEINTRESOURCE) loads that string.
@@ -21,8 +27,8 @@ public:
     CString(LPCWSTR source);
     CString(LPCSTR source, int length);
     CString(LPCWSTR source, int length);
-    explicit CString(const unsigned char* source) : CString(reinterpret_cast<LPCSTR>(source)) {}
-    explicit CString(char c, int repeat = 1);
+    AFX_EXPLICIT_STRING CString(const unsigned char* source) : CString(reinterpret_cast<LPCSTR>(source)) {}
+    AFX_EXPLICIT_STRING CString(char c, int repeat = 1);
 
     CString& operator=(const CString& source) = default;
     CString& operator=(CString&& source) noexcept = default;
@@ -196,4 +202,27 @@ inline bool operator==(const CString& a, char b) {
 }
 inline bool operator!=(const CString& a, char b) {
     return !(a == b);
+}
+
+// The C library's functions take a string for its text, which their ellipsis would not.
+#define AFX_TAKE_STRINGS(function, parameters, arguments)                                                              \
+    template <class... Values>                                                                                         \
+    requires(std::is_same_v<Values, CString> || ...) inline int function parameters {                                  \
+        return ::function arguments;                                                                                   \
+    }
+AFX_TAKE_STRINGS(printf, (LPCSTR format, Values... values), (format, afx_variadic(values)...))
+AFX_TAKE_STRINGS(fprintf, (FILE * file, LPCSTR format, Values... values), (file, format, afx_variadic(values)...))
+AFX_TAKE_STRINGS(sprintf, (LPSTR text, LPCSTR format, Values... values), (text, format, afx_variadic(values)...))
+AFX_TAKE_STRINGS(wsprintfA, (LPSTR text, LPCSTR format, Values... values), (text, format, afx_variadic(values)...))
+AFX_TAKE_STRINGS(snprintf, (LPSTR text, std::size_t size, LPCSTR format, Values... values),
+                 (text, size, format, afx_variadic(values)...))
+AFX_TAKE_STRINGS(_snprintf, (LPSTR text, std::size_t size, LPCSTR format, Values... values),
+                 (text, size, format, afx_variadic(values)...))
+AFX_TAKE_STRINGS(sprintf_s, (LPSTR text, std::size_t size, LPCSTR format, Values... values),
+                 (text, size, format, afx_variadic(values)...))
+#undef AFX_TAKE_STRINGS
+template <std::size_t size, class... Values>
+requires(std::is_same_v<Values, CString> || ...) inline int sprintf_s(char (&text)[size], LPCSTR format,
+                                                                      Values... values) {
+    return ::sprintf_s(text, size, format, afx_variadic(values)...);
 }

@@ -25,15 +25,26 @@ template <class ARG_KEY> inline UINT AFXAPI HashKey(ARG_KEY key) {
     else
         return afx_hash(static_cast<ULONGLONG>(key));
 }
-// Byte by byte where the type allows it.
+// Byte by byte where the type allows it; other types that are serialised need a form of their own.
 template <class TYPE> inline void AFXAPI SerializeElements(CArchive& ar, TYPE* pElements, INT_PTR nCount) {
-    static_assert(std::is_trivially_copyable_v<TYPE>, "a SerializeElements of the type's own is needed");
-    for (; nCount > 0; ++pElements, --nCount) {
-        if (ar.IsStoring())
-            ar.Write(pElements, sizeof(TYPE));
-        else if (ar.Read(pElements, sizeof(TYPE)) != sizeof(TYPE))
-            AfxThrowArchiveException(CArchiveException::endOfFile);
-    }
+    if constexpr (!std::is_trivially_copyable_v<TYPE>)
+        AfxThrowNotSupportedException();
+    else
+        for (; nCount > 0; ++pElements, --nCount) {
+            if (ar.IsStoring())
+                ar.Write(pElements, sizeof(TYPE));
+            else if (ar.Read(pElements, sizeof(TYPE)) != sizeof(TYPE))
+                AfxThrowArchiveException(CArchiveException::endOfFile);
+        }
+}
+// Programs from 32 bits specialise or overload this one: the collections call it, and it leads to the other.
+template <class TYPE> inline void AFXAPI SerializeElements(CArchive& ar, TYPE* pElements, int nCount) {
+    SerializeElements(ar, pElements, static_cast<INT_PTR>(nCount));
+}
+template <class TYPE, class Count>
+requires(std::is_integral_v<Count> && !std::is_same_v<Count, int> && !std::is_same_v<Count, INT_PTR>) inline void AFXAPI
+    SerializeElements(CArchive& ar, TYPE* pElements, Count nCount) {
+    SerializeElements(ar, pElements, static_cast<INT_PTR>(nCount));
 }
 template <> inline void AFXAPI SerializeElements<CString>(CArchive& ar, CString* pElements, INT_PTR nCount) {
     for (; nCount > 0; ++pElements, --nCount)
@@ -83,14 +94,14 @@ public:
     void Serialize(CArchive& ar) override {
         if (ar.IsStoring()) {
             ar.WriteCount(static_cast<DWORD_PTR>(GetSize()));
-            SerializeElements<TYPE>(ar, GetData(), GetSize());
+            m_items.each_run([&ar](TYPE* first, int count) { SerializeElements(ar, first, count); });
             return;
         }
         RemoveAll();
         // One by one: a count that the file does not hold fails before its memory is asked for.
         for (DWORD_PTR left = ar.ReadCount(); left > 0; --left) {
             m_items.resize(GetSize() + 1, -1);
-            SerializeElements<TYPE>(ar, &ElementAt(GetUpperBound()), 1);
+            SerializeElements(ar, &ElementAt(GetUpperBound()), 1);
         }
     }
 
@@ -127,7 +138,7 @@ public:
     TYPE& GetAt(POSITION position) { return m_items.at(position); }
     const TYPE& GetAt(POSITION position) const { return m_items.at(position); }
     void SetAt(POSITION pos, ARG_TYPE newElement) { m_items.at(pos) = newElement; }
-    void RemoveAt(POSITION position) { m_items.remove(position); }
+    void RemoveAt(POSITION position) { m_items.erase(position); }
     POSITION InsertBefore(POSITION position, ARG_TYPE newElement) {
         return position == nullptr ? AddHead(newElement) : m_items.insert(position, newElement);
     }
@@ -143,12 +154,12 @@ public:
         if (ar.IsStoring()) {
             ar.WriteCount(static_cast<DWORD_PTR>(GetCount()));
             for (POSITION at = GetHeadPosition(); at != nullptr;)
-                SerializeElements<TYPE>(ar, &GetNext(at), 1);
+                SerializeElements(ar, &GetNext(at), 1);
             return;
         }
         for (DWORD_PTR left = ar.ReadCount(); left > 0; --left) {
             TYPE item{};
-            SerializeElements<TYPE>(ar, &item, 1);
+            SerializeElements(ar, &item, 1);
             AddTail(item);
         }
     }
@@ -207,16 +218,16 @@ public:
         if (ar.IsStoring()) {
             ar.WriteCount(static_cast<DWORD_PTR>(GetCount()));
             for (CPair* at = PGetFirstAssoc(); at != nullptr; at = PGetNextAssoc(at)) {
-                SerializeElements<KEY>(ar, const_cast<KEY*>(&at->key), 1);
-                SerializeElements<VALUE>(ar, &at->value, 1);
+                SerializeElements(ar, const_cast<KEY*>(&at->key), 1);
+                SerializeElements(ar, &at->value, 1);
             }
             return;
         }
         for (DWORD_PTR left = ar.ReadCount(); left > 0; --left) {
             KEY key{};
             VALUE value{};
-            SerializeElements<KEY>(ar, &key, 1);
-            SerializeElements<VALUE>(ar, &value, 1);
+            SerializeElements(ar, &key, 1);
+            SerializeElements(ar, &value, 1);
             SetAt(key, value);
         }
     }

@@ -4,6 +4,7 @@
 #include "afxadv.h"
 #include "afxmsg_.h"
 #include "afxres.h"
+#include "atlconv.h"
 #include "module_state.h"
 #include "ole_state.h"
 #include "thread_state.h"
@@ -60,6 +61,12 @@ HWND message_box_owner() {
     return owner != nullptr ? ::GetLastActivePopup(owner) : nullptr;
 }
 
+// A function that older systems do not have; there nothing is done.
+template <class... Arguments> void call_system(PCWSTR library, PCSTR name, Arguments... arguments) {
+    if (const FARPROC found = ::GetProcAddress(::GetModuleHandleW(library), name))
+        reinterpret_cast<HRESULT(WINAPI*)(Arguments...)>(reinterpret_cast<void*>(found))(arguments...);
+}
+
 } // namespace
 
 CWinApp* AFXAPI AfxGetApp() {
@@ -97,6 +104,8 @@ CWinApp::CWinApp(LPCTSTR lpszAppName) : m_pszAppName(lpszAppName != nullptr ? ::
 
 CWinApp::~CWinApp() {
     DisableShellOpen();
+    if (m_dialog_ground != nullptr)
+        ::DeleteObject(m_dialog_ground);
     delete m_pDocManager;
     delete m_pRecentFileList;
     for (HGLOBAL memory : {m_hDevMode, m_hDevNames}) {
@@ -130,7 +139,28 @@ BOOL CWinApp::InitApplication() {
 }
 
 BOOL CWinApp::InitInstance() {
+    if (m_dwRestartManagerSupportFlags & AFX_RESTART_MANAGER_SUPPORT_RESTART)
+        call_system(L"kernel32.dll", "RegisterApplicationRestart", static_cast<PCWSTR>(nullptr), DWORD{0});
     return TRUE;
+}
+
+BOOL CWinApp::EnableTaskbarInteraction(BOOL bEnable) {
+    if (m_pMainWnd != nullptr)
+        return FALSE;
+    m_taskbar = bEnable;
+    return TRUE;
+}
+
+void CWinApp::SetAppID(LPCTSTR lpcszAppID) {
+    call_system(L"shell32.dll", "SetCurrentProcessExplicitAppUserModelID", static_cast<PCWSTR>(CA2W(lpcszAppID)));
+}
+
+void CWinApp::SetDialogBkColor(COLORREF clrCtlBk, COLORREF clrCtlText) {
+    if (m_dialog_ground != nullptr)
+        ::DeleteObject(m_dialog_ground);
+    m_dialog_ground = ::CreateSolidBrush(clrCtlBk);
+    m_dialog_colors[0] = clrCtlBk;
+    m_dialog_colors[1] = clrCtlText;
 }
 
 int CWinApp::ExitInstance() {

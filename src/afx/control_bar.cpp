@@ -53,7 +53,7 @@ int CControlBar::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     CWnd* parent = GetParent();
     if (CFrameWnd* frame = parent->IsFrameWnd() ? static_cast<CFrameWnd*>(parent) : parent->GetParentFrame()) {
         m_pDockSite = frame;
-        frame->m_bars.push_back(this);
+        frame->m_listControlBars.AddTail(this);
     }
     return 0;
 }
@@ -63,8 +63,10 @@ void CControlBar::OnDestroy() {
     if (m_pDockBar != nullptr)
         m_pDockBar->Remove(this);
     m_pDockBar = nullptr;
-    if (m_pDockSite != nullptr)
-        std::erase(m_pDockSite->m_bars, this);
+    if (m_pDockSite != nullptr) {
+        if (POSITION at = m_pDockSite->m_listControlBars.Find(this))
+            m_pDockSite->m_listControlBars.RemoveAt(at);
+    }
     m_pDockSite = nullptr;
     CWnd::OnDestroy();
 }

@@ -2,6 +2,7 @@
 #include "afx_app.h"
 #include "afx_data_exchange.h"
 #include "afxres.h"
+#include "atlcomtime.h"
 
 #include <cfloat>
 
@@ -32,7 +33,8 @@ HWND last_control(CDataExchange* pDX) {
     return ::GetDlgItem(pDX->m_pDlgWnd->GetSafeHwnd(), pDX->m_idLastControl);
 }
 
-void check_time(CDataExchange* pDX, const CTime& value, const CTime* least, const CTime* most, UINT set_range) {
+template <class Time>
+void check_time(CDataExchange* pDX, const Time& value, const Time* least, const Time* most, UINT set_range) {
     if (pDX->m_bSaveAndValidate) {
         if ((least != nullptr && value < *least) || (most != nullptr && value > *most))
             refuse(pDX, AFX_IDP_PARSE_DATETIME, CString());
@@ -72,6 +74,7 @@ CHECK_OF_NUMBER(Short, short)
 CHECK_OF_NUMBER(Int, int)
 CHECK_OF_NUMBER(Long, long)
 CHECK_OF_NUMBER(UInt, UINT)
+CHECK_OF_NUMBER(Unsigned, UINT)
 CHECK_OF_NUMBER(DWord, DWORD)
 CHECK_OF_NUMBER(LongLong, LONGLONG)
 CHECK_OF_NUMBER(ULongLong, ULONGLONG)
@@ -100,5 +103,15 @@ void AFXAPI DDV_MinMaxDateTime(CDataExchange* pDX, CTime& refValue, const CTime*
 }
 
 void AFXAPI DDV_MinMaxMonth(CDataExchange* pDX, CTime& refValue, const CTime* pMinRange, const CTime* pMaxRange) {
+    check_time(pDX, refValue, pMinRange, pMaxRange, MCM_SETRANGE);
+}
+
+void AFXAPI DDV_MinMaxDateTime(CDataExchange* pDX, COleDateTime& refValue, const COleDateTime* pMinRange,
+                               const COleDateTime* pMaxRange) {
+    check_time(pDX, refValue, pMinRange, pMaxRange, DTM_SETRANGE);
+}
+
+void AFXAPI DDV_MinMaxMonth(CDataExchange* pDX, COleDateTime& refValue, const COleDateTime* pMinRange,
+                            const COleDateTime* pMaxRange) {
     check_time(pDX, refValue, pMinRange, pMaxRange, MCM_SETRANGE);
 }

@@ -1,6 +1,7 @@
 // The states of buttons, lists, scroll bars and common controls.
 #include "afx_app.h"
 #include "afx_data_exchange.h"
+#include "afxdtctl.h"
 
 namespace {
 
@@ -191,5 +192,29 @@ void AFXAPI DDX_MonthCalCtrl(CDataExchange* pDX, int nIDC, CTime& value) {
         value = CTime(fields);
     } else if (value.GetAsSystemTime(fields)) {
         ::SendMessage(control, MCM_SETCURSEL, 0, reinterpret_cast<LPARAM>(&fields));
+    }
+}
+
+void AFXAPI DDX_DateTimeCtrl(CDataExchange* pDX, int nIDC, COleDateTime& value) {
+    const HWND control = pDX->PrepareCtrl(nIDC);
+    if (pDX->m_bSaveAndValidate) {
+        SYSTEMTIME fields{};
+        const LRESULT found = ::SendMessage(control, DTM_GETSYSTEMTIME, 0, reinterpret_cast<LPARAM>(&fields));
+        afx_date_range::give_day(value, fields, found == GDT_VALID);
+    } else {
+        const afx_date_range day(&value, nullptr);
+        ::SendMessage(control, DTM_SETSYSTEMTIME, day.flags != 0 ? GDT_VALID : GDT_NONE,
+                      reinterpret_cast<LPARAM>(day.ends));
+    }
+}
+
+void AFXAPI DDX_MonthCalCtrl(CDataExchange* pDX, int nIDC, COleDateTime& value) {
+    const HWND control = pDX->PrepareCtrl(nIDC);
+    afx_date_range day(&value, nullptr);
+    if (pDX->m_bSaveAndValidate) {
+        ::SendMessage(control, MCM_GETCURSEL, 0, reinterpret_cast<LPARAM>(day.ends));
+        value.SetDate(day.ends[0].wYear, day.ends[0].wMonth, day.ends[0].wDay);
+    } else if (day.flags != 0) {
+        ::SendMessage(control, MCM_SETCURSEL, 0, reinterpret_cast<LPARAM>(day.ends));
     }
 }

@@ -2,6 +2,7 @@
 #include "afx_app.h"
 #include "afx_data_exchange.h"
 #include "afxres.h"
+#include "atlcomtime.h"
 
 #include <cerrno>
 #include <cfloat>
@@ -146,4 +147,14 @@ void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, float& value) {
 
 void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, double& value) {
     exchange_real(pDX, nIDC, value, DBL_DIG);
+}
+
+void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, COleDateTime& value) {
+    const HWND control = pDX->PrepareEditCtrl(nIDC);
+    if (!pDX->m_bSaveAndValidate)
+        show(control, value.Format());
+    else if (COleDateTime entered; entered.ParseDateTime(text_of(control)))
+        value = entered;
+    else
+        refuse(pDX, AFX_IDP_PARSE_DATETIME);
 }

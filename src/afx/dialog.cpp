@@ -13,6 +13,7 @@ ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
 ON_MESSAGE(WM_COMMANDHELP, &CDialog::OnCommandHelp)
 ON_MESSAGE(WM_HELPHITTEST, &CDialog::OnHelpHitTest)
 ON_WM_HELPINFO()
+ON_WM_CTLCOLOR()
 END_MESSAGE_MAP()
 
 CDialog::CDialog(LPCTSTR lpszTemplateName, CWnd* pParentWnd)
@@ -187,4 +188,17 @@ BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pH
         return TRUE;
     CWinApp* app = AfxGetApp();
     return app != nullptr && app->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+}
+
+HBRUSH CDialog::OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor) {
+    const CWinApp* app = AfxGetApp();
+    const bool bare = nCtlColor == CTLCOLOR_DLG || nCtlColor == CTLCOLOR_BTN || nCtlColor == CTLCOLOR_STATIC;
+    if (!bare || app == nullptr || app->m_dialog_ground == nullptr)
+        return CWnd::OnCtlColor(pDC, pWnd, nCtlColor);
+    LRESULT own = 0;
+    if (pWnd != nullptr && pWnd->SendChildNotifyLastMsg(&own))
+        return reinterpret_cast<HBRUSH>(own);
+    pDC->SetBkColor(app->m_dialog_colors[0]);
+    pDC->SetTextColor(app->m_dialog_colors[1]);
+    return app->m_dialog_ground;
 }

@@ -15,9 +15,9 @@ CDialogBar::~CDialogBar() {
 
 BOOL CDialogBar::Create(CWnd* pParentWnd, LPCTSTR lpszTemplateName, UINT nStyle, UINT nID) {
     m_dwStyle = nStyle & CBRS_ALL;
-    m_template = lpszTemplateName;
+    m_lpszTemplateName = lpszTemplateName;
     const BOOL created = CreateDlg(lpszTemplateName, pParentWnd);
-    m_template = nullptr;
+    m_lpszTemplateName = nullptr;
     if (!created)
         return FALSE;
     SetDlgCtrlID(static_cast<int>(nID));
@@ -32,7 +32,7 @@ BOOL CDialogBar::Create(CWnd* pParentWnd, LPCTSTR lpszTemplateName, UINT nStyle,
 
 LRESULT CDialogBar::HandleInitDialog(WPARAM, LPARAM) {
     Default();
-    return ExecuteDlgInit(m_template);
+    return ExecuteDlgInit(m_lpszTemplateName);
 }
 
 CSize CDialogBar::CalcFixedLayout(BOOL bStretch, BOOL bHorz) {

@@ -16,25 +16,25 @@ IMPLEMENT_DYNAMIC(CDocManager, CObject)
 CDocManager::CDocManager() = default;
 
 CDocManager::~CDocManager() {
-    for (CDocTemplate* one : m_templates)
+    for (CDocTemplate* one : objects_in<CDocTemplate>(m_templateList))
         delete one;
 }
 
 void CDocManager::AddDocTemplate(CDocTemplate* pTemplate) {
     pTemplate->LoadTemplate();
-    m_templates.push_back(pTemplate);
+    m_templateList.AddTail(pTemplate);
 }
 
 POSITION CDocManager::GetFirstDocTemplatePosition() const {
-    return first_position(m_templates);
+    return m_templateList.GetHeadPosition();
 }
 
 CDocTemplate* CDocManager::GetNextDocTemplate(POSITION& pos) const {
-    return next_at(m_templates, pos);
+    return static_cast<CDocTemplate*>(m_templateList.GetNext(pos));
 }
 
 BOOL CDocManager::SaveAllModified() {
-    for (CDocTemplate* one : m_templates) {
+    for (CDocTemplate* one : objects_in<CDocTemplate>(m_templateList)) {
         if (!one->SaveAllModified())
             return FALSE;
     }
@@ -42,13 +42,13 @@ BOOL CDocManager::SaveAllModified() {
 }
 
 void CDocManager::CloseAllDocuments(BOOL bEndSession) {
-    for (CDocTemplate* one : m_templates)
+    for (CDocTemplate* one : objects_in<CDocTemplate>(m_templateList))
         one->CloseAllDocuments(bEndSession);
 }
 
 int CDocManager::GetOpenDocumentCount() {
     int count = 0;
-    for (CDocTemplate* one : m_templates) {
+    for (CDocTemplate* one : objects_in<CDocTemplate>(m_templateList)) {
         for (POSITION at = one->GetFirstDocPosition(); at != nullptr; ++count)
             one->GetNextDoc(at);
     }
@@ -58,7 +58,7 @@ int CDocManager::GetOpenDocumentCount() {
 CDocTemplate* CDocManager::GetBestTemplate(LPCTSTR lpszFileName) {
     CDocTemplate* best = nullptr;
     auto most = CDocTemplate::noAttempt;
-    for (CDocTemplate* one : m_templates) {
+    for (CDocTemplate* one : objects_in<CDocTemplate>(m_templateList)) {
         CDocument* open = nullptr;
         const auto confidence = one->MatchDocType(lpszFileName, open);
         if (confidence > most) {
@@ -102,14 +102,13 @@ namespace {
 // Which kind of document is to be made; the dialog may be one of the program's own.
 class new_type_dialog : public CDialog {
 public:
-    explicit new_type_dialog(const std::vector<CDocTemplate*>& templates)
-        : CDialog(AFX_IDD_NEWTYPEDLG), m_templates(templates) {}
+    explicit new_type_dialog(const CPtrList& templates) : CDialog(AFX_IDD_NEWTYPEDLG), m_all(templates) {}
     CDocTemplate* chosen() const { return m_chosen; }
 
 protected:
     BOOL OnInitDialog() override {
         CListBox& list = names();
-        for (CDocTemplate* one : m_templates) {
+        for (CDocTemplate* one : objects_in<CDocTemplate>(m_all)) {
             CString name;
             if (!one->GetDocString(name, CDocTemplate::fileNewName) || name.IsEmpty())
                 continue;
@@ -130,7 +129,7 @@ protected:
 private:
     CListBox& names() { return *static_cast<CListBox*>(GetDlgItem(AFX_IDC_LISTBOX)); }
 
-    const std::vector<CDocTemplate*>& m_templates;
+    const CPtrList& m_all;
     CDocTemplate* m_chosen = nullptr;
 };
 
@@ -142,11 +141,11 @@ END_MESSAGE_MAP()
 
 // The only one, or that which the user chooses; null where the user wants none.
 CDocTemplate* CDocManager::ChooseTemplate() {
-    if (m_templates.empty())
+    if (m_templateList.IsEmpty())
         AfxMessageBox(AFX_IDP_FAILED_TO_CREATE_DOC);
-    if (m_templates.size() < 2)
-        return m_templates.empty() ? nullptr : m_templates.front();
-    new_type_dialog dialog(m_templates);
+    if (m_templateList.GetCount() < 2)
+        return m_templateList.IsEmpty() ? nullptr : static_cast<CDocTemplate*>(m_templateList.GetHead());
+    new_type_dialog dialog(m_templateList);
     return dialog.DoModal() == IDOK ? dialog.chosen() : nullptr;
 }
 
@@ -180,7 +179,7 @@ BOOL CDocManager::DoPromptFileName(CString& fileName, UINT nIDSTitle, DWORD lFla
     CString title, filter, extension, all;
     if (pTemplate != nullptr)
         append_filter(filter, *pTemplate, &extension);
-    for (CDocTemplate* one : m_templates) {
+    for (CDocTemplate* one : objects_in<CDocTemplate>(m_templateList)) {
         if (pTemplate == nullptr)
             append_filter(filter, *one, &extension);
     }

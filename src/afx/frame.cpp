@@ -5,6 +5,7 @@
 #include "afxmsg_.h"
 #include "afxpriv.h"
 #include "frame_state.h"
+#include "position_list.h"
 
 #include <utility>
 
@@ -58,7 +59,7 @@ CFrameWnd::CFrameWnd() {
 CFrameWnd::~CFrameWnd() {
     std::erase(frames_of_this_thread().frames, this);
     // A window that is still there goes with the rest of the object: its bars no longer find the frame.
-    for (CControlBar* bar : m_bars)
+    for (CControlBar* bar : objects_in<CControlBar>(m_listControlBars))
         bar->m_pDockSite = nullptr;
     if (m_loaded_keys != nullptr)
         ::DestroyAcceleratorTable(m_loaded_keys);

@@ -6,6 +6,7 @@
 #include "afxpriv.h"
 #include "dock_bar.h"
 #include "frame_state.h"
+#include "position_list.h"
 
 #include <algorithm>
 #include <utility>
@@ -38,7 +39,7 @@ void CFrameWnd::OnIdleUpdateCmdUI() {
         OnUpdateFrameTitle(TRUE);
     if (std::exchange(m_menu_wanted, false))
         OnUpdateFrameMenu(m_hMenuAlt);
-    for (CControlBar* bar : m_bars)
+    for (CControlBar* bar : objects_in<CControlBar>(m_listControlBars))
         m_layout_wanted = m_layout_wanted || bar->m_delayed != CControlBar::show::as_is;
     if (m_layout_wanted)
         RecalcLayout();
@@ -69,7 +70,7 @@ void CFrameWnd::OnSize(UINT nType, int cx, int cy) {
 }
 
 CControlBar* CFrameWnd::GetControlBar(UINT nID) {
-    for (CControlBar* bar : m_bars) {
+    for (CControlBar* bar : objects_in<CControlBar>(m_listControlBars)) {
         if (nID != 0 && static_cast<UINT>(bar->GetDlgCtrlID()) == nID)
             return bar;
     }

@@ -3,6 +3,7 @@
 #include "afxadv.h"
 #include "dock_bar.h"
 #include "mini_dock_frame.h"
+#include "position_list.h"
 
 #include <algorithm>
 #include <utility>
@@ -52,7 +53,7 @@ void CFrameWnd::FloatControlBar(CControlBar* pBar, CPoint point, DWORD dwStyle) 
 }
 
 void CFrameWnd::LayoutFloats() {
-    for (CControlBar* bar : m_bars) {
+    for (CControlBar* bar : objects_in<CControlBar>(m_listControlBars)) {
         if (CMiniDockFrameWnd* frame = float_of(*bar); frame != nullptr && frame != this)
             frame->RecalcLayout();
     }
@@ -60,7 +61,7 @@ void CFrameWnd::LayoutFloats() {
 
 void CFrameWnd::GetDockState(CDockState& state) const {
     state.Clear();
-    for (CControlBar* bar : m_bars) {
+    for (CControlBar* bar : objects_in<CControlBar>(m_listControlBars)) {
         if (bar->IsDockBar())
             continue;
         auto* info = new CControlBarInfo;

@@ -209,7 +209,7 @@ void CMultiDocTemplate::SetDefaultTitle(CDocument* pDocument) {
     CString name, title;
     if (!GetDocString(name, docName) || name.IsEmpty())
         name.LoadString(AFX_IDS_UNTITLED);
-    title.Format("%s%u", name.GetString(), ++m_untitled);
+    title.Format("%s%u", name.GetString(), ++m_nUntitledCount);
     pDocument->SetTitle(title);
 }
 

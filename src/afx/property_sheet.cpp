@@ -84,18 +84,24 @@ int CALLBACK CPropertySheet::SheetCallback(HWND, UINT message, LPARAM lParam) {
     return 0;
 }
 
-BOOL CPropertySheet::CreateSheet(HWND owner) {
-    std::vector<PROPSHEETPAGE> records(m_pages.size());
-    for (std::size_t i = 0; i < records.size(); ++i) {
-        if (!m_pages[i]->Describe(records[i]))
-            return FALSE;
+void CPropertySheet::BuildPropPageArray() {
+    m_records.resize(static_cast<std::size_t>(GetPageCount()));
+    m_psh.nPages = static_cast<UINT>(GetPageCount());
+    m_psh.ppsp = m_records.data();
+    for (int i = 0; i < GetPageCount(); ++i) {
+        if (!GetPage(i)->Describe(m_records[static_cast<std::size_t>(i)]))
+            m_psh.ppsp = nullptr;
     }
-    if (m_psh.nStartPage >= records.size())
+}
+
+BOOL CPropertySheet::CreateSheet(HWND owner) {
+    BuildPropPageArray();
+    if (m_psh.ppsp == nullptr)
+        return FALSE;
+    if (m_psh.nStartPage >= m_psh.nPages)
         m_psh.nStartPage = 0;
     m_psh.hwndParent = owner;
     m_psh.pszCaption = m_caption;
-    m_psh.nPages = static_cast<UINT>(records.size());
-    m_psh.ppsp = records.data();
     CPropertySheet* outer = std::exchange(sheet_in_creation, this);
     AfxHookWindowCreate(this);
     const INT_PTR hwnd = ::PropertySheet(&m_psh);
@@ -111,10 +117,10 @@ BOOL CPropertySheet::CreateSheet(HWND owner) {
 INT_PTR CPropertySheet::DoModal() {
     if (m_hWnd != nullptr)
         return -1;
-    m_modeless = false;
+    m_bModeless = FALSE;
     m_style = m_extended_style = 0;
     modal_parent parent(m_parent);
-    if (m_pages.empty() || !CreateSheet(parent.handle()))
+    if (m_pages.IsEmpty() || !CreateSheet(parent.handle()))
         return -1;
     CenterWindow();
     m_nModalResult = -1;
@@ -133,9 +139,9 @@ BOOL CPropertySheet::PreTranslateMessage(MSG* pMsg) {
 }
 
 BOOL CPropertySheet::Create(CWnd* pParentWnd, DWORD dwStyle, DWORD dwExStyle) {
-    if (m_hWnd != nullptr || m_pages.empty())
+    if (m_hWnd != nullptr || m_pages.IsEmpty())
         return FALSE;
-    m_modeless = true;
+    m_bModeless = TRUE;
     m_modal = false;
     m_style = dwStyle != default_style ? dwStyle : 0;
     m_extended_style = dwExStyle;
@@ -157,7 +163,7 @@ BOOL CPropertySheet::OnInitDialog() {
     if (!m_bStacked && tabs != nullptr)
         CWnd::ModifyStyle(tabs, TCS_MULTILINE, TCS_SINGLELINE, 0);
     const BOOL result = Default() != 0;
-    if (m_modeless && !IsWizard())
+    if (m_bModeless && !IsWizard())
         RemoveButtons();
     return result;
 }
@@ -182,7 +188,7 @@ void CPropertySheet::RemoveButtons() {
 }
 
 void CPropertySheet::OnClose() {
-    if (m_modeless)
+    if (m_bModeless)
         DestroyWindow();
     else
         Default();
@@ -190,12 +196,12 @@ void CPropertySheet::OnClose() {
 
 void CPropertySheet::EndDialog(int nEndID) {
     EndModalLoop(nEndID);
-    if (m_modeless)
+    if (m_bModeless)
         DestroyWindow();
 }
 
 void CPropertySheet::AddPage(CPropertyPage* pPage) {
-    m_pages.push_back(pPage);
+    m_pages.Add(pPage);
     if (m_hWnd == nullptr)
         return;
     PROPSHEETPAGE record;
@@ -204,7 +210,7 @@ void CPropertySheet::AddPage(CPropertyPage* pPage) {
         return;
     if (made != nullptr)
         ::DestroyPropertySheetPage(made);
-    m_pages.pop_back();
+    m_pages.RemoveAt(m_pages.GetUpperBound());
     AfxThrowResourceException();
 }
 
@@ -217,12 +223,15 @@ void CPropertySheet::RemovePage(int nPage) {
         AfxThrowInvalidArgException();
     if (m_hWnd != nullptr)
         SendMessage(PSM_REMOVEPAGE, static_cast<WPARAM>(nPage));
-    m_pages.erase(m_pages.begin() + nPage);
+    m_pages.RemoveAt(nPage);
 }
 
 int CPropertySheet::GetPageIndex(CPropertyPage* pPage) {
-    const auto at = std::find(m_pages.begin(), m_pages.end(), pPage);
-    return at != m_pages.end() ? static_cast<int>(at - m_pages.begin()) : -1;
+    for (int i = 0; i < GetPageCount(); ++i) {
+        if (m_pages[i] == pPage)
+            return i;
+    }
+    return -1;
 }
 
 int CPropertySheet::GetActiveIndex() const {
@@ -233,7 +242,8 @@ int CPropertySheet::GetActiveIndex() const {
 CPropertyPage* CPropertySheet::GetActivePage() const {
     if (m_hWnd != nullptr)
         return dynamic_cast<CPropertyPage*>(FromHandlePermanent(PropSheet_GetCurrentPageHwnd(m_hWnd)));
-    return m_psh.nStartPage < m_pages.size() ? m_pages[m_psh.nStartPage] : nullptr;
+    const int start = static_cast<int>(m_psh.nStartPage);
+    return start < GetPageCount() ? m_pages[start] : nullptr;
 }
 
 BOOL CPropertySheet::SetActivePage(int nPage) {

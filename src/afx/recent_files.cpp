@@ -5,7 +5,10 @@
 
 CRecentFileList::CRecentFileList(UINT nStart, LPCTSTR lpszSection, LPCTSTR lpszEntryFormat, int nSize, int nMaxDispLen)
     : m_names(static_cast<std::size_t>(std::clamp(nSize, 1, _AFX_MRU_MAX_COUNT))), m_start(nStart),
-      m_section(lpszSection), m_format(lpszEntryFormat), m_display_length(nMaxDispLen) {}
+      m_section(lpszSection), m_format(lpszEntryFormat), m_display_length(nMaxDispLen) {
+    m_nSize = static_cast<int>(m_names.size());
+    m_arrNames = m_names.data(); // stays: there are always as many
+}
 
 CRecentFileList::~CRecentFileList() = default;
 

@@ -50,3 +50,9 @@ BOOL AFXAPI AfxExtractSubString(CString& rString, LPCTSTR lpszFullString, int iS
     }
     return FALSE;
 }
+
+int AFXAPI AfxLoadString(UINT nID, LPTSTR lpszBuf, UINT nMaxBuf) {
+    CString text;
+    text.LoadString(nID);
+    return nMaxBuf > 0 ? lstrlen(lstrcpyn(lpszBuf, text, static_cast<int>(nMaxBuf))) : 0;
+}

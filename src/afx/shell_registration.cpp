@@ -1,5 +1,6 @@
 // The shell's knowledge of the program's documents, kept for the current user.
 #include "afx_app.h"
+#include "position_list.h"
 #include "afx_doc_template.h"
 
 namespace {
@@ -56,7 +57,7 @@ void register_opening(const CDocTemplate& type, const CString& id, const CString
 void CDocManager::RegisterShellFileTypes(BOOL bCompat) {
     const CString program = program_path();
     int icon = 1; // the first is the program's own
-    for (CDocTemplate* one : m_templates) {
+    for (CDocTemplate* one : objects_in<CDocTemplate>(m_templateList)) {
         CString id, title, extension, place;
         if (!type_of(*one, id, title))
             continue;
@@ -79,7 +80,7 @@ void CDocManager::RegisterShellFileTypes(BOOL bCompat) {
 }
 
 void CDocManager::UnregisterShellFileTypes() {
-    for (CDocTemplate* one : m_templates) {
+    for (CDocTemplate* one : objects_in<CDocTemplate>(m_templateList)) {
         CString id, title, extension;
         if (!type_of(*one, id, title))
             continue;

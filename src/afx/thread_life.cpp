@@ -11,7 +11,7 @@
 CWinThread::CWinThread() = default;
 
 CWinThread::CWinThread(AFX_THREADPROC pfnThreadProc, LPVOID pParam)
-    : m_pfnThreadProc(pfnThreadProc), m_pThreadParams(pParam) {}
+    : m_pThreadParams(pParam), m_pfnThreadProc(pfnThreadProc) {}
 
 CWinThread::~CWinThread() {
     if (m_hThread != nullptr)

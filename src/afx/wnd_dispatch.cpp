@@ -89,7 +89,7 @@ bool tell_of_values(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, const parameters& 
     case AfxSig_v_b:
         return tell<BOOL>(wnd, entry, p.yes()), true;
     case AfxSig_v_b_u:
-        return tell<BOOL, UINT>(wnd, entry, p.yes(), static_cast<UINT>(p.l)), true;
+        return tell<BOOL, UINT_PTR>(wnd, entry, p.yes(), static_cast<UINT>(p.l)), true; // older handlers take a handle
     case AfxSig_v_u:
         return tell(wnd, entry, p.word()), true;
     case AfxSig_v_u_u:
@@ -230,5 +230,8 @@ LRESULT dispatch(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, const parameters& p) 
 } // namespace
 
 LRESULT CWnd::DispatchEntry(const AFX_MSGMAP_ENTRY& entry, WPARAM wParam, LPARAM lParam) {
-    return dispatch(this, entry, {wParam, lParam});
+    const LRESULT result = dispatch(this, entry, {wParam, lParam});
+    if (entry.nCode == AfxResult_none)
+        return 0;
+    return entry.nCode == AfxResult_int ? static_cast<int>(result) : result; // HTTRANSPARENT stays -1
 }
