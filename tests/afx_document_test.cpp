@@ -235,10 +235,13 @@ TEST_F(AfxSeveralDocuments, LieInOneFrameThatShowsTheActiveOnes) {
     EXPECT_EQ(the_app.GetOpenDocumentCount(), 2);
     CMDIChildWnd* second = frame->MDIGetActive();
     ASSERT_NE(second, nullptr);
-    EXPECT_EQ(text_of(*frame), "Untitled2 - Tests");
+    EXPECT_EQ(text_of(*frame), "Tests - Untitled2");
     EXPECT_EQ(frame->GetActiveFrame(), second);
     frame->MDINext();
-    EXPECT_EQ(text_of(*frame), "Untitled1 - Tests");
+    frame->MDIMaximize(frame->MDIGetActive());
+    EXPECT_EQ(text_of(*frame), "Tests - [Untitled1]");
+    frame->MDIRestore(frame->MDIGetActive());
+    EXPECT_EQ(text_of(*frame), "Tests - Untitled1");
     EXPECT_NE(frame->MDIGetActive(), second);
 
     frame->MDIActivate(second);
