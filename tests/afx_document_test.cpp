@@ -389,6 +389,12 @@ TEST(AfxRecentFiles, AreKeptLatestFirstAndShownInTheMenu) {
     menu.GetMenuString(1, text, MF_BYPOSITION);
     EXPECT_STREQ(text, "&2 C:\\a&&b\\3.note");
     EXPECT_EQ(menu.GetMenuItemID(1), static_cast<UINT>(ID_FILE_MRU_FILE2));
+    CRecentFileList tenth(9, "Recent Test", "File%d", 1);
+    tenth.Add("C:\\a\\5.note");
+    CMenu last;
+    update(tenth, last);
+    last.GetMenuString(0, text, MF_BYPOSITION);
+    EXPECT_STREQ(text, "1&0 C:\\a\\5.note");
     CRecentFileList empty(0, "Recent Test", "File%d", 3);
     update(empty, fresh);
     EXPECT_NE(fresh.GetMenuState(0, MF_BYPOSITION) & MF_GRAYED, 0u);

@@ -14,7 +14,7 @@ class page_view : public CScrollView {
 public:
     void OnDraw(CDC*) override {}
     CSize GetWheelScrollDistance(CSize by, BOOL, BOOL) override { return CSize(0, by.cy * wheel); }
-    using CScrollView::OnPrepareDC;
+    using CScrollView::GetTrueClientSize, CScrollView::OnPrepareDC;
     int wheel = 1;
 };
 IMPLEMENT_DYNCREATE(page_view, CScrollView)
@@ -87,6 +87,9 @@ TEST(AfxScrollView, ScrollsWithinItsDocumentInLogicalUnits) {
     view.CheckScrollBars(horizontal, vertical);
     EXPECT_TRUE(horizontal && vertical);
     const CRect client = inside_of(view);
+    CSize whole, bars;
+    EXPECT_TRUE(view.GetTrueClientSize(whole, bars));
+    EXPECT_EQ(whole, client.Size() + CSize(::GetSystemMetrics(SM_CXVSCROLL), ::GetSystemMetrics(SM_CYHSCROLL)));
     const auto scroll = [&](UINT message, UINT code) { view.SendMessage(message, code); };
     scroll(WM_VSCROLL, SB_LINEDOWN);
     scroll(WM_VSCROLL, SB_PAGEDOWN);
