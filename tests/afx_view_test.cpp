@@ -35,6 +35,7 @@ class told_splitter : public CSplitterWnd {
 public:
     std::string log;
     int narrowest = 0;
+    using CSplitterWnd::OnDraw;
     void StartTracking(int ht) override { log += "start " + std::to_string(ht), CSplitterWnd::StartTracking(ht); }
     void StopTracking(BOOL take) override { log += " stop " + std::to_string(take), CSplitterWnd::StopTracking(take); }
     void TrackRowSize(int y, int row) override { log += " row", CSplitterWnd::TrackRowSize(y, row); }
@@ -424,6 +425,15 @@ TEST(AfxSplitter, HoldsPanesOfItsOwnAndSplittersAgain) {
     CRect rect = on_screen(frame.inner);
     frame.splitter.ScreenToClient(&rect);
     EXPECT_EQ(rect.left, 157);
+    CDC memory;
+    CBitmap picture;
+    memory.CreateCompatibleDC(nullptr);
+    picture.CreateBitmap(200, 10, 1, 32, nullptr);
+    CBitmap* before = memory.SelectObject(&picture);
+    frame.splitter.OnDraw(&memory);
+    for (CPoint at : {CPoint(5, 0), CPoint(155, 0), CPoint(155, 5)})
+        EXPECT_NE(memory.GetPixel(at), RGB(0, 0, 0)) << "not painted: " << at.x << ", " << at.y;
+    memory.SelectObject(before);
 }
 
 } // namespace

@@ -131,8 +131,10 @@ CRect CSplitterWnd::BoxRect(bool row) const {
     return CRect(inside.left, y, inside.left + box_size, y + breadth);
 }
 
+// From edge to edge, below the borders.
 CRect CSplitterWnd::BarRect(bool row, int index) const {
-    const CRect inside = InsideRect();
+    CRect inside = InsideRect();
+    inside.InflateRect(m_cxBorder, m_cyBorder);
     if (row) {
         const int y = RowTop(index + 1) - m_cySplitterGap + m_cyBorderShare;
         return CRect(inside.left, y, inside.right, y + m_cySplitter);
