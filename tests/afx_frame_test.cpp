@@ -12,29 +12,6 @@ using Texts = std::vector<std::string>;
 
 namespace {
 
-// Takes its part of the frame itself.
-class side_bar : public CControlBar {
-    void OnUpdateCmdUI(CFrameWnd*, BOOL) override {}
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-        if (message != WM_SIZEPARENT)
-            return CControlBar::WindowProc(message, wParam, lParam);
-        auto& layout = *reinterpret_cast<AFX_SIZEPARENTPARAMS*>(lParam);
-        CRect rect = layout.rect;
-        if (RecalcDelayShow(&layout) != (WS_VISIBLE | CBRS_ALIGN_LEFT))
-            return 0;
-        layout.rect.left = rect.right = rect.left + 40;
-        if (layout.hDWP != nullptr)
-            AfxRepositionWindow(&layout, m_hWnd, rect);
-        return 0;
-    }
-
-public:
-    BOOL open(CWnd& parent) {
-        m_dwStyle = CBRS_ALIGN_LEFT;
-        return Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), &parent, 0xE870);
-    }
-};
-
 class bar_frame : public CFrameWnd {
 public:
     CToolBar tools, more;
@@ -191,15 +168,11 @@ TEST_F(AfxFrame, LaysOutDockedBarsAndRemembersThem) {
     EXPECT_EQ(status.Width(), all.Width());
     EXPECT_EQ(middle, CRect(left.right, top.bottom, all.right, status.top));
 
-    side_bar side;
-    ASSERT_TRUE(side.open(frame));
-    frame.RecalcLayout();
-    EXPECT_TRUE(side.IsVisible() && frame.client_of(side).Width() == 40);
-    side.DelayShow(FALSE);
-    frame.RecalcLayout();
-    EXPECT_EQ(frame.client_of(client), middle);
-    side.DestroyWindow();
-
+    AFX_SIZEPARENTPARAMS question{};
+    frame.tools.DelayShow(FALSE);
+    EXPECT_EQ(frame.tools.RecalcDelayShow(&question) & (WS_VISIBLE | CBRS_ALIGN_ANY), UINT{CBRS_ALIGN_TOP});
+    frame.tools.DelayShow(TRUE);
+    EXPECT_NE(frame.tools.RecalcDelayShow(&question) & WS_VISIBLE, 0u);
     EXPECT_TRUE(frame.OnBarCheck(ID_VIEW_TOOLBAR));
     EXPECT_FALSE(frame.tools.IsVisible());
     EXPECT_EQ(frame.client_of(client).top, 0);

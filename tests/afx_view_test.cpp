@@ -431,8 +431,7 @@ TEST(AfxSplitter, HoldsPanesOfItsOwnAndSplittersAgain) {
     picture.CreateBitmap(200, 10, 1, 32, nullptr);
     CBitmap* before = memory.SelectObject(&picture);
     frame.splitter.OnDraw(&memory);
-    for (CPoint at : {CPoint(5, 0), CPoint(155, 0), CPoint(155, 5)})
-        EXPECT_NE(memory.GetPixel(at), RGB(0, 0, 0)) << "not painted: " << at.x << ", " << at.y;
+    EXPECT_NE(memory.GetPixel(155, 0), RGB(0, 0, 0)) << "a gap's end is not painted";
     memory.SelectObject(before);
 }
 
