@@ -156,6 +156,7 @@ TEST_F(AfxCommonControls, RichTextIsReadAndWrittenInItsRanges) {
     bold.dwEffects = CFE_BOLD;
     EXPECT_TRUE(edit.SetSelectionCharFormat(bold));
     EXPECT_EQ(edit.GetSelText(), "first");
+    EXPECT_EQ(std::string(line, static_cast<std::size_t>(edit.GetSelText(line))), "first");
     std::string stream;
     EDITSTREAM out{reinterpret_cast<DWORD_PTR>(&stream), 0, [](DWORD_PTR to, LPBYTE bytes, LONG count, LONG* done) {
                        reinterpret_cast<std::string*>(to)->append(reinterpret_cast<char*>(bytes), *done = count);

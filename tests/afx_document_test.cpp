@@ -235,10 +235,13 @@ TEST_F(AfxSeveralDocuments, LieInOneFrameThatShowsTheActiveOnes) {
     EXPECT_EQ(the_app.GetOpenDocumentCount(), 2);
     CMDIChildWnd* second = frame->MDIGetActive();
     ASSERT_NE(second, nullptr);
-    EXPECT_EQ(text_of(*frame), "Untitled2 - Tests");
+    EXPECT_EQ(text_of(*frame), "Tests - Untitled2");
     EXPECT_EQ(frame->GetActiveFrame(), second);
     frame->MDINext();
-    EXPECT_EQ(text_of(*frame), "Untitled1 - Tests");
+    frame->MDIMaximize(frame->MDIGetActive());
+    EXPECT_EQ(text_of(*frame), "Tests - [Untitled1]");
+    frame->MDIRestore(frame->MDIGetActive());
+    EXPECT_EQ(text_of(*frame), "Tests - Untitled1");
     EXPECT_NE(frame->MDIGetActive(), second);
 
     frame->MDIActivate(second);
@@ -386,6 +389,12 @@ TEST(AfxRecentFiles, AreKeptLatestFirstAndShownInTheMenu) {
     menu.GetMenuString(1, text, MF_BYPOSITION);
     EXPECT_STREQ(text, "&2 C:\\a&&b\\3.note");
     EXPECT_EQ(menu.GetMenuItemID(1), static_cast<UINT>(ID_FILE_MRU_FILE2));
+    CRecentFileList tenth(9, "Recent Test", "File%d", 1);
+    tenth.Add("C:\\a\\5.note");
+    CMenu last;
+    update(tenth, last);
+    last.GetMenuString(0, text, MF_BYPOSITION);
+    EXPECT_STREQ(text, "1&0 C:\\a\\5.note");
     CRecentFileList empty(0, "Recent Test", "File%d", 3);
     update(empty, fresh);
     EXPECT_NE(fresh.GetMenuState(0, MF_BYPOSITION) & MF_GRAYED, 0u);

@@ -168,6 +168,11 @@ TEST_F(AfxFrame, LaysOutDockedBarsAndRemembersThem) {
     EXPECT_EQ(status.Width(), all.Width());
     EXPECT_EQ(middle, CRect(left.right, top.bottom, all.right, status.top));
 
+    AFX_SIZEPARENTPARAMS question{};
+    frame.tools.DelayShow(FALSE);
+    EXPECT_EQ(frame.tools.RecalcDelayShow(&question) & (WS_VISIBLE | CBRS_ALIGN_ANY), UINT{CBRS_ALIGN_TOP});
+    frame.tools.DelayShow(TRUE);
+    EXPECT_NE(frame.tools.RecalcDelayShow(&question) & WS_VISIBLE, 0u);
     EXPECT_TRUE(frame.OnBarCheck(ID_VIEW_TOOLBAR));
     EXPECT_FALSE(frame.tools.IsVisible());
     EXPECT_EQ(frame.client_of(client).top, 0);

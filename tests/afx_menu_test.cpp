@@ -36,6 +36,9 @@ TEST(AfxMenu, TakesItemsByPlaceAndByCommand) {
     EXPECT_EQ(menu.GetSubMenu(0), nullptr);
     more.Detach(); // the outer menu's now
     EXPECT_NE(menu.GetSubMenu(3), nullptr);
+    CMenu extended;
+    ASSERT_TRUE(extended.LoadMenu(206u));
+    EXPECT_NE(extended.GetMenuState(1, MF_BYPOSITION) & MF_SEPARATOR, 0u);
     const CString longest('m', 700);
     menu.AppendMenu(MF_STRING, 30, longest);
     EXPECT_EQ(text_of(menu, 4), longest);

@@ -157,6 +157,10 @@ TEST(AfxModule, FrameworksTextsStandBehindTheProgramsOwn) {
     CString text;
     EXPECT_TRUE(text.LoadString(AFX_IDS_UNTITLED));
     EXPECT_STREQ(text, "Untitled");
+    constexpr WORD neutral = 0;
+    const HINSTANCE framework = AfxFindStringResourceHandle(AFX_IDS_UNTITLED);
+    EXPECT_TRUE(text.LoadString(framework, AFX_IDS_UNTITLED, neutral) && text == "Untitled");
+    EXPECT_FALSE(text.LoadString(framework, 59999, neutral));
     EXPECT_EQ(AfxFindStringResourceHandle(ID_TEST_ON), AfxGetInstanceHandle());
     EXPECT_NE(AfxFindStringResourceHandle(AFX_IDS_UNTITLED), AfxGetInstanceHandle());
     EXPECT_EQ(AfxFindStringResourceHandle(59999), nullptr);

@@ -91,7 +91,7 @@ TEST_F(AfxEntry, RealNumbersAreTakenAsTheyAreShown) {
     }
     const auto within = [&](double value) {
         return exchange(TRUE, [&](CDataExchange* data) {
-            data->PrepareEditCtrl(IDC_FACTOR);
+            EXPECT_EQ(data->PrepareEditCtrl(IDC_FACTOR), data->m_hWndLastControl);
             DDV_MinMaxDouble(data, value, -0.5, 0.5);
         });
     };

@@ -14,7 +14,7 @@ class page_view : public CScrollView {
 public:
     void OnDraw(CDC*) override {}
     CSize GetWheelScrollDistance(CSize by, BOOL, BOOL) override { return CSize(0, by.cy * wheel); }
-    using CScrollView::OnPrepareDC;
+    using CScrollView::GetTrueClientSize, CScrollView::OnPrepareDC;
     int wheel = 1;
 };
 IMPLEMENT_DYNCREATE(page_view, CScrollView)
@@ -35,6 +35,7 @@ class told_splitter : public CSplitterWnd {
 public:
     std::string log;
     int narrowest = 0;
+    using CSplitterWnd::OnDraw;
     void StartTracking(int ht) override { log += "start " + std::to_string(ht), CSplitterWnd::StartTracking(ht); }
     void StopTracking(BOOL take) override { log += " stop " + std::to_string(take), CSplitterWnd::StopTracking(take); }
     void TrackRowSize(int y, int row) override { log += " row", CSplitterWnd::TrackRowSize(y, row); }
@@ -87,6 +88,9 @@ TEST(AfxScrollView, ScrollsWithinItsDocumentInLogicalUnits) {
     view.CheckScrollBars(horizontal, vertical);
     EXPECT_TRUE(horizontal && vertical);
     const CRect client = inside_of(view);
+    CSize whole, bars;
+    EXPECT_TRUE(view.GetTrueClientSize(whole, bars));
+    EXPECT_EQ(whole, client.Size() + CSize(::GetSystemMetrics(SM_CXVSCROLL), ::GetSystemMetrics(SM_CYHSCROLL)));
     const auto scroll = [&](UINT message, UINT code) { view.SendMessage(message, code); };
     scroll(WM_VSCROLL, SB_LINEDOWN);
     scroll(WM_VSCROLL, SB_PAGEDOWN);
@@ -337,13 +341,13 @@ protected:
 TEST_F(AfxDynamicSplitter, FollowsTheMouseToCrossingsAndBackAgain) {
     ASSERT_TRUE(splitter.SplitRow(80) && splitter.SplitColumn(120));
     const CSize first = first_pane(), by(30, 40);
-    const CPoint crossing(first.cx + 3, first.cy + 3), moved = crossing + by;
+    const CPoint crossing(first.cx + 5, first.cy + 5), moved = crossing + by;
     drag(crossing, moved);
     EXPECT_EQ(first_pane(), first + by) << "both bars at once";
     EXPECT_EQ(splitter.log, "start 301 stop 1 row");
     splitter.narrowest = 60;
     drag(CPoint(moved.x, 5), CPoint(30, 5));
-    EXPECT_EQ(first_pane().cx, 60) << "as narrow as it lets it be";
+    EXPECT_EQ(first_pane().cx, 58) << "as narrow as it lets it be";
     drag(CPoint(63, 5), CPoint(moved.x, 5));
     send(WM_LBUTTONDOWN, moved);
     send(WM_MOUSEMOVE, moved - CSize(50, 50));
@@ -421,6 +425,14 @@ TEST(AfxSplitter, HoldsPanesOfItsOwnAndSplittersAgain) {
     CRect rect = on_screen(frame.inner);
     frame.splitter.ScreenToClient(&rect);
     EXPECT_EQ(rect.left, 157);
+    CDC memory;
+    CBitmap picture;
+    memory.CreateCompatibleDC(nullptr);
+    picture.CreateBitmap(200, 10, 1, 32, nullptr);
+    CBitmap* before = memory.SelectObject(&picture);
+    frame.splitter.OnDraw(&memory);
+    EXPECT_NE(memory.GetPixel(155, 0), RGB(0, 0, 0)) << "a gap's end is not painted";
+    memory.SelectObject(before);
 }
 
 } // namespace

@@ -90,6 +90,13 @@ template <class A, class B> constexpr std::common_type_t<A, B> max(A a, B b) {
 #define AFX_EXT_DATA
 #define AFX_EXT_DATADEF
 #define AFX_STATIC static
+#define AFX_STATIC_DATA static
+#define AFX_INLINE inline
+#define _AFX_INLINE inline
+#define AFX_CORE_DATA
+#define AFX_COMDAT
+#define AFX_NOVTABLE
+#define AFX_MSG_CALL
 
 #ifdef _AFXEXT
 #define AFX_EXT_CLASS __declspec(dllexport)

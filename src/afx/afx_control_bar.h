@@ -51,6 +51,9 @@ public:
     virtual BOOL IsVisible() const;
     // Shown or hidden when the frame makes its layout the next time.
     virtual void DelayShow(BOOL bShow);
+    // For bars that take their part of the frame themselves, in WM_SIZEPARENT: side and border of the bar, and
+    // WS_VISIBLE where it is, or is about to be, visible.
+    virtual DWORD RecalcDelayShow(AFX_SIZEPARENTPARAMS* lpLayout);
     virtual void OnBarStyleChange(DWORD dwOldStyle, DWORD dwNewStyle);
     // The prompt of the command under the pointer (flyby help); -1: the pointer has left. TRUE where it changed.
     virtual BOOL SetStatusText(INT_PTR nHit);
@@ -85,6 +88,8 @@ protected:
     int m_nCount = 0;
     int m_nMRUWidth = 32767; // of a floating bar
     int m_cxLeftBorder = 6, m_cxRightBorder = 6, m_cyTopBorder = 1, m_cyBottomBorder = 1;
+    enum StateFlags { delayHide = 0x1, delayShow = 0x2 };
+    UINT m_nStateFlags = 0;
     CFrameWnd* m_pDockSite = nullptr;
     CDockBar* m_pDockBar = nullptr;
 
@@ -98,8 +103,6 @@ private:
     bool DragOutline(CSize held, CPoint& dropped);
     int OutlineAt(CPoint screen, CSize held, const outline_sizes& sizes, CRect& rect);
 
-    enum class show { as_is, soon, not_soon };
-    show m_delayed = show::as_is;
     INT_PTR m_status_item = -1;
     UINT m_last_side = 0;          // the dock bar that it was docked to last
     CPoint m_last_place{100, 100}; // where it floated last

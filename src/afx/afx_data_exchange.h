@@ -22,6 +22,7 @@ public:
     BOOL m_bSaveAndValidate; // TRUE: from the controls to the members
     CWnd* m_pDlgWnd;
     int m_idLastControl = 0;
+    HWND m_hWndLastControl = nullptr; // the same control
     BOOL m_bEditLastControl = FALSE;
 };
 

@@ -36,6 +36,9 @@ inline void operator delete[](void* at, LPCSTR, int) {
 }
 
 #define AfxDebugBreak() ::DebugBreak()
+#define AfxOutputDebugString(lpsz) ::OutputDebugString(lpsz)
+// Ends the program at once.
+[[noreturn]] ZOPAFX_API void AFXAPI AfxAbort();
 
 #ifdef _DEBUG
 #define DEBUG_NEW new (THIS_FILE, __LINE__)
@@ -58,6 +61,8 @@ inline void operator delete[](void* at, LPCSTR, int) {
 #define TRACE(...) ((void)(false && (::AfxTrace(__VA_ARGS__), true)))
 #endif
 
+#define ATLASSERT(expr) ASSERT(expr)
+#define ATLTRACE TRACE
 #define TRACE0(text) TRACE("%s", text)
 #define TRACE1(text, a) TRACE(text, a)
 #define TRACE2(text, a, b) TRACE(text, a, b)

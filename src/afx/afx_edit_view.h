@@ -71,8 +71,9 @@ protected:
     afx_msg void OnUpdateNeedText(CCmdUI* pCmdUI);
     afx_msg void OnUpdateEditUndo(CCmdUI* pCmdUI);
 
-private:
     int m_nTabStops = 32; // a quarter of a character's breadth
+
+private:
     HFONT m_hPrinterFont = nullptr;
     HFONT m_print_font = nullptr; // the screen's at the printer's size, where no other was set
     std::vector<UINT> m_pages;    // where each page begins

@@ -64,6 +64,7 @@ public:
     enum {
         none,
         genericException,
+        generic = genericException, // its older name
         fileNotFound,
         badPath,
         tooManyOpenFiles,
@@ -97,7 +98,18 @@ class ZOPAFX_API CArchiveException : public CException {
     DECLARE_DYNAMIC(CArchiveException)
 
 public:
-    enum { none, genericException, readOnly, endOfFile, writeOnly, badIndex, badClass, badSchema, bufferFull };
+    enum {
+        none,
+        genericException,
+        generic = genericException,
+        readOnly,
+        endOfFile,
+        writeOnly,
+        badIndex,
+        badClass,
+        badSchema,
+        bufferFull
+    };
 
     explicit CArchiveException(int cause = none, LPCTSTR lpszArchiveName = nullptr)
         : m_cause(cause), m_strFileName(lpszArchiveName) {}

@@ -41,6 +41,8 @@ public:
     void SetSel(long nStartChar, long nEndChar);
     void SetSel(CHARRANGE& cr) { SendMessage(EM_EXSETSEL, 0, afx_param(&cr)); }
     CString GetSelText() const;
+    // Into a buffer that takes all of the selection, and a terminator.
+    long GetSelText(LPSTR lpBuf) const { return static_cast<long>(SendMessage(EM_GETSELTEXT, 0, afx_param(lpBuf))); }
     WORD GetSelectionType() const { return static_cast<WORD>(SendMessage(EM_SELECTIONTYPE)); }
     void HideSelection(BOOL bHide, BOOL bPerm) { SendMessage(EM_HIDESELECTION, bHide, bPerm); }
     void ReplaceSel(LPCTSTR lpszNewText, BOOL bCanUndo = FALSE) {

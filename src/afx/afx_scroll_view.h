@@ -41,6 +41,10 @@ protected:
     void CenterOnPoint(CPoint ptCenter);
     void ScrollToDevicePosition(POINT ptDev);
     void UpdateBars();
+    // The client area as it would be without bars of the window's own, and how much of it those would take. FALSE where
+    // they would leave nothing.
+    BOOL GetTrueClientSize(CSize& size, CSize& sizeSb);
+    void GetScrollBarSizes(CSize& sizeSb);
 
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
@@ -49,14 +53,13 @@ protected:
 
     int m_nMapMode = 0; // none yet
     CSize m_totalLog, m_totalDev, m_pageDev, m_lineDev;
-    BOOL m_bCenter = FALSE; // what is smaller than the window stands in its middle
+    BOOL m_bCenter = FALSE;       // what is smaller than the window stands in its middle
+    BOOL m_bInsideUpdate = FALSE; // the bars are being set: no change of size counts
 
 private:
     friend class CSplitterWnd;
     CSize WheelDistance(short delta);
     bool HasOwnBar(int bar) const;
-    CSize Room(bool& horizontal, bool& vertical) const;
+    CSize Room(bool& horizontal, bool& vertical);
     CSize RangeFor(CSize room) const;
-
-    bool m_updating = false;
 };

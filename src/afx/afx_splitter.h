@@ -53,6 +53,7 @@ public:
     virtual BOOL DoScroll(CView* pViewFrom, UINT nScrollCode, BOOL bDoScroll = TRUE);
     virtual BOOL DoScrollBy(CView* pViewFrom, CSize sizeScroll, BOOL bDoScroll = TRUE);
 
+    // In client coordinates: where the bar begins.
     virtual BOOL SplitRow(int cyBefore);
     virtual BOOL SplitColumn(int cxBefore);
     virtual void DeleteRow(int rowDelete);
@@ -109,6 +110,9 @@ protected:
 
     int m_cxSplitter = 7, m_cySplitter = 7; // a bar's thickness
     int m_cxSplitterGap = 7, m_cySplitterGap = 7;
+    int m_cxBorder = 2, m_cyBorder = 2;                // around each pane; 0: none is drawn
+    int m_cxBorderShare = 0, m_cyBorderShare = 0;      // of a gap, before the bar
+    BOOL m_bHasHScroll = FALSE, m_bHasVScroll = FALSE; // bars that panes share
     int m_nMaxRows = 0, m_nMaxCols = 0;
     int m_nRows = 0, m_nCols = 0;
     CRuntimeClass* m_pDynamicViewClass = nullptr;
@@ -133,7 +137,11 @@ private:
     CRect BoxRect(bool row) const;
     bool ShowsBox(bool row) const;
     int EndOf(const std::vector<CRowColInfo>& lines, int index, int gap) const;
-    void PlacePanes(const CRect& inside);
+    int RowTop(int row) const;
+    int ColumnLeft(int column) const;
+    CRect PaneRect(int row, int column) const;
+    CRect BorderRect(int row, int column) const;
+    void PlacePanes();
     void PlaceScrollBars(const CRect& inside);
     void InvertTrackers();
     void DragTo(CPoint point);
@@ -143,5 +151,4 @@ private:
     template <class Scroll> BOOL ScrollWith(CView* view, bool rows, Scroll scroll);
 
     std::vector<CRowColInfo> m_row_info, m_column_info;
-    DWORD m_scroll_style = 0;
 };

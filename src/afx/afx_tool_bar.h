@@ -79,6 +79,9 @@ protected:
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg void OnSysColorChange();
 
+    HBITMAP m_hbmImageWell = nullptr;
+    SIZE m_sizeImage{16, 15}, m_sizeButton{23, 22}; // of new buttons; Create takes what a constructor has set
+
 private:
     BOOL AddReplaceBitmap(HBITMAP hbmImageWell);
     TBBUTTON ButtonAt(int index) const;
@@ -88,9 +91,7 @@ private:
     int BreadthOf(int index, const TBBUTTON& button) const;
     CSize SizeOfButtons() const;
 
-    HBITMAP m_images = nullptr;
     HINSTANCE m_images_module = nullptr;
     CString m_images_name;
     LPCTSTR m_images_id = nullptr;
-    CSize m_button = CSize(23, 22), m_image = CSize(16, 15);
 };

@@ -33,4 +33,7 @@ struct AFX_SIZEPARENTPARAMS {
     BOOL bStretch;
 };
 
+// Moves a window, together with the others of its layout.
+ZOPAFX_API void AFXAPI AfxRepositionWindow(AFX_SIZEPARENTPARAMS* lpLayout, HWND hWnd, LPCRECT lpRect);
+
 #define ON_MESSAGE_VOID(message, memberFxn) AFX_MSG_ENTRY(message, AfxSig_vv, CWnd, void, (), memberFxn)

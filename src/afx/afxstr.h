@@ -131,7 +131,11 @@ public:
     // Both leave the string empty and answer FALSE where there is nothing to load.
     BOOL LoadString(UINT id);
     BOOL LoadString(HINSTANCE instance, UINT id);
+    BOOL LoadString(HINSTANCE instance, UINT id, WORD language);
     BOOL GetEnvironmentVariable(LPCSTR name);
+
+    static int StringLength(LPCSTR text) { return text != nullptr ? static_cast<int>(std::strlen(text)) : 0; }
+    static void CopyChars(LPSTR to, LPCSTR from, int count) { std::memcpy(to, from, ClampedLength(count)); }
 
     BSTR AllocSysString() const;
     BSTR SetSysString(BSTR* text) const;
@@ -148,6 +152,7 @@ private:
 };
 
 typedef CString CStringA;
+inline const CString afxEmptyString;
 
 inline LPCSTR afx_variadic(const CString& text) {
     return text;

@@ -11,7 +11,7 @@ public:
     CSize(int initCX, int initCY) : tagSIZE{initCX, initCY} {}
     CSize(SIZE size) : tagSIZE(size) {}
     CSize(POINT point) : tagSIZE{point.x, point.y} {}
-    explicit CSize(DWORD packed) : tagSIZE{static_cast<short>(LOWORD(packed)), static_cast<short>(HIWORD(packed))} {}
+    CSize(DWORD packed) : tagSIZE{static_cast<short>(LOWORD(packed)), static_cast<short>(HIWORD(packed))} {}
 
     void SetSize(int CX, int CY) { cx = CX, cy = CY; }
     bool operator==(SIZE size) const { return cx == size.cx && cy == size.cy; }
@@ -37,7 +37,7 @@ public:
     CPoint(POINT point) : tagPOINT(point) {}
     CPoint(SIZE size) : tagPOINT{size.cx, size.cy} {}
     // The packed coordinates of a mouse message, each with its sign.
-    explicit CPoint(LPARAM packed) : tagPOINT{static_cast<short>(LOWORD(packed)), static_cast<short>(HIWORD(packed))} {}
+    CPoint(LPARAM packed) : tagPOINT{static_cast<short>(LOWORD(packed)), static_cast<short>(HIWORD(packed))} {}
 
     void SetPoint(int X, int Y) { x = X, y = Y; }
     void Offset(int xOffset, int yOffset) { x += xOffset, y += yOffset; }

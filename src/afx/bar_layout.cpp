@@ -1,21 +1,21 @@
 // How bars share the client area of their frame.
 #include "afx_frame.h"
 #include "afxpriv.h"
-#include "frame_state.h"
 
-void reposition_window(AFX_SIZEPARENTPARAMS& layout, HWND hwnd, const RECT& rect) {
+void AFXAPI AfxRepositionWindow(AFX_SIZEPARENTPARAMS* lpLayout, HWND hWnd, LPCRECT lpRect) {
     CRect before;
-    ::GetWindowRect(hwnd, before);
-    ::MapWindowPoints(nullptr, ::GetParent(hwnd), reinterpret_cast<LPPOINT>(&before), 2);
+    ::GetWindowRect(hWnd, before);
+    ::MapWindowPoints(nullptr, ::GetParent(hWnd), reinterpret_cast<LPPOINT>(&before), 2);
+    const CRect rect = *lpRect;
     if (before == rect)
         return;
     constexpr UINT flags = SWP_NOACTIVATE | SWP_NOZORDER;
-    const int width = rect.right - rect.left, height = rect.bottom - rect.top;
     // A window with another parent cannot be moved together with the bars.
-    if (layout.hDWP != nullptr)
-        layout.hDWP = ::DeferWindowPos(layout.hDWP, hwnd, nullptr, rect.left, rect.top, width, height, flags);
+    if (lpLayout != nullptr && lpLayout->hDWP != nullptr)
+        lpLayout->hDWP =
+            ::DeferWindowPos(lpLayout->hDWP, hWnd, nullptr, rect.left, rect.top, rect.Width(), rect.Height(), flags);
     else
-        ::SetWindowPos(hwnd, nullptr, rect.left, rect.top, width, height, flags);
+        ::SetWindowPos(hWnd, nullptr, rect.left, rect.top, rect.Width(), rect.Height(), flags);
 }
 
 namespace {
@@ -62,7 +62,7 @@ void CWnd::RepositionBars(UINT nIDFirst, UINT nIDLast, UINT nIDLeftOver, UINT nF
             layout.rect.bottom -= lpRectParam->bottom;
         }
         wnd->CalcWindowRect(&layout.rect);
-        reposition_window(layout, rest, layout.rect);
+        AfxRepositionWindow(&layout, rest, &layout.rect);
     }
     if (layout.hDWP != nullptr)
         ::EndDeferWindowPos(layout.hDWP);

@@ -116,29 +116,35 @@ void CControlBar::CalcInsideRect(CRect& rect, BOOL bHorz) const {
 }
 
 BOOL CControlBar::IsVisible() const {
-    if (m_delayed != show::as_is)
-        return m_delayed == show::soon;
+    if ((m_nStateFlags & (delayShow | delayHide)) != 0)
+        return (m_nStateFlags & delayShow) != 0;
     return (GetStyle() & WS_VISIBLE) != 0;
 }
 
 void CControlBar::DelayShow(BOOL bShow) {
-    m_delayed = bShow ? show::soon : show::not_soon;
+    m_nStateFlags = (m_nStateFlags & ~UINT{delayShow | delayHide}) | (bShow ? delayShow : delayHide);
 }
 
 void CControlBar::Undelay() {
-    const show wanted = std::exchange(m_delayed, show::as_is);
-    if (wanted != show::as_is)
+    const UINT wanted = m_nStateFlags & (delayShow | delayHide);
+    m_nStateFlags &= ~wanted;
+    if (wanted != 0)
         SetWindowPos(nullptr, 0, 0, 0, 0,
-                     (wanted == show::soon ? SWP_SHOWWINDOW : SWP_HIDEWINDOW) | SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER |
+                     (wanted == delayShow ? SWP_SHOWWINDOW : SWP_HIDEWINDOW) | SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER |
                          SWP_NOACTIVATE);
+}
+
+DWORD CControlBar::RecalcDelayShow(AFX_SIZEPARENTPARAMS* lpLayout) {
+    if (lpLayout->hDWP != nullptr)
+        Undelay();
+    return (m_dwStyle & (CBRS_ALIGN_ANY | CBRS_BORDER_ANY)) | (IsVisible() ? WS_VISIBLE : 0);
 }
 
 // Takes the bar's part of what is left of the frame's client area.
 LRESULT CControlBar::OnSizeParent(WPARAM, LPARAM lParam) {
     auto& layout = *reinterpret_cast<AFX_SIZEPARENTPARAMS*>(lParam);
-    if (layout.hDWP != nullptr)
-        Undelay();
-    if (!IsVisible() || (m_dwStyle & CBRS_ALIGN_ANY) == 0)
+    const DWORD style = RecalcDelayShow(&layout);
+    if ((style & WS_VISIBLE) == 0 || (style & CBRS_ALIGN_ANY) == 0)
         return 0;
     CRect rect = layout.rect;
     const CSize room = rect.Size();
@@ -166,7 +172,7 @@ LRESULT CControlBar::OnSizeParent(WPARAM, LPARAM lParam) {
     rect.right = rect.left + size.cx;
     rect.bottom = rect.top + size.cy;
     if (layout.hDWP != nullptr)
-        reposition_window(layout, m_hWnd, rect);
+        AfxRepositionWindow(&layout, m_hWnd, rect);
     return 0;
 }
 

@@ -43,6 +43,7 @@ HWND CDataExchange::PrepareCtrl(int nIDC) {
     if (nIDC == 0 || nIDC == -1 || control == nullptr)
         AfxThrowNotSupportedException();
     m_idLastControl = nIDC;
+    m_hWndLastControl = control;
     m_bEditLastControl = FALSE;
     return control;
 }

@@ -21,6 +21,10 @@ BOOL AFXAPI AfxAssertFailedLine(LPCSTR lpszFileName, int nLine) {
     }
 }
 
+void AFXAPI AfxAbort() {
+    std::abort();
+}
+
 void AFX_CDECL afx_trace_text(LPCTSTR lpszFormat, ...) {
     char text[1024];
     va_list arguments;

@@ -40,7 +40,8 @@ void CFrameWnd::OnIdleUpdateCmdUI() {
     if (std::exchange(m_menu_wanted, false))
         OnUpdateFrameMenu(m_hMenuAlt);
     for (CControlBar* bar : objects_in<CControlBar>(m_listControlBars))
-        m_layout_wanted = m_layout_wanted || bar->m_delayed != CControlBar::show::as_is;
+        m_layout_wanted =
+            m_layout_wanted || (bar->m_nStateFlags & (CControlBar::delayShow | CControlBar::delayHide)) != 0;
     if (m_layout_wanted)
         RecalcLayout();
 }

@@ -21,7 +21,3 @@ void update_frames(CWnd* main_window);
 // The window class of frames with the icon. The program's icon of the number, or the platform's for programs.
 LPCTSTR frame_class(HICON icon);
 HICON standard_icon(UINT id);
-
-// Moves a bar, together with the others of its layout.
-struct AFX_SIZEPARENTPARAMS;
-void reposition_window(AFX_SIZEPARENTPARAMS& layout, HWND hwnd, const RECT& rect);

@@ -151,6 +151,8 @@ int CMDIChildWnd::OnMouseActivate(CWnd* pDesktopWnd, UINT nHitTest, UINT message
 
 void CMDIChildWnd::OnSize(UINT nType, int cx, int cy) {
     CWnd::OnSize(nType, cx, cy); // the platform needs to know of a maximised window
+    GetMDIFrame()->OnUpdateFrameTitle(
+        TRUE); // the document stands in it unless the platform shows the child's title there
     if (nType != SIZE_MINIMIZED)
         RecalcLayout();
 }

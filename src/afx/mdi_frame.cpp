@@ -30,7 +30,7 @@ BOOL CMDIFrameWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pPare
 BOOL CMDIFrameWnd::PreCreateWindow(CREATESTRUCT& cs) {
     if (cs.lpszClass == nullptr)
         cs.lpszClass = frame_class(standard_icon(AFX_IDI_STD_MDIFRAME));
-    return CFrameWnd::PreCreateWindow(cs);
+    return TRUE; // without FWS_PREFIXTITLE: the program comes first, as with a maximised child's title behind it
 }
 
 BOOL CMDIFrameWnd::OnCreateClient(LPCREATESTRUCT lpcs, CCreateContext*) {

@@ -60,9 +60,11 @@ void CRecentFileList::UpdateMenu(CCmdUI* pCmdUI) {
     const int length = current_folder(folder, MAX_PATH);
     CString name;
     for (int i = 0; i < GetSize() && GetDisplayName(name, i, folder, length); ++i) {
-        CString text;
+        CString text = "1&0 ";
         const unsigned number = m_start + static_cast<unsigned>(i) + 1;
-        text.Format(number < 10 ? "&%u %s" : "%u %s", number, with_ampersands(name).GetString());
+        if (number != 10)
+            text.Format(number < 10 ? "&%u " : "%u ", number);
+        text += with_ampersands(name);
         menu->InsertMenu(pCmdUI->m_nIndex++, MF_STRING | MF_BYPOSITION, pCmdUI->m_nID++, text);
     }
     --pCmdUI->m_nIndex; // the last that was inserted

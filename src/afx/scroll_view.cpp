@@ -129,25 +129,36 @@ bool CScrollView::HasOwnBar(int bar) const {
     return GetScrollBarCtrl(bar) == nullptr;
 }
 
-// The client area as it would be without bars, and which of them are needed.
-CSize CScrollView::Room(bool& horizontal, bool& vertical) const {
+void CScrollView::GetScrollBarSizes(CSize& sizeSb) {
+    sizeSb = CSize(HasOwnBar(SB_VERT) ? ::GetSystemMetrics(SM_CXVSCROLL) : 0,
+                   HasOwnBar(SB_HORZ) ? ::GetSystemMetrics(SM_CYHSCROLL) : 0);
+}
+
+BOOL CScrollView::GetTrueClientSize(CSize& size, CSize& sizeSb) {
     CRect client;
     GetClientRect(client);
-    CSize room = client.Size();
-    const CSize bars(::GetSystemMetrics(SM_CXVSCROLL), ::GetSystemMetrics(SM_CYHSCROLL));
-    if (HasOwnBar(SB_VERT) && (GetStyle() & WS_VSCROLL) != 0)
-        room.cx += bars.cx;
-    if (HasOwnBar(SB_HORZ) && (GetStyle() & WS_HSCROLL) != 0)
-        room.cy += bars.cy;
+    GetScrollBarSizes(sizeSb);
+    size = client.Size();
+    if ((GetStyle() & WS_VSCROLL) != 0)
+        size.cx += sizeSb.cx;
+    if ((GetStyle() & WS_HSCROLL) != 0)
+        size.cy += sizeSb.cy;
+    return size.cx > sizeSb.cx && size.cy > sizeSb.cy;
+}
+
+// What the bars that are needed leave.
+CSize CScrollView::Room(bool& horizontal, bool& vertical) {
+    CSize room, bars;
+    GetTrueClientSize(room, bars);
     horizontal = m_totalDev.cx > room.cx;
-    if (horizontal && HasOwnBar(SB_HORZ))
+    if (horizontal)
         room.cy -= bars.cy;
     vertical = m_totalDev.cy > room.cy;
-    if (vertical && HasOwnBar(SB_VERT))
+    if (vertical)
         room.cx -= bars.cx;
     if (vertical && !horizontal && m_totalDev.cx > room.cx) {
         horizontal = true;
-        room.cy -= HasOwnBar(SB_HORZ) ? bars.cy : 0;
+        room.cy -= bars.cy;
     }
     return room;
 }
@@ -157,9 +168,9 @@ CSize CScrollView::RangeFor(CSize room) const {
 }
 
 void CScrollView::UpdateBars() {
-    if (m_updating || m_nMapMode == 0)
+    if (m_bInsideUpdate || m_nMapMode == 0)
         return;
-    m_updating = true;
+    m_bInsideUpdate = TRUE;
     bool horizontal = false, vertical = false;
     const CSize room = m_nMapMode == MM_SCALETOFIT ? m_totalDev : Room(horizontal, vertical);
     const CPoint before = GetDeviceScrollPosition();
@@ -184,7 +195,7 @@ void CScrollView::UpdateBars() {
         info.nPos = one.needed ? static_cast<int>(one.at) : 0;
         SetScrollInfo(one.bar, &info);
     }
-    m_updating = false;
+    m_bInsideUpdate = FALSE;
 }
 
 void CScrollView::OnSize(UINT nType, int cx, int cy) {

@@ -183,9 +183,9 @@ BOOL CSplitterWnd::DoKeyboardSplit() {
     const CRect inside = InsideRect();
     BOOL split = FALSE;
     if (m_nRows < m_nMaxRows)
-        split = SplitRow(inside.Height() / 2);
+        split = SplitRow(inside.CenterPoint().y);
     if (m_nCols < m_nMaxCols)
-        split = SplitColumn(inside.Width() / 2) || split;
+        split = SplitColumn(inside.CenterPoint().x) || split;
     return split;
 }
 
@@ -194,10 +194,11 @@ BOOL CSplitterWnd::SplitRow(int cyBefore) {
         return FALSE;
     CRowColInfo& above = m_row_info[static_cast<std::size_t>(m_nRows - 1)];
     CRowColInfo& fresh = m_row_info[static_cast<std::size_t>(m_nRows)];
+    cyBefore -= m_cyBorder;
     const int rest = above.nCurSize - cyBefore - m_cySplitterGap;
     if (cyBefore < above.nMinSize || rest < fresh.nMinSize)
         return FALSE;
-    if ((m_scroll_style & WS_VSCROLL) != 0 && !CreateScrollBarCtrl(SBS_VERT, AFX_IDW_VSCROLL_FIRST + UINT(m_nRows)))
+    if (m_bHasVScroll && !CreateScrollBarCtrl(SBS_VERT, AFX_IDW_VSCROLL_FIRST + UINT(m_nRows)))
         return FALSE;
     ++m_nRows;
     for (int column = 0; column < m_nCols; ++column) {
@@ -218,10 +219,11 @@ BOOL CSplitterWnd::SplitColumn(int cxBefore) {
         return FALSE;
     CRowColInfo& left = m_column_info[static_cast<std::size_t>(m_nCols - 1)];
     CRowColInfo& fresh = m_column_info[static_cast<std::size_t>(m_nCols)];
+    cxBefore -= m_cxBorder;
     const int rest = left.nCurSize - cxBefore - m_cxSplitterGap;
     if (cxBefore < left.nMinSize || rest < fresh.nMinSize)
         return FALSE;
-    if ((m_scroll_style & WS_HSCROLL) != 0 && !CreateScrollBarCtrl(SBS_HORZ, AFX_IDW_HSCROLL_FIRST + UINT(m_nCols)))
+    if (m_bHasHScroll && !CreateScrollBarCtrl(SBS_HORZ, AFX_IDW_HSCROLL_FIRST + UINT(m_nCols)))
         return FALSE;
     ++m_nCols;
     for (int row = 0; row < m_nRows; ++row) {

@@ -36,9 +36,10 @@ CRect CSplitterWnd::InsideRect() const {
 
 void CSplitterWnd::GetInsideRect(CRect& rect) const {
     GetClientRect(rect);
-    if ((m_scroll_style & WS_VSCROLL) != 0)
+    rect.DeflateRect(m_cxBorder, m_cyBorder);
+    if (m_bHasVScroll)
         rect.right = std::max<LONG>(rect.right - bar_breadth(true), 0);
-    if ((m_scroll_style & WS_HSCROLL) != 0)
+    if (m_bHasHScroll)
         rect.bottom = std::max<LONG>(rect.bottom - bar_breadth(false), 0);
 }
 
@@ -58,38 +59,52 @@ void CSplitterWnd::RecalcLayout() {
         return; // iconic, or not laid out yet
     share(m_row_info, m_nRows, inside.Height(), m_cySplitterGap);
     share(m_column_info, m_nCols, inside.Width(), m_cxSplitterGap);
-    PlacePanes(inside);
+    PlacePanes();
     PlaceScrollBars(inside);
     Invalidate();
 }
 
-void CSplitterWnd::PlacePanes(const CRect&) {
+int CSplitterWnd::RowTop(int row) const {
+    return InsideRect().top + EndOf(m_row_info, row, m_cySplitterGap);
+}
+
+int CSplitterWnd::ColumnLeft(int column) const {
+    return InsideRect().left + EndOf(m_column_info, column, m_cxSplitterGap);
+}
+
+CRect CSplitterWnd::PaneRect(int row, int column) const {
+    return CRect(CPoint(ColumnLeft(column), RowTop(row)),
+                 CSize(m_column_info[static_cast<std::size_t>(column)].nCurSize,
+                       m_row_info[static_cast<std::size_t>(row)].nCurSize));
+}
+
+// A splitter in a pane has borders of its own.
+void CSplitterWnd::PlacePanes() {
     for (int row = 0; row < m_nRows; ++row) {
         for (int column = 0; column < m_nCols; ++column) {
             CWnd* pane = GetPane(row, column);
             if (pane == nullptr)
                 continue; // of a static splitter that is not complete yet
-            const int x = EndOf(m_column_info, column, m_cxSplitterGap), y = EndOf(m_row_info, row, m_cySplitterGap);
-            pane->MoveWindow(x, y, m_column_info[static_cast<std::size_t>(column)].nCurSize,
-                             m_row_info[static_cast<std::size_t>(row)].nCurSize);
+            CRect rect = PaneRect(row, column);
+            if (pane->IsKindOf(RUNTIME_CLASS(CSplitterWnd)))
+                rect.InflateRect(m_cxBorder, m_cyBorder);
+            pane->MoveWindow(rect);
         }
     }
 }
 
 void CSplitterWnd::PlaceScrollBars(const CRect& inside) {
-    for (int row = 0; (m_scroll_style & WS_VSCROLL) != 0 && row < m_nRows; ++row) {
+    for (int row = 0; m_bHasVScroll && row < m_nRows; ++row) {
         const int box = row == 0 && ShowsBox(true) ? box_size : 0;
-        const int y = EndOf(m_row_info, row, m_cySplitterGap) + box;
         if (CWnd* bar = ScrollBarAt(AFX_IDW_VSCROLL_FIRST, row))
-            bar->MoveWindow(inside.right, y, bar_breadth(true),
+            bar->MoveWindow(inside.right, RowTop(row) + box, bar_breadth(true),
                             m_row_info[static_cast<std::size_t>(row)].nCurSize - box);
     }
-    for (int column = 0; (m_scroll_style & WS_HSCROLL) != 0 && column < m_nCols; ++column) {
+    for (int column = 0; m_bHasHScroll && column < m_nCols; ++column) {
         const int box = column == 0 && ShowsBox(false) ? box_size : 0;
-        const int x = EndOf(m_column_info, column, m_cxSplitterGap) + box;
         if (CWnd* bar = ScrollBarAt(AFX_IDW_HSCROLL_FIRST, column))
-            bar->MoveWindow(x, inside.bottom, m_column_info[static_cast<std::size_t>(column)].nCurSize - box,
-                            bar_breadth(false));
+            bar->MoveWindow(ColumnLeft(column) + box, inside.bottom,
+                            m_column_info[static_cast<std::size_t>(column)].nCurSize - box, bar_breadth(false));
     }
 }
 
@@ -107,22 +122,24 @@ bool CSplitterWnd::ShowsBox(bool row) const {
 CRect CSplitterWnd::BoxRect(bool row) const {
     const CRect inside = InsideRect();
     if (row) {
-        const int breadth = (m_scroll_style & WS_VSCROLL) != 0 ? bar_breadth(true) : box_size;
-        const int x = (m_scroll_style & WS_VSCROLL) != 0 ? inside.right : inside.right - breadth;
-        return CRect(x, 0, x + breadth, box_size);
+        const int breadth = m_bHasVScroll ? bar_breadth(true) : box_size;
+        const int x = m_bHasVScroll ? inside.right : inside.right - breadth;
+        return CRect(x, inside.top, x + breadth, inside.top + box_size);
     }
-    const int breadth = (m_scroll_style & WS_HSCROLL) != 0 ? bar_breadth(false) : box_size;
-    const int y = (m_scroll_style & WS_HSCROLL) != 0 ? inside.bottom : inside.bottom - breadth;
-    return CRect(0, y, box_size, y + breadth);
+    const int breadth = m_bHasHScroll ? bar_breadth(false) : box_size;
+    const int y = m_bHasHScroll ? inside.bottom : inside.bottom - breadth;
+    return CRect(inside.left, y, inside.left + box_size, y + breadth);
 }
 
+// From edge to edge, below the borders.
 CRect CSplitterWnd::BarRect(bool row, int index) const {
-    const CRect inside = InsideRect();
+    CRect inside = InsideRect();
+    inside.InflateRect(m_cxBorder, m_cyBorder);
     if (row) {
-        const int y = EndOf(m_row_info, index + 1, m_cySplitterGap) - m_cySplitterGap;
+        const int y = RowTop(index + 1) - m_cySplitterGap + m_cyBorderShare;
         return CRect(inside.left, y, inside.right, y + m_cySplitter);
     }
-    const int x = EndOf(m_column_info, index + 1, m_cxSplitterGap) - m_cxSplitterGap;
+    const int x = ColumnLeft(index + 1) - m_cxSplitterGap + m_cxBorderShare;
     return CRect(x, inside.top, x + m_cxSplitter, inside.bottom);
 }
 
@@ -138,8 +155,8 @@ void CSplitterWnd::OnDraw(CDC* pDC) {
     const HBRUSH face = ::GetSysColorBrush(COLOR_BTNFACE);
     ::FillRect(*pDC, CRect(inside.right, inside.bottom, client.right, client.bottom), face);
     for (bool row : {true, false}) {
-        const CRect strip = row ? CRect(inside.right, 0, client.right, inside.bottom)
-                                : CRect(0, inside.bottom, inside.right, client.bottom);
+        const CRect strip = row ? CRect(inside.right, client.top, client.right, inside.bottom)
+                                : CRect(client.left, inside.bottom, inside.right, client.bottom);
         ::FillRect(*pDC, strip, face);
         if (ShowsBox(row))
             OnDrawSplitter(pDC, splitBox, BoxRect(row));
@@ -152,6 +169,21 @@ void CSplitterWnd::DrawAllSplitBars(CDC* pDC, int, int) {
         OnDrawSplitter(pDC, splitBar, BarRect(true, row));
     for (int column = 0; column + 1 < m_nCols; ++column)
         OnDrawSplitter(pDC, splitBar, BarRect(false, column));
+    for (int row = 0; m_cxBorder > 0 && m_cyBorder > 0 && row < m_nRows; ++row) {
+        for (int column = 0; column < m_nCols; ++column)
+            OnDrawSplitter(pDC, splitBorder, BorderRect(row, column));
+    }
+}
+
+// Around a pane, and the shared bars behind the last ones.
+CRect CSplitterWnd::BorderRect(int row, int column) const {
+    CRect rect = PaneRect(row, column);
+    rect.InflateRect(m_cxBorder, m_cyBorder);
+    if (m_bHasVScroll && column + 1 == m_nCols)
+        rect.right += bar_breadth(true);
+    if (m_bHasHScroll && row + 1 == m_nRows)
+        rect.bottom += bar_breadth(false);
+    return rect;
 }
 
 BOOL CSplitterWnd::OnEraseBkgnd(CDC*) {
@@ -160,13 +192,16 @@ BOOL CSplitterWnd::OnEraseBkgnd(CDC*) {
 
 void CSplitterWnd::OnDrawSplitter(CDC* pDC, ESplitType nType, const CRect& rect) {
     CRect inside = rect;
+    if (nType == splitBorder) {
+        ::DrawEdge(*pDC, inside, EDGE_SUNKEN, BF_RECT);
+        return;
+    }
     ::FillRect(*pDC, inside, ::GetSysColorBrush(COLOR_BTNFACE));
-    if (nType != splitBorder)
-        ::DrawEdge(*pDC, inside, nType == splitBox ? EDGE_RAISED : BDR_RAISEDINNER, BF_RECT);
+    ::DrawEdge(*pDC, inside, nType == splitBox ? EDGE_RAISED : BDR_RAISEDINNER, BF_RECT);
 }
 
 DWORD CSplitterWnd::GetScrollStyle() const {
-    return m_scroll_style;
+    return (m_bHasHScroll ? WS_HSCROLL : 0) | (m_bHasVScroll ? WS_VSCROLL : 0);
 }
 
 CWnd* CSplitterWnd::ScrollBarAt(UINT first, int index) const {
@@ -175,20 +210,21 @@ CWnd* CSplitterWnd::ScrollBarAt(UINT first, int index) const {
 }
 
 void CSplitterWnd::SetScrollStyle(DWORD dwStyle) {
-    m_scroll_style = dwStyle & (WS_HSCROLL | WS_VSCROLL);
+    m_bHasHScroll = (dwStyle & WS_HSCROLL) != 0;
+    m_bHasVScroll = (dwStyle & WS_VSCROLL) != 0;
     for (int row = 0; row < m_nRows; ++row) {
         CWnd* bar = ScrollBarAt(AFX_IDW_VSCROLL_FIRST, row);
-        if ((m_scroll_style & WS_VSCROLL) != 0 && bar == nullptr)
+        if (m_bHasVScroll && bar == nullptr)
             CreateScrollBarCtrl(SBS_VERT, AFX_IDW_VSCROLL_FIRST + static_cast<UINT>(row));
         else if (bar != nullptr)
-            bar->ShowWindow((m_scroll_style & WS_VSCROLL) != 0 ? SW_SHOW : SW_HIDE);
+            bar->ShowWindow(m_bHasVScroll ? SW_SHOW : SW_HIDE);
     }
     for (int column = 0; column < m_nCols; ++column) {
         CWnd* bar = ScrollBarAt(AFX_IDW_HSCROLL_FIRST, column);
-        if ((m_scroll_style & WS_HSCROLL) != 0 && bar == nullptr)
+        if (m_bHasHScroll && bar == nullptr)
             CreateScrollBarCtrl(SBS_HORZ, AFX_IDW_HSCROLL_FIRST + static_cast<UINT>(column));
         else if (bar != nullptr)
-            bar->ShowWindow((m_scroll_style & WS_HSCROLL) != 0 ? SW_SHOW : SW_HIDE);
+            bar->ShowWindow(m_bHasHScroll ? SW_SHOW : SW_HIDE);
     }
 }
 

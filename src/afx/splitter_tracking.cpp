@@ -38,9 +38,9 @@ int CSplitterWnd::HitTest(CPoint pt) const {
 void CSplitterWnd::GetHitRect(int ht, CRect& rect) {
     const CRect inside = InsideRect();
     if (ht == vSplitterBox)
-        rect = CRect(inside.left, 0, inside.right, m_cySplitter);
+        rect = CRect(inside.left, inside.top, inside.right, inside.top + m_cySplitter);
     else if (ht == hSplitterBox)
-        rect = CRect(0, inside.top, m_cxSplitter, inside.bottom);
+        rect = CRect(inside.left, inside.top, inside.left + m_cxSplitter, inside.bottom);
     else
         rect = IsRowHit(ht) ? BarRect(true, ht - vSplitterBar1) : BarRect(false, ht - hSplitterBar1);
 }
@@ -151,13 +151,13 @@ int CSplitterWnd::Share(CRowColInfo* pair, int wanted) const {
 }
 
 void CSplitterWnd::TrackRowSize(int y, int row) {
-    const int goes = Share(m_pRowInfo + row, y - EndOf(m_row_info, row, m_cySplitterGap));
+    const int goes = Share(m_pRowInfo + row, y - m_cyBorderShare - RowTop(row));
     if (goes >= 0)
         DeleteRow(row + goes);
 }
 
 void CSplitterWnd::TrackColumnSize(int x, int col) {
-    const int goes = Share(m_pColInfo + col, x - EndOf(m_column_info, col, m_cxSplitterGap));
+    const int goes = Share(m_pColInfo + col, x - m_cxBorderShare - ColumnLeft(col));
     if (goes >= 0)
         DeleteColumn(col + goes);
 }
@@ -189,9 +189,9 @@ void CSplitterWnd::OnLButtonDblClk(UINT, CPoint point) {
         return;
     const CRect inside = InsideRect();
     if (ht == vSplitterBox) {
-        SplitRow(inside.Height() / 2);
+        SplitRow(inside.CenterPoint().y);
     } else if (ht == hSplitterBox) {
-        SplitColumn(inside.Width() / 2);
+        SplitColumn(inside.CenterPoint().x);
     } else if (IsCrossingHit(ht)) {
         DeleteRow((ht - splitterIntersection1) / most_bars + 1);
         DeleteColumn((ht - splitterIntersection1) % most_bars + 1);

@@ -207,6 +207,21 @@ BOOL CString::LoadString(HINSTANCE instance, UINT id) {
     return TRUE;
 }
 
+// A block of the table holds sixteen strings, each behind its length.
+BOOL CString::LoadString(HINSTANCE instance, UINT id, WORD language) {
+    m_text.clear();
+    const HRSRC found = ::FindResourceEx(instance, RT_STRING, MAKEINTRESOURCE(id / 16 + 1), language);
+    const HGLOBAL loaded = found != nullptr ? ::LoadResource(instance, found) : nullptr;
+    const auto* at = loaded != nullptr ? static_cast<const WCHAR*>(::LockResource(loaded)) : nullptr;
+    const WCHAR* end = at != nullptr ? at + ::SizeofResource(instance, found) / sizeof(WCHAR) : at;
+    for (UINT before = id % 16; before > 0 && at < end; --before)
+        at += *at + 1;
+    if (at >= end || *at == 0 || *at >= end - at)
+        return FALSE;
+    m_text = to_ansi(std::wstring(at + 1, *at).c_str());
+    return TRUE;
+}
+
 BSTR CString::AllocSysString() const {
     const int length = MultiByteToWideChar(CP_ACP, 0, m_text.c_str(), GetLength(), nullptr, 0);
     BSTR text = SysAllocStringLen(nullptr, static_cast<UINT>(length));

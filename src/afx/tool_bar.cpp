@@ -23,8 +23,8 @@ CToolBar::CToolBar() {
 
 CToolBar::~CToolBar() {
     CControlBar::DestroyWindow(); // before the images that it shows
-    if (m_images != nullptr)
-        ::DeleteObject(m_images);
+    if (m_hbmImageWell != nullptr)
+        ::DeleteObject(m_hbmImageWell);
 }
 
 BOOL CToolBar::Create(CWnd* pParentWnd, DWORD dwStyle, UINT nID) {
@@ -42,7 +42,7 @@ BOOL CToolBar::CreateEx(CWnd* pParentWnd, DWORD dwCtrlStyle, DWORD dwStyle, CRec
         return FALSE;
     SendMessage(TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON));
     SetOwner(pParentWnd);
-    SetSizes(m_button, m_image);
+    SetSizes(m_sizeButton, m_sizeImage);
     return TRUE;
 }
 
@@ -54,8 +54,8 @@ void CToolBar::SetOwner(CWnd* pOwnerWnd) {
 }
 
 void CToolBar::SetSizes(SIZE sizeButton, SIZE sizeImage) {
-    m_button = sizeButton;
-    m_image = sizeImage;
+    m_sizeButton = sizeButton;
+    m_sizeImage = sizeImage;
     if (m_hWnd == nullptr)
         return;
     SendMessage(TB_SETBITMAPSIZE, 0, MAKELPARAM(sizeImage.cx, sizeImage.cy));
@@ -64,7 +64,7 @@ void CToolBar::SetSizes(SIZE sizeButton, SIZE sizeImage) {
 }
 
 void CToolBar::SetHeight(int cyHeight) {
-    const int room = std::max<int>(cyHeight - m_button.cy, 0);
+    const int room = std::max<int>(cyHeight - m_sizeButton.cy, 0);
     m_cyTopBorder = room / 2;
     m_cyBottomBorder = room - m_cyTopBorder;
     Invalidate();
@@ -131,19 +131,19 @@ BOOL CToolBar::AddReplaceBitmap(HBITMAP hbmImageWell) {
     BITMAP bitmap;
     if (hbmImageWell == nullptr || ::GetObject(hbmImageWell, sizeof(bitmap), &bitmap) == 0)
         return FALSE;
-    const int images = m_image.cx > 0 ? bitmap.bmWidth / m_image.cx : 0;
+    const int images = m_sizeImage.cx > 0 ? bitmap.bmWidth / m_sizeImage.cx : 0;
     bool shown = false;
-    if (m_images == nullptr) {
+    if (m_hbmImageWell == nullptr) {
         TBADDBITMAP add{nullptr, reinterpret_cast<UINT_PTR>(hbmImageWell)};
         shown = SendMessage(TB_ADDBITMAP, static_cast<WPARAM>(images), reinterpret_cast<LPARAM>(&add)) != -1;
     } else {
-        TBREPLACEBITMAP replace{nullptr, reinterpret_cast<UINT_PTR>(m_images), nullptr,
+        TBREPLACEBITMAP replace{nullptr, reinterpret_cast<UINT_PTR>(m_hbmImageWell), nullptr,
                                 reinterpret_cast<UINT_PTR>(hbmImageWell), images};
         shown = SendMessage(TB_REPLACEBITMAP, 0, reinterpret_cast<LPARAM>(&replace)) != 0;
     }
     if (!shown)
         return FALSE;
-    if (HBITMAP before = std::exchange(m_images, hbmImageWell))
+    if (HBITMAP before = std::exchange(m_hbmImageWell, hbmImageWell))
         ::DeleteObject(before);
     m_images_module = nullptr;
     return TRUE;

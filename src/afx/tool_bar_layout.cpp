@@ -68,7 +68,7 @@ CSize CToolBar::SizeOfButtons() const {
         at = ends ? 0 : at;
     }
     if (count == 0)
-        size = m_button;
+        size = m_sizeButton;
     return size;
 }
 
@@ -106,7 +106,7 @@ void CToolBar::WrapToHeight(int height) {
     constexpr int endless = 32767;
     WrapButtons(endless);
     int width = SizeOfButtons().cx;
-    for (int narrower = width; narrower > 0; narrower -= m_button.cx) {
+    for (int narrower = width; narrower > 0; narrower -= m_sizeButton.cx) {
         WrapButtons(narrower);
         if (SizeOfButtons().cy > height)
             break;
