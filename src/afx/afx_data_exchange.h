@@ -40,7 +40,6 @@ ZOPAFX_API void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, CString& value);
 ZOPAFX_API void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, LPTSTR value, int nMaxLen);
 ZOPAFX_API void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, float& value);
 ZOPAFX_API void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, double& value);
-ZOPAFX_API void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, ATL::COleDateTime& value);
 ZOPAFX_API void AFXAPI DDX_Check(CDataExchange* pDX, int nIDC, int& value);
 // The id of a group's first button; the value counts the group's radio buttons, -1 where none is chosen.
 ZOPAFX_API void AFXAPI DDX_Radio(CDataExchange* pDX, int nIDC, int& value);
@@ -54,10 +53,8 @@ ZOPAFX_API void AFXAPI DDX_Scroll(CDataExchange* pDX, int nIDC, int& value);
 ZOPAFX_API void AFXAPI DDX_Slider(CDataExchange* pDX, int nIDC, int& value);
 ZOPAFX_API void AFXAPI DDX_IPAddress(CDataExchange* pDX, int nIDC, DWORD& value);
 ZOPAFX_API void AFXAPI DDX_DateTimeCtrl(CDataExchange* pDX, int nIDC, CTime& value);
-ZOPAFX_API void AFXAPI DDX_DateTimeCtrl(CDataExchange* pDX, int nIDC, ATL::COleDateTime& value);
 ZOPAFX_API void AFXAPI DDX_DateTimeCtrl(CDataExchange* pDX, int nIDC, CString& value);
 ZOPAFX_API void AFXAPI DDX_MonthCalCtrl(CDataExchange* pDX, int nIDC, CTime& value);
-ZOPAFX_API void AFXAPI DDX_MonthCalCtrl(CDataExchange* pDX, int nIDC, ATL::COleDateTime& value);
 
 // Each right behind its control's DDX function. While values are shown, a length limits what can be entered, the
 // bounds of times and sliders become the control's; a number out of its bounds is shown as it is.
@@ -76,9 +73,31 @@ ZOPAFX_API void AFXAPI DDV_MinMaxDouble(CDataExchange* pDX, const double& value,
 ZOPAFX_API void AFXAPI DDV_MinMaxSlider(CDataExchange* pDX, DWORD value, DWORD minVal, DWORD maxVal);
 ZOPAFX_API void AFXAPI DDV_MinMaxDateTime(CDataExchange* pDX, CTime& refValue, const CTime* pMinRange,
                                           const CTime* pMaxRange);
-ZOPAFX_API void AFXAPI DDV_MinMaxDateTime(CDataExchange* pDX, ATL::COleDateTime& refValue,
-                                          const ATL::COleDateTime* pMinRange, const ATL::COleDateTime* pMaxRange);
 ZOPAFX_API void AFXAPI DDV_MinMaxMonth(CDataExchange* pDX, CTime& refValue, const CTime* pMinRange,
                                        const CTime* pMaxRange);
-ZOPAFX_API void AFXAPI DDV_MinMaxMonth(CDataExchange* pDX, ATL::COleDateTime& refValue,
-                                       const ATL::COleDateTime* pMinRange, const ATL::COleDateTime* pMaxRange);
+
+// The same with times of automation.
+ZOPAFX_API void AFXAPI afx_text_of_date(CDataExchange* pDX, int nIDC, ATL::COleDateTime& value);
+ZOPAFX_API void AFXAPI afx_date_of_control(CDataExchange* pDX, int nIDC, ATL::COleDateTime& value);
+ZOPAFX_API void AFXAPI afx_date_of_month(CDataExchange* pDX, int nIDC, ATL::COleDateTime& value);
+ZOPAFX_API void AFXAPI afx_date_between(CDataExchange* pDX, ATL::COleDateTime& refValue,
+                                        const ATL::COleDateTime* pMinRange, const ATL::COleDateTime* pMaxRange);
+ZOPAFX_API void AFXAPI afx_month_between(CDataExchange* pDX, ATL::COleDateTime& refValue,
+                                         const ATL::COleDateTime* pMinRange, const ATL::COleDateTime* pMaxRange);
+inline void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, ATL::COleDateTime& value) {
+    afx_text_of_date(pDX, nIDC, value);
+}
+inline void AFXAPI DDX_DateTimeCtrl(CDataExchange* pDX, int nIDC, ATL::COleDateTime& value) {
+    afx_date_of_control(pDX, nIDC, value);
+}
+inline void AFXAPI DDX_MonthCalCtrl(CDataExchange* pDX, int nIDC, ATL::COleDateTime& value) {
+    afx_date_of_month(pDX, nIDC, value);
+}
+inline void AFXAPI DDV_MinMaxDateTime(CDataExchange* pDX, ATL::COleDateTime& refValue,
+                                      const ATL::COleDateTime* pMinRange, const ATL::COleDateTime* pMaxRange) {
+    afx_date_between(pDX, refValue, pMinRange, pMaxRange);
+}
+inline void AFXAPI DDV_MinMaxMonth(CDataExchange* pDX, ATL::COleDateTime& refValue, const ATL::COleDateTime* pMinRange,
+                                   const ATL::COleDateTime* pMaxRange) {
+    afx_month_between(pDX, refValue, pMinRange, pMaxRange);
+}

@@ -316,44 +316,22 @@ public:
         return ::GdiGradientFill(m_hDC, pVertices, nVertices, pMesh, nMeshElements, dwMode);
     }
 
-#include "afx_dc_text.h"
-
     BOOL ScrollDC(int dx, int dy, LPCRECT lpRectScroll, LPCRECT lpRectClip, CRgn* pRgnUpdate, LPRECT lpRectUpdate) {
         return ::ScrollDC(m_hDC, dx, dy, lpRectScroll, lpRectClip, RegionOf(pRgnUpdate), lpRectUpdate);
     }
 
     // Paths.
-    BOOL BeginPath() {
-        return ::BeginPath(m_hDC);
-    }
-    BOOL EndPath() {
-        return ::EndPath(m_hDC);
-    }
-    BOOL AbortPath() {
-        return ::AbortPath(m_hDC);
-    }
-    BOOL CloseFigure() {
-        return ::CloseFigure(m_hDC);
-    }
-    BOOL FillPath() {
-        return ::FillPath(m_hDC);
-    }
-    BOOL FlattenPath() {
-        return ::FlattenPath(m_hDC);
-    }
-    BOOL StrokePath() {
-        return ::StrokePath(m_hDC);
-    }
-    BOOL StrokeAndFillPath() {
-        return ::StrokeAndFillPath(m_hDC);
-    }
-    BOOL WidenPath() {
-        return ::WidenPath(m_hDC);
-    }
+    BOOL BeginPath() { return ::BeginPath(m_hDC); }
+    BOOL EndPath() { return ::EndPath(m_hDC); }
+    BOOL AbortPath() { return ::AbortPath(m_hDC); }
+    BOOL CloseFigure() { return ::CloseFigure(m_hDC); }
+    BOOL FillPath() { return ::FillPath(m_hDC); }
+    BOOL FlattenPath() { return ::FlattenPath(m_hDC); }
+    BOOL StrokePath() { return ::StrokePath(m_hDC); }
+    BOOL StrokeAndFillPath() { return ::StrokeAndFillPath(m_hDC); }
+    BOOL WidenPath() { return ::WidenPath(m_hDC); }
     float GetMiterLimit() const;
-    BOOL SetMiterLimit(float fMiterLimit) {
-        return ::SetMiterLimit(m_hDC, fMiterLimit, nullptr);
-    }
+    BOOL SetMiterLimit(float fMiterLimit) { return ::SetMiterLimit(m_hDC, fMiterLimit, nullptr); }
     int GetPath(LPPOINT lpPoints, LPBYTE lpTypes, int nCount) const {
         return ::GetPath(m_hDC, lpPoints, lpTypes, nCount);
     }
@@ -369,28 +347,14 @@ public:
     int DrawEscape(int nEscape, int nInputSize, LPCSTR lpszInputData) {
         return ::DrawEscape(m_hDC, nEscape, nInputSize, lpszInputData);
     }
-    int StartDoc(LPDOCINFO lpDocInfo) {
-        return ::StartDoc(m_hDC, lpDocInfo);
-    }
+    int StartDoc(LPDOCINFO lpDocInfo) { return ::StartDoc(m_hDC, lpDocInfo); }
     int StartDoc(LPCTSTR lpszDocName);
-    int StartPage() {
-        return ::StartPage(m_hDC);
-    }
-    int EndPage() {
-        return ::EndPage(m_hDC);
-    }
-    int SetAbortProc(BOOL(CALLBACK* lpfn)(HDC, int)) {
-        return ::SetAbortProc(m_hDC, lpfn);
-    }
-    int AbortDoc() {
-        return ::AbortDoc(m_hDC);
-    }
-    int EndDoc() {
-        return ::EndDoc(m_hDC);
-    }
-    BOOL PlayMetaFile(HMETAFILE hMF) {
-        return ::PlayMetaFile(m_hDC, hMF);
-    }
+    int StartPage() { return ::StartPage(m_hDC); }
+    int EndPage() { return ::EndPage(m_hDC); }
+    int SetAbortProc(BOOL(CALLBACK* lpfn)(HDC, int)) { return ::SetAbortProc(m_hDC, lpfn); }
+    int AbortDoc() { return ::AbortDoc(m_hDC); }
+    int EndDoc() { return ::EndDoc(m_hDC); }
+    BOOL PlayMetaFile(HMETAFILE hMF) { return ::PlayMetaFile(m_hDC, hMF); }
     BOOL PlayMetaFile(HENHMETAFILE hEnhMetaFile, LPCRECT lpBounds) {
         return ::PlayEnhMetaFile(m_hDC, hEnhMetaFile, lpBounds);
     }
@@ -405,15 +369,9 @@ protected:
 
 private:
     BOOL AttachNew(HDC hDC);
-    HGDIOBJ Current(UINT kind) const {
-        return ::GetCurrentObject(m_hAttribDC, kind);
-    }
-    static HBRUSH BrushOf(const CBrush* pBrush) {
-        return static_cast<HBRUSH>(pBrush->GetSafeHandle());
-    }
-    static HRGN RegionOf(const CRgn* pRgn) {
-        return static_cast<HRGN>(pRgn->GetSafeHandle());
-    }
+    HGDIOBJ Current(UINT kind) const { return ::GetCurrentObject(m_hAttribDC, kind); }
+    static HBRUSH BrushOf(const CBrush* pBrush) { return static_cast<HBRUSH>(pBrush->GetSafeHandle()); }
+    static HRGN RegionOf(const CRgn* pRgn) { return static_cast<HRGN>(pRgn->GetSafeHandle()); }
 
     // What changes an attribute changes both contexts; the answer is the attribute context's.
     template <class Result, class Function, class... Arguments> Result Both(Function function, Arguments... arguments) {
@@ -437,6 +395,9 @@ private:
         function(dc, xn, xd, yn, yd, &before);
         return before;
     }
+
+public:
+#include "afx_dc_text.h"
 };
 
 // The contexts of a window's client area, of the whole window, and of one painting.

@@ -106,12 +106,12 @@ void AFXAPI DDV_MinMaxMonth(CDataExchange* pDX, CTime& refValue, const CTime* pM
     check_time(pDX, refValue, pMinRange, pMaxRange, MCM_SETRANGE);
 }
 
-void AFXAPI DDV_MinMaxDateTime(CDataExchange* pDX, COleDateTime& refValue, const COleDateTime* pMinRange,
-                               const COleDateTime* pMaxRange) {
+void AFXAPI afx_date_between(CDataExchange* pDX, COleDateTime& refValue, const COleDateTime* pMinRange,
+                             const COleDateTime* pMaxRange) {
     check_time(pDX, refValue, pMinRange, pMaxRange, DTM_SETRANGE);
 }
 
-void AFXAPI DDV_MinMaxMonth(CDataExchange* pDX, COleDateTime& refValue, const COleDateTime* pMinRange,
-                            const COleDateTime* pMaxRange) {
+void AFXAPI afx_month_between(CDataExchange* pDX, COleDateTime& refValue, const COleDateTime* pMinRange,
+                              const COleDateTime* pMaxRange) {
     check_time(pDX, refValue, pMinRange, pMaxRange, MCM_SETRANGE);
 }

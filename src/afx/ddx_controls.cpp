@@ -195,7 +195,7 @@ void AFXAPI DDX_MonthCalCtrl(CDataExchange* pDX, int nIDC, CTime& value) {
     }
 }
 
-void AFXAPI DDX_DateTimeCtrl(CDataExchange* pDX, int nIDC, COleDateTime& value) {
+void AFXAPI afx_date_of_control(CDataExchange* pDX, int nIDC, COleDateTime& value) {
     const HWND control = pDX->PrepareCtrl(nIDC);
     if (pDX->m_bSaveAndValidate) {
         SYSTEMTIME fields{};
@@ -208,7 +208,7 @@ void AFXAPI DDX_DateTimeCtrl(CDataExchange* pDX, int nIDC, COleDateTime& value) 
     }
 }
 
-void AFXAPI DDX_MonthCalCtrl(CDataExchange* pDX, int nIDC, COleDateTime& value) {
+void AFXAPI afx_date_of_month(CDataExchange* pDX, int nIDC, COleDateTime& value) {
     const HWND control = pDX->PrepareCtrl(nIDC);
     afx_date_range day(&value, nullptr);
     if (pDX->m_bSaveAndValidate) {

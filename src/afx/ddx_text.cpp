@@ -149,7 +149,7 @@ void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, double& value) {
     exchange_real(pDX, nIDC, value, DBL_DIG);
 }
 
-void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, COleDateTime& value) {
+void AFXAPI afx_text_of_date(CDataExchange* pDX, int nIDC, COleDateTime& value) {
     const HWND control = pDX->PrepareEditCtrl(nIDC);
     if (!pDX->m_bSaveAndValidate)
         show(control, value.Format());
