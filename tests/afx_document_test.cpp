@@ -273,6 +273,12 @@ TEST_F(AfxSeveralDocuments, AreOpenedByTheShellsCommands) {
     };
     EXPECT_EQ(talk(WM_DDE_INITIATE, 0), 0) << "nobody is asked for";
     the_app.EnableShellOpen();
+    EXPECT_EQ(talk(WM_DDE_EXECUTE, 0), 0) << "nor told by whom nobody talks to";
+    frame->SendMessage(WM_DDE_TERMINATE, reinterpret_cast<WPARAM>(frame->m_hWnd));
+    frame->SendMessage(WM_DDE_TERMINATE);
+    frame->SendMessage(WM_DDE_EXECUTE);
+    MSG answer;
+    EXPECT_FALSE(::PeekMessage(&answer, *frame, WM_DDE_FIRST, WM_DDE_LAST, PM_NOREMOVE));
     EXPECT_EQ(talk(WM_DDE_INITIATE, MAKELPARAM(the_app.m_atomApp, the_app.m_atomSystemTopic)), 1);
     const std::string command = std::string("[open(\"") + file.name() + "\")]";
     const HGLOBAL memory = ::GlobalAlloc(GMEM_FIXED, command.size()); // without the end of a text

@@ -359,8 +359,15 @@ TEST_F(AfxDynamicSplitter, FollowsTheMouseToCrossingsAndBackAgain) {
     EXPECT_EQ(::GetCapture(), nullptr);
     send(WM_LBUTTONDBLCLK, CPoint(moved.x, 10));
     EXPECT_TRUE(splitter.GetColumnCount() == 1 && splitter.GetRowCount() == 2);
+    send(WM_LBUTTONDOWN, CPoint(10, moved.y));
+    frame.SetCapture();
+    EXPECT_TRUE(splitter.log.ends_with("stop 0")) << "another has the mouse";
+    ::ReleaseCapture();
     send(WM_LBUTTONDBLCLK, CPoint(10, moved.y));
     EXPECT_EQ(splitter.GetRowCount(), 1);
+    splitter.DeleteRow(0);
+    splitter.DeleteColumn(-1);
+    EXPECT_EQ(splitter.GetRowCount() * splitter.GetColumnCount(), 1) << "the last pane stays";
 }
 
 TEST_F(AfxDynamicSplitter, SplitsWherePulledAndJoinsWhatBecomesTooSmall) {
@@ -394,6 +401,9 @@ TEST_F(AfxDynamicSplitter, TurnsPanesThatShareABarTogether) {
     frame.SetActiveView(&view);
     splitter.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA));
     EXPECT_EQ(view.GetScrollPosition().y, 30) << "each by as much, from where it was";
+    splitter.SendMessage(WM_VSCROLL, SB_BOTTOM);
+    splitter.SendMessage(WM_HSCROLL, SB_RIGHT);
+    EXPECT_EQ(view.GetScrollPosition().y, 30) << "by a bar of its own, which is not there";
 }
 
 TEST(AfxSplitter, HoldsPanesOfItsOwnAndSplittersAgain) {

@@ -215,6 +215,6 @@ void CSplitterWnd::OnCancelMode() {
 }
 
 void CSplitterWnd::OnCaptureChanged(CWnd* pWnd) {
-    if (pWnd != this)
+    if (m_bTracking && pWnd != this)
         StopTracking(FALSE);
 }
