@@ -96,7 +96,6 @@ template <class A, class B> constexpr std::common_type_t<A, B> max(A a, B b) {
 #define AFX_CORE_DATA
 #define AFX_COMDAT
 #define AFX_NOVTABLE
-#define AFX_MSG_CALL
 
 #ifdef _AFXEXT
 #define AFX_EXT_CLASS __declspec(dllexport)

@@ -13,8 +13,9 @@ public:
     ~shared_bar() { move_to(m_after); } // also past panes that do not scroll
     shared_bar(const shared_bar&) = delete;
     shared_bar& operator=(const shared_bar&) = delete;
-    void begin() const { move_to(m_before); }
-    void end() {
+    template <class Scroll> void let(Scroll scroll) {
+        move_to(m_before);
+        scroll();
         const int now = ::GetScrollPos(m_bar, SB_CTL);
         m_after = now != m_before ? now : m_after;
     }
@@ -40,10 +41,10 @@ void CSplitterWnd::OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar) {
     const HWND handle = pScrollBar->m_hWnd;
     shared_bar bar(pScrollBar);
     for (int row = 0; row < m_nRows; ++row) {
-        bar.begin();
-        if (CWnd* pane = GetPane(row, column))
-            pane->SendMessage(WM_HSCROLL, MAKELONG(nSBCode, nPos), reinterpret_cast<LPARAM>(handle));
-        bar.end();
+        bar.let([&] {
+            if (CWnd* pane = GetPane(row, column))
+                pane->SendMessage(WM_HSCROLL, MAKELONG(nSBCode, nPos), reinterpret_cast<LPARAM>(handle));
+        });
     }
 }
 
@@ -56,10 +57,10 @@ void CSplitterWnd::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar) {
     const HWND handle = pScrollBar->m_hWnd;
     shared_bar bar(pScrollBar);
     for (int column = 0; column < m_nCols; ++column) {
-        bar.begin();
-        if (CWnd* pane = GetPane(row, column))
-            pane->SendMessage(WM_VSCROLL, MAKELONG(nSBCode, nPos), reinterpret_cast<LPARAM>(handle));
-        bar.end();
+        bar.let([&] {
+            if (CWnd* pane = GetPane(row, column))
+                pane->SendMessage(WM_VSCROLL, MAKELONG(nSBCode, nPos), reinterpret_cast<LPARAM>(handle));
+        });
     }
 }
 
@@ -74,9 +75,7 @@ template <class Scroll> BOOL CSplitterWnd::ScrollWith(CView* view, bool rows, Sc
         auto* pane = DYNAMIC_DOWNCAST(CView, rows ? GetPane(row, i) : GetPane(i, column));
         if (pane == nullptr)
             continue;
-        bar.begin();
-        scrolled = scroll(*pane) || scrolled;
-        bar.end();
+        bar.let([&] { scrolled = scroll(*pane) || scrolled; });
     }
     return scrolled;
 }

@@ -29,16 +29,7 @@ void CTreeCtrl::OnDestroy() {
 
 BOOL CTreeCtrl::SetItem(HTREEITEM hItem, UINT nMask, LPCTSTR lpszItem, int nImage, int nSelectedImage, UINT nState,
                         UINT nStateMask, LPARAM lParam) {
-    TVITEM item{};
-    item.hItem = hItem;
-    item.mask = nMask;
-    item.pszText = const_cast<LPTSTR>(lpszItem);
-    item.iImage = nImage;
-    item.iSelectedImage = nSelectedImage;
-    item.state = nState;
-    item.stateMask = nStateMask;
-    item.lParam = lParam;
-    return SetItem(&item);
+    return SetItemEx(hItem, nMask, lpszItem, nImage, nSelectedImage, nState, nStateMask, lParam, 0, nullptr, 0);
 }
 
 BOOL CTreeCtrl::SetItemEx(HTREEITEM hItem, UINT nMask, LPCTSTR lpszItem, int nImage, int nSelectedImage, UINT nState,
