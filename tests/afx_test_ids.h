@@ -40,3 +40,4 @@
 #define IDB_UP 161
 #define IDB_DOWN 162
 #define IDR_NEW_CONTROLS 163
+#define IDD_LAYOUT 164

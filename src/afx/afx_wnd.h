@@ -8,6 +8,7 @@
 class CDataExchange;
 class CFrameWnd;
 class CListBox;
+class CMFCDynamicLayout;
 class CScrollBar;
 class CView;
 struct CCreateContext;
@@ -271,6 +272,12 @@ public:
         MapWindowPoints(pwndTo, reinterpret_cast<LPPOINT>(lpRect), 2);
     }
 
+    // Children that follow the window's size; see afxlayout.h. Dialogs and form views whose template has an
+    // AFX_DIALOG_LAYOUT of its name have one. Null where none is enabled.
+    void EnableDynamicLayout(BOOL bEnable = TRUE);
+    BOOL IsDynamicLayoutEnabled() const { return m_pDynamicLayout != nullptr; }
+    CMFCDynamicLayout* GetDynamicLayout() { return m_pDynamicLayout; }
+
     // State.
     BOOL ShowWindow(int nCmdShow) { return ::ShowWindow(m_hWnd, nCmdShow); }
     BOOL IsWindowVisible() const { return ::IsWindowVisible(m_hWnd); }
@@ -401,6 +408,11 @@ protected:
     LRESULT Default();
     static const MSG* PASCAL GetCurrentMessage();
 
+    BOOL LoadDynamicLayoutResource(LPCTSTR lpszResourceName);
+    void InitDynamicLayout();
+    // After the window's other work for its new size.
+    virtual void ResizeDynamicLayout();
+
     // A child dialog; its template is one of the resource chain.
     BOOL CreateDlg(LPCTSTR lpszTemplateName, CWnd* pParentWnd);
     BOOL CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, HINSTANCE hInst);
@@ -409,6 +421,7 @@ protected:
 
     HWND m_hWndOwner = nullptr;
     WNDPROC m_pfnSuper = nullptr;
+    CMFCDynamicLayout* m_pDynamicLayout = nullptr;
     bool m_modal = false;
     bool m_has_tips = false;
     int m_nModalResult = -1;

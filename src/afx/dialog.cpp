@@ -154,6 +154,8 @@ BOOL CDialog::OnInitDialog() {
     const BOOL filled = m_lpDialogInit != nullptr       ? ExecuteDlgInit(m_lpDialogInit)
                         : m_lpszTemplateName != nullptr ? ExecuteDlgInit(m_lpszTemplateName)
                                                         : TRUE;
+    if (m_lpszTemplateName != nullptr)
+        LoadDynamicLayoutResource(m_lpszTemplateName);
     if (filled && UpdateData(FALSE))
         return TRUE;
     EndDialog(-1);

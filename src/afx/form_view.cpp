@@ -52,6 +52,7 @@ int CFormView::OnCreate(LPCREATESTRUCT lpCreateStruct) {
 LRESULT CFormView::HandleInitDialog(WPARAM, LPARAM) {
     Default();
     ExecuteDlgInit(m_lpszTemplateName);
+    LoadDynamicLayoutResource(m_lpszTemplateName);
     return FALSE; // no focus yet: it would go, and the form be asked, before its data is there
 }
 

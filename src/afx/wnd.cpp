@@ -1,6 +1,7 @@
 // Windows and their objects: attachment, creation, destruction.
 #include "afx_app.h"
 #include "afx_exception.h"
+#include "afxlayout.h"
 #include "afxmsg_.h"
 #include "handle_map.h"
 #include "wnd_state.h"
@@ -60,6 +61,7 @@ CWnd::~CWnd() {
     // The derived parts are gone: their handlers no longer see the messages of this destruction.
     if (m_hWnd != nullptr && FromHandlePermanent(m_hWnd) == this)
         CWnd::DestroyWindow();
+    EnableDynamicLayout(FALSE);
     CWinThread* thread = AfxGetThread();
     if (thread != nullptr && thread->m_pMainWnd == this)
         thread->m_pMainWnd = nullptr; // it had no window, or not any more
@@ -166,6 +168,8 @@ void CWnd::OnNcDestroy() {
     if (m_pfnSuper != nullptr && ::GetWindowLongPtr(m_hWnd, GWLP_WNDPROC) == before)
         ::SetWindowLongPtr(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(m_pfnSuper));
     m_pfnSuper = nullptr;
+    if (m_pDynamicLayout != nullptr)
+        m_pDynamicLayout->Create(nullptr); // the object may have another window later
     Detach();
     PostNcDestroy();
 }

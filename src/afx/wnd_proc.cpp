@@ -94,7 +94,10 @@ LRESULT AfxCallWndProc(CWnd* wnd, HWND hwnd, UINT message, WPARAM wParam, LPARAM
     const message_scope scope(current);
     AFX_MANAGE_STATE(wnd->m_module_state);
     try {
-        return wnd->WindowProc(message, wParam, lParam);
+        const LRESULT answer = wnd->WindowProc(message, wParam, lParam);
+        if (message == WM_SIZE && CWnd::FromHandlePermanent(hwnd) == wnd)
+            wnd->ResizeDynamicLayout();
+        return answer;
     } catch (...) {
         return answer_exception(current);
     }
