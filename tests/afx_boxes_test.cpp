@@ -142,6 +142,8 @@ TEST_F(AfxBoxes, EditsGiveTheirLinesAndTakeTextsBack) {
     EXPECT_EQ(std::string(line, static_cast<std::size_t>(length)), "second line");
     EXPECT_EQ(edit.GetLine(1, line, 4), 4) << "no more than there is room for";
     EXPECT_EQ(edit.GetLine(9, line, sizeof(line)), 0);
+    line[1] = '?';
+    EXPECT_TRUE(edit.GetLine(1, line, 1) == 1 && line[1] == '?');
     EXPECT_TRUE(edit.LineIndex(1) == 7 && edit.LineLength(7) == 11 && edit.LineFromChar(8) == 1);
     edit.SetSel(7, 13);
     edit.ReplaceSel("2nd", TRUE);

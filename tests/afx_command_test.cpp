@@ -53,6 +53,7 @@ protected:
     void OnNcXButtonDown(short hit, UINT button, CPoint at) { note("ncx", hit, button, at.x); }
     void OnMouseHWheel(UINT flags, short delta, CPoint at) { note("hwheel", flags, delta, at.x); }
     void OnAppCommand(CWnd* wnd, UINT id, UINT device, UINT keys) { note("app", is(wnd), id, device, keys); }
+    void OnInputLangChange(UINT set, UINT layout) { note("language", set, layout); }
     void OnSessionChange(UINT state, UINT id) { note("session", state, id); }
     UINT OnMenuDrag(UINT at, CMenu* menu) { return note("drag", at, menu == nullptr), MND_ENDMENU; }
     LRESULT OnOwn(WPARAM w, LPARAM l) { return note("own", w, l), 42; }
@@ -89,6 +90,7 @@ ON_WM_PARENTNOTIFY()
 ON_WM_NCXBUTTONDOWN()
 ON_WM_MOUSEHWHEEL()
 ON_WM_APPCOMMAND()
+ON_WM_INPUTLANGCHANGE()
 ON_WM_WTSSESSION_CHANGE()
 ON_WM_MENUDRAG()
 #ifdef __clang__
@@ -134,9 +136,10 @@ TEST(AfxMessageMap, HandlersSeeTheParametersOfTheirMessages) {
         {WM_COPYDATA, static_cast<WPARAM>(self), reinterpret_cast<LPARAM>(&data), "copy 1 5", 1},
         {WM_DISPLAYCHANGE, 32, MAKELPARAM(640, 480), "display 32 640 480", 0},
         {WM_PARENTNOTIFY, MAKEWPARAM(WM_LBUTTONDOWN, 9), point, "parent 513 9", 0},
-        {WM_NCXBUTTONDOWN, MAKEWPARAM(HTTRANSPARENT, XBUTTON2), point, "ncx -1 2 -3", 0},
+        {WM_NCXBUTTONDOWN, MAKEWPARAM(HTTRANSPARENT, XBUTTON2), point, "ncx -1 2 -3", 1},
         {WM_MOUSEHWHEEL, MAKEWPARAM(MK_SHIFT, -120), point, "hwheel 4 -120 -3", 0},
-        {WM_APPCOMMAND, static_cast<WPARAM>(self), MAKELPARAM(MK_CONTROL, FAPPCOMMAND_MOUSE | 8), "app 1 8 32768 8", 0},
+        {WM_APPCOMMAND, static_cast<WPARAM>(self), MAKELPARAM(MK_CONTROL, FAPPCOMMAND_MOUSE | 8), "app 1 8 32768 8", 1},
+        {WM_INPUTLANGCHANGE, 1, 0x4190409, "language 1 68748297", 1},
         {WM_WTSSESSION_CHANGE, WTS_SESSION_LOCK, 0x12345, "session 7 74565", 0},
         {WM_MENUDRAG, 3, 0, "drag 3 1", MND_ENDMENU},
         {WM_USER + 3, 5, -6, "own 5 -6", 42},
@@ -153,6 +156,10 @@ TEST(AfxMessageMap, HandlersSeeTheParametersOfTheirMessages) {
     wnd.SendMessage(WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&info));
     EXPECT_EQ(info.ptMinTrackSize.y, 12);
     EXPECT_EQ(wnd.SendMessage(registered + 1), 0) << "another registered message";
+    wnd.log.clear();
+    EXPECT_THROW(wnd.WindowProc(registered, 0, 0x123456789A), CNotSupportedException*) << "a pointer, perhaps";
+    EXPECT_THROW(wnd.WindowProc(registered, 0x123456789A, 0), CNotSupportedException*);
+    EXPECT_THAT(wnd.log, ElementsAre());
 }
 
 // Commands by range, with an answer, and their updates.
@@ -289,9 +296,11 @@ TEST(AfxReflection, GivesAControlItsMessagesBeforeItsParent) {
     EXPECT_EQ(parent.SendMessage(WM_COMPAREITEM, 7, reinterpret_cast<LPARAM>(&compare)), -1);
     CListCtrl list;
     ASSERT_TRUE(list.Create(WS_CHILD | LVS_REPORT, CRect(0, 0, 50, 50), &parent, 8));
-    for (const UINT message : {WM_NOTIFY, WM_DRAWITEM, WM_MEASUREITEM, WM_DELETEITEM, WM_COMPAREITEM})
+    for (const UINT message : std::initializer_list<UINT>{WM_NOTIFY, WM_DRAWITEM, WM_MEASUREITEM, WM_DELETEITEM,
+                                                          WM_COMPAREITEM, WM_SIZEPARENT})
         for (CWnd* window : {static_cast<CWnd*>(&parent), static_cast<CWnd*>(&list)})
             EXPECT_EQ(window->SendMessage(message, 7, 0), 0) << "without its record";
+    parent.SendMessage(WM_CTLCOLOR, 7, 0);
     parent.UpdateDialogControls(&parent, FALSE);
     EXPECT_FALSE(control.IsWindowEnabled());
     EXPECT_THAT(control.log, ElementsAre("clicked", "clicked", "notified", "color 3", "color 3", "scroll 1 3", "draw 4",

@@ -180,6 +180,11 @@ TEST_F(AfxCommonControls, DatesMayBeNoneAtAll) {
     EXPECT_TRUE(picker.SetTime());
     EXPECT_EQ(picker.GetTime(found), static_cast<DWORD>(GDT_NONE));
     EXPECT_EQ(found, day) << "left alone";
+    CTime never;
+    CDataExchange data(&parent, FALSE);
+    EXPECT_TRUE(picker.SetTime(&day));
+    DDX_DateTimeCtrl(&data, 1, never);
+    EXPECT_EQ(picker.GetTime(found), static_cast<DWORD>(GDT_NONE));
     CTime least, most;
     EXPECT_EQ(picker.GetRange(&least, &most), 0u);
     EXPECT_EQ(least, CTime());
@@ -249,6 +254,8 @@ TEST_F(AfxCommonControls, TipsAreChangedAndTakenBack) {
     EXPECT_EQ(text, "second");
     tips.GetText(text, &parent, 3);
     EXPECT_EQ(text, "Caption of its own");
+    tips.GetText(text, &parent, 99);
+    EXPECT_EQ(text, "");
     TOOLINFO found{};
     EXPECT_TRUE(tips.HitTest(&parent, CPoint(55, 5), &found) && found.uId == 3);
     tips.SetToolRect(&parent, 3, CRect(70, 0, 80, 10));
@@ -310,7 +317,7 @@ TEST_F(AfxCommonControls, ADraggedItemGoesWhereItIsDropped) {
     const auto reset = [&] {
         list.ResetContent();
         for (int i = 0; i < 3; ++i)
-            list.SetItemData(list.AddString(CString('a' + static_cast<char>(i), 1)), static_cast<DWORD_PTR>(i));
+            list.SetItemData(list.AddString(CString(static_cast<char>('a' + i))), static_cast<DWORD_PTR>(i));
     };
     const auto row = [&](int item) {
         CRect place;

@@ -64,6 +64,7 @@ TEST_F(ColouredDialog, TakesTheProgramsColourWhereItHasNone) {
     the_app.SetDialogBkColor(green, blue);
     dialog_.RedrawWindow();
     EXPECT_TRUE(at(2, 2) == green && at(12, 12) == green);
+    dialog_.SendMessage(WM_ERASEBKGND); // nothing to paint on
     the_app.SetDialogBkColor(::GetSysColor(COLOR_BTNFACE), ::GetSysColor(COLOR_BTNTEXT));
 }
 

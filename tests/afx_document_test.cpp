@@ -279,7 +279,11 @@ TEST_F(AfxSeveralDocuments, AreOpenedByTheShellsCommands) {
     frame->SendMessage(WM_DDE_EXECUTE);
     MSG answer;
     EXPECT_FALSE(::PeekMessage(&answer, *frame, WM_DDE_FIRST, WM_DDE_LAST, PM_NOREMOVE));
-    EXPECT_EQ(talk(WM_DDE_INITIATE, MAKELPARAM(the_app.m_atomApp, the_app.m_atomSystemTopic)), 1);
+    const LPARAM names = MAKELPARAM(the_app.m_atomApp, the_app.m_atomSystemTopic);
+    EXPECT_EQ(talk(WM_DDE_INITIATE, names), 1);
+    CWnd another;
+    ASSERT_TRUE(create_popup(another));
+    frame->SendMessage(WM_DDE_INITIATE, reinterpret_cast<WPARAM>(another.m_hWnd), names);
     const std::string command = std::string("[open(\"") + file.name() + "\")]";
     const HGLOBAL memory = ::GlobalAlloc(GMEM_FIXED, command.size()); // without the end of a text
     std::memcpy(memory, command.data(), command.size());

@@ -94,6 +94,10 @@ TEST_F(AfxFrame, UpdatesItsMenuToolbarAndPanesByItsHandlers) {
     CString name;
     popup->GetMenuString(ID_TEST_CHECKED, name, MF_BYCOMMAND);
     EXPECT_STREQ(name, "Text");
+    const HMENU gone = ::CreatePopupMenu();
+    ::DestroyMenu(gone);
+    for (const HMENU none : {gone, HMENU{}})
+        frame.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(none), 1);
     frame.SendMessage(WM_COMMAND, ID_TEST_OFF);
     EXPECT_TRUE(frame.log.empty()) << "a key for a disabled command";
     MSG key{frame.m_hWnd, WM_KEYDOWN, 'T', 0x140001, 0, {0, 0}};

@@ -54,6 +54,14 @@ TEST(AfxStringEdges, NoTextIsAnEmptyOne) {
     const CString letter = 'x';
     EXPECT_EQ(sprintf(printed, "%s%d%s", letter, 5, letter + "y") + sprintf_s(printed, "%s%s", "z", letter), 6);
     EXPECT_STREQ(printed, "zx");
+    const struct : CString { using CString::CString; } derived("d");
+    text.Format("%s", derived);
+    EXPECT_EQ(_snprintf_s(printed, sizeof(printed), _TRUNCATE, "%s%s", text, derived), 2);
+    EXPECT_STREQ(printed, "dd");
+    text = L'\x20AC';
+    text += L'\x20AC';
+    EXPECT_EQ(text, CString(L'\x20AC') + CString(L"\x20AC"));
+    static_assert(!std::is_convertible_v<int, CString>, "which character would it be?");
     CString* nobody = new CString("old");
     *nobody = nobody->GetString() + 1; // a part of itself
     EXPECT_STREQ(*nobody, "ld");

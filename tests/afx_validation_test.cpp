@@ -144,6 +144,11 @@ TEST_F(AfxEntry, DatesOfAutomationAreExchangedToo) {
     day = month = typed = none;
     EXPECT_TRUE(exchange(TRUE, all) && day == was[0] && typed == was[1]);
     EXPECT_TRUE(month == COleDateTime(2021, 5, 1, 0, 0, 0));
+    day.SetStatus(COleDateTime::null);
+    EXPECT_TRUE(exchange(TRUE, [&](CDataExchange* data) {
+        data->PrepareCtrl(IDC_DAY);
+        DDV_MinMaxDateTime(data, day, &was[0], &first);
+    })) << "none is not outside";
     dialog.SetDlgItemText(IDC_COUNT, "no day");
     EXPECT_FALSE(exchange(TRUE, all));
 }

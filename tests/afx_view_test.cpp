@@ -362,6 +362,7 @@ TEST_F(AfxDynamicSplitter, FollowsTheMouseToCrossingsAndBackAgain) {
     send(WM_LBUTTONDOWN, CPoint(10, moved.y));
     frame.SetCapture();
     EXPECT_TRUE(splitter.log.ends_with("stop 0")) << "another has the mouse";
+    EXPECT_EQ(::GetCapture(), frame.m_hWnd);
     ::ReleaseCapture();
     send(WM_LBUTTONDBLCLK, CPoint(10, moved.y));
     EXPECT_EQ(splitter.GetRowCount(), 1);

@@ -10,6 +10,9 @@
 #define _MFC_VER 0x0E00
 
 // Structures and messages of the controls are those of this platform at least, also where a program names an older one.
+#if defined(NTDDI_VERSION) && NTDDI_VERSION < 0x06000000
+#undef NTDDI_VERSION
+#endif
 #if defined(_WIN32_WINNT) && _WIN32_WINNT < 0x0600
 #undef _WIN32_WINNT
 #undef NTDDI_VERSION
@@ -108,7 +111,15 @@ template <class A, class B> constexpr std::common_type_t<A, B> max(A a, B b) {
 struct __POSITION;
 typedef __POSITION* POSITION;
 
+// A class in an ellipsis would arrive as an address that nobody expects there.
+#ifndef __clang__ // which refuses it of itself
+#pragma GCC diagnostic error "-Wconditionally-supported"
+#endif
+
 // What a variable argument list takes for a value; strings add their own.
-template <class Value> inline Value afx_variadic(Value value) {
+class CString;
+template <class Value>
+requires(!std::is_base_of_v<CString, Value>) inline Value afx_variadic(Value value) {
+    static_assert(std::is_trivially_copyable_v<Value>, "an object cannot be printed");
     return value;
 }

@@ -102,6 +102,9 @@ enum AfxSig : UINT {
 
 // How the result of a window message's handler is read where it is not the documented one.
 enum AfxResult : UINT { AfxResult_named, AfxResult_none, AfxResult_int };
+// Besides: parameters of a message of the program's own that its handler takes in 32 bits. One that is more, a pointer
+// perhaps, is refused with CNotSupportedException.
+enum AfxNarrow : UINT { AfxNarrow_w = 0x10, AfxNarrow_l = 0x20 };
 
 // nSig is a signature, or, for a registered message, where its number is kept.
 struct AFX_MSGMAP_ENTRY {

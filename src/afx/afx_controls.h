@@ -160,10 +160,7 @@ public:
     int GetLine(int nIndex, LPTSTR lpszBuffer) const {
         return afx_int(SendMessage(EM_GETLINE, static_cast<WPARAM>(nIndex), afx_param(lpszBuffer)));
     }
-    int GetLine(int nIndex, LPTSTR lpszBuffer, int nMaxLength) const {
-        *reinterpret_cast<LPWORD>(lpszBuffer) = static_cast<WORD>(nMaxLength);
-        return GetLine(nIndex, lpszBuffer);
-    }
+    int GetLine(int nIndex, LPTSTR lpszBuffer, int nMaxLength) const;
     void LimitText(int nChars = 0) { SendMessage(EM_LIMITTEXT, static_cast<WPARAM>(nChars)); }
     void SetLimitText(UINT nMax) { SendMessage(EM_SETLIMITTEXT, nMax); }
     UINT GetLimitText() const { return static_cast<UINT>(SendMessage(EM_GETLIMITTEXT)); }

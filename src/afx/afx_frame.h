@@ -177,7 +177,8 @@ protected:
 private:
     friend class CControlBar;
     friend class CDocument;
-    HWND m_talks_to = nullptr; // by DDE
+    std::vector<HWND> m_talks_to; // by DDE
+    bool TalksTo(const CWnd* partner) const;
     friend class CMiniDockFrameWnd;
     CDockBar* DockBarAt(UINT id);
     void DestroyDockBars();

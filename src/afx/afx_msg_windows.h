@@ -40,7 +40,7 @@
 #define ON_WM_INPUT_DEVICE_CHANGE()                                                                                    \
     AFX_WM_ENTRY(WM_INPUT_DEVICE_CHANGE, AfxSig_v_u, void, (unsigned short), OnInputDeviceChange)
 #define ON_WM_SPOOLERSTATUS() AFX_WM_ENTRY(WM_SPOOLERSTATUS, AfxSig_v_u_u, void, (UINT, UINT), OnSpoolerStatus)
-#define ON_WM_INPUTLANGCHANGE() AFX_WM_ENTRY(WM_INPUTLANGCHANGE, AfxSig_v_u_u, void, (UINT, UINT), OnInputLangChange)
+#define ON_WM_INPUTLANGCHANGE() AFX_WM_ENTRY(WM_INPUTLANGCHANGE, AfxSig_v_u_d, void, (UINT, UINT), OnInputLangChange)
 #define ON_WM_CHANGEUISTATE() AFX_WM_ENTRY(WM_CHANGEUISTATE, AfxSig_v_words, void, (UINT, UINT), OnChangeUIState)
 #define ON_WM_UPDATEUISTATE() AFX_WM_ENTRY(WM_UPDATEUISTATE, AfxSig_v_words, void, (UINT, UINT), OnUpdateUIState)
 #define ON_WM_SYSCOMMAND() AFX_OLDER_WM_ENTRY(WM_SYSCOMMAND, AfxSig_v_u_l, void, (UINT, LPARAM), OnSysCommand)

@@ -43,6 +43,10 @@ constexpr bool afx_older_form<R(Header*, LRESULT*), void(NMHDR*, LRESULT*)> = af
 template <> inline constexpr bool afx_older_form<UINT(CPoint), LRESULT(CPoint)> = true;
 template <> inline constexpr bool afx_older_form<void(BOOL, HTASK), void(BOOL, DWORD)> = true;
 
+template <class W = WPARAM, class L = LPARAM>
+constexpr UINT afx_narrowed = (sizeof(W) < sizeof(WPARAM) ? UINT{AfxNarrow_w} : 0U) |
+                              (sizeof(L) < sizeof(LPARAM) ? UINT{AfxNarrow_l} : 0U);
+
 // Completes an entry by its handler. That of a window message keeps in nCode how its result is to be read.
 template <class Base, class Named> struct afx_handler;
 template <class Base, class Result, class... Arguments> struct afx_handler<Base, Result(Arguments...)> {
@@ -57,6 +61,8 @@ template <class Base, class Result, class... Arguments> struct afx_handler<Base,
         made.pfn = afx_erased_method(static_cast<R (Base::*)(A...)>(method));
         if constexpr (std::is_same_v<Result, LRESULT> && !std::is_same_v<R, LRESULT>)
             made.nCode = std::is_void_v<R> ? AfxResult_none : AfxResult_int;
+        if constexpr (std::is_same_v<void(Arguments...), void(WPARAM, LPARAM)>)
+            made.nCode |= afx_narrowed<A...>;
         return made;
     }
 };

@@ -29,6 +29,7 @@ public:
     CString(LPCWSTR source, int length);
     AFX_EXPLICIT_STRING CString(const unsigned char* source) : CString(reinterpret_cast<LPCSTR>(source)) {}
     AFX_EXPLICIT_STRING CString(char c, int repeat = 1);
+    AFX_EXPLICIT_STRING CString(wchar_t c, int repeat = 1);
 
     CString& operator=(const CString& source) = default;
     CString& operator=(CString&& source) noexcept = default;
@@ -36,10 +37,12 @@ public:
     CString& operator=(LPCWSTR source) { return *this = CString(source); }
     CString& operator=(const unsigned char* source) { return *this = reinterpret_cast<LPCSTR>(source); }
     CString& operator=(char c) { return *this = CString(c); }
+    CString& operator=(wchar_t c) { return *this = CString(c); }
 
     CString& operator+=(const CString& text);
     CString& operator+=(LPCSTR text);
     CString& operator+=(char c);
+    CString& operator+=(wchar_t c) { return *this += CString(c); }
     void Append(const CString& text) { *this += text; }
     void Append(LPCSTR text) { *this += text; }
     void Append(LPCSTR text, int length) { *this += CString(text, length); }
@@ -154,8 +157,10 @@ private:
 typedef CString CStringA;
 inline const CString afxEmptyString;
 
-inline LPCSTR afx_variadic(const CString& text) {
-    return text;
+template <class Text>
+requires std::is_base_of_v<CString, Text>
+inline LPCSTR afx_variadic(const Text& text) {
+    return text.GetString();
 }
 
 template <class... Arguments> void CString::Format(LPCSTR format, Arguments... arguments) {
@@ -183,6 +188,12 @@ ZOPAFX_API CString AFXAPI operator+(LPCSTR a, const CString& b);
 // Without these two a character would count as an offset of the text's pointer.
 ZOPAFX_API CString AFXAPI operator+(const CString& a, char b);
 ZOPAFX_API CString AFXAPI operator+(char a, const CString& b);
+inline CString AFXAPI operator+(const CString& a, wchar_t b) {
+    return a + CString(b);
+}
+inline CString AFXAPI operator+(wchar_t a, const CString& b) {
+    return CString(a) + b;
+}
 
 #define AFX_COMPARE_STRINGS(op)                                                                                        \
     inline bool operator op(const CString& a, const CString& b) {                                                      \
@@ -212,7 +223,7 @@ inline bool operator!=(const CString& a, char b) {
 // The C library's functions take a string for its text, which their ellipsis would not.
 #define AFX_TAKE_STRINGS(function, parameters, arguments)                                                              \
     template <class... Values>                                                                                         \
-    requires(std::is_same_v<Values, CString> || ...) inline int function parameters {                                  \
+    requires(std::is_base_of_v<CString, Values> || ...) inline int function parameters {                               \
         return ::function arguments;                                                                                   \
     }
 AFX_TAKE_STRINGS(printf, (LPCSTR format, Values... values), (format, afx_variadic(values)...))
@@ -225,9 +236,18 @@ AFX_TAKE_STRINGS(_snprintf, (LPSTR text, std::size_t size, LPCSTR format, Values
                  (text, size, format, afx_variadic(values)...))
 AFX_TAKE_STRINGS(sprintf_s, (LPSTR text, std::size_t size, LPCSTR format, Values... values),
                  (text, size, format, afx_variadic(values)...))
+AFX_TAKE_STRINGS(_snprintf_s, (LPSTR text, std::size_t size, std::size_t most, LPCSTR format, Values... values),
+                 (text, size, most, format, afx_variadic(values)...))
+AFX_TAKE_STRINGS(printf_s, (LPCSTR format, Values... values), (format, afx_variadic(values)...))
+AFX_TAKE_STRINGS(fprintf_s, (FILE * file, LPCSTR format, Values... values), (file, format, afx_variadic(values)...))
 #undef AFX_TAKE_STRINGS
 template <std::size_t size, class... Values>
-requires(std::is_same_v<Values, CString> || ...) inline int sprintf_s(char (&text)[size], LPCSTR format,
-                                                                      Values... values) {
+requires(std::is_base_of_v<CString, Values> || ...) inline int sprintf_s(char (&text)[size], LPCSTR format,
+                                                                         Values... values) {
     return ::sprintf_s(text, size, format, afx_variadic(values)...);
+}
+template <std::size_t size, class... Values>
+requires(std::is_base_of_v<CString, Values> || ...) inline int _snprintf_s(char (&text)[size], std::size_t most,
+                                                                           LPCSTR format, Values... values) {
+    return ::_snprintf_s(text, size, most, format, afx_variadic(values)...);
 }

@@ -87,6 +87,15 @@ const AFX_MSGMAP_ENTRY* find_message_entry(const AFX_MSGMAP* map, UINT message) 
     });
 }
 
+void refuse_what_is_cut(const AFX_MSGMAP_ENTRY& entry, WPARAM wParam, LPARAM lParam) {
+    const auto fits = [](LPARAM value) {
+        return value == static_cast<LONG>(value) || value == static_cast<UINT>(value);
+    };
+    if (((entry.nCode & AfxNarrow_w) != 0 && !fits(static_cast<LPARAM>(wParam))) ||
+        ((entry.nCode & AfxNarrow_l) != 0 && !fits(lParam)))
+        AfxThrowNotSupportedException();
+}
+
 BOOL CCmdTarget::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
     const bool update = nCode == CN_UPDATE_COMMAND_UI;
     const UINT message = update || HIWORD(nCode) == 0 ? WM_COMMAND : HIWORD(nCode);

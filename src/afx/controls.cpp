@@ -1,6 +1,8 @@
 #include "afx_boxes.h"
 #include "afx_exception.h"
 
+#include <algorithm>
+
 IMPLEMENT_DYNAMIC(CStatic, CWnd)
 IMPLEMENT_DYNAMIC(CButton, CWnd)
 IMPLEMENT_DYNAMIC(CEdit, CWnd)
@@ -14,6 +16,18 @@ BOOL CStatic::Create(LPCTSTR lpszText, DWORD dwStyle, const RECT& rect, CWnd* pP
 
 BOOL CButton::Create(LPCTSTR lpszCaption, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
     return CWnd::Create("BUTTON", lpszCaption, dwStyle, rect, pParentWnd, nID);
+}
+
+// The message takes the room's size from its first two bytes, which a buffer of one character has not.
+int CEdit::GetLine(int nIndex, LPTSTR lpszBuffer, int nMaxLength) const {
+    const WORD room = static_cast<WORD>(std::clamp(nMaxLength, 0, 0xFFFF));
+    char pair[sizeof(room)];
+    char* const into = room < sizeof(room) ? pair : lpszBuffer;
+    std::memcpy(into, &room, sizeof(room));
+    const int copied = GetLine(nIndex, into);
+    if (into == pair && copied > 0 && room > 0)
+        *lpszBuffer = pair[0];
+    return room > 0 ? copied : 0;
 }
 
 BOOL CEdit::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {

@@ -33,10 +33,21 @@ HWND last_control(CDataExchange* pDX) {
     return ::GetDlgItem(pDX->m_pDlgWnd->GetSafeHwnd(), pDX->m_idLastControl);
 }
 
+bool is_a_day(const CTime&) {
+    return true;
+}
+bool is_a_day(const COleDateTime& time) {
+    return time.GetStatus() == COleDateTime::valid;
+}
+
+template <class Time> bool is_before(const Time& a, const Time& b) {
+    return is_a_day(a) && is_a_day(b) && a < b;
+}
+
 template <class Time>
 void check_time(CDataExchange* pDX, const Time& value, const Time* least, const Time* most, UINT set_range) {
     if (pDX->m_bSaveAndValidate) {
-        if ((least != nullptr && value < *least) || (most != nullptr && value > *most))
+        if ((least != nullptr && is_before(value, *least)) || (most != nullptr && is_before(*most, value)))
             refuse(pDX, AFX_IDP_PARSE_DATETIME, CString());
         return;
     }

@@ -168,7 +168,7 @@ void AFXAPI DDX_DateTimeCtrl(CDataExchange* pDX, int nIDC, CTime& value) {
     } else if (value.GetTime() != 0 && value.GetAsSystemTime(fields)) {
         ::SendMessage(control, DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(&fields));
     } else {
-        ::SendMessage(control, DTM_SETSYSTEMTIME, GDT_NONE, 0);
+        ::SendMessage(control, DTM_SETSYSTEMTIME, GDT_NONE, reinterpret_cast<LPARAM>(&fields)); // null is refused
     }
 }
 

@@ -195,7 +195,7 @@ BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pH
 HBRUSH CDialog::OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor) {
     const CWinApp* app = AfxGetApp();
     const bool bare = nCtlColor == CTLCOLOR_DLG || nCtlColor == CTLCOLOR_BTN || nCtlColor == CTLCOLOR_STATIC;
-    if (!bare || app == nullptr || app->m_dialog_ground == nullptr)
+    if (!bare || pDC == nullptr || app == nullptr || app->m_dialog_ground == nullptr)
         return CWnd::OnCtlColor(pDC, pWnd, nCtlColor);
     LRESULT own = 0;
     if (pWnd != nullptr && pWnd->SendChildNotifyLastMsg(&own))

@@ -138,9 +138,14 @@ HMENU menu_with_popup(HMENU menu, HMENU popup) {
     return nullptr;
 }
 
+// None of a menu that is gone.
+UINT items_of(const CMenu& menu) {
+    return static_cast<UINT>(std::max(::GetMenuItemCount(menu.m_hMenu), 0));
+}
+
 // Handlers may have removed or inserted items: the next one to look at.
 void keep_place(CCmdUI& state) {
-    const UINT count = state.m_pMenu->GetMenuItemCount();
+    const UINT count = items_of(*state.m_pMenu);
     if (count < state.m_nIndexMax) {
         state.m_nIndex -= state.m_nIndexMax - count;
         while (state.m_nIndex < count && state.m_pMenu->GetMenuItemID(static_cast<int>(state.m_nIndex)) == state.m_nID)
@@ -152,12 +157,12 @@ void keep_place(CCmdUI& state) {
 } // namespace
 
 void CFrameWnd::OnInitMenuPopup(CMenu* pMenu, UINT, BOOL bSysMenu) {
-    if (bSysMenu)
+    if (bSysMenu || pMenu == nullptr)
         return;
     CCmdUI state;
     state.m_pMenu = pMenu;
     state.m_pParentMenu = CMenu::FromHandle(menu_with_popup(::GetMenu(m_hWnd), pMenu->m_hMenu));
-    state.m_nIndexMax = pMenu->GetMenuItemCount();
+    state.m_nIndexMax = items_of(*pMenu);
     const HWND self = m_hWnd; // update handlers may end it
     for (; state.m_nIndex < state.m_nIndexMax && ::IsWindow(self); ++state.m_nIndex) {
         state.m_nID = pMenu->GetMenuItemID(static_cast<int>(state.m_nIndex));

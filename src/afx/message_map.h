@@ -15,6 +15,9 @@ constexpr UINT first_registered_message = 0xC000;
 // The first entry for a window or thread message, from the class towards its bases; null where there is none.
 const AFX_MSGMAP_ENTRY* find_message_entry(const AFX_MSGMAP* map, UINT message);
 
+// Raises CNotSupportedException where a handler of 32 bits would lose a part of what it is sent.
+void refuse_what_is_cut(const AFX_MSGMAP_ENTRY& entry, WPARAM wParam, LPARAM lParam);
+
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wcast-function-type"
 // The handler as the type that it had when the map entry was made; the signature names it.

@@ -128,12 +128,20 @@ BOOL CDocManager::OnDDECommand(LPTSTR lpszCommand) {
     return TRUE;
 }
 
+bool CFrameWnd::TalksTo(const CWnd* partner) const {
+    return std::find(m_talks_to.begin(), m_talks_to.end(), partner->GetSafeHwnd()) != m_talks_to.end();
+}
+
 void CFrameWnd::OnDDEInitiate(CWnd* pWnd, UINT nApp, UINT nTopic) {
     const CWinApp* app = AfxGetApp();
     if (pWnd == nullptr || app == nullptr || app->m_pMainWnd != this || app->m_atomApp == 0 || nApp != app->m_atomApp ||
         nTopic != app->m_atomSystemTopic)
         return;
-    m_talks_to = pWnd->m_hWnd;
+    constexpr std::size_t most_partners = 32;
+    std::erase_if(m_talks_to, [&](HWND partner) { return partner == pWnd->m_hWnd || !::IsWindow(partner); });
+    if (m_talks_to.size() == most_partners)
+        return;
+    m_talks_to.push_back(pWnd->m_hWnd);
     // The answer's names are the receiver's to delete.
     pWnd->SendMessage(WM_DDE_ACK, reinterpret_cast<WPARAM>(m_hWnd),
                       MAKELPARAM(atom_like(app->m_atomApp), atom_like(app->m_atomSystemTopic)));
@@ -141,7 +149,7 @@ void CFrameWnd::OnDDEInitiate(CWnd* pWnd, UINT nApp, UINT nTopic) {
 
 // Acknowledged before it is executed: the shell does not wait for the user's answers.
 void CFrameWnd::OnDDEExecute(CWnd* pWnd, HANDLE) {
-    if (pWnd == nullptr || pWnd->m_hWnd != m_talks_to) {
+    if (!TalksTo(pWnd)) {
         Default();
         return;
     }
@@ -161,10 +169,10 @@ void CFrameWnd::OnDDEExecute(CWnd* pWnd, HANDLE) {
 }
 
 void CFrameWnd::OnDDETerminate(CWnd* pWnd) {
-    if (pWnd == nullptr || pWnd->m_hWnd != m_talks_to) {
+    if (!TalksTo(pWnd)) {
         Default();
         return;
     }
-    m_talks_to = nullptr;
+    std::erase(m_talks_to, pWnd->m_hWnd);
     pWnd->PostMessage(WM_DDE_TERMINATE, reinterpret_cast<WPARAM>(m_hWnd));
 }

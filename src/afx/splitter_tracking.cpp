@@ -116,11 +116,14 @@ void CSplitterWnd::StopTracking(BOOL bAccept) {
     InvertTrackers();
     m_bTracking = m_bTracking2 = FALSE;
     ModifyStyle(0, WS_CLIPCHILDREN);
-    ::ReleaseCapture();
+    const bool lost = ::GetCapture() != m_hWnd; // to who has the pointer and the focus now
+    if (!lost)
+        ::ReleaseCapture();
     const int ht = std::exchange(m_htTrack, int{noHit});
     if (bAccept)
         MoveBar(ht);
-    if (CWnd* pane = GetActivePane())
+    CWnd* pane = lost ? nullptr : GetActivePane();
+    if (pane != nullptr)
         pane->SetFocus();
 }
 
@@ -151,12 +154,16 @@ int CSplitterWnd::Share(CRowColInfo* pair, int wanted) const {
 }
 
 void CSplitterWnd::TrackRowSize(int y, int row) {
+    if (row < 0 || row + 1 >= m_nRows)
+        return;
     const int goes = Share(m_pRowInfo + row, y - m_cyBorderShare - RowTop(row));
     if (goes >= 0)
         DeleteRow(row + goes);
 }
 
 void CSplitterWnd::TrackColumnSize(int x, int col) {
+    if (col < 0 || col + 1 >= m_nCols)
+        return;
     const int goes = Share(m_pColInfo + col, x - m_cxBorderShare - ColumnLeft(col));
     if (goes >= 0)
         DeleteColumn(col + goes);

@@ -51,6 +51,13 @@ CString::CString(LPCWSTR source, int length) {
 
 CString::CString(char c, int repeat) : m_text(static_cast<std::size_t>(std::max(repeat, 0)), c) {}
 
+CString::CString(wchar_t c, int repeat) {
+    const wchar_t wide[] = {c, 0};
+    const std::string one = c != 0 ? to_ansi(wide) : std::string(1, '\0');
+    for (int i = 0; i < repeat; ++i)
+        m_text += one;
+}
+
 CString& CString::operator=(LPCSTR source) {
     // A copy first: the source may lie inside this text.
     m_text = std::string(text_or_empty(source));

@@ -152,6 +152,7 @@ BOOL CWinThread::DispatchThreadMessageEx(MSG* pMsg) {
     const AFX_MSGMAP_ENTRY* entry = find_message_entry(GetMessageMap(), pMsg->message);
     if (entry == nullptr)
         return FALSE;
+    refuse_what_is_cut(*entry, pMsg->wParam, pMsg->lParam);
     (this->*typed_handler<void (CWinThread::*)(WPARAM, LPARAM)>(*entry))(pMsg->wParam, pMsg->lParam);
     return TRUE;
 }

@@ -84,6 +84,7 @@ void CToolTipCtrl::GetText(CString& str, CWnd* pWnd, UINT_PTR nIDTool) const {
     TOOLINFO tool;
     FillInToolInfo(tool, pWnd, nIDTool);
     tool.lpszText = str.GetBufferSetLength(longest_tip);
+    *tool.lpszText = '\0';
     SendMessage(TTM_GETTEXT, longest_tip, afx_param(&tool));
     str.ReleaseBuffer();
 }

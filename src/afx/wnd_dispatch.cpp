@@ -165,7 +165,9 @@ LRESULT ask_color(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, const parameters& p)
 LRESULT tell_or_ignore(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, const parameters& p) {
     if (!tell_of_input(wnd, entry, p) && !tell_of_values(wnd, entry, p))
         tell_of_objects(wnd, entry, p);
-    return 0;
+    // Who sends these wants to know that they were seen.
+    return entry.nSig == AfxSig_v_appcommand || entry.nSig == AfxSig_v_xbutton || entry.nSig == AfxSig_v_ncxbutton ||
+           entry.nMessage == WM_INPUTLANGCHANGE;
 }
 
 LRESULT dispatch(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, const parameters& p) {
@@ -230,8 +232,10 @@ LRESULT dispatch(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, const parameters& p) 
 } // namespace
 
 LRESULT CWnd::DispatchEntry(const AFX_MSGMAP_ENTRY& entry, WPARAM wParam, LPARAM lParam) {
+    refuse_what_is_cut(entry, wParam, lParam);
     const LRESULT result = dispatch(this, entry, {wParam, lParam});
-    if (entry.nCode == AfxResult_none)
+    const UINT read_as = entry.nCode & (AfxNarrow_w - 1);
+    if (read_as == AfxResult_none)
         return 0;
-    return entry.nCode == AfxResult_int ? static_cast<int>(result) : result; // HTTRANSPARENT stays -1
+    return read_as == AfxResult_int ? static_cast<int>(result) : result; // HTTRANSPARENT stays -1
 }

@@ -1,5 +1,6 @@
 // The way of a message through a window object: commands, notifications, default handling.
 #include "afxmsg_.h"
+#include "afxpriv.h"
 #include "message_map.h"
 #include "wnd_state.h"
 
@@ -17,8 +18,10 @@ UINT drag_list_message() {
 
 // Anyone may send them with nothing.
 bool lacks_its_record(UINT message, LPARAM lParam) {
-    return lParam == 0 && (message == WM_NOTIFY || message == WM_DRAWITEM || message == WM_MEASUREITEM ||
-                           message == WM_DELETEITEM || message == WM_COMPAREITEM || message == drag_list_message());
+    return lParam == 0 &&
+           (message == WM_NOTIFY || message == WM_DRAWITEM || message == WM_MEASUREITEM || message == WM_DELETEITEM ||
+            message == WM_COMPAREITEM || message == WM_NCCALCSIZE || message == WM_SIZEPARENT ||
+            message == TTM_WINDOWFROMPOINT || message == drag_list_message());
 }
 
 AFX_CTLCOLOR color_record(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -35,6 +38,8 @@ LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
 BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     LRESULT result = 0;
     AFX_CTLCOLOR color;
+    if (message == WM_CTLCOLOR)
+        return FALSE;                        // the maps' number for all the colour messages; no system sends it
     if (lacks_its_record(message, lParam)) { // nor does the control's own procedure look
         if (pResult != nullptr)
             *pResult = 0;
