@@ -83,6 +83,30 @@ TEST(AfxWindow, OwnsWhatItCreatedAndNothingElse) {
     EXPECT_EQ(std::count(subclass.seen.begin(), subclass.seen.end(), WM_DESTROY), 0);
 }
 
+TEST(AfxWindow, IsCentredOverItsOwnerWithinTheWorkArea) {
+    CRect work, place;
+    ::SystemParametersInfo(SPI_GETWORKAREA, 0, &work, 0);
+    CWnd owner, wnd;
+    ASSERT_TRUE(create_popup(owner));
+    owner.ShowWindow(SW_SHOWNOACTIVATE);
+    ASSERT_TRUE(wnd.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, CRect(0, 0, 40, 20), &owner, 0));
+    const auto at = [&](CRect over, CSize size) {
+        owner.MoveWindow(over);
+        wnd.SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
+        wnd.CenterWindow();
+        wnd.GetWindowRect(&place);
+        return place.TopLeft();
+    };
+    const CPoint corner = work.TopLeft();
+    EXPECT_EQ(at(CRect(corner, CSize(200, 100)), {40, 20}), corner + CSize(80, 40));
+    EXPECT_EQ(at(CRect(corner, CSize(20, 10)), {60, 50}), corner);
+    EXPECT_EQ(at(CRect(work.BottomRight() - CSize(30, 30), CSize(30, 30)), {60, 50}),
+              work.BottomRight() - CSize(60, 50));
+    EXPECT_EQ(at(CRect(corner, CSize(200, 100)), {work.Width() + 50, 20}).x, corner.x) << "its left part is seen";
+    wnd.DestroyWindow();
+    owner.DestroyWindow();
+}
+
 TEST(AfxWindow, TemporaryObjectsLastUntilIdleHoweverManyThereAre) {
     const HWND kept = make_plain();
     CWnd* object = CWnd::FromHandle(kept);

@@ -62,6 +62,8 @@ TEST_F(AxisTest, NumericTicksAndLabelsOfAllPositions) {
     }
     for (int position = 0; position < 4; ++position) {
         axis_.SetFlags(position, 7, 0);
+        size(50, 90);
+        full_repaint(axis_); // what it keeps of this is too low for the next
         position % 2 ? size(50, 300) : size(300, 50);
         axis_.SetRange(0.0f, 100.0f);
         expect_shown(position, false, position % 2 ? upright : across);
@@ -181,6 +183,14 @@ TEST_F(AxisTest, ZoomControlFollowsTheMouse) {
     EXPECT_EQ(zoom(), "       ");
     axis_.SendMessage(WM_COMMAND, 100);
     EXPECT_EQ(zoom(), "#######"); // laid out anew where its ends had met
+    axis_.SetAxisPosition(1);
+    size(60, 300);
+    axis_.SetRange(0.0f, 100.0f);
+    drag({5, 297}, {5, 200});
+    double from = -1, to = -1;
+    EXPECT_EQ(axis_.GetZoom(&from, &to), 1);
+    EXPECT_NEAR(from, 1.0 / 3, 0.02) << "counted from the lower end";
+    EXPECT_NEAR(to, 1, 0.02);
 }
 
 TEST_F(AxisTest, DraggingTheZoomPaintsAllThatChanges) {

@@ -68,6 +68,13 @@ TEST_F(ButtonTest, ShowsEveryProperty) {
     vary("text", &P::clrtext, {0, 1, 15});
     vary("frame", &P::frame, {0, 1});
     vary("visible", &P::visible, {0, 1});
+    button_.setproperties(&made);
+    button_.MoveWindow(0, 0, 90, 60);
+    full_repaint(button_);
+    button_.MoveWindow(0, 0, 50, 30); // smaller is another picture
+    button_.UpdateWindow();
+    button_.GetDlgItem(surface_id)->UpdateWindow();
+    EXPECT_EQ(pixels_of(button_).values, ButtonReference(50, 30, made).pixels());
 }
 
 TEST_F(ButtonTest, PressMovesThePictureAndReleaseBringsItBack) {

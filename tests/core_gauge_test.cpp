@@ -65,6 +65,9 @@ TEST(GaugeModel, ScriptClampsWhereSetterIgnores) {
     model.set_titles("Pressure", nullptr);
     model.clear();
     EXPECT_TRUE(model.maximum == 100 && model.current == 50 && model.title_text() == "Pressure");
+    EXPECT_TRUE(model.set_current_value(70));
+    model.clear(); // of a range that stays, too
+    EXPECT_FALSE(model.has_previous);
 }
 
 TEST(GaugeModel, MarksStopAtTenAndTheLastZoneHasTheFirstColour) {

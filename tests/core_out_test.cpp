@@ -119,6 +119,7 @@ TEST(KeyCode, Translates) {
         {character, 9, 0x0F, 0, {9, 0}, 1, 3, 2},
         {character, 9, 0x0F, 0, {9, shift}, 1, 3, 3},
         {key_down, 36, 0x47, 0, {36, control}, 1, 3, 15},
+        {key_down, 40, 0x50, 0, {40, control}, 1, 3, 22},
         {key_down, 46, 0x53, 0, {46, control}, 1, 3, 6},
         {key_down, 37, 0x4B, 0, {}, 1, 1, 37},    // its state is up: a plain character
         {character, '!', 0x02, 0, {33}, 1, 3, 9}, // its code is Page Up's

@@ -7,6 +7,9 @@
 
 #include <array>
 #include <climits>
+#include <string>
+#include <utility>
+#include <vector>
 
 using namespace wnt;
 
@@ -84,6 +87,17 @@ TEST(Values, TextFieldsKeepWhatIsNotOverwritten) {
     for (std::size_t length : {60u, 50u, 49u, 48u, 0u}) {
         copy_title(title, std::string(length, 'a'));
         EXPECT_EQ(field_text(title).size(), std::min<std::size_t>(length, 49)) << length;
+    }
+}
+
+TEST(ScriptFile, EndsAtALineThatIsTooLong) {
+    for (const std::size_t length : {127u, 128u}) {
+        std::string text = std::string(length, 'x') + "\n:A\n";
+        std::vector<std::string> lines;
+        feed_script([&](char* to, int) { return static_cast<int>(std::exchange(text, "").copy(to, 1000)); },
+                    [&](const char* line, int) { lines.push_back(line); });
+        EXPECT_EQ(lines.front().size(), 127u);
+        EXPECT_EQ(lines.size() > 2 && lines[1] == ":A", length == 127) << length;
     }
 }
 

@@ -73,7 +73,7 @@ TEST(TipLayout, PartsStandBesideEachOther) {
     EXPECT_TRUE(tip.lines[1].x == 44 && tip.lines[1].y == 16); // below sample and title
     EXPECT_TRUE(tip.width == 60 + 5 * 8 + 6 && tip.height == 40);
     tip = lay_out_tip({"", "text", 32, 32, true}, fonts, 300, 100); // in the icon's middle
-    EXPECT_TRUE(tip.lines[0].y == 15 && tip.sample.top == 15 && tip.height == 40);
+    EXPECT_TRUE(tip.lines[0].x == 60 && tip.lines[0].y == 15 && tip.sample.top == 15 && tip.height == 40);
     tip = lay_out_tip({"", "text"}, fonts, 300, 200);
     EXPECT_TRUE(tip.lines[0].x == 12 && tip.width == 48 && tip.height == 26);
     tip = lay_out_tip({"", "", 16, 16}, fonts, 300, 100);

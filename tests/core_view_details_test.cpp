@@ -209,6 +209,9 @@ TEST(GaugeViews, TextOnTheBarIsReadableOnItsFill) {
 TEST(GaugeViews, PercentagesAreRounded) {
     for (const auto& [value, text] : {std::pair{":CURVAL=1", " 33 %"}, {":CURVAL=2", " 67 %"}, {":CURVAL=3", "100 %"}})
         EXPECT_TRUE(writes(Scene(model_of(gauge_percent_bar, {":MAXVAL=3", value}), 300, 80), text)) << text;
+    const Scene titled(model_of(gauge_percent_bar, {":BARTITLE=1", ":TITLE=Level", ":CURVAL=100"}), 300, 80);
+    for (const Writing& w : writings_of(titled))
+        EXPECT_TRUE(w.text != "100 %" || (w.bounds.left < 280 && w.bounds.right < 300)) << "at the bar's end";
 }
 
 // The size follows from the widest number of the range.

@@ -146,6 +146,18 @@ TEST_F(Pulse, NowGoesOnWithoutSamplesWhereTheyComeByTheClock) {
     }
 }
 
+TEST_F(Pulse, ALoneRightAxisHasTheFirstRange) {
+    for (const char* line : {":AXES=RIGHT", ":AXES=LEFT RIGHT"}) {
+        chart_.LoadLine(line, 0);
+        chart_.LoadLine("", 2);
+        feed(0, 6000);
+        auto& axis = dynamic_cast<CWntAxis&>(*chart_.GetDlgItem(2));
+        float highest = 0;
+        axis.ScreenToValue(0, &highest);
+        EXPECT_NEAR(highest, line[6] == 'R' ? 100 : 10, 1) << line;
+    }
+}
+
 TEST_F(Pulse, TheTimeAxisZoomsToWhatItsSliderCovers) {
     feed(0, 60'000);
     auto& axis = dynamic_cast<CWntAxis&>(*chart_.GetDlgItem(3));

@@ -90,13 +90,21 @@ TEST_F(TraceTest, LinesGoToTheOpenStream) {
     trace.Trace(600, "deep\n");
     trace.SetFlags(0);
     trace.Trace("lost\n");
+    trace.SetFilename("trace banner.txt"); // switches it on; the stream stays
+    trace.Trace("almost ");
+    trace.SetFilename(nullptr);
+    trace.Trace("lost\n");
     trace.SetFlags(1);
     trace.Trace("last\n");
+    EXPECT_THAT(text_of("trace banner.txt"), StartsWith("Begin of Trace\r\nstarted at "));
+    EXPECT_THAT(text_of("trace banner.txt"), EndsWith(hyphens + "\r\n"));
+    trace.SetFilename(""); // closes it
+    std::remove("trace banner.txt");
     trace.DestroyWindow();
     EXPECT_EQ(trace.stream(), nullptr);
     const std::string text = text_of(file);
     const std::string written =
-        "plain text\r\n      indented 7\r\noutdented\r\n" + std::string(1200, ' ') + "deep\r\nlast\r\n";
+        "plain text\r\n      indented 7\r\noutdented\r\n" + std::string(1200, ' ') + "deep\r\nalmost last\r\n";
     EXPECT_THAT(text, StartsWith(written + hyphens + "\r\nended at "));
     EXPECT_THAT(text, EndsWith("\r\nEnd of Trace\r\n\r\n"));
     EXPECT_EQ(text_of("trace.txt") + text_of("Wtrace.txt"), "");
