@@ -28,8 +28,8 @@ int main_frame_percentage(bool again) {
     if (!library)
         return 0;
     using Percentage = int (*)();
-    const auto ask =
-        reinterpret_cast<Percentage>(reinterpret_cast<void*>(::GetProcAddress(library, "GetMainframeScalePercentage")));
+    const auto ask = reinterpret_cast<Percentage>(
+        reinterpret_cast<void (*)()>(::GetProcAddress(library, "GetMainframeScalePercentage")));
     const int percentage = ask ? ask() : 0;
     ::FreeLibrary(library);
     return percentage;

@@ -156,6 +156,10 @@ TEST_F(AfxCommonControls, RichTextIsReadAndWrittenInItsRanges) {
     bold.dwEffects = CFE_BOLD;
     EXPECT_TRUE(edit.SetSelectionCharFormat(bold));
     EXPECT_EQ(edit.GetSelText(), "first");
+    PARAFORMAT2 apart{}, found{};
+    apart.dwMask = PFM_SPACEBEFORE;
+    apart.dySpaceBefore = 120;
+    EXPECT_TRUE(edit.SetParaFormat(apart) && edit.GetParaFormat(found) != 0 && found.dySpaceBefore == 120);
     EXPECT_EQ(std::string(line, static_cast<std::size_t>(edit.GetSelText(line))), "first");
     std::string stream;
     EDITSTREAM out{reinterpret_cast<DWORD_PTR>(&stream), 0, [](DWORD_PTR to, LPBYTE bytes, LONG count, LONG* done) {

@@ -75,6 +75,7 @@ TEST_F(AfxCommonDialogs, AFontIsDescribedAsItWasChosen) {
     EXPECT_TRUE(dialog.IsBold() && dialog.IsItalic() && dialog.IsUnderline() && !dialog.IsStrikeOut());
     EXPECT_EQ(dialog.GetSize(), 360);
     EXPECT_EQ(dialog.GetFaceName(), face);
+    EXPECT_TRUE(wanted.lfHeight == dialog.m_lf.lfHeight && wanted.lfHeight != 0) << "the caller's, too";
     EXPECT_EQ(meanwhile.lfHeight, dialog.m_lf.lfHeight) << "what the open dialog shows, not what it began with";
     CFontDialog other(nullptr, CF_SCREENFONTS, nullptr, &parent);
     EXPECT_EQ(run(other, [&] { return press(other, IDCANCEL); }), IDCANCEL);

@@ -23,10 +23,12 @@ public:
     std::string text;
     bool fails = false;
     static inline int alive = 0;
+    static inline std::string events;
 
     note() { ++alive; }
     ~note() override { --alive; }
     void DeleteContents() override { text.clear(); }
+    void OnDocumentEvent(DocumentEvent event) override { events += std::to_string(event); }
     void Serialize(CArchive& archive) override {
         if (archive.IsStoring()) {
             archive.GetFile()->Write(text.data(), static_cast<UINT>(text.size()));
@@ -122,6 +124,7 @@ TEST_F(NoteProgram, MakesChangesSavesAndOpensADocument) {
     frame().SendMessage(WM_CLOSE);
     EXPECT_EQ(the_app.m_pMainWnd, nullptr);
     EXPECT_EQ(note::alive, 0);
+    EXPECT_TRUE(note::events.ends_with("022013")) << note::events;
 }
 
 TEST_F(NoteProgram, KeepsTheOldFileWhereSavingFails) {
@@ -418,6 +421,8 @@ TEST(AfxResourceText, TakesPartsAndFillsPlaces) {
     EXPECT_TRUE(AfxExtractSubString(part, text, 1));
     EXPECT_STREQ(part, "");
     EXPECT_FALSE(AfxExtractSubString(part, text, 3));
+    part = text;
+    EXPECT_TRUE(AfxExtractSubString(part, part, 2) && part == "three") << "out of itself";
     AfxFormatString2(part, AFX_IDP_PARSE_INT_RANGE, "1", "9");
     EXPECT_STREQ(part, "Enter a whole number between 1 and 9.");
 }

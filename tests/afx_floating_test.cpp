@@ -76,7 +76,7 @@ TEST_F(AfxFloating, ABarFloatsKeepsItsCommandsAndComesBack) {
     EXPECT_EQ(text_of(small), "Title");
     const CRect client = inside_of(small);
     EXPECT_EQ(client.Size(), on_screen(frame.tools).Size());
-    EXPECT_EQ(frame.tools.GetDockingFrame(), &frame);
+    EXPECT_EQ(frame.tools.GetDockingFrame()->m_hWnd, small.m_hWnd);
     frame.tools.SendMessage(WM_IDLEUPDATECMDUI, TRUE);
     EXPECT_NE(frame.tools.GetToolBarCtrl().IsButtonEnabled(ID_TEST_ON), 0);
     frame.tools.SendMessage(WM_COMMAND, ID_TEST_ON);

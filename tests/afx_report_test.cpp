@@ -93,7 +93,17 @@ TEST(AfxExceptions, TellTheUserWhatHappened) {
     EXPECT_STREQ(text, "");
     silent.ReportError(MB_OK, IDS_CAPTION);
     EXPECT_EQ(the_app.take_boxes(), std::vector<std::string>{"Caption of its own"});
-    silent.Delete(); // it is not the heap's
+    silent.ReportError();
+    EXPECT_EQ(the_app.take_boxes(), std::vector<std::string>{"No error message is available."});
+    silent.Delete();      // it is not the heap's
+    struct : CException { // as programs once wrote it
+        using CException::GetErrorMessage;
+        BOOL GetErrorMessage(LPTSTR told, UINT room, PUINT) override {
+            return lstrcpyn(told, "by the program", static_cast<int>(room)) != nullptr;
+        }
+    } older;
+    older.ReportError();
+    EXPECT_EQ(the_app.take_boxes(), std::vector<std::string>{"by the program"});
 }
 
 // Of those that files do not meet in the tests.

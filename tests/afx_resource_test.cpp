@@ -150,6 +150,8 @@ TEST(AfxDebug, OnlyVerifyEvaluatesInARelease) {
     VERIFY(++evaluated);
     ASSERT(++evaluated);
     TRACE("%d", ++evaluated);
+    TRACE(traceAppMsg, 0, "%d", ++evaluated);
+    TRACE(0, 1, "%d", ++evaluated);
     EXPECT_EQ(evaluated, 1);
 }
 
@@ -182,7 +184,7 @@ TEST(AfxExtensionModule, GivesItsResourcesAsLongAsItIsThere) {
 TEST(AfxLibrary, HasItsOwnProgramObjectAndLeavesTheProgramsItsOwn) {
     const HINSTANCE module = AfxLoadLibrary("afx_library.dll");
     ASSERT_NE(module, nullptr);
-    const auto call = reinterpret_cast<void*>(::GetProcAddress(module, "call_library"));
+    const auto call = reinterpret_cast<void (*)()>(::GetProcAddress(module, "call_library"));
     BOOL own = FALSE;
     const HWND window = reinterpret_cast<HWND (*)(BOOL*)>(call)(&own);
     EXPECT_TRUE(own && AfxGetApp() == &the_app && AfxGetInstanceHandle() == ::GetModuleHandle(nullptr));

@@ -27,7 +27,14 @@ public:
     void OnCancel() override { note("cancel"), CPropertyPage::OnCancel(); }
     BOOL OnQueryCancel() override { return note("query"), cancels; }
 
-    bool valid = true, applies = true, cancels = true, marked = false;
+    BOOL OnInitDialog() override {
+        CPropertyPage::OnInitDialog();
+        if (checked_by_hand)
+            CheckDlgButton(IDC_MARK, TRUE);
+        return TRUE;
+    }
+
+    bool valid = true, applies = true, cancels = true, marked = false, checked_by_hand = false;
 
 private:
     void note(const char* what) { log += name + "." + what + " "; }
@@ -89,8 +96,19 @@ TEST_F(AfxSheet, OkTakesThePagesDataOver) {
     EXPECT_TRUE(first.marked && second.marked);
     EXPECT_EQ(log, "1.set 1.kill 2.set 2.kill 1.apply 1.ok 2.apply 2.ok ");
     log.clear();
-    EXPECT_EQ(run(sheet, {[&] { press(PSBTN_CANCEL); }}), IDCANCEL);
-    EXPECT_EQ(log, "1.set 1.query 1.cancel ");
+    first.marked = false;
+    first.checked_by_hand = true;
+    const auto go_and_return = [&] {
+        EXPECT_TRUE(first.IsDlgButtonChecked(IDC_MARK)) << "what OnInitDialog did is seen";
+        first.CheckDlgButton(IDC_MARK, FALSE);
+        show(1);
+        first.marked = true;
+        show(0);
+        EXPECT_TRUE(first.IsDlgButtonChecked(IDC_MARK)) << "its data as it is now";
+        press(PSBTN_CANCEL);
+    };
+    EXPECT_EQ(run(sheet, {go_and_return}), IDCANCEL);
+    EXPECT_EQ(log, "1.set 1.kill 2.set 2.kill 1.set 1.query 1.cancel 2.cancel ");
 }
 
 TEST_F(AfxSheet, PagesMayRefuse) {

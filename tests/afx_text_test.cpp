@@ -61,6 +61,7 @@ TEST(AfxStringEdges, NoTextIsAnEmptyOne) {
     text = L'\x20AC';
     text += L'\x20AC';
     EXPECT_EQ(text, CString(L'\x20AC') + CString(L"\x20AC"));
+    EXPECT_EQ(CString(L"a\0b", 3).GetLength(), 3);
     static_assert(!std::is_convertible_v<int, CString>, "which character would it be?");
     CString* nobody = new CString("old");
     *nobody = nobody->GetString() + 1; // a part of itself

@@ -97,6 +97,7 @@ TEST(AfxWindow, IsCentredOverItsOwnerWithinTheWorkArea) {
         wnd.GetWindowRect(&place);
         return place.TopLeft();
     };
+    EXPECT_NE(::GetClassLongPtr(wnd, GCLP_HCURSOR), 0u);
     const CPoint corner = work.TopLeft();
     EXPECT_EQ(at(CRect(corner, CSize(200, 100)), {40, 20}), corner + CSize(80, 40));
     EXPECT_EQ(at(CRect(corner, CSize(20, 10)), {60, 50}), corner);

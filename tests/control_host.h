@@ -5,6 +5,7 @@
 
 #include <gmock/gmock.h>
 
+#include <bit>
 #include <cstdio>
 #include <filesystem>
 #include <functional>
@@ -95,7 +96,7 @@ class MainFrameScale {
 public:
     MainFrameScale() : library_(::LoadLibraryA(path())) {
         EXPECT_TRUE(library_);
-        percentage_ = reinterpret_cast<int*>(reinterpret_cast<void*>(::GetProcAddress(library_, "percentage")));
+        percentage_ = std::bit_cast<int*>(::GetProcAddress(library_, "percentage"));
     }
     ~MainFrameScale() { ::FreeLibrary(library_); }
     MainFrameScale(const MainFrameScale&) = delete;

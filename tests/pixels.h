@@ -109,7 +109,7 @@ inline int live_gdi_objects() {
     constexpr int handle_table = 0xF8; // in the process's environment block
     using CurrentBlock = const char*(WINAPI*)();
     static const auto current_block = reinterpret_cast<CurrentBlock>(
-        reinterpret_cast<void*>(::GetProcAddress(::GetModuleHandleA("ntdll"), "RtlGetCurrentPeb")));
+        reinterpret_cast<void (*)()>(::GetProcAddress(::GetModuleHandleA("ntdll"), "RtlGetCurrentPeb")));
     const auto* table = *reinterpret_cast<const Entry* const*>(current_block() + handle_table);
     return static_cast<int>(std::count_if(table, table + first_entries, [](const Entry& e) { return e.type != 0; }));
 }

@@ -95,7 +95,8 @@ class PagesView : public CView {
     DECLARE_DYNCREATE(PagesView)
 
 public:
-    std::string log;
+    std::string log, shown;
+    UINT cancelled = 0; // the page at which the user thinks better of it
 
     using CView::OnFilePrint;
     void OnDraw(CDC* dc) override {
@@ -116,6 +117,14 @@ public:
         log += std::to_string(info->m_nCurPage) + (info->m_rectDraw.bottom < -1000 ? " " : "? ");
         if (info->m_nCurPage == 1)
             OnDraw(dc);
+        const HWND box = ::FindWindow("#32770", "Printing");
+        for (const int id : {AFX_IDC_PRINT_DOCNAME, AFX_IDC_PRINT_PAGENUM}) {
+            char text[64] = "";
+            ::GetDlgItemText(box, id, text, sizeof text);
+            shown += std::string(text) + ", ";
+        }
+        if (info->m_nCurPage == cancelled)
+            ::PostMessage(::GetDlgItem(box, IDCANCEL), BM_CLICK, 0, 0);
     }
     DECLARE_MESSAGE_MAP()
 };
@@ -135,11 +144,17 @@ TEST_F(PrintTest, ViewsPrintPageAfterPageInTheirUnits) {
     frame->SetActiveView(view);
     frame->SendMessage(WM_COMMAND, ID_FILE_PRINT_DIRECT);
     EXPECT_EQ(view->log, "begin 1 2 3 end");
+    EXPECT_EQ(view->shown, "view pages, Page 1, view pages, Page 2, view pages, Page 3, ");
     EXPECT_TRUE(program.boxes.empty());
     const auto page = printed("view pages");
     const RECT inked = page->ink(white);
     EXPECT_NEAR(inked.right + 1 - inked.left, 72, 2);
     EXPECT_NEAR(inked.top + 1 - inked.bottom, 72, 2);
+    view->log.clear();
+    view->cancelled = 2;
+    frame->SendMessage(WM_COMMAND, ID_FILE_PRINT_DIRECT);
+    EXPECT_EQ(view->log, "begin 1 2 end");
+    EXPECT_TRUE(program.boxes.empty() && !::FindWindow("#32770", "Printing"));
     frame->DestroyWindow();
 }
 

@@ -100,6 +100,7 @@ public:
     POSITION GetFirstDocTemplatePosition() const;
     CDocTemplate* GetNextDocTemplate(POSITION& pos) const;
     virtual CDocument* OpenDocumentFile(LPCTSTR lpszFileName);
+    virtual CDocument* OpenDocumentFile(LPCTSTR lpszFileName, BOOL bAddToMRU);
     virtual void AddToRecentFileList(LPCTSTR lpszPathName);
     int GetOpenDocumentCount();
     virtual BOOL SaveAllModified();

@@ -28,6 +28,7 @@ class ZOPAFX_API CFontDialog : public CCommonDialog {
     DECLARE_DYNAMIC(CFontDialog)
 
 public:
+    // The record of the first font is the caller's, as long as the dialog lives, and takes what is chosen.
     explicit CFontDialog(LPLOGFONT lplfInitial = nullptr, DWORD dwFlags = CF_EFFECTS | CF_SCREENFONTS,
                          CDC* pdcPrinter = nullptr, CWnd* pParentWnd = nullptr);
     INT_PTR DoModal() override;

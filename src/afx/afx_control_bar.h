@@ -33,7 +33,7 @@ public:
     // Between the bar's edge and what it holds, in pixels.
     void SetBorders(int cxLeft = 0, int cyTop = 0, int cxRight = 0, int cyBottom = 0);
     void SetBorders(LPCRECT lpRect) { SetBorders(lpRect->left, lpRect->top, lpRect->right, lpRect->bottom); }
-    CRect GetBorders() { return CRect(m_cxLeftBorder, m_cyTopBorder, m_cxRightBorder, m_cyBottomBorder); }
+    CRect GetBorders() const { return CRect(m_cxLeftBorder, m_cyTopBorder, m_cxRightBorder, m_cyBottomBorder); }
 
     // The sides (CBRS_ALIGN_...) that the bar may be docked to.
     void EnableDocking(DWORD dwDockStyle);
@@ -96,6 +96,7 @@ protected:
 private:
     friend class CDockBar;
     friend class CFrameWnd;
+    friend class CMiniDockFrameWnd;
     void Undelay();
     struct outline_sizes {
         CSize lying, upright, floating;

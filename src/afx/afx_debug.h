@@ -13,6 +13,16 @@ ZOPAFX_API void AFX_CDECL afx_trace_text(LPCTSTR lpszFormat, ...) AFX_PRINTF(1, 
 template <class... Arguments> inline void AfxTrace(LPCTSTR lpszFormat, Arguments... arguments) {
     afx_trace_text(lpszFormat, afx_variadic(arguments)...);
 }
+// The second form names what the line is about and how deep it goes: level 0 is shown, higher ones are not.
+struct afx_trace_category {};
+inline constexpr afx_trace_category traceAppMsg, traceDumpContext, traceWinMsg, traceMemory, traceCmdRouting, traceHtml,
+    traceSocket, traceOle, traceDatabase, traceInternet;
+template <class Category, class Level, class... Arguments>
+requires((std::is_integral_v<Category> || std::is_same_v<Category, afx_trace_category>)&&std::is_integral_v<
+         Level>) inline void AfxTrace(Category, Level level, LPCTSTR lpszFormat, Arguments... arguments) {
+    if (level == 0)
+        afx_trace_text(lpszFormat, afx_variadic(arguments)...);
+}
 // Stops where the object is null, its memory is not there, or AssertValid objects to it.
 ZOPAFX_API void AFXAPI AfxAssertValidObject(const CObject* pOb, LPCSTR lpszFileName, int nLine);
 ZOPAFX_API BOOL AFXAPI AfxIsValidAddress(const void* lp, UINT_PTR nBytes, BOOL bReadWrite = TRUE);
@@ -63,6 +73,10 @@ inline void operator delete[](void* at, LPCSTR, int) {
 
 #define ATLASSERT(expr) ASSERT(expr)
 #define ATLTRACE TRACE
+#define ATLTRACE2 TRACE
+#define ATLVERIFY(expr) VERIFY(expr)
+#define ATLASSUME(expr) ASSERT(expr)
+#define AFXASSUME(expr) ASSERT(expr)
 #define TRACE0(text) TRACE("%s", text)
 #define TRACE1(text, a) TRACE(text, a)
 #define TRACE2(text, a, b) TRACE(text, a, b)
@@ -84,6 +98,7 @@ inline void operator delete[](void* at, LPCSTR, int) {
     } while (0)
 #define ENSURE(cond) ENSURE_THROW(cond, ::AfxThrowInvalidArgException())
 #define ENSURE_ARG(cond) ENSURE(cond)
+#define ATLENSURE(cond) ENSURE(cond)
 #define ENSURE_VALID(pOb) ENSURE_VALID_THROW(pOb, ::AfxThrowInvalidArgException())
 #define ENSURE_VALID_THROW(pOb, exception)                                                                             \
     do {                                                                                                               \

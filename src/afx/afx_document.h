@@ -54,6 +54,9 @@ public:
     virtual BOOL CanCloseFrame(CFrameWnd* pFrame);
     virtual BOOL SaveModified(); // FALSE: the user wants to go on
     virtual void PreCloseFrame(CFrameWnd* pFrame);
+    enum DocumentEvent { onAfterNewDocument, onAfterOpenDocument, onAfterSaveDocument, onAfterCloseDocument };
+    // Does nothing; behind each that went well.
+    virtual void OnDocumentEvent(DocumentEvent deEvent);
     // Without a name the user is asked for one. bReplace FALSE saves a copy.
     virtual BOOL DoSave(LPCTSTR lpszPathName, BOOL bReplace = TRUE);
     virtual BOOL DoFileSave();

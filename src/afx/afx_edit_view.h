@@ -27,7 +27,7 @@ public:
     CFont* GetPrinterFont() const { return CFont::FromHandle(m_hPrinterFont); }
     // The whole text, without a length in front.
     void SerializeRaw(CArchive& ar);
-    void DeleteContents();
+    virtual void DeleteContents();
     // Draws the text from the place on that fits into the rectangle; answers where it ended.
     UINT PrintInsideRect(CDC* pDC, RECT& rectLayout, UINT nIndexStart, UINT nIndexStop);
 

@@ -11,8 +11,10 @@ public:
     // An exception made with bAutoDelete FALSE survives Delete.
     explicit CException(BOOL bAutoDelete = TRUE) : m_bAutoDelete(bAutoDelete) {}
     void Delete();
-    // A text for the user; FALSE, with an empty text, where there is none.
+    // A text for the user; FALSE, with an empty text, where there is none. Older programs override the second form,
+    // which answers as the first; reports ask for it.
     virtual BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext = nullptr) const;
+    virtual BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext = nullptr);
     // Shows the text, or the string nMessageID where there is none, in a message box.
     virtual int ReportError(UINT nType = MB_OK, UINT nMessageID = 0);
 
@@ -25,6 +27,7 @@ class ZOPAFX_API CSimpleException : public CException {
 public:
     explicit CSimpleException(BOOL bAutoDelete = TRUE) : CException(bAutoDelete) {}
     CSimpleException(BOOL bAutoDelete, LPCTSTR lpszMessage) : CException(bAutoDelete), m_strMessage(lpszMessage) {}
+    using CException::GetErrorMessage;
     BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext = nullptr) const override;
 
 private:
@@ -52,6 +55,7 @@ class ZOPAFX_API COleException : public CException {
 
 public:
     COleException() = default;
+    using CException::GetErrorMessage;
     BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext = nullptr) const override;
 
     SCODE m_sc = S_OK;
@@ -81,6 +85,7 @@ public:
 
     explicit CFileException(int cause = none, LONG lOsError = -1, LPCTSTR lpszFileName = nullptr)
         : m_cause(cause), m_lOsError(lOsError), m_strFileName(lpszFileName) {}
+    using CException::GetErrorMessage;
     BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext = nullptr) const override;
 
     static int PASCAL OsErrorToException(LONG lOsError);
@@ -113,6 +118,7 @@ public:
 
     explicit CArchiveException(int cause = none, LPCTSTR lpszArchiveName = nullptr)
         : m_cause(cause), m_strFileName(lpszArchiveName) {}
+    using CException::GetErrorMessage;
     BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext = nullptr) const override;
 
     int m_cause;

@@ -40,7 +40,7 @@ class ZOPAFX_API CFrameWnd : public CWnd {
 public:
     CFrameWnd();
     ~CFrameWnd() override;
-    static const RECT rectDefault;
+    static const CRect rectDefault;
 
     BOOL m_bAutoMenuEnable = TRUE; // menu items without a handler are disabled
 

@@ -84,6 +84,8 @@ private:
     BOOL Describe(PROPSHEETPAGE& record) const;
     static UINT CALLBACK PageCallback(HWND hwnd, UINT message, PROPSHEETPAGE* page);
     static INT_PTR CALLBACK PageProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+
+    BOOL m_bFirstSetActive = TRUE;
 };
 
 // Pages are the caller's and outlive the sheet.

@@ -70,6 +70,8 @@ public:
     BOOL SetWordCharFormat(CHARFORMAT2& cf) { return SetCharFormat(cf, SCF_SELECTION | SCF_WORD); }
     DWORD GetParaFormat(PARAFORMAT& pf) const;
     BOOL SetParaFormat(PARAFORMAT& pf);
+    DWORD GetParaFormat(PARAFORMAT2& pf) const;
+    BOOL SetParaFormat(PARAFORMAT2& pf);
     COLORREF SetBackgroundColor(BOOL bSysColor, COLORREF cr) {
         return static_cast<COLORREF>(SendMessage(EM_SETBKGNDCOLOR, bSysColor, static_cast<LPARAM>(cr)));
     }

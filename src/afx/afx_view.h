@@ -7,6 +7,7 @@ class CPreviewView;
 class CDocument;
 class CPrintDialog;
 class CSplitterWnd;
+class print_box;
 
 // One printing of a view: what the user chose, and the page that is printed.
 struct ZOPAFX_API CPrintInfo {
@@ -94,7 +95,7 @@ private:
     friend class CDocument;
     friend class CFrameWnd;
     friend class CSplitterWnd;
-    bool PrintPages(CDC& dc, CPrintInfo& info);
+    bool PrintPages(CDC& dc, CPrintInfo& info, print_box& box);
 };
 
 // A view whose window is a control of the platform.

@@ -291,6 +291,17 @@ public:
         FLASHWINFO how{sizeof(how), m_hWnd, dwFlags, uCount, dwTimeout};
         return ::FlashWindowEx(&how);
     }
+    static CWnd* PASCAL FindWindowEx(HWND hwndParent, HWND hwndChildAfter, LPCTSTR lpszClass, LPCTSTR lpszWindow) {
+        return FromHandle(::FindWindowEx(hwndParent, hwndChildAfter, lpszClass, lpszWindow));
+    }
+    // Whether the user drags from there, on the screen, before the button goes up.
+    BOOL DragDetect(POINT pt) const { return ::DragDetect(m_hWnd, pt); }
+    BOOL DrawCaption(CDC* pDC, LPCRECT lprc, UINT uFlags) {
+        return ::DrawCaption(m_hWnd, pDC->GetSafeHdc(), lprc, uFlags);
+    }
+    BOOL DrawAnimatedRects(int idAni, const RECT* lprcFrom, const RECT* lprcTo) {
+        return ::DrawAnimatedRects(m_hWnd, idAni, lprcFrom, lprcTo);
+    }
     CWnd* GetAncestor(UINT gaFlags) const { return FromHandle(::GetAncestor(m_hWnd, gaFlags)); }
     int GetWindowRgn(HRGN hRgn) const { return ::GetWindowRgn(m_hWnd, hRgn); }
     // The records' sizes are the framework's to set.

@@ -69,7 +69,7 @@ public:                                                                         
     void InsertAt(INT_PTR nIndex, ARG newElement, INT_PTR nCount = 1) {                                                \
         m_items.insert(nIndex, newElement, nCount);                                                                    \
     }                                                                                                                  \
-    void InsertAt(INT_PTR nStartIndex, class_name* pNewArray) {                                                        \
+    void InsertAt(INT_PTR nStartIndex, const class_name* pNewArray) {                                                  \
         m_items.insert(nStartIndex, pNewArray->m_items);                                                               \
     }                                                                                                                  \
     void RemoveAt(INT_PTR nIndex, INT_PTR nCount = 1) {                                                                \

@@ -64,7 +64,7 @@ HWND message_box_owner() {
 // A function that older systems do not have; there nothing is done.
 template <class... Arguments> void call_system(PCWSTR library, PCSTR name, Arguments... arguments) {
     if (const FARPROC found = ::GetProcAddress(::GetModuleHandleW(library), name))
-        reinterpret_cast<HRESULT(WINAPI*)(Arguments...)>(reinterpret_cast<void*>(found))(arguments...);
+        reinterpret_cast<HRESULT(WINAPI*)(Arguments...)>(reinterpret_cast<void (*)()>(found))(arguments...);
 }
 
 } // namespace

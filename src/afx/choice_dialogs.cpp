@@ -92,7 +92,7 @@ CFontDialog::CFontDialog(LPLOGFONT lplfInitial, DWORD dwFlags, CDC* pdcPrinter, 
         m_cf.hDC = pdcPrinter->m_hDC;
         m_cf.Flags |= CF_PRINTERFONTS;
     }
-    m_cf.lpLogFont = &m_lf;
+    m_cf.lpLogFont = lplfInitial != nullptr ? lplfInitial : &m_lf; // the choice goes into the caller's record, too
     m_cf.lpszStyle = m_szStyleName;
     m_cf.lpfnHook = &CFontDialog::HookProc;
 }
@@ -101,7 +101,10 @@ INT_PTR CFontDialog::DoModal() {
     const modal_parent parent(m_pParentWnd);
     m_cf.hwndOwner = parent.handle();
     m_cf.lCustData = reinterpret_cast<LPARAM>(this);
-    return ::ChooseFont(&m_cf) ? IDOK : IDCANCEL;
+    if (!::ChooseFont(&m_cf))
+        return IDCANCEL;
+    m_lf = *m_cf.lpLogFont;
+    return IDOK;
 }
 
 void CFontDialog::GetCurrentFont(LPLOGFONT lplf) {

@@ -72,7 +72,9 @@ void CControlBar::OnDestroy() {
 }
 
 CFrameWnd* CControlBar::GetDockingFrame() const {
-    return m_pDockSite;
+    CWnd* top = IsFloating() ? FromHandle(::GetAncestor(m_hWnd, GA_ROOT)) : nullptr;
+    auto* frame = DYNAMIC_DOWNCAST(CFrameWnd, top);
+    return frame != nullptr ? frame : m_pDockSite;
 }
 
 void CControlBar::SetBarStyle(DWORD dwStyle) {

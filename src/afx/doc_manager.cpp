@@ -221,6 +221,10 @@ CDocument* CWinApp::OpenDocumentFile(LPCTSTR lpszFileName) {
     return m_pDocManager != nullptr ? m_pDocManager->OpenDocumentFile(lpszFileName) : nullptr;
 }
 
+CDocument* CWinApp::OpenDocumentFile(LPCTSTR lpszFileName, BOOL bAddToMRU) {
+    return m_pDocManager != nullptr ? m_pDocManager->OpenDocumentFile(lpszFileName, bAddToMRU) : nullptr;
+}
+
 int CWinApp::GetOpenDocumentCount() {
     return m_pDocManager != nullptr ? m_pDocManager->GetOpenDocumentCount() : 0;
 }

@@ -103,13 +103,17 @@ void CDocTemplate::OnIdle() {
 BOOL CDocTemplate::FillDocument(CDocument& document, LPCTSTR path, BOOL add_to_recent) {
     if (path == nullptr) {
         SetDefaultTitle(&document);
-        return document.OnNewDocument();
+        if (!document.OnNewDocument())
+            return FALSE;
+        document.OnDocumentEvent(CDocument::onAfterNewDocument);
+        return TRUE;
     }
     const CWaitCursor wait;
     const BOOL modified = document.IsModified();
     document.SetModifiedFlag(FALSE);
     if (document.OnOpenDocument(path)) {
         document.SetPathName(path, add_to_recent);
+        document.OnDocumentEvent(CDocument::onAfterOpenDocument);
         return TRUE;
     }
     if (!document.IsModified())

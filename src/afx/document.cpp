@@ -158,11 +158,14 @@ void CDocument::OnCloseDocument() {
     }
     DeleteContents();
     m_closing = false;
+    OnDocumentEvent(onAfterCloseDocument);
     if (m_bAutoDelete)
         delete this;
 }
 
 void CDocument::PreCloseFrame(CFrameWnd*) {}
+
+void CDocument::OnDocumentEvent(DocumentEvent) {}
 
 // Only its last frame has to ask.
 BOOL CDocument::CanCloseFrame(CFrameWnd* pFrame) {

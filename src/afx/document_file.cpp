@@ -245,6 +245,7 @@ BOOL CDocument::DoSave(LPCTSTR lpszPathName, BOOL bReplace) {
     }
     if (bReplace)
         SetPathName(path);
+    OnDocumentEvent(onAfterSaveDocument);
     return TRUE;
 }
 

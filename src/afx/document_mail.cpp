@@ -23,7 +23,7 @@ public:
 
     LPMAPISENDMAIL send() const {
         const FARPROC found = m_module != nullptr ? ::GetProcAddress(m_module, "MAPISendMail") : nullptr;
-        return reinterpret_cast<LPMAPISENDMAIL>(reinterpret_cast<void*>(found));
+        return reinterpret_cast<LPMAPISENDMAIL>(reinterpret_cast<void (*)()>(found));
     }
 
 private:

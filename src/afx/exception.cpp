@@ -49,14 +49,16 @@ BOOL CException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpC
     return FALSE;
 }
 
+BOOL CException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext) {
+    return static_cast<const CException*>(this)->GetErrorMessage(lpszError, nMaxError, pnHelpContext);
+}
+
 int CException::ReportError(UINT nType, UINT nMessageID) {
     char text[512];
-    if (GetErrorMessage(text, sizeof(text)))
-        return AfxMessageBox(text, nType);
-    CString stored;
-    if (nMessageID != 0 && stored.LoadString(nMessageID))
-        return AfxMessageBox(stored, nType);
-    return AfxMessageBox("The operation failed.", nType);
+    UINT help = 0;
+    if (GetErrorMessage(text, sizeof(text), &help))
+        return AfxMessageBox(text, nType, help);
+    return AfxMessageBox(nMessageID != 0 ? nMessageID : AFX_IDP_NO_ERROR_AVAILABLE, nType, help);
 }
 
 BOOL CSimpleException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext) const {

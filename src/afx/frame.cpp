@@ -50,7 +50,7 @@ ON_NOTIFY_EX_RANGE(TTN_NEEDTEXTA, 0, 0xFFFF, &CFrameWnd::OnToolTipText)
 ON_NOTIFY_EX_RANGE(TTN_NEEDTEXTW, 0, 0xFFFF, &CFrameWnd::OnToolTipText)
 END_MESSAGE_MAP()
 
-const RECT CFrameWnd::rectDefault{CW_USEDEFAULT, CW_USEDEFAULT, 0, 0};
+const CRect CFrameWnd::rectDefault{CW_USEDEFAULT, CW_USEDEFAULT, 0, 0};
 
 CFrameWnd::CFrameWnd() {
     frames_of_this_thread().frames.push_back(this);

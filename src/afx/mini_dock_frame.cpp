@@ -46,14 +46,14 @@ void CMiniDockFrameWnd::LayoutClient() {
 // The bar is hidden: it comes back where it was.
 void CMiniDockFrameWnd::OnClose() {
     if (CControlBar* bar = FirstBar())
-        bar->GetDockingFrame()->ShowControlBar(bar, FALSE, FALSE);
+        bar->m_pDockSite->ShowControlBar(bar, FALSE, FALSE);
 }
 
 void CMiniDockFrameWnd::OnExitSizeMove() {
     CPoint pointer;
     ::GetCursorPos(&pointer);
     if (CControlBar* bar = FirstBar())
-        bar->GetDockingFrame()->DropControlBar(bar, pointer, nullptr);
+        bar->m_pDockSite->DropControlBar(bar, pointer, nullptr);
 }
 
 // The bar decides which sizes there are.
@@ -81,5 +81,5 @@ void CMiniDockFrameWnd::OnSizing(UINT nSide, LPRECT lpRect) {
 void CMiniDockFrameWnd::OnNcLButtonDblClk(UINT nHitTest, CPoint) {
     CControlBar* bar = FirstBar();
     if (nHitTest == HTCAPTION && bar != nullptr)
-        bar->GetDockingFrame()->ToggleFloating(bar);
+        bar->m_pDockSite->ToggleFloating(bar);
 }

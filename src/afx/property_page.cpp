@@ -1,5 +1,8 @@
 #include "afxdlgs.h"
+#include "afxpriv.h"
 #include "wnd_state.h"
+
+#include <utility>
 
 IMPLEMENT_DYNAMIC(CPropertyPage, CDialog)
 
@@ -88,8 +91,11 @@ UINT CALLBACK CPropertyPage::PageCallback(HWND, UINT message, PROPSHEETPAGE* pag
 }
 
 INT_PTR CALLBACK CPropertyPage::PageProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_INITDIALOG)
+    if (message == WM_INITDIALOG) {
         AfxUnhookWindowCreate();
+        if (auto* page = dynamic_cast<CPropertyPage*>(CWnd::FromHandlePermanent(hwnd)))
+            page->m_bFirstSetActive = TRUE;
+    }
     return DialogProc(hwnd, message, wParam, lParam);
 }
 
@@ -97,8 +103,10 @@ BOOL CPropertyPage::PreTranslateMessage(MSG* pMsg) {
     return CWnd::PreTranslateMessage(pMsg); // the sheet's keys and tab order include the page's
 }
 
+// OnInitDialog has shown the data when the page becomes active first, and may have changed what it shows.
 BOOL CPropertyPage::OnSetActive() {
-    UpdateData(FALSE);
+    if (!std::exchange(m_bFirstSetActive, FALSE))
+        UpdateData(FALSE);
     return TRUE;
 }
 
@@ -198,6 +206,9 @@ BOOL CPropertyPage::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
         return TRUE;
     case PSN_WIZFINISH:
         FinishWizard(pResult);
+        return TRUE;
+    case PSN_HELP:
+        SendMessage(WM_COMMANDHELP);
         return TRUE;
     case PSN_QUERYCANCEL:
         *pResult = !OnQueryCancel();

@@ -29,7 +29,8 @@ void CRecentFileList::Add(LPCTSTR lpszPathName) {
     m_names.front() = path;
 }
 
-BOOL CRecentFileList::GetDisplayName(CString& strName, int nIndex, LPCTSTR lpszCurDir, int nCurDir, BOOL) const {
+BOOL CRecentFileList::GetDisplayName(CString& strName, int nIndex, LPCTSTR lpszCurDir, int nCurDir,
+                                     BOOL bAtLeastName) const {
     if (nIndex < 0 || nIndex >= GetSize() || m_names[static_cast<std::size_t>(nIndex)].IsEmpty())
         return FALSE;
     strName = m_names[static_cast<std::size_t>(nIndex)];
@@ -38,6 +39,8 @@ BOOL CRecentFileList::GetDisplayName(CString& strName, int nIndex, LPCTSTR lpszC
         strName = file_name_of(strName);
     } else if (m_display_length != -1) {
         strName = shortened(strName, m_display_length);
+        if (!bAtLeastName && strName.GetLength() > m_display_length)
+            strName.Empty();
     }
     return TRUE;
 }

@@ -39,7 +39,6 @@ void AFXAPI AfxFormatString2(CString& rString, UINT nIDS, LPCTSTR lpsz1, LPCTSTR
 }
 
 BOOL AFXAPI AfxExtractSubString(CString& rString, LPCTSTR lpszFullString, int iSubString, TCHAR chSep) {
-    rString.Empty();
     for (const char* from = lpszFullString; from != nullptr;) {
         const char* end = std::strchr(from, chSep);
         if (iSubString-- == 0) {
@@ -48,6 +47,8 @@ BOOL AFXAPI AfxExtractSubString(CString& rString, LPCTSTR lpszFullString, int iS
         }
         from = end != nullptr ? end + 1 : nullptr;
     }
+    if (lpszFullString != nullptr)
+        rString.Empty();
     return FALSE;
 }
 

@@ -94,6 +94,16 @@ BOOL CRichEditCtrl::SetParaFormat(PARAFORMAT& pf) {
     return Ask(EM_SETPARAFORMAT, 0, afx_param(&pf));
 }
 
+DWORD CRichEditCtrl::GetParaFormat(PARAFORMAT2& pf) const {
+    pf.cbSize = sizeof(pf);
+    return static_cast<DWORD>(SendMessage(EM_GETPARAFORMAT, 0, afx_param(&pf)));
+}
+
+BOOL CRichEditCtrl::SetParaFormat(PARAFORMAT2& pf) {
+    pf.cbSize = sizeof(pf);
+    return Ask(EM_SETPARAFORMAT, 0, afx_param(&pf));
+}
+
 void CRichEditCtrl::PasteSpecial(UINT nClipFormat, DWORD dvAspect, HMETAFILE hMF) {
     REPASTESPECIAL how{dvAspect, reinterpret_cast<DWORD_PTR>(hMF)};
     SendMessage(EM_PASTESPECIAL, nClipFormat, afx_param(&how));

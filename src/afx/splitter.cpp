@@ -54,11 +54,10 @@ BOOL CSplitterWnd::CreateCommon(CWnd* parent, SIZE least, DWORD style, UINT id) 
 BOOL CSplitterWnd::Create(CWnd* pParentWnd, int nMaxRows, int nMaxCols, SIZE sizeMin, CCreateContext* pContext,
                           DWORD dwStyle, UINT nID) {
     ENSURE_ARG(nMaxRows >= 1 && nMaxRows <= 2 && nMaxCols >= 1 && nMaxCols <= 2);
-    ENSURE_ARG(pContext != nullptr && pContext->m_pNewViewClass != nullptr);
     m_nMaxRows = nMaxRows;
     m_nMaxCols = nMaxCols;
     m_nRows = m_nCols = 1;
-    m_pDynamicViewClass = pContext->m_pNewViewClass;
+    m_pDynamicViewClass = pContext != nullptr ? pContext->m_pNewViewClass : nullptr; // where CreateView is overridden
     if (!CreateCommon(pParentWnd, sizeMin, dwStyle, nID))
         return FALSE;
     if (CreateView(0, 0, m_pDynamicViewClass, sizeMin, pContext))
@@ -88,7 +87,7 @@ BOOL CSplitterWnd::CreateView(int row, int col, CRuntimeClass* pViewClass, SIZE 
         context.m_pNewViewClass = pViewClass;
         pContext = &context;
     }
-    CWnd* pane = DYNAMIC_DOWNCAST(CWnd, pViewClass->CreateObject());
+    CWnd* pane = pViewClass != nullptr ? DYNAMIC_DOWNCAST(CWnd, pViewClass->CreateObject()) : nullptr;
     if (pane == nullptr)
         return FALSE;
     const DWORD style = AFX_WS_DEFAULT_VIEW & ~static_cast<DWORD>(WS_BORDER);

@@ -14,14 +14,15 @@ LPCSTR text_or_empty(LPCSTR text) {
     return text != nullptr ? text : "";
 }
 
-std::string to_ansi(LPCWSTR source) {
-    if (source == nullptr)
-        return {};
-    const int length = WideCharToMultiByte(CP_ACP, 0, source, -1, nullptr, 0, nullptr, nullptr);
-    std::string text(static_cast<std::size_t>(std::max(length, 1)), '\0');
-    WideCharToMultiByte(CP_ACP, 0, source, -1, text.data(), length, nullptr, nullptr);
-    text.pop_back(); // the terminator that was counted
+std::string to_ansi(LPCWSTR source, int count) {
+    const int length = WideCharToMultiByte(CP_ACP, 0, source, count, nullptr, 0, nullptr, nullptr);
+    std::string text(static_cast<std::size_t>(std::max(length, 0)), '\0');
+    WideCharToMultiByte(CP_ACP, 0, source, count, text.data(), length, nullptr, nullptr);
     return text;
+}
+
+std::string to_ansi(LPCWSTR source) {
+    return source != nullptr ? to_ansi(source, lstrlenW(source)) : std::string();
 }
 
 } // namespace
@@ -46,7 +47,7 @@ CString::CString(LPCSTR source, int length) {
 
 CString::CString(LPCWSTR source, int length) {
     if (source != nullptr && length > 0)
-        m_text = to_ansi(std::wstring(source, static_cast<std::size_t>(length)).c_str());
+        m_text = to_ansi(source, length);
 }
 
 CString::CString(char c, int repeat) : m_text(static_cast<std::size_t>(std::max(repeat, 0)), c) {}
@@ -210,7 +211,7 @@ BOOL CString::LoadString(HINSTANCE instance, UINT id) {
     const int length = instance != nullptr ? LoadStringW(instance, id, reinterpret_cast<LPWSTR>(&resource), 0) : 0;
     if (length <= 0)
         return FALSE;
-    m_text = to_ansi(std::wstring(resource, static_cast<std::size_t>(length)).c_str());
+    m_text = to_ansi(resource, length);
     return TRUE;
 }
 
@@ -225,7 +226,7 @@ BOOL CString::LoadString(HINSTANCE instance, UINT id, WORD language) {
         at += *at + 1;
     if (at >= end || *at == 0 || *at >= end - at)
         return FALSE;
-    m_text = to_ansi(std::wstring(at + 1, *at).c_str());
+    m_text = to_ansi(at + 1, *at);
     return TRUE;
 }
 

@@ -4,6 +4,7 @@
 #include "afx_document.h"
 #include "afx_view.h"
 #include "afxdlgs.h"
+#include "print_box.h"
 #include "printer.h"
 
 #include <algorithm>
@@ -95,10 +96,14 @@ CString job_title(const CView& view) {
 
 } // namespace
 
-bool CView::PrintPages(CDC& dc, CPrintInfo& info) {
+bool CView::PrintPages(CDC& dc, CPrintInfo& info, print_box& box) {
+    const HWND self = m_hWnd; // the box lets messages through
     const UINT last = std::clamp(info.GetToPage(), info.GetMinPage(), info.GetMaxPage());
     for (info.m_nCurPage = std::max(info.GetFromPage(), info.GetMinPage()); info.m_nCurPage <= last;
          ++info.m_nCurPage) {
+        box.ShowPage(info.m_nCurPage);
+        if (box.IsStopped() || !::IsWindow(self))
+            return false;
         const int state = ::SaveDC(dc);
         OnPrepareDC(&dc, &info);
         if (!info.m_bContinuePrinting) {
@@ -107,14 +112,14 @@ bool CView::PrintPages(CDC& dc, CPrintInfo& info) {
         }
         info.m_rectDraw = CRect(0, 0, ::GetDeviceCaps(dc, HORZRES), ::GetDeviceCaps(dc, VERTRES));
         ::DPtoLP(dc, reinterpret_cast<LPPOINT>(&info.m_rectDraw), 2);
-        if (dc.StartPage() <= 0)
+        if (dc.StartPage() <= 0 || !::IsWindow(self))
             return false;
         OnPrint(&dc, &info);
         ::RestoreDC(dc, state);
-        if (dc.EndPage() <= 0)
+        if (dc.EndPage() <= 0 || !::IsWindow(self))
             return false;
     }
-    return true;
+    return !box.IsStopped() && ::IsWindow(self);
 }
 
 void CView::OnFilePrint() {
@@ -134,17 +139,21 @@ void CView::OnFilePrint() {
     job.lpszDocName = title;
     if ((info.m_pPD->m_pd.Flags & PD_PRINTTOFILE) != 0)
         job.lpszOutput = "FILE:";
-    bool printed = dc.StartDoc(&job) > 0;
-    if (printed) {
-        const CWaitCursor wait;
-        printed = PrintPages(dc, info);
-        if (printed)
-            dc.EndDoc();
-        else
-            dc.AbortDoc();
+    const HWND self = m_hWnd;
+    bool printed = false, stopped = false;
+    {
+        print_box box(dc, title, info.m_pPD->GetDeviceName(), info.m_pPD->GetPortName());
+        printed = dc.StartDoc(&job) > 0;
+        if (printed) {
+            printed = PrintPages(dc, info, box);
+            printed ? dc.EndDoc() : dc.AbortDoc();
+        }
+        stopped = box.IsStopped();
     }
+    if (!::IsWindow(self))
+        return; // who closed it has nothing to end
     OnEndPrinting(&dc, &info);
-    if (!printed)
+    if (!printed && !stopped)
         AfxMessageBox(AFX_IDP_FAILED_TO_START_PRINT);
 }
 

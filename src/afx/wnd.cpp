@@ -190,7 +190,7 @@ LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbr
     description.lpfnWndProc = &::DefWindowProc;
     description.hInstance = AfxGetInstanceHandle();
     description.hIcon = hIcon;
-    description.hCursor = hCursor;
+    description.hCursor = hCursor != nullptr ? hCursor : ::LoadCursor(nullptr, IDC_ARROW);
     description.hbrBackground = hbrBackground;
     description.lpszClassName = at->second.c_str();
     if (!AfxRegisterClass(&description))

@@ -12,6 +12,7 @@ namespace {
 class foreign_exception : public CException {
 public:
     explicit foreign_exception(LPCTSTR text) : m_text(text) {}
+    using CException::GetErrorMessage;
     BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT) const override {
         lstrcpyn(lpszError, m_text, static_cast<int>(nMaxError));
         return TRUE;

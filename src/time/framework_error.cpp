@@ -9,6 +9,7 @@ class DateException : public COleException {
 public:
     explicit DateException(SCODE code) { m_sc = code; }
 
+    using CException::GetErrorMessage;
     BOOL GetErrorMessage(LPTSTR text, UINT room, PUINT help = nullptr) const override {
         if (help)
             *help = 0;
