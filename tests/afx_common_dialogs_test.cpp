@@ -2,6 +2,7 @@
 #include "afx_test_app.h"
 #include "modal.h"
 
+#include <afxcontrolbars.h>
 #include <afxdlgs.h>
 
 namespace {
@@ -44,6 +45,45 @@ TEST_F(AfxCommonDialogs, AColourIsChosen) {
     CColorDialog again(0, 0, &parent);
     EXPECT_EQ(run(again, [&] { return press(again, IDCANCEL); }), IDCANCEL);
     EXPECT_EQ(CColorDialog::GetSavedCustomColors()[3], RGB(9, 9, 9)) << "kept as long as the program runs";
+}
+
+TEST_F(AfxCommonDialogs, AFolderIsChosenAmongTheShellsItems) {
+    CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CMFCVisualManagerWindows)); // as wizards write it
+    EXPECT_TRUE(CMFCVisualManager::GetInstance()->IsKindOf(RUNTIME_CLASS(CMFCVisualManagerWindows)));
+    EXPECT_THROW(CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CDialog)), CInvalidArgException*);
+    CShellManager shell;
+    LPITEMIDLIST folder = nullptr, parent_item = nullptr, drive = nullptr;
+    ASSERT_TRUE(SUCCEEDED(shell.ItemFromPath("C:\\windows", folder)) && SUCCEEDED(shell.ItemFromPath("C:\\", drive)));
+    const UINT parts = shell.GetItemCount(folder);
+    ASSERT_GE(parts, 2u);
+    EXPECT_EQ(shell.GetParentItem(folder, parent_item), parts - 1);
+    EXPECT_TRUE(::ILIsEqual(parent_item, drive));
+    LPCITEMIDLIST last = folder;
+    for (UINT i = 1; i < parts; ++i)
+        last = shell.GetNextItem(last);
+    EXPECT_EQ(shell.GetNextItem(last), nullptr);
+    LPITEMIDLIST again = shell.ConcatenateItem(drive, last);
+    EXPECT_TRUE(::ILIsEqual(again, folder) && shell.GetItemSize(again) == shell.GetItemSize(folder));
+    for (LPITEMIDLIST item : {folder, parent_item, drive, again, shell.CreateItem(8)})
+        shell.FreeItem(item);
+    EXPECT_TRUE(shell.GetItemCount(nullptr) == 0 && shell.GetNextItem(nullptr) == nullptr);
+    EXPECT_TRUE(FAILED(shell.ItemFromPath("C:\\no such", folder)) && folder == nullptr);
+    EXPECT_TRUE(FAILED(shell.ItemFromPath(nullptr, folder)));
+
+    CString chosen = "none";
+    const auto answer = [&](int button) {
+        WhileModal modal([&] {
+            const HWND dialog = ::GetLastActivePopup(parent);
+            return dialog != parent.m_hWnd && ::IsWindowVisible(dialog) && ::GetDlgItem(dialog, button) != nullptr &&
+                   ::PostMessage(dialog, WM_COMMAND, static_cast<WPARAM>(button), 0);
+        });
+        return shell.BrowseForFolder(chosen, &parent, "C:\\windows", "Choose");
+    };
+    EXPECT_FALSE(answer(IDCANCEL));
+    EXPECT_STREQ(chosen, "none");
+    EXPECT_TRUE(answer(IDOK));
+    EXPECT_STREQ(chosen.MakeLower(), "c:\\windows");
+    ControlBarCleanUp();
 }
 
 TEST_F(AfxCommonDialogs, AFontIsDescribedAsItWasChosen) {

@@ -40,6 +40,7 @@ public:
     DWORD GetDefID() const { return static_cast<DWORD>(SendMessage(DM_GETDEFID)); }
     // Whether DoModal is to centre a dialog whose template does not place it.
     virtual BOOL CheckAutoCenter();
+    void SetHelpID(UINT nIDR) { m_nIDHelp = nIDR; }
     // The font of the controls, before they are made.
     virtual void OnSetFont(CFont* pFont);
 

@@ -29,6 +29,7 @@ struct CCreateContext {
 // The document's title comes into the frame's, before the program's or behind it.
 #define FWS_ADDTOTITLE 0x00008000L
 #define FWS_PREFIXTITLE 0x00004000L
+#define FWS_SNAPTOBARS 0x00002000L // of the small frames around bars, which always do
 #define AFX_WS_DEFAULT_VIEW (WS_CHILD | WS_VISIBLE | WS_BORDER)
 
 // A top-level window with a menu, bars around its client area and a view in it. Commands go to the active view, to the

@@ -18,6 +18,7 @@ ZOPAFX_API void AFXAPI AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL 
 
 // Loads an extension library on demand, and lets go of it.
 ZOPAFX_API HINSTANCE AFXAPI AfxLoadLibrary(LPCTSTR lpszModuleName);
+ZOPAFX_API HINSTANCE AFXAPI AfxLoadLibraryEx(LPCTSTR lpFileName, HANDLE hFile, DWORD dwFlags);
 ZOPAFX_API BOOL AFXAPI AfxFreeLibrary(HINSTANCE hInstLib);
 
 // Puts an extension library into the resource chain, the latest first. Created with new; the framework owns it.

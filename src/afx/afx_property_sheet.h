@@ -143,6 +143,7 @@ public:
     virtual BOOL Create(CWnd* pParentWnd = nullptr, DWORD dwStyle = static_cast<DWORD>(-1), DWORD dwExStyle = 0);
     using CWnd::Create;
     void EndDialog(int nEndID);
+    void MapDialogRect(LPRECT lpRect) const { ::MapDialogRect(m_hWnd, lpRect); }
     BOOL PressButton(int nButton) { return SendMessage(PSM_PRESSBUTTON, static_cast<WPARAM>(nButton)) != 0; }
 
     virtual BOOL OnInitDialog();

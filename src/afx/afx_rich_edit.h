@@ -25,6 +25,7 @@ public:
     int GetFirstVisibleLine() const { return Ask(EM_GETFIRSTVISIBLELINE); }
     void LineScroll(int nLines, int nChars = 0) { SendMessage(EM_LINESCROLL, static_cast<WPARAM>(nChars), nLines); }
     // Without a terminator; at most nMaxLength characters.
+    int GetLine(int nIndex, LPTSTR lpszBuffer) const { return Ask(EM_GETLINE, nIndex, afx_param(lpszBuffer)); }
     int GetLine(int nIndex, LPTSTR lpszBuffer, int nMaxLength) const;
     long GetTextLength() const { return static_cast<long>(SendMessage(WM_GETTEXTLENGTH)); }
     // By a unit and an accuracy: GTL_ values.

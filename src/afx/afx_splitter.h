@@ -44,6 +44,7 @@ public:
     BOOL IsChildPane(CWnd* pWnd, int& row, int& col) { return IsChildPane(pWnd, &row, &col); }
     int IdFromRowCol(int row, int col) const;
 
+    BOOL IsTracking() const { return m_bTracking; }
     virtual CWnd* GetActivePane(int* pRow = nullptr, int* pCol = nullptr);
     virtual void SetActivePane(int row, int col, CWnd* pWnd = nullptr);
     virtual BOOL CanActivateNext(BOOL bPrev = FALSE);

@@ -5,3 +5,8 @@
 
 // CMemoryException for E_OUTOFMEMORY, COleException with the code for every other one.
 [[noreturn]] ZOPAFX_API void AtlThrow(HRESULT hr);
+// Raises the same where the code tells of a failure.
+inline void AFXAPI AfxCheckError(SCODE sc) {
+    if (FAILED(sc))
+        AtlThrow(sc);
+}

@@ -55,6 +55,10 @@ HINSTANCE AFXAPI AfxLoadLibrary(LPCTSTR lpszModuleName) {
     return ::LoadLibrary(lpszModuleName);
 }
 
+HINSTANCE AFXAPI AfxLoadLibraryEx(LPCTSTR lpFileName, HANDLE hFile, DWORD dwFlags) {
+    return ::LoadLibraryEx(lpFileName, hFile, dwFlags);
+}
+
 BOOL AFXAPI AfxFreeLibrary(HINSTANCE hInstLib) {
     return ::FreeLibrary(hInstLib);
 }
