@@ -117,8 +117,19 @@ TEST_F(AfxCommonDialogs, AFontIsDescribedAsItWasChosen) {
     EXPECT_EQ(dialog.GetFaceName(), face);
     EXPECT_TRUE(wanted.lfHeight == dialog.m_lf.lfHeight && wanted.lfHeight != 0) << "the caller's, too";
     EXPECT_EQ(meanwhile.lfHeight, dialog.m_lf.lfHeight) << "what the open dialog shows, not what it began with";
-    CFontDialog other(nullptr, CF_SCREENFONTS, nullptr, &parent);
-    EXPECT_EQ(run(other, [&] { return press(other, IDCANCEL); }), IDCANCEL);
+    CHARFORMAT format{}, chosen{};
+    dialog.GetCharFormat(format);
+    EXPECT_EQ(format.yHeight, 36 * 20);
+    CFontDialog other(format, CF_EFFECTS | CF_SCREENFONTS, nullptr, &parent);
+    EXPECT_EQ(run(other, [&] { return press(other, IDOK); }), IDOK);
+    other.GetCharFormat(chosen);
+    EXPECT_TRUE(chosen.yHeight == format.yHeight && chosen.dwEffects == (CFE_BOLD | CFE_ITALIC | CFE_UNDERLINE));
+    EXPECT_STREQ(chosen.szFaceName, face);
+    format.dwMask = CFM_BOLD;
+    CFontDialog bold_only(format, CF_SCREENFONTS, nullptr, &parent);
+    EXPECT_EQ(run(bold_only, [&] { return press(bold_only, IDCANCEL); }), IDCANCEL);
+    bold_only.GetCharFormat(chosen);
+    EXPECT_EQ(chosen.dwMask, CFM_BOLD | CFM_ITALIC);
 }
 
 // Writes down what its dialog for searching tells.

@@ -3,6 +3,8 @@
 
 #include "afx_file_dialog.h"
 
+#include <richedit.h>
+
 class ZOPAFX_API CColorDialog : public CCommonDialog {
     DECLARE_DYNAMIC(CColorDialog)
 
@@ -31,6 +33,11 @@ public:
     // The record of the first font is the caller's, as long as the dialog lives, and takes what is chosen.
     explicit CFontDialog(LPLOGFONT lplfInitial = nullptr, DWORD dwFlags = CF_EFFECTS | CF_SCREENFONTS,
                          CDC* pdcPrinter = nullptr, CWnd* pParentWnd = nullptr);
+    // For a rich edit control: what the format's mask leaves out is not chosen before.
+    explicit CFontDialog(const CHARFORMAT& charformat, DWORD dwFlags = CF_SCREENFONTS, CDC* pdcPrinter = nullptr,
+                         CWnd* pParentWnd = nullptr);
+    // What the user left without a choice is not in the mask.
+    void GetCharFormat(CHARFORMAT& cf) const;
     INT_PTR DoModal() override;
     // What was chosen, or is being chosen while the dialog is shown.
     void GetCurrentFont(LPLOGFONT lplf);

@@ -59,6 +59,7 @@ public:
     CFile() = default;
     explicit CFile(HANDLE hFile) : m_hFile(hFile) {}
     CFile(LPCTSTR lpszFileName, UINT nOpenFlags);
+    CFile(LPCTSTR lpszFileName, UINT nOpenFlags, ATL::CAtlTransactionManager*) : CFile(lpszFileName, nOpenFlags) {}
     ~CFile() override;
     operator HANDLE() const { return m_hFile; }
 
@@ -116,6 +117,8 @@ public:
     // The stream stays the caller's unless the object closes it.
     explicit CStdioFile(FILE* pOpenStream) : m_pStream(pOpenStream) {}
     CStdioFile(LPCTSTR lpszFileName, UINT nOpenFlags);
+    CStdioFile(LPCTSTR lpszFileName, UINT nOpenFlags, ATL::CAtlTransactionManager*)
+        : CStdioFile(lpszFileName, nOpenFlags) {}
     ~CStdioFile() override;
 
     BOOL Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError = nullptr) override;
@@ -195,6 +198,7 @@ class ZOPAFX_API CFileFind : public CObject {
 
 public:
     CFileFind() = default;
+    explicit CFileFind(ATL::CAtlTransactionManager*) {}
     ~CFileFind() override;
 
     // Null finds all of the current folder.

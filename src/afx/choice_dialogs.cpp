@@ -97,6 +97,49 @@ CFontDialog::CFontDialog(LPLOGFONT lplfInitial, DWORD dwFlags, CDC* pdcPrinter, 
     m_cf.lpfnHook = &CFontDialog::HookProc;
 }
 
+CFontDialog::CFontDialog(const CHARFORMAT& charformat, DWORD dwFlags, CDC* pdcPrinter, CWnd* pParentWnd)
+    : CFontDialog(nullptr, dwFlags | CF_INITTOLOGFONTSTRUCT, pdcPrinter, pParentWnd) {
+    constexpr int twips_an_inch = 1440;
+    const DWORD named = charformat.dwMask, on = charformat.dwEffects & named;
+    m_cf.Flags |= ((named & CFM_FACE) == 0 ? CF_NOFACESEL : 0) | ((named & CFM_SIZE) == 0 ? CF_NOSIZESEL : 0) |
+                  ((named & (CFM_BOLD | CFM_ITALIC)) == 0 ? CF_NOSTYLESEL : 0);
+    m_lf.lfCharSet = (named & CFM_CHARSET) != 0 ? charformat.bCharSet : BYTE{DEFAULT_CHARSET};
+    ::lstrcpyn(m_lf.lfFaceName, (named & CFM_FACE) != 0 ? charformat.szFaceName : "", LF_FACESIZE);
+    if ((named & CFM_SIZE) != 0)
+        m_lf.lfHeight = -::MulDiv(charformat.yHeight, CClientDC(nullptr).GetDeviceCaps(LOGPIXELSY), twips_an_inch);
+    m_lf.lfWeight = (on & CFE_BOLD) != 0 ? FW_BOLD : FW_NORMAL;
+    m_lf.lfItalic = (on & CFE_ITALIC) != 0;
+    m_lf.lfUnderline = (on & CFE_UNDERLINE) != 0;
+    m_lf.lfStrikeOut = (on & CFE_STRIKEOUT) != 0;
+    if ((named & CFM_COLOR) != 0 && (on & CFE_AUTOCOLOR) == 0)
+        m_cf.rgbColors = charformat.crTextColor;
+}
+
+void CFontDialog::GetCharFormat(CHARFORMAT& cf) const {
+    constexpr int twips_a_tenth = 2;
+    cf = {};
+    cf.cbSize = sizeof(cf);
+    if ((m_cf.Flags & CF_NOFACESEL) == 0) {
+        cf.dwMask |= CFM_FACE | CFM_CHARSET;
+        cf.bCharSet = m_lf.lfCharSet;
+        cf.bPitchAndFamily = m_lf.lfPitchAndFamily;
+        ::lstrcpyn(cf.szFaceName, m_lf.lfFaceName, LF_FACESIZE);
+    }
+    if ((m_cf.Flags & CF_NOSIZESEL) == 0) {
+        cf.dwMask |= CFM_SIZE;
+        cf.yHeight = GetSize() * twips_a_tenth;
+    }
+    if ((m_cf.Flags & CF_NOSTYLESEL) == 0) {
+        cf.dwMask |= CFM_BOLD | CFM_ITALIC;
+        cf.dwEffects |= (IsBold() ? CFE_BOLD : 0) | (IsItalic() ? CFE_ITALIC : 0);
+    }
+    if ((m_cf.Flags & CF_EFFECTS) != 0) {
+        cf.dwMask |= CFM_UNDERLINE | CFM_STRIKEOUT | CFM_COLOR;
+        cf.dwEffects |= (IsUnderline() ? CFE_UNDERLINE : 0) | (IsStrikeOut() ? CFE_STRIKEOUT : 0);
+        cf.crTextColor = GetColor();
+    }
+}
+
 INT_PTR CFontDialog::DoModal() {
     const modal_parent parent(m_pParentWnd);
     m_cf.hwndOwner = parent.handle();
