@@ -107,9 +107,15 @@ BOOL CMainFrame::PreTranslateMessage(MSG* message) {
 
 BOOL CMainFrame::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) {
     const auto& told = *reinterpret_cast<const NMHDR*>(lParam);
-    if (told.code == WNT_TABS_SELECTED && tabs_.GetPage(tabs_.GetSelected()) == &history_)
-        history_.FindDays();
+    if (told.code == WNT_TABS_SELECTED)
+        LookForDays();
     return CFrameWnd::OnNotify(wParam, lParam, result);
+}
+
+// The folder is read for the one page that shows it.
+void CMainFrame::LookForDays() {
+    if (tabs_.GetPage(tabs_.GetSelected()) == &history_)
+        history_.FindDays();
 }
 
 // -- News of the plant ------------------------------------------------------------------------------------------------

@@ -71,6 +71,7 @@ private:
     std::array<CFrontPage*, 4> Pages() { return {&overview_, &trend_, &history_, &report_}; }
     bool CreateTools();
     bool CreatePages();
+    void LookForDays();
     void ShowSettings();
     void TellRecordingFault(const CString& fault);
     void StorePlace();

@@ -184,7 +184,7 @@ void CMainFrame::OnSettings() {
 
 void CMainFrame::OnPage(UINT id) {
     tabs_.Select(static_cast<int>(id - ID_PAGE_FIRST));
-    history_.FindDays();
+    LookForDays();
 }
 
 void CMainFrame::OnUpdatePage(CCmdUI* ui) {
