@@ -2,8 +2,6 @@
 #include "afx_thread.h"
 #include "afxres.h"
 
-#include <utility>
-
 namespace {
 
 // An abort procedure is told nothing but the device context.
@@ -12,7 +10,7 @@ thread_local print_box* printing = nullptr;
 } // namespace
 
 print_box::print_box(CDC& dc, LPCTSTR document, LPCTSTR printer, LPCTSTR port)
-    : m_behind(modal_owner(nullptr)), m_outer(std::exchange(printing, this)) {
+    : m_behind(modal_owner(nullptr)), m_outer(printing) {
     if (Create(AFX_IDD_PRINTDLG, AfxGetMainWnd())) {
         CString on;
         if (port != nullptr && *port != '\0')
@@ -24,6 +22,7 @@ print_box::print_box(CDC& dc, LPCTSTR document, LPCTSTR printer, LPCTSTR port)
         ShowWindow(SW_SHOW);
         UpdateWindow();
     }
+    printing = this;
     dc.SetAbortProc(&AbortProc);
 }
 
