@@ -1,5 +1,4 @@
 #include "controls/tip_layout.h"
-#include "test_random.h"
 
 #include <gtest/gtest.h>
 
@@ -78,30 +77,6 @@ TEST(TipLayout, PartsStandBesideEachOther) {
     EXPECT_TRUE(tip.lines[0].x == 12 && tip.width == 48 && tip.height == 26);
     tip = lay_out_tip({"", "", 16, 16}, fonts, 300, 100);
     EXPECT_TRUE(tip.width == 28 && tip.height == 24 && tip.lines.empty());
-}
-
-TEST(TipLayout, NothingLiesOutsideOrOverAnother) {
-    Random random(3);
-    const auto some = [&](int most) { return random.upto(most); };
-    for (int run = 0; run < 500; ++run) {
-        std::string title, text;
-        for (int i = some(40); i > 0; --i)
-            title += " ax\n\r\t"[some(5)];
-        for (int i = some(400); i > 0; --i)
-            text += " axyz\n"[some(5)];
-        EvenFonts fonts;
-        const int icon = some(1) * some(64), widest = some(400), scale = some(400);
-        const TipLayout tip = lay_out_tip({title, text, icon, icon, some(1) == 1}, fonts, widest, scale);
-        int below = 0;
-        for (const TipLine& line : tip.lines) {
-            ASSERT_GE(line.y, below);
-            below = line.y + fonts.row();
-            ASSERT_GE(line.x, tip.icon.right);
-            ASSERT_LE(line.x + fonts.width(line.text, line.bold), tip.width);
-            ASSERT_LE(below, tip.height);
-        }
-        ASSERT_TRUE(tip.sample.right <= tip.width && tip.sample.bottom <= tip.height && tip.icon.bottom <= tip.height);
-    }
 }
 
 TEST(TipLayout, StaysOnTheScreenBesideWhatItExplains) {
