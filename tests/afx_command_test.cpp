@@ -19,12 +19,10 @@ template <class... Numbers> std::string text(const char* name, Numbers... number
 }
 
 // Writes down each message as its handler sees it.
-class unpacker : public CWnd {
-public:
+struct unpacker : CWnd {
     Texts log;
     using CWnd::WindowProc;
 
-protected:
     template <class... Numbers> void note(const char* name, Numbers... numbers) {
         log.push_back(text(name, numbers...));
     }
@@ -156,13 +154,11 @@ TEST(AfxMessageMap, HandlersSeeTheParametersOfTheirMessages) {
 }
 
 // Commands by range, with an answer, and their updates.
-class commander : public CWnd {
-public:
+struct commander : CWnd {
     Texts log;
     BOOL handled = FALSE;
     bool enabled = true;
 
-protected:
     void OnRange(UINT id) { log.push_back(text("range", id)); }
     BOOL OnMaybe(UINT id) { return log.push_back(text("maybe", id)), handled; }
     void OnPlain() { log.push_back("plain"); }
@@ -233,12 +229,10 @@ TEST(AfxCommands, AreHandledByRangeAndAnswer) {
 }
 
 // A control that sees to its own notifications.
-class selfish : public CWnd {
-public:
+struct selfish : CWnd {
     Texts log;
     BOOL keeps = TRUE;
 
-protected:
     BOOL OnClicked() { return log.push_back("clicked"), keeps; }
     void OnNotified(NMHDR*, LRESULT* result) { log.push_back("notified"), *result = 5; }
     HBRUSH CtlColor(CDC* dc, UINT kind) {

@@ -16,10 +16,9 @@ using testing::ElementsAre;
 
 namespace {
 
-class note : public CDocument {
+struct note : CDocument {
     DECLARE_DYNCREATE(note)
 
-public:
     std::string text;
     bool fails = false;
     static inline int alive = 0;
@@ -42,10 +41,9 @@ public:
 };
 IMPLEMENT_DYNCREATE(note, CDocument)
 
-class note_view : public CView {
+struct note_view : CView {
     DECLARE_DYNCREATE(note_view)
 
-public:
     static inline std::vector<std::string> log;
     void OnDraw(CDC*) override {}
     void OnInitialUpdate() override {
@@ -57,8 +55,7 @@ public:
 IMPLEMENT_DYNCREATE(note_view, CView)
 
 // A program with one kind of document, answering its questions by itself.
-class NoteProgram : public testing::Test {
-protected:
+struct NoteProgram : testing::Test {
     void SetUp() override {
         the_app.m_nCmdShow = SW_SHOWNOACTIVATE;
         // The registered template and its frame live as long as the test.
@@ -181,8 +178,7 @@ TEST_F(NoteProgram, OpensWhatTheUserChoosesUnlessNothingIsChosen) {
 }
 
 // Documents side by side in one frame.
-class AfxSeveralDocuments : public testing::Test {
-protected:
+struct AfxSeveralDocuments : testing::Test {
     AfxSeveralDocuments() {
         the_app.m_nCmdShow = SW_SHOWNOACTIVATE;
         add(RUNTIME_CLASS(note), IDR_FRAME);
@@ -301,10 +297,9 @@ TEST_F(AfxSeveralDocuments, AreOpenedByTheShellsCommands) {
 }
 
 // The document's views are a list that programs go through themselves.
-class listed_note : public note {
+struct listed_note : note {
     DECLARE_DYNCREATE(listed_note)
 
-public:
     BOOL OnNewDocument() override { return note::OnNewDocument() && m_viewList.GetCount() == 1; }
 };
 IMPLEMENT_DYNCREATE(listed_note, note)

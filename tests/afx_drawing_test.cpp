@@ -5,8 +5,7 @@
 
 namespace {
 
-class AfxDeviceContext : public testing::Test {
-protected:
+struct AfxDeviceContext : testing::Test {
     canvas dc{100, 100};
 };
 

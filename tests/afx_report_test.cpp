@@ -6,10 +6,9 @@
 
 namespace {
 
-class described : public CObject {
+struct described : CObject {
     DECLARE_DYNAMIC(described)
 
-public:
     void Dump(CDumpContext& dc) const override {
         CObject::Dump(dc);
         dc << "number " << number << "\n";

@@ -8,8 +8,7 @@ using testing::ElementsAre;
 
 namespace {
 
-class plain_frame : public CFrameWnd {
-public:
+struct plain_frame : CFrameWnd {
     bool open() { return Create(nullptr, "frame") != FALSE; }
     void PostNcDestroy() override {}
 };
@@ -31,8 +30,7 @@ TEST(AfxToolBarResource, IsReadInBothFormsAndRefusedWhereItIsBroken) {
 }
 
 // A child dialog whose boxes are filled from data.
-class boxes : public CWnd {
-public:
+struct boxes : CWnd {
     bool open(CWnd& parent) { return CreateDlg(MAKEINTRESOURCE(IDD_BOXES), &parent) != FALSE; }
     int count(int id, UINT message) { return static_cast<int>(SendDlgItemMessage(id, message)); }
 };

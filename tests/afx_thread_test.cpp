@@ -13,10 +13,9 @@ namespace {
 constexpr UINT add_message = WM_APP + 1, window_message = WM_APP + 2, end_message = WM_APP + 3;
 
 // A thread with a window; keeps what its messages say.
-class window_thread : public CWinThread {
+struct window_thread : CWinThread {
     DECLARE_DYNCREATE(window_thread)
 
-public:
     static inline std::vector<int> log;
     static inline std::atomic<int> alive = 0;
     CWnd wnd;
@@ -36,7 +35,6 @@ public:
         return CWinThread::ExitInstance();
     }
 
-protected:
     void OnAdd(WPARAM w, LPARAM l) { log.push_back(static_cast<int>(w) + static_cast<int>(l)); }
     void OnEnd(WPARAM, LPARAM) { wnd.DestroyWindow(); }
     DECLARE_MESSAGE_MAP()
@@ -96,8 +94,7 @@ UINT post_samples(LPVOID parameter) {
     return 17;
 }
 
-class receiver : public CWnd {
-public:
+struct receiver : CWnd {
     int sum = 0;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
         sum += message == window_message ? static_cast<int>(wParam) : 0;

@@ -6,8 +6,7 @@
 namespace {
 
 // A tracking is run by messages that lie in the queue before it begins.
-class AfxTracker : public WithParent {
-protected:
+struct AfxTracker : WithParent {
     void queue(UINT message, int x, int y) { parent.PostMessage(message, 0, MAKELPARAM(x, y)); }
     CRect tracked(CRectTracker& tracker, CPoint from, CPoint to, UINT end = WM_LBUTTONUP, BOOL invert = FALSE) {
         queue(WM_MOUSEMOVE, to.x, to.y);

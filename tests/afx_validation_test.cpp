@@ -7,8 +7,7 @@
 
 namespace {
 
-class AfxEntry : public WithDataDialog<data_dialog> {
-protected:
+struct AfxEntry : WithDataDialog<data_dialog> {
     // False where the exchange is refused: the user is told once.
     bool exchange(BOOL save, const std::function<void(CDataExchange*)>& work) {
         CDataExchange data(&dialog, save);

@@ -8,10 +8,9 @@
 
 namespace {
 
-class page_view : public CScrollView {
+struct page_view : CScrollView {
     DECLARE_DYNCREATE(page_view)
 
-public:
     void OnDraw(CDC*) override {}
     CSize GetWheelScrollDistance(CSize by, BOOL, BOOL) override { return CSize(0, by.cy * wheel); }
     using CScrollView::GetTrueClientSize, CScrollView::OnPrepareDC;
@@ -19,10 +18,9 @@ public:
 };
 IMPLEMENT_DYNCREATE(page_view, CScrollView)
 
-class form : public CFormView {
+struct form : CFormView {
     DECLARE_DYNCREATE(form)
 
-public:
     form() : CFormView(static_cast<UINT>(IDD_FORM)) {}
     int exchanged = 0;
     using CFormView::PreTranslateMessage;
@@ -31,8 +29,7 @@ public:
 IMPLEMENT_DYNCREATE(form, CFormView)
 
 // Tells of its drags, and keeps its first column.
-class told_splitter : public CSplitterWnd {
-public:
+struct told_splitter : CSplitterWnd {
     std::string log;
     int narrowest = 0;
     using CSplitterWnd::OnDraw;
@@ -43,8 +40,7 @@ public:
 };
 
 // A frame around a view or a splitter, without a document.
-class view_frame : public CFrameWnd {
-public:
+struct view_frame : CFrameWnd {
     told_splitter splitter, inner;
     std::function<BOOL(view_frame&, CCreateContext&)> make;
 
@@ -69,10 +65,9 @@ public:
     void PostNcDestroy() override {}
 };
 
-class printed_edit : public CEditView {
+struct printed_edit : CEditView {
     DECLARE_DYNCREATE(printed_edit)
 
-public:
     using CEditView::OnBeginPrinting;
     using CEditView::OnEndPrinting;
     using CEditView::OnPrepareDC;
@@ -165,8 +160,7 @@ TEST(AfxFormView, KeepsItsFocusAndLeavesKeysToTheFrameFirst) {
 }
 
 // A bar whose controls are updated like items of a menu.
-class choice_frame : public view_frame {
-public:
+struct choice_frame : view_frame {
     int chosen = ID_TEST_ON;
     afx_msg void OnChoose(UINT id) { chosen = static_cast<int>(id); }
     afx_msg void OnUpdateChoice(CCmdUI* ui) {
@@ -248,10 +242,9 @@ TEST(AfxEditViewPrinting, PrintsAnyOfItsPagesByItself) {
 }
 
 // Searches as its box tells it to.
-class searched_view : public CEditView {
+struct searched_view : CEditView {
     DECLARE_DYNCREATE(searched_view)
 
-public:
     std::vector<std::string> missed;
     void OnTextNotFound(LPCTSTR text) override { missed.push_back(text); }
     std::string selected() {
@@ -262,8 +255,7 @@ public:
 };
 IMPLEMENT_DYNCREATE(searched_view, CEditView)
 
-class AfxEditView : public testing::Test {
-protected:
+struct AfxEditView : testing::Test {
     AfxEditView() { frame.InitialUpdateFrame(nullptr, FALSE); }
 
     view_frame frame;
@@ -313,8 +305,7 @@ TEST_F(AfxEditView, SearchesAndReplacesByItsBox) {
 }
 
 // Panes that the user divides.
-class AfxDynamicSplitter : public testing::Test {
-protected:
+struct AfxDynamicSplitter : testing::Test {
     AfxDynamicSplitter() {
         EXPECT_TRUE(frame.open([](view_frame& at, CCreateContext& context) {
             return at.splitter.Create(&at, 2, 2, CSize(20, 20), &context);

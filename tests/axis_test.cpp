@@ -9,8 +9,7 @@
 
 namespace {
 
-class AxisTest : public WidgetTest {
-protected:
+struct AxisTest : WidgetTest {
     void SetUp() override {
         set_shadow(RGB(10, 20, 30));
         WidgetTest::SetUp();

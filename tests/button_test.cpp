@@ -8,8 +8,7 @@ namespace {
 
 constexpr int surface_id = 101;
 
-class ButtonTest : public WidgetTest {
-protected:
+struct ButtonTest : WidgetTest {
     void script(std::initializer_list<const char*> lines) {
         for (const char* line : lines)
             button_.load(line, 0);

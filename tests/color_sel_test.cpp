@@ -10,8 +10,7 @@ constexpr int surface_id = 100;
 constexpr int list_id = 101;
 
 /// The surface of a selector drawn by its rules with plain GDI calls.
-class SelectorReference {
-public:
+struct SelectorReference {
     SelectorReference(CSize surface, CSize panel, const std::vector<DWORD>& palette, bool edged)
         : picture_(surface.cx, surface.cy), panel_(panel), palette_(palette),
           cell_(panel.cx / 8, panel.cy / (static_cast<int>(palette.size()) / 8 + 1)), m_(edged ? cell_.cx / 8 : 0) {
@@ -63,8 +62,7 @@ private:
     int m_;
 };
 
-class ColorSelTest : public WidgetTest {
-protected:
+struct ColorSelTest : WidgetTest {
     void SetUp() override {
         WidgetTest::SetUp();
         open(selector_, 160, 90);
@@ -205,8 +203,7 @@ TEST_F(ColorSelTest, ItemsTakeThePickedColour) {
 }
 
 TEST_F(ColorSelTest, EveryPaintIsTraced) {
-    class Tracer : public CWntTrace {
-    public:
+    struct Tracer : CWntTrace {
         using CWntTrace::setstream;
     } trace;
     const TemporaryFile file;

@@ -18,15 +18,13 @@
 #include "widget_window.h"
 
 /// Keeps commands and notifications, code first, and answers as it is told to.
-template <class Notify, auto... kept> class AnsweringHost : public AttentiveHost {
-public:
+template <class Notify, auto... kept> struct AnsweringHost : AttentiveHost {
     using Told = decltype(std::tuple(UINT(), std::declval<Notify>().*kept...));
 
     std::vector<Told> told;
     std::vector<UINT> commands;
     std::function<LRESULT(Notify&)> answer = [](Notify&) { return 0; };
 
-protected:
     BOOL OnNotify(WPARAM, LPARAM lParam, LRESULT* result) override {
         auto& n = *reinterpret_cast<Notify*>(lParam);
         told.emplace_back(n.hdr.code, n.*kept...);
@@ -39,8 +37,7 @@ protected:
     }
 };
 
-template <class Host> class ControlTest : public testing::Test {
-protected:
+template <class Host> struct ControlTest : testing::Test {
     void SetUp() override {
         ASSERT_TRUE(host_.CreateEx(WS_EX_TOPMOST, nullptr, "host", WS_POPUP, CRect(50, 50, 650, 450), nullptr, 0));
         host_.ShowWindow(SW_SHOW);
@@ -78,8 +75,7 @@ inline CRect extent(const Pixels& seen, COLORREF colour, const CRect& part) {
 }
 
 /// Settings in a file of its own, which goes with the object.
-class TemporaryProfile {
-public:
+struct TemporaryProfile {
     TemporaryProfile() { std::remove(name_.c_str()); }
     ~TemporaryProfile() { std::remove(name_.c_str()); }
     TemporaryProfile(const TemporaryProfile&) = delete;
@@ -91,8 +87,7 @@ private:
 };
 
 /// The front end's library of scaling, as long as the object lives.
-class MainFrameScale {
-public:
+struct MainFrameScale {
     MainFrameScale() : library_(::LoadLibraryA(path())) {
         EXPECT_TRUE(library_);
         percentage_ = reinterpret_cast<int*>(reinterpret_cast<void*>(::GetProcAddress(library_, "percentage")));

@@ -12,8 +12,7 @@
 
 namespace {
 
-class ControlsAtRandom : public WidgetTest {
-protected:
+struct ControlsAtRandom : WidgetTest {
     int some(int most) { return static_cast<int>(random_() % static_cast<unsigned>(most + 1)); }
     int any_size() { return some(3) == 0 ? some(3) : some(2000); }
     double any_share() { return some(4) == 0 ? -1.0 : some(100) / 100.0; }

@@ -94,8 +94,7 @@ Bytes picture_resource() {
 
 int splashes = 0; // that live
 
-class Splash : public CWntSplash {
-public:
+struct Splash : CWntSplash {
     explicit Splash(UINT time = 60'000, UINT bitmap = 1) : CWntSplash(bitmap, time) { ++splashes; }
     ~Splash() override { --splashes; }
 };
@@ -106,8 +105,7 @@ void pump() {
         AfxPumpMessage();
 }
 
-class SplashTest : public testing::Test {
-protected:
+struct SplashTest : testing::Test {
     void SetUp() override {
         ASSERT_TRUE(write_resource_file(file, reinterpret_cast<LPCSTR>(RT_BITMAP), picture_resource()));
         module = ::LoadLibraryExA(file, nullptr, LOAD_LIBRARY_AS_DATAFILE);

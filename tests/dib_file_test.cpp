@@ -226,8 +226,7 @@ constexpr int most_files = 100'000;
 constexpr std::chrono::seconds most_time{60}; // a quarter of it is usual; a slow machine tries fewer random files
 constexpr std::int64_t most_pixels = 1 << 18; // larger ones only take time
 
-class BitmapFaults : public testing::Test {
-protected:
+struct BitmapFaults : testing::Test {
     BitmapFaults() { palette.Create(&other); }
 
     static bool small(std::int64_t width, std::int64_t height) { return width * std::abs(height) <= most_pixels; }

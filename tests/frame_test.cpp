@@ -5,8 +5,7 @@ namespace {
 
 constexpr COLORREF dark_blue = RGB(0, 0, 128), yellow = RGB(255, 255, 0), black = 0, white = RGB(255, 255, 255);
 
-class FrameTest : public WidgetTest {
-protected:
+struct FrameTest : WidgetTest {
     void SetUp() override {
         WidgetTest::SetUp();
         open(frame_, 200, 100);

@@ -8,8 +8,7 @@ namespace {
 
 constexpr int surface_id = 100;
 constexpr const char* types[6] = {"PERCENTBAR", "THERMOMETER", "ANALOG", "DIGITAL", "PEAKLINE", "TURNKNOB"};
-class GaugeTest : public WidgetTest {
-protected:
+struct GaugeTest : WidgetTest {
     void open_with(int width, int height, std::initializer_list<std::string> lines) {
         gauge_.DestroyWindow();
         open(gauge_, width, height);

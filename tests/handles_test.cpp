@@ -118,8 +118,7 @@ std::vector<Kind> all_kinds() {
     return kinds;
 }
 
-class HandlesTest : public WidgetTest {
-protected:
+struct HandlesTest : WidgetTest {
     std::unique_ptr<CWnd> opened(const Kind& kind) {
         auto widget = kind.make();
         EXPECT_TRUE(widget->Create(nullptr, "Widget", WS_CHILD | WS_VISIBLE, CRect(0, 0, 60, 60), &host_, 1));

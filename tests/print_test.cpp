@@ -49,8 +49,7 @@ class Quarters : public CWnd {
 
 } // namespace
 
-class PrintTest : public testing::Test {
-protected:
+struct PrintTest : testing::Test {
     void SetUp() override {
         if (!std::getenv("ZOP_PRINTED"))
             GTEST_SKIP() << "NOT PRINTED: run by way of tests/with_printer";
@@ -91,10 +90,9 @@ TEST_F(PrintTest, HardcopyFillsThePageAndShowsTheFrame) {
 }
 
 /// Three pages through the framework's view: the first has a red square of an inch, an inch from the corner.
-class PagesView : public CView {
+struct PagesView : CView {
     DECLARE_DYNCREATE(PagesView)
 
-public:
     std::string log;
 
     using CView::OnFilePrint;

@@ -12,12 +12,10 @@
 
 #include "widget_window.h"
 
-class ChartHost : public CWnd {
-public:
+struct ChartHost : CWnd {
     std::vector<std::pair<UINT, int>> told; // code and which
     std::function<void(const WntPulseNotify&)> on_notify = [](const WntPulseNotify&) {};
 
-protected:
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override {
         const auto& n = *reinterpret_cast<WntPulseNotify*>(lParam);
         if (n.hdr.code < WNT_PULSE_VIEW || n.hdr.code > WNT_PULSE_READ)
@@ -28,8 +26,7 @@ protected:
     }
 };
 
-class PulseFixture : public testing::Test {
-protected:
+struct PulseFixture : testing::Test {
     static constexpr COLORREF red = RGB(250, 0, 0), blue = RGB(0, 0, 250), paper = RGB(255, 255, 255);
 
     void SetUp() override {

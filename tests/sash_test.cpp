@@ -2,8 +2,7 @@
 
 namespace {
 
-class Sash : public ControlTest<AnsweringHost<WntSashNotify, &WntSashNotify::position>> {
-protected:
+struct Sash : ControlTest<AnsweringHost<WntSashNotify, &WntSashNotify::position>> {
     static constexpr int bar = 5;
 
     void SetUp() override {

@@ -17,8 +17,7 @@ Bytes library_sound(const char* name) {
     return Bytes(first, first + ::SizeofResource(module, found));
 }
 
-class SoundTest : public testing::Test {
-protected:
+struct SoundTest : testing::Test {
     void SetUp() override {
         if (!std::getenv("ZOP_PLAYED"))
             GTEST_SKIP() << "NOT PLAYED: no device of the test's own";

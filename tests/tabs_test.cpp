@@ -8,8 +8,7 @@ using testing::ElementsAre;
 
 constexpr COLORREF red = RGB(255, 0, 0), blue = RGB(0, 0, 255), white = RGB(255, 255, 255);
 
-class Tabs : public ControlTest<AnsweringHost<WntTabsNotify, &WntTabsNotify::tab, &WntTabsNotify::other>> {
-protected:
+struct Tabs : ControlTest<AnsweringHost<WntTabsNotify, &WntTabsNotify::tab, &WntTabsNotify::other>> {
     void SetUp() override {
         ControlTest::SetUp();
         open(tabs_, pages_, 300);

@@ -6,8 +6,7 @@
 
 namespace {
 
-class WidgetsDialog : public CDialog {
-public:
+struct WidgetsDialog : CDialog {
     explicit WidgetsDialog(CWnd* parent) : CDialog(IDD_WIDGETS, parent) {}
     void DoDataExchange(CDataExchange* exchange) override {
         CDialog::DoDataExchange(exchange);
@@ -47,8 +46,7 @@ template <class Widget> Pixels created(CWnd& parent, CWnd& like, std::function<v
     return shown;
 }
 
-class TemplateTest : public WidgetTest {
-protected:
+struct TemplateTest : WidgetTest {
     HWND plain_window(int width, int height) {
         return ::CreateWindowA("STATIC", "", WS_CHILD | WS_VISIBLE, 0, 0, width, height, host_.m_hWnd, nullptr, nullptr,
                                nullptr);
@@ -97,8 +95,7 @@ TEST_F(TemplateTest, WidgetsLookAsIfTheirObjectsHadCreatedThem) {
     std::remove("template.dat");
 }
 
-class ControlsDialog : public CDialog {
-public:
+struct ControlsDialog : CDialog {
     explicit ControlsDialog(CWnd* parent) : CDialog(IDD_CONTROLS, parent) {}
     void DoDataExchange(CDataExchange* exchange) override {
         CDialog::DoDataExchange(exchange);

@@ -14,8 +14,7 @@ inline std::string text_of(const std::string& path) {
 }
 
 /// A file that goes with the object.
-class TemporaryFile {
-public:
+struct TemporaryFile {
     explicit TemporaryFile(const std::vector<std::uint8_t>& bytes = {}) { write(bytes); }
     ~TemporaryFile() { std::remove(name()); }
     TemporaryFile(const TemporaryFile&) = delete;

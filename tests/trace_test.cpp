@@ -7,14 +7,12 @@ using Texts = std::vector<std::string>;
 
 namespace {
 
-class Tracer : public CWntTrace {
-public:
+struct Tracer : CWntTrace {
     using CWntTrace::setstream;
     using CWntTrace::stream;
 };
 
-class TraceTest : public WidgetTest {
-protected:
+struct TraceTest : WidgetTest {
     void SetUp() override {
         WidgetTest::SetUp();
         start(0);

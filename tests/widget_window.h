@@ -48,8 +48,7 @@ inline void cover(CWnd& widget, int surface_id, COLORREF colour) {
 }
 
 /// A host that keeps the messages and notifications that it gets.
-class AttentiveHost : public CWnd {
-public:
+struct AttentiveHost : CWnd {
     std::vector<std::tuple<UINT, WPARAM, LPARAM>> seen;
     std::vector<NMHDR> notified;
     std::function<void(UINT)> on_message = [](UINT) {};
@@ -63,8 +62,7 @@ public:
     }
 };
 
-class WidgetTest : public testing::Test {
-protected:
+struct WidgetTest : testing::Test {
     void SetUp() override {
         ASSERT_TRUE(host_.CreateEx(0, nullptr, "host", WS_POPUP, CRect(0, 0, 1010, 1010), nullptr, 0));
         host_.ShowWindow(SW_SHOWNOACTIVATE);

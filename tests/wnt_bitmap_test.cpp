@@ -393,8 +393,7 @@ TEST(BitmapPaletteScreen, GoesIntoTheSystemPalette) {
 
 // A file is read beside other readers, and not written to meanwhile.
 TEST(BitmapPaths, AreOpenedForReadingAlone) {
-    class Watched : public CWntBitmap {
-    public:
+    struct Watched : CWntBitmap {
         BOOL Load(CFile* file) override {
             CFile other;
             readable = other.Open(name, CFile::modeRead | CFile::shareDenyNone);
