@@ -2,9 +2,6 @@
 #include "modal.h"
 #include "widget_window.h"
 
-#include <climits>
-#include <cmath>
-#include <limits>
 #include <string>
 
 namespace {
@@ -317,31 +314,6 @@ TEST_F(AxisTest, PropertiesShowAndChangeNothing) {
     EXPECT_EQ(shown, "   0.00 100.00   0.00");
     EXPECT_EQ(axis_.GetGridCount(), 100);
     EXPECT_EQ(CWntAxisProperties(&host_).SetAxis(nullptr), 0);
-}
-
-TEST_F(AxisTest, HoldsAtAnyRangeCountAndSize) {
-    std::vector<CString> texts(3, "label");
-    const float inf = std::numeric_limits<float>::infinity();
-    const float values[] = {0, 1e-45f, 3e38f, -3e38f, inf, -inf, std::nanf("")};
-    const __int64 times[] = {0, LLONG_MIN, LLONG_MAX, 16'000 * 8'640'000LL};
-    const Counts before;
-    for (const CSize extent : {CSize(990, 60), CSize(3, 900), CSize(0, 0)}) {
-        size(extent.cx, extent.cy);
-        for (int i = 0; i < 6 * 4 * 49; ++i) {
-            const int positions[] = {-1, 0, 1, 2, 3, INT_MAX};
-            axis_.SetFlags(positions[i / 49 % 6], INT_MAX, i / 49 / 6);
-            axis_.SendMessage(WM_COMMAND, 100);
-            axis_.SetRange(values[i % 7], values[i / 7 % 7]);
-            axis_.SetRange(times[i % 4], times[i / 4 % 4]);
-            if (i % 2)
-                axis_.SetTexts(3, texts.data());
-            axis_.SetTicks(i % 3 ? INT_MAX : INT_MIN);
-            full_repaint(axis_);
-            mouse(WM_MOUSEMOVE, i, 2, i % 2);
-            mouse(WM_LBUTTONDBLCLK, -i, 2);
-        }
-    }
-    EXPECT_LT(before.grown(), 20); // cursors are loaded once, paints are thousands
 }
 
 } // namespace

@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <functional>
 #include <random>
 #include <vector>
@@ -160,23 +159,6 @@ TEST_F(ControlsAtRandom, Tabs) {
     }
 }
 
-TEST_F(ControlsAtRandom, TipPage) {
-    CWntTipPage page;
-    open(page, 300, 200);
-    std::ofstream("random_tips.txt") << "one\n\n" << std::string(8'000, 't') << "\n\nthree\n four\n";
-    for (int i = 0; i < 1000; ++i) {
-        one_of({
-            [&] { page.LoadTips(some(3) ? "random_tips.txt" : "no file"); },
-            [&] { page.ShowTip(some(6) - 2); },
-            [&] { page.GetDlgItem(2 + some(2))->SendMessage(BM_CLICK); },
-            [&] { page.EnableWindow(some(1)); },
-            [&] { resize_or_paint(page); },
-        });
-        ASSERT_LT(page.GetTip(), std::max(page.GetTipCount(), 1));
-    }
-    std::remove("random_tips.txt");
-}
-
 TEST_F(ControlsAtRandom, ToolBar) {
     CWntToolBar bar;
     open(bar, 300, 40);
@@ -226,35 +208,6 @@ TEST_F(ControlsAtRandom, ToolBar) {
     }
     bar.SetFocus();
     bar.DestroyWindow();
-}
-
-TEST_F(ControlsAtRandom, ToolTip) {
-    CToolTipCtrlEx tips;
-    ASSERT_TRUE(tips.Create(&host_, TTS_ALWAYSTIP));
-    for (int i = 0; i < 1000; ++i) {
-        WntTip tip;
-        for (int words = some(3) == 0 ? some(2000) : some(9); words > 0; --words)
-            tip.text += words % 7 ? "word " : "word\n";
-        tip.title = some(1) ? tip.text.Left(some(60)) : CString();
-        tip.icon = some(1) ? ::LoadIconA(nullptr, IDI_WARNING) : nullptr;
-        tip.colour = some(1) ? RGB(some(255), some(255), some(255)) : CLR_NONE;
-        const auto tool = static_cast<UINT_PTR>(1 + some(5));
-        const auto track = [&] { tips.TrackTip(tip, CPoint(some(3000) - 500, some(3000) - 500)); };
-        one_of({
-            [&] { tips.AddTip(&host_, tip, CRect(some(2000), some(2000), some(2000), some(2000)), tool); },
-            [&] { tips.DelTool(&host_, tool); },
-            [&] { tips.ShowTip(&host_, tool); },
-            [&] { tips.SetTip(&host_, tip, tool), tips.SetMaxTipWidth(some(600) - 100); },
-            [&] { tips.HideTip(); },
-            track,
-            track,
-        });
-        if (!tips.GetShownTip(nullptr))
-            continue;
-        CRect place;
-        tips.GetWindowRect(&place);
-        ASSERT_TRUE(place.left >= 0 && place.top >= 0 && place.Width() > 0 && place.Height() > 0);
-    }
 }
 
 } // namespace
