@@ -71,8 +71,7 @@ TEST_F(AfxFloating, ABarFloatsKeepsItsCommandsAndComesBack) {
     EXPECT_EQ(on_screen(small).TopLeft(), CPoint(150, 120));
     EXPECT_TRUE(small.IsWindowVisible());
     EXPECT_EQ(text_of(small), "Title");
-    const CRect client = inside_of(small);
-    EXPECT_EQ(client.Size(), on_screen(frame.tools).Size());
+    EXPECT_EQ(inside_of(small).Size(), on_screen(frame.tools).Size());
     EXPECT_EQ(frame.tools.GetDockingFrame(), &frame);
     frame.tools.SendMessage(WM_IDLEUPDATECMDUI, TRUE);
     EXPECT_NE(frame.tools.GetToolBarCtrl().IsButtonEnabled(ID_TEST_ON), 0);

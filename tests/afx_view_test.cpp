@@ -126,8 +126,7 @@ TEST(AfxFormView, ExchangesDataAndScrollsItsTemplate) {
     view.SendMessage(WM_INITIALUPDATE);
     EXPECT_EQ(view.exchanged, 1);
     EXPECT_NE(view.GetDlgItem(IDC_FORM_NAME), nullptr);
-    const CRect client = inside_of(view);
-    EXPECT_GT(client.Width(), 300) << "as large as the frame, not as the template";
+    EXPECT_GT(inside_of(view).Width(), 300) << "as large as the frame, not as the template";
     BOOL horizontal = FALSE, vertical = FALSE;
     view.CheckScrollBars(horizontal, vertical);
     EXPECT_FALSE(vertical);

@@ -93,8 +93,7 @@ TEST_F(ColorSelTest, ShowsThePaletteAndTellsPicks) {
     EXPECT_EQ(pick(50, 59), 10);
     EXPECT_EQ(pick(155, 85), 15);
     EXPECT_EQ(pick(50, 10), -1); // the strip
-    const auto told = testing::FieldsAre(selector_.m_hWnd, 1u, 1u);
-    EXPECT_THAT(host_.notified, testing::Each(told));
+    EXPECT_THAT(host_.notified, testing::Each(testing::FieldsAre(selector_.m_hWnd, 1u, 1u)));
     selector_.UpdateWindow();
     DWORD greys[16];
     for (DWORD i = 0; i < 16; ++i)

@@ -100,8 +100,7 @@ TEST_F(GaugeTest, ColourLinesArePaintedAsColourValues) {
     EXPECT_EQ(p.at(50, 1), RGB(7, 0, 0));  // top: sun
     EXPECT_EQ(p.at(4, 4), RGB(9, 0, 0));   // background
     gauge_.SetCurVal(0);
-    const Pixels low = pixels_of(gauge_);
-    EXPECT_NE(low.at(33, 67), p.at(33, 67)); // the least value's needle points down to the left
+    EXPECT_NE(pixels_of(gauge_).at(33, 67), p.at(33, 67)); // the least value's needle points down to the left
 }
 
 TEST_F(GaugeTest, TestModeGivesRoomToBarAndButton) {

@@ -3,9 +3,6 @@
 #include <atlexcept.h>
 #include <psapi.h>
 
-#include <gmock/gmock.h>
-
-#include <filesystem>
 #include <climits>
 
 #include "temporary_file.h"
@@ -30,7 +27,7 @@ TEST_F(PulseLives, RecordsAndReads) {
     ASSERT_EQ(reader.OpenFile(path, 1), 1);
     while (reader.IsReading())
         reader.SendMessage(WM_TIMER, 2, 0);
-    EXPECT_EQ(host_.told.back(), std::pair(UINT{WNT_PULSE_READ}, 1));
+    EXPECT_EQ(host_.told.back(), std::tuple(WNT_PULSE_READ, 1));
     EXPECT_EQ(reader.GetCurveCount(), 2);
     EXPECT_EQ(reader.GetSampleCount(0) + reader.GetSampleCount(1), 500);
     __int64 from = 0, to = 0;
@@ -40,7 +37,7 @@ TEST_F(PulseLives, RecordsAndReads) {
     EXPECT_EQ(reader.GetSampleCount(0), 250); // refused files leave what is there
     reader.OpenFile(path, 1);
     reader.SendMessage(WM_KEYDOWN, VK_ESCAPE, 0);
-    EXPECT_EQ(host_.told.back(), std::pair(UINT{WNT_PULSE_READ}, 0));
+    EXPECT_EQ(host_.told.back(), std::tuple(WNT_PULSE_READ, 0));
     ASSERT_EQ(reader.StartRecording(path), 1);
     reader.RemoveCurves(); // ends what is recorded of them
     EXPECT_EQ(reader.IsRecording(), 0);
@@ -115,9 +112,10 @@ TEST_F(PulseLives, MayBeDestroyedOnAnyNotification) {
         for (int i = 0; i < 1000; ++i)
             chart->AddSample(0, 0.5, i * 100);
         const HWND window = chart->m_hWnd;
-        host_.on_notify = [&](const WntPulseNotify& n) {
+        host_.answer = [&](WntPulseNotify& n) -> LRESULT {
             if (n.hdr.code == code)
                 delete std::exchange(chart, nullptr);
+            return 0;
         };
         const auto send = [&](UINT message, WPARAM wParam, LPARAM lParam) {
             ::SendMessage(window, message, wParam, lParam);
