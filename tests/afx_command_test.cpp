@@ -105,13 +105,7 @@ TEST(AfxMessageMap, HandlersSeeTheParametersOfTheirMessages) {
     const auto self = reinterpret_cast<LPARAM>(wnd.m_hWnd);
     COPYDATASTRUCT data{0, 5, nullptr};
     const LPARAM point = MAKELPARAM(-3, 4);
-    const struct {
-        UINT message;
-        WPARAM w;
-        LPARAM l;
-        const char* seen;
-        LRESULT answer;
-    } cases[] = {
+    const std::tuple<UINT, WPARAM, LPARAM, const char*, LRESULT> cases[] = {
         {WM_MOVE, 0, point, "move -3 4", 0},
         {WM_KEYDOWN, VK_UP, MAKELPARAM(1, 0x148), "key 38 1 328", 0},
         {WM_NCLBUTTONDOWN, HTCAPTION, point, "nc 2 -3 4", 0},
@@ -142,10 +136,10 @@ TEST(AfxMessageMap, HandlersSeeTheParametersOfTheirMessages) {
         {WM_NCHITTEST, 0, point, "hit -3", HTTRANSPARENT},
         {WM_USER + 4, 6, 0, "silent 6", 0},
     };
-    for (const auto& one : cases) {
+    for (const auto& [message, w, l, seen, answer] : cases) {
         wnd.log.clear();
-        EXPECT_EQ(wnd.WindowProc(one.message, one.w, one.l), one.answer) << one.seen;
-        EXPECT_THAT(wnd.log, ElementsAre(one.seen));
+        EXPECT_EQ(wnd.WindowProc(message, w, l), answer) << seen;
+        EXPECT_THAT(wnd.log, ElementsAre(seen));
     }
     MINMAXINFO info{};
     wnd.SendMessage(WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&info));

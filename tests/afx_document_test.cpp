@@ -335,27 +335,24 @@ TEST_F(AfxSeveralDocuments, OfSeveralKindsAreOfferedToTheUser) {
 }
 
 TEST(AfxCommandLine, SaysWhatTheShellWants) {
-    const struct {
-        std::vector<std::string> words;
-        int command;
-        const char *file, *printer;
-    } cases[] = {{{}, CCommandLineInfo::FileNew, "", ""},
-                 {{"a.note"}, CCommandLineInfo::FileOpen, "a.note", ""},
-                 {{"/p", "a.note"}, CCommandLineInfo::FilePrint, "a.note", ""},
-                 {{"/pt", "a.note", "laser", "driver", "port"}, CCommandLineInfo::FilePrintTo, "a.note", "laser"},
-                 {{"-dde"}, CCommandLineInfo::FileDDE, "", ""},
-                 {{"/Unregister"}, CCommandLineInfo::AppUnregister, "", ""},
-                 {{"-unknown", "b.note"}, CCommandLineInfo::FileOpen, "b.note", ""}};
-    for (const auto& one : cases) {
+    const std::tuple<std::vector<std::string>, int, const char*, const char*> cases[] = {
+        {{}, CCommandLineInfo::FileNew, "", ""},
+        {{"a.note"}, CCommandLineInfo::FileOpen, "a.note", ""},
+        {{"/p", "a.note"}, CCommandLineInfo::FilePrint, "a.note", ""},
+        {{"/pt", "a.note", "laser", "driver", "port"}, CCommandLineInfo::FilePrintTo, "a.note", "laser"},
+        {{"-dde"}, CCommandLineInfo::FileDDE, "", ""},
+        {{"/Unregister"}, CCommandLineInfo::AppUnregister, "", ""},
+        {{"-unknown", "b.note"}, CCommandLineInfo::FileOpen, "b.note", ""}};
+    for (const auto& [words, command, file, printer] : cases) {
         CCommandLineInfo info;
-        for (std::size_t i = 0; i < one.words.size(); ++i) {
-            const std::string& word = one.words[i];
+        for (std::size_t i = 0; i < words.size(); ++i) {
+            const std::string& word = words[i];
             const bool flag = word[0] == '/' || word[0] == '-';
-            info.ParseParam(word.c_str() + flag, flag, i + 1 == one.words.size());
+            info.ParseParam(word.c_str() + flag, flag, i + 1 == words.size());
         }
-        EXPECT_EQ(info.m_nShellCommand, one.command) << one.file;
-        EXPECT_STREQ(info.m_strFileName, one.file);
-        EXPECT_STREQ(info.m_strPrinterName, one.printer);
+        EXPECT_EQ(info.m_nShellCommand, command) << file;
+        EXPECT_STREQ(info.m_strFileName, file);
+        EXPECT_STREQ(info.m_strPrinterName, printer);
     }
 }
 

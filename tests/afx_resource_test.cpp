@@ -14,17 +14,15 @@ struct plain_frame : CFrameWnd {
 };
 
 TEST(AfxToolBarResource, IsReadInBothFormsAndRefusedWhereItIsBroken) {
-    const struct {
-        UINT id;
-        int buttons;
-    } cases[] = {{IDR_FRAME, 5}, {201, 2}, {202, -1}, {203, -1}, {204, -1}, {205, -1}, {299, -1}};
-    for (const auto& one : cases) {
+    const std::pair<UINT, int> cases[] = {{IDR_FRAME, 5}, {201, 2},  {202, -1}, {203, -1},
+                                          {204, -1},      {205, -1}, {299, -1}};
+    for (const auto& [id, buttons] : cases) {
         plain_frame frame;
         CToolBar bar;
         ASSERT_TRUE(frame.open() && bar.Create(&frame));
-        EXPECT_EQ(bar.LoadToolBar(one.id), one.buttons > 0) << one.id;
-        if (one.buttons > 0) {
-            EXPECT_EQ(bar.GetCount(), one.buttons);
+        EXPECT_EQ(bar.LoadToolBar(id), buttons > 0) << id;
+        if (buttons > 0) {
+            EXPECT_EQ(bar.GetCount(), buttons);
         }
     }
 }

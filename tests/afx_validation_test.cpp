@@ -67,20 +67,16 @@ TEST_F(AfxEntry, NumbersAreTakenUpToTheEndsOfTheirTypes) {
 }
 
 TEST_F(AfxEntry, RealNumbersAreTakenAsTheyAreShown) {
-    const struct {
-        const char* text;
-        bool as_float, as_double;
-    } cases[] = {{"0.5", true, true},     {"-1e30", true, true}, {"1e39", false, true}, {"-1e308", false, true},
-                 {"1e309", false, false}, {"inf", false, false}, {"nan", false, false}, {"1,5", false, false},
-                 {"", false, false},      {".", false, false},   {" 2.5 ", true, true}};
-    for (const auto& one : cases) {
+    const std::tuple<const char*, bool, bool> cases[] = {
+        {"0.5", true, true},     {"-1e30", true, true}, {"1e39", false, true}, {"-1e308", false, true},
+        {"1e309", false, false}, {"inf", false, false}, {"nan", false, false}, {"1,5", false, false},
+        {"", false, false},      {".", false, false},   {" 2.5 ", true, true}};
+    for (const auto& [text, as_float, as_double] : cases) {
         float narrow = 0;
         double wide = 0;
-        dialog.SetDlgItemText(IDC_FACTOR, one.text);
-        EXPECT_EQ(exchange(TRUE, [&](CDataExchange* data) { DDX_Text(data, IDC_FACTOR, narrow); }), one.as_float)
-            << one.text;
-        EXPECT_EQ(exchange(TRUE, [&](CDataExchange* data) { DDX_Text(data, IDC_FACTOR, wide); }), one.as_double)
-            << one.text;
+        dialog.SetDlgItemText(IDC_FACTOR, text);
+        EXPECT_EQ(exchange(TRUE, [&](CDataExchange* data) { DDX_Text(data, IDC_FACTOR, narrow); }), as_float) << text;
+        EXPECT_EQ(exchange(TRUE, [&](CDataExchange* data) { DDX_Text(data, IDC_FACTOR, wide); }), as_double) << text;
     }
     for (double shown : {0.1, 1e-300, -123456789.125, 1e15}) {
         double read = 0;

@@ -214,13 +214,8 @@ TEST_F(AxisTest, PointerTellsWhatADragWouldDo) {
             const char* moves = across ? "IDC_AXIS_X_MOVE" : "IDC_AXIS_Y_MOVE";
             const char* enlarges = across ? "IDC_AXIS_X_ENLARGE" : "IDC_AXIS_Y_ENLARGE";
             EXPECT_EQ(::GetCursor(), pointer(at == 150 ? moves : enlarges)) << across << at;
-            CPoint screen = across ? CPoint(at, 295) : CPoint(295, at);
-            axis_.ClientToScreen(&screen);
-            ::SetCursorPos(screen.x, screen.y);
-            ::SetCursor(nullptr);
-            const LPARAM client = MAKELPARAM(HTCLIENT, WM_MOUSEMOVE); // as the system asks before each move
-            axis_.SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(axis_.m_hWnd), client);
-            EXPECT_EQ(::GetCursor(), pointer(at == 150 ? moves : enlarges)) << across << at;
+            const CPoint asked = across ? CPoint(at, 295) : CPoint(295, at); // as the system does before each move
+            EXPECT_EQ(pointer_at(axis_, asked), pointer(at == 150 ? moves : enlarges)) << across << at;
         }
         full_repaint(axis_);
         const Pixels shown = pixels_of(axis_); // the slider is raised
@@ -235,10 +230,9 @@ TEST_F(AxisTest, MarksAcrossTheAxisAreEngraved) {
             if (message != WM_PAINT)
                 return CWntAxis::WindowProc(message, wParam, lParam);
             CPaintDC dc(this);
-            CRect client;
-            GetClientRect(&client);
-            dc.FillSolidRect(&client, poison);
-            client.Width() > client.Height() ? horizontal_time_scale(&dc, 50) : vertical_time_scale(&dc, 50);
+            const CSize size = size_of(*this);
+            dc.FillSolidRect(CRect(CPoint(0, 0), size), poison);
+            size.cx > size.cy ? horizontal_time_scale(&dc, 50) : vertical_time_scale(&dc, 50);
             return 0;
         }
     } axis;

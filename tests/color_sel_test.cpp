@@ -69,11 +69,7 @@ struct ColorSelTest : WidgetTest {
     }
 
     // The pointer at a position of the surface, counted from its upper left, and a click there.
-    void point_at(int x, int y) {
-        CPoint p(x, y);
-        selector_.GetDlgItem(surface_id)->ClientToScreen(&p);
-        ::SetCursorPos(p.x, p.y);
-    }
+    void point_at(int x, int y) { ::point_at(*selector_.GetDlgItem(surface_id), CPoint(x, y)); }
     int pick(int x, int y) {
         point_at(x, y);
         selector_.GetDlgItem(surface_id)->SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(x, y));
@@ -139,10 +135,7 @@ TEST_F(ColorSelTest, EveryPixelFollowsItsSettings) {
         selector_.SetSelectedColorID(17);
         full_repaint(selector_);
         CWnd* shown = selector_.GetDlgItem(surface_id);
-        CRect place;
-        shown->GetWindowRect(&place);
-        selector_.ScreenToClient(&place);
-        EXPECT_EQ(place, CRect(CPoint(left, 0), surface)) << mode;
+        EXPECT_EQ(place_in(selector_, *shown), CRect(CPoint(left, 0), surface)) << mode;
         SelectorReference expected(surface, panel, colours, edged);
         if (hover && !in_strip)
             expected.hovered(8 + 3);
@@ -161,10 +154,7 @@ TEST_F(ColorSelTest, ItemsTakeThePickedColour) {
     EXPECT_FALSE(selector_.GetDlgItem(list_id)->IsWindowVisible());
     selector_.SetColorItems(names, colours, 2);
     EXPECT_TRUE(selector_.GetDlgItem(list_id)->IsWindowVisible());
-    CRect list;
-    selector_.GetDlgItem(list_id)->GetWindowRect(&list);
-    selector_.ScreenToClient(&list);
-    EXPECT_EQ(list, CRect(80, 0, 160, 90));
+    EXPECT_EQ(place_in(selector_, *selector_.GetDlgItem(list_id)), CRect(80, 0, 160, 90));
 
     LOGFONT font = {};
     ::GetObject(reinterpret_cast<HFONT>(selector_.GetDlgItem(list_id)->SendMessage(WM_GETFONT)), sizeof font, &font);

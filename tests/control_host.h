@@ -52,18 +52,6 @@ template <class Host> struct ControlTest : testing::Test {
     Host host_;
 };
 
-inline CRect on_screen(CWnd& window) {
-    CRect r;
-    window.GetWindowRect(&r);
-    return r;
-}
-
-inline CRect place_in(CWnd& parent, CWnd& window) {
-    CRect r = on_screen(window);
-    parent.ScreenToClient(&r);
-    return r;
-}
-
 /// Where pixels of a colour lie; empty where there are none.
 inline CRect extent(const Pixels& seen, COLORREF colour, const CRect& part) {
     CRect box;

@@ -67,22 +67,19 @@ TEST_F(PulseFile, ReadsWithAProtocol) {
 
 TEST_F(PulseFile, BoundsEveryHeader) {
     const std::string word(24, 'w');
-    const struct {
-        std::string text;
-        int error, count;
-        std::string title;
-    } cases[] = {{"", 6, 0, ""},
-                 {"99999999999\n", 6, 0, ""},
-                 {"-1\nA ;\n", 7, 0, ""},
-                 {"1\n", 6, 1, ""},
-                 {"10\nA ;\nB ;\nC ;\nD ;\nE ;\nF ;\nG ;\nH ;\nI ;\nJ ;\n", 0, 10, "A "},
-                 {"11\nA ;\nB ;\nC ;\nD ;\nE ;\nF ;\nG ;\nH ;\nI ;\nJ ;\nK ;\n", 7, 0, ""},
-                 {"1\nFlow left", 6, 1, "Flow left "},
-                 {"1 Flow\n;", 0, 1, "Flow "},
-                 {"1\n" + word + " ;\n", 0, 1, word},
-                 {"1\n" + word + "xyz ;\n", 0, 1, word},                                   // no blank fits
-                 {"1\n" + word.substr(4) + " a b c d ;\n", 0, 1, word.substr(4) + " a b"}, // more words than fit
-                 {"1\n" + std::string(100'000, 'w') + " ;\n", 0, 1, word}};
+    const std::tuple<std::string, int, int, std::string> cases[] = {
+        {"", 6, 0, ""},
+        {"99999999999\n", 6, 0, ""},
+        {"-1\nA ;\n", 7, 0, ""},
+        {"1\n", 6, 1, ""},
+        {"10\nA ;\nB ;\nC ;\nD ;\nE ;\nF ;\nG ;\nH ;\nI ;\nJ ;\n", 0, 10, "A "},
+        {"11\nA ;\nB ;\nC ;\nD ;\nE ;\nF ;\nG ;\nH ;\nI ;\nJ ;\nK ;\n", 7, 0, ""},
+        {"1\nFlow left", 6, 1, "Flow left "},
+        {"1 Flow\n;", 0, 1, "Flow "},
+        {"1\n" + word + " ;\n", 0, 1, word},
+        {"1\n" + word + "xyz ;\n", 0, 1, word},                                   // no blank fits
+        {"1\n" + word.substr(4) + " a b c d ;\n", 0, 1, word.substr(4) + " a b"}, // more words than fit
+        {"1\n" + std::string(100'000, 'w') + " ;\n", 0, 1, word}};
     for (const auto& [text, error, count, title] : cases) {
         write_text("a.txt", text);
         const CWntPulseFile file(CWntPulseFile::read, "a.txt");

@@ -27,10 +27,7 @@ TipLayout laid_out(std::string_view title, std::string_view text, int widest = 2
 }
 
 TEST(TipLayout, BreaksLinesWhereTheyWouldBeTooWide) {
-    const struct {
-        std::string_view title, text, lines;
-        int widest;
-    } cases[] = {
+    const std::tuple<std::string_view, std::string_view, std::string_view, int> cases[] = {
         {"", "one two", "one two|", 200},
         {"", "one two", "one|two|", 12 + 6 * 6},   // room for six letters
         {"", "one two", "one two|", 12 + 7 * 6},   // for exactly all
@@ -42,8 +39,8 @@ TEST(TipLayout, BreaksLinesWhereTheyWouldBeTooWide) {
         {"", "letters", "le|tt|er|s|", -5}, // never narrower than a letter or two
         {"", "", "", 200},
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(lines_of(laid_out(c.title, c.text, c.widest)), c.lines) << c.text;
+    for (const auto& [title, text, lines, widest] : cases)
+        EXPECT_EQ(lines_of(laid_out(title, text, widest)), lines) << text;
 }
 
 TEST(TipLayout, EndsWhatIsTooLongWithDots) {

@@ -18,11 +18,7 @@ struct FrameTest : WidgetTest {
         frame_.LoadLine("", 2);
         full_repaint(frame_);
     }
-    CRect extent(COLORREF colour) {
-        CRect client;
-        frame_.GetClientRect(&client);
-        return ::extent(pixels_of(frame_), colour, client);
-    }
+    CRect extent(COLORREF colour) { return ::extent(pixels_of(frame_), colour, CRect(CPoint(0, 0), size_of(frame_))); }
     CRect place(CWnd& child) { return place_in(frame_, child); }
 
     CWntFrame frame_;

@@ -106,12 +106,7 @@ TEST_F(GaugeTest, ColourLinesArePaintedAsColourValues) {
 TEST_F(GaugeTest, TestModeGivesRoomToBarAndButton) {
     open_with(120, 120, {":DEMO=X", ":MINVAL=5", ":MAXVAL=70000", ":CURVAL=40"});
     gauge_.SetWindowPos(nullptr, 0, 0, 130, 120, SWP_NOMOVE | SWP_NOZORDER);
-    const auto place = [&](int id) {
-        CRect r;
-        gauge_.GetDlgItem(id)->GetWindowRect(&r);
-        gauge_.ScreenToClient(&r);
-        return r;
-    };
+    const auto place = [&](int id) { return place_in(gauge_, *gauge_.GetDlgItem(id)); };
     EXPECT_EQ(place(100), CRect(0, 0, 130, 110));
     EXPECT_EQ(place(103), CRect(0, 110, 120, 120));
     EXPECT_EQ(place(104), CRect(120, 110, 130, 120));

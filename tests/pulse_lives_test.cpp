@@ -3,10 +3,7 @@
 #include <atlexcept.h>
 #include <psapi.h>
 
-#include <climits>
-
 #include "temporary_file.h"
-#include "test_random.h"
 
 namespace {
 
@@ -62,8 +59,7 @@ TEST_F(PulseLives, CopiesWhatIsShown) {
 TEST_F(PulseLives, CopiesItsPictureAlsoFromUnderOtherWindows) {
     feed(0, 6000);
     const Pixels shown = pixels_of(chart_);
-    CRect place;
-    chart_.GetWindowRect(&place);
+    const CRect place = on_screen(chart_);
     CWnd above;
     ASSERT_TRUE(above.CreateEx(0, nullptr, "above", WS_POPUP | WS_VISIBLE, place, nullptr, 0));
     CClientDC(&above).FillSolidRect(CRect(0, 0, 600, 300), poison);
@@ -78,9 +74,7 @@ TEST_F(PulseLives, CopiesItsPictureAlsoFromUnderOtherWindows) {
     ::SelectObject(copy, before);
     ::CloseClipboard();
     const auto values = copied.values();
-    CRect bar; // which is left out
-    chart_.GetDlgItem(4)->GetWindowRect(&bar);
-    const auto above_bar = shown.width * (bar.top - place.top);
+    const auto above_bar = shown.width * (on_screen(*chart_.GetDlgItem(4)).top - place.top); // which is left out
     EXPECT_TRUE(std::equal(values.begin(), values.begin() + above_bar, shown.values.begin()));
 }
 
@@ -165,42 +159,6 @@ TEST_F(PulseLives, AWeekOfLiveTimeGrowsNothing) {
     EXPECT_EQ(chart_.GetSampleCount(flow_), 100'000);
     EXPECT_LE(first.grown(), 0);
     EXPECT_LT(memory(), first_memory + 1'000'000);
-}
-
-TEST_F(PulseLives, HoldsAtAnyOperation) {
-    Random random(17);
-    const auto some = [&](int most) { return random.upto(most); };
-    const __int64 odd[] = {LLONG_MIN, -1, 0, LLONG_MAX, 1LL << 44};
-    __int64 time = 0;
-    const auto any_time = [&] { return some(4) ? time - some(100'000) : random.of(odd); };
-    const UINT keys[] = {VK_LEFT, VK_RIGHT, VK_PRIOR, VK_NEXT, VK_HOME, VK_END, VK_SPACE, VK_ESCAPE};
-    const std::function<void()> calls[] = {
-        [&] { chart_.MoveWindow(0, 0, some(3) ? some(1600) : some(3), some(3) ? some(900) : some(3)); },
-        [&] { chart_.AddCurve("more", red, some(5) - 3, some(5)); },
-        [&] { some(60) ? void() : chart_.RemoveCurves(); },
-        [&] { chart_.ShowCurve(some(9), some(1)); },
-        [&] { chart_.SetSpan(any_time()); },
-        [&] { chart_.ShowTime(any_time(), any_time()); },
-        [&] { key(random.of(keys)); },
-        [&] { mouse(some(1) ? WM_LBUTTONDOWN : WM_LBUTTONUP, some(1600), some(900), static_cast<UINT>(some(15))); },
-        [&] { mouse(WM_MOUSEMOVE, some(1600), some(900)); },
-        [&] { chart_.SetCursor(some(3) - 1, any_time()); },
-        [&] { chart_.SetFit(some(1)); },
-        [&] { chart_.SetCapacity(some(3) ? some(5000) : 1); },
-        [&] { chart_.LoadLine(some(1) ? ":AXES=LEFT" : ":AXES=LEFT RIGHT BOTTOM", 0); },
-        [&] { chart_.LoadLine("", 2); },
-        [&] { chart_.SendMessage(WM_COMMAND, WNT_PULSE_CMD_LIVE + static_cast<UINT>(some(3)), 0); },
-        [&] {
-            for (int k = some(300); k > 0; --k) {
-                time += some(50) ? some(30) : some(100'000);
-                chart_.AddSample(some(10), some(40) ? some(1000) / 7.0 - 20 : std::nan(""), time);
-            }
-        },
-        [&] { show(); }};
-    for (int i = 0; i < 1600; ++i)
-        random.of(calls)();
-    show();
-    EXPECT_TRUE(::IsWindow(chart_.m_hWnd));
 }
 
 // The result code of the framework's exception, which is what errors are through the DLL.

@@ -146,11 +146,10 @@ TEST_F(Pulse, NowGoesOnWithoutSamplesWhereTheyComeByTheClock) {
 TEST_F(Pulse, TheTimeAxisZoomsToWhatItsSliderCovers) {
     feed(0, 60'000);
     auto& axis = dynamic_cast<CWntAxis&>(*chart_.GetDlgItem(3));
-    CRect size;
-    axis.GetClientRect(&size);
-    const auto drag = [&](int from, int to) { PulseFixture::drag(axis.m_hWnd, from, to, size.bottom - 5); };
+    const CSize size = size_of(axis);
+    const auto drag = [&](int from, int to) { PulseFixture::drag(axis.m_hWnd, from, to, size.cy - 5); };
     double from = -1, to = -1;
-    drag(2, size.right / 2);
+    drag(2, size.cx / 2);
     EXPECT_EQ(axis.GetZoom(&from, &to), 0);
     EXPECT_TRUE(chart_.GetSpan() == 6000 && chart_.IsLive()); // there is no control yet
     chart_.SendMessage(WM_COMMAND, WNT_PULSE_CMD_ZOOM, 0);
@@ -158,14 +157,14 @@ TEST_F(Pulse, TheTimeAxisZoomsToWhatItsSliderCovers) {
     EXPECT_TRUE(from == 0 && to == 1);
     const __int64 live = start();
     host_.told.clear();
-    drag(2, size.right / 2);
+    drag(2, size.cx / 2);
     EXPECT_NEAR(static_cast<double>(chart_.GetSpan()), 3000, 30);
     EXPECT_NEAR(static_cast<double>(start()), static_cast<double>(live + 3000), 30);
     EXPECT_THAT(host_.told, testing::ElementsAre(std::tuple(WNT_PULSE_VIEW, 0)));
     EXPECT_TRUE(axis.GetZoom(&from, &to) == 1 && from == 0 && to == 1); // ready for the next time
-    drag(size.right - 2, size.right / 4);
+    drag(size.cx - 2, size.cx / 4);
     EXPECT_NEAR(static_cast<double>(chart_.GetSpan()), 750, 20);
-    drag(size.right / 2, size.right / 2);
+    drag(size.cx / 2, size.cx / 2);
     EXPECT_EQ(host_.told.size(), 2u); // nothing was zoomed
 }
 
@@ -277,9 +276,7 @@ TEST_F(Pulse, FitsCurvesThatShareARangeAlike) {
     const double ends[] = {1000, 1599};
     int rows[2], same[2];
     chart_.ValuesToScreen(flow_, ends, 2, rows);
-    CRect client;
-    chart_.GetClientRect(&client);
-    EXPECT_TRUE(0 < rows[1] && rows[1] + 100 < rows[0] && rows[0] < client.bottom);
+    EXPECT_TRUE(0 < rows[1] && rows[1] + 100 < rows[0] && rows[0] < size_of(chart_).cy);
     const int late = chart_.AddCurve("Late", RGB(0, 200, 0), 0, 100);
     chart_.AddSample(late, 1100, 6000);
     show();

@@ -145,11 +145,7 @@ TEST_F(Sash, ItsPointerTellsWhereItMoves) {
         CPoint at(102, 50);
         if (sash_.GetPosition() < 60)
             at = CPoint(100, sash_.GetPosition() + 2);
-        sash_.ClientToScreen(&at);
-        ::SetCursorPos(at.x, at.y);
-        ::SetCursor(nullptr);
-        sash_.SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(sash_.m_hWnd), MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
-        return ::GetCursor();
+        return pointer_at(sash_, at);
     };
     const HINSTANCE library = ::GetModuleHandleA("ZOPWNT.dll");
     EXPECT_EQ(pointer(), ::LoadCursorA(library, "V_SASH"));

@@ -145,15 +145,13 @@ TEST(SketchHistory, GoesBackAndForthAndKnowsWhatWasSaved) {
 TEST(SketchFigures, AreHitWhereTheyAreDrawn) {
     const Drawing drawing = with_one_of_each();
     const auto& f = drawing.Figures();
-    const struct {
-        CPoint at;
-        FigurePtr hit;
-    } cases[] = {{CPoint(300, 303), f[0]},     {CPoint(300, 320), nullptr},  {CPoint(800, 1200), f[1]},
-                 {CPoint(594, 1200), f[1]},    {CPoint(580, 1200), nullptr}, {CPoint(1200, 200), f[2]},
-                 {CPoint(1010, 290), nullptr}, {CPoint(20, 48), f[3]},       {CPoint(2050, 550), f[4]},
-                 {CPoint(2050, 450), nullptr}};
-    for (const auto& one : cases)
-        EXPECT_EQ(drawing.At(one.at, 4), one.hit) << one.at.x << ", " << one.at.y;
+    const std::pair<CPoint, FigurePtr> cases[] = {{CPoint(300, 303), f[0]},     {CPoint(300, 320), nullptr},
+                                                  {CPoint(800, 1200), f[1]},    {CPoint(594, 1200), f[1]},
+                                                  {CPoint(580, 1200), nullptr}, {CPoint(1200, 200), f[2]},
+                                                  {CPoint(1010, 290), nullptr}, {CPoint(20, 48), f[3]},
+                                                  {CPoint(2050, 550), f[4]},    {CPoint(2050, 450), nullptr}};
+    for (const auto& [at, hit] : cases)
+        EXPECT_EQ(drawing.At(at, 4), hit) << at.x << ", " << at.y;
     const CRect moved = f[1]->Moved(CSize(100000, -50))->Bounds();
     EXPECT_EQ(moved, CRect(CFigure::farthest - 400, 950, CFigure::farthest, 1350)) << "it stops at the bounds";
 }

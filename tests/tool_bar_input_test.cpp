@@ -69,10 +69,9 @@ TEST_F(ToolBar, OpensMenus) {
                   EXPECT_TRUE(::GetMenuState(menu, 0, MF_BYPOSITION) & MF_GRAYED); // asked before it opens
               });
     EXPECT_THAT(host_.told, ElementsAre(WNT_TOOL_DROPPING));
-    CPoint on_it = place(100).CenterPoint(); // the click that closes the menu does not open it again
+    const CPoint on_it = place(100).CenterPoint(); // the click that closes the menu does not open it again
     const LPARAM at = MAKELPARAM(on_it.x, on_it.y);
-    bar_->ClientToScreen(&on_it);
-    ::SetCursorPos(on_it.x, on_it.y);
+    point_at(*bar_, on_it);
     with_menu([&] { click(100); }, {VK_ESCAPE}, [&](HMENU) { ::PostMessageA(bar_->m_hWnd, WM_LBUTTONDOWN, 0, at); });
     MSG click_left;
     EXPECT_FALSE(::PeekMessageA(&click_left, bar_->m_hWnd, WM_LBUTTONDOWN, WM_LBUTTONDOWN, PM_REMOVE));

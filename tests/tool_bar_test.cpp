@@ -178,10 +178,7 @@ TEST_F(ToolBar, HoldsWindowsOfTheHosts) {
     EXPECT_EQ(bar_->AddItem(CWntToolItem(100, "a")) + bar_->AddItem(embedded) + bar_->AddItem(CWntToolItem(101, "b")),
               3);
     EXPECT_EQ(button.GetParent(), bar_);
-    CRect window;
-    button.GetWindowRect(&window);
-    bar_->ScreenToClient(&window);
-    EXPECT_EQ(window, place(130));
+    EXPECT_EQ(place_in(*bar_, button), place(130));
     button.SendMessage(BM_CLICK);
     EXPECT_THAT(host_.commands, ElementsAre(130u));
     bar_->EnableItem(130, 0);

@@ -46,9 +46,7 @@ struct ToolTip : ControlTest<TipHost> {
         tips_->RelayEvent(&event);
     }
     void point_at(CPoint at) {
-        CPoint screen = at;
-        host_.ClientToScreen(&screen);
-        ::SetCursorPos(screen.x, screen.y);
+        ::point_at(host_, at);
         relay(WM_MOUSEMOVE, at);
     }
     // What shows after the pointer came to a point; empty where nothing does.
