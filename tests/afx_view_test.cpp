@@ -425,14 +425,10 @@ TEST(AfxSplitter, HoldsPanesOfItsOwnAndSplittersAgain) {
     CRect rect = on_screen(frame.inner);
     frame.splitter.ScreenToClient(&rect);
     EXPECT_EQ(rect.left, 157);
-    CDC memory;
-    CBitmap picture;
-    memory.CreateCompatibleDC(nullptr);
-    picture.CreateBitmap(200, 10, 1, 32, nullptr);
-    CBitmap* before = memory.SelectObject(&picture);
+    canvas memory(200, 10);
+    memory.PatBlt(0, 0, 200, 10, BLACKNESS);
     frame.splitter.OnDraw(&memory);
     EXPECT_NE(memory.GetPixel(155, 0), RGB(0, 0, 0)) << "a gap's end is not painted";
-    memory.SelectObject(before);
 }
 
 } // namespace

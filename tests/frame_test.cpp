@@ -50,8 +50,7 @@ TEST_F(FrameTest, BorderAndTitleStandWhereTheScriptSays) {
     }
     script({":TITLE=a title that is much too long for a panel of two hundred"}); // cut, not written over the edge
     EXPECT_TRUE(extent(yellow).left >= 2 && extent(yellow).right <= 198);
-    const std::string_view lines = ":TITLE=\r\n:BORDERTYPE=FLAT\r\n";
-    const TemporaryFile file({lines.begin(), lines.end()});
+    const TemporaryFile file(":TITLE=\r\n:BORDERTYPE=FLAT\r\n");
     EXPECT_EQ(frame_.LoadFromFile(file.name()), 1);
     EXPECT_TRUE(extent(yellow).IsRectEmpty());
     EXPECT_EQ(frame_.LoadFromFile("no such file") + frame_.LoadFromFile(nullptr), 0);

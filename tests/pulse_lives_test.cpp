@@ -78,20 +78,15 @@ TEST_F(PulseLives, CopiesItsPictureAlsoFromUnderOtherWindows) {
     EXPECT_TRUE(std::equal(values.begin(), values.begin() + above_bar, shown.values.begin()));
 }
 
-TEST_F(PulseLives, ReadsScriptsAndTakesWindowsOver) {
-    const std::string_view lines = ":TITLE=Pump\r\n:CURVE=Speed,RED,0,3000\r\n:SPAN=10\r\n";
-    const TemporaryFile file({lines.begin(), lines.end()});
-    const HWND blank = ::CreateWindowA("WntPulse", file.name(), WS_CHILD | WS_VISIBLE, 0, 0, 300, 200, host_.m_hWnd,
-                                       nullptr, nullptr, nullptr);
-    ASSERT_TRUE(blank);
-    CWntPulse taken;
-    ASSERT_TRUE(taken.SubclassWindow(blank));
-    EXPECT_EQ(taken.GetCurveCount(), 1);
-    EXPECT_EQ(taken.GetSpan(), 1000);
+TEST_F(PulseLives, ReadsScripts) {
+    const TemporaryFile file(":TITLE=Pump\r\n:CLEARCURVES\r\n:CURVE=Speed,RED,0,3000\r\n:SPAN=10\r\n");
+    ASSERT_EQ(chart_.LoadFromFile(file.name()), 1);
+    EXPECT_EQ(chart_.GetCurveCount(), 1);
+    EXPECT_EQ(chart_.GetSpan(), 1000);
     double low = -1, high = -1;
-    EXPECT_TRUE(taken.GetRange(0, &low, &high) == 1 && low == 0 && high == 3000);
-    EXPECT_EQ(taken.GetRange(1, &low, &high) + taken.GetRange(0, nullptr, &high), 0);
-    EXPECT_EQ(taken.AddSample(0, 1500), 1);
+    EXPECT_TRUE(chart_.GetRange(0, &low, &high) == 1 && low == 0 && high == 3000);
+    EXPECT_EQ(chart_.GetRange(1, &low, &high) + chart_.GetRange(0, nullptr, &high), 0);
+    EXPECT_EQ(chart_.AddSample(0, 1500), 1);
     CWntPulse* volatile none = nullptr;
     EXPECT_EQ(none->AddSample(0, 1) + none->AddSample(0, 1, 1) + none->SetSpan(5) + none->GetCurveCount() +
                   none->OpenFile("x", 0) + none->CopyValues() + none->IsLive(),

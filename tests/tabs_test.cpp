@@ -496,8 +496,7 @@ TEST_F(Tabs, MayBeDestroyedWhenTheyTakeTheFocus) {
 TEST_F(Tabs, PassOnWhatTheirPagesTellAndFollowScripts) {
     pages_[0].SendMessage(BM_CLICK);
     EXPECT_THAT(host_.commands, ElementsAre(11u));
-    const std::string_view lines = ":SIDE=RIGHT\r\n:TAB=Kettle\r\n:TAB=Pump\r\n:DISABLED=YES\r\n";
-    const TemporaryFile file({lines.begin(), lines.end()});
+    const TemporaryFile file(":SIDE=RIGHT\r\n:TAB=Kettle\r\n:TAB=Pump\r\n:DISABLED=YES\r\n");
     tabs_.Select(2);
     EXPECT_EQ(tabs_.LoadFromFile(file.name()), 1);
     EXPECT_EQ(tabs_.GetTabCount(), 2);

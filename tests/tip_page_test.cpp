@@ -9,7 +9,7 @@ struct TipPage : WidgetTest {
     void load(const std::string& text) {
         if (!page_->m_hWnd)
             open(*page_, 400, 240);
-        const TemporaryFile file({text.begin(), text.end()});
+        const TemporaryFile file(text);
         page_->LoadTips(file.name());
     }
     void press(UINT id) { page_->GetDlgItem(static_cast<int>(id))->SendMessage(BM_CLICK); }
