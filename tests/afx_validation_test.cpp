@@ -145,23 +145,21 @@ TEST_F(AfxEntry, DatesOfAutomationAreExchangedToo) {
 
 TEST_F(AfxEntry, LengthsAreLimitedInEditsAndInCombos) {
     CString text = "12345";
-    EXPECT_TRUE(exchange(FALSE, [&](CDataExchange* data) {
-        DDX_CBString(data, IDC_TOWNS, text);
-        DDV_MaxChars(data, text, 5);
-    }));
-    const HWND edit = ::GetWindow(::GetDlgItem(dialog, IDC_TOWNS), GW_CHILD);
-    EXPECT_EQ(::SendMessage(edit, EM_GETLIMITTEXT, 0, 0), 5);
-    dialog.SetDlgItemText(IDC_TOWNS, "123456");
-    EXPECT_FALSE(exchange(TRUE, [&](CDataExchange* data) {
-        DDX_CBString(data, IDC_TOWNS, text);
-        DDV_MaxChars(data, text, 5);
-    }));
     char letters[4] = "old";
+    const auto town = [&](CDataExchange* data) {
+        DDX_CBString(data, IDC_TOWNS, text);
+        DDV_MaxChars(data, text, 5);
+    };
+    const auto few = [&](CDataExchange* data) { DDX_Text(data, IDC_LETTERS, letters, 4); };
+    EXPECT_TRUE(exchange(FALSE, town));
+    EXPECT_EQ(::SendMessage(::GetWindow(::GetDlgItem(dialog, IDC_TOWNS), GW_CHILD), EM_GETLIMITTEXT, 0, 0), 5);
+    dialog.SetDlgItemText(IDC_TOWNS, "123456");
+    EXPECT_FALSE(exchange(TRUE, town));
     dialog.SetDlgItemText(IDC_LETTERS, "four");
-    EXPECT_FALSE(exchange(TRUE, [&](CDataExchange* data) { DDX_Text(data, IDC_LETTERS, letters, 4); }));
+    EXPECT_FALSE(exchange(TRUE, few));
     EXPECT_STREQ(letters, "old");
     dialog.SetDlgItemText(IDC_LETTERS, "new");
-    EXPECT_TRUE(exchange(TRUE, [&](CDataExchange* data) { DDX_Text(data, IDC_LETTERS, letters, 4); }));
+    EXPECT_TRUE(exchange(TRUE, few));
     EXPECT_STREQ(letters, "new");
 }
 

@@ -24,8 +24,6 @@ Bytes bytes_of(const CWntShMem& block) {
     return Bytes(first, first + block_size);
 }
 
-} // namespace
-
 TEST(SharedMemory, ServesTwoProcesses) {
     CWntShMem block(block_name, block_size);
     ASSERT_NE(block.GetPtr(), nullptr);
@@ -73,8 +71,6 @@ TEST(SharedMemory, IsNullWhereThereIsNoSuchBlock) {
     const CWntShMem long_name(std::string(5000, 'x').c_str(), 4000);
     EXPECT_EQ(long_name.GetPtr(), nullptr);
 }
-
-namespace {
 
 constexpr int picture_width = 60;
 constexpr int picture_height = 40;

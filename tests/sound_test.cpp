@@ -1,5 +1,4 @@
 // Sounds as they reach the sound device, which writes what it plays to a file.
-#include "modal.h"
 #include "quiet_program.h"
 #include "resource_file.h"
 #include "temporary_file.h"

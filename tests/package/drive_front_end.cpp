@@ -5,7 +5,6 @@
 #include "../../examples/plant/recorded_days.h"
 #include "../../examples/plant/resource.h"
 
-#include <cstdio>
 #include <filesystem>
 
 namespace {
