@@ -16,9 +16,10 @@ using testing::ElementsAre;
 
 namespace {
 
-struct note : CDocument {
+class note : public CDocument {
     DECLARE_DYNCREATE(note)
 
+public:
     std::string text;
     bool fails = false;
     static inline int alive = 0;
@@ -41,9 +42,10 @@ struct note : CDocument {
 };
 IMPLEMENT_DYNCREATE(note, CDocument)
 
-struct note_view : CView {
+class note_view : public CView {
     DECLARE_DYNCREATE(note_view)
 
+public:
     static inline std::vector<std::string> log;
     void OnDraw(CDC*) override {}
     void OnInitialUpdate() override {
@@ -297,9 +299,10 @@ TEST_F(AfxSeveralDocuments, AreOpenedByTheShellsCommands) {
 }
 
 // The document's views are a list that programs go through themselves.
-struct listed_note : note {
+class listed_note : public note {
     DECLARE_DYNCREATE(listed_note)
 
+public:
     BOOL OnNewDocument() override { return note::OnNewDocument() && m_viewList.GetCount() == 1; }
 };
 IMPLEMENT_DYNCREATE(listed_note, note)

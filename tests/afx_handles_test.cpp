@@ -150,9 +150,10 @@ TEST(AfxHandles, ChildrenOfAFrameGiveEverythingBack) {
 }
 
 // A frame with everything around it.
-struct full_frame : CFrameWnd {
+class full_frame : public CFrameWnd {
     DECLARE_DYNCREATE(full_frame)
 
+public:
     CToolBar tools;
     CStatusBar status;
     CSplitterWnd splitter;

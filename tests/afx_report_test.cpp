@@ -6,9 +6,10 @@
 
 namespace {
 
-struct described : CObject {
+class described : public CObject {
     DECLARE_DYNAMIC(described)
 
+public:
     void Dump(CDumpContext& dc) const override {
         CObject::Dump(dc);
         dc << "number " << number << "\n";

@@ -13,9 +13,10 @@ namespace {
 constexpr UINT add_message = WM_APP + 1, window_message = WM_APP + 2, end_message = WM_APP + 3;
 
 // A thread with a window; keeps what its messages say.
-struct window_thread : CWinThread {
+class window_thread : public CWinThread {
     DECLARE_DYNCREATE(window_thread)
 
+public:
     static inline std::vector<int> log;
     static inline std::atomic<int> alive = 0;
     CWnd wnd;

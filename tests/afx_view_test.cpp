@@ -8,9 +8,10 @@
 
 namespace {
 
-struct page_view : CScrollView {
+class page_view : public CScrollView {
     DECLARE_DYNCREATE(page_view)
 
+public:
     void OnDraw(CDC*) override {}
     CSize GetWheelScrollDistance(CSize by, BOOL, BOOL) override { return CSize(0, by.cy * wheel); }
     using CScrollView::GetTrueClientSize, CScrollView::OnPrepareDC;
@@ -18,9 +19,10 @@ struct page_view : CScrollView {
 };
 IMPLEMENT_DYNCREATE(page_view, CScrollView)
 
-struct form : CFormView {
+class form : public CFormView {
     DECLARE_DYNCREATE(form)
 
+public:
     form() : CFormView(static_cast<UINT>(IDD_FORM)) {}
     int exchanged = 0;
     using CFormView::PreTranslateMessage;
@@ -65,9 +67,10 @@ struct view_frame : CFrameWnd {
     void PostNcDestroy() override {}
 };
 
-struct printed_edit : CEditView {
+class printed_edit : public CEditView {
     DECLARE_DYNCREATE(printed_edit)
 
+public:
     using CEditView::OnBeginPrinting;
     using CEditView::OnEndPrinting;
     using CEditView::OnPrepareDC;
@@ -241,9 +244,10 @@ TEST(AfxEditViewPrinting, PrintsAnyOfItsPagesByItself) {
 }
 
 // Searches as its box tells it to.
-struct searched_view : CEditView {
+class searched_view : public CEditView {
     DECLARE_DYNCREATE(searched_view)
 
+public:
     std::vector<std::string> missed;
     void OnTextNotFound(LPCTSTR text) override { missed.push_back(text); }
     std::string selected() {

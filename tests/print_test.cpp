@@ -90,9 +90,10 @@ TEST_F(PrintTest, HardcopyFillsThePageAndShowsTheFrame) {
 }
 
 /// Three pages through the framework's view: the first has a red square of an inch, an inch from the corner.
-struct PagesView : CView {
+class PagesView : public CView {
     DECLARE_DYNCREATE(PagesView)
 
+public:
     std::string log;
 
     using CView::OnFilePrint;
