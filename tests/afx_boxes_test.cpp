@@ -39,8 +39,7 @@ TEST_F(AfxBoxes, ListsFindSelectAndForget) {
 }
 
 // Sorts numbers by their size, and writes down what it lets go of.
-class numbers_box : public CComboBox {
-public:
+struct numbers_box : CComboBox {
     int CompareItem(LPCOMPAREITEMSTRUCT items) override {
         return static_cast<int>(items->itemData1) - static_cast<int>(items->itemData2);
     }
@@ -50,8 +49,7 @@ public:
 };
 
 // Windows that are created while it lives are of version 6 of the common controls.
-class newer_controls {
-public:
+struct newer_controls {
     newer_controls() {
         ACTCTX wanted{};
         wanted.cbSize = sizeof(wanted);

@@ -19,12 +19,10 @@ template <class... Numbers> std::string text(const char* name, Numbers... number
 }
 
 // Writes down each message as its handler sees it.
-class unpacker : public CWnd {
-public:
+struct unpacker : CWnd {
     Texts log;
     using CWnd::WindowProc;
 
-protected:
     template <class... Numbers> void note(const char* name, Numbers... numbers) {
         log.push_back(text(name, numbers...));
     }
@@ -109,13 +107,7 @@ TEST(AfxMessageMap, HandlersSeeTheParametersOfTheirMessages) {
     const auto self = reinterpret_cast<LPARAM>(wnd.m_hWnd);
     COPYDATASTRUCT data{0, 5, nullptr};
     const LPARAM point = MAKELPARAM(-3, 4);
-    const struct {
-        UINT message;
-        WPARAM w;
-        LPARAM l;
-        const char* seen;
-        LRESULT answer;
-    } cases[] = {
+    const std::tuple<UINT, WPARAM, LPARAM, const char*, LRESULT> cases[] = {
         {WM_MOVE, 0, point, "move -3 4", 0},
         {WM_KEYDOWN, VK_UP, MAKELPARAM(1, 0x148), "key 38 1 328", 0},
         {WM_NCLBUTTONDOWN, HTCAPTION, point, "nc 2 -3 4", 0},
@@ -147,10 +139,10 @@ TEST(AfxMessageMap, HandlersSeeTheParametersOfTheirMessages) {
         {WM_NCHITTEST, 0, point, "hit -3", HTTRANSPARENT},
         {WM_USER + 4, 6, 0, "silent 6", 0},
     };
-    for (const auto& one : cases) {
+    for (const auto& [message, w, l, seen, answer] : cases) {
         wnd.log.clear();
-        EXPECT_EQ(wnd.WindowProc(one.message, one.w, one.l), one.answer) << one.seen;
-        EXPECT_THAT(wnd.log, ElementsAre(one.seen));
+        EXPECT_EQ(wnd.WindowProc(message, w, l), answer) << seen;
+        EXPECT_THAT(wnd.log, ElementsAre(seen));
     }
     MINMAXINFO info{};
     wnd.SendMessage(WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&info));
@@ -163,13 +155,11 @@ TEST(AfxMessageMap, HandlersSeeTheParametersOfTheirMessages) {
 }
 
 // Commands by range, with an answer, and their updates.
-class commander : public CWnd {
-public:
+struct commander : CWnd {
     Texts log;
     BOOL handled = FALSE;
     bool enabled = true;
 
-protected:
     void OnRange(UINT id) { log.push_back(text("range", id)); }
     BOOL OnMaybe(UINT id) { return log.push_back(text("maybe", id)), handled; }
     void OnPlain() { log.push_back("plain"); }
@@ -240,12 +230,10 @@ TEST(AfxCommands, AreHandledByRangeAndAnswer) {
 }
 
 // A control that sees to its own notifications.
-class selfish : public CWnd {
-public:
+struct selfish : CWnd {
     Texts log;
     BOOL keeps = TRUE;
 
-protected:
     BOOL OnClicked() { return log.push_back("clicked"), keeps; }
     void OnNotified(NMHDR*, LRESULT* result) { log.push_back("notified"), *result = 5; }
     HBRUSH CtlColor(CDC* dc, UINT kind) {

@@ -91,8 +91,7 @@ TEST_F(AfxCommonControls, AToolbarsButtonsAreChangedMovedAndRestored) {
 // Where this system's controls do nothing, what they are told is all that shows.
 template <class Control, class Call>
 void expect_told(CWnd& parent, UINT message, WPARAM wParam, LPARAM lParam, Call call) {
-    class listener : public Control {
-    public:
+    struct listener : Control {
         LRESULT WindowProc(UINT m, WPARAM w, LPARAM l) override {
             if (!listening)
                 return Control::WindowProc(m, w, l);
@@ -313,8 +312,7 @@ TEST_F(AfxCommonControls, ChecksGoRoundThreeStatesAndShowThem) {
 // -- Items that are dragged -------------------------------------------------------------------------------------------
 
 TEST_F(AfxCommonControls, ADraggedItemGoesWhereItIsDropped) {
-    class open_list : public CDragListBox {
-    public:
+    struct open_list : CDragListBox {
         using CDragListBox::OnChildNotify;
     } list;
     ASSERT_TRUE(list.Create(shown | LBS_NOTIFY, CRect(0, 0, 80, 60), &parent, 1));
@@ -369,8 +367,7 @@ TEST_F(AfxCommonControls, ADraggedItemGoesWhereItIsDropped) {
 
 // -- Lists of pictures ------------------------------------------------------------------------------------------------
 
-class AfxImageList : public AfxCommonControls {
-protected:
+struct AfxImageList : AfxCommonControls {
     AfxImageList() {
         EXPECT_TRUE(list.Create(16, 16, ILC_COLOR24 | ILC_MASK, 0, 4));
         for (const COLORREF colour : {red, green}) { // one after the other, each with a magenta hole
@@ -464,8 +461,7 @@ TEST_F(AfxImageList, DragsOneOfItsPictures) {
 
 // -- Buttons of bitmaps -----------------------------------------------------------------------------------------------
 
-class open_bitmap_button : public CBitmapButton {
-public:
+struct open_bitmap_button : CBitmapButton {
     using CBitmapButton::DrawItem;
 };
 

@@ -7,8 +7,7 @@
 
 namespace {
 
-class AfxCommonDialogs : public WithParent {
-protected:
+struct AfxCommonDialogs : WithParent {
     // Runs the dialog; `work` answers true once it has ended it.
     static INT_PTR run(CDialog& dialog, const std::function<bool()>& work) {
         WhileModal modal([&] { return dialog.m_hWnd != nullptr && dialog.IsWindowVisible() && work(); });
@@ -20,8 +19,7 @@ protected:
     }
 };
 
-class begun_colours : public CColorDialog {
-public:
+struct begun_colours : CColorDialog {
     using CColorDialog::CColorDialog;
     BOOL OnInitDialog() override { return ++begun, CColorDialog::OnInitDialog(); }
     int begun = 0;
@@ -133,15 +131,13 @@ TEST_F(AfxCommonDialogs, AFontIsDescribedAsItWasChosen) {
 }
 
 // Writes down what its dialog for searching tells.
-class searching_window : public CWnd {
-public:
+struct searching_window : CWnd {
     struct told {
         CString find, replace;
         bool next, all, down, match_case, end;
     };
     std::vector<told> seen;
 
-protected:
     afx_msg LRESULT OnFind(WPARAM, LPARAM param) {
         const auto& dialog = *CFindReplaceDialog::GetNotifier(param);
         seen.push_back({dialog.GetFindString(), dialog.GetReplaceString(), dialog.FindNext() != FALSE,
@@ -158,8 +154,7 @@ BEGIN_MESSAGE_MAP(searching_window, CWnd)
 ON_REGISTERED_MESSAGE(find_message, &searching_window::OnFind)
 END_MESSAGE_MAP()
 
-class counted_find : public CFindReplaceDialog {
-public:
+struct counted_find : CFindReplaceDialog {
     counted_find() { ++alive; }
     ~counted_find() override { --alive; }
     static inline int alive = 0;

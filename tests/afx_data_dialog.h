@@ -6,8 +6,7 @@
 #include <afxcmn.h>
 #include <afxdtctl.h>
 
-class data_dialog : public CDialog {
-public:
+struct data_dialog : CDialog {
     data_dialog() : CDialog(IDD_DATA) {}
     BOOL OnInitDialog() override {
         for (const char* fruit : {"apple", "cherry", "cherry pie"})
@@ -55,8 +54,7 @@ public:
 };
 
 // The dialog, open; the boxes that it brings up are taken from the program.
-template <class Dialog> class WithDataDialog : public testing::Test {
-protected:
+template <class Dialog> struct WithDataDialog : testing::Test {
     WithDataDialog() {
         the_app.take_boxes();
         EXPECT_TRUE(dialog.Create(IDD_DATA));

@@ -11,8 +11,7 @@ namespace {
 
 constexpr COLORREF green = RGB(0, 200, 0), red = RGB(255, 0, 0), blue = RGB(0, 0, 255);
 
-class ColouredDialog : public testing::Test {
-protected:
+struct ColouredDialog : testing::Test {
     void SetUp() override {
         const struct {
             DLGTEMPLATE head;

@@ -6,11 +6,9 @@
 
 namespace {
 
-class counting_dialog : public data_dialog {
-public:
+struct counting_dialog : data_dialog {
     int changes = 0, checked = 0;
 
-protected:
     void OnChanged() { ++changes; }
     void OnChecked() { ++checked; }
     DECLARE_MESSAGE_MAP()
@@ -21,8 +19,7 @@ ON_EN_CHANGE(IDC_NAME, &counting_dialog::OnChanged)
 ON_CLBN_CHKCHANGE(IDC_CHECKS, &counting_dialog::OnChecked)
 END_MESSAGE_MAP()
 
-class AfxDataDialog : public WithDataDialog<counting_dialog> {
-protected:
+struct AfxDataDialog : WithDataDialog<counting_dialog> {
     CString text_of(int id) {
         CString text;
         dialog.GetDlgItemText(id, text);
@@ -116,8 +113,7 @@ TEST_F(AfxDataDialog, CheckBoxesKeepTheirStateBesideTheProgramsData) {
     EXPECT_TRUE(list.GetCheck(0) == 1 && list.GetItemData(0) == 5 && !list.IsEnabled(0));
 }
 
-class refusing_file_dialog : public CFileDialog {
-public:
+struct refusing_file_dialog : CFileDialog {
     using CFileDialog::CFileDialog;
     BOOL OnFileNameOK() override {
         seen.push_back(GetFileName().GetString());

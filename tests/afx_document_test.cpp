@@ -59,8 +59,7 @@ public:
 IMPLEMENT_DYNCREATE(note_view, CView)
 
 // A program with one kind of document, answering its questions by itself.
-class NoteProgram : public testing::Test {
-protected:
+struct NoteProgram : testing::Test {
     void SetUp() override {
         the_app.m_nCmdShow = SW_SHOWNOACTIVATE;
         // The registered template and its frame live as long as the test.
@@ -184,8 +183,7 @@ TEST_F(NoteProgram, OpensWhatTheUserChoosesUnlessNothingIsChosen) {
 }
 
 // Documents side by side in one frame.
-class AfxSeveralDocuments : public testing::Test {
-protected:
+struct AfxSeveralDocuments : testing::Test {
     AfxSeveralDocuments() {
         the_app.m_nCmdShow = SW_SHOWNOACTIVATE;
         add(RUNTIME_CLASS(note), IDR_FRAME);
@@ -347,27 +345,24 @@ TEST_F(AfxSeveralDocuments, OfSeveralKindsAreOfferedToTheUser) {
 }
 
 TEST(AfxCommandLine, SaysWhatTheShellWants) {
-    const struct {
-        std::vector<std::string> words;
-        int command;
-        const char *file, *printer;
-    } cases[] = {{{}, CCommandLineInfo::FileNew, "", ""},
-                 {{"a.note"}, CCommandLineInfo::FileOpen, "a.note", ""},
-                 {{"/p", "a.note"}, CCommandLineInfo::FilePrint, "a.note", ""},
-                 {{"/pt", "a.note", "laser", "driver", "port"}, CCommandLineInfo::FilePrintTo, "a.note", "laser"},
-                 {{"-dde"}, CCommandLineInfo::FileDDE, "", ""},
-                 {{"/Unregister"}, CCommandLineInfo::AppUnregister, "", ""},
-                 {{"-unknown", "b.note"}, CCommandLineInfo::FileOpen, "b.note", ""}};
-    for (const auto& one : cases) {
+    const std::tuple<std::vector<std::string>, int, const char*, const char*> cases[] = {
+        {{}, CCommandLineInfo::FileNew, "", ""},
+        {{"a.note"}, CCommandLineInfo::FileOpen, "a.note", ""},
+        {{"/p", "a.note"}, CCommandLineInfo::FilePrint, "a.note", ""},
+        {{"/pt", "a.note", "laser", "driver", "port"}, CCommandLineInfo::FilePrintTo, "a.note", "laser"},
+        {{"-dde"}, CCommandLineInfo::FileDDE, "", ""},
+        {{"/Unregister"}, CCommandLineInfo::AppUnregister, "", ""},
+        {{"-unknown", "b.note"}, CCommandLineInfo::FileOpen, "b.note", ""}};
+    for (const auto& [words, command, file, printer] : cases) {
         CCommandLineInfo info;
-        for (std::size_t i = 0; i < one.words.size(); ++i) {
-            const std::string& word = one.words[i];
+        for (std::size_t i = 0; i < words.size(); ++i) {
+            const std::string& word = words[i];
             const bool flag = word[0] == '/' || word[0] == '-';
-            info.ParseParam(word.c_str() + flag, flag, i + 1 == one.words.size());
+            info.ParseParam(word.c_str() + flag, flag, i + 1 == words.size());
         }
-        EXPECT_EQ(info.m_nShellCommand, one.command) << one.file;
-        EXPECT_STREQ(info.m_strFileName, one.file);
-        EXPECT_STREQ(info.m_strPrinterName, one.printer);
+        EXPECT_EQ(info.m_nShellCommand, command) << file;
+        EXPECT_STREQ(info.m_strFileName, file);
+        EXPECT_STREQ(info.m_strPrinterName, printer);
     }
 }
 

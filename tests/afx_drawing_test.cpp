@@ -5,8 +5,7 @@
 
 namespace {
 
-class AfxDeviceContext : public testing::Test {
-protected:
+struct AfxDeviceContext : testing::Test {
     canvas dc{100, 100};
 };
 
@@ -137,11 +136,7 @@ TEST_F(AfxDeviceContext, BrushesAndEdgesDrawWhatTheySay) {
     EXPECT_EQ(dc.GetPixel(55, 55), RGB(255, 255, 255)) << "the inside stays";
     dc.SetPixel(80, 80, RGB(9, 9, 9));
     dc.FillSolidRect(70, 70, 5, 5, RGB(9, 9, 9));
-    CDC copy;
-    CBitmap bits;
-    copy.CreateCompatibleDC(&dc);
-    bits.CreateCompatibleBitmap(&dc, 10, 10);
-    CBitmap* before_bits = copy.SelectObject(&bits);
+    canvas copy(10, 10);
     copy.StretchBlt(0, 0, 10, 10, &dc, 70, 70, 5, 5, SRCCOPY);
     EXPECT_EQ(copy.GetPixel(9, 9), RGB(9, 9, 9));
     dc.TransparentBlt(0, 60, 10, 10, &copy, 0, 0, 10, 10, RGB(9, 9, 9));
@@ -149,7 +144,6 @@ TEST_F(AfxDeviceContext, BrushesAndEdgesDrawWhatTheySay) {
     copy.PatBlt(0, 0, 10, 10, BLACKNESS);
     dc.AlphaBlend(0, 60, 10, 10, &copy, 0, 0, 10, 10, {AC_SRC_OVER, 0, 51, 0});
     EXPECT_EQ(dc.GetPixel(5, 65), RGB(204, 204, 204)) << "a fifth of black over white";
-    copy.SelectObject(before_bits);
 }
 
 TEST_F(AfxDeviceContext, ShortensTextsAndMeasuresGlyphs) {

@@ -7,8 +7,7 @@
 
 namespace {
 
-class AfxFileModes : public testing::Test {
-protected:
+struct AfxFileModes : testing::Test {
     AfxFileModes() {
         folder.Format("%safx modes %lu", std::filesystem::temp_directory_path().string().c_str(),
                       ::GetCurrentProcessId());

@@ -11,8 +11,7 @@ using testing::ElementsAre;
 
 namespace {
 
-class docking_frame : public CFrameWnd {
-public:
+struct docking_frame : CFrameWnd {
     CToolBar tools, more;
 
     bool open() {
@@ -48,7 +47,6 @@ public:
         return CFrameWnd::WindowProc(message, wParam, lParam);
     }
 
-protected:
     afx_msg void OnOn() { ++toggled; }
     DECLARE_MESSAGE_MAP()
 };
@@ -57,8 +55,7 @@ BEGIN_MESSAGE_MAP(docking_frame, CFrameWnd)
 ON_COMMAND(ID_TEST_ON, &docking_frame::OnOn)
 END_MESSAGE_MAP()
 
-class AfxFloating : public testing::Test {
-protected:
+struct AfxFloating : testing::Test {
     AfxFloating() { EXPECT_TRUE(frame.open()); }
     docking_frame frame;
 };
@@ -74,8 +71,7 @@ TEST_F(AfxFloating, ABarFloatsKeepsItsCommandsAndComesBack) {
     EXPECT_EQ(on_screen(small).TopLeft(), CPoint(150, 120));
     EXPECT_TRUE(small.IsWindowVisible());
     EXPECT_EQ(text_of(small), "Title");
-    const CRect client = inside_of(small);
-    EXPECT_EQ(client.Size(), on_screen(frame.tools).Size());
+    EXPECT_EQ(inside_of(small).Size(), on_screen(frame.tools).Size());
     EXPECT_EQ(frame.tools.GetDockingFrame()->m_hWnd, small.m_hWnd);
     frame.tools.SendMessage(WM_IDLEUPDATECMDUI, TRUE);
     EXPECT_NE(frame.tools.GetToolBarCtrl().IsButtonEnabled(ID_TEST_ON), 0);

@@ -12,8 +12,7 @@ using Texts = std::vector<std::string>;
 
 namespace {
 
-class bar_frame : public CFrameWnd {
-public:
+struct bar_frame : CFrameWnd {
     CToolBar tools, more;
     CStatusBar status;
     CDialogBar dialog;
@@ -40,7 +39,6 @@ public:
     }
     bool enabled(UINT id) { return (tools.SendMessage(TB_GETSTATE, id) & TBSTATE_ENABLED) != 0; }
 
-protected:
     void OnOn() { log.push_back("on"); }
     void OnUpdateOff(CCmdUI* item) { item->Enable(!off); }
     void OnUpdateChecked(CCmdUI* item) { item->SetCheck(off), item->SetText("Text"); }
@@ -57,8 +55,7 @@ ON_UPDATE_COMMAND_UI(ID_TEST_CHECKED, &bar_frame::OnUpdateChecked)
 ON_UPDATE_COMMAND_UI(ID_TEST_PANE, &bar_frame::OnUpdatePane)
 END_MESSAGE_MAP()
 
-class AfxFrame : public testing::Test {
-protected:
+struct AfxFrame : testing::Test {
     AfxFrame() {
         EXPECT_TRUE(frame.open());
         frame.settle();
@@ -270,8 +267,7 @@ TEST_F(AfxReBar, HoldsTheFramesBars) {
     EXPECT_THAT(frame.log, ElementsAre("on"));
 }
 
-class AfxHelp : public AfxFrame {
-protected:
+struct AfxHelp : AfxFrame {
     AfxHelp() { the_app.m_pMainWnd = &frame; }
     ~AfxHelp() override {
         the_app.helped.clear();
@@ -344,8 +340,7 @@ TEST_F(AfxFrame, KeepsTheUserOutWhileItIsModal) {
 }
 
 // Ends one of its windows, or itself, while commands are updated.
-class ending_frame : public Trapping<CFrameWnd> {
-public:
+struct ending_frame : Trapping<CFrameWnd> {
     template <class Bar> Bar* add() {
         auto* bar = new Trapping<Bar>;
         bar->m_bAutoDelete = TRUE;
@@ -362,7 +357,6 @@ public:
                status->SetIndicators(&pane, 1) && dialog->Create(this, IDD_FORM, CBRS_TOP, 0xE850);
     }
 
-protected:
     void OnUpdate(CCmdUI*) {
         if (ends != nullptr)
             std::exchange(ends, nullptr)->DestroyWindow();

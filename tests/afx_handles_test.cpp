@@ -23,8 +23,7 @@ int show_command(int life) {
 }
 
 // Of every kind of control, with objects for some, tips, pictures and a brush of its own.
-class busy_dialog : public data_dialog {
-public:
+struct busy_dialog : data_dialog {
     BOOL OnInitDialog() override {
         data_dialog::OnInitDialog();
         pictures.Create(16, 16, ILC_COLOR24 | ILC_MASK, 2, 2);

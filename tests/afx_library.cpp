@@ -4,8 +4,7 @@
 
 namespace {
 
-class library_app : public CWinApp {
-public:
+struct library_app : CWinApp {
     BOOL InitInstance() override { return begun = AfxGetApp() == this; }
     int ExitInstance() override { return *told = FALSE, CWinApp::ExitInstance(); }
     BOOL begun = FALSE, *told = &begun;

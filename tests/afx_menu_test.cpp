@@ -98,8 +98,7 @@ TEST(AfxMenu, OwnsWhatItLoadedAndNothingElse) {
 }
 
 // Writes down which items it measures and draws.
-class drawn_menu : public CMenu {
-public:
+struct drawn_menu : CMenu {
     void MeasureItem(LPMEASUREITEMSTRUCT item) override {
         measured.push_back(item->itemID);
         item->itemWidth = 40;

@@ -8,19 +8,17 @@
 namespace {
 
 TEST(AfxOleTime, TakesOnlyWhatIsADate) {
-    const struct {
-        int year, month, day, hour, minute, second;
-        DATE date; // 0: none
-    } cases[] = {{1900, 1, 1, 0, 0, 0, 2},         {2000, 2, 29, 12, 0, 0, 36585.5}, {1899, 12, 29, 6, 0, 0, -1.25},
-                 {9999, 12, 31, 0, 0, 0, 2958465}, {100, 1, 1, 0, 0, 0, -657434},    {1900, 2, 29, 0, 0, 0, 0},
-                 {2023, 4, 31, 0, 0, 0, 0},        {2023, 0, 1, 0, 0, 0, 0},         {99, 1, 1, 0, 0, 0, 0},
-                 {2023, 1, 1, 24, 0, 0, 0},        {2023, 1, 1, 0, 0, 60, 0},        {67536, 1, 1, 0, 0, 0, 0}};
-    for (const auto& one : cases) {
-        const COleDateTime time(one.year, one.month, one.day, one.hour, one.minute, one.second);
-        EXPECT_EQ(time.GetStatus(), one.date != 0 ? COleDateTime::valid : COleDateTime::invalid) << one.year;
-        EXPECT_EQ(time.GetDay(), one.date != 0 ? one.day : COleDateTime::error);
-        EXPECT_EQ(time.GetHour(), one.date != 0 ? one.hour : COleDateTime::error);
-        EXPECT_TRUE(one.date == 0 || time.m_dt == one.date);
+    const std::tuple<int, int, int, int, int, int, DATE> cases[] = {
+        {1900, 1, 1, 0, 0, 0, 2},         {2000, 2, 29, 12, 0, 0, 36585.5}, {1899, 12, 29, 6, 0, 0, -1.25},
+        {9999, 12, 31, 0, 0, 0, 2958465}, {100, 1, 1, 0, 0, 0, -657434},    {1900, 2, 29, 0, 0, 0, 0},
+        {2023, 4, 31, 0, 0, 0, 0},        {2023, 0, 1, 0, 0, 0, 0},         {99, 1, 1, 0, 0, 0, 0},
+        {2023, 1, 1, 24, 0, 0, 0},        {2023, 1, 1, 0, 0, 60, 0},        {67536, 1, 1, 0, 0, 0, 0}};
+    for (const auto& [year, month, day, hour, minute, second, date] : cases) {
+        const COleDateTime time(year, month, day, hour, minute, second);
+        EXPECT_EQ(time.GetStatus(), date != 0 ? COleDateTime::valid : COleDateTime::invalid) << year;
+        EXPECT_EQ(time.GetDay(), date != 0 ? day : COleDateTime::error);
+        EXPECT_EQ(time.GetHour(), date != 0 ? hour : COleDateTime::error);
+        EXPECT_TRUE(date == 0 || time.m_dt == date);
     }
     const COleDateTime leap(2024, 12, 31, 0, 0, 0);
     EXPECT_EQ(leap.GetDayOfYear(), 366);

@@ -15,8 +15,7 @@ class framework : public testing::Environment {
 const testing::Environment* const environment = testing::AddGlobalTestEnvironment(new framework);
 
 // Does one thing when it opens, and one when its data is exchanged.
-class test_dialog : public CDialog {
-public:
+struct test_dialog : CDialog {
     explicit test_dialog(CWnd* parent = nullptr) : CDialog(IDD_TEST, parent) {}
     BOOL OnInitDialog() override {
         CDialog::OnInitDialog();

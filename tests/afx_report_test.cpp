@@ -108,18 +108,15 @@ TEST(AfxExceptions, TellTheUserWhatHappened) {
 
 // Of those that files do not meet in the tests.
 TEST(AfxExceptions, SystemErrorsHaveTheirCauses) {
-    const struct {
-        LONG error;
-        int cause;
-    } cases[] = {{NO_ERROR, CFileException::none},
-                 {ERROR_DISK_FULL, CFileException::diskFull},
-                 {ERROR_HANDLE_EOF, CFileException::endOfFile},
-                 {ERROR_INVALID_HANDLE, CFileException::invalidFile},
-                 {ERROR_NEGATIVE_SEEK, CFileException::badSeek},
-                 {ERROR_CRC, CFileException::hardIO},
-                 {123456, CFileException::genericException}};
-    for (const auto& one : cases)
-        EXPECT_EQ(CFileException::OsErrorToException(one.error), one.cause) << one.error;
+    const std::pair<LONG, int> cases[] = {{NO_ERROR, CFileException::none},
+                                          {ERROR_DISK_FULL, CFileException::diskFull},
+                                          {ERROR_HANDLE_EOF, CFileException::endOfFile},
+                                          {ERROR_INVALID_HANDLE, CFileException::invalidFile},
+                                          {ERROR_NEGATIVE_SEEK, CFileException::badSeek},
+                                          {ERROR_CRC, CFileException::hardIO},
+                                          {123456, CFileException::genericException}};
+    for (const auto& [error, cause] : cases)
+        EXPECT_EQ(CFileException::OsErrorToException(error), cause) << error;
     EXPECT_EQ(CFileException::ErrnoToException(ENOENT), CFileException::fileNotFound);
     EXPECT_EQ(CFileException::ErrnoToException(EACCES), CFileException::accessDenied);
     EXPECT_EQ(CFileException::ErrnoToException(9999), CFileException::genericException);

@@ -8,31 +8,27 @@ using testing::ElementsAre;
 
 namespace {
 
-class plain_frame : public CFrameWnd {
-public:
+struct plain_frame : CFrameWnd {
     bool open() { return Create(nullptr, "frame") != FALSE; }
     void PostNcDestroy() override {}
 };
 
 TEST(AfxToolBarResource, IsReadInBothFormsAndRefusedWhereItIsBroken) {
-    const struct {
-        UINT id;
-        int buttons;
-    } cases[] = {{IDR_FRAME, 5}, {201, 2}, {202, -1}, {203, -1}, {204, -1}, {205, -1}, {299, -1}};
-    for (const auto& one : cases) {
+    const std::pair<UINT, int> cases[] = {{IDR_FRAME, 5}, {201, 2},  {202, -1}, {203, -1},
+                                          {204, -1},      {205, -1}, {299, -1}};
+    for (const auto& [id, buttons] : cases) {
         plain_frame frame;
         CToolBar bar;
         ASSERT_TRUE(frame.open() && bar.Create(&frame));
-        EXPECT_EQ(bar.LoadToolBar(one.id), one.buttons > 0) << one.id;
-        if (one.buttons > 0) {
-            EXPECT_EQ(bar.GetCount(), one.buttons);
+        EXPECT_EQ(bar.LoadToolBar(id), buttons > 0) << id;
+        if (buttons > 0) {
+            EXPECT_EQ(bar.GetCount(), buttons);
         }
     }
 }
 
 // A child dialog whose boxes are filled from data.
-class boxes : public CWnd {
-public:
+struct boxes : CWnd {
     bool open(CWnd& parent) { return CreateDlg(MAKEINTRESOURCE(IDD_BOXES), &parent) != FALSE; }
     int count(int id, UINT message) { return static_cast<int>(SendDlgItemMessage(id, message)); }
 };

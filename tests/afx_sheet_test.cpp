@@ -8,8 +8,7 @@
 namespace {
 
 // Takes the mark of a box over, and writes down what it is asked.
-class marked_page : public CPropertyPage {
-public:
+struct marked_page : CPropertyPage {
     explicit marked_page(std::string name, std::string& log) : CPropertyPage(IDD_PAGE), name(name), log(log) {}
     void DoDataExchange(CDataExchange* exchange) override {
         CPropertyPage::DoDataExchange(exchange);
@@ -58,8 +57,7 @@ INT_PTR run(CPropertySheet& sheet, const std::vector<std::function<void()>>& ste
 }
 
 // Changes the last page's record before its window is made.
-class titled_sheet : public CPropertySheet {
-public:
+struct titled_sheet : CPropertySheet {
     using CPropertySheet::CPropertySheet;
     void BuildPropPageArray() override {
         CPropertySheet::BuildPropPageArray();
@@ -68,8 +66,7 @@ public:
     }
 };
 
-class AfxSheet : public testing::Test {
-protected:
+struct AfxSheet : testing::Test {
     AfxSheet() {
         sheet.AddPage(&first);
         sheet.AddPage(&second);
@@ -132,8 +129,7 @@ TEST_F(AfxSheet, PagesMayRefuse) {
 }
 
 // Goes from page to page, but past the second where it is told to, and not on where it refuses.
-class wizard_page : public marked_page {
-public:
+struct wizard_page : marked_page {
     using marked_page::marked_page;
     BOOL OnSetActive() override {
         static_cast<CPropertySheet*>(GetParent())->SetWizardButtons(buttons);

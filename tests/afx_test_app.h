@@ -12,8 +12,7 @@
 #include <vector>
 
 // Answers message boxes by itself and keeps their texts.
-class test_app : public CWinApp {
-public:
+struct test_app : CWinApp {
     int DoMessageBox(LPCTSTR text, UINT, UINT) override {
         if (box_fails)
             AfxThrowMemoryException();
@@ -58,8 +57,7 @@ inline BOOL create_visible_popup(CWnd& wnd) {
 }
 
 // Keeps the number of every message it gets, and object_released when the framework lets go of it.
-class recorder : public CWnd {
-public:
+struct recorder : CWnd {
     static constexpr UINT object_released = 0x10000;
 
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
@@ -121,8 +119,7 @@ inline CRect on_screen(const CWnd& wnd) {
 }
 
 // A window, for controls to stand in.
-class WithParent : public testing::Test {
-protected:
+struct WithParent : testing::Test {
     WithParent() { EXPECT_TRUE(create_visible_popup(parent)); }
     static constexpr DWORD shown = WS_CHILD | WS_VISIBLE;
     const CRect place{0, 0, 100, 60};
@@ -131,8 +128,7 @@ protected:
 };
 
 // A memory bitmap like the screen's, white.
-class canvas : public CDC {
-public:
+struct canvas : CDC {
     canvas(int width, int height) {
         CWindowDC screen(nullptr);
         EXPECT_TRUE(CreateCompatibleDC(&screen) && m_bitmap.CreateCompatibleBitmap(&screen, width, height));

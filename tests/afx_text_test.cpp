@@ -8,12 +8,10 @@ namespace {
 
 TEST(AfxStringEdges, PlacesOutsideTheTextAreItsEnds) {
     const CString text("abc");
-    const struct {
-        int first, count;
-        const char* part;
-    } cases[] = {{0, 3, "abc"}, {1, 99, "bc"}, {3, 1, ""}, {99, 1, ""}, {-5, 2, "ab"}, {1, -1, ""}, {0, 0, ""}};
-    for (const auto& one : cases)
-        EXPECT_STREQ(text.Mid(one.first, one.count), one.part) << one.first << ", " << one.count;
+    const std::tuple<int, int, const char*> cases[] = {{0, 3, "abc"}, {1, 99, "bc"}, {3, 1, ""}, {99, 1, ""},
+                                                       {-5, 2, "ab"}, {1, -1, ""},   {0, 0, ""}};
+    for (const auto& [first, count, part] : cases)
+        EXPECT_STREQ(text.Mid(first, count), part) << first << ", " << count;
     EXPECT_TRUE(text.Left(-1).IsEmpty() && text.Left(99) == text && text.Right(2) == "bc" && text.Right(99) == text &&
                 text.Right(-1).IsEmpty());
     EXPECT_TRUE(text[99] == '\0' && text[-1] == '\0' && text.GetAt(3) == '\0');

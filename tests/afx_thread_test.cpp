@@ -36,7 +36,6 @@ public:
         return CWinThread::ExitInstance();
     }
 
-protected:
     void OnAdd(WPARAM w, LPARAM l) { log.push_back(static_cast<int>(w) + static_cast<int>(l)); }
     void OnEnd(WPARAM, LPARAM) { wnd.DestroyWindow(); }
     DECLARE_MESSAGE_MAP()
@@ -96,8 +95,7 @@ UINT post_samples(LPVOID parameter) {
     return 17;
 }
 
-class receiver : public CWnd {
-public:
+struct receiver : CWnd {
     int sum = 0;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
         sum += message == window_message ? static_cast<int>(wParam) : 0;

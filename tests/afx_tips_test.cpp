@@ -6,8 +6,7 @@
 
 namespace {
 
-class tips_window : public CWnd {
-public:
+struct tips_window : CWnd {
     std::vector<std::string> asked;
     CButton plain, disabled;
     bool own_parts = false;

@@ -6,8 +6,7 @@
 namespace {
 
 // A tracking is run by messages that lie in the queue before it begins.
-class AfxTracker : public WithParent {
-protected:
+struct AfxTracker : WithParent {
     void queue(UINT message, int x, int y) { parent.PostMessage(message, 0, MAKELPARAM(x, y)); }
     CRect tracked(CRectTracker& tracker, CPoint from, CPoint to, UINT end = WM_LBUTTONUP, BOOL invert = FALSE) {
         queue(WM_MOUSEMOVE, to.x, to.y);
@@ -22,15 +21,13 @@ protected:
 
 TEST_F(AfxTracker, MovesSidesCornersAndTheWhole) {
     const CRect start(20, 20, 80, 60);
-    const struct {
-        CPoint from, by;
-        CRect to;
-    } rows[] = {{{20, 20}, {-5, 3}, {15, 23, 80, 60}}, {{79, 59}, {7, 7}, {20, 20, 87, 67}},
-                {{50, 21}, {9, 4}, {20, 24, 80, 60}},  {{79, 40}, {6, 9}, {20, 20, 86, 60}},
-                {{50, 40}, {-8, 5}, {12, 25, 72, 65}}, {{20, 40}, {90, 0}, {72, 20, 80, 60}}};
-    for (const auto& row : rows) {
+    const std::tuple<CPoint, CPoint, CRect> rows[] = {
+        {{20, 20}, {-5, 3}, {15, 23, 80, 60}}, {{79, 59}, {7, 7}, {20, 20, 87, 67}},
+        {{50, 21}, {9, 4}, {20, 24, 80, 60}},  {{79, 40}, {6, 9}, {20, 20, 86, 60}},
+        {{50, 40}, {-8, 5}, {12, 25, 72, 65}}, {{20, 40}, {90, 0}, {72, 20, 80, 60}}};
+    for (const auto& [from, by, to] : rows) {
         CRectTracker tracker(start, CRectTracker::resizeInside | CRectTracker::solidLine);
-        EXPECT_EQ(tracked(tracker, row.from, row.from + row.by), row.to) << row.from.x << ' ' << row.from.y;
+        EXPECT_EQ(tracked(tracker, from, from + by), to) << from.x << ' ' << from.y;
         EXPECT_TRUE(changed);
     }
     CRectTracker tracker(start, CRectTracker::resizeInside);

@@ -7,8 +7,7 @@
 
 namespace {
 
-class AfxEntry : public WithDataDialog<data_dialog> {
-protected:
+struct AfxEntry : WithDataDialog<data_dialog> {
     // False where the exchange is refused: the user is told once.
     bool exchange(BOOL save, const std::function<void(CDataExchange*)>& work) {
         CDataExchange data(&dialog, save);
@@ -68,20 +67,16 @@ TEST_F(AfxEntry, NumbersAreTakenUpToTheEndsOfTheirTypes) {
 }
 
 TEST_F(AfxEntry, RealNumbersAreTakenAsTheyAreShown) {
-    const struct {
-        const char* text;
-        bool as_float, as_double;
-    } cases[] = {{"0.5", true, true},     {"-1e30", true, true}, {"1e39", false, true}, {"-1e308", false, true},
-                 {"1e309", false, false}, {"inf", false, false}, {"nan", false, false}, {"1,5", false, false},
-                 {"", false, false},      {".", false, false},   {" 2.5 ", true, true}};
-    for (const auto& one : cases) {
+    const std::tuple<const char*, bool, bool> cases[] = {
+        {"0.5", true, true},     {"-1e30", true, true}, {"1e39", false, true}, {"-1e308", false, true},
+        {"1e309", false, false}, {"inf", false, false}, {"nan", false, false}, {"1,5", false, false},
+        {"", false, false},      {".", false, false},   {" 2.5 ", true, true}};
+    for (const auto& [text, as_float, as_double] : cases) {
         float narrow = 0;
         double wide = 0;
-        dialog.SetDlgItemText(IDC_FACTOR, one.text);
-        EXPECT_EQ(exchange(TRUE, [&](CDataExchange* data) { DDX_Text(data, IDC_FACTOR, narrow); }), one.as_float)
-            << one.text;
-        EXPECT_EQ(exchange(TRUE, [&](CDataExchange* data) { DDX_Text(data, IDC_FACTOR, wide); }), one.as_double)
-            << one.text;
+        dialog.SetDlgItemText(IDC_FACTOR, text);
+        EXPECT_EQ(exchange(TRUE, [&](CDataExchange* data) { DDX_Text(data, IDC_FACTOR, narrow); }), as_float) << text;
+        EXPECT_EQ(exchange(TRUE, [&](CDataExchange* data) { DDX_Text(data, IDC_FACTOR, wide); }), as_double) << text;
     }
     for (double shown : {0.1, 1e-300, -123456789.125, 1e15}) {
         double read = 0;
@@ -155,23 +150,21 @@ TEST_F(AfxEntry, DatesOfAutomationAreExchangedToo) {
 
 TEST_F(AfxEntry, LengthsAreLimitedInEditsAndInCombos) {
     CString text = "12345";
-    EXPECT_TRUE(exchange(FALSE, [&](CDataExchange* data) {
-        DDX_CBString(data, IDC_TOWNS, text);
-        DDV_MaxChars(data, text, 5);
-    }));
-    const HWND edit = ::GetWindow(::GetDlgItem(dialog, IDC_TOWNS), GW_CHILD);
-    EXPECT_EQ(::SendMessage(edit, EM_GETLIMITTEXT, 0, 0), 5);
-    dialog.SetDlgItemText(IDC_TOWNS, "123456");
-    EXPECT_FALSE(exchange(TRUE, [&](CDataExchange* data) {
-        DDX_CBString(data, IDC_TOWNS, text);
-        DDV_MaxChars(data, text, 5);
-    }));
     char letters[4] = "old";
+    const auto town = [&](CDataExchange* data) {
+        DDX_CBString(data, IDC_TOWNS, text);
+        DDV_MaxChars(data, text, 5);
+    };
+    const auto few = [&](CDataExchange* data) { DDX_Text(data, IDC_LETTERS, letters, 4); };
+    EXPECT_TRUE(exchange(FALSE, town));
+    EXPECT_EQ(::SendMessage(::GetWindow(::GetDlgItem(dialog, IDC_TOWNS), GW_CHILD), EM_GETLIMITTEXT, 0, 0), 5);
+    dialog.SetDlgItemText(IDC_TOWNS, "123456");
+    EXPECT_FALSE(exchange(TRUE, town));
     dialog.SetDlgItemText(IDC_LETTERS, "four");
-    EXPECT_FALSE(exchange(TRUE, [&](CDataExchange* data) { DDX_Text(data, IDC_LETTERS, letters, 4); }));
+    EXPECT_FALSE(exchange(TRUE, few));
     EXPECT_STREQ(letters, "old");
     dialog.SetDlgItemText(IDC_LETTERS, "new");
-    EXPECT_TRUE(exchange(TRUE, [&](CDataExchange* data) { DDX_Text(data, IDC_LETTERS, letters, 4); }));
+    EXPECT_TRUE(exchange(TRUE, few));
     EXPECT_STREQ(letters, "new");
 }
 

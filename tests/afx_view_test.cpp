@@ -31,8 +31,7 @@ public:
 IMPLEMENT_DYNCREATE(form, CFormView)
 
 // Tells of its drags, and keeps its first column.
-class told_splitter : public CSplitterWnd {
-public:
+struct told_splitter : CSplitterWnd {
     std::string log;
     int narrowest = 0;
     using CSplitterWnd::OnDraw;
@@ -43,8 +42,7 @@ public:
 };
 
 // A frame around a view or a splitter, without a document.
-class view_frame : public CFrameWnd {
-public:
+struct view_frame : CFrameWnd {
     told_splitter splitter, inner;
     std::function<BOOL(view_frame&, CCreateContext&)> make;
 
@@ -131,8 +129,7 @@ TEST(AfxFormView, ExchangesDataAndScrollsItsTemplate) {
     view.SendMessage(WM_INITIALUPDATE);
     EXPECT_EQ(view.exchanged, 1);
     EXPECT_NE(view.GetDlgItem(IDC_FORM_NAME), nullptr);
-    const CRect client = inside_of(view);
-    EXPECT_GT(client.Width(), 300) << "as large as the frame, not as the template";
+    EXPECT_GT(inside_of(view).Width(), 300) << "as large as the frame, not as the template";
     BOOL horizontal = FALSE, vertical = FALSE;
     view.CheckScrollBars(horizontal, vertical);
     EXPECT_FALSE(vertical);
@@ -165,8 +162,7 @@ TEST(AfxFormView, KeepsItsFocusAndLeavesKeysToTheFrameFirst) {
 }
 
 // A bar whose controls are updated like items of a menu.
-class choice_frame : public view_frame {
-public:
+struct choice_frame : view_frame {
     int chosen = ID_TEST_ON;
     afx_msg void OnChoose(UINT id) { chosen = static_cast<int>(id); }
     afx_msg void OnUpdateChoice(CCmdUI* ui) {
@@ -262,8 +258,7 @@ public:
 };
 IMPLEMENT_DYNCREATE(searched_view, CEditView)
 
-class AfxEditView : public testing::Test {
-protected:
+struct AfxEditView : testing::Test {
     AfxEditView() { frame.InitialUpdateFrame(nullptr, FALSE); }
 
     view_frame frame;
@@ -313,8 +308,7 @@ TEST_F(AfxEditView, SearchesAndReplacesByItsBox) {
 }
 
 // Panes that the user divides.
-class AfxDynamicSplitter : public testing::Test {
-protected:
+struct AfxDynamicSplitter : testing::Test {
     AfxDynamicSplitter() {
         EXPECT_TRUE(frame.open([](view_frame& at, CCreateContext& context) {
             return at.splitter.Create(&at, 2, 2, CSize(20, 20), &context);
@@ -436,14 +430,10 @@ TEST(AfxSplitter, HoldsPanesOfItsOwnAndSplittersAgain) {
     CRect rect = on_screen(frame.inner);
     frame.splitter.ScreenToClient(&rect);
     EXPECT_EQ(rect.left, 157);
-    CDC memory;
-    CBitmap picture;
-    memory.CreateCompatibleDC(nullptr);
-    picture.CreateBitmap(200, 10, 1, 32, nullptr);
-    CBitmap* before = memory.SelectObject(&picture);
+    canvas memory(200, 10);
+    memory.PatBlt(0, 0, 200, 10, BLACKNESS);
     frame.splitter.OnDraw(&memory);
     EXPECT_NE(memory.GetPixel(155, 0), RGB(0, 0, 0)) << "a gap's end is not painted";
-    memory.SelectObject(before);
 }
 
 } // namespace

@@ -144,8 +144,7 @@ TEST(AfxHandles, ObjectsHoldOneUntilItIsTakenFromThem) {
     ::DestroyWindow(other);
 }
 
-class thrower : public CWnd {
-public:
+struct thrower : CWnd {
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
         if (message == m_message)
             m_throw();

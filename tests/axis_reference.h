@@ -20,8 +20,7 @@ struct AxisLook {
 };
 inline constexpr int value_ticks_start = 2, value_labels_start = 8, time_ticks_start = 1, time_labels_start = 10;
 
-class AxisReference {
-public:
+struct AxisReference {
     AxisReference()
         : font_(::CreateFontA(-10, 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, "Arial")),
           shadow_(::CreatePen(PS_SOLID, 1, ::GetSysColor(COLOR_BTNSHADOW))),

@@ -6,8 +6,7 @@
 #include <algorithm>
 #include <cstring>
 
-class MemorySource final : public wnt::BitmapSource {
-public:
+struct MemorySource final : wnt::BitmapSource {
     explicit MemorySource(std::span<const std::uint8_t> bytes) : bytes_(bytes) {}
 
     std::uint32_t read(void* to, std::uint32_t count) override {

@@ -7,8 +7,7 @@
 
 #include <string>
 
-class ButtonReference {
-public:
+struct ButtonReference {
     ButtonReference(int width, int height, const Tcbtn_properties& properties)
         : picture_(width, height), width_(width), height_(height), p_(properties) {
         surface_.targetmode = 1;

@@ -8,8 +8,7 @@ namespace {
 
 constexpr int surface_id = 101;
 
-class ButtonTest : public WidgetTest {
-protected:
+struct ButtonTest : WidgetTest {
     void script(std::initializer_list<const char*> lines) {
         for (const char* line : lines)
             button_.load(line, 0);
@@ -155,18 +154,16 @@ TEST_F(ButtonTest, ScrollBarMovesItsOwnThumb) {
     SCROLLINFO info = {sizeof info, SIF_ALL, 0, 100, 0, 10, 0};
     bar.SetScrollInfo(&info);
     other.SetScrollInfo(&info);
-    const struct {
-        UINT code, pos;
-        int expected;
-    } rows[] = {{SB_LINEDOWN, 0, 11},  {SB_LINEUP, 0, 10},           {SB_TOP, 0, 9},
-                {SB_BOTTOM, 0, 10},    {SB_PAGEDOWN, 0, 10},         {SB_THUMBTRACK, 57, 57},
-                {SB_ENDSCROLL, 3, 57}, {SB_THUMBPOSITION, 900, 100}, {SB_LINEDOWN, 0, 100},
-                {99, 4, 100}};
-    for (const auto& row : rows) {
-        bar.SendMessage(WM_VSCROLL, MAKEWPARAM(row.code, row.pos), reinterpret_cast<LPARAM>(bar.m_hWnd));
-        EXPECT_EQ(bar.GetScrollPos(), row.expected) << row.code;
-        bar.SetThumb(row.code, row.pos, &other); // any bar, by whichever object
-        EXPECT_EQ(other.GetScrollPos(), row.expected) << row.code;
+    const std::tuple<UINT, UINT, int> rows[] = {{SB_LINEDOWN, 0, 11},  {SB_LINEUP, 0, 10},
+                                                {SB_TOP, 0, 9},        {SB_BOTTOM, 0, 10},
+                                                {SB_PAGEDOWN, 0, 10},  {SB_THUMBTRACK, 57, 57},
+                                                {SB_ENDSCROLL, 3, 57}, {SB_THUMBPOSITION, 900, 100},
+                                                {SB_LINEDOWN, 0, 100}, {99, 4, 100}};
+    for (const auto& [code, pos, expected] : rows) {
+        bar.SendMessage(WM_VSCROLL, MAKEWPARAM(code, pos), reinterpret_cast<LPARAM>(bar.m_hWnd));
+        EXPECT_EQ(bar.GetScrollPos(), expected) << code;
+        bar.SetThumb(code, pos, &other); // any bar, by whichever object
+        EXPECT_EQ(other.GetScrollPos(), expected) << code;
     }
     info.nPage = 20;
     bar.SetScrollInfo(&info);

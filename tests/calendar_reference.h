@@ -6,8 +6,7 @@
 #include <chrono>
 #include <string>
 
-class CalendarReference {
-public:
+struct CalendarReference {
     using Days = std::chrono::sys_days;
 
     /// The process must be in a zone without daylight saving, at UTC.

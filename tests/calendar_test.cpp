@@ -12,8 +12,7 @@ using std::chrono::weeks;
 using Days = CalendarReference::Days;
 
 /// Keeps the entries of the menus that open; a number of steps down and Enter choose one.
-class ChoosingCalendar : public CWntCalendar {
-public:
+struct ChoosingCalendar : CWntCalendar {
     std::vector<std::pair<UINT, std::string>> entries;
     int steps = 0;
     bool chosen = false;
@@ -37,8 +36,7 @@ private:
     }
 };
 
-class CalendarTest : public WidgetTest {
-protected:
+struct CalendarTest : WidgetTest {
     static constexpr int width = 300, height = 200;
 
     void SetUp() override {

@@ -10,8 +10,7 @@ constexpr int surface_id = 100;
 constexpr int list_id = 101;
 
 /// The surface of a selector drawn by its rules with plain GDI calls.
-class SelectorReference {
-public:
+struct SelectorReference {
     SelectorReference(CSize surface, CSize panel, const std::vector<DWORD>& palette, bool edged)
         : picture_(surface.cx, surface.cy), panel_(panel), palette_(palette),
           cell_(panel.cx / 8, panel.cy / (static_cast<int>(palette.size()) / 8 + 1)), m_(edged ? cell_.cx / 8 : 0) {
@@ -63,19 +62,14 @@ private:
     int m_;
 };
 
-class ColorSelTest : public WidgetTest {
-protected:
+struct ColorSelTest : WidgetTest {
     void SetUp() override {
         WidgetTest::SetUp();
         open(selector_, 160, 90);
     }
 
     // The pointer at a position of the surface, counted from its upper left, and a click there.
-    void point_at(int x, int y) {
-        CPoint p(x, y);
-        selector_.GetDlgItem(surface_id)->ClientToScreen(&p);
-        ::SetCursorPos(p.x, p.y);
-    }
+    void point_at(int x, int y) { ::point_at(*selector_.GetDlgItem(surface_id), CPoint(x, y)); }
     int pick(int x, int y) {
         point_at(x, y);
         selector_.GetDlgItem(surface_id)->SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(x, y));
@@ -95,8 +89,7 @@ TEST_F(ColorSelTest, ShowsThePaletteAndTellsPicks) {
     EXPECT_EQ(pick(50, 59), 10);
     EXPECT_EQ(pick(155, 85), 15);
     EXPECT_EQ(pick(50, 10), -1); // the strip
-    const auto told = testing::FieldsAre(selector_.m_hWnd, 1u, 1u);
-    EXPECT_THAT(host_.notified, testing::Each(told));
+    EXPECT_THAT(host_.notified, testing::Each(testing::FieldsAre(selector_.m_hWnd, 1u, 1u)));
     selector_.UpdateWindow();
     DWORD greys[16];
     for (DWORD i = 0; i < 16; ++i)
@@ -142,10 +135,7 @@ TEST_F(ColorSelTest, EveryPixelFollowsItsSettings) {
         selector_.SetSelectedColorID(17);
         full_repaint(selector_);
         CWnd* shown = selector_.GetDlgItem(surface_id);
-        CRect place;
-        shown->GetWindowRect(&place);
-        selector_.ScreenToClient(&place);
-        EXPECT_EQ(place, CRect(CPoint(left, 0), surface)) << mode;
+        EXPECT_EQ(place_in(selector_, *shown), CRect(CPoint(left, 0), surface)) << mode;
         SelectorReference expected(surface, panel, colours, edged);
         if (hover && !in_strip)
             expected.hovered(8 + 3);
@@ -164,10 +154,7 @@ TEST_F(ColorSelTest, ItemsTakeThePickedColour) {
     EXPECT_FALSE(selector_.GetDlgItem(list_id)->IsWindowVisible());
     selector_.SetColorItems(names, colours, 2);
     EXPECT_TRUE(selector_.GetDlgItem(list_id)->IsWindowVisible());
-    CRect list;
-    selector_.GetDlgItem(list_id)->GetWindowRect(&list);
-    selector_.ScreenToClient(&list);
-    EXPECT_EQ(list, CRect(80, 0, 160, 90));
+    EXPECT_EQ(place_in(selector_, *selector_.GetDlgItem(list_id)), CRect(80, 0, 160, 90));
 
     LOGFONT font = {};
     ::GetObject(reinterpret_cast<HFONT>(selector_.GetDlgItem(list_id)->SendMessage(WM_GETFONT)), sizeof font, &font);
@@ -205,8 +192,7 @@ TEST_F(ColorSelTest, ItemsTakeThePickedColour) {
 }
 
 TEST_F(ColorSelTest, EveryPaintIsTraced) {
-    class Tracer : public CWntTrace {
-    public:
+    struct Tracer : CWntTrace {
         using CWntTrace::setstream;
     } trace;
     const TemporaryFile file;

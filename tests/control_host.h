@@ -19,15 +19,13 @@
 #include "widget_window.h"
 
 /// Keeps commands and notifications, code first, and answers as it is told to.
-template <class Notify, auto... kept> class AnsweringHost : public AttentiveHost {
-public:
+template <class Notify, auto... kept> struct AnsweringHost : AttentiveHost {
     using Told = decltype(std::tuple(UINT(), std::declval<Notify>().*kept...));
 
     std::vector<Told> told;
     std::vector<UINT> commands;
     std::function<LRESULT(Notify&)> answer = [](Notify&) { return 0; };
 
-protected:
     BOOL OnNotify(WPARAM, LPARAM lParam, LRESULT* result) override {
         auto& n = *reinterpret_cast<Notify*>(lParam);
         told.emplace_back(n.hdr.code, n.*kept...);
@@ -40,8 +38,7 @@ protected:
     }
 };
 
-template <class Host> class ControlTest : public testing::Test {
-protected:
+template <class Host> struct ControlTest : testing::Test {
     void SetUp() override {
         ASSERT_TRUE(host_.CreateEx(WS_EX_TOPMOST, nullptr, "host", WS_POPUP, CRect(50, 50, 650, 450), nullptr, 0));
         host_.ShowWindow(SW_SHOW);
@@ -56,18 +53,6 @@ protected:
     Host host_;
 };
 
-inline CRect on_screen(CWnd& window) {
-    CRect r;
-    window.GetWindowRect(&r);
-    return r;
-}
-
-inline CRect place_in(CWnd& parent, CWnd& window) {
-    CRect r = on_screen(window);
-    parent.ScreenToClient(&r);
-    return r;
-}
-
 /// Where pixels of a colour lie; empty where there are none.
 inline CRect extent(const Pixels& seen, COLORREF colour, const CRect& part) {
     CRect box;
@@ -79,8 +64,7 @@ inline CRect extent(const Pixels& seen, COLORREF colour, const CRect& part) {
 }
 
 /// Settings in a file of its own, which goes with the object.
-class TemporaryProfile {
-public:
+struct TemporaryProfile {
     TemporaryProfile() { std::remove(name_.c_str()); }
     ~TemporaryProfile() { std::remove(name_.c_str()); }
     TemporaryProfile(const TemporaryProfile&) = delete;
@@ -92,8 +76,7 @@ private:
 };
 
 /// The front end's library of scaling, as long as the object lives.
-class MainFrameScale {
-public:
+struct MainFrameScale {
     MainFrameScale() : library_(::LoadLibraryA(path())) {
         EXPECT_TRUE(library_);
         percentage_ = std::bit_cast<int*>(::GetProcAddress(library_, "percentage"));

@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <functional>
 #include <random>
 #include <vector>
@@ -12,19 +11,13 @@
 
 namespace {
 
-class ControlsAtRandom : public WidgetTest {
-protected:
+struct ControlsAtRandom : WidgetTest {
     int some(int most) { return static_cast<int>(random_() % static_cast<unsigned>(most + 1)); }
     int any_size() { return some(3) == 0 ? some(3) : some(2000); }
     double any_share() { return some(4) == 0 ? -1.0 : some(100) / 100.0; }
     void one_of(const std::vector<std::function<void()>>& steps) { steps[some(static_cast<int>(steps.size()) - 1)](); }
     LPARAM any_point() { return MAKELPARAM(some(2100) - 50, some(2100) - 50); }
 
-    static void make(std::unique_ptr<CButton>& button, CWnd& parent, CRect place = {0, 0, 9, 9},
-                     DWORD shown = WS_VISIBLE) {
-        button = std::make_unique<CButton>();
-        button->Create("b", WS_CHILD | shown, place, &parent, 4);
-    }
     void input(CWnd& control) {
         static constexpr UINT mouse[] = {WM_LBUTTONDOWN, WM_MOUSEMOVE, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_RBUTTONDOWN};
         static constexpr UINT keys[] = {VK_LEFT, VK_RIGHT, VK_UP,     VK_DOWN,  VK_HOME,
@@ -43,40 +36,6 @@ protected:
     std::mt19937 random_{11};
 };
 
-TEST_F(ControlsAtRandom, Sash) {
-    CWntSash outer, inner;
-    CWntGauge gauge;
-    std::unique_ptr<CButton> button;
-    open(outer, 300, 200);
-    ASSERT_TRUE(inner.Create(nullptr, "", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 5, 5), &outer, 2));
-    ASSERT_TRUE(gauge.Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 5, 5), &inner, 3));
-    for (int i = 0; i < 1000; ++i) {
-        CWntSash& sash = some(1) ? outer : inner;
-        one_of({
-            [&] { make(button, outer); },
-            [&] { button.reset(); },
-            [&] { outer.SetPanes(some(3) ? &inner : nullptr, button.get()); },
-            [&] { inner.SetPanes(some(3) ? &gauge : nullptr, some(1) ? static_cast<CWnd*>(&outer) : button.get()); },
-            [&] { sash.SetUpright(some(1)); },
-            [&] { sash.SetLiveDrag(some(1)); },
-            [&] { sash.SetPosition(any_size() - 100); },
-            [&] { sash.SetShare(any_share()); },
-            [&] { sash.SetKeptPane(some(3)); },
-            [&] { sash.SetLeastSizes(some(400) - 20, some(400)); },
-            [&] { sash.SetBarSize(some(70)); },
-            [&] { sash.SetFoldPane(some(3)); },
-            [&] { sash.Fold(some(1)); },
-            [&] { resize_or_paint(outer); },
-            [&] { input(sash); },
-            [&] { input(sash); },
-        });
-        CRect client;
-        outer.GetClientRect(&client);
-        ASSERT_GE(outer.GetPosition(), 0);
-        ASSERT_LE(outer.GetPosition(), std::max(client.Width(), client.Height()));
-    }
-}
-
 TEST_F(ControlsAtRandom, Frames) {
     const char* lines[] = {":TITLE=a longer one", ":TITLE=",          ":ALIGN=TOPLEFT",  ":ALIGN=BOTTOMRIGHT",
                            ":ALIGN=CENTERCENTER", ":BORDERHEIGHT=5",  ":BORDERHEIGHT=0", ":BORDERTYPE=3DDOWN",
@@ -93,7 +52,11 @@ TEST_F(ControlsAtRandom, Frames) {
         CWntFrame& frame = some(2) ? folding : plain;
         CWnd& content = &frame == &plain ? plain : *folding.GetContent();
         one_of({
-            [&] { make(child, content, CRect(some(300), some(200), some(400), some(300))); },
+            [&] {
+                child = std::make_unique<CButton>();
+                child->Create("b", WS_CHILD | WS_VISIBLE, CRect(some(300), some(200), some(400), some(300)), &content,
+                              4);
+            },
             [&] { child.reset(); },
             [&] { frame.SetAnchor(child.get(), any_share(), any_share(), any_share(), any_share()); },
             [&] { frame.RemoveAnchor(child.get()); },
@@ -112,70 +75,6 @@ TEST_F(ControlsAtRandom, Frames) {
         const CRect room = frame.GetContentRect();
         ASSERT_TRUE(room.Width() >= 0 && room.Height() >= 0);
     }
-}
-
-TEST_F(ControlsAtRandom, Tabs) {
-    CWntTabs tabs;
-    open(tabs, 300, 200);
-    std::vector<std::unique_ptr<CButton>> pages(12);
-    const char* lines[] = {":TAB=one more", ":TIP=a tip",       ":CLOSE=1",    ":DISABLED=1",    ":SIDE=LEFT",
-                           ":SIDE=TOP",     ":OVERFLOW=SCROLL", ":SIDE=RIGHT", ":OVERFLOW=MENU", ":CLRBACK=RED"};
-    const char* texts[] = {"", "&One", "a much longer text than that", "T&&o", nullptr};
-    host_.on_message = [&](UINT message) {
-        if (message == WM_NOTIFY && some(3) == 0)
-            tabs.RemoveTab(some(20));
-    };
-    for (int i = 0; i < 1000; ++i) {
-        auto& page = pages[some(11)];
-        const int tab = some(25) - 1;
-        const auto insert = [&] { tabs.InsertTab(tab, texts[some(4)], some(1) ? page.get() : nullptr); };
-        one_of({
-            [&] { make(page, tabs, CRect(0, 0, 9, 9), some(1) ? WS_VISIBLE : 0); },
-            [&] { page.reset(); },
-            insert,
-            insert,
-            [&] { tabs.RemoveTab(tab); },
-            [&] { tabs.SetPage(tab, page.get()); },
-            [&] { tabs.Select(tab), tabs.ShowTab(some(20)); },
-            [&] { tabs.MoveTab(tab, some(20)), tabs.SetMovable(some(1)); },
-            [&] {
-                tabs.LoadLine("", some(2) ? 0 : 1);
-                tabs.LoadLine(lines[some(9)], 0);
-                tabs.LoadLine("", 2);
-            },
-            [&] { tabs.EnableTab(tab, some(1)), tabs.SetClosable(some(20), some(1)); },
-            [&] { tabs.SetTabIcon(some(20), some(1) ? ::LoadIconA(nullptr, IDI_WARNING) : nullptr); },
-            [&] {
-                while (some(20) && tabs.GetTabCount() < 200)
-                    tabs.AddTab("many", nullptr);
-            },
-            [&] { resize_or_paint(tabs); },
-            [&] { input(*tabs.GetWindow(GW_CHILD)); },
-            [&] { input(*tabs.GetWindow(GW_CHILD)); },
-        });
-        ASSERT_LT(tabs.GetSelected(), tabs.GetTabCount());
-        for (const auto& each : pages) {
-            const int at = tabs.FindPage(each.get());
-            ASSERT_TRUE(at < 0 || ((each->GetStyle() & WS_VISIBLE) != 0) == (at == tabs.GetSelected()));
-        }
-    }
-}
-
-TEST_F(ControlsAtRandom, TipPage) {
-    CWntTipPage page;
-    open(page, 300, 200);
-    std::ofstream("random_tips.txt") << "one\n\n" << std::string(8'000, 't') << "\n\nthree\n four\n";
-    for (int i = 0; i < 1000; ++i) {
-        one_of({
-            [&] { page.LoadTips(some(3) ? "random_tips.txt" : "no file"); },
-            [&] { page.ShowTip(some(6) - 2); },
-            [&] { page.GetDlgItem(2 + some(2))->SendMessage(BM_CLICK); },
-            [&] { page.EnableWindow(some(1)); },
-            [&] { resize_or_paint(page); },
-        });
-        ASSERT_LT(page.GetTip(), std::max(page.GetTipCount(), 1));
-    }
-    std::remove("random_tips.txt");
 }
 
 TEST_F(ControlsAtRandom, ToolBar) {
@@ -217,8 +116,7 @@ TEST_F(ControlsAtRandom, ToolBar) {
             any_input,
             any_input,
         });
-        CRect client, place;
-        bar.GetClientRect(&client);
+        CRect place;
         for (int k = 0; k < bar.GetItemCount(); ++k) {
             const bool shown = bar.GetItemRect(k, &place);
             ASSERT_EQ(shown, place.Width() > 0 && place.Height() > 0 && place.left >= 0 && place.top >= 0);
@@ -227,35 +125,6 @@ TEST_F(ControlsAtRandom, ToolBar) {
     }
     bar.SetFocus();
     bar.DestroyWindow();
-}
-
-TEST_F(ControlsAtRandom, ToolTip) {
-    CToolTipCtrlEx tips;
-    ASSERT_TRUE(tips.Create(&host_, TTS_ALWAYSTIP));
-    for (int i = 0; i < 1000; ++i) {
-        WntTip tip;
-        for (int words = some(3) == 0 ? some(2000) : some(9); words > 0; --words)
-            tip.text += words % 7 ? "word " : "word\n";
-        tip.title = some(1) ? tip.text.Left(some(60)) : CString();
-        tip.icon = some(1) ? ::LoadIconA(nullptr, IDI_WARNING) : nullptr;
-        tip.colour = some(1) ? RGB(some(255), some(255), some(255)) : CLR_NONE;
-        const auto tool = static_cast<UINT_PTR>(1 + some(5));
-        const auto track = [&] { tips.TrackTip(tip, CPoint(some(3000) - 500, some(3000) - 500)); };
-        one_of({
-            [&] { tips.AddTip(&host_, tip, CRect(some(2000), some(2000), some(2000), some(2000)), tool); },
-            [&] { tips.DelTool(&host_, tool); },
-            [&] { tips.ShowTip(&host_, tool); },
-            [&] { tips.SetTip(&host_, tip, tool), tips.SetMaxTipWidth(some(600) - 100); },
-            [&] { tips.HideTip(); },
-            track,
-            track,
-        });
-        if (!tips.GetShownTip(nullptr))
-            continue;
-        CRect place;
-        tips.GetWindowRect(&place);
-        ASSERT_TRUE(place.left >= 0 && place.top >= 0 && place.Width() > 0 && place.Height() > 0);
-    }
 }
 
 } // namespace

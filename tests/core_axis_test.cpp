@@ -30,14 +30,12 @@ AxisModel axis_of(int position, int length, float minimum = 0, float maximum = 1
 template <class Value>
 Pair pixel_of(std::conditional_t<std::is_same_v<Value, float>, const AxisModel, AxisModel>& axis, Value value) {
     std::int32_t pixel = -12345;
-    const int side = axis.value_to_screen(value, &pixel);
-    return {side, pixel};
+    return {axis.value_to_screen(value, &pixel), pixel};
 }
 
 Pair clamped_pixel(const AxisModel& axis, float value) {
     std::int32_t pixel = -12345;
-    const int inside = axis.calc_pixel_coord(value, &pixel);
-    return {inside, pixel};
+    return {axis.calc_pixel_coord(value, &pixel), pixel};
 }
 
 std::vector<int> fields(const TAxisdatetime& t) {

@@ -94,24 +94,8 @@ TEST(Pixels, PackColoursByDepth) {
     }
 }
 
-TEST(Pixels, WriteTheirBytesOnly) {
-    constexpr int height = 3;
-    for (int bits : {-8, 0, 1, 4, 8, 15, 16, 24, 32})
-        for (int width : {1, 4, 5, 7})
-            for (int i = 0; i < width * height; ++i) {
-                const int size = bits == 8 || bits == 16 || bits == 24 ? bits / 8 : 0;
-                Bytes array(static_cast<std::size_t>(1 + width * height * 4 + 1), untouched);
-                Bytes expected = array;
-                const auto writer = make_pixel_manipulator(bits);
-                writer->Init(array.data() + 1, width, height);
-                writer->SetPixel(i % width, i / width); // black at first
-                std::fill_n(expected.begin() + 1 + i * size, size, 0);
-                ASSERT_EQ(array, expected) << bits << " bits, width " << width << ", pixel " << i;
-            }
-}
-
 TEST(Pixels, HoldAtTheEndsOfTheRange) {
-    for (int bits : {8, 16, 24, 32}) {
+    for (int bits : {-8, 0, 1, 4, 8, 15, 16, 24, 32}) {
         const auto writer = make_pixel_manipulator(bits);
         writer->SetColor(1, 2, 3);
         writer->SetPixel(0, 0); // no array yet
@@ -129,7 +113,7 @@ TEST(Pixels, HoldAtTheEndsOfTheRange) {
         }
         writer->Init(array.data(), 65'536, 1);
         writer->SetPixel(0, 65'536); // wraps around to the first pixel
-        EXPECT_EQ(array[0] != untouched, bits != 32);
+        EXPECT_EQ(array[0] != untouched, bits == 8 || bits == 16 || bits == 24) << bits;
     }
 }
 

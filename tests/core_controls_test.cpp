@@ -70,27 +70,25 @@ TEST(SashModel, PartsFillTheLengthAfterAnyOperations) {
 }
 
 TEST(SashModel, KeepsWhatItIsToldThroughSizes) {
-    const struct {
-        Keeps keeps;
-        int at_105, at_205, at_45;
-    } cases[] = {{Keeps::share, 60, 120, 24}, {Keeps::first, 60, 60, 40}, {Keeps::second, 60, 160, 0}};
-    for (const auto& c : cases) {
+    const std::tuple<Keeps, int, int, int> cases[] = {
+        {Keeps::share, 60, 120, 24}, {Keeps::first, 60, 60, 40}, {Keeps::second, 60, 160, 0}};
+    for (const auto& [keeps, at_105, at_205, at_45] : cases) {
         SashModel sash;
-        sash.set_keeps(c.keeps);
+        sash.set_keeps(keeps);
         sash.set_position(60); // before there is any length
         sash.resize(105);
-        EXPECT_EQ(sash.position(), c.at_105);
+        EXPECT_EQ(sash.position(), at_105);
         sash.resize(205);
-        EXPECT_EQ(sash.position(), c.at_205);
+        EXPECT_EQ(sash.position(), at_205);
         sash.resize(45);
-        EXPECT_EQ(sash.position(), c.at_45);
+        EXPECT_EQ(sash.position(), at_45);
         sash.resize(105);
-        EXPECT_EQ(sash.position(), c.at_105) << "it grows again";
+        EXPECT_EQ(sash.position(), at_105) << "it grows again";
         sash.fold(2);
         EXPECT_EQ(sash.position(), 100);
         sash.resize(205);
         sash.fold(0);
-        EXPECT_EQ(sash.position(), c.at_205) << "it unfolds";
+        EXPECT_EQ(sash.position(), at_205) << "it unfolds";
     }
     SashModel sash;
     sash.set_least(30, 90);

@@ -100,14 +100,12 @@ TEST(GaugeModel, ViewSwitchAndScrollBarStayInBounds) {
 }
 
 TEST(GaugeScale, ConvertsInEveryRange) {
-    const struct {
-        int minimum, maximum, value;
-        double fraction;
-    } cases[] = {{0, 100, 25, 0.25}, {100, 0, 25, 0.75},         {7, 7, 7, 0},
-                 {0, 100, -5, 0},    {100, 0, 500, 0},           {-3, 0, -1, 2.0 / 3},
-                 {0, 100, 500, 1},   {INT_MIN, INT_MAX, 0, 0.5}, {INT_MIN, INT_MAX, INT_MAX, 1}};
-    for (const auto& c : cases)
-        EXPECT_NEAR(scale_fraction(c.minimum, c.maximum, c.value), c.fraction, 1e-9) << c.minimum << ' ' << c.value;
+    const std::tuple<int, int, int, double> cases[] = {
+        {0, 100, 25, 0.25}, {100, 0, 25, 0.75},         {7, 7, 7, 0},
+        {0, 100, -5, 0},    {100, 0, 500, 0},           {-3, 0, -1, 2.0 / 3},
+        {0, 100, 500, 1},   {INT_MIN, INT_MAX, 0, 0.5}, {INT_MIN, INT_MAX, INT_MAX, 1}};
+    for (const auto& [minimum, maximum, value, fraction] : cases)
+        EXPECT_NEAR(scale_fraction(minimum, maximum, value), fraction, 1e-9) << minimum << ' ' << value;
     EXPECT_EQ(division_value(0, 100, 20, 3), 15);
     EXPECT_EQ(division_value(100, 0, 3, 1), 67);
     EXPECT_EQ(division_value(INT_MAX, INT_MIN, 999, 999), INT_MIN);

@@ -42,9 +42,7 @@ TEST(Geometry, AngleOfAVector) {
 }
 
 TEST(Geometry, Intersections) {
-    const struct {
-        Point from, to, other_from, other_to, at;
-    } cases[] = {
+    const Point cases[][5] = {
         {{0, 0}, {10, 10}, {0, 10}, {10, 0}, {5, 5}},
         {{0, 0}, {10, 0}, {20, -5}, {20, 5}, {10, 0}},              // clamped to the segment's end
         {{0, 0}, {10, 0}, {4, 0}, {14, 0}, {7, 0}},                 // collinear
@@ -60,14 +58,12 @@ TEST(Geometry, Intersections) {
 
 TEST(Geometry, ClippedLines) {
     const Rect r = {0, 100, 100, 0};
-    const struct {
-        int x1, y1, x2, y2, inside;
-        Point from, to;
-    } cases[] = {{10, 20, 30, 40, 1, {10, 20}, {30, 40}},
-                 {50, -50, 50, 150, 1, {50, 0}, {50, 100}},
-                 {-50, -50, 200, 200, 1, {0, 0}, {100, 100}},
-                 {-60, 50, 50, 160, 0, {0, 110}, {}}, // past the corner
-                 {10, 101, 90, 101, 0, {}, {}}};
+    const std::tuple<int, int, int, int, int, Point, Point> cases[] = {
+        {10, 20, 30, 40, 1, {10, 20}, {30, 40}},
+        {50, -50, 50, 150, 1, {50, 0}, {50, 100}},
+        {-50, -50, 200, 200, 1, {0, 0}, {100, 100}},
+        {-60, 50, 50, 160, 0, {0, 110}, {}}, // past the corner
+        {10, 101, 90, 101, 0, {}, {}}};
     for (const auto& [x1, y1, x2, y2, inside, from, to] : cases) {
         Point out[2] = {};
         EXPECT_EQ(points_clipline(out, &r, x1, y1, x2, y2), inside) << x1 << ' ' << y1;

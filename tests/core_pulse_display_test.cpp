@@ -175,32 +175,30 @@ TEST(PulseDecimation, TimeGrowsWithColumnsNotWithSamples) {
 
 // The line's rows by the definition: of each step along the longer way the nearest pixel, halves upwards.
 TEST(CurveRaster, LinesTakeTheNearestPixelAndBothEnds) {
-    const struct {
-        int x1, y1, x2, y2;
-    } lines[] = {{0, 0, 9, 0},  {0, 3, 9, 7},   {2, 19, 5, 0}, {0, 0, 19, 19},
-                 {3, 4, 4, 18}, {1, 12, 18, 9}, {7, 5, 7, 15}};
-    for (const auto& line : lines) {
+    const int lines[][4] = {{0, 0, 9, 0},  {0, 3, 9, 7},   {2, 19, 5, 0}, {0, 0, 19, 19},
+                            {3, 4, 4, 18}, {1, 12, 18, 9}, {7, 5, 7, 15}};
+    for (const auto& [x1, y1, x2, y2] : lines) {
         Pixels pixels(400);
         {
             CurveRaster raster({pixels.data(), 20, 20, 20}, {0, 0, 20, 20}, 100, {0, 20, 20}, {.colour = 1});
-            const double from = 20 - line.y1, to = 20 - line.y2;
-            raster.run({100 + line.x1, 1, from, from, from, from, false});
-            raster.run({100 + line.x2, 1, to, to, to, to, true});
+            const double from = 20 - y1, to = 20 - y2;
+            raster.run({100 + x1, 1, from, from, from, from, false});
+            raster.run({100 + x2, 1, to, to, to, to, true});
         }
         int painted = 0;
-        const int dx = line.x2 - line.x1, dy = std::abs(line.y2 - line.y1), steps = std::max(dx, dy);
+        const int dx = x2 - x1, dy = std::abs(y2 - y1), steps = std::max(dx, dy);
         for (int y = 0; y < 20; ++y)
             for (int x = 0; x < 20; ++x) {
                 if (!pixels[y * 20 + x])
                     continue;
                 ++painted;
-                const double along = dx >= dy ? x - line.x1 : std::abs(y - line.y1);
-                const double off = dx >= dy ? line.y1 + (line.y2 - line.y1) * along / std::max(steps, 1) - y
-                                            : line.x1 + dx * along / steps - x;
+                const double along = dx >= dy ? x - x1 : std::abs(y - y1);
+                const double off =
+                    dx >= dy ? y1 + (y2 - y1) * along / std::max(steps, 1) - y : x1 + dx * along / steps - x;
                 EXPECT_LE(std::abs(off), 0.5) << x << ' ' << y;
             }
         EXPECT_EQ(painted, steps + 1);
-        EXPECT_TRUE(pixels[line.y1 * 20 + line.x1] && pixels[line.y2 * 20 + line.x2]);
+        EXPECT_TRUE(pixels[y1 * 20 + x1] && pixels[y2 * 20 + x2]);
     }
 }
 

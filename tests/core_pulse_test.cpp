@@ -1,6 +1,5 @@
 #include "own_folder.h"
 #include "pulse/wnt_pulse_file.h"
-#include "time/local_time.h"
 
 #include <fstream>
 #include <iterator>
@@ -68,22 +67,19 @@ TEST_F(PulseFile, ReadsWithAProtocol) {
 
 TEST_F(PulseFile, BoundsEveryHeader) {
     const std::string word(24, 'w');
-    const struct {
-        std::string text;
-        int error, count;
-        std::string title;
-    } cases[] = {{"", 6, 0, ""},
-                 {"99999999999\n", 6, 0, ""},
-                 {"-1\nA ;\n", 7, 0, ""},
-                 {"1\n", 6, 1, ""},
-                 {"10\nA ;\nB ;\nC ;\nD ;\nE ;\nF ;\nG ;\nH ;\nI ;\nJ ;\n", 0, 10, "A "},
-                 {"11\nA ;\nB ;\nC ;\nD ;\nE ;\nF ;\nG ;\nH ;\nI ;\nJ ;\nK ;\n", 7, 0, ""},
-                 {"1\nFlow left", 6, 1, "Flow left "},
-                 {"1 Flow\n;", 0, 1, "Flow "},
-                 {"1\n" + word + " ;\n", 0, 1, word},
-                 {"1\n" + word + "xyz ;\n", 0, 1, word},                                   // no blank fits
-                 {"1\n" + word.substr(4) + " a b c d ;\n", 0, 1, word.substr(4) + " a b"}, // more words than fit
-                 {"1\n" + std::string(100'000, 'w') + " ;\n", 0, 1, word}};
+    const std::tuple<std::string, int, int, std::string> cases[] = {
+        {"", 6, 0, ""},
+        {"99999999999\n", 6, 0, ""},
+        {"-1\nA ;\n", 7, 0, ""},
+        {"1\n", 6, 1, ""},
+        {"10\nA ;\nB ;\nC ;\nD ;\nE ;\nF ;\nG ;\nH ;\nI ;\nJ ;\n", 0, 10, "A "},
+        {"11\nA ;\nB ;\nC ;\nD ;\nE ;\nF ;\nG ;\nH ;\nI ;\nJ ;\nK ;\n", 7, 0, ""},
+        {"1\nFlow left", 6, 1, "Flow left "},
+        {"1 Flow\n;", 0, 1, "Flow "},
+        {"1\n" + word + " ;\n", 0, 1, word},
+        {"1\n" + word + "xyz ;\n", 0, 1, word},                                   // no blank fits
+        {"1\n" + word.substr(4) + " a b c d ;\n", 0, 1, word.substr(4) + " a b"}, // more words than fit
+        {"1\n" + std::string(100'000, 'w') + " ;\n", 0, 1, word}};
     for (const auto& [text, error, count, title] : cases) {
         write_text("a.txt", text);
         const CWntPulseFile file(CWntPulseFile::read, "a.txt");
@@ -145,29 +141,6 @@ TEST_F(PulseFile, KeepsTheFirstError) {
         EXPECT_NE(full.Put(1, 1, 1), 0);
     EXPECT_EQ(full.GetError(), 0);
 #endif
-}
-
-// A sample put while daylight saving was in effect comes back as standard time.
-TEST_F(PulseFile, ComesBackInEveryZone) {
-    // Shares of the year with daylight saving, in percent.
-    const std::pair<const char*, int> shares[] = {
-        {"UTC0", 0}, {"CET-1CEST,M3.5.0,M10.5.0/3", 59}, {"EST5EDT,M3.2.0,M11.1.0", 65}, {"NST3:30", 0}};
-    for (const auto& [zone, share] : shares) {
-        set_zone(zone);
-        CWntPulseFile written(CWntPulseFile::write, "a.txt");
-        CWntPulseFile file(CWntPulseFile::read, "a.txt");
-        int saving = 0;
-        for (int i = 0; i < 1200; ++i) {
-            const std::int64_t time = 1'767'225'600 + 1800 + std::int64_t{i} * 365 * 72; // through 2026
-            const bool saves = local_fields(time)->tm_isdst > 0;
-            saving += saves;
-            written.Put(1, 1, time);
-            std::int64_t back = 0;
-            ASSERT_EQ(file.Get(nullptr, nullptr, &back), 0);
-            ASSERT_EQ(back, time + (saves ? 3600 : 0)) << zone;
-        }
-        EXPECT_NEAR(saving / 12., share, 7) << zone;
-    }
 }
 
 } // namespace

@@ -77,20 +77,16 @@ TEST(TabsModel, SelectionStaysWithItsTabAndGoesToTheNearestEnabledOne) {
 }
 
 TEST(TabsModel, AccessKeysGoRoundThoseThatAreEnabled) {
-    const struct {
-        const char* text;
-        const char* plain;
-        char key;
-    } cases[] = {{"&File", "File", 'f'},
-                 {"Save && &Quit", "Save & Quit", 'q'},
-                 {"R&&D", "R&D", 0},
-                 {"end&", "end", 0},
-                 {"", "", 0},
-                 {"&1 &2", "1 2", '1'}};
-    for (const auto& c : cases) {
+    const std::tuple<const char*, const char*, char> cases[] = {{"&File", "File", 'f'},
+                                                                {"Save && &Quit", "Save & Quit", 'q'},
+                                                                {"R&&D", "R&D", 0},
+                                                                {"end&", "end", 0},
+                                                                {"", "", 0},
+                                                                {"&1 &2", "1 2", '1'}};
+    for (const auto& [text, plain, key] : cases) {
         int mark = 7;
-        EXPECT_EQ(plain_text(c.text, mark), c.plain);
-        EXPECT_EQ(access_key(c.text), c.key) << c.text;
+        EXPECT_EQ(plain_text(text, mark), plain);
+        EXPECT_EQ(access_key(text), key) << text;
     }
     TabsModel m;
     for (const char* text : {"&One", "&other", "&Off", "&Two"})

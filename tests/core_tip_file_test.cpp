@@ -11,11 +11,7 @@ using testing::ElementsAre;
 namespace {
 
 TEST(TipFile, ParagraphsAreTips) {
-    const struct {
-        const char* what;
-        std::string bytes;
-        std::vector<std::string> tips;
-    } cases[] = {
+    const std::tuple<const char*, std::string, std::vector<std::string>> cases[] = {
         {"nothing", "", {}},
         {"only blanks and comments", "\n \t\r\n; one\r\n;\n\n", {}},
         {"one without a line end", "one", {"one"}},
@@ -27,15 +23,12 @@ TEST(TipFile, ParagraphsAreTips) {
         {"blanks at the ends go", "  one \t \n \n\n\n two\v", {"one", "two"}},
         {"what is no character", std::string("o\0e\x01\x1A\x7Ft\n\0\ntwo", 13), {"o e   t", "two"}},
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(parse_tip_file(c.bytes).tips, c.tips) << c.what;
+    for (const auto& [what, bytes, tips] : cases)
+        EXPECT_EQ(parse_tip_file(bytes).tips, tips) << what;
 }
 
 TEST(TipFile, TellsUtf8FromTheCodePage) {
-    const struct {
-        const char* bytes;
-        bool utf8;
-    } cases[] = {
+    const std::pair<const char*, bool> cases[] = {
         {"plain", true},
         {"20 \xC2\xB0\x43 \xE2\x82\xAC \xF0\x9F\x92\xA1", true},
         {"20 \xB0\x43", false},
@@ -51,8 +44,8 @@ TEST(TipFile, TellsUtf8FromTheCodePage) {
         {"\x80", false},             //
         {"\xEF\xBB\xBF\xB0", true},  // says so
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(parse_tip_file(c.bytes).utf8, c.utf8) << c.bytes;
+    for (const auto& [bytes, utf8] : cases)
+        EXPECT_EQ(parse_tip_file(bytes).utf8, utf8) << bytes;
     EXPECT_THAT(parse_tip_file("\xEF\xBB\xBFone").tips, ElementsAre("one"));
     EXPECT_TRUE(is_utf8("\xE2\x82", true) && !is_utf8("\xE2\x41", true));
 }

@@ -1,5 +1,4 @@
 #include "controls/tip_layout.h"
-#include "test_random.h"
 
 #include <gtest/gtest.h>
 
@@ -28,10 +27,7 @@ TipLayout laid_out(std::string_view title, std::string_view text, int widest = 2
 }
 
 TEST(TipLayout, BreaksLinesWhereTheyWouldBeTooWide) {
-    const struct {
-        std::string_view title, text, lines;
-        int widest;
-    } cases[] = {
+    const std::tuple<std::string_view, std::string_view, std::string_view, int> cases[] = {
         {"", "one two", "one two|", 200},
         {"", "one two", "one|two|", 12 + 6 * 6},   // room for six letters
         {"", "one two", "one two|", 12 + 7 * 6},   // for exactly all
@@ -43,8 +39,8 @@ TEST(TipLayout, BreaksLinesWhereTheyWouldBeTooWide) {
         {"", "letters", "le|tt|er|s|", -5}, // never narrower than a letter or two
         {"", "", "", 200},
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(lines_of(laid_out(c.title, c.text, c.widest)), c.lines) << c.text;
+    for (const auto& [title, text, lines, widest] : cases)
+        EXPECT_EQ(lines_of(laid_out(title, text, widest)), lines) << text;
 }
 
 TEST(TipLayout, EndsWhatIsTooLongWithDots) {
@@ -78,30 +74,6 @@ TEST(TipLayout, PartsStandBesideEachOther) {
     EXPECT_TRUE(tip.lines[0].x == 12 && tip.width == 48 && tip.height == 26);
     tip = lay_out_tip({"", "", 16, 16}, fonts, 300, 100);
     EXPECT_TRUE(tip.width == 28 && tip.height == 24 && tip.lines.empty());
-}
-
-TEST(TipLayout, NothingLiesOutsideOrOverAnother) {
-    Random random(3);
-    const auto some = [&](int most) { return random.upto(most); };
-    for (int run = 0; run < 500; ++run) {
-        std::string title, text;
-        for (int i = some(40); i > 0; --i)
-            title += " ax\n\r\t"[some(5)];
-        for (int i = some(400); i > 0; --i)
-            text += " axyz\n"[some(5)];
-        EvenFonts fonts;
-        const int icon = some(1) * some(64), widest = some(400), scale = some(400);
-        const TipLayout tip = lay_out_tip({title, text, icon, icon, some(1) == 1}, fonts, widest, scale);
-        int below = 0;
-        for (const TipLine& line : tip.lines) {
-            ASSERT_GE(line.y, below);
-            below = line.y + fonts.row();
-            ASSERT_GE(line.x, tip.icon.right);
-            ASSERT_LE(line.x + fonts.width(line.text, line.bold), tip.width);
-            ASSERT_LE(below, tip.height);
-        }
-        ASSERT_TRUE(tip.sample.right <= tip.width && tip.sample.bottom <= tip.height && tip.icon.bottom <= tip.height);
-    }
 }
 
 TEST(TipLayout, StaysOnTheScreenBesideWhatItExplains) {

@@ -115,24 +115,20 @@ TEST(ToolLayout, PartsAreAsLargeAsTheyNeed) {
     ToolContent split_one = pictured, label_one = text_only;
     split_one.kind = split;
     label_one.kind = label;
-    const struct {
-        ToolText text;
-        ToolContent content;
-        int width, height;
-    } sizes[] = {{ToolText::none, pictured, 24, 24},
-                 {ToolText::none, text_only, 38, 24},
-                 {ToolText::none, split_one, 36, 24},
-                 {ToolText::beside, pictured, 58, 24},
-                 {ToolText::beside, bare, 24, 24},
-                 {ToolText::beside, split_one, 70, 24},
-                 {ToolText::below, pictured, 38, 42},
-                 {ToolText::below, text_only, 38, 42},
-                 {ToolText::below, bare, 24, 24},
-                 {ToolText::none, label_one, 38, 24},
-                 {ToolText::none, {window, false, 0, 50, 9}, 50, 9}};
-    for (const auto& s : sizes) {
-        look.text = s.text;
-        EXPECT_EQ(tool_size(s.content, look), (ToolSize{s.width, s.height})) << int(s.text) << s.width;
+    const std::tuple<ToolText, ToolContent, int, int> sizes[] = {{ToolText::none, pictured, 24, 24},
+                                                                 {ToolText::none, text_only, 38, 24},
+                                                                 {ToolText::none, split_one, 36, 24},
+                                                                 {ToolText::beside, pictured, 58, 24},
+                                                                 {ToolText::beside, bare, 24, 24},
+                                                                 {ToolText::beside, split_one, 70, 24},
+                                                                 {ToolText::below, pictured, 38, 42},
+                                                                 {ToolText::below, text_only, 38, 42},
+                                                                 {ToolText::below, bare, 24, 24},
+                                                                 {ToolText::none, label_one, 38, 24},
+                                                                 {ToolText::none, {window, false, 0, 50, 9}, 50, 9}};
+    for (const auto& [text, content, width, height] : sizes) {
+        look.text = text;
+        EXPECT_EQ(tool_size(content, look), (ToolSize{width, height})) << int(text) << width;
     }
     look.text = ToolText::below; // all texts stand on one line
     const PixelRect place = {100, 0, 150, 42};
@@ -265,14 +261,13 @@ TEST(ToolPicture, StripsAreTakenApartAndGreyed) {
 }
 
 TEST(ToolPicture, TheNearestSizeIsShown) {
-    const struct {
-        int small_size, large_size, wanted, which, factor;
-    } cases[] = {{16, 32, 16, 0, 1}, {16, 32, 20, 0, 1}, {16, 32, 24, 1, 1}, {16, 32, 32, 1, 1}, {16, 24, 32, 0, 2},
-                 {16, 0, 48, 0, 3},  {0, 24, 16, 1, 1},  {32, 16, 16, 1, 1}, {16, 32, 64, 1, 2}, {16, 0, 8, 0, 1}};
-    for (const auto& c : cases) {
-        const PictureChoice choice = choose_picture(c.small_size, c.large_size, c.wanted);
-        EXPECT_TRUE(choice.which == c.which && choice.factor == c.factor) << c.small_size << ' ' << c.wanted;
-        EXPECT_EQ(choice.size, (c.which ? c.large_size : c.small_size) * c.factor);
+    const int cases[][5] = {{16, 32, 16, 0, 1}, {16, 32, 20, 0, 1}, {16, 32, 24, 1, 1}, {16, 32, 32, 1, 1},
+                            {16, 24, 32, 0, 2}, {16, 0, 48, 0, 3},  {0, 24, 16, 1, 1},  {32, 16, 16, 1, 1},
+                            {16, 32, 64, 1, 2}, {16, 0, 8, 0, 1}};
+    for (const auto& [small_size, large_size, wanted, which, factor] : cases) {
+        const PictureChoice choice = choose_picture(small_size, large_size, wanted);
+        EXPECT_TRUE(choice.which == which && choice.factor == factor) << small_size << ' ' << wanted;
+        EXPECT_EQ(choice.size, (which ? large_size : small_size) * factor);
     }
     EXPECT_EQ(choose_picture(0, 0, 16).size, 0);
 }

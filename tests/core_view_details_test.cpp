@@ -13,8 +13,7 @@ using namespace wnt;
 namespace {
 
 // What of a scene's shapes is seen, upper row first.
-class Shapes {
-public:
+struct Shapes {
     explicit Shapes(const Scene& scene) {
         ShapeRaster raster;
         raster.begin({pixels_.data(), stage, stage}, {0, 0, stage, stage}, 4);

@@ -24,8 +24,6 @@ Bytes bytes_of(const CWntShMem& block) {
     return Bytes(first, first + block_size);
 }
 
-} // namespace
-
 TEST(SharedMemory, ServesTwoProcesses) {
     CWntShMem block(block_name, block_size);
     ASSERT_NE(block.GetPtr(), nullptr);
@@ -74,8 +72,6 @@ TEST(SharedMemory, IsNullWhereThereIsNoSuchBlock) {
     EXPECT_EQ(long_name.GetPtr(), nullptr);
 }
 
-namespace {
-
 constexpr int picture_width = 60;
 constexpr int picture_height = 40;
 constexpr COLORREF upper_colour = RGB(200, 40, 30);
@@ -94,8 +90,7 @@ Bytes picture_resource() {
 
 int splashes = 0; // that live
 
-class Splash : public CWntSplash {
-public:
+struct Splash : CWntSplash {
     explicit Splash(UINT time = 60'000, UINT bitmap = 1) : CWntSplash(bitmap, time) { ++splashes; }
     ~Splash() override { --splashes; }
 };
@@ -106,8 +101,7 @@ void pump() {
         AfxPumpMessage();
 }
 
-class SplashTest : public testing::Test {
-protected:
+struct SplashTest : testing::Test {
     void SetUp() override {
         ASSERT_TRUE(write_resource_file(file, reinterpret_cast<LPCSTR>(RT_BITMAP), picture_resource()));
         module = ::LoadLibraryExA(file, nullptr, LOAD_LIBRARY_AS_DATAFILE);

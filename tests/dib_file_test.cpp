@@ -97,19 +97,16 @@ TEST(DibFile, IsReadFromWhereAFileStands) {
 TEST(DibFile, TellsWhatFailed) {
     CDibFile dib;
     EXPECT_EQ(dib.Load(nullptr) + dib.Load("no such file.bmp") + dib.GetLastError(), 0);
-    const struct {
-        std::size_t at;
-        std::uint8_t value;
-        int code;
-    } cases[] = {{0, 'X', 4}, {14, 108, 6}, {30, 1, 6}, {30, 3, 6}, {21, 0x80, 9}, {18, 0, 9}, {28, 7, 9}};
+    const std::tuple<std::size_t, std::uint8_t, int> cases[] = {{0, 'X', 4},   {14, 108, 6}, {30, 1, 6}, {30, 3, 6},
+                                                                {21, 0x80, 9}, {18, 0, 9},   {28, 7, 9}};
     const TemporaryFile disk;
-    for (const auto& c : cases) {
+    for (const auto& [at, value, code] : cases) {
         Bytes bytes = BitmapFile{8, 4, 4}.bytes();
-        bytes[c.at] = c.value;
+        bytes[at] = value;
         disk.write(bytes);
         ASSERT_EQ(dib.CreateNewHighColor(2, 2, 0), 1);
         EXPECT_EQ(dib.Load(disk.name()) + dib.IsValid(), 0);
-        EXPECT_EQ(dib.GetLastError(), c.code) << c.at;
+        EXPECT_EQ(dib.GetLastError(), code) << at;
         EXPECT_EQ(dib.GetLastError(), 0);
     }
     const auto fails = [&](int result, int code) { EXPECT_TRUE(result == 0 && dib.GetLastError() == code) << code; };
@@ -226,8 +223,7 @@ constexpr int most_files = 100'000;
 constexpr std::chrono::seconds most_time{60}; // a quarter of it is usual; a slow machine tries fewer random files
 constexpr std::int64_t most_pixels = 1 << 18; // larger ones only take time
 
-class BitmapFaults : public testing::Test {
-protected:
+struct BitmapFaults : testing::Test {
     BitmapFaults() { palette.Create(&other); }
 
     static bool small(std::int64_t width, std::int64_t height) { return width * std::abs(height) <= most_pixels; }

@@ -5,8 +5,7 @@
 
 #include <cmath>
 
-class EvenMeter : public wnt::TextMeter {
-public:
+struct EvenMeter : wnt::TextMeter {
     float width(std::string_view text, int tenths) override {
         return static_cast<float>(text.size()) * static_cast<float>(tenths) * 0.075f;
     }

@@ -2,9 +2,7 @@
 
 namespace {
 
-class FrameExTest
-    : public ControlTest<AnsweringHost<WntFrameNotify, &WntFrameNotify::folded, &WntFrameNotify::height>> {
-protected:
+struct FrameExTest : ControlTest<AnsweringHost<WntFrameNotify, &WntFrameNotify::folded, &WntFrameNotify::height>> {
     void SetUp() override {
         ControlTest::SetUp();
         ASSERT_TRUE(frame_.Create(nullptr, "", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 200, 150), &host_, 1));

@@ -5,8 +5,7 @@ namespace {
 
 constexpr COLORREF dark_blue = RGB(0, 0, 128), yellow = RGB(255, 255, 0), black = 0, white = RGB(255, 255, 255);
 
-class FrameTest : public WidgetTest {
-protected:
+struct FrameTest : WidgetTest {
     void SetUp() override {
         WidgetTest::SetUp();
         open(frame_, 200, 100);
@@ -19,11 +18,7 @@ protected:
         frame_.LoadLine("", 2);
         full_repaint(frame_);
     }
-    CRect extent(COLORREF colour) {
-        CRect client;
-        frame_.GetClientRect(&client);
-        return ::extent(pixels_of(frame_), colour, client);
-    }
+    CRect extent(COLORREF colour) { return ::extent(pixels_of(frame_), colour, CRect(CPoint(0, 0), size_of(frame_))); }
     CRect place(CWnd& child) { return place_in(frame_, child); }
 
     CWntFrame frame_;
@@ -55,8 +50,7 @@ TEST_F(FrameTest, BorderAndTitleStandWhereTheScriptSays) {
     }
     script({":TITLE=a title that is much too long for a panel of two hundred"}); // cut, not written over the edge
     EXPECT_TRUE(extent(yellow).left >= 2 && extent(yellow).right <= 198);
-    const std::string_view lines = ":TITLE=\r\n:BORDERTYPE=FLAT\r\n";
-    const TemporaryFile file({lines.begin(), lines.end()});
+    const TemporaryFile file(":TITLE=\r\n:BORDERTYPE=FLAT\r\n");
     EXPECT_EQ(frame_.LoadFromFile(file.name()), 1);
     EXPECT_TRUE(extent(yellow).IsRectEmpty());
     EXPECT_EQ(frame_.LoadFromFile("no such file") + frame_.LoadFromFile(nullptr), 0);

@@ -8,8 +8,7 @@ namespace {
 
 constexpr int surface_id = 100;
 constexpr const char* types[6] = {"PERCENTBAR", "THERMOMETER", "ANALOG", "DIGITAL", "PEAKLINE", "TURNKNOB"};
-class GaugeTest : public WidgetTest {
-protected:
+struct GaugeTest : WidgetTest {
     void open_with(int width, int height, std::initializer_list<std::string> lines) {
         gauge_.DestroyWindow();
         open(gauge_, width, height);
@@ -101,19 +100,13 @@ TEST_F(GaugeTest, ColourLinesArePaintedAsColourValues) {
     EXPECT_EQ(p.at(50, 1), RGB(7, 0, 0));  // top: sun
     EXPECT_EQ(p.at(4, 4), RGB(9, 0, 0));   // background
     gauge_.SetCurVal(0);
-    const Pixels low = pixels_of(gauge_);
-    EXPECT_NE(low.at(33, 67), p.at(33, 67)); // the least value's needle points down to the left
+    EXPECT_NE(pixels_of(gauge_).at(33, 67), p.at(33, 67)); // the least value's needle points down to the left
 }
 
 TEST_F(GaugeTest, TestModeGivesRoomToBarAndButton) {
     open_with(120, 120, {":DEMO=X", ":MINVAL=5", ":MAXVAL=70000", ":CURVAL=40"});
     gauge_.SetWindowPos(nullptr, 0, 0, 130, 120, SWP_NOMOVE | SWP_NOZORDER);
-    const auto place = [&](int id) {
-        CRect r;
-        gauge_.GetDlgItem(id)->GetWindowRect(&r);
-        gauge_.ScreenToClient(&r);
-        return r;
-    };
+    const auto place = [&](int id) { return place_in(gauge_, *gauge_.GetDlgItem(id)); };
     EXPECT_EQ(place(100), CRect(0, 0, 130, 110));
     EXPECT_EQ(place(103), CRect(0, 110, 120, 120));
     EXPECT_EQ(place(104), CRect(120, 110, 130, 120));

@@ -118,8 +118,7 @@ std::vector<Kind> all_kinds() {
     return kinds;
 }
 
-class HandlesTest : public WidgetTest {
-protected:
+struct HandlesTest : WidgetTest {
     std::unique_ptr<CWnd> opened(const Kind& kind) {
         auto widget = kind.make();
         EXPECT_TRUE(widget->Create(nullptr, "Widget", WS_CHILD | WS_VISIBLE, CRect(0, 0, 60, 60), &host_, 1));
@@ -150,23 +149,17 @@ TEST_F(HandlesTest, TheCountsSeeALeak) {
         window->DestroyWindow();
 }
 
-TEST_F(HandlesTest, LivesGiveEverythingBack) {
+TEST_F(HandlesTest, LivesAndRepaintsGiveEverythingBack) {
     for (const Kind& kind : all_kinds()) {
-        opened(kind); // what is made once
+        const auto widget = opened(kind); // with what is made once
         const Counts before;
         for (int i = 0; i < 300 / kind.looks + 1; ++i)
             opened(kind);
-        EXPECT_LT(before.grown(), tolerance) << kind.name;
-    }
-}
-
-TEST_F(HandlesTest, RepaintsGiveEverythingBack) {
-    for (const Kind& kind : all_kinds()) {
-        const auto widget = opened(kind);
-        const Counts before;
+        EXPECT_LT(before.grown(), tolerance) << "lives of " << kind.name;
+        const Counts between;
         for (int i = 0; i < 1000 / kind.looks + 1; ++i)
             full_repaint(*widget);
-        EXPECT_LT(before.grown(), tolerance) << kind.name;
+        EXPECT_LT(between.grown(), tolerance) << "repaints of " << kind.name;
     }
 }
 

@@ -6,8 +6,7 @@
 #include <algorithm>
 #include <initializer_list>
 
-class HeldKeys {
-public:
+struct HeldKeys {
     explicit HeldKeys(std::initializer_list<int> keys) {
         ::GetKeyboardState(before_);
         BYTE now[256];

@@ -9,8 +9,7 @@
 #include "thread_window.h"
 
 /// Calls the function again and again while messages are dispatched, until it answers true.
-class WhileModal {
-public:
+struct WhileModal {
     explicit WhileModal(std::function<bool()> work) {
         work_ = std::move(work);
         timer_ = ::SetTimer(nullptr, 0, 20, &WhileModal::tick);

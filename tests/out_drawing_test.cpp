@@ -40,11 +40,7 @@ void draw_everything(CWntOut* o, int a, int b) {
 } // namespace
 
 TEST_F(SurfaceTest, LinesAndBoxesCoverTheirPixels) {
-    const struct {
-        const char* name;
-        Draw draw;
-        const char* expected;
-    } cases[] = {
+    const std::tuple<const char*, Draw, const char*> cases[] = {
         {"a point", [](CWntOut& o) { o.line(0, 0, 0, 0); }, "......\n......\n......\nL.....\n"},
         {"both ends", [](CWntOut& o) { o.line(4, 3, 1, 0); }, "....L.\n...L..\n..L...\n.L....\n"},
         {"hline, vline", [](CWntOut& o) { o.hline(4, 0, -3), o.vline(5, 3, -2); }, ".....L\n.....L\n.....L\n.LLLL.\n"},
@@ -70,8 +66,8 @@ TEST_F(SurfaceTest, LinesAndBoxesCoverTheirPixels) {
         {"raised, its last colour left", [](CWntOut& o) { o.drawshadow(1, 0, 4, 3, 1), o.hline(0, 3, 0); },
          "DHHHD.\n.H..D.\n.H..D.\n.DDDD.\n"},
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(drawn(6, 4, c.draw), c.expected) << c.name;
+    for (const auto& [name, draw, expected] : cases)
+        EXPECT_EQ(drawn(6, 4, draw), expected) << name;
 }
 
 TEST_F(SurfaceTest, LinesOfEveryStyleReachBothEnds) {
@@ -149,12 +145,7 @@ TEST_F(SurfaceTest, WideLinesTakeTheFillColour) {
 
 TEST_F(SurfaceTest, RoundFiguresKeepTheirBounds) {
     static POINT centre = {40, 40};
-    const struct {
-        const char* name;
-        Draw draw;
-        CRect ink;
-        COLORREF middle;
-    } cases[] = {
+    const std::tuple<const char*, Draw, CRect, COLORREF> cases[] = {
         {"drawcircle", [](CWntOut& o) { o.drawcircle(40, 40, 20); }, {20, 60, 59, 21}, ground},
         {"fillcircle", [](CWntOut& o) { o.fillcircle(40, 40, 20, 10); }, {20, 50, 60, 31}, green},
         {"whole pie", [](CWntOut& o) { o.pieslice(40, 40, 20, 10, 0, 16384); }, {20, 49, 60, 31}, green},
@@ -162,13 +153,13 @@ TEST_F(SurfaceTest, RoundFiguresKeepTheirBounds) {
         {"circle marker", [](CWntOut& o) { o.drawmarker(40, 40, 6, 2); }, {34, 46, 45, 35}, ground},
         {"two pixels wide", [](CWntOut& o) { o.markers(&centre, 1, 1); }, {34, 46, 46, 35}, ground},
     };
-    for (const auto& c : cases) {
+    for (const auto& [name, draw, ink, middle] : cases) {
         Picture picture(90, 80);
-        paint(picture, c.draw);
-        EXPECT_EQ(CRect(picture.ink(ground)), c.ink) << c.name;
-        EXPECT_EQ(picture.at(37, 42), c.middle) << c.name;
-        EXPECT_EQ(picture.at((c.ink.left + c.ink.right) / 2, c.ink.top), red) << c.name;
-        EXPECT_EQ(picture.at(c.ink.left, c.ink.bottom), ground) << c.name;
+        paint(picture, draw);
+        EXPECT_EQ(CRect(picture.ink(ground)), ink) << name;
+        EXPECT_EQ(picture.at(37, 42), middle) << name;
+        EXPECT_EQ(picture.at((ink.left + ink.right) / 2, ink.top), red) << name;
+        EXPECT_EQ(picture.at(ink.left, ink.bottom), ground) << name;
     }
 }
 

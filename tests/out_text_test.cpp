@@ -10,8 +10,7 @@
 namespace {
 
 /// A font service that lives in this program.
-class FontService : public IZopFontService, public IZopFontCollection, public IClassFactory {
-public:
+struct FontService : IZopFontService, IZopFontCollection, IClassFactory {
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** out) override {
         if (id == IID_IZopFontService)
             *out = static_cast<IZopFontService*>(this);
@@ -52,8 +51,7 @@ public:
 
 } // namespace
 
-class TextTest : public SurfaceTest {
-protected:
+struct TextTest : SurfaceTest {
     template <class Draw> RECT ink(Draw draw) {
         Picture picture(400, 120);
         paint(picture, draw);

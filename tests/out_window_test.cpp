@@ -120,9 +120,7 @@ TEST_F(SurfaceTest, PointerShapesAndPosition) {
     EXPECT_EQ(::GetCursor(), last);
 
     ASSERT_EQ(out.reset(), 1);
-    POINT origin = {};
-    out.ClientToScreen(&origin);
-    ::SetCursorPos(origin.x + 30, origin.y + 20);
+    point_at(out, CPoint(30, 20));
     int position[2];
     out.getmousepos(position);
     EXPECT_THAT(position, testing::ElementsAre(30, 79 - 20));
@@ -143,12 +141,10 @@ TEST_F(SurfaceTest, ClipCoversItsCornersAndSurvivesAReset) {
     Picture picture(40, 30);
     paint(picture, [](CWntOut& o) {
         o.setclip(10, 10, 20, 20);
-        const struct {
-            int x1, y1, x2, y2, visible;
-        } cases[] = {{21, 10, 30, 20, 0}, {20, 20, 30, 30, 1}, {0, 0, 10, 10, 1},
-                     {0, 21, 30, 30, 0},  {0, 0, 30, 9, 0},    {0, 0, 40, 40, 1}};
-        for (const auto& c : cases)
-            EXPECT_EQ(o.testclip(c.x1, c.y1, c.x2, c.y2), c.visible) << c.x1 << ' ' << c.y1;
+        const int cases[][5] = {{21, 10, 30, 20, 0}, {20, 20, 30, 30, 1}, {0, 0, 10, 10, 1},
+                                {0, 21, 30, 30, 0},  {0, 0, 30, 9, 0},    {0, 0, 40, 40, 1}};
+        for (const auto& [x1, y1, x2, y2, visible] : cases)
+            EXPECT_EQ(o.testclip(x1, y1, x2, y2), visible) << x1 << ' ' << y1;
         o.resetclip();
     });
     for (int outmode = 0; outmode < 6; ++outmode) // output that goes elsewhere counts as seen

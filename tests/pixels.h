@@ -10,8 +10,7 @@
 #include <vector>
 
 /// A 32-bit DIB section in a memory device context. Positions are library coordinates: y grows upwards.
-class Picture {
-public:
+struct Picture {
     Picture(int width, int height) : width_(width), height_(height), dc_(::CreateCompatibleDC(nullptr)) {
         BITMAPINFO info = {};
         info.bmiHeader = {sizeof info.bmiHeader, width, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};

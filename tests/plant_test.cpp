@@ -45,31 +45,26 @@ TEST(PlantModel, RestsWithinItsLimitsAndFollowsSetPointsWithInertia) {
 }
 
 TEST(PlantModel, FaultsShowWhereTheyShouldAndPass) {
-    const struct {
-        std::uint32_t fault;
-        double seconds;
-        PlantChannel channel;
-        double least, greatest;
-    } cases[] = {{pump_trips, 20, pump_speed, 0, 20},
-                 {pump_trips, 120, boiler_level, 0, 25},
-                 {tank_leaks, 60, tank_level, 0, 60},
-                 {tank_leaks, 600, feed_flow, 0, 10}, // an empty tank feeds nothing
-                 {burner_fails, 120, furnace_temperature, 0, 150},
-                 {every_fault, 36'000, boiler_pressure, -1, -1}}; // only no number will do
-    for (const auto& c : cases) {
+    const std::tuple<std::uint32_t, double, PlantChannel, double, double> cases[] = {
+        {pump_trips, 20, pump_speed, 0, 20},
+        {pump_trips, 120, boiler_level, 0, 25},
+        {tank_leaks, 60, tank_level, 0, 60},
+        {tank_leaks, 600, feed_flow, 0, 10}, // an empty tank feeds nothing
+        {burner_fails, 120, furnace_temperature, 0, 150},
+        {every_fault, 36'000, boiler_pressure, -1, -1}}; // only no number will do
+    for (const auto& [fault, seconds, channel, least, greatest] : cases) {
         PlantModel plant;
         PlantSetPoints wanted;
-        wanted.faults = c.fault;
-        plant.Step(c.seconds, wanted);
-        const double value = plant.Measure().values[c.channel];
-        EXPECT_TRUE(c.least < 0 ? std::isnan(value) : c.least <= value && value <= c.greatest)
-            << c.fault << ' ' << value;
+        wanted.faults = fault;
+        plant.Step(seconds, wanted);
+        const double value = plant.Measure().values[channel];
+        EXPECT_TRUE(least < 0 ? std::isnan(value) : least <= value && value <= greatest) << fault << ' ' << value;
         wanted.faults = 0;
         plant.Step(3600, wanted);
         PlantReadings after = plant.Measure();
         AlarmBoard alarms;
         alarms.Look(after, usual_limits, bound(after, after));
-        EXPECT_EQ(alarms.Text(), "") << "after fault " << c.fault;
+        EXPECT_EQ(alarms.Text(), "") << "after fault " << fault;
     }
 }
 

@@ -14,8 +14,7 @@ RecordedDay day_of(const CTime& time) {
     return {time.GetYear(), time.GetMonth(), time.GetDay()};
 }
 
-class Host : public CWnd {
-public:
+struct Host : CWnd {
     Host() {
         CreateEx(WS_EX_TOPMOST, AfxRegisterWndClass(0), "Host", WS_POPUP | WS_VISIBLE, CRect(0, 0, 500, 420), nullptr,
                  0);
@@ -39,7 +38,6 @@ public:
     CDayCalendar calendar;
     std::optional<RecordedDay> told;
 
-protected:
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override {
         const auto& header = *reinterpret_cast<const NMHDR*>(lParam);
         if (header.code == DAY_PICKED && header.hwndFrom == calendar.m_hWnd)

@@ -49,8 +49,7 @@ class Quarters : public CWnd {
 
 } // namespace
 
-class PrintTest : public testing::Test {
-protected:
+struct PrintTest : testing::Test {
     void SetUp() override {
         if (!std::getenv("ZOP_PRINTED"))
             GTEST_SKIP() << "NOT PRINTED: run by way of tests/with_printer";

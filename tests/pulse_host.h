@@ -1,47 +1,22 @@
 // A strip chart with two curves in a host that notes what it is told.
 #pragma once
 
-#include <zopwnt.h>
-
-#include <gtest/gtest.h>
-
 #include <cmath>
-#include <functional>
 #include <utility>
-#include <vector>
 
-#include "widget_window.h"
+#include "control_host.h"
 
-class ChartHost : public CWnd {
-public:
-    std::vector<std::pair<UINT, int>> told; // code and which
-    std::function<void(const WntPulseNotify&)> on_notify = [](const WntPulseNotify&) {};
-
-protected:
-    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override {
-        const auto& n = *reinterpret_cast<WntPulseNotify*>(lParam);
-        if (n.hdr.code < WNT_PULSE_VIEW || n.hdr.code > WNT_PULSE_READ)
-            return CWnd::OnNotify(wParam, lParam, result);
-        told.emplace_back(n.hdr.code, n.which);
-        on_notify(n);
-        return TRUE;
-    }
-};
-
-class PulseFixture : public testing::Test {
-protected:
+struct PulseFixture : ControlTest<AnsweringHost<WntPulseNotify, &WntPulseNotify::which>> {
     static constexpr COLORREF red = RGB(250, 0, 0), blue = RGB(0, 0, 250), paper = RGB(255, 255, 255);
 
     void SetUp() override {
-        ASSERT_TRUE(host_.CreateEx(0, nullptr, "host", WS_POPUP, CRect(0, 0, 800, 500), nullptr, 0));
-        host_.ShowWindow(SW_SHOW);
+        ControlTest::SetUp();
         ASSERT_TRUE(chart_.Create(nullptr, "", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 600, 300), &host_, 5));
         chart_.SetTitle("Boiler");
         flow_ = chart_.AddCurve("Flow", red, 0, 100);
         level_ = chart_.AddCurve("Level", blue, 0, 10);
         chart_.SetSpan(6000);
     }
-    void TearDown() override { host_.DestroyWindow(); }
 
     // A minute, ten samples a second, as far as `to`.
     void feed(__int64 from, __int64 to) {
@@ -84,7 +59,6 @@ protected:
     }
     void key(UINT k) { chart_.SendMessage(WM_KEYDOWN, k, 0); }
 
-    ChartHost host_;
     CWntPulse chart_;
     int flow_ = -1, level_ = -1;
 };

@@ -1,9 +1,6 @@
 #include "pulse_host.h"
 
-#include <gmock/gmock.h>
-
 #include "modal.h"
-#include "thread_window.h"
 
 namespace {
 
@@ -87,7 +84,7 @@ TEST_F(Pulse, LooksBackByMouseAndKeysAndReturns) {
     mouse(WM_LBUTTONUP, 300, 150);
     EXPECT_LT(start(), live);
     EXPECT_FALSE(chart_.IsLive());
-    EXPECT_EQ(host_.told.back().first, WNT_PULSE_VIEW);
+    EXPECT_EQ(std::get<0>(host_.told.back()), WNT_PULSE_VIEW);
     const __int64 dragged = start();
     feed(60'000, 61'000);
     EXPECT_EQ(start(), dragged);
@@ -161,11 +158,10 @@ TEST_F(Pulse, ALoneRightAxisHasTheFirstRange) {
 TEST_F(Pulse, TheTimeAxisZoomsToWhatItsSliderCovers) {
     feed(0, 60'000);
     auto& axis = dynamic_cast<CWntAxis&>(*chart_.GetDlgItem(3));
-    CRect size;
-    axis.GetClientRect(&size);
-    const auto drag = [&](int from, int to) { PulseFixture::drag(axis.m_hWnd, from, to, size.bottom - 5); };
+    const CSize size = size_of(axis);
+    const auto drag = [&](int from, int to) { PulseFixture::drag(axis.m_hWnd, from, to, size.cy - 5); };
     double from = -1, to = -1;
-    drag(2, size.right / 2);
+    drag(2, size.cx / 2);
     EXPECT_EQ(axis.GetZoom(&from, &to), 0);
     EXPECT_TRUE(chart_.GetSpan() == 6000 && chart_.IsLive()); // there is no control yet
     chart_.SendMessage(WM_COMMAND, WNT_PULSE_CMD_ZOOM, 0);
@@ -173,14 +169,14 @@ TEST_F(Pulse, TheTimeAxisZoomsToWhatItsSliderCovers) {
     EXPECT_TRUE(from == 0 && to == 1);
     const __int64 live = start();
     host_.told.clear();
-    drag(2, size.right / 2);
+    drag(2, size.cx / 2);
     EXPECT_NEAR(static_cast<double>(chart_.GetSpan()), 3000, 30);
     EXPECT_NEAR(static_cast<double>(start()), static_cast<double>(live + 3000), 30);
-    EXPECT_THAT(host_.told, testing::ElementsAre(std::pair(UINT{WNT_PULSE_VIEW}, 0)));
+    EXPECT_THAT(host_.told, testing::ElementsAre(std::tuple(WNT_PULSE_VIEW, 0)));
     EXPECT_TRUE(axis.GetZoom(&from, &to) == 1 && from == 0 && to == 1); // ready for the next time
-    drag(size.right - 2, size.right / 4);
+    drag(size.cx - 2, size.cx / 4);
     EXPECT_NEAR(static_cast<double>(chart_.GetSpan()), 750, 20);
-    drag(size.right / 2, size.right / 2);
+    drag(size.cx / 2, size.cx / 2);
     EXPECT_EQ(host_.told.size(), 2u); // nothing was zoomed
 }
 
@@ -193,7 +189,7 @@ TEST_F(Pulse, CursorsReadOff) {
     __int64 first = 0, second = 0;
     ASSERT_EQ(chart_.GetCursor(0, &first), 1);
     EXPECT_EQ(chart_.GetCursor(1, &second), 0);
-    EXPECT_EQ(host_.told.back(), std::pair(UINT{WNT_PULSE_CURSOR}, 0));
+    EXPECT_EQ(host_.told.back(), std::tuple(WNT_PULSE_CURSOR, 0));
     mouse(WM_LBUTTONDOWN, 400, 150, MK_LBUTTON | MK_CONTROL);
     mouse(WM_LBUTTONUP, 400, 150, MK_CONTROL);
     ASSERT_EQ(chart_.GetCursor(1, &second), 1);
@@ -222,12 +218,11 @@ TEST_F(Pulse, CursorsReadOff) {
     host_.told.clear();
     chart_.SetCursor(0, start());
     key(VK_LEFT); // the view follows
-    EXPECT_THAT(host_.told, testing::Contains(std::pair(UINT{WNT_PULSE_VIEW}, 0)));
+    EXPECT_THAT(host_.told, testing::Contains(std::tuple(WNT_PULSE_VIEW, 0)));
     host_.told.clear();
     key(VK_ESCAPE);
     EXPECT_EQ(chart_.GetCursor(0, &first) + chart_.GetCursor(1, &first), 0);
-    EXPECT_THAT(host_.told,
-                testing::ElementsAre(std::pair(UINT{WNT_PULSE_CURSOR}, 0), std::pair(UINT{WNT_PULSE_CURSOR}, 1)));
+    EXPECT_THAT(host_.told, testing::ElementsAre(std::tuple(WNT_PULSE_CURSOR, 0), std::tuple(WNT_PULSE_CURSOR, 1)));
     show();
     host_.SetFocus();
     full_repaint(chart_);
@@ -241,8 +236,7 @@ TEST_F(Pulse, TheLegendHidesCurves) {
         EXPECT_EQ(chart_.IsCurveShown(level_), shown);
     }
     chart_.SendMessage(WM_CHAR, '9', 0); // there is no ninth
-    EXPECT_THAT(host_.told,
-                testing::ElementsAre(std::pair(UINT{WNT_PULSE_CURVE}, 1), std::pair(UINT{WNT_PULSE_CURVE}, 1)));
+    EXPECT_THAT(host_.told, testing::ElementsAre(std::tuple(WNT_PULSE_CURVE, 1), std::tuple(WNT_PULSE_CURVE, 1)));
     feed(0, 6000);
     EXPECT_GE(extent(blue).second, 0);
     for (int x = 5; x < 400 && chart_.IsCurveShown(level_); x += 5) // somewhere in the row below the title
@@ -253,7 +247,7 @@ TEST_F(Pulse, TheLegendHidesCurves) {
                 chart_.ShowCurve(flow_, 1);
         }
     EXPECT_FALSE(chart_.IsCurveShown(level_));
-    EXPECT_EQ(host_.told.back(), std::pair(UINT{WNT_PULSE_CURVE}, level_));
+    EXPECT_EQ(host_.told.back(), std::tuple(WNT_PULSE_CURVE, level_));
     show();
     EXPECT_LT(extent(blue).second, 0);
     const long framed = pixels_of(chart_).count(blue); // in the legend, with the ground inside
@@ -294,9 +288,7 @@ TEST_F(Pulse, FitsCurvesThatShareARangeAlike) {
     const double ends[] = {1000, 1599};
     int rows[2], same[2];
     chart_.ValuesToScreen(flow_, ends, 2, rows);
-    CRect client;
-    chart_.GetClientRect(&client);
-    EXPECT_TRUE(0 < rows[1] && rows[1] + 100 < rows[0] && rows[0] < client.bottom);
+    EXPECT_TRUE(0 < rows[1] && rows[1] + 100 < rows[0] && rows[0] < size_of(chart_).cy);
     const int late = chart_.AddCurve("Late", RGB(0, 200, 0), 0, 100);
     chart_.AddSample(late, 1100, 6000);
     show();

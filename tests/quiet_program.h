@@ -10,8 +10,7 @@
 #include <vector>
 
 /// Keeps the texts of message boxes and answers them by itself.
-class QuietProgram : public CWinApp {
-public:
+struct QuietProgram : CWinApp {
     int DoMessageBox(LPCTSTR text, UINT, UINT) override {
         boxes.emplace_back(text);
         return IDOK;

@@ -1,6 +1,7 @@
 // The drawings of the example program: what undo brings back, what a pointer hits, what is drawn, and which files are
 // refused.
 #include "../examples/sketch/drawing.h"
+#include "pixels.h"
 #include "quiet_program.h"
 
 #include <climits>
@@ -74,9 +75,7 @@ TEST(SketchFile, CutOffAnywhereIsRefusedAndChangesNothing) {
 TEST(SketchFile, WithADamagedByteDoesNoHarm) {
     Drawing drawing = with_one_of_each();
     const std::string bytes = stored(drawing);
-    CWindowDC screen(nullptr);
-    CDC memory;
-    memory.CreateCompatibleDC(&screen);
+    const Picture paper(100, 100);
     for (std::size_t at = 0; at < bytes.size(); ++at) {
         for (const int bits : {0x01, 0x80, 0xFF}) {
             std::string damaged = bytes;
@@ -84,7 +83,7 @@ TEST(SketchFile, WithADamagedByteDoesNoHarm) {
             Drawing loaded;
             if (!load(loaded, damaged))
                 continue;
-            Canvas canvas(memory, CSize(100, 100), CPoint(0, 0), 0.05);
+            Canvas canvas(*CDC::FromHandle(paper.dc()), CSize(100, 100), CPoint(0, 0), 0.05);
             loaded.Draw(canvas);
             EXPECT_TRUE(load(loaded, stored(loaded))) << at;
         }
@@ -145,38 +144,26 @@ TEST(SketchHistory, GoesBackAndForthAndKnowsWhatWasSaved) {
 TEST(SketchFigures, AreHitWhereTheyAreDrawn) {
     const Drawing drawing = with_one_of_each();
     const auto& f = drawing.Figures();
-    const struct {
-        CPoint at;
-        FigurePtr hit;
-    } cases[] = {{CPoint(300, 303), f[0]},     {CPoint(300, 320), nullptr},  {CPoint(800, 1200), f[1]},
-                 {CPoint(594, 1200), f[1]},    {CPoint(580, 1200), nullptr}, {CPoint(1200, 200), f[2]},
-                 {CPoint(1010, 290), nullptr}, {CPoint(20, 48), f[3]},       {CPoint(2050, 550), f[4]},
-                 {CPoint(2050, 450), nullptr}};
-    for (const auto& one : cases)
-        EXPECT_EQ(drawing.At(one.at, 4), one.hit) << one.at.x << ", " << one.at.y;
+    const std::pair<CPoint, FigurePtr> cases[] = {{CPoint(300, 303), f[0]},     {CPoint(300, 320), nullptr},
+                                                  {CPoint(800, 1200), f[1]},    {CPoint(594, 1200), f[1]},
+                                                  {CPoint(580, 1200), nullptr}, {CPoint(1200, 200), f[2]},
+                                                  {CPoint(1010, 290), nullptr}, {CPoint(20, 48), f[3]},
+                                                  {CPoint(2050, 550), f[4]},    {CPoint(2050, 450), nullptr}};
+    for (const auto& [at, hit] : cases)
+        EXPECT_EQ(drawing.At(at, 4), hit) << at.x << ", " << at.y;
     const CRect moved = f[1]->Moved(CSize(100000, -50))->Bounds();
     EXPECT_EQ(moved, CRect(CFigure::farthest - 400, 950, CFigure::farthest, 1350)) << "it stops at the bounds";
 }
 
 // Pixels of a memory bitmap on which a line of a width and a pattern was drawn.
 int inked(const FigureStyle& style, double scale) {
-    CWindowDC screen(nullptr);
-    CDC memory;
-    CBitmap bitmap;
-    memory.CreateCompatibleDC(&screen);
-    bitmap.CreateCompatibleBitmap(&screen, 420, 60);
-    CBitmap* before = memory.SelectObject(&bitmap);
-    memory.FillSolidRect(0, 0, 420, 60, RGB(255, 255, 255));
+    Picture paper(420, 60);
+    paper.clear(RGB(255, 255, 255));
     {
-        Canvas canvas(memory, CSize(420, 60), CPoint(10, 30), scale);
+        Canvas canvas(*CDC::FromHandle(paper.dc()), CSize(420, 60), CPoint(10, 30), scale);
         CLineFigure(CPoint(0, 0), CPoint(static_cast<int>(400 / scale), 0), style).Draw(canvas);
     }
-    int count = 0;
-    for (int y = 0; y < 60; ++y)
-        for (int x = 0; x < 420; ++x)
-            count += memory.GetPixel(x, y) != RGB(255, 255, 255);
-    memory.SelectObject(before);
-    return count;
+    return static_cast<int>(420 * 60 - paper.count(RGB(255, 255, 255)));
 }
 
 TEST(SketchCanvas, DrawsWidthsAndPatterns) {

@@ -1,5 +1,4 @@
 // Sounds as they reach the sound device, which writes what it plays to a file.
-#include "modal.h"
 #include "quiet_program.h"
 #include "resource_file.h"
 #include "temporary_file.h"
@@ -17,8 +16,7 @@ Bytes library_sound(const char* name) {
     return Bytes(first, first + ::SizeofResource(module, found));
 }
 
-class SoundTest : public testing::Test {
-protected:
+struct SoundTest : testing::Test {
     void SetUp() override {
         if (!std::getenv("ZOP_PLAYED"))
             GTEST_SKIP() << "NOT PLAYED: no device of the test's own";

@@ -7,8 +7,7 @@ constexpr COLORREF ground = RGB(60, 60, 60);
 constexpr COLORREF red = RGB(255, 0, 0);
 constexpr COLORREF green = RGB(0, 255, 0);
 
-class SurfaceTest : public WidgetTest {
-protected:
+struct SurfaceTest : WidgetTest {
     void SetUp() override {
         WidgetTest::SetUp();
         open(out, 100, 80);

@@ -3,8 +3,7 @@
 namespace {
 
 // Tabs whose pages hold inputs, which tell the host when they lose the focus.
-class TabsFocus : public ControlTest<AnsweringHost<WntTabsNotify>> {
-protected:
+struct TabsFocus : ControlTest<AnsweringHost<WntTabsNotify>> {
     void TearDown() override {
         delete tabs_;
         ControlTest::TearDown();

@@ -6,8 +6,7 @@
 
 namespace {
 
-class WidgetsDialog : public CDialog {
-public:
+struct WidgetsDialog : CDialog {
     explicit WidgetsDialog(CWnd* parent) : CDialog(IDD_WIDGETS, parent) {}
     void DoDataExchange(CDataExchange* exchange) override {
         CDialog::DoDataExchange(exchange);
@@ -37,18 +36,16 @@ public:
 
 // The same widget, created by its object.
 template <class Widget> Pixels created(CWnd& parent, CWnd& like, std::function<void(Widget&)> prepare) {
-    CRect client;
-    like.GetClientRect(&client);
     Widget widget;
-    EXPECT_TRUE(widget.Create(nullptr, "Created", WS_CHILD | WS_VISIBLE, client, &parent, 1));
+    EXPECT_TRUE(
+        widget.Create(nullptr, "Created", WS_CHILD | WS_VISIBLE, CRect(CPoint(0, 0), size_of(like)), &parent, 1));
     prepare(widget);
     const Pixels shown = repainted(widget);
     widget.DestroyWindow();
     return shown;
 }
 
-class TemplateTest : public WidgetTest {
-protected:
+struct TemplateTest : WidgetTest {
     HWND plain_window(int width, int height) {
         return ::CreateWindowA("STATIC", "", WS_CHILD | WS_VISIBLE, 0, 0, width, height, host_.m_hWnd, nullptr, nullptr,
                                nullptr);
@@ -84,9 +81,7 @@ TEST_F(TemplateTest, WidgetsLookAsIfTheirObjectsHadCreatedThem) {
             EXPECT_THROW(DDX_Color(&exchange, IDC_GAUGE, dialog.colour), CNotSupportedException*);
             EXPECT_THROW(DDX_GaugeValue(&exchange, 999, dialog.value), CNotSupportedException*);
             dialog.gauge.MoveWindow(0, 0, 90, 40); // sizes come as messages from now on
-            CRect surface;
-            dialog.gauge.GetDlgItem(100)->GetClientRect(&surface);
-            EXPECT_EQ(surface, CRect(0, 0, 90, 40));
+            EXPECT_EQ(size_of(*dialog.gauge.GetDlgItem(100)), CSize(90, 40));
             dialog.colours.SetSelectedColorID(0); // stays with the object
             dialog.EndDialog(IDOK);
             return true;
@@ -97,8 +92,7 @@ TEST_F(TemplateTest, WidgetsLookAsIfTheirObjectsHadCreatedThem) {
     std::remove("template.dat");
 }
 
-class ControlsDialog : public CDialog {
-public:
+struct ControlsDialog : CDialog {
     explicit ControlsDialog(CWnd* parent) : CDialog(IDD_CONTROLS, parent) {}
     void DoDataExchange(CDataExchange* exchange) override {
         CDialog::DoDataExchange(exchange);
@@ -136,24 +130,22 @@ TEST_F(TemplateTest, ControlsAreBuiltInTheirPlacesAndGoWithTheDialog) {
             const std::set<COLORREF> colours(built.values.begin(), built.values.end());
             EXPECT_TRUE(colours.size() > 1 || control == &dialog.sash) << name << " is blank";
         }
-        CRect client, tab = dialog.tabs.GetTabRect(1), item, content = dialog.frame.GetContentRect();
-        dialog.tabs.GetClientRect(&client);
+        CRect tab = dialog.tabs.GetTabRect(1), item, content = dialog.frame.GetContentRect();
+        const CRect client(CPoint(0, 0), size_of(dialog.tabs));
         EXPECT_EQ(dialog.tabs.GetTabCount(), 2); // of the script that the text names
         EXPECT_TRUE(!tab.IsRectEmpty() && client.PtInRect(tab.CenterPoint()) && tab.Height() * 4 < client.Height());
         EXPECT_TRUE(dialog.bar.GetItemCount() == 1 && dialog.bar.GetItemRect(0, &item) && !item.IsRectEmpty());
         EXPECT_EQ(dialog.pulse.GetCurveCount(), 1);
         EXPECT_EQ(dialog.tip.GetTipCount(), 1); // the file's only paragraph
-        dialog.frame.GetClientRect(&client);
-        EXPECT_TRUE(content.top > 5 && content.Height() > client.Height() / 2) << "the title takes a line";
+        EXPECT_TRUE(content.top > 5 && content.Height() > size_of(dialog.frame).cy / 2) << "the title takes a line";
         CButton inside;
         inside.Create("", WS_CHILD | WS_VISIBLE | WS_TABSTOP, content, &dialog.frame, 1);
         EXPECT_EQ(dialog.GetNextDlgTabItem(&dialog.folded, TRUE), &inside) << "what a panel holds is in the tab order";
-        dialog.sash.GetClientRect(&client);
         CStatic left, right; // panes that the program makes
         for (CStatic* pane : {&left, &right})
             pane->Create("", WS_CHILD, CRect(0, 0, 9, 9), &dialog);
         EXPECT_TRUE(dialog.sash.SetPanes(&left, &right) && left.IsWindowVisible());
-        EXPECT_NEAR(dialog.sash.GetPosition(), client.Width() / 2, 5);
+        EXPECT_NEAR(dialog.sash.GetPosition(), size_of(dialog.sash).cx / 2, 5);
         dialog.DestroyWindow();
         for (const auto& place : dialog.places)
             EXPECT_EQ(place.control->m_hWnd, nullptr) << place.name;
@@ -179,10 +171,7 @@ TEST_F(TemplateTest, AWidgetGoesFromWindowToWindow) {
     CWntButton button;
     for (const HWND place : {places[0], places[0], places[1], places[0]}) {
         ASSERT_TRUE(button.SubclassWindow(place));
-        CRect client, surface;
-        button.GetClientRect(&client);
-        button.GetDlgItem(101)->GetClientRect(&surface);
-        EXPECT_EQ(client, surface);
+        EXPECT_EQ(size_of(button), size_of(*button.GetDlgItem(101)));
         EXPECT_GT(repainted(button).count(RGB(0, 0, 128)), 1000); // its ground
         button.UnsubclassWindow();
     }

@@ -6,6 +6,7 @@
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <string_view>
 #include <vector>
 
 inline std::string text_of(const std::string& path) {
@@ -14,9 +15,10 @@ inline std::string text_of(const std::string& path) {
 }
 
 /// A file that goes with the object.
-class TemporaryFile {
-public:
+struct TemporaryFile {
     explicit TemporaryFile(const std::vector<std::uint8_t>& bytes = {}) { write(bytes); }
+    explicit TemporaryFile(std::string_view text)
+        : TemporaryFile(std::vector<std::uint8_t>(text.begin(), text.end())) {}
     ~TemporaryFile() { std::remove(name()); }
     TemporaryFile(const TemporaryFile&) = delete;
     TemporaryFile& operator=(const TemporaryFile&) = delete;

@@ -5,12 +5,11 @@ namespace {
 
 constexpr UINT text_id = 1, start_id = 2, previous_id = 3, next_id = 4;
 
-class TipPage : public WidgetTest {
-protected:
+struct TipPage : WidgetTest {
     void load(const std::string& text) {
         if (!page_->m_hWnd)
             open(*page_, 400, 240);
-        const TemporaryFile file({text.begin(), text.end()});
+        const TemporaryFile file(text);
         page_->LoadTips(file.name());
     }
     void press(UINT id) { page_->GetDlgItem(static_cast<int>(id))->SendMessage(BM_CLICK); }
@@ -154,11 +153,9 @@ TEST_F(TipPage, IsAPageOfTabsWithItsOwnKeys) {
               ::GetDlgItem(page_->m_hWnd, text_id));
 }
 
-class Form : public CDialog {
-public:
+struct Form : CDialog {
     int cancelled = 0;
 
-protected:
     void OnCancel() override { ++cancelled; }
 };
 

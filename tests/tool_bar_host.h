@@ -8,8 +8,7 @@
 inline constexpr COLORREF red = RGB(255, 0, 0), green = RGB(0, 255, 0), key_colour = RGB(255, 0, 200);
 
 // Owner of bars: keeps commands and notifications, and tells states.
-class ToolHost : public CWnd {
-public:
+struct ToolHost : CWnd {
     std::vector<UINT> commands;
     std::vector<UINT> told;
     int index = -1; // of the last item that was told of
@@ -35,7 +34,6 @@ public:
         return TRUE;
     }
 
-protected:
     BOOL OnNotify(WPARAM, LPARAM lParam, LRESULT* result) override {
         auto& header = *reinterpret_cast<NMHDR*>(lParam);
         if (header.code < WNT_TOOL_DROPPING || header.code > WNT_TOOL_MOVED)
@@ -47,8 +45,7 @@ protected:
     }
 };
 
-class ToolBar : public ControlTest<ToolHost> {
-protected:
+struct ToolBar : ControlTest<ToolHost> {
     void SetUp() override {
         ControlTest::SetUp();
         ASSERT_TRUE(edit_.Create(WS_CHILD | WS_VISIBLE, CRect(0, 300, 50, 320), &host_, 50));

@@ -69,10 +69,9 @@ TEST_F(ToolBar, OpensMenus) {
                   EXPECT_TRUE(::GetMenuState(menu, 0, MF_BYPOSITION) & MF_GRAYED); // asked before it opens
               });
     EXPECT_THAT(host_.told, ElementsAre(WNT_TOOL_DROPPING));
-    CPoint on_it = place(100).CenterPoint(); // the click that closes the menu does not open it again
+    const CPoint on_it = place(100).CenterPoint(); // the click that closes the menu does not open it again
     const LPARAM at = MAKELPARAM(on_it.x, on_it.y);
-    bar_->ClientToScreen(&on_it);
-    ::SetCursorPos(on_it.x, on_it.y);
+    point_at(*bar_, on_it);
     with_menu([&] { click(100); }, {VK_ESCAPE}, [&](HMENU) { ::PostMessageA(bar_->m_hWnd, WM_LBUTTONDOWN, 0, at); });
     MSG click_left;
     EXPECT_FALSE(::PeekMessageA(&click_left, bar_->m_hWnd, WM_LBUTTONDOWN, WM_LBUTTONDOWN, PM_REMOVE));
@@ -245,75 +244,50 @@ TEST_F(ToolBar, ItemsAreDraggedWhereThatIsAllowed) {
 }
 
 TEST_F(ToolBar, MayBeDestroyedByAnythingItTells) {
+    using Work = std::function<void()>;
     const auto end_bar = [&] { delete std::exchange(bar_, nullptr); };
-    const auto embed_and = [&](const std::function<void()>& remove) {
+    const Work by_command = [&] { host_.on_command = [&](UINT) { end_bar(); }; };
+    const Work by_state = [&] { host_.state = [&](CCmdUI&) { end_bar(); }; };
+    const Work by_state_of_entries = [&] { host_.state = [&](CCmdUI& ui) { ui.m_pMenu ? end_bar() : void(); }; };
+    const Work by_notification = [&] { host_.answer = [&](WntToolNotify&) -> LRESULT { return end_bar(), 0; }; };
+    const Work by_lost_focus = [&] { when_an_edit_loses_the_focus(end_bar); };
+    const Work nothing = [] {};
+    const auto in_open_menu = [&](const Work& open) { with_menu(open, {VK_ESCAPE}, [&](HMENU) { end_bar(); }); };
+    const auto with_embedded = [&](const Work& remove) {
         CEdit edit;
         embed(edit);
         edit.SetFocus();
-        when_an_edit_loses_the_focus(end_bar);
+        by_lost_focus();
         remove();
     };
-    const std::function<void()> ways[] = {
-        [&] {
-            host_.on_command = [&](UINT) { end_bar(); };
-            click(100);
-        },
-        [&] {
-            host_.on_command = [&](UINT) { end_bar(); };
-            bar_->SetFocus();
-            key(VK_SPACE);
-        },
-        [&] {
-            host_.answer = [&](WntToolNotify& n) -> LRESULT {
-                return n.hdr.code == WNT_TOOL_DROPPING ? end_bar(), 0 : 0;
-            };
-            click(101);
-        },
-        [&] {
-            host_.state = [&](CCmdUI&) { end_bar(); };
-            bar_->UpdateItems();
-        },
-        [&] {
-            host_.state = [&](CCmdUI& ui) {
-                if (ui.m_pMenu)
-                    end_bar();
-            };
-            click(101);
-        },
-        [&] {
-            host_.on_command = [&](UINT id) {
-                if (id == 110)
-                    end_bar();
-            };
-            with_menu([&] { click(101); }, {VK_DOWN, VK_RETURN});
-        },
-        [&] { with_menu([&] { click(101); }, {VK_ESCAPE}, [&](HMENU) { end_bar(); }); },
-        [&] {
-            bar_->MoveWindow(0, 0, 20, 26);
-            with_menu([&] { mouse(WM_LBUTTONDOWN, CPoint(12, 12)); }, {VK_ESCAPE}, [&](HMENU) { end_bar(); });
-        },
-        [&] { // which then asks whether its command has a handler
-            host_.state = [&](CCmdUI&) { end_bar(); };
-            bar_->SendMessage(WM_IDLEUPDATECMDUI, TRUE);
-        },
-        [&] { embed_and([&] { bar_->RemoveItem(2); }); },
-        [&] { embed_and([&] { bar_->RemoveAll(); }); },
-        [&] { embed_and([&] { script({}); }); },
-        [&] { // by the end of an input that the bar's focus ends
-            edit_.SetFocus();
-            when_an_edit_loses_the_focus(end_bar);
-            filter_f6(edit_);
-        },
-        [&] {
-            bar_->SetDragging(1);
-            host_.answer = [&](WntToolNotify&) -> LRESULT { return end_bar(), 0; };
-            mouse(WM_LBUTTONDOWN, place(100).CenterPoint());
-            mouse(WM_MOUSEMOVE, CPoint(390, 10));
-            mouse(WM_LBUTTONUP, CPoint(390, 10));
-        },
+    const struct {
+        Work arm, act;
+    } ways[] = {
+        {by_command, [&] { click(100); }},
+        {by_command, [&] { bar_->SetFocus(), key(VK_SPACE); }},
+        {by_command,
+         [&] {
+             with_menu([&] { click(101); }, {VK_DOWN, VK_RETURN});
+         }},
+        {by_notification, [&] { click(101); }},
+        {by_state, [&] { bar_->UpdateItems(); }},
+        {by_state, [&] { bar_->SendMessage(WM_IDLEUPDATECMDUI, TRUE); }}, // which then asks for a handler
+        {by_state_of_entries, [&] { click(101); }},
+        {nothing, [&] { in_open_menu([&] { click(101); }); }},
+        {[&] { bar_->MoveWindow(0, 0, 20, 26); },
+         [&] { in_open_menu([&] { mouse(WM_LBUTTONDOWN, CPoint(12, 12)); }); }},
+        {nothing, [&] { with_embedded([&] { bar_->RemoveItem(2); }); }},
+        {nothing, [&] { with_embedded([&] { bar_->RemoveAll(); }); }},
+        {nothing, [&] { with_embedded([&] { script({}); }); }},
+        {[&] { edit_.SetFocus(), by_lost_focus(); }, [&] { filter_f6(edit_); }},
+        {[&] { bar_->SetDragging(1), by_notification(); },
+         [&] {
+             mouse(WM_LBUTTONDOWN, place(100).CenterPoint());
+             mouse(WM_MOUSEMOVE, CPoint(390, 10));
+             mouse(WM_LBUTTONUP, CPoint(390, 10));
+         }},
     };
-    int way = 0;
-    for (const auto& destroy : ways) {
+    for (const auto& way : ways) {
         end_bar();
         host_.on_command = [](UINT) {};
         host_.on_message = [](UINT, WPARAM) {};
@@ -321,9 +295,9 @@ TEST_F(ToolBar, MayBeDestroyedByAnythingItTells) {
         host_.state = [](CCmdUI& ui) { ui.Enable(); };
         open();
         script({":ITEM=100,0", ":DROPDOWN=101,0", ":MENU=110,Entry"});
-        destroy();
-        EXPECT_FALSE(bar_) << way;
-        ++way;
+        way.arm();
+        way.act();
+        EXPECT_FALSE(bar_) << &way - ways;
     }
 }
 

@@ -5,13 +5,11 @@ namespace {
 constexpr COLORREF odd_colour = RGB(12, 200, 34);
 
 // Has the tools, and answers what it is asked.
-class TipHost : public AttentiveHost {
-public:
+struct TipHost : AttentiveHost {
     CString need_text;
     std::function<void(WntTip&)> fill = [](WntTip&) {};
     std::vector<UINT> asked;
 
-protected:
     BOOL OnNotify(WPARAM, LPARAM lParam, LRESULT*) override {
         auto* told = reinterpret_cast<NMHDR*>(lParam);
         if (told->code == TTN_NEEDTEXTA) {
@@ -25,8 +23,7 @@ protected:
     }
 };
 
-class ToolTip : public ControlTest<TipHost> {
-protected:
+struct ToolTip : ControlTest<TipHost> {
     void SetUp() override {
         ControlTest::SetUp();
         host_.SetActiveWindow();
@@ -49,9 +46,7 @@ protected:
         tips_->RelayEvent(&event);
     }
     void point_at(CPoint at) {
-        CPoint screen = at;
-        host_.ClientToScreen(&screen);
-        ::SetCursorPos(screen.x, screen.y);
+        ::point_at(host_, at);
         relay(WM_MOUSEMOVE, at);
     }
     // What shows after the pointer came to a point; empty where nothing does.

@@ -7,14 +7,12 @@ using Texts = std::vector<std::string>;
 
 namespace {
 
-class Tracer : public CWntTrace {
-public:
+struct Tracer : CWntTrace {
     using CWntTrace::setstream;
     using CWntTrace::stream;
 };
 
-class TraceTest : public WidgetTest {
-protected:
+struct TraceTest : WidgetTest {
     void SetUp() override {
         WidgetTest::SetUp();
         start(0);
@@ -57,15 +55,13 @@ const std::string hyphens(64, '-');
 } // namespace
 
 TEST_F(TraceTest, EnvironmentOpensTheWindow) {
-    const struct {
-        const char *own, *other;
-        bool window;
-    } cases[] = {{nullptr, nullptr, false}, {"1", "1", false},      {"2", nullptr, true},
-                 {nullptr, "2", true},      {"16", nullptr, false}, {"3 and more", nullptr, false},
-                 {"3more", nullptr, true},  {"x2", nullptr, false}, {"1000000002", nullptr, false}};
-    for (const auto& c : cases) {
-        start(0, c.own, c.other);
-        EXPECT_EQ(opens_window(), c.window) << c.own << ',' << c.other;
+    const std::tuple<const char*, const char*, bool> cases[] = {
+        {nullptr, nullptr, false}, {"1", "1", false},      {"2", nullptr, true},
+        {nullptr, "2", true},      {"16", nullptr, false}, {"3 and more", nullptr, false},
+        {"3more", nullptr, true},  {"x2", nullptr, false}, {"1000000002", nullptr, false}};
+    for (const auto& [own, other, window] : cases) {
+        start(0, own, other);
+        EXPECT_EQ(opens_window(), window) << own << ',' << other;
     }
     for (const unsigned flags : {0u, 1u}) { // the function reads the variables while no flag is set
         start(flags, "2");
@@ -126,9 +122,7 @@ TEST_F(TraceTest, WindowShowsAndSelectsTheNewestLine) {
     trace.SetFlags(2);
     trace.Trace("before the window");
     open(trace, 0, 0);
-    CRect place;
-    ::GetWindowRect(dialog(), &place);
-    EXPECT_EQ(place, CRect(37, 21, 37 + 468, 21 + 350));
+    EXPECT_EQ(on_screen(*CWnd::FromHandle(dialog())), CRect(37, 21, 37 + 468, 21 + 350));
     EXPECT_TRUE(::IsWindowVisible(dialog()));
     EXPECT_NE(::GetDlgItem(dialog(), 257), nullptr);
 

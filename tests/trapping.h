@@ -6,8 +6,7 @@
 #include <cstddef>
 
 /// A window whose memory is out of reach once it is deleted: any use after that traps.
-template <class Window> class Trapping : public Window {
-public:
+template <class Window> struct Trapping : Window {
     static void* operator new(std::size_t size) {
         return ::VirtualAlloc(nullptr, size, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE);
     }

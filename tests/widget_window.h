@@ -21,12 +21,43 @@ struct Pixels {
     friend bool operator==(const Pixels&, const Pixels&) = default;
 };
 
-inline Pixels pixels_of(CWnd& window) {
+inline CSize size_of(CWnd& window) {
     CRect client;
     window.GetClientRect(&client);
-    Picture picture(client.Width(), client.Height());
+    return client.Size();
+}
+
+inline CRect on_screen(CWnd& window) {
+    CRect r;
+    window.GetWindowRect(&r);
+    return r;
+}
+
+inline CRect place_in(CWnd& parent, CWnd& window) {
+    CRect r = on_screen(window);
+    parent.ScreenToClient(&r);
+    return r;
+}
+
+/// Puts the pointer over a point of a window, without the messages of a move.
+inline void point_at(CWnd& window, CPoint at) {
+    window.ClientToScreen(&at);
+    ::SetCursorPos(at.x, at.y);
+}
+
+/// The shape that a window gives the pointer there.
+inline HCURSOR pointer_at(CWnd& window, CPoint at) {
+    point_at(window, at);
+    ::SetCursor(nullptr);
+    window.SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(window.m_hWnd), MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+    return ::GetCursor();
+}
+
+inline Pixels pixels_of(CWnd& window) {
+    const CSize size = size_of(window);
+    Picture picture(size.cx, size.cy);
     picture.capture(window.m_hWnd);
-    return {client.Width(), client.Height(), picture.values()};
+    return {size.cx, size.cy, picture.values()};
 }
 
 inline void full_repaint(CWnd& widget) {
@@ -41,15 +72,11 @@ inline Pixels repainted(CWnd& widget) {
 /// Covers a widget's surface: what is painted next shows as pixels that lost this colour.
 inline void cover(CWnd& widget, int surface_id, COLORREF colour) {
     CWnd* surface = widget.GetDlgItem(surface_id);
-    CClientDC dc(surface);
-    CRect area;
-    surface->GetClientRect(&area);
-    dc.FillSolidRect(&area, colour);
+    CClientDC(surface).FillSolidRect(CRect(CPoint(0, 0), size_of(*surface)), colour);
 }
 
 /// A host that keeps the messages and notifications that it gets.
-class AttentiveHost : public CWnd {
-public:
+struct AttentiveHost : CWnd {
     std::vector<std::tuple<UINT, WPARAM, LPARAM>> seen;
     std::vector<NMHDR> notified;
     std::function<void(UINT)> on_message = [](UINT) {};
@@ -63,8 +90,7 @@ public:
     }
 };
 
-class WidgetTest : public testing::Test {
-protected:
+struct WidgetTest : testing::Test {
     void SetUp() override {
         ASSERT_TRUE(host_.CreateEx(0, nullptr, "host", WS_POPUP, CRect(0, 0, 1010, 1010), nullptr, 0));
         host_.ShowWindow(SW_SHOWNOACTIVATE);

@@ -149,21 +149,18 @@ TEST(WntBitmap, MapsItsColoursToAPalette) {
 
 // Two pixels, red and green, by masks that are not the usual ones; from a file, and from a header with them.
 TEST(WntBitmap, ReadsBitFieldsByTheirMasks) {
-    const struct {
-        int bits;
-        std::vector<std::uint32_t> masks;
-        Bytes pixels;
-    } cases[] = {{16, {0x001F, 0x07E0, 0xF800}, {0x1F, 0, 0xE0, 0x07}},
-                 {32, {0x0000FF00, 0x00FF0000, 0xFF000000}, {0, 255, 0, 0, 0, 0, 255, 0}}};
-    for (const auto& c : cases) {
-        Bytes bytes = BitmapFile{c.bits, 2, 1}.bytes();
+    const std::tuple<int, std::vector<std::uint32_t>, Bytes> cases[] = {
+        {16, {0x001F, 0x07E0, 0xF800}, {0x1F, 0, 0xE0, 0x07}},
+        {32, {0x0000FF00, 0x00FF0000, 0xFF000000}, {0, 255, 0, 0, 0, 0, 255, 0}}};
+    for (const auto& [bits, masks, pixels] : cases) {
+        Bytes bytes = BitmapFile{bits, 2, 1}.bytes();
         bytes.resize(54);
         bytes[2] = bytes[10] = 54 + 12;
-        bytes[2] += static_cast<std::uint8_t>(c.pixels.size());
+        bytes[2] += static_cast<std::uint8_t>(pixels.size());
         bytes[30] = BI_BITFIELDS;
-        for (const std::uint32_t mask : c.masks)
+        for (const std::uint32_t mask : masks)
             BitmapFile::put(bytes, mask, 4);
-        bytes.insert(bytes.end(), c.pixels.begin(), c.pixels.end());
+        bytes.insert(bytes.end(), pixels.begin(), pixels.end());
         CWntBitmap loaded, placed;
         ASSERT_TRUE(loaded.Load(TemporaryFile(bytes).name()));
         ASSERT_TRUE(placed.Create(loaded.GetBitmapInfoAddress(), loaded.GetBitsAddress()));
@@ -175,7 +172,7 @@ TEST(WntBitmap, ReadsBitFieldsByTheirMasks) {
         for (CWntBitmap* bitmap : {&loaded, &placed}) {
             Picture picture(2, 1);
             bitmap->Draw(CDC::FromHandle(picture.dc()), 0, 0);
-            EXPECT_THAT(picture.values(), ElementsAre(RGB(255, 0, 0), RGB(0, 255, 0))) << c.bits;
+            EXPECT_THAT(picture.values(), ElementsAre(RGB(255, 0, 0), RGB(0, 255, 0))) << bits;
         }
     }
 }
@@ -393,8 +390,7 @@ TEST(BitmapPaletteScreen, GoesIntoTheSystemPalette) {
 
 // A file is read beside other readers, and not written to meanwhile.
 TEST(BitmapPaths, AreOpenedForReadingAlone) {
-    class Watched : public CWntBitmap {
-    public:
+    struct Watched : CWntBitmap {
         BOOL Load(CFile* file) override {
             CFile other;
             readable = other.Open(name, CFile::modeRead | CFile::shareDenyNone);

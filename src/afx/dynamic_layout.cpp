@@ -56,8 +56,9 @@ struct ratios {
 };
 
 std::vector<ratios> read_ratios(const BYTE* bytes, DWORD size) {
-    std::vector<WORD> words(size / sizeof(WORD));
-    std::memcpy(words.data(), bytes, words.size() * sizeof(WORD));
+    std::vector<WORD> words;
+    for (DWORD at = 0; at + 2 <= size; at += 2)
+        words.push_back(MAKEWORD(bytes[at], bytes[at + 1]));
     if (words.empty() || words.front() != 0)
         return {};
     words.erase(words.begin());

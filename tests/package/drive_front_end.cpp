@@ -5,7 +5,6 @@
 #include "../../examples/plant/recorded_days.h"
 #include "../../examples/plant/resource.h"
 
-#include <cstdio>
 #include <filesystem>
 
 namespace {
@@ -16,8 +15,7 @@ constexpr int id_print = 0xE107;
 constexpr int furnace_limit_field = IDC_HIGH_FIRST + furnace_temperature;
 
 // A block of the plant's, seen from a third process.
-template <class Block> class Shared {
-public:
+template <class Block> struct Shared {
     explicit Shared(const char* name) {
         mapping_ = ::CreateFileMappingA(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, sizeof(Block), name);
         block_ = static_cast<Block*>(::MapViewOfFile(mapping_, FILE_MAP_ALL_ACCESS, 0, 0, sizeof(Block)));
@@ -37,8 +35,7 @@ private:
 };
 
 // Whatever happens, no simulator stays behind.
-class Plant {
-public:
+struct Plant {
     ~Plant() {
         auto found = set_points->Read();
         PlantSetPoints wanted = found ? found->record : PlantSetPoints{};
@@ -59,8 +56,7 @@ public:
     Shared<SetPointsBlock> set_points{set_points_block_name};
 };
 
-class FrontEndWindow {
-public:
+struct FrontEndWindow {
     FrontEndWindow(const std::string& program, const std::string& data)
         : process(program + " --data \"" + data + "\""), frame(process.frame()) {}
 

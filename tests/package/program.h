@@ -22,8 +22,7 @@ inline void eventually(const std::string& what, const std::function<bool()>& hol
     }
 }
 
-class Program {
-public:
+struct Program {
     explicit Program(const std::string& command) {
         STARTUPINFOA start = {};
         start.cb = sizeof start;
