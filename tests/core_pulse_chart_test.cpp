@@ -317,9 +317,10 @@ TEST_F(PulseTransfer, BrokenFilesGiveWhatCanBeRead) {
         fs::resize_file("a.txt", length);
         PulseReader reader;
         int count = 0;
-        if (reader.open("a.txt").empty())
+        if (reader.open("a.txt").empty()) {
             while (reader.read(2, [&](int curve, std::int64_t, double) { count += curve == 1; }))
                 EXPECT_LE(count, 5);
+        }
     }
     std::ofstream("table.csv") << "3\n" << std::string(100'000, 'x');
     EXPECT_NE(PulseReader().open("table.csv"), "");

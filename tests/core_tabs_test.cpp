@@ -149,8 +149,9 @@ TEST(TabsLayout, StandsAtEverySide) {
         EXPECT_EQ(l.lifted(1, sizes), parts[lifted][i]);
         EXPECT_EQ(l.parts(1, sizes, true, true).icon, parts[icon][i]);
         EXPECT_EQ(l.parts(1, sizes, true, true).close, parts[close][i]);
-        if (i == 0)
+        if (i == 0) {
             EXPECT_EQ(l.parts(1, sizes, true, true).text.right, 42);
+        }
         EXPECT_FALSE(l.overflows());
         EXPECT_EQ(l.tab_at(two.left, two.top), 1);
         EXPECT_EQ(l.tab_at(50, 30), -1);

@@ -83,9 +83,10 @@ TEST(GaugeViews, ShowTheUnitAtEverySizeAndRange) {
                         shown = w.text;
                 }
                 EXPECT_NE(shown, "") << type << range.size() << " " << width << "x" << height;
-                if (width >= 320 && height >= 240)
+                if (width >= 320 && height >= 240) {
                     EXPECT_TRUE(shown == unit || type == gauge_digital)
                         << type << range.size() << " " << width << shown;
+                }
                 model.set_titles("", "u");
                 EXPECT_TRUE(writes({model, width, height}, "u"))
                     << type << range.size() << " " << width << "x" << height;
@@ -129,8 +130,9 @@ TEST(GaugeViews, ZonesAndValueStandWhereTheScaleSays) {
                 for (const PointF p : corners_of(scene.face, colour)) {
                     EXPECT_LE(angle_of(p), angle_at(from) + 0.1f);
                     EXPECT_GE(angle_of(p), angle_at(to) - 0.1f);
-                    if (type == gauge_analog)
+                    if (type == gauge_analog) {
                         EXPECT_NEAR(reach(p) / 111.8f, 0.84f, 0.05f); // between ticks and rim
+                    }
                 }
                 const auto pointer = corners_of(scene.value, type == gauge_analog ? blend(colour, black, 150) : colour);
                 PointF aside = {0, 0};
@@ -271,8 +273,9 @@ TEST(GaugeViews, TextsStandAtTheirPlaces) {
                     EXPECT_NEAR(std::remainder(angle_of(raised) - angle_at(value), 360.f), 0, 8);
                 else
                     EXPECT_NEAR(at.y, strip.bottom + strip.height() * value / 200, 3);
-                if (type == gauge_thermometer || type == gauge_peak_line) // in a column
+                if (type == gauge_thermometer || type == gauge_peak_line) { // in a column
                     EXPECT_TRUE(end == w.bounds.right || !std::exchange(end, w.bounds.right));
+                }
             }
         }
     }
