@@ -11,6 +11,7 @@
 #include "afx_list_ctrl.h"
 #include "afx_rebar.h"
 #include "afx_rich_edit.h"
+#include "afx_split_button.h"
 #include "afx_tool_bar_ctrl.h"
 
 #endif
