@@ -34,6 +34,8 @@ TEST(AfxWideText, PartsAndPlacesAreClamped) {
     EXPECT_TRUE(text.Trim() == L"\x00c9 x" && text.MakeLower() == L"\x00e9 x" && text.MakeUpper() == L"\x00c9 X");
     EXPECT_TRUE(text.CompareNoCase(L"\x00c9 x") == 0 && text > L"A" && L"A" < text);
     EXPECT_TRUE(CStringW(L"  ").Trim().IsEmpty());
+    const LPCWSTR none = nullptr;
+    EXPECT_TRUE(text.Compare(none) > 0 && text.CompareNoCase(none) > 0 && text.Find(none) == 0 && text != none);
 }
 
 TEST(AfxWideText, IsWrittenInPlaceAndFormatted) {

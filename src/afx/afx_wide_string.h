@@ -9,7 +9,7 @@ public:
     typedef LPCWSTR PCXSTR;
 
     CStringW() = default;
-    CStringW(LPCWSTR source) : m_text(source != nullptr ? source : L"") {}
+    CStringW(LPCWSTR source) : m_text(OrEmpty(source)) {}
     CStringW(LPCWSTR source, int length);
     CStringW(LPCSTR source) : CStringW(CString(source)) {}
     CStringW(const CString& source);
@@ -39,10 +39,10 @@ public:
     CStringW Right(int count) const;
     // -1 where there is none.
     int Find(wchar_t c, int start = 0) const { return Found(m_text.find(c, Clamp(start))); }
-    int Find(LPCWSTR text, int start = 0) const { return Found(m_text.find(text, Clamp(start))); }
+    int Find(LPCWSTR text, int start = 0) const { return Found(m_text.find(OrEmpty(text), Clamp(start))); }
     int ReverseFind(wchar_t c) const { return Found(m_text.rfind(c)); }
-    int Compare(LPCWSTR text) const { return m_text.compare(text); }
-    int CompareNoCase(LPCWSTR text) const { return ::_wcsicmp(m_text.c_str(), text); }
+    int Compare(LPCWSTR text) const { return m_text.compare(OrEmpty(text)); }
+    int CompareNoCase(LPCWSTR text) const { return ::_wcsicmp(m_text.c_str(), OrEmpty(text)); }
     int Replace(LPCWSTR oldText, LPCWSTR newText);
     CStringW& MakeUpper();
     CStringW& MakeLower();
@@ -63,6 +63,7 @@ private:
     }
     CStringW& FormatArguments(LPCWSTR format, ...);
     std::size_t Clamp(int at) const { return at <= 0 ? 0 : at < GetLength() ? std::size_t(at) : m_text.size(); }
+    static LPCWSTR OrEmpty(LPCWSTR text) { return text != nullptr ? text : L""; }
     static int Found(std::size_t at) { return at != std::wstring::npos ? static_cast<int>(at) : -1; }
 
     std::wstring m_text;
@@ -86,10 +87,10 @@ inline CStringW operator+(const CStringW& a, wchar_t b) {
         return a.Compare(b) op 0;                                                                                      \
     }                                                                                                                  \
     inline bool operator op(const CStringW& a, LPCWSTR b) {                                                            \
-        return a.Compare(CStringW(b)) op 0;                                                                            \
+        return a.Compare(b) op 0;                                                                                      \
     }                                                                                                                  \
     inline bool operator op(LPCWSTR a, const CStringW& b) {                                                            \
-        return 0 op b.Compare(CStringW(a));                                                                            \
+        return 0 op b.Compare(a);                                                                                      \
     }
 AFX_COMPARE_STRINGS(==)
 AFX_COMPARE_STRINGS(!=)
