@@ -1,5 +1,6 @@
 // List boxes, combo boxes, edit controls and scroll bars through their classes.
 #include "afx_test_app.h"
+#include "newer_controls.h"
 
 #include <afxcmn.h>
 
@@ -46,24 +47,6 @@ struct numbers_box : CComboBox {
     void MeasureItem(LPMEASUREITEMSTRUCT item) override { item->itemHeight = 21; }
     void DeleteItem(LPDELETEITEMSTRUCT item) override { deleted.push_back(static_cast<int>(item->itemData)); }
     std::vector<int> deleted;
-};
-
-// Windows that are created while it lives are of version 6 of the common controls.
-struct newer_controls {
-    newer_controls() {
-        ACTCTX wanted{};
-        wanted.cbSize = sizeof(wanted);
-        wanted.dwFlags = ACTCTX_FLAG_RESOURCE_NAME_VALID | ACTCTX_FLAG_HMODULE_VALID;
-        wanted.lpResourceName = MAKEINTRESOURCE(IDR_NEW_CONTROLS);
-        wanted.hModule = ::GetModuleHandle(nullptr);
-        context = ::CreateActCtx(&wanted);
-        EXPECT_TRUE(::ActivateActCtx(context, &cookie));
-    }
-    ~newer_controls() { ::DeactivateActCtx(0, cookie), ::ReleaseActCtx(context); }
-
-private:
-    HANDLE context;
-    ULONG_PTR cookie = 0;
 };
 
 TEST_F(AfxBoxes, HintsAndNotesComeBackInTheProgramsCodePage) {

@@ -185,4 +185,42 @@ TEST_F(AfxCommonDialogs, SearchingTellsItsParentAndDeletesItself) {
     EXPECT_EQ(counted_find::alive, 0);
 }
 
+// Names the folder and presses a button of the shown dialog; the title that it had.
+std::string answer_picker(CFolderPickerDialog& dialog, LPCTSTR folder, int button, INT_PTR wanted) {
+    std::string title;
+    WhileModal modal([&] {
+        const HWND shown = shown_dialog();
+        if (shown == nullptr)
+            return false;
+        char text[100] = "";
+        ::GetWindowText(shown, text, sizeof text);
+        title = text;
+        const int name = 1152;
+        ::SetDlgItemText(shown, name, folder);
+        ::PostMessage(shown, WM_COMMAND, static_cast<WPARAM>(button), 0);
+        return false; // as often as it takes
+    });
+    EXPECT_EQ(dialog.DoModal(), wanted);
+    return title;
+}
+
+TEST_F(AfxCommonDialogs, AFolderIsChosen) {
+    char folder[MAX_PATH];
+    ::GetWindowsDirectory(folder, MAX_PATH);
+    CFolderPickerDialog dialog(folder, OFN_PATHMUSTEXIST, &parent);
+    dialog.m_ofn.lpstrTitle = "Caf\xe9";
+    EXPECT_TRUE(dialog.IsPickFoldersMode() && !CFileDialog(TRUE).IsPickFoldersMode());
+    EXPECT_EQ(answer_picker(dialog, folder, IDCANCEL, IDCANCEL), "Caf\xe9");
+    EXPECT_TRUE(dialog.GetPathName().IsEmpty() && parent.IsWindowEnabled());
+    answer_picker(dialog, folder, IDOK, IDOK);
+    EXPECT_EQ(dialog.GetPathName().CompareNoCase(folder), 0) << dialog.GetPathName().GetString();
+    EXPECT_EQ(dialog.GetFolderPath(), dialog.GetPathName());
+    char room[4] = "";
+    CFolderPickerDialog small(folder, 0, &parent);
+    small.m_ofn.lpstrFile = room, small.m_ofn.nMaxFile = sizeof room;
+    answer_picker(small, folder, IDOK, IDCANCEL);
+    CFolderPickerDialog nowhere("Z:\\no\\such", 0, &parent);
+    answer_picker(nowhere, folder, IDCANCEL, IDCANCEL);
+}
+
 } // namespace

@@ -31,7 +31,8 @@ public:
     CString GetFileName() const;
     CString GetFileExt() const;    // without the dot
     CString GetFileTitle() const;  // without the extension
-    CString GetFolderPath() const; // only while it is shown
+    CString GetFolderPath() const; // only while it is shown; in CFolderPickerDialog the chosen one
+    BOOL IsPickFoldersMode() const { return m_bPickFoldersMode; }
     BOOL GetReadOnlyPref() const { return (m_ofn.Flags & OFN_READONLY) != 0; }
     // The files chosen with OFN_ALLOWMULTISELECT.
     POSITION GetStartPosition() const { return reinterpret_cast<POSITION>(m_ofn.lpstrFile); }
@@ -60,6 +61,7 @@ protected:
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
     BOOL m_bOpenFileDialog;
+    BOOL m_bPickFoldersMode = FALSE;
     CString m_strFilter;
     char m_szFileTitle[MAX_PATH] = "";
     char m_szFileName[MAX_PATH] = "";

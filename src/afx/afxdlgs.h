@@ -5,5 +5,6 @@
 #include "afxwin.h"
 #include "afx_choice_dialogs.h"
 #include "afx_file_dialog.h"
+#include "afx_folder_dialog.h"
 #include "afx_print_dialog.h"
 #include "afx_property_sheet.h"

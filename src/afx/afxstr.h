@@ -25,6 +25,7 @@ public:
     CString(CString&& source) noexcept = default;
     CString(LPCSTR source);
     CString(LPCWSTR source);
+    CString(const class CStringW& source);
     CString(LPCSTR source, int length);
     CString(LPCWSTR source, int length);
     AFX_EXPLICIT_STRING CString(const unsigned char* source) : CString(reinterpret_cast<LPCSTR>(source)) {}
@@ -35,6 +36,7 @@ public:
     CString& operator=(CString&& source) noexcept = default;
     CString& operator=(LPCSTR source);
     CString& operator=(LPCWSTR source) { return *this = CString(source); }
+    CString& operator=(const CStringW& source) { return *this = CString(source); }
     CString& operator=(const unsigned char* source) { return *this = reinterpret_cast<LPCSTR>(source); }
     CString& operator=(char c) { return *this = CString(c); }
     CString& operator=(wchar_t c) { return *this = CString(c); }
@@ -154,7 +156,7 @@ private:
     std::string m_text;
 };
 
-typedef CString CStringA;
+typedef CString CStringA, CAtlString, CAtlStringA;
 inline const CString afxEmptyString;
 
 template <class Text>
@@ -251,3 +253,5 @@ requires(std::is_base_of_v<CString, Values> || ...) inline int _snprintf_s(char 
                                                                            LPCSTR format, Values... values) {
     return ::_snprintf_s(text, size, most, format, afx_variadic(values)...);
 }
+
+#include "afx_wide_string.h"

@@ -132,7 +132,9 @@ CString CFileDialog::GetFileTitle() const {
 }
 
 CString CFileDialog::GetFolderPath() const {
-    return m_hWnd != nullptr ? Asked(CDM_GETFOLDERPATH) : CString();
+    if (m_hWnd != nullptr)
+        return Asked(CDM_GETFOLDERPATH);
+    return m_bPickFoldersMode ? GetPathName() : CString();
 }
 
 // One file stands with its path; of several, the folder comes first, then each name.

@@ -1,0 +1,438 @@
+// Pictures: their pixels through files and streams, their orientation, transparency, and what they refuse.
+#include "afx_test_app.h"
+#include "pixels.h"
+#include "temporary_file.h"
+#include "test_random.h"
+
+#include <afxstr.h>
+#include <atlimage.h>
+
+#include <array>
+#include <filesystem>
+
+namespace {
+
+constexpr COLORREF red = RGB(255, 0, 0), green = RGB(0, 255, 0), blue = RGB(0, 0, 255), white = RGB(255, 255, 255);
+
+const std::vector<std::pair<COLORREF, char>> names{{red, 'r'},   {green, 'g'}, {blue, 'b'},
+                                                   {white, 'w'}, {0, '.'},     {CLR_INVALID, '!'}};
+
+std::string shown(const CImage& image) {
+    std::vector<COLORREF> all;
+    for (int y = 0; y < image.GetHeight(); ++y)
+        for (int x = 0; x < image.GetWidth(); ++x)
+            all.push_back(image.GetPixel(x, y));
+    return letters(all, image.GetWidth(), names);
+}
+
+std::string shown(const Picture& picture) {
+    return letters(picture.values(), picture.width(), names);
+}
+
+// No two rows, columns or corners are alike.
+constexpr char figure[] = "rgbww\n"
+                          "b.wwr\n"
+                          "gwr..\n";
+
+void paint(CImage& image) {
+    const RGBQUAD table[] = {{0, 0, 0, 0}, {0, 0, 255, 0}, {0, 255, 0, 0}, {255, 0, 0, 0}, {255, 255, 255, 0}};
+    image.SetColorTable(0, 5, table);
+    for (int y = 0; y < 3; ++y)
+        for (int x = 0; x < 5; ++x) {
+            const int index = static_cast<int>(std::string(".rgbw").find(figure[y * 6 + x]));
+            if (image.IsIndexed())
+                image.SetPixelIndexed(x, y, index);
+            else
+                image.SetPixel(x, y, std::array{COLORREF(0), red, green, blue, white}[index]);
+        }
+}
+
+// In an empty folder.
+class AfxImage : public testing::Test {
+protected:
+    AfxImage() {
+        std::filesystem::create_directory(folder);
+        std::filesystem::current_path(folder);
+    }
+    ~AfxImage() override {
+        std::filesystem::current_path(home);
+        std::filesystem::remove_all(folder);
+    }
+
+private:
+    const std::filesystem::path home = std::filesystem::current_path();
+    const std::filesystem::path folder =
+        std::filesystem::temp_directory_path() / ("afx images " + std::to_string(::GetCurrentProcessId()));
+};
+
+TEST_F(AfxImage, PixelsLieWhereTheyAreSaidToBe) {
+    constexpr DWORD masks[] = {0x0F, 0xF0, 0xF00};
+    for (const int depth : {4, 8, 16, 24, 32, 0})
+        for (const int height : {3, -3}) {
+            CImage image;
+            ASSERT_TRUE(depth != 0 ? image.Create(5, height, depth)
+                                   : image.CreateEx(5, height, 16, BI_BITFIELDS, masks));
+            paint(image);
+            EXPECT_EQ(shown(image), figure) << depth << ' ' << height;
+            Picture seen(5, 3);
+            EXPECT_TRUE(image.Draw(seen.dc(), 0, 0));
+            EXPECT_EQ(shown(seen), figure) << "what GDI sees " << depth << ' ' << height;
+            EXPECT_EQ(image.GetPitch() < 0, height > 0);
+            const int bits = image.GetBPP();
+            auto* first = static_cast<BYTE*>(image.GetBits());
+            EXPECT_EQ(image.GetPixelAddress(3, 2), first + 2 * image.GetPitch() + 3 * bits / 8);
+            BITMAP held{};
+            ::GetObject(image, sizeof held, &held);
+            EXPECT_EQ(height > 0 ? first + 2 * image.GetPitch() : first, held.bmBits);
+            EXPECT_TRUE(image.GetPixel(5, 0) == CLR_INVALID && image.GetPixel(0, 3) == CLR_INVALID &&
+                        image.GetPixel(-1, 0) == CLR_INVALID && image.GetPixelAddress(0, -1) == nullptr &&
+                        image.GetPixelAddress(5, 2) == nullptr);
+            image.SetPixel(5, 1, green), image.SetPixel(2, -1, green), image.SetPixelIndexed(1, 3, 1);
+            image.SetPixelIndexed(0, 0, 1 << bits);
+            EXPECT_EQ(shown(image), figure) << "outside";
+        }
+}
+
+TEST_F(AfxImage, ColourTablesEndWhereTheyEnd) {
+    CImage image, deep;
+    ASSERT_TRUE(image.Create(9, 2, 1) && deep.Create(2, 2, 24));
+    RGBQUAD table[] = {{1, 2, 3, 0}, {4, 5, 6, 0}, {7, 8, 9, 0}, {7, 8, 9, 0}};
+    image.SetColorTable(1, 1000, table);
+    image.SetColorTable(0, 1, table + 1);
+    image.SetColorTable(0, 1, nullptr), image.SetColorTable(UINT_MAX, 4, table);
+    image.GetColorTable(1, UINT_MAX, table + 2);
+    EXPECT_TRUE(table[2].rgbRed == 3 && table[3].rgbRed == 9) << "one entry is read";
+    image.SetPixelIndexed(8, 1, 1);
+    EXPECT_TRUE(image.GetPixel(8, 1) == RGB(3, 2, 1) && image.GetPixel(7, 1) == RGB(6, 5, 4));
+    EXPECT_TRUE(image.GetMaxColorTableEntries() == 2 && deep.GetMaxColorTableEntries() == 0 && !deep.IsIndexed());
+    EXPECT_EQ(image.SetTransparentColor(1), -1);
+    EXPECT_EQ(image.SetTransparentColor(2), 1) << "there is none";
+    EXPECT_EQ(image.SetTransparentColor(-1), 1);
+    EXPECT_TRUE(deep.SetTransparentColor(0) == -1 && deep.GetTransparentColor() == -1);
+}
+
+TEST_F(AfxImage, RefusesImpossibleOnesAndKeepsWhatItHas) {
+    constexpr DWORD masks[] = {0xF00, 0xF0, 0x0F};
+    const struct {
+        int width, height, depth;
+        DWORD compression;
+        const DWORD* masks;
+        DWORD flags;
+    } impossible[] = {
+        {0, 3, 24, BI_RGB, nullptr, 0},
+        {-5, 3, 24, BI_RGB, nullptr, 0},
+        {5, 0, 24, BI_RGB, nullptr, 0},
+        {1, INT_MIN, 24, BI_RGB, nullptr, 0},
+        {5, 3, 0, BI_RGB, nullptr, 0},
+        {5, 3, 7, BI_RGB, nullptr, 0},
+        {INT_MAX, INT_MAX, 32, BI_RGB, nullptr, 0},
+        {65536, 65536, 1, BI_RGB, nullptr, 0x100},
+        {46341, -46341, 8, BI_RGB, nullptr, 0},
+        {5, 3, 24, BI_RGB, nullptr, CImage::createAlphaChannel},
+        {5, 3, 32, BI_BITFIELDS, masks, CImage::createAlphaChannel},
+        {5, 3, 8, BI_BITFIELDS, masks, 0},
+        {5, 3, 16, BI_BITFIELDS, nullptr, 0},
+        {5, 3, 16, BI_RGB, masks, 0},
+        {5, 3, 8, BI_RLE8, nullptr, 0},
+    };
+    CImage image;
+    ASSERT_TRUE(image.Create(5, 3, 24));
+    paint(image);
+    for (const auto& i : impossible)
+        EXPECT_FALSE(image.CreateEx(i.width, i.height, i.depth, i.compression, i.masks, i.flags)) << &i - impossible;
+    EXPECT_EQ(image.Load("missing.png"), HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND));
+    EXPECT_TRUE(FAILED(image.Load(".")) && FAILED(image.Load("")) &&
+                FAILED(image.Load(static_cast<LPCTSTR>(nullptr))) &&
+                FAILED(image.Load(static_cast<IStream*>(nullptr))));
+    image.LoadFromResource(::GetModuleHandle(nullptr), 9999);
+    image.LoadFromResource(::GetModuleHandle(nullptr), 0x10000 + IDB_UP);
+    image.LoadFromResource(nullptr, static_cast<LPCTSTR>(nullptr));
+    image.Attach(nullptr);
+    image.Attach(image);
+    image.Attach(reinterpret_cast<HBITMAP>(::GetStockObject(BLACK_PEN)));
+    EXPECT_EQ(shown(image), figure);
+    EXPECT_TRUE(FAILED(image.Save("no folder/a.png")) && FAILED(image.Save("a.unknown")) &&
+                FAILED(image.Save("a.png", IID_IUnknown)) && FAILED(image.Save(static_cast<LPCTSTR>(nullptr))) &&
+                FAILED(image.Save(static_cast<IStream*>(nullptr), Gdiplus::ImageFormatPNG)));
+    image.Destroy();
+    Picture target(2, 2);
+    EXPECT_TRUE(image.IsNull() && FAILED(image.Save("a.png")) && !image.Draw(target.dc(), 0, 0) &&
+                image.GetDC() == nullptr && image.GetBits() == nullptr && image.GetPixel(0, 0) == CLR_INVALID &&
+                image.Detach() == nullptr && !image.AlphaBlend(target.dc(), 0, 0));
+    image.ReleaseDC();
+}
+
+TEST_F(AfxImage, PixelsComeBackFromFiles) {
+    const struct {
+        const char* name;
+        int depth, comes_with; // 0: as the platform will
+        const GUID& type = GUID_NULL;
+    } files[] = {
+        {"a.bmp", 24, 24},
+        {"a.bmp", 16, 0},
+        {"a.bmp", 8, 8},
+        {"a.bmp", 4, 4},
+        {"a.bmp", 32, 32},
+        {"a.png", 24, 24},
+        {"a.png", 8, 8},
+        {"a.png", 4, 4},
+        {"a.GIF", 8, 8},
+        {"a.gif", 24, 8},
+        {"a.tif", 24, 24},
+        {"a", 24, 24},
+        {"b.xyz", 24, 24, Gdiplus::ImageFormatPNG},
+        {"Caf\xe9.png", 24, 24},
+    };
+    for (const auto& file : files)
+        for (const int height : {3, -3}) {
+            CImage image, back;
+            ASSERT_TRUE(image.Create(5, height, file.depth));
+            paint(image);
+            ASSERT_EQ(image.Save(file.name, file.type), S_OK) << file.name << file.depth;
+            EXPECT_EQ(shown(image), figure);
+            ASSERT_EQ(back.Load(file.name), S_OK) << file.name;
+            EXPECT_EQ(shown(back), figure) << file.name << ' ' << file.depth << ' ' << height;
+            EXPECT_TRUE(file.comes_with == 0 || back.GetBPP() == file.comes_with) << file.name;
+            EXPECT_LT(back.GetPitch(), 0) << "the lowest row comes first";
+            EXPECT_EQ(back.Load(file.name), S_OK) << "in place of what was there";
+        }
+    EXPECT_EQ(text_of("a").substr(0, 2), "BM");
+    EXPECT_EQ(text_of("b.xyz").substr(1, 3), "PNG");
+}
+
+TEST_F(AfxImage, WhatGdiPlusCannotReadIsSavedByItsColours) {
+    constexpr DWORD masks[] = {0x0F, 0xF0, 0xF00};
+    CImage masked, device, back;
+    ASSERT_TRUE(masked.CreateEx(5, 3, 16, BI_BITFIELDS, masks));
+    paint(masked);
+    CWindowDC screen(nullptr);
+    device.Attach(::CreateCompatibleBitmap(screen, 5, 3));
+    paint(device);
+    EXPECT_TRUE(!device.IsDIBSection() && device.GetBits() == nullptr && device.GetPitch() == 0);
+    for (const CImage* image : {&masked, &device}) {
+        ASSERT_EQ(image->Save("a.bmp"), S_OK);
+        ASSERT_EQ(back.Load("a.bmp"), S_OK);
+        EXPECT_EQ(shown(back), figure);
+    }
+    CImage photo; // rounded
+    ASSERT_TRUE(photo.Create(16, 16, 24));
+    for (int i = 0; i < 256; ++i)
+        photo.SetPixel(i % 16, i / 16, i < 128 ? red : blue);
+    ASSERT_TRUE(photo.Save("a.jpg") == S_OK && back.Load("a.jpg") == S_OK);
+    EXPECT_TRUE(GetRValue(back.GetPixel(3, 2)) > 230 && GetBValue(back.GetPixel(3, 13)) > 230);
+}
+
+TEST_F(AfxImage, StreamsHoldThemToo) {
+    IStream* stream = nullptr;
+    ASSERT_EQ(::CreateStreamOnHGlobal(nullptr, TRUE, &stream), S_OK);
+    CImage image;
+    ASSERT_TRUE(image.Create(5, 3, 24));
+    paint(image);
+    EXPECT_EQ(image.Save(stream, Gdiplus::ImageFormatPNG), S_OK);
+    EXPECT_TRUE(FAILED(image.Save(stream, GUID_NULL))) << "a stream has no name";
+    ATL::CImage back;
+    stream->Seek({}, STREAM_SEEK_SET, nullptr);
+    EXPECT_EQ(back.Load(stream), S_OK);
+    EXPECT_EQ(shown(back), figure);
+    EXPECT_EQ(stream->Release(), 0u) << "nobody keeps it";
+}
+
+void set_argb(CImage& image, int x, DWORD colour) {
+    *static_cast<DWORD*>(image.GetPixelAddress(x, 0)) = colour;
+}
+
+TEST_F(AfxImage, AlphaChannelsBlend) {
+    CImage image, loaded;
+    ASSERT_TRUE(image.Create(3, 1, 32, CImage::createAlphaChannel));
+    set_argb(image, 0, 0xFFFF0000), set_argb(image, 1, 0x80800000), set_argb(image, 2, 0);
+    Picture seen(3, 1);
+    seen.clear(blue);
+    EXPECT_TRUE(image.Draw(seen.dc(), 0, 0));
+    EXPECT_TRUE(seen.at(0, 0) == red && seen.at(2, 0) == blue);
+    EXPECT_NEAR(GetRValue(seen.at(1, 0)), 128, 1);
+    EXPECT_NEAR(GetBValue(seen.at(1, 0)), 127, 1);
+    seen.clear(blue);
+    EXPECT_TRUE(image.AlphaBlend(seen.dc(), 0, 0, 0));
+    EXPECT_EQ(seen.count(blue), 3) << "nothing of it";
+
+    set_argb(image, 1, 0x80FF8001), set_argb(image, 2, 0x00FFFFFF);
+    ASSERT_TRUE(image.Save("a.png") == S_OK && loaded.Load("a.png") == S_OK);
+    EXPECT_EQ(loaded.GetPixel(1, 0), RGB(255, 128, 1)) << "as it stands in the file";
+    loaded.SetPixel(0, 0, green);
+    seen.clear(blue);
+    EXPECT_TRUE(loaded.Draw(seen.dc(), 0, 0));
+    EXPECT_TRUE(seen.at(0, 0) == green && seen.at(2, 0) == blue) << "clear white adds nothing";
+    EXPECT_NEAR(GetRValue(seen.at(1, 0)), 128, 1);
+    EXPECT_NEAR(GetGValue(seen.at(1, 0)), 64, 1);
+    EXPECT_EQ(*static_cast<DWORD*>(loaded.GetPixelAddress(1, 0)), 0x80FF8001) << "drawing left it alone";
+    set_argb(loaded, 1, 0x80804000); // as programs do that know the platform's rule
+    seen.clear(0);
+    EXPECT_TRUE(loaded.Draw(seen.dc(), 0, 0));
+    EXPECT_NEAR(GetGValue(seen.at(1, 0)), 64, 1) << "multiplied once";
+}
+
+TEST_F(AfxImage, TransparentColoursLetTheGroundThrough) {
+    CImage image, back;
+    ASSERT_TRUE(image.Create(5, 3, 8));
+    paint(image);
+    Picture seen(5, 3);
+    EXPECT_FALSE(image.TransparentBlt(seen.dc(), 0, 0, 5, 3)) << "it has none";
+    const RGBQUAD violet{255, 0, 255, 0};
+    image.SetColorTable(4, 1, &violet);
+    image.SetTransparentColor(4);
+    ASSERT_TRUE(image.Save("a.png") == S_OK && back.Load("a.png") == S_OK);
+    for (const CImage* drawn : {&image, &back}) {
+        seen.clear(white);
+        EXPECT_TRUE(drawn->Draw(seen.dc(), 0, 0));
+        EXPECT_EQ(shown(seen), figure);
+    }
+    seen.clear(green);
+    EXPECT_TRUE(image.TransparentBlt(seen.dc(), 0, 0, 5, 3, red));
+    EXPECT_EQ(seen.at(0, 2), green) << "the colour asked for";
+    EXPECT_EQ(seen.at(4, 2), RGB(255, 0, 255));
+}
+
+TEST_F(AfxImage, DrawsIntoRectangles) {
+    CImage image;
+    ASSERT_TRUE(image.Create(5, 3, 24));
+    paint(image);
+    CBitmap mask;
+    constexpr WORD left_two[] = {0xC000 >> 8, 0xC000 >> 8, 0xC000 >> 8};
+    mask.CreateBitmap(5, 3, 1, 1, left_two);
+    const RECT source{1, 1, 3, 3}, place{2, 0, 4, 2}, large{2, 0, 6, 4};
+    const POINT at{2, 0}, from{1, 1}, corners[] = {{2, 0}, {4, 0}, {2, 2}};
+    constexpr DWORD keep = MAKEROP4(SRCCOPY, 0x00AA0029);
+    const std::string part = "...w....\n..wr....\n........\n........\n",
+                      doubled = "....ww..\n....ww..\n..wwrr..\n..wwrr..\n",
+                      whole = "..rgbww.\n..b.wwr.\n..gwr...\n........\n",
+                      masked = "..rg....\n..b.....\n..gw....\n........\n";
+    const struct {
+        const std::string& wanted;
+        std::function<BOOL(HDC)> draw;
+    } ways[] = {
+        {whole, [&](HDC dc) { return image.Draw(dc, 2, 0); }},
+        {whole, [&](HDC dc) { return image.Draw(dc, at); }},
+        {whole, [&](HDC dc) { return image.Draw(dc, 2, 0, 5, 3); }},
+        {whole, [&](HDC dc) { return image.Draw(dc, CRect(2, 0, 7, 3)); }},
+        {doubled, [&](HDC dc) { return image.Draw(dc, large, source); }},
+        {part, [&](HDC dc) { return image.Draw(dc, 2, 0, 2, 2, 1, 1, 2, 2); }},
+        {whole, [&](HDC dc) { return image.BitBlt(dc, 2, 0); }},
+        {whole, [&](HDC dc) { return image.BitBlt(dc, at); }},
+        {part, [&](HDC dc) { return image.BitBlt(dc, place, from); }},
+        {part, [&](HDC dc) { return image.BitBlt(dc, 2, 0, 2, 2, 1, 1, SRCPAINT); }},
+        {whole, [&](HDC dc) { return image.StretchBlt(dc, 2, 0, 5, 3); }},
+        {whole, [&](HDC dc) { return image.StretchBlt(dc, CRect(2, 0, 7, 3)); }},
+        {doubled, [&](HDC dc) { return image.StretchBlt(dc, large, source); }},
+        {whole, [&](HDC dc) { return image.TransparentBlt(dc, CRect(2, 0, 7, 3), RGB(1, 2, 3)); }},
+        {part, [&](HDC dc) { return image.TransparentBlt(dc, place, source, RGB(1, 2, 3)); }},
+        {whole, [&](HDC dc) { return image.AlphaBlend(dc, at); }},
+        {part, [&](HDC dc) { return image.AlphaBlend(dc, place, source); }},
+        {masked, [&](HDC dc) { return image.MaskBlt(dc, 2, 0, mask, keep); }},
+        {masked, [&](HDC dc) { return image.MaskBlt(dc, at, mask, keep); }},
+        {part, [&](HDC dc) { return image.MaskBlt(dc, place, from, mask, CPoint(0, 0), keep); }},
+        {part, [&](HDC dc) { return image.PlgBlt(dc, corners, source); }},
+    };
+    for (const auto& way : ways) {
+        Picture seen(8, 4);
+        EXPECT_TRUE(way.draw(seen.dc()));
+        EXPECT_EQ(shown(seen), way.wanted) << &way - ways;
+    }
+    EXPECT_FALSE(image.PlgBlt(Picture(2, 2).dc(), nullptr));
+    EXPECT_FALSE(image.Draw(nullptr, 0, 0));
+}
+
+TEST_F(AfxImage, ItsContextIsCounted) {
+    CImage image;
+    ASSERT_TRUE(image.Create(2, 2, 24));
+    const HDC dc = image.GetDC();
+    EXPECT_EQ(image.GetDC(), dc);
+    CDC::FromHandle(dc)->FillSolidRect(0, 0, 2, 2, red);
+    image.ReleaseDC();
+    EXPECT_EQ(::GetCurrentObject(dc, OBJ_BITMAP), static_cast<HBITMAP>(image)) << "the first still holds it";
+    EXPECT_EQ(image.GetPixel(1, 1), red);
+    image.ReleaseDC();
+    image.ReleaseDC();
+    CDC other;
+    other.CreateCompatibleDC(nullptr);
+    const HGDIOBJ before = ::SelectObject(other, image);
+    ASSERT_NE(before, nullptr) << "it is free again";
+    Picture target(2, 2);
+    EXPECT_TRUE(image.GetDC() == nullptr && !image.Draw(target.dc(), 0, 0));
+    ::SelectObject(other, before);
+    image.GetDC(), image.GetDC();
+    const HBITMAP bitmap = image.Detach();
+    EXPECT_TRUE(image.IsNull() && image.GetWidth() == 0 && image.GetDC() == nullptr);
+    image.Attach(bitmap, CImage::DIBOR_TOPDOWN);
+    EXPECT_TRUE(image.GetPitch() == 8 && image.GetDC() != nullptr) << "free, too";
+}
+
+TEST_F(AfxImage, ComesFromResources) {
+    CImage image;
+    image.LoadFromResource(::GetModuleHandle(nullptr), IDB_UP);
+    CBitmap same;
+    ASSERT_TRUE(same.LoadBitmap(IDB_UP) && image.IsDIBSection());
+    CDC dc;
+    dc.CreateCompatibleDC(nullptr);
+    CBitmap* before = dc.SelectObject(&same);
+    EXPECT_TRUE(image.GetWidth() > 0 && image.GetHeight() > 0);
+    for (int y = 0; y < image.GetHeight(); ++y)
+        for (int x = 0; x < image.GetWidth(); ++x)
+            EXPECT_EQ(image.GetPixel(x, y), dc.GetPixel(x, y)) << x << ' ' << y;
+    dc.SelectObject(before);
+}
+
+TEST_F(AfxImage, DamagedFilesAreRefusedOrShorter) {
+    CImage image;
+    ASSERT_TRUE(image.Create(40, 30, 8));
+    for (const char* name : {"a.bmp", "a.png", "a.gif", "a.jpg", "a.tif"}) {
+        ASSERT_EQ(image.Save(name), S_OK);
+        const std::string whole = text_of(name);
+        Random random(5);
+        for (int i = 0; i < 60; ++i) {
+            std::string bytes = whole;
+            if (i % 2 == 0)
+                bytes.resize(random.upto(static_cast<int>(bytes.size()) - 1));
+            for (int changes = i % 3; changes > 0 && !bytes.empty(); --changes)
+                bytes[random.upto(static_cast<int>(std::min<std::size_t>(bytes.size(), 64)) - 1)] ^=
+                    static_cast<char>(1 << random.upto(7));
+            std::ofstream("damaged", std::ios::binary) << bytes;
+            CImage read;
+            const HRESULT result = read.Load("damaged");
+            EXPECT_EQ(SUCCEEDED(result), !read.IsNull()) << name << i;
+            read.GetPixel(read.GetWidth() - 1, read.GetHeight() - 1);
+        }
+    }
+    std::string tall = text_of("a.bmp");
+    tall[25] ^= 0x20;
+    std::ofstream("damaged", std::ios::binary) << tall;
+    EXPECT_EQ(image.Load("damaged"), E_OUTOFMEMORY);
+}
+
+TEST_F(AfxImage, LivesLeaveNothing) {
+    CImage kept;
+    ASSERT_TRUE(kept.Create(5, 3, 32, CImage::createAlphaChannel));
+    ASSERT_TRUE(kept.Save("a.png") == S_OK && kept.Create(5, 3, 8) && kept.Save("a.gif") == S_OK);
+    std::ofstream("damaged.png", std::ios::binary) << text_of("a.png").substr(0, 60);
+    Picture target(5, 3);
+    const auto live = [&](int) {
+        CImage image, other;
+        for (const char* name : {"a.png", "a.gif", "a.png"})
+            ASSERT_EQ(image.Load(name), S_OK) << name;
+        image.Load("damaged.png");
+        EXPECT_TRUE(image.Draw(target.dc(), 0, 0) && image.Save("b.bmp") == S_OK);
+        image.GetDC();
+        EXPECT_TRUE(other.Create(3, 3, 8));
+        other.LoadFromResource(::GetModuleHandle(nullptr), IDB_UP);
+        other.GetDC();
+        ::DeleteObject(other.Detach());
+        CImage::ReleaseGDIPlus();
+    };
+    for (int i = 0; i < 5; ++i)
+        live(i);
+    const Counts before;
+    for (int i = 0; i < 100; ++i)
+        live(i);
+    EXPECT_LT(before.grown(), 5);
+}
+
+} // namespace
