@@ -50,6 +50,7 @@
 #include <type_traits>
 
 // The platform's macros of these names would take members for them.
+#undef DocumentEvent
 #undef GetNextWindow
 #undef GetCurrentTime
 inline HWND GetNextWindow(HWND hWnd, UINT nDirection) {
