@@ -47,6 +47,38 @@ TEST(GaugeModel, EveryKeyMarksItsPartForRepaint) {
     EXPECT_TRUE(model.no_title && !model.bar_title && !model.test_mode && model.border_type == 3 && model.type == -1);
 }
 
+TEST(GaugeModel, EveryCallTellsWhatIsOutOfDate) {
+    const std::pair<int, void (*)(GaugeModel&)> calls[] = {
+        {repaint_all, [](GaugeModel& m) { m.set_range(0, 101); }},
+        {repaint_all, [](GaugeModel& m) { m.set_titles("a", "b"); }},
+        {repaint_all, [](GaugeModel& m) { m.clear(); }},
+        {repaint_all, [](GaugeModel& m) { m.switch_view(); }},
+        {repaint_face, [](GaugeModel& m) { m.set_type(1); }},
+        {repaint_value, [](GaugeModel& m) { m.clear_marks(); }},
+        {repaint_value, [](GaugeModel& m) { m.add_mark(5, 2); }},
+    };
+    for (const auto& [mask, call] : calls) {
+        GaugeModel model = model_of({":CURVAL=90", ":SETMARK=9,RED"});
+        model.set_current_value(20);
+        model.repaint_mask = 0;
+        const unsigned revision = model.face_revision;
+        call(model);
+        EXPECT_EQ(model.repaint_mask, mask);
+        EXPECT_GT(model.face_revision, revision);
+        const bool new_scale = model.maximum != 100;
+        EXPECT_EQ(model.history.highest() == 90 && model.has_previous, !new_scale && model.current == 20);
+    }
+    GaugeModel model = model_of({":ID=pump", ":TYPE=TURNKNOB", ":SETMARK=9,RED"});
+    model.set_range(-5, 100);
+    model.switch_view(); // the last one
+    model.clear_marks();
+    EXPECT_TRUE(model.type == 0 && field_text(model.id) == "pump" && model.minimum == -5);
+    EXPECT_TRUE(model.mark_values[0] == 0 && model.mark_colours[0] == 0);
+    model.type = gauge_type_count - 2;
+    model.switch_view();
+    EXPECT_EQ(model.type, gauge_type_count - 1);
+}
+
 TEST(GaugeModel, ScriptClampsWhereSetterIgnores) {
     GaugeModel model = model_of({":CURVAL=500", ":MINVAL=1000", ":MAXVAL=10"});
     EXPECT_EQ(model.current, 100); // clamped against the range of before
