@@ -101,6 +101,16 @@ TEST(SashModel, KeepsWhatItIsToldThroughSizes) {
     sash.set_keeps(Keeps::second);
     sash.set_second(95);
     EXPECT_EQ(sash.position(), 105);
+    void (*const sets[])(SashModel&) = {[](SashModel& s) { s.set_position(50); },
+                                        [](SashModel& s) { s.set_second(100); },
+                                        [](SashModel& s) { s.set_share(0.25); }};
+    for (const auto set : sets) {
+        sash.fold(1);
+        set(sash);
+        EXPECT_TRUE(sash.folded() == 0 && sash.position() > 0);
+    }
+    sash.resize(405);
+    EXPECT_NEAR(sash.position(), 250, 1) << "the second's length stays as it was when the share was asked for";
 }
 
 TEST(FrameModel, LaysOutBorderTitleAndContentAtAnySize) {
