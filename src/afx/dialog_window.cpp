@@ -1,6 +1,7 @@
 // What every window that is made from a dialog template, or holds controls, shares.
 #include "afx_module.h"
 #include "afx_wnd.h"
+#include "afxlayout.h"
 #include "afxmsg_.h"
 #include "afxpriv.h"
 
@@ -110,6 +111,14 @@ BOOL CWnd::ExecuteDlgInit(LPVOID lpResource) {
         return FALSE;
     SendMessageToDescendants(WM_INITIALUPDATE, 0, 0, FALSE, FALSE);
     return TRUE;
+}
+
+BOOL CWnd::LoadDynamicLayoutResource(LPCTSTR lpszResourceName) {
+    HINSTANCE module = nullptr;
+    const resource_data data =
+        lpszResourceName != nullptr ? find_data(lpszResourceName, "AFX_DIALOG_LAYOUT", module) : resource_data{};
+    InitDynamicLayout();
+    return CMFCDynamicLayout::LoadResource(this, const_cast<BYTE*>(data.bytes), data.size);
 }
 
 void CWnd::UpdateDialogControls(CCmdTarget* pTarget, BOOL bDisableIfNoHndler) {

@@ -1,4 +1,3 @@
-#include "afx_module.h"
 #include "afxlayout.h"
 
 #include <algorithm>
@@ -10,8 +9,6 @@ namespace {
 
 using MoveSettings = CMFCDynamicLayout::MoveSettings;
 using SizeSettings = CMFCDynamicLayout::SizeSettings;
-
-constexpr LPCTSTR resource_type = "AFX_DIALOG_LAYOUT";
 
 // The share of a change; what is beyond the platform's coordinates stays at their end.
 int moved_by(int from, int change, int ratio) {
@@ -192,13 +189,4 @@ void CWnd::ResizeDynamicLayout() {
         return;
     InitDynamicLayout();
     m_pDynamicLayout->Adjust();
-}
-
-BOOL CWnd::LoadDynamicLayoutResource(LPCTSTR lpszResourceName) {
-    const HINSTANCE module = AfxFindResourceHandle(lpszResourceName, resource_type);
-    const HRSRC found = lpszResourceName != nullptr ? ::FindResource(module, lpszResourceName, resource_type) : nullptr;
-    const HGLOBAL loaded = found != nullptr ? ::LoadResource(module, found) : nullptr;
-    InitDynamicLayout();
-    return loaded != nullptr &&
-           CMFCDynamicLayout::LoadResource(this, ::LockResource(loaded), ::SizeofResource(module, found));
 }

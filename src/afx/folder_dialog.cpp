@@ -1,5 +1,6 @@
 #include "afxdlgs.h"
 #include "atlconv.h"
+#include "com_ptr.h"
 #include "modal_parent.h"
 
 #include <memory>
@@ -8,11 +9,6 @@
 IMPLEMENT_DYNAMIC(CFolderPickerDialog, CFileDialog)
 
 namespace {
-
-struct release {
-    void operator()(IUnknown* object) const { object->Release(); }
-};
-template <class Interface> using com_ptr = std::unique_ptr<Interface, release>;
 
 // COM in this thread, also where the program has none.
 class com_use {

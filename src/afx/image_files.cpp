@@ -1,5 +1,6 @@
 #include "atlimage.h"
 #include "atlconv.h"
+#include "com_ptr.h"
 
 #include <algorithm>
 #include <climits>
@@ -59,11 +60,6 @@ struct dispose {
     void operator()(Gdiplus::GpBitmap* bitmap) const { flat::GdipDisposeImage(bitmap); }
 };
 using bitmap_ptr = std::unique_ptr<Gdiplus::GpBitmap, dispose>;
-
-struct release {
-    void operator()(IUnknown* object) const { object->Release(); }
-};
-template <class Interface> using com_ptr = std::unique_ptr<Interface, release>;
 
 HRESULT read_all(IStream& stream, std::vector<BYTE>& bytes) {
     constexpr std::size_t piece = 0x10000;
