@@ -82,20 +82,4 @@ inline CStringW operator+(const CStringW& a, wchar_t b) {
     return CStringW(a) += b;
 }
 
-#define AFX_COMPARE_STRINGS(op)                                                                                        \
-    inline bool operator op(const CStringW& a, const CStringW& b) {                                                    \
-        return a.Compare(b) op 0;                                                                                      \
-    }                                                                                                                  \
-    inline bool operator op(const CStringW& a, LPCWSTR b) {                                                            \
-        return a.Compare(b) op 0;                                                                                      \
-    }                                                                                                                  \
-    inline bool operator op(LPCWSTR a, const CStringW& b) {                                                            \
-        return 0 op b.Compare(a);                                                                                      \
-    }
-AFX_COMPARE_STRINGS(==)
-AFX_COMPARE_STRINGS(!=)
-AFX_COMPARE_STRINGS(<)
-AFX_COMPARE_STRINGS(>)
-AFX_COMPARE_STRINGS(<=)
-AFX_COMPARE_STRINGS(>=)
-#undef AFX_COMPARE_STRINGS
+AFX_COMPARE_STRINGS(CStringW, LPCWSTR)

@@ -197,23 +197,24 @@ inline CString AFXAPI operator+(wchar_t a, const CString& b) {
     return CString(a) + b;
 }
 
-#define AFX_COMPARE_STRINGS(op)                                                                                        \
-    inline bool operator op(const CString& a, const CString& b) {                                                      \
+#define AFX_COMPARE_BY(op, text, letters)                                                                              \
+    inline bool operator op(const text& a, const text& b) {                                                            \
         return a.Compare(b) op 0;                                                                                      \
     }                                                                                                                  \
-    inline bool operator op(const CString& a, LPCSTR b) {                                                              \
+    inline bool operator op(const text& a, letters b) {                                                                \
         return a.Compare(b) op 0;                                                                                      \
     }                                                                                                                  \
-    inline bool operator op(LPCSTR a, const CString& b) {                                                              \
+    inline bool operator op(letters a, const text& b) {                                                                \
         return 0 op b.Compare(a);                                                                                      \
     }
-AFX_COMPARE_STRINGS(==)
-AFX_COMPARE_STRINGS(!=)
-AFX_COMPARE_STRINGS(<)
-AFX_COMPARE_STRINGS(>)
-AFX_COMPARE_STRINGS(<=)
-AFX_COMPARE_STRINGS(>=)
-#undef AFX_COMPARE_STRINGS
+#define AFX_COMPARE_STRINGS(text, letters)                                                                             \
+    AFX_COMPARE_BY(==, text, letters)                                                                                  \
+    AFX_COMPARE_BY(!=, text, letters)                                                                                  \
+    AFX_COMPARE_BY(<, text, letters)                                                                                   \
+    AFX_COMPARE_BY(>, text, letters)                                                                                   \
+    AFX_COMPARE_BY(<=, text, letters)                                                                                  \
+    AFX_COMPARE_BY(>=, text, letters)
+AFX_COMPARE_STRINGS(CString, LPCSTR)
 
 inline bool operator==(const CString& a, char b) {
     return a.GetLength() == 1 && a[0] == b;
@@ -255,3 +256,5 @@ requires(std::is_base_of_v<CString, Values> || ...) inline int _snprintf_s(char 
 }
 
 #include "afx_wide_string.h"
+#undef AFX_COMPARE_STRINGS
+#undef AFX_COMPARE_BY
