@@ -143,22 +143,6 @@ TEST(GaugeViews, ZonesAndValueStandWhereTheScaleSays) {
         }
 }
 
-TEST(GaugeViews, TheNeedleIsBrightWhereTheLightComesFrom) {
-    for (const int value : {40, 150}) {
-        const Scene needle(zoned(gauge_analog, value), stage, stage);
-        std::vector<std::pair<float, int>> halves; // how far to the top left, and how bright
-        for (const auto& f : needle.value.figures())
-            if (f.kind == Picture::Kind::polygon && f.count == 5) {
-                float aside = 0;
-                for (std::uint32_t i = 0; i < f.count; ++i)
-                    aside += needle.value.points(f)[i].y - needle.value.points(f)[i].x;
-                halves.emplace_back(aside, brightness(f.colour));
-            }
-        ASSERT_EQ(halves.size(), 2u);
-        EXPECT_EQ(halves[0].first > halves[1].first, halves[0].second > halves[1].second) << value;
-    }
-}
-
 TEST(GaugeViews, DigitsHaveTheirSegments) {
     const std::string drawn_digits[] = {" _ | ||_|", "     |  |", " _  _||_ ", " _  _| _|", "   |_|  |",
                                         " _ |_  _|", " _ |_ |_|", " _   |  |", " _ |_||_|", " _ |_| _|"};
@@ -244,43 +228,6 @@ TEST(GaugeViews, BordersTakeTheLightFromTheTopLeft) {
     }
 }
 
-TEST(GaugeViews, TextsStandAtTheirPlaces) {
-    for (int type = 0; type < gauge_type_count; ++type) {
-        const Scene scene(zoned(type, 130, {":NOTITLE=0", ":TITLE=Flow", ":UNITTITLE=bar", ":CLRTEXT=MAGENTA"}), stage,
-                          stage);
-        const BoxF strip = hull(hull(extent(scene.face, blue), extent(scene.face, green)), extent(scene.face, red));
-        const Writing* number = nullptr;
-        float end = 0;
-        const auto all = writings_of(scene);
-        for (const Writing& w : all) {
-            const PointF at = w.bounds.centre();
-            SCOPED_TRACE(testing::Message() << type << w.text);
-            if (w.text == "Flow") {
-                EXPECT_TRUE(std::abs(at.x - 120) < 2 && at.y > 210 && w.colour == 0xFF00FF);
-            } else if (w.text == "130") {
-                EXPECT_EQ(w.colour, red); // the value's zone
-                number = &w;
-            } else if (w.text == " bar" && number) {
-                EXPECT_NEAR(w.bounds.left, number->bounds.right - 2, 2);
-                EXPECT_FALSE(alike(w.colour, ground_for(red)));
-            } else if (w.on_face && std::isdigit(static_cast<unsigned char>(w.text[0]))) {
-                const float value = std::stof(w.text);
-                const PointF raised = {at.x, at.y + (type == gauge_analog ? 12.f : 11.f)};
-                EXPECT_EQ(w.colour, 0xFF00FFu);
-                if (type == gauge_percent_bar)
-                    EXPECT_NEAR(at.x, strip.left + strip.width() * value / 200, 1.5f);
-                else if (type == gauge_analog || type == gauge_turn_knob)
-                    EXPECT_NEAR(std::remainder(angle_of(raised) - angle_at(value), 360.f), 0, 8);
-                else
-                    EXPECT_NEAR(at.y, strip.bottom + strip.height() * value / 200, 3);
-                if (type == gauge_thermometer || type == gauge_peak_line) { // in a column
-                    EXPECT_TRUE(end == w.bounds.right || !std::exchange(end, w.bounds.right));
-                }
-            }
-        }
-    }
-}
-
 TEST(GaugeViews, PeakLineKeepsItsCourseColumnByColumn) {
     GaugeModel model = zoned(gauge_peak_line, 10);
     model.clear();
@@ -329,21 +276,6 @@ TEST(GaugeViews, AChangedValueChangesNoFigureOfOthers) {
         model.set_current_value(85);
         EXPECT_EQ(Scene(model, 200, 200).value.figures().size(), before) << type;
     }
-}
-
-TEST(GaugeViews, SmallAndTallScalesKeepTicksAndProportions) {
-    const auto boxes = [](int type, int width, int height, const auto& wanted) {
-        const Scene scene(model_of(type, {":CLRTEXT=BLUE", ":CLEARMARKS", ":NOTITLE=1"}), width, height);
-        return std::ranges::count_if(scene.face.figures(), wanted);
-    };
-    const auto is_tick = [](const auto& f) {
-        return f.kind == Picture::Kind::box && f.colour == 0xFF0000 &&
-               std::min(f.bounds.width(), f.bounds.height()) == 1;
-    };
-    for (const int type : {gauge_percent_bar, gauge_peak_line})
-        EXPECT_GE(boxes(type, 44, 40, is_tick), 5) << type; // without labels
-    const auto is_thick_zone = [](const auto& f) { return f.colour == 0x0000FF && f.bounds.height() > 6; };
-    EXPECT_EQ(boxes(gauge_percent_bar, 60, 320, is_thick_zone), 0);
 }
 
 // A polygon on a canvas of its own, drawn part by part.
