@@ -9,6 +9,7 @@
 #include <climits>
 #include <cmath>
 #include <random>
+#include <sstream>
 
 using namespace wnt;
 using Pair = std::pair<int, int>;
@@ -211,6 +212,48 @@ TEST(AxisTicks, AreNeverMoreThanPixels) {
     axis.grid = {100, 0, 1.0f, 0.0f, 1.0f};
     const auto labelled = [](const AxisTick& tick) { return !tick.label.empty(); };
     EXPECT_EQ(std::ranges::count_if(value_ticks(axis, no_texts), labelled), 20);
+}
+
+// Each tick's pixel, a short or a long stroke, and its label.
+std::string shown(const std::vector<AxisTick>& ticks) {
+    std::ostringstream text;
+    for (const AxisTick& t : ticks)
+        text << t.pixel << (t.length > 4 ? "|" : "'") << t.label << " ";
+    return text.str();
+}
+
+TEST(AxisTicks, StandWithTheirLabels) {
+    const char* const names[] = {"Mon", "Tue", nullptr, "a"};
+    const auto texts = [&](std::int64_t i) { return names[i]; };
+    EXPECT_EQ(shown(value_ticks(axis_of(axis_bottom, 100, -1, 1), texts)),
+              "5' 10' 15' 20' 25|-0.5 30' 35' 40' 45' 50|0 55' 60' 65' 70' 75|0.5 80' 85' 90' 95' 100|1 ");
+    EXPECT_EQ(
+        shown(value_ticks(axis_of(axis_left, 100, -7, 114), texts)),
+        "95|0 91' 87' 83' 79' 75|25 70' 66' 62' 58' 54|50 50' 46' 41' 37' 33|75 29' 25' 21' 17' 13|100 8' 4' -1' ");
+    EXPECT_EQ(shown(value_ticks(axis_of(axis_left, 40), texts)), "37' 33' 29' 25' 21|50 17' 13' 9' 5' 1| ");
+    AxisModel axis = axis_of(axis_bottom, 100, 7, 9);
+    axis.type = axis_text;
+    for (const int count : {4, 0}) {
+        axis.set_texts(count);
+        EXPECT_EQ(shown(value_ticks(axis, texts)), "0|Mon 25|Tue 50|No title specified 75|a ") << count;
+        EXPECT_TRUE(axis.tick_width() == 25 && axis.maximum == 4 && axis.grid.scale_lines == 4) << count;
+    }
+    AxisModel across = axis_of(axis_bottom, 200), up = axis_of(axis_left, 200);
+    for (AxisModel* each : {&across, &up})
+        each->set_time_range(40'000 * day, 40'003 * day);
+    EXPECT_EQ(shown(time_ticks(across)), "0|6.7.189 66|7.7.189 133|8.7.189 ");
+    EXPECT_EQ(shown(time_ticks(up)), "200|6.7.189 134|7.7.189 67|8.7.189 ");
+    EXPECT_TRUE(up.view_end.day == 9 && up.view_end.month == 7 && up.type == axis_numeric);
+    for (AxisModel* each : {&across, &up})
+        each->set_view_time({1, 1, 2026, 0, 0, 0, 0}, {1, 1, 2026, 0, 1, 0, 0});
+    EXPECT_EQ(shown(time_ticks(across)), "0' 0s 50'15s 100'30s 150'45s ");
+    EXPECT_EQ(shown(time_ticks(up)), "200' 150' 100' 50' ");
+    EXPECT_TRUE(up.view_start.year == 2026 && up.view_end.minute == 1 && up.type == axis_time);
+    EXPECT_THAT(
+        (std::vector{across.set_current_time(across.start_value), across.set_current_time(across.start_value + 1),
+                     across.set_current_time(across.end_value)}),
+        ElementsAre(-1, 0, 201));
+    EXPECT_EQ(across.last_converted, across.end_value);
 }
 
 TEST(AxisZoom, GripsAndLimitsOfTheSlider) {

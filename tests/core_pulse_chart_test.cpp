@@ -15,6 +15,7 @@
 #include <algorithm>
 #include <cmath>
 #include <fstream>
+#include <sstream>
 
 using namespace wnt;
 namespace fs = std::filesystem;
@@ -141,6 +142,33 @@ TEST(ChartLayout, NothingOverlapsAtAnySize) {
             ASSERT_TRUE(layout.left_axis.width() > 0 && layout.time_axis.width() > 0 && layout.scroll_bar.width() > 0);
         }
     }
+}
+
+std::string places(int width, int height) {
+    const ChartLayout l = lay_out_chart(width, height, {100, 20, 17, 16, true, true, true, {100, 120, 150}});
+    std::ostringstream text;
+    const std::pair<const char*, const PixelRect*> parts[] = {
+        {"title", &l.title},    {"legend", &l.legend},  {"left", &l.left_axis}, {"right", &l.right_axis},
+        {"time", &l.time_axis}, {"bar", &l.scroll_bar}, {"plot", &l.plot}};
+    for (const auto& [name, r] : parts)
+        if (*r != PixelRect())
+            text << name << " " << r->left << "," << r->top << "-" << r->right << "," << r->bottom << " ";
+    for (const PixelRect& r : l.entries)
+        text << r.left << "," << r.top << "-" << r.right << "," << r.bottom << " ";
+    return text.str();
+}
+
+TEST(ChartLayout, PlacesWhatHasRoom) {
+    EXPECT_EQ(places(400, 300), "title 6,6-394,26 legend 6,26-394,43 left 6,42-52,247 right 348,42-394,247 "
+                                "time 52,248-348,278 bar 52,278-348,294 plot 52,43-348,248 "
+                                "6,26-106,43 106,26-226,43 226,26-376,43 ");
+    EXPECT_EQ(places(300, 200), "title 6,6-294,26 legend 6,26-294,60 left 6,59-52,147 right 248,59-294,147 "
+                                "time 52,148-248,178 bar 52,178-248,194 plot 52,60-248,148 "
+                                "6,26-106,43 106,26-226,43 6,43-156,60 ");
+    EXPECT_EQ(places(121, 121), "title 6,6-115,26 left 6,25-52,84 time 52,85-115,115 plot 52,26-115,85 "
+                                "0,0-0,0 0,0-0,0 0,0-0,0 ");
+    EXPECT_EQ(places(60, 40), "plot 0,0-60,40 0,0-0,0 0,0-0,0 0,0-0,0 ");
+    EXPECT_EQ(places(-5, -5), "0,0-0,0 0,0-0,0 0,0-0,0 ");
 }
 
 struct PulseTransfer : OwnFolder {
