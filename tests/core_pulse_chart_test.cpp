@@ -218,7 +218,7 @@ TEST_F(PulseTransfer, WhatWasRecordedIsRead) {
     for (const std::vector<std::string>& others : {std::vector<std::string>{"Flow"}, {"Flow", "Level"}})
         EXPECT_NE(recorder.start("a.txt", others), ""); // whose records would be lost among them
     EXPECT_EQ(read("a.txt", false).size(), 5u);
-    EXPECT_NE(recorder.start("no such folder/a.txt", {"Flow"}), "");
+    EXPECT_EQ(recorder.start("no such folder/a.txt", {"Flow"}), "the file cannot be opened");
     EXPECT_FALSE(recorder.running());
     ASSERT_EQ(recorder.start("b.txt", {"Flow"}), "");
     EXPECT_EQ(recorder.start("c.txt", {"Flow"}), "file already open");
@@ -312,14 +312,15 @@ TEST_F(PulseTransfer, FilesFollowEachOtherBySizeAndDay) {
     recorder.stop();
     for (const std::string& name : files())
         EXPECT_LT(fs::file_size(name), 300u) << name;
-    recorder.set_parts(0, true);
+    recorder.set_parts(200, true);
     recorder.start("day.txt", {"Flow"});
     EXPECT_FALSE(fs::exists("day.txt"));
     EXPECT_FALSE(recorder.records(1)); // no curve of the file
-    recorder.put(0, 1, afternoon);
+    for (int i = 0; i < 10; ++i)
+        recorder.put(0, 1, afternoon);
     recorder.put(0, 1, afternoon + 86'400);
     EXPECT_EQ(fs::path(recorder.path()).filename(), "day-20261117.txt");
-    EXPECT_TRUE(fs::exists("day-20261116.txt"));
+    EXPECT_TRUE(fs::exists("day-20261116.txt") && fs::exists("day-20261116_2.txt"));
 }
 
 // What a disk refuses is not told by the file itself.
@@ -356,6 +357,12 @@ TEST_F(PulseTransfer, BrokenFilesGiveWhatCanBeRead) {
     std::ofstream("odd.txt") << "1\nFlow ;\n0;1.0;14:03:59;16/11/2026;\n0;2.0;99:99:99;99/99/2026;\n"
                                 "7;3.0;14:04:00;16/11/2026;\n0;4.0;14:04:01;16/11/2026;\n";
     EXPECT_EQ(read("odd.txt", false).size(), 2u); // an impossible date, and a curve that is not there
+    std::ofstream("junk.txt") << "1\nFlow ;\n0;1.0;14:03:59;16/11/2026;\njunk\n0;4.0;14:04:01;16/11/2026;\n";
+    PulseReader reader;
+    EXPECT_EQ(reader.open("junk.txt"), "");
+    EXPECT_FALSE(reader.read(9, [](int, std::int64_t, double value) { EXPECT_EQ(value, 1); }));
+    EXPECT_TRUE(reader.broken() && reader.records() == 1);
+    EXPECT_TRUE(reader.open("odd.txt").empty() && !reader.broken() && reader.records() == 0);
 }
 
 } // namespace
