@@ -244,15 +244,18 @@ TEST(AxisTicks, StandWithTheirLabels) {
     EXPECT_EQ(shown(time_ticks(across)), "0|6.7.189 66|7.7.189 133|8.7.189 ");
     EXPECT_EQ(shown(time_ticks(up)), "200|6.7.189 134|7.7.189 67|8.7.189 ");
     EXPECT_TRUE(up.view_end.day == 9 && up.view_end.month == 7 && up.type == axis_numeric);
+    across.resize(80, 40);
+    across.set_time_range(40'000 * day, 40'007 * day); // the first of them far enough from each other
+    EXPECT_EQ(shown(time_ticks(across)), "0|6.7.189 11| 22| 34| 45| 57|11.7.189 68| ");
     for (AxisModel* each : {&across, &up})
         each->set_view_time({1, 1, 2026, 0, 0, 0, 0}, {1, 1, 2026, 0, 1, 0, 0});
-    EXPECT_EQ(shown(time_ticks(across)), "0' 0s 50'15s 100'30s 150'45s ");
+    EXPECT_EQ(shown(time_ticks(across)), "0' 0s 20'15s 40'30s 60'45s ");
     EXPECT_EQ(shown(time_ticks(up)), "200' 150' 100' 50' ");
     EXPECT_TRUE(up.view_start.year == 2026 && up.view_end.minute == 1 && up.type == axis_time);
     EXPECT_THAT(
         (std::vector{across.set_current_time(across.start_value), across.set_current_time(across.start_value + 1),
                      across.set_current_time(across.end_value)}),
-        ElementsAre(-1, 0, 201));
+        ElementsAre(-1, 0, 81));
     EXPECT_EQ(across.last_converted, across.end_value);
 }
 

@@ -249,7 +249,7 @@ TEST(PulsePicture, FollowsAsIfDrawnAnew) {
         Random random(seed);
         std::vector<PulseSeries> series;
         for (int i = 0; i < 3; ++i)
-            series.emplace_back(random.one_in(2) ? 300 : 5000);
+            series.emplace_back(random.one_in(2) ? 30 : 5000);
         PlotScene scene;
         scene.columns = {200 + random.upto(5000), 20 + random.upto(200)};
         scene.height = 10 + random.upto(80);
@@ -279,6 +279,31 @@ TEST(PulsePicture, FollowsAsIfDrawnAnew) {
                 ASSERT_TRUE(std::equal(a.row(row), a.row(row) + a.width, b.row(row))) << seed << ' ' << step;
         }
     }
+}
+
+TEST(PulsePicture, ShowsGridBelowCurves) {
+    PulseSeries series(4);
+    PlotScene scene;
+    scene.columns = {100, 20};
+    scene.height = 5;
+    scene.background = '.', scene.grid = '+';
+    scene.grid_columns = {5, 12};
+    scene.grid_rows = {2};
+    scene.curves = {{&series, {0, 4, 5}, {.colour = 'c'}, 1000}};
+    PulsePicture picture;
+    std::string shown;
+    for (const int time : {5, 25, 50, 75, 95}) { // the first one is gone at the end
+        series.append(time, time / 25);
+        picture.show(scene);
+    }
+    for (int row = 0; row < 5; ++row)
+        shown.append(1, '\n').append(picture.canvas().row(row), picture.canvas().row(row) + 20);
+    EXPECT_EQ(shown, R"(
+.....+......+.......
+.....+......+ccccccc
++++++++++cccc+++++++
+.....+.cc...+.......
+.....cc.....+.......)");
 }
 
 TEST(PulsePicture, ALiveTickDrawsNewColumnsOnly) {
