@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 using namespace wnt;
 
 namespace {
@@ -62,6 +64,9 @@ TEST(TabsModel, SelectionStaysWithItsTabAndGoesToTheNearestEnabledOne) {
         EXPECT_EQ(texts(m), c.result) << c.what;
     }
     TabsModel m = four();
+    EXPECT_TRUE(m.move(0, 3) && m.move(3, 0) && m.enable(0, false) && m.enable(0, true) && m.set_text(0, "a") &&
+                m.set_tip(0, std::string(5000, 'x')) && m.at(0).tip.size() == TabsModel::longest_tip);
+    EXPECT_LT(m.at(0).id, m.at(1).id);
     EXPECT_FALSE(m.select(2) || m.select(-1) || m.select(4) || m.move(0, 4) || m.move(1, 1) || m.remove(4) ||
                  m.insert(-1, named("x")) || m.enable(9, true) || m.set_text(-1, "") || m.set_tip(4, ""));
     EXPECT_EQ(m.enabled_from(2, true), 3);
@@ -127,7 +132,7 @@ TEST(TabsModel, AScriptNamesTheTabsAndKeepsTheirPages) {
 TEST(TabsLayout, StandsAtEverySide) {
     constexpr TabsSizes sizes = {2, 12, 8, 3, 2, 6, 5, 10};
     const int lengths[] = {20, 30};
-    enum Part { strip, page, first, second, lifted, icon, close };
+    enum Part { strip, page, first, second, lifted, icon, text, close };
     constexpr TabsSide sides[] = {TabsSide::top, TabsSide::bottom, TabsSide::left, TabsSide::right};
     const PixelRect parts[][4] = {{{0, 0, 100, 12}, {0, 48, 100, 60}, {0, 0, 12, 60}, {88, 0, 100, 60}},   // strip
                                   {{1, 12, 99, 59}, {1, 1, 99, 48}, {12, 1, 99, 59}, {1, 1, 88, 59}},      // page
@@ -135,6 +140,7 @@ TEST(TabsLayout, StandsAtEverySide) {
                                   {{22, 2, 52, 11}, {22, 49, 52, 58}, {2, 22, 11, 52}, {89, 22, 98, 52}},  // second
                                   {{20, 0, 54, 12}, {20, 48, 54, 60}, {0, 20, 12, 54}, {88, 20, 100, 54}}, // lifted
                                   {{25, 3, 31, 9}, {25, 51, 31, 57}, {3, 43, 9, 49}, {91, 25, 97, 31}},    // icon
+                                  {{33, 2, 42, 11}, {33, 49, 42, 58}, {2, 32, 11, 41}, {89, 33, 98, 42}},  // text
                                   {{44, 4, 49, 9}, {44, 51, 49, 56}, {4, 25, 9, 30}, {91, 44, 96, 49}}};   // close
     for (int i = 0; i < 4; ++i) {
         SCOPED_TRACE(i);
@@ -149,9 +155,7 @@ TEST(TabsLayout, StandsAtEverySide) {
         EXPECT_EQ(l.lifted(1, sizes), parts[lifted][i]);
         EXPECT_EQ(l.parts(1, sizes, true, true).icon, parts[icon][i]);
         EXPECT_EQ(l.parts(1, sizes, true, true).close, parts[close][i]);
-        if (i == 0) {
-            EXPECT_EQ(l.parts(1, sizes, true, true).text.right, 42);
-        }
+        EXPECT_EQ(l.parts(1, sizes, true, true).text, parts[text][i]);
         EXPECT_FALSE(l.overflows());
         EXPECT_EQ(l.tab_at(two.left, two.top), 1);
         EXPECT_EQ(l.tab_at(50, 30), -1);
@@ -179,6 +183,19 @@ TEST(TabsLayout, ShowsWholeTabsAndTheOneThatIsWanted) {
     EXPECT_EQ(shown(109, 0, -1), std::pair(0, 3));
     EXPECT_EQ(shown(30, 0, 2), std::pair(2, 1)) << "cut to the room";
     EXPECT_EQ(shown(12, 0, 2), std::pair(0, 0));
+    EXPECT_EQ(lay_out_tabs(m, sizes, lengths, 109, 60, 0, -1).menu, (PixelRect{101, 2, 109, 10}));
+    m.overflow = TabsOverflow::scroll;
+    const TabsLayout l = lay_out_tabs(m, sizes, lengths, 110, 60, 0, -1);
+    EXPECT_TRUE(l.back == (PixelRect{94, 2, 102, 10}) && l.on == (PixelRect{102, 2, 110, 10}));
+}
+
+TEST(TabsLayout, SizesGrowWithTheScreen) {
+    const TabsSizes s = TabsSizes::at(150, 20);
+    EXPECT_EQ((std::array{s.lift, s.depth, s.button, s.pad, s.gap, s.icon, s.close, s.least}),
+              (std::array{3, 42, 27, 14, 9, 24, 21, 54}));
+    EXPECT_EQ(TabsSizes::at(100, 30).depth, 42);
+    EXPECT_TRUE(s.length(100, true, true) == 191 && s.length(100, false, true) == 158 &&
+                s.length(0, false, false) == 54);
 }
 
 // At any size, order of sizes and first tab: all within the strip, none over another, nothing turned round.
