@@ -292,6 +292,15 @@ TEST_F(AxisTest, DoubleClicksAreTold) {
     EXPECT_EQ(host_.notified.size(), 4u);
 }
 
+TEST_F(AxisTest, KnowsItsCurrentDay) {
+    short year = 0, month = 0, day = 0;
+    axis_.SetCurrentDay(2026, 11, 23);
+    axis_.GetCurrentDay(&year, &month, nullptr);
+    EXPECT_EQ(year, 0);
+    axis_.GetCurrentDay(&year, &month, &day);
+    EXPECT_EQ((std::array{year, month, day}), (std::array<short, 3>{2026, 11, 23}));
+}
+
 TEST_F(AxisTest, PropertiesShowAndChangeNothing) {
     size(300, 40);
     axis_.SetRange(0.0f, 50.0f);

@@ -134,6 +134,13 @@ TEST_F(FrameExTest, KeepsItsContentWhileFoldedOrHidden) {
     EXPECT_EQ(on_screen(child_).top, before.top);
     frame_.SendMessage(WM_KEYDOWN, VK_DOWN, 0);
     EXPECT_EQ(on_screen(child_).top, before.top - 16);
+    const int page = 150 - 2 - frame_.GetHeaderHeight();
+    for (const auto& [key, down] :
+         {std::pair{VK_UP, 0}, {VK_NEXT, page}, {VK_END, 400 - page}, {VK_PRIOR, 400 - 2 * page}}) {
+        frame_.SendMessage(WM_KEYDOWN, key, 0);
+        EXPECT_EQ(on_screen(child_).top, before.top - down) << key;
+    }
+    EXPECT_EQ(frame_.SendMessage(WM_GETDLGCODE), DLGC_WANTARROWS);
 }
 
 TEST_F(FrameExTest, MayBeDestroyedWhenItTells) {

@@ -2,7 +2,6 @@
 #include "widget_window.h"
 
 #include <random>
-#include <shlobj.h>
 
 namespace {
 
@@ -137,19 +136,10 @@ TEST_F(GaugeTest, LoadsScriptFiles) {
     EXPECT_GT(pixels_of(gauge_).count(RGB(0, 0, 255)), 1000); // the long line ended the reading, the bar is at 90
     for (const char* nothing : {"no such file", "\"", static_cast<const char*>(nullptr)})
         gauge_.LoadFromFile(nothing);
-    const char name[] = "gauge test.dat";
-    HGLOBAL file = ::GlobalAlloc(GHND, sizeof(DROPFILES) + sizeof name + 1);
-    auto* description = static_cast<DROPFILES*>(::GlobalLock(file));
-    description->pFiles = sizeof(DROPFILES);
-    std::copy_n(name, sizeof name, reinterpret_cast<char*>(description + 1));
-    ::GlobalUnlock(file);
     script({":CLEARMARKS"});
-    gauge_.SendMessage(WM_DROPFILES, reinterpret_cast<WPARAM>(file));
+    drop_file(gauge_, "gauge test.dat");
     EXPECT_GT(pixels_of(gauge_).count(RGB(0, 0, 255)), 1000);
-
-    HGLOBAL dropped = ::GlobalAlloc(GHND, sizeof(DROPFILES) + 2); // without a file
-    gauge_.SendMessage(WM_DROPFILES, reinterpret_cast<WPARAM>(dropped));
-    EXPECT_EQ(::GlobalFlags(dropped) & GMEM_INVALID_HANDLE, GMEM_INVALID_HANDLE); // released
+    EXPECT_EQ(::GlobalFlags(drop_file(gauge_, "")) & GMEM_INVALID_HANDLE, GMEM_INVALID_HANDLE);
     ::DeleteFileA("gauge test.dat");
 }
 

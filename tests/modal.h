@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <functional>
+#include <string>
 #include <utility>
 
 #include "thread_window.h"
@@ -28,4 +29,21 @@ private:
 /// The dialog of this thread that is shown; null while there is none.
 inline HWND shown_dialog() {
     return thread_window("#32770", true);
+}
+
+/// The entries of the menu that is shown, "*" before checked and "-" before grey ones; empty while there is none.
+inline std::string shown_menu() {
+    const HWND popup = ::FindWindowA("#32768", nullptr);
+    if (!popup || !::IsWindowVisible(popup))
+        return {};
+    const auto menu = reinterpret_cast<HMENU>(::SendMessageA(popup, MN_GETHMENU, 0, 0));
+    std::string texts;
+    for (int i = 0; i < ::GetMenuItemCount(menu); ++i) {
+        char text[64] = "";
+        ::GetMenuStringA(menu, i, text, sizeof text, MF_BYPOSITION);
+        const UINT state = ::GetMenuState(menu, i, MF_BYPOSITION);
+        texts += state & (MF_POPUP | MF_SEPARATOR) ? "" : state & MF_CHECKED ? "*" : state & MF_GRAYED ? "-" : "";
+        texts += text + std::string("|");
+    }
+    return texts;
 }

@@ -149,6 +149,7 @@ TEST_F(SurfaceTest, RoundFiguresKeepTheirBounds) {
         {"drawcircle", [](CWntOut& o) { o.drawcircle(40, 40, 20); }, {20, 60, 59, 21}, ground},
         {"fillcircle", [](CWntOut& o) { o.fillcircle(40, 40, 20, 10); }, {20, 50, 60, 31}, green},
         {"whole pie", [](CWntOut& o) { o.pieslice(40, 40, 20, 10, 0, 16384); }, {20, 49, 60, 31}, green},
+        {"section", [](CWntOut& o) { o.piesection(40, 40, 20, 10, 0, 16384, 1); }, {20, 49, 60, 31}, green},
         {"dot", [](CWntOut& o) { o.drawmarker(40, 40, 3, 5); }, {38, 42, 41, 39}, ground},
         {"circle marker", [](CWntOut& o) { o.drawmarker(40, 40, 6, 2); }, {34, 46, 45, 35}, ground},
         {"two pixels wide", [](CWntOut& o) { o.markers(&centre, 1, 1); }, {34, 46, 46, 35}, ground},

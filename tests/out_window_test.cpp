@@ -118,6 +118,13 @@ TEST_F(SurfaceTest, PointerShapesAndPosition) {
     for (const short outside : {-1, 29, SHRT_MAX})
         out.setmouseshape(outside);
     EXPECT_EQ(::GetCursor(), last);
+    const auto own_shape = reinterpret_cast<HICON>(::LoadCursorA(nullptr, IDC_HELP));
+    for (const HICON shape : {own_shape, HICON()}) // none changes nothing
+        out.setmouseshape(shape);
+    EXPECT_TRUE(::GetCursor() == own_shape && out.cursor == own_shape);
+    CFont font;
+    out.setbackground(red, 2), out.setbackgroundbitmap(3), out.setfont(&font);
+    EXPECT_TRUE(out.bkcolour == red && out.bkflag == 2 && out.bkbitmap == 3 && out.font == &font);
 
     ASSERT_EQ(out.reset(), 1);
     point_at(out, CPoint(30, 20));

@@ -2,6 +2,8 @@
 
 #include "modal.h"
 
+#include <fstream>
+
 namespace {
 
 using Pulse = PulseFixture;
@@ -178,6 +180,87 @@ TEST_F(Pulse, TheTimeAxisZoomsToWhatItsSliderCovers) {
     EXPECT_NEAR(static_cast<double>(chart_.GetSpan()), 750, 20);
     drag(size.cx / 2, size.cx / 2);
     EXPECT_EQ(host_.told.size(), 2u); // nothing was zoomed
+}
+
+TEST_F(Pulse, ItsMenuTellsItsState) {
+    const auto listed = [&] {
+        std::string texts;
+        const WhileModal menu([&] {
+            texts = shown_menu();
+            return !texts.empty() && ::EndMenu();
+        });
+        chart_.SendMessage(WM_CONTEXTMENU, 0, -1); // by the keyboard
+        return texts;
+    };
+    EXPECT_EQ(listed(), "*&Live\tEnd|&Pause\tSpace|&Fit values|&Cursors|&Zoom control||&Record...|&Open...||"
+                        "Colo&urs||Copy p&icture|Copy &values|Pri&nt|");
+    for (const UINT command : {WNT_PULSE_CMD_PAUSE, WNT_PULSE_CMD_FIT, WNT_PULSE_CMD_CURSORS, WNT_PULSE_CMD_ZOOM})
+        chart_.SendMessage(WM_COMMAND, command);
+    EXPECT_TRUE(chart_.IsFit() && !chart_.IsLive());
+    ASSERT_EQ(chart_.StartRecording("pulse menu.txt"), 1);
+    EXPECT_EQ(listed().substr(0, 100), "&Live\tEnd|*&Pause\tSpace|*&Fit values|*&Cursors|*&Zoom control||"
+                                       "*End &recording|-&Open...||Colo&urs||");
+    chart_.SendMessage(WM_COMMAND, WNT_PULSE_CMD_RECORD);
+    EXPECT_TRUE(!chart_.IsRecording() && host_.told.back() == std::tuple(WNT_PULSE_RECORDING, 0));
+    chart_.SendMessage(WM_COMMAND, WNT_PULSE_CMD_LIVE);
+    EXPECT_TRUE(chart_.IsLive());
+    ::DeleteFileA("pulse menu.txt");
+}
+
+TEST_F(Pulse, CallsChangeWhatIsShown) {
+    feed(0, 60'000);
+    const double values[] = {100, 200};
+    int before[2], after[2];
+    chart_.ValuesToScreen(flow_, values, 2, before);
+    EXPECT_EQ(chart_.SetRange(flow_, 1, 1) + chart_.SetRange(9, 0, 1), 0);
+    EXPECT_EQ(chart_.SetRange(flow_, 0, 200), 1);
+    chart_.ValuesToScreen(flow_, values, 2, after);
+    EXPECT_TRUE(after[1] == before[0] && after[0] > before[0] + 50);
+    EXPECT_EQ(chart_.SetLive(0), 1);
+    const __int64 there = start();
+    feed(60'000, 61'000);
+    EXPECT_EQ(start(), there);
+    chart_.SetLive(1);
+    EXPECT_GT(start(), there + 900);
+    EXPECT_EQ(chart_.SetCursor(1, 3000) + chart_.HideCursor(1), 2);
+    EXPECT_EQ(chart_.HideCursor(1) + chart_.HideCursor(-1) + chart_.HideCursor(2) + chart_.SetCursor(2, 0), 0);
+    EXPECT_TRUE(chart_.SetRecordingParts(4096, 0) == 1 && chart_.SetRecordingParts(0, 1) == 1);
+    EXPECT_EQ(chart_.SetRecordingParts(4095, 0) + chart_.SetRecordingParts(-1, 0) + chart_.StopReading(), 0);
+
+    const __int64 live = start(), page = chart_.GetSpan();
+    chart_.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(MK_SHIFT, WHEEL_DELTA), 0); // back by a part of what is shown
+    EXPECT_TRUE(start() < live && start() > live - page);
+    const HWND bar = chart_.GetDlgItem(4)->m_hWnd;
+    chart_.SendMessage(WM_HSCROLL, SB_LEFT, reinterpret_cast<LPARAM>(bar));
+    EXPECT_NEAR(static_cast<double>(start()), 0, 20);
+    chart_.SendMessage(WM_HSCROLL, SB_RIGHT, reinterpret_cast<LPARAM>(bar));
+    EXPECT_EQ(start(), live);
+    chart_.SendMessage(WM_CHAR, '+', 0);
+    EXPECT_EQ(chart_.GetSpan(), page * 4 / 5);
+    CString title;
+    const WhileModal dialog([&] {
+        const HWND shown = shown_dialog();
+        if (!shown)
+            return false;
+        CWnd::FromHandle(shown)->GetWindowText(title);
+        ::SendMessageA(shown, WM_COMMAND, IDCANCEL, 0);
+        return true;
+    });
+    chart_.GetDlgItem(3)->SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(20, 20));
+    EXPECT_STREQ(title, "Achseneinstellungen");
+}
+
+TEST_F(Pulse, TakesFilesThatAreDropped) {
+    ASSERT_EQ(chart_.StartRecording("pulse drop.txt"), 1);
+    chart_.AddSample(flow_, 5, CWntPulse::Now());
+    chart_.StopRecording();
+    drop_file(chart_, "pulse drop.txt");
+    EXPECT_TRUE(chart_.IsReading() && ::GetFocus() == chart_.m_hWnd);
+    EXPECT_EQ(chart_.StopReading(), 1);
+    std::ofstream("pulse drop.txt") << ":CLEARCURVES\n:CURVE=One,RED,0,1\n";
+    drop_file(chart_, "pulse drop.txt");
+    EXPECT_TRUE(!chart_.IsReading() && chart_.GetCurveCount() == 1);
+    ::DeleteFileA("pulse drop.txt");
 }
 
 TEST_F(Pulse, CursorsReadOff) {

@@ -290,6 +290,14 @@ TEST_F(Sash, StoresItselfInAProfile) {
     sash_.SetPosition(20);
     EXPECT_EQ(sash_.RestoreState(file, "main"), 1);
     EXPECT_EQ(sash_.GetPosition(), 150);
+    sash_.SetKeptPane(2);
+    sash_.SetPosition(150); // 50 behind it
+    EXPECT_EQ(sash_.StoreState(file, "main"), 1);
+    sash_.SetPosition(20);
+    EXPECT_EQ(sash_.GetShare(), 0.1);
+    sash_.MoveWindow(0, 0, 305, 100);
+    EXPECT_EQ(sash_.RestoreState(file, "main"), 1);
+    EXPECT_EQ(sash_.GetPosition(), 250);
     ::WritePrivateProfileStringA("main", "Share", "half", file);
     EXPECT_EQ(sash_.RestoreState(file, "main"), 0);
     EXPECT_EQ(sash_.StoreState(nullptr, "main") + sash_.StoreState(file, ""), 0);

@@ -61,7 +61,8 @@ TEST_F(ToolBar, TheKeyboardWorksIt) {
 }
 
 TEST_F(ToolBar, OpensMenus) {
-    script({":DROPDOWN=100,0", ":MENU=110,First", ":MENU", ":MENU=111,Second", ":SPLIT=101,0", ":MENU=112,Third"});
+    script({":DROPDOWN=100,0", ":MENU=110,First", ":MENU", ":MENU=111,Second", ":SPLIT=101,0"});
+    EXPECT_EQ(bar_->AddMenuEntry(112, "Third") + bar_->AddMenuEntry(70'000, "x"), 1);
     host_.state = [](CCmdUI& ui) { ui.Enable(ui.m_nID != 110); };
     with_menu([&] { click(100); }, {VK_DOWN, VK_RETURN},
               [](HMENU menu) {
@@ -83,7 +84,8 @@ TEST_F(ToolBar, OpensMenus) {
     with_menu([&] { key(VK_DOWN, WM_SYSKEYDOWN); }, {VK_DOWN, VK_DOWN, VK_RETURN});
     EXPECT_THAT(host_.commands, ElementsAre(111u));
     click(101); // the part without the arrow
-    with_menu([&] { mouse(WM_LBUTTONDOWN, CPoint(place(101).right - 3, 10)); }, {VK_ESCAPE});
+    with_menu([&] { mouse(WM_LBUTTONDOWN, CPoint(place(101).right - 3, 10)); }, {VK_ESCAPE},
+              [](HMENU menu) { EXPECT_EQ(::GetMenuItemID(menu, 0), 112u); });
     EXPECT_THAT(host_.commands, ElementsAre(111u, 101u));
     CMenu mine;
     mine.CreatePopupMenu();

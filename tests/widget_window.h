@@ -2,6 +2,8 @@
 #pragma once
 
 #include <functional>
+#include <shlobj.h>
+#include <string_view>
 #include <tuple>
 
 #include "pixels.h"
@@ -51,6 +53,17 @@ inline HCURSOR pointer_at(CWnd& window, CPoint at) {
     ::SetCursor(nullptr);
     window.SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(window.m_hWnd), MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
     return ::GetCursor();
+}
+
+/// Drops a file on a window; without a name, nothing. Gives the block, which the window should have released.
+inline HGLOBAL drop_file(CWnd& window, std::string_view name) {
+    const HGLOBAL block = ::GlobalAlloc(GHND, sizeof(DROPFILES) + name.size() + 2);
+    auto* description = static_cast<DROPFILES*>(::GlobalLock(block));
+    description->pFiles = sizeof(DROPFILES);
+    std::copy(name.begin(), name.end(), reinterpret_cast<char*>(description + 1));
+    ::GlobalUnlock(block);
+    window.SendMessage(WM_DROPFILES, reinterpret_cast<WPARAM>(block));
+    return block;
 }
 
 inline Pixels pixels_of(CWnd& window) {

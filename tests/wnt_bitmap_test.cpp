@@ -37,6 +37,9 @@ TEST(WntBitmap, BeginsAsAGreyRamp) {
     EXPECT_TRUE(bitmap.GetWidth() == 16 && bitmap.GetHeight() == 16);
     EXPECT_EQ(bitmap.GetClrTabAddress()[77].rgbGreen, 77);
     EXPECT_EQ(bitmap.Create(5, 3), TRUE);
+    CRect area;
+    bitmap.GetRect(&area);
+    EXPECT_EQ(area, CRect(0, 0, 5, 3));
     auto* bits = static_cast<BYTE*>(bitmap.GetBitsAddress());
     EXPECT_EQ(Bytes(bits, bits + 24), Bytes(24, 0));
     EXPECT_EQ(bitmap.GetPixelAddress(0, 0), bits + 16);
