@@ -113,6 +113,17 @@ TEST_F(FrameTest, FollowsTheMainFramesScaling) {
     CWntFrame second;
     ASSERT_TRUE(second.Create(nullptr, "", WS_CHILD, CRect(0, 0, 9, 9), &host_, 5));
     EXPECT_EQ(second.GetScale(), 150);
+    CWntToolBar bar;
+    CWntTipPage page;
+    CWntToolItem item(5, "text");
+    main.tell(frame_, 100);
+    ASSERT_TRUE(bar.Create(nullptr, "", WS_CHILD, CRect(0, 0, 99, 9), &host_, 6) && bar.AddItem(item) == 1 &&
+                page.Create(nullptr, "", WS_CHILD, CRect(0, 0, 400, 240), &host_, 7));
+    const int thick = bar.GetThickness(400), button = on_screen(*page.GetDlgItem(4)).Height();
+    main.tell(bar, 200);
+    main.tell(page, 200);
+    EXPECT_NEAR(bar.GetThickness(400), 2 * thick, thick / 3);
+    EXPECT_NEAR(on_screen(*page.GetDlgItem(4)).Height(), 2 * button, button / 3);
 }
 
 } // namespace

@@ -21,10 +21,13 @@ TEST_F(PulseLives, RecordsAndReads) {
     EXPECT_EQ(chart_.StopRecording() + chart_.StartRecording("no such folder\\x.txt") + chart_.IsRecording(), 0);
     CWntPulse reader;
     ASSERT_TRUE(reader.Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 300, 600, 500), &host_, 6));
+    reader.SetColours(paper, blue, paper);
     ASSERT_EQ(reader.OpenFile(path, 1), 1);
+    const long reading = repainted(reader).count(blue);
     while (reader.IsReading())
         reader.SendMessage(WM_TIMER, 2, 0);
     EXPECT_EQ(host_.told.back(), std::tuple(WNT_PULSE_READ, 1));
+    EXPECT_GT(reading, repainted(reader).count(blue) + 200) << "how far it is";
     EXPECT_EQ(reader.GetCurveCount(), 2);
     EXPECT_EQ(reader.GetSampleCount(0) + reader.GetSampleCount(1), 500);
     __int64 from = 0, to = 0;

@@ -250,6 +250,16 @@ TEST_F(Pulse, CallsChangeWhatIsShown) {
     EXPECT_STREQ(title, "Achseneinstellungen");
 }
 
+TEST_F(Pulse, FollowsTheScreensScale) {
+    const double highest = 100;
+    int before = 0, after = 0;
+    chart_.ValuesToScreen(flow_, &highest, 1, &before);
+    MainFrameScale main;
+    main.tell(chart_, 200);
+    chart_.ValuesToScreen(flow_, &highest, 1, &after);
+    EXPECT_NEAR(after, 2 * before, 8); // below title and legend
+}
+
 TEST_F(Pulse, TakesFilesThatAreDropped) {
     ASSERT_EQ(chart_.StartRecording("pulse drop.txt"), 1);
     chart_.AddSample(flow_, 5, CWntPulse::Now());
