@@ -122,6 +122,10 @@ TEST(KeyCode, Translates) {
         {character, 3, 0x2E, 0, {control}, 1, 4, 'C'},
         {key_down, 0x70, 0x3B, 0, {control}, 1, 2, 0x81},
         {key_down, 0x7B, 0x58, 0, {shift, control}, 1, 2, 24 | 0x80},
+        {key_down, 0x70, 0x3B, 0, {}, 1, 2, 1},
+        {character, 1, 0x1E, 0, {control}, 1, 4, 'A'},
+        {character, 26, 0x2C, 0, {control}, 1, 4, 'Z'},
+        {character, ' ', 0x39, 0, {' '}, 1, 1, ' '},
         {key_down, 0x7C, 0x64, 0, {}, 1, 1, 0x7C}, // F13 has no function key's scan code
         {0x104, 0x73, 0x3E, alt, {}, 0, 0, 0},
         {system_character, 'x', 0x2D, alt, {}, 1, 5, 'X'},

@@ -60,7 +60,9 @@ TEST(Keywords, LookupsKeepTheirOddAnswers) {
                                       {"CYAN", 0xFFFF00u}})
         EXPECT_EQ(colour_values[colour_lookup(name)], value) << name;
     expect_codes(colour_lookup, {{"DARKBLUE ", 255}, {text_of(nullptr), 255}});
-    EXPECT_TRUE(!keyword_at(colour_words, 255) && !keyword_at(side_words, -1) && !line_style_word(256));
+    EXPECT_EQ(std::string(keyword_at(side_words, 0)) + keyword_at(side_words, 3) + line_style_word(0), "TOPRIGHTSOLID");
+    EXPECT_TRUE(!keyword_at(side_words, 4) && !line_style_word(7) && !keyword_at(colour_words, 255) &&
+                !keyword_at(side_words, -1) && !line_style_word(256));
 }
 
 TEST(Values, Convert) {
