@@ -28,7 +28,11 @@ TEST_F(AfxDeviceContext, GivesBackWhatWasSelected) {
     EXPECT_EQ(described.lopnColor, RGB(255, 0, 0));
     CPen other;
     EXPECT_FALSE(pen.CreatePen(PS_SOLID, 1, RGB(0, 0, 0))) << "it holds one already";
-    EXPECT_TRUE(pen.DeleteObject() && !pen.DeleteObject());
+    const HGDIOBJ gone = pen.m_hObject;
+    EXPECT_TRUE(pen.DeleteObject() && !pen.DeleteObject() && ::GetObjectType(gone) == 0);
+    const HDC plain = ::CreateCompatibleDC(dc);
+    EXPECT_EQ(CDC::FromHandle(plain)->m_hAttribDC, plain);
+    ::DeleteDC(plain);
 }
 
 TEST_F(AfxDeviceContext, ConvertsUnitsAndPutsThemBack) {
@@ -133,7 +137,8 @@ TEST_F(AfxDeviceContext, BrushesAndEdgesDrawWhatTheySay) {
     EXPECT_EQ(seen, (std::set<COLORREF>{RGB(255, 0, 0), RGB(0, 255, 0)}));
     dc.Draw3dRect(CRect(50, 50, 60, 60), RGB(1, 1, 1), RGB(2, 2, 2));
     EXPECT_TRUE(dc.GetPixel(50, 50) == RGB(1, 1, 1) && dc.GetPixel(59, 59) == RGB(2, 2, 2));
-    EXPECT_EQ(dc.GetPixel(55, 55), RGB(255, 255, 255)) << "the inside stays";
+    for (const auto& [x, y] : {std::pair{51, 51}, {58, 51}, {51, 58}, {58, 58}, {60, 60}, {49, 50}})
+        EXPECT_EQ(dc.GetPixel(x, y), RGB(255, 255, 255)) << "inside and outside stay " << x << ' ' << y;
     dc.SetPixel(80, 80, RGB(9, 9, 9));
     dc.FillSolidRect(70, 70, 5, 5, RGB(9, 9, 9));
     canvas copy(10, 10);

@@ -1,5 +1,8 @@
 // The program around the windows: dialogs and fonts.
 #include "afx_test_app.h"
+#include "modal.h"
+
+#include <afxpriv.h>
 
 test_app the_app;
 
@@ -70,11 +73,41 @@ TEST(AfxDialog, ModalOneDisablesItsParentUntilItEnds) {
     EXPECT_EQ(CDialog(9999u).DoModal(), -1) << "no such template";
 }
 
+TEST(AfxDialog, IsShownOnceAndIdleAfterWhatHappens) {
+    struct : test_dialog {
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+            if (message != WM_KICKIDLE || lParam < 2)
+                return message == WM_KICKIDLE || test_dialog::WindowProc(message, wParam, lParam);
+            seen.push_back(IsWindowVisible() ? lParam : -lParam);
+            if (seen.size() > 1)
+                EndDialog(IDOK);
+            ShowWindow(SW_HIDE), PostMessage(WM_NULL);
+            return FALSE;
+        }
+        std::vector<LPARAM> seen;
+    } dialog;
+    const WhileModal too_late([&, ticks = 0]() mutable { return ++ticks == 100 && (dialog.press(IDCANCEL), true); });
+    EXPECT_EQ(dialog.DoModal(), IDOK);
+    EXPECT_THAT(dialog.seen, testing::ElementsAre(2, -2)) << "counted anew; hidden by itself";
+}
+
 TEST(AfxDialog, IsRefusedWhereItCannotBeInitialised) {
     test_dialog dialog;
     dialog.on_open = [] { throw new CUserException; };
     EXPECT_FALSE(dialog.Create(IDD_TEST));
     EXPECT_EQ(dialog.m_hWnd, nullptr);
+}
+
+TEST(AfxProgram, ShowsThatItIsBusyUntilTheLastWaitEnds) {
+    const HCURSOR arrow = ::LoadCursor(nullptr, IDC_ARROW), wait = ::LoadCursor(nullptr, IDC_WAIT);
+    ::SetCursor(arrow);
+    the_app.BeginWaitCursor();
+    { CWaitCursor inner; }
+    EXPECT_EQ(::SetCursor(arrow), wait);
+    the_app.RestoreWaitCursor();
+    EXPECT_EQ(::GetCursor(), wait);
+    the_app.EndWaitCursor();
+    EXPECT_EQ(::GetCursor(), arrow);
 }
 
 TEST(AfxDrawing, PointFontsAreAsHighAsTheDeviceSays) {

@@ -5,6 +5,7 @@
 
 #include <atomic>
 #include <memory>
+#include <thread>
 
 using testing::ElementsAre;
 
@@ -91,7 +92,7 @@ UINT post_samples(LPVOID parameter) {
     for (int i = 1; i <= 3; ++i)
         job.target->PostMessage(window_message, static_cast<WPARAM>(i));
     if (job.throws)
-        AfxThrowUserException();
+        AfxThrowMemoryException();
     return 17;
 }
 
@@ -113,6 +114,29 @@ TEST(AfxThread, FiltersTheMessagesOfTheSystemsLoops) {
     EXPECT_FALSE(::CallMsgFilter(&message, MSGF_MENU));
 }
 
+TEST(AfxThread, IsIdleAgainAfterWhatHappenedOnly) {
+    const auto told = [](UINT message, LONG x) {
+        MSG seen{nullptr, message, 0, 0, 0, {x, 1}};
+        return AfxIsIdleMessage(&seen) != FALSE;
+    };
+    EXPECT_TRUE(told(WM_USER, 0) && told(WM_MOUSEMOVE, 7) && told(WM_NCMOUSEMOVE, 8));
+    EXPECT_FALSE(told(WM_PAINT, 0) || told(WM_MOUSEMOVE, 8)) << "it stays where it is";
+    struct : CWinThread {
+        BOOL InitInstance() override { return TRUE; }
+        BOOL OnIdle(LONG count) override {
+            log.push_back(count);
+            if (count == 2)
+                log.size() > 3 ? ::PostQuitMessage(6) : void(PostThreadMessage(WM_USER, 0, 0));
+            return count < 2;
+        }
+        std::vector<LONG> log;
+    } thread;
+    thread.m_bAutoDelete = FALSE;
+    ASSERT_TRUE(thread.CreateThread());
+    EXPECT_EQ(end_of(own_handle(&thread)), 6u);
+    EXPECT_THAT(thread.log, ElementsAre(0, 1, 2, 0, 1, 2));
+}
+
 TEST(AfxThread, WorkersPostToWindowsOfOthers) {
     receiver wnd;
     ASSERT_TRUE(create_popup(wnd));
@@ -129,11 +153,16 @@ TEST(AfxThread, WorkersPostToWindowsOfOthers) {
     EXPECT_EQ(wnd.sum, 6);
 
     job.throws = true;
+    the_app.take_boxes();
     CWinThread kept(&post_samples, &job);
     kept.m_bAutoDelete = FALSE;
     ASSERT_TRUE(kept.CreateThread());
     EXPECT_FALSE(kept.CreateThread()) << "it runs already";
     EXPECT_EQ(end_of(own_handle(&kept)), static_cast<DWORD>(-1)) << "an exception ends the thread, not the program";
+    EXPECT_EQ(the_app.take_boxes().size(), 1u) << "and is told";
+    CWinThread* of_foreign_thread = &the_app;
+    std::thread([&] { of_foreign_thread = AfxGetThread(); }).join();
+    EXPECT_EQ(of_foreign_thread, nullptr);
 }
 
 TEST(AfxSync, LocksAreTakenInTimeAndGivenBack) {
@@ -162,6 +191,10 @@ TEST(AfxSync, LocksAreTakenInTimeAndGivenBack) {
     EXPECT_EQ(both.Lock(0, FALSE), WAIT_OBJECT_0);
     EXPECT_TRUE(both.IsLocked(0));
     EXPECT_FALSE(both.IsLocked(1));
+    for (const DWORD wrong : {DWORD{0}, DWORD{MAXIMUM_WAIT_OBJECTS + 1}})
+        EXPECT_TRUE(raises<CInvalidArgException>([&] { CMultiLock(objects, wrong); }));
+    EXPECT_TRUE((CMutex(FALSE, "afx_test"), ::CloseHandle(::OpenMutex(SYNCHRONIZE, FALSE, "afx_test"))));
+    EXPECT_EQ(::OpenMutex(SYNCHRONIZE, FALSE, "afx_test"), nullptr) << "gone with its object";
     CCriticalSection section;
     CSingleLock outer(&section, TRUE), inner(&section, TRUE);
     EXPECT_TRUE(inner.IsLocked()) << "the same thread enters twice";
@@ -191,6 +224,8 @@ TEST(AfxSettings, ReadBackWhatWasWrittenInTheRegistryAndInAFile) {
         the_app.WriteProfileString("Section", nullptr, nullptr);
         EXPECT_EQ(the_app.GetProfileInt("Section", "Number", 5), 5u) << "the whole section went";
     }
+    const CString place = CString("Software\\ZopwntTest\\") + the_app.m_pszProfileName;
+    EXPECT_EQ(the_app.DelRegTree(HKEY_CURRENT_USER, place), ERROR_SUCCESS) << "where it was";
     the_app.use_settings(nullptr);
 }
 

@@ -30,6 +30,9 @@ TEST(AfxWindow, SeesItsMessagesFromTheFirstToTheLast) {
     ASSERT_GE(wnd.seen.size(), 2u);
     EXPECT_THAT(std::vector(wnd.seen.end() - 2, wnd.seen.end()), ElementsAre(WM_NCDESTROY, recorder::object_released));
     EXPECT_EQ(wnd.GetSafeHwnd(), nullptr);
+    CWnd again; // an edit first, then a plain window
+    ASSERT_TRUE(again.CreateEx(0, "EDIT", "", WS_POPUP, CRect(0, 0, 9, 9), nullptr, 0) && again.DestroyWindow());
+    EXPECT_TRUE(create_popup(again) && again.SendMessage(WM_GETDLGCODE) == 0);
     EXPECT_EQ(CWnd::FromHandlePermanent(hwnd), nullptr);
     EXPECT_FALSE(wnd.DestroyWindow());
 }
@@ -177,6 +180,7 @@ TEST(AfxException, NeverLeavesAWindowProcedure) {
     EXPECT_EQ(boxes[3], "plain words");
     EXPECT_EQ(boxes[0], boxes[1]);
     EXPECT_EQ(boxes[0], boxes[2]);
+    EXPECT_NE(boxes[0], boxes[5]);
 
     wnd.m_message = WM_PAINT;
     wnd.Invalidate();
