@@ -265,11 +265,8 @@ TEST_F(AfxSeveralDocuments, LieInOneFrameThatShowsTheActiveOnes) {
     EXPECT_EQ(note_view::made.m_pCurrentFrame, second);
     second->SetWindowPos(nullptr, 0, 0, 150, 120, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     EXPECT_EQ(on_screen(*second->GetActiveView()).Size(), inside_of(*second).Size());
-    {
-        const HeldKeys control({VK_CONTROL});
-        MSG key{second->m_hWnd, WM_KEYDOWN, 'T', 0, 0, {}};
-        EXPECT_TRUE(second->PreTranslateMessage(&key)) << "a key of its template's";
-    }
+    MSG key{second->m_hWnd, WM_KEYDOWN, 'T', 0, 0, {}};
+    EXPECT_TRUE((HeldKeys({VK_CONTROL}), second->PreTranslateMessage(&key))) << "a key of its template's";
     EXPECT_EQ(the_app.GetOpenDocumentCount(), 2);
     static_cast<note*>(second->GetActiveDocument())->SetModifiedFlag();
     second->SendMessage(WM_CLOSE);

@@ -130,13 +130,11 @@ TEST_F(AfxFrame, ShowsPromptsOfMenusAndOfButtonsUnderThePointer) {
     frame.tools.GetItemRect(0, button);
     const CPoint at = button.CenterPoint();
     MSG move{frame.tools.m_hWnd, WM_MOUSEMOVE, 0, MAKELPARAM(at.x, at.y), 0, {0, 0}};
-    const auto prompt_after = [&](UINT message) {
+    for (const UINT message : {WM_MOUSEMOVE, WM_RBUTTONDOWN, WM_LBUTTONDOWN, WM_MOUSEMOVE}) {
         move.message = message;
         frame.tools.PreTranslateMessage(&move);
-        return shown();
-    };
-    for (const UINT message : {WM_MOUSEMOVE, WM_RBUTTONDOWN, WM_LBUTTONDOWN, WM_MOUSEMOVE})
-        EXPECT_EQ(prompt_after(message), message == WM_LBUTTONDOWN ? "Ready" : "Switch it on");
+        EXPECT_EQ(shown(), message == WM_LBUTTONDOWN ? "Ready" : "Switch it on");
+    }
     frame.tools.SendMessage(WM_MOUSELEAVE);
     EXPECT_EQ(shown(), "Ready");
     TOOLTIPTEXTA tip{};
@@ -266,15 +264,14 @@ TEST_F(AfxToolBar, HasTheBordersOfItsStyleAroundItsButtons) {
         using CToolBar::DrawBorders;
     } bar;
     canvas dc(20, 20);
-    const CRect whole(0, 0, 20, 20);
-    for (const auto& [style, inside] : {std::pair{CBRS_BORDER_LEFT | CBRS_BORDER_BOTTOM, CRect(1, 0, 20, 19)},
-                                        {CBRS_BORDER_TOP | CBRS_BORDER_RIGHT, CRect(0, 1, 19, 20)},
-                                        {CBRS_BORDER_ANY | CBRS_FLOATING, whole}}) {
-        CRect rect = whole;
-        bar.SetBarStyle(static_cast<DWORD>(style));
-        bar.DrawBorders(&dc, rect);
-        EXPECT_EQ(rect, inside) << style;
-    }
+    const auto inside = [&](DWORD style) {
+        CRect rect(0, 0, 20, 20);
+        bar.SetBarStyle(style);
+        return bar.DrawBorders(&dc, rect), rect;
+    };
+    EXPECT_EQ(inside(CBRS_BORDER_LEFT | CBRS_BORDER_BOTTOM), CRect(1, 0, 20, 19));
+    EXPECT_EQ(inside(CBRS_BORDER_TOP | CBRS_BORDER_RIGHT), CRect(0, 1, 19, 20));
+    EXPECT_EQ(inside(CBRS_BORDER_ANY | CBRS_FLOATING), CRect(0, 0, 20, 20));
     CToolBar& tools = frame.tools;
     tools.SetBarStyle(tools.GetBarStyle() | CBRS_BORDER_TOP);
     CClientDC(&tools).SetPixel(3, 3, RGB(255, 0, 0));
@@ -346,8 +343,7 @@ TEST_F(AfxHelp, IsGivenAboutWhatIsClickedNext) {
     CRect button;
     frame.tools.GetItemRect(0, button);
     CWnd passing;
-    ASSERT_TRUE(create_popup(passing));
-    passing.PostMessage(WM_CLOSE);
+    ASSERT_TRUE(create_popup(passing) && passing.PostMessage(WM_CLOSE));
     click(frame.tools, button.CenterPoint(), WM_LBUTTONDOWN);
     EXPECT_EQ(passing.m_hWnd, nullptr) << "other windows live on";
     click(frame, CPoint(10, 200), WM_LBUTTONDOWN);

@@ -84,7 +84,7 @@ TEST_F(AfxSheet, OkTakesThePagesDataOver) {
     const auto mark_both = [&] {
         TCITEM item{TCIF_TEXT, 0, 0, title, 20, 0, 0};
         EXPECT_TRUE(sheet.GetTabControl()->GetItem(1, &item) && std::string("Changed") == title);
-        EXPECT_NEAR(on_screen(sheet).CenterPoint().x, ::GetSystemMetrics(SM_CXFULLSCREEN) / 2, 1);
+        EXPECT_NEAR(on_screen(sheet).CenterPoint().x, ::GetSystemMetrics(SM_CXSCREEN) / 2, 1);
         first.CheckDlgButton(IDC_MARK, TRUE);
         show(1);
         second.CheckDlgButton(IDC_MARK, TRUE);

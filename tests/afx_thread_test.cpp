@@ -21,6 +21,7 @@ public:
     static inline std::vector<int> log;
     static inline std::atomic<int> alive = 0;
     CWnd wnd;
+    int idle = 0;
 
     window_thread() { ++alive; }
     ~window_thread() override { --alive; }
@@ -31,6 +32,11 @@ public:
         log.push_back(CWnd::FromHandlePermanent(wnd.m_hWnd) == &wnd ? 3 : -3);
         m_pMainWnd = &wnd;
         return TRUE;
+    }
+    // Idle again after each message.
+    BOOL OnIdle(LONG count) override {
+        log.push_back(200 + count);
+        return PostThreadMessage(++idle == 1 ? add_message : end_message, 50, 5), FALSE;
     }
     int ExitInstance() override {
         log.push_back(99);
@@ -70,10 +76,9 @@ TEST(AfxThread, WithWindowsHasMessagesAndHandleMapsOfItsOwn) {
     EXPECT_TRUE(window_thread::log.empty()) << "suspended";
     const HANDLE handle = own_handle(thread);
     thread->PostThreadMessage(add_message, 40, 2);
-    thread->PostThreadMessage(end_message, 0, 0);
     thread->ResumeThread();
     EXPECT_EQ(end_of(handle), 0u);
-    EXPECT_THAT(window_thread::log, ElementsAre(1, 2, 3, 42, 99));
+    EXPECT_THAT(window_thread::log, ElementsAre(1, 2, 3, 42, 200, 55, 200, 99));
     EXPECT_EQ(window_thread::alive, 0) << "the object goes with its thread";
     EXPECT_TRUE(::IsWindow(main)) << "lent only";
     the_app.m_pMainWnd = nullptr;
@@ -114,27 +119,10 @@ TEST(AfxThread, FiltersTheMessagesOfTheSystemsLoops) {
     EXPECT_FALSE(::CallMsgFilter(&message, MSGF_MENU));
 }
 
-TEST(AfxThread, IsIdleAgainAfterWhatHappenedOnly) {
-    const auto told = [](UINT message, LONG x) {
-        MSG seen{nullptr, message, 0, 0, 0, {x, 1}};
-        return AfxIsIdleMessage(&seen) != FALSE;
-    };
-    EXPECT_TRUE(told(WM_USER, 0) && told(WM_MOUSEMOVE, 7) && told(WM_NCMOUSEMOVE, 8));
-    EXPECT_FALSE(told(WM_PAINT, 0) || told(WM_MOUSEMOVE, 8)) << "it stays where it is";
-    struct : CWinThread {
-        BOOL InitInstance() override { return TRUE; }
-        BOOL OnIdle(LONG count) override {
-            log.push_back(count);
-            if (count == 2)
-                log.size() > 3 ? ::PostQuitMessage(6) : void(PostThreadMessage(WM_USER, 0, 0));
-            return count < 2;
-        }
-        std::vector<LONG> log;
-    } thread;
-    thread.m_bAutoDelete = FALSE;
-    ASSERT_TRUE(thread.CreateThread());
-    EXPECT_EQ(end_of(own_handle(&thread)), 6u);
-    EXPECT_THAT(thread.log, ElementsAre(0, 1, 2, 0, 1, 2));
+TEST(AfxThread, IsIdleAfterWhatHappenedOnly) {
+    MSG move{nullptr, WM_MOUSEMOVE, 0, 0, 0, {7, 8}}, paint{nullptr, WM_PAINT, 0, 0, 0, {}}, other{};
+    EXPECT_TRUE(AfxIsIdleMessage(&move) && AfxIsIdleMessage(&other));
+    EXPECT_FALSE(AfxIsIdleMessage(&move) || AfxIsIdleMessage(&paint));
 }
 
 TEST(AfxThread, WorkersPostToWindowsOfOthers) {

@@ -41,8 +41,7 @@ IMPLEMENT_DYNCREATE(form, CFormView)
 struct told_splitter : CSplitterWnd {
     std::string log;
     int narrowest = 0;
-    using CSplitterWnd::OnDraw, CSplitterWnd::OnDrawSplitter;
-    using CSplitterWnd::splitBar, CSplitterWnd::splitBorder, CSplitterWnd::splitBox;
+    using CSplitterWnd::OnDraw, CSplitterWnd::OnDrawSplitter, CSplitterWnd::splitBorder;
     void StartTracking(int ht) override { log += "start " + std::to_string(ht), CSplitterWnd::StartTracking(ht); }
     void StopTracking(BOOL take) override { log += " stop " + std::to_string(take), CSplitterWnd::StopTracking(take); }
     void TrackRowSize(int y, int row) override { log += " row", CSplitterWnd::TrackRowSize(y, row); }
@@ -97,9 +96,8 @@ TEST(AfxScrollView, ScrollsWithinItsDocumentInLogicalUnits) {
     CStatic mark; // goes with what is shown
     ASSERT_TRUE(mark.Create("", WS_CHILD, CRect(0, 0, 5, 5), &view));
     const auto origin = [&] {
-        CRect place = on_screen(mark);
-        view.ScreenToClient(&place);
-        return place.TopLeft();
+        CPoint at = on_screen(mark).TopLeft();
+        return view.ScreenToClient(&at), at;
     };
     const CRect client = inside_of(view);
     CSize whole, bars;
@@ -475,14 +473,9 @@ TEST(AfxSplitter, HoldsPanesOfItsOwnAndSplittersAgain) {
     memory.PatBlt(0, 0, 200, 10, BLACKNESS);
     frame.splitter.OnDraw(&memory);
     EXPECT_NE(memory.GetPixel(155, 0), RGB(0, 0, 0)) << "a gap's end is not painted";
-    const COLORREF face = ::GetSysColor(COLOR_BTNFACE);
-    for (const auto& [part, edge, inside] : {std::tuple{told_splitter::splitBox, COLOR_3DLIGHT, face},
-                                             {told_splitter::splitBar, COLOR_3DHIGHLIGHT, face},
-                                             {told_splitter::splitBorder, COLOR_3DSHADOW, RGB(0, 0, 0)}}) {
-        memory.PatBlt(0, 0, 200, 10, BLACKNESS);
-        frame.splitter.OnDrawSplitter(&memory, part, CRect(0, 0, 10, 10));
-        EXPECT_TRUE(memory.GetPixel(0, 0) == ::GetSysColor(edge) && memory.GetPixel(5, 5) == inside) << part;
-    }
+    memory.PatBlt(0, 0, 200, 10, BLACKNESS);
+    frame.splitter.OnDrawSplitter(&memory, told_splitter::splitBorder, CRect(0, 0, 10, 10));
+    EXPECT_TRUE(memory.GetPixel(0, 0) == ::GetSysColor(COLOR_3DSHADOW) && memory.GetPixel(5, 5) == 0) << "a pane's";
     CWnd& last = *frame.splitter.GetPane(0, 2);
     EXPECT_EQ(last.GetExStyle() & WS_EX_CLIENTEDGE, 0u) << "the splitter has the edges";
     const int before = on_screen(last).left;
