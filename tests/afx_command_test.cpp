@@ -275,13 +275,9 @@ TEST(AfxReflection, GivesAControlItsMessagesBeforeItsParent) {
     control.keeps = TRUE;
     EXPECT_EQ(colors(), reinterpret_cast<LRESULT>(::GetStockObject(BLACK_BRUSH)));
     parent.SendMessage(WM_HSCROLL, MAKEWPARAM(SB_LINEDOWN, 3), from);
-    DRAWITEMSTRUCT draw{};
-    draw.CtlType = ODT_BUTTON;
-    draw.itemID = 4;
-    draw.hwndItem = control.m_hWnd;
+    DRAWITEMSTRUCT draw{ODT_BUTTON, 0, 4, 0, 0, control.m_hWnd, nullptr, {}, 0};
     parent.SendMessage(WM_DRAWITEM, 7, reinterpret_cast<LPARAM>(&draw));
-    COMPAREITEMSTRUCT compare{};
-    compare.hwndItem = control.m_hWnd;
+    COMPAREITEMSTRUCT compare{0, 0, control.m_hWnd, 0, 0, 0, 0, 0};
     EXPECT_EQ(parent.SendMessage(WM_COMPAREITEM, 7, reinterpret_cast<LPARAM>(&compare)), -1);
     CListCtrl list;
     ASSERT_TRUE(list.Create(WS_CHILD | LVS_REPORT, CRect(0, 0, 50, 50), &parent, 8));

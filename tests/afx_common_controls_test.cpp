@@ -484,10 +484,7 @@ TEST_F(AfxCommonControls, BitmapButtonsShowTheBitmapOfTheirState) {
     CClientDC dc(&button);
     EXPECT_EQ(dc.GetPixel(4, 4), RGB(255, 0, 0)) << "it draws itself, whoever is asked to";
     const auto shows = [&](UINT state) {
-        DRAWITEMSTRUCT item{};
-        item.itemState = state;
-        item.hDC = dc;
-        item.rcItem = size;
+        DRAWITEMSTRUCT item{ODT_BUTTON, 0, 0, 0, state, button.m_hWnd, dc, size, 0};
         button.DrawItem(&item);
         return dc.GetPixel(4, 4);
     };

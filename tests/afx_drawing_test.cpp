@@ -163,10 +163,8 @@ TEST_F(AfxDeviceContext, ShortensTextsAndMeasuresGlyphs) {
     dc.DrawTextEx(CString("x"), place, DT_CALCRECT, &margins);
     EXPECT_EQ(place.Width(), dc.GetTextExtent("x").cx + 10) << "and the left margin";
     WORD glyphs[2] = {};
-    GCP_RESULTS placed{};
-    placed.lStructSize = sizeof(placed);
-    placed.lpGlyphs = reinterpret_cast<LPWSTR>(glyphs);
-    placed.nGlyphs = 2;
+    auto* const placed_at = reinterpret_cast<LPWSTR>(glyphs);
+    GCP_RESULTS placed{sizeof(placed), nullptr, nullptr, nullptr, nullptr, nullptr, placed_at, 2, 0};
     CString letters("Wi");
     EXPECT_EQ(LOWORD(dc.GetCharacterPlacement(letters, 0, &placed, 0)), dc.GetTextExtent(letters).cx);
     int widths[2] = {}, letter = 0;

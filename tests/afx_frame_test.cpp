@@ -269,8 +269,8 @@ TEST_F(AfxToolBar, HasTheBordersOfItsStyleAroundItsButtons) {
         bar.SetBarStyle(style);
         return bar.DrawBorders(&dc, rect), rect;
     };
-    EXPECT_EQ(inside(CBRS_BORDER_LEFT | CBRS_BORDER_BOTTOM), CRect(1, 0, 20, 19));
-    EXPECT_EQ(inside(CBRS_BORDER_TOP | CBRS_BORDER_RIGHT), CRect(0, 1, 19, 20));
+    EXPECT_EQ(inside(CBRS_BORDER_LEFT | CBRS_BORDER_RIGHT), CRect(1, 0, 19, 20));
+    EXPECT_EQ(inside(CBRS_BORDER_TOP | CBRS_BORDER_BOTTOM), CRect(0, 1, 20, 19));
     EXPECT_EQ(inside(CBRS_BORDER_ANY | CBRS_FLOATING), CRect(0, 0, 20, 20));
     CToolBar& tools = frame.tools;
     tools.SetBarStyle(tools.GetBarStyle() | CBRS_BORDER_TOP);

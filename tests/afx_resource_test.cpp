@@ -85,11 +85,7 @@ TEST(AfxWindowStyle, ChangesAndAnswersWhetherItDid) {
     EXPECT_TRUE(wnd.ModifyStyle(0, WS_VSCROLL, SWP_FRAMECHANGED));
     EXPECT_FALSE(wnd.ModifyStyle(0, WS_VSCROLL));
     EXPECT_TRUE(wnd.ModifyStyleEx(0, WS_EX_CLIENTEDGE));
-    SCROLLINFO info{};
-    info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
-    info.nMax = 99;
-    info.nPage = 10;
-    info.nPos = 20;
+    SCROLLINFO info{0, SIF_RANGE | SIF_PAGE | SIF_POS, 0, 99, 10, 20, 0};
     wnd.SetScrollInfo(SB_VERT, &info);
     EXPECT_EQ(wnd.GetScrollLimit(SB_VERT), 90);
     EXPECT_EQ(wnd.GetScrollPos(SB_VERT), 20);

@@ -211,10 +211,7 @@ TEST(AfxModelessSheet, HoldsPagesWithoutButtons) {
     EXPECT_EQ(sheet.GetActivePage(), &second);
     EXPECT_EQ(second.QuerySiblings(4, 0), 9);
     char caption[40];
-    TCITEM tab{};
-    tab.mask = TCIF_TEXT;
-    tab.pszText = caption;
-    tab.cchTextMax = sizeof(caption);
+    TCITEM tab{TCIF_TEXT, 0, 0, caption, sizeof(caption), 0, 0};
     EXPECT_TRUE(sheet.GetTabControl()->GetItem(1, &tab));
     EXPECT_STREQ(caption, "Caption of its own");
     sheet.AddPage(&third);
@@ -239,11 +236,7 @@ TEST_F(AfxExtendedControls, HoldPicturesAndAddresses) {
     EXPECT_EQ(box.SetImageList(&pictures), nullptr);
     EXPECT_EQ(box.GetImageList(), &pictures);
     char text[16] = "first";
-    COMBOBOXEXITEM item{};
-    item.mask = CBEIF_TEXT | CBEIF_LPARAM;
-    item.iItem = -1;
-    item.pszText = text;
-    item.lParam = 77;
+    COMBOBOXEXITEM item{CBEIF_TEXT | CBEIF_LPARAM, -1, text, 0, 0, 0, 0, 0, 77};
     EXPECT_EQ(box.InsertItem(&item), 0);
     lstrcpy(text, "second");
     EXPECT_EQ(box.InsertItem(&item), 1);

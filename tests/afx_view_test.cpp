@@ -281,15 +281,6 @@ IMPLEMENT_DYNCREATE(searched_view, CEditView)
 
 struct AfxEditView : testing::Test {
     AfxEditView() { frame.InitialUpdateFrame(nullptr, FALSE); }
-    bool enabled(UINT id) {
-        struct : CCmdUI {
-            void Enable(BOOL wanted) override { on = wanted != FALSE, m_bEnableChanged = TRUE; }
-            bool on = false;
-        } item;
-        item.m_nID = id;
-        item.DoUpdate(&frame, FALSE);
-        return item.on;
-    }
 
     view_frame frame;
     searched_view& view = frame.open<searched_view>();
@@ -297,10 +288,16 @@ struct AfxEditView : testing::Test {
 
 TEST_F(AfxEditView, EditsFindsAndMarksItsDocument) {
     view.SetWindowText("one two One");
-    EXPECT_TRUE(enabled(ID_EDIT_FIND) && !enabled(ID_EDIT_COPY));
+    CMenu menu;
+    ASSERT_TRUE(menu.CreatePopupMenu() && menu.AppendMenu(MF_STRING, ID_EDIT_COPY, "Copy"));
+    const auto copies = [&] {
+        frame.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu.m_hMenu));
+        return (menu.GetMenuState(0, MF_BYPOSITION) & MF_GRAYED) == 0;
+    };
+    EXPECT_FALSE(copies());
     EXPECT_EQ(frame.SendMessage(WM_COMMAND, ID_EDIT_SELECT_ALL), 1);
     EXPECT_EQ(view.selected(), "one two One");
-    EXPECT_TRUE(enabled(ID_EDIT_COPY));
+    EXPECT_TRUE(copies());
     view.UpdateWindow();
     view.SetTabStops(8);
     EXPECT_TRUE(view.GetUpdateRect(nullptr)) << "its tabs lie elsewhere";
