@@ -399,7 +399,7 @@ TEST(AfxRecentFiles, AreKeptLatestFirstAndShownInTheMenu) {
     again.ReadList();
     EXPECT_STREQ(again[2], list[2]);
     again.Remove(1);
-    EXPECT_TRUE(again.GetSize() == 3 && again.m_arrNames[2].IsEmpty());
+    EXPECT_TRUE(again[2].IsEmpty());
 
     CMenu menu, fresh;
     const auto update = [](CRecentFileList& files, CMenu& in) {

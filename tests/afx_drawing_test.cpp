@@ -136,7 +136,8 @@ TEST_F(AfxDeviceContext, BrushesAndEdgesDrawWhatTheySay) {
         seen.insert(dc.GetPixel(x, 3));
     EXPECT_EQ(seen, (std::set<COLORREF>{RGB(255, 0, 0), RGB(0, 255, 0)}));
     dc.Draw3dRect(CRect(50, 50, 60, 60), RGB(1, 1, 1), RGB(2, 2, 2));
-    EXPECT_TRUE(dc.GetPixel(50, 50) == RGB(1, 1, 1) && dc.GetPixel(59, 59) == RGB(2, 2, 2));
+    EXPECT_TRUE(dc.GetPixel(50, 58) == RGB(1, 1, 1) && dc.GetPixel(58, 50) == RGB(1, 1, 1));
+    EXPECT_TRUE(dc.GetPixel(50, 59) == RGB(2, 2, 2) && dc.GetPixel(59, 50) == RGB(2, 2, 2));
     for (const auto& [x, y] : {std::pair{51, 51}, {58, 51}, {51, 58}, {58, 58}, {60, 60}, {49, 50}})
         EXPECT_EQ(dc.GetPixel(x, y), RGB(255, 255, 255)) << "inside and outside stay " << x << ' ' << y;
     dc.SetPixel(80, 80, RGB(9, 9, 9));

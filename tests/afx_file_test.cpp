@@ -84,7 +84,6 @@ TEST_F(AfxFileModes, AreNobodysOnceTheyAreClosedOrAborted) {
             (file->*end)();
             EXPECT_TRUE(file->m_hFile == CFile::hFileNull && file->GetFilePath().IsEmpty());
             EXPECT_TRUE(::DeleteFile(name)) << "still open";
-            file->Abort(); // nothing to do
         }
     }
     CFileStatus status;

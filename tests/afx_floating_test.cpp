@@ -181,6 +181,9 @@ TEST_F(AfxFloating, ABarIsResizedByWholeLinesOfButtons) {
     rect.bottom = rect.top + wide.Height();
     small.SendMessage(WM_SIZING, WMSZ_BOTTOM, reinterpret_cast<LPARAM>(&rect));
     EXPECT_EQ(rect.Size(), wide.Size());
+    const UINT after_a_gap[] = {ID_TEST_ON, ID_SEPARATOR, ID_TEST_OFF, ID_TEST_CHECKED, ID_TEST_NOBODY};
+    ASSERT_TRUE(frame.more.SetButtons(after_a_gap, 5));
+    EXPECT_LE(frame.more.CalcDynamicLayout(72, LM_HORZ).cx, 72) << "three lines";
 }
 
 TEST_F(AfxDockState, PutsEveryBarBackWhereItWas) {

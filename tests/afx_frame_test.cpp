@@ -205,8 +205,7 @@ TEST_F(AfxFrame, LaysOutDockedBarsAndRemembersThem) {
     EXPECT_TRUE(raises<CInvalidArgException>([&] { frame.DockControlBar(&frame.more, AFX_IDW_DOCKBAR_RIGHT); }))
         << "a side that the bar refuses";
     frame.more.DestroyWindow();
-    EXPECT_EQ(frame.more.GetDockingFrame(), nullptr);
-    frame.RecalcLayout();
+    EXPECT_TRUE(frame.more.GetDockingFrame() == nullptr && frame.m_listControlBars.Find(&frame.more) == nullptr);
 }
 
 TEST_F(AfxFrame, DialogBarsUpdateTheirControlsAndSendTheirCommands) {

@@ -206,7 +206,7 @@ TEST(AfxModelessSheet, HoldsPagesWithoutButtons) {
     EXPECT_TRUE(around.right > tabs.right && around.bottom > tabs.bottom) << "the pages are seen";
     EXPECT_LE(around.bottom, on_screen(*sheet.GetDlgItem(IDOK)).top) << "not the buttons";
     EXPECT_EQ(text_of(sheet), "Caption of its own");
-    EXPECT_FALSE(sheet.GetDlgItem(IDOK)->IsWindowVisible() || sheet.GetDlgItem(IDCANCEL)->IsWindowVisible());
+    EXPECT_FALSE(sheet.GetDlgItem(IDOK)->IsWindowVisible() || sheet.GetDlgItem(IDCANCEL)->IsWindowEnabled());
     EXPECT_TRUE(sheet.SetActivePage(1));
     EXPECT_EQ(sheet.GetActivePage(), &second);
     EXPECT_EQ(second.QuerySiblings(4, 0), 9);
