@@ -225,8 +225,7 @@ TEST(AfxCmdUI, ChecksRadiosInMenusAndAmongControls) {
     EXPECT_EQ(texts(), "chosen* other chosen* other ");
     frame.SendMessage(WM_COMMAND, ID_TEST_OFF);
     EXPECT_EQ(texts(), "other chosen* other chosen* ");
-    MENUITEMINFO info{};
-    info.fMask = MIIM_FTYPE;
+    MENUITEMINFO info{0, MIIM_FTYPE, 0, 0, 0, nullptr, nullptr, nullptr, 0, nullptr, 0, nullptr};
     EXPECT_TRUE(menu.GetSubMenu(1)->GetMenuItemInfo(1, &info, TRUE) && (info.fType & MFT_RADIOCHECK) != 0);
 }
 
