@@ -147,13 +147,7 @@ TEST_F(AfxBoxes, EditsGiveTheirLinesAndTakeTextsBack) {
 TEST_F(AfxBoxes, ScrollBarsStopWhereTheLastPageBegins) {
     CScrollBar bar;
     ASSERT_TRUE(bar.Create(shown | SBS_HORZ, CRect(0, 0, 100, 20), &parent, 1));
-    SCROLLINFO info{};
-    info.cbSize = sizeof(info);
-    info.fMask = SIF_ALL;
-    info.nMin = 0;
-    info.nMax = 100000; // more than 16 bits
-    info.nPage = 1000;
-    info.nPos = 100000;
+    SCROLLINFO info{sizeof(info), SIF_ALL, 0, 100000, 1000, 100000, 0}; // more than 16 bits
     EXPECT_TRUE(bar.SetScrollInfo(&info));
     EXPECT_EQ(bar.GetScrollPos(), 99001);
     EXPECT_EQ(bar.GetScrollLimit(), 99001);

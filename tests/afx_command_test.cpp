@@ -147,7 +147,7 @@ TEST(AfxMessageMap, HandlersSeeTheParametersOfTheirMessages) {
     MINMAXINFO info{};
     wnd.SendMessage(WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&info));
     EXPECT_EQ(info.ptMinTrackSize.y, 12);
-    EXPECT_EQ(wnd.SendMessage(registered + 1), 0) << "another registered message";
+    EXPECT_EQ(wnd.SendMessage(registered + 1) + wnd.SendMessage(0xC000), 0) << "other registered messages";
     wnd.log.clear();
     EXPECT_THROW(wnd.WindowProc(registered, 0, 0x123456789A), CNotSupportedException*) << "a pointer, perhaps";
     EXPECT_THROW(wnd.WindowProc(registered, 0x123456789A, 0), CNotSupportedException*);
@@ -170,7 +170,7 @@ struct commander : CWnd {
         item->ContinueRouting();
     }
     BOOL OnNotifyMaybe(UINT id, NMHDR*, LRESULT* result) { return *result = 9, log.push_back(text("n", id)), handled; }
-    void OnNotifyRange(UINT id, NMHDR*, LRESULT*) { log.push_back(text("nr", id)); }
+    void OnNotifyRange(UINT id, NMHDR*, LRESULT* result) { log.push_back(text("nr", id)), *result = 6; }
     void OnNotified(NMLISTVIEW* list, LRESULT* result) { log.push_back(text("n", list->hdr.code)), *result = 42; }
     void OnControl(UINT id) { log.push_back(text("control", id)); }
     DECLARE_MESSAGE_MAP()
@@ -217,7 +217,7 @@ TEST(AfxCommands, AreHandledByRangeAndAnswer) {
         return wnd.SendMessage(WM_NOTIFY, id, reinterpret_cast<LPARAM>(&header));
     };
     EXPECT_EQ(notify(400, static_cast<UINT>(NM_CLICK)), 9); // codes of the platform are negative
-    EXPECT_EQ(notify(401, static_cast<UINT>(NM_DBLCLK)), 0);
+    EXPECT_EQ(notify(401, static_cast<UINT>(NM_DBLCLK)), 6);
     EXPECT_EQ(notify(400, 103), 42);
     EXPECT_EQ(notify(400, 104), 0);
     CCmdUI item;
@@ -270,17 +270,14 @@ TEST(AfxReflection, GivesAControlItsMessagesBeforeItsParent) {
     EXPECT_EQ(parent.SendMessage(WM_NOTIFY, 7, reinterpret_cast<LPARAM>(&header)), 5);
     CClientDC dc(&parent);
     const auto colors = [&] { return parent.SendMessage(WM_CTLCOLORBTN, reinterpret_cast<WPARAM>(dc.m_hDC), from); };
-    EXPECT_NE(colors(), reinterpret_cast<LRESULT>(::GetStockObject(BLACK_BRUSH))) << "no brush: the default's";
+    EXPECT_EQ(colors(), ::DefWindowProc(parent, WM_CTLCOLORBTN, reinterpret_cast<WPARAM>(dc.m_hDC), from))
+        << "no brush";
     control.keeps = TRUE;
     EXPECT_EQ(colors(), reinterpret_cast<LRESULT>(::GetStockObject(BLACK_BRUSH)));
     parent.SendMessage(WM_HSCROLL, MAKEWPARAM(SB_LINEDOWN, 3), from);
-    DRAWITEMSTRUCT draw{};
-    draw.CtlType = ODT_BUTTON;
-    draw.itemID = 4;
-    draw.hwndItem = control.m_hWnd;
+    DRAWITEMSTRUCT draw{ODT_BUTTON, 0, 4, 0, 0, control.m_hWnd, nullptr, {}, 0};
     parent.SendMessage(WM_DRAWITEM, 7, reinterpret_cast<LPARAM>(&draw));
-    COMPAREITEMSTRUCT compare{};
-    compare.hwndItem = control.m_hWnd;
+    COMPAREITEMSTRUCT compare{0, 0, control.m_hWnd, 0, 0, 0, 0, 0};
     EXPECT_EQ(parent.SendMessage(WM_COMPAREITEM, 7, reinterpret_cast<LPARAM>(&compare)), -1);
     CListCtrl list;
     ASSERT_TRUE(list.Create(WS_CHILD | LVS_REPORT, CRect(0, 0, 50, 50), &parent, 8));

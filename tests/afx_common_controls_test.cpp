@@ -53,7 +53,7 @@ TEST_F(AfxCommonControls, AToolbarKeepsItsButtonsAndTheirStates) {
     EXPECT_TRUE(bar.HideButton(100) && bar.IsButtonHidden(100));
     EXPECT_EQ(bar.CommandToIndex(102), 2u);
     CString text;
-    EXPECT_TRUE(bar.GetString(first, text) == 5 && text == "First");
+    EXPECT_TRUE(bar.GetString(first, text) == 5 && text == "First" && text.GetLength() == 5);
     EXPECT_LT(bar.GetString(77, text), 0);
     EXPECT_TRUE(bar.SetCmdID(0, 200) && bar.CommandToIndex(200) == 0u);
     EXPECT_TRUE(bar.ChangeBitmap(200, 3) && bar.GetBitmap(200) == 3);
@@ -297,6 +297,7 @@ TEST_F(AfxCommonControls, ChecksGoRoundThreeStatesAndShowThem) {
             for (int y = row.top; y < row.bottom; ++y)
                 look.push_back(dc.GetPixel(x, y));
         looks.push_back(look);
+        EXPECT_EQ(dc.GetPixel(row.right - 2, 0), dc.GetPixel(row.right - 3, 0)) << "the dots of a focus";
         list.SendMessage(WM_KEYDOWN, VK_SPACE);
     }
     EXPECT_TRUE(looks[0] != looks[1] && looks[1] != looks[2] && looks[0] == looks[3]);
@@ -314,6 +315,8 @@ TEST_F(AfxCommonControls, ChecksGoRoundThreeStatesAndShowThem) {
 TEST_F(AfxCommonControls, ADraggedItemGoesWhereItIsDropped) {
     struct open_list : CDragListBox {
         using CDragListBox::OnChildNotify;
+        void DrawInsert(int item) override { marked = item, CDragListBox::DrawInsert(item); }
+        int marked = -1;
     } list;
     ASSERT_TRUE(list.Create(shown | LBS_NOTIFY, CRect(0, 0, 80, 60), &parent, 1));
     const auto reset = [&] {
@@ -354,15 +357,19 @@ TEST_F(AfxCommonControls, ADraggedItemGoesWhereItIsDropped) {
         list.SetCurSel(one.from);
         EXPECT_NE(tell(DL_BEGINDRAG, row(one.from)), 0);
         EXPECT_EQ(tell(DL_DRAGGING, row(one.before)), DL_MOVECURSOR);
+        EXPECT_EQ(list.marked, one.before);
         tell(DL_DROPPED, row(one.before));
         EXPECT_EQ(order(), one.order) << one.from << " before " << one.before;
+        EXPECT_EQ(one.order[list.GetCurSel()], 'a' + one.from) << "it stays selected";
+        EXPECT_EQ(list.marked, -1);
     }
     reset();
     list.SetCurSel(1);
     EXPECT_EQ(tell(DL_DRAGGING, CPoint(-500, -500)), DL_STOPCURSOR);
     tell(DL_DROPPED, CPoint(-500, -500));
+    tell(DL_DRAGGING, row(0));
     tell(DL_CANCELDRAG, row(0));
-    EXPECT_EQ(order(), "abc");
+    EXPECT_TRUE(order() == "abc" && list.marked == -1);
 }
 
 // -- Lists of pictures ------------------------------------------------------------------------------------------------
@@ -477,10 +484,7 @@ TEST_F(AfxCommonControls, BitmapButtonsShowTheBitmapOfTheirState) {
     CClientDC dc(&button);
     EXPECT_EQ(dc.GetPixel(4, 4), RGB(255, 0, 0)) << "it draws itself, whoever is asked to";
     const auto shows = [&](UINT state) {
-        DRAWITEMSTRUCT item{};
-        item.itemState = state;
-        item.hDC = dc;
-        item.rcItem = size;
+        DRAWITEMSTRUCT item{ODT_BUTTON, 0, 0, 0, state, button.m_hWnd, dc, size, 0};
         button.DrawItem(&item);
         return dc.GetPixel(4, 4);
     };

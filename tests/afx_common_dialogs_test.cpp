@@ -92,11 +92,7 @@ TEST_F(AfxCommonDialogs, AFontIsDescribedAsItWasChosen) {
     CString face; // as the system calls it, which may have another one in its place
     dc.GetTextFace(face);
     dc.SelectObject(before);
-    LOGFONT wanted{};
-    wanted.lfHeight = -24;
-    wanted.lfWeight = FW_BOLD;
-    wanted.lfItalic = TRUE;
-    wanted.lfUnderline = TRUE;
+    LOGFONT wanted{-24, 0, 0, 0, FW_BOLD, TRUE, TRUE, FALSE, 0, 0, 0, 0, 0, ""};
     lstrcpyn(wanted.lfFaceName, face, LF_FACESIZE);
     CFontDialog dialog(&wanted, CF_EFFECTS | CF_SCREENFONTS, nullptr, &parent);
     LOGFONT meanwhile{};

@@ -63,6 +63,10 @@ TEST_F(ColouredDialog, TakesTheProgramsColourWhereItHasNone) {
     the_app.SetDialogBkColor(green, blue);
     dialog_.RedrawWindow();
     EXPECT_TRUE(at(2, 2) == green && at(12, 12) == green);
+    CClientDC dc(&text_);
+    text_.GetParent()->SendMessage(WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc.m_hDC),
+                                   reinterpret_cast<LPARAM>(text_.m_hWnd));
+    EXPECT_TRUE(dc.GetTextColor() == blue && dc.GetBkColor() == green);
     dialog_.SendMessage(WM_ERASEBKGND); // nothing to paint on
     the_app.SetDialogBkColor(::GetSysColor(COLOR_BTNFACE), ::GetSysColor(COLOR_BTNTEXT));
 }
@@ -94,7 +98,8 @@ TEST_F(ColouredDialog, ShowsItsImageBehindTexts) {
     dialog_.UpdateWindow();
     dialog_.GetClientRect(client);
     EXPECT_EQ(at(client.right - 1, client.bottom - 1), blue) << "it keeps to the corner";
-    EXPECT_NE(::GetObjectType(image), 0u);
+    dialog_.SetBackgroundImage(HBITMAP(nullptr));
+    EXPECT_NE(::GetObjectType(image), 0u) << "the program's own";
 
     dialog_.SetBackgroundImage(image, CDialogEx::BACKGR_TILE, TRUE);
     EXPECT_TRUE(dialog_.SetBackgroundImage(UINT(IDB_UP)));

@@ -53,12 +53,16 @@ TEST_F(AfxDataDialog, ShowsAndTakesOverEveryKindOfData) {
     EXPECT_THAT(taken, testing::ElementsAre(-7, 1, 1, 0, 21, 44));
     EXPECT_EQ(dialog.day, CTime(2024, 5, 6, 7, 8, 9));
     EXPECT_EQ(dialog.month, CTime(2023, 2, 3, 0, 0, 0));
+    dialog.CheckDlgButton(IDC_GREEN, BST_UNCHECKED);
+    EXPECT_TRUE(dialog.UpdateData() && dialog.colour == -1) << "none is chosen";
 }
 
 TEST_F(AfxDataDialog, RefusesWrongEntries) {
     dialog.SetDlgItemText(IDC_COUNT, "101");
     EXPECT_FALSE(dialog.UpdateData());
     EXPECT_EQ(the_app.take_boxes().size(), 1u);
+    CWnd* wrong = dialog.GetDlgItem(IDC_COUNT);
+    EXPECT_TRUE(::GetFocus() == wrong->m_hWnd && wrong->SendMessage(EM_GETSEL) == MAKELRESULT(0, 3)) << "to type over";
     dialog.SetDlgItemText(IDC_COUNT, "100");
     EXPECT_TRUE(dialog.UpdateData());
     dialog.missing = 999;
@@ -115,11 +119,13 @@ TEST_F(AfxDataDialog, CheckBoxesKeepTheirStateBesideTheProgramsData) {
 
 struct refusing_file_dialog : CFileDialog {
     using CFileDialog::CFileDialog;
+    void OnInitDone() override { ++begun; }
     BOOL OnFileNameOK() override {
         seen.push_back(GetFileName().GetString());
         return seen.size() == 1;
     }
     std::vector<std::string> seen;
+    int begun = 0;
 };
 
 TEST(AfxFileChoice, AsksTheProgramAboutTheName) {
@@ -131,6 +137,7 @@ TEST(AfxFileChoice, AsksTheProgramAboutTheName) {
         return dialog.seen.size() > 0;
     });
     EXPECT_EQ(dialog.DoModal(), IDOK);
+    EXPECT_EQ(dialog.begun, 1);
     EXPECT_GE(dialog.seen.size(), 2u) << "refused once";
     EXPECT_STREQ(dialog.GetFileName(), "report.txt");
     EXPECT_STREQ(dialog.GetFileTitle(), "report");

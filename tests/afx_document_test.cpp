@@ -1,5 +1,6 @@
 // Documents: made, changed, asked about, saved, opened again; the files that were used last; the command line.
 #include "afx_test_app.h"
+#include "held_keys.h"
 #include "modal.h"
 #include "temporary_file.h"
 
@@ -49,6 +50,11 @@ class note_view : public CView {
 
 public:
     static inline std::vector<std::string> log;
+    static inline CCreateContext made;
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override {
+        made = *static_cast<const CCreateContext*>(cs.lpCreateParams);
+        return CView::PreCreateWindow(cs);
+    }
     void OnDraw(CDC*) override {}
     void OnInitialUpdate() override {
         log.push_back("initial");
@@ -120,8 +126,10 @@ TEST_F(NoteProgram, MakesChangesSavesAndOpensADocument) {
     EXPECT_EQ(title(), "Untitled - Tests");
     EXPECT_EQ(the_app.OpenDocumentFile(path_.c_str()), &document()) << "the one document is used again";
     EXPECT_EQ(document().text, "second");
-    frame().SendMessage(WM_CLOSE);
-    EXPECT_EQ(the_app.m_pMainWnd, nullptr);
+    note_view in_no_frame;
+    document().AddView(&in_no_frame);
+    the_app.CloseAllDocuments(FALSE);
+    EXPECT_TRUE(the_app.m_pMainWnd == nullptr && in_no_frame.GetDocument() == nullptr);
     EXPECT_EQ(note::alive, 0);
     EXPECT_TRUE(note::events.ends_with("022013")) << note::events;
 }
@@ -225,6 +233,11 @@ TEST_F(AfxSeveralDocuments, AFileThatIsOpenIsShownNotOpenedAgain) {
     for (POSITION at = the_app.GetFirstDocTemplatePosition(); at != nullptr; ++templates)
         the_app.GetNextDocTemplate(at);
     EXPECT_EQ(templates, 1);
+    const HMENU of_documents = frame->GetMenu()->m_hMenu;
+    child->GetNextWindow()->SendMessage(WM_CLOSE);
+    EXPECT_EQ(frame->GetMenu()->m_hMenu, of_documents) << "one is left";
+    child->SendMessage(WM_CLOSE);
+    EXPECT_NE(frame->GetMenu()->m_hMenu, of_documents);
     ::DeleteFile(path.c_str());
 }
 
@@ -248,6 +261,12 @@ TEST_F(AfxSeveralDocuments, LieInOneFrameThatShowsTheActiveOnes) {
     frame->MDIActivate(second);
     frame->SendMessage(WM_COMMAND, ID_WINDOW_NEW);
     EXPECT_EQ(text_of(*second), "Untitled2:1");
+    EXPECT_EQ(note_view::made.m_pNewDocTemplate, second->GetActiveDocument()->GetDocTemplate());
+    EXPECT_EQ(note_view::made.m_pCurrentFrame, second);
+    second->SetWindowPos(nullptr, 0, 0, 150, 120, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    EXPECT_EQ(on_screen(*second->GetActiveView()).Size(), inside_of(*second).Size());
+    MSG key{second->m_hWnd, WM_KEYDOWN, 'T', 0, 0, {}};
+    EXPECT_TRUE((HeldKeys({VK_CONTROL}), second->PreTranslateMessage(&key))) << "a key of its template's";
     EXPECT_EQ(the_app.GetOpenDocumentCount(), 2);
     static_cast<note*>(second->GetActiveDocument())->SetModifiedFlag();
     second->SendMessage(WM_CLOSE);
@@ -280,7 +299,7 @@ TEST_F(AfxSeveralDocuments, AreOpenedByTheShellsCommands) {
     frame->SendMessage(WM_DDE_EXECUTE);
     MSG answer;
     EXPECT_FALSE(::PeekMessage(&answer, *frame, WM_DDE_FIRST, WM_DDE_LAST, PM_NOREMOVE));
-    const LPARAM names = MAKELPARAM(the_app.m_atomApp, the_app.m_atomSystemTopic);
+    const LPARAM names = MAKELPARAM(the_app.m_atomApp, ::GlobalFindAtom("system"));
     EXPECT_EQ(talk(WM_DDE_INITIATE, names), 1);
     CWnd another;
     ASSERT_TRUE(create_popup(another));
@@ -290,6 +309,7 @@ TEST_F(AfxSeveralDocuments, AreOpenedByTheShellsCommands) {
     std::memcpy(memory, command.data(), command.size());
     EXPECT_EQ(talk(WM_DDE_EXECUTE, reinterpret_cast<LPARAM>(memory)), 2);
     ::GlobalFree(memory);
+    EXPECT_TRUE(the_app.OnDDECommand(std::string(command).data()));
     auto* opened = static_cast<note*>(frame->GetActiveFrame()->GetActiveDocument());
     EXPECT_TRUE(opened != nullptr && opened->text == "a note");
     for (std::string wrong :
@@ -368,17 +388,18 @@ TEST(AfxCommandLine, SaysWhatTheShellWants) {
 
 TEST(AfxRecentFiles, AreKeptLatestFirstAndShownInTheMenu) {
     CRecentFileList list(0, "Recent Test", "File%d", 3);
-    for (const char* name : {"C:\\a\\1.note", "C:\\a\\2.note", "C:\\a&b\\3.note", "C:\\a\\4.note", "C:\\A\\2.NOTE"})
+    for (const char* name : {"C:\\a\\1.note", "C:\\a\\2.note", "C:\\a folder with a long name\\a&b\\3.note",
+                             "C:\\a\\4.note", "C:\\A\\2.NOTE"})
         list.Add(name);
     EXPECT_STREQ(list[0], "C:\\A\\2.NOTE");
     EXPECT_STREQ(list[1], "C:\\a\\4.note");
-    EXPECT_STREQ(list[2], "C:\\a&b\\3.note");
+    EXPECT_STREQ(list[2], "C:\\a folder with a long name\\a&b\\3.note");
     list.WriteList();
     CRecentFileList again(0, "Recent Test", "File%d", 3);
     again.ReadList();
     EXPECT_STREQ(again[2], list[2]);
     again.Remove(1);
-    EXPECT_TRUE(again.m_arrNames[2].IsEmpty());
+    EXPECT_TRUE(again[2].IsEmpty());
 
     CMenu menu, fresh;
     const auto update = [](CRecentFileList& files, CMenu& in) {
@@ -395,14 +416,14 @@ TEST(AfxRecentFiles, AreKeptLatestFirstAndShownInTheMenu) {
     CString text;
     ASSERT_EQ(menu.GetMenuItemCount(), 3u);
     menu.GetMenuString(1, text, MF_BYPOSITION);
-    EXPECT_STREQ(text, "&2 C:\\a&&b\\3.note");
+    EXPECT_STREQ(text, "&2 C:\\...\\a&&b\\3.note");
     EXPECT_EQ(menu.GetMenuItemID(1), static_cast<UINT>(ID_FILE_MRU_FILE2));
     CRecentFileList tenth(9, "Recent Test", "File%d", 1);
-    tenth.Add("C:\\a\\5.note");
+    tenth.Add("5.note"); // in the current folder
     CMenu last;
     update(tenth, last);
     last.GetMenuString(0, text, MF_BYPOSITION);
-    EXPECT_STREQ(text, "1&0 C:\\a\\5.note");
+    EXPECT_STREQ(text, "1&0 5.note");
     CRecentFileList empty(0, "Recent Test", "File%d", 3);
     update(empty, fresh);
     EXPECT_NE(fresh.GetMenuState(0, MF_BYPOSITION) & MF_GRAYED, 0u);

@@ -28,7 +28,11 @@ TEST_F(AfxDeviceContext, GivesBackWhatWasSelected) {
     EXPECT_EQ(described.lopnColor, RGB(255, 0, 0));
     CPen other;
     EXPECT_FALSE(pen.CreatePen(PS_SOLID, 1, RGB(0, 0, 0))) << "it holds one already";
-    EXPECT_TRUE(pen.DeleteObject() && !pen.DeleteObject());
+    const HGDIOBJ gone = pen.m_hObject;
+    EXPECT_TRUE(pen.DeleteObject() && !pen.DeleteObject() && ::GetObjectType(gone) == 0);
+    const HDC plain = ::CreateCompatibleDC(dc);
+    EXPECT_EQ(CDC::FromHandle(plain)->m_hAttribDC, plain);
+    ::DeleteDC(plain);
 }
 
 TEST_F(AfxDeviceContext, ConvertsUnitsAndPutsThemBack) {
@@ -132,8 +136,10 @@ TEST_F(AfxDeviceContext, BrushesAndEdgesDrawWhatTheySay) {
         seen.insert(dc.GetPixel(x, 3));
     EXPECT_EQ(seen, (std::set<COLORREF>{RGB(255, 0, 0), RGB(0, 255, 0)}));
     dc.Draw3dRect(CRect(50, 50, 60, 60), RGB(1, 1, 1), RGB(2, 2, 2));
-    EXPECT_TRUE(dc.GetPixel(50, 50) == RGB(1, 1, 1) && dc.GetPixel(59, 59) == RGB(2, 2, 2));
-    EXPECT_EQ(dc.GetPixel(55, 55), RGB(255, 255, 255)) << "the inside stays";
+    EXPECT_TRUE(dc.GetPixel(50, 58) == RGB(1, 1, 1) && dc.GetPixel(58, 50) == RGB(1, 1, 1));
+    EXPECT_TRUE(dc.GetPixel(50, 59) == RGB(2, 2, 2) && dc.GetPixel(59, 50) == RGB(2, 2, 2));
+    for (const auto& [x, y] : {std::pair{51, 51}, {58, 51}, {51, 58}, {58, 58}, {60, 60}, {49, 50}})
+        EXPECT_EQ(dc.GetPixel(x, y), RGB(255, 255, 255)) << "inside and outside stay " << x << ' ' << y;
     dc.SetPixel(80, 80, RGB(9, 9, 9));
     dc.FillSolidRect(70, 70, 5, 5, RGB(9, 9, 9));
     canvas copy(10, 10);
@@ -158,10 +164,8 @@ TEST_F(AfxDeviceContext, ShortensTextsAndMeasuresGlyphs) {
     dc.DrawTextEx(CString("x"), place, DT_CALCRECT, &margins);
     EXPECT_EQ(place.Width(), dc.GetTextExtent("x").cx + 10) << "and the left margin";
     WORD glyphs[2] = {};
-    GCP_RESULTS placed{};
-    placed.lStructSize = sizeof(placed);
-    placed.lpGlyphs = reinterpret_cast<LPWSTR>(glyphs);
-    placed.nGlyphs = 2;
+    auto* const placed_at = reinterpret_cast<LPWSTR>(glyphs);
+    GCP_RESULTS placed{sizeof(placed), nullptr, nullptr, nullptr, nullptr, nullptr, placed_at, 2, 0};
     CString letters("Wi");
     EXPECT_EQ(LOWORD(dc.GetCharacterPlacement(letters, 0, &placed, 0)), dc.GetTextExtent(letters).cx);
     int widths[2] = {}, letter = 0;

@@ -75,6 +75,23 @@ TEST_F(AfxFileModes, StandWhereTheyWerePutAndGrowFromThere) {
               CFileException::accessDenied);
 }
 
+TEST_F(AfxFileModes, AreNobodysOnceTheyAreClosedOrAborted) {
+    CFile plain;
+    CStdioFile text;
+    for (CFile* file : {&plain, static_cast<CFile*>(&text)}) {
+        for (const auto end : {&CFile::Close, &CFile::Abort}) {
+            ASSERT_TRUE(file->Open(name, write_new | CFile::shareExclusive));
+            (file->*end)();
+            EXPECT_TRUE(file->m_hFile == CFile::hFileNull && file->GetFilePath().IsEmpty());
+            EXPECT_TRUE(::DeleteFile(name)) << "still open";
+        }
+    }
+    CFileStatus status;
+    ASSERT_TRUE(plain.Open(name, write_new));
+    plain.SetLength(0x500000003); // of holes
+    EXPECT_TRUE(CFile::GetStatus(name, status) && ULONGLONG(status.m_size) == plain.SeekToEnd());
+}
+
 TEST_F(AfxFileModes, KeepOthersOutAsAsked) {
     CFile first(name, write_new | CFile::shareExclusive);
     EXPECT_EQ(cause_of<CFileException>([&] { CFile(name, CFile::modeRead | CFile::shareDenyNone); }),
@@ -143,6 +160,8 @@ TEST_F(AfxFileModes, NamesAreChangedAndCausesAreTold) {
     EXPECT_FALSE(CFile::GetStatus(folder + "\\third.tmp", status));
     ASSERT_TRUE(CFile::GetStatus(name, status));
     EXPECT_STREQ(status.m_szFullName, name);
+    for (const CTime& time : {status.m_ctime, status.m_atime, status.m_mtime})
+        EXPECT_LT((CTime::GetCurrentTime() - time).GetTotalSeconds(), 60);
     status.m_mtime = CTime(2001, 2, 3, 4, 5, 6);
     status.m_attribute |= CFile::readOnly;
     CFile::SetStatus(name, status);

@@ -181,6 +181,9 @@ TEST_F(AfxFloating, ABarIsResizedByWholeLinesOfButtons) {
     rect.bottom = rect.top + wide.Height();
     small.SendMessage(WM_SIZING, WMSZ_BOTTOM, reinterpret_cast<LPARAM>(&rect));
     EXPECT_EQ(rect.Size(), wide.Size());
+    const UINT after_a_gap[] = {ID_TEST_ON, ID_SEPARATOR, ID_TEST_OFF, ID_TEST_CHECKED, ID_TEST_NOBODY};
+    ASSERT_TRUE(frame.more.SetButtons(after_a_gap, 5));
+    EXPECT_LE(frame.more.CalcDynamicLayout(72, LM_HORZ).cx, 72) << "three lines";
 }
 
 TEST_F(AfxDockState, PutsEveryBarBackWhereItWas) {
@@ -193,6 +196,7 @@ TEST_F(AfxDockState, PutsEveryBarBackWhereItWas) {
     };
     CDockState rows, floating, read;
     frame.GetDockState(rows);
+    frame.GetDockState(rows); // in place of what it held
     const auto in_rows = places();
     frame.FloatControlBar(&frame.more, CPoint(200, 150));
     frame.ShowControlBar(&frame.tools, FALSE, FALSE);
@@ -217,9 +221,19 @@ TEST_F(AfxDockState, PutsEveryBarBackWhereItWas) {
 }
 
 TEST_F(AfxMiniFrame, IsASmallPopupOfItsOwner) {
-    auto* small = new CMiniFrameWnd; // deletes itself
-    ASSERT_TRUE(small->Create(nullptr, "Tools", WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_VISIBLE | MFS_MOVEFRAME,
+    struct small_frame : CMiniFrameWnd {
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+            active = message == WM_NCACTIVATE ? wParam != 0 : active;
+            return CMiniFrameWnd::WindowProc(message, wParam, lParam);
+        }
+        bool active = false;
+    };
+    auto* small = new small_frame; // deletes itself
+    ASSERT_TRUE(small->Create(nullptr, "Tools",
+                              WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_VISIBLE | MFS_MOVEFRAME | MFS_SYNCACTIVE,
                               CRect(100, 100, 200, 180), &frame));
+    for (const bool active : {true, false})
+        EXPECT_TRUE((frame.SendMessage(WM_ACTIVATE, active), small->active == active)) << "together with its owner";
     EXPECT_EQ(small->GetExStyle() & WS_EX_TOOLWINDOW, static_cast<DWORD>(WS_EX_TOOLWINDOW));
     EXPECT_EQ(::GetWindow(small->m_hWnd, GW_OWNER), frame.m_hWnd);
     EXPECT_EQ(small->SendMessage(WM_NCHITTEST, 0, MAKELPARAM(101, 140)), HTCAPTION) << "any edge moves it";

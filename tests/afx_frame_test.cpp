@@ -67,9 +67,15 @@ using AfxToolBar = AfxFrame;
 using AfxReBar = AfxFrame;
 
 TEST_F(AfxFrame, UpdatesItsMenuToolbarAndPanesByItsHandlers) {
-    const UINT panes[] = {ID_SEPARATOR, ID_TEST_PANE, ID_INDICATOR_CAPS};
-    ASSERT_TRUE(frame.status.SetIndicators(panes, 3));
-    frame.settle();
+    const UINT panes[] = {ID_SEPARATOR, ID_TEST_PANE, ID_INDICATOR_CAPS, ID_INDICATOR_NUM, ID_INDICATOR_SCRL};
+    ASSERT_TRUE(frame.status.SetIndicators(panes, 5));
+    const HeldKeys off({VK_CAPITAL, VK_NUMLOCK, VK_SCROLL}, 0);
+    for (const auto& [key, pane] : {std::pair{VK_CAPITAL, 2}, {VK_NUMLOCK, 3}, {VK_SCROLL, 4}}) {
+        const HeldKeys on({key}, 1);
+        frame.settle();
+        for (const int i : {2, 3, 4})
+            EXPECT_EQ((frame.status.GetPaneStyle(i) & SBPS_DISABLED) == 0, i == pane) << key;
+    }
     EXPECT_TRUE(frame.enabled(ID_TEST_ON));
     EXPECT_FALSE(frame.enabled(ID_TEST_OFF));
     EXPECT_FALSE(frame.enabled(ID_TEST_NOBODY)) << "a command without handler";
@@ -124,13 +130,16 @@ TEST_F(AfxFrame, ShowsPromptsOfMenusAndOfButtonsUnderThePointer) {
     frame.tools.GetItemRect(0, button);
     const CPoint at = button.CenterPoint();
     MSG move{frame.tools.m_hWnd, WM_MOUSEMOVE, 0, MAKELPARAM(at.x, at.y), 0, {0, 0}};
-    frame.tools.PreTranslateMessage(&move);
-    EXPECT_EQ(shown(), "Switch it on");
+    for (const UINT message : {WM_MOUSEMOVE, WM_RBUTTONDOWN, WM_LBUTTONDOWN, WM_MOUSEMOVE}) {
+        move.message = message;
+        frame.tools.PreTranslateMessage(&move);
+        EXPECT_EQ(shown(), message == WM_LBUTTONDOWN ? "Ready" : "Switch it on");
+    }
     frame.tools.SendMessage(WM_MOUSELEAVE);
     EXPECT_EQ(shown(), "Ready");
     TOOLTIPTEXTA tip{};
     tip.hdr = {frame.tools.m_hWnd, ID_TEST_ON, static_cast<UINT>(TTN_NEEDTEXTA)};
-    frame.SendMessage(WM_NOTIFY, ID_TEST_ON, reinterpret_cast<LPARAM>(&tip));
+    EXPECT_EQ(frame.SendMessage(WM_NOTIFY, ID_TEST_ON, reinterpret_cast<LPARAM>(&tip)), 0);
     EXPECT_STREQ(tip.szText, "On");
 }
 
@@ -153,10 +162,11 @@ TEST_F(AfxFrame, LaysOutDockedBarsAndRemembersThem) {
     ASSERT_TRUE(client.Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 1, 1), &frame, AFX_IDW_PANE_FIRST));
     frame.tools.EnableDocking(CBRS_ALIGN_ANY);
     frame.more.EnableDocking(CBRS_ALIGN_TOP | CBRS_ALIGN_LEFT);
+    frame.EnableDocking(CBRS_ALIGN_LEFT);
     frame.EnableDocking(CBRS_ALIGN_ANY);
     frame.DockControlBar(&frame.tools);
     frame.DockControlBar(&frame.more, AFX_IDW_DOCKBAR_LEFT);
-    frame.SetWindowPos(nullptr, 0, 0, 500, 400, SWP_NOZORDER | SWP_NOACTIVATE);
+    frame.SetWindowPos(nullptr, 250, 40, 500, 400, SWP_NOZORDER | SWP_NOACTIVATE);
     frame.settle();
     frame.RecalcLayout();
     const CRect all = inside_of(frame);
@@ -168,6 +178,7 @@ TEST_F(AfxFrame, LaysOutDockedBarsAndRemembersThem) {
     EXPECT_EQ(status.bottom, all.bottom);
     EXPECT_EQ(status.Width(), all.Width());
     EXPECT_EQ(middle, CRect(left.right, top.bottom, all.right, status.top));
+    EXPECT_EQ(left.top, top.bottom) << "the upper side is above the left one, whichever was enabled first";
 
     AFX_SIZEPARENTPARAMS question{};
     frame.tools.DelayShow(FALSE);
@@ -193,6 +204,8 @@ TEST_F(AfxFrame, LaysOutDockedBarsAndRemembersThem) {
     EXPECT_EQ(frame.client_of(frame.more), CRect(CPoint(0, 0), left.Size()));
     EXPECT_TRUE(raises<CInvalidArgException>([&] { frame.DockControlBar(&frame.more, AFX_IDW_DOCKBAR_RIGHT); }))
         << "a side that the bar refuses";
+    frame.more.DestroyWindow();
+    EXPECT_TRUE(frame.more.GetDockingFrame() == nullptr && frame.m_listControlBars.Find(&frame.more) == nullptr);
 }
 
 TEST_F(AfxFrame, DialogBarsUpdateTheirControlsAndSendTheirCommands) {
@@ -208,7 +221,7 @@ TEST_F(AfxFrame, DialogBarsUpdateTheirControlsAndSendTheirCommands) {
 TEST_F(AfxFrame, ButtonsAndPanesKeepTheirStyles) {
     CToolBar& bar = frame.tools;
     EXPECT_EQ(bar.CommandToIndex(ID_TEST_CHECKED), 3);
-    EXPECT_EQ(bar.GetItemID(2), 0u) << "the gap";
+    EXPECT_TRUE(bar.GetItemID(2) == 0 && bar.GetButtonStyle(2) == TBBS_SEPARATOR) << "the gap";
     bar.SetButtonInfo(0, ID_TEST_ON, TBBS_CHECKBOX | TBBS_CHECKED, 1);
     UINT id = 0, style = 0;
     int image = 0;
@@ -226,8 +239,7 @@ TEST_F(AfxFrame, ButtonsAndPanesKeepTheirStyles) {
     frame.status.GetItemRect(1, before);
     frame.status.SetPaneInfo(1, ID_TEST_PANE, SBPS_POPOUT, 200);
     frame.status.GetItemRect(1, after);
-    EXPECT_GT(after.Width(), 190);
-    EXPECT_LT(before.Width(), after.Width());
+    EXPECT_TRUE(before.Width() < 200 && after.Width() >= 200 && after.right <= inside_of(frame.status).right);
     EXPECT_EQ(frame.status.GetPaneStyle(1), static_cast<UINT>(SBPS_POPOUT));
     EXPECT_FALSE(frame.status.SetPaneText(2, "none such"));
     auto* without = new CFrameWnd; // deletes itself
@@ -244,6 +256,27 @@ TEST_F(AfxToolBar, HasABackgroundWhereTheFrameLeavesItsOwnToTheView) {
     frame.tools.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc.m_hDC));
     EXPECT_EQ(dc.GetPixel(5, 5), ::GetSysColor(COLOR_BTNFACE));
     frame.SetActiveView(nullptr);
+}
+
+TEST_F(AfxToolBar, HasTheBordersOfItsStyleAroundItsButtons) {
+    struct : CToolBar {
+        using CToolBar::DrawBorders;
+    } bar;
+    canvas dc(20, 20);
+    const auto inside = [&](DWORD style) {
+        CRect rect(0, 0, 20, 20);
+        bar.SetBarStyle(style);
+        return bar.DrawBorders(&dc, rect), rect;
+    };
+    EXPECT_EQ(inside(CBRS_BORDER_LEFT | CBRS_BORDER_RIGHT), CRect(1, 0, 19, 20));
+    EXPECT_EQ(inside(CBRS_BORDER_TOP | CBRS_BORDER_BOTTOM), CRect(0, 1, 20, 19));
+    EXPECT_EQ(inside(CBRS_BORDER_ANY | CBRS_FLOATING), CRect(0, 0, 20, 20));
+    CToolBar& tools = frame.tools;
+    tools.SetBarStyle(tools.GetBarStyle() | CBRS_BORDER_TOP);
+    CClientDC(&tools).SetPixel(3, 3, RGB(255, 0, 0));
+    tools.SendMessage(WM_NCPAINT, 1);
+    EXPECT_EQ(CWindowDC(&tools).GetPixel(10, 0), ::GetSysColor(COLOR_3DHIGHLIGHT));
+    EXPECT_EQ(CClientDC(&tools).GetPixel(3, 3), RGB(255, 0, 0)) << "the buttons are painted by themselves";
 }
 
 TEST_F(AfxReBar, HoldsTheFramesBars) {
@@ -265,6 +298,8 @@ TEST_F(AfxReBar, HoldsTheFramesBars) {
     EXPECT_TRUE(frame.enabled(ID_TEST_ON));
     frame.tools.SendMessage(WM_COMMAND, ID_TEST_ON);
     EXPECT_THAT(frame.log, ElementsAre("on"));
+    rebar.GetReBarCtrl().ShowBand(1, FALSE);
+    EXPECT_TRUE(pumped_until([&] { return frame.client_of(rebar).Height() < place.Height() * 2 / 3; })) << "one row";
 }
 
 struct AfxHelp : AfxFrame {
@@ -287,6 +322,10 @@ TEST_F(AfxHelp, IsAskedForTheNearestWindowThatKnowsATopic) {
     button->OnHelp();
     HELPINFO key{sizeof(key), HELPINFO_WINDOW, IDOK, button->m_hWnd, 0, {0, 0}};
     dialog.SendMessage(WM_HELP, 0, reinterpret_cast<LPARAM>(&key)); // sends the command, which nobody here handles
+    bar_frame unknown;
+    ASSERT_TRUE(unknown.Create(nullptr, "without a topic"));
+    EXPECT_EQ(unknown.SendMessage(WM_COMMANDHELP), 0);
+    EXPECT_STREQ(CString(the_app.m_pszHelpFilePath).Right(13), "\\afx_test.HLP");
     the_app.OnHelpFinder();
     EXPECT_THAT(the_app.helped, ElementsAre(topic(0x20000 + IDR_FRAME), topic(0x10000 + ID_TEST_ON),
                                             topic(0x20000 + IDD_TEST), DWORD_PTR{HELP_FINDER}));
@@ -302,7 +341,10 @@ TEST_F(AfxHelp, IsGivenAboutWhatIsClickedNext) {
     };
     CRect button;
     frame.tools.GetItemRect(0, button);
+    CWnd passing;
+    ASSERT_TRUE(create_popup(passing) && passing.PostMessage(WM_CLOSE));
     click(frame.tools, button.CenterPoint(), WM_LBUTTONDOWN);
+    EXPECT_EQ(passing.m_hWnd, nullptr) << "other windows live on";
     click(frame, CPoint(10, 200), WM_LBUTTONDOWN);
     click(frame.tools, button.CenterPoint(), WM_KEYDOWN, VK_ESCAPE);
     EXPECT_THAT(the_app.helped, ElementsAre(topic(0x10000 + ID_TEST_ON), topic(0x20000 + IDR_FRAME)));

@@ -62,10 +62,7 @@ TEST(AfxMenu, KeepsTheStatesOfItems) {
     EXPECT_NE(menu.GetMenuState(2, MF_BYCOMMAND) & MF_CHECKED, 0u);
     EXPECT_TRUE(menu.SetDefaultItem(3));
     EXPECT_EQ(menu.GetDefaultItem(0), 3u);
-    MENUITEMINFO info{};
-    info.fMask = MIIM_DATA | MIIM_ID;
-    info.dwItemData = 77;
-    info.wID = 50;
+    MENUITEMINFO info{0, MIIM_DATA | MIIM_ID, 0, 0, 50, nullptr, nullptr, nullptr, 77, nullptr, 0, nullptr};
     EXPECT_TRUE(menu.SetMenuItemInfo(1, &info, TRUE));
     info = {};
     info.fMask = MIIM_DATA;
@@ -114,13 +111,8 @@ TEST(AfxMenu, ItsOwnerPassesMeasuringAndDrawingOnToIt) {
     drawn_menu menu;
     menu.CreatePopupMenu();
     menu.AppendMenu(MF_OWNERDRAW, 5, "own");
-    MEASUREITEMSTRUCT measured{};
-    measured.CtlType = ODT_MENU;
-    measured.itemID = 5;
-    DRAWITEMSTRUCT drawn{};
-    drawn.CtlType = ODT_MENU;
-    drawn.itemID = 5;
-    drawn.hwndItem = reinterpret_cast<HWND>(menu.m_hMenu);
+    MEASUREITEMSTRUCT measured{ODT_MENU, 0, 5, 0, 0, 0};
+    DRAWITEMSTRUCT drawn{ODT_MENU, 0, 5, 0, 0, reinterpret_cast<HWND>(menu.m_hMenu), nullptr, {}, 0};
     owner.SendMessage(WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&drawn));
     EXPECT_THAT(menu.drawn, testing::ElementsAre(5u));
     owner.SendMessage(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&measured));

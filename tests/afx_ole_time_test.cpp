@@ -28,7 +28,7 @@ TEST(AfxOleTime, TakesOnlyWhatIsADate) {
 
 TEST(AfxOleTime, CountsOverTheDayThatIsZero) {
     const COleDateTime before(1899, 12, 29, 18, 0, 0), after(1899, 12, 30, 6, 0, 0);
-    EXPECT_EQ((after - before).GetTotalHours(), 12);
+    EXPECT_TRUE((after - before).GetTotalHours() == 12 && (after - before).GetStatus() == COleDateTimeSpan::valid);
     EXPECT_TRUE(before < after && after > before && before <= before && !(before >= after));
     EXPECT_TRUE(before + COleDateTimeSpan(0, 12, 0, 0) == after && after - COleDateTimeSpan(0.5) == before);
     EXPECT_TRUE(COleDateTime(1899, 12, 29, 6, 0, 0) < before) << "though its number is the greater one";
@@ -37,6 +37,7 @@ TEST(AfxOleTime, CountsOverTheDayThatIsZero) {
     COleDateTime none = after;
     none.SetStatus(COleDateTime::null);
     EXPECT_EQ((none + span).GetStatus(), COleDateTime::null);
+    EXPECT_EQ((none - before).GetStatus(), COleDateTimeSpan::null);
     EXPECT_EQ((after + COleDateTimeSpan(1e8)).GetStatus(), COleDateTime::invalid);
     EXPECT_EQ((COleDateTime(1e8) - after).Format("%D"), "Invalid DateTimeSpan");
 }

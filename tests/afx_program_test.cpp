@@ -1,5 +1,8 @@
 // The program around the windows: dialogs and fonts.
 #include "afx_test_app.h"
+#include "modal.h"
+
+#include <afxpriv.h>
 
 test_app the_app;
 
@@ -70,11 +73,40 @@ TEST(AfxDialog, ModalOneDisablesItsParentUntilItEnds) {
     EXPECT_EQ(CDialog(9999u).DoModal(), -1) << "no such template";
 }
 
+TEST(AfxDialog, IsShownOnceAndIdleAfterWhatHappens) {
+    struct : test_dialog {
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+            if (message != WM_KICKIDLE)
+                return test_dialog::WindowProc(message, wParam, lParam);
+            seen.emplace_back(IsWindowVisible(), lParam);
+            ShowWindow(SW_HIDE);
+            press(seen.size() > 1 ? IDOK : 0);
+            return FALSE;
+        }
+        std::vector<std::pair<BOOL, LPARAM>> seen;
+    } dialog;
+    const WhileModal too_late([&, ticks = 0]() mutable { return ++ticks == 50 && (dialog.press(IDCANCEL), true); });
+    EXPECT_EQ(dialog.DoModal(), IDOK);
+    EXPECT_THAT(dialog.seen, testing::ElementsAre(std::pair{TRUE, 0}, std::pair{FALSE, 0})) << "as it hid itself";
+}
+
 TEST(AfxDialog, IsRefusedWhereItCannotBeInitialised) {
     test_dialog dialog;
     dialog.on_open = [] { throw new CUserException; };
     EXPECT_FALSE(dialog.Create(IDD_TEST));
     EXPECT_EQ(dialog.m_hWnd, nullptr);
+}
+
+TEST(AfxProgram, ShowsThatItIsBusyUntilTheLastWaitEnds) {
+    const HCURSOR arrow = ::LoadCursor(nullptr, IDC_ARROW), wait = ::LoadCursor(nullptr, IDC_WAIT);
+    ::SetCursor(arrow);
+    the_app.BeginWaitCursor();
+    { CWaitCursor inner; }
+    EXPECT_EQ(::SetCursor(arrow), wait);
+    the_app.RestoreWaitCursor();
+    EXPECT_EQ(::GetCursor(), wait);
+    the_app.EndWaitCursor();
+    EXPECT_EQ(::GetCursor(), arrow);
 }
 
 TEST(AfxDrawing, PointFontsAreAsHighAsTheDeviceSays) {

@@ -73,6 +73,7 @@ TEST(AfxExceptions, TellTheUserWhatHappened) {
             UINT help = 5;
             EXPECT_TRUE(exception->GetErrorMessage(text, sizeof(text), &help)) << one.what;
             EXPECT_EQ(help, 0u);
+            EXPECT_FALSE(std::isspace(static_cast<unsigned char>(text[std::strlen(text) - 1]))) << "no line ends it";
             CString lower(text);
             const bool of_system = exception->IsKindOf(RUNTIME_CLASS(COleException)) != FALSE;
             EXPECT_TRUE(of_system || lower.MakeLower().Find(one.what) >= 0) << text;
@@ -130,6 +131,9 @@ TEST(AfxOle, IsBegunForItsThreadOnce) {
         *static_cast<std::string*>(all) += std::string(type->m_lpszClassName) + " ";
     };
     AfxDoForAllClasses(add, &names);
+    CRuntimeClass passing = {"passing", 0, 0, nullptr, nullptr, nullptr};
+    EXPECT_TRUE((AFX_CLASSINIT(&passing), CRuntimeClass::FromName("passing") == &passing));
+    EXPECT_EQ(CRuntimeClass::FromName("passing"), nullptr) << "of a library that went";
     EXPECT_TRUE(names.find("CByteArray ") != names.npos && names.find("CFrameWnd ") == names.npos) << names;
 }
 

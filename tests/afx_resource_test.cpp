@@ -42,6 +42,9 @@ TEST_F(AfxDialogData, FillsBoxesAndStopsAtWhatIsBroken) {
     EXPECT_EQ(dialog.count(1001, CB_GETCOUNT), 2);
     EXPECT_EQ(dialog.count(1002, LB_GETCOUNT), 1);
     EXPECT_TRUE(dialog.ExecuteDlgInit(MAKEINTRESOURCE(4711))) << "there is none: nothing to do";
+    CDialog filled;
+    ASSERT_TRUE(filled.Create(IDD_BOXES, &parent));
+    EXPECT_EQ(filled.SendDlgItemMessage(1001, CB_GETCOUNT), 2) << "a dialog fills its own";
     BYTE endless[0x10000 + 8] = {0xE9, 0x03, 0x03, 0x04, 0xFF, 0xFF, 0xFF, 0x7F, 'x'};
     EXPECT_FALSE(dialog.ExecuteDlgInit(static_cast<LPVOID>(endless))) << "longer than any resource";
     BYTE open_end[0x10000 + 8] = {0xE9, 0x03, 0x03, 0x04, 2, 0, 0, 0, 'x', 'y'};
@@ -82,11 +85,7 @@ TEST(AfxWindowStyle, ChangesAndAnswersWhetherItDid) {
     EXPECT_TRUE(wnd.ModifyStyle(0, WS_VSCROLL, SWP_FRAMECHANGED));
     EXPECT_FALSE(wnd.ModifyStyle(0, WS_VSCROLL));
     EXPECT_TRUE(wnd.ModifyStyleEx(0, WS_EX_CLIENTEDGE));
-    SCROLLINFO info{};
-    info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
-    info.nMax = 99;
-    info.nPage = 10;
-    info.nPos = 20;
+    SCROLLINFO info{0, SIF_RANGE | SIF_PAGE | SIF_POS, 0, 99, 10, 20, 0};
     wnd.SetScrollInfo(SB_VERT, &info);
     EXPECT_EQ(wnd.GetScrollLimit(SB_VERT), 90);
     EXPECT_EQ(wnd.GetScrollPos(SB_VERT), 20);
@@ -138,6 +137,7 @@ TEST(AfxShell, KnowsTheDocumentsUntilTheyAreTakenBack) {
     CDocument* open = nullptr;
     CDocTemplate* kind = manager.GetBestTemplate("x.NOTE");
     EXPECT_EQ(kind->MatchDocType("x.NOTE", open), CDocTemplate::yesAttemptNative);
+    EXPECT_EQ(kind->MatchDocType("C:\\a\\.note", open), CDocTemplate::yesAttemptNative) << "all of a name";
     EXPECT_EQ(kind->MatchDocType("x.txt", open), CDocTemplate::yesAttemptForeign);
 }
 
@@ -169,7 +169,7 @@ TEST(AfxExtensionModule, GivesItsResourcesAsLongAsItIsThere) {
     const LPCTSTR version = MAKEINTRESOURCE(1);
     const auto found = [&] { return AfxFindResourceHandle(version, RT_VERSION) == module; };
     AFX_EXTENSION_MODULE state;
-    ASSERT_TRUE(AfxInitExtensionModule(state, module));
+    ASSERT_TRUE(AfxInitExtensionModule(state, module) && state.bInitialized);
     EXPECT_FALSE(found());
     new CDynLinkLibrary(state);
     EXPECT_TRUE(found());

@@ -84,6 +84,7 @@ TEST_F(AfxSheet, OkTakesThePagesDataOver) {
     const auto mark_both = [&] {
         TCITEM item{TCIF_TEXT, 0, 0, title, 20, 0, 0};
         EXPECT_TRUE(sheet.GetTabControl()->GetItem(1, &item) && std::string("Changed") == title);
+        EXPECT_NEAR(on_screen(sheet).CenterPoint().x, ::GetSystemMetrics(SM_CXSCREEN) / 2, 1);
         first.CheckDlgButton(IDC_MARK, TRUE);
         show(1);
         second.CheckDlgButton(IDC_MARK, TRUE);
@@ -199,24 +200,28 @@ TEST(AfxModelessSheet, HoldsPagesWithoutButtons) {
     CPropertySheet sheet(IDS_CAPTION);
     sheet.AddPage(&first);
     sheet.AddPage(&second);
-    ASSERT_TRUE(sheet.Create(nullptr, WS_POPUP | WS_CAPTION | WS_SYSMENU));
+    ASSERT_TRUE(sheet.Create(nullptr, WS_POPUP | WS_CAPTION | WS_THICKFRAME));
+    EXPECT_NE(sheet.GetStyle() & WS_THICKFRAME, 0u);
+    const CRect around = on_screen(sheet), tabs = on_screen(*sheet.GetTabControl());
+    EXPECT_TRUE(around.right > tabs.right && around.bottom > tabs.bottom) << "the pages are seen";
+    EXPECT_LE(around.bottom, on_screen(*sheet.GetDlgItem(IDOK)).top) << "not the buttons";
     EXPECT_EQ(text_of(sheet), "Caption of its own");
-    EXPECT_FALSE(sheet.GetDlgItem(IDOK)->IsWindowVisible() || sheet.GetDlgItem(IDCANCEL)->IsWindowVisible());
+    EXPECT_FALSE(sheet.GetDlgItem(IDOK)->IsWindowVisible() || sheet.GetDlgItem(IDCANCEL)->IsWindowEnabled());
     EXPECT_TRUE(sheet.SetActivePage(1));
     EXPECT_EQ(sheet.GetActivePage(), &second);
     EXPECT_EQ(second.QuerySiblings(4, 0), 9);
     char caption[40];
-    TCITEM tab{};
-    tab.mask = TCIF_TEXT;
-    tab.pszText = caption;
-    tab.cchTextMax = sizeof(caption);
+    TCITEM tab{TCIF_TEXT, 0, 0, caption, sizeof(caption), 0, 0};
     EXPECT_TRUE(sheet.GetTabControl()->GetItem(1, &tab));
     EXPECT_STREQ(caption, "Caption of its own");
     sheet.AddPage(&third);
     EXPECT_EQ(sheet.GetTabControl()->GetItemCount(), 3);
+    for (const int none : {-1, 3})
+        EXPECT_TRUE(raises<CInvalidArgException>([&] { sheet.RemovePage(none); }));
     sheet.RemovePage(&first);
-    EXPECT_EQ(sheet.GetTabControl()->GetItemCount(), 2);
-    EXPECT_EQ(sheet.GetPageIndex(&third), 1);
+    sheet.RemovePage(1);
+    EXPECT_EQ(sheet.GetTabControl()->GetItemCount(), 1);
+    EXPECT_EQ(sheet.GetPageIndex(&third), -1);
     EXPECT_TRUE(sheet.DestroyWindow());
     EXPECT_EQ(second.m_hWnd, nullptr);
 }
@@ -231,11 +236,7 @@ TEST_F(AfxExtendedControls, HoldPicturesAndAddresses) {
     EXPECT_EQ(box.SetImageList(&pictures), nullptr);
     EXPECT_EQ(box.GetImageList(), &pictures);
     char text[16] = "first";
-    COMBOBOXEXITEM item{};
-    item.mask = CBEIF_TEXT | CBEIF_LPARAM;
-    item.iItem = -1;
-    item.pszText = text;
-    item.lParam = 77;
+    COMBOBOXEXITEM item{CBEIF_TEXT | CBEIF_LPARAM, -1, text, 0, 0, 0, 0, 0, 77};
     EXPECT_EQ(box.InsertItem(&item), 0);
     lstrcpy(text, "second");
     EXPECT_EQ(box.InsertItem(&item), 1);

@@ -142,7 +142,8 @@ TEST(AfxTimeEdges, MomentsBeyondEveryClockShowNothing) {
         const CTime time(moment);
         SYSTEMTIME fields;
         tm local{};
-        EXPECT_TRUE(time.GetYear() == 0 && time.GetMonth() == 0 && time.GetDayOfWeek() == 0 && time.GetSecond() == 0);
+        for (const int field : {time.GetYear(), time.GetMonth(), time.GetDay(), time.GetDayOfWeek(), time.GetSecond()})
+            EXPECT_EQ(field, 0);
         EXPECT_TRUE(time.Format("%Y").IsEmpty() && time.FormatGmt("%Y").IsEmpty());
         EXPECT_FALSE(time.GetAsSystemTime(fields) || time.GetLocalTm(&local) || time.GetLocalTm(nullptr));
         FILETIME file;

@@ -5,6 +5,7 @@
 
 #include <atomic>
 #include <memory>
+#include <thread>
 
 using testing::ElementsAre;
 
@@ -20,6 +21,7 @@ public:
     static inline std::vector<int> log;
     static inline std::atomic<int> alive = 0;
     CWnd wnd;
+    int idle = 0;
 
     window_thread() { ++alive; }
     ~window_thread() override { --alive; }
@@ -30,6 +32,11 @@ public:
         log.push_back(CWnd::FromHandlePermanent(wnd.m_hWnd) == &wnd ? 3 : -3);
         m_pMainWnd = &wnd;
         return TRUE;
+    }
+    // Idle again after each message.
+    BOOL OnIdle(LONG count) override {
+        log.push_back(200 + count);
+        return PostThreadMessage(++idle == 1 ? add_message : end_message, 50, 5), FALSE;
     }
     int ExitInstance() override {
         log.push_back(99);
@@ -69,10 +76,9 @@ TEST(AfxThread, WithWindowsHasMessagesAndHandleMapsOfItsOwn) {
     EXPECT_TRUE(window_thread::log.empty()) << "suspended";
     const HANDLE handle = own_handle(thread);
     thread->PostThreadMessage(add_message, 40, 2);
-    thread->PostThreadMessage(end_message, 0, 0);
     thread->ResumeThread();
     EXPECT_EQ(end_of(handle), 0u);
-    EXPECT_THAT(window_thread::log, ElementsAre(1, 2, 3, 42, 99));
+    EXPECT_THAT(window_thread::log, ElementsAre(1, 2, 3, 42, 200, 55, 200, 99));
     EXPECT_EQ(window_thread::alive, 0) << "the object goes with its thread";
     EXPECT_TRUE(::IsWindow(main)) << "lent only";
     the_app.m_pMainWnd = nullptr;
@@ -91,7 +97,7 @@ UINT post_samples(LPVOID parameter) {
     for (int i = 1; i <= 3; ++i)
         job.target->PostMessage(window_message, static_cast<WPARAM>(i));
     if (job.throws)
-        AfxThrowUserException();
+        AfxThrowMemoryException();
     return 17;
 }
 
@@ -113,6 +119,12 @@ TEST(AfxThread, FiltersTheMessagesOfTheSystemsLoops) {
     EXPECT_FALSE(::CallMsgFilter(&message, MSGF_MENU));
 }
 
+TEST(AfxThread, IsIdleAfterWhatHappenedOnly) {
+    MSG move{nullptr, WM_MOUSEMOVE, 0, 0, 0, {7, 8}}, paint{nullptr, WM_PAINT, 0, 0, 0, {}}, other{};
+    EXPECT_TRUE(AfxIsIdleMessage(&move) && AfxIsIdleMessage(&other));
+    EXPECT_FALSE(AfxIsIdleMessage(&move) || AfxIsIdleMessage(&paint));
+}
+
 TEST(AfxThread, WorkersPostToWindowsOfOthers) {
     receiver wnd;
     ASSERT_TRUE(create_popup(wnd));
@@ -129,11 +141,16 @@ TEST(AfxThread, WorkersPostToWindowsOfOthers) {
     EXPECT_EQ(wnd.sum, 6);
 
     job.throws = true;
+    the_app.take_boxes();
     CWinThread kept(&post_samples, &job);
     kept.m_bAutoDelete = FALSE;
     ASSERT_TRUE(kept.CreateThread());
     EXPECT_FALSE(kept.CreateThread()) << "it runs already";
     EXPECT_EQ(end_of(own_handle(&kept)), static_cast<DWORD>(-1)) << "an exception ends the thread, not the program";
+    EXPECT_EQ(the_app.take_boxes().size(), 1u) << "and is told";
+    CWinThread* of_foreign_thread = &the_app;
+    std::thread([&] { of_foreign_thread = AfxGetThread(); }).join();
+    EXPECT_EQ(of_foreign_thread, nullptr);
 }
 
 TEST(AfxSync, LocksAreTakenInTimeAndGivenBack) {
@@ -162,6 +179,10 @@ TEST(AfxSync, LocksAreTakenInTimeAndGivenBack) {
     EXPECT_EQ(both.Lock(0, FALSE), WAIT_OBJECT_0);
     EXPECT_TRUE(both.IsLocked(0));
     EXPECT_FALSE(both.IsLocked(1));
+    for (const DWORD wrong : {DWORD{0}, DWORD{MAXIMUM_WAIT_OBJECTS + 1}})
+        EXPECT_TRUE(raises<CInvalidArgException>([&] { CMultiLock(objects, wrong); }));
+    EXPECT_TRUE((CMutex(FALSE, "afx_test"), ::CloseHandle(::OpenMutex(SYNCHRONIZE, FALSE, "afx_test"))));
+    EXPECT_EQ(::OpenMutex(SYNCHRONIZE, FALSE, "afx_test"), nullptr) << "gone with its object";
     CCriticalSection section;
     CSingleLock outer(&section, TRUE), inner(&section, TRUE);
     EXPECT_TRUE(inner.IsLocked()) << "the same thread enters twice";
@@ -191,6 +212,8 @@ TEST(AfxSettings, ReadBackWhatWasWrittenInTheRegistryAndInAFile) {
         the_app.WriteProfileString("Section", nullptr, nullptr);
         EXPECT_EQ(the_app.GetProfileInt("Section", "Number", 5), 5u) << "the whole section went";
     }
+    const CString place = CString("Software\\ZopwntTest\\") + the_app.m_pszProfileName;
+    EXPECT_EQ(the_app.DelRegTree(HKEY_CURRENT_USER, place), ERROR_SUCCESS) << "where it was";
     the_app.use_settings(nullptr);
 }
 

@@ -22,9 +22,10 @@ struct AfxTracker : WithParent {
 TEST_F(AfxTracker, MovesSidesCornersAndTheWhole) {
     const CRect start(20, 20, 80, 60);
     const std::tuple<CPoint, CPoint, CRect> rows[] = {
-        {{20, 20}, {-5, 3}, {15, 23, 80, 60}}, {{79, 59}, {7, 7}, {20, 20, 87, 67}},
-        {{50, 21}, {9, 4}, {20, 24, 80, 60}},  {{79, 40}, {6, 9}, {20, 20, 86, 60}},
-        {{50, 40}, {-8, 5}, {12, 25, 72, 65}}, {{20, 40}, {90, 0}, {72, 20, 80, 60}}};
+        {{20, 20}, {-5, 3}, {15, 23, 80, 60}},   {{79, 59}, {7, 7}, {20, 20, 87, 67}},
+        {{50, 21}, {9, 4}, {20, 24, 80, 60}},    {{79, 40}, {6, 9}, {20, 20, 86, 60}},
+        {{50, 40}, {-8, 5}, {12, 25, 72, 65}},   {{20, 40}, {90, 0}, {72, 20, 80, 60}},
+        {{79, 59}, {-90, -90}, {20, 20, 28, 28}}};
     for (const auto& [from, by, to] : rows) {
         CRectTracker tracker(start, CRectTracker::resizeInside | CRectTracker::solidLine);
         EXPECT_EQ(tracked(tracker, from, from + by), to) << from.x << ' ' << from.y;
@@ -52,7 +53,9 @@ TEST_F(AfxTracker, DrawsHandlesWhereItFindsThem) {
     for (const UINT style : {CRectTracker::resizeInside, CRectTracker::resizeOutside}) {
         dc.PatBlt(0, 0, 120, 100, WHITENESS);
         const CRectTracker tracker(CRect(20, 20, 80, 60), style);
+        dc.SetViewportOrg(5, 7); // a tracker knows pixels alone
         tracker.Draw(&dc);
+        EXPECT_EQ(dc.SetViewportOrg(0, 0), CPoint(5, 7));
         int wrong = 0, black = 0;
         for (int y = 0; y < 100; ++y) {
             for (int x = 0; x < 120; ++x) {

@@ -17,10 +17,13 @@ struct AfxEntry : WithDataDialog<data_dialog> {
             return true;
         } catch (CUserException* exception) {
             exception->Delete();
-            EXPECT_EQ(the_app.take_boxes().size(), 1u);
+            const auto boxes = the_app.take_boxes();
+            EXPECT_EQ(boxes.size(), 1u);
+            told = boxes.empty() ? "" : boxes[0];
             return false;
         }
     }
+    std::string told;
     // What comes of the text as a number between these; nothing where it is refused.
     template <class Number>
     bool take(const char* text, Number& number, void(AFXAPI* limit)(CDataExchange*, Number, Number, Number),
@@ -50,6 +53,7 @@ struct AfxEntry : WithDataDialog<data_dialog> {
         EXPECT_FALSE(any(Limits::is_signed ? plus_one(std::to_string(Limits::min())) : "-1"));
         for (const auto& [text, taken] : {std::pair{"4", false}, {"5", true}, {"9", true}, {"10", false}})
             EXPECT_EQ(take(text, number, limit, Number{5}, Number{9}), taken) << text;
+        EXPECT_EQ(told, "Enter a whole number between 5 and 9.");
         for (const char* wrong : {"", " ", "5x", "x5", "5 5", "5.0", "0x5", "--5", "+", "99999999999999999999999"})
             EXPECT_FALSE(any(wrong)) << wrong;
     }
@@ -92,6 +96,7 @@ TEST_F(AfxEntry, RealNumbersAreTakenAsTheyAreShown) {
     };
     EXPECT_TRUE(within(-0.5) && within(0.5));
     EXPECT_FALSE(within(0.5000001) || within(-0.6) || within(std::numeric_limits<double>::quiet_NaN()));
+    EXPECT_EQ(told, "Enter a number between -0.5 and 0.5.");
 }
 
 TEST_F(AfxEntry, DatesStayBetweenTheirBounds) {
@@ -160,8 +165,10 @@ TEST_F(AfxEntry, LengthsAreLimitedInEditsAndInCombos) {
     EXPECT_EQ(::SendMessage(::GetWindow(::GetDlgItem(dialog, IDC_TOWNS), GW_CHILD), EM_GETLIMITTEXT, 0, 0), 5);
     dialog.SetDlgItemText(IDC_TOWNS, "123456");
     EXPECT_FALSE(exchange(TRUE, town));
+    EXPECT_EQ(told, "Enter no more than 5 characters.");
     dialog.SetDlgItemText(IDC_LETTERS, "four");
     EXPECT_FALSE(exchange(TRUE, few));
+    EXPECT_EQ(told, "Enter no more than 3 characters.");
     EXPECT_STREQ(letters, "old");
     dialog.SetDlgItemText(IDC_LETTERS, "new");
     EXPECT_TRUE(exchange(TRUE, few));

@@ -118,6 +118,10 @@ TEST(AfxMemFile, GrowsUnlessItsMemoryIsTheCallers) {
     EXPECT_EQ(fixed.GetLength(), 4u);
     fixed.SeekToEnd();
     EXPECT_EQ(cause_of<CFileException>([&] { fixed.Write("x", 1); }), CFileException::diskFull);
+    file.Attach(memory, sizeof(memory));
+    EXPECT_TRUE(file.GetPosition() == 0 && file.GetLength() == 4) << "from the beginning, whatever it held";
+    file.Attach(memory, sizeof(memory), 16);
+    EXPECT_EQ(file.GetLength(), 0u) << "room to write into";
 }
 
 } // namespace

@@ -13,9 +13,16 @@ class page_view : public CScrollView {
 
 public:
     void OnDraw(CDC*) override {}
-    CSize GetWheelScrollDistance(CSize by, BOOL, BOOL) override { return CSize(0, by.cy * wheel); }
-    using CScrollView::GetTrueClientSize, CScrollView::OnPrepareDC;
+    CSize GetWheelScrollDistance(CSize by, BOOL across, BOOL down) override {
+        return CScrollView::GetWheelScrollDistance(CSize(by.cx * wheel, by.cy * wheel), across, down);
+    }
+    void OnActivateView(BOOL on, CView* to, CView* from) override {
+        active = on != FALSE;
+        CScrollView::OnActivateView(on, to, from);
+    }
+    using CScrollView::GetTrueClientSize, CScrollView::OnPrepareDC, CScrollView::m_bCenter;
     int wheel = 1;
+    bool active = false;
 };
 IMPLEMENT_DYNCREATE(page_view, CScrollView)
 
@@ -34,7 +41,7 @@ IMPLEMENT_DYNCREATE(form, CFormView)
 struct told_splitter : CSplitterWnd {
     std::string log;
     int narrowest = 0;
-    using CSplitterWnd::OnDraw;
+    using CSplitterWnd::OnDraw, CSplitterWnd::OnDrawSplitter, CSplitterWnd::splitBorder;
     void StartTracking(int ht) override { log += "start " + std::to_string(ht), CSplitterWnd::StartTracking(ht); }
     void StopTracking(BOOL take) override { log += " stop " + std::to_string(take), CSplitterWnd::StopTracking(take); }
     void TrackRowSize(int y, int row) override { log += " row", CSplitterWnd::TrackRowSize(y, row); }
@@ -85,6 +92,13 @@ TEST(AfxScrollView, ScrollsWithinItsDocumentInLogicalUnits) {
     BOOL horizontal = FALSE, vertical = FALSE;
     view.CheckScrollBars(horizontal, vertical);
     EXPECT_TRUE(horizontal && vertical);
+    EXPECT_TRUE((view.GetExStyle() & WS_EX_CLIENTEDGE) != 0 && (view.GetStyle() & WS_BORDER) == 0);
+    CStatic mark; // goes with what is shown
+    ASSERT_TRUE(mark.Create("", WS_CHILD, CRect(0, 0, 5, 5), &view));
+    const auto origin = [&] {
+        CPoint at = on_screen(mark).TopLeft();
+        return view.ScreenToClient(&at), at;
+    };
     const CRect client = inside_of(view);
     CSize whole, bars;
     EXPECT_TRUE(view.GetTrueClientSize(whole, bars));
@@ -94,6 +108,7 @@ TEST(AfxScrollView, ScrollsWithinItsDocumentInLogicalUnits) {
     scroll(WM_VSCROLL, SB_PAGEDOWN);
     scroll(WM_HSCROLL, SB_LINERIGHT);
     EXPECT_EQ(view.GetScrollPosition(), CPoint(10, 165));
+    EXPECT_EQ(origin(), CPoint(-10, -165));
     scroll(WM_VSCROLL, SB_BOTTOM);
     EXPECT_EQ(view.GetScrollPosition().y, 2000 - client.Height());
     scroll(WM_VSCROLL, SB_LINEDOWN);
@@ -120,6 +135,12 @@ TEST(AfxScrollView, ScrollsWithinItsDocumentInLogicalUnits) {
     view.CheckScrollBars(horizontal, vertical);
     EXPECT_FALSE(horizontal || vertical);
     EXPECT_EQ(view.GetScrollPosition(), CPoint(0, 0)) << "everything is to be seen";
+    EXPECT_EQ(origin(), CPoint(0, 0));
+    view.m_bCenter = TRUE;
+    CClientDC dc(&view);
+    view.OnPrepareDC(&dc);
+    const CRect all = inside_of(view);
+    EXPECT_EQ(dc.GetViewportOrg(), CPoint((all.Width() - 50) / 2, (all.Height() - 60) / 2));
 }
 
 TEST(AfxFormView, ExchangesDataAndScrollsItsTemplate) {
@@ -204,8 +225,7 @@ TEST(AfxCmdUI, ChecksRadiosInMenusAndAmongControls) {
     EXPECT_EQ(texts(), "chosen* other chosen* other ");
     frame.SendMessage(WM_COMMAND, ID_TEST_OFF);
     EXPECT_EQ(texts(), "other chosen* other chosen* ");
-    MENUITEMINFO info{};
-    info.fMask = MIIM_FTYPE;
+    MENUITEMINFO info{0, MIIM_FTYPE, 0, 0, 0, nullptr, nullptr, nullptr, 0, nullptr, 0, nullptr};
     EXPECT_TRUE(menu.GetSubMenu(1)->GetMenuItemInfo(1, &info, TRUE) && (info.fType & MFT_RADIOCHECK) != 0);
 }
 
@@ -267,8 +287,19 @@ struct AfxEditView : testing::Test {
 
 TEST_F(AfxEditView, EditsFindsAndMarksItsDocument) {
     view.SetWindowText("one two One");
-    frame.SendMessage(WM_COMMAND, ID_EDIT_SELECT_ALL);
+    CMenu menu;
+    ASSERT_TRUE(menu.CreatePopupMenu() && menu.AppendMenu(MF_STRING, ID_EDIT_COPY, "Copy"));
+    const auto copies = [&] {
+        frame.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu.m_hMenu));
+        return (menu.GetMenuState(0, MF_BYPOSITION) & MF_GRAYED) == 0;
+    };
+    EXPECT_FALSE(copies());
+    EXPECT_EQ(frame.SendMessage(WM_COMMAND, ID_EDIT_SELECT_ALL), 1);
     EXPECT_EQ(view.selected(), "one two One");
+    EXPECT_TRUE(copies());
+    view.UpdateWindow();
+    view.SetTabStops(8);
+    EXPECT_TRUE(view.GetUpdateRect(nullptr)) << "its tabs lie elsewhere";
     view.SendMessage(EM_SETSEL, 0, 0);
     EXPECT_TRUE(view.FindText("ONE", TRUE, FALSE) && view.FindText("one", TRUE, FALSE));
     EXPECT_EQ(view.selected(), "One");
@@ -353,6 +384,7 @@ TEST_F(AfxDynamicSplitter, FollowsTheMouseToCrossingsAndBackAgain) {
     EXPECT_EQ(::GetCapture(), nullptr);
     send(WM_LBUTTONDBLCLK, CPoint(moved.x, 10));
     EXPECT_TRUE(splitter.GetColumnCount() == 1 && splitter.GetRowCount() == 2);
+    EXPECT_EQ(splitter.GetDlgItem(AFX_IDW_HSCROLL_FIRST + 1), nullptr);
     send(WM_LBUTTONDOWN, CPoint(10, moved.y));
     frame.SetCapture();
     EXPECT_TRUE(splitter.log.ends_with("stop 0")) << "another has the mouse";
@@ -380,11 +412,14 @@ TEST_F(AfxDynamicSplitter, SplitsWherePulledAndJoinsWhatBecomesTooSmall) {
     frame.SetActiveView(static_cast<CView*>(splitter.GetPane(0, 0)));
     frame.SendMessage(WM_COMMAND, ID_NEXT_PANE);
     EXPECT_EQ(frame.GetActiveView(), splitter.GetPane(0, 1));
-    EXPECT_FALSE(splitter.SplitRow(5)) << "there are two already";
+    const auto is_active = [&](int column) { return static_cast<page_view*>(splitter.GetPane(0, column))->active; };
+    EXPECT_TRUE(!is_active(0) && is_active(1));
+    EXPECT_FALSE(splitter.SplitRow(50) || splitter.SplitColumn(50)) << "there are two already";
     const CWnd* lower = splitter.GetPane(1, 0);
     drag(CPoint(20, first_pane().cy + 3), CPoint(20, 5));
     EXPECT_EQ(splitter.GetRowCount(), 1) << "the upper row became too small";
     EXPECT_EQ(splitter.GetPane(0, 0), lower);
+    EXPECT_EQ(splitter.GetDlgItem(AFX_IDW_VSCROLL_FIRST + 1), nullptr) << "its bar goes with it";
 }
 
 TEST_F(AfxDynamicSplitter, TurnsPanesThatShareABarTogether) {
@@ -406,14 +441,16 @@ TEST(AfxSplitter, HoldsPanesOfItsOwnAndSplittersAgain) {
     ASSERT_TRUE(frame.open([](view_frame& at, CCreateContext& context) {
         CCreateContext edit = context;
         edit.m_pNewViewClass = RUNTIME_CLASS(CEditView);
-        return at.splitter.CreateStatic(&at, 1, 2) &&
+        return at.splitter.CreateStatic(&at, 1, 3) &&
                at.splitter.CreateView(0, 0, RUNTIME_CLASS(CEditView), CSize(100, 50), &edit) &&
                at.inner.CreateStatic(&at.splitter, 2, 1, WS_CHILD | WS_VISIBLE,
                                      static_cast<UINT>(at.splitter.IdFromRowCol(0, 1))) &&
                at.inner.CreateView(0, 0, RUNTIME_CLASS(page_view), CSize(50, 80), &context) &&
-               at.inner.CreateView(1, 0, RUNTIME_CLASS(page_view), CSize(50, 80), &context);
+               at.inner.CreateView(1, 0, RUNTIME_CLASS(page_view), CSize(50, 80), &context) &&
+               at.splitter.CreateView(0, 2, RUNTIME_CLASS(page_view), CSize(50, 80), &context);
     }));
-    frame.RecalcLayout();
+    frame.splitter.SetColumnInfo(1, 120, 10);
+    frame.splitter.RecalcLayout();
     int width = 0, least = 0;
     frame.splitter.GetColumnInfo(0, width, least);
     EXPECT_EQ(width, 100);
@@ -434,6 +471,16 @@ TEST(AfxSplitter, HoldsPanesOfItsOwnAndSplittersAgain) {
     memory.PatBlt(0, 0, 200, 10, BLACKNESS);
     frame.splitter.OnDraw(&memory);
     EXPECT_NE(memory.GetPixel(155, 0), RGB(0, 0, 0)) << "a gap's end is not painted";
+    memory.PatBlt(0, 0, 200, 10, BLACKNESS);
+    frame.splitter.OnDrawSplitter(&memory, told_splitter::splitBorder, CRect(0, 0, 10, 10));
+    EXPECT_TRUE(memory.GetPixel(0, 0) == ::GetSysColor(COLOR_3DSHADOW) && memory.GetPixel(5, 5) == 0) << "a pane's";
+    CWnd& last = *frame.splitter.GetPane(0, 2);
+    EXPECT_EQ(last.GetExStyle() & WS_EX_CLIENTEDGE, 0u) << "the splitter has the edges";
+    const int before = on_screen(last).left;
+    for (const auto& [message, x] : {std::pair{WM_LBUTTONDOWN, 154}, {WM_MOUSEMOVE, 135}, {WM_LBUTTONUP, 135}})
+        frame.splitter.SendMessage(UINT(message), MK_LBUTTON, MAKELPARAM(x, 20));
+    frame.splitter.GetColumnInfo(0, width, least);
+    EXPECT_TRUE(width == 130 && on_screen(last).left == before) << "the other bar stays";
 }
 
 } // namespace

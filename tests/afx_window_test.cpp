@@ -177,6 +177,7 @@ TEST(AfxException, NeverLeavesAWindowProcedure) {
     EXPECT_EQ(boxes[3], "plain words");
     EXPECT_EQ(boxes[0], boxes[1]);
     EXPECT_EQ(boxes[0], boxes[2]);
+    EXPECT_NE(boxes[0], boxes[5]);
 
     wnd.m_message = WM_PAINT;
     wnd.Invalidate();

@@ -1,4 +1,4 @@
-// Keys that are down for a while.
+// Keys that are down, or switched on, for a while.
 #pragma once
 
 #include <windows.h>
@@ -7,12 +7,13 @@
 #include <initializer_list>
 
 struct HeldKeys {
-    explicit HeldKeys(std::initializer_list<int> keys) {
+    /// The state: 0x80 down, 1 switched on.
+    explicit HeldKeys(std::initializer_list<int> keys, BYTE state = 0x80) {
         ::GetKeyboardState(before_);
         BYTE now[256];
         std::copy_n(before_, 256, now);
         for (const int key : keys)
-            now[key] = 0x80;
+            now[key] = state;
         ::SetKeyboardState(now);
     }
     ~HeldKeys() { ::SetKeyboardState(before_); }

@@ -17,7 +17,6 @@ ON_WM_PAINT()
 ON_WM_MOUSELEAVE()
 ON_WM_LBUTTONDOWN()
 ON_WM_LBUTTONDBLCLK()
-ON_WM_CTLCOLOR()
 ON_MESSAGE(WM_SIZEPARENT, &CControlBar::OnSizeParent)
 ON_MESSAGE(WM_HELPHITTEST, &CControlBar::OnHelpHitTest)
 ON_MESSAGE(WM_IDLEUPDATECMDUI, &CControlBar::OnIdleUpdateCmdUI)
@@ -213,13 +212,6 @@ LRESULT CControlBar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     default:
         return CWnd::WindowProc(message, wParam, lParam);
     }
-}
-
-HBRUSH CControlBar::OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor) {
-    LRESULT brush = 0;
-    if (pWnd != nullptr && pWnd->SendChildNotifyLastMsg(&brush))
-        return reinterpret_cast<HBRUSH>(brush);
-    return reinterpret_cast<HBRUSH>(Default());
 }
 
 BOOL CControlBar::SetStatusText(INT_PTR nHit) {

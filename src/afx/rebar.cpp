@@ -94,7 +94,6 @@ BOOL CReBar::AddBand(CWnd* bar, REBARBANDINFO& band) {
     band.cbSize = band_size;
     band.fMask |= RBBIM_STYLE | RBBIM_CHILD | RBBIM_CHILDSIZE | RBBIM_ID | RBBIM_SIZE | RBBIM_IDEALSIZE;
     band.hwndChild = bar->m_hWnd;
-    band.cxMinChild = 0;
     band.cyMinChild = static_cast<UINT>(size.cy);
     band.cx = band.cxIdeal = static_cast<UINT>(size.cx);
     band.wID = static_cast<UINT>(bar->GetDlgCtrlID());
