@@ -16,7 +16,7 @@ TEST(AfxWideText, ComesFromBothKindsAndGoesBack) {
     wide = static_cast<LPCWSTR>(nullptr);
     EXPECT_TRUE(wide.IsEmpty() && wide == L"" && CStringW(L"abc", -1).IsEmpty() && CStringW(L'x', -2).IsEmpty());
     const CStringW null_inside(CString("a\0b", 3));
-    EXPECT_EQ(null_inside.GetLength(), 3);
+    EXPECT_TRUE(null_inside.GetLength() == 3 && CString(null_inside).GetLength() == 3);
     EXPECT_EQ(std::wstring(LPCWSTR(L"a" + CStringW(L"b") + L'c')), L"abc");
 }
 
@@ -49,6 +49,17 @@ TEST(AfxWideText, IsWrittenInPlaceAndFormatted) {
     EXPECT_EQ(std::wstring(text), L"written|42|narrow|wide");
     text.Format(L"%s", CStringW(L'x', 5000));
     EXPECT_EQ(text.GetLength(), 5000);
+    text.Format(nullptr);
+    text.AppendFormat(L"%03d", 7);
+    text.SetAt(0, L'_');
+    EXPECT_TRUE(text.Insert(1, text) == 6 && text == L"__0707" && text.Delete(1, 3) == 3 && text == L"_07");
+    EXPECT_TRUE(text.FindOneOf(L"70") == 1 && raises<CInvalidArgException>([&] { text.SetAt(3, L'x'); }));
+    BSTR copy = text.AllocSysString();
+    EXPECT_EQ(std::wstring(copy, ::SysStringLen(copy)), L"_07");
+    ::SysFreeString(copy);
+    CString same;
+    EXPECT_TRUE(text.LoadString(IDR_FRAME) && same.LoadString(IDR_FRAME) && text == CStringW(same) && !text.IsEmpty());
+    EXPECT_TRUE(!text.LoadString(9999u) && text.IsEmpty());
 }
 
 } // namespace
