@@ -198,6 +198,8 @@ private:
     bool Holds(int x, int y) const { return x >= 0 && x < m.width && y >= 0 && y < m.height; }
     BYTE* Row(int y) const { return m.bits + static_cast<std::ptrdiff_t>(y) * m.pitch; }
     bool HasPlainColours() const { return m.bits != nullptr && m.bpp >= 24 && !m.masks; }
+    template <class Colour>
+    void MoveColors(UINT first, UINT count, Colour* colours, UINT(WINAPI* move)(HDC, UINT, UINT, Colour*)) const;
     bool CopyColours(CImage& copy) const;
     void Multiply();
     void SetCube();
