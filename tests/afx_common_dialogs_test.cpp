@@ -54,7 +54,7 @@ TEST_F(AfxCommonDialogs, AFolderIsChosenAmongTheShellsItems) {
     ASSERT_TRUE(SUCCEEDED(shell.ItemFromPath("C:\\windows", folder)) && SUCCEEDED(shell.ItemFromPath("C:\\", drive)));
     const UINT parts = shell.GetItemCount(folder);
     ASSERT_GE(parts, 2u);
-    EXPECT_EQ(shell.GetParentItem(folder, parent_item), parts - 1);
+    EXPECT_EQ(shell.GetParentItem(folder, parent_item), static_cast<int>(parts) - 1);
     EXPECT_TRUE(::ILIsEqual(parent_item, drive));
     LPCITEMIDLIST last = folder;
     for (UINT i = 1; i < parts; ++i)
@@ -62,6 +62,12 @@ TEST_F(AfxCommonDialogs, AFolderIsChosenAmongTheShellsItems) {
     EXPECT_EQ(shell.GetNextItem(last), nullptr);
     LPITEMIDLIST again = shell.ConcatenateItem(drive, last);
     EXPECT_TRUE(::ILIsEqual(again, folder) && shell.GetItemSize(again) == shell.GetItemSize(folder));
+    LPITEMIDLIST at = shell.CopyItem(folder), up = nullptr;
+    for (int level = static_cast<int>(parts) - 1; level >= -1; --level, at = up) {
+        EXPECT_EQ(shell.GetParentItem(at, up), level);
+        EXPECT_EQ(up != nullptr, level >= 0) << "the desktop is the first level's";
+        shell.FreeItem(at);
+    }
     for (LPITEMIDLIST item : {folder, parent_item, drive, again, shell.CreateItem(8)})
         shell.FreeItem(item);
     EXPECT_TRUE(shell.GetItemCount(nullptr) == 0 && shell.GetNextItem(nullptr) == nullptr);

@@ -84,17 +84,12 @@ UINT CShellManager::GetItemSize(LPCITEMIDLIST pidl) {
     return ::ILGetSize(pidl);
 }
 
-UINT CShellManager::GetParentItem(LPCITEMIDLIST lpidl, LPITEMIDLIST& lpidlParent) {
+int CShellManager::GetParentItem(LPCITEMIDLIST lpidl, LPITEMIDLIST& lpidlParent) {
     lpidlParent = GetItemCount(lpidl) > 0 ? ::ILClone(lpidl) : nullptr;
     if (lpidlParent == nullptr)
-        return 0;
+        return -1;
     ::ILRemoveLastID(lpidlParent);
-    const UINT count = GetItemCount(lpidlParent);
-    if (count == 0) {
-        FreeItem(lpidlParent);
-        lpidlParent = nullptr;
-    }
-    return count;
+    return static_cast<int>(GetItemCount(lpidlParent));
 }
 
 namespace {
