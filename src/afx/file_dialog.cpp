@@ -1,7 +1,10 @@
 #include "afxdlgs.h"
+#include "afxpriv.h"
 #include "file_names.h"
 #include "modal_parent.h"
 #include "wnd_state.h"
+
+#include <dlgs.h>
 
 IMPLEMENT_DYNAMIC(CCommonDialog, CDialog)
 IMPLEMENT_DYNAMIC(CFileDialog, CCommonDialog)
@@ -93,6 +96,10 @@ BOOL CFileDialog::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     case CDN_TYPECHANGE:
         m_ofn.nFilterIndex = notice->lpOFN->nFilterIndex;
         OnTypeChange();
+        return TRUE;
+    case CDN_HELP: // the command of the button, or the program's help
+        if (SendMessage(WM_COMMAND, pshHelp) == 0)
+            SendMessage(WM_COMMANDHELP);
         return TRUE;
     case CDN_FILEOK:
         *pResult = OnFileNameOK();
