@@ -2,6 +2,7 @@
 #include "afxpriv.h"
 #include "file_names.h"
 #include "modal_parent.h"
+#include "shell_file_dialog.h"
 #include "wnd_state.h"
 
 #include <dlgs.h>
@@ -23,7 +24,8 @@ void CCommonDialog::OnCancel() {
 
 CFileDialog::CFileDialog(BOOL bOpenFileDialog, LPCTSTR lpszDefExt, LPCTSTR lpszFileName, DWORD dwFlags,
                          LPCTSTR lpszFilter, CWnd* pParentWnd, DWORD dwSize, BOOL bVistaStyle)
-    : CCommonDialog(pParentWnd), m_ofn{}, m_bOpenFileDialog(bOpenFileDialog), m_strFilter(lpszFilter) {
+    : CCommonDialog(pParentWnd), m_ofn{}, m_bOpenFileDialog(bOpenFileDialog), m_bVistaStyle(bVistaStyle),
+      m_strFilter(lpszFilter) {
     if (lpszFileName != nullptr)
         lstrcpyn(m_szFileName, lpszFileName, sizeof(m_szFileName));
     m_strFilter.Replace('|', '\0');
@@ -40,8 +42,17 @@ CFileDialog::CFileDialog(BOOL bOpenFileDialog, LPCTSTR lpszDefExt, LPCTSTR lpszF
     m_ofn.lCustData = reinterpret_cast<LPARAM>(this);
 }
 
+CFileDialog::~CFileDialog() = default;
+
 INT_PTR CFileDialog::DoModal() {
     const modal_parent parent(m_pParentWnd);
+    if (m_shell != nullptr || m_bPickFoldersMode) {
+        ApplyOFNToShellDialog();
+        if (Shell() == nullptr || !Shell()->show(parent.handle()))
+            return IDCANCEL;
+        UpdateOFNFromShellDialog();
+        return m_ofn.lpstrFile != nullptr && *m_ofn.lpstrFile != '\0' ? IDOK : IDCANCEL;
+    }
     m_ofn.hwndOwner = parent.handle();
     m_ofn.lCustData = reinterpret_cast<LPARAM>(this);
     const BOOL chosen = m_bOpenFileDialog ? ::GetOpenFileName(&m_ofn) : ::GetSaveFileName(&m_ofn);
@@ -122,6 +133,8 @@ CString CFileDialog::Asked(UINT message) const {
 }
 
 CString CFileDialog::GetPathName() const {
+    if (m_shell != nullptr && m_shell->is_shown())
+        return m_shell->path();
     return m_hWnd != nullptr ? Asked(CDM_GETFILEPATH) : CString(m_ofn.lpstrFile);
 }
 
@@ -141,6 +154,8 @@ CString CFileDialog::GetFileTitle() const {
 CString CFileDialog::GetFolderPath() const {
     if (m_hWnd != nullptr)
         return Asked(CDM_GETFOLDERPATH);
+    if (m_shell != nullptr && m_shell->is_shown())
+        return m_shell->folder();
     return m_bPickFoldersMode ? GetPathName() : CString();
 }
 
