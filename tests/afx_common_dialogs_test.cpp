@@ -284,6 +284,8 @@ TEST_F(AfxCommonDialogs, AFileIsChosenBesideControlsOfTheProgram) {
         << dialog.GetPathName().GetString();
     EXPECT_TRUE(dialog.GetFileTitle() == "report" && dialog.m_ofn.nFilterIndex == 2 &&
                 CString(dialog.m_ofn.lpstrFileTitle) == "report.txt");
+    EXPECT_STREQ(dialog.m_ofn.lpstrFile + dialog.m_ofn.nFileOffset, "report.txt");
+    EXPECT_STREQ(dialog.m_ofn.lpstrFile + dialog.m_ofn.nFileExtension, "txt");
     saving_dialog older(&parent, FALSE);
     EXPECT_TRUE(older.AddText(d::note, "note") == E_FAIL && older.GetIFileSaveDialog() == nullptr);
 }

@@ -119,9 +119,12 @@ std::vector<CString> shell_file_dialog::chosen() const {
 void shell_file_dialog::update(OPENFILENAME& record) const {
     const std::vector<CString> paths = chosen();
     const CString first = paths.empty() ? CString() : paths.front(), name = file_name_of(first);
+    const int extension = paths.size() > 1 ? 0 : extension_of(name).GetLength();
     CString list = first;
+    record.nFileOffset = static_cast<WORD>(first.GetLength() - name.GetLength());
+    record.nFileExtension = static_cast<WORD>(extension > 0 ? first.GetLength() - extension + 1 : 0);
     if (paths.size() > 1) {
-        list.Truncate(list.ReverseFind('\\'));
+        list.Truncate(record.nFileOffset - 1);
         for (const CString& path : paths)
             list += CString('\0') + file_name_of(path);
     }
