@@ -181,6 +181,34 @@ TEST_F(AfxFrame, HidesItsMenuBarUntilAKeyAsksForIt) {
     early.DestroyWindow();
 }
 
+TEST_F(AfxFrame, MayEndWhileItsMenuBarComesOrGoes) {
+    struct short_lived : CFrameWnd {
+        void OnShowMenuBar() override { end(); }
+        void OnHideMenuBar() override { end(); }
+        void end() {
+            EXPECT_FALSE(SetMenuBarState(AFX_MBS_VISIBLE) || SetMenuBarState(AFX_MBS_HIDDEN)) << "while it changes";
+            if (IsWindowEnabled())
+                DestroyWindow();
+        }
+    };
+    const MSG keys[] = {{nullptr, WM_SYSCOMMAND, SC_KEYMENU, 0, 0, {0, 0}},
+                        {nullptr, WM_KEYDOWN, VK_ESCAPE, 1, 0, {0, 0}}};
+    for (MSG key : keys) {
+        auto* ending = new short_lived;
+        ASSERT_TRUE(ending->Create(nullptr, "ending", WS_POPUP | WS_DISABLED));
+        const HWND hwnd = key.hwnd = ending->m_hWnd;
+        ending->SetMenuBarVisibility(AFX_MBV_DISPLAYONFOCUS);
+        if (key.message == WM_KEYDOWN)
+            ending->SetMenuBarState(AFX_MBS_VISIBLE);
+        ending->EnableWindow();
+        if (key.message == WM_SYSCOMMAND)
+            ::SendMessage(hwnd, key.message, key.wParam, 0);
+        else
+            EXPECT_TRUE(ending->PreTranslateMessage(&key));
+        EXPECT_FALSE(::IsWindow(hwnd));
+    }
+}
+
 TEST_F(AfxFrame, HasTheProgramsIconAndUpdatesItselfWhenIdle) {
     const auto icon = reinterpret_cast<HICON>(::GetClassLongPtr(frame, GCLP_HICON));
     EXPECT_TRUE(icon != nullptr && icon == the_app.LoadIcon(AFX_IDI_STD_FRAME));

@@ -25,7 +25,8 @@ TEST(AfxWideText, PartsAndPlacesAreClamped) {
     EXPECT_TRUE(text.Mid(2) == L"cabc" && text.Mid(-1, 2) == L"ab" && text.Mid(9, 2).IsEmpty() && text.Left(-1) == L"");
     EXPECT_TRUE(text.Right(2) == L"bc" && text.Right(99) == text && text.Right(-1).IsEmpty());
     EXPECT_TRUE(text.Find(L"bc", 2) == 4 && text.Find(L'z') == -1 && text.ReverseFind(L'b') == 4 &&
-                text.Find(L"a", 99) == -1);
+                text.Find(L"a", 99) == -1 && text.Find(L"a", -1) == -1 && text.Find(L'a', -1) == -1 &&
+                text.Find(L"", 6) == 6 && text.Find(L"", 7) == -1);
     EXPECT_TRUE(text[5] == L'c' && text[6] == 0 && text[-1] == 0 && text.GetAt(0) == L'a');
     EXPECT_TRUE(raises<CInvalidArgException>([&] { text.GetAt(7); }));
     EXPECT_EQ(text.Replace(L"b", L"bb"), 2);
@@ -35,7 +36,7 @@ TEST(AfxWideText, PartsAndPlacesAreClamped) {
     EXPECT_TRUE(text.CompareNoCase(L"\x00c9 x") == 0 && text > L"A" && L"A" < text);
     EXPECT_TRUE(CStringW(L"  ").Trim().IsEmpty());
     const LPCWSTR none = nullptr;
-    EXPECT_TRUE(text.Compare(none) > 0 && text.CompareNoCase(none) > 0 && text.Find(none) == 0 && text != none);
+    EXPECT_TRUE(text.Compare(none) > 0 && text.CompareNoCase(none) > 0 && text.Find(none) == -1 && text != none);
 }
 
 TEST(AfxWideText, IsWrittenInPlaceAndFormatted) {

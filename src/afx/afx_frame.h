@@ -220,6 +220,7 @@ private:
 
     HMENU m_hMenuHidden = nullptr;
     DWORD m_dwMenuBarVisibility = AFX_MBV_KEEPVISIBLE, m_dwMenuBarState = AFX_MBS_VISIBLE;
+    bool m_menu_bar_changes = false; // the program is being told
     WPARAM m_last_system_key = 0;
     HACCEL m_loaded_keys = nullptr; // what LoadAccelTable made; another table is somebody else's
     CDockBar* m_dock_bars[4] = {};

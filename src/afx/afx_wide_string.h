@@ -23,8 +23,11 @@ public:
     CStringW Left(int count) const { return Mid(0, count); }
     CStringW Right(int count) const { return Mid(GetLength() - static_cast<int>(Clamp(count))); }
     // -1 where there is none.
-    int Find(wchar_t c, int start = 0) const { return Found(m_text.find(c, Clamp(start))); }
-    int Find(LPCWSTR text, int start = 0) const { return Found(m_text.find(OrEmpty(text), Clamp(start))); }
+    int Find(wchar_t c, int start = 0) const { return start >= 0 ? Found(m_text.find(c, Clamp(start))) : -1; }
+    int Find(LPCWSTR text, int start = 0) const {
+        const bool within = text != nullptr && start >= 0 && start <= GetLength();
+        return within ? Found(m_text.find(text, Clamp(start))) : -1;
+    }
     int FindOneOf(LPCWSTR characters) const { return Found(m_text.find_first_of(OrEmpty(characters))); }
     int ReverseFind(wchar_t c) const { return Found(m_text.rfind(c)); }
     int Compare(LPCWSTR text) const { return m_text.compare(OrEmpty(text)); }

@@ -151,7 +151,10 @@ BOOL CFrameWnd::PreTranslateMessage(MSG* pMsg) {
         return TRUE;
     if (pMsg->message < WM_KEYFIRST || pMsg->message > WM_KEYLAST)
         return FALSE;
+    const HWND self = m_hWnd;
     NoteMenuKey(*pMsg);
+    if (!::IsWindow(self))
+        return TRUE;
     const HACCEL keys = GetDefaultAccelerator();
     return keys != nullptr && ::TranslateAccelerator(m_hWnd, keys, pMsg);
 }

@@ -4,6 +4,27 @@
 
 #include <utility>
 
+namespace {
+
+// While the program is told of one, which may end the frame.
+class menu_bar_change {
+public:
+    menu_bar_change(HWND frame, bool& on) : m_frame(frame), m_on(on) { m_on = true; }
+    ~menu_bar_change() {
+        if (!is_over())
+            m_on = false;
+    }
+    menu_bar_change(const menu_bar_change&) = delete;
+    menu_bar_change& operator=(const menu_bar_change&) = delete;
+    bool is_over() const { return m_frame != nullptr && !::IsWindow(m_frame); }
+
+private:
+    HWND m_frame;
+    bool& m_on;
+};
+
+} // namespace
+
 DWORD CFrameWnd::GetMenuBarVisibility() const {
     return m_dwMenuBarVisibility;
 }
@@ -25,12 +46,15 @@ void CFrameWnd::SetMenuBarVisibility(DWORD nStyle) {
 
 BOOL CFrameWnd::SetMenuBarState(DWORD nState) {
     ENSURE_ARG(nState == AFX_MBS_VISIBLE || nState == AFX_MBS_HIDDEN);
-    if (nState == m_dwMenuBarState)
+    if (nState == m_dwMenuBarState || m_menu_bar_changes)
         return FALSE;
+    const menu_bar_change change(m_hWnd, m_menu_bar_changes);
     if (nState == AFX_MBS_VISIBLE)
         OnShowMenuBar();
     else
         OnHideMenuBar();
+    if (change.is_over())
+        return FALSE;
     const HMENU menu = FrameMenu();
     m_dwMenuBarState = nState;
     SetFrameMenu(menu);
@@ -65,11 +89,14 @@ void CFrameWnd::OnSysCommand(UINT nID, LPARAM lParam) {
         CWnd::OnSysCommand(nID, lParam);
         return;
     }
-    if (!SetMenuBarState(AFX_MBS_VISIBLE) && lParam == 0 && !by_f10) { // Alt alone, and it was shown
-        SetMenuBarState(AFX_MBS_HIDDEN);
-        return;
-    }
     const HWND self = m_hWnd;
+    const bool was_hidden = m_dwMenuBarState == AFX_MBS_HIDDEN;
+    if (was_hidden)
+        SetMenuBarState(AFX_MBS_VISIBLE);
+    else if (lParam == 0 && !by_f10) // Alt alone
+        SetMenuBarState(AFX_MBS_HIDDEN);
+    if (!::IsWindow(self) || (!was_hidden && m_dwMenuBarState == AFX_MBS_HIDDEN))
+        return;
     CWnd::OnSysCommand(nID, lParam); // until the user leaves the menu
     const bool left_by_key = ::GetKeyState(VK_ESCAPE) < 0 || ::GetKeyState(VK_MENU) < 0;
     if (::IsWindow(self) && (!stays || left_by_key))

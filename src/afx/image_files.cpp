@@ -7,6 +7,7 @@
 #include <climits>
 #include <memory>
 #include <mutex>
+#include <new>
 #include <shlwapi.h>
 #include <wincodec.h>
 #include <utility>
@@ -65,7 +66,7 @@ struct dispose {
 };
 using bitmap_ptr = std::unique_ptr<Gdiplus::GpBitmap, dispose>;
 
-HRESULT read_all(IStream& stream, std::vector<BYTE>& bytes) {
+HRESULT read_all(IStream& stream, std::vector<BYTE>& bytes) try {
     constexpr std::size_t piece = 0x10000;
     for (ULONG read = 1; read > 0;) {
         const std::size_t before = bytes.size();
@@ -79,6 +80,8 @@ HRESULT read_all(IStream& stream, std::vector<BYTE>& bytes) {
             return result;
     }
     return S_OK;
+} catch (const std::bad_alloc&) {
+    return E_OUTOFMEMORY;
 }
 
 HRESULT result_of(Gdiplus::GpStatus status) {

@@ -2,6 +2,7 @@
 #include "atlconv.h"
 #include "modal_parent.h"
 
+#include <algorithm>
 #include <utility>
 
 IMPLEMENT_DYNAMIC(CShellManager, CObject)
@@ -48,9 +49,10 @@ HRESULT CShellManager::ItemFromPath(LPCTSTR lpszPath, LPITEMIDLIST& pidl) {
 }
 
 LPITEMIDLIST CShellManager::CreateItem(UINT cbItem) {
-    auto* item = static_cast<LPITEMIDLIST>(::CoTaskMemAlloc(cbItem));
+    const std::size_t size = std::max<std::size_t>(cbItem, sizeof(USHORT)); // the end takes that much
+    auto* item = static_cast<LPITEMIDLIST>(::CoTaskMemAlloc(size));
     if (item != nullptr)
-        std::memset(item, 0, cbItem);
+        std::memset(item, 0, size);
     return item;
 }
 
