@@ -54,7 +54,7 @@ TEST_F(AfxCommonDialogs, AFolderIsChosenAmongTheShellsItems) {
     ASSERT_TRUE(SUCCEEDED(shell.ItemFromPath("C:\\windows", folder)) && SUCCEEDED(shell.ItemFromPath("C:\\", drive)));
     const UINT parts = shell.GetItemCount(folder);
     ASSERT_GE(parts, 2u);
-    EXPECT_EQ(shell.GetParentItem(folder, parent_item), parts - 1);
+    EXPECT_EQ(shell.GetParentItem(folder, parent_item), static_cast<int>(parts) - 1);
     EXPECT_TRUE(::ILIsEqual(parent_item, drive));
     LPCITEMIDLIST last = folder;
     for (UINT i = 1; i < parts; ++i)
@@ -62,6 +62,12 @@ TEST_F(AfxCommonDialogs, AFolderIsChosenAmongTheShellsItems) {
     EXPECT_EQ(shell.GetNextItem(last), nullptr);
     LPITEMIDLIST again = shell.ConcatenateItem(drive, last);
     EXPECT_TRUE(::ILIsEqual(again, folder) && shell.GetItemSize(again) == shell.GetItemSize(folder));
+    LPITEMIDLIST at = shell.CopyItem(folder), up = nullptr;
+    for (int level = static_cast<int>(parts) - 1; level >= -1; --level, at = up) {
+        EXPECT_EQ(shell.GetParentItem(at, up), level);
+        EXPECT_EQ(up != nullptr, level >= 0) << "the desktop is the first level's";
+        shell.FreeItem(at);
+    }
     for (LPITEMIDLIST item : {folder, parent_item, drive, again, shell.CreateItem(8)})
         shell.FreeItem(item);
     EXPECT_TRUE(shell.GetItemCount(nullptr) == 0 && shell.GetNextItem(nullptr) == nullptr);
@@ -181,8 +187,8 @@ TEST_F(AfxCommonDialogs, SearchingTellsItsParentAndDeletesItself) {
     EXPECT_EQ(counted_find::alive, 0);
 }
 
-// Names the folder and presses a button of the shown dialog; the title that it had.
-std::string answer_picker(CFolderPickerDialog& dialog, LPCTSTR folder, int button, INT_PTR wanted) {
+// Names what is wanted and presses a button of the shown dialog; the title that it had.
+std::string answer_picker(CFileDialog& dialog, LPCTSTR wanted_name, int button, INT_PTR wanted) {
     std::string title;
     WhileModal modal([&] {
         const HWND shown = shown_dialog();
@@ -192,12 +198,124 @@ std::string answer_picker(CFolderPickerDialog& dialog, LPCTSTR folder, int butto
         ::GetWindowText(shown, text, sizeof text);
         title = text;
         const int name = 1152;
-        ::SetDlgItemText(shown, name, folder);
+        ::SetDlgItemText(shown, name, wanted_name);
         ::PostMessage(shown, WM_COMMAND, static_cast<WPARAM>(button), 0);
         return false; // as often as it takes
     });
     EXPECT_EQ(dialog.DoModal(), wanted);
     return title;
+}
+
+// Presses what was added, and then the dialog's own button until it goes.
+struct saving_dialog : CFileDialog {
+    saving_dialog(CWnd* parent, BOOL vista = TRUE)
+        : CFileDialog(FALSE, "txt", "report", OFN_HIDEREADONLY, "All|*.*|Text|*.txt||", parent, 0, vista) {}
+    enum { group = 1, check, button, choice, field, note, kinds };
+    std::string log;
+    int presses = 0;
+
+    INT_PTR answer() {
+        WhileModal modal([&] {
+            const HWND shown = shown_dialog();
+            if (shown == nullptr)
+                return false;
+            if (++presses <= 2)
+                ::EnumChildWindows(shown, &press, 0);
+            ::PostMessage(shown, WM_COMMAND, presses < 50 ? IDOK : IDCANCEL, 0);
+            return false;
+        });
+        return DoModal();
+    }
+    static BOOL CALLBACK press(HWND hwnd, LPARAM) {
+        char text[20] = "";
+        ::GetWindowText(hwnd, text, sizeof text);
+        if (CString(text) == "Compress" || CString(text) == "Set up")
+            ::SendMessage(hwnd, BM_CLICK, 0, 0);
+        return TRUE;
+    }
+    void OnCheckButtonToggled(DWORD id, BOOL on) override { log += "check" + std::to_string(id) + (on ? "+ " : "- "); }
+    void OnButtonClicked(DWORD id) override {
+        log += "button" + std::to_string(id) + " ";
+        if (presses == 1)
+            throw new CNotSupportedException;
+        EXPECT_EQ(SetEditBoxText(field, "changed"), S_OK);
+        EXPECT_EQ(AddControlItem(choice, 12, "late"), S_OK);
+        EXPECT_EQ(SetSelectedControlItem(choice, 12), S_OK);
+    }
+    BOOL OnFileNameOK() override {
+        log += GetFileName() == "report.txt" && !GetFolderPath().IsEmpty() ? "ok " : "? ";
+        return log.find("ok ") == log.rfind("ok "); // not at once
+    }
+};
+
+TEST_F(AfxCommonDialogs, AFileIsChosenBesideControlsOfTheProgram) {
+    saving_dialog dialog(&parent);
+    char folder[MAX_PATH];
+    ::GetTempPath(MAX_PATH, folder);
+    dialog.m_ofn.lpstrInitialDir = folder;
+    dialog.m_ofn.nFilterIndex = 2;
+    using d = saving_dialog;
+    const HRESULT added[] = {
+        dialog.StartVisualGroup(d::group, "How"),      dialog.AddCheckButton(d::check, "Compress", TRUE),
+        dialog.AddPushButton(d::button, "Set up"),     dialog.AddComboBox(d::choice),
+        dialog.AddControlItem(d::choice, 11, "first"), dialog.EndVisualGroup(),
+        dialog.AddEditBox(d::field, "caf\xe9"),        dialog.AddText(d::note, "note"),
+        dialog.AddRadioButtonList(d::kinds),           dialog.AddSeparator(99)};
+    EXPECT_THAT(added, testing::Each(S_OK));
+    EXPECT_TRUE(FAILED(dialog.AddText(d::note, "again"))) << "as the system answers";
+    CString text;
+    CDCONTROLSTATEF state{};
+    EXPECT_TRUE(SUCCEEDED(dialog.GetEditBoxText(d::field, text)) && text == "caf\xe9");
+    EXPECT_TRUE(SUCCEEDED(dialog.SetControlState(d::note, CDCS_VISIBLE)) &&
+                SUCCEEDED(dialog.GetControlState(d::note, state)) && state == CDCS_VISIBLE);
+    EXPECT_EQ(dialog.answer(), IDOK);
+    EXPECT_EQ(dialog.log, "check2- button3 ok check2+ button3 ok ");
+    EXPECT_TRUE(parent.IsWindowEnabled() && the_app.take_boxes().size() == 1u) << "the exception was told";
+    BOOL on = FALSE;
+    DWORD item = 0;
+    EXPECT_TRUE(SUCCEEDED(dialog.GetCheckButtonState(d::check, on)) && on);
+    EXPECT_TRUE(SUCCEEDED(dialog.GetEditBoxText(d::field, text)) && text == "changed");
+    EXPECT_TRUE(SUCCEEDED(dialog.GetSelectedControlItem(d::choice, item)) && item == 12);
+    EXPECT_EQ(dialog.GetPathName().CompareNoCase(CString(folder) + "report.txt"), 0)
+        << dialog.GetPathName().GetString();
+    EXPECT_TRUE(dialog.GetFileTitle() == "report" && dialog.m_ofn.nFilterIndex == 2 &&
+                CString(dialog.m_ofn.lpstrFileTitle) == "report.txt");
+    EXPECT_STREQ(dialog.m_ofn.lpstrFile + dialog.m_ofn.nFileOffset, "report.txt");
+    EXPECT_STREQ(dialog.m_ofn.lpstrFile + dialog.m_ofn.nFileExtension, "txt");
+    saving_dialog older(&parent, FALSE);
+    EXPECT_TRUE(older.AddText(d::note, "note") == E_FAIL && older.GetIFileSaveDialog() == nullptr);
+}
+
+TEST_F(AfxCommonDialogs, SeveralFilesAreChosenBesideControlsOfTheProgram) {
+    char folder[MAX_PATH];
+    ::GetTempPath(MAX_PATH, folder);
+    for (const char* name : {"one.txt", "two.txt"})
+        CFile(CString(folder) + name, CFile::modeCreate | CFile::modeWrite).Close();
+    const struct {
+        const char *names, *chosen;
+        DWORD room;
+        INT_PTR answer;
+    } cases[] = {{"\"one.txt\" \"two.txt\"", "one.txt two.txt ", 1000, IDOK},
+                 {"two.txt", "two.txt ", 1000, IDOK},
+                 {"\"one.txt\" \"two.txt\"", "", 12, IDCANCEL}};
+    for (const auto& c : cases) {
+        CFileDialog dialog(TRUE, nullptr, nullptr, OFN_ALLOWMULTISELECT | OFN_FILEMUSTEXIST, nullptr, &parent);
+        std::vector<char> room(c.room, 'x');
+        room[0] = '\0';
+        dialog.m_ofn.lpstrInitialDir = folder;
+        dialog.m_ofn.lpstrFile = room.data(), dialog.m_ofn.nMaxFile = c.room;
+        EXPECT_EQ(dialog.AddText(1, "note"), S_OK);
+        answer_picker(dialog, c.names, IDOK, c.answer);
+        std::string names;
+        for (POSITION at = dialog.GetStartPosition(); c.answer == IDOK && at != nullptr;) {
+            const CString path = dialog.GetNextPathName(at);
+            EXPECT_EQ(path.Left(lstrlen(folder)).CompareNoCase(folder), 0) << path.GetString();
+            names += path.Mid(lstrlen(folder)) + " ";
+        }
+        EXPECT_EQ(names, c.chosen);
+    }
+    for (const char* name : {"one.txt", "two.txt"})
+        CFile::Remove(CString(folder) + name);
 }
 
 TEST_F(AfxCommonDialogs, AFolderIsChosen) {

@@ -3,6 +3,7 @@
 #include "modal.h"
 
 #include <afxdlgs.h>
+#include <dlgs.h>
 
 namespace {
 
@@ -124,21 +125,31 @@ struct refusing_file_dialog : CFileDialog {
         seen.push_back(GetFileName().GetString());
         return seen.size() == 1;
     }
+    afx_msg void OnHelpButton() { helped = true; }
     std::vector<std::string> seen;
     int begun = 0;
+    bool helped = false;
+    DECLARE_MESSAGE_MAP()
 };
+
+BEGIN_MESSAGE_MAP(refusing_file_dialog, CFileDialog)
+ON_COMMAND(pshHelp, &refusing_file_dialog::OnHelpButton)
+END_MESSAGE_MAP()
 
 TEST(AfxFileChoice, AsksTheProgramAboutTheName) {
     refusing_file_dialog dialog(FALSE, "txt", "report.txt", OFN_HIDEREADONLY);
     WhileModal modal([&] {
         if (dialog.m_hWnd == nullptr || !::IsWindowVisible(::GetParent(dialog.m_hWnd)))
             return false;
+        OFNOTIFY notice{{::GetParent(dialog.m_hWnd), 0, CDN_HELP}, &dialog.m_ofn, nullptr};
+        dialog.SendMessage(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&notice));
         ::PostMessage(::GetParent(dialog.m_hWnd), WM_COMMAND, IDOK, 0);
         return dialog.seen.size() > 0;
     });
     EXPECT_EQ(dialog.DoModal(), IDOK);
     EXPECT_EQ(dialog.begun, 1);
     EXPECT_GE(dialog.seen.size(), 2u) << "refused once";
+    EXPECT_TRUE(dialog.helped);
     EXPECT_STREQ(dialog.GetFileName(), "report.txt");
     EXPECT_STREQ(dialog.GetFileTitle(), "report");
     EXPECT_STREQ(dialog.GetFileExt(), "txt");

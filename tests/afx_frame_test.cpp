@@ -39,6 +39,8 @@ struct bar_frame : CFrameWnd {
     }
     bool enabled(UINT id) { return (tools.SendMessage(TB_GETSTATE, id) & TBSTATE_ENABLED) != 0; }
 
+    void OnShowMenuBar() override { log.push_back("show"); }
+    void OnHideMenuBar() override { log.push_back("hide"); }
     void OnOn() { log.push_back("on"); }
     void OnUpdateOff(CCmdUI* item) { item->Enable(!off); }
     void OnUpdateChecked(CCmdUI* item) { item->SetCheck(off), item->SetText("Text"); }
@@ -141,6 +143,79 @@ TEST_F(AfxFrame, ShowsPromptsOfMenusAndOfButtonsUnderThePointer) {
     tip.hdr = {frame.tools.m_hWnd, ID_TEST_ON, static_cast<UINT>(TTN_NEEDTEXTA)};
     EXPECT_EQ(frame.SendMessage(WM_NOTIFY, ID_TEST_ON, reinterpret_cast<LPARAM>(&tip)), 0);
     EXPECT_STREQ(tip.szText, "On");
+}
+
+// A key goes through the frame, then the command that the platform makes of it; the next key ends the menu.
+TEST_F(AfxFrame, HidesItsMenuBarUntilAKeyAsksForIt) {
+    const HMENU menu = frame.GetMenu()->m_hMenu;
+    const auto press = [&](WPARAM key, LPARAM letter = 0, int leaving = VK_ESCAPE) {
+        MSG down{frame.m_hWnd, WM_SYSKEYDOWN, key, 1 << 29, 0, {0, 0}};
+        frame.PreTranslateMessage(&down);
+        const HeldKeys held({leaving});
+        for (int i = 0; i < 3; ++i)
+            frame.PostMessage(WM_KEYDOWN, VK_ESCAPE);
+        frame.SendMessage(WM_SYSCOMMAND, SC_KEYMENU, letter);
+        MSG message;
+        while (::PeekMessage(&message, frame, WM_KEYFIRST, WM_KEYLAST, PM_REMOVE)) {
+        }
+        return std::exchange(frame.log, {});
+    };
+    EXPECT_THAT(press(VK_MENU), ElementsAre()) << "always shown";
+    frame.SetMenuBarVisibility(AFX_MBV_DISPLAYONFOCUS);
+    EXPECT_TRUE(frame.GetMenu() == nullptr && frame.GetMenuBarState() == AFX_MBS_HIDDEN);
+    EXPECT_EQ(frame.GetMenuBarVisibility(), static_cast<DWORD>(AFX_MBV_DISPLAYONFOCUS));
+    EXPECT_THAT(std::exchange(frame.log, {}), ElementsAre("hide"));
+    EXPECT_THAT(press(VK_F10), ElementsAre()) << "for Alt only";
+    EXPECT_THAT(press(VK_MENU), ElementsAre("show", "hide"));
+    EXPECT_THAT(press('F', 'f'), ElementsAre("show", "hide"));
+    EXPECT_TRUE(frame.SetMenuBarState(AFX_MBS_VISIBLE) && !frame.SetMenuBarState(AFX_MBS_VISIBLE));
+    EXPECT_EQ(frame.GetMenu()->m_hMenu, menu);
+    EXPECT_THAT(press(VK_MENU), ElementsAre("show", "hide")) << "it goes as it came";
+    frame.SetMenuBarVisibility(AFX_MBV_DISPLAYONFOCUS | AFX_MBV_DISPLAYONF10);
+    EXPECT_THAT(press(VK_F10, 0, VK_F10), ElementsAre("show")) << "until a key hides it";
+    EXPECT_THAT(press(VK_F10, 0, VK_F10), ElementsAre());
+    MSG escape{frame.m_hWnd, WM_KEYDOWN, VK_ESCAPE, 1, 0, {0, 0}};
+    EXPECT_FALSE(frame.PreTranslateMessage(&escape)) << "others may want it, too";
+    EXPECT_THAT(std::exchange(frame.log, {}), ElementsAre("hide"));
+    frame.OnUpdateFrameMenu(nullptr);
+    EXPECT_EQ(frame.GetMenu(), nullptr) << "the menu of a document stays hidden, too";
+    EXPECT_TRUE(raises<CInvalidArgException>([&] { frame.SetMenuBarVisibility(AFX_MBV_DISPLAYONF10); }));
+    EXPECT_TRUE(raises<CInvalidArgException>([&] { frame.SetMenuBarState(0); }));
+    frame.DestroyWindow();
+    EXPECT_FALSE(::IsMenu(menu)) << "it goes with the window";
+    bar_frame early;
+    early.SetMenuBarVisibility(AFX_MBV_DISPLAYONFOCUS);
+    EXPECT_TRUE(early.open() && early.GetMenu() == nullptr && early.SetMenuBarState(AFX_MBS_VISIBLE));
+    EXPECT_EQ(early.GetMenu()->GetMenuItemCount(), 2u);
+    early.DestroyWindow();
+}
+
+TEST_F(AfxFrame, MayEndWhileItsMenuBarComesOrGoes) {
+    struct short_lived : CFrameWnd {
+        void OnShowMenuBar() override { end(); }
+        void OnHideMenuBar() override { end(); }
+        void end() {
+            EXPECT_FALSE(SetMenuBarState(AFX_MBS_VISIBLE) || SetMenuBarState(AFX_MBS_HIDDEN)) << "while it changes";
+            if (IsWindowEnabled())
+                DestroyWindow();
+        }
+    };
+    const MSG keys[] = {{nullptr, WM_SYSCOMMAND, SC_KEYMENU, 0, 0, {0, 0}},
+                        {nullptr, WM_KEYDOWN, VK_ESCAPE, 1, 0, {0, 0}}};
+    for (MSG key : keys) {
+        auto* ending = new short_lived;
+        ASSERT_TRUE(ending->Create(nullptr, "ending", WS_POPUP | WS_DISABLED));
+        const HWND hwnd = key.hwnd = ending->m_hWnd;
+        ending->SetMenuBarVisibility(AFX_MBV_DISPLAYONFOCUS);
+        if (key.message == WM_KEYDOWN)
+            ending->SetMenuBarState(AFX_MBS_VISIBLE);
+        ending->EnableWindow();
+        if (key.message == WM_SYSCOMMAND)
+            ::SendMessage(hwnd, key.message, key.wParam, 0);
+        else
+            EXPECT_TRUE(ending->PreTranslateMessage(&key));
+        EXPECT_FALSE(::IsWindow(hwnd));
+    }
 }
 
 TEST_F(AfxFrame, HasTheProgramsIconAndUpdatesItselfWhenIdle) {

@@ -201,6 +201,30 @@ TEST_F(AfxImage, PixelsComeBackFromFiles) {
     EXPECT_EQ(text_of("b.xyz").substr(1, 3), "PNG");
 }
 
+TEST_F(AfxImage, FileDialogsAreToldWhichKindsThereAre) {
+    CSimpleArray<GUID> kinds;
+    CString filters;
+    ASSERT_EQ(CImage::GetImporterFilterString(filters, kinds, "All pictures"), S_OK);
+    EXPECT_TRUE(filters.Left(13) == "All pictures|" && filters.Right(2) == "||" && kinds[0] == GUID_NULL);
+    EXPECT_TRUE(filters.Find("|*.PNG|") > 0 && filters.Find("WMF") < 0) << filters.GetString();
+    CString bars = filters;
+    EXPECT_EQ(bars.Remove('|'), 2 * kinds.GetSize() + 1);
+    EXPECT_TRUE(raises<CInvalidArgException>([&] { kinds[kinds.GetSize()]; }));
+    ASSERT_EQ(CImage::GetExporterFilterString(filters, kinds, nullptr, CImage::excludeGIF, '\0'), S_OK);
+    EXPECT_TRUE(kinds.Find(Gdiplus::ImageFormatGIF) < 0 && kinds.Find(Gdiplus::ImageFormatPNG) >= 0);
+    CImage image;
+    ASSERT_TRUE(image.Create(5, 3, 24));
+    LPCTSTR at = filters;
+    for (int i = 0; i < kinds.GetSize(); ++i) {
+        at += lstrlen(at) + 1;
+        const CString name = "as" + CString(at).Mid(1).SpanExcluding(";"); // behind the asterisk
+        CImage back;
+        EXPECT_TRUE(SUCCEEDED(image.Save(name, kinds[i])) && SUCCEEDED(back.Load(name))) << name.GetString();
+        at += lstrlen(at) + 1;
+    }
+    EXPECT_TRUE(*at == '\0' && at - filters.GetString() == filters.GetLength() - 1);
+}
+
 TEST_F(AfxImage, WhatGdiPlusCannotReadIsSavedByItsColours) {
     constexpr DWORD masks[] = {0x0F, 0xF0, 0xF00};
     CImage masked, device, back;

@@ -35,11 +35,15 @@ TEST_F(AfxLinks, TheirTextsAndStatesAreReadAndSet) {
 
 TEST_F(AfxLinks, RoomAndTextsAreBounded) {
     WCHAR id[MAX_LINKID_TEXT] = L"before", url[L_MAX_URL_LENGTH] = L"before";
-    EXPECT_FALSE(links.GetItemID(0, id, MAX_LINKID_TEXT - 1) || links.GetItemUrl(0, url, L_MAX_URL_LENGTH - 1) ||
+    EXPECT_FALSE(links.GetItemID(0, id, MAX_LINKID_TEXT - 1) || links.GetItemUrl(0, url, MAX_LINKID_TEXT - 1) ||
                  links.GetItemID(0, nullptr, 1000));
     EXPECT_TRUE(std::wstring(id) == L"before" && std::wstring(url) == L"before");
     EXPECT_TRUE(links.GetItemID(0, id, MAX_LINKID_TEXT) && std::wstring(id) == L"first");
-    EXPECT_TRUE(links.GetItemUrl(0, url, L_MAX_URL_LENGTH) && std::wstring(url) == L"http://one/");
+    EXPECT_TRUE(links.GetItemUrl(0, url, MAX_LINKID_TEXT) && std::wstring(url) == L"http://one/");
+    const std::wstring longer(60, L'f');
+    EXPECT_TRUE(links.SetItemUrl(0, longer.c_str()) && links.GetItemUrl(0, url, 61) && url == longer);
+    EXPECT_FALSE(links.GetItemUrl(0, url, 60) || links.GetItem(nullptr) || links.SetItem(nullptr) ||
+                 links.HitTest(nullptr) || links.GetItemState(0, nullptr));
     const std::wstring longest(MAX_LINKID_TEXT - 1, L'x');
     EXPECT_TRUE(links.SetItemID(0, longest.c_str()) && links.GetItemID(0, id, MAX_LINKID_TEXT) && id == longest);
     EXPECT_FALSE(links.SetItemID(0, (longest + L"x").c_str()) || links.SetItemID(0, nullptr) ||

@@ -15,6 +15,8 @@ public:
         CString text;
         menu->GetMenuString(0, text, MF_BYPOSITION);
         texts.push_back(text.GetString());
+        if (while_shown)
+            while_shown();
         PostMessage(WM_KEYDOWN, VK_DOWN);
         PostMessage(WM_KEYDOWN, VK_RETURN);
     }
@@ -25,6 +27,7 @@ public:
 public:
     std::vector<std::string> texts;
     std::vector<UINT> commands;
+    std::function<void()> while_shown;
     int menus = 0, told = 0;
 };
 
@@ -40,10 +43,13 @@ protected:
         ASSERT_TRUE(button.Create(WS_CHILD | WS_VISIBLE, CRect(5, 5, 65, 30), &parent, 7));
         NMBCDROPDOWN notice{{button, 7, BCN_DROPDOWN}, {}};
         parent.SendMessage(WM_NOTIFY, 7, reinterpret_cast<LPARAM>(&notice));
-        MSG message;
-        while (::PeekMessage(&message, nullptr, 0, 0, PM_REMOVE)) // the command may be posted
-            ::DispatchMessage(&message);
+        dispatch();
         button.DestroyWindow();
+    }
+    static void dispatch() { // the command may be posted
+        MSG message;
+        while (::PeekMessage(&message, nullptr, 0, 0, PM_REMOVE))
+            ::DispatchMessage(&message);
     }
     static CMenu* menu_of(UINT command) {
         auto* menu = new CMenu;
@@ -65,6 +71,20 @@ TEST_F(AfxSplitButton, ShowsItsMenuAndItsParentGetsTheCommand) {
     own.SetDropDownMenu(IDR_FRAME, 1);
     drop(own);
     EXPECT_EQ(parent.texts.back(), "On");
+}
+
+TEST_F(AfxSplitButton, ItsMenuOutlivesWhatHappensWhileItIsShown) {
+    CSplitButton replaced(menu_of(300));
+    auto* deleted = new CSplitButton(menu_of(301));
+    parent.while_shown = [&] { replaced.SetDropDownMenu(menu_of(400)); };
+    drop(replaced);
+    parent.while_shown = [&] { delete std::exchange(deleted, nullptr); };
+    CSplitButton& going = *deleted;
+    ASSERT_TRUE(going.Create(WS_CHILD | WS_VISIBLE, CRect(5, 5, 65, 30), &parent, 7));
+    NMBCDROPDOWN notice{{going, 7, BCN_DROPDOWN}, {}};
+    parent.SendMessage(WM_NOTIFY, 7, reinterpret_cast<LPARAM>(&notice));
+    dispatch();
+    EXPECT_THAT(parent.commands, testing::ElementsAre(300u, 301u));
 }
 
 TEST_F(AfxSplitButton, DeletesItsMenus) {

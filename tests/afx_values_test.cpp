@@ -36,6 +36,22 @@ TEST(AfxWholeString, ChangesAsDocumented) {
         EXPECT_STREQ(r.change(r.from), r.to) << r.what;
 }
 
+TEST(AfxFileTime, CountsFineSteps) {
+    const SYSTEMTIME day{2024, 2, 4, 29, 12, 30, 15, 250};
+    FILETIME record{};
+    ASSERT_TRUE(::SystemTimeToFileTime(&day, &record));
+    const CFileTime noon = record, later = noon + CFileTimeSpan(CFileTime::Day) - CFileTimeSpan(CFileTime::Second);
+    EXPECT_EQ((later - noon).GetTimeSpan(), 86399LL * 10000000);
+    EXPECT_TRUE(noon < later && later != noon && CFileTime(noon.GetTime()) == noon && noon - later < CFileTimeSpan());
+    EXPECT_EQ(later.GetTime() / CFileTime::Week, noon.GetTime() / CFileTime::Week);
+    EXPECT_EQ(noon.UTCToLocal().LocalToUTC(), noon);
+    EXPECT_EQ(CTime(later) - CTime(noon), CTimeSpan(86399));
+    EXPECT_EQ((CFileTime(5) - CFileTimeSpan(6)).GetTime(), ~0ULL);
+    const CFileTime now = CFileTime::GetCurrentTime();
+    EXPECT_LE(now - noon, CFileTime::GetCurrentTime() - noon);
+    EXPECT_TRUE(now > noon);
+}
+
 TEST(AfxWholeString, FindsAndTakesApart) {
     const CString text("one;two;;three");
     EXPECT_EQ(text.Find('t', 5), 9);

@@ -5,8 +5,10 @@
 
 #include <afxdlgs.h>
 
+#include <algorithm>
 #include <fstream>
 #include <memory>
+#include <vector>
 
 namespace {
 
@@ -87,6 +89,35 @@ TEST_F(PrintTest, HardcopyFillsThePageAndShowsTheFrame) {
         EXPECT_NE(page->at(inked.right, inked.top - static_cast<int>(height / 4)), white); // beside the white quarter
         EXPECT_NE(page->at(inked.left + static_cast<int>(width / 4), inked.bottom), white);
     }
+}
+
+/// Draws the text area of the sample page itself.
+struct DrawnSetup : CPageSetupDialog {
+    std::vector<UINT> parts;
+    bool prepared = false, within = true;
+
+    UINT PreDrawPage(WORD, WORD, LPPAGESETUPDLG record) override {
+        prepared = record == &m_psd && parts.empty();
+        return 0;
+    }
+    UINT OnDrawPage(CDC* dc, UINT part, LPRECT rect) override {
+        parts.push_back(part);
+        CRect drawn;
+        within = within && dc->GetClipBox(&drawn) != ERROR && rect->right > rect->left;
+        return part == WM_PSD_GREEKTEXTRECT;
+    }
+};
+
+TEST_F(PrintTest, ASamplePageIsDrawnByTheProgram) {
+    DrawnSetup setup;
+    WhileModal modal([&] {
+        const HWND dialog = shown_dialog();
+        return !setup.parts.empty() && dialog != nullptr && ::PostMessage(dialog, WM_COMMAND, IDCANCEL, 0);
+    });
+    EXPECT_EQ(setup.DoModal(), IDCANCEL);
+    EXPECT_TRUE(setup.prepared && setup.within && std::ranges::count(setup.parts, UINT{WM_PSD_FULLPAGERECT}) > 0 &&
+                std::ranges::count(setup.parts, UINT{WM_PSD_GREEKTEXTRECT}) > 0);
+    EXPECT_EQ(setup.m_psd.lpfnPagePaintHook(nullptr, WM_PSD_FULLPAGERECT, 0, 0), 0u) << "none is shown";
 }
 
 /// Three pages through the framework's view: the first has a red square of an inch, an inch from the corner.

@@ -30,6 +30,12 @@ struct CCreateContext {
 #define FWS_ADDTOTITLE 0x00008000L
 #define FWS_PREFIXTITLE 0x00004000L
 #define FWS_SNAPTOBARS 0x00002000L // of the small frames around bars, which always do
+// A menu bar that is always shown; hidden until Alt is pressed; until Alt or F10, and then shown until Alt or Esc.
+#define AFX_MBV_KEEPVISIBLE 0x01L
+#define AFX_MBV_DISPLAYONFOCUS 0x02L
+#define AFX_MBV_DISPLAYONF10 0x04L // with AFX_MBV_DISPLAYONFOCUS
+#define AFX_MBS_VISIBLE 0x01L
+#define AFX_MBS_HIDDEN 0x02L
 #define AFX_WS_DEFAULT_VIEW (WS_CHILD | WS_VISIBLE | WS_BORDER)
 
 // A top-level window with a menu, bars around its client area and a view in it. Commands go to the active view, to the
@@ -75,6 +81,16 @@ public:
     virtual void DelayUpdateFrameMenu(HMENU hMenuAlt);
     void DelayRecalcLayout(BOOL bNotify = TRUE) { m_layout_wanted = true; }
     virtual HACCEL GetDefaultAccelerator();
+
+    // AFX_MBV_ values; others raise CInvalidArgException. Not of frames with several documents, whose menus change.
+    virtual void SetMenuBarVisibility(DWORD nStyle);
+    virtual DWORD GetMenuBarVisibility() const;
+    // AFX_MBS_ values. FALSE where it is so already.
+    virtual BOOL SetMenuBarState(DWORD nState);
+    virtual DWORD GetMenuBarState() const;
+    BOOL GetMenuBarInfo(LONG idObject, LONG idItem, PMENUBARINFO pmbi) const {
+        return ::GetMenuBarInfo(m_hWnd, idObject, idItem, pmbi);
+    }
 
     // Texts of the message bar: the status bar, where there is one.
     virtual CWnd* GetMessageBar();
@@ -137,6 +153,9 @@ protected:
     void UpdateFrameTitleForDocument(LPCTSTR lpszDocName);
     LPCTSTR GetIconWndClass(DWORD dwDefaultStyle, UINT nIDResource);
     virtual void LayoutClient();
+    // The menu bar is about to come or go; they do nothing.
+    virtual void OnShowMenuBar();
+    virtual void OnHideMenuBar();
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnClose();
@@ -146,6 +165,7 @@ protected:
     afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg void OnInitMenuPopup(CMenu* pMenu, UINT nIndex, BOOL bSysMenu);
+    afx_msg void OnSysCommand(UINT nID, LPARAM lParam);
     afx_msg void OnMenuSelect(UINT nItemID, UINT nFlags, HMENU hSysMenu);
     afx_msg LRESULT OnSetMessageString(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnPopMessageString(WPARAM wParam, LPARAM lParam);
@@ -192,9 +212,16 @@ private:
     void LayoutFloats();
     CDockBar* DockBarOf(const CControlBar& bar, const CControlBarInfo& info);
     void PutBar(CControlBar& bar, const CControlBarInfo& info);
+    HMENU FrameMenu() const; // shown or hidden
+    void SetFrameMenu(HMENU menu);
+    void NoteMenuKey(const MSG& message);
     void ShowActiveCaptions(HWND active);
     bool IsOnlyFrameOf(CDocument* pDocument) const;
 
+    HMENU m_hMenuHidden = nullptr;
+    DWORD m_dwMenuBarVisibility = AFX_MBV_KEEPVISIBLE, m_dwMenuBarState = AFX_MBS_VISIBLE;
+    bool m_menu_bar_changes = false; // the program is being told
+    WPARAM m_last_system_key = 0;
     HACCEL m_loaded_keys = nullptr; // what LoadAccelTable made; another table is somebody else's
     CDockBar* m_dock_bars[4] = {};
     UINT m_cModalStack = 0;

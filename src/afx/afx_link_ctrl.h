@@ -24,10 +24,10 @@ public:
     int GetIdealSize(int cxMaxWidth, SIZE* pSize) const {
         return afx_int(SendMessage(LM_GETIDEALHEIGHT, static_cast<WPARAM>(cxMaxWidth), afx_param(pSize)));
     }
-    BOOL GetItem(PLITEM pItem) const { return afx_int(SendMessage(LM_GETITEM, 0, afx_param(pItem))); }
-    BOOL SetItem(PLITEM pItem) { return afx_int(SendMessage(LM_SETITEM, 0, afx_param(pItem))); }
-    BOOL HitTest(PLHITTESTINFO phti) const { return afx_int(SendMessage(LM_HITTEST, 0, afx_param(phti))); }
-    // FALSE, too, for less room than MAX_LINKID_TEXT, or L_MAX_URL_LENGTH.
+    BOOL GetItem(PLITEM pItem) const { return Ask(LM_GETITEM, pItem); }
+    BOOL SetItem(PLITEM pItem) { return Ask(LM_SETITEM, pItem); }
+    BOOL HitTest(PLHITTESTINFO phti) const { return Ask(LM_HITTEST, phti); }
+    // FALSE, too, for less room than MAX_LINKID_TEXT, and for a longer text.
     BOOL GetItemID(int iLink, CString& strID) const;
     BOOL GetItemID(int iLink, LPWSTR szID, UINT cchID) const;
     BOOL GetItemUrl(int iLink, CString& strUrl) const;
@@ -39,5 +39,8 @@ public:
     BOOL SetItemState(int iLink, UINT state, UINT stateMask = LIS_FOCUSED | LIS_ENABLED | LIS_VISITED);
 
 private:
-    BOOL Read(int link, UINT mask, LITEM& item) const;
+    template <class Record> BOOL Ask(UINT message, Record* record) const {
+        return record != nullptr ? afx_int(SendMessage(message, 0, afx_param(record))) : FALSE;
+    }
+    bool Read(int link, UINT mask, CStringW& text) const;
 };

@@ -55,6 +55,10 @@ protected:
     afx_msg void OnUpdateMDIWindowCmd(CCmdUI* pCmdUI);
     afx_msg BOOL OnMDIWindowCmd(UINT nID);
     afx_msg void OnWindowNew();
+
+private: // the menu is the active document's
+    using CFrameWnd::SetMenuBarState;
+    using CFrameWnd::SetMenuBarVisibility;
 };
 
 // The frame of a document inside the main window.
@@ -99,6 +103,10 @@ protected:
     afx_msg void OnDestroy();
 
     HMENU m_hMenuShared = nullptr;
+
+private: // the menu is the active document's
+    using CFrameWnd::SetMenuBarState;
+    using CFrameWnd::SetMenuBarVisibility;
 };
 
 // Several documents at a time, each in frames of its own inside the main window.

@@ -51,6 +51,13 @@ public:
     CString GetDriverName() const;
     CString GetDeviceName() const;
     CString GetPortName() const;
+    // Before the sample page is drawn, of paper and orientation, and for each of its parts (WM_PSD_ messages), within
+    // the rectangle: an answer other than 0 leaves the whole page, or that part, as it is.
+    virtual UINT PreDrawPage(WORD wPaper, WORD wFlags, LPPAGESETUPDLG pPSD);
+    virtual UINT OnDrawPage(CDC* pDC, UINT nMessage, LPRECT lpRect);
 
     PAGESETUPDLG m_psd;
+
+private:
+    static UINT_PTR CALLBACK PaintHookProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 };

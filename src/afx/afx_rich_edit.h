@@ -59,20 +59,20 @@ public:
     long GetLimitText() const { return static_cast<long>(SendMessage(EM_GETLIMITTEXT)); }
 
     // Formats; those of the selection answer which fields are the same all over it.
-    DWORD GetDefaultCharFormat(CHARFORMAT& cf) const { return CharFormat(cf, SCF_DEFAULT); }
-    DWORD GetSelectionCharFormat(CHARFORMAT& cf) const { return CharFormat(cf, SCF_SELECTION); }
-    BOOL SetDefaultCharFormat(CHARFORMAT& cf) { return SetCharFormat(cf, SCF_DEFAULT); }
-    BOOL SetSelectionCharFormat(CHARFORMAT& cf) { return SetCharFormat(cf, SCF_SELECTION); }
-    BOOL SetWordCharFormat(CHARFORMAT& cf) { return SetCharFormat(cf, SCF_SELECTION | SCF_WORD); }
-    DWORD GetDefaultCharFormat(CHARFORMAT2& cf) const { return CharFormat(cf, SCF_DEFAULT); }
-    DWORD GetSelectionCharFormat(CHARFORMAT2& cf) const { return CharFormat(cf, SCF_SELECTION); }
-    BOOL SetDefaultCharFormat(CHARFORMAT2& cf) { return SetCharFormat(cf, SCF_DEFAULT); }
-    BOOL SetSelectionCharFormat(CHARFORMAT2& cf) { return SetCharFormat(cf, SCF_SELECTION); }
-    BOOL SetWordCharFormat(CHARFORMAT2& cf) { return SetCharFormat(cf, SCF_SELECTION | SCF_WORD); }
-    DWORD GetParaFormat(PARAFORMAT& pf) const;
-    BOOL SetParaFormat(PARAFORMAT& pf);
-    DWORD GetParaFormat(PARAFORMAT2& pf) const;
-    BOOL SetParaFormat(PARAFORMAT2& pf);
+    DWORD GetDefaultCharFormat(CHARFORMAT& cf) const { return Format(EM_GETCHARFORMAT, cf, SCF_DEFAULT); }
+    DWORD GetSelectionCharFormat(CHARFORMAT& cf) const { return Format(EM_GETCHARFORMAT, cf, SCF_SELECTION); }
+    BOOL SetDefaultCharFormat(CHARFORMAT& cf) { return SetFormat(EM_SETCHARFORMAT, cf, SCF_DEFAULT); }
+    BOOL SetSelectionCharFormat(CHARFORMAT& cf) { return SetFormat(EM_SETCHARFORMAT, cf, SCF_SELECTION); }
+    BOOL SetWordCharFormat(CHARFORMAT& cf) { return SetFormat(EM_SETCHARFORMAT, cf, SCF_SELECTION | SCF_WORD); }
+    DWORD GetDefaultCharFormat(CHARFORMAT2& cf) const { return Format(EM_GETCHARFORMAT, cf, SCF_DEFAULT); }
+    DWORD GetSelectionCharFormat(CHARFORMAT2& cf) const { return Format(EM_GETCHARFORMAT, cf, SCF_SELECTION); }
+    BOOL SetDefaultCharFormat(CHARFORMAT2& cf) { return SetFormat(EM_SETCHARFORMAT, cf, SCF_DEFAULT); }
+    BOOL SetSelectionCharFormat(CHARFORMAT2& cf) { return SetFormat(EM_SETCHARFORMAT, cf, SCF_SELECTION); }
+    BOOL SetWordCharFormat(CHARFORMAT2& cf) { return SetFormat(EM_SETCHARFORMAT, cf, SCF_SELECTION | SCF_WORD); }
+    DWORD GetParaFormat(PARAFORMAT& pf) const { return Format(EM_GETPARAFORMAT, pf); }
+    BOOL SetParaFormat(PARAFORMAT& pf) { return SetFormat(EM_SETPARAFORMAT, pf); }
+    DWORD GetParaFormat(PARAFORMAT2& pf) const { return Format(EM_GETPARAFORMAT, pf); }
+    BOOL SetParaFormat(PARAFORMAT2& pf) { return SetFormat(EM_SETPARAFORMAT, pf); }
     COLORREF SetBackgroundColor(BOOL bSysColor, COLORREF cr) {
         return static_cast<COLORREF>(SendMessage(EM_SETBKGNDCOLOR, bSysColor, static_cast<LPARAM>(cr)));
     }
@@ -127,12 +127,11 @@ private:
     int Ask(UINT message, int wParam = 0, LPARAM lParam = 0) const {
         return afx_int(SendMessage(message, static_cast<WPARAM>(wParam), lParam));
     }
-    template <class Format> DWORD CharFormat(Format& cf, WPARAM which) const {
-        cf.cbSize = sizeof(cf);
-        return static_cast<DWORD>(SendMessage(EM_GETCHARFORMAT, which, afx_param(&cf)));
+    template <class Record> DWORD Format(UINT message, Record& format, WPARAM which = 0) const {
+        format.cbSize = sizeof(format);
+        return static_cast<DWORD>(SendMessage(message, which, afx_param(&format)));
     }
-    template <class Format> BOOL SetCharFormat(Format& cf, WPARAM which) {
-        cf.cbSize = sizeof(cf);
-        return afx_int(SendMessage(EM_SETCHARFORMAT, which, afx_param(&cf)));
+    template <class Record> BOOL SetFormat(UINT message, Record& format, WPARAM which = 0) {
+        return static_cast<BOOL>(Format(message, format, which));
     }
 };

@@ -28,6 +28,6 @@ protected:
 private:
     void ShowUnderButton(CMenu& menu);
 
-    std::unique_ptr<CMenu> m_pMenu;
+    std::shared_ptr<CMenu> m_pMenu; // held while it is shown, too
     UINT m_nMenuId = 0, m_nSubMenuId = 0;
 };

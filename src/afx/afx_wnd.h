@@ -123,6 +123,10 @@ public:
     CWnd* GetTopLevelParent() const;
     CWnd* GetTopLevelOwner() const;
     CWnd* GetParentOwner() const;
+    // Who is to own a modal window: pParent, or the main window's last active popup, or the first parent of it that is
+    // no child. pWndTop takes the last owner of that one where it is another one and was enabled, and gets disabled;
+    // else null.
+    static CWnd* PASCAL GetSafeOwner(CWnd* pParent = nullptr, HWND* pWndTop = nullptr);
     CWnd* EnsureTopLevelParent() { return GetTopLevelParent(); }
     BOOL IsTopParentActive() const;
     void ActivateTopParent();

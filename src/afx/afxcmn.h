@@ -9,6 +9,7 @@
 #include "afx_image_list.h"
 #include "afx_link_ctrl.h"
 #include "afx_list_ctrl.h"
+#include "afx_pager_ctrl.h"
 #include "afx_rebar.h"
 #include "afx_rich_edit.h"
 #include "afx_split_button.h"

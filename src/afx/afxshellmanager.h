@@ -26,6 +26,7 @@ public:
     LPITEMIDLIST GetNextItem(LPCITEMIDLIST pidl); // null behind the last part
     UINT GetItemCount(LPCITEMIDLIST pidl);
     UINT GetItemSize(LPCITEMIDLIST pidl); // in bytes, the end's included
-    // The number of the parent's parts; 0, and a null parent, of what has none.
-    UINT GetParentItem(LPCITEMIDLIST lpidl, LPITEMIDLIST& lpidlParent);
+    // The number of the parent's parts, 0 of the desktop; -1, and a null parent, for the desktop itself, which has
+    // none.
+    int GetParentItem(LPCITEMIDLIST lpidl, LPITEMIDLIST& lpidlParent);
 };

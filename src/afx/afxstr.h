@@ -1,9 +1,9 @@
 // CString: a string of bytes in the process's ANSI code page.
 #pragma once
 
-#include "afx_base.h"
+#include "afx_simple_string.h"
 
-#include <string>
+#include <climits>
 
 #ifdef _ATL_CSTRING_EXPLICIT_CONSTRUCTORS
 #define AFX_EXPLICIT_STRING explicit
@@ -11,22 +11,17 @@
 #define AFX_EXPLICIT_STRING
 #endif
 
-// Positions and lengths are byte counts. Positions outside the text are clamped; searches step by characters, of which
-// some code pages make two bytes. A null text is an empty one; a resource id in place of the constructor's text
-// (MAKEINTRESOURCE) loads that string.
-class ZOPAFX_API CString {
+// Positions and lengths are byte counts; searches step by characters, of which some code pages make two bytes. A
+// resource id in place of the constructor's text (MAKEINTRESOURCE) loads that string.
+class ZOPAFX_API CString : public CSimpleStringT<char> {
 public:
-    typedef char XCHAR;
-    typedef LPSTR PXSTR;
-    typedef LPCSTR PCXSTR;
-
     CString() = default;
     CString(const CString& source) = default;
     CString(CString&& source) noexcept = default;
     CString(LPCSTR source);
     CString(LPCWSTR source);
     CString(const class CStringW& source);
-    CString(LPCSTR source, int length);
+    CString(LPCSTR source, int length) : CSimpleStringT(Start(source, length)) {}
     CString(LPCWSTR source, int length);
     AFX_EXPLICIT_STRING CString(const unsigned char* source) : CString(reinterpret_cast<LPCSTR>(source)) {}
     AFX_EXPLICIT_STRING CString(char c, int repeat = 1);
@@ -34,50 +29,21 @@ public:
 
     CString& operator=(const CString& source) = default;
     CString& operator=(CString&& source) noexcept = default;
-    CString& operator=(LPCSTR source);
+    CString& operator=(LPCSTR source) { return SetString(source), *this; }
     CString& operator=(LPCWSTR source) { return *this = CString(source); }
     CString& operator=(const CStringW& source) { return *this = CString(source); }
     CString& operator=(const unsigned char* source) { return *this = reinterpret_cast<LPCSTR>(source); }
     CString& operator=(char c) { return *this = CString(c); }
     CString& operator=(wchar_t c) { return *this = CString(c); }
 
-    CString& operator+=(const CString& text);
-    CString& operator+=(LPCSTR text);
-    CString& operator+=(char c);
+    CString& operator+=(const CString& text) { return Append(text), *this; }
+    CString& operator+=(LPCSTR text) { return Append(text), *this; }
+    CString& operator+=(char c) { return AppendChar(c), *this; }
     CString& operator+=(wchar_t c) { return *this += CString(c); }
-    void Append(const CString& text) { *this += text; }
-    void Append(LPCSTR text) { *this += text; }
-    void Append(LPCSTR text, int length) { *this += CString(text, length); }
-    void AppendChar(char c) { *this += c; }
-    void SetString(LPCSTR text) { *this = text; }
-    void SetString(LPCSTR text, int length) { *this = CString(text, length); }
 
-    operator LPCSTR() const { return m_text.c_str(); }
-    LPCSTR GetString() const { return m_text.c_str(); }
-    int GetLength() const { return static_cast<int>(m_text.size()); }
-    int GetAllocLength() const { return static_cast<int>(m_text.capacity()); }
-    bool IsEmpty() const { return m_text.empty(); }
-    void Empty() { m_text.clear(); }
-    void FreeExtra() { m_text.shrink_to_fit(); }
-    void Preallocate(int length) { m_text.reserve(ClampedLength(length)); }
-    char GetAt(int index) const; // raises CInvalidArgException outside the text
-    void SetAt(int index, char c);
-    char operator[](int index) const; // '\0' outside the text
-
-    // Room for minimum characters; valid until the next call on the object. End writing with ReleaseBuffer.
-    LPSTR GetBuffer(int minimum = 0);
-    LPSTR GetBufferSetLength(int length);
-    LPSTR LockBuffer() { return GetBuffer(); }
-    void UnlockBuffer() {}
-    // length -1: up to the first null character.
-    void ReleaseBuffer(int length = -1);
-    void ReleaseBufferSetLength(int length) { ReleaseBuffer(length); }
-    void Truncate(int length) { ReleaseBuffer(length); }
-
-    CString Mid(int first) const;
-    CString Mid(int first, int count) const;
-    CString Left(int count) const;
-    CString Right(int count) const;
+    CString Mid(int first, int count = INT_MAX) const { return CString(Part(first, count)); }
+    CString Left(int count) const { return Mid(0, count); }
+    CString Right(int count) const { return Mid(GetLength() - static_cast<int>(Clamp(count))); }
     // The longest start that holds only, or none of, these characters.
     CString SpanIncluding(LPCSTR characters) const;
     CString SpanExcluding(LPCSTR characters) const;
@@ -139,21 +105,14 @@ public:
     BOOL LoadString(HINSTANCE instance, UINT id, WORD language);
     BOOL GetEnvironmentVariable(LPCSTR name);
 
-    static int StringLength(LPCSTR text) { return text != nullptr ? static_cast<int>(std::strlen(text)) : 0; }
-    static void CopyChars(LPSTR to, LPCSTR from, int count) { std::memcpy(to, from, ClampedLength(count)); }
-
     BSTR AllocSysString() const;
     BSTR SetSysString(BSTR* text) const;
 
 private:
-    // std::string wants no negative positions.
-    std::size_t Clamp(int position) const;
-    static std::size_t ClampedLength(int length) { return length > 0 ? static_cast<std::size_t>(length) : 0; }
+    explicit CString(std::string text) : CSimpleStringT(std::move(text)) {}
     CString& FormatArguments(LPCSTR format, ...);
     void FormatMessageArguments(LPCSTR format, ...);
     static CString Stored(UINT id);
-
-    std::string m_text;
 };
 
 typedef CString CStringA, CAtlString, CAtlStringA;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "afxstr.h"
+#include "atlsimpcoll.h"
 #include "atltypes.h"
 
 // The platform's header takes these for granted.
@@ -54,6 +55,29 @@ public:
     // GUID_NULL: by the name's extension, BMP where there is none.
     HRESULT Save(LPCTSTR pszFileName, REFGUID guidFileType = GUID_NULL) const;
     HRESULT Save(IStream* pStream, REFGUID guidFileType) const;
+
+    // Filters for CFileDialog: "description (patterns)|patterns|" of each kind of file, at first of all together under
+    // the description for them, and "|" at the end; the array tells the kinds in the same order, GUID_NULL for all.
+    // Metafiles cannot be loaded and are left out.
+    enum {
+        excludeGIF = 0x01,
+        excludeBMP = 0x02,
+        excludeEMF = 0x04,
+        excludeWMF = 0x08,
+        excludeJPEG = 0x10,
+        excludePNG = 0x20,
+        excludeTIFF = 0x40,
+        excludeIcon = 0x80,
+        excludeOther = static_cast<int>(0x80000000),
+        excludeDefaultLoad = 0,
+        excludeDefaultSave = excludeIcon | excludeEMF | excludeWMF
+    };
+    static HRESULT GetImporterFilterString(CSimpleString& strImporters, CSimpleArray<GUID>& aguidFileTypes,
+                                           LPCTSTR pszAllFilesDescription = nullptr,
+                                           DWORD dwExclude = excludeDefaultLoad, TCHAR chSeparator = '|');
+    static HRESULT GetExporterFilterString(CSimpleString& strExporters, CSimpleArray<GUID>& aguidFileTypes,
+                                           LPCTSTR pszAllFilesDescription = nullptr,
+                                           DWORD dwExclude = excludeDefaultSave, TCHAR chSeparator = '|');
 
     bool IsNull() const { return m.bitmap == nullptr; }
     int GetWidth() const { return m.width; }
@@ -198,6 +222,8 @@ private:
     bool Holds(int x, int y) const { return x >= 0 && x < m.width && y >= 0 && y < m.height; }
     BYTE* Row(int y) const { return m.bits + static_cast<std::ptrdiff_t>(y) * m.pitch; }
     bool HasPlainColours() const { return m.bits != nullptr && m.bpp >= 24 && !m.masks; }
+    template <class Colour>
+    void MoveColors(UINT first, UINT count, Colour* colours, UINT(WINAPI* move)(HDC, UINT, UINT, Colour*)) const;
     bool CopyColours(CImage& copy) const;
     void Multiply();
     void SetCube();

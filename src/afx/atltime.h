@@ -1,6 +1,7 @@
 // CTime and CTimeSpan: a moment, in seconds since 1970, and a distance between two.
 #pragma once
 
+#include "afx_file_time.h"
 #include "afxstr.h"
 
 #include <compare>

@@ -1,7 +1,9 @@
 #include "afx_extended_ctrls.h"
+#include "afx_pager_ctrl.h"
 
 IMPLEMENT_DYNAMIC(CComboBoxEx, CComboBox)
 IMPLEMENT_DYNAMIC(CIPAddressCtrl, CWnd)
+IMPLEMENT_DYNAMIC(CPagerCtrl, CWnd)
 
 namespace {
 
@@ -58,4 +60,13 @@ int CIPAddressCtrl::GetAddress(BYTE& nField0, BYTE& nField1, BYTE& nField2, BYTE
     nField2 = THIRD_IPADDRESS(address);
     nField3 = FOURTH_IPADDRESS(address);
     return filled;
+}
+
+BOOL CPagerCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
+    return CreateEx(0, dwStyle, rect, pParentWnd, nID);
+}
+
+BOOL CPagerCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
+    prepare_class(ICC_PAGESCROLLER_CLASS);
+    return CWnd::CreateEx(dwExStyle, WC_PAGESCROLLER, nullptr, dwStyle | WS_CHILD, rect, pParentWnd, nID);
 }

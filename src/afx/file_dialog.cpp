@@ -1,7 +1,11 @@
 #include "afxdlgs.h"
+#include "afxpriv.h"
 #include "file_names.h"
 #include "modal_parent.h"
+#include "shell_file_dialog.h"
 #include "wnd_state.h"
+
+#include <dlgs.h>
 
 IMPLEMENT_DYNAMIC(CCommonDialog, CDialog)
 IMPLEMENT_DYNAMIC(CFileDialog, CCommonDialog)
@@ -20,7 +24,8 @@ void CCommonDialog::OnCancel() {
 
 CFileDialog::CFileDialog(BOOL bOpenFileDialog, LPCTSTR lpszDefExt, LPCTSTR lpszFileName, DWORD dwFlags,
                          LPCTSTR lpszFilter, CWnd* pParentWnd, DWORD dwSize, BOOL bVistaStyle)
-    : CCommonDialog(pParentWnd), m_ofn{}, m_bOpenFileDialog(bOpenFileDialog), m_strFilter(lpszFilter) {
+    : CCommonDialog(pParentWnd), m_ofn{}, m_bOpenFileDialog(bOpenFileDialog), m_bVistaStyle(bVistaStyle),
+      m_strFilter(lpszFilter) {
     if (lpszFileName != nullptr)
         lstrcpyn(m_szFileName, lpszFileName, sizeof(m_szFileName));
     m_strFilter.Replace('|', '\0');
@@ -37,8 +42,17 @@ CFileDialog::CFileDialog(BOOL bOpenFileDialog, LPCTSTR lpszDefExt, LPCTSTR lpszF
     m_ofn.lCustData = reinterpret_cast<LPARAM>(this);
 }
 
+CFileDialog::~CFileDialog() = default;
+
 INT_PTR CFileDialog::DoModal() {
     const modal_parent parent(m_pParentWnd);
+    if (m_shell != nullptr || m_bPickFoldersMode) {
+        ApplyOFNToShellDialog();
+        if (Shell() == nullptr || !Shell()->show(parent.handle()))
+            return IDCANCEL;
+        UpdateOFNFromShellDialog();
+        return m_ofn.lpstrFile != nullptr && *m_ofn.lpstrFile != '\0' ? IDOK : IDCANCEL;
+    }
     m_ofn.hwndOwner = parent.handle();
     m_ofn.lCustData = reinterpret_cast<LPARAM>(this);
     const BOOL chosen = m_bOpenFileDialog ? ::GetOpenFileName(&m_ofn) : ::GetSaveFileName(&m_ofn);
@@ -94,6 +108,10 @@ BOOL CFileDialog::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
         m_ofn.nFilterIndex = notice->lpOFN->nFilterIndex;
         OnTypeChange();
         return TRUE;
+    case CDN_HELP: // the command of the button, or the program's help
+        if (SendMessage(WM_COMMAND, pshHelp) == 0)
+            SendMessage(WM_COMMANDHELP);
+        return TRUE;
     case CDN_FILEOK:
         *pResult = OnFileNameOK();
         break;
@@ -115,6 +133,8 @@ CString CFileDialog::Asked(UINT message) const {
 }
 
 CString CFileDialog::GetPathName() const {
+    if (m_shell != nullptr && m_shell->is_shown())
+        return m_shell->path();
     return m_hWnd != nullptr ? Asked(CDM_GETFILEPATH) : CString(m_ofn.lpstrFile);
 }
 
@@ -134,6 +154,8 @@ CString CFileDialog::GetFileTitle() const {
 CString CFileDialog::GetFolderPath() const {
     if (m_hWnd != nullptr)
         return Asked(CDM_GETFOLDERPATH);
+    if (m_shell != nullptr && m_shell->is_shown())
+        return m_shell->folder();
     return m_bPickFoldersMode ? GetPathName() : CString();
 }
 

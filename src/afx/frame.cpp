@@ -23,6 +23,7 @@ ON_WM_SETFOCUS()
 ON_WM_ERASEBKGND()
 ON_WM_INITMENUPOPUP()
 ON_WM_MENUSELECT()
+ON_WM_SYSCOMMAND()
 ON_WM_HSCROLL()
 ON_WM_VSCROLL()
 ON_WM_DROPFILES()
@@ -124,7 +125,7 @@ BOOL CFrameWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pParentW
     if (!Create(GetIconWndClass(dwDefaultStyle, nIDResource), title, dwDefaultStyle, rectDefault, pParentWnd,
                 MAKEINTRESOURCE(nIDResource), 0, pContext))
         return FALSE;
-    m_hMenuDefault = ::GetMenu(m_hWnd);
+    m_hMenuDefault = FrameMenu();
     LoadAccelTable(MAKEINTRESOURCE(nIDResource));
     if (pContext == nullptr)
         SendMessageToDescendants(WM_INITIALUPDATE, 0, 0, TRUE, TRUE);
@@ -150,6 +151,10 @@ BOOL CFrameWnd::PreTranslateMessage(MSG* pMsg) {
         return TRUE;
     if (pMsg->message < WM_KEYFIRST || pMsg->message > WM_KEYLAST)
         return FALSE;
+    const HWND self = m_hWnd;
+    NoteMenuKey(*pMsg);
+    if (!::IsWindow(self))
+        return TRUE;
     const HACCEL keys = GetDefaultAccelerator();
     return keys != nullptr && ::TranslateAccelerator(m_hWnd, keys, pMsg);
 }
@@ -161,6 +166,8 @@ int CFrameWnd::OnCreate(LPCREATESTRUCT lpCreateStruct) {
 int CFrameWnd::OnCreateHelper(LPCREATESTRUCT lpcs, CCreateContext* pContext) {
     if (CWnd::OnCreate(lpcs) == -1 || !OnCreateClient(lpcs, pContext))
         return -1;
+    if (m_dwMenuBarState == AFX_MBS_HIDDEN) // asked for before there was a window
+        SetFrameMenu(FrameMenu());
     PostMessage(WM_SETMESSAGESTRING, AFX_IDS_IDLEMESSAGE);
     RecalcLayout();
     return 0;
@@ -190,9 +197,11 @@ void CFrameWnd::PostNcDestroy() {
 
 void CFrameWnd::OnDestroy() {
     DestroyDockBars();
+    const HMENU menu = FrameMenu();
+    if (m_hMenuHidden != nullptr)
+        ::SetMenu(m_hWnd, std::exchange(m_hMenuHidden, nullptr));
     // The menu that the window shows goes with it; another that it was loaded with does not.
-    const HMENU shown = ::GetMenu(m_hWnd);
-    if (m_hMenuDefault != nullptr && shown != m_hMenuDefault) {
+    if (m_hMenuDefault != nullptr && menu != m_hMenuDefault) {
         ::SetMenu(m_hWnd, nullptr);
         ::DestroyMenu(m_hMenuDefault);
     }
@@ -299,7 +308,7 @@ void CFrameWnd::InitialUpdateFrame(CDocument* pDoc, BOOL bMakeVisible) {
 void CFrameWnd::OnUpdateFrameMenu(HMENU hMenuAlt) {
     CDocument* document = GetActiveDocument();
     HMENU menu = hMenuAlt == nullptr && document != nullptr ? document->GetDefaultMenu() : hMenuAlt;
-    ::SetMenu(m_hWnd, menu != nullptr ? menu : m_hMenuDefault);
+    SetFrameMenu(menu != nullptr ? menu : m_hMenuDefault);
 }
 
 void CFrameWnd::OnUpdateFrameTitle(BOOL bAddToTitle) {

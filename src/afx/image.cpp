@@ -102,22 +102,22 @@ void* CImage::GetPixelAddress(int x, int y) {
     return Row(y) + static_cast<LONGLONG>(x) * m.bpp / 8;
 }
 
-void CImage::GetColorTable(UINT iFirstColor, UINT nColors, RGBQUAD* prgbColors) const {
+template <class Colour>
+void CImage::MoveColors(UINT first, UINT count, Colour* colours, UINT(WINAPI* move)(HDC, UINT, UINT, Colour*)) const {
     const UINT all = static_cast<UINT>(GetMaxColorTableEntries());
-    const HDC dc = iFirstColor < all && prgbColors != nullptr ? GetDC() : nullptr;
+    const HDC dc = first < all && colours != nullptr ? GetDC() : nullptr;
     if (dc == nullptr)
         return;
-    ::GetDIBColorTable(dc, iFirstColor, std::min(nColors, all - iFirstColor), prgbColors);
+    move(dc, first, std::min(count, all - first), colours);
     ReleaseDC();
 }
 
+void CImage::GetColorTable(UINT iFirstColor, UINT nColors, RGBQUAD* prgbColors) const {
+    MoveColors(iFirstColor, nColors, prgbColors, &::GetDIBColorTable);
+}
+
 void CImage::SetColorTable(UINT iFirstColor, UINT nColors, const RGBQUAD* prgbColors) {
-    const UINT all = static_cast<UINT>(GetMaxColorTableEntries());
-    const HDC dc = iFirstColor < all && prgbColors != nullptr ? GetDC() : nullptr;
-    if (dc == nullptr)
-        return;
-    ::SetDIBColorTable(dc, iFirstColor, std::min(nColors, all - iFirstColor), prgbColors);
-    ReleaseDC();
+    MoveColors(iFirstColor, nColors, prgbColors, &::SetDIBColorTable);
 }
 
 COLORREF CImage::GetPixel(int x, int y) const {
@@ -153,7 +153,7 @@ void CImage::SetPixelIndexed(int x, int y, int iIndex) {
     if (!Holds(x, y) || iIndex < 0 || iIndex >= GetMaxColorTableEntries())
         return;
     ::GdiFlush();
-    const int above = x * m.bpp % 8; // the leftmost pixel of a byte has its highest bits
+    const int above = x % 8 * m.bpp % 8; // the leftmost pixel of a byte has its highest bits
     const int shift = 8 - m.bpp - above;
     BYTE& byte = Row(y)[static_cast<LONGLONG>(x) * m.bpp / 8];
     byte = static_cast<BYTE>((byte & ~((GetMaxColorTableEntries() - 1) << shift)) | iIndex << shift);

@@ -1,11 +1,13 @@
 #include "atlimage.h"
 #include "atlconv.h"
 #include "com_ptr.h"
+#include "image_codecs.h"
 
 #include <algorithm>
 #include <climits>
 #include <memory>
 #include <mutex>
+#include <new>
 #include <shlwapi.h>
 #include <wincodec.h>
 #include <utility>
@@ -13,10 +15,6 @@
 
 // Which the toolchain's header leaves out; unlike the class factory it asks for no COM in the thread.
 extern "C" HRESULT WINAPI WICCreateImagingFactory_Proxy(UINT version, IWICImagingFactory** factory);
-
-namespace ATL {
-
-namespace flat = Gdiplus::DllExports;
 
 namespace {
 
@@ -37,31 +35,38 @@ codec& the_codec() {
     return one;
 }
 
-// Keeps it running for one operation.
-class codec_use {
-public:
-    codec_use() {
-        const std::lock_guard guard(the_codec().lock);
-        ++the_codec().working;
-        const Gdiplus::GdiplusStartupInput input;
-        if (the_codec().token == 0 && Gdiplus::GdiplusStartup(&the_codec().token, &input, nullptr) != Gdiplus::Ok)
-            the_codec().token = 0;
-    }
-    ~codec_use() {
-        const std::lock_guard guard(the_codec().lock);
-        --the_codec().working;
-    }
-    codec_use(const codec_use&) = delete;
-    codec_use& operator=(const codec_use&) = delete;
-    bool runs() const { return the_codec().token != 0; }
-};
+} // namespace
+
+codec_use::codec_use() {
+    const std::lock_guard guard(the_codec().lock);
+    ++the_codec().working;
+    const Gdiplus::GdiplusStartupInput input;
+    if (the_codec().token == 0 && Gdiplus::GdiplusStartup(&the_codec().token, &input, nullptr) != Gdiplus::Ok)
+        the_codec().token = 0;
+}
+
+codec_use::~codec_use() {
+    const std::lock_guard guard(the_codec().lock);
+    if (--the_codec().working == 0 && the_codec().images == 0)
+        the_codec().stop();
+}
+
+bool codec_use::runs() const {
+    return the_codec().token != 0;
+}
+
+namespace ATL {
+
+namespace flat = Gdiplus::DllExports;
+
+namespace {
 
 struct dispose {
     void operator()(Gdiplus::GpBitmap* bitmap) const { flat::GdipDisposeImage(bitmap); }
 };
 using bitmap_ptr = std::unique_ptr<Gdiplus::GpBitmap, dispose>;
 
-HRESULT read_all(IStream& stream, std::vector<BYTE>& bytes) {
+HRESULT read_all(IStream& stream, std::vector<BYTE>& bytes) try {
     constexpr std::size_t piece = 0x10000;
     for (ULONG read = 1; read > 0;) {
         const std::size_t before = bytes.size();
@@ -75,6 +80,8 @@ HRESULT read_all(IStream& stream, std::vector<BYTE>& bytes) {
             return result;
     }
     return S_OK;
+} catch (const std::bad_alloc&) {
+    return E_OUTOFMEMORY;
 }
 
 HRESULT result_of(Gdiplus::GpStatus status) {
@@ -146,18 +153,12 @@ struct encoder_id {
     GUID type;
 };
 bool find_encoder(REFGUID type, LPCWSTR name, encoder_id* found) {
-    UINT count = 0, size = 0;
-    if (flat::GdipGetImageEncodersSize(&count, &size) != Gdiplus::Ok || size == 0)
-        return false;
-    std::vector<BYTE> room(size);
-    auto* encoders = reinterpret_cast<Gdiplus::ImageCodecInfo*>(room.data());
-    if (flat::GdipGetImageEncoders(count, size, encoders) != Gdiplus::Ok)
-        return false;
-    const auto* end = encoders + count;
-    const auto* fits = std::find_if(encoders, encoders + count, [&](const Gdiplus::ImageCodecInfo& encoder) {
-        return name != nullptr ? ::PathMatchSpecW(name, encoder.FilenameExtension) : encoder.FormatID == type;
-    });
-    if (fits == end)
+    const codec_list encoders(false);
+    const auto* const fits =
+        std::find_if(encoders.begin(), encoders.end(), [&](const Gdiplus::ImageCodecInfo& encoder) {
+            return name != nullptr ? ::PathMatchSpecW(name, encoder.FilenameExtension) : encoder.FormatID == type;
+        });
+    if (fits == encoders.end())
         return false;
     *found = {fits->Clsid, fits->FormatID};
     return true;

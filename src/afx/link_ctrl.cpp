@@ -1,8 +1,6 @@
 #include "afx_link_ctrl.h"
 
-#include <algorithm>
 #include <cwchar>
-#include <iterator>
 
 IMPLEMENT_DYNAMIC(CLinkCtrl, CWnd)
 
@@ -15,11 +13,11 @@ LITEM item_of(int link, UINT mask) {
     return item;
 }
 
-template <std::size_t size> BOOL give(const WCHAR (&from)[size], LPWSTR to, UINT room) {
-    if (to == nullptr || room < size)
-        return FALSE;
-    std::copy(std::begin(from), std::end(from), to);
-    return TRUE;
+bool give(const CStringW& from, LPWSTR to, UINT room) {
+    if (to == nullptr || room < MAX_LINKID_TEXT || static_cast<UINT>(from.GetLength()) >= room)
+        return false;
+    std::wcscpy(to, from);
+    return true;
 }
 
 template <std::size_t size> bool take(WCHAR (&to)[size], LPCWSTR from) {
@@ -50,41 +48,38 @@ BOOL CLinkCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd*
     return CreateEx(nullptr, dwExStyle, dwStyle, rect, pParentWnd, nID);
 }
 
-BOOL CLinkCtrl::Read(int link, UINT mask, LITEM& item) const {
-    item = item_of(link, mask);
-    return link >= 0 && GetItem(&item);
+bool CLinkCtrl::Read(int link, UINT mask, CStringW& text) const {
+    LITEM item = item_of(link, mask);
+    if (link < 0 || !GetItem(&item))
+        return false;
+    text = mask == LIF_URL ? item.szUrl : item.szID;
+    return true;
 }
 
 BOOL CLinkCtrl::GetItemID(int iLink, CString& strID) const {
-    LITEM item;
-    if (!Read(iLink, LIF_ITEMID, item))
-        return FALSE;
-    strID = item.szID;
-    return TRUE;
+    CStringW text;
+    return Read(iLink, LIF_ITEMID, text) && (strID = text, true);
 }
 
 BOOL CLinkCtrl::GetItemID(int iLink, LPWSTR szID, UINT cchID) const {
-    LITEM item;
-    return Read(iLink, LIF_ITEMID, item) && give(item.szID, szID, cchID);
+    CStringW text;
+    return Read(iLink, LIF_ITEMID, text) && give(text, szID, cchID);
 }
 
 BOOL CLinkCtrl::GetItemUrl(int iLink, CString& strUrl) const {
-    LITEM item;
-    if (!Read(iLink, LIF_URL, item))
-        return FALSE;
-    strUrl = item.szUrl;
-    return TRUE;
+    CStringW text;
+    return Read(iLink, LIF_URL, text) && (strUrl = text, true);
 }
 
 BOOL CLinkCtrl::GetItemUrl(int iLink, LPWSTR szUrl, UINT cchUrl) const {
-    LITEM item;
-    return Read(iLink, LIF_URL, item) && give(item.szUrl, szUrl, cchUrl);
+    CStringW text;
+    return Read(iLink, LIF_URL, text) && give(text, szUrl, cchUrl);
 }
 
 BOOL CLinkCtrl::GetItemState(int iLink, UINT* pnState, UINT stateMask) const {
     LITEM item = item_of(iLink, LIF_STATE);
     item.stateMask = stateMask;
-    if (iLink < 0 || !GetItem(&item))
+    if (iLink < 0 || pnState == nullptr || !GetItem(&item))
         return FALSE;
     *pnState = item.state;
     return TRUE;

@@ -9,9 +9,8 @@ thread_local print_box* printing = nullptr;
 
 } // namespace
 
-print_box::print_box(CDC& dc, LPCTSTR document, LPCTSTR printer, LPCTSTR port)
-    : m_behind(modal_owner(nullptr)), m_outer(printing) {
-    if (Create(AFX_IDD_PRINTDLG, AfxGetMainWnd())) {
+print_box::print_box(CDC& dc, LPCTSTR document, LPCTSTR printer, LPCTSTR port) : m_behind(nullptr), m_outer(printing) {
+    if (Create(AFX_IDD_PRINTDLG, CWnd::FromHandle(m_behind.handle()))) {
         CString on;
         if (port != nullptr && *port != '\0')
             AfxFormatString1(on, AFX_IDS_PRINTONPORT, port);
@@ -28,8 +27,7 @@ print_box::print_box(CDC& dc, LPCTSTR document, LPCTSTR printer, LPCTSTR port)
 
 print_box::~print_box() {
     printing = m_outer;
-    m_behind.enable(); // before the box goes, or another program would come to the front
-    DestroyWindow();
+    m_behind.end(m_hWnd);
 }
 
 void print_box::ShowPage(UINT page) {

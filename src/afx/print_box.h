@@ -23,7 +23,7 @@ protected:
 private:
     static BOOL CALLBACK AbortProc(HDC, int);
 
-    disabled_window m_behind;
+    modal_parent m_behind;
     print_box* m_outer; // a box that prints already
     bool m_stopped = false;
 };

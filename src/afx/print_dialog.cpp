@@ -1,6 +1,9 @@
 #include "afxdlgs.h"
 #include "modal_parent.h"
 #include "printer.h"
+#include "wnd_state.h"
+
+#include <utility>
 
 IMPLEMENT_DYNAMIC(CPrintDialog, CCommonDialog)
 IMPLEMENT_DYNAMIC(CPageSetupDialog, CCommonDialog)
@@ -64,13 +67,47 @@ CString CPrintDialog::GetPortName() const {
 
 CPageSetupDialog::CPageSetupDialog(DWORD dwFlags, CWnd* pParentWnd) : CCommonDialog(pParentWnd), m_psd{} {
     m_psd.lStructSize = sizeof(m_psd);
-    m_psd.Flags = dwFlags;
+    m_psd.Flags = dwFlags | PSD_ENABLEPAGEPAINTHOOK;
+    m_psd.lpfnPagePaintHook = &CPageSetupDialog::PaintHookProc;
+}
+
+UINT CPageSetupDialog::PreDrawPage(WORD, WORD, LPPAGESETUPDLG) {
+    return 0;
+}
+
+UINT CPageSetupDialog::OnDrawPage(CDC*, UINT, LPRECT) {
+    return 0;
+}
+
+namespace {
+
+// The page's window knows nothing of the dialog's object.
+thread_local CPageSetupDialog* shown_page_setup = nullptr;
+
+} // namespace
+
+UINT_PTR CALLBACK CPageSetupDialog::PaintHookProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    try {
+        if (shown_page_setup == nullptr)
+            return 0;
+        if (message == WM_PSD_PAGESETUPDLG)
+            return shown_page_setup->PreDrawPage(LOWORD(wParam), HIWORD(wParam),
+                                                 reinterpret_cast<LPPAGESETUPDLG>(lParam));
+        return shown_page_setup->OnDrawPage(CDC::FromHandle(reinterpret_cast<HDC>(wParam)), message,
+                                            reinterpret_cast<LPRECT>(lParam));
+    } catch (...) {
+        answer_exception({hwnd, message, wParam, lParam, 0, {0, 0}});
+        return TRUE;
+    }
 }
 
 INT_PTR CPageSetupDialog::DoModal() {
     const modal_parent parent(m_pParentWnd);
     m_psd.hwndOwner = parent.handle();
-    if (::PageSetupDlg(&m_psd))
+    CPageSetupDialog* const before = std::exchange(shown_page_setup, this);
+    const BOOL chosen = ::PageSetupDlg(&m_psd);
+    shown_page_setup = before;
+    if (chosen)
         return IDOK;
     return ::CommDlgExtendedError() == 0 ? IDCANCEL : -1;
 }

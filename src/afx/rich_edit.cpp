@@ -34,7 +34,7 @@ BOOL CRichEditCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, C
 // The message takes the room's size from its first two bytes.
 int CRichEditCtrl::GetLine(int nIndex, LPTSTR lpszBuffer, int nMaxLength) const {
     const WORD room = static_cast<WORD>(std::clamp(nMaxLength, 0, 0xFFFF));
-    if (room < sizeof(room))
+    if (lpszBuffer == nullptr || room < sizeof(room))
         return 0;
     std::memcpy(lpszBuffer, &room, sizeof(room));
     return Ask(EM_GETLINE, nIndex, afx_param(lpszBuffer));
@@ -82,26 +82,6 @@ CPoint CRichEditCtrl::GetCharPos(long lChar) const {
 int CRichEditCtrl::CharFromPos(CPoint pt) const {
     POINTL place{pt.x, pt.y};
     return Ask(EM_CHARFROMPOS, 0, afx_param(&place));
-}
-
-DWORD CRichEditCtrl::GetParaFormat(PARAFORMAT& pf) const {
-    pf.cbSize = sizeof(pf);
-    return static_cast<DWORD>(SendMessage(EM_GETPARAFORMAT, 0, afx_param(&pf)));
-}
-
-BOOL CRichEditCtrl::SetParaFormat(PARAFORMAT& pf) {
-    pf.cbSize = sizeof(pf);
-    return Ask(EM_SETPARAFORMAT, 0, afx_param(&pf));
-}
-
-DWORD CRichEditCtrl::GetParaFormat(PARAFORMAT2& pf) const {
-    pf.cbSize = sizeof(pf);
-    return static_cast<DWORD>(SendMessage(EM_GETPARAFORMAT, 0, afx_param(&pf)));
-}
-
-BOOL CRichEditCtrl::SetParaFormat(PARAFORMAT2& pf) {
-    pf.cbSize = sizeof(pf);
-    return Ask(EM_SETPARAFORMAT, 0, afx_param(&pf));
 }
 
 void CRichEditCtrl::PasteSpecial(UINT nClipFormat, DWORD dvAspect, HMETAFILE hMF) {

@@ -2,6 +2,7 @@
 #include "atlconv.h"
 #include "modal_parent.h"
 
+#include <algorithm>
 #include <utility>
 
 IMPLEMENT_DYNAMIC(CShellManager, CObject)
@@ -48,9 +49,10 @@ HRESULT CShellManager::ItemFromPath(LPCTSTR lpszPath, LPITEMIDLIST& pidl) {
 }
 
 LPITEMIDLIST CShellManager::CreateItem(UINT cbItem) {
-    auto* item = static_cast<LPITEMIDLIST>(::CoTaskMemAlloc(cbItem));
+    const std::size_t size = std::max<std::size_t>(cbItem, sizeof(USHORT)); // the end takes that much
+    auto* item = static_cast<LPITEMIDLIST>(::CoTaskMemAlloc(size));
     if (item != nullptr)
-        std::memset(item, 0, cbItem);
+        std::memset(item, 0, size);
     return item;
 }
 
@@ -84,17 +86,12 @@ UINT CShellManager::GetItemSize(LPCITEMIDLIST pidl) {
     return ::ILGetSize(pidl);
 }
 
-UINT CShellManager::GetParentItem(LPCITEMIDLIST lpidl, LPITEMIDLIST& lpidlParent) {
+int CShellManager::GetParentItem(LPCITEMIDLIST lpidl, LPITEMIDLIST& lpidlParent) {
     lpidlParent = GetItemCount(lpidl) > 0 ? ::ILClone(lpidl) : nullptr;
     if (lpidlParent == nullptr)
-        return 0;
+        return -1;
     ::ILRemoveLastID(lpidlParent);
-    const UINT count = GetItemCount(lpidlParent);
-    if (count == 0) {
-        FreeItem(lpidlParent);
-        lpidlParent = nullptr;
-    }
-    return count;
+    return static_cast<int>(GetItemCount(lpidlParent));
 }
 
 namespace {

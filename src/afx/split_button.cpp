@@ -25,8 +25,8 @@ void CSplitButton::SetDropDownMenu(CMenu* pMenu) {
 void CSplitButton::OnDropDown(NMHDR*, LRESULT* pResult) {
     *pResult = 0;
     CMenu bar;
-    if (m_pMenu != nullptr)
-        ShowUnderButton(*m_pMenu);
+    if (const auto own = m_pMenu)
+        ShowUnderButton(*own);
     else if (m_nMenuId != 0 && bar.LoadMenu(m_nMenuId))
         if (CMenu* menu = bar.GetSubMenu(static_cast<int>(m_nSubMenuId)))
             ShowUnderButton(*menu);

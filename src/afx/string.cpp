@@ -3,16 +3,11 @@
 #include "afx_module.h"
 
 #include <algorithm>
-#include <climits>
 #include <cstdio>
 #include <cstring>
 #include <mbstring.h>
 
 namespace {
-
-LPCSTR text_or_empty(LPCSTR text) {
-    return text != nullptr ? text : "";
-}
 
 std::string to_ansi(LPCWSTR source, int count) {
     const int length = WideCharToMultiByte(CP_ACP, 0, source, count, nullptr, 0, nullptr, nullptr);
@@ -27,107 +22,27 @@ std::string to_ansi(LPCWSTR source) {
 
 } // namespace
 
-std::size_t CString::Clamp(int position) const {
-    return std::min(static_cast<std::size_t>(std::max(position, 0)), m_text.size());
-}
-
 CString::CString(LPCSTR source) {
     if (source != nullptr && IS_INTRESOURCE(source))
         LoadString(LOWORD(reinterpret_cast<UINT_PTR>(source)));
     else
-        m_text = text_or_empty(source);
+        m_text = OrEmpty(source);
 }
 
-CString::CString(LPCWSTR source) : m_text(to_ansi(source)) {}
-
-CString::CString(LPCSTR source, int length) {
-    if (source != nullptr && length > 0)
-        m_text.assign(source, static_cast<std::size_t>(length));
-}
+CString::CString(LPCWSTR source) : CSimpleStringT(to_ansi(source)) {}
 
 CString::CString(LPCWSTR source, int length) {
     if (source != nullptr && length > 0)
         m_text = to_ansi(source, length);
 }
 
-CString::CString(char c, int repeat) : m_text(static_cast<std::size_t>(std::max(repeat, 0)), c) {}
+CString::CString(char c, int repeat) : CSimpleStringT(std::string(ClampedLength(repeat), c)) {}
 
 CString::CString(wchar_t c, int repeat) {
     const wchar_t wide[] = {c, 0};
     const std::string one = c != 0 ? to_ansi(wide) : std::string(1, '\0');
     for (int i = 0; i < repeat; ++i)
         m_text += one;
-}
-
-CString& CString::operator=(LPCSTR source) {
-    // A copy first: the source may lie inside this text.
-    m_text = std::string(text_or_empty(source));
-    return *this;
-}
-
-CString& CString::operator+=(const CString& text) {
-    m_text += text.m_text;
-    return *this;
-}
-
-CString& CString::operator+=(LPCSTR text) {
-    m_text += text_or_empty(text);
-    return *this;
-}
-
-CString& CString::operator+=(char c) {
-    m_text += c;
-    return *this;
-}
-
-char CString::operator[](int index) const {
-    return index >= 0 && index < GetLength() ? m_text[static_cast<std::size_t>(index)] : '\0';
-}
-
-char CString::GetAt(int index) const {
-    if (index < 0 || index > GetLength()) // the terminator may be read
-        AfxThrowInvalidArgException();
-    return (*this)[index];
-}
-
-void CString::SetAt(int index, char c) {
-    if (index < 0 || index >= GetLength())
-        AfxThrowInvalidArgException();
-    m_text[static_cast<std::size_t>(index)] = c;
-}
-
-LPSTR CString::GetBuffer(int minimum) {
-    // The old text stays in front; what lies behind it is null characters, so ReleaseBuffer finds the end.
-    if (minimum > GetLength())
-        m_text.resize(static_cast<std::size_t>(minimum), '\0');
-    return m_text.data();
-}
-
-LPSTR CString::GetBufferSetLength(int length) {
-    m_text.resize(ClampedLength(length), '\0');
-    return m_text.data();
-}
-
-void CString::ReleaseBuffer(int length) {
-    m_text.resize(length < 0 ? strnlen(m_text.data(), m_text.size()) : Clamp(length));
-}
-
-CString CString::Mid(int first) const {
-    return Mid(first, INT_MAX);
-}
-
-CString CString::Mid(int first, int count) const {
-    CString part;
-    part.m_text = m_text.substr(Clamp(first), static_cast<std::size_t>(std::max(count, 0)));
-    return part;
-}
-
-CString CString::Left(int count) const {
-    return Mid(0, count);
-}
-
-CString CString::Right(int count) const {
-    return Mid(GetLength() - static_cast<int>(Clamp(count)));
 }
 
 void CString::FormatV(LPCSTR format, va_list arguments) {
@@ -173,7 +88,7 @@ void CString::FormatMessageV(LPCSTR format, va_list* arguments) {
                                          reinterpret_cast<LPSTR>(&made), 0, arguments);
     const CString text(made, static_cast<int>(length));
     ::LocalFree(made);
-    if (length == 0 && *text_or_empty(format) != '\0')
+    if (length == 0 && *OrEmpty(format) != '\0')
         AfxThrowMemoryException();
     *this = text;
 }
@@ -205,14 +120,10 @@ BOOL CString::LoadString(UINT id) {
 }
 
 BOOL CString::LoadString(HINSTANCE instance, UINT id) {
-    m_text.clear();
-    // Length 0 asks for a pointer to the resource itself, whatever its length.
-    LPCWSTR resource = nullptr;
-    const int length = instance != nullptr ? LoadStringW(instance, id, reinterpret_cast<LPWSTR>(&resource), 0) : 0;
-    if (length <= 0)
-        return FALSE;
-    m_text = to_ansi(resource, length);
-    return TRUE;
+    CStringW text;
+    const BOOL found = text.LoadString(instance, id);
+    *this = text;
+    return found;
 }
 
 // A block of the table holds sixteen strings, each behind its length.
@@ -231,12 +142,7 @@ BOOL CString::LoadString(HINSTANCE instance, UINT id, WORD language) {
 }
 
 BSTR CString::AllocSysString() const {
-    const int length = MultiByteToWideChar(CP_ACP, 0, m_text.c_str(), GetLength(), nullptr, 0);
-    BSTR text = SysAllocStringLen(nullptr, static_cast<UINT>(length));
-    if (text == nullptr)
-        AfxThrowMemoryException();
-    MultiByteToWideChar(CP_ACP, 0, m_text.c_str(), GetLength(), text, length);
-    return text;
+    return CStringW(*this).AllocSysString();
 }
 
 BSTR CString::SetSysString(BSTR* text) const {

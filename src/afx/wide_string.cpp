@@ -1,46 +1,38 @@
 #include "afxstr.h"
 #include "afx_exception.h"
+#include "afx_module.h"
 
 #include <algorithm>
 #include <cwchar>
 
-CStringW::CStringW(LPCWSTR source, int length) {
-    if (source != nullptr && length > 0)
-        m_text.assign(source, static_cast<std::size_t>(length));
-}
+CStringW::CStringW(LPCWSTR source) : CSimpleStringT(OrEmpty(source)) {}
+
+CStringW::CStringW(wchar_t c, int repeat) : CSimpleStringT(std::wstring(ClampedLength(repeat), c)) {}
 
 CStringW::CStringW(const CString& source) {
     const int length = ::MultiByteToWideChar(CP_ACP, 0, source, source.GetLength(), nullptr, 0);
-    m_text.resize(static_cast<std::size_t>(length));
-    ::MultiByteToWideChar(CP_ACP, 0, source, source.GetLength(), m_text.data(), length);
+    ::MultiByteToWideChar(CP_ACP, 0, source, source.GetLength(), GetBufferSetLength(length), length);
 }
 
-CString::CString(const CStringW& source) : CString(source.GetString()) {}
+CString::CString(const CStringW& source) : CString(source.GetString(), source.GetLength()) {}
 
-wchar_t CStringW::GetAt(int index) const {
-    if (index < 0 || index > GetLength()) // the terminator may be read
-        AfxThrowInvalidArgException();
-    return (*this)[index];
+BOOL CStringW::LoadString(UINT id) {
+    return LoadString(AfxFindStringResourceHandle(id), id);
 }
 
-LPWSTR CStringW::GetBuffer(int minimum) {
-    if (minimum > GetLength())
-        m_text.resize(static_cast<std::size_t>(minimum), L'\0');
-    return m_text.data();
+BOOL CStringW::LoadString(HINSTANCE instance, UINT id) {
+    // Length 0 asks for a pointer to the resource itself, whatever its length.
+    LPCWSTR resource = nullptr;
+    const int length = instance != nullptr ? ::LoadStringW(instance, id, reinterpret_cast<LPWSTR>(&resource), 0) : 0;
+    SetString(resource, length);
+    return length > 0;
 }
 
-void CStringW::ReleaseBuffer(int length) {
-    m_text.resize(length < 0 ? wcsnlen(m_text.data(), m_text.size()) : Clamp(length));
-}
-
-CStringW CStringW::Mid(int first, int count) const {
-    CStringW part;
-    part.m_text = m_text.substr(Clamp(first), static_cast<std::size_t>(std::max(count, 0)));
-    return part;
-}
-
-CStringW CStringW::Right(int count) const {
-    return Mid(GetLength() - static_cast<int>(Clamp(count)));
+BSTR CStringW::AllocSysString() const {
+    const BSTR text = ::SysAllocStringLen(m_text.data(), static_cast<UINT>(m_text.size()));
+    if (text == nullptr)
+        AfxThrowMemoryException();
+    return text;
 }
 
 int CStringW::Replace(LPCWSTR oldText, LPCWSTR newText) {
@@ -76,6 +68,8 @@ CStringW& CStringW::TrimRight() {
 
 CStringW& CStringW::FormatArguments(LPCWSTR format, ...) {
     va_list arguments, counted;
+    if (format == nullptr)
+        return *this;
     va_start(arguments, format);
     va_copy(counted, arguments);
     const int length = ::_vscwprintf(format, counted);

@@ -1,6 +1,7 @@
 // The windows around a window: parents, owners, frames, descendants.
 #include "afx_app.h"
 #include "afx_frame.h"
+#include "modal_parent.h"
 
 namespace {
 
@@ -49,6 +50,16 @@ CWnd* CWnd::GetTopLevelParent() const {
     for (HWND at = top; at != nullptr; at = parent_or_owner(at))
         top = at;
     return FromHandle(top);
+}
+
+CWnd* PASCAL CWnd::GetSafeOwner(CWnd* pParent, HWND* pWndTop) {
+    const HWND owner = modal_owner(pParent), last = last_owner(owner);
+    if (pWndTop != nullptr) {
+        *pWndTop = last != owner && ::IsWindowEnabled(last) ? last : nullptr;
+        if (*pWndTop != nullptr)
+            ::EnableWindow(last, FALSE);
+    }
+    return FromHandle(owner);
 }
 
 CWnd* CWnd::GetTopLevelOwner() const {
