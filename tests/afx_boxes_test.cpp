@@ -21,8 +21,7 @@ TEST_F(AfxBoxes, ListsFindSelectAndForget) {
     EXPECT_EQ(list.FindString(-1, "AP"), 0);
     EXPECT_EQ(list.FindString(0, "AP"), 1) << "behind the first";
     EXPECT_EQ(list.FindStringExact(-1, "ap"), LB_ERR);
-    EXPECT_EQ(list.SelectString(-1, "fi"), 2);
-    EXPECT_EQ(list.GetCurSel(), 2);
+    EXPECT_TRUE(list.SelectString(-1, "fi") == 2 && list.GetCurSel() == 2);
     list.SetItemDataPtr(2, &list);
     EXPECT_EQ(list.GetItemDataPtr(2), &list);
     EXPECT_EQ(list.DeleteString(0), 3);
@@ -31,8 +30,7 @@ TEST_F(AfxBoxes, ListsFindSelectAndForget) {
     CRect row;
     list.GetItemRect(1, row);
     BOOL outside = TRUE;
-    EXPECT_EQ(list.ItemFromPoint(row.CenterPoint(), outside), 1u);
-    EXPECT_FALSE(outside);
+    EXPECT_TRUE(list.ItemFromPoint(row.CenterPoint(), outside) == 1 && !outside);
     list.ItemFromPoint(CPoint(500, 500), outside);
     EXPECT_TRUE(outside);
     list.ResetContent();
@@ -89,14 +87,11 @@ TEST_F(AfxBoxes, OwnerDrawnOnesAreMeasuredComparedAndDeleted) {
 TEST_F(AfxBoxes, CombosHoldATextBesideTheirItems) {
     CComboBox box;
     ASSERT_TRUE(box.Create(shown | CBS_DROPDOWN, CRect(0, 0, 90, 100), &parent, 1));
-    EXPECT_EQ(box.AddString("one"), 0);
-    EXPECT_EQ(box.InsertString(0, "zero"), 0);
+    EXPECT_TRUE(box.AddString("one") == 0 && box.InsertString(0, "zero") == 0);
     box.SetWindowText("neither");
     EXPECT_EQ(box.GetCurSel(), CB_ERR);
-    EXPECT_TRUE(box.SetEditSel(2, 5));
-    EXPECT_EQ(box.GetEditSel(), static_cast<DWORD>(MAKELONG(2, 5)));
-    EXPECT_EQ(box.SelectString(-1, "on"), 1);
-    EXPECT_EQ(text_of(box), "one");
+    EXPECT_TRUE(box.SetEditSel(2, 5) && box.GetEditSel() == DWORD(MAKELONG(2, 5)));
+    EXPECT_TRUE(box.SelectString(-1, "on") == 1 && text_of(box) == "one");
     CString text;
     box.GetLBText(0, text);
     EXPECT_EQ(text, "zero");
@@ -109,8 +104,8 @@ TEST_F(AfxBoxes, CombosHoldATextBesideTheirItems) {
     EXPECT_GT(dropped.Height(), 50);
     box.ShowDropDown(FALSE);
     COMBOBOXINFO parts{};
-    EXPECT_TRUE(box.GetComboBoxInfo(&parts));
-    EXPECT_TRUE(parts.hwndCombo == box.m_hWnd && ::IsWindow(parts.hwndItem) && ::IsWindow(parts.hwndList));
+    EXPECT_TRUE(box.GetComboBoxInfo(&parts) && parts.hwndCombo == box.m_hWnd && ::IsWindow(parts.hwndItem) &&
+                ::IsWindow(parts.hwndList));
 }
 
 TEST_F(AfxBoxes, EditsGiveTheirLinesAndTakeTextsBack) {
@@ -149,8 +144,7 @@ TEST_F(AfxBoxes, ScrollBarsStopWhereTheLastPageBegins) {
     ASSERT_TRUE(bar.Create(shown | SBS_HORZ, CRect(0, 0, 100, 20), &parent, 1));
     SCROLLINFO info{sizeof(info), SIF_ALL, 0, 100000, 1000, 100000, 0}; // more than 16 bits
     EXPECT_TRUE(bar.SetScrollInfo(&info));
-    EXPECT_EQ(bar.GetScrollPos(), 99001);
-    EXPECT_EQ(bar.GetScrollLimit(), 99001);
+    EXPECT_TRUE(bar.GetScrollPos() == 99001 && bar.GetScrollLimit() == 99001);
     SCROLLINFO found{};
     EXPECT_TRUE(bar.GetScrollInfo(&found) && found.nMax == 100000 && found.nPage == 1000u);
     bar.SetScrollRange(-5, 5);

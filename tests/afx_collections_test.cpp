@@ -85,8 +85,7 @@ TEST(AfxArray, GrowsWhereAskedAndRefusesBadPlaces) {
 
 TEST(AfxList, KeepsPlacesWhileOthersGo) {
     CStringList list;
-    list.AddTail("b");
-    list.AddHead("a");
+    list.AddTail("b"), list.AddHead("a");
     POSITION c = list.AddTail("c");
     list.InsertAfter(c, "e");
     POSITION e = list.GetTailPosition();
@@ -110,8 +109,7 @@ TEST(AfxList, KeepsPlacesWhileOthersGo) {
     EXPECT_STREQ(list.RemoveTail(), "e");
     CTypedPtrList<CPtrList, int*> numbers;
     int number = 5;
-    numbers.AddTail(&number);
-    EXPECT_EQ(*numbers.GetHead(), 5);
+    EXPECT_EQ(*numbers.GetAt(numbers.AddTail(&number)), 5);
 }
 
 TEST(AfxMap, DoesAsAMapDoes) {
@@ -135,17 +133,14 @@ TEST(AfxMap, DoesAsAMapDoes) {
             words[static_cast<WORD>(key)] = &expected[key];
         }
     }
-    EXPECT_EQ(map.GetCount(), static_cast<INT_PTR>(expected.size()));
-    EXPECT_EQ(strings.GetCount(), map.GetCount());
-    EXPECT_EQ(words.GetCount(), map.GetCount());
+    for (const INT_PTR count : {map.GetCount(), strings.GetCount(), words.GetCount()})
+        EXPECT_EQ(count, static_cast<INT_PTR>(expected.size()));
     for (const auto& [key, text] : expected) {
         CString found, found_by_text;
         void* at = nullptr;
         ASSERT_TRUE(map.Lookup(key, found) && strings.Lookup(std::to_string(key).c_str(), found_by_text));
         ASSERT_TRUE(words.Lookup(static_cast<WORD>(key), at));
-        EXPECT_EQ(text, found.GetString());
-        EXPECT_EQ(text, found_by_text.GetString());
-        EXPECT_EQ(at, &text);
+        EXPECT_TRUE(found == text.c_str() && found_by_text == text.c_str() && at == &text) << key;
     }
     int key = 0;
     CString value;

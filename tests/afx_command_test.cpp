@@ -2,7 +2,6 @@
 #include "afx_test_app.h"
 
 #include <afxcmn.h>
-
 #include <afxpriv.h>
 
 using testing::ElementsAre;
@@ -55,9 +54,8 @@ struct unpacker : CWnd {
     void OnSessionChange(UINT state, UINT id) { note("session", state, id); }
     UINT OnMenuDrag(UINT at, CMenu* menu) { return note("drag", at, menu == nullptr), MND_ENDMENU; }
     LRESULT OnOwn(WPARAM w, LPARAM l) { return note("own", w, l), 42; }
-    LONG OnRegistered(UINT w, LONG l) {
-        return note("registered", w, l), -43;
-    } // this and the next as older programs do
+    // This and the next as older programs do.
+    LONG OnRegistered(UINT w, LONG l) { return note("registered", w, l), -43; }
     UINT OnNcHitTest(CPoint at) { return note("hit", at.x), static_cast<UINT>(HTTRANSPARENT); }
     void OnSilent(WPARAM w) { note("silent", w), ::SetLastError(7); }
     DECLARE_MESSAGE_MAP()
@@ -165,10 +163,7 @@ struct commander : CWnd {
     void OnPlain() { log.push_back("plain"); }
     void OnTimer(UINT id) { log.push_back(text("timer", id)); } // as older programs write it
     void OnUpdate(CCmdUI* item) { item->Enable(enabled); }
-    void OnPass(CCmdUI* item) {
-        log.push_back("pass");
-        item->ContinueRouting();
-    }
+    void OnPass(CCmdUI* item) { log.push_back("pass"), item->ContinueRouting(); }
     BOOL OnNotifyMaybe(UINT id, NMHDR*, LRESULT* result) { return *result = 9, log.push_back(text("n", id)), handled; }
     void OnNotifyRange(UINT id, NMHDR*, LRESULT* result) { log.push_back(text("nr", id)), *result = 6; }
     void OnNotified(NMLISTVIEW* list, LRESULT* result) { log.push_back(text("n", list->hdr.code)), *result = 42; }
@@ -195,9 +190,8 @@ TEST(AfxCommands, AreHandledByRangeAndAnswer) {
     const auto command = [&](WORD id, WORD code = 0, HWND control = nullptr) {
         return wnd.SendMessage(WM_COMMAND, MAKEWPARAM(id, code), reinterpret_cast<LPARAM>(control));
     };
-    EXPECT_EQ(command(100), 1);
-    EXPECT_EQ(command(110), 1);
-    EXPECT_EQ(command(111), 0);
+    for (const WORD id : {100, 110, 111})
+        EXPECT_EQ(command(id), id < 111) << id;
     EXPECT_EQ(command(200), 0) << "the handler wants it to go on";
     wnd.handled = TRUE;
     EXPECT_EQ(command(200), 1);
@@ -269,9 +263,9 @@ TEST(AfxReflection, GivesAControlItsMessagesBeforeItsParent) {
     NMHDR header{control.m_hWnd, 7, static_cast<UINT>(NM_CLICK)};
     EXPECT_EQ(parent.SendMessage(WM_NOTIFY, 7, reinterpret_cast<LPARAM>(&header)), 5);
     CClientDC dc(&parent);
-    const auto colors = [&] { return parent.SendMessage(WM_CTLCOLORBTN, reinterpret_cast<WPARAM>(dc.m_hDC), from); };
-    EXPECT_EQ(colors(), ::DefWindowProc(parent, WM_CTLCOLORBTN, reinterpret_cast<WPARAM>(dc.m_hDC), from))
-        << "no brush";
+    const auto hdc = reinterpret_cast<WPARAM>(dc.m_hDC);
+    const auto colors = [&] { return parent.SendMessage(WM_CTLCOLORBTN, hdc, from); };
+    EXPECT_EQ(colors(), ::DefWindowProc(parent, WM_CTLCOLORBTN, hdc, from)) << "no brush";
     control.keeps = TRUE;
     EXPECT_EQ(colors(), reinterpret_cast<LRESULT>(::GetStockObject(BLACK_BRUSH)));
     parent.SendMessage(WM_HSCROLL, MAKEWPARAM(SB_LINEDOWN, 3), from);
@@ -281,8 +275,7 @@ TEST(AfxReflection, GivesAControlItsMessagesBeforeItsParent) {
     EXPECT_EQ(parent.SendMessage(WM_COMPAREITEM, 7, reinterpret_cast<LPARAM>(&compare)), -1);
     CListCtrl list;
     ASSERT_TRUE(list.Create(WS_CHILD | LVS_REPORT, CRect(0, 0, 50, 50), &parent, 8));
-    for (const UINT message : std::initializer_list<UINT>{WM_NOTIFY, WM_DRAWITEM, WM_MEASUREITEM, WM_DELETEITEM,
-                                                          WM_COMPAREITEM, WM_SIZEPARENT})
+    for (const UINT message : {WM_NOTIFY, WM_DRAWITEM, WM_MEASUREITEM, WM_DELETEITEM, WM_COMPAREITEM, WM_SIZEPARENT})
         for (CWnd* window : {static_cast<CWnd*>(&parent), static_cast<CWnd*>(&list)})
             EXPECT_EQ(window->SendMessage(message, 7, 0), 0) << "without its record";
     parent.SendMessage(WM_CTLCOLOR, 7, 0);

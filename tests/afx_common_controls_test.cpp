@@ -17,9 +17,8 @@ TEST_F(AfxCommonControls, AHotKeyHasANameWithItsModifiers) {
     WORD code = 0, held = 0;
     key.GetHotKey(code, held);
     EXPECT_TRUE(code == 'P' && held == (HOTKEYF_CONTROL | HOTKEYF_SHIFT));
-    const CString name = key.GetHotKeyName();
-    EXPECT_EQ(name, CHotKeyCtrl::GetKeyName(VK_CONTROL, FALSE) + " + " + CHotKeyCtrl::GetKeyName(VK_SHIFT, FALSE) +
-                        " + " + CHotKeyCtrl::GetKeyName('P', FALSE));
+    const auto part = [](UINT code) { return CHotKeyCtrl::GetKeyName(code, FALSE); };
+    EXPECT_EQ(key.GetHotKeyName(), part(VK_CONTROL) + " + " + part(VK_SHIFT) + " + " + part('P'));
 }
 
 TEST_F(AfxCommonControls, AFilmIsPlayedFromTheResources) {
@@ -27,9 +26,7 @@ TEST_F(AfxCommonControls, AFilmIsPlayedFromTheResources) {
     ASSERT_TRUE(film.Create(shown | ACS_TRANSPARENT, place, &parent, 1));
     EXPECT_FALSE(film.Open(9999)) << "there is none";
     ASSERT_TRUE(film.Open(IDR_FILM));
-    EXPECT_TRUE(film.Seek(3) && film.Play(0, UINT(-1), UINT(-1)));
-    EXPECT_TRUE(film.Stop());
-    EXPECT_TRUE(film.Close());
+    EXPECT_TRUE(film.Seek(3) && film.Play(0, UINT(-1), UINT(-1)) && film.Stop() && film.Close());
 }
 
 TEST_F(AfxCommonControls, AToolbarKeepsItsButtonsAndTheirStates) {
@@ -40,13 +37,8 @@ TEST_F(AfxCommonControls, AToolbarKeepsItsButtonsAndTheirStates) {
     EXPECT_TRUE(first == 0 && loaded >= 1);
     EXPECT_EQ(bar.AddString(9999), -1);
     TBBUTTON buttons[3]{};
-    for (int i = 0; i < 3; ++i) {
-        buttons[i].idCommand = 100 + i;
-        buttons[i].iBitmap = i;
-        buttons[i].iString = first;
-        buttons[i].fsState = TBSTATE_ENABLED;
-        buttons[i].fsStyle = TBSTYLE_CHECK;
-    }
+    for (int i = 0; i < 3; ++i)
+        buttons[i] = {i, 100 + i, TBSTATE_ENABLED, TBSTYLE_CHECK, {}, 0, first};
     ASSERT_TRUE(bar.AddButtons(3, buttons));
     EXPECT_TRUE(bar.CheckButton(101) && bar.IsButtonChecked(101) && !bar.IsButtonChecked(100));
     EXPECT_TRUE(bar.EnableButton(102, FALSE) && !bar.IsButtonEnabled(102));
@@ -189,8 +181,7 @@ TEST_F(AfxCommonControls, DatesMayBeNoneAtAll) {
     DDX_DateTimeCtrl(&data, 1, never);
     EXPECT_EQ(picker.GetTime(found), static_cast<DWORD>(GDT_NONE));
     CTime least, most;
-    EXPECT_EQ(picker.GetRange(&least, &most), 0u);
-    EXPECT_EQ(least, CTime());
+    EXPECT_TRUE(picker.GetRange(&least, &most) == 0 && least == CTime());
     SYSTEMTIME fields{};
     EXPECT_TRUE(picker.SetTime(&day) && picker.GetTime(&fields) == GDT_VALID && fields.wDay == 29);
     EXPECT_TRUE(picker.SetFormat("yyyy"));
@@ -348,19 +339,16 @@ TEST_F(AfxCommonControls, ADraggedItemGoesWhereItIsDropped) {
         EXPECT_TRUE(list.OnChildNotify(::RegisterWindowMessage(DRAGLISTMSGSTRING), 1, afx_param(&drag), &result));
         return result;
     };
-    const struct {
-        int from, before;
-        const char* order;
-    } cases[] = {{2, 0, "cab"}, {0, 2, "bac"}, {0, 0, "abc"}, {0, 1, "abc"}, {1, 0, "bac"}};
-    for (const auto& one : cases) {
+    for (const auto& [from, before, then] :
+         {std::tuple{2, 0, "cab"}, {0, 2, "bac"}, {0, 0, "abc"}, {0, 1, "abc"}, {1, 0, "bac"}}) {
         reset();
-        list.SetCurSel(one.from);
-        EXPECT_NE(tell(DL_BEGINDRAG, row(one.from)), 0);
-        EXPECT_EQ(tell(DL_DRAGGING, row(one.before)), DL_MOVECURSOR);
-        EXPECT_EQ(list.marked, one.before);
-        tell(DL_DROPPED, row(one.before));
-        EXPECT_EQ(order(), one.order) << one.from << " before " << one.before;
-        EXPECT_EQ(one.order[list.GetCurSel()], 'a' + one.from) << "it stays selected";
+        list.SetCurSel(from);
+        EXPECT_NE(tell(DL_BEGINDRAG, row(from)), 0);
+        EXPECT_EQ(tell(DL_DRAGGING, row(before)), DL_MOVECURSOR);
+        EXPECT_EQ(list.marked, before);
+        tell(DL_DROPPED, row(before));
+        EXPECT_EQ(order(), then) << from << " before " << before;
+        EXPECT_EQ(then[list.GetCurSel()], 'a' + from) << "it stays selected";
         EXPECT_EQ(list.marked, -1);
     }
     reset();
@@ -401,7 +389,6 @@ struct AfxImageList : AfxCommonControls {
 };
 
 TEST_F(AfxImageList, DrawsCopiesAndReplacesItsPictures) {
-    ASSERT_EQ(list.GetImageCount(), 2);
     EXPECT_EQ(drawn(list, 0), std::pair(red, blue));
     EXPECT_EQ(drawn(list, 1), std::pair(green, blue));
     EXPECT_FALSE(list.Create(16, 16, ILC_COLOR, 1, 1)) << "it holds a list already";
@@ -440,11 +427,8 @@ TEST_F(AfxImageList, GoesThroughAnArchiveBetweenOtherThings) {
         EXPECT_EQ(drawn(read, 1), std::pair(green, blue));
     });
     for (const int length : {0, 3, 10, 40, 90}) {
-        file.SeekToBegin();
         CMemFile cut;
-        std::vector<BYTE> bytes(static_cast<std::size_t>(length) + 4);
-        file.Read(bytes.data(), static_cast<UINT>(bytes.size()));
-        cut.Write(bytes.data() + 4, static_cast<UINT>(length));
+        cut.Write(bytes_of(file).data() + 4, static_cast<UINT>(length));
         cut.SeekToBegin();
         CArchive ar(&cut, CArchive::load);
         CImageList read;
@@ -455,12 +439,10 @@ TEST_F(AfxImageList, GoesThroughAnArchiveBetweenOtherThings) {
 
 TEST_F(AfxImageList, DragsOneOfItsPictures) {
     ASSERT_TRUE(list.BeginDrag(0, CPoint(3, 4)));
-    EXPECT_TRUE(CImageList::DragEnter(&parent, CPoint(20, 20)));
-    EXPECT_TRUE(CImageList::DragMove(CPoint(30, 25)));
+    EXPECT_TRUE(CImageList::DragEnter(&parent, CPoint(20, 20)) && CImageList::DragMove(CPoint(30, 25)));
     CPoint at, spot;
     EXPECT_NE(CImageList::GetDragImage(&at, &spot), nullptr);
-    EXPECT_EQ(at, CPoint(30, 25));
-    EXPECT_EQ(spot, CPoint(3, 4));
+    EXPECT_TRUE(at == CPoint(30, 25) && spot == CPoint(3, 4));
     EXPECT_TRUE(CImageList::DragLeave(&parent));
     CImageList::EndDrag();
     EXPECT_FALSE(list.BeginDrag(9, CPoint(0, 0)));
@@ -468,12 +450,10 @@ TEST_F(AfxImageList, DragsOneOfItsPictures) {
 
 // -- Buttons of bitmaps -----------------------------------------------------------------------------------------------
 
-struct open_bitmap_button : CBitmapButton {
-    using CBitmapButton::DrawItem;
-};
-
 TEST_F(AfxCommonControls, BitmapButtonsShowTheBitmapOfTheirState) {
-    open_bitmap_button button;
+    struct : CBitmapButton {
+        using CBitmapButton::DrawItem;
+    } button;
     ASSERT_TRUE(button.Create("Test", shown | BS_OWNERDRAW, CRect(0, 0, 5, 5), &parent, 1));
     EXPECT_FALSE(button.LoadBitmaps("NOSUCHU"));
     ASSERT_TRUE(button.LoadBitmaps(MAKEINTRESOURCE(IDB_UP), MAKEINTRESOURCE(IDB_DOWN)));

@@ -27,17 +27,15 @@ struct begun_colours : CColorDialog {
 
 TEST_F(AfxCommonDialogs, AColourIsChosen) {
     begun_colours dialog(RGB(1, 2, 3), CC_FULLOPEN, &parent);
-    EXPECT_EQ(run(dialog,
-                  [&] {
-                      EXPECT_FALSE(parent.IsWindowEnabled());
-                      const int red = 706; // and green and blue
-                      for (const auto& [field, value] : {std::pair{red, "10"}, {red + 1, "200"}, {red + 2, "30"}})
-                          dialog.SetDlgItemText(field, value);
-                      return press(dialog, IDOK);
-                  }),
-              IDOK);
-    EXPECT_EQ(dialog.begun, 1);
-    EXPECT_EQ(dialog.GetColor(), RGB(10, 200, 30));
+    const auto enter = [&] {
+        EXPECT_FALSE(parent.IsWindowEnabled());
+        const int red = 706; // and green and blue
+        for (const auto& [field, value] : {std::pair{red, "10"}, {red + 1, "200"}, {red + 2, "30"}})
+            dialog.SetDlgItemText(field, value);
+        return press(dialog, IDOK);
+    };
+    EXPECT_EQ(run(dialog, enter), IDOK);
+    EXPECT_TRUE(dialog.begun == 1 && dialog.GetColor() == RGB(10, 200, 30));
     EXPECT_TRUE(dialog.m_hWnd == nullptr && parent.IsWindowEnabled());
     CColorDialog::GetSavedCustomColors()[3] = RGB(9, 9, 9);
     CColorDialog again(0, 0, &parent);
@@ -54,8 +52,8 @@ TEST_F(AfxCommonDialogs, AFolderIsChosenAmongTheShellsItems) {
     ASSERT_TRUE(SUCCEEDED(shell.ItemFromPath("C:\\windows", folder)) && SUCCEEDED(shell.ItemFromPath("C:\\", drive)));
     const UINT parts = shell.GetItemCount(folder);
     ASSERT_GE(parts, 2u);
-    EXPECT_EQ(shell.GetParentItem(folder, parent_item), static_cast<int>(parts) - 1);
-    EXPECT_TRUE(::ILIsEqual(parent_item, drive));
+    EXPECT_TRUE(shell.GetParentItem(folder, parent_item) == static_cast<int>(parts) - 1 &&
+                ::ILIsEqual(parent_item, drive));
     LPCITEMIDLIST last = folder;
     for (UINT i = 1; i < parts; ++i)
         last = shell.GetNextItem(last);
@@ -83,8 +81,7 @@ TEST_F(AfxCommonDialogs, AFolderIsChosenAmongTheShellsItems) {
         });
         return shell.BrowseForFolder(chosen, &parent, "C:\\windows", "Choose");
     };
-    EXPECT_FALSE(answer(IDCANCEL));
-    EXPECT_STREQ(chosen, "none");
+    EXPECT_TRUE(!answer(IDCANCEL) && chosen == "none");
     EXPECT_TRUE(answer(IDOK));
     EXPECT_STREQ(chosen.MakeLower(), "c:\\windows");
     ControlBarCleanUp();
@@ -102,19 +99,17 @@ TEST_F(AfxCommonDialogs, AFontIsDescribedAsItWasChosen) {
     lstrcpyn(wanted.lfFaceName, face, LF_FACESIZE);
     CFontDialog dialog(&wanted, CF_EFFECTS | CF_SCREENFONTS, nullptr, &parent);
     LOGFONT meanwhile{};
-    EXPECT_EQ(run(dialog,
-                  [&] {
-                      const int sizes = 1138;
-                      dialog.SendDlgItemMessage(sizes, CB_SELECTSTRING, WPARAM(-1), reinterpret_cast<LPARAM>("36"));
-                      dialog.SendMessage(WM_COMMAND, MAKEWPARAM(sizes, CBN_SELCHANGE),
-                                         reinterpret_cast<LPARAM>(::GetDlgItem(dialog, sizes)));
-                      dialog.GetCurrentFont(&meanwhile);
-                      return press(dialog, IDOK);
-                  }),
-              IDOK);
+    const auto enter = [&] {
+        const int sizes = 1138;
+        dialog.SendDlgItemMessage(sizes, CB_SELECTSTRING, WPARAM(-1), reinterpret_cast<LPARAM>("36"));
+        dialog.SendMessage(WM_COMMAND, MAKEWPARAM(sizes, CBN_SELCHANGE),
+                           reinterpret_cast<LPARAM>(::GetDlgItem(dialog, sizes)));
+        dialog.GetCurrentFont(&meanwhile);
+        return press(dialog, IDOK);
+    };
+    EXPECT_EQ(run(dialog, enter), IDOK);
     EXPECT_TRUE(dialog.IsBold() && dialog.IsItalic() && dialog.IsUnderline() && !dialog.IsStrikeOut());
-    EXPECT_EQ(dialog.GetSize(), 360);
-    EXPECT_EQ(dialog.GetFaceName(), face);
+    EXPECT_TRUE(dialog.GetSize() == 360 && dialog.GetFaceName() == face);
     EXPECT_TRUE(wanted.lfHeight == dialog.m_lf.lfHeight && wanted.lfHeight != 0) << "the caller's, too";
     EXPECT_EQ(meanwhile.lfHeight, dialog.m_lf.lfHeight) << "what the open dialog shows, not what it began with";
     CHARFORMAT format{}, chosen{};

@@ -1,11 +1,8 @@
 // Dialogs with a background of their own.
 #include "afx_test_app.h"
-#include "pixels.h"
 
 #include <SDKDDKVer.h>
 #include <afxdialogex.h>
-
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -26,21 +23,10 @@ struct ColouredDialog : testing::Test {
 
     // Two columns, red and blue.
     static HBITMAP columns() {
-        Picture picture(2, 1);
-        ::SetPixel(picture.dc(), 0, 0, red);
-        ::SetPixel(picture.dc(), 1, 0, blue);
-        const HBITMAP result = ::CreateBitmap(2, 1, 1, 32, nullptr);
-        CDC target;
-        target.CreateCompatibleDC(nullptr);
-        const HGDIOBJ before = ::SelectObject(target, result);
-        ::BitBlt(target, 0, 0, 2, 1, picture.dc(), 0, 0, SRCCOPY);
-        ::SelectObject(target, before);
-        return result;
+        constexpr DWORD red_and_blue[] = {0xFF0000, 0x0000FF};
+        return ::CreateBitmap(2, 1, 1, 32, red_and_blue);
     }
-    COLORREF at(int x, int y) {
-        CClientDC dc(&dialog_);
-        return dc.GetPixel(x, y);
-    }
+    COLORREF at(int x, int y) { return CClientDC(&dialog_).GetPixel(x, y); }
 
     CDialogEx dialog_;
     CStatic text_;
@@ -50,8 +36,7 @@ struct ColouredDialog : testing::Test {
 TEST_F(ColouredDialog, ShowsItsColourBehindTexts) {
     const COLORREF usual = at(2, 2);
     dialog_.SetBackgroundColor(green);
-    EXPECT_EQ(at(2, 2), green);
-    EXPECT_EQ(at(12, 12), green);
+    EXPECT_TRUE(at(2, 2) == green && at(12, 12) == green);
     EXPECT_NE(at(55, 20), green) << "what is read only has its own ground";
     dialog_.SetBackgroundColor(red, FALSE);
     EXPECT_EQ(at(2, 2), green);
@@ -77,26 +62,19 @@ TEST_F(ColouredDialog, ShowsItsImageBehindTexts) {
     for (const int x : {0, 1, 12, 13, 28, 99}) // the text begins at 11
         EXPECT_EQ(at(x, 12), x % 2 ? blue : red) << x;
     dialog_.SetBackgroundColor(green);
-    CRect client;
-    dialog_.GetClientRect(client);
-    const struct {
-        CDialogEx::BackgroundLocation location;
-        bool right, bottom;
-    } corners[] = {{CDialogEx::BACKGR_TOPLEFT, false, false},
-                   {CDialogEx::BACKGR_TOPRIGHT, true, false},
-                   {CDialogEx::BACKGR_BOTTOMLEFT, false, true},
-                   {CDialogEx::BACKGR_BOTTOMRIGHT, true, true}};
-    for (const auto& c : corners) {
-        dialog_.SetBackgroundImage(image, c.location, FALSE);
-        for (const bool right : {false, true})
-            for (const bool bottom : {false, true})
-                EXPECT_EQ(at(right ? client.right - 2 : 0, bottom ? client.bottom - 1 : 0),
-                          right == c.right && bottom == c.bottom ? red : green)
-                    << c.location;
+    CRect client = inside_of(dialog_);
+    constexpr CDialogEx::BackgroundLocation corners[] = {CDialogEx::BACKGR_TOPLEFT, CDialogEx::BACKGR_TOPRIGHT,
+                                                         CDialogEx::BACKGR_BOTTOMLEFT, CDialogEx::BACKGR_BOTTOMRIGHT};
+    for (const auto corner : corners) {
+        dialog_.SetBackgroundImage(image, corner, FALSE);
+        for (int i = 0; i < 4; ++i) // in the same order
+            EXPECT_EQ(at(i % 2 ? client.right - 2 : 0, i / 2 ? client.bottom - 1 : 0),
+                      corners[i] == corner ? red : green)
+                << corner;
     }
     dialog_.SetWindowPos(nullptr, 0, 0, client.right + 50, client.bottom + 40, SWP_NOMOVE | SWP_NOZORDER);
     dialog_.UpdateWindow();
-    dialog_.GetClientRect(client);
+    client = inside_of(dialog_);
     EXPECT_EQ(at(client.right - 1, client.bottom - 1), blue) << "it keeps to the corner";
     dialog_.SetBackgroundImage(HBITMAP(nullptr));
     EXPECT_NE(::GetObjectType(image), 0u) << "the program's own";

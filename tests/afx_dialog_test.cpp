@@ -48,27 +48,23 @@ TEST_F(AfxDataDialog, ShowsAndTakesOverEveryKindOfData) {
     dialog.SendDlgItemMessage(IDC_SLIDE, TBM_SETPOS, TRUE, 44);
     ASSERT_TRUE(dialog.UpdateData());
     EXPECT_TRUE(dialog.name == "other" && dialog.fruit == "cherry pie" && dialog.town == "Paris");
-    EXPECT_STREQ(dialog.letters, "xyz");
-    EXPECT_EQ(dialog.factor, 2500.0);
+    EXPECT_TRUE(std::string("xyz") == dialog.letters && dialog.factor == 2500.0);
     const int taken[] = {dialog.count, dialog.box, dialog.colour, dialog.choice, dialog.level, dialog.slide};
     EXPECT_THAT(taken, testing::ElementsAre(-7, 1, 1, 0, 21, 44));
-    EXPECT_EQ(dialog.day, CTime(2024, 5, 6, 7, 8, 9));
-    EXPECT_EQ(dialog.month, CTime(2023, 2, 3, 0, 0, 0));
+    EXPECT_TRUE(dialog.day == CTime(2024, 5, 6, 7, 8, 9) && dialog.month == CTime(2023, 2, 3, 0, 0, 0));
     dialog.CheckDlgButton(IDC_GREEN, BST_UNCHECKED);
     EXPECT_TRUE(dialog.UpdateData() && dialog.colour == -1) << "none is chosen";
 }
 
 TEST_F(AfxDataDialog, RefusesWrongEntries) {
     dialog.SetDlgItemText(IDC_COUNT, "101");
-    EXPECT_FALSE(dialog.UpdateData());
-    EXPECT_EQ(the_app.take_boxes().size(), 1u);
+    EXPECT_TRUE(!dialog.UpdateData() && the_app.take_boxes().size() == 1);
     CWnd* wrong = dialog.GetDlgItem(IDC_COUNT);
     EXPECT_TRUE(::GetFocus() == wrong->m_hWnd && wrong->SendMessage(EM_GETSEL) == MAKELRESULT(0, 3)) << "to type over";
     dialog.SetDlgItemText(IDC_COUNT, "100");
     EXPECT_TRUE(dialog.UpdateData());
     dialog.missing = 999;
-    EXPECT_FALSE(dialog.UpdateData()) << "a control that is not there";
-    EXPECT_EQ(the_app.take_boxes().size(), 1u);
+    EXPECT_TRUE(!dialog.UpdateData() && the_app.take_boxes().size() == 1) << "a control that is not there";
 }
 
 TEST_F(AfxDataDialog, ListHoldsItemsWithTheirData) {
@@ -78,7 +74,6 @@ TEST_F(AfxDataDialog, ListHoldsItemsWithTheirData) {
     EXPECT_EQ(dialog.rows.GetImageList(LVSIL_SMALL), &pictures);
     EXPECT_EQ(dialog.rows.InsertColumn(0, "Name", LVCFMT_LEFT, 80), 0);
     EXPECT_EQ(dialog.rows.InsertColumn(1, "Size", LVCFMT_RIGHT, 40, 1), 1);
-    EXPECT_EQ(dialog.rows.GetHeaderCtrl()->GetItemCount(), 2);
     for (int i = 0; i < 3; ++i) {
         EXPECT_EQ(dialog.rows.InsertItem(i, std::string(1, static_cast<char>('a' + i)).c_str()), i);
         dialog.rows.SetItemData(i, static_cast<DWORD_PTR>(10 - i));
@@ -86,8 +81,8 @@ TEST_F(AfxDataDialog, ListHoldsItemsWithTheirData) {
     const std::string longest(300, 'z');
     dialog.rows.SetItemText(2, 1, longest.c_str());
     EXPECT_EQ(longest.substr(0, 259), std::string(dialog.rows.GetItemText(2, 1)).substr(0, 259));
-    dialog.rows.SetItemState(0, LVIS_SELECTED, LVIS_SELECTED);
-    dialog.rows.SetItemState(2, LVIS_SELECTED, LVIS_SELECTED);
+    for (const int item : {0, 2})
+        dialog.rows.SetItemState(item, LVIS_SELECTED, LVIS_SELECTED);
     std::vector<int> selected;
     for (POSITION at = dialog.rows.GetFirstSelectedItemPosition(); at != nullptr;)
         selected.push_back(dialog.rows.GetNextSelectedItem(at));
@@ -107,12 +102,13 @@ TEST_F(AfxDataDialog, CheckBoxesKeepTheirStateBesideTheProgramsData) {
     list.SetItemData(1, 5);
     CRect place;
     list.GetItemRect(1, place);
-    list.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(place.left + 3, place.CenterPoint().y));
-    list.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(place.left + 3, place.CenterPoint().y));
+    const LPARAM mark = MAKELPARAM(place.left + 3, place.CenterPoint().y);
+    list.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, mark);
+    list.SendMessage(WM_LBUTTONUP, 0, mark);
     EXPECT_EQ(dialog.checked, 1);
     EXPECT_TRUE(list.GetCheck(1) == 1 && list.GetCheck(0) == 0 && list.GetItemData(1) == 5);
     list.Enable(1, FALSE);
-    list.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(place.left + 3, place.CenterPoint().y));
+    list.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, mark);
     EXPECT_EQ(list.GetCheck(1), 1) << "disabled";
     list.DeleteString(0);
     EXPECT_TRUE(list.GetCheck(0) == 1 && list.GetItemData(0) == 5 && !list.IsEnabled(0));
@@ -146,13 +142,11 @@ TEST(AfxFileChoice, AsksTheProgramAboutTheName) {
         ::PostMessage(::GetParent(dialog.m_hWnd), WM_COMMAND, IDOK, 0);
         return dialog.seen.size() > 0;
     });
-    EXPECT_EQ(dialog.DoModal(), IDOK);
-    EXPECT_EQ(dialog.begun, 1);
+    EXPECT_TRUE(dialog.DoModal() == IDOK && dialog.begun == 1);
     EXPECT_GE(dialog.seen.size(), 2u) << "refused once";
     EXPECT_TRUE(dialog.helped);
-    EXPECT_STREQ(dialog.GetFileName(), "report.txt");
-    EXPECT_STREQ(dialog.GetFileTitle(), "report");
-    EXPECT_STREQ(dialog.GetFileExt(), "txt");
+    EXPECT_STREQ(dialog.GetFileName() + "|" + dialog.GetFileTitle() + "|" + dialog.GetFileExt(),
+                 "report.txt|report|txt");
 }
 
 TEST(AfxFileChoice, TellsSeveralFilesOneByOne) {

@@ -36,8 +36,7 @@ public:
             if (fails)
                 AfxThrowMemoryException();
         } else {
-            text.resize(static_cast<std::size_t>(archive.GetFile()->GetLength()));
-            archive.GetFile()->Read(text.data(), static_cast<UINT>(text.size()));
+            text = bytes_of(*archive.GetFile());
             if (text == "broken")
                 AfxThrowFileException(CFileException::endOfFile);
         }
@@ -56,10 +55,7 @@ public:
         return CView::PreCreateWindow(cs);
     }
     void OnDraw(CDC*) override {}
-    void OnInitialUpdate() override {
-        log.push_back("initial");
-        CView::OnInitialUpdate();
-    }
+    void OnInitialUpdate() override { log.push_back("initial"), CView::OnInitialUpdate(); }
     void OnUpdate(CView*, LPARAM hint, CObject*) override { log.push_back("update " + std::to_string(hint)); }
 };
 IMPLEMENT_DYNCREATE(note_view, CView)
@@ -86,6 +82,10 @@ struct NoteProgram : testing::Test {
         ::DeleteFile(path_.c_str());
         the_app.m_pMainWnd = nullptr;
     }
+    static void start() {
+        CCommandLineInfo nothing;
+        ASSERT_TRUE(the_app.ProcessShellCommand(nothing));
+    }
     note& document() { return *static_cast<note*>(frame().GetActiveDocument()); }
     CFrameWnd& frame() { return *static_cast<CFrameWnd*>(the_app.m_pMainWnd); }
     std::string title() { return text_of(frame()); }
@@ -97,8 +97,7 @@ struct NoteProgram : testing::Test {
 };
 
 TEST_F(NoteProgram, MakesChangesSavesAndOpensADocument) {
-    CCommandLineInfo nothing;
-    ASSERT_TRUE(the_app.ProcessShellCommand(nothing));
+    start();
     EXPECT_EQ(title(), "Untitled - Tests");
     EXPECT_THAT(note_view::log, ElementsAre("initial", "update 0"));
     EXPECT_TRUE(frame().IsWindowVisible());
@@ -122,8 +121,7 @@ TEST_F(NoteProgram, MakesChangesSavesAndOpensADocument) {
     the_app.answer = IDYES;
     command(ID_FILE_NEW);
     EXPECT_EQ(on_disk(), "second");
-    EXPECT_EQ(document().text, "");
-    EXPECT_EQ(title(), "Untitled - Tests");
+    EXPECT_EQ(document().text + title(), "Untitled - Tests");
     EXPECT_EQ(the_app.OpenDocumentFile(path_.c_str()), &document()) << "the one document is used again";
     EXPECT_EQ(document().text, "second");
     note_view in_no_frame;
@@ -159,18 +157,15 @@ TEST_F(NoteProgram, TellsWhyAFileCannotBeOpened) {
     open.ParseParam(path_.c_str(), FALSE, TRUE);
     EXPECT_FALSE(the_app.ProcessShellCommand(open));
     EXPECT_THAT(the_app.take_boxes(), ElementsAre("afx_document_test.note is not a file of the expected kind."));
-    CCommandLineInfo fresh;
-    ASSERT_TRUE(the_app.ProcessShellCommand(fresh));
+    start();
     document().text = "kept?";
     EXPECT_EQ(the_app.OpenDocumentFile(path_.c_str()), nullptr);
-    EXPECT_EQ(document().text, "") << "half a document is none";
-    EXPECT_EQ(title(), "Untitled - Tests");
+    EXPECT_EQ(document().text + title(), "Untitled - Tests") << "half a document is none";
 }
 
 TEST_F(NoteProgram, OpensWhatTheUserChoosesUnlessNothingIsChosen) {
     write("chosen");
-    CCommandLineInfo nothing;
-    ASSERT_TRUE(the_app.ProcessShellCommand(nothing));
+    start();
     const auto answer = [&](int button) {
         WhileModal modal([&] {
             HWND dialog = shown_dialog();
@@ -186,8 +181,7 @@ TEST_F(NoteProgram, OpensWhatTheUserChoosesUnlessNothingIsChosen) {
     EXPECT_EQ(document().text, "");
     answer(IDOK);
     EXPECT_EQ(document().text, "chosen");
-    const std::string quoted = "\"" + path_ + "\"";
-    EXPECT_EQ(the_app.OpenDocumentFile(quoted.c_str()), &document()) << "as a shell writes names";
+    EXPECT_EQ(the_app.OpenDocumentFile(("\"" + path_ + "\"").c_str()), &document()) << "as a shell writes names";
 }
 
 // Documents side by side in one frame.
@@ -227,8 +221,7 @@ TEST_F(AfxSeveralDocuments, AFileThatIsOpenIsShownNotOpenedAgain) {
     std::string other_case = path;
     ::CharUpper(other_case.data());
     EXPECT_EQ(the_app.OpenDocumentFile(other_case.c_str()), first);
-    EXPECT_EQ(frame->MDIGetActive(), child);
-    EXPECT_EQ(the_app.GetOpenDocumentCount(), 2);
+    EXPECT_TRUE(frame->MDIGetActive() == child && the_app.GetOpenDocumentCount() == 2);
     int templates = 0;
     for (POSITION at = the_app.GetFirstDocTemplatePosition(); at != nullptr; ++templates)
         the_app.GetNextDocTemplate(at);
@@ -261,8 +254,8 @@ TEST_F(AfxSeveralDocuments, LieInOneFrameThatShowsTheActiveOnes) {
     frame->MDIActivate(second);
     frame->SendMessage(WM_COMMAND, ID_WINDOW_NEW);
     EXPECT_EQ(text_of(*second), "Untitled2:1");
-    EXPECT_EQ(note_view::made.m_pNewDocTemplate, second->GetActiveDocument()->GetDocTemplate());
-    EXPECT_EQ(note_view::made.m_pCurrentFrame, second);
+    EXPECT_TRUE(note_view::made.m_pNewDocTemplate == second->GetActiveDocument()->GetDocTemplate() &&
+                note_view::made.m_pCurrentFrame == second);
     second->SetWindowPos(nullptr, 0, 0, 150, 120, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     EXPECT_EQ(on_screen(*second->GetActiveView()).Size(), inside_of(*second).Size());
     MSG key{second->m_hWnd, WM_KEYDOWN, 'T', 0, 0, {}};
@@ -277,8 +270,7 @@ TEST_F(AfxSeveralDocuments, LieInOneFrameThatShowsTheActiveOnes) {
     EXPECT_EQ(note::alive, 2);
     the_app.answer = IDNO;
     frame->SendMessage(WM_CLOSE);
-    EXPECT_EQ(note::alive, 0);
-    EXPECT_EQ(the_app.m_pMainWnd, nullptr);
+    EXPECT_TRUE(note::alive == 0 && the_app.m_pMainWnd == nullptr);
 }
 
 TEST_F(AfxSeveralDocuments, AreOpenedByTheShellsCommands) {
@@ -358,8 +350,8 @@ TEST_F(AfxSeveralDocuments, OfSeveralKindsAreOfferedToTheUser) {
     };
     make(1);
     EXPECT_THAT(names, ElementsAre("Note", "List"));
-    ASSERT_NE(frame->GetActiveFrame()->GetActiveDocument(), nullptr);
-    EXPECT_TRUE(frame->GetActiveFrame()->GetActiveDocument()->IsKindOf(RUNTIME_CLASS(listed_note)));
+    CDocument* chosen = frame->GetActiveFrame()->GetActiveDocument();
+    EXPECT_TRUE(chosen != nullptr && chosen->IsKindOf(RUNTIME_CLASS(listed_note)));
     make(-1);
     EXPECT_EQ(the_app.GetOpenDocumentCount(), 1);
 }
@@ -391,9 +383,8 @@ TEST(AfxRecentFiles, AreKeptLatestFirstAndShownInTheMenu) {
     for (const char* name : {"C:\\a\\1.note", "C:\\a\\2.note", "C:\\a folder with a long name\\a&b\\3.note",
                              "C:\\a\\4.note", "C:\\A\\2.NOTE"})
         list.Add(name);
-    EXPECT_STREQ(list[0], "C:\\A\\2.NOTE");
-    EXPECT_STREQ(list[1], "C:\\a\\4.note");
-    EXPECT_STREQ(list[2], "C:\\a folder with a long name\\a&b\\3.note");
+    EXPECT_STREQ(list[0] + "|" + list[1] + "|" + list[2],
+                 "C:\\A\\2.NOTE|C:\\a\\4.note|C:\\a folder with a long name\\a&b\\3.note");
     list.WriteList();
     CRecentFileList again(0, "Recent Test", "File%d", 3);
     again.ReadList();
@@ -432,10 +423,8 @@ TEST(AfxRecentFiles, AreKeptLatestFirstAndShownInTheMenu) {
 TEST(AfxResourceText, TakesPartsAndFillsPlaces) {
     CString part;
     const char* text = "one\n\nthree";
-    EXPECT_TRUE(AfxExtractSubString(part, text, 2));
-    EXPECT_STREQ(part, "three");
-    EXPECT_TRUE(AfxExtractSubString(part, text, 1));
-    EXPECT_STREQ(part, "");
+    EXPECT_TRUE(AfxExtractSubString(part, text, 2) && part == "three");
+    EXPECT_TRUE(AfxExtractSubString(part, text, 1) && part == "");
     EXPECT_FALSE(AfxExtractSubString(part, text, 3));
     part = text;
     EXPECT_TRUE(AfxExtractSubString(part, part, 2) && part == "three") << "out of itself";

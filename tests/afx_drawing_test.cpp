@@ -17,16 +17,13 @@ TEST_F(AfxDeviceContext, GivesBackWhatWasSelected) {
     CPen* old_pen = dc.SelectObject(&pen);
     CBrush* old_brush = dc.SelectObject(&brush);
     CFont* old_font = dc.SelectObject(&font);
-    EXPECT_EQ(dc.GetCurrentPen(), &pen);
-    EXPECT_EQ(dc.GetCurrentFont(), &font);
-    EXPECT_EQ(dc.SelectObject(old_pen), &pen);
-    EXPECT_EQ(dc.SelectObject(old_brush), &brush);
-    EXPECT_EQ(dc.SelectObject(old_font), &font);
+    EXPECT_TRUE(dc.GetCurrentPen() == &pen && dc.GetCurrentFont() == &font);
+    EXPECT_TRUE(dc.SelectObject(old_pen) == &pen && dc.SelectObject(old_brush) == &brush &&
+                dc.SelectObject(old_font) == &font);
     EXPECT_TRUE(dc.SelectStockObject(BLACK_PEN)->IsKindOf(RUNTIME_CLASS(CPen)));
     LOGPEN described;
     pen.GetLogPen(&described);
     EXPECT_EQ(described.lopnColor, RGB(255, 0, 0));
-    CPen other;
     EXPECT_FALSE(pen.CreatePen(PS_SOLID, 1, RGB(0, 0, 0))) << "it holds one already";
     const HGDIOBJ gone = pen.m_hObject;
     EXPECT_TRUE(pen.DeleteObject() && !pen.DeleteObject() && ::GetObjectType(gone) == 0);
@@ -44,8 +41,7 @@ TEST_F(AfxDeviceContext, ConvertsUnitsAndPutsThemBack) {
     CRect rect(0, 100, 20, 80);
     dc.DPtoLP(rect);
     EXPECT_EQ(rect, CRect(0, 0, 10, 10));
-    EXPECT_TRUE(dc.RestoreDC(saved));
-    EXPECT_EQ(dc.GetMapMode(), MM_TEXT);
+    EXPECT_TRUE(dc.RestoreDC(saved) && dc.GetMapMode() == MM_TEXT);
 }
 
 TEST_F(AfxDeviceContext, DragRectanglesVanishAgain) {
@@ -56,26 +52,21 @@ TEST_F(AfxDeviceContext, DragRectanglesVanishAgain) {
     dc.DrawDragRect(second, CSize(2, 2), first, CSize(2, 2));
     dc.DrawDragRect(CRect(0, 0, 0, 0), CSize(2, 2), second, CSize(2, 2));
     int changed = 0;
-    for (int y = 0; y < 100; ++y)
-        for (int x = 0; x < 100; ++x)
-            changed += dc.GetPixel(x, y) != RGB(12, 34, 56);
+    for (int i = 0; i < 100 * 100; ++i)
+        changed += dc.GetPixel(i % 100, i / 100) != RGB(12, 34, 56);
     EXPECT_EQ(changed, 0);
 }
 
 TEST_F(AfxDeviceContext, MapsUnitsOfLength) {
     const int inch = dc.GetDeviceCaps(LOGPIXELSX);
-    const struct {
-        int mode, inch, up; // units in an inch; y grows upwards
-    } modes[] = {{MM_LOENGLISH, 100, -1}, {MM_HIENGLISH, 1000, -1}, {MM_TWIPS, 1440, -1}};
-    for (const auto& one : modes) {
-        ASSERT_NE(dc.SetMapMode(one.mode), 0);
-        CPoint point(one.inch, one.up * one.inch);
+    for (const auto& [mode, units] : {std::pair{MM_LOENGLISH, 100}, {MM_HIENGLISH, 1000}, {MM_TWIPS, 1440}}) {
+        ASSERT_NE(dc.SetMapMode(mode), 0);
+        CPoint point(units, -units); // y grows upwards
+        CSize size(units, units);    // always positive
         dc.LPtoDP(&point);
-        EXPECT_NEAR(point.x, inch, 1) << one.mode;
-        EXPECT_NEAR(point.y, inch, 1) << one.mode;
-        CSize size(one.inch, one.inch); // always positive
         dc.LPtoDP(&size);
-        EXPECT_TRUE(std::abs(size.cx - inch) <= 1 && std::abs(size.cy - inch) <= 1) << one.mode;
+        for (const int length : {point.x, point.y, size.cx, size.cy})
+            EXPECT_NEAR(length, inch, 1) << mode;
     }
     dc.SetMapMode(MM_TEXT);
     CSize size(2540, 2540);
@@ -108,15 +99,12 @@ TEST_F(AfxDeviceContext, SplitsOutputFromAttributes) {
     EXPECT_LT(split.GetTextExtent("x").cy, split.GetOutputTextExtent("x").cy);
     split.MoveTo(5, 5);
     split.LineTo(7, 9);
-    EXPECT_EQ(split.GetCurrentPosition(), CPoint(7, 9));
-    EXPECT_EQ(other.GetCurrentPosition(), CPoint(7, 9));
+    EXPECT_TRUE(split.GetCurrentPosition() == CPoint(7, 9) && other.GetCurrentPosition() == CPoint(7, 9));
     EXPECT_NE(split.SetTextColor(RGB(1, 2, 3)), RGB(1, 2, 3));
     EXPECT_EQ(dc.GetTextColor(), RGB(1, 2, 3));
     split.SaveDC();
     split.SetBkMode(TRANSPARENT);
-    EXPECT_TRUE(split.RestoreDC(-1));
-    EXPECT_EQ(dc.GetBkMode(), OPAQUE);
-    EXPECT_EQ(other.GetBkMode(), OPAQUE);
+    EXPECT_TRUE(split.RestoreDC(-1) && dc.GetBkMode() == OPAQUE && other.GetBkMode() == OPAQUE);
     other.SelectObject(before);
     dc.SelectStockObject(SYSTEM_FONT);
     split.ReleaseOutputDC();

@@ -17,9 +17,7 @@ struct AfxFileModes : testing::Test {
     ~AfxFileModes() override { std::filesystem::remove_all(folder.GetString()); }
     std::string bytes() const {
         CFile file(name, CFile::modeRead | CFile::shareDenyNone);
-        std::string all(static_cast<std::size_t>(file.GetLength()), '\0');
-        file.Read(all.data(), static_cast<UINT>(all.size()));
-        return all;
+        return bytes_of(file);
     }
 
     CString folder, name;
@@ -60,7 +58,6 @@ TEST_F(AfxFileModes, StandWhereTheyWerePutAndGrowFromThere) {
     EXPECT_EQ(file.Read(part, 8), 3u);
     EXPECT_EQ(cause_of<CFileException>([&] { file.Seek(-1, CFile::begin); }), CFileException::badSeek);
     file.SetLength(4);
-    EXPECT_EQ(file.GetLength(), 4u);
     file.SeekToEnd();
     file.Write("x", 1);
     file.Flush();
@@ -68,11 +65,12 @@ TEST_F(AfxFileModes, StandWhereTheyWerePutAndGrowFromThere) {
     file.Close();
     CFile again(name, CFile::modeCreate | CFile::modeNoTruncate | CFile::modeWrite);
     EXPECT_EQ(again.SeekToEnd(), 5u);
-    EXPECT_EQ(cause_of<CFileException>([&] { again.Read(part, 1); }), CFileException::accessDenied)
-        << "opened for writing only";
+    const auto denied = [](const std::function<void()>& work) {
+        return cause_of<CFileException>(work) == CFileException::accessDenied;
+    };
+    EXPECT_TRUE(denied([&] { again.Read(part, 1); })) << "opened for writing only";
     again.Close();
-    EXPECT_EQ(cause_of<CFileException>([&] { CFile(name, CFile::modeRead).Write("x", 1); }),
-              CFileException::accessDenied);
+    EXPECT_TRUE(denied([&] { CFile(name, CFile::modeRead).Write("x", 1); }));
 }
 
 TEST_F(AfxFileModes, AreNobodysOnceTheyAreClosedOrAborted) {
@@ -99,9 +97,8 @@ TEST_F(AfxFileModes, KeepOthersOutAsAsked) {
     CFileException why;
     CFile refused;
     EXPECT_FALSE(refused.Open(folder + "\\none\\such", CFile::modeRead, &why));
-    EXPECT_EQ(why.m_cause, CFileException::badPath);
+    EXPECT_TRUE(why.m_cause == CFileException::badPath && refused.m_hFile == CFile::hFileNull);
     EXPECT_STREQ(why.m_strFileName, folder + "\\none\\such");
-    EXPECT_EQ(refused.m_hFile, CFile::hFileNull);
     first.Close();
     CFile open(name, CFile::modeReadWrite | CFile::shareDenyNone);
     open.Write("0123456789", 10);
@@ -132,21 +129,18 @@ TEST_F(AfxFileModes, FoundOnesTellWhatTheyAre) {
         ((find.IsDirectory() ? folders : files) += "[").append(find.GetFileName()).append("]");
         EXPECT_EQ(find.IsDots(), find.GetFileName()[0] == '.' && find.IsDirectory());
         EXPECT_EQ(find.IsReadOnly(), find.GetFileName() == "file.tmp");
-        if (find.GetFileName() == "file.tmp") {
-            EXPECT_TRUE(find.GetLength() == 5 && find.GetFileTitle() == "file" && find.GetFilePath() == name);
-            EXPECT_TRUE(find.GetLastWriteTime(changed) && (CTime::GetCurrentTime() - changed).GetTotalSeconds() < 60);
-            CString url = name;
-            url.Replace('\\', '/');
-            url.Replace(" ", "%20");
-            EXPECT_EQ(find.GetFileURL(), "file:///" + url);
-        }
+        if (find.GetFileName() != "file.tmp")
+            continue;
+        EXPECT_TRUE(find.GetLength() == 5 && find.GetFileTitle() == "file" && find.GetFilePath() == name);
+        EXPECT_TRUE(find.GetLastWriteTime(changed) && (CTime::GetCurrentTime() - changed).GetTotalSeconds() < 60);
+        CString url = name;
+        url.Replace('\\', '/'), url.Replace(" ", "%20");
+        EXPECT_EQ(find.GetFileURL(), "file:///" + url);
     }
     ::SetFileAttributes(name, FILE_ATTRIBUTE_NORMAL);
     EXPECT_EQ(folders, "[.][..][inner]");
     EXPECT_TRUE(files == "[.dot][file.tmp]" || files == "[file.tmp][.dot]") << files;
-    EXPECT_FALSE(find.FindFile(folder + "\\no\\*"));
-    EXPECT_FALSE(find.FindNextFile());
-    EXPECT_FALSE(find.GetLastWriteTime(changed)) << "nothing was found";
+    EXPECT_FALSE(find.FindFile(folder + "\\no\\*") || find.FindNextFile() || find.GetLastWriteTime(changed));
 }
 
 TEST_F(AfxFileModes, NamesAreChangedAndCausesAreTold) {

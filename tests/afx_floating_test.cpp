@@ -68,8 +68,7 @@ TEST_F(AfxFloating, ABarFloatsKeepsItsCommandsAndComesBack) {
     EXPECT_TRUE(frame.tools.IsFloating());
     EXPECT_LT(on_screen(frame.more).top, docked_top) << "its row is gone";
     ASSERT_NE(&small, &frame);
-    EXPECT_EQ(on_screen(small).TopLeft(), CPoint(150, 120));
-    EXPECT_TRUE(small.IsWindowVisible());
+    EXPECT_TRUE(small.IsWindowVisible() && on_screen(small).TopLeft() == CPoint(150, 120));
     EXPECT_EQ(text_of(small), "Title");
     EXPECT_EQ(inside_of(small).Size(), on_screen(frame.tools).Size());
     EXPECT_EQ(frame.tools.GetDockingFrame()->m_hWnd, small.m_hWnd);
@@ -79,17 +78,14 @@ TEST_F(AfxFloating, ABarFloatsKeepsItsCommandsAndComesBack) {
     EXPECT_EQ(frame.toggled, 1);
 
     small.SendMessage(WM_CLOSE);
-    EXPECT_FALSE(frame.tools.IsVisible());
-    EXPECT_FALSE(small.IsWindowVisible());
-    EXPECT_TRUE(frame.OnBarCheck(ID_VIEW_TOOLBAR));
-    EXPECT_TRUE(small.IsWindowVisible()) << "shown again where it was";
-    EXPECT_EQ(on_screen(small).TopLeft(), CPoint(150, 120));
+    EXPECT_FALSE(frame.tools.IsVisible() || small.IsWindowVisible());
+    EXPECT_TRUE(frame.OnBarCheck(ID_VIEW_TOOLBAR) && small.IsWindowVisible());
+    EXPECT_EQ(on_screen(small).TopLeft(), CPoint(150, 120)) << "shown again where it was";
 
     const HWND gone = small.m_hWnd;
     frame.DockControlBar(&frame.tools, AFX_IDW_DOCKBAR_LEFT);
     frame.RecalcLayout();
-    EXPECT_FALSE(::IsWindow(gone));
-    EXPECT_FALSE(frame.tools.IsFloating());
+    EXPECT_FALSE(::IsWindow(gone) || frame.tools.IsFloating());
     EXPECT_LT(on_screen(frame.tools).Width(), on_screen(frame.tools).Height());
     frame.tools.SendMessage(WM_LBUTTONDBLCLK, 0, MAKELPARAM(-1, -1));
     EXPECT_TRUE(frame.tools.IsFloating()) << "a double click beside the buttons";
@@ -103,19 +99,15 @@ TEST_F(AfxFloating, ABarIsDockedWhereItIsDroppedNearASide) {
     CRect inside = inside_of(frame);
     frame.ClientToScreen(inside);
     const CPoint middle = inside.CenterPoint();
-    const struct {
-        CPoint dropped;
-        DWORD side; // 0: it floats on
-    } rows[] = {{middle, 0},
-                {{inside.left + 5, middle.y}, 0}, // a side that it refuses
-                {{inside.right - 5, middle.y}, CBRS_ALIGN_RIGHT},
-                {{middle.x, inside.top + 5}, CBRS_ALIGN_TOP}};
-    for (const auto& row : rows) {
+    const std::pair<CPoint, DWORD> rows[] = {{middle, 0},                      // it floats on
+                                             {{inside.left + 5, middle.y}, 0}, // as at a side that it refuses
+                                             {{inside.right - 5, middle.y}, CBRS_ALIGN_RIGHT},
+                                             {{middle.x, inside.top + 5}, CBRS_ALIGN_TOP}};
+    for (const auto& [dropped, side] : rows) {
         CFrameWnd& small = frame.floated(frame.more);
-        ::SetCursorPos(row.dropped.x, row.dropped.y);
+        ::SetCursorPos(dropped.x, dropped.y);
         small.SendMessage(WM_EXITSIZEMOVE);
-        const DWORD side = frame.more.IsFloating() ? 0 : frame.more.GetBarStyle() & CBRS_ALIGN_ANY;
-        EXPECT_EQ(side, row.side) << row.dropped.x;
+        EXPECT_EQ(frame.more.IsFloating() ? 0 : frame.more.GetBarStyle() & CBRS_ALIGN_ANY, side) << dropped.x;
     }
 }
 
@@ -148,19 +140,14 @@ TEST_F(AfxFloating, ADraggedBarShowsWhereItWouldBe) {
             frame.tools.PostMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(300, 300));
         frame.PostMessage(WM_USER);
         frame.tools.PostMessage(dropped ? WM_LBUTTONUP : WM_KEYDOWN, dropped ? 0 : VK_ESCAPE);
-        {
-            const HeldKeys button({VK_LBUTTON});
-            frame.tools.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(-1, -1));
-        }
+        HeldKeys({VK_LBUTTON}), frame.tools.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(-1, -1));
         ASSERT_EQ(dragged.size(), before.size()) << "it was dragged";
         const CPoint corner = first_change(before, dragged);
         EXPECT_EQ(frame.tools.IsFloating(), dropped);
         EXPECT_EQ(dropped ? on_screen(frame.tools) : bar, on_screen(frame.tools));
         EXPECT_NEAR(corner.x, pointer.x, 8);
         EXPECT_LT(corner.y, pointer.y - 10) << "a caption above the bar";
-        if (!dropped) {
-            EXPECT_EQ(before, pixels()) << "no trace";
-        }
+        EXPECT_TRUE(dropped || before == pixels()) << "no trace";
     }
 }
 
@@ -205,7 +192,6 @@ TEST_F(AfxDockState, PutsEveryBarBackWhereItWas) {
     frame.SetDockState(rows);
     EXPECT_EQ(places(), in_rows);
     EXPECT_TRUE(frame.tools.IsVisible());
-
     floating.SaveState("Floating");
     read.LoadState("Floating");
     frame.SetDockState(read);
@@ -239,10 +225,8 @@ TEST_F(AfxMiniFrame, IsASmallPopupOfItsOwner) {
     EXPECT_EQ(small->SendMessage(WM_NCHITTEST, 0, MAKELPARAM(101, 140)), HTCAPTION) << "any edge moves it";
     CRect window(0, 0, 50, 50);
     CMiniFrameWnd::CalcBorders(window, small->GetStyle(), small->GetExStyle());
-    CRect client;
     small->SetWindowPos(nullptr, 0, 0, window.Width(), window.Height(), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-    small->GetClientRect(client);
-    EXPECT_EQ(client.Size(), CSize(50, 50));
+    EXPECT_EQ(inside_of(*small).Size(), CSize(50, 50));
 }
 
 } // namespace

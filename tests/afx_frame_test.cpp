@@ -32,11 +32,7 @@ struct bar_frame : CFrameWnd {
     }
     void PostNcDestroy() override {} // lives on the stack
     using CFrameWnd::OnCreateClient;
-    CRect client_of(CWnd& wnd) {
-        CRect rect = on_screen(wnd);
-        ScreenToClient(&rect);
-        return rect;
-    }
+    CRect client_of(CWnd& wnd) { return place_in(*this, wnd); }
     bool enabled(UINT id) { return (tools.SendMessage(TB_GETSTATE, id) & TBSTATE_ENABLED) != 0; }
 
     void OnShowMenuBar() override { log.push_back("show"); }
@@ -78,8 +74,7 @@ TEST_F(AfxFrame, UpdatesItsMenuToolbarAndPanesByItsHandlers) {
         for (const int i : {2, 3, 4})
             EXPECT_EQ((frame.status.GetPaneStyle(i) & SBPS_DISABLED) == 0, i == pane) << key;
     }
-    EXPECT_TRUE(frame.enabled(ID_TEST_ON));
-    EXPECT_FALSE(frame.enabled(ID_TEST_OFF));
+    EXPECT_TRUE(frame.enabled(ID_TEST_ON) && !frame.enabled(ID_TEST_OFF));
     EXPECT_FALSE(frame.enabled(ID_TEST_NOBODY)) << "a command without handler";
     EXPECT_NE(frame.tools.SendMessage(TB_ISBUTTONCHECKED, ID_TEST_CHECKED), 0);
     EXPECT_STREQ(frame.status.GetPaneText(1), "shown");
@@ -88,14 +83,11 @@ TEST_F(AfxFrame, UpdatesItsMenuToolbarAndPanesByItsHandlers) {
     EXPECT_TRUE(frame.enabled(ID_TEST_OFF));
 
     CMenu* popup = frame.GetMenu()->GetSubMenu(1);
-    const auto state = [&](UINT id) { return popup->GetMenuState(id, MF_BYCOMMAND); };
+    const auto is = [&](UINT id, UINT state) { return (popup->GetMenuState(id, MF_BYCOMMAND) & state) != 0; };
     frame.off = true;
     frame.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(popup->m_hMenu), 1);
-    EXPECT_EQ(state(ID_TEST_ON) & MF_GRAYED, 0u);
-    EXPECT_NE(state(ID_TEST_OFF) & MF_GRAYED, 0u);
-    EXPECT_NE(state(ID_TEST_NOBODY) & MF_GRAYED, 0u);
-    EXPECT_NE(state(ID_TEST_CHECKED) & MF_CHECKED, 0u);
-    EXPECT_NE(state(ID_VIEW_TOOLBAR) & MF_CHECKED, 0u);
+    EXPECT_TRUE(!is(ID_TEST_ON, MF_GRAYED) && is(ID_TEST_OFF, MF_GRAYED) && is(ID_TEST_NOBODY, MF_GRAYED));
+    EXPECT_TRUE(is(ID_TEST_CHECKED, MF_CHECKED) && is(ID_VIEW_TOOLBAR, MF_CHECKED));
     CString name;
     popup->GetMenuString(ID_TEST_CHECKED, name, MF_BYCOMMAND);
     EXPECT_STREQ(name, "Text");
@@ -106,10 +98,7 @@ TEST_F(AfxFrame, UpdatesItsMenuToolbarAndPanesByItsHandlers) {
     frame.SendMessage(WM_COMMAND, ID_TEST_OFF);
     EXPECT_TRUE(frame.log.empty()) << "a key for a disabled command";
     MSG key{frame.m_hWnd, WM_KEYDOWN, 'T', 0x140001, 0, {0, 0}};
-    {
-        const HeldKeys control({VK_CONTROL});
-        EXPECT_TRUE(frame.PreTranslateMessage(&key));
-    }
+    EXPECT_TRUE((HeldKeys({VK_CONTROL}), frame.PreTranslateMessage(&key)));
     EXPECT_THAT(frame.log, ElementsAre("on"));
 }
 
@@ -250,8 +239,7 @@ TEST_F(AfxFrame, LaysOutDockedBarsAndRemembersThem) {
     EXPECT_EQ(top.top, 0);
     EXPECT_GT(top.Width(), 4 * 23) << "four buttons and a gap";
     EXPECT_LT(left.Width(), left.Height()) << "one below the other";
-    EXPECT_EQ(status.bottom, all.bottom);
-    EXPECT_EQ(status.Width(), all.Width());
+    EXPECT_TRUE(status.bottom == all.bottom && status.Width() == all.Width());
     EXPECT_EQ(middle, CRect(left.right, top.bottom, all.right, status.top));
     EXPECT_EQ(left.top, top.bottom) << "the upper side is above the left one, whichever was enabled first";
 
@@ -272,8 +260,7 @@ TEST_F(AfxFrame, LaysOutDockedBarsAndRemembersThem) {
     frame.DockControlBar(&frame.more, AFX_IDW_DOCKBAR_TOP,
                          CRect(beside.right, beside.top, beside.right + 10, beside.bottom));
     frame.RecalcLayout();
-    EXPECT_EQ(frame.client_of(frame.more).top, 0);
-    EXPECT_EQ(frame.client_of(frame.more).left, frame.client_of(frame.tools).right);
+    EXPECT_EQ(frame.client_of(frame.more).TopLeft(), CPoint(frame.client_of(frame.tools).right, 0));
     frame.LoadBarState("Layout");
     EXPECT_FALSE(frame.tools.IsVisible());
     EXPECT_EQ(frame.client_of(frame.more), CRect(CPoint(0, 0), left.Size()));
@@ -301,8 +288,7 @@ TEST_F(AfxFrame, ButtonsAndPanesKeepTheirStyles) {
     UINT id = 0, style = 0;
     int image = 0;
     bar.GetButtonInfo(0, id, style, image);
-    EXPECT_EQ(style, static_cast<UINT>(TBBS_CHECKBOX | TBBS_CHECKED));
-    EXPECT_EQ(image, 1);
+    EXPECT_TRUE(style == UINT(TBBS_CHECKBOX | TBBS_CHECKED) && image == 1);
     bar.SetButtonStyle(1, TBBS_BUTTON | TBBS_DISABLED);
     EXPECT_FALSE(frame.enabled(ID_TEST_OFF));
     bar.SetButtonText(1, "Label");
@@ -358,18 +344,15 @@ TEST_F(AfxReBar, HoldsTheFramesBars) {
     CReBar rebar;
     ASSERT_TRUE(rebar.Create(&frame));
     const CSize wanted = frame.tools.CalcFixedLayout(FALSE, TRUE);
-    ASSERT_TRUE(rebar.AddBar(&frame.tools));
-    ASSERT_TRUE(rebar.AddBar(&frame.more, "More", nullptr, RBBS_BREAK | RBBS_GRIPPERALWAYS));
+    ASSERT_TRUE(rebar.AddBar(&frame.tools) &&
+                rebar.AddBar(&frame.more, "More", nullptr, RBBS_BREAK | RBBS_GRIPPERALWAYS));
     EXPECT_TRUE(raises<CInvalidArgException>([&] { rebar.AddBar(nullptr); }));
-    EXPECT_EQ(rebar.GetReBarCtrl().GetBandCount(), 2u);
-    EXPECT_EQ(rebar.GetReBarCtrl().GetRowCount(), 2u);
+    EXPECT_TRUE(rebar.GetReBarCtrl().GetBandCount() == 2 && rebar.GetReBarCtrl().GetRowCount() == 2);
     EXPECT_EQ(::GetParent(frame.tools.m_hWnd), rebar.m_hWnd);
     frame.settle();
-    const CRect client = inside_of(frame);
-    const CRect place = frame.client_of(rebar), bar = frame.client_of(frame.tools);
-    EXPECT_EQ(place.Width(), client.Width());
-    EXPECT_GE(place.Height(), 2 * wanted.cy);
-    EXPECT_GE(bar.Width(), wanted.cx) << "its buttons find room beside the gripper";
+    const CRect place = frame.client_of(rebar);
+    EXPECT_TRUE(place.Width() == inside_of(frame).Width() && place.Height() >= 2 * wanted.cy);
+    EXPECT_GE(on_screen(frame.tools).Width(), wanted.cx) << "its buttons find room beside the gripper";
     EXPECT_TRUE(frame.enabled(ID_TEST_ON));
     frame.tools.SendMessage(WM_COMMAND, ID_TEST_ON);
     EXPECT_THAT(frame.log, ElementsAre("on"));
@@ -488,10 +471,9 @@ END_MESSAGE_MAP()
 TEST_F(AfxFrame, UpdateHandlersMayEndWhatIsUpdated) {
     using Part = CWnd* (*)(ending_frame&);
     const Part whole = [](ending_frame& frame) -> CWnd* { return &frame; };
-    const Part parts[] = {[](ending_frame& frame) -> CWnd* { return frame.tools; },
-                          [](ending_frame& frame) -> CWnd* { return frame.status; },
-                          [](ending_frame& frame) -> CWnd* { return frame.dialog; }, whole};
-    for (Part updated : parts) {
+    for (const Part updated : {Part([](ending_frame& frame) -> CWnd* { return frame.tools; }),
+                               Part([](ending_frame& frame) -> CWnd* { return frame.status; }),
+                               Part([](ending_frame& frame) -> CWnd* { return frame.dialog; }), whole})
         for (Part ends : {updated, whole}) {
             auto* frame = new ending_frame;
             ASSERT_TRUE(frame->open());
@@ -505,7 +487,6 @@ TEST_F(AfxFrame, UpdateHandlersMayEndWhatIsUpdated) {
             EXPECT_FALSE(::IsWindow(end)) << "its handler was asked";
             ::DestroyWindow(wnd);
         }
-    }
 }
 
 } // namespace

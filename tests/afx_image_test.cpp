@@ -20,9 +20,8 @@ const std::vector<std::pair<COLORREF, char>> names{{red, 'r'},   {green, 'g'}, {
 
 std::string shown(const CImage& image) {
     std::vector<COLORREF> all;
-    for (int y = 0; y < image.GetHeight(); ++y)
-        for (int x = 0; x < image.GetWidth(); ++x)
-            all.push_back(image.GetPixel(x, y));
+    for (int i = 0; i < image.GetWidth() * image.GetHeight(); ++i)
+        all.push_back(image.GetPixel(i % image.GetWidth(), i / image.GetWidth()));
     return letters(all, image.GetWidth(), names);
 }
 
@@ -66,8 +65,9 @@ private:
         std::filesystem::temp_directory_path() / ("afx images " + std::to_string(::GetCurrentProcessId()));
 };
 
+constexpr DWORD masks[] = {0x0F, 0xF0, 0xF00};
+
 TEST_F(AfxImage, PixelsLieWhereTheyAreSaidToBe) {
-    constexpr DWORD masks[] = {0x0F, 0xF0, 0xF00};
     for (const int depth : {4, 8, 16, 24, 32, 0})
         for (const int height : {3, -3}) {
             CImage image;
@@ -113,34 +113,23 @@ TEST_F(AfxImage, ColourTablesEndWhereTheyEnd) {
 }
 
 TEST_F(AfxImage, RefusesImpossibleOnesAndKeepsWhatItHas) {
-    constexpr DWORD masks[] = {0xF00, 0xF0, 0x0F};
-    const struct {
-        int width, height, depth;
-        DWORD compression;
-        const DWORD* masks;
-        DWORD flags;
-    } impossible[] = {
-        {0, 3, 24, BI_RGB, nullptr, 0},
-        {-5, 3, 24, BI_RGB, nullptr, 0},
-        {5, 0, 24, BI_RGB, nullptr, 0},
-        {1, INT_MIN, 24, BI_RGB, nullptr, 0},
-        {5, 3, 0, BI_RGB, nullptr, 0},
-        {5, 3, 7, BI_RGB, nullptr, 0},
-        {INT_MAX, INT_MAX, 32, BI_RGB, nullptr, 0},
-        {65536, 65536, 1, BI_RGB, nullptr, 0x100},
-        {46341, -46341, 8, BI_RGB, nullptr, 0},
-        {5, 3, 24, BI_RGB, nullptr, CImage::createAlphaChannel},
-        {5, 3, 32, BI_BITFIELDS, masks, CImage::createAlphaChannel},
-        {5, 3, 8, BI_BITFIELDS, masks, 0},
-        {5, 3, 16, BI_BITFIELDS, nullptr, 0},
-        {5, 3, 16, BI_RGB, masks, 0},
-        {5, 3, 8, BI_RLE8, nullptr, 0},
-    };
+    constexpr int sizes[][3] = {
+        {0, 3, 24},        {-5, 3, 24}, {5, 0, 24}, {1, INT_MIN, 24}, {5, 3, 0}, {5, 3, 7}, {INT_MAX, INT_MAX, 32},
+        {46341, -46341, 8}};
+    const std::tuple<int, DWORD, const DWORD*, DWORD> kinds[] = {{24, BI_RGB, nullptr, CImage::createAlphaChannel},
+                                                                 {32, BI_BITFIELDS, masks, CImage::createAlphaChannel},
+                                                                 {8, BI_BITFIELDS, masks, 0},
+                                                                 {16, BI_BITFIELDS, nullptr, 0},
+                                                                 {16, BI_RGB, masks, 0},
+                                                                 {8, BI_RLE8, nullptr, 0}};
     CImage image;
     ASSERT_TRUE(image.Create(5, 3, 24));
     paint(image);
-    for (const auto& i : impossible)
-        EXPECT_FALSE(image.CreateEx(i.width, i.height, i.depth, i.compression, i.masks, i.flags)) << &i - impossible;
+    for (const auto& [width, height, depth] : sizes)
+        EXPECT_FALSE(image.Create(width, height, depth)) << width << ' ' << height << ' ' << depth;
+    EXPECT_FALSE(image.CreateEx(65536, 65536, 1, BI_RGB, nullptr, 0x100));
+    for (const auto& [depth, compression, with_masks, flags] : kinds)
+        EXPECT_FALSE(image.CreateEx(5, 3, depth, compression, with_masks, flags)) << depth << ' ' << compression;
     EXPECT_EQ(image.Load("missing.png"), HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND));
     EXPECT_TRUE(FAILED(image.Load(".")) && FAILED(image.Load("")) &&
                 FAILED(image.Load(static_cast<LPCTSTR>(nullptr))) &&
@@ -164,38 +153,22 @@ TEST_F(AfxImage, RefusesImpossibleOnesAndKeepsWhatItHas) {
 }
 
 TEST_F(AfxImage, PixelsComeBackFromFiles) {
-    const struct {
-        const char* name;
-        int depth, comes_with; // 0: as the platform will
-        const GUID& type = GUID_NULL;
-    } files[] = {
-        {"a.bmp", 24, 24},
-        {"a.bmp", 16, 0},
-        {"a.bmp", 8, 8},
-        {"a.bmp", 4, 4},
-        {"a.bmp", 32, 32},
-        {"a.png", 24, 24},
-        {"a.png", 8, 8},
-        {"a.png", 4, 4},
-        {"a.GIF", 8, 8},
-        {"a.gif", 24, 8},
-        {"a.tif", 24, 24},
-        {"a", 24, 24},
-        {"b.xyz", 24, 24, Gdiplus::ImageFormatPNG},
-        {"Caf\xe9.png", 24, 24},
-    };
-    for (const auto& file : files)
+    const std::tuple<const char*, int, int> files[] = {
+        {"a.bmp", 24, 24}, {"a.bmp", 16, 0}, {"a.bmp", 8, 8},   {"a.bmp", 4, 4},        {"a.bmp", 32, 32},
+        {"a.png", 24, 24}, {"a.png", 8, 8},  {"a.png", 4, 4},   {"a.GIF", 8, 8},        {"a.gif", 24, 8},
+        {"a.tif", 24, 24}, {"a", 24, 24},    {"b.xyz", 24, 24}, {"Caf\xe9.png", 24, 24}};
+    for (const auto& [name, depth, comes_with] : files) // 0: as the platform will
         for (const int height : {3, -3}) {
             CImage image, back;
-            ASSERT_TRUE(image.Create(5, height, file.depth));
+            ASSERT_TRUE(image.Create(5, height, depth));
             paint(image);
-            ASSERT_EQ(image.Save(file.name, file.type), S_OK) << file.name << file.depth;
+            ASSERT_EQ(image.Save(name, *name == 'b' ? Gdiplus::ImageFormatPNG : GUID_NULL), S_OK) << name << depth;
             EXPECT_EQ(shown(image), figure);
-            ASSERT_EQ(back.Load(file.name), S_OK) << file.name;
-            EXPECT_EQ(shown(back), figure) << file.name << ' ' << file.depth << ' ' << height;
-            EXPECT_TRUE(file.comes_with == 0 || back.GetBPP() == file.comes_with) << file.name;
+            ASSERT_EQ(back.Load(name), S_OK) << name;
+            EXPECT_EQ(shown(back), figure) << name << ' ' << depth << ' ' << height;
+            EXPECT_TRUE(comes_with == 0 || back.GetBPP() == comes_with) << name;
             EXPECT_LT(back.GetPitch(), 0) << "the lowest row comes first";
-            EXPECT_EQ(back.Load(file.name), S_OK) << "in place of what was there";
+            EXPECT_EQ(back.Load(name), S_OK) << "in place of what was there";
         }
     EXPECT_EQ(text_of("a").substr(0, 2), "BM");
     EXPECT_EQ(text_of("b.xyz").substr(1, 3), "PNG");
@@ -226,7 +199,6 @@ TEST_F(AfxImage, FileDialogsAreToldWhichKindsThereAre) {
 }
 
 TEST_F(AfxImage, WhatGdiPlusCannotReadIsSavedByItsColours) {
-    constexpr DWORD masks[] = {0x0F, 0xF0, 0xF00};
     CImage masked, device, back;
     ASSERT_TRUE(masked.CreateEx(5, 3, 16, BI_BITFIELDS, masks));
     paint(masked);
@@ -399,10 +371,9 @@ TEST_F(AfxImage, ComesFromResources) {
     CDC dc;
     dc.CreateCompatibleDC(nullptr);
     CBitmap* before = dc.SelectObject(&same);
-    EXPECT_TRUE(image.GetWidth() > 0 && image.GetHeight() > 0);
-    for (int y = 0; y < image.GetHeight(); ++y)
-        for (int x = 0; x < image.GetWidth(); ++x)
-            EXPECT_EQ(image.GetPixel(x, y), dc.GetPixel(x, y)) << x << ' ' << y;
+    ASSERT_TRUE(image.GetWidth() == 8 && image.GetHeight() == 8);
+    for (int i = 0; i < 8 * 8; ++i)
+        EXPECT_EQ(image.GetPixel(i % 8, i / 8), dc.GetPixel(i % 8, i / 8)) << i;
     dc.SelectObject(before);
 }
 
@@ -439,7 +410,7 @@ TEST_F(AfxImage, LivesLeaveNothing) {
     ASSERT_TRUE(kept.Save("a.png") == S_OK && kept.Create(5, 3, 8) && kept.Save("a.gif") == S_OK);
     std::ofstream("damaged.png", std::ios::binary) << text_of("a.png").substr(0, 60);
     Picture target(5, 3);
-    const auto live = [&](int) {
+    const auto live = [&] {
         CImage image, other;
         for (const char* name : {"a.png", "a.gif", "a.png"})
             ASSERT_EQ(image.Load(name), S_OK) << name;
@@ -453,10 +424,10 @@ TEST_F(AfxImage, LivesLeaveNothing) {
         CImage::ReleaseGDIPlus();
     };
     for (int i = 0; i < 5; ++i)
-        live(i);
+        live();
     const Counts before;
     for (int i = 0; i < 100; ++i)
-        live(i);
+        live();
     EXPECT_LT(before.grown(), 5);
 }
 

@@ -3,23 +3,17 @@
 
 #include <afxlayout.h>
 
-#include <gtest/gtest.h>
-
 namespace {
 
 using Layout = CMFCDynamicLayout;
 
-CRect place_of(CWnd& host, UINT id) {
-    CRect place;
-    host.GetDlgItem(static_cast<int>(id))->GetWindowRect(&place);
-    host.ScreenToClient(&place);
-    return place;
+CRect place_of(CWnd& host, int id) {
+    return place_in(host, *host.GetDlgItem(id));
 }
 
 void grow(CWnd& window, int width, int height) {
-    CRect place;
-    window.GetWindowRect(&place);
-    window.SetWindowPos(nullptr, 0, 0, place.Width() + width, place.Height() + height, SWP_NOMOVE | SWP_NOZORDER);
+    const CSize size = on_screen(window).Size() + CSize(width, height);
+    window.SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
 }
 
 TEST(AfxLayout, ADialogsControlsFollowItsSize) {
@@ -62,9 +56,7 @@ TEST(AfxLayout, IsFilledByHand) {
     ASSERT_NE(layout, nullptr);
     EXPECT_FALSE(layout->AddItem(IDOK, Layout::MoveHorizontal(100)) || layout->Create(&dialog)) << "no window yet";
     ASSERT_TRUE(dialog.create());
-    CRect area;
-    dialog.GetClientRect(&area);
-    EXPECT_EQ(layout->GetMinSize(), area.Size());
+    EXPECT_EQ(layout->GetMinSize(), inside_of(dialog).Size());
     CWnd* cancel = dialog.GetDlgItem(IDCANCEL);
     EXPECT_FALSE(layout->AddItem(IDC_NAME) || layout->AddItem(::GetDesktopWindow()));
     EXPECT_TRUE(layout->IsEmpty());
@@ -80,7 +72,6 @@ TEST(AfxLayout, IsFilledByHand) {
     EXPECT_FALSE(layout->HasItem(nullptr));
     EXPECT_EQ(place_of(dialog, IDOK).left, ok.left + 205);
     dialog.EnableDynamicLayout(FALSE);
-    EXPECT_FALSE(dialog.IsDynamicLayoutEnabled());
     grow(dialog, 10, 0);
     EXPECT_EQ(place_of(dialog, IDOK).left, ok.left + 205);
     EXPECT_FALSE(dialog.load(MAKEINTRESOURCE(IDD_TEST)) || dialog.load(nullptr) || dialog.IsDynamicLayoutEnabled());

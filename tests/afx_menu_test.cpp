@@ -25,11 +25,9 @@ TEST(AfxMenu, TakesItemsByPlaceAndByCommand) {
     EXPECT_TRUE(menu.InsertMenu(10, MF_BYCOMMAND | MF_STRING, 12, "half"));
     EXPECT_EQ(texts_of(menu), "zero half one  ");
     EXPECT_TRUE(menu.ModifyMenu(12, MF_BYCOMMAND | MF_STRING, 13, "third"));
-    EXPECT_TRUE(menu.RemoveMenu(11, MF_BYCOMMAND));
-    EXPECT_FALSE(menu.RemoveMenu(11, MF_BYCOMMAND));
+    EXPECT_TRUE(menu.RemoveMenu(11, MF_BYCOMMAND) && !menu.RemoveMenu(11, MF_BYCOMMAND));
     EXPECT_EQ(texts_of(menu), "third one  ");
-    EXPECT_EQ(menu.GetMenuItemID(0), 13u);
-    EXPECT_EQ(menu.GetMenuItemID(9), UINT(-1));
+    EXPECT_TRUE(menu.GetMenuItemID(0) == 13 && menu.GetMenuItemID(9) == UINT(-1));
     ASSERT_TRUE(more.AppendMenu(MF_STRING, 20, "inner"));
     ASSERT_TRUE(menu.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(more.m_hMenu), "more"));
     EXPECT_EQ(menu.GetSubMenu(3), &more) << "the object that holds it";
@@ -43,8 +41,7 @@ TEST(AfxMenu, TakesItemsByPlaceAndByCommand) {
     menu.AppendMenu(MF_STRING, 30, longest);
     EXPECT_EQ(text_of(menu, 4), longest);
     CString text = "before";
-    EXPECT_EQ(menu.GetMenuString(99, text, MF_BYCOMMAND), 0);
-    EXPECT_TRUE(text.IsEmpty());
+    EXPECT_TRUE(menu.GetMenuString(99, text, MF_BYCOMMAND) == 0 && text.IsEmpty());
 }
 
 TEST(AfxMenu, KeepsTheStatesOfItems) {
@@ -52,16 +49,13 @@ TEST(AfxMenu, KeepsTheStatesOfItems) {
     menu.CreatePopupMenu();
     for (UINT id = 1; id <= 3; ++id)
         menu.AppendMenu(MF_STRING, id, "item");
+    const auto is = [&](UINT id, UINT state) { return (menu.GetMenuState(id, MF_BYCOMMAND) & state) != 0; };
     EXPECT_EQ(menu.CheckMenuItem(1, MF_CHECKED), static_cast<UINT>(MF_UNCHECKED));
     EXPECT_EQ(menu.CheckMenuItem(1, MF_CHECKED), static_cast<UINT>(MF_CHECKED));
     EXPECT_EQ(menu.CheckMenuItem(99, MF_CHECKED), UINT(-1));
-    EXPECT_EQ(menu.EnableMenuItem(2, MF_GRAYED), static_cast<UINT>(MF_ENABLED));
-    EXPECT_NE(menu.GetMenuState(2, MF_BYCOMMAND) & MF_GRAYED, 0u);
-    EXPECT_TRUE(menu.CheckMenuRadioItem(1, 3, 2, MF_BYCOMMAND));
-    EXPECT_EQ(menu.GetMenuState(1, MF_BYCOMMAND) & MF_CHECKED, 0u);
-    EXPECT_NE(menu.GetMenuState(2, MF_BYCOMMAND) & MF_CHECKED, 0u);
-    EXPECT_TRUE(menu.SetDefaultItem(3));
-    EXPECT_EQ(menu.GetDefaultItem(0), 3u);
+    EXPECT_TRUE(menu.EnableMenuItem(2, MF_GRAYED) == MF_ENABLED && is(2, MF_GRAYED));
+    EXPECT_TRUE(menu.CheckMenuRadioItem(1, 3, 2, MF_BYCOMMAND) && !is(1, MF_CHECKED) && is(2, MF_CHECKED));
+    EXPECT_TRUE(menu.SetDefaultItem(3) && menu.GetDefaultItem(0) == 3);
     MENUITEMINFO info{0, MIIM_DATA | MIIM_ID, 0, 0, 50, nullptr, nullptr, nullptr, 77, nullptr, 0, nullptr};
     EXPECT_TRUE(menu.SetMenuItemInfo(1, &info, TRUE));
     info = {};
@@ -79,8 +73,7 @@ TEST(AfxMenu, OwnsWhatItLoadedAndNothingElse) {
     EXPECT_EQ(CMenu::FromHandlePermanent(handle), &menu);
     {
         CMenu other;
-        EXPECT_TRUE(other.Attach(handle));
-        EXPECT_FALSE(other.Attach(handle));
+        EXPECT_TRUE(other.Attach(handle) && !other.Attach(handle));
         other.Detach();
     }
     EXPECT_TRUE(::IsMenu(handle));

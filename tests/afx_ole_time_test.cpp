@@ -21,8 +21,7 @@ TEST(AfxOleTime, TakesOnlyWhatIsADate) {
         EXPECT_TRUE(date == 0 || time.m_dt == date);
     }
     const COleDateTime leap(2024, 12, 31, 0, 0, 0);
-    EXPECT_EQ(leap.GetDayOfYear(), 366);
-    EXPECT_EQ(leap.GetDayOfWeek(), 3);
+    EXPECT_TRUE(leap.GetDayOfYear() == 366 && leap.GetDayOfWeek() == 3);
     EXPECT_EQ(COleDateTime(3e6).GetStatus(), COleDateTime::invalid);
 }
 
@@ -45,8 +44,7 @@ TEST(AfxOleTime, CountsOverTheDayThatIsZero) {
 TEST(AfxOleTime, IsWrittenReadAndStored) {
     COleDateTime time(2024, 7, 14, 8, 9, 10), again;
     EXPECT_STREQ(time.Format("%Y-%m-%d %H:%M:%S %j %a"), "2024-07-14 08:09:10 196 Sun");
-    ASSERT_TRUE(again.ParseDateTime("2024-07-14 08:09:10"));
-    EXPECT_EQ(again, time);
+    EXPECT_TRUE(again.ParseDateTime("2024-07-14 08:09:10") && again == time);
     EXPECT_FALSE(again.ParseDateTime("no date") || again.ParseDateTime(nullptr));
     EXPECT_STREQ(again.Format(), "Invalid DateTime");
     EXPECT_EQ(COleDateTime(__time64_t{-1} << 40).GetStatus(), COleDateTime::invalid);
@@ -91,11 +89,9 @@ TEST(AfxSharedFile, IsTheSystemsMemory) {
     {
         CSharedFile in;
         in.SetHandle(memory, FALSE);
-        char text[27] = {};
-        EXPECT_EQ(in.Read(text, 26), 26u);
-        EXPECT_STREQ(text, "abcdefghijklmnopqrstuvwxyz");
+        EXPECT_EQ(bytes_of(in).substr(0, 26), "abcdefghijklmnopqrstuvwxyz");
         in.SeekToEnd();
-        EXPECT_TRUE(raises<CException>([&] { in.Write(text, 26); })) << "it may not grow";
+        EXPECT_TRUE(raises<CException>([&] { in.Write("more", 4); })) << "it may not grow";
         EXPECT_TRUE(raises<CException>([&] { in.SetHandle(memory); })) << "it has one";
     }
     CSharedFile longer;

@@ -53,8 +53,7 @@ TEST(AfxDialog, ModalOneDisablesItsParentUntilItEnds) {
         dialog.press(IDOK);
     };
     EXPECT_EQ(dialog.DoModal(), IDOK);
-    EXPECT_TRUE(::IsWindowEnabled(parent));
-    EXPECT_EQ(dialog.m_hWnd, nullptr);
+    EXPECT_TRUE(::IsWindowEnabled(parent) && dialog.m_hWnd == nullptr);
     dialog.on_open = [&] { dialog.press(IDCANCEL); };
     EXPECT_EQ(dialog.DoModal(), IDCANCEL) << "an object can be shown again";
     dialog.on_open = [&] { dialog.EndDialog(77); };
@@ -63,13 +62,12 @@ TEST(AfxDialog, ModalOneDisablesItsParentUntilItEnds) {
     the_app.take_boxes();
     dialog.on_open = [] { AfxThrowResourceException(); };
     EXPECT_EQ(dialog.DoModal(), -1);
-    EXPECT_EQ(the_app.take_boxes().size(), 1u);
-    EXPECT_TRUE(::IsWindowEnabled(parent));
+    EXPECT_TRUE(the_app.take_boxes().size() == 1 && ::IsWindowEnabled(parent));
     dialog.on_open = [&] { dialog.PostMessage(WM_QUIT, 7); };
     EXPECT_EQ(dialog.DoModal(), -1);
     MSG quit;
-    EXPECT_TRUE(::PeekMessage(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) << "the outer loop must see it, too";
-    EXPECT_EQ(quit.wParam, 7u);
+    EXPECT_TRUE(::PeekMessage(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE) && quit.wParam == 7)
+        << "the outer loop must see it, too";
     EXPECT_EQ(CDialog(9999u).DoModal(), -1) << "no such template";
 }
 
@@ -93,8 +91,7 @@ TEST(AfxDialog, IsShownOnceAndIdleAfterWhatHappens) {
 TEST(AfxDialog, IsRefusedWhereItCannotBeInitialised) {
     test_dialog dialog;
     dialog.on_open = [] { throw new CUserException; };
-    EXPECT_FALSE(dialog.Create(IDD_TEST));
-    EXPECT_EQ(dialog.m_hWnd, nullptr);
+    EXPECT_FALSE(dialog.Create(IDD_TEST) || dialog.m_hWnd != nullptr);
 }
 
 TEST(AfxProgram, ShowsThatItIsBusyUntilTheLastWaitEnds) {

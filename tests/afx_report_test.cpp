@@ -23,19 +23,15 @@ std::string dumped(const std::function<void(CDumpContext&)>& work) {
     CDumpContext dc(&file);
     work(dc);
     dc.Flush();
-    std::string text(static_cast<std::size_t>(file.GetLength()), '\0');
-    file.SeekToBegin();
-    file.Read(text.data(), static_cast<UINT>(text.size()));
-    return text;
+    return bytes_of(file);
 }
 
 TEST(AfxDump, WritesValuesAndObjects) {
     described object;
     EXPECT_TRUE(object.IsKindOf(RUNTIME_CLASS(described)));
     const std::string text = dumped([&](CDumpContext& dc) { dc << &object << static_cast<CObject*>(nullptr); });
-    EXPECT_NE(text.find("described"), std::string::npos) << text;
-    EXPECT_NE(text.find("number 7\n"), std::string::npos) << text;
-    EXPECT_NE(text.find("NULL"), std::string::npos) << text;
+    for (const char* part : {"described", "number 7\n", "NULL"})
+        EXPECT_THAT(text, testing::HasSubstr(part));
     EXPECT_EQ(dumped([](CDumpContext& dc) {
                   dc << BYTE{200} << " " << WORD{65535} << " " << -5 << " " << 4000000000u << " " << 2.5 << " "
                      << LONGLONG{-5000000000} << " " << static_cast<LPCTSTR>(nullptr);
@@ -46,56 +42,47 @@ TEST(AfxDump, WritesValuesAndObjects) {
     EXPECT_EQ(dumped([](CDumpContext& dc) { dc.DumpAsHex(-1).DumpAsHex(BYTE{10}); }), "0xFFFFFFFF0xA");
     BYTE bytes[5] = {0, 1, 0xAB, 0xFF, 16};
     EXPECT_EQ(dumped([&](CDumpContext& dc) { dc.HexDump(">", bytes, 5, 3); }), "> 00 01 AB\n> FF 10\n");
-    EXPECT_NE(dumped([&](CDumpContext& dc) { dc.HexDump(">", bytes, 5, 0); }).find("FF 10"), std::string::npos);
-    EXPECT_NE(dumped([](CDumpContext& dc) { dc << CTimeSpan(1, 2, 3, 4); }).find("1 days, 02 hours"),
-              std::string::npos);
+    EXPECT_THAT(dumped([&](CDumpContext& dc) { dc.HexDump(">", bytes, 5, 0); }), testing::HasSubstr("FF 10"));
+    EXPECT_THAT(dumped([](CDumpContext& dc) { dc << CTimeSpan(1, 2, 3, 4); }), testing::HasSubstr("1 days, 02 hours"));
 }
 
 TEST(AfxExceptions, TellTheUserWhatHappened) {
-    const struct {
-        const char* what;
-        std::function<void()> thrown;
-    } cases[] = {{"memory", [] { AfxThrowMemoryException(); }},
-                 {"resource", [] { AfxThrowResourceException(); }},
-                 {"argument", [] { AfxThrowInvalidArgException(); }},
-                 {"unsupported", [] { AfxThrowNotSupportedException(); }},
-                 {"80070057", [] { AfxThrowOleException(E_INVALIDARG); }},
-                 {"a.dat", [] { AfxThrowFileException(CFileException::diskFull, ERROR_DISK_FULL, "a.dat"); }},
-                 {"13", [] { AfxThrowFileException(CFileException::diskFull); }},
-                 {"ends too early", [] { AfxThrowArchiveException(CArchiveException::endOfFile); }},
-                 {"failed", [] { AfxThrowArchiveException(99); }}};
-    for (const auto& one : cases) {
+    const std::pair<const char*, std::function<void()>> cases[] = {
+        {"memory", [] { AfxThrowMemoryException(); }},
+        {"resource", [] { AfxThrowResourceException(); }},
+        {"argument", [] { AfxThrowInvalidArgException(); }},
+        {"unsupported", [] { AfxThrowNotSupportedException(); }},
+        {"80070057", [] { AfxThrowOleException(E_INVALIDARG); }},
+        {"a.dat", [] { AfxThrowFileException(CFileException::diskFull, ERROR_DISK_FULL, "a.dat"); }},
+        {"13", [] { AfxThrowFileException(CFileException::diskFull); }},
+        {"ends too early", [] { AfxThrowArchiveException(CArchiveException::endOfFile); }},
+        {"failed", [] { AfxThrowArchiveException(99); }}};
+    for (const auto& [what, thrown] : cases) {
         try {
-            one.thrown();
-            ADD_FAILURE() << one.what;
+            thrown();
+            ADD_FAILURE() << what;
         } catch (CException* exception) {
             char text[300] = "", little[4] = "xyz";
             UINT help = 5;
-            EXPECT_TRUE(exception->GetErrorMessage(text, sizeof(text), &help)) << one.what;
-            EXPECT_EQ(help, 0u);
+            EXPECT_TRUE(exception->GetErrorMessage(text, sizeof(text), &help) && help == 0) << what;
             EXPECT_FALSE(std::isspace(static_cast<unsigned char>(text[std::strlen(text) - 1]))) << "no line ends it";
             CString lower(text);
             const bool of_system = exception->IsKindOf(RUNTIME_CLASS(COleException)) != FALSE;
-            EXPECT_TRUE(of_system || lower.MakeLower().Find(one.what) >= 0) << text;
+            EXPECT_TRUE(of_system || lower.MakeLower().Find(what) >= 0) << text;
             exception->GetErrorMessage(little, sizeof(little));
             EXPECT_LT(std::strlen(little), sizeof(little));
             exception->GetErrorMessage(nullptr, 0);
             the_app.take_boxes();
             exception->ReportError();
-            const auto boxes = the_app.take_boxes();
-            ASSERT_EQ(boxes.size(), 1u);
-            EXPECT_EQ(boxes[0], text);
+            EXPECT_THAT(the_app.take_boxes(), testing::ElementsAre(text));
             exception->Delete();
         }
     }
     CUserException silent(FALSE);
     char text[10] = "old";
-    EXPECT_FALSE(silent.GetErrorMessage(text, sizeof(text)));
-    EXPECT_STREQ(text, "");
+    EXPECT_TRUE(!silent.GetErrorMessage(text, sizeof(text)) && *text == '\0');
     silent.ReportError(MB_OK, IDS_CAPTION);
-    EXPECT_EQ(the_app.take_boxes(), std::vector<std::string>{"Caption of its own"});
     silent.ReportError();
-    EXPECT_EQ(the_app.take_boxes(), std::vector<std::string>{"No error message is available."});
     silent.Delete();      // it is not the heap's
     struct : CException { // as programs once wrote it
         using CException::GetErrorMessage;
@@ -104,7 +91,8 @@ TEST(AfxExceptions, TellTheUserWhatHappened) {
         }
     } older;
     older.ReportError();
-    EXPECT_EQ(the_app.take_boxes(), std::vector<std::string>{"by the program"});
+    EXPECT_THAT(the_app.take_boxes(),
+                testing::ElementsAre("Caption of its own", "No error message is available.", "by the program"));
 }
 
 // Of those that files do not meet in the tests.

@@ -116,16 +116,10 @@ TEST_F(AfxSheet, PagesMayRefuse) {
         EXPECT_EQ(sheet.GetActiveIndex(), 0) << "what was entered is wrong";
         press(PSBTN_OK);
     };
-    const auto not_applied = [&] {
-        first.valid = true;
-        first.applies = false;
-        press(PSBTN_OK);
-    };
-    const auto cancel = [&](bool allowed) {
-        first.cancels = allowed;
-        press(PSBTN_CANCEL);
-    };
-    EXPECT_EQ(run(sheet, {wrong_entry, not_applied, [&] { cancel(false); }, [&] { cancel(true); }}), IDCANCEL);
+    const auto not_applied = [&] { first.valid = true, first.applies = false, press(PSBTN_OK); };
+    const auto not_cancelled = [&] { first.cancels = false, press(PSBTN_CANCEL); };
+    const auto cancelled = [&] { first.cancels = true, press(PSBTN_CANCEL); };
+    EXPECT_EQ(run(sheet, {wrong_entry, not_applied, not_cancelled, cancelled}), IDCANCEL);
     EXPECT_EQ(log, "1.set 1.kill 1.kill 1.kill 1.apply 1.ok 1.query 1.query 1.cancel ");
 }
 
@@ -157,29 +151,28 @@ TEST(AfxWizard, StepsRefusesAndFinishes) {
     sheet.AddPage(&first);
     sheet.AddPage(&last);
     sheet.SetWizardMode();
-    const auto press = [&](int button) { sheet.PressButton(button); };
-    EXPECT_EQ(run(sheet, {[&] {
-                              press(PSBTN_NEXT);
-                              EXPECT_EQ(sheet.GetActivePage(), &first) << "it refuses to be left";
-                              first.next = 0;
-                              press(PSBTN_NEXT);
-                          },
-                          [&] {
-                              EXPECT_EQ(sheet.GetActivePage(), &last);
-                              sheet.GetDlgItem(ID_WIZFINISH)->SetFocus();
-                              press(PSBTN_FINISH);
-                          },
-                          [&] {
-                              EXPECT_EQ(::GetFocus(), ::GetDlgItem(last, IDC_MARK));
-                              last.finishes = TRUE;
-                              press(PSBTN_BACK);
-                          },
-                          [&] {
-                              EXPECT_EQ(sheet.GetActiveIndex(), 0);
-                              press(PSBTN_NEXT);
-                          },
-                          [&] { press(PSBTN_FINISH); }}),
-              ID_WIZFINISH);
+    const auto refused = [&] {
+        sheet.PressButton(PSBTN_NEXT);
+        EXPECT_EQ(sheet.GetActivePage(), &first) << "it refuses to be left";
+        first.next = 0;
+        sheet.PressButton(PSBTN_NEXT);
+    };
+    const auto not_finished = [&] {
+        EXPECT_EQ(sheet.GetActivePage(), &last);
+        sheet.GetDlgItem(ID_WIZFINISH)->SetFocus();
+        sheet.PressButton(PSBTN_FINISH);
+    };
+    const auto back = [&] {
+        EXPECT_EQ(::GetFocus(), ::GetDlgItem(last, IDC_MARK));
+        last.finishes = TRUE;
+        sheet.PressButton(PSBTN_BACK);
+    };
+    const auto again = [&] {
+        EXPECT_EQ(sheet.GetActiveIndex(), 0);
+        sheet.PressButton(PSBTN_NEXT);
+    };
+    const auto finished = [&] { sheet.PressButton(PSBTN_FINISH); };
+    EXPECT_EQ(run(sheet, {refused, not_finished, back, again, finished}), ID_WIZFINISH);
 }
 
 // Answers the other pages' question with its own number.
@@ -207,23 +200,19 @@ TEST(AfxModelessSheet, HoldsPagesWithoutButtons) {
     EXPECT_LE(around.bottom, on_screen(*sheet.GetDlgItem(IDOK)).top) << "not the buttons";
     EXPECT_EQ(text_of(sheet), "Caption of its own");
     EXPECT_FALSE(sheet.GetDlgItem(IDOK)->IsWindowVisible() || sheet.GetDlgItem(IDCANCEL)->IsWindowEnabled());
-    EXPECT_TRUE(sheet.SetActivePage(1));
-    EXPECT_EQ(sheet.GetActivePage(), &second);
+    EXPECT_TRUE(sheet.SetActivePage(1) && sheet.GetActivePage() == &second);
     EXPECT_EQ(second.QuerySiblings(4, 0), 9);
     char caption[40];
     TCITEM tab{TCIF_TEXT, 0, 0, caption, sizeof(caption), 0, 0};
-    EXPECT_TRUE(sheet.GetTabControl()->GetItem(1, &tab));
-    EXPECT_STREQ(caption, "Caption of its own");
+    EXPECT_TRUE(sheet.GetTabControl()->GetItem(1, &tab) && std::string("Caption of its own") == caption);
     sheet.AddPage(&third);
     EXPECT_EQ(sheet.GetTabControl()->GetItemCount(), 3);
     for (const int none : {-1, 3})
         EXPECT_TRUE(raises<CInvalidArgException>([&] { sheet.RemovePage(none); }));
     sheet.RemovePage(&first);
     sheet.RemovePage(1);
-    EXPECT_EQ(sheet.GetTabControl()->GetItemCount(), 1);
-    EXPECT_EQ(sheet.GetPageIndex(&third), -1);
-    EXPECT_TRUE(sheet.DestroyWindow());
-    EXPECT_EQ(second.m_hWnd, nullptr);
+    EXPECT_TRUE(sheet.GetTabControl()->GetItemCount() == 1 && sheet.GetPageIndex(&third) == -1);
+    EXPECT_TRUE(sheet.DestroyWindow() && second.m_hWnd == nullptr);
 }
 
 using AfxExtendedControls = WithParent;
@@ -233,8 +222,7 @@ TEST_F(AfxExtendedControls, HoldPicturesAndAddresses) {
     ASSERT_TRUE(box.Create(CBS_DROPDOWNLIST, CRect(0, 0, 100, 100), &parent, 1));
     CImageList pictures;
     ASSERT_TRUE(pictures.Create(16, 16, ILC_COLOR, 0, 4));
-    EXPECT_EQ(box.SetImageList(&pictures), nullptr);
-    EXPECT_EQ(box.GetImageList(), &pictures);
+    EXPECT_TRUE(box.SetImageList(&pictures) == nullptr && box.GetImageList() == &pictures);
     char text[16] = "first";
     COMBOBOXEXITEM item{CBEIF_TEXT | CBEIF_LPARAM, -1, text, 0, 0, 0, 0, 0, 77};
     EXPECT_EQ(box.InsertItem(&item), 0);
@@ -242,11 +230,8 @@ TEST_F(AfxExtendedControls, HoldPicturesAndAddresses) {
     EXPECT_EQ(box.InsertItem(&item), 1);
     item.iItem = 0;
     item.cchTextMax = sizeof(text);
-    EXPECT_TRUE(box.GetItem(&item));
-    EXPECT_STREQ(text, "first");
-    EXPECT_EQ(item.lParam, 77);
-    EXPECT_EQ(box.GetComboBoxCtrl()->GetCount(), 2);
-    EXPECT_EQ(box.DeleteItem(0), 1);
+    EXPECT_TRUE(box.GetItem(&item) && std::string("first") == text && item.lParam == 77);
+    EXPECT_TRUE(box.GetComboBoxCtrl()->GetCount() == 2 && box.DeleteItem(0) == 1);
 
     CIPAddressCtrl address;
     ASSERT_TRUE(address.Create(WS_CHILD, CRect(0, 30, 120, 50), &parent, 2));
@@ -254,7 +239,7 @@ TEST_F(AfxExtendedControls, HoldPicturesAndAddresses) {
     address.SetAddress(192, 168, 0, 7);
     BYTE fields[4] = {};
     EXPECT_EQ(address.GetAddress(fields[0], fields[1], fields[2], fields[3]), 4);
-    EXPECT_TRUE(fields[0] == 192 && fields[1] == 168 && fields[2] == 0 && fields[3] == 7);
+    EXPECT_THAT(fields, testing::ElementsAre(192, 168, 0, 7));
     box.SetImageList(nullptr);
 }
 

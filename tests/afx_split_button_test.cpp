@@ -11,7 +11,6 @@ namespace {
 class choosing_parent : public CWnd {
 public:
     afx_msg void OnInitMenuPopup(CMenu* menu, UINT, BOOL) {
-        ++menus;
         CString text;
         menu->GetMenuString(0, text, MF_BYPOSITION);
         texts.push_back(text.GetString());
@@ -28,7 +27,7 @@ public:
     std::vector<std::string> texts;
     std::vector<UINT> commands;
     std::function<void()> while_shown;
-    int menus = 0, told = 0;
+    int told = 0;
 };
 
 BEGIN_MESSAGE_MAP(choosing_parent, CWnd)

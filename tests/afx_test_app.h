@@ -20,8 +20,7 @@ struct test_app : CWinApp {
         return answer;
     }
     BOOL ProcessMessageFilter(int code, LPMSG) override { return code == filtered; }
-    using CWinApp::EnableShellOpen;
-    using CWinApp::SetDialogBkColor;
+    using CWinApp::EnableShellOpen, CWinApp::SetDialogBkColor;
     void WinHelp(DWORD_PTR topic, UINT command) override { helped.push_back(topic << 8 | command); }
     // The registry's key, or null for a file.
     void use_settings(const char* key) {
@@ -118,6 +117,12 @@ inline CRect on_screen(const CWnd& wnd) {
     return rect;
 }
 
+inline CRect place_in(CWnd& parent, const CWnd& wnd) {
+    CRect rect = on_screen(wnd);
+    parent.ScreenToClient(&rect);
+    return rect;
+}
+
 // A window, for controls to stand in.
 struct WithParent : testing::Test {
     WithParent() { EXPECT_TRUE(create_visible_popup(parent)); }
@@ -141,6 +146,13 @@ private:
     CBitmap m_bitmap;
     CBitmap* m_before;
 };
+
+inline std::string bytes_of(CFile& file) {
+    std::string all(static_cast<std::size_t>(file.GetLength()), '\0');
+    file.SeekToBegin();
+    file.Read(all.data(), static_cast<UINT>(all.size()));
+    return all;
+}
 
 inline void store(CFile& file, const std::function<void(CArchive&)>& work) {
     file.SetLength(0);

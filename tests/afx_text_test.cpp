@@ -17,10 +17,8 @@ TEST(AfxStringEdges, PlacesOutsideTheTextAreItsEnds) {
     EXPECT_TRUE(text[99] == '\0' && text[-1] == '\0' && text.GetAt(3) == '\0');
     EXPECT_TRUE(raises<CInvalidArgException>([&] { text.GetAt(4); }) &&
                 raises<CInvalidArgException>([&] { text.GetAt(-1); }));
-    EXPECT_EQ(text.Find('c', 3), -1);
-    EXPECT_EQ(text.ReverseFind('x'), -1);
     EXPECT_STREQ(CString(L"f\u00fcr"), "f\xFCr");
-    EXPECT_EQ(text.Find('c', -1), -1);
+    EXPECT_TRUE(text.Find('c', 3) == -1 && text.Find('c', -1) == -1 && text.ReverseFind('x') == -1);
     EXPECT_EQ(text.Find("", 3), 3);
     CString changed = text;
     EXPECT_EQ(changed.Delete(-4, 1), 2) << "from the start on";
@@ -40,9 +38,7 @@ TEST(AfxStringEdges, NoTextIsAnEmptyOne) {
     text.SetString(none, 5);
     EXPECT_TRUE(text.IsEmpty() && CString(none_wide).IsEmpty() && CString(none, 3).IsEmpty());
     EXPECT_TRUE(text == none && text.Compare(none) == 0 && text.CollateNoCase(none) == 0 && !(text < none));
-    EXPECT_EQ(text.Find(none), -1);
-    EXPECT_EQ(text.Insert(0, none), 0);
-    EXPECT_EQ(text.Replace(none, "x"), 0);
+    EXPECT_TRUE(text.Find(none) == -1 && text.Insert(0, none) == 0 && text.Replace(none, "x") == 0);
     EXPECT_TRUE(text.SpanIncluding(none).IsEmpty() && text.TrimLeft(none).IsEmpty());
     text.Format(none);
     EXPECT_TRUE(text.IsEmpty());
@@ -79,7 +75,6 @@ TEST(AfxStringEdges, BuffersKeepTheTextUntilTheyAreReleased) {
     EXPECT_STREQ(text, "short");
     text.GetBufferSetLength(3);
     text.ReleaseBuffer(99); // no more than there is
-    EXPECT_STREQ(text, "sho");
     text.Truncate(-1);
     EXPECT_STREQ(text, "sho");
     const CString zeros("a\0b", 3);
@@ -101,9 +96,7 @@ TEST(AfxStringEdges, CharactersOfTwoBytesAreNotTakenApart) {
     ASSERT_EQ(_setmbcp(932), 0);
     CString text("a\x83\x5C"
                  "b\\c");
-    EXPECT_EQ(text.Find('\\'), 4);
-    EXPECT_EQ(text.ReverseFind('\\'), 4);
-    EXPECT_EQ(text.FindOneOf("\\c"), 4);
+    EXPECT_TRUE(text.Find('\\') == 4 && text.ReverseFind('\\') == 4 && text.FindOneOf("\\c") == 4);
     EXPECT_EQ(text.Replace('\\', '/'), 1);
     EXPECT_STREQ(text, "a\x83\x5C"
                        "b/c");
@@ -118,16 +111,12 @@ TEST(AfxStringEdges, CharactersOfTwoBytesAreNotTakenApart) {
 }
 
 TEST(AfxTimeEdges, FieldsThatAreNoneAreRefused) {
-    const struct {
-        int year, month, day, hour, minute, second;
-    } wrong[] = {{1969, 12, 31, 23, 59, 59}, {3001, 1, 1, 0, 0, 0},  {2024, 0, 1, 0, 0, 0},  {2024, 13, 1, 0, 0, 0},
-                 {2024, 1, 0, 0, 0, 0},      {2024, 1, 32, 0, 0, 0}, {2024, 1, 1, 24, 0, 0}, {2024, 1, 1, -1, 0, 0},
-                 {2024, 1, 1, 0, 60, 0},     {2024, 1, 1, 0, 0, 60}};
-    for (const auto& one : wrong)
-        EXPECT_TRUE(raises<CInvalidArgException>([&] {
-            CTime(one.year, one.month, one.day, one.hour, one.minute, one.second);
-        })) << one.year
-            << "-" << one.month << "-" << one.day;
+    constexpr int wrong[][6] = {{1969, 12, 31, 23, 59, 59}, {3001, 1, 1, 0, 0, 0},  {2024, 0, 1, 0, 0, 0},
+                                {2024, 13, 1, 0, 0, 0},     {2024, 1, 0, 0, 0, 0},  {2024, 1, 32, 0, 0, 0},
+                                {2024, 1, 1, 24, 0, 0},     {2024, 1, 1, -1, 0, 0}, {2024, 1, 1, 0, 60, 0},
+                                {2024, 1, 1, 0, 0, 60}};
+    for (const auto& w : wrong)
+        EXPECT_TRUE(raises<CInvalidArgException>([&] { CTime(w[0], w[1], w[2], w[3], w[4], w[5]); })) << w[0] << w[1];
     EXPECT_EQ(CTime(2023, 2, 29, 0, 0, 0), CTime(2023, 3, 1, 0, 0, 0)) << "days of longer months run on";
     const SYSTEMTIME never{};
     EXPECT_EQ(CTime(never), CTime());
@@ -154,8 +143,8 @@ TEST(AfxTimeEdges, MomentsBeyondEveryClockShowNothing) {
     EXPECT_TRUE(summer.Format(static_cast<LPCTSTR>(nullptr)).IsEmpty());
     EXPECT_TRUE(raises<CInvalidArgException>([] { CTimeSpan(5).Format("%x"); }) &&
                 raises<CInvalidArgException>([] { CTimeSpan(5).Format("%"); }));
-    EXPECT_EQ(CTimeSpan(-1, -2, -3, -4).GetTotalSeconds(), -93784);
-    EXPECT_EQ(CTimeSpan(-1, -2, -3, -4).GetHours(), -2);
+    const CTimeSpan back(-1, -2, -3, -4);
+    EXPECT_TRUE(back.GetTotalSeconds() == -93784 && back.GetHours() == -2);
     EXPECT_EQ(CTimeSpan(100000, 0, 0, 0).GetTotalSeconds(), 8640000000) << "more seconds than 32 bits hold";
 }
 

@@ -38,10 +38,7 @@ public:
         log.push_back(200 + count);
         return PostThreadMessage(++idle == 1 ? add_message : end_message, 50, 5), FALSE;
     }
-    int ExitInstance() override {
-        log.push_back(99);
-        return CWinThread::ExitInstance();
-    }
+    int ExitInstance() override { return log.push_back(99), CWinThread::ExitInstance(); }
 
     void OnAdd(WPARAM w, LPARAM l) { log.push_back(static_cast<int>(w) + static_cast<int>(l)); }
     void OnEnd(WPARAM, LPARAM) { wnd.DestroyWindow(); }
@@ -72,8 +69,7 @@ TEST(AfxThread, WithWindowsHasMessagesAndHandleMapsOfItsOwn) {
     ASSERT_TRUE(create_popup(main));
     the_app.m_pMainWnd = &main;
     CWinThread* thread = AfxBeginThread(RUNTIME_CLASS(window_thread), THREAD_PRIORITY_NORMAL, 0, CREATE_SUSPENDED);
-    ASSERT_NE(thread, nullptr);
-    EXPECT_TRUE(window_thread::log.empty()) << "suspended";
+    ASSERT_TRUE(thread != nullptr && window_thread::log.empty()) << "suspended";
     const HANDLE handle = own_handle(thread);
     thread->PostThreadMessage(add_message, 40, 2);
     thread->ResumeThread();
@@ -157,18 +153,15 @@ TEST(AfxSync, LocksAreTakenInTimeAndGivenBack) {
     CEvent automatic, manual(FALSE, TRUE);
     EXPECT_FALSE(automatic.Lock(0));
     automatic.SetEvent();
-    EXPECT_TRUE(automatic.Lock(0));
-    EXPECT_FALSE(automatic.Lock(0)) << "one waiter";
+    EXPECT_TRUE(automatic.Lock(0) && !automatic.Lock(0)) << "one waiter";
     manual.SetEvent();
     EXPECT_TRUE(manual.Lock(0) && manual.Lock(0));
 
     CSemaphore two(2, 2);
     {
         CSingleLock first(&two, TRUE), second(&two, TRUE), third(&two);
-        EXPECT_TRUE(first.IsLocked() && second.IsLocked());
-        EXPECT_FALSE(third.Lock(0));
-        EXPECT_TRUE(first.Unlock());
-        EXPECT_TRUE(third.Lock(0));
+        EXPECT_TRUE(first.IsLocked() && second.IsLocked() && !third.Lock(0));
+        EXPECT_TRUE(first.Unlock() && third.Lock(0));
     }
     LONG before = -1;
     EXPECT_FALSE(two.Unlock(1, &before)) << "all were given back";
@@ -176,9 +169,7 @@ TEST(AfxSync, LocksAreTakenInTimeAndGivenBack) {
     CSyncObject* objects[] = {&two, &manual};
     CMultiLock both(objects, 2);
     EXPECT_EQ(both.Lock(0), static_cast<DWORD>(WAIT_TIMEOUT));
-    EXPECT_EQ(both.Lock(0, FALSE), WAIT_OBJECT_0);
-    EXPECT_TRUE(both.IsLocked(0));
-    EXPECT_FALSE(both.IsLocked(1));
+    EXPECT_TRUE(both.Lock(0, FALSE) == WAIT_OBJECT_0 && both.IsLocked(0) && !both.IsLocked(1));
     for (const DWORD wrong : {DWORD{0}, DWORD{MAXIMUM_WAIT_OBJECTS + 1}})
         EXPECT_TRUE(raises<CInvalidArgException>([&] { CMultiLock(objects, wrong); }));
     EXPECT_TRUE((CMutex(FALSE, "afx_test"), ::CloseHandle(::OpenMutex(SYNCHRONIZE, FALSE, "afx_test"))));
@@ -189,10 +180,9 @@ TEST(AfxSync, LocksAreTakenInTimeAndGivenBack) {
 }
 
 TEST(AfxSettings, ReadBackWhatWasWrittenInTheRegistryAndInAFile) {
-    for (const bool registry : {false, true}) {
-        const char* key = registry ? "ZopwntTest" : nullptr;
+    for (const char* key : {static_cast<const char*>(nullptr), "ZopwntTest"}) {
         the_app.use_settings(key);
-        EXPECT_EQ(the_app.GetProfileInt("Section", "None", -7), static_cast<UINT>(-7)) << registry;
+        EXPECT_EQ(the_app.GetProfileInt("Section", "None", -7), static_cast<UINT>(-7)) << key;
         EXPECT_TRUE(the_app.WriteProfileInt("Section", "Number", 70000));
         EXPECT_EQ(the_app.GetProfileInt("Section", "Number", 0), 70000u);
         const std::string large(3000, 'x');

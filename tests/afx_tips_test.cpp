@@ -19,8 +19,7 @@ struct tips_window : CWnd {
     INT_PTR OnToolHitTest(CPoint point, TOOLINFO* tool) const override {
         if (!own_parts || point.x < 100)
             return CWnd::OnToolHitTest(point, tool);
-        tool->hwnd = m_hWnd;
-        tool->uId = 77;
+        tool->hwnd = m_hWnd, tool->uId = 77;
         tool->rect = CRect(100, 0, 200, 100);
         tool->lpszText = ::strdup("of its own");
         return 77;
@@ -50,12 +49,10 @@ std::string shown_at(CWnd& wnd, CPoint point) {
         move.hwnd = wnd.m_hWnd;
     CWnd::WalkPreTranslateTree(nullptr, &move);
     const HWND tip = thread_window(TOOLTIPS_CLASS);
-    if (tip == nullptr)
+    if (tip == nullptr || ::SendMessage(tip, TTM_GETTOOLCOUNT, 0, 0) == 0)
         return "";
     ::SendMessage(tip, TTM_SETDELAYTIME, TTDT_INITIAL, 1);
     ::SendMessage(tip, TTM_SETDELAYTIME, TTDT_RESHOW, 1);
-    if (::SendMessage(tip, TTM_GETTOOLCOUNT, 0, 0) == 0)
-        return "";
     CWnd::WalkPreTranslateTree(nullptr, &move);
     pumped_until([&] { return ::IsWindowVisible(tip); });
     return ::IsWindowVisible(tip) ? text_of(*CWnd::FromHandle(tip)) : "";

@@ -78,10 +78,7 @@ class printed_edit : public CEditView {
     DECLARE_DYNCREATE(printed_edit)
 
 public:
-    using CEditView::OnBeginPrinting;
-    using CEditView::OnEndPrinting;
-    using CEditView::OnPrepareDC;
-    using CEditView::OnPrint;
+    using CEditView::OnBeginPrinting, CEditView::OnEndPrinting, CEditView::OnPrepareDC, CEditView::OnPrint;
 };
 IMPLEMENT_DYNCREATE(printed_edit, CEditView)
 
@@ -95,10 +92,7 @@ TEST(AfxScrollView, ScrollsWithinItsDocumentInLogicalUnits) {
     EXPECT_TRUE((view.GetExStyle() & WS_EX_CLIENTEDGE) != 0 && (view.GetStyle() & WS_BORDER) == 0);
     CStatic mark; // goes with what is shown
     ASSERT_TRUE(mark.Create("", WS_CHILD, CRect(0, 0, 5, 5), &view));
-    const auto origin = [&] {
-        CPoint at = on_screen(mark).TopLeft();
-        return view.ScreenToClient(&at), at;
-    };
+    const auto origin = [&] { return place_in(view, mark).TopLeft(); };
     const CRect client = inside_of(view);
     CSize whole, bars;
     EXPECT_TRUE(view.GetTrueClientSize(whole, bars));
@@ -109,16 +103,17 @@ TEST(AfxScrollView, ScrollsWithinItsDocumentInLogicalUnits) {
     scroll(WM_HSCROLL, SB_LINERIGHT);
     EXPECT_EQ(view.GetScrollPosition(), CPoint(10, 165));
     EXPECT_EQ(origin(), CPoint(-10, -165));
-    scroll(WM_VSCROLL, SB_BOTTOM);
-    EXPECT_EQ(view.GetScrollPosition().y, 2000 - client.Height());
-    scroll(WM_VSCROLL, SB_LINEDOWN);
-    EXPECT_EQ(view.GetScrollPosition().y, 2000 - client.Height()) << "not beyond the end";
+    const int end = 2000 - client.Height();
+    for (const UINT code : {SB_BOTTOM, SB_LINEDOWN}) {
+        scroll(WM_VSCROLL, code);
+        EXPECT_EQ(view.GetScrollPosition().y, end) << code;
+    }
     view.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, WHEEL_DELTA));
-    EXPECT_EQ(view.GetScrollPosition().y, 2000 - client.Height() - 3 * 15);
+    EXPECT_EQ(view.GetScrollPosition().y, end - 3 * 15);
     view.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(MK_CONTROL, WHEEL_DELTA));
     view.wheel = 2;
     EXPECT_TRUE(view.DoMouseWheel(0, WHEEL_DELTA, CPoint()));
-    EXPECT_EQ(view.GetScrollPosition().y, 2000 - client.Height() - 9 * 15) << "twice as far, but not with a key";
+    EXPECT_EQ(view.GetScrollPosition().y, end - 9 * 15) << "twice as far, but not with a key";
     view.ScrollToPosition(CPoint(-5, 40));
     EXPECT_EQ(view.GetScrollPosition(), CPoint(0, 40));
     {
@@ -134,8 +129,7 @@ TEST(AfxScrollView, ScrollsWithinItsDocumentInLogicalUnits) {
     view.SetScrollSizes(MM_TEXT, CSize(50, 60));
     view.CheckScrollBars(horizontal, vertical);
     EXPECT_FALSE(horizontal || vertical);
-    EXPECT_EQ(view.GetScrollPosition(), CPoint(0, 0)) << "everything is to be seen";
-    EXPECT_EQ(origin(), CPoint(0, 0));
+    EXPECT_TRUE(view.GetScrollPosition() == CPoint(0, 0) && origin() == CPoint(0, 0)) << "everything is to be seen";
     view.m_bCenter = TRUE;
     CClientDC dc(&view);
     view.OnPrepareDC(&dc);
@@ -177,9 +171,8 @@ TEST(AfxFormView, KeepsItsFocusAndLeavesKeysToTheFrameFirst) {
     ::SetFocus(frame);
     view.SetFocus();
     EXPECT_EQ(::GetFocus(), button->m_hWnd) << "the one that had it";
-    const HeldKeys control({VK_CONTROL});
     MSG command{name->m_hWnd, WM_KEYDOWN, 'T', 0, 0, {}}; // a key of the frame's
-    EXPECT_TRUE(view.PreTranslateMessage(&command));
+    EXPECT_TRUE((HeldKeys({VK_CONTROL}), view.PreTranslateMessage(&command)));
 }
 
 // A bar whose controls are updated like items of a menu.
@@ -211,9 +204,8 @@ TEST(AfxCmdUI, ChecksRadiosInMenusAndAmongControls) {
         frame.UpdateDialogControls(&frame, FALSE);
         frame.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu.GetSubMenu(1)->m_hMenu), 1);
         std::string all;
-        for (CButton& button : buttons) {
+        for (CButton& button : buttons)
             all += text_of(button) + (button.GetCheck() == BST_CHECKED ? "* " : " ");
-        }
         for (const UINT item : {0u, 1u}) {
             const UINT state = menu.GetSubMenu(1)->GetMenuState(item, MF_BYPOSITION);
             CString text;
@@ -272,8 +264,7 @@ public:
     void OnTextNotFound(LPCTSTR text) override { missed.push_back(text); }
     std::string selected() {
         CString text;
-        GetSelectedText(text);
-        return std::string(text);
+        return GetSelectedText(text), std::string(text);
     }
 };
 IMPLEMENT_DYNCREATE(searched_view, CEditView)
@@ -377,8 +368,7 @@ TEST_F(AfxDynamicSplitter, FollowsTheMouseToCrossingsAndBackAgain) {
     send(WM_LBUTTONDOWN, moved);
     send(WM_MOUSEMOVE, moved - CSize(50, 50));
     splitter.SendMessage(WM_KEYDOWN, VK_ESCAPE);
-    EXPECT_EQ(::GetCapture(), nullptr);
-    EXPECT_EQ(first_pane(), first + by) << "the user thought better of it";
+    EXPECT_TRUE(::GetCapture() == nullptr && first_pane() == first + by) << "the user thought better of it";
     send(WM_LBUTTONDOWN, moved);
     splitter.SendMessage(WM_CANCELMODE);
     EXPECT_EQ(::GetCapture(), nullptr);
@@ -407,8 +397,7 @@ TEST_F(AfxDynamicSplitter, SplitsWherePulledAndJoinsWhatBecomesTooSmall) {
     EXPECT_TRUE(splitter.GetPane(1, 0)->IsKindOf(RUNTIME_CLASS(page_view)));
     drag(CPoint(50, first_pane().cy + 3), CPoint(50, 150));
     EXPECT_NEAR(first_pane().cy, 147, 4);
-    EXPECT_TRUE(splitter.SplitColumn(120));
-    EXPECT_EQ(splitter.GetColumnCount(), 2);
+    EXPECT_TRUE(splitter.SplitColumn(120) && splitter.GetColumnCount() == 2);
     frame.SetActiveView(static_cast<CView*>(splitter.GetPane(0, 0)));
     frame.SendMessage(WM_COMMAND, ID_NEXT_PANE);
     EXPECT_EQ(frame.GetActiveView(), splitter.GetPane(0, 1));
@@ -457,16 +446,13 @@ TEST(AfxSplitter, HoldsPanesOfItsOwnAndSplittersAgain) {
     frame.inner.GetRowInfo(0, width, least);
     EXPECT_EQ(width, 80);
     int row = 0, column = 0;
-    EXPECT_TRUE(frame.splitter.IsChildPane(&frame.inner, row, column));
-    EXPECT_EQ(column, 1);
+    EXPECT_TRUE(frame.splitter.IsChildPane(&frame.inner, row, column) && column == 1);
     EXPECT_EQ(CView::GetParentSplitter(frame.inner.GetPane(1, 0), TRUE), &frame.inner);
     frame.SetActiveView(static_cast<CView*>(frame.splitter.GetPane(0, 0)));
     frame.splitter.GetPane(0, 0)->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(MK_CONTROL, WHEEL_DELTA)); // comes back to it
     frame.splitter.SetColumnInfo(0, 150, 10);
     frame.splitter.RecalcLayout();
-    CRect rect = on_screen(frame.inner);
-    frame.splitter.ScreenToClient(&rect);
-    EXPECT_EQ(rect.left, 157);
+    EXPECT_EQ(place_in(frame.splitter, frame.inner).left, 157);
     canvas memory(200, 10);
     memory.PatBlt(0, 0, 200, 10, BLACKNESS);
     frame.splitter.OnDraw(&memory);

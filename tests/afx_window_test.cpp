@@ -21,16 +21,14 @@ TEST(AfxWindow, SeesItsMessagesFromTheFirstToTheLast) {
     EXPECT_EQ(CWnd::FromHandlePermanent(hwnd), &wnd);
     const auto at = [&](UINT message) { return std::find(wnd.seen.begin(), wnd.seen.end(), message); };
     EXPECT_LE(at(WM_NCCREATE) - wnd.seen.begin(), 1) << "at most the size question comes before";
-    EXPECT_LT(at(WM_NCCREATE), at(WM_NCCALCSIZE));
-    EXPECT_LT(at(WM_NCCALCSIZE), at(WM_CREATE));
+    EXPECT_TRUE(at(WM_NCCREATE) < at(WM_NCCALCSIZE) && at(WM_NCCALCSIZE) < at(WM_CREATE));
     ASSERT_NE(at(WM_CREATE), wnd.seen.end());
 
     wnd.seen.clear();
     EXPECT_TRUE(wnd.DestroyWindow());
     ASSERT_GE(wnd.seen.size(), 2u);
     EXPECT_THAT(std::vector(wnd.seen.end() - 2, wnd.seen.end()), ElementsAre(WM_NCDESTROY, recorder::object_released));
-    EXPECT_EQ(wnd.GetSafeHwnd(), nullptr);
-    EXPECT_EQ(CWnd::FromHandlePermanent(hwnd), nullptr);
+    EXPECT_TRUE(wnd.GetSafeHwnd() == nullptr && CWnd::FromHandlePermanent(hwnd) == nullptr);
     EXPECT_FALSE(wnd.DestroyWindow());
 }
 
@@ -39,9 +37,7 @@ TEST(AfxWindow, ReleasesTheObjectOnceWhenCreationFails) {
     refused.refuse = true;
     rejected.accept = false;
     failed.fail = true;
-    EXPECT_FALSE(create_popup(refused));
-    EXPECT_FALSE(create_popup(rejected));
-    EXPECT_FALSE(create_popup(failed));
+    EXPECT_FALSE(create_popup(refused) || create_popup(rejected) || create_popup(failed));
     EXPECT_FALSE(unknown.CreateEx(0, "no such class", "", WS_POPUP, CRect(0, 0, 1, 1), nullptr, 0));
     for (const recorder* wnd : {&refused, &rejected, &unknown, &failed}) {
         EXPECT_EQ(wnd->m_hWnd, nullptr);
@@ -84,7 +80,7 @@ TEST(AfxWindow, OwnsWhatItCreatedAndNothingElse) {
 }
 
 TEST(AfxWindow, IsCentredOverItsOwnerWithinTheWorkArea) {
-    CRect work, place;
+    CRect work;
     ::SystemParametersInfo(SPI_GETWORKAREA, 0, &work, 0);
     CWnd owner, wnd;
     ASSERT_TRUE(create_popup(owner));
@@ -94,8 +90,7 @@ TEST(AfxWindow, IsCentredOverItsOwnerWithinTheWorkArea) {
         owner.MoveWindow(over);
         wnd.SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
         wnd.CenterWindow();
-        wnd.GetWindowRect(&place);
-        return place.TopLeft();
+        return on_screen(wnd).TopLeft();
     };
     EXPECT_NE(::GetClassLongPtr(wnd, GCLP_HCURSOR), 0u);
     const CPoint corner = work.TopLeft();
@@ -128,15 +123,13 @@ TEST(AfxHandles, ObjectsHoldOneUntilItIsTakenFromThem) {
     recorder wnd;
     ASSERT_TRUE(create_popup(wnd));
     const HWND first = wnd.m_hWnd, other = make_plain();
-    EXPECT_FALSE(create_popup(wnd));
-    EXPECT_FALSE(wnd.Attach(other));
+    EXPECT_FALSE(create_popup(wnd) || wnd.Attach(other));
     EXPECT_EQ(wnd.m_hWnd, first);
     EXPECT_EQ(std::count(wnd.seen.begin(), wnd.seen.end(), recorder::object_released), 0);
     CFont font;
     ASSERT_TRUE(font.CreatePointFont(80, "Arial"));
     const HGDIOBJ held = font.m_hObject;
-    EXPECT_FALSE(font.CreatePointFont(90, "Arial"));
-    EXPECT_EQ(font.m_hObject, held);
+    EXPECT_TRUE(!font.CreatePointFont(90, "Arial") && font.m_hObject == held);
 
     CWnd* temporary = CWnd::FromHandle(other);
     temporary->Detach();
@@ -175,9 +168,7 @@ TEST(AfxException, NeverLeavesAWindowProcedure) {
     Texts boxes = the_app.take_boxes();
     ASSERT_EQ(boxes.size(), 6u) << "all but the user exception, which has been told already";
     EXPECT_EQ(boxes[3], "plain words");
-    EXPECT_EQ(boxes[0], boxes[1]);
-    EXPECT_EQ(boxes[0], boxes[2]);
-    EXPECT_NE(boxes[0], boxes[5]);
+    EXPECT_TRUE(boxes[0] == boxes[1] && boxes[0] == boxes[2] && boxes[0] != boxes[5]) << boxes[0];
 
     wnd.m_message = WM_PAINT;
     wnd.Invalidate();

@@ -27,8 +27,7 @@ struct AxisTest : WidgetTest {
     void size(int width, int height) { axis_.MoveWindow(0, 0, width, height); }
 
     void expect_shown(int position, bool time, const std::vector<AxisMark>& marks) {
-        full_repaint(axis_);
-        const Pixels shown = pixels_of(axis_);
+        const Pixels shown = repainted(axis_);
         Picture expected(shown.width, shown.height);
         const AxisLook look = {position, time ? time_ticks_start : value_ticks_start,
                                time ? time_labels_start : value_labels_start};
@@ -129,8 +128,7 @@ TEST_F(AxisTest, AFollowedRangeIsSeenAtOnce) {
         axis_.FollowRange(extent.cx, extent.cx + 6'000);
         EXPECT_FALSE(::GetUpdateRect(axis_, nullptr, FALSE));
         const Pixels seen = pixels_of(axis_);
-        full_repaint(axis_);
-        EXPECT_TRUE(seen.values == pixels_of(axis_).values) << extent.cx;
+        EXPECT_TRUE(seen == repainted(axis_)) << extent.cx;
     }
 }
 
@@ -197,15 +195,13 @@ TEST_F(AxisTest, DraggingTheZoomPaintsAllThatChanges) {
         axis_.SetRange(0.0f, 100.0f); // lays the slider out for this size
         axis_.SendMessage(WM_COMMAND, 100);
         across ? size(300, 70) : size(70, 300); // which the box follows, and the slider does not
-        full_repaint(axis_);
-        const Pixels before = pixels_of(axis_);
+        const Pixels before = repainted(axis_);
         const CPoint end = across ? CPoint(297, 65) : CPoint(position == 1 ? 5 : 65, 297);
         const CPoint middle = across ? CPoint(150, 65) : CPoint(end.x, 150);
         drag(end, middle);
         const Pixels dragged = pixels_of(axis_);
         EXPECT_EQ(dragged == before, position == 0) << "the one at the top cannot be dragged: " << position;
-        full_repaint(axis_);
-        EXPECT_EQ(dragged, pixels_of(axis_)) << "position " << position;
+        EXPECT_EQ(dragged, repainted(axis_)) << "position " << position;
         ::ReleaseCapture();
         mouse(WM_MOUSEMOVE, middle.x, middle.y);
         axis_.SendMessage(WM_COMMAND, 100);
@@ -220,15 +216,14 @@ TEST_F(AxisTest, PointerTellsWhatADragWouldDo) {
         axis_.SetRange(0.0f, 100.0f);
         axis_.SendMessage(WM_COMMAND, 100);
         for (const int at : {3, 150, 297}) {
-            across ? mouse(WM_MOUSEMOVE, at, 295) : mouse(WM_MOUSEMOVE, 295, at);
-            const char* moves = across ? "IDC_AXIS_X_MOVE" : "IDC_AXIS_Y_MOVE";
-            const char* enlarges = across ? "IDC_AXIS_X_ENLARGE" : "IDC_AXIS_Y_ENLARGE";
-            EXPECT_EQ(::GetCursor(), pointer(at == 150 ? moves : enlarges)) << across << at;
-            const CPoint asked = across ? CPoint(at, 295) : CPoint(295, at); // as the system does before each move
-            EXPECT_EQ(pointer_at(axis_, asked), pointer(at == 150 ? moves : enlarges)) << across << at;
+            const CPoint place = across ? CPoint(at, 295) : CPoint(295, at);
+            const HCURSOR shape =
+                pointer(CString("IDC_AXIS_") + (across ? "X_" : "Y_") + (at == 150 ? "MOVE" : "ENLARGE"));
+            mouse(WM_MOUSEMOVE, place.x, place.y);
+            EXPECT_EQ(::GetCursor(), shape) << across << at;
+            EXPECT_EQ(pointer_at(axis_, place), shape) << across << at; // asked as the system does before each move
         }
-        full_repaint(axis_);
-        const Pixels shown = pixels_of(axis_); // the slider is raised
+        const Pixels shown = repainted(axis_); // the slider is raised
         EXPECT_EQ(across ? shown.at(150, 291) : shown.at(292, 150), ::GetSysColor(COLOR_BTNHIGHLIGHT));
         axis_.SendMessage(WM_COMMAND, 100);
     }
@@ -247,24 +242,20 @@ TEST_F(AxisTest, MarksAcrossTheAxisAreEngraved) {
         }
     } axis;
     open(axis, 100, 30);
-    const struct {
-        int position;
-        CRect dark; // without its last row and column
-    } marks[] = {{2, {51, 1, 52, 6}}, {0, {51, 25, 52, 30}}, {1, {18, 50, 30, 51}}, {3, {1, 50, 13, 51}}};
-    for (const auto& mark : marks) {
-        const bool across = mark.position % 2 == 0;
-        axis.SetAxisPosition(mark.position);
+    const CRect marks[] = {{51, 25, 52, 30}, {18, 50, 30, 51}, {51, 1, 52, 6}, {1, 50, 13, 51}}; // their dark parts
+    for (int position = 0; position < 4; ++position) {
+        const CRect& mark = marks[position];
+        const bool across = position % 2 == 0;
+        axis.SetAxisPosition(position);
         axis.MoveWindow(0, 0, across ? 100 : 30, across ? 30 : 100);
-        full_repaint(axis);
-        const Pixels shown = pixels_of(axis);
+        const Pixels shown = repainted(axis);
         for (int y = 0; y < shown.height; ++y)
             for (int x = 0; x < shown.width; ++x) {
-                const bool dark = ::PtInRect(&mark.dark, {x, y});
-                const bool light = ::PtInRect(&mark.dark, {x - across, y - !across});
+                const bool dark = mark.PtInRect({x, y}), light = mark.PtInRect({x - across, y - !across});
                 EXPECT_EQ(shown.at(x, y), dark    ? ::GetSysColor(COLOR_BTNSHADOW)
                                           : light ? ::GetSysColor(COLOR_BTNHIGHLIGHT)
                                                   : poison)
-                    << mark.position << ": " << x << ',' << y;
+                    << position << ": " << x << ',' << y;
             }
     }
 }
@@ -293,12 +284,12 @@ TEST_F(AxisTest, DoubleClicksAreTold) {
 }
 
 TEST_F(AxisTest, KnowsItsCurrentDay) {
-    short year = 0, month = 0, day = 0;
+    short date[3] = {};
     axis_.SetCurrentDay(2026, 11, 23);
-    axis_.GetCurrentDay(&year, &month, nullptr);
-    EXPECT_EQ(year, 0);
-    axis_.GetCurrentDay(&year, &month, &day);
-    EXPECT_EQ((std::array{year, month, day}), (std::array<short, 3>{2026, 11, 23}));
+    axis_.GetCurrentDay(&date[0], &date[1], nullptr);
+    EXPECT_THAT(date, testing::Each(0));
+    axis_.GetCurrentDay(&date[0], &date[1], &date[2]);
+    EXPECT_THAT(date, testing::ElementsAre(2026, 11, 23));
 }
 
 TEST_F(AxisTest, PropertiesShowAndChangeNothing) {

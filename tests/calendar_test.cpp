@@ -105,17 +105,17 @@ TEST_F(CalendarTest, ScrollsByWeeks) {
 }
 
 TEST_F(CalendarTest, ShowsTheDateThatIsSet) {
+    const auto noon_of = [](Days day) { return CTime((day.time_since_epoch().count() * 24 + 12) * 3600); };
     const Days set = today_ + weeks(70);
-    const CTime noon((set.time_since_epoch().count() * 24 + 12) * 3600);
+    const CTime noon = noon_of(set);
     drag(WM_LBUTTONDOWN, 60);
     drag(WM_MOUSEMOVE, 125);
-    EXPECT_TRUE(calendar_.SetShownDate(noon));
-    EXPECT_EQ(::GetCapture(), nullptr);
+    EXPECT_TRUE(calendar_.SetShownDate(noon) && ::GetCapture() == nullptr);
     calendar_.UpdateWindow();
     expect_shown(set);
     EXPECT_EQ(calendar_.GetShownDate().GetTime(), noon.GetTime());
     const Days early = Days(std::chrono::year(2005) / 5 / 2); // of the year "05"
-    EXPECT_TRUE(calendar_.SetShownDate(CTime((early.time_since_epoch().count() * 24 + 12) * 3600)));
+    EXPECT_TRUE(calendar_.SetShownDate(noon_of(early)));
     calendar_.UpdateWindow();
     expect_shown(early);
     EXPECT_TRUE(calendar_.SetShownDate(noon));
@@ -173,8 +173,7 @@ TEST_F(CalendarTest, MenusOfTheRegions) {
     const int year = int{std::chrono::year_month_day(today_).year()};
     EXPECT_EQ(entries[0], std::pair(200u, std::to_string(year - 3)));
     EXPECT_EQ(entries[9], std::pair(209u, std::to_string(year + 6)));
-    EXPECT_EQ(entries[11], std::pair(113u, std::string("Menu schlie\xDF"
-                                                       "en")));
+    EXPECT_EQ(entries[11], std::pair(113u, std::string("Menu schlie\337en")));
 
     open_menu(150, 100, 0);
     CPoint clicked(150, 100);
@@ -208,10 +207,7 @@ TEST_F(CalendarTest, StaysUsableBeyondItsDates) {
         calendar_.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(150, 5));
     EXPECT_TRUE(program.boxes.empty());
     expect_no_dates(1);
-    drag(WM_LBUTTONDOWN, 60);
-    drag(WM_MOUSEMOVE, 200);
-    drag(WM_MOUSEMOVE, -20'000);
-    drag(WM_LBUTTONUP, 100);
+    drag(WM_LBUTTONDOWN, 60), drag(WM_MOUSEMOVE, 200), drag(WM_MOUSEMOVE, -20'000), drag(WM_LBUTTONUP, 100);
     for (int i = 0; i < 55'000; ++i) // beyond the year 3000
         calendar_.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(150, height - 5));
     expect_no_dates(2);

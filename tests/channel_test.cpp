@@ -10,8 +10,7 @@ namespace {
 TEST(ChannelSettings, OutOfBoundsAreRepaired) {
     ChannelSettings settings;
     settings.view = 99;
-    settings.lower = 20000;
-    settings.upper = -20000;
+    settings.lower = 20000, settings.upper = -20000;
     settings.low_limit = 5, settings.high_limit = -5;
     settings.rate = 0; // would divide
     settings.factor = std::numeric_limits<double>::quiet_NaN();
@@ -25,8 +24,8 @@ TEST(ChannelSettings, OutOfBoundsAreRepaired) {
     EXPECT_TRUE(settings.low_limit == 9999 && settings.high_limit == 9999);
     EXPECT_TRUE(settings.rate == 1 && settings.factor == 1);
     EXPECT_EQ(settings.name.GetLength(), ChannelSettings::most_characters);
-    EXPECT_EQ(settings.last_calibration, ChannelSettings::FirstDate());
-    EXPECT_EQ(settings.next_calibration, ChannelSettings::LastDate());
+    EXPECT_TRUE(settings.last_calibration == ChannelSettings::FirstDate() &&
+                settings.next_calibration == ChannelSettings::LastDate());
 }
 
 TEST(SimulatedChannel, StaysInItsRangeAndUsesIt) {
@@ -38,8 +37,7 @@ TEST(SimulatedChannel, StaysInItsRangeAndUsesIt) {
         std::set<int> seen;
         for (int i = 0; i < 600; ++i)
             seen.insert(channel.Next(settings));
-        EXPECT_GE(*seen.begin(), -40) << shape;
-        EXPECT_LE(*seen.rbegin(), 60) << shape;
+        EXPECT_TRUE(*seen.begin() >= -40 && *seen.rbegin() <= 60) << shape;
         EXPECT_GT(*seen.rbegin() - *seen.begin(), 60) << shape;
     }
     ChannelSettings damped, bare;

@@ -101,9 +101,8 @@ TEST_F(ColorSelTest, ShowsThePaletteAndTellsPicks) {
     selector_.Set3DCells(1);
     selector_.UpdateWindow();
     EXPECT_NE(pixels_of(selector_), flat);
-    selector_.SetColorPalette(nullptr, 16);
     DWORD table[] = {0};
-    selector_.SetColorPalette(table, 0);
+    selector_.SetColorPalette(nullptr, 16), selector_.SetColorPalette(table, 0);
     selector_.SetColorPalette(table, -1); // none of these takes the palette away
     full_repaint(selector_);
     EXPECT_EQ(pick(130, 45), 6);
@@ -120,13 +119,11 @@ TEST_F(ColorSelTest, EveryPixelFollowsItsSettings) {
     char name[] = "item";
     char* names[] = {name};
     int item = 0;
+    const CSize whole(335, 205);
     for (int mode = 0; mode < 32; ++mode) {
         const bool edged = mode & 1, hover = mode & 2, sliders = mode & 4, items = mode & 8, in_strip = mode & 16;
-        selector_.Set3DCells(edged);
-        selector_.SetHoverSample(hover);
-        selector_.ShowSliders(sliders);
+        selector_.Set3DCells(edged), selector_.SetHoverSample(hover), selector_.ShowSliders(sliders);
         selector_.SetColorItems(items ? names : nullptr, &item, 1);
-        const CSize whole(335, 205);
         selector_.MoveWindow(0, 0, whole.cx, whole.cy);
         const int left = sliders ? 60 : 0;
         const CSize surface(items ? (whole.cx - left) / 2 : whole.cx - left, whole.cy);
@@ -150,41 +147,39 @@ TEST_F(ColorSelTest, ItemsTakeThePickedColour) {
     char cherry[] = "cherry", apple[] = "apple";
     char* names[] = {cherry, apple};
     int colours[] = {3, 4};
+    CWnd& names_list = *selector_.GetDlgItem(list_id);
     selector_.SetColorItems(names, nullptr, 2);
-    EXPECT_FALSE(selector_.GetDlgItem(list_id)->IsWindowVisible());
+    EXPECT_FALSE(names_list.IsWindowVisible());
     selector_.SetColorItems(names, colours, 2);
-    EXPECT_TRUE(selector_.GetDlgItem(list_id)->IsWindowVisible());
-    EXPECT_EQ(place_in(selector_, *selector_.GetDlgItem(list_id)), CRect(80, 0, 160, 90));
+    EXPECT_TRUE(names_list.IsWindowVisible() && place_in(selector_, names_list) == CRect(80, 0, 160, 90));
 
     LOGFONT font = {};
-    ::GetObject(reinterpret_cast<HFONT>(selector_.GetDlgItem(list_id)->SendMessage(WM_GETFONT)), sizeof font, &font);
+    ::GetObject(reinterpret_cast<HFONT>(names_list.SendMessage(WM_GETFONT)), sizeof font, &font);
     EXPECT_EQ(font.lfHeight, -11); // 8 points at 96 dots an inch, as a surface shows them
 
     full_repaint(selector_);
-    CWnd& names_list = *selector_.GetDlgItem(list_id);
     char first[20] = "";
     names_list.SendMessage(LB_GETTEXT, 0, reinterpret_cast<LPARAM>(first));
     EXPECT_STREQ(first, "apple");
-    names_list.SendMessage(LB_SETCURSEL, 1); // "cherry" after sorting, but the second item
-    selector_.SendMessage(WM_COMMAND, MAKEWPARAM(list_id, LBN_DBLCLK), 0);
+    const auto choose = [&](WPARAM item, WORD code = LBN_SELCHANGE) {
+        names_list.SendMessage(LB_SETCURSEL, item);
+        selector_.SendMessage(WM_COMMAND, MAKEWPARAM(list_id, code), 0);
+    };
+    choose(1, LBN_DBLCLK);    // "cherry" after sorting, but the second item
     EXPECT_EQ(colours[1], 4); // the sample shows the item's own
     full_repaint(selector_);
     EXPECT_EQ(colours[1], 0); // it is the selected one that the paint wrote into
     colours[1] = 4;
-    names_list.SendMessage(LB_SETCURSEL, 0);
-    selector_.SendMessage(WM_COMMAND, MAKEWPARAM(list_id, LBN_SELCHANGE), 0);
+    choose(0);
     full_repaint(selector_);
     EXPECT_EQ(colours[1], 4);
-    names_list.SendMessage(LB_SETCURSEL, 1);
-    selector_.SendMessage(WM_COMMAND, MAKEWPARAM(list_id, LBN_SELCHANGE), 0);
+    choose(1);
     EXPECT_EQ(selector_.GetSelectedColorID(), 0); // unchanged by the list
     EXPECT_EQ(pick(25, 45), 2);
-    EXPECT_EQ(colours[0], 0); // the first paint gave the first item the selected colour
-    EXPECT_EQ(colours[1], 2);
-    EXPECT_EQ(selector_.GetSelectedColor(), 0u); // two items: no colour with the number 2
+    EXPECT_THAT(colours, testing::ElementsAre(0, 2)); // the first paint gave the first item the selected colour
+    EXPECT_EQ(selector_.GetSelectedColor(), 0u);      // two items: no colour with the number 2
     selector_.SetSelectedColorID(1);
-    EXPECT_EQ(selector_.GetSelectedColor(), 1u);
-    EXPECT_EQ(colours[1], 1);
+    EXPECT_TRUE(selector_.GetSelectedColor() == 1 && colours[1] == 1);
     selector_.SetColorItems(nullptr, nullptr, 0);
     full_repaint(selector_);
     pick(50, 45);
@@ -221,9 +216,7 @@ TEST_F(ColorSelTest, OddPalettesAndPanelsAreHarmless) {
     char* names[] = {name};
     int colours[] = {INT_MAX};
     selector_.SetColorItems(names, colours, 1);
-    selector_.Set3DCells(1);
-    selector_.SetHoverSample(1);
-    selector_.ShowSliders(1);
+    selector_.Set3DCells(1), selector_.SetHoverSample(1), selector_.ShowSliders(1);
     const std::pair<DWORD*, int> palettes[] = {{few, 7}, {few, 1}, {many.data(), 256}, {few, -3}, {nullptr, 4}};
     for (const auto& [table, count] : palettes) {
         selector_.SetColorPalette(table, count);
@@ -234,8 +227,7 @@ TEST_F(ColorSelTest, OddPalettesAndPanelsAreHarmless) {
                 selector_.GetSelectedColor();
                 full_repaint(selector_);
             }
-            pick(1, 1);
-            pick(-5, 400);
+            pick(1, 1), pick(-5, 400);
         }
     }
 }

@@ -95,15 +95,15 @@ TEST(AxisConversion, EndsOfBothOrientations) {
     AxisModel across = axis_of(axis_top, 300), up = axis_of(axis_right, 300);
     const auto pixels = [](AxisModel& axis) {
         const float below = std::nextafter(0.0f, -1.0f), above = std::nextafter(100.0f, 200.0f);
-        return std::vector{pixel_of(axis, below),   pixel_of(axis, 0.0f),    pixel_of(axis, 100.0f),
-                           pixel_of(axis, above),   clamped_pixel(axis, -7), clamped_pixel(axis, 50),
-                           clamped_pixel(axis, 700)};
+        return std::vector{pixel_of(axis, below),   pixel_of(axis, 0.0f),     pixel_of(axis, 100.0f),
+                           pixel_of(axis, above),   clamped_pixel(axis, -7),  clamped_pixel(axis, 0),
+                           clamped_pixel(axis, 50), clamped_pixel(axis, 100), clamped_pixel(axis, 700)};
     };
     EXPECT_THAT(pixels(across), ElementsAre(Pair(-1, -1), Pair(0, 0), Pair(0, 300), Pair(1, 301), // free
-                                            Pair(0, 0), Pair(1, 150), Pair(0, 300)));             // clamped
+                                            Pair(0, 0), Pair(1, 0), Pair(1, 150), Pair(1, 300), Pair(0, 300)));
     // The added half truncates to one short of the upper end.
     EXPECT_THAT(pixels(up), ElementsAre(Pair(-1, 301), Pair(0, 300), Pair(0, 1), Pair(1, -1), // free
-                                        Pair(0, 300), Pair(1, 150), Pair(0, 0)));             // clamped
+                                        Pair(0, 300), Pair(1, 300), Pair(1, 150), Pair(1, 0), Pair(0, 0)));
     for (AxisModel* axis : {&across, &up}) {
         float value = -1;
         EXPECT_TRUE(axis->calc_float_coord(-1, &value) == 0 && axis->calc_float_coord(301, &value) == 0 && value == -1);

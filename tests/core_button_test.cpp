@@ -20,8 +20,11 @@ TEST(ButtonModel, StoresWhatScriptsAndBlocksSay) {
     model.painted();
     load(std::array{":MSG=x", ":DEPTH=5", ":ID=other", ":UNITTITLE=x", ":NOTITLE=x"});
     EXPECT_EQ(model.repaint_mask(), 0);
-    load(std::array{":WORDWRAP=x"});
-    EXPECT_EQ(model.repaint_mask(), button_background);
+    for (const char* line : {":WORDWRAP=x", ":TITLE=x", ":ALIGN=LEFT", ":VISIBLE=1", ":FRAME=1", ":CLRTEXT=RED"}) {
+        model.painted();
+        load(std::array{line});
+        EXPECT_EQ(model.repaint_mask(), button_background) << line;
+    }
 
     load(std::array{":TYPE=x", ":TITLESTYLE=x", ":ALIGN=MIDDLE", ":BORDERTYPE=3DUP ", ":CLRSUN=Blue"}); // no such words
     EXPECT_TRUE(p.type == -1 && p.titlestyle == 255 && p.align == 255 && p.bordertype == -1 && p.clrsun == 255);

@@ -66,10 +66,8 @@ TEST(SharedMemory, IsNullWhereThereIsNoSuchBlock) {
         none.Scramble();
     }
     const CWntShMem small("zopwnt test small", 4000);
-    const CWntShMem larger("zopwnt test small", 40'000);
-    EXPECT_EQ(larger.GetPtr(), nullptr);
-    const CWntShMem long_name(std::string(5000, 'x').c_str(), 4000);
-    EXPECT_EQ(long_name.GetPtr(), nullptr);
+    EXPECT_EQ(CWntShMem("zopwnt test small", 40'000).GetPtr(), nullptr);
+    EXPECT_EQ(CWntShMem(std::string(5000, 'x').c_str(), 4000).GetPtr(), nullptr);
 }
 
 constexpr int picture_width = 60;
@@ -150,14 +148,10 @@ TEST_F(SplashTest, PaletteIsTheBitmapsOwnOnScreensOfFewColours) {
     const char* depth = std::strrchr(::GetCommandLineA(), ' ');  // the last argument, where there is one
     const bool few_colours = depth && std::atoi(depth) == 8;
     ASSERT_EQ(CClientDC(nullptr).GetDeviceCaps(BITSPIXEL) <= 8, few_colours);
-    if (!few_colours) {
-        EXPECT_GT(palette.GetEntryCount(), 2);
-    } else {
-        PALETTEENTRY entries[2] = {};
-        palette.GetPaletteEntries(0, 2, entries);
-        EXPECT_EQ(RGB(entries[0].peRed, entries[0].peGreen, entries[0].peBlue), lower_colour);
-        EXPECT_EQ(RGB(entries[1].peRed, entries[1].peGreen, entries[1].peBlue), upper_colour);
-    }
+    PALETTEENTRY own[2] = {};
+    palette.GetPaletteEntries(0, 2, own);
+    const auto is = [](PALETTEENTRY e, COLORREF colour) { return RGB(e.peRed, e.peGreen, e.peBlue) == colour; };
+    EXPECT_TRUE(few_colours ? is(own[0], lower_colour) && is(own[1], upper_colour) : palette.GetEntryCount() > 2);
     EXPECT_FALSE(splash.GetBitmapAndPalette(2, bitmap, palette));
     EXPECT_FALSE(Splash(1000, 148).Create()); // the library's own bitmap is not the host's
 }
@@ -238,7 +232,7 @@ TEST(ErrorBox, ShowsItsThreeTextsOnTheWindowColour) {
 
 TEST(ErrorBox, BreaksEndlessWords) {
     const CString endless('x', 200'000); // kept the box from appearing for a minute
-    std::string shown = shown_by(CWntErrorBox(endless, "message", endless));
+    const std::string shown = shown_by(CWntErrorBox(endless, "message", endless));
     EXPECT_EQ(std::count(shown.begin(), shown.end(), 'x'), 400'000);
     EXPECT_EQ(shown.find(std::string(1001, 'x')), std::string::npos);
     EXPECT_NE(shown.find("|message|"), std::string::npos);
@@ -258,8 +252,7 @@ TEST(FileSel, OpensInTheMiddleOfItsParent) {
             ::PostMessage(::GetParent(choice.m_hWnd), WM_COMMAND, IDOK, 0);
             return true;
         });
-        EXPECT_EQ(choice.DoModal(), IDOK);
-        EXPECT_EQ(choice.GetFileName(), "ZOPWNT.dll");
+        EXPECT_TRUE(choice.DoModal() == IDOK && choice.GetFileName() == "ZOPWNT.dll");
         EXPECT_NEAR(place.CenterPoint().x, 600, 2);
         EXPECT_NEAR(place.CenterPoint().y, 400, 2);
     }

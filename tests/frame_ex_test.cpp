@@ -20,10 +20,8 @@ struct FrameExTest : ControlTest<AnsweringHost<WntFrameNotify, &WntFrameNotify::
 TEST_F(FrameExTest, ScrollsWhatDoesNotFit) {
     EXPECT_EQ(bars(), 0);
     EXPECT_EQ(on_screen(*frame_.GetContent()).top, 1 + frame_.GetHeaderHeight());
-    EXPECT_EQ(frame_.SetContentSize(150, 400), 1);
-    EXPECT_EQ(bars(), 1);
-    EXPECT_EQ(frame_.SetContentSize(190, 400), 1); // the first bar leaves no room for this width
-    EXPECT_EQ(bars(), 2);
+    for (const auto& [width, shown] : {std::pair{150, 1}, {190, 2}}) // one bar leaves no room for the second width
+        EXPECT_TRUE(frame_.SetContentSize(width, 400) == 1 && bars() == shown) << width;
     frame_.SetContentSize(300, on_screen(*frame_.GetContent()).Height() + ::GetSystemMetrics(SM_CYHSCROLL));
     EXPECT_EQ(bars(), 2); // the bar below takes room that the height would just have had
     frame_.SetContentSize(150, 400);
@@ -44,8 +42,7 @@ TEST_F(FrameExTest, ScrollsWhatDoesNotFit) {
         EXPECT_EQ(on_screen(child_).top, top - 16 * steps) << code;
     }
     frame_.MoveWindow(0, 0, 200, 600); // there is room now: nothing stays scrolled away
-    EXPECT_EQ(on_screen(child_).top, top);
-    EXPECT_EQ(bars(), 0);
+    EXPECT_TRUE(on_screen(child_).top == top && bars() == 0);
     EXPECT_EQ(frame_.SetContentSize(-1, 5), 0);
 }
 
@@ -60,20 +57,16 @@ TEST_F(FrameExTest, ScrollingShowsWhatAFullRepaintShows) {
 TEST_F(FrameExTest, FoldsByItsHeaderAndByKeys) {
     const int folded = frame_.GetHeaderHeight() + 2; // and the border
     frame_.SendMessage(WM_LBUTTONDOWN, 0, MAKELPARAM(50, 10));
-    EXPECT_EQ(on_screen(frame_).Height(), folded);
-    EXPECT_FALSE(child_.IsWindowVisible());
+    EXPECT_TRUE(on_screen(frame_).Height() == folded && !child_.IsWindowVisible());
     frame_.SendMessage(WM_KEYDOWN, VK_SPACE, 0);
-    EXPECT_EQ(on_screen(frame_).Height(), 150);
-    EXPECT_TRUE(child_.IsWindowVisible());
-    frame_.SendMessage(WM_KEYDOWN, VK_LEFT, 0);
-    frame_.SendMessage(WM_KEYDOWN, VK_RIGHT, 0);
-    frame_.SendMessage(WM_KEYDOWN, VK_RIGHT, 0);
+    EXPECT_TRUE(on_screen(frame_).Height() == 150 && child_.IsWindowVisible());
+    for (const UINT key : {VK_LEFT, VK_RIGHT, VK_RIGHT})
+        frame_.SendMessage(WM_KEYDOWN, key, 0);
     frame_.SendMessage(WM_LBUTTONDOWN, 0, MAKELPARAM(50, 100)); // not the header
     const std::tuple closed(WNT_FRAME_FOLDED, 1, folded), open(WNT_FRAME_FOLDED, 0, 150);
     EXPECT_THAT(host_.told, testing::ElementsAre(closed, open, closed, open));
     EXPECT_EQ(frame_.Fold(0) + frame_.IsFolded(), 0);
-    EXPECT_EQ(frame_.Fold(1), 1);
-    EXPECT_EQ(host_.told.size(), 4u); // calls tell nothing
+    EXPECT_TRUE(frame_.Fold(1) == 1 && host_.told.size() == 4); // calls tell nothing
 
     frame_.SetFocus();
     const Pixels focused = repainted(frame_);
@@ -86,8 +79,7 @@ TEST_F(FrameExTest, HoldsAToolAndAnchors) {
     CButton tool;
     ASSERT_TRUE(tool.Create("x", WS_CHILD | WS_VISIBLE, CRect(0, 0, 30, 90), &frame_, 7));
     EXPECT_EQ(frame_.SetTool(&tool), 1);
-    EXPECT_EQ(on_screen(tool).right, 200 - 1 - 2);
-    EXPECT_EQ(on_screen(tool).Height(), frame_.GetHeaderHeight() - 2);
+    EXPECT_TRUE(on_screen(tool).right == 200 - 1 - 2 && on_screen(tool).Height() == frame_.GetHeaderHeight() - 2);
     tool.MoveWindow(0, 0, 30, 5);
     frame_.SetTitle("Limits");
     EXPECT_EQ(on_screen(tool).Height(), 5);
@@ -105,8 +97,7 @@ TEST_F(FrameExTest, HoldsAToolAndAnchors) {
     tool.SendMessage(BM_CLICK);
     child_.SendMessage(BM_CLICK);
     EXPECT_THAT(host_.commands, testing::ElementsAre(7u, 2u));
-    EXPECT_EQ(frame_.SetTool(nullptr), 1);
-    EXPECT_FALSE(tool.IsWindowVisible());
+    EXPECT_TRUE(frame_.SetTool(nullptr) == 1 && !tool.IsWindowVisible());
 }
 
 TEST_F(FrameExTest, KeepsItsContentWhileFoldedOrHidden) {
@@ -130,13 +121,13 @@ TEST_F(FrameExTest, KeepsItsContentWhileFoldedOrHidden) {
     EXPECT_EQ(on_screen(child_).top, before.top - (400 - (150 - 2 - frame_.GetHeaderHeight())));
     frame_.ShowWindow(SW_SHOW);
     frame_.SetFocus();
-    frame_.SendMessage(WM_KEYDOWN, VK_HOME, 0);
-    EXPECT_EQ(on_screen(child_).top, before.top);
-    frame_.SendMessage(WM_KEYDOWN, VK_DOWN, 0);
-    EXPECT_EQ(on_screen(child_).top, before.top - 16);
     const int page = 150 - 2 - frame_.GetHeaderHeight();
-    for (const auto& [key, down] :
-         {std::pair{VK_UP, 0}, {VK_NEXT, page}, {VK_END, 400 - page}, {VK_PRIOR, 400 - 2 * page}}) {
+    for (const auto& [key, down] : {std::pair{VK_HOME, 0},
+                                    {VK_DOWN, 16},
+                                    {VK_UP, 0},
+                                    {VK_NEXT, page},
+                                    {VK_END, 400 - page},
+                                    {VK_PRIOR, 400 - 2 * page}}) {
         frame_.SendMessage(WM_KEYDOWN, key, 0);
         EXPECT_EQ(on_screen(child_).top, before.top - down) << key;
     }

@@ -38,16 +38,13 @@ TEST_F(FrameTest, BorderAndTitleStandWhereTheScriptSays) {
 
     EXPECT_TRUE(extent(yellow).IsRectEmpty());
     script({":BORDERTYPE=NOBORDER", ":TITLE=III"});
-    const char* words[] = {"BOTTOMLEFT", "BOTTOMRIGHT", "BOTTOMCENTER", nullptr,       "TOPLEFT",     "TOPRIGHT",
-                           "TOPCENTER",  nullptr,       "CENTERLEFT",   "CENTERRIGHT", "CENTERCENTER"};
-    for (int i = 0; i < 11; ++i) {
-        if (!words[i])
-            continue;
-        script({CString(":ALIGN=") + words[i]});
-        const CPoint at = extent(yellow).CenterPoint();
-        EXPECT_EQ(at.x < 60 ? 0 : at.x > 140 ? 1 : 2, i % 4) << words[i];
-        EXPECT_EQ(at.y > 66 ? 0 : at.y < 33 ? 1 : 2, i / 4) << words[i];
-    }
+    for (const CString down : {"TOP", "CENTER", "BOTTOM"})
+        for (const CString across : {"LEFT", "CENTER", "RIGHT"}) {
+            script({":ALIGN=" + down + across});
+            const CPoint at = extent(yellow).CenterPoint();
+            EXPECT_EQ(at.x < 60 ? "LEFT" : at.x > 140 ? "RIGHT" : "CENTER", across);
+            EXPECT_EQ(at.y < 33 ? "TOP" : at.y > 66 ? "BOTTOM" : "CENTER", down);
+        }
     script({":TITLE=a title that is much too long for a panel of two hundred"}); // cut, not written over the edge
     EXPECT_TRUE(extent(yellow).left >= 2 && extent(yellow).right <= 198);
     const TemporaryFile file(":TITLE=\r\n:BORDERTYPE=FLAT\r\n");
@@ -70,8 +67,7 @@ TEST_F(FrameTest, ChildrenStayAtTheirAnchors) {
     const int strip = frame_.GetContentRect().top - 1;
     EXPECT_GT(strip, 8);
     EXPECT_EQ(place(gauge), CRect(10, 10 + strip, 210, 140));
-    EXPECT_EQ(frame_.RemoveAnchor(&gauge), 1);
-    EXPECT_EQ(frame_.RemoveAnchor(&gauge), 0);
+    EXPECT_TRUE(frame_.RemoveAnchor(&gauge) == 1 && frame_.RemoveAnchor(&gauge) == 0);
     frame_.MoveWindow(0, 0, 5, 5);
     frame_.MoveWindow(0, 0, 300, 150);
     EXPECT_EQ(place(gauge), CRect(10, 10 + strip, 210, 140));
@@ -88,12 +84,8 @@ TEST_F(FrameTest, PaintsOnlyWhatIsUncovered) {
     CButton child;
     ASSERT_TRUE(child.Create("child", WS_CHILD | WS_VISIBLE, CRect(20, 20, 100, 60), &frame_, 2));
     full_repaint(frame_);
-    {
-        CClientDC dc(&child);
-        dc.FillSolidRect(CRect(0, 0, 80, 40), poison);
-        CClientDC ground(&frame_);
-        ground.FillSolidRect(CRect(150, 50, 160, 60), poison);
-    }
+    CClientDC(&child).FillSolidRect(CRect(0, 0, 80, 40), poison);
+    CClientDC(&frame_).FillSolidRect(CRect(150, 50, 160, 60), poison);
     frame_.InvalidateRect(CRect(0, 0, 120, 100), FALSE);
     frame_.UpdateWindow();
     EXPECT_EQ(pixels_of(frame_).count(poison), 80 * 40 + 10 * 10); // neither the child nor what was valid

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <initializer_list>
 
+/// As an operand before a comma: as long as the whole expression.
 struct HeldKeys {
     /// The state: 0x80 down, 1 switched on.
     explicit HeldKeys(std::initializer_list<int> keys, BYTE state = 0x80) {

@@ -76,24 +76,22 @@ struct TextTest : SurfaceTest {
 };
 
 TEST_F(TextTest, AlignmentPutsTheStringAtItsPoint) {
-    const struct {
-        int align;
-        double side; // the share of the text that lies left of x
-        int drop;    // above y
-        bool stands; // there, or hangs from there
-    } cases[] = {{0, 0, 0, true},   {1, 1, 0, true},      {2, 0.5, 0, true}, {4, 0, 20, false}, {8, 0, 10, false},
-                 {9, 1, 10, false}, {10, 0.5, 10, false}, {7, 0, 20, true},  {-1, 0, 10, true}, {16, 0, 0, true}};
+    // The share of the text that lies left of x, how far above y it is, and whether it stands there or hangs from
+    // there.
+    const std::tuple<int, double, int, bool> cases[] = {
+        {0, 0, 0, true},   {1, 1, 0, true},      {2, 0.5, 0, true}, {4, 0, 20, false}, {8, 0, 10, false},
+        {9, 1, 10, false}, {10, 0.5, 10, false}, {7, 0, 20, true},  {-1, 0, 10, true}, {16, 0, 0, true}};
     const LONG across = width(plain_ink("Arial", 200));
-    for (const auto& c : cases) {
-        const RECT box = ink([&](CWntOut& o) {
+    for (const auto& [align, side, drop, stands] : cases) {
+        const RECT box = ink([&, align = align](CWntOut& o) {
             o.settext(0, 0, 0, 33, 0, 0); // 19.8 points: drop counts whole ones
             o.fontsize = 200;
-            o.chars(200, 60, word, c.align);
+            o.chars(200, 60, word, align);
             EXPECT_EQ(o.linecolour_, ::GetTextColor(o.dc));
         });
-        EXPECT_NEAR(box.left + c.side * width(box), 200, 4) << c.align;
-        EXPECT_NEAR(width(box), across, 2) << c.align;
-        EXPECT_NEAR(c.stands ? box.bottom : box.top, 60 + c.drop + (c.stands ? 2 : -5), 4) << c.align;
+        EXPECT_NEAR(box.left + side * width(box), 200, 4) << align;
+        EXPECT_NEAR(width(box), across, 2) << align;
+        EXPECT_NEAR(stands ? box.bottom : box.top, 60 + drop + (stands ? 2 : -5), 4) << align;
     }
 }
 
@@ -126,8 +124,7 @@ TEST_F(TextTest, SizesAndFaces) {
         ::DeleteObject(font);
     });
     EXPECT_EQ(CRect(arial), CRect(by_hand));
-    EXPECT_EQ(width(title("Arial", 0, 60)), 0);
-    EXPECT_EQ(width(title("Arial", 160, 0)), 0);
+    EXPECT_EQ(width(title("Arial", 0, 60)) + width(title("Arial", 160, 0)), 0);
 }
 
 TEST_F(TextTest, LengthsAndSizesAreBounded) {
@@ -166,9 +163,8 @@ TEST_F(TextTest, FontServiceOfTheFrontEnd) {
                                                   CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, &registered)));
     const LONG references = service.references;
     ASSERT_EQ(out.getZopguiFont(&font, ZOPFONT_PROPORTIONAL), 1);
-    EXPECT_EQ(service.asked, 2);
+    EXPECT_TRUE(service.asked == 2 && font.lfWeight == FW_BOLD);
     EXPECT_STREQ(font.lfFaceName, "Liberation Mono");
-    EXPECT_EQ(font.lfWeight, FW_BOLD);
     EXPECT_EQ(out.getZopguiFontCodepage(), 932u); // of the character set
     // The service's height of -16 pixels enters the sum in its own unit: 10 x (-1 + 1) + 16 + 80.
     ASSERT_EQ(font.lfHeight, -16);

@@ -94,8 +94,7 @@ TEST(HistoryPage, ADayWithoutRecordingEndsTheReadingOfTheDayBefore) {
     page.OpenDay(*page.Days().begin());
     EXPECT_TRUE(page.Chart().IsReading());
     page.OpenDay({1999, 1, 1});
-    EXPECT_FALSE(page.Chart().IsReading());
-    EXPECT_EQ(page.Chart().GetSampleCount(0), 0);
+    EXPECT_FALSE(page.Chart().IsReading() || page.Chart().GetSampleCount(0));
     std::filesystem::remove_all("temporary_recordings");
 }
 
@@ -108,9 +107,8 @@ TEST(PlantChart, LeavesItsCommandOutOfTheMenu) {
     for (const UINT command : {WNT_PULSE_CMD_RECORD, WNT_PULSE_CMD_OPEN, WNT_PULSE_CMD_PRINT})
         menu.AppendMenu(MF_STRING, command, "Command");
     chart.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu.m_hMenu));
-    ASSERT_EQ(menu.GetMenuItemCount(), 2);
-    EXPECT_EQ(menu.GetMenuItemID(0), WNT_PULSE_CMD_RECORD);
-    EXPECT_EQ(menu.GetMenuItemID(1), WNT_PULSE_CMD_PRINT);
+    EXPECT_THAT((std::array{menu.GetMenuItemID(0), menu.GetMenuItemID(1), menu.GetMenuItemID(2)}),
+                testing::ElementsAre(WNT_PULSE_CMD_RECORD, WNT_PULSE_CMD_PRINT, UINT(-1)));
 }
 
 TEST(FrontEndSettings, AreKeptAndRepaired) {

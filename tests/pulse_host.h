@@ -57,6 +57,12 @@ struct PulseFixture : ControlTest<AnsweringHost<WntPulseNotify, &WntPulseNotify:
         ::SendMessage(window, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(to, y));
         ::SendMessage(window, WM_LBUTTONUP, 0, MAKELPARAM(to, y));
     }
+    std::pair<int, int> rows(int curve, double first, double second) {
+        const double values[] = {first, second};
+        int at[2] = {};
+        EXPECT_EQ(chart_.ValuesToScreen(curve, values, 2, at), 1);
+        return {at[0], at[1]};
+    }
     void key(UINT k) { chart_.SendMessage(WM_KEYDOWN, k, 0); }
 
     CWntPulse chart_;

@@ -24,10 +24,7 @@ TEST_F(Pulse, ScrollsAsIfPaintedAnew) {
     // What was uncovered before pixels were moved.
     host_.ValidateRect(nullptr);
     feed(time, time + 50);
-    {
-        CClientDC dc(&chart_);
-        dc.FillSolidRect(CRect(200, 60, 400, 200), poison);
-    }
+    CClientDC(&chart_).FillSolidRect(CRect(200, 60, 400, 200), poison);
     chart_.InvalidateRect(CRect(200, 60, 400, 200), FALSE);
     chart_.AddSample(flow_, 50, time + 300);
     feed(time + 310, time + 500);
@@ -60,10 +57,8 @@ TEST_F(Pulse, SamplesStandAtTheirTimesAndValues) {
     const auto [left, right] = extent(red);
     for (int i = 0; i < 4; ++i) {
         const int x = left + static_cast<int>((right - left) * times[i] / 6000);
-        bool found = false;
-        for (int near_by = std::max(x - 1, left); near_by <= std::min(x + 1, right); ++near_by)
-            found = found || seen.at(near_by, rows[i]) == red;
-        EXPECT_TRUE(found) << values[i];
+        const CRect near_by(std::max(x - 1, left), rows[i], std::min(x + 1, right) + 1, rows[i] + 1);
+        EXPECT_FALSE(::extent(seen, red, near_by).IsRectEmpty()) << values[i];
     }
     chart_.AddSample(flow_, std::nan(""), 6010);
     EXPECT_EQ(chart_.AddSamples(flow_, values, times, 4), 0); // they run back
@@ -84,8 +79,7 @@ TEST_F(Pulse, LooksBackByMouseAndKeysAndReturns) {
     mouse(WM_LBUTTONDOWN, 200, 150);
     mouse(WM_MOUSEMOVE, 300, 150);
     mouse(WM_LBUTTONUP, 300, 150);
-    EXPECT_LT(start(), live);
-    EXPECT_FALSE(chart_.IsLive());
+    EXPECT_TRUE(start() < live && !chart_.IsLive());
     EXPECT_EQ(std::get<0>(host_.told.back()), WNT_PULSE_VIEW);
     const __int64 dragged = start();
     feed(60'000, 61'000);
@@ -95,8 +89,7 @@ TEST_F(Pulse, LooksBackByMouseAndKeysAndReturns) {
     key(VK_HOME);
     EXPECT_NEAR(static_cast<double>(start()), 0, 20);
     key(VK_END);
-    EXPECT_TRUE(chart_.IsLive());
-    EXPECT_GT(start(), live);
+    EXPECT_TRUE(chart_.IsLive() && start() > live);
     CPoint at(300, 150);
     chart_.ClientToScreen(&at);
     chart_.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, WHEEL_DELTA), MAKELPARAM(at.x, at.y));
@@ -203,19 +196,16 @@ TEST_F(Pulse, ItsMenuTellsItsState) {
     chart_.SendMessage(WM_COMMAND, WNT_PULSE_CMD_RECORD);
     EXPECT_TRUE(!chart_.IsRecording() && host_.told.back() == std::tuple(WNT_PULSE_RECORDING, 0));
     chart_.SendMessage(WM_COMMAND, WNT_PULSE_CMD_LIVE);
-    EXPECT_TRUE(chart_.IsLive());
-    ::DeleteFileA("pulse menu.txt");
+    EXPECT_TRUE(chart_.IsLive() && ::DeleteFileA("pulse menu.txt"));
 }
 
 TEST_F(Pulse, CallsChangeWhatIsShown) {
     feed(0, 60'000);
-    const double values[] = {100, 200};
-    int before[2], after[2];
-    chart_.ValuesToScreen(flow_, values, 2, before);
+    const int before = rows(flow_, 100, 200).first;
     EXPECT_EQ(chart_.SetRange(flow_, 1, 1) + chart_.SetRange(9, 0, 1), 0);
     EXPECT_EQ(chart_.SetRange(flow_, 0, 200), 1);
-    chart_.ValuesToScreen(flow_, values, 2, after);
-    EXPECT_TRUE(after[1] == before[0] && after[0] > before[0] + 50);
+    const auto [hundred, two_hundred] = rows(flow_, 100, 200);
+    EXPECT_TRUE(two_hundred == before && hundred > before + 50);
     EXPECT_EQ(chart_.SetLive(0), 1);
     const __int64 there = start();
     feed(60'000, 61'000);
@@ -251,13 +241,10 @@ TEST_F(Pulse, CallsChangeWhatIsShown) {
 }
 
 TEST_F(Pulse, FollowsTheScreensScale) {
-    const double highest = 100;
-    int before = 0, after = 0;
-    chart_.ValuesToScreen(flow_, &highest, 1, &before);
+    const int before = rows(flow_, 100, 0).first; // below title and legend
     MainFrameScale main;
     main.tell(chart_, 200);
-    chart_.ValuesToScreen(flow_, &highest, 1, &after);
-    EXPECT_NEAR(after, 2 * before, 8); // below title and legend
+    EXPECT_NEAR(rows(flow_, 100, 0).first, 2 * before, 8);
 }
 
 TEST_F(Pulse, TakesFilesThatAreDropped) {
@@ -301,8 +288,7 @@ TEST_F(Pulse, CursorsReadOff) {
     key(VK_RIGHT);
     __int64 moved = 0;
     chart_.GetCursor(0, &moved);
-    EXPECT_GT(moved, first);
-    EXPECT_LT(moved, first + 50);
+    EXPECT_TRUE(moved > first && moved < first + 50) << moved - first;
     chart_.SetSpan(100); // several pixels a hundredth
     key(VK_LEFT);
     chart_.GetCursor(0, &first);
@@ -334,10 +320,8 @@ TEST_F(Pulse, TheLegendHidesCurves) {
     EXPECT_GE(extent(blue).second, 0);
     for (int x = 5; x < 400 && chart_.IsCurveShown(level_); x += 5) // somewhere in the row below the title
         for (int y = 20; y < 50 && chart_.IsCurveShown(level_); y += 5) {
-            const bool flow = chart_.IsCurveShown(flow_);
             mouse(WM_LBUTTONDOWN, x, y);
-            if (flow && !chart_.IsCurveShown(flow_))
-                chart_.ShowCurve(flow_, 1);
+            chart_.ShowCurve(flow_, 1);
         }
     EXPECT_FALSE(chart_.IsCurveShown(level_));
     EXPECT_EQ(host_.told.back(), std::tuple(WNT_PULSE_CURVE, level_));
@@ -378,21 +362,15 @@ TEST_F(Pulse, FitsCurvesThatShareARangeAlike) {
     for (int i = 0; i < 600; ++i)
         chart_.AddSample(flow_, 1000 + i, i * 10);
     show();
-    const double ends[] = {1000, 1599};
-    int rows[2], same[2];
-    chart_.ValuesToScreen(flow_, ends, 2, rows);
-    EXPECT_TRUE(0 < rows[1] && rows[1] + 100 < rows[0] && rows[0] < size_of(chart_).cy);
+    const auto [low, high] = rows(flow_, 1000, 1599);
+    EXPECT_TRUE(0 < high && high + 100 < low && low < size_of(chart_).cy);
     const int late = chart_.AddCurve("Late", RGB(0, 200, 0), 0, 100);
     chart_.AddSample(late, 1100, 6000);
     show();
-    chart_.ValuesToScreen(flow_, ends, 2, rows);
-    chart_.ValuesToScreen(late, ends, 2, same);
-    EXPECT_TRUE(rows[0] == same[0] && rows[1] == same[1]);
+    EXPECT_EQ(rows(flow_, 1000, 1599), rows(late, 1000, 1599));
     chart_.ShowCurve(flow_, 0); // no room is left for what is hidden
     show();
-    const double least = 1500;
-    chart_.ValuesToScreen(late, &least, 1, same);
-    EXPECT_LT(same[0], 0);
+    EXPECT_LT(rows(late, 1500, 0).first, 0);
 }
 
 // In another window nothing goes on that belonged to the first.

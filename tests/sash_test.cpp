@@ -16,10 +16,7 @@ struct Sash : ControlTest<AnsweringHost<WntSashNotify, &WntSashNotify::position>
     }
     CRect place(CWnd& pane) { return place_in(sash_, pane); }
     void mouse(UINT message, int x, int y = 50) { sash_.SendMessage(message, MK_LBUTTON, MAKELPARAM(x, y)); }
-    void drag(int from, int to) {
-        mouse(WM_LBUTTONDOWN, from);
-        mouse(WM_MOUSEMOVE, to);
-    }
+    void drag(int from, int to) { mouse(WM_LBUTTONDOWN, from), mouse(WM_MOUSEMOVE, to); }
     void key(UINT k) { sash_.SendMessage(WM_KEYDOWN, k, 0); }
 
     CWntSash sash_;
@@ -27,11 +24,9 @@ struct Sash : ControlTest<AnsweringHost<WntSashNotify, &WntSashNotify::position>
 };
 
 TEST_F(Sash, PlacesItsPanesEitherWay) {
-    EXPECT_EQ(place(first_), CRect(0, 0, 100, 100));
-    EXPECT_EQ(place(second_), CRect(105, 0, 205, 100));
-    sash_.SetUpright(0);
-    EXPECT_EQ(place(first_), CRect(0, 0, 205, 48)); // shares are kept: 100 of 200
-    EXPECT_EQ(place(second_), CRect(0, 53, 205, 100));
+    EXPECT_TRUE(place(first_) == CRect(0, 0, 100, 100) && place(second_) == CRect(105, 0, 205, 100));
+    sash_.SetUpright(0); // shares are kept: 100 of 200
+    EXPECT_TRUE(place(first_) == CRect(0, 0, 205, 48) && place(second_) == CRect(0, 53, 205, 100));
     sash_.SetUpright(1);
     sash_.SetLeastSizes(80, 90);
     sash_.SetPosition(0);
@@ -119,9 +114,7 @@ TEST_F(Sash, FoldsAndMovesByKeys) {
     EXPECT_TRUE(sash_.GetFolded() == 1 && !first_.IsWindowVisible());
     EXPECT_EQ(place(second_).left, bar);
     mouse(WM_LBUTTONDBLCLK, 2);
-    EXPECT_EQ(place(first_).Width(), 100);
-    EXPECT_TRUE(first_.IsWindowVisible());
-    host_.told.clear();
+    EXPECT_TRUE(first_.IsWindowVisible() && place(first_).Width() == 100);
     sash_.SetFocus();
     const Pixels focused = repainted(sash_);
     host_.SetFocus();
@@ -131,28 +124,19 @@ TEST_F(Sash, FoldsAndMovesByKeys) {
         key(static_cast<UINT>(k));
         EXPECT_EQ(sash_.GetPosition(), at) << k;
     }
-    {
-        const HeldKeys control({VK_CONTROL});
-        key(VK_LEFT);
-    }
+    HeldKeys({VK_CONTROL}), key(VK_LEFT);
     EXPECT_EQ(sash_.GetPosition(), 199);
     key(VK_SPACE);
     EXPECT_EQ(host_.told.back(), std::tuple(WNT_SASH_FOLDED, 0));
 }
 
 TEST_F(Sash, ItsPointerTellsWhereItMoves) {
-    const auto pointer = [&] {
-        CPoint at(102, 50);
-        if (sash_.GetPosition() < 60)
-            at = CPoint(100, sash_.GetPosition() + 2);
-        return pointer_at(sash_, at);
-    };
     const HINSTANCE library = ::GetModuleHandleA("ZOPWNT.dll");
-    EXPECT_EQ(pointer(), ::LoadCursorA(library, "V_SASH"));
+    EXPECT_EQ(pointer_at(sash_, {102, 50}), ::LoadCursorA(library, "V_SASH"));
     sash_.SetUpright(0);
-    EXPECT_EQ(pointer(), ::LoadCursorA(library, "H_SASH"));
+    EXPECT_EQ(pointer_at(sash_, {100, sash_.GetPosition() + 2}), ::LoadCursorA(library, "H_SASH"));
     sash_.SetLeastSizes(500, 500);
-    EXPECT_EQ(pointer(), ::LoadCursorA(nullptr, IDC_ARROW));
+    EXPECT_EQ(pointer_at(sash_, {100, sash_.GetPosition() + 2}), ::LoadCursorA(nullptr, IDC_ARROW));
 }
 
 TEST_F(Sash, PassesOnWhatItsPanesTell) {
@@ -175,9 +159,7 @@ TEST_F(Sash, PassesOnWhatItsPanesTell) {
             << message;
     CWntSash inner;
     ASSERT_TRUE(inner.Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 1, 1), &sash_, 13));
-    CWnd* none = nullptr;
-    ASSERT_TRUE(sash_.SetPanes(&inner, none));
-    ASSERT_TRUE(inner.SetPanes(&second_, nullptr)); // from another parent
+    ASSERT_TRUE(sash_.SetPanes(&inner, nullptr) && inner.SetPanes(&second_, nullptr)); // from another parent
     EXPECT_EQ(second_.GetParent(), &inner);
     second_.SendMessage(BM_CLICK);
     EXPECT_EQ(host_.commands.back(), 12u);
@@ -201,12 +183,9 @@ TEST_F(Sash, MayBeDestroyedOnAnyNotification) {
                     delete std::exchange(sash, nullptr);
                 return 0;
             };
-            ::SendMessage(window, WM_LBUTTONDOWN, 0, MAKELPARAM(102, 10));
-            ::SendMessage(window, WM_MOUSEMOVE, 0, MAKELPARAM(52, 10));
-            ::SendMessage(window, WM_LBUTTONUP, 0, MAKELPARAM(52, 10));
-            ::SendMessage(window, WM_LBUTTONDBLCLK, 0, MAKELPARAM(52, 10));
-            EXPECT_FALSE(sash) << code;
-            EXPECT_FALSE(::IsWindow(window)) << code;
+            for (const UINT message : {WM_LBUTTONDOWN, WM_MOUSEMOVE, WM_LBUTTONUP, WM_LBUTTONDBLCLK})
+                ::SendMessage(window, message, 0, MAKELPARAM(message == WM_LBUTTONDOWN ? 102 : 52, 10));
+            EXPECT_FALSE(sash || ::IsWindow(window)) << code;
         }
 }
 
@@ -238,14 +217,10 @@ TEST_F(Sash, AFoldedBarStaysUntilItIsReallyMoved) {
     sash_.SetFoldPane(1);
     sash_.Fold(1);
     sash_.SetFocus();
-    key(VK_LEFT);
-    key(VK_HOME);
-    drag(2, 3);
-    mouse(WM_LBUTTONUP, 3);
+    key(VK_LEFT), key(VK_HOME);
+    drag(2, 3), mouse(WM_LBUTTONUP, 3);
     EXPECT_EQ(sash_.GetFolded(), 1);
-    host_.told.clear();
-    drag(2, 90);
-    mouse(WM_MOUSEMOVE, 2);
+    drag(2, 90), mouse(WM_MOUSEMOVE, 2);
     key(VK_ESCAPE);
     EXPECT_EQ(sash_.GetFolded(), 1);
     host_.told.clear();
@@ -265,19 +240,17 @@ TEST_F(Sash, AFoldedBarStaysUntilItIsReallyMoved) {
 TEST_F(Sash, StoresItselfInAProfile) {
     const TemporaryProfile file;
     EXPECT_EQ(sash_.RestoreState(file, "main"), 0);
+    const auto restored = [&] { return sash_.RestoreState(file, "main") ? sash_.GetPosition() : -1; };
     sash_.SetPosition(60);
     sash_.SetFoldPane(2);
     sash_.Fold(1);
     EXPECT_EQ(sash_.StoreState(file, "main"), 1);
     sash_.Fold(0);
     sash_.SetPosition(10);
-    EXPECT_EQ(sash_.RestoreState(file, "main"), 1);
-    EXPECT_EQ(sash_.GetFolded(), 2);
+    EXPECT_TRUE(sash_.RestoreState(file, "main") == 1 && sash_.GetFolded() == 2);
     sash_.SetFoldPane(1); // no longer the one that was folded
     sash_.Fold(0);
-    EXPECT_EQ(sash_.RestoreState(file, "main"), 1);
-    EXPECT_EQ(sash_.GetFolded(), 0);
-    EXPECT_EQ(sash_.GetPosition(), 60);
+    EXPECT_TRUE(restored() == 60 && sash_.GetFolded() == 0);
     ::WritePrivateProfileStringA("main", "Share", "999999999", file);
     EXPECT_EQ(sash_.RestoreState(file, "main"), 1);
     sash_.Fold(0);
@@ -288,16 +261,14 @@ TEST_F(Sash, StoresItselfInAProfile) {
     EXPECT_EQ(sash_.StoreState(file, "main"), 1);
     sash_.MoveWindow(0, 0, 205, 100);
     sash_.SetPosition(20);
-    EXPECT_EQ(sash_.RestoreState(file, "main"), 1);
-    EXPECT_EQ(sash_.GetPosition(), 150);
+    EXPECT_EQ(restored(), 150);
     sash_.SetKeptPane(2);
     sash_.SetPosition(150); // 50 behind it
     EXPECT_EQ(sash_.StoreState(file, "main"), 1);
     sash_.SetPosition(20);
     EXPECT_EQ(sash_.GetShare(), 0.1);
     sash_.MoveWindow(0, 0, 305, 100);
-    EXPECT_EQ(sash_.RestoreState(file, "main"), 1);
-    EXPECT_EQ(sash_.GetPosition(), 250);
+    EXPECT_EQ(restored(), 250);
     ::WritePrivateProfileStringA("main", "Share", "half", file);
     EXPECT_EQ(sash_.RestoreState(file, "main"), 0);
     EXPECT_EQ(sash_.StoreState(nullptr, "main") + sash_.StoreState(file, ""), 0);

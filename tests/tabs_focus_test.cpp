@@ -21,9 +21,9 @@ struct TabsFocus : ControlTest<AnsweringHost<WntTabsNotify>> {
         for (int i = 0; i < 3; ++i) {
             pages_[i] = std::make_unique<CWntFrame>();
             inputs_[i] = std::make_unique<CEdit>();
-            ASSERT_TRUE(pages_[i]->Create(nullptr, "", WS_CHILD, CRect(0, 0, 9, 9), tabs_, 20u + i));
-            ASSERT_TRUE(
-                inputs_[i]->Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 9, 9), pages_[i].get(), 30u + i));
+            const CRect place(0, 0, 9, 9);
+            ASSERT_TRUE(pages_[i]->Create(nullptr, "", WS_CHILD, place, tabs_, 20u + i) &&
+                        inputs_[i]->Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, place, pages_[i].get(), 30u + i));
             ASSERT_EQ(tabs_->AddTab("page", pages_[i].get()), 1);
         }
         inputs_[0]->SetFocus();
@@ -53,14 +53,11 @@ TEST_F(TabsFocus, APageThatLosesItMayEndTheTabs) {
                 tabs_->LoadLine(line, mode);
         },
     };
-    int way = 0;
     for (const auto& leave : ways) {
         open();
         lost_focus_ = [&] { delete std::exchange(tabs_, nullptr); };
         leave();
-        EXPECT_FALSE(tabs_) << way;
-        EXPECT_FALSE(pages_[0]->m_hWnd || pages_[1]->m_hWnd) << way;
-        ++way;
+        EXPECT_FALSE(tabs_ || pages_[0]->m_hWnd || pages_[1]->m_hWnd) << &leave - ways;
     }
 }
 

@@ -46,6 +46,7 @@ struct Tabs : ControlTest<AnsweringHost<WntTabsNotify, &WntTabsNotify::tab, &Wnt
         return all;
     }
     CRect place(CWnd& window) { return place_in(tabs_, window); }
+    Pixels strip_now() { return strip().UpdateWindow(), pixels_of(strip()); }
 
     CWntTabs tabs_;
     CButton pages_[3];
@@ -56,8 +57,7 @@ TEST_F(Tabs, OnlyTheSelectedPageIsShownWhereTheStripLeavesRoom) {
     EXPECT_EQ(place(pages_[0]), tabs_.GetPageRect());
     for (const int side : {CWntTabs::at_bottom, CWntTabs::at_left, CWntTabs::at_right, CWntTabs::at_top}) {
         EXPECT_EQ(tabs_.SetSide(side), 1);
-        CRect both;
-        EXPECT_FALSE(both.IntersectRect(place(strip()), tabs_.GetPageRect())) << side;
+        EXPECT_TRUE((place(strip()) & tabs_.GetPageRect()).IsRectEmpty()) << side;
         EXPECT_EQ(place(pages_[0]), tabs_.GetPageRect());
     }
     EXPECT_EQ(tabs_.Select(2), 1);
@@ -122,29 +122,21 @@ TEST_F(Tabs, KeysSelectOnTheStripAndFromWithinAPage) {
     tabs_.EnableTab(1, 1);
     tabs_.SetSide(CWntTabs::at_left);
     key(VK_DOWN);
-    EXPECT_EQ(tabs_.GetSelected(), 1);
-    EXPECT_EQ(::GetFocus(), strip().m_hWnd);
+    EXPECT_TRUE(tabs_.GetSelected() == 1 && ::GetFocus() == strip().m_hWnd);
 
     pages_[1].SetFocus();
     EXPECT_FALSE(translated(pages_[1], WM_KEYDOWN, VK_TAB));
-    {
-        const HeldKeys control({VK_CONTROL});
-        EXPECT_TRUE(translated(pages_[1], WM_KEYDOWN, VK_TAB));
-        EXPECT_EQ(tabs_.GetSelected(), 2);
-        EXPECT_NE(::GetFocus(), pages_[1].m_hWnd) << "a hidden window has no focus";
-        EXPECT_TRUE(translated(strip(), WM_KEYDOWN, VK_NEXT)); // round the end
-        EXPECT_EQ(tabs_.GetSelected(), 0);
-        EXPECT_TRUE(translated(pages_[0], WM_KEYDOWN, VK_PRIOR));
-        EXPECT_EQ(tabs_.GetSelected(), 2);
-    }
-    {
-        const HeldKeys both({VK_CONTROL, VK_SHIFT});
-        EXPECT_TRUE(translated(pages_[2], WM_KEYDOWN, VK_TAB));
-        EXPECT_EQ(tabs_.GetSelected(), 1);
-    }
-    EXPECT_TRUE(translated(pages_[1], WM_SYSCHAR, 'H'));
-    EXPECT_EQ(tabs_.GetSelected(), 2);
-    EXPECT_FALSE(translated(pages_[2], WM_SYSCHAR, 'x'));
+    const auto selects = [&](std::initializer_list<int> held, CWnd& within, UINT message, WPARAM k) {
+        const HeldKeys keys(held);
+        return translated(within, message, k) ? tabs_.GetSelected() : -1;
+    };
+    EXPECT_EQ(selects({VK_CONTROL}, pages_[1], WM_KEYDOWN, VK_TAB), 2);
+    EXPECT_NE(::GetFocus(), pages_[1].m_hWnd) << "a hidden window has no focus";
+    EXPECT_EQ(selects({VK_CONTROL}, strip(), WM_KEYDOWN, VK_NEXT), 0); // round the end
+    EXPECT_EQ(selects({VK_CONTROL}, pages_[0], WM_KEYDOWN, VK_PRIOR), 2);
+    EXPECT_EQ(selects({VK_CONTROL, VK_SHIFT}, pages_[2], WM_KEYDOWN, VK_TAB), 1);
+    EXPECT_EQ(selects({}, pages_[1], WM_SYSCHAR, 'H'), 2);
+    EXPECT_EQ(selects({}, pages_[2], WM_SYSCHAR, 'x'), -1);
 
     CWntTabs inner; // has the keys first
     CButton first, second;
@@ -152,13 +144,11 @@ TEST_F(Tabs, KeysSelectOnTheStripAndFromWithinAPage) {
     ASSERT_TRUE(first.Create("1", WS_CHILD | WS_TABSTOP, CRect(0, 0, 5, 5), &inner, 31) &&
                 second.Create("2", WS_CHILD | WS_TABSTOP, CRect(0, 0, 5, 5), &inner, 32));
     ASSERT_EQ(tabs_.AddTab("inner", &inner) + inner.AddTab("1", &first) + inner.AddTab("2", &second), 3);
-    const HeldKeys control({VK_CONTROL});
     tabs_.Select(3);
-    EXPECT_TRUE(translated(first, WM_KEYDOWN, VK_TAB));
-    EXPECT_TRUE(inner.GetSelected() == 1 && tabs_.GetSelected() == 3);
+    EXPECT_EQ(selects({VK_CONTROL}, first, WM_KEYDOWN, VK_TAB), 3);
+    EXPECT_EQ(inner.GetSelected(), 1);
     inner.EnableTab(0, 0);
-    EXPECT_TRUE(translated(second, WM_KEYDOWN, VK_TAB)); // it has no other
-    EXPECT_EQ(tabs_.GetSelected(), 0);
+    EXPECT_EQ(selects({VK_CONTROL}, second, WM_KEYDOWN, VK_TAB), 0); // it has no other
 }
 
 TEST_F(Tabs, AreClosedByMarkAndKey) {
@@ -193,34 +183,28 @@ TEST_F(Tabs, AreOrderedByDragging) {
         mouse(WM_MOUSEMOVE, middle(from) + CPoint(2, 0));
         mouse(WM_MOUSEMOVE, to);
     };
+    const auto drop = [&](int from, CPoint to) { drag(from, to), mouse(WM_LBUTTONUP, to); };
     const CPoint end(tabs_.GetTabRect(2).right, 5);
-    drag(0, end);
-    mouse(WM_LBUTTONUP, end);
+    drop(0, end);
     EXPECT_EQ(tabs_.GetTabText(0), "&One") << "not allowed";
     tabs_.SetMovable(1);
-    strip().UpdateWindow();
-    const Pixels still = pixels_of(strip());
+    const Pixels still = strip_now();
     drag(0, end);
-    strip().UpdateWindow();
-    EXPECT_NE(pixels_of(strip()), still);
+    EXPECT_NE(strip_now(), still);
     key(VK_ESCAPE);
     mouse(WM_LBUTTONUP, end);
     mouse(WM_MOUSEMOVE, CPoint(200, 100));
-    strip().UpdateWindow();
-    EXPECT_EQ(pixels_of(strip()), still);
+    EXPECT_EQ(strip_now(), still);
     EXPECT_EQ(tabs_.GetTabText(0), "&One");
-    drag(0, end);
-    mouse(WM_LBUTTONUP, end);
+    drop(0, end);
     EXPECT_EQ(tabs_.GetTabText(2), "&One");
     EXPECT_EQ(shown(), "1--") << "the selected page goes along";
     EXPECT_THAT(host_.told, ElementsAre(std::tuple(WNT_TABS_ORDERING, 0, 2), std::tuple(WNT_TABS_ORDERED, 2, 0)));
     host_.answer = [](WntTabsNotify&) { return 1; };
-    drag(2, CPoint(0, 5));
-    mouse(WM_LBUTTONUP, CPoint(0, 5));
+    drop(2, CPoint(0, 5));
     EXPECT_EQ(tabs_.GetTabText(2), "&One");
     host_.answer = [](WntTabsNotify&) { return 0; };
-    const HeldKeys control({VK_CONTROL});
-    key(VK_LEFT);
+    HeldKeys({VK_CONTROL}), key(VK_LEFT);
     EXPECT_EQ(tabs_.GetTabText(1), "&One");
 }
 
@@ -230,25 +214,24 @@ TEST_F(Tabs, WhatDoesNotFitScrollsOrIsInTheMenu) {
         ASSERT_TRUE(each.Create("more", WS_CHILD, CRect(0, 0, 5, 5), &tabs_, 40));
         tabs_.AddTab("another", &each);
     }
-    EXPECT_TRUE(tabs_.GetTabRect(11).IsRectEmpty() && !tabs_.GetTabRect(0).IsRectEmpty());
+    const auto seen = [&](int tab) { return !tabs_.GetTabRect(tab).IsRectEmpty(); };
+    EXPECT_TRUE(seen(0) && !seen(11));
     const CPoint on(295, 12);
     click(on);
-    EXPECT_TRUE(tabs_.GetTabRect(0).IsRectEmpty() && !tabs_.GetTabRect(1).IsRectEmpty());
-    EXPECT_EQ(tabs_.GetSelected(), 0);
+    EXPECT_TRUE(!seen(0) && seen(1) && tabs_.GetSelected() == 0);
     mouse(WM_LBUTTONDOWN, on);
     strip().SendMessage(WM_TIMER, 1); // goes on while it is held
-    EXPECT_TRUE(tabs_.GetTabRect(2).IsRectEmpty());
+    EXPECT_FALSE(seen(2));
     mouse(WM_MOUSEMOVE, middle(4));
     strip().SendMessage(WM_TIMER, 1);
-    EXPECT_FALSE(tabs_.GetTabRect(3).IsRectEmpty());
+    EXPECT_TRUE(seen(3));
     mouse(WM_LBUTTONUP, middle(4));
     for (int i = 0; i < 5; ++i)
         click(on - CPoint(18, 0));
-    EXPECT_FALSE(tabs_.GetTabRect(0).IsRectEmpty());
+    EXPECT_TRUE(seen(0));
     tabs_.Select(11);
-    EXPECT_FALSE(tabs_.GetTabRect(11).IsRectEmpty());
-    EXPECT_EQ(tabs_.ShowTab(0), 1);
-    EXPECT_TRUE(!tabs_.GetTabRect(0).IsRectEmpty() && tabs_.GetSelected() == 11);
+    EXPECT_TRUE(seen(11));
+    EXPECT_TRUE(tabs_.ShowTab(0) == 1 && seen(0) && tabs_.GetSelected() == 11);
 
     tabs_.SetOverflow(CWntTabs::by_menu);
     tabs_.ShowTab(0);
@@ -264,12 +247,8 @@ TEST_F(Tabs, WhatDoesNotFitScrollsOrIsInTheMenu) {
         ::PostMessageA(shown, WM_KEYDOWN, VK_RETURN, 0);
         return true;
     });
-    host_.told.clear();
     strip().SetFocus();
     strip().SendMessage(WM_SYSKEYDOWN, VK_DOWN, 0);
-    int seen = 0;
-    while (!tabs_.GetTabRect(seen).IsRectEmpty() && seen < 12)
-        ++seen;
     EXPECT_EQ(tabs_.GetSelected(), 10);
     EXPECT_TRUE(listed.Right(5) == "to 12") << listed;
 }
@@ -278,32 +257,23 @@ TEST_F(Tabs, TheSelectedTabIsJoinedToItsPageAtEverySide) {
     tabs_.LoadLine(":CLRSUN=RED", 0);
     tabs_.LoadLine(":CLRSHADOW=BLUE", 0);
     tabs_.LoadLine(":CLRBACK=WHITE", 0);
-    const struct {
-        int side;
-        int from_left, from_top, from_right, from_bottom; // of the line between tabs and page
-        COLORREF line;
-    } cases[] = {{CWntTabs::at_top, 0, -1, 0, 0, red},
-                 {CWntTabs::at_bottom, 0, 0, 0, 1, blue},
-                 {CWntTabs::at_left, -1, 0, 0, 0, red},
-                 {CWntTabs::at_right, 0, 0, 1, 0, blue}};
     tabs_.Select(1);
-    for (const auto& c : cases) {
-        tabs_.SetSide(c.side);
+    for (const int side : {CWntTabs::at_top, CWntTabs::at_bottom, CWntTabs::at_left, CWntTabs::at_right}) {
+        tabs_.SetSide(side);
         const Pixels seen = repainted(tabs_);
         const CRect page = tabs_.GetPageRect();
-        const auto between = [&](int tab) {
+        std::string line; // between tabs and page, at each tab
+        for (int tab = 0; tab < 3; ++tab) {
             CPoint at = middle(tab);
-            if (c.from_top || c.from_bottom)
-                at.y = c.from_top ? page.top - 1 : page.bottom;
+            if (side == CWntTabs::at_top || side == CWntTabs::at_bottom)
+                at.y = side == CWntTabs::at_top ? page.top - 1 : page.bottom;
             else
-                at.x = c.from_left ? page.left - 1 : page.right;
-            return seen.at(at.x, at.y);
-        };
-        EXPECT_EQ(between(0), c.line) << c.side;
-        EXPECT_EQ(between(1), white) << c.side;
-        EXPECT_EQ(between(2), c.line) << c.side;
-        EXPECT_TRUE(seen.at(page.right, page.bottom - 3) == blue || c.side == CWntTabs::at_right) << c.side;
-        EXPECT_TRUE(seen.at(page.left - 1, page.bottom - 3) == red || c.side == CWntTabs::at_left) << c.side;
+                at.x = side == CWntTabs::at_left ? page.left - 1 : page.right;
+            line += letters({seen.at(at.x, at.y)}, 9, {{red, 'r'}, {blue, 'b'}, {white, ' '}});
+        }
+        EXPECT_EQ(line, side == CWntTabs::at_top || side == CWntTabs::at_left ? "r r" : "b b") << side;
+        EXPECT_TRUE(seen.at(page.right, page.bottom - 3) == blue || side == CWntTabs::at_right) << side;
+        EXPECT_TRUE(seen.at(page.left - 1, page.bottom - 3) == red || side == CWntTabs::at_left) << side;
     }
 }
 
@@ -325,38 +295,26 @@ TEST_F(Tabs, TextsAreWholeAndTurnedWithTheSide) {
         const CPoint off = ink.CenterPoint() - tab.CenterPoint();
         EXPECT_TRUE(std::abs(off.x) <= 2 && std::abs(off.y) <= 2) << side << ": " << off.x << ", " << off.y;
         if (turned) { // the foot of the letters lies at the right when it runs upwards
-            const CRect right(ink.CenterPoint().x + 1, ink.top, ink.right, ink.bottom);
-            const CRect left(ink.left, ink.top, ink.CenterPoint().x, ink.bottom);
-            const auto count = [&](const CRect& r) {
-                int found = 0;
-                for (int y = r.top; y < r.bottom; ++y)
-                    for (int x = r.left; x < r.right; ++x)
-                        found += seen.at(x, y) == red;
-                return found;
-            };
-            EXPECT_EQ(count(right) > count(left), side == CWntTabs::at_left) << side;
+            const int centre = ink.CenterPoint().x;
+            int more_at_right = 0;
+            for (int y = ink.top; y < ink.bottom; ++y)
+                for (int x = ink.left; x < ink.right; ++x)
+                    more_at_right += seen.at(x, y) != red || x == centre ? 0 : x > centre ? 1 : -1;
+            EXPECT_EQ(more_at_right > 0, side == CWntTabs::at_left) << side;
         }
     }
     tabs_.MoveWindow(0, 0, 300, 60); // one tab has room, and not for all of its text
     tabs_.SetTabText(1, "a text that is much longer than there is room for it");
     tabs_.Select(1);
-    full_repaint(tabs_);
-    const CRect tab = tabs_.GetTabRect(1);
-    CRect inside = tab;
-    inside.DeflateRect(3, 3);
-    EXPECT_EQ(extent(pixels_of(tabs_), red, tab), extent(pixels_of(tabs_), red, inside))
-        << "cut with dots, not written over";
+    const Pixels seen = repainted(tabs_);
+    const CRect tab = tabs_.GetTabRect(1), inside(tab.TopLeft() + CSize(3, 3), tab.Size() - CSize(6, 6));
+    EXPECT_EQ(extent(seen, red, tab), extent(seen, red, inside)) << "cut with dots, not written over";
 }
 
 TEST_F(Tabs, ASelectionPaintsNoPixelTwice) {
     full_repaint(tabs_);
-    {
-        CClientDC page(&pages_[1]);
-        CClientDC dc(&tabs_);
-        const CRect r = tabs_.GetPageRect();
-        dc.FillSolidRect(CRect(250, 2, 290, r.top - 2), poison); // no ground of the strip's: clipped by the strip
-        EXPECT_EQ(pixels_of(tabs_).count(poison), 0);
-    }
+    CClientDC(&tabs_).FillSolidRect(CRect(250, 2, 290, tabs_.GetPageRect().top - 2), poison);
+    EXPECT_EQ(pixels_of(tabs_).count(poison), 0) << "no ground of the strip's: clipped by the strip";
     int grounds = 0;
     host_.on_message = [&](UINT message) { grounds += message == WM_ERASEBKGND || message == WM_PAINT; };
     click(middle(1));
@@ -368,32 +326,24 @@ TEST_F(Tabs, ASelectionPaintsNoPixelTwice) {
 TEST_F(Tabs, HoverAndFocusAreSeenAndGo) {
     const Pixels still = pixels_of(strip());
     mouse(WM_MOUSEMOVE, middle(1));
-    strip().UpdateWindow();
-    EXPECT_NE(pixels_of(strip()), still);
+    EXPECT_NE(strip_now(), still);
     strip().SendMessage(WM_MOUSELEAVE);
-    strip().UpdateWindow();
-    EXPECT_EQ(pixels_of(strip()), still);
+    EXPECT_EQ(strip_now(), still);
     tabs_.SetFocus();
-    strip().UpdateWindow();
-    EXPECT_NE(pixels_of(strip()), still);
+    EXPECT_NE(strip_now(), still);
     host_.SetFocus();
-    strip().UpdateWindow();
-    EXPECT_EQ(pixels_of(strip()), still);
+    EXPECT_EQ(strip_now(), still);
     tabs_.EnableTab(1, 0);
-    full_repaint(tabs_);
-    const Pixels grey = pixels_of(strip());
+    const Pixels grey = strip_now();
     EXPECT_NE(grey, still);
     mouse(WM_MOUSEMOVE, middle(1)); // a disabled one is not lit
-    strip().UpdateWindow();
-    EXPECT_EQ(pixels_of(strip()), grey);
+    EXPECT_EQ(strip_now(), grey);
     const CRect plain = tabs_.GetTabRect(0);
     tabs_.SetTabIcon(0, ::LoadIconA(nullptr, IDI_WARNING));
-    full_repaint(tabs_);
     EXPECT_GT(tabs_.GetTabRect(0).Width(), plain.Width() + 15);
-    const Pixels bright = pixels_of(strip());
+    const Pixels bright = strip_now();
     tabs_.EnableTab(0, 0); // pales
-    full_repaint(tabs_);
-    EXPECT_NE(pixels_of(strip()), bright);
+    EXPECT_NE(strip_now(), bright);
 }
 
 TEST_F(Tabs, TipsBelongToTheirTabs) {
@@ -464,17 +414,15 @@ TEST_F(Tabs, MayBeDestroyedOnAnyNotification) {
                     ::SendMessageA(window, static_cast<UINT>(message), 0, MAKELPARAM(x, 12));
             };
             const auto press = [&](WPARAM key) { ::SendMessageA(window, WM_KEYDOWN, key, 0); };
-            if (by_key) {
-                const HeldKeys control({VK_CONTROL});
-                press(VK_RIGHT);
-            } else
+            if (by_key)
+                HeldKeys({VK_CONTROL}), press(VK_RIGHT);
+            else
                 drag(first.left + 5, second.right);
             for (const WPARAM key : {VK_HOME, VK_RIGHT, VK_LEFT})
                 press(key);
             const int mark = tabs ? tabs->GetTabRect(0).right - 14 : 0;
             by_key ? press(VK_DELETE) : drag(mark, mark);
-            EXPECT_FALSE(tabs) << code;
-            EXPECT_FALSE(::IsWindow(window)) << code;
+            EXPECT_FALSE(tabs || ::IsWindow(window)) << code;
             delete tabs;
         }
 }
@@ -498,8 +446,7 @@ TEST_F(Tabs, PassOnWhatTheirPagesTellAndFollowScripts) {
     EXPECT_THAT(host_.commands, ElementsAre(11u));
     const TemporaryFile file(":SIDE=RIGHT\r\n:TAB=Kettle\r\n:TAB=Pump\r\n:DISABLED=YES\r\n");
     tabs_.Select(2);
-    EXPECT_EQ(tabs_.LoadFromFile(file.name()), 1);
-    EXPECT_EQ(tabs_.GetTabCount(), 2);
+    EXPECT_TRUE(tabs_.LoadFromFile(file.name()) == 1 && tabs_.GetTabCount() == 2);
     EXPECT_EQ(shown(), "1--") << "pages keep their places, the one that has none is hidden";
     EXPECT_EQ(tabs_.Select(1), 0);
     EXPECT_EQ(place(strip()).right, 300);

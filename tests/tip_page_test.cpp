@@ -37,10 +37,10 @@ TEST_F(TipPage, TurnsThroughTheTipsOfItsFile) {
     EXPECT_TRUE(host_.notified.back().code == WNT_TIP_TURNED && host_.notified.back().hwndFrom == page_->m_hWnd);
     press(next_id);
     EXPECT_EQ(page_->GetTipText(), "first\r\nsecond");
-    press(next_id); // round the end
-    EXPECT_EQ(page_->GetTip(), 0);
-    press(previous_id);
-    EXPECT_EQ(page_->GetTip(), 2);
+    for (const UINT id : {next_id, previous_id}) { // round the end and back
+        press(id);
+        EXPECT_EQ(page_->GetTip(), id == next_id ? 0 : 2);
+    }
     EXPECT_TRUE(translated(*page_->GetDlgItem(start_id), 'P') && page_->GetTip() == 1);
     EXPECT_TRUE(translated(*page_, 'n') && page_->GetTip() == 2);
     EXPECT_FALSE(translated(*page_, 'x'));
@@ -202,7 +202,7 @@ TEST_F(TipPage, MayBeDestroyedWhenItTells) {
                 delete std::exchange(doomed, nullptr);
         };
         ::SendMessageA(button, BM_CLICK, 0, 0);
-        EXPECT_TRUE(!doomed && !::IsWindow(button)) << id;
+        EXPECT_FALSE(doomed || ::IsWindow(button)) << id;
         host_.on_message = [](UINT) {};
     }
 }

@@ -9,8 +9,7 @@ inline constexpr COLORREF red = RGB(255, 0, 0), green = RGB(0, 255, 0), key_colo
 
 // Owner of bars: keeps commands and notifications, and tells states.
 struct ToolHost : CWnd {
-    std::vector<UINT> commands;
-    std::vector<UINT> told;
+    std::vector<UINT> commands, told;
     int index = -1; // of the last item that was told of
     std::function<void(UINT)> on_command = [](UINT) {};
     std::function<void(UINT, WPARAM)> on_message = [](UINT, WPARAM) {};
@@ -75,6 +74,7 @@ struct ToolBar : ControlTest<ToolHost> {
             bar_->LoadLine(line, 0);
         bar_->LoadLine("", 2);
     }
+    Pixels shown() { return bar_->UpdateWindow(), pixels_of(*bar_); }
     CRect place(UINT id) {
         CRect r;
         bar_->GetItemRect(bar_->FindItem(id), &r);
@@ -111,7 +111,7 @@ struct ToolBar : ControlTest<ToolHost> {
     }
     // The one whose dotted frame is seen.
     UINT focused() {
-        const Pixels now = pixels_of(*bar_);
+        const Pixels now = shown();
         for (const UINT id : {100u, 101u, 102u, 103u, 104u, 105u}) {
             const CRect r = place(id);
             if (r.IsRectEmpty())

@@ -8,50 +8,33 @@ TEST_F(ToolBar, TheKeyboardWorksIt) {
     script({":ITEM=100,0,one", ":DISABLED=100", ":SEPARATOR", ":CHECK=101,0,two", ":ITEM=102,0,three"});
     edit_.SetFocus();
     EXPECT_TRUE(filter_f6(edit_));
-    EXPECT_EQ(::GetFocus(), bar_->m_hWnd);
-    full_repaint(*bar_);
-    EXPECT_EQ(focused(), 101u); // the first that can be used
+    EXPECT_TRUE(::GetFocus() == bar_->m_hWnd && focused() == 101); // the first that can be used
     CString tip;
     bar_->GetTips()->GetWindowText(tip);
     EXPECT_EQ(tip, "two");
-    for (const auto& [k, id] : {std::pair{VK_RIGHT, 102u},
-                                {VK_RIGHT, 101u},
-                                {VK_LEFT, 102u},
-                                {VK_HOME, 101u},
-                                {VK_END, 102u},
-                                {VK_UP, 102u}}) {
+    for (const auto& [k, id] :
+         {std::pair{VK_RIGHT, 2}, {VK_RIGHT, 1}, {VK_LEFT, 2}, {VK_HOME, 1}, {VK_END, 2}, {VK_UP, 2}}) {
         key(static_cast<UINT>(k));
-        bar_->UpdateWindow();
-        EXPECT_EQ(focused(), id) << k;
+        EXPECT_EQ(focused(), 100u + id) << k;
     }
     script({":ITEM=100,0", ":ITEM=101,0", ":ITEM=102,0", ":ITEM=103,0"});
     for (const auto& [k, id] : {std::pair{VK_LEFT, 101u}, {VK_RIGHT, 103u}}) {
         bar_->EnableItem(102, 1);
-        key(VK_HOME);
-        key(VK_RIGHT);
-        key(VK_RIGHT);
+        key(VK_HOME), key(VK_RIGHT), key(VK_RIGHT);
         bar_->EnableItem(102, 0);
         key(static_cast<UINT>(k));
-        full_repaint(*bar_);
         EXPECT_EQ(focused(), id) << "beside the one that was disabled";
     }
     script({":ITEM=100,0,one", ":DISABLED=100", ":SEPARATOR", ":CHECK=101,0,two", ":ITEM=102,0,three"});
-    key(VK_END);
-    key(VK_RETURN);
-    key(VK_HOME);
-    key(VK_SPACE);
+    key(VK_END), key(VK_RETURN), key(VK_HOME), key(VK_SPACE);
     bar_->SendMessage(WM_KEYDOWN, VK_SPACE, 1 | (1 << 30)); // held down
     EXPECT_THAT(host_.commands, ElementsAre(102u, 101u));
     EXPECT_EQ(checked(101), 1);
     key(VK_ESCAPE);
-    EXPECT_EQ(::GetFocus(), edit_.m_hWnd);
-    full_repaint(*bar_);
-    EXPECT_EQ(focused(), 0u);
-    EXPECT_EQ(bar_->GetTips()->GetShownTip(nullptr), 0);
+    EXPECT_TRUE(::GetFocus() == edit_.m_hWnd && focused() == 0 && bar_->GetTips()->GetShownTip(nullptr) == 0);
     bar_->SetFocus();
     MSG f6 = {bar_->m_hWnd, WM_KEYDOWN, VK_F6, 1, 0, {}};
-    EXPECT_EQ(bar_->PreTranslateMessage(&f6), TRUE);
-    EXPECT_EQ(::GetFocus(), edit_.m_hWnd);
+    EXPECT_TRUE(bar_->PreTranslateMessage(&f6) && ::GetFocus() == edit_.m_hWnd);
     MSG enter = {bar_->m_hWnd, WM_KEYDOWN, VK_RETURN, 1, 0, {}}, tab = {bar_->m_hWnd, WM_KEYDOWN, VK_TAB, 1, 0, {}};
     EXPECT_TRUE(bar_->SendMessage(WM_GETDLGCODE, VK_RETURN, reinterpret_cast<LPARAM>(&enter)) & DLGC_WANTMESSAGE);
     EXPECT_FALSE(bar_->SendMessage(WM_GETDLGCODE, VK_TAB, reinterpret_cast<LPARAM>(&tab)) & DLGC_WANTMESSAGE);
@@ -122,37 +105,34 @@ TEST_F(ToolBar, WhatDoesNotFitIsBehindTheChevron) {
     bar_->MoveWindow(0, 0, 66, 26);
     EXPECT_EQ(shown(), 2);
     const CPoint chevron(60, 12);
-    with_menu([&] { mouse(WM_LBUTTONDOWN, chevron); }, {VK_DOWN, VK_RETURN},
-              [](HMENU menu) {
-                  EXPECT_EQ(::GetMenuItemCount(menu), 4); // no separator first
-                  char text[40];
-                  ::GetMenuStringA(menu, 2, text, sizeof text, MF_BYPOSITION);
-                  EXPECT_STREQ(text, "Tip && more"); // as a menu writes it
-                  EXPECT_TRUE(::GetMenuState(menu, 0, MF_BYPOSITION) & MF_CHECKED);
-                  EXPECT_TRUE(::GetMenuState(menu, 2, MF_BYPOSITION) & MF_GRAYED);
-                  EXPECT_TRUE(::GetSubMenu(menu, 3));
-              });
+    const auto press_chevron = [&] { mouse(WM_LBUTTONDOWN, chevron); };
+    with_menu(press_chevron, {VK_DOWN, VK_RETURN}, [](HMENU menu) {
+        EXPECT_EQ(::GetMenuItemCount(menu), 4); // no separator first
+        char text[40];
+        ::GetMenuStringA(menu, 2, text, sizeof text, MF_BYPOSITION);
+        EXPECT_STREQ(text, "Tip && more"); // as a menu writes it
+        EXPECT_TRUE(::GetMenuState(menu, 0, MF_BYPOSITION) & MF_CHECKED);
+        EXPECT_TRUE(::GetMenuState(menu, 2, MF_BYPOSITION) & MF_GRAYED);
+        EXPECT_TRUE(::GetSubMenu(menu, 3));
+    });
     EXPECT_THAT(host_.commands, ElementsAre(102u));
-    EXPECT_EQ(checked(102), 0);
-    EXPECT_TRUE(::IsMenu(host_menu.m_hMenu));
+    EXPECT_TRUE(checked(102) == 0 && ::IsMenu(host_menu.m_hMenu));
     bar_->SetFocus();
     key(VK_END);
     with_menu([&] { key(VK_SPACE); }, {VK_UP, VK_RIGHT, VK_RETURN});
     EXPECT_EQ(host_.commands.back(), 120u);
     host_.state = [](CCmdUI& ui) { ui.Enable(); };
     host_.commands.clear();
-    with_menu([&] { mouse(WM_LBUTTONDOWN, chevron); }, {VK_DOWN, VK_RETURN},
-              [&](HMENU) { bar_->EnableItem(102, 0); }); // meanwhile
+    with_menu(press_chevron, {VK_DOWN, VK_RETURN}, [&](HMENU) { bar_->EnableItem(102, 0); }); // meanwhile
     EXPECT_TRUE(host_.commands.empty());
     host_.answer = [&](WntToolNotify& n) -> LRESULT {
         if (n.hdr.code == WNT_TOOL_DROPPING)
             ::AppendMenuA(n.menu, MF_STRING, 121, "Deeper");
         return 0;
     };
-    with_menu([&] { mouse(WM_LBUTTONDOWN, chevron); }, {VK_ESCAPE},
-              [](HMENU menu) { EXPECT_EQ(::GetMenuItemCount(::GetSubMenu(menu, 3)), 2); });
+    with_menu(press_chevron, {VK_ESCAPE}, [](HMENU menu) { EXPECT_EQ(::GetMenuItemCount(::GetSubMenu(menu, 3)), 2); });
     ::DestroyMenu(host_menu.Detach());
-    with_menu([&] { mouse(WM_LBUTTONDOWN, chevron); }, {VK_ESCAPE},
+    with_menu(press_chevron, {VK_ESCAPE},
               [](HMENU menu) { EXPECT_EQ(::GetMenuItemCount(menu), 4) << "an item without its menu stays"; });
     script({":ITEM=100,0", ":LABEL=only a text that has no room"});
     EXPECT_EQ(bar_->GetItemRect(-2, nullptr), 0);
@@ -191,6 +171,7 @@ TEST_F(ToolBar, ItemsAreDraggedWhereThatIsAllowed) {
         mouse(WM_MOUSEMOVE, place(id).CenterPoint() + CPoint(9, 0));
         mouse(WM_MOUSEMOVE, to);
     };
+    const auto drop = [&](UINT id, CPoint to) { drag(id, to), mouse(WM_LBUTTONUP, to); };
     const auto order = [&] {
         std::vector<UINT> ids;
         CWntToolItem item;
@@ -198,32 +179,27 @@ TEST_F(ToolBar, ItemsAreDraggedWhereThatIsAllowed) {
             ids.push_back(item.id);
         return ids;
     };
-    drag(100, CPoint(390, 10));
-    mouse(WM_LBUTTONUP, CPoint(390, 10));
+    drop(100, CPoint(390, 10));
     EXPECT_THAT(order(), ElementsAre(100u, 101u, 102u)); // off unless set
     bar_->SetDragging(1);
     edit_.SetFocus();
     const Pixels before = repainted(*bar_);
     drag(100, CPoint(390, 10));
-    bar_->UpdateWindow();
-    EXPECT_NE(pixels_of(*bar_), before); // a mark shows where it would go
+    EXPECT_NE(shown(), before); // a mark shows where it would go
     EXPECT_EQ(::GetFocus(), bar_->m_hWnd);
     key(VK_ESCAPE);
     bar_->UpdateWindow();
     bar_->SendMessage(WM_MOUSELEAVE);
-    bar_->UpdateWindow();
-    EXPECT_EQ(pixels_of(*bar_), before);
+    EXPECT_EQ(shown(), before);
     EXPECT_EQ(::GetFocus(), edit_.m_hWnd);
     mouse(WM_LBUTTONUP, CPoint(390, 10));
     EXPECT_TRUE(host_.told.empty());
     host_.answer = [](WntToolNotify& n) -> LRESULT { return n.hdr.code == WNT_TOOL_MOVING && n.id == 102; };
-    drag(100, CPoint(390, 10));
-    mouse(WM_LBUTTONUP, CPoint(390, 10));
+    drop(100, CPoint(390, 10));
     EXPECT_THAT(order(), ElementsAre(101u, 102u, 100u));
     EXPECT_THAT(host_.told, ElementsAre(WNT_TOOL_MOVING, WNT_TOOL_MOVED));
     EXPECT_EQ(host_.index, 2); // where it is now
-    drag(102, CPoint(0, 10));  // refused
-    mouse(WM_LBUTTONUP, CPoint(0, 10));
+    drop(102, CPoint(0, 10));  // refused
     EXPECT_THAT(order(), ElementsAre(101u, 102u, 100u));
     EXPECT_TRUE(host_.commands.empty());
     click(100);
@@ -231,8 +207,7 @@ TEST_F(ToolBar, ItemsAreDraggedWhereThatIsAllowed) {
     host_.answer = [&](WntToolNotify& n) -> LRESULT {
         return n.hdr.code == WNT_TOOL_MOVING && bar_->RemoveItem(bar_->FindItem(102)) == 0;
     };
-    drag(100, CPoint(0, 10)); // which has another place when it is let go
-    mouse(WM_LBUTTONUP, CPoint(0, 10));
+    drop(100, CPoint(0, 10)); // which has another place when it is let go
     EXPECT_THAT(order(), ElementsAre(100u, 101u));
     script({":ITEM=101,0", ":ITEM=102,0", ":ITEM=100,0"});
 
@@ -262,9 +237,7 @@ TEST_F(ToolBar, MayBeDestroyedByAnythingItTells) {
         by_lost_focus();
         remove();
     };
-    const struct {
-        Work arm, act;
-    } ways[] = {
+    const std::pair<Work, Work> ways[] = {
         {by_command, [&] { click(100); }},
         {by_command, [&] { bar_->SetFocus(), key(VK_SPACE); }},
         {by_command,
@@ -289,7 +262,7 @@ TEST_F(ToolBar, MayBeDestroyedByAnythingItTells) {
              mouse(WM_LBUTTONUP, CPoint(390, 10));
          }},
     };
-    for (const auto& way : ways) {
+    for (const auto& [arm, act] : ways) {
         end_bar();
         host_.on_command = [](UINT) {};
         host_.on_message = [](UINT, WPARAM) {};
@@ -297,9 +270,8 @@ TEST_F(ToolBar, MayBeDestroyedByAnythingItTells) {
         host_.state = [](CCmdUI& ui) { ui.Enable(); };
         open();
         script({":ITEM=100,0", ":DROPDOWN=101,0", ":MENU=110,Entry"});
-        way.arm();
-        way.act();
-        EXPECT_FALSE(bar_) << &way - ways;
+        arm(), act();
+        EXPECT_FALSE(bar_) << (&arm - &ways[0].first) / 2;
     }
 }
 
@@ -313,13 +285,11 @@ TEST_F(ToolBar, ItemsMayGoWhenItTakesTheFocus) {
     EXPECT_EQ(bar_->RemoveItem(2), 1); // the last one, where the focus was
     EXPECT_EQ(::GetFocus(), bar_->m_hWnd);
     key(VK_RIGHT);
-    full_repaint(*bar_);
     EXPECT_EQ(focused(), 101u);
 
     edit_.SetFocus();
     when_an_edit_loses_the_focus([&] { bar_->RemoveAll(); });
-    EXPECT_TRUE(filter_f6(edit_));
-    EXPECT_EQ(bar_->GetItemCount(), 0);
+    EXPECT_TRUE(filter_f6(edit_) && bar_->GetItemCount() == 0);
 }
 
 TEST_F(ToolBar, AnOwnerMayGoBeforeItsBar) {

@@ -12,13 +12,12 @@ struct TipHost : AttentiveHost {
 
     BOOL OnNotify(WPARAM, LPARAM lParam, LRESULT*) override {
         auto* told = reinterpret_cast<NMHDR*>(lParam);
-        if (told->code == TTN_NEEDTEXTA) {
+        if (told->code == TTN_NEEDTEXTA || told->code == WNT_TIP_NEEDED)
             asked.push_back(told->code);
+        if (told->code == TTN_NEEDTEXTA)
             lstrcpynA(reinterpret_cast<NMTTDISPINFOA*>(told)->szText, need_text, 80);
-        } else if (told->code == WNT_TIP_NEEDED) {
-            asked.push_back(told->code);
+        else if (told->code == WNT_TIP_NEEDED)
             fill(reinterpret_cast<WntTipNotify*>(told)->tip);
-        }
         return TRUE;
     }
 };
@@ -146,18 +145,17 @@ TEST_F(ToolTip, TheKeyboardShowsItUntilTheNextKey) {
     EXPECT_EQ(shown(), "Save");
     tips_->SetTip(&button_, {"", "Save all"});
     EXPECT_EQ(shown(), "Save all");
-    tips_->SetTip(&button_, {});
-    EXPECT_EQ(shown(), "");
-    tips_->SetTip(&button_, {"", "Save"});
-    EXPECT_EQ(tips_->ShowTip(&button_), 1);
-    relay(WM_KEYDOWN, {0, 0});
-    EXPECT_EQ(shown(), "");
-    EXPECT_EQ(tips_->ShowTip(&button_), 1);
-    tips_->Pop();
-    EXPECT_EQ(shown(), "");
-    EXPECT_EQ(tips_->ShowTip(&button_), 1);
-    tips_->DelTool(&button_);
-    EXPECT_EQ(shown(), "");
+    const std::function<void()> ends[] = {[&] { tips_->SetTip(&button_, {}); },
+                                          [&] {
+                                              relay(WM_KEYDOWN, {0, 0});
+                                          },
+                                          [&] { tips_->Pop(); }, [&] { tips_->DelTool(&button_); }};
+    for (const auto& end : ends) {
+        tips_->SetTip(&button_, {"", "Save"});
+        EXPECT_EQ(tips_->ShowTip(&button_), 1);
+        end();
+        EXPECT_EQ(shown(), "") << &end - ends;
+    }
     tips_->AddTip(&button_, {"", "Save"});
     tips_->SetDelayTime(TTDT_AUTOPOP, 1);
     EXPECT_EQ(tips_->ShowTip(&button_), 1);
@@ -172,10 +170,8 @@ TEST_F(ToolTip, PaintsItsParts) {
     ASSERT_TRUE(tips_->ShowTip(&button_));
     const Pixels all = pixels_of(*tips_);
     EXPECT_TRUE(all.at(0, 5) == ink && all.at(5, 0) == ink); // framed
-    EXPECT_TRUE(all.at(all.width - 1, 5) == ink && all.at(5, all.height - 1) == ink);
-    EXPECT_EQ(all.at(2, 2), ground);
-    const long sample = all.count(odd_colour);
-    EXPECT_GT(sample, 80);
+    EXPECT_TRUE(all.at(all.width - 1, 5) == ink && all.at(5, all.height - 1) == ink && all.at(2, 2) == ground);
+    EXPECT_GT(all.count(odd_colour), 80);
     EXPECT_GT(all.height, 32);
     tips_->SetTip(&button_, {"Title", "text", icon, RGB(34, 12, 200)});
     EXPECT_EQ(pixels_of(*tips_).count(odd_colour), 0);
@@ -195,10 +191,7 @@ TEST_F(ToolTip, PaintsItsParts) {
 TEST_F(ToolTip, FollowsThePointerWithoutFlicker) {
     EXPECT_EQ(tips_->TrackTip({"", "x = 10.00"}, CPoint(200, 200)), 1);
     const CRect before = place();
-    {
-        CClientDC dc(tips_.get());
-        dc.FillSolidRect(CRect(0, 0, 5, 5), poison);
-    }
+    CClientDC(tips_.get()).FillSolidRect(CRect(0, 0, 5, 5), poison);
     tips_->TrackTip({"", "x = 10.00"}, CPoint(230, 220)); // moved alone: painted nowhere
     EXPECT_EQ(place(), before + CPoint(30, 20));
     EXPECT_EQ(pixels_of(*tips_).count(poison), 25);
@@ -226,11 +219,9 @@ TEST_F(ToolTip, KeepsToTheFrameworksWays) {
     const CString longer('m', 300);
     EXPECT_TRUE(tips_->AddTool(&button_, longer));
     tips_->GetText(text, &button_);
-    EXPECT_EQ(text, longer);
-    EXPECT_EQ(tips_->GetToolCount(), 1);
+    EXPECT_TRUE(text == longer && tips_->GetToolCount() == 1);
     tips_->UpdateTipText("shorter", &button_);
-    EXPECT_EQ(tips_->ShowTip(&button_), 1);
-    EXPECT_EQ(shown(), "shorter");
+    EXPECT_TRUE(tips_->ShowTip(&button_) == 1 && shown() == "shorter");
     TOOLINFO tool;
     tips_->FillInToolInfo(tool, &button_, 0);
     char room[80] = "";

@@ -37,6 +37,7 @@ struct TraceTest : WidgetTest {
     }
     HWND dialog() const { return ::FindWindowA("#32770", title.c_str()); }
     HWND list() const { return ::GetDlgItem(dialog(), 255); }
+    LRESULT selected() const { return ::SendMessage(list(), LB_GETCURSEL, 0, 0); }
     Texts lines() const {
         Texts all;
         char text[2000];
@@ -92,17 +93,16 @@ TEST_F(TraceTest, LinesGoToTheOpenStream) {
     trace.Trace("lost\n");
     trace.SetFlags(1);
     trace.Trace("last\n");
-    EXPECT_THAT(text_of("trace banner.txt"), StartsWith("Begin of Trace\r\nstarted at "));
-    EXPECT_THAT(text_of("trace banner.txt"), EndsWith(hyphens + "\r\n"));
+    EXPECT_THAT(text_of("trace banner.txt"),
+                AllOf(StartsWith("Begin of Trace\r\nstarted at "), EndsWith(hyphens + "\r\n")));
     trace.SetFilename(""); // closes it
     std::remove("trace banner.txt");
     trace.DestroyWindow();
     EXPECT_EQ(trace.stream(), nullptr);
-    const std::string text = text_of(file);
     const std::string written =
         "plain text\r\n      indented 7\r\noutdented\r\n" + std::string(1200, ' ') + "deep\r\nalmost last\r\n";
-    EXPECT_THAT(text, StartsWith(written + hyphens + "\r\nended at "));
-    EXPECT_THAT(text, EndsWith("\r\nEnd of Trace\r\n\r\n"));
+    EXPECT_THAT(text_of(file),
+                AllOf(StartsWith(written + hyphens + "\r\nended at "), EndsWith("\r\nEnd of Trace\r\n\r\n")));
     EXPECT_EQ(text_of("trace.txt") + text_of("Wtrace.txt"), "");
 
     trace.setstream(std::fopen(file, "wt"));
@@ -126,12 +126,10 @@ TEST_F(TraceTest, WindowShowsAndSelectsTheNewestLine) {
     EXPECT_TRUE(::IsWindowVisible(dialog()));
     EXPECT_NE(::GetDlgItem(dialog(), 257), nullptr);
 
-    trace.Trace("one");
-    trace.Trace("one");
-    EXPECT_EQ(::SendMessage(list(), LB_GETCURSEL, 0, 0), 1);
-    trace.Trace(2, "one more");
-    WntTrace("one");
-    EXPECT_EQ(::SendMessage(list(), LB_GETCURSEL, 0, 0), 3);
+    trace.Trace("one"), trace.Trace("one");
+    EXPECT_EQ(selected(), 1);
+    trace.Trace(2, "one more"), WntTrace("one");
+    EXPECT_EQ(selected(), 3);
     trace.SetFlags(1);
     trace.Trace("unseen");
     EXPECT_THAT(lines(), ElementsAre("one", "one", "one more", "one"));
@@ -139,10 +137,9 @@ TEST_F(TraceTest, WindowShowsAndSelectsTheNewestLine) {
     ::SendMessage(list(), WM_SETREDRAW, FALSE, 0);
     for (int i = 4; i < 9'999; ++i)
         ::SendMessage(list(), LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(""));
-    for (const char* text : {"last with all", "newest"})
-        trace.Trace(text);
+    trace.Trace("last with all"), trace.Trace("newest");
     EXPECT_EQ(::SendMessage(list(), LB_GETCOUNT, 0, 0), 10'000);
-    EXPECT_EQ(::SendMessage(list(), LB_GETCURSEL, 0, 0), 9'999);
+    EXPECT_EQ(selected(), 9'999);
     EXPECT_EQ(::SendMessage(list(), LB_FINDSTRINGEXACT, 9'990, reinterpret_cast<LPARAM>("one more")), 1);
     trace.DestroyWindow();
     trace.Trace("after the window");
@@ -170,9 +167,7 @@ TEST_F(TraceTest, LongLinesAndBadFormatsAreOnlyReported) {
     program.boxes.clear();
     const char* volatile none = nullptr, * volatile counting = "%d%n";
     int count = 0;
-    trace.Trace(none);
-    WntTrace(none);
-    trace.Trace(counting, 1, &count);
+    trace.Trace(none), WntTrace(none), trace.Trace(counting, 1, &count);
     EXPECT_GE(program.boxes.size(), 2u);
     program.boxes.clear();
 }

@@ -49,8 +49,7 @@ std::vector<Texts> rows_of(HWND sheet, int id) {
         item.mask = LVIF_TEXT | LVIF_IMAGE;
         item.iItem = static_cast<int>(i % rows.size());
         item.iSubItem = static_cast<int>(i / rows.size());
-        item.pszText = text;
-        item.cchTextMax = sizeof text;
+        item.pszText = text, item.cchTextMax = sizeof text;
         ::SendMessageA(list, LVM_GETITEMA, 0, reinterpret_cast<LPARAM>(&item));
         if (row.empty())
             row.push_back(item.iImage < images ? std::to_string(item.iImage) : "none");
@@ -87,8 +86,7 @@ std::string working_folder() {
 } // namespace
 
 TEST(VersionFacts, NameEveryValue) {
-    EXPECT_EQ(fact_of(fixed_info, 1), "1.2.3.65535");
-    EXPECT_EQ(fact_of(fixed_info, 2), "10.0.0.7");
+    EXPECT_EQ(fact_of(fixed_info, 1) + " " + fact_of(fixed_info, 2), "1.2.3.65535 10.0.0.7");
     const auto check = [](int kind, DWORD VS_FIXEDFILEINFO::*field, std::vector<DWORD> values, const Texts& texts) {
         ASSERT_EQ(values.size(), texts.size());
         for (std::size_t i = 0; i < values.size(); ++i) {
@@ -124,13 +122,12 @@ TEST(VersionFacts, AreEmptyWhereTheBlockDoesNotHoldThem) {
         EXPECT_TRUE(has_info || fact(subject, 1).empty()) << block.size();
     };
     check(Bytes(good.begin(), good.begin() + 20), true); // what is missing counts as zeros
-    for (const std::size_t at : {std::size_t{0}, std::size_t{2}, info_end, info_end + 32}) { // a wrong length
+    for (const std::size_t at : {std::size_t{0}, std::size_t{2}, info_end, info_end + 32}) // a wrong length
         for (const WORD told : {51, 0xFFFF}) {
             Bytes block = good;
             std::memcpy(&block[at], &told, sizeof told);
             check(block, at > 2 || told == 0xFFFF);
         }
-    }
     Bytes endless = good; // no name has an end
     std::fill(endless.begin() + 6, endless.end(), 'x');
     check(endless, false);
