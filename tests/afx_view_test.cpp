@@ -130,6 +130,10 @@ TEST(AfxScrollView, ScrollsWithinItsDocumentInLogicalUnits) {
     view.CheckScrollBars(horizontal, vertical);
     EXPECT_FALSE(horizontal || vertical);
     EXPECT_TRUE(view.GetScrollPosition() == CPoint(0, 0) && origin() == CPoint(0, 0)) << "everything is to be seen";
+    view.SetScrollSizes(MM_TEXT, CSize(whole.cx - 1, 5000)); // the bar that this needs takes the room of the width
+    view.CheckScrollBars(horizontal, vertical);
+    EXPECT_TRUE(horizontal && vertical);
+    view.SetScrollSizes(MM_TEXT, CSize(50, 60));
     view.m_bCenter = TRUE;
     CClientDC dc(&view);
     view.OnPrepareDC(&dc);

@@ -132,10 +132,13 @@ TEST_F(TraceTest, WindowShowsAndSelectsTheNewestLine) {
     EXPECT_EQ(selected(), 3);
     trace.SetFlags(1);
     trace.Trace("unseen");
-    EXPECT_THAT(lines(), ElementsAre("one", "one", "one more", "one"));
+    trace.SetFlags(3);
+    trace.SetFilename(nullptr); // the window goes on
+    trace.Trace("two");
+    EXPECT_THAT(lines(), ElementsAre("one", "one", "one more", "one", "two"));
     trace.SetFlags(2);
     ::SendMessage(list(), WM_SETREDRAW, FALSE, 0);
-    for (int i = 4; i < 9'999; ++i)
+    for (int i = 5; i < 9'999; ++i)
         ::SendMessage(list(), LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(""));
     trace.Trace("last with all"), trace.Trace("newest");
     EXPECT_EQ(::SendMessage(list(), LB_GETCOUNT, 0, 0), 10'000);

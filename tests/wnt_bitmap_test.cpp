@@ -58,13 +58,17 @@ TEST(WntBitmap, SavesEightBitsWithAFullTable) {
     CWntBitmap bitmap;
     bitmap.Create(3, 2);
     number(bitmap);
-    const TemporaryFile disk(Bytes(100, 0xCC)); // a bitmap behind other things
+    const TemporaryFile disk(Bytes(99, 0xCC)); // a bitmap behind other things, the last of them in the archive
     CFile file(disk.name(), CFile::modeReadWrite);
     file.SeekToEnd();
     CArchive store(&file, CArchive::store);
+    store << BYTE(7);
     bitmap.Serialize(store);
-    file.Seek(100, CFile::begin);
+    file.Seek(99, CFile::begin);
     CArchive load(&file, CArchive::load);
+    BYTE before = 0;
+    load >> before;
+    EXPECT_EQ(before, 7);
     CObject* made = CRuntimeClass::CreateObject("CWntBitmap");
     ASSERT_TRUE(made && made->IsSerializable());
     made->Serialize(load);
