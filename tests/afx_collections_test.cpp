@@ -109,7 +109,8 @@ TEST(AfxList, KeepsPlacesWhileOthersGo) {
     EXPECT_STREQ(list.RemoveTail(), "e");
     CTypedPtrList<CPtrList, int*> numbers;
     int number = 5;
-    EXPECT_EQ(*numbers.GetAt(numbers.AddTail(&number)), 5);
+    numbers.AddTail(&number);
+    EXPECT_EQ(*numbers.GetHead(), 5);
 }
 
 TEST(AfxMap, DoesAsAMapDoes) {

@@ -72,8 +72,9 @@ TEST_F(AfxDataDialog, ListHoldsItemsWithTheirData) {
     ASSERT_TRUE(pictures.Create(16, 16, ILC_COLOR, 0, 4));
     dialog.rows.SetImageList(&pictures, LVSIL_SMALL);
     EXPECT_EQ(dialog.rows.GetImageList(LVSIL_SMALL), &pictures);
-    EXPECT_EQ(dialog.rows.InsertColumn(0, "Name", LVCFMT_LEFT, 80), 0);
-    EXPECT_EQ(dialog.rows.InsertColumn(1, "Size", LVCFMT_RIGHT, 40, 1), 1);
+    EXPECT_TRUE(dialog.rows.InsertColumn(0, "Name", LVCFMT_LEFT, 80) == 0 &&
+                dialog.rows.InsertColumn(1, "Size", LVCFMT_RIGHT, 40, 1) == 1);
+    EXPECT_EQ(dialog.rows.GetHeaderCtrl()->GetItemCount(), 2);
     for (int i = 0; i < 3; ++i) {
         EXPECT_EQ(dialog.rows.InsertItem(i, std::string(1, static_cast<char>('a' + i)).c_str()), i);
         dialog.rows.SetItemData(i, static_cast<DWORD_PTR>(10 - i));

@@ -116,12 +116,10 @@ TEST_F(AfxImage, RefusesImpossibleOnesAndKeepsWhatItHas) {
     constexpr int sizes[][3] = {
         {0, 3, 24},        {-5, 3, 24}, {5, 0, 24}, {1, INT_MIN, 24}, {5, 3, 0}, {5, 3, 7}, {INT_MAX, INT_MAX, 32},
         {46341, -46341, 8}};
-    const std::tuple<int, DWORD, const DWORD*, DWORD> kinds[] = {{24, BI_RGB, nullptr, CImage::createAlphaChannel},
-                                                                 {32, BI_BITFIELDS, masks, CImage::createAlphaChannel},
-                                                                 {8, BI_BITFIELDS, masks, 0},
-                                                                 {16, BI_BITFIELDS, nullptr, 0},
-                                                                 {16, BI_RGB, masks, 0},
-                                                                 {8, BI_RLE8, nullptr, 0}};
+    constexpr DWORD alpha = CImage::createAlphaChannel;
+    const std::tuple<int, DWORD, const DWORD*, DWORD> kinds[] = {
+        {24, BI_RGB, nullptr, alpha},   {32, BI_BITFIELDS, masks, alpha}, {8, BI_BITFIELDS, masks, 0},
+        {16, BI_BITFIELDS, nullptr, 0}, {16, BI_RGB, masks, 0},           {8, BI_RLE8, nullptr, 0}};
     CImage image;
     ASSERT_TRUE(image.Create(5, 3, 24));
     paint(image);

@@ -262,7 +262,7 @@ TEST_F(ToolBar, MayBeDestroyedByAnythingItTells) {
              mouse(WM_LBUTTONUP, CPoint(390, 10));
          }},
     };
-    for (const auto& [arm, act] : ways) {
+    for (const auto& way : ways) {
         end_bar();
         host_.on_command = [](UINT) {};
         host_.on_message = [](UINT, WPARAM) {};
@@ -270,8 +270,8 @@ TEST_F(ToolBar, MayBeDestroyedByAnythingItTells) {
         host_.state = [](CCmdUI& ui) { ui.Enable(); };
         open();
         script({":ITEM=100,0", ":DROPDOWN=101,0", ":MENU=110,Entry"});
-        arm(), act();
-        EXPECT_FALSE(bar_) << (&arm - &ways[0].first) / 2;
+        way.first(), way.second();
+        EXPECT_FALSE(bar_) << &way - ways;
     }
 }
 
