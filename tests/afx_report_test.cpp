@@ -47,12 +47,14 @@ TEST(AfxDump, WritesValuesAndObjects) {
 }
 
 TEST(AfxExceptions, TellTheUserWhatHappened) {
-    const std::pair<const char*, std::function<void()>> cases[] = {
+    char invalid[100] = ""; // in the system's words
+    ::FormatMessage(FORMAT_MESSAGE_FROM_SYSTEM, nullptr, static_cast<DWORD>(E_INVALIDARG), 0, invalid, 100, nullptr);
+    const std::pair<CString, std::function<void()>> cases[] = {
         {"memory", [] { AfxThrowMemoryException(); }},
         {"resource", [] { AfxThrowResourceException(); }},
         {"argument", [] { AfxThrowInvalidArgException(); }},
         {"unsupported", [] { AfxThrowNotSupportedException(); }},
-        {"80070057", [] { AfxThrowOleException(E_INVALIDARG); }},
+        {CString(invalid).Left(9).MakeLower(), [] { AfxThrowOleException(E_INVALIDARG); }},
         {"a.dat", [] { AfxThrowFileException(CFileException::diskFull, ERROR_DISK_FULL, "a.dat"); }},
         {"13", [] { AfxThrowFileException(CFileException::diskFull); }},
         {"ends too early", [] { AfxThrowArchiveException(CArchiveException::endOfFile); }},
@@ -67,8 +69,7 @@ TEST(AfxExceptions, TellTheUserWhatHappened) {
             EXPECT_TRUE(exception->GetErrorMessage(text, sizeof(text), &help) && help == 0) << what;
             EXPECT_FALSE(std::isspace(static_cast<unsigned char>(text[std::strlen(text) - 1]))) << "no line ends it";
             CString lower(text);
-            const bool of_system = exception->IsKindOf(RUNTIME_CLASS(COleException)) != FALSE;
-            EXPECT_TRUE(of_system || lower.MakeLower().Find(what) >= 0) << text;
+            EXPECT_TRUE(!what.IsEmpty() && lower.MakeLower().Find(what) >= 0) << text;
             exception->GetErrorMessage(little, sizeof(little));
             EXPECT_LT(std::strlen(little), sizeof(little));
             exception->GetErrorMessage(nullptr, 0);
