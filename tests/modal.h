@@ -31,12 +31,22 @@ inline HWND shown_dialog() {
     return thread_window("#32770", true);
 }
 
+/// The window of the menu that is shown; null while there is none.
+inline HWND shown_popup() {
+    const HWND popup = ::FindWindowA("#32768", nullptr);
+    return ::IsWindowVisible(popup) ? popup : nullptr;
+}
+
+inline HMENU menu_of(HWND popup) {
+    return reinterpret_cast<HMENU>(::SendMessageA(popup, MN_GETHMENU, 0, 0));
+}
+
 /// The entries of the menu that is shown, "*" before checked and "-" before grey ones; empty while there is none.
 inline std::string shown_menu() {
-    const HWND popup = ::FindWindowA("#32768", nullptr);
-    if (!popup || !::IsWindowVisible(popup))
+    const HWND popup = shown_popup();
+    if (!popup)
         return {};
-    const auto menu = reinterpret_cast<HMENU>(::SendMessageA(popup, MN_GETHMENU, 0, 0));
+    const HMENU menu = menu_of(popup);
     std::string texts;
     for (int i = 0; i < ::GetMenuItemCount(menu); ++i) {
         char text[64] = "";

@@ -237,10 +237,10 @@ TEST_F(Tabs, WhatDoesNotFitScrollsOrIsInTheMenu) {
     tabs_.ShowTab(0);
     CString listed;
     WhileModal menu([&] {
-        const HWND shown = ::FindWindowA("#32768", nullptr);
-        if (!shown || !::IsWindowVisible(shown))
+        const HWND shown = shown_popup();
+        if (!shown)
             return false;
-        const auto handle = reinterpret_cast<HMENU>(::SendMessageA(shown, MN_GETHMENU, 0, 0));
+        const HMENU handle = menu_of(shown);
         listed.Format("%d to %u", ::GetMenuItemCount(handle), ::GetMenuItemID(handle, ::GetMenuItemCount(handle) - 1));
         ::PostMessageA(shown, WM_KEYDOWN, VK_UP, 0); // the last one
         ::PostMessageA(shown, WM_KEYDOWN, VK_UP, 0);

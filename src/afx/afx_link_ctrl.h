@@ -43,4 +43,5 @@ private:
         return record != nullptr ? afx_int(SendMessage(message, 0, afx_param(record))) : FALSE;
     }
     bool Read(int link, UINT mask, CStringW& text) const;
+    template <class... Room> bool Give(int link, UINT mask, Room&&... room) const;
 };

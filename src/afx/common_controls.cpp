@@ -1,4 +1,5 @@
 #include "afxcmn.h"
+#include "control_classes.h"
 
 IMPLEMENT_DYNAMIC(CSliderCtrl, CWnd)
 IMPLEMENT_DYNAMIC(CSpinButtonCtrl, CWnd)
@@ -15,13 +16,11 @@ END_MESSAGE_MAP()
 
 #define CREATE_CONTROL(class_name, kind, window_class)                                                                 \
     BOOL class_name::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {                             \
-        const INITCOMMONCONTROLSEX wanted{sizeof(wanted), kind};                                                       \
-        ::InitCommonControlsEx(&wanted);                                                                               \
+        prepare_class(kind);                                                                                           \
         return CWnd::Create(window_class, nullptr, dwStyle, rect, pParentWnd, nID);                                    \
     }                                                                                                                  \
     BOOL class_name::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {          \
-        const INITCOMMONCONTROLSEX wanted{sizeof(wanted), kind};                                                       \
-        ::InitCommonControlsEx(&wanted);                                                                               \
+        prepare_class(kind);                                                                                           \
         return CWnd::CreateEx(dwExStyle, window_class, nullptr, dwStyle | WS_CHILD, rect, pParentWnd, nID);            \
     }
 

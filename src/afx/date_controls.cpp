@@ -1,14 +1,10 @@
 #include "afxdtctl.h"
+#include "control_classes.h"
 
 IMPLEMENT_DYNAMIC(CDateTimeCtrl, CWnd)
 IMPLEMENT_DYNAMIC(CMonthCalCtrl, CWnd)
 
 namespace {
-
-void register_classes() {
-    const INITCOMMONCONTROLSEX wanted{sizeof(wanted), ICC_DATE_CLASSES};
-    ::InitCommonControlsEx(&wanted);
-}
 
 // The two ends of a range as the controls take them; flags tell which there are.
 struct time_range {
@@ -57,7 +53,7 @@ struct time_range {
 } // namespace
 
 BOOL CDateTimeCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
-    register_classes();
+    prepare_class(ICC_DATE_CLASSES);
     return CWnd::Create(DATETIMEPICK_CLASS, nullptr, dwStyle, rect, pParentWnd, nID);
 }
 
@@ -98,7 +94,7 @@ DWORD CDateTimeCtrl::GetTime(CTime& timeDest) const {
 }
 
 BOOL CMonthCalCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
-    register_classes();
+    prepare_class(ICC_DATE_CLASSES);
     return CWnd::Create(MONTHCAL_CLASS, nullptr, dwStyle, rect, pParentWnd, nID);
 }
 

@@ -1,16 +1,12 @@
 #include "afx_extended_ctrls.h"
 #include "afx_pager_ctrl.h"
+#include "control_classes.h"
 
 IMPLEMENT_DYNAMIC(CComboBoxEx, CComboBox)
 IMPLEMENT_DYNAMIC(CIPAddressCtrl, CWnd)
 IMPLEMENT_DYNAMIC(CPagerCtrl, CWnd)
 
 namespace {
-
-void prepare_class(DWORD kind) {
-    const INITCOMMONCONTROLSEX wanted{sizeof(wanted), kind};
-    ::InitCommonControlsEx(&wanted);
-}
 
 CImageList* list_of(LRESULT handle) {
     return CImageList::FromHandle(reinterpret_cast<HIMAGELIST>(handle));

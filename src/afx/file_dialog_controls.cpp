@@ -47,10 +47,7 @@ void CFileDialog::UpdateOFNFromShellDialog() {
 }
 
 void CFileDialog::AddPlace(LPCWSTR lpszFolder, FDAP fdap) {
-    IShellItem* item = nullptr;
-    if (lpszFolder == nullptr || FAILED(::SHCreateItemFromParsingName(lpszFolder, nullptr, IID_PPV_ARGS(&item))))
-        return;
-    AddPlace(com_ptr<IShellItem>(item).get(), fdap);
+    AddPlace(shell_item_of(lpszFolder).get(), fdap);
 }
 
 void CFileDialog::AddPlace(IShellItem* psi, FDAP fdap) {

@@ -1,4 +1,5 @@
 #include "afx_link_ctrl.h"
+#include "control_classes.h"
 
 #include <cwchar>
 
@@ -11,6 +12,11 @@ LITEM item_of(int link, UINT mask) {
     item.mask = LIF_ITEMINDEX | mask;
     item.iLink = link;
     return item;
+}
+
+bool give(const CStringW& from, CString& to) {
+    to = from;
+    return true;
 }
 
 bool give(const CStringW& from, LPWSTR to, UINT room) {
@@ -39,8 +45,7 @@ BOOL CLinkCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT n
 
 BOOL CLinkCtrl::CreateEx(LPCTSTR lpszLinkMarkup, DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd,
                          UINT nID) {
-    const INITCOMMONCONTROLSEX wanted{sizeof(wanted), ICC_LINK_CLASS};
-    ::InitCommonControlsEx(&wanted);
+    prepare_class(ICC_LINK_CLASS);
     return CWnd::CreateEx(dwExStyle, "SysLink", lpszLinkMarkup, dwStyle | WS_CHILD, rect, pParentWnd, nID);
 }
 
@@ -56,24 +61,25 @@ bool CLinkCtrl::Read(int link, UINT mask, CStringW& text) const {
     return true;
 }
 
-BOOL CLinkCtrl::GetItemID(int iLink, CString& strID) const {
+template <class... Room> bool CLinkCtrl::Give(int link, UINT mask, Room&&... room) const {
     CStringW text;
-    return Read(iLink, LIF_ITEMID, text) && (strID = text, true);
+    return Read(link, mask, text) && give(text, room...);
+}
+
+BOOL CLinkCtrl::GetItemID(int iLink, CString& strID) const {
+    return Give(iLink, LIF_ITEMID, strID);
 }
 
 BOOL CLinkCtrl::GetItemID(int iLink, LPWSTR szID, UINT cchID) const {
-    CStringW text;
-    return Read(iLink, LIF_ITEMID, text) && give(text, szID, cchID);
+    return Give(iLink, LIF_ITEMID, szID, cchID);
 }
 
 BOOL CLinkCtrl::GetItemUrl(int iLink, CString& strUrl) const {
-    CStringW text;
-    return Read(iLink, LIF_URL, text) && (strUrl = text, true);
+    return Give(iLink, LIF_URL, strUrl);
 }
 
 BOOL CLinkCtrl::GetItemUrl(int iLink, LPWSTR szUrl, UINT cchUrl) const {
-    CStringW text;
-    return Read(iLink, LIF_URL, text) && give(text, szUrl, cchUrl);
+    return Give(iLink, LIF_URL, szUrl, cchUrl);
 }
 
 BOOL CLinkCtrl::GetItemState(int iLink, UINT* pnState, UINT stateMask) const {

@@ -2,6 +2,7 @@
 #include "afx_common_ctrls.h"
 #include "afxmsg_.h"
 #include "afxpriv.h"
+#include "control_classes.h"
 
 IMPLEMENT_DYNAMIC(CReBarCtrl, CWnd)
 IMPLEMENT_DYNAMIC(CReBar, CControlBar)
@@ -15,11 +16,6 @@ END_MESSAGE_MAP()
 
 namespace {
 
-void prepare_class() {
-    const INITCOMMONCONTROLSEX wanted{sizeof(wanted), ICC_COOL_CLASSES};
-    ::InitCommonControlsEx(&wanted);
-}
-
 // What every version of the control takes.
 const UINT band_size = REBARBANDINFOA_V6_SIZE;
 
@@ -30,7 +26,7 @@ BOOL CReBarCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT 
 }
 
 BOOL CReBarCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
-    prepare_class();
+    prepare_class(ICC_COOL_CLASSES);
     return CWnd::CreateEx(dwExStyle, REBARCLASSNAME, nullptr, dwStyle, rect, pParentWnd, nID);
 }
 
@@ -73,7 +69,7 @@ BOOL CReBar::Create(CWnd* pParentWnd, DWORD dwCtrlStyle, DWORD dwStyle, UINT nID
     m_dwStyle = dwStyle & CBRS_ALL;
     const DWORD style = (dwStyle & ~static_cast<DWORD>(CBRS_ALL)) | dwCtrlStyle | CCS_NOPARENTALIGN | CCS_NOMOVEY |
                         CCS_NODIVIDER | CCS_NORESIZE | RBS_VARHEIGHT;
-    prepare_class();
+    prepare_class(ICC_COOL_CLASSES);
     if (!CWnd::Create(REBARCLASSNAME, nullptr, style, CRect(0, 0, 0, 0), pParentWnd, nID))
         return FALSE;
     SetOwner(pParentWnd);

@@ -1,5 +1,4 @@
 #include "shell_file_dialog.h"
-#include "atlconv.h"
 #include "file_names.h"
 #include "wnd_state.h"
 
@@ -28,12 +27,10 @@ template <class Dialog> CString path_of(Dialog* dialog, HRESULT (STDMETHODCALLTY
 
 // A folder that is not there leaves the dialog where it would be.
 void begin_in(IFileDialog& dialog, const CString& folder) {
-    IShellItem* item = nullptr;
-    if (folder.IsEmpty() ||
-        FAILED(::SHCreateItemFromParsingName(CA2W(full_path_of(folder)), nullptr, IID_PPV_ARGS(&item))))
+    if (folder.IsEmpty())
         return;
-    const com_ptr<IShellItem> owned(item);
-    dialog.SetFolder(item);
+    if (const com_ptr<IShellItem> item = shell_item_of(CStringW(full_path_of(folder))))
+        dialog.SetFolder(item.get());
 }
 
 // A list of texts and patterns in turn, ended twice.
@@ -49,6 +46,13 @@ void set_types(IFileDialog& dialog, LPCTSTR filter) {
 }
 
 } // namespace
+
+com_ptr<IShellItem> shell_item_of(LPCWSTR path) {
+    IShellItem* item = nullptr;
+    if (path == nullptr || FAILED(::SHCreateItemFromParsingName(path, nullptr, IID_PPV_ARGS(&item))))
+        return nullptr;
+    return com_ptr<IShellItem>(item);
+}
 
 shell_file_dialog::shell_file_dialog(CFileDialog& object) : m_object(object) {
     const CLSID& kind = object.m_bOpenFileDialog ? CLSID_FileOpenDialog : CLSID_FileSaveDialog;

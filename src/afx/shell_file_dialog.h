@@ -21,6 +21,9 @@ private:
     HRESULT m_result;
 };
 
+// Of a path; null where there is none.
+com_ptr<IShellItem> shell_item_of(LPCWSTR path);
+
 // Tells the object what happens in it, and knows it as long as it lives itself.
 class shell_file_dialog final : IFileDialogEvents, IFileDialogControlEvents {
 public:

@@ -1,5 +1,6 @@
 #include "afxcmn.h"
 #include "atlconv.h"
+#include "control_classes.h"
 
 IMPLEMENT_DYNAMIC(CToolBarCtrl, CWnd)
 
@@ -12,8 +13,7 @@ BOOL CToolBarCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UIN
 }
 
 BOOL CToolBarCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
-    const INITCOMMONCONTROLSEX wanted{sizeof(wanted), ICC_BAR_CLASSES};
-    ::InitCommonControlsEx(&wanted);
+    prepare_class(ICC_BAR_CLASSES);
     return CWnd::CreateEx(dwExStyle, TOOLBARCLASSNAME, nullptr, dwStyle | WS_CHILD, rect, pParentWnd, nID);
 }
 

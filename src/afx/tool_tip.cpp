@@ -1,5 +1,6 @@
 #include "afxcmn.h"
 #include "afxmsg_.h"
+#include "control_classes.h"
 
 IMPLEMENT_DYNAMIC(CToolTipCtrl, CWnd)
 
@@ -24,8 +25,7 @@ BOOL CToolTipCtrl::Create(CWnd* pParentWnd, DWORD dwStyle) {
 }
 
 BOOL CToolTipCtrl::CreateEx(CWnd* pParentWnd, DWORD dwStyle, DWORD dwStyleEx) {
-    const INITCOMMONCONTROLSEX wanted{sizeof(wanted), ICC_BAR_CLASSES};
-    ::InitCommonControlsEx(&wanted);
+    prepare_class(ICC_BAR_CLASSES);
     const BOOL created =
         CWnd::CreateEx(dwStyleEx, TOOLTIPS_CLASS, nullptr, WS_POPUP | dwStyle, CW_USEDEFAULT, CW_USEDEFAULT,
                        CW_USEDEFAULT, CW_USEDEFAULT, pParentWnd->GetSafeHwnd(), nullptr, nullptr);

@@ -63,10 +63,7 @@ CWnd* PASCAL CWnd::GetSafeOwner(CWnd* pParent, HWND* pWndTop) {
 }
 
 CWnd* CWnd::GetTopLevelOwner() const {
-    HWND top = GetSafeHwnd() != nullptr ? ::GetAncestor(m_hWnd, GA_ROOT) : nullptr;
-    for (HWND owner = top; owner != nullptr; owner = ::GetWindow(owner, GW_OWNER))
-        top = owner;
-    return FromHandle(top);
+    return FromHandle(last_owner(GetSafeHwnd() != nullptr ? ::GetAncestor(m_hWnd, GA_ROOT) : nullptr));
 }
 
 BOOL CWnd::IsTopParentActive() const {
