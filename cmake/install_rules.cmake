@@ -20,7 +20,7 @@ if(ZOPWNT_RUNTIME_DLLS AND CMAKE_STRIP) # nine tenths of them are for debuggers
     execute_process(COMMAND ${CMAKE_STRIP} --strip-debug \${runtime} COMMAND_ERROR_IS_FATAL ANY)")
 endif()
 install(FILES CHANGELOG.md DESTINATION .)
-install(DIRECTORY examples DESTINATION share/zopwnt PATTERN __pycache__ EXCLUDE)
+install(DIRECTORY examples DESTINATION share/zopwnt PATTERN __pycache__ EXCLUDE PATTERN tests EXCLUDE)
 
 install(FILES src/zopwnt.h src/zopwnt_api.h DESTINATION include/zopwnt)
 foreach(header ${ZOPWNT_PUBLIC_HEADERS})

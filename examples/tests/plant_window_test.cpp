@@ -1,8 +1,8 @@
 // What of the plant's front end has windows or settings: the calendar's days, what a profile may hold, a day's chart.
-#include "../examples/plant/day_calendar.h"
-#include "../examples/plant/front_end_settings.h"
-#include "../examples/plant/history_page.h"
-#include "../examples/plant/past_days.h"
+#include "../plant/day_calendar.h"
+#include "../plant/front_end_settings.h"
+#include "../plant/history_page.h"
+#include "../plant/past_days.h"
 #include "quiet_program.h"
 #include "temporary_file.h"
 

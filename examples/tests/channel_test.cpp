@@ -1,5 +1,5 @@
 // The settings and the readings of the example program's channel.
-#include "../examples/measuring_channel/simulated_channel.h"
+#include "../measuring_channel/simulated_channel.h"
 #include "quiet_program.h"
 
 #include <limits>

@@ -1,9 +1,9 @@
 // What of the plant's example needs no window: the model, the shared blocks, the link, alarms, reports.
-#include "../examples/plant/alarm_board.h"
-#include "../examples/plant/plant_link.h"
-#include "../examples/plant/plant_model.h"
-#include "../examples/plant/plant_statistics.h"
-#include "../examples/plant/recorded_days.h"
+#include "../plant/alarm_board.h"
+#include "../plant/plant_link.h"
+#include "../plant/plant_model.h"
+#include "../plant/plant_statistics.h"
+#include "../plant/recorded_days.h"
 
 #include <gmock/gmock.h>
 

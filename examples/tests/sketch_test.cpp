@@ -1,6 +1,6 @@
 // The drawings of the example program: what undo brings back, what a pointer hits, what is drawn, and which files are
 // refused.
-#include "../examples/sketch/drawing.h"
+#include "../sketch/drawing.h"
 #include "pixels.h"
 #include "quiet_program.h"
 
