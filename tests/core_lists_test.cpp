@@ -3,11 +3,10 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <climits>
 #include <cstring>
-#include <numeric>
-#include <random>
+#include <functional>
+#include <sstream>
 
 namespace {
 
@@ -29,100 +28,84 @@ template <class List> void expect_refusals(List& list, auto refuses_all, auto cr
 #endif
 }
 
-struct Dice {
-    std::mt19937 random;
-    int operator()(int lowest, int highest) { return std::uniform_int_distribution(lowest, highest)(random); }
-};
-
-// A record as the list packs it.
-std::string record(std::string tag, const std::string& data) {
-    const auto length = static_cast<std::uint32_t>(data.size());
-    return tag.append(reinterpret_cast<const char*>(&length), 4) + data;
+// A record of calls made again: a line's words are calls with their answers, behind them stands what they left.
+std::string replayed(const std::string& record, const std::function<std::string(const std::string&)>& answer,
+                     const std::function<std::string()>& state) {
+    std::istringstream lines(record);
+    std::string text, line, word;
+    while (std::getline(lines, line)) {
+        std::istringstream words(line.substr(0, line.find(" | ")));
+        while (words >> word) {
+            const std::string call = word.substr(0, word.find('>', 1));
+            text += call + ">" + answer(call) + " ";
+        }
+        text += "| " + state() + "\n";
+    }
+    return text;
 }
 
-// Many random operations on the list and on a vector of records; after each one every byte is compared.
-void compare_objlist(unsigned seed) {
-    constexpr int size = 256;
-    Held<CWntObjlist> list;
-    list.create(nullptr, size);
-    std::vector<std::string> model;
-    const auto packed = [&](std::size_t count) {
-        return std::accumulate(model.begin(), model.begin() + static_cast<std::ptrdiff_t>(count), std::string());
-    };
-    std::size_t cursor = 0;
-    const auto place = [&] { return model.begin() + static_cast<std::ptrdiff_t>(cursor); };
-    const auto tag_here = [&] { return cursor < model.size() ? model[cursor].substr(0, 4) : "none"; };
-    const auto data_here = [&] { return cursor < model.size() ? model[cursor].substr(8) : ""; };
-    bool atstart = false;
-    Dice dice{std::mt19937(seed)};
-    for (int i = 0; i < 2000 && !testing::Test::HasFailure(); ++i) {
-        char key[][5] = {"ABCD", "AB", "B", ""};
-        char* const text = key[dice(0, 3)];
-        const std::string tag(text, 4);
-        std::string data(dice(0, 30), static_cast<char>(dice(0, 255)));
-        const int length = static_cast<int>(data.size());
-        if (dice(0, 99) == 0 && list.flush())
-            model.clear(), cursor = 0;
-        const bool fits = size - packed(model.size()).size() > data.size() + 8;
-        switch (dice(0, 6)) {
-        case 0:
-            EXPECT_EQ(list.additem(text, length, data.data()), fits && length > 0);
-            if (fits && length > 0)
-                model.push_back(record(tag, data));
-            break;
-        case 1:
-            EXPECT_EQ(list.insertitem(text, length, data.data()), fits ? 0 : -1);
-            if (fits)
-                model.insert(place(), record(tag, data)), ++cursor;
-            break;
-        case 2: {
-            const bool taken = !data_here().empty();
-            EXPECT_EQ(list.deleteitem(), taken);
-            if (taken)
-                model.erase(place());
-            break;
-        }
-        case 3: {
-            const int where = dice(0, 3);
-            EXPECT_EQ(list.seek(where, 0), 1);
-            atstart = atstart || where == 1;
-            cursor = where == 1 ? 0 : where == 2 ? model.size() : cursor;
-            break;
-        }
-        case 4:
-        case 5: {
-            bool found = cursor == 0 && atstart && tag_here() == tag;
-            atstart = atstart && !found;
-            for (bool ended = found || cursor == model.size(); !ended;) {
-                ++cursor;
-                found = tag_here() == tag;
-                ended = found || data_here().empty() || tag_here() == std::string(4, '\0');
-            }
-            EXPECT_EQ(list.nextitem(text), found ? list.buffer + packed(cursor).size() + 8 : nullptr);
-            break;
-        }
-        default: {
-            const bool same = tag_here() == tag;
-            EXPECT_EQ(list.updateitem(text, length, data.data()), same);
-            if (same && data_here().size() == data.size())
-                model[cursor] = record(tag, data);
-            std::string out(40, '\0'), expected = same ? data_here().substr(0, length) : "";
-            expected.resize(out.size());
-            EXPECT_TRUE(list.readitem(text, length, out.data()) == same && out == expected);
-        }
-        }
-        std::string all = packed(model.size());
-        ASSERT_EQ(list.end - list.buffer, static_cast<std::ptrdiff_t>(all.size()));
-        all.resize(size); // what is free is zero
-        ASSERT_EQ(std::string(reinterpret_cast<char*>(list.buffer), size), all);
-        ASSERT_EQ(list.cursor - list.buffer, static_cast<std::ptrdiff_t>(packed(cursor).size()));
-        ASSERT_EQ(list.queryitemno(), static_cast<int>(model.size()));
+// Bytes of a list: small numbers as digits, zeroes as dots.
+std::string shown(const std::uint8_t* from, const std::uint8_t* to) {
+    std::string text;
+    for (; from != to; ++from)
+        text += *from == 0 ? '.' : *from < ' ' ? static_cast<char>('0' + *from) : static_cast<char>(*from);
+    return text;
+}
+
+std::string answer_of(CWntObjlist& list, const std::string& call) {
+    const std::size_t colon = std::min(call.find(':'), call.size());
+    std::string key = call.substr(1, colon - 1), data = call.substr(std::min(colon + 1, call.size()));
+    const int length = static_cast<int>(data.size());
+    switch (call[0]) {
+    case '+':
+        return std::to_string(list.additem(key.data(), length, data.data()));
+    case 'i':
+        return std::to_string(list.insertitem(key.data(), length, data.data()));
+    case '-':
+        return std::to_string(list.deleteitem());
+    case '=':
+        return std::to_string(list.updateitem(key.data(), length, data.data()));
+    case 'r': {
+        const int found = list.readitem(key.data(), length, data.data());
+        return std::to_string(found) + data;
+    }
+    case 's':
+        return std::to_string(list.seek(key[0] - '0', 0));
+    case 'f':
+        return std::to_string(list.flush());
+    default:
+        const auto* found = static_cast<std::uint8_t*>(list.nextitem(key.data()));
+        return found ? "at" + std::to_string(found - list.buffer) : "none";
     }
 }
 
-TEST(Objlist, DoesWhatAVectorOfRecordsDoes) {
-    for (unsigned seed = 1; seed <= 20; ++seed)
-        compare_objlist(seed);
+TEST(Objlist, PacksRecordsAndWalksThem) {
+    constexpr int size = 40;
+    const std::string record =
+        R"(+AB:xyz>1 +ABCDE:1>1 +B:77>1 +C:22>0 +C:>0 i:22>-1 +C:1>1 | ^AB..3...xyzABCD1...1B...2...77C...1...1 4
+?AB>none ?B>none | AB..3...xyzABCD1...1B...2...77C...1...1^ 4
+s1>1 ?AB>at8 ?ABCD>at19 rABCD:___>11__ rABC:___>0___ =ABC:8>0 =ABCD:9>1 =ABCD:88>1 | AB..3...xyz^ABCD1...9B...2...77C...1...1 4
+->1 | AB..3...xyz^B...2...77C...1...1 3
+i:ab>-1 iE:>0 | AB..3...xyzE.......^B...2...77C...1...1 4
+s1>1 ?C>none ->0 s0>1 | AB..3...xyz^E.......B...2...77C...1...1 4
+s2>1 ->0 rC:_>0_ ?C>none | AB..3...xyzE.......B...2...77C...1...1^ 4
+f>1 +C:a>1 +B:b>1 | ^C...1...aB...1...b 2
+s1>1 ?C>at8 ?B>at17 ?C>none | C...1...aB...1...b^ 2
+s1>1 ?B>at17 iD:>0 | C...1...aD.......^B...1...b 3
+s1>1 ?C>at8 ?B>none ?B>at25 | C...1...aD.......^B...1...b 3
+s1>1 ?D>at17 ->0 s2>1 iZ:>0 s1>1 ?Z>none ?Z>at34 rZ:>1 | C...1...aD.......B...1...b^Z....... 4
+)";
+    Held<CWntObjlist> list;
+    list.create(nullptr, size);
+    const auto state = [&] {
+        EXPECT_EQ(shown(list.end, list.buffer + size).find_first_not_of('.'), std::string::npos)
+            << "free bytes are zero";
+        return shown(list.buffer, list.cursor) + "^" + shown(list.cursor, list.end) + " " +
+               std::to_string(list.queryitemno());
+    };
+    EXPECT_EQ(replayed(
+                  record, [&](const std::string& call) { return answer_of(list, call); }, state),
+              record);
 }
 
 TEST(Objlist, RefusesMisuse) {
@@ -157,79 +140,61 @@ TEST(Objlist, RefusesMisuse) {
     expect_refusals(list, refuses_all, create);
 }
 
-using Item = std::array<char, 3>; // an odd size, so that slots are not aligned
-
-// The same for items. The model keeps every slot, in use or not, and the spare one.
-void compare_ulist(unsigned seed) {
-    constexpr int capacity = 7;
-    Held<CWntUlist> list;
-    list.create(nullptr, sizeof(Item), capacity);
-    std::vector<Item> slots(capacity + 1);
-    int count = 0, cursor = 0;
-    const auto holds = [&](int index) { return 0 <= index && index < count; };
-    const auto at = [&](int index) -> void* { return list.buffer + index * static_cast<int>(sizeof(Item)); };
-    Dice dice{std::mt19937(seed)};
-    for (int i = 0; i < 2000 && !testing::Test::HasFailure(); ++i) {
-        Item item{static_cast<char>(dice(0, 255)), static_cast<char>(dice(0, 255)), 1}, out = item;
-        const int index = dice(-2, capacity + 2);
-        switch (dice(0, 7)) {
-        case 0:
-            EXPECT_EQ(list.additem(&item), count < capacity ? count : -1);
-            if (count < capacity)
-                slots[count++] = item;
-            break;
-        case 1: {
-            const bool taken = count < capacity - 1 && 0 <= cursor && cursor < capacity;
-            EXPECT_EQ(list.insertitem(&item), taken ? count + 1 : -1);
-            for (int each = count; taken && each > cursor; --each)
-                slots[each] = slots[each - 1];
-            if (taken)
-                slots[cursor] = item;
-            count += taken;
-            break;
-        }
-        case 2: {
-            const bool taken = count > 0 && cursor >= 0;
-            EXPECT_EQ(list.deleteitem(), taken);
-            for (int each = cursor; taken && each < count - 1; ++each)
-                slots[each] = slots[each + 1];
-            if (taken)
-                slots[count--] = {};
-            break;
-        }
-        case 3: {
-            const int mode = dice(0, 3);
-            EXPECT_EQ(list.seek(mode, index), 1);
-            const int moved = holds(cursor + index) && mode == 0 ? cursor + index : cursor;
-            cursor = mode == 1 ? index : mode == 2 ? count : moved;
-            break;
-        }
-        case 4:
-            EXPECT_EQ(list.nextitem(), holds(cursor) ? at(cursor++) : nullptr);
-            break;
-        case 5:
-            EXPECT_EQ(list.previousitem(), 1 <= cursor && cursor <= capacity ? at(cursor) : nullptr);
-            cursor -= cursor >= 1;
-            break;
-        case 6:
-            EXPECT_EQ(list.updateitem(&item), holds(cursor));
-            if (holds(cursor))
-                slots[cursor] = item;
-            break;
-        default:
-            EXPECT_EQ(list.mkptr(index), holds(index) ? at(index) : nullptr);
-            EXPECT_EQ(list.readitem(), holds(cursor) ? at(cursor) : nullptr);
-            EXPECT_EQ(list.getitem(&out, index), holds(index));
-            EXPECT_EQ(out, holds(index) ? slots[index] : item);
-        }
-        ASSERT_TRUE(list.queryitemno() == count && list.cursor == cursor);
-        ASSERT_EQ(std::memcmp(list.buffer, slots.data(), slots.size() * sizeof(Item)), 0);
+// Items of an odd size, so that slots are not aligned.
+std::string answer_of(CWntUlist& list, const std::string& call) {
+    std::string item = call.substr(1);
+    const auto index = [&](void* at) {
+        return at ? std::to_string((static_cast<std::uint8_t*>(at) - list.buffer) / 3.0).substr(0, 3) : "none";
+    };
+    switch (call[0]) {
+    case '+':
+        return std::to_string(list.additem(item.data()));
+    case 'i':
+        return std::to_string(list.insertitem(item.data()));
+    case '-':
+        return std::to_string(list.deleteitem());
+    case '=':
+        return std::to_string(list.updateitem(item.data()));
+    case 's':
+        return std::to_string(list.seek(call[1] - '0', std::stoi(call.substr(2))));
+    case 'n':
+        return index(list.nextitem());
+    case 'p':
+        return index(list.previousitem());
+    case 'r':
+        return index(list.readitem());
+    case 'm':
+        return index(list.mkptr(std::stoi(item)));
+    default:
+        std::string out = "___";
+        const int found = list.getitem(out.data(), std::stoi(item));
+        return std::to_string(found) + out;
     }
 }
 
-TEST(Ulist, DoesWhatAVectorOfItemsDoes) {
-    for (unsigned seed = 1; seed <= 20; ++seed)
-        compare_ulist(seed);
+TEST(Ulist, KeepsItsSlotsAndWalksThem) {
+    const std::string record = R"(+abc>0 +def>1 p>none n>0.0 ighi>3 ijkl>-1 | abcghidef...... 3@1
++mno>3 +pqr>-1 =stu>1 r>1.0 m3>3.0 m4>none m-1>none g0>1abc g3>1mno g4>0___ g-1>0___ | abcstudefmno... 4@1
+s0+2>1 s0+9>1 s0-4>1 r>3.0 | abcstudefmno... 4@3
+s1+4>1 n>none r>none =vwx>0 p>4.0 p>3.0 | abcstudefmno... 4@2
+p>2.0 p>1.0 p>none | abcstudefmno... 4@0
+s2+0>1 ->1 ->1 | abcstudef...... 2@4
+s1-1>1 ->0 n>none | abcstudef...... 2@-1
+s1+0>1 ->1 | stustu......... 1@0
+s1+4>1 iyz2>-1 s3+1>1 p>4.0 | stustu......... 1@3
++yz0>1 s1+3>1 iyz1>3 | stuyz0...yz1... 3@3
+s1+1>1 ->1 | stu............ 2@1
+s1+0>1 iyz3>3 | yz3stu......... 3@0
+)";
+    Held<CWntUlist> list;
+    list.create(nullptr, 3, 4);
+    const auto state = [&] {
+        return shown(list.buffer, list.buffer + 5 * 3) + " " + std::to_string(list.queryitemno()) + "@" +
+               std::to_string(list.cursor);
+    };
+    EXPECT_EQ(replayed(
+                  record, [&](const std::string& call) { return answer_of(list, call); }, state),
+              record);
 }
 
 TEST(Ulist, RefusesMisuse) {
