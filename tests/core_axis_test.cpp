@@ -284,27 +284,6 @@ TEST(AxisZoom, GripsAndLimitsOfTheSlider) {
     EXPECT_EQ(zoom.slider.right, zoom.box.right);
 }
 
-TEST(AxisTime, NoTextStandsTwiceInARow) {
-    AxisModel axis;
-    axis.position = axis_bottom;
-    axis.type = axis_time;
-    axis.resize(900, 40);
-    int labels = 0;
-    for (const std::int64_t span :
-         {day / 1440, day / 24, day, 40 * day, 120 * day, 199 * day, 300 * day, 2'000 * day}) {
-        axis.set_time_range(40'000 * day, 40'000 * day + span);
-        std::string last;
-        for (const AxisTick& tick : time_ticks(axis)) {
-            if (tick.label.empty())
-                continue;
-            EXPECT_NE(tick.label, last) << span;
-            last = tick.label;
-            ++labels;
-        }
-    }
-    EXPECT_GT(labels, 10);
-}
-
 TEST(AxisTime, ProportionIsExactBeyond64Bits) {
     EXPECT_EQ(proportion(300, INT64_MAX, INT64_MAX), 300);
     EXPECT_EQ(proportion(INT64_MAX, -7, 14), -(INT64_MAX / 2));

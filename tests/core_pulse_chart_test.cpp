@@ -3,7 +3,6 @@
 #include "script/colours.h"
 #include "script/keywords.h"
 #include "script/values.h"
-#include "test_random.h"
 #include "widgets/axis/time_value.h"
 #include "widgets/pulse/chart_layout.h"
 #include "widgets/pulse/pulse_chart.h"
@@ -107,45 +106,11 @@ TEST(PulseChart, ReadsValuesOff) {
     EXPECT_FALSE(chart.value_at(0, INT64_MAX));
 }
 
-bool apart(const PixelRect& a, const PixelRect& b) {
-    return a.width() <= 0 || b.width() <= 0 || a.height() <= 0 || b.height() <= 0 || a.right <= b.left ||
-           b.right <= a.left || a.bottom <= b.top || b.bottom <= a.top;
-}
+const ChartSizes everything = {100, 20, 17, 16, true, true, true, {100, 120, 150}};
+const ChartSizes enlarged = {150, 0, 17, 16, false, true, false, {500, 40}};
 
-TEST(ChartLayout, NothingOverlapsAtAnySize) {
-    Random random(5);
-    const auto some = [&](int most) { return random.upto(most); };
-    for (int run = 0; run < 3000; ++run) {
-        ChartSizes sizes{100 + 50 * some(2), some(30), some(20), 17, some(1) == 1, some(1) == 1, some(1) == 1, {}};
-        for (int i = some(10); i > 0; --i)
-            sizes.entries.push_back(20 + some(300));
-        const int width = some(1600), height = some(900);
-        const ChartLayout layout = lay_out_chart(width, height, sizes);
-        // Upright axes stand a row higher than the plot: see ValueScale.
-        std::vector<PixelRect> parts = {layout.title, layout.time_axis, layout.scroll_bar, layout.plot};
-        for (PixelRect axis : {layout.left_axis, layout.right_axis}) {
-            if (axis.height() > 0)
-                axis.top += 1, axis.bottom += 1;
-            parts.push_back(axis);
-        }
-        for (const PixelRect& entry : layout.entries)
-            parts.push_back(entry);
-        for (std::size_t i = 0; i < parts.size(); ++i) {
-            const PixelRect& part = parts[i];
-            ASSERT_TRUE(part.left >= 0 && part.top >= 0 && part.right <= width && part.bottom <= height) << i;
-            for (std::size_t k = i + 1; k < parts.size(); ++k)
-                ASSERT_TRUE(apart(part, parts[k])) << i << ' ' << k << " at " << width << 'x' << height;
-        }
-        ASSERT_TRUE(layout.plot.width() >= std::min(width, 60) - 40 &&
-                    layout.plot.height() >= std::min(height, 40) - 30);
-        if (width >= 400 && height >= 300 && sizes.left_axis && sizes.time_axis) {
-            ASSERT_TRUE(layout.left_axis.width() > 0 && layout.time_axis.width() > 0 && layout.scroll_bar.width() > 0);
-        }
-    }
-}
-
-std::string places(int width, int height) {
-    const ChartLayout l = lay_out_chart(width, height, {100, 20, 17, 16, true, true, true, {100, 120, 150}});
+std::string places(int width, int height, const ChartSizes& sizes = everything) {
+    const ChartLayout l = lay_out_chart(width, height, sizes);
     std::ostringstream text;
     const std::pair<const char*, const PixelRect*> parts[] = {
         {"title", &l.title},    {"legend", &l.legend},  {"left", &l.left_axis}, {"right", &l.right_axis},
@@ -167,6 +132,11 @@ TEST(ChartLayout, PlacesWhatHasRoom) {
                                 "6,26-106,43 106,26-226,43 6,43-156,60 ");
     EXPECT_EQ(places(121, 121), "title 6,6-115,26 left 6,25-52,84 time 52,85-115,115 plot 52,26-115,85 "
                                 "0,0-0,0 0,0-0,0 0,0-0,0 ");
+    EXPECT_EQ(places(400, 300, enlarged),
+              "legend 9,9-391,43 right 345,42-391,274 bar 9,275-345,291 plot 9,43-345,275 9,9-391,26 9,26-49,43 ");
+    EXPECT_EQ(places(100, 300, enlarged),
+              "legend 0,0-100,34 bar 0,284-100,300 plot 0,34-100,284 0,0-100,17 0,17-40,34 ");
+    EXPECT_EQ(places(300, 35, enlarged), "plot 0,0-300,35 0,0-0,0 0,0-0,0 ");
     EXPECT_EQ(places(60, 40), "plot 0,0-60,40 0,0-0,0 0,0-0,0 0,0-0,0 ");
     EXPECT_EQ(places(-5, -5), "0,0-0,0 0,0-0,0 0,0-0,0 ");
 }

@@ -10,31 +10,6 @@ using namespace wnt;
 
 namespace {
 
-TEST(GaugeScale, TicksAndLabelsKeepTheirDistances) {
-    for (const int scales : {1, 3, 7, 20, 97, 333, 999})
-        for (const float length : {57.0f, 130.0f, 400.0f, 997.0f}) {
-            GaugeModel model = zoned(gauge_percent_bar, 10);
-            model.scales = scales;
-            const auto ticks = ticks_of(model, length, 4, 30);
-            SCOPED_TRACE(testing::Message() << scales << " on " << length);
-            const Tick* label = nullptr;
-            for (std::size_t i = 0; i < ticks.size(); ++i) {
-                if (i > 0) {
-                    EXPECT_GE((ticks[i].fraction - ticks[i - 1].fraction) * length, 3.9f) << i;
-                }
-                if (!ticks[i].major)
-                    continue;
-                EXPECT_LE(std::abs(static_cast<float>(ticks[i].value) / 200 - ticks[i].fraction) * length, 0.51f);
-                if (label) {
-                    EXPECT_GE((ticks[i].fraction - label->fraction) * length, 29) << i;
-                }
-                label = &ticks[i];
-            }
-            EXPECT_EQ(ticks.front().fraction, 0);
-            EXPECT_TRUE(ticks.back().fraction == 1 && ticks.back().major);
-        }
-}
-
 TEST(GaugeScale, OfOneValueIsThatValuesZoneThroughout) {
     const auto zones = zones_of(model_of(gauge_analog, {":MINVAL=7", ":MAXVAL=7"}));
     ASSERT_EQ(zones.size(), 1u);

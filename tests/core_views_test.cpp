@@ -92,18 +92,6 @@ TEST(GaugeViews, ShowTheUnitAtEverySizeAndRange) {
             }
 }
 
-TEST(GaugeViews, ShowTheTitleAtEverySize) {
-    const std::pair<int, int> sizes[] = {{24, 20}, {30, 40}, {200, 30}, {30, 200}, {120, 48}, {90, 90}, {300, 300}};
-    const Lines wide_labels = {":BARTITLE=1", ":MINVAL=-2147483648", ":MAXVAL=2147483647", ":SCALES=8"};
-    for (int type = 0; type < gauge_type_count; ++type)
-        for (const Lines& lines : {Lines(), wide_labels}) // on its face a dial has no room between them
-            for (const auto& [width, height] : sizes) {
-                GaugeModel model = model_of(type, lines);
-                model.set_titles("T", "");
-                EXPECT_TRUE(writes({model, width, height}, "T")) << type << " " << width << "x" << height;
-            }
-}
-
 TEST(GaugeViews, BordersTakeTheLightFromTheTopLeft) {
     const Colour back = 0xF5F5F5, sun = 0xFFFFFF, shadow = 0x6A6A6A;
     const struct {
@@ -130,18 +118,6 @@ TEST(GaugeViews, BordersTakeTheLightFromTheTopLeft) {
         EXPECT_EQ(at(120, 237.5f), c.top) << c.type;
         EXPECT_EQ(at(120, 2.5f), c.bottom) << c.type;
         EXPECT_EQ(at(120, 4), back) << c.type;
-    }
-}
-
-TEST(GaugeViews, AChangedValueChangesNoFigureOfOthers) {
-    for (int type = 0; type < gauge_type_count; ++type) {
-        GaugeModel model = model_of(type, {":CLEARMARKS", ":SETMARK=20,WHITE", ":SETMARK=90,RED", ":SETMARK=95,RED"});
-        model.set_current_value(10);
-        const std::size_t before = Scene(model, 200, 200).value.figures().size();
-        for (int i = 0; i < 3000; ++i) // the course's columns are filled, and the first ones gone
-            model.set_current_value(10 + i % 2);
-        model.set_current_value(85);
-        EXPECT_EQ(Scene(model, 200, 200).value.figures().size(), before) << type;
     }
 }
 
