@@ -77,6 +77,12 @@ int drawn_pixels(const CDibFile& dib) {
     return count;
 }
 
+std::vector<char> bytes_of(const CDibFile& dib) {
+    ::GdiFlush();
+    const auto* bytes = static_cast<const char*>(dib.GetPtrBits());
+    return {bytes, bytes + dib.GetWidth() * dib.GetHeight() * dib.GetBitsPerPixel() / 8};
+}
+
 void measure_lines(BenchTable& table, const char* title, int bits, int size) {
     CDibFile dib;
     bits == 8 ? dib.CreateNew256Color(1024, 1024, 0, 0) : dib.CreateNewTrueColor(1024, 1024, 0);
@@ -91,21 +97,28 @@ void measure_lines(BenchTable& table, const char* title, int bits, int size) {
             return;
         }
     }
-    HPEN pen = ::CreatePen(PS_SOLID, 0, RGB(255, 255, 255));
-    HGDIOBJ previous = ::SelectObject(dib.GetDC(), pen);
-    table.measure(
+    // The lines come again in the other colour, so that each is one to be seen.
+    HPEN pens[] = {::CreatePen(PS_SOLID, 0, RGB(255, 255, 255)), ::CreatePen(PS_SOLID, 0, RGB(128, 128, 128))};
+    HGDIOBJ previous = ::SelectObject(dib.GetDC(), pens[0]);
+    table.measure_shown(
         title,
         [&](int i) {
             const POINT end = end_of(i, size);
+            const int shade = i / size % 2 ? 128 : 255;
+            dib.SetColor(shade, shade, shade);
             dib.Line(size / 2, size / 2, end.x, end.y);
         },
+        [&] { return bytes_of(dib); },
         [&](int i) {
             const POINT end = end_of(i, size);
+            ::SelectObject(dib.GetDC(), pens[i / size % 2]);
             ::MoveToEx(dib.GetDC(), size / 2, size / 2, nullptr);
             ::LineTo(dib.GetDC(), end.x, end.y);
-        });
+        },
+        [&] { return bytes_of(dib); }, 2 * size);
     ::SelectObject(dib.GetDC(), previous);
-    ::DeleteObject(pen);
+    for (HPEN pen : pens)
+        ::DeleteObject(pen);
 }
 
 void measure_runs(BenchTable& table, const char* title, int bits) {
@@ -123,9 +136,16 @@ void measure_runs(BenchTable& table, const char* title, int bits) {
         table.wrong(title);
         return;
     }
-    table.measure(
-        title, [&](int i) { dib.Line(0, i & 1023, 1023, i & 1023); },
-        [&](int i) { std::memset(bytes + static_cast<std::size_t>(i & 1023) * row, i, row); });
+    const auto shade = [](int i) { return i / 1024 % 2 ? 100 : 200; }; // another one when a row's turn comes again
+    table.measure_shown(
+        title,
+        [&](int i) {
+            dib.SetColor(shade(i), shade(i), shade(i));
+            dib.Line(0, i & 1023, 1023, i & 1023);
+        },
+        [&] { return bytes_of(dib); },
+        [&](int i) { std::memset(bytes + static_cast<std::size_t>(i & 1023) * row, shade(i), row); },
+        [&] { return bytes_of(dib); }, 2048);
 }
 
 volatile int block_side = 500; // not known to the compiler, as in the library

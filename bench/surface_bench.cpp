@@ -78,8 +78,9 @@ int flipped(int y) {
 }
 
 void plain_line(HDC dc, int x1, int y1, int x2, int y2) {
-    const POINT path[3] = {{x1, flipped(y1)}, {x2, flipped(y2)}, {x2 + 1, flipped(y2)}};
-    ::Polyline(dc, path, 3);
+    const POINT ends[4] = {{x1, flipped(y1)}, {x2, flipped(y2)}, {x2, flipped(y2)}, {x2 + 1, flipped(y2)}};
+    constexpr DWORD counts[2] = {2, 2};
+    ::PolyPolyline(dc, ends, counts, 2);
 }
 
 /// A pen or brush for one figure, selected and put back.

@@ -20,8 +20,10 @@ void alignments(CWntOut& out, int x, int y, int w, int h) {
     out.settext(0, 0, 0, 15, 0, 0);
     out.linecolour(0, 0);
     text(out, x + 20, y + h - 24, "chars: the alignments, their points and the lines of y", 0);
+    text(out, x + 20, y + h - 44,
+         "cells of 0 to 2 end at y; of 4 to 6 they begin fontsize / 10 above it, of 8 to 10 half as much", 0);
     out.settext(0, 0, 0, 23, 0, 0);
-    const int rows = h - 40;
+    const int rows = h - 60;
     for (int i = 0; i < 9; ++i) {
         const int column = i % 3;
         const int px = x + 20 + column * (w - 40) / 2;

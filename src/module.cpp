@@ -27,11 +27,10 @@ wnt::LibraryResources::~LibraryResources() {
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
     if (reason == DLL_PROCESS_ATTACH) {
-        if (!AfxInitExtensionModule(zopwnt_module, instance))
-            return FALSE;
-        new CDynLinkLibrary(zopwnt_module); // the framework's from here on
+        if (AfxInitExtensionModule(zopwnt_module, instance))
+            new CDynLinkLibrary(zopwnt_module); // the framework's from here on
     } else if (reason == DLL_PROCESS_DETACH) {
-        AfxTermExtensionModule(zopwnt_module);
+        AfxTermExtensionModule(zopwnt_module); // nobody looks for resources in a library that was freed
     }
     return TRUE;
 }

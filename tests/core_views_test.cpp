@@ -66,8 +66,8 @@ TEST(GaugeViews, ShowValueTitlesAndScale) {
 
 TEST(GaugeViews, ShowTheUnitAtEverySizeAndRange) {
     const std::string unit = "litres per minute";
-    const std::pair<int, int> sizes[] = {{40, 40},  {60, 40},   {61, 61},   {100, 80},  {320, 60},
-                                         {60, 320}, {200, 200}, {320, 240}, {900, 900}, {1000, 1000}};
+    const std::pair<int, int> sizes[] = {{320, 20}, {600, 16}, {40, 40},   {60, 40},   {61, 61},   {100, 80},
+                                         {320, 60}, {60, 320}, {200, 200}, {320, 240}, {900, 900}, {1000, 1000}};
     const Lines ranges[] = {{}, {":MAXVAL=1000000"}, {":MINVAL=-2147483648", ":MAXVAL=2147483647"}};
     for (int type = 0; type < gauge_type_count; ++type)
         for (const Lines& range : ranges)
@@ -86,9 +86,12 @@ TEST(GaugeViews, ShowTheUnitAtEverySizeAndRange) {
                     EXPECT_TRUE(shown == unit || type == gauge_digital)
                         << type << range.size() << " " << width << shown;
                 }
-                model.set_titles("", "u");
-                EXPECT_TRUE(writes({model, width, height}, "u"))
-                    << type << range.size() << " " << width << "x" << height;
+                for (const char* title : {"", "T"}) {
+                    model.set_titles(title, "u");
+                    const Scene both(model, width, height);
+                    EXPECT_TRUE(writes(both, "u") && writes(both, title))
+                        << type << range.size() << " " << width << "x" << height << title;
+                }
             }
 }
 

@@ -7,7 +7,7 @@
 #include "controls/pixel_rects.h"
 #include "screen_scale.h"
 #include "script/colours.h"
-#include "script_on_disk.h"
+#include "script/script_on_disk.h"
 #include "widgets/painting/paint_pass.h"
 
 namespace {

@@ -4,7 +4,7 @@
 #include "controls/tabs_painter.h"
 #include "controls/tabs_strip.h"
 #include "controls/pixel_rects.h"
-#include "script_on_disk.h"
+#include "script/script_on_disk.h"
 #include "widgets/painting/paint_pass.h"
 #include "widgets/painting/surface_owner.h"
 

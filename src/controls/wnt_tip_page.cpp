@@ -8,7 +8,7 @@
 #include "controls/text_lines.h"
 #include "controls/tip_file.h"
 #include "screen_scale.h"
-#include "script_on_disk.h"
+#include "script/script_on_disk.h"
 #include "widgets/painting/paint_pass.h"
 #include "widgets/painting/surface_owner.h"
 

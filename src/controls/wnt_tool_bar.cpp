@@ -11,7 +11,7 @@
 #include "controls/tool_pictures.h"
 #include "screen_scale.h"
 #include "script/keywords.h"
-#include "script_on_disk.h"
+#include "script/script_on_disk.h"
 #include "widgets/painting/surface_owner.h"
 
 namespace {

@@ -3,6 +3,7 @@
 #include <afxwin.h>
 #include <mmsystem.h>
 
+#include <atomic>
 #include <cstring>
 #include <iterator>
 
@@ -15,7 +16,7 @@ constexpr std::size_t name_limit = 256; // of the system's, its end included
 constexpr int sound_count = static_cast<int>(std::size(sound_names));
 
 struct SoundState {
-    bool enabled = true;
+    std::atomic<bool> enabled = true; // set by one thread, asked by another that plays
     int sound_enabled[sound_count] = {1, 1, 1};
 };
 

@@ -6,7 +6,7 @@
 
 /// @file
 /// Short sounds. Each call returns when its sound has ended; without a sound device, and for an unknown sound, nothing
-/// happens. The switches are the whole process's.
+/// happens. The switches are the whole process's. WntSound() and the master switch may be used by any thread.
 
 /// Plays a sound of the library: 0 bell, 1 clap, 2 key. Does so whatever the sound's own switch says; only the master
 /// switch counts. The second value is ignored.

@@ -115,8 +115,8 @@ int ButtonInside::height() const {
 }
 
 ButtonInside button_inside(const Tcbtn_properties& p, const ButtonBox& box) {
-    // Blocks hold any height. What goes beyond the button's size either way leaves nothing to be seen, but must not
-    // wrap.
+    // Blocks hold any height. Beyond the button's size it counts as that size, so that nothing wraps; below zero the
+    // title's size grows with it.
     const int most = std::max({box.width, box.height, highest_border});
     const int inset = std::clamp(p.borderheight, -most, most) + (p.frame ? 2 : 1);
     return {add(box.x, inset), add(box.y, inset), subtract(box.x + box.width - 1, inset),

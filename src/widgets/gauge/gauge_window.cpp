@@ -5,7 +5,7 @@
 #include <string>
 
 #include "script/keywords.h"
-#include "script_on_disk.h"
+#include "script/script_on_disk.h"
 #include "widgets/gauge/gauge_model.h"
 #include "widgets/gauge/gauge_painter.h"
 #include "widgets/painting/surface_owner.h"

@@ -4,7 +4,7 @@
 #include "script/keywords.h"
 #include "script/script_line.h"
 #include "script/values.h"
-#include "script_on_disk.h"
+#include "script/script_on_disk.h"
 #include "widgets/axis/axis_model.h"
 #include "widgets/painting/surface_owner.h"
 #include "widgets/pulse/pulse_state.h"

@@ -140,31 +140,48 @@ bool has_unit(const GaugeModel& model) {
 
 namespace {
 
-constexpr float least_room = 14; // for a line of text and something of the view
+constexpr float least_room = 14; // for a line of text and something of the view above or below it
+constexpr float least_line = 8;  // for a line of text beside the view
+constexpr float low = 18;        // a title would leave too little below it
 
-void take_title(Layout& layout, const Stage& stage) {
-    const BoxF& inside = layout.body;
-    if (inside.height() < least_room || inside.width() < least_text)
+bool is_wide(const BoxF& body) {
+    return body.width() > 3 * body.height();
+}
+
+float width_beside(const BoxF& body, const Stage& stage, std::string_view text, int tenths) {
+    return std::min(stage.meter.width(text, tenths) + 2, body.width() * 0.25f);
+}
+
+void take_title(Layout& layout, const GaugeModel& model, const Stage& stage) {
+    const BoxF inside = layout.body;
+    const bool beside = inside.height() < low && is_wide(inside);
+    if (inside.height() < (beside ? least_line : least_room) || inside.width() < least_text)
         return;
     const float least = inside.height() < 48 ? least_text : 8.0f;
     const float size = std::clamp(std::min(inside.height() * 0.085f, inside.width() * 0.14f), least, 32.0f);
     layout.title_size = stage.meter.tenths(size);
-    const float line = std::ceil(stage.meter.metrics(layout.title_size).height());
-    layout.title = {inside.left, inside.top - line, inside.right, inside.top};
-    layout.body.top = layout.title.bottom - std::floor(size * 0.25f);
+    layout.title = inside;
+    if (beside) {
+        const float width = width_beside(inside, stage, model.title_text(), layout.title_size);
+        layout.title.right = std::ceil(inside.left + width);
+        layout.body.left = layout.title.right + 3;
+    } else {
+        layout.title.bottom = inside.top - std::ceil(stage.meter.metrics(layout.title_size).height());
+        layout.body.top = layout.title.bottom - std::floor(size * 0.25f);
+    }
 }
 
 void take_unit(Layout& layout, const GaugeModel& model, const Stage& stage) {
     const BoxF body = layout.body;
-    if (body.height() < least_room || body.width() < least_text)
+    const bool beside = is_wide(body);
+    if (body.height() < (beside ? least_line : least_room) || body.width() < least_text)
         return;
-    const bool beside = body.width() > 3 * body.height();
     const float size = beside ? body.height() * 0.3f : std::min(body.height() * 0.075f, body.width() * 0.12f);
     layout.unit_size = stage.meter.tenths(std::clamp(size, 7.0f, 28.0f));
     layout.unit = body;
     if (beside) {
-        const float wanted = stage.meter.width(model.unit_text(), layout.unit_size) + 2;
-        layout.unit.left = std::round(body.right - std::min(wanted, body.width() * 0.25f));
+        const float width = width_beside(body, stage, model.unit_text(), layout.unit_size);
+        layout.unit.left = std::round(body.right - width);
         layout.body.right = layout.unit.left - 3;
     } else {
         layout.unit.top = body.bottom + std::ceil(stage.meter.metrics(layout.unit_size).height());
@@ -188,7 +205,7 @@ void paint_line(Picture& picture, const GaugeModel& model, const Stage& stage, c
 Layout lay_out(const GaugeModel& model, const Stage& stage, UnitPlace unit, bool title_on_bar) {
     Layout layout = {{}, {}, inside_border(model, stage), 0, 0};
     if (has_title(model) && !title_on_bar)
-        take_title(layout, stage);
+        take_title(layout, model, stage);
     if (has_unit(model) && unit == UnitPlace::apart)
         take_unit(layout, model, stage);
     return layout;
