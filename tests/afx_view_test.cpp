@@ -299,6 +299,8 @@ TEST_F(AfxEditView, EditsFindsAndMarksItsDocument) {
     EXPECT_TRUE(view.FindText("ONE", TRUE, FALSE) && view.FindText("one", TRUE, FALSE));
     EXPECT_EQ(view.selected(), "One");
     EXPECT_FALSE(view.FindText("one", TRUE, FALSE));
+    view.SendMessage(EM_SETSEL, 11, 11);
+    EXPECT_TRUE(view.FindText("One", FALSE)) << "upwards from the text's end";
     EXPECT_TRUE(view.FindText("one", FALSE));
     frame.SendMessage(WM_COMMAND, ID_EDIT_CLEAR);
     EXPECT_EQ(std::string(view.LockBuffer()), " two One");

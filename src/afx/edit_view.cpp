@@ -130,8 +130,8 @@ BOOL CEditView::FindText(LPCTSTR lpszFind, BOOL bNext, BOOL bCase) {
     };
     if (length == 0)
         return FALSE;
-    for (int at = bNext ? static_cast<int>(to) : static_cast<int>(from) - 1; at >= 0 && at <= last;
-         at += bNext ? 1 : -1) {
+    const int start = bNext ? static_cast<int>(to) : std::min(static_cast<int>(from) - 1, last);
+    for (int at = start; at >= 0 && at <= last; at += bNext ? 1 : -1) {
         if (!same(at))
             continue;
         SendMessage(EM_SETSEL, static_cast<WPARAM>(at), at + length);
