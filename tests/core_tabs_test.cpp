@@ -182,10 +182,18 @@ TEST(TabsLayout, ShowsWholeTabsAndTheOneThatIsWanted) {
     EXPECT_EQ(shown(109, 0, -1), std::pair(0, 3));
     EXPECT_EQ(shown(30, 0, 2), std::pair(2, 1)) << "cut to the room";
     EXPECT_EQ(shown(12, 0, 2), std::pair(0, 0));
+    const TabParts cut = lay_out_tabs(m, sizes, lengths, 18, 60, 0, 2).parts(2, sizes, true, true);
+    EXPECT_EQ(written({cut.icon, cut.text, cut.close}), "5,3-8,9 0,0-0,0 2,4-5,9 ");
     EXPECT_EQ(lay_out_tabs(m, sizes, lengths, 109, 60, 0, -1).menu, (PixelRect{101, 2, 109, 10}));
     m.overflow = TabsOverflow::scroll;
     const TabsLayout l = lay_out_tabs(m, sizes, lengths, 110, 60, 0, -1);
     EXPECT_TRUE(l.back == (PixelRect{94, 2, 102, 10}) && l.on == (PixelRect{102, 2, 110, 10}));
+}
+
+TEST(TabsLayout, SizesGrowWithTheScreen) {
+    const TabsSizes sizes = TabsSizes::at(150, 20);
+    EXPECT_EQ(sizes.depth, 42);
+    EXPECT_EQ(sizes.length(100, true, true), 191);
 }
 
 TEST(TabsLayout, HoldsAtOddSizes) {

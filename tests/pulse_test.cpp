@@ -227,6 +227,23 @@ TEST_F(Pulse, CallsChangeWhatIsShown) {
     EXPECT_EQ(start(), live);
     chart_.SendMessage(WM_CHAR, '+', 0);
     EXPECT_EQ(chart_.GetSpan(), page * 4 / 5);
+    const auto dialog_of = [](const std::function<void()>& open) { // its title; it is cancelled
+        CString title;
+        const WhileModal closing([&] {
+            CWnd* const dialog = CWnd::FromHandle(shown_dialog());
+            if (dialog)
+                dialog->GetWindowText(title);
+            return dialog && dialog->PostMessage(WM_COMMAND, IDCANCEL);
+        });
+        open();
+        return title;
+    };
+    CWnd& axis = *chart_.GetDlgItem(3);
+    EXPECT_EQ(dialog_of([&] { axis.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(20, 20)); }),
+              "Achseneinstellungen");
+    EXPECT_EQ(dialog_of([&] { chart_.SendMessage(WM_COMMAND, WNT_PULSE_CMD_CURVE + 1); }), "Level");
+    show();
+    EXPECT_GE(extent(blue).second, 0) << "as before";
 }
 
 TEST_F(Pulse, FollowsTheScreensScale) {

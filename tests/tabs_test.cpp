@@ -101,6 +101,10 @@ TEST_F(Tabs, AClickSelectsAsTheHostAllows) {
     EXPECT_THAT(host_.told, ElementsAre(std::tuple(WNT_TABS_SELECTING, 0, 1)));
     EXPECT_EQ(shown(), "-2-");
     EXPECT_NE(::GetCapture(), strip().m_hWnd);
+    host_.answer = [](WntTabsNotify&) { return 0; };
+    const CPoint at = in_strip(middle(0)); // by a click that ended meanwhile, in a message box
+    strip().SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(at.x, at.y));
+    EXPECT_NE(::GetCapture(), strip().m_hWnd);
 }
 
 TEST_F(Tabs, KeysSelectOnTheStripAndFromWithinAPage) {
@@ -416,9 +420,7 @@ TEST_F(Tabs, TheFocusGoesIntoTheNextPage) {
     EXPECT_EQ(::GetFocus(), input.m_hWnd);
 }
 
-TEST_F(Tabs, PassOnWhatTheirPagesTellAndFollowScripts) {
-    pages_[0].SendMessage(BM_CLICK);
-    EXPECT_THAT(host_.commands, ElementsAre(11u));
+TEST_F(Tabs, FollowScripts) {
     const TemporaryFile file(":SIDE=RIGHT\r\n:TAB=Kettle\r\n:TAB=Pump\r\n:DISABLED=YES\r\n");
     tabs_.Select(2);
     EXPECT_TRUE(tabs_.LoadFromFile(file.name()) == 1 && tabs_.GetTabCount() == 2);
