@@ -1,7 +1,6 @@
 #include "controls/shortcut_text.h"
 #include "controls/tool_bar_model.h"
 #include "controls/tool_picture.h"
-#include "test_random.h"
 
 #include <gtest/gtest.h>
 
@@ -81,32 +80,6 @@ TEST(ToolLayout, FindsItemsAndTheGapsBetweenThem) {
                  {column, 10, 11, 0, true}, {column, 10, 30, 1, true}, {column, 10, 300, 3, true}};
     for (const auto& c : cases)
         EXPECT_EQ(c.places.insertion(c.x, c.y, c.upright), c.before) << c.x << ' ' << c.y;
-}
-
-TEST(ToolLayout, ItemsNeverOverlapNorLeaveTheBar) {
-    Random random(5);
-    const auto some = [&](int most) { return random.upto(most); };
-    for (int run = 0; run < 2000; ++run) {
-        std::vector<ToolSpace> items;
-        for (int i = some(12); i > 0; --i)
-            items.push_back({static_cast<ToolKind>(some(8)), {some(90), some(40)}});
-        const ToolFlow flow = {some(1) == 1, some(1) == 1, some(4), some(20)};
-        const int width = some(300), height = some(300);
-        const ToolPlaces places = place_tools(items, flow, width, height);
-        std::vector<PixelRect> shown = places.items;
-        shown.push_back(places.chevron);
-        for (std::size_t i = 0; i < shown.size(); ++i) {
-            const PixelRect& r = shown[i];
-            ASSERT_TRUE(r.width() >= 0 && r.height() >= 0);
-            if (r.width() == 0 || r.height() == 0)
-                continue;
-            ASSERT_LE(flow.upright ? r.bottom : r.right, std::max(flow.upright ? height : width, flow.margin));
-            for (std::size_t k = 0; k < i; ++k)
-                ASSERT_FALSE(std::max(shown[k].left, r.left) < std::min(shown[k].right, r.right) &&
-                             std::max(shown[k].top, r.top) < std::min(shown[k].bottom, r.bottom));
-            ASSERT_LE(places.at(r.left, r.top), static_cast<int>(i));
-        }
-    }
 }
 
 TEST(ToolLayout, PartsAreAsLargeAsTheyNeed) {

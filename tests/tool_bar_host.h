@@ -92,12 +92,6 @@ struct ToolBar : ControlTest<ToolHost> {
         MSG f6 = {window.m_hWnd, WM_KEYDOWN, VK_F6, 1, 0, {}};
         return bar_->FilterKey(&f6) != 0;
     }
-    void embed(CEdit& edit) {
-        ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 60, 18), &host_, 130));
-        CWntToolItem item(130, "", WNT_TOOL_WINDOW);
-        item.window = &edit;
-        ASSERT_EQ(bar_->AddItem(item), 1);
-    }
     void when_an_edit_loses_the_focus(const std::function<void()>& work) {
         host_.on_message = [work](UINT message, WPARAM w) {
             if (message == WM_COMMAND && HIWORD(w) == EN_KILLFOCUS)

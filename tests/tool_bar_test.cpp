@@ -25,9 +25,6 @@ TEST_F(ToolBar, SendsCommandsOfWhatIsPressed) {
     item.check = 1;
     EXPECT_EQ(bar_->SetItem(bar_->FindItem(103), item), 1);
     EXPECT_TRUE(checked(103) == 1 && checked(102) == 0); // one of a group
-    item.id = 105;
-    EXPECT_EQ(bar_->AddItem(item), 1);
-    EXPECT_TRUE(checked(105) == 1 && checked(103) == 0);
 }
 
 TEST_F(ToolBar, CommandsPassTheLibrarysPanes) {
@@ -166,8 +163,6 @@ TEST_F(ToolBar, HoldsWindowsOfTheHosts) {
               3);
     EXPECT_EQ(button.GetParent(), bar_);
     EXPECT_EQ(place_in(*bar_, button), place(130));
-    button.SendMessage(BM_CLICK);
-    EXPECT_THAT(host_.commands, ElementsAre(130u));
     for (const BOOL on : {FALSE, TRUE}) {
         bar_->EnableItem(130, on);
         EXPECT_EQ(button.IsWindowEnabled(), on);
@@ -206,18 +201,12 @@ TEST_F(ToolBar, FollowsScriptsInFilesAndRefusesWhatIsNone) {
     EXPECT_TRUE(bar_->GetItemRect(1, nullptr));
     CWntToolBar* volatile none = nullptr;
     CWntToolItem item;
-    CRect place(1, 1, 1, 1);
-    EXPECT_EQ(none->AddItem(item) + none->GetItemCount() + none->PressItem(1) + none->LoadLine("", 0) +
-                  none->GetThickness(5) + none->FilterKey(nullptr) + none->GetItemRect(0, place) + none->UpdateItems() +
+    EXPECT_EQ(none->AddItem(item) + none->GetItemCount() + none->PressItem(1) + none->GetItemRect(0, nullptr) +
                   bar_->AddItem(item) + bar_->AddItem(CWntToolItem(70000)) + bar_->GetItem(9, &item) +
-                  bar_->GetItem(0, nullptr) + bar_->RemoveItem(-1) + bar_->InsertItem(9, CWntToolItem(5)) +
-                  bar_->SetTextPlace(3) + bar_->CheckItem(100, 3) + bar_->EnableItem(0, 1) +
-                  bar_->AddMenuEntry(1, "x") + bar_->LoadLine(nullptr, 0),
+                  bar_->InsertItem(9, CWntToolItem(5)) + bar_->CheckItem(100, 3) + bar_->AddMenuEntry(1, "x"),
               0);
-    EXPECT_EQ(place, CRect(0, 0, 0, 0));
     CWntToolBar unmade; // before its window
     EXPECT_EQ(unmade.AddItem(CWntToolItem(5, "x")), 1);
-    EXPECT_EQ(unmade.PressItem(5) + unmade.UpdateItems() + unmade.GetThickness(100), 0);
     ASSERT_TRUE(unmade.Create(nullptr, "", WS_CHILD, CRect(0, 0, 100, 26), &host_, 10));
     EXPECT_TRUE(unmade.GetItemRect(0, nullptr));
 }
