@@ -228,4 +228,27 @@ TEST_F(Sash, StoresItselfInAProfile) {
     EXPECT_EQ(sash_.StoreState(nullptr, "main") + sash_.StoreState(file, ""), 0);
 }
 
+// Whatever hosts do while panes follow.
+TEST_F(Sash, MayLoseItsDragOrItselfWhilePanesAreResized) {
+    struct Pane : CWnd {
+        std::function<void()> resized = [] {};
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+            const LRESULT result = CWnd::WindowProc(message, wParam, lParam);
+            if (message == WM_SIZE)
+                resized();
+            return result;
+        }
+    } pane;
+    ASSERT_TRUE(pane.Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 1, 1), &sash_, 14));
+    ASSERT_TRUE(sash_.SetPanes(&pane, nullptr));
+    mouse(WM_LBUTTONDOWN, 102);
+    pane.resized = [] { ::ReleaseCapture(); };
+    mouse(WM_MOUSEMOVE, 62);
+    EXPECT_EQ(sash_.GetPosition(), 100);
+    pane.resized = [&] { sash_.DestroyWindow(); };
+    mouse(WM_LBUTTONDOWN, 102);
+    mouse(WM_MOUSEMOVE, 62);
+    EXPECT_FALSE(sash_.m_hWnd);
+}
+
 } // namespace
