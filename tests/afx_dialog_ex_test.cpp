@@ -21,10 +21,10 @@ struct ColouredDialog : testing::Test {
     }
     void TearDown() override { dialog_.DestroyWindow(); }
 
-    // Two columns, red and blue.
-    static HBITMAP columns() {
-        constexpr DWORD red_and_blue[] = {0xFF0000, 0x0000FF};
-        return ::CreateBitmap(2, 1, 1, 32, red_and_blue);
+    // Red and blue beside each other, above two rows of green.
+    static HBITMAP red_and_blue() {
+        constexpr DWORD pixels[] = {0xFF0000, 0x0000FF, 0x00C800, 0x00C800, 0x00C800, 0x00C800};
+        return ::CreateBitmap(2, 3, 1, 32, pixels);
     }
     COLORREF at(int x, int y) { return CClientDC(&dialog_).GetPixel(x, y); }
 
@@ -57,7 +57,7 @@ TEST_F(ColouredDialog, TakesTheProgramsColourWhereItHasNone) {
 }
 
 TEST_F(ColouredDialog, ShowsItsImageBehindTexts) {
-    const HBITMAP image = columns();
+    const HBITMAP image = red_and_blue();
     dialog_.SetBackgroundImage(image, CDialogEx::BACKGR_TILE, FALSE);
     for (const int x : {0, 1, 12, 13, 28, 99}) // the text begins at 11
         EXPECT_EQ(at(x, 12), x % 2 ? blue : red) << x;
@@ -68,14 +68,14 @@ TEST_F(ColouredDialog, ShowsItsImageBehindTexts) {
     for (const auto corner : corners) {
         dialog_.SetBackgroundImage(image, corner, FALSE);
         for (int i = 0; i < 4; ++i) // in the same order
-            EXPECT_EQ(at(i % 2 ? client.right - 2 : 0, i / 2 ? client.bottom - 1 : 0),
+            EXPECT_EQ(at(i % 2 ? client.right - 2 : 0, i / 2 ? client.bottom - 3 : 0),
                       corners[i] == corner ? red : green)
                 << corner;
     }
     dialog_.SetWindowPos(nullptr, 0, 0, client.right + 50, client.bottom + 40, SWP_NOMOVE | SWP_NOZORDER);
     dialog_.UpdateWindow();
     client = inside_of(dialog_);
-    EXPECT_EQ(at(client.right - 1, client.bottom - 1), blue) << "it keeps to the corner";
+    EXPECT_EQ(at(client.right - 1, client.bottom - 3), blue) << "it keeps to the corner";
     dialog_.SetBackgroundImage(HBITMAP(nullptr));
     EXPECT_NE(::GetObjectType(image), 0u) << "the program's own";
 

@@ -161,6 +161,8 @@ TEST_F(NoteProgram, TellsWhyAFileCannotBeOpened) {
     document().text = "kept?";
     EXPECT_EQ(the_app.OpenDocumentFile(path_.c_str()), nullptr);
     EXPECT_EQ(document().text + title(), "Untitled - Tests") << "half a document is none";
+    EXPECT_FALSE(document().OnOpenDocument(path_.c_str()));
+    EXPECT_EQ(document().text, "");
 }
 
 TEST_F(NoteProgram, OpensWhatTheUserChoosesUnlessNothingIsChosen) {
@@ -254,6 +256,10 @@ TEST_F(AfxSeveralDocuments, LieInOneFrameThatShowsTheActiveOnes) {
     frame->MDIActivate(second);
     frame->SendMessage(WM_COMMAND, ID_WINDOW_NEW);
     EXPECT_EQ(text_of(*second), "Untitled2:1");
+    CMDIChildWnd* third = frame->MDIGetActive();
+    frame->MDINext();
+    frame->MDIPrev();
+    EXPECT_EQ(frame->MDIGetActive(), third);
     EXPECT_TRUE(note_view::made.m_pNewDocTemplate == second->GetActiveDocument()->GetDocTemplate() &&
                 note_view::made.m_pCurrentFrame == second);
     second->SetWindowPos(nullptr, 0, 0, 150, 120, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);

@@ -18,6 +18,7 @@ struct bar_frame : CFrameWnd {
     CDialogBar dialog;
     Texts log;
     bool off = true;
+    int checked = 2; // undecided
 
     bool open() {
         return LoadFrame(IDR_FRAME) && tools.Create(this, WS_CHILD | WS_VISIBLE | CBRS_TOP | CBRS_FLYBY) &&
@@ -39,7 +40,7 @@ struct bar_frame : CFrameWnd {
     void OnHideMenuBar() override { log.push_back("hide"); }
     void OnOn() { log.push_back("on"); }
     void OnUpdateOff(CCmdUI* item) { item->Enable(!off); }
-    void OnUpdateChecked(CCmdUI* item) { item->SetCheck(off), item->SetText("Text"); }
+    void OnUpdateChecked(CCmdUI* item) { item->SetCheck(checked), item->SetText("Text"); }
     void OnUpdatePane(CCmdUI* item) { item->Enable(), item->SetText("shown"); }
     DECLARE_MESSAGE_MAP()
 };
@@ -67,6 +68,8 @@ using AfxReBar = AfxFrame;
 TEST_F(AfxFrame, UpdatesItsMenuToolbarAndPanesByItsHandlers) {
     const UINT panes[] = {ID_SEPARATOR, ID_TEST_PANE, ID_INDICATOR_CAPS, ID_INDICATOR_NUM, ID_INDICATOR_SCRL};
     ASSERT_TRUE(frame.status.SetIndicators(panes, 5));
+    frame.settle();
+    frame.checked = 1;
     const HeldKeys off({VK_CAPITAL, VK_NUMLOCK, VK_SCROLL}, 0);
     for (const auto& [key, pane] : {std::pair{VK_CAPITAL, 2}, {VK_NUMLOCK, 3}, {VK_SCROLL, 4}}) {
         const HeldKeys on({key}, 1);
@@ -76,7 +79,7 @@ TEST_F(AfxFrame, UpdatesItsMenuToolbarAndPanesByItsHandlers) {
     }
     EXPECT_TRUE(frame.enabled(ID_TEST_ON) && !frame.enabled(ID_TEST_OFF));
     EXPECT_FALSE(frame.enabled(ID_TEST_NOBODY)) << "a command without handler";
-    EXPECT_NE(frame.tools.SendMessage(TB_ISBUTTONCHECKED, ID_TEST_CHECKED), 0);
+    EXPECT_EQ(frame.tools.SendMessage(TB_GETSTATE, ID_TEST_CHECKED), TBSTATE_ENABLED | TBSTATE_CHECKED);
     EXPECT_STREQ(frame.status.GetPaneText(1), "shown");
     frame.off = false;
     frame.settle();
@@ -333,7 +336,8 @@ TEST_F(AfxToolBar, HasTheBordersOfItsStyleAroundItsButtons) {
     EXPECT_EQ(inside(CBRS_BORDER_TOP | CBRS_BORDER_BOTTOM), CRect(0, 1, 20, 19));
     EXPECT_EQ(inside(CBRS_BORDER_ANY | CBRS_FLOATING), CRect(0, 0, 20, 20));
     CToolBar& tools = frame.tools;
-    tools.SetBarStyle(tools.GetBarStyle() | CBRS_BORDER_TOP);
+    tools.SetBarStyle((tools.GetBarStyle() | CBRS_BORDER_TOP) & ~CBRS_TOOLTIPS);
+    EXPECT_FALSE(tools.EnableToolTips()) << "it had none any more";
     CClientDC(&tools).SetPixel(3, 3, RGB(255, 0, 0));
     tools.SendMessage(WM_NCPAINT, 1);
     EXPECT_EQ(CWindowDC(&tools).GetPixel(10, 0), ::GetSysColor(COLOR_3DHIGHLIGHT));

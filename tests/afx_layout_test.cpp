@@ -105,8 +105,12 @@ TEST(AfxLayout, KnowsThatItsWindowIsScrolled) {
     window.SetScrollRange(SB_VERT, 0, 300, FALSE);
     window.SetScrollPos(SB_VERT, 50, FALSE);
     window.ScrollWindow(0, -50);
+    CButton later;
+    ASSERT_TRUE(later.Create("", WS_CHILD, CRect(10, 60, 30, 70), &window, 8));
+    ASSERT_TRUE(window.GetDynamicLayout()->AddItem(8U, Layout::MoveHorizontal(100)));
     grow(window, 15, 0);
     EXPECT_EQ(place_of(window, 7), CRect(25, 30, 45, 40));
+    EXPECT_EQ(place_of(window, 8), CRect(25, 60, 45, 70));
     window.DestroyWindow();
 }
 

@@ -33,6 +33,7 @@ TEST(AfxOleTime, CountsOverTheDayThatIsZero) {
     EXPECT_TRUE(COleDateTime(1899, 12, 29, 6, 0, 0) < before) << "though its number is the greater one";
     const COleDateTimeSpan span(-1, -2, -3, -4);
     EXPECT_TRUE(span.GetDays() == -1 && span.GetHours() == -2 && span.GetMinutes() == -3 && span.GetSeconds() == -4);
+    EXPECT_EQ(COleDateTimeSpan(0.99999999).GetDays(), 1) << "whole seconds";
     COleDateTime none = after;
     none.SetStatus(COleDateTime::null);
     EXPECT_EQ((none + span).GetStatus(), COleDateTime::null);

@@ -206,7 +206,10 @@ TEST(AfxModelessSheet, HoldsPagesWithoutButtons) {
     TCITEM tab{TCIF_TEXT, 0, 0, caption, sizeof(caption), 0, 0};
     EXPECT_TRUE(sheet.GetTabControl()->GetItem(1, &tab) && std::string("Caption of its own") == caption);
     sheet.AddPage(&third);
+    CPropertyPage missing(4711);
+    EXPECT_TRUE(raises<CResourceException>([&] { sheet.AddPage(&missing); }));
     EXPECT_EQ(sheet.GetTabControl()->GetItemCount(), 3);
+    EXPECT_EQ(sheet.GetPageCount(), 3) << "without the page that has no template";
     for (const int none : {-1, 3})
         EXPECT_TRUE(raises<CInvalidArgException>([&] { sheet.RemovePage(none); }));
     sheet.RemovePage(&first);

@@ -37,6 +37,9 @@ TEST_F(AfxTracker, MovesSidesCornersAndTheWhole) {
     EXPECT_EQ(tracked(tracker, {20, 40}, {95, 40}, WM_LBUTTONUP, TRUE), CRect(95, 20, 80, 60)) << "turned over";
     EXPECT_EQ(tracker.NormalizeHit(CRectTracker::hitLeft), CRectTracker::hitRight);
     EXPECT_EQ(tracker.HitTest({88, 40}), CRectTracker::hitMiddle);
+    tracker.m_rect.SetRect(20, 60, 80, 20); // upside down
+    EXPECT_EQ(tracker.HitTest({20, 40}), CRectTracker::hitLeft);
+    tracker.m_rect.SetRect(95, 20, 80, 60);
     EXPECT_EQ(tracker.HitTest({10, 10}), CRectTracker::hitNothing);
 
     CRectTracker band;

@@ -139,6 +139,12 @@ TEST(AfxScrollView, ScrollsWithinItsDocumentInLogicalUnits) {
     view.OnPrepareDC(&dc);
     const CRect all = inside_of(view);
     EXPECT_EQ(dc.GetViewportOrg(), CPoint((all.Width() - 50) / 2, (all.Height() - 60) / 2));
+    const CRect around = on_screen(frame);
+    view.SetScrollSizes(MM_TEXT, CSize(700, 600));
+    view.ResizeParentToFit(TRUE);
+    EXPECT_EQ(on_screen(frame), around) << "it may only shrink";
+    view.ResizeParentToFit(FALSE);
+    EXPECT_GE(inside_of(view).Width(), 700);
 }
 
 TEST(AfxFormView, ExchangesDataAndScrollsItsTemplate) {
@@ -256,6 +262,8 @@ TEST(AfxEditViewPrinting, PrintsAnyOfItsPagesByItself) {
     EXPECT_TRUE(prints(1));
     EXPECT_TRUE(prints(2)) << "though the first was not printed";
     EXPECT_FALSE(prints(4));
+    view.SetWindowText("X");
+    EXPECT_FALSE(prints(2)) << "nothing is left for it";
     view.SetWindowText("");
 }
 
@@ -419,13 +427,14 @@ TEST_F(AfxDynamicSplitter, SplitsWherePulledAndJoinsWhatBecomesTooSmall) {
 
 TEST_F(AfxDynamicSplitter, TurnsPanesThatShareABarTogether) {
     ASSERT_TRUE(splitter.SplitColumn(120));
-    for (int column : {0, 1})
+    for (int column : {1, 0}) // the other has nothing to scroll
         static_cast<page_view*>(splitter.GetPane(0, column))
-            ->SetScrollSizes(MM_TEXT, CSize(10, 2000), CSize(0, 90), CSize(0, 10));
+            ->SetScrollSizes(MM_TEXT, CSize(10, column ? 10 : 2000), CSize(0, 90), CSize(0, 10));
     auto& view = *static_cast<page_view*>(splitter.GetPane(0, 0));
     frame.SetActiveView(&view);
     splitter.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA));
     EXPECT_EQ(view.GetScrollPosition().y, 30) << "each by as much, from where it was";
+    EXPECT_EQ(view.GetScrollBarCtrl(SB_VERT)->GetScrollPos(), 30);
     splitter.SendMessage(WM_VSCROLL, SB_BOTTOM);
     splitter.SendMessage(WM_HSCROLL, SB_RIGHT);
     EXPECT_EQ(view.GetScrollPosition().y, 30) << "by a bar of its own, which is not there";
