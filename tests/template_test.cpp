@@ -164,17 +164,6 @@ TEST_F(TemplateTest, ByItsClassNameAWidgetIsMadeOnce) {
     EXPECT_NE(refused.GetDlgItem(100), nullptr);
 }
 
-TEST_F(TemplateTest, AWidgetGoesFromWindowToWindow) {
-    const HWND places[] = {plain_window(100, 60), plain_window(160, 60)};
-    CWntButton button;
-    for (const HWND place : {places[0], places[0], places[1], places[0]}) {
-        ASSERT_TRUE(button.SubclassWindow(place));
-        EXPECT_EQ(size_of(button), size_of(*button.GetDlgItem(101)));
-        EXPECT_GT(repainted(button).count(RGB(0, 0, 128)), 1000); // its ground
-        button.UnsubclassWindow();
-    }
-}
-
 TEST_F(TemplateTest, ADerivedClassMayKeepItsCreationToItself) {
     class Own : public CWntColorSel {
         BOOL PreCreateWindow(CREATESTRUCT& create) override {
