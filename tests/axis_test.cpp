@@ -70,7 +70,9 @@ TEST_F(AxisTest, TextsAndTheirAbsence) {
     size(300, 40);
     axis_.SetTexts(3, nullptr);
     axis_.SetTexts(3, texts.data());
+    full_repaint(axis_);
     axis_.SetTicks(50); // what lies beyond the last label has none
+    EXPECT_TRUE(::GetUpdateRect(axis_, nullptr, FALSE));
     const char* none = "No title specified";
     const std::string cut(49, 'W');
     expect_shown(2, false, {{0, 6, "Inflow"}, {100, 6, ""}, {200, 6, cut}, {300, 6, none}, {301, 6, none}});

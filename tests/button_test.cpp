@@ -174,7 +174,7 @@ TEST_F(ButtonTest, PressMovesThePictureAndReleaseBringsItBack) {
  DDDDDDDDDDDDDDDD SSSSSSSSSSSSSSSS DDDDDDDDDDDDDDDD SSSSSSSSSSSSSSSS)");
 }
 
-TEST_F(ButtonTest, TheSameBlockIsNotPaintedAgain) {
+TEST_F(ButtonTest, IsPaintedAgainWhereItDiffers) {
     open(button_, 60, 30);
     Tcbtn_properties p = properties();
     cover(button_, surface_id, poison);
@@ -183,6 +183,13 @@ TEST_F(ButtonTest, TheSameBlockIsNotPaintedAgain) {
     p.wordwrap = !p.wordwrap; // any byte counts
     button_.setproperties(&p);
     EXPECT_EQ(pixels_of(button_).count(poison), 0);
+
+    button_.MoveWindow(0, 0, 40, 20); // smaller is another picture
+    button_.UpdateWindow();
+    EXPECT_EQ(pixels_of(button_), repainted(button_));
+    p.visible = 0;
+    cover(button_, surface_id, poison);
+    EXPECT_EQ(shown(p).count(poison), 40 * 20);
 }
 
 TEST_F(ButtonTest, EdgesOutsideAndHiddenDoNothing) {

@@ -67,7 +67,7 @@ TEST_F(ColorSelTest, LooksLikeItsSketches) {
     selector_.SetSelectedColorID(5);
     const auto sketch = [&](int width, int height) {
         selector_.MoveWindow(0, 0, width, height);
-        full_repaint(selector_);
+        selector_.UpdateWindow();
         return "\n" + letters(pixels_of(selector_).values, width, names);
     };
     EXPECT_EQ(sketch(34, 8), R"(
@@ -80,9 +80,10 @@ D00001110222033304440555066607770H
 D00001110222033304440555066607770H
 HHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHH
 )");
-    selector_.Set3DCells(1);
     selector_.SetHoverSample(1);
     point_at(8 * 3 + 5, 7);
+    sketch(66, 11);
+    selector_.Set3DCells(1); // is shown at once
     EXPECT_EQ(sketch(66, 11), R"(
 DDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDH
 DHHHHHHD.HHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHDH
@@ -128,6 +129,9 @@ TEST_F(ColorSelTest, ItemsTakeThePickedColour) {
     EXPECT_EQ(selector_.GetSelectedColor(), 0u);      // two items: no colour with the number 2
     selector_.SetSelectedColorID(1);
     EXPECT_TRUE(selector_.GetSelectedColor() == 1 && colours[1] == 1);
+    selector_.ShowSliders(1);
+    EXPECT_EQ(place_in(selector_, names_list), CRect(110, 0, 160, 90)); // its half of what they leave
+    selector_.ShowSliders(0);
     selector_.SetColorItems(nullptr, nullptr, 0);
     full_repaint(selector_);
     pick(50, 45);

@@ -25,7 +25,8 @@ TEST(SharedMemory, IsOneForAllOfItsName) {
     std::ranges::copy(plain, static_cast<unsigned char*>(block.GetPtr()));
     EXPECT_EQ(bytes_of(other), plain);
     block.Scramble();
-    EXPECT_NE(bytes_of(other), plain);
+    const Bytes scrambled = bytes_of(other);
+    EXPECT_NE(Bytes(scrambled.end() - 9, scrambled.end()), Bytes(plain.end() - 9, plain.end()));
     other.Scramble();
     EXPECT_EQ(bytes_of(block), plain);
 }
@@ -165,10 +166,11 @@ std::string shown_by(CWntErrorBox&& box) {
     WhileModal modal([&] {
         if (!box.m_hWnd)
             return false;
-        for (const int id : {1003, 1004, 1005, IDOK}) {
+        for (const int id : {1003, 1004, 1005}) {
             CString text;
             box.GetDlgItemText(id, text);
-            texts += text + "|";
+            CClientDC dc(box.GetDlgItem(id));
+            texts += text + (dc.GetPixel(1, 1) == ::GetSysColor(COLOR_WINDOW) ? "|" : ".");
         }
         box.PostMessage(WM_COMMAND, IDOK);
         return true;
@@ -179,7 +181,7 @@ std::string shown_by(CWntErrorBox&& box) {
 
 TEST(ErrorBox, ShowsItsTextsAndBreaksEndlessWords) {
     EXPECT_EQ(shown_by(CWntErrorBox("Title & more", "The message", "Detail 1\r\nDetail 2")),
-              "Title & more|The message|Detail 1\r\nDetail 2|OK|");
+              "Title & more|The message|Detail 1\r\nDetail 2|");
     const CString endless('x', 200'000); // kept the box from appearing for a minute
     const std::string shown = shown_by(CWntErrorBox(endless, "message", endless));
     EXPECT_EQ(std::count(shown.begin(), shown.end(), 'x'), 400'000);

@@ -79,9 +79,7 @@ TEST_F(PrintTest, HardcopyFillsThePageAndShowsTheFrame) {
         };
         EXPECT_TRUE(at(0.25, 0.25) == RGB(255, 0, 0) && at(0.75, 0.75) == RGB(0, 0, 255));
         EXPECT_TRUE(at(0.75, 0.25) == white && at(0.25, 0.75) == white);
-        EXPECT_EQ(page->at(0, page->height() - 1), ::GetSysColor(COLOR_3DLIGHT));          // the frame
-        EXPECT_NE(page->at(inked.right, inked.top - static_cast<int>(height / 4)), white); // beside the white quarter
-        EXPECT_NE(page->at(inked.left + static_cast<int>(width / 4), inked.bottom), white);
+        EXPECT_EQ(page->at(0, page->height() - 1), ::GetSysColor(COLOR_3DLIGHT)); // the frame
     }
 }
 

@@ -318,7 +318,9 @@ TEST(BitmapPalette, DrawsItsCells) {
     ASSERT_TRUE(palette.Load(TemporaryFile(PaletteFile().bytes()).name()));
     palette.Draw(nullptr, rect, TRUE);
     EXPECT_EQ(picture.ink(ground).right, -1);
+    const HGDIOBJ host_palette = ::GetCurrentObject(picture.dc(), OBJ_PAL);
     palette.Draw(CDC::FromHandle(picture.dc()), rect, TRUE);
+    EXPECT_EQ(::GetCurrentObject(picture.dc(), OBJ_PAL), host_palette);
     for (int i = 0; i < 256; ++i) {
         const int x = 4 + i % 16 * 10;
         const int y = 164 - (2 + i / 16 * 10);
@@ -335,26 +337,35 @@ TEST(BitmapPaths, AreAskedForAndFailuresTold) {
     } unsaved;
     CWntBitmap& bitmap = unsaved;
     CWntBitmapPalette palette;
-    int cancelled = 0;
+    const TemporaryFile disk;
+    int cancelled = 0, questions = 0;
     const WhileModal modal([&] {
-        if (HWND dialog = shown_dialog()) {
+        const HWND dialog = shown_dialog();
+        if (!dialog || !::IsWindowEnabled(dialog))
+            return false;
+        const HWND name = ::GetDlgItem(dialog, 0x047C);
+        if (!name) { // whether to write over the file
+            ++questions;
+            ::SendMessageA(dialog, WM_COMMAND, IDNO, 0);
+        } else if (cancelled == 1 && questions == 0) { // that it is to save into
+            ::SetWindowTextA(name, disk.name());
+            ::PostMessageA(dialog, WM_COMMAND, IDOK, 0);
+        } else {
             ++cancelled;
             ::SendMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
         }
         return cancelled == 3;
     });
     EXPECT_FALSE(bitmap.Load(static_cast<LPCTSTR>(nullptr)) || bitmap.Save("") || palette.Load(""));
-    EXPECT_EQ(cancelled, 3);
+    EXPECT_EQ(questions, 1);
     program.boxes.clear();
-    const TemporaryFile disk;
     EXPECT_FALSE(bitmap.Load("no such.bmp") || bitmap.Save("no such folder\\x.bmp") || bitmap.Save(disk.name()) ||
                  palette.Load("no such.pal") || palette.Load(disk.name()));
     EXPECT_THAT(program.boxes, testing::ElementsAre("Failed to open file", "Failed to save file", "Failed to open file",
                                                     "Failed to load file"));
     disk.write(BitmapFile().bytes());
-    ::SetFileAttributesA(disk.name(), FILE_ATTRIBUTE_READONLY);
-    EXPECT_TRUE(bitmap.Load(disk.name()));
-    ::SetFileAttributesA(disk.name(), FILE_ATTRIBUTE_NORMAL);
+    const CFile reader(disk.name(), CFile::modeRead | CFile::shareDenyWrite);
+    EXPECT_TRUE(bitmap.Load(disk.name())); // beside others
 }
 
 } // namespace
