@@ -9,6 +9,7 @@ namespace {
 using Draw = void (*)(CWntOut&);
 
 Tpt pairs[] = {{0, 0}, {1, 3}, {4, 0}, {5, 3}};
+Tpt square[] = {{0, 0}, {5, 0}, {5, 3}, {0, 3}};
 
 template <class Made> Made current(HDC dc, UINT kind) {
     Made made = {};
@@ -56,8 +57,8 @@ TEST_F(SurfaceTest, LinesAndBoxesCoverTheirPixels) {
         {"cross, plus", [](CWntOut& o) { o.drawmarker(1, 1, 1, 0), o.drawmarker(4, 2, 1, 1); },
          "....L.\nL.LLLL\n.L..L.\nL.L...\n"},
         {"hatched, its gaps decided by a bit of the colour",
-         [](CWntOut& o) { o.fillcolour(red, 0), o.fillcolour(green, 3), o.solidpoly(pairs, 4); },
-         ".F...F\n.FFFFF\nFFFFF.\nF...F.\n"},
+         [](CWntOut& o) { o.fillcolour(red, 0), o.fillcolour(green, 3), o.solidpoly(square, 4); },
+         "FFFFFF\nF....F\nF....F\nFFFFFF\n"},
         {"no marker", [](CWntOut& o) { o.drawmarker(2, 2, 1, 6), o.drawmarker(2, 2, 1, -1); },
          "......\n......\n......\n......\n"},
         {"tracked boxes, one without height",
