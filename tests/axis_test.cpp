@@ -112,6 +112,8 @@ TEST_F(AxisTest, AFollowedRangeIsSeenAtOnce) {
         const Pixels seen = pixels_of(axis_);
         EXPECT_TRUE(seen == repainted(axis_)) << extent.cx;
     }
+    axis_.SetRange(0LL, 6'000LL); // one that is set waits for its paint
+    EXPECT_TRUE(::GetUpdateRect(axis_, nullptr, FALSE));
 }
 
 TEST_F(AxisTest, ZoomControlFollowsTheMouse) {

@@ -110,22 +110,22 @@ TEST_F(TraceTest, WindowShowsAndSelectsTheNewestLine) {
     EXPECT_EQ(on_screen(*CWnd::FromHandle(dialog())), CRect(37, 21, 37 + 468, 21 + 350));
     EXPECT_TRUE(::IsWindowVisible(dialog()));
 
-    trace.Trace("one"), trace.Trace("one");
-    EXPECT_EQ(selected(), 1);
+    trace.Trace("first"), trace.Trace("one"), trace.Trace("one");
+    EXPECT_EQ(selected(), 2);
     trace.Trace(2, "one more"), WntTrace("one");
-    EXPECT_EQ(selected(), 3);
+    EXPECT_EQ(selected(), 4);
     trace.SetFlags(1);
     trace.Trace("unseen");
     trace.SetFlags(2);
     trace.Trace("two");
-    EXPECT_THAT(lines(), ElementsAre("one", "one", "one more", "one", "two"));
+    EXPECT_THAT(lines(), ElementsAre("first", "one", "one", "one more", "one", "two"));
     ::SendMessage(list(), WM_SETREDRAW, FALSE, 0);
-    for (int i = 5; i < 9'999; ++i)
+    for (int i = 6; i < 9'999; ++i)
         ::SendMessage(list(), LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(""));
     trace.Trace("last with all"), trace.Trace("newest");
     EXPECT_EQ(::SendMessage(list(), LB_GETCOUNT, 0, 0), 10'000);
     EXPECT_EQ(selected(), 9'999);
-    EXPECT_EQ(::SendMessage(list(), LB_FINDSTRINGEXACT, 9'990, reinterpret_cast<LPARAM>("one more")), 1);
+    EXPECT_EQ(::SendMessage(list(), LB_FINDSTRINGEXACT, 9'990, reinterpret_cast<LPARAM>("first")), LB_ERR);
     trace.DestroyWindow();
     trace.Trace("after the window");
     WntTrace("after the window");
