@@ -1,12 +1,15 @@
-#include "button_reference.h"
 #include "widget_window.h"
 
 #include <climits>
 #include <cstring>
+#include <numeric>
+#include <string>
 
 namespace {
 
 constexpr int surface_id = 101;
+constexpr COLORREF white = RGB(255, 255, 255), blue = RGB(0, 0, 255), yellow = RGB(255, 255, 0), green = RGB(0, 255, 0),
+                   red = RGB(255, 0, 0);
 
 struct ButtonTest : WidgetTest {
     void script(std::initializer_list<const char*> lines) {
@@ -27,76 +30,151 @@ struct ButtonTest : WidgetTest {
         return properties().bordertype;
     }
 
+    // A look whose colours tell its parts apart.
+    Tcbtn_properties plain() {
+        script({":TITLE=", ":TITLESTYLE=PLAIN", ":ALIGN=BOTTOMLEFT", ":BORDERHEIGHT=2", ":CLRBACK=WHITE",
+                ":CLRBORDER=BLUE", ":CLRSUN=YELLOW", ":CLRSHADOW=GREEN", ":CLRTEXT=RED"});
+        return properties();
+    }
+
+    Pixels shown(const Tcbtn_properties& p) {
+        button_.setproperties(&p);
+        return repainted(button_);
+    }
+
+    // In letters: dot ground, B border, S sun, D shadow, T text.
+    std::string side_by_side(const std::vector<Pixels>& pictures) {
+        std::vector<std::string> rows(pictures[0].height, "\n");
+        for (const Pixels& picture : pictures) {
+            const std::string all = letters(picture.values, picture.width,
+                                            {{white, '.'}, {blue, 'B'}, {yellow, 'S'}, {green, 'D'}, {red, 'T'}});
+            for (int y = 0; y < picture.height; ++y)
+                rows[y] += " " + all.substr(y * (picture.width + 1), picture.width);
+        }
+        return std::accumulate(rows.begin(), rows.end(), std::string());
+    }
+
     CWntButton button_;
 };
 
 } // namespace
 
-// Every part of a button in turn, each on a small one, on a large one, and after a press.
-TEST_F(ButtonTest, ShowsEveryProperty) {
-    open(button_, 0, 0);
-    const Tcbtn_properties made = properties();
-    int shown = 0;
-    const auto check = [&](const Tcbtn_properties& p, const char* what, int value) {
-        const CSize sizes[] = {{64, 36}, {240, 50}, {9, 7}, {1, 1}};
-        button_.MoveWindow(0, 0, sizes[shown % 4].cx, sizes[shown % 4].cy);
-        ++shown;
-        button_.setproperties(&p);
-        const Pixels shown_now = repainted(button_);
-        const ButtonReference expected(shown_now.width, shown_now.height, p);
-        EXPECT_TRUE(!p.visible || shown_now.values == expected.pixels()) << what << ' ' << value;
-    };
-    const auto vary = [&](const char* what, auto field, std::initializer_list<int> values) {
-        for (const int value : values)
-            for (int size = 0; size < 4; ++size) {
-                Tcbtn_properties p = made;
-                p.clrborder = 6, p.clrsun = 4, p.clrshadow = 5, p.underline = shown % 3 == 0, p.frame = shown % 2;
-                p.*field = static_cast<std::remove_reference_t<decltype(p.*field)>>(value);
-                check(p, what, value);
-            }
+TEST_F(ButtonTest, BordersLookLikeTheirSketches) {
+    open(button_, 9, 7);
+    const auto varied = [&](Tcbtn_properties p, auto field, std::initializer_list<int> values) {
+        std::vector<Pixels> pictures;
+        for (const int value : values) {
+            p.*field = value;
+            pictures.push_back(shown(p));
+        }
+        return side_by_side(pictures);
     };
     using P = Tcbtn_properties;
-    vary("type", &P::bordertype, {0, 1, 2, 3});
-    vary("sides", &P::borderstyle, {0, 1, 2, 4, 8, 3, 12, 7, 14, 15});
-    vary("height", &P::borderheight, {0, 1, 5});
-    vary("style", &P::titlestyle, {0, 1, 2, 3, 4, 255});
-    vary("align", &P::align, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 255});
-    vary("back", &P::clrback, {0, 1, 9});
-    vary("text", &P::clrtext, {0, 1, 15});
-    vary("frame", &P::frame, {0, 1});
-    vary("visible", &P::visible, {0, 1});
-    button_.setproperties(&made);
-    button_.MoveWindow(0, 0, 90, 60);
-    full_repaint(button_);
-    button_.MoveWindow(0, 0, 50, 30); // smaller is another picture
-    button_.UpdateWindow();
-    button_.GetDlgItem(surface_id)->UpdateWindow();
-    EXPECT_EQ(pixels_of(button_).values, ButtonReference(50, 30, made).pixels());
+    const Tcbtn_properties made = plain();
+    Tcbtn_properties framed = made, sunk = made;
+    framed.frame = 1;
+    sunk.bordertype = 3;
+    EXPECT_EQ(varied(made, &P::bordertype, {0, 1, 2}) + varied(framed, &P::borderheight, {0, 1, 2, 3}), R"(
+ ......... BBBBBBBB. SSSSSSSS.
+ ......... BBBBBBB.B SSSSSSS.D
+ ......... BB.....BB SS.....DD
+ ......... BB.....BB SS.....DD
+ ......... BB.....BB SS.....DD
+ ......... BBBBBBBBB SDDDDDDDD
+ ......... BBBBBBBBB DDDDDDDDD
+ BBBBBBBBB BBBBBBBBB BBBBBBBBB BBBBBBBBB
+ B.......B BSSSSSS.B BSSSSSS.B BSSSSSS.B
+ B.......B BS.....DB BSSSSS.DB BSSSSS.DB
+ B.......B BS.....DB BSS...DDB BSSDDDDDB
+ B.......B BS.....DB BSDDDDDDB BSDDDDDDB
+ B.......B BDDDDDDDB BDDDDDDDB BDDDDDDDB
+ BBBBBBBBB BBBBBBBBB BBBBBBBBB BBBBBBBBB)");
+    EXPECT_EQ(varied(sunk, &P::borderstyle, {1, 2, 4, 8, 3, 12, 15}), R"(
+ DD....... .......SS DDDDDDDDD ......... DD.....SS DDDDDDDDD DDDDDDDD.
+ DD....... .......SS DDDDDDDDD ......... DD.....SS DDDDDDDDD DDDDDDD.S
+ DD....... .......SS ......... ......... DD.....SS ......... DD.....SS
+ DD....... .......SS ......... ......... DD.....SS ......... DD.....SS
+ DD....... .......SS ......... ......... DD.....SS ......... DD.....SS
+ DD....... .......SS ......... SSSSSSSSS DD.....SS SSSSSSSSS DSSSSSSSS
+ DD....... .......SS ......... SSSSSSSSS DD.....SS SSSSSSSSS SSSSSSSSS)");
+}
+
+TEST_F(ButtonTest, TitlesStandByTheirAlignmentInTheirStyle) {
+    constexpr int width = 250, height = 26; // of small texts no pixel is mixed
+    char text[] = "Hi";
+    open(button_, width, height);
+    Tcbtn_properties p = plain();
+    p.bordertype = 0;
+    p.underline = 1;
+    std::strcpy(p.title, text);
+    const std::tuple<int, CPoint, CPoint> places[] = {
+        {0, {3, 3}, {3, 4}}, {5, {246, 22}, {46, 8}}, {10, {124, 12}, {24, 6}}, {255, {0, 0}, {0, 1}}};
+    for (const auto& [align, at, line] : places) {
+        Picture expected(width, height);
+        expected.clear(white);
+        CWntOut surface;
+        surface.targetmode = 1;
+        surface.reset(expected.dc());
+        surface.xmax = width - 1;
+        surface.ymax = height - 1;
+        surface.linecolour(red, 0);
+        surface.settext(0, 0, 0, 15, 0, 0);
+        surface.hline(line.x, line.y, 200);
+        surface.chars(at.x, at.y, text, align);
+        p.align = static_cast<std::uint8_t>(align);
+        EXPECT_EQ(shown(p).values, expected.values()) << align;
+    }
+
+    p.align = 10;
+    const Pixels plain_title = shown(p);
+    const std::tuple<int, COLORREF, COLORREF> styles[] = {{1, green, yellow}, {2, yellow, green}, {3, white, white}};
+    for (const auto& [style, above, below] : styles) {
+        p.titlestyle = static_cast<std::uint8_t>(style);
+        const Pixels styled = shown(p);
+        for (int i = width + 1; i < width * (height - 1) - 1; ++i) {
+            const auto inked = [&](int from) { return plain_title.values[i + from] == red; };
+            const bool bold = style == 3 && inked(-1);
+            const COLORREF expected = inked(0) || bold    ? red
+                                      : inked(-width - 1) ? below
+                                      : inked(width + 1)  ? above
+                                                          : white;
+            ASSERT_EQ(styled.values[i], expected) << style << ": " << i % width << ',' << i / width;
+        }
+    }
 }
 
 TEST_F(ButtonTest, PressMovesThePictureAndReleaseBringsItBack) {
-    open(button_, 120, 40);
-    script({":TITLESTYLE=PLAIN", ":TITLE=reaches from edge to edge", ":ALIGN=CENTERCENTER", ":FRAME=X"});
-    ButtonReference expected(120, 40, properties());
-    const auto expect_shown = [&](const char* when) {
-        EXPECT_EQ(pixels_of(button_).values, expected.pixels()) << when;
-    };
-    EXPECT_EQ(mouse(WM_LBUTTONDOWN, 50, 20), 3);
-    expected.move(true);
-    expect_shown("pressed");
-    mouse(WM_LBUTTONDOWN, 50, 20); // finds it sunk
-    expect_shown("pressed again");
-    mouse(WM_LBUTTONUP, 50, 20);
-    expected.move(false);
-    expect_shown("released");
-    mouse(WM_LBUTTONUP, 50, 20); // finds it raised
-    expect_shown("released again");
+    open(button_, 16, 11);
+    Tcbtn_properties p = plain();
+    p.borderheight = 1;
+    shown(p);
+    CClientDC(button_.GetDlgItem(surface_id)).FillSolidRect(5, 3, 9, 4, red); // what is moved
+    std::vector<Pixels> pictures = {pixels_of(button_)};
+    EXPECT_EQ(mouse(WM_LBUTTONDOWN, 7, 5), 3);
+    pictures.push_back(pixels_of(button_));
+    mouse(WM_LBUTTONDOWN, 7, 5); // finds it sunk
+    EXPECT_EQ(pixels_of(button_), pictures.back());
+    mouse(WM_LBUTTONUP, 7, 5);
+    pictures.push_back(pixels_of(button_));
+    mouse(WM_LBUTTONUP, 7, 5); // finds it raised
+    EXPECT_EQ(pixels_of(button_), pictures.back());
     button_.draw_button(0); // as an owner presses it
-    expected.move(true);
-    expect_shown("pressed by its owner");
+    pictures.push_back(pixels_of(button_));
+    EXPECT_EQ(side_by_side(pictures), R"(
+ SSSSSSSSSSSSSSS. DDDDDDDDDDDDDDD. SSSSSSSSSSSSSSS. DDDDDDDDDDDDDDD.
+ S..............D D..............S S..............D D..............S
+ S..............D D..............S S..............D D..............S
+ S....TTTTTTTTT.D D..............S S....TTTTTT....D D..............S
+ S....TTTTTTTTT.D D..............S S....TTTTTT....D D..............S
+ S....TTTTTTTTT.D D......TTTTTTT.S S....TTTTTT....D D......TTTTTT..S
+ S....TTTTTTTTT.D D......TTTTTTT.S S..............D D......TTTTTT..S
+ S..............D D......TTTTTT..S S..............D D......TTTTTT..S
+ S..............D D......TTTTTT..S S..............D D..............S
+ S..............D D..............S S..............D D..............S
+ DDDDDDDDDDDDDDDD SSSSSSSSSSSSSSSS DDDDDDDDDDDDDDDD SSSSSSSSSSSSSSSS)");
 }
 
-TEST_F(ButtonTest, TheSameBlockIsNotPaintedAgain) {
+TEST_F(ButtonTest, IsPaintedAgainWhereItDiffers) {
     open(button_, 60, 30);
     Tcbtn_properties p = properties();
     cover(button_, surface_id, poison);
@@ -105,6 +183,10 @@ TEST_F(ButtonTest, TheSameBlockIsNotPaintedAgain) {
     p.wordwrap = !p.wordwrap; // any byte counts
     button_.setproperties(&p);
     EXPECT_EQ(pixels_of(button_).count(poison), 0);
+
+    p.visible = 0;
+    cover(button_, surface_id, poison);
+    EXPECT_EQ(shown(p).count(poison), 60 * 30);
 }
 
 TEST_F(ButtonTest, EdgesOutsideAndHiddenDoNothing) {

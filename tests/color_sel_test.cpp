@@ -1,4 +1,3 @@
-#include "temporary_file.h"
 #include "widget_window.h"
 
 #include <climits>
@@ -8,59 +7,6 @@ namespace {
 
 constexpr int surface_id = 100;
 constexpr int list_id = 101;
-
-/// The surface of a selector drawn by its rules with plain GDI calls.
-struct SelectorReference {
-    SelectorReference(CSize surface, CSize panel, const std::vector<DWORD>& palette, bool edged)
-        : picture_(surface.cx, surface.cy), panel_(panel), palette_(palette),
-          cell_(panel.cx / 8, panel.cy / (static_cast<int>(palette.size()) / 8 + 1)), m_(edged ? cell_.cx / 8 : 0) {
-        const int w = panel.cx - 1, h = panel.cy - 1;
-        box(0, 0, w, h, ::GetSysColor(COLOR_BTNFACE));
-        for (int i = 0; i < static_cast<int>(palette.size()) / 8 * 8; ++i) {
-            const int x = i % 8 * cell_.cx + m_, y = panel.cy - (i / 8 + 2) * cell_.cy + m_;
-            box(x, y, cell_.cx - 2 * m_, cell_.cy - 2 * m_, palette[i]);
-            if (m_ > 0)
-                edge(x, y, cell_.cx - 2 * m_, cell_.cy - 2 * m_, true);
-        }
-        edge(0, 0, w, h, false);
-    }
-
-    void sample(int left, int right, int colour) {
-        const int x = left + m_, y = panel_.cy - cell_.cy + m_, w = right - m_ - x, h = cell_.cy - 1 - 2 * m_;
-        box(x, y, w, h, palette_[colour]);
-        edge(x, y, w, h, true);
-    }
-    void hovered(int colour) { sample(0, cell_.cx, colour); }
-    void selected(int colour, bool hover) { sample(hover ? cell_.cx : 0, panel_.cx - 1, colour); }
-
-    std::vector<COLORREF> pixels() const { return picture_.values(); }
-
-private:
-    // Positions count upwards; both corners belong to a box.
-    void fill(int x, int y, int w, int h, COLORREF colour) {
-        const int height = picture_.height();
-        const RECT device = {x, height - 1 - y - h, x + w + 1, height - y};
-        const HBRUSH brush = ::CreateSolidBrush(colour);
-        ::FillRect(picture_.dc(), &device, brush);
-        ::DeleteObject(brush);
-    }
-    void box(int x, int y, int w, int h, COLORREF colour) {
-        fill(x, y, w, h, palette_[0]);
-        fill(x + 1, y + 1, w - 2, h - 2, colour);
-    }
-    void edge(int x, int y, int w, int h, bool raised) {
-        const COLORREF light = ::GetSysColor(raised ? COLOR_3DHIGHLIGHT : COLOR_3DDKSHADOW);
-        const COLORREF dark = ::GetSysColor(raised ? COLOR_3DDKSHADOW : COLOR_3DHIGHLIGHT);
-        fill(x, y, 0, h, light), fill(x, y + h, w, 0, light);
-        fill(x + w, y, 0, h, dark), fill(x, y, w, 0, dark);
-    }
-
-    Picture picture_;
-    CSize panel_;
-    std::vector<DWORD> palette_;
-    CSize cell_;
-    int m_;
-};
 
 struct ColorSelTest : WidgetTest {
     void SetUp() override {
@@ -97,10 +43,6 @@ TEST_F(ColorSelTest, ShowsThePaletteAndTellsPicks) {
     selector_.SetColorPalette(greys, 16);
     selector_.UpdateWindow();
     EXPECT_EQ(pixels_of(selector_).at(130, 45), greys[6]); // shown at once
-    const Pixels flat = pixels_of(selector_);
-    selector_.Set3DCells(1);
-    selector_.UpdateWindow();
-    EXPECT_NE(pixels_of(selector_), flat);
     DWORD table[] = {0};
     selector_.SetColorPalette(nullptr, 16), selector_.SetColorPalette(table, 0);
     selector_.SetColorPalette(table, -1); // none of these takes the palette away
@@ -111,36 +53,52 @@ TEST_F(ColorSelTest, ShowsThePaletteAndTellsPicks) {
     EXPECT_EQ(selector_.GetSelectedColorID(), 6);
 }
 
-TEST_F(ColorSelTest, EveryPixelFollowsItsSettings) {
+TEST_F(ColorSelTest, LooksLikeItsSketches) {
+    // Three colours are not shown. H highlight, D deep shadow, dot button face.
     std::vector<DWORD> colours;
-    for (int i = 0; i < 43; ++i) // three of them are not shown
-        colours.push_back(RGB(6 * i, 255 - 5 * i, 90 * i % 256));
-    selector_.SetColorPalette(colours.data(), 43);
-    char name[] = "item";
-    char* names[] = {name};
-    int item = 0;
-    const CSize whole(335, 205);
-    for (int mode = 0; mode < 32; ++mode) {
-        const bool edged = mode & 1, hover = mode & 2, sliders = mode & 4, items = mode & 8, in_strip = mode & 16;
-        selector_.Set3DCells(edged), selector_.SetHoverSample(hover), selector_.ShowSliders(sliders);
-        selector_.SetColorItems(items ? names : nullptr, &item, 1);
-        selector_.MoveWindow(0, 0, whole.cx, whole.cy);
-        const int left = sliders ? 60 : 0;
-        const CSize surface(items ? (whole.cx - left) / 2 : whole.cx - left, whole.cy);
-        const CSize panel(items ? whole.cx / 2 : whole.cx, whole.cy);
-        point_at(panel.cx / 8 * 3 + 5, in_strip ? 3 : panel.cy / 6 * 2 + 5); // the fourth of the second row
-        selector_.SetSelectedColorID(17);
-        full_repaint(selector_);
-        CWnd* shown = selector_.GetDlgItem(surface_id);
-        EXPECT_EQ(place_in(selector_, *shown), CRect(CPoint(left, 0), surface)) << mode;
-        SelectorReference expected(surface, panel, colours, edged);
-        if (hover && !in_strip)
-            expected.hovered(8 + 3);
-        expected.selected(17, hover);
-        EXPECT_EQ(pixels_of(*shown).values, expected.pixels()) << mode;
-        for (int i = 0; i < 3; ++i)
-            EXPECT_EQ(selector_.GetDlgItem(102 + i)->IsWindowVisible() != 0, sliders) << mode;
+    std::vector<std::pair<COLORREF, char>> names = {{::GetSysColor(COLOR_3DHIGHLIGHT), 'H'},
+                                                    {::GetSysColor(COLOR_3DDKSHADOW), 'D'},
+                                                    {::GetSysColor(COLOR_BTNFACE), '.'}};
+    for (int i = 0; i < 11; ++i) {
+        colours.push_back(RGB(6 * i + 1, 205 - 5 * i, 90 * i % 256));
+        names.emplace_back(colours[i], "0123456789?"[i]);
     }
+    selector_.SetColorPalette(colours.data(), 11);
+    selector_.SetSelectedColorID(5);
+    const auto sketch = [&](int width, int height) {
+        selector_.MoveWindow(0, 0, width, height);
+        selector_.UpdateWindow();
+        return "\n" + letters(pixels_of(selector_).values, width, names);
+    };
+    EXPECT_EQ(sketch(34, 8), R"(
+HHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHD
+H55555555555555555555555555555555D
+H55555555555555555555555555555555D
+DDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDD
+D00001110222033304440555066607770H
+D00001110222033304440555066607770H
+D00001110222033304440555066607770H
+HHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHH
+)");
+    selector_.SetHoverSample(1);
+    point_at(8 * 3 + 5, 7);
+    sketch(66, 11);
+    selector_.Set3DCells(1); // is shown at once
+    EXPECT_EQ(sketch(66, 11), R"(
+DDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDH
+DHHHHHHD.HHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHDH
+DH33333D.H555555555555555555555555555555555555555555555555555555DH
+DDDDDDDD.DDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDDH
+D................................................................H
+DHHHHHHD.HHHHHHD.HHHHHHD.HHHHHHD.HHHHHHD.HHHHHHD.HHHHHHD.HHHHHHD.H
+DH00000D.H11111D.H22222D.H33333D.H44444D.H55555D.H66666D.H77777D.H
+DH00000D.H11111D.H22222D.H33333D.H44444D.H55555D.H66666D.H77777D.H
+DDDDDDDD.DDDDDDD.DDDDDDD.DDDDDDD.DDDDDDD.DDDDDDD.DDDDDDD.DDDDDDD.H
+D................................................................H
+HHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHH
+)");
+    point_at(8 * 3 + 5, 2); // the strip
+    EXPECT_EQ(repainted(selector_).at(4, 2), ::GetSysColor(COLOR_BTNFACE));
 }
 
 TEST_F(ColorSelTest, ItemsTakeThePickedColour) {
@@ -153,10 +111,6 @@ TEST_F(ColorSelTest, ItemsTakeThePickedColour) {
     selector_.SetColorItems(names, colours, 2);
     EXPECT_TRUE(names_list.IsWindowVisible() && place_in(selector_, names_list) == CRect(80, 0, 160, 90));
 
-    LOGFONT font = {};
-    ::GetObject(reinterpret_cast<HFONT>(names_list.SendMessage(WM_GETFONT)), sizeof font, &font);
-    EXPECT_EQ(font.lfHeight, -11); // 8 points at 96 dots an inch, as a surface shows them
-
     full_repaint(selector_);
     char first[20] = "";
     names_list.SendMessage(LB_GETTEXT, 0, reinterpret_cast<LPARAM>(first));
@@ -168,40 +122,28 @@ TEST_F(ColorSelTest, ItemsTakeThePickedColour) {
     choose(1, LBN_DBLCLK);    // "cherry" after sorting, but the second item
     EXPECT_EQ(colours[1], 4); // the sample shows the item's own
     full_repaint(selector_);
-    EXPECT_EQ(colours[1], 0); // it is the selected one that the paint wrote into
-    colours[1] = 4;
-    choose(0);
-    full_repaint(selector_);
-    EXPECT_EQ(colours[1], 4);
-    choose(1);
+    EXPECT_EQ(colours[1], 0);                     // it is the selected one that the paint wrote into
     EXPECT_EQ(selector_.GetSelectedColorID(), 0); // unchanged by the list
     EXPECT_EQ(pick(25, 45), 2);
     EXPECT_THAT(colours, testing::ElementsAre(0, 2)); // the first paint gave the first item the selected colour
     EXPECT_EQ(selector_.GetSelectedColor(), 0u);      // two items: no colour with the number 2
     selector_.SetSelectedColorID(1);
     EXPECT_TRUE(selector_.GetSelectedColor() == 1 && colours[1] == 1);
+    selector_.ShowSliders(1);
+    EXPECT_EQ(place_in(selector_, names_list), CRect(110, 0, 160, 90)); // its half of what they leave
+    selector_.ShowSliders(0);
     selector_.SetColorItems(nullptr, nullptr, 0);
     full_repaint(selector_);
     pick(50, 45);
     EXPECT_EQ(colours[1], 1); // the host has its array back
 }
 
-TEST_F(ColorSelTest, EveryPaintIsTraced) {
-    struct Tracer : CWntTrace {
-        using CWntTrace::setstream;
-    } trace;
-    const TemporaryFile file;
-    trace.setstream(std::fopen(file.name(), "wt"));
-    trace.SetFlags(1);
-    full_repaint(selector_);
-    trace.setstream(nullptr);
-    trace.SetFlags(0);
-    EXPECT_EQ(file.text(), "WntColorSel::OnPaint()");
-}
-
 TEST_F(ColorSelTest, SlidersFollowTheMouse) {
+    EXPECT_FALSE(selector_.GetDlgItem(102)->IsWindowVisible());
     selector_.ShowSliders(1);
     selector_.SetWindowPos(nullptr, 0, 0, 220, 90, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_EQ(place_in(selector_, *selector_.GetDlgItem(104)), CRect(40, 0, 60, 90));
+    EXPECT_EQ(place_in(selector_, *selector_.GetDlgItem(surface_id)), CRect(60, 0, 220, 90));
     full_repaint(selector_);
     point_at(3 * 27 + 5, 45); // yellow: the panel is as wide as the window, 27 a cell
     selector_.GetDlgItem(surface_id)->SendMessage(WM_MOUSEMOVE, 0, 0);

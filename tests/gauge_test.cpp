@@ -116,11 +116,6 @@ TEST_F(GaugeTest, TestModeGivesRoomToBarAndButton) {
     EXPECT_EQ(scroll(SB_THUMBTRACK, 333), 333);
     EXPECT_EQ(scroll(SB_RIGHT), 70000);
     EXPECT_EQ(scroll(SB_THUMBTRACK, 70000 & 0xFFFF), 70000); // the message has 16 bits of it
-
-    script({":DEMO=0"});
-    gauge_.SetWindowPos(nullptr, 0, 0, 5, 6, SWP_NOMOVE | SWP_NOZORDER);
-    EXPECT_EQ(place(100), CRect(0, 0, 5, 6));
-    EXPECT_TRUE(place(103).IsRectEmpty());
 }
 
 TEST_F(GaugeTest, LoadsScriptFiles) {
@@ -183,14 +178,6 @@ TEST_F(GaugeTest, TitleIsTheSystemsText) {
         return values;
     };
     EXPECT_TRUE(magenta(pixels_of(gauge_).values) == magenta(expected.values()));
-
-    open_with(size, size, {":TYPE=PEAKLINE", ":NOTITLE=X", ":CLRTEXT=MAGENTA"});
-    const Pixels p = pixels_of(gauge_);
-    int left = size;
-    for (int i = 0; i < size * size; ++i)
-        if (p.values[i] == RGB(255, 0, 255))
-            left = std::min(left, i % size);
-    EXPECT_NEAR(left, 8, 2); // the widest label ends at its tick and begins at the margin
 }
 
 TEST_F(GaugeTest, CallsAskForThePaintThatTheyNeed) {
@@ -206,20 +193,4 @@ TEST_F(GaugeTest, CallsAskForThePaintThatTheyNeed) {
     EXPECT_FALSE(
         asks([&] { gauge_.SetType(0), gauge_.ClearMarks(), gauge_.AddMark(200, "BLUE"), gauge_.SetCurVal(60); }));
     EXPECT_GT(repainted(gauge_).count(RGB(0, 0, 255)), 500);
-}
-
-TEST_F(GaugeTest, TracesWhatItIsTold) {
-    open(gauge_, 50, 50);
-    EXPECT_THAT(text_of("gaugeocx.log"), testing::StartsWith("Begin of Trace"));
-    struct Stream : CWntTrace {
-        using CWntTrace::setstream;
-    };
-    Stream::setstream(std::fopen("gauge trace.txt", "w"));
-    gauge_.SetCurVal(42);
-    gauge_.SetCurVal(101);
-    gauge_.SendMessage(WM_COMMAND, 104);
-    Stream::setstream(nullptr); // closes the file
-    EXPECT_EQ(text_of("gauge trace.txt"), "SetCurVal 42, Range(0,100), Current(76)SetCurVal 101, Range(0,100), "
-                                          "Current(42)View switched");
-    ::DeleteFileA("gauge trace.txt");
 }

@@ -133,20 +133,14 @@ struct HandlesTest : WidgetTest {
 
 TEST_F(HandlesTest, TheCountsSeeALeak) {
     const Counts before;
-    std::vector<HGDIOBJ> pens;
-    std::vector<std::unique_ptr<CWnd>> windows;
-    for (int i = 0; i < 100; ++i) {
-        pens.push_back(::CreatePen(PS_SOLID, 1, RGB(i, 0, 0)));
-        windows.push_back(std::make_unique<CWnd>());
-        ASSERT_TRUE(windows.back()->Create(nullptr, "", WS_CHILD, CRect(0, 0, 1, 1), &host_, 1));
-    }
-    const Counts leaked;
-    EXPECT_GE(leaked.gdi - before.gdi, 100);
-    EXPECT_GE(leaked.user - before.user, 100 - 64);
-    for (HGDIOBJ pen : pens)
-        ::DeleteObject(pen);
-    for (auto& window : windows)
-        window->DestroyWindow();
+    std::vector<CPen> pens(100);
+    for (CPen& pen : pens)
+        ASSERT_TRUE(pen.CreatePen(PS_SOLID, 1, RGB(1, 0, 0)));
+    EXPECT_GE(live_gdi_objects() - before.gdi, 100);
+    std::vector<CMenu> menus(100);
+    for (CMenu& menu : menus)
+        ASSERT_TRUE(menu.CreateMenu());
+    EXPECT_GE(user_objects() - before.user, 100 - 64);
 }
 
 TEST_F(HandlesTest, LivesAndRepaintsGiveEverythingBack) {

@@ -160,34 +160,9 @@ TEST_F(TemplateTest, ByItsClassNameAWidgetIsMadeOnce) {
     EXPECT_TRUE(child && !::GetWindow(child, GW_HWNDNEXT));
     CWntGauge refused; // and takes over a window after that
     EXPECT_FALSE(refused.Create("no such class", "", WS_CHILD, CRect(0, 0, 9, 9), &host_, 2));
-    ASSERT_TRUE(refused.SubclassWindow(plain_window(100, 60)));
+    ASSERT_TRUE(refused.SubclassWindow(plain_window(0, 0)));
+    refused.MoveWindow(0, 0, 90, 60);
     EXPECT_NE(refused.GetDlgItem(100), nullptr);
-}
-
-TEST_F(TemplateTest, AWidgetGoesFromWindowToWindow) {
-    const HWND places[] = {plain_window(100, 60), plain_window(160, 60)};
-    CWntButton button;
-    for (const HWND place : {places[0], places[0], places[1], places[0]}) {
-        ASSERT_TRUE(button.SubclassWindow(place));
-        EXPECT_EQ(size_of(button), size_of(*button.GetDlgItem(101)));
-        EXPECT_GT(repainted(button).count(RGB(0, 0, 128)), 1000); // its ground
-        button.UnsubclassWindow();
-    }
-}
-
-TEST_F(TemplateTest, ADerivedClassMayKeepItsCreationToItself) {
-    class Own : public CWntColorSel {
-        BOOL PreCreateWindow(CREATESTRUCT& create) override {
-            create.lpszClass = AfxRegisterWndClass(CS_DBLCLKS);
-            return TRUE;
-        }
-    } selector;
-    ASSERT_TRUE(selector.Create(nullptr, "Own", WS_CHILD | WS_VISIBLE, CRect(0, 0, 160, 90), &host_, 1));
-    EXPECT_NE(selector.GetDlgItem(101), nullptr);
-    CWntGauge gauge; // of no size at first
-    ASSERT_TRUE(gauge.SubclassWindow(plain_window(0, 0)));
-    gauge.MoveWindow(0, 0, 90, 60);
-    EXPECT_NE(gauge.GetDlgItem(100), nullptr);
 }
 
 } // namespace

@@ -1,19 +1,14 @@
 // Bitmaps and palettes, and their files.
-#include <process.h>
-
 #include <cstring>
-#include <filesystem>
 
 #include "bitmap_files.h"
 #include "modal.h"
 #include "quiet_program.h"
 #include "pixels.h"
-#include "resource_file.h"
 #include "temporary_file.h"
 
 namespace {
 
-namespace fs = std::filesystem;
 using testing::ElementsAre;
 constexpr DWORD all_pixels = 0xFFFFFFFF;
 
@@ -169,10 +164,6 @@ TEST(WntBitmap, ReadsBitFieldsByTheirMasks) {
         ASSERT_TRUE(loaded.Load(TemporaryFile(bytes).name()));
         ASSERT_TRUE(placed.Create(loaded.GetBitmapInfoAddress(), loaded.GetBitsAddress()));
         EXPECT_EQ(loaded.GetNumClrEntries(), 0u);
-        CWntBitmap ramp;
-        CWntBitmapPalette greys;
-        ASSERT_TRUE(greys.Create(&ramp));
-        EXPECT_FALSE(loaded.MapColorsToPalette(&greys)); // it has masks for colours
         for (CWntBitmap* bitmap : {&loaded, &placed}) {
             Picture picture(2, 1);
             bitmap->Draw(CDC::FromHandle(picture.dc()), 0, 0);
@@ -228,40 +219,6 @@ TEST(WntBitmap, EndsWhereRunLengthsInPlaceEnd) {
         EXPECT_TRUE(disk.bytes().size() == 1078 + 1600 && disk.bytes()[1078 + 4] == 0 && runs[4] == 7);
         info->bmiHeader.biSizeImage = 0;
     }
-}
-
-// Runs a test again with copies of program and library that got resources. Other libraries are found here.
-int run_with_resources(const char* test) {
-    const char *library = "with_resources/ZOPWNT.dll", *program = "with_resources/bitmap_test.exe";
-    fs::create_directories("with_resources");
-    fs::copy_file("ZOPWNT.dll", library, fs::copy_options::overwrite_existing);
-    fs::copy_file("bitmap_test.exe", program, fs::copy_options::overwrite_existing);
-    const Bytes whole = BitmapFile{8, 5, 2}.bytes();
-    const LPCSTR standard = MAKEINTRESOURCEA(2);
-    add_resource(library, standard, 6, whole);
-    add_resource(library, "DIB", 7, whole);
-    add_resource(library, standard, 7, BitmapFile{8, 4, 4}.bytes());
-    add_resource(library, standard, 8, {whole.begin() + 14, whole.end()});
-    add_resource(library, "DIB", 9, {whole.begin(), whole.end() - 1});
-    add_resource(program, "DIB", 10, whole);
-    const auto code = ::_spawnl(_P_WAIT, program, "bitmap_test", test, nullptr);
-    fs::remove_all("with_resources");
-    return static_cast<int>(code);
-}
-
-// A file as resource is used where it lies. Without file header or all pixels it is refused, as is a program's.
-TEST(WntBitmap, LoadsFromTheLibrarysResources) {
-    if (!::FindResourceA(nullptr, MAKEINTRESOURCEA(10), "DIB")) {
-        EXPECT_EQ(run_with_resources("--gtest_filter=WntBitmap.LoadsFromTheLibrarysResources"), 0);
-        return;
-    }
-    CWntBitmap bitmap;
-    ASSERT_TRUE(bitmap.Load(6U) && bitmap.Load(7U) && bitmap.GetWidth() == 5);
-    const BYTE before = (*bitmap.GetPixelAddress(0, 0) ^= 0xFF);
-    ASSERT_TRUE(bitmap.Load(7U));
-    EXPECT_EQ(*bitmap.GetPixelAddress(0, 0), before);
-    for (const UINT id : {8U, 9U, 10U})
-        EXPECT_FALSE(bitmap.Load(id)) << id;
 }
 
 constexpr int colours = 20;
@@ -361,11 +318,9 @@ TEST(BitmapPalette, DrawsItsCells) {
     ASSERT_TRUE(palette.Load(TemporaryFile(PaletteFile().bytes()).name()));
     palette.Draw(nullptr, rect, TRUE);
     EXPECT_EQ(picture.ink(ground).right, -1);
-    HGDIOBJ host_pen = ::SelectObject(picture.dc(), ::GetStockObject(WHITE_PEN));
     const HGDIOBJ host_palette = ::GetCurrentObject(picture.dc(), OBJ_PAL);
     palette.Draw(CDC::FromHandle(picture.dc()), rect, TRUE);
     EXPECT_EQ(::GetCurrentObject(picture.dc(), OBJ_PAL), host_palette);
-    EXPECT_EQ(::SelectObject(picture.dc(), host_pen), ::GetStockObject(WHITE_PEN));
     for (int i = 0; i < 256; ++i) {
         const int x = 4 + i % 16 * 10;
         const int y = 164 - (2 + i / 16 * 10);
@@ -375,44 +330,6 @@ TEST(BitmapPalette, DrawsItsCells) {
     EXPECT_EQ(CRect(picture.ink(ground)), CRect(4, 162, 164, 142));
 }
 
-TEST(BitmapPaletteScreen, GoesIntoTheSystemPalette) {
-    CWntBitmapPalette palette;
-    EXPECT_FALSE(palette.SetSysPalColors());
-    ASSERT_TRUE(palette.Load(TemporaryFile(PaletteFile().bytes()).name()));
-    HDC screen = ::GetDC(nullptr);
-    const bool has_palette = (::GetDeviceCaps(screen, RASTERCAPS) & RC_PALETTE) != 0;
-    EXPECT_EQ(palette.SetSysPalColors() != 0, has_palette);
-    PALETTEENTRY system[colours] = {}, own[colours] = {};
-    ::GetSystemPaletteEntries(screen, 0, colours, system);
-    palette.GetPaletteEntries(0, colours, own);
-    for (int i = 0; i < colours && has_palette; ++i) { // behind the first static colours come the file's
-        const COLORREF expected = i < 10 ? colour_of(system[i]) : colour_of(i - 10);
-        EXPECT_TRUE(colour_of(own[i]) == expected && own[i].peFlags == (i < 10 ? 0 : PC_NOCOLLAPSE)) << i;
-    }
-    ::ReleaseDC(nullptr, screen);
-}
-
-// A file is read beside other readers, and not written to meanwhile.
-TEST(BitmapPaths, AreOpenedForReadingAlone) {
-    struct Watched : CWntBitmap {
-        BOOL Load(CFile* file) override {
-            CFile other;
-            readable = other.Open(name, CFile::modeRead | CFile::shareDenyNone);
-            writable = CFile().Open(name, CFile::modeWrite | CFile::shareDenyNone);
-            return CWntBitmap::Load(file);
-        }
-        using CWntBitmap::Load;
-        CString name;
-        BOOL readable = FALSE, writable = TRUE;
-    } bitmap;
-    const TemporaryFile disk(BitmapFile{8, 5, 2}.bytes());
-    bitmap.name = disk.name();
-    for (const DWORD attributes : {FILE_ATTRIBUTE_NORMAL, FILE_ATTRIBUTE_READONLY, FILE_ATTRIBUTE_NORMAL}) {
-        ::SetFileAttributesA(disk.name(), attributes);
-        EXPECT_TRUE(bitmap.Load(static_cast<LPCTSTR>(disk.name())) && bitmap.readable && !bitmap.writable);
-    }
-}
-
 // Without a path the user is asked, and cancels.
 TEST(BitmapPaths, AreAskedForAndFailuresTold) {
     class Unsaved : public CWntBitmap {
@@ -420,49 +337,35 @@ TEST(BitmapPaths, AreAskedForAndFailuresTold) {
     } unsaved;
     CWntBitmap& bitmap = unsaved;
     CWntBitmapPalette palette;
-    int cancelled = 0;
+    const TemporaryFile disk;
+    int cancelled = 0, questions = 0;
     const WhileModal modal([&] {
-        if (HWND dialog = ::FindWindowA("#32770", nullptr); ::IsWindowVisible(dialog)) {
+        const HWND dialog = shown_dialog();
+        if (!dialog || !::IsWindowEnabled(dialog))
+            return false;
+        const HWND name = ::GetDlgItem(dialog, 0x047C);
+        if (!name) { // whether to write over the file
+            ++questions;
+            ::SendMessageA(dialog, WM_COMMAND, IDNO, 0);
+        } else if (cancelled == 1 && questions == 0) { // that it is to save into
+            ::SetWindowTextA(name, disk.name());
+            ::PostMessageA(dialog, WM_COMMAND, IDOK, 0);
+        } else {
             ++cancelled;
             ::SendMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
         }
         return cancelled == 3;
     });
     EXPECT_FALSE(bitmap.Load(static_cast<LPCTSTR>(nullptr)) || bitmap.Save("") || palette.Load(""));
-    EXPECT_EQ(cancelled, 3);
-    // A name that fits the purpose is taken as it is; one that does not is asked about in a box of its own.
-    const TemporaryFile there;
-    const CString missing = CString(there.name()) + ".bmp";
-    for (const bool open : {true, false})
-        for (const bool exists : {true, false}) {
-            int step = 0;
-            bool asked = false;
-            const WhileModal typed([&] {
-                const HWND dialog = shown_dialog();
-                if (!dialog || !::IsWindowEnabled(dialog))
-                    return false;
-                const HWND name = ::GetDlgItem(dialog, 0x047C);
-                if (!name) { // the question
-                    asked = true;
-                    ::SendMessageA(dialog, WM_COMMAND, ::GetDlgItem(dialog, IDNO) ? IDNO : IDOK, 0);
-                } else if (step++ == 0) {
-                    ::SetWindowTextA(name, exists ? there.name() : static_cast<LPCTSTR>(missing));
-                    ::PostMessageA(dialog, WM_COMMAND, IDOK, 0);
-                } else {
-                    ::PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
-                }
-                return false;
-            });
-            open ? bitmap.Load("") : bitmap.Save("");
-            EXPECT_EQ(asked, open != exists) << open << exists;
-        }
-    ::DeleteFileA(missing);
+    EXPECT_EQ(questions, 1);
     program.boxes.clear();
-    const TemporaryFile disk;
     EXPECT_FALSE(bitmap.Load("no such.bmp") || bitmap.Save("no such folder\\x.bmp") || bitmap.Save(disk.name()) ||
                  palette.Load("no such.pal") || palette.Load(disk.name()));
     EXPECT_THAT(program.boxes, testing::ElementsAre("Failed to open file", "Failed to save file", "Failed to open file",
                                                     "Failed to load file"));
+    disk.write(BitmapFile().bytes());
+    const CFile reader(disk.name(), CFile::modeRead | CFile::shareDenyWrite);
+    EXPECT_TRUE(bitmap.Load(disk.name())); // beside others
 }
 
 } // namespace

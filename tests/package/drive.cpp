@@ -108,14 +108,6 @@ void open_otherwise(const std::string& program, const std::string& file, const P
     sketch.expect_end(frame);
 }
 
-void open_damaged(const std::string& program, const std::string& file) {
-    const std::string whole = bytes_of(file);
-    std::ofstream(file, std::ios::binary) << whole.substr(0, whole.size() - 5);
-    Program sketch(program + " \"" + file + "\"");
-    dismiss(sketch);
-    sketch.expect_end();
-}
-
 void drive_sketch(const std::string& program, const std::string& folder) {
     const std::string file = folder + "\\drawing.sketch";
     std::remove(file.c_str());
@@ -123,7 +115,6 @@ void drive_sketch(const std::string& program, const std::string& folder) {
     open_and_change(program, file, saved);
     open_otherwise(program, file, saved);
     ::CopyFileA(file.c_str(), (folder + "\\printed.sketch").c_str(), FALSE); // for the next step
-    open_damaged(program, file);
 }
 
 void drive_channel(const std::string& program, const std::string&) {
