@@ -33,15 +33,14 @@ inline Bytes version_block(const VS_FIXEDFILEINFO& info, const std::vector<DWORD
     return version_part(L"VS_VERSION_INFO", &info, sizeof info, version_part(L"VarFileInfo", nullptr, 0, languages));
 }
 
-inline bool add_resource(const char* path, LPCSTR type, WORD id, Bytes resource, BOOL alone = FALSE) {
-    HANDLE update = ::BeginUpdateResourceA(path, alone);
-    ::UpdateResourceA(update, type, MAKEINTRESOURCEA(id), 0, resource.data(), static_cast<DWORD>(resource.size()));
-    return ::EndUpdateResourceA(update, FALSE);
-}
-
 /// Makes a small program file with one resource, number 1.
 inline bool write_resource_file(const char* path, LPCSTR type, const Bytes& resource) {
-    return ::CopyFileA("libwinpthread-1.dll", path, FALSE) && add_resource(path, type, 1, resource, TRUE);
+    if (!::CopyFileA("libwinpthread-1.dll", path, FALSE))
+        return false;
+    Bytes data = resource;
+    HANDLE update = ::BeginUpdateResourceA(path, TRUE);
+    ::UpdateResourceA(update, type, MAKEINTRESOURCEA(1), 0, data.data(), static_cast<DWORD>(data.size()));
+    return ::EndUpdateResourceA(update, FALSE);
 }
 
 inline bool write_version_file(const char* path, const Bytes& block) {
