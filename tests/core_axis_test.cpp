@@ -136,22 +136,6 @@ TEST(AxisConversion, PixelsComeBackFromTheirValues) {
     }
 }
 
-TEST(AxisConversion, TimesAndTheirEnds) {
-    AxisModel across = axis_of(axis_bottom, 300), up = axis_of(axis_left, 300);
-    const auto pixels = [](AxisModel& axis) {
-        axis.set_time_range(day, 4 * day);
-        return std::vector{pixel_of(axis, day - 1), pixel_of(axis, 2 * day), pixel_of(axis, 4 * day + 1)};
-    };
-    EXPECT_THAT(pixels(across), ElementsAre(Pair(-1, -1), Pair(0, 100), Pair(1, 301)));
-    EXPECT_THAT(pixels(up), ElementsAre(Pair(-1, 301), Pair(0, 200), Pair(1, -1)));
-
-    // The current time runs downwards, and its ends are outside.
-    EXPECT_EQ(across.set_current_time(4 * day), 301);
-    EXPECT_EQ(up.set_current_time(2 * day), 100);
-    across.set_current_day(1980, 1, 2);
-    EXPECT_EQ(across.set_current_offset(day / 2), 150);
-}
-
 TEST(AxisConversion, HoldsAtAnyValueAndSize) {
     const float values[] = {0, -1, 1e-45f, 3e38f, -3e38f, INFINITY, -INFINITY, NAN};
     const int sizes[] = {0, 1, -5, INT_MAX, INT_MIN};

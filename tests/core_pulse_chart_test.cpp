@@ -204,19 +204,6 @@ TEST_F(PulseTransfer, WhatWasRecordedIsRead) {
     EXPECT_NE(PulseReader().open("nothing.txt"), "");
 }
 
-// Days as an axis labels them, each a day behind the one before.
-TEST_F(PulseTransfer, TimesAreThoseOfTheAxis) {
-    int wrong = 0;
-    for (std::int64_t day = 3653; day < 40'000; ++day) { // from 1980 on
-        const std::int64_t time = axis_time_of(day * 86'400 + 43'200);
-        EXPECT_EQ(time - axis_time_of(day * 86'400 - 43'200), hundredths_per_day);
-        const TAxisdatetime date = date_of_axis_time(time), label = split_time(time);
-        EXPECT_TRUE(date.hour == 12 && date.minute == 0 && label.hour == 12);
-        wrong += date.day != label.day || date.month != label.month || date.year != label.year + 1900;
-    }
-    EXPECT_LT(wrong, 400); // the axis has years of 365.25 days
-}
-
 TEST_F(PulseTransfer, SamplesOfASecondAreSpreadInIt) {
     PulseRecorder recorder;
     recorder.start("a.txt", {"Flow"});
