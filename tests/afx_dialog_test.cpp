@@ -161,4 +161,35 @@ TEST(AfxFileChoice, TellsSeveralFilesOneByOne) {
     EXPECT_EQ(names, "C:\\data\\one.txt|C:\\data\\two.txt|");
 }
 
+struct moving_dialog : CDialog {
+    bool moves = false;
+    CRect place;
+
+    BOOL OnInitDialog() override {
+        if (moves)
+            SetWindowPos(nullptr, 33, 44, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        return PostMessage(WM_COMMAND, IDCANCEL);
+    }
+    void OnCancel() override {
+        GetWindowRect(place);
+        EndDialog(IDCANCEL);
+    }
+};
+
+TEST(AfxModalDialog, IsCentredUnlessItPlacesItself) {
+    alignas(4) const WORD old_form[] = {0, HIWORD(WS_POPUP), 0, 0, 0, 0, 0, 100, 60, 0, 0, 0};
+    alignas(4)
+        const WORD new_form[] = {1, 0xFFFF, 0, 0, 0, 0, DS_MODALFRAME, HIWORD(WS_POPUP), 0, 0, 0, 100, 60, 0, 0, 0};
+    for (const WORD* form : {old_form, new_form}) {
+        moving_dialog dialog;
+        for (const bool moves : {false, true}) {
+            dialog.moves = moves;
+            dialog.InitModalIndirect(reinterpret_cast<LPCDLGTEMPLATE>(form));
+            ASSERT_EQ(dialog.DoModal(), IDCANCEL);
+            EXPECT_EQ(dialog.place.TopLeft() == CPoint(33, 44), moves);
+            EXPECT_TRUE(dialog.place.left > 0 && dialog.place.top > 0);
+        }
+    }
+}
+
 } // namespace

@@ -278,6 +278,7 @@ TEST_F(AfxFrame, DialogBarsUpdateTheirControlsAndSendTheirCommands) {
     frame.settle();
     frame.RecalcLayout();
     EXPECT_EQ(frame.client_of(frame.dialog).bottom, frame.client_of(frame.status).top);
+    EXPECT_FALSE(::IsChild(frame.dialog, ::GetFocus())) << "the frame keeps the focus";
     CWnd* button = frame.dialog.GetDlgItem(IDC_FORM_BUTTON);
     button->SendMessage(BM_CLICK);
     EXPECT_THAT(frame.log, ElementsAre("on"));
@@ -336,8 +337,8 @@ TEST_F(AfxToolBar, HasTheBordersOfItsStyleAroundItsButtons) {
     EXPECT_EQ(inside(CBRS_BORDER_TOP | CBRS_BORDER_BOTTOM), CRect(0, 1, 20, 19));
     EXPECT_EQ(inside(CBRS_BORDER_ANY | CBRS_FLOATING), CRect(0, 0, 20, 20));
     CToolBar& tools = frame.tools;
-    tools.SetBarStyle((tools.GetBarStyle() | CBRS_BORDER_TOP) & ~CBRS_TOOLTIPS);
-    EXPECT_FALSE(tools.EnableToolTips()) << "it had none any more";
+    tools.SetBarStyle(tools.GetBarStyle() | CBRS_BORDER_TOP | CBRS_TOOLTIPS);
+    EXPECT_TRUE(tools.EnableToolTips()) << "its style has them";
     CClientDC(&tools).SetPixel(3, 3, RGB(255, 0, 0));
     tools.SendMessage(WM_NCPAINT, 1);
     EXPECT_EQ(CWindowDC(&tools).GetPixel(10, 0), ::GetSysColor(COLOR_3DHIGHLIGHT));

@@ -427,9 +427,9 @@ TEST_F(AfxDynamicSplitter, SplitsWherePulledAndJoinsWhatBecomesTooSmall) {
 
 TEST_F(AfxDynamicSplitter, TurnsPanesThatShareABarTogether) {
     ASSERT_TRUE(splitter.SplitColumn(120));
-    for (int column : {1, 0}) // the other has nothing to scroll
+    for (int column : {0, 1})
         static_cast<page_view*>(splitter.GetPane(0, column))
-            ->SetScrollSizes(MM_TEXT, CSize(10, column ? 10 : 2000), CSize(0, 90), CSize(0, 10));
+            ->SetScrollSizes(MM_TEXT, CSize(10, 2000), CSize(0, 90), CSize(0, 10));
     auto& view = *static_cast<page_view*>(splitter.GetPane(0, 0));
     frame.SetActiveView(&view);
     splitter.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA));
@@ -478,10 +478,12 @@ TEST(AfxSplitter, HoldsPanesOfItsOwnAndSplittersAgain) {
     CWnd& last = *frame.splitter.GetPane(0, 2);
     EXPECT_EQ(last.GetExStyle() & WS_EX_CLIENTEDGE, 0u) << "the splitter has the edges";
     const int before = on_screen(last).left;
+    last.UpdateWindow();
     for (const auto& [message, x] : {std::pair{WM_LBUTTONDOWN, 154}, {WM_MOUSEMOVE, 135}, {WM_LBUTTONUP, 135}})
         frame.splitter.SendMessage(UINT(message), MK_LBUTTON, MAKELPARAM(x, 20));
     frame.splitter.GetColumnInfo(0, width, least);
     EXPECT_TRUE(width == 130 && on_screen(last).left == before) << "the other bar stays";
+    EXPECT_TRUE(last.GetUpdateRect(nullptr)) << "its neighbour may have painted on it while it moved";
 }
 
 } // namespace

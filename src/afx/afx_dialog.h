@@ -76,6 +76,8 @@ private:
     // After an exception of OnInitDialog.
     virtual void RefuseToOpen();
     BOOL CreateFrom(LPCDLGTEMPLATE form, HINSTANCE module, HWND owner);
+
+    CRect m_made_at{0, 0, 0, 0}; // before OnInitDialog
 };
 
 // Its name in the first versions.

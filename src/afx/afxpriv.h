@@ -26,6 +26,20 @@
 #define HID_BASE_CONTROL 0x00050000UL
 #define HID_BASE_DISPATCH 0x00060000UL
 
+// Text from one character set to the other, always ended; how many characters it has.
+inline int _mbstowcsz(wchar_t* wide, const char* text, std::size_t room) {
+    const int count = ::MultiByteToWideChar(CP_ACP, 0, text, -1, wide, static_cast<int>(room));
+    if (wide != nullptr && room > 0)
+        wide[room - 1] = 0;
+    return count;
+}
+inline int _wcstombsz(char* text, const wchar_t* wide, std::size_t room) {
+    const int count = ::WideCharToMultiByte(CP_ACP, 0, wide, -1, text, static_cast<int>(room), nullptr, nullptr);
+    if (text != nullptr && room > 0)
+        text[room - 1] = 0;
+    return count;
+}
+
 struct AFX_SIZEPARENTPARAMS {
     HDWP hDWP;      // null: only the rectangle is asked for
     RECT rect;      // what is left of the parent's client area

@@ -87,6 +87,14 @@ BOOL CDialog::InitModalIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd) {
     return form != nullptr && InitModalIndirect(form, pParentWnd);
 }
 
+// A template is of one of two kinds: the extended one has its place behind three more fields.
+static bool is_placed(LPCDLGTEMPLATE form) {
+    const auto* words = reinterpret_cast<const WORD*>(form);
+    const bool extended = words[0] == 1 && words[1] == 0xFFFF;
+    const auto* place = extended ? words + 9 : reinterpret_cast<const WORD*>(&form->x);
+    return place[0] != 0 || place[1] != 0;
+}
+
 INT_PTR CALLBACK CDialog::DialogProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message != WM_INITDIALOG && message != WM_SETFONT)
         return FALSE;
@@ -98,6 +106,7 @@ INT_PTR CALLBACK CDialog::DialogProc(HWND hwnd, UINT message, WPARAM wParam, LPA
             dialog->OnSetFont(CFont::FromHandle(reinterpret_cast<HFONT>(wParam)));
             return FALSE;
         }
+        dialog->GetWindowRect(dialog->m_made_at);
         dialog->PreInitDialog();
         return dialog->OnInitDialog();
     } catch (...) {
@@ -126,8 +135,9 @@ INT_PTR CDialog::DoModal() {
     m_nModalResult = -1;
     if (!CreateFrom(form, module, parent.handle()))
         return -1;
-    const DLGTEMPLATE& placed = *form;
-    if (placed.x == 0 && placed.y == 0 && CheckAutoCenter())
+    CRect now;
+    GetWindowRect(now);
+    if (!is_placed(form) && now.TopLeft() == m_made_at.TopLeft() && CheckAutoCenter()) // not moved by OnInitDialog
         CenterWindow();
     const DWORD idle = (GetStyle() & DS_NOIDLEMSG) != 0 ? MLF_SHOWONIDLE | MLF_NOIDLEMSG : MLF_SHOWONIDLE;
     if (m_modal)

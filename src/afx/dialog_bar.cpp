@@ -32,7 +32,8 @@ BOOL CDialogBar::Create(CWnd* pParentWnd, LPCTSTR lpszTemplateName, UINT nStyle,
 
 LRESULT CDialogBar::HandleInitDialog(WPARAM, LPARAM) {
     Default();
-    return ExecuteDlgInit(m_lpszTemplateName);
+    ExecuteDlgInit(m_lpszTemplateName);
+    return FALSE; // a bar does not take the focus of its frame, which may not even be shown yet
 }
 
 CSize CDialogBar::CalcFixedLayout(BOOL bStretch, BOOL bHorz) {

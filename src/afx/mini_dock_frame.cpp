@@ -26,13 +26,13 @@ CControlBar* CMiniDockFrameWnd::FirstBar() const {
     return m_bar != nullptr && !m_bar->rows().empty() ? m_bar->rows().front().front().bar : nullptr;
 }
 
-// As large as the bar, and shown as long as that is.
+// As large as the bar, and shown as long as that and the owner are: shown before its owner it may come to lie below it.
 void CMiniDockFrameWnd::LayoutClient() {
     CControlBar* first = FirstBar();
     if (first == nullptr)
         return;
     const CSize size = m_bar->CalcFixedLayout(FALSE, (m_bar->GetBarStyle() & CBRS_ORIENT_HORZ) != 0);
-    if (!first->IsVisible()) {
+    if (!first->IsVisible() || !::IsWindowVisible(::GetWindow(m_hWnd, GW_OWNER))) {
         ShowWindow(SW_HIDE);
         return;
     }

@@ -61,7 +61,8 @@ void CSplitterWnd::RecalcLayout() {
     share(m_column_info, m_nCols, inside.Width(), m_cxSplitterGap);
     PlacePanes();
     PlaceScrollBars(inside);
-    Invalidate();
+    // A pane that moved took along what its neighbours had painted there meanwhile.
+    RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 int CSplitterWnd::RowTop(int row) const {
