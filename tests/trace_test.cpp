@@ -81,13 +81,13 @@ TEST_F(TraceTest, LinesGoToTheOpenStream) {
     trace.SetFlags(0);
     trace.Trace("lost\n");
     trace.SetFilename("trace banner.txt"); // switches it on; the stream stays
+    EXPECT_THAT(text_of("trace banner.txt"),
+                AllOf(StartsWith("Begin of Trace\r\nstarted at "), EndsWith(hyphens + "\r\n")));
     trace.Trace("almost ");
     trace.SetFilename(nullptr);
     trace.Trace("lost\n");
     trace.SetFlags(1);
     trace.Trace("last\n");
-    EXPECT_THAT(text_of("trace banner.txt"),
-                AllOf(StartsWith("Begin of Trace\r\nstarted at "), EndsWith(hyphens + "\r\n")));
     trace.SetFilename(""); // closes it
     std::remove("trace banner.txt");
     trace.DestroyWindow();
