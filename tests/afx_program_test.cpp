@@ -96,6 +96,8 @@ TEST(AfxDialog, IsRefusedWhereItCannotBeInitialised) {
 
 TEST(AfxProgram, ShowsThatItIsBusyUntilTheLastWaitEnds) {
     const HCURSOR arrow = ::LoadCursor(nullptr, IDC_ARROW), wait = ::LoadCursor(nullptr, IDC_WAIT);
+    EXPECT_TRUE(the_app.LoadCursor(AFX_IDC_MOVE4WAY) == ::LoadCursor(nullptr, IDC_SIZEALL) &&
+                !the_app.LoadCursor(4711));
     ::SetCursor(arrow);
     the_app.BeginWaitCursor();
     { CWaitCursor inner; }

@@ -109,6 +109,20 @@
 #define ID_INDICATOR_KANA 0xE706
 
 // A program's icons of these numbers are those of frames that have none of their own.
+// Pointers, which CWinApp::LoadCursor takes from the system where the program has none of its own.
+#define AFX_IDC_CONTEXTHELP 30977
+#define AFX_IDC_MAGNIFY 30978
+#define AFX_IDC_SMALLARROWS 30979
+#define AFX_IDC_HSPLITBAR 30980
+#define AFX_IDC_VSPLITBAR 30981
+#define AFX_IDC_NODROPCRSR 30982
+#define AFX_IDC_TRACKNWSE 30983
+#define AFX_IDC_TRACKNESW 30984
+#define AFX_IDC_TRACKNS 30985
+#define AFX_IDC_TRACKWE 30986
+#define AFX_IDC_TRACK4WAY 30987
+#define AFX_IDC_MOVE4WAY 30988
+
 #define AFX_IDI_STD_MDIFRAME 1
 #define AFX_IDI_STD_FRAME 2
 

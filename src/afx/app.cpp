@@ -206,8 +206,18 @@ void CWinApp::HideApplication() {
     m_pMainWnd->SetWindowPos(&CWnd::wndBottom, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE);
 }
 
+// The system's pointers in place of the framework's, from AFX_IDC_CONTEXTHELP on.
+static LPCTSTR standard_pointer(LPCTSTR name) {
+    const LPCTSTR pointers[] = {IDC_HELP,     IDC_CROSS,    IDC_SIZEALL, IDC_SIZENS, IDC_SIZEWE,  IDC_NO,
+                                IDC_SIZENWSE, IDC_SIZENESW, IDC_SIZENS,  IDC_SIZEWE, IDC_SIZEALL, IDC_SIZEALL};
+    const auto index = reinterpret_cast<ULONG_PTR>(name) - AFX_IDC_CONTEXTHELP;
+    return index < std::size(pointers) ? pointers[index] : nullptr;
+}
+
 HCURSOR CWinApp::LoadCursor(LPCTSTR lpszResourceName) const {
-    return ::LoadCursor(AfxFindResourceHandle(lpszResourceName, RT_GROUP_CURSOR), lpszResourceName);
+    const HCURSOR own = ::LoadCursor(AfxFindResourceHandle(lpszResourceName, RT_GROUP_CURSOR), lpszResourceName);
+    const LPCTSTR standard = own == nullptr ? standard_pointer(lpszResourceName) : nullptr;
+    return standard != nullptr ? ::LoadCursor(nullptr, standard) : own;
 }
 
 HICON CWinApp::LoadIcon(LPCTSTR lpszResourceName) const {
