@@ -164,8 +164,9 @@ TEST_F(SplashTest, GoesWhenItsTimeIsUpWhileOthersStay) {
 std::string shown_by(CWntErrorBox&& box) {
     std::string texts;
     WhileModal modal([&] {
-        if (!box.m_hWnd)
+        if (!::IsWindowVisible(box.m_hWnd))
             return false;
+        box.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
         for (const int id : {1003, 1004, 1005}) {
             CString text;
             box.GetDlgItemText(id, text);
