@@ -87,35 +87,39 @@ void measure_lines(BenchTable& table, const char* title, int bits, int size) {
     CDibFile dib;
     bits == 8 ? dib.CreateNew256Color(1024, 1024, 0, 0) : dib.CreateNewTrueColor(1024, 1024, 0);
     dib.SetColor(255, 255, 255);
+    const POINT from = {size / 2, size / 2 + 1}; // is no line's end: those are both even or both odd
     for (int i = 0; i < 100; ++i) {
         dib.ClearBits(0);
         const POINT end = end_of(i, size);
-        dib.Line(size / 2, size / 2, end.x, end.y);
-        const int longer = std::max(std::abs(end.x - size / 2), std::abs(end.y - size / 2));
+        dib.Line(from.x, from.y, end.x, end.y);
+        const int longer = std::max(std::abs(end.x - from.x), std::abs(end.y - from.y));
         if (drawn_pixels(dib) != longer + 1) {
             table.wrong(title);
             return;
         }
     }
-    // The lines come again in the other colour, so that each is one to be seen.
-    HPEN pens[] = {::CreatePen(PS_SOLID, 0, RGB(255, 255, 255)), ::CreatePen(PS_SOLID, 0, RGB(128, 128, 128))};
+    // In three shades in turn: no line is of its neighbours' shade, nor of its own when its turn comes again.
+    constexpr int shades[] = {255, 150, 40}; // also at 8 bits, where few of the bits count
+    HPEN pens[3];
+    std::transform(std::begin(shades), std::end(shades), pens,
+                   [](int shade) { return ::CreatePen(PS_SOLID, 0, RGB(shade, shade, shade)); });
     HGDIOBJ previous = ::SelectObject(dib.GetDC(), pens[0]);
     table.measure_shown(
         title,
         [&](int i) {
             const POINT end = end_of(i, size);
-            const int shade = i / size % 2 ? 128 : 255;
+            const int shade = shades[i % 3];
             dib.SetColor(shade, shade, shade);
-            dib.Line(size / 2, size / 2, end.x, end.y);
+            dib.Line(from.x, from.y, end.x, end.y);
         },
         [&] { return bytes_of(dib); },
         [&](int i) {
             const POINT end = end_of(i, size);
-            ::SelectObject(dib.GetDC(), pens[i / size % 2]);
-            ::MoveToEx(dib.GetDC(), size / 2, size / 2, nullptr);
+            ::SelectObject(dib.GetDC(), pens[i % 3]);
+            ::MoveToEx(dib.GetDC(), from.x, from.y, nullptr);
             ::LineTo(dib.GetDC(), end.x, end.y);
         },
-        [&] { return bytes_of(dib); }, 2 * size);
+        [&] { return bytes_of(dib); }, 3 * size);
     ::SelectObject(dib.GetDC(), previous);
     for (HPEN pen : pens)
         ::DeleteObject(pen);
