@@ -28,12 +28,9 @@ foreach(header ${ZOPWNT_PUBLIC_HEADERS})
   install(FILES src/${header} DESTINATION include/zopwnt/${room})
 endforeach()
 if(TARGET zopafx)
-  install(DIRECTORY src/afx/ DESTINATION include/zopwnt/afx FILES_MATCHING PATTERN "*.h"
-    PATTERN control_images.h EXCLUDE PATTERN dock_bar.h EXCLUDE PATTERN file_names.h EXCLUDE PATTERN frame_state.h EXCLUDE PATTERN handle_map.h EXCLUDE
-    PATTERN message_map.h EXCLUDE PATTERN mini_dock_frame.h EXCLUDE PATTERN module_state.h EXCLUDE
-    PATTERN ole_state.h EXCLUDE
-    PATTERN modal_parent.h EXCLUDE PATTERN position_list.h EXCLUDE PATTERN printer.h EXCLUDE
-    PATTERN thread_state.h EXCLUDE PATTERN wnd_state.h EXCLUDE
+  # By their names: the other headers there are private.
+  install(DIRECTORY src/afx/ DESTINATION include/zopwnt/afx FILES_MATCHING
+    PATTERN "afx*.h" PATTERN "atl*.h" PATTERN SDKDDKVer.h PATTERN verrsrc.h PATTERN winres.h
     PATTERN "afxres.rc" PATTERN "afxprint.rc")
 endif()
 

@@ -2,6 +2,7 @@
 #include "afx_app.h"
 #include "afxmsg_.h"
 #include "afxpriv.h"
+#include "dialog_template.h"
 #include "modal_parent.h"
 #include "wnd_state.h"
 
@@ -87,11 +88,9 @@ BOOL CDialog::InitModalIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd) {
     return form != nullptr && InitModalIndirect(form, pParentWnd);
 }
 
-// A template is of one of two kinds: the extended one has its place behind three more fields.
 static bool is_placed(LPCDLGTEMPLATE form) {
     const auto* words = reinterpret_cast<const WORD*>(form);
-    const bool extended = words[0] == 1 && words[1] == 0xFFFF;
-    const auto* place = extended ? words + 9 : reinterpret_cast<const WORD*>(&form->x);
+    const auto* place = words + (is_extended_template(form) ? 9 : 5);
     return place[0] != 0 || place[1] != 0;
 }
 

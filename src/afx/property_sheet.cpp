@@ -1,5 +1,6 @@
 #include "afxcmn.h"
 #include "afxdlgs.h"
+#include "dialog_template.h"
 #include "modal_parent.h"
 #include "wnd_state.h"
 
@@ -70,13 +71,13 @@ namespace {
 thread_local CPropertySheet* sheet_in_creation = nullptr;
 } // namespace
 
-// The template before it is used. It is of one of two kinds: the extended one has its style behind three more fields.
+// The template before it is used.
 int CALLBACK CPropertySheet::SheetCallback(HWND, UINT message, LPARAM lParam) {
     const CPropertySheet* sheet = sheet_in_creation;
     if (message != PSCB_PRECREATE || sheet == nullptr || sheet->m_style == 0)
         return 0;
-    const auto* words = reinterpret_cast<const WORD*>(lParam);
-    BYTE* place = reinterpret_cast<BYTE*>(lParam) + (words[0] == 1 && words[1] == 0xFFFF ? 12 : 0);
+    BYTE* form = reinterpret_cast<BYTE*>(lParam);
+    BYTE* place = form + (is_extended_template(form) ? 12 : 0);
     DWORD style;
     std::memcpy(&style, place, sizeof(style));
     style = sheet->m_style | (style & (DS_SETFONT | DS_SHELLFONT));
