@@ -5,9 +5,11 @@
 
 namespace {
 
+constexpr COLORREF shadow = RGB(10, 20, 30);
+
 struct AxisTest : WidgetTest {
     void SetUp() override {
-        set_shadow(RGB(10, 20, 30));
+        set_shadow(shadow);
         WidgetTest::SetUp();
         open(axis_, 0, 0);
     }
@@ -99,6 +101,55 @@ TEST_F(AxisTest, TimeTicksAndLabels) {
     axis_.GetViewTime(&shown_start, &shown_end);
     EXPECT_EQ(shown_start.year, 2026);
     EXPECT_EQ(shown_end.hour, 18);
+}
+
+// Draws what a derived class can besides.
+struct MarkedAxis : CWntAxis {
+    void OnPaint() {
+        CPaintDC dc(this);
+        dc.FillSolidRect(CRect(0, 0, 40, 40), RGB(255, 255, 0));
+        DrawBorder(&dc, 14, 14, 4, 3, 0, 0);
+        DrawBorder(&dc, 19, 14, 4, 3, 1, 1);
+        upright ? vertical_time_scale(&dc, 25) : horizontal_time_scale(&dc, 25);
+    }
+    bool upright = false;
+    DECLARE_MESSAGE_MAP()
+};
+BEGIN_MESSAGE_MAP(MarkedAxis, CWntAxis)
+ON_WM_PAINT()
+END_MESSAGE_MAP()
+
+TEST_F(AxisTest, DerivedAxesDrawBordersAndTimeMarks) {
+    MarkedAxis axis;
+    open(axis, 40, 36);
+    const CRect borders(13, 13, 24, 18);
+    Pixels seen;
+    CString marks;
+    for (int position = 0; position < 4; ++position) {
+        axis.SetFlags(position, 7, 0);
+        axis.SetRange(0.0f, 100.0f);
+        axis.upright = position % 2;
+        seen = repainted(axis);
+        for (int i = 0; i < seen.width * seen.height; ++i)
+            if (seen.values[i] == shadow && !borders.PtInRect(CPoint(i % seen.width, i / seen.width)))
+                marks.AppendFormat("%d,%d ", i % seen.width, i / seen.width);
+        marks += "| ";
+    }
+    EXPECT_STREQ(marks, "11,31 11,32 11,33 11,34 11,35 | "
+                        "28,27 29,27 30,27 31,27 32,27 33,27 34,27 35,27 36,27 37,27 38,27 39,27 | "
+                        "11,1 11,2 11,3 11,4 11,5 | "
+                        "1,27 2,27 3,27 4,27 5,27 6,27 7,27 8,27 9,27 10,27 11,27 12,27 | ");
+    const COLORREF light = ::GetSysColor(COLOR_BTNHIGHLIGHT);
+    EXPECT_EQ(sketch(seen, borders, {{shadow, 's'}, {light, 'l'}, {RGB(255, 255, 0), ' '}}),
+              "           \n"
+              " sssl llls \n"
+              " s  l l??s \n" // filled
+              " llll ssss \n"
+              "           \n");
+    short day[3] = {};
+    EXPECT_EQ(axis.SetCurrentDay(2026, 11, 21), 1);
+    axis.GetCurrentDay(&day[0], &day[1], &day[2]);
+    EXPECT_THAT(day, testing::ElementsAre(2026, 11, 21));
 }
 
 TEST_F(AxisTest, AFollowedRangeIsSeenAtOnce) {

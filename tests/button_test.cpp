@@ -184,6 +184,11 @@ TEST_F(ButtonTest, IsPaintedAgainWhereItDiffers) {
     button_.setproperties(&p);
     EXPECT_EQ(pixels_of(button_).count(poison), 0);
 
+    cover(button_, surface_id, poison);
+    button_.MoveWindow(0, 0, 50, 20); // narrower: its right and lower edges move
+    button_.UpdateWindow();
+    EXPECT_EQ(pixels_of(button_).count(poison), 0);
+    button_.MoveWindow(0, 0, 60, 30);
     p.visible = 0;
     cover(button_, surface_id, poison);
     EXPECT_EQ(shown(p).count(poison), 60 * 30);

@@ -318,6 +318,16 @@ TEST(AxisTime, LevelFollowsTheSpan) {
         const TimeLevel& found = time_level(16'000 * day, 16'000 * day + span);
         EXPECT_EQ(found.level, level) << span;
         EXPECT_EQ(found.interval(), intervals[level - 1]);
+        using enum TimeRounding;
+        const TimeRounding from[] = {
+            minute, minute, minute, minute, minute, minute, hour, TimeRounding::day, TimeRounding::day,
+            month,  month,  year};
+        EXPECT_EQ(found.rounding, from[level - 1]) << level;
+        const TimeLabel labels[] = {TimeLabel::seconds,    TimeLabel::seconds,      TimeLabel::seconds,
+                                    TimeLabel::minutes,    TimeLabel::minutes,      TimeLabel::minutes,
+                                    TimeLabel::hours,      TimeLabel::date,         TimeLabel::date,
+                                    TimeLabel::month_name, TimeLabel::month_number, TimeLabel::year};
+        EXPECT_EQ(found.label, labels[level - 1]) << level;
     }
 }
 
@@ -345,8 +355,8 @@ TEST(AxisTime, TicksEqualAWalkFromTheOrigin) {
 }
 
 TEST(AxisLabels, AreTrimmedAndBounded) {
-    EXPECT_EQ(numeric_label(0.0625f) + " " + numeric_label(1.0625f) + " " + numeric_label(10.0625f),
-              "0.0625 1.062 10.06");
+    EXPECT_EQ(numeric_label(0.0625f) + " " + numeric_label(1.0625f) + " " + numeric_label(-10.0625f),
+              "0.0625 1.062 -10.06");
     const std::pair<float, const char*> numbers[] = {{100, "100"}, {-0.5f, "-0.5"}, {5, "5"},      {0.25f, "0.25"},
                                                      {0, "0"},     {12.3f, "12.3"}, {1000, "1000"}};
     for (const auto& [value, text] : numbers)

@@ -74,6 +74,8 @@ TEST(TipLayout, PartsStandBesideEachOther) {
     EXPECT_TRUE(tip.lines[0].x == 12 && tip.width == 48 && tip.height == 26);
     tip = lay_out_tip({"", "", 16, 16}, fonts, 300, 100);
     EXPECT_TRUE(tip.width == 28 && tip.height == 24 && tip.lines.empty());
+    tip = lay_out_tip({"", "", 16, 16}, fonts, 300, 125); // rounded: margins of 7.5 and 5
+    EXPECT_EQ(std::pair(tip.width, tip.height), std::pair(32, 26));
 }
 
 TEST(TipLayout, StaysOnTheScreenBesideWhatItExplains) {

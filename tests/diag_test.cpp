@@ -115,6 +115,10 @@ TEST_F(SplashTest, StandsInFrontInTheMiddleOfTheScreen) {
     EXPECT_EQ(picture.count(upper_colour), picture_width * picture_height / 2);
     EXPECT_EQ(picture.at(5, 5), lower_colour);
     EXPECT_FALSE(splash->Create()); // once is enough
+    CBitmap bitmap;
+    CPalette palette;
+    ASSERT_TRUE(splash->GetBitmapAndPalette(1, bitmap, palette));
+    EXPECT_EQ(palette.GetEntryCount(), 256) << "the system's halftones where colours are many";
     delete splash;
     EXPECT_FALSE(Splash(1000, 148).Create()); // the library's own bitmap is not the host's
 }

@@ -142,6 +142,35 @@ TEST(DibFile, CreatesBlankBitmaps) {
     EXPECT_LT(live_gdi_objects(), objects + 20);
     dib.Draw(picture.dc(), 0, 0, 0, 0);
     EXPECT_EQ(picture.at(0, 0), RGB(3 * 255 / 7, 255 / 7, 0));
+    RGBQUAD cube[256];
+    ASSERT_EQ(::GetDIBColorTable(dib.GetDC(), 0, 256, cube), 256u);
+    for (int i = 0; i < 256; ++i)
+        EXPECT_EQ(std::tuple(cube[i].rgbRed, cube[i].rgbGreen, cube[i].rgbBlue),
+                  std::tuple(i % 8 * 255 / 7, i / 8 % 8 * 255 / 7, i / 64 * 85))
+            << i;
+}
+
+TEST(DibFile, ListsItsHeaderAndItsColours) {
+    Bytes bytes = BitmapFile{4, 3, 2, false, 5}.bytes();
+    bytes[38] = 7; // the resolutions differ
+    const TemporaryFile disk(bytes);
+    CDibFile dib;
+    ASSERT_EQ(dib.Load(disk.name()), 1);
+    dib.SaveBitmapInfo(disk.name());
+    const std::string listed = disk.text();
+    EXPECT_THAT(listed, testing::StartsWith("// Bitmap Info\r\n\r\n\r\nm_pBitmapInfo->bmiHeader.biSize\t = 40 ;\r\n"));
+    std::string values;
+    for (std::size_t at = listed.find(" = "); at < listed.find("RGBQUAD"); at = listed.find(" = ", at + 1))
+        values += listed.substr(at + 2, listed.find(';', at) - at - 2);
+    EXPECT_EQ(values, " 40  3  2  1  4  0  0  2823  2835  5  0 ");
+    EXPECT_EQ(listed.substr(listed.find("RGBQUAD")),
+              "RGBQUAD  rgbQuadTable[5] =\r\n\t{\r\n\t\t"
+              "\r\n\t\t  0, 10, 20,  0   ,  1, 13, 25,  0   ,  2, 16, 30,  0   ,  3, 19, 35,  0   ,"
+              "\r\n\t\t  4, 22, 40,  0   \r\n\t}\r\n\r\n");
+    dib.Delete();
+    dib.SaveBitmapInfo(disk.name());
+    EXPECT_EQ(disk.text(), "// Bitmap Info\r\n\r\n\r\n// Bitmap NOT valid !\r\n");
+    dib.SaveBitmapInfo(nullptr);
 }
 
 // A new bitmap of the screen's depth; the palette screen gets the table.

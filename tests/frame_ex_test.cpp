@@ -41,8 +41,19 @@ TEST_F(FrameExTest, ScrollsWhatDoesNotFit) {
         frame_.SendMessage(WM_VSCROLL, static_cast<WPARAM>(code), reinterpret_cast<LPARAM>(bar->m_hWnd));
         EXPECT_EQ(on_screen(child_).top, top - 16 * steps) << code;
     }
+    frame_.SetContentSize(300, 400);
+    const CRect before = on_screen(child_);
+    bar = frame_.GetDlgItem(2);
+    frame_.SendMessage(WM_HSCROLL, SB_PAGERIGHT, reinterpret_cast<LPARAM>(bar->m_hWnd));
+    frame_.ShowWindow(SW_HIDE);
+    frame_.ShowContent(CRect(0, 0, 300, 400)); // moves what cannot be seen as well
+    EXPECT_EQ(on_screen(child_).TopLeft(), CPoint(before.left, top));
+    frame_.SendMessage(WM_HSCROLL, SB_LINERIGHT, reinterpret_cast<LPARAM>(bar->m_hWnd));
+    EXPECT_EQ(on_screen(child_).TopLeft(), CPoint(before.left - 16, top));
+    frame_.ShowWindow(SW_SHOW);
     frame_.MoveWindow(0, 0, 200, 600); // there is room now: nothing stays scrolled away
-    EXPECT_TRUE(on_screen(child_).top == top && bars() == 0);
+    EXPECT_EQ(on_screen(child_).top, top);
+    EXPECT_EQ(bars(), 1);
     EXPECT_EQ(frame_.SetContentSize(-1, 5), 0);
 }
 

@@ -141,6 +141,7 @@ TEST_F(GaugeTest, HoldsAtAnySizeRangeAndCall) {
     gauge_.Repaint();
     open(gauge_, 300, 300);
     gauge_.AddMark(3, nullptr);
+    const int objects = live_gdi_objects();
     for (int i = 0; i < 300; ++i) {
         gauge_.SetType(static_cast<int>(random() % 6));
         gauge_.SetRange(bounds[random() % 6], bounds[random() % 6]);
@@ -150,6 +151,7 @@ TEST_F(GaugeTest, HoldsAtAnySizeRangeAndCall) {
         gauge_.SetCurVal(static_cast<int>(random() % 100));
         gauge_.UpdateWindow();
     }
+    EXPECT_LT(live_gdi_objects(), objects + 50);
     CWntGauge* volatile none = nullptr;
     none->SetCurVal(1);
     EXPECT_EQ(none->LoadLine(":CURVAL=1", 0), 0);

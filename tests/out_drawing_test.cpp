@@ -246,6 +246,24 @@ TEST_F(SurfaceTest, FarFiguresAreCutToTheDevicesRange) {
         {50, 10, red},   {3, 8, red},     {30, 35, red},   {9, 11, ground}, {50, 9, ground}};
     for (const auto& [x, y, colour] : filled_or_outlined_or_neither)
         EXPECT_EQ(picture.at(x, y), colour) << x << ' ' << y;
+    paint(picture, [](CWntOut& o) { o.fillcircle(30 - 60'000, 20, 60'000, 60'000); }); // just within
+    EXPECT_EQ(std::pair(picture.at(27, 20), picture.at(33, 20)), std::pair(green, ground));
+}
+
+TEST_F(SurfaceTest, AnswersForTheGeometryOfItsCallers) {
+    POINT met = {}, ends[2] = {}, corner[] = {{0, 0}, {0, 10}, {10, 0}}, square[] = {{0, 0}, {0, 9}, {9, 9}, {9, 0}};
+    RECT box = {10, 40, 60, 20};
+    out.points_intersect(&met, 0, 0, 30, 60, 0, 20, 90, 20);
+    EXPECT_EQ(std::pair(met.x, met.y), std::pair(10L, 20L));
+    EXPECT_EQ(out.points_clipline(ends, &box, 0, 30, 100, 30) * 1000 + ends[0].x * 10 + ends[1].x, 1160);
+    EXPECT_EQ(out.points_partclip(&met, &box, 0, 30, 50, 30) * 100 + met.x, 110);
+    out.calcpolywind(&box, square + 1, 3);
+    EXPECT_THAT((std::vector{box.left, box.top, box.right, box.bottom}), testing::ElementsAre(0, 9, 9, 0));
+    EXPECT_THAT((std::vector{out.intsin(8192, 100), out.intcos(5461, 100), out.muldiv(7, 9, 2), out.aproxroot(50),
+                             out.getangle(1, 2, 3, 1), out.points_center(10, 4, 20), out.points_testincircle(3, 4, 6),
+                             out.points_testclock(corner, 0), out.points_testclock(corner, 1),
+                             out.points_testinpoly(3, 5, square, 4), out.points_testinpoly(3, 11, square, 4)}),
+                testing::ElementsAre(70, 86, 31, 7, 9, 7, 1, 0, 1, 1, 0));
 }
 
 TEST_F(SurfaceTest, DrawingObjectsDoNotPileUp) {

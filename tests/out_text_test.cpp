@@ -107,6 +107,8 @@ TEST_F(TextTest, SizesAndFaces) {
     EXPECT_EQ(width(chars(80, "Liberation Mono")), plain); // the face is for titles alone
     out.settext(0, 0, 0, 15, 0, 0);
     EXPECT_EQ(width(chars(out.fontsize, "Arial")), width(plain_ink("Arial", 90)));
+    out.settext(1, 2, 3, 4, 5, 6);
+    EXPECT_THAT(out.textparams, testing::ElementsAre(1, 2, 3, 4, 5, 6));
 
     const auto title = [this](const char* face, int w, int h) {
         out.facename = face;

@@ -117,6 +117,52 @@ TEST_F(Pulse, LooksBackByMouseAndKeysAndReturns) {
     EXPECT_EQ(start(), there);
 }
 
+TEST_F(Pulse, KeysAndTheBarGoByPartsOfWhatIsShown) {
+    feed(0, 60'000);
+    const HWND bar = chart_.GetDlgItem(4)->m_hWnd;
+    const auto moved = [&](const std::function<void()>& by) { // in thousandths of what is shown
+        const __int64 before = start();
+        by();
+        return (start() - before) * 1000 / chart_.GetSpan();
+    };
+    const auto scrolled = [&](WPARAM code) {
+        return moved([&] { chart_.SendMessage(WM_HSCROLL, code, reinterpret_cast<LPARAM>(bar)); });
+    };
+    std::vector<__int64> by_keys, by_bar;
+    for (const UINT k : {VK_LEFT, VK_RIGHT, VK_PRIOR, VK_NEXT})
+        by_keys.push_back(moved([&] { key(k); }));
+    for (const WPARAM code : {SB_LINELEFT, SB_LINERIGHT, SB_PAGELEFT, SB_PAGERIGHT})
+        by_bar.push_back(scrolled(code));
+    EXPECT_THAT(by_keys, testing::ElementsAre(-98, 98, -1000, 1000));
+    EXPECT_EQ(by_bar, by_keys);
+    SCROLLINFO info = {sizeof info, SIF_ALL};
+    ::GetScrollInfo(bar, SB_CTL, &info);
+    info.nPos = info.nMax / 2;
+    ::SetScrollInfo(bar, SB_CTL, &info, FALSE);
+    scrolled(MAKEWPARAM(SB_THUMBPOSITION, info.nPos));
+    EXPECT_NEAR(static_cast<double>(start()), 30'000, 30);
+    // Cursors, and the curves by their digits.
+    __int64 at[2] = {};
+    {
+        const HeldKeys shift({VK_SHIFT});
+        key(VK_RIGHT); // not shown yet: in the middle
+        chart_.GetCursor(1, &at[0]);
+        const HeldKeys both({VK_SHIFT, VK_CONTROL});
+        key(VK_RIGHT);
+        chart_.GetCursor(1, &at[1]);
+    }
+    EXPECT_NEAR(static_cast<double>(at[0]), 33'000, 30);
+    EXPECT_NEAR(static_cast<double>(at[1] - at[0]), 100, 30);
+    MSG escape = {chart_.m_hWnd, WM_KEYDOWN, VK_ESCAPE};
+    const auto wanted = [&] { return chart_.SendMessage(WM_GETDLGCODE, 0, reinterpret_cast<LPARAM>(&escape)); };
+    EXPECT_EQ(wanted(), DLGC_WANTARROWS | DLGC_WANTCHARS | DLGC_WANTMESSAGE);
+    key(VK_ESCAPE);
+    EXPECT_EQ(wanted(), DLGC_WANTARROWS | DLGC_WANTCHARS);
+    EXPECT_EQ(chart_.SetColour(level_, RGB(0, 200, 0)) + chart_.SetColour(9, red), 1);
+    show();
+    EXPECT_GE(extent(RGB(0, 200, 0)).second, 0);
+}
+
 TEST_F(Pulse, APaintShowsWhatArrivedBeforeTheTick) {
     for (int i = 0; i < 600; ++i)
         chart_.AddSample(flow_, 50, 1'000'000 + i * 10);

@@ -140,6 +140,17 @@ TEST_F(Tabs, AreClosedByMarkAndKey) {
     const CRect tab = tabs_.GetTabRect(1);
     EXPECT_GT(tab.Width(), plain.Width());
     const CPoint mark(tab.right - 14, tab.CenterPoint().y);
+    tabs_.LoadLine(":CLRTEXT=RED", 0);
+    EXPECT_EQ(sketch(repainted(strip()), CRect(in_strip(mark) - CSize(7, 4), CSize(11, 9)), {{red, '#'}}),
+              "???????????\n"
+              "?##????##??\n"
+              "??##??##???\n"
+              "???####????\n"
+              "????##?????\n"
+              "???####????\n"
+              "??##??##???\n"
+              "?##????##??\n"
+              "???????????\n");
     mouse(WM_LBUTTONDOWN, mark);
     mouse(WM_LBUTTONUP, middle(0)); // not on it
     EXPECT_TRUE(host_.told.empty());

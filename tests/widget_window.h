@@ -73,6 +73,15 @@ inline Pixels pixels_of(CWnd& window) {
     return {size.cx, size.cy, picture.values()};
 }
 
+/// A part of it in letters.
+inline std::string sketch(const Pixels& seen, const CRect& part, const std::vector<std::pair<COLORREF, char>>& names) {
+    std::vector<COLORREF> values;
+    for (int y = part.top; y < part.bottom; ++y)
+        for (int x = part.left; x < part.right; ++x)
+            values.push_back(seen.at(x, y));
+    return letters(values, part.Width(), names);
+}
+
 inline void full_repaint(CWnd& widget) {
     widget.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
