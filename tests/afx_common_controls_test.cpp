@@ -80,6 +80,89 @@ TEST_F(AfxCommonControls, AToolbarsButtonsAreChangedMovedAndRestored) {
     ::RegDeleteKey(HKEY_CURRENT_USER, "Software\\afx_test");
 }
 
+// The items from one on, those below an item in brackets behind it.
+CString outline(const CTreeCtrl& tree, HTREEITEM item) {
+    CString all;
+    for (; item != nullptr; item = tree.GetNextSiblingItem(item)) {
+        int image = 0, chosen = 0;
+        EXPECT_TRUE(tree.GetItemImage(item, image, chosen));
+        all.AppendFormat("%s %d/%d %x %d %d", tree.GetItemText(item), image, chosen,
+                         tree.GetItemState(item, TVIS_BOLD | TVIS_CUT), static_cast<int>(tree.GetItemData(item)),
+                         tree.GetCheck(item));
+        all += tree.ItemHasChildren(item) ? "(" + outline(tree, tree.GetChildItem(item)) + ")" : ";";
+    }
+    return all;
+}
+
+TEST_F(AfxCommonControls, ATreeTellsWhatItsItemsWereGiven) {
+    CTreeCtrl tree;
+    ASSERT_TRUE(tree.CreateEx(WS_EX_CLIENTEDGE, WS_VISIBLE | TVS_CHECKBOXES | TVS_EDITLABELS, place, &parent, 1));
+    EXPECT_TRUE((tree.GetExStyle() & WS_EX_CLIENTEDGE) != 0 && tree.GetParent() == &parent);
+    constexpr UINT all = TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE | TVIF_STATE | TVIF_PARAM;
+    const CString longest('x', 300);
+    const HTREEITEM root = tree.InsertItem("root", 3, 4), last = tree.InsertItem(longest, root),
+                    first = tree.InsertItem(all, "new", 5, 6, TVIS_BOLD | TVIS_CUT, TVIS_BOLD, 77, root, TVI_FIRST);
+    tree.SetItem(root, all, "top", 1, 2, TVIS_BOLD | TVIS_CUT, TVIS_CUT, 88);
+    tree.SetCheck(last);
+    EXPECT_EQ(outline(tree, tree.GetRootItem()), "top 1/2 4 88 0(new 5/6 10 77 0;" + longest + " 0/0 0 0 1;)");
+    tree.Expand(root, TVE_EXPAND);
+    CRect whole, text;
+    EXPECT_TRUE(tree.GetItemRect(first, whole, FALSE) && tree.GetItemRect(first, text, TRUE));
+    EXPECT_TRUE(whole.left == 0 && text.left > 0 && whole.Width() > text.Width() && whole.top == text.top);
+    UINT flags = 0;
+    EXPECT_EQ(std::pair(tree.HitTest(text.CenterPoint(), &flags), flags), std::pair(first, UINT{TVHT_ONITEMLABEL}));
+    CEdit* edit = tree.EditLabel(first);
+    EXPECT_TRUE(edit != nullptr && edit == tree.GetEditControl() && text_of(*edit) == "new");
+}
+
+TEST_F(AfxCommonControls, TabsPanesAndScalesKeepWhatTheyWereGiven) {
+    CToolTipCtrl tips;
+    CTabCtrl tabs;
+    ASSERT_TRUE(tips.Create(&parent) && tabs.Create(shown | TCS_TOOLTIPS, place, &parent, 1));
+    constexpr DWORD lit = TCIS_HIGHLIGHTED, pressed = TCIS_BUTTONPRESSED;
+    EXPECT_EQ(tabs.InsertItem(0, "last", 9), 0);
+    tabs.InsertItem(TCIF_TEXT | TCIF_IMAGE | TCIF_PARAM, 0, "first", 3, 44);
+    tabs.SetItemState(0, lit, lit | pressed);
+    tabs.SetItemState(1, lit | pressed, pressed);
+    char name[10] = "";
+    TCITEM tab{TCIF_TEXT | TCIF_IMAGE | TCIF_PARAM, 0, 0, name, sizeof(name), 0, 0};
+    EXPECT_TRUE(tabs.GetItem(0, &tab) && name == std::string("first") && tab.iImage == 3 && tab.lParam == 44);
+    EXPECT_THAT((std::vector{tabs.GetItemState(0, lit | pressed), tabs.GetItemState(1, lit | pressed)}),
+                testing::ElementsAre(lit, pressed));
+    tabs.SetToolTips(&tips);
+    EXPECT_EQ(tabs.GetToolTips(), &tips);
+
+    CStatusBarCtrl status;
+    ASSERT_TRUE(status.Create(shown | SBARS_TOOLTIPS, place, &parent, 2));
+    int ends[] = {30, 70}, type = 0, across = 0, down = 0, between = 0, found[3] = {};
+    EXPECT_TRUE(status.SetParts(2, ends) && status.SetText("pane", 1, SBT_POPOUT));
+    EXPECT_TRUE(status.GetText(1, &type) == "pane" && type == SBT_POPOUT && status.GetText(name, 1, &(type = 0)) == 4);
+    EXPECT_TRUE(type == SBT_POPOUT && status.GetTextLength(1, &(type = 0)) == 4 && type == SBT_POPOUT);
+    status.SetTipText(1, "tip");
+    EXPECT_STREQ(status.GetTipText(1), "tip");
+    EXPECT_TRUE(status.GetBorders(found) && status.GetBorders(across, down, between));
+    EXPECT_THAT(found, testing::ElementsAre(across, down, between));
+
+    CSliderCtrl slider;
+    CSpinButtonCtrl spin;
+    CProgressCtrl progress;
+    ASSERT_TRUE(slider.Create(shown | TBS_ENABLESELRANGE | TBS_TOOLTIPS, place, &parent, 3) &&
+                spin.Create(shown, place, &parent, 4) && progress.Create(shown, place, &parent, 5));
+    int least[4] = {}, most[4] = {};
+    slider.SetRange(-5, 20);
+    slider.SetSelection(3, 8);
+    slider.SetToolTips(&tips);
+    spin.SetRange(-7, 30);
+    progress.SetRange(9, 40);
+    slider.GetRange(least[0], most[0]);
+    slider.GetSelection(least[1], most[1]);
+    spin.GetRange(least[2], most[2]);
+    progress.GetRange(least[3], most[3]);
+    EXPECT_THAT(least, testing::ElementsAre(-5, 3, -7, 9));
+    EXPECT_THAT(most, testing::ElementsAre(20, 8, 30, 40));
+    EXPECT_EQ(slider.GetToolTips(), &tips);
+}
+
 // Where this system's controls do nothing, what they are told is all that shows.
 template <class Control, class Call>
 void expect_told(CWnd& parent, UINT message, WPARAM wParam, LPARAM lParam, Call call) {
