@@ -2,6 +2,7 @@
 #include "afx_test_app.h"
 #include "held_keys.h"
 #include "modal.h"
+#include "pixels.h"
 #include "trapping.h"
 
 #include <afxext.h>
@@ -323,19 +324,64 @@ TEST_F(AfxToolBar, HasABackgroundWhereTheFrameLeavesItsOwnToTheView) {
     frame.SetActiveView(nullptr);
 }
 
+// Of a size of its own.
+struct plain_bar : CControlBar {
+    CSize size;
+    CSize CalcFixedLayout(BOOL, BOOL) override { return size; }
+    void OnUpdateCmdUI(CFrameWnd*, BOOL) override {}
+    using CControlBar::DoPaint;
+};
+
+TEST(AfxControlBar, TakesItsPartOfItsParentAndPaintsItsEdges) {
+    CWnd parent, rest;
+    ASSERT_TRUE(create_popup(parent)); // 120 x 80
+    constexpr DWORD sides[] = {CBRS_ALIGN_LEFT | CBRS_BORDER_RIGHT | CBRS_BORDER_BOTTOM | CBRS_GRIPPER,
+                               CBRS_ALIGN_TOP | CBRS_BORDER_LEFT | CBRS_BORDER_TOP | CBRS_GRIPPER, CBRS_ALIGN_RIGHT,
+                               CBRS_ALIGN_BOTTOM};
+    plain_bar bars[4];
+    std::vector<CRect> places;
+    for (int i = 0; i < 4; ++i) {
+        bars[i].size = CSize(14 + i, 9 + i);
+        bars[i].SetBarStyle(sides[i]);
+        ASSERT_TRUE(bars[i].CWnd::Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(), &parent, 100 + i));
+    }
+    ASSERT_TRUE(rest.Create(nullptr, "", WS_CHILD, CRect(), &parent, 200));
+    CRect left(1, 2, 3, 4), all;
+    parent.RepositionBars(100, 103, 200, CWnd::reposExtra, left);
+    for (const CWnd* wnd : {static_cast<CWnd*>(&bars[0]), static_cast<CWnd*>(&bars[1]), static_cast<CWnd*>(&bars[2]),
+                            static_cast<CWnd*>(&bars[3]), &rest})
+        places.push_back(place_in(parent, *wnd));
+    EXPECT_THAT(places, ElementsAre(CRect(0, 0, 14, 9), CRect(14, 0, 29, 10), CRect(104, 10, 120, 21),
+                                    CRect(14, 68, 31, 80), CRect(15, 12, 101, 64)));
+    parent.RepositionBars(100, 103, 200, CWnd::reposQuery, left, CRect(10, 20, 310, 220));
+    parent.RepositionBars(101, 102, 200, CWnd::reposQuery, all, nullptr, FALSE);
+    EXPECT_EQ(left, CRect(24, 30, 294, 208)) << "what the bars leave";
+    EXPECT_EQ(all, CRect(0, 0, 31, 11)) << "what they need";
+    bars[1].SetBorders(1, 2, 3, 4);
+    bars[1].CalcInsideRect(left = CRect(0, 0, 50, 40), TRUE);
+    bars[0].SetBorders(1, 2, 3, 4);
+    bars[0].CalcInsideRect(all = CRect(0, 0, 50, 40), FALSE);
+    EXPECT_EQ(left, CRect(8, 3, 47, 36));
+    EXPECT_EQ(all, CRect(1, 8, 46, 35));
+    Picture seen(30, 10);
+    CDC* dc = CDC::FromHandle(seen.dc());
+    bars[1].DoPaint(dc);
+    dc->SetViewportOrg(16, 0);
+    bars[0].DoPaint(dc);
+    const COLORREF light = ::GetSysColor(COLOR_3DHIGHLIGHT), dark = ::GetSysColor(COLOR_3DSHADOW);
+    EXPECT_EQ(letters(seen.values(), 30, {{0, '.'}, {light, '-'}, {dark, '#'}}), "---------------..............#\n"
+                                                                                 "-............................#\n"
+                                                                                 "-............................#\n"
+                                                                                 "-...--#...........--------#..#\n"
+                                                                                 "-...-.#...........-.......#..#\n"
+                                                                                 "-...-.#...........#########..#\n"
+                                                                                 "-...-.#......................#\n"
+                                                                                 "-...###......................#\n"
+                                                                                 "-...............##############\n"
+                                                                                 "-.............................\n");
+}
+
 TEST_F(AfxToolBar, HasTheBordersOfItsStyleAroundItsButtons) {
-    struct : CToolBar {
-        using CToolBar::DrawBorders;
-    } bar;
-    canvas dc(20, 20);
-    const auto inside = [&](DWORD style) {
-        CRect rect(0, 0, 20, 20);
-        bar.SetBarStyle(style);
-        return bar.DrawBorders(&dc, rect), rect;
-    };
-    EXPECT_EQ(inside(CBRS_BORDER_LEFT | CBRS_BORDER_RIGHT), CRect(1, 0, 19, 20));
-    EXPECT_EQ(inside(CBRS_BORDER_TOP | CBRS_BORDER_BOTTOM), CRect(0, 1, 20, 19));
-    EXPECT_EQ(inside(CBRS_BORDER_ANY | CBRS_FLOATING), CRect(0, 0, 20, 20));
     CToolBar& tools = frame.tools;
     tools.SetBarStyle(tools.GetBarStyle() | CBRS_BORDER_TOP | CBRS_TOOLTIPS);
     EXPECT_TRUE(tools.EnableToolTips()) << "its style has them";
