@@ -50,7 +50,10 @@ TEST_F(AfxDeviceContext, DragRectanglesVanishAgain) {
     dc.DrawDragRect(first, CSize(2, 2), nullptr, CSize(0, 0));
     EXPECT_TRUE(dc.GetPixel(10, 10) != RGB(12, 34, 56) || dc.GetPixel(11, 10) != RGB(12, 34, 56));
     dc.DrawDragRect(second, CSize(2, 2), first, CSize(2, 2));
-    dc.DrawDragRect(CRect(0, 0, 0, 0), CSize(2, 2), second, CSize(2, 2));
+    CBrush solid(RGB(255, 255, 255)), grey(RGB(128, 128, 128));
+    dc.DrawDragRect(first, CSize(3, 1), second, CSize(2, 2), &solid, CDC::GetHalftoneBrush());
+    EXPECT_TRUE(dc.GetPixel(20, 69) == RGB(12, 34, 56) && dc.GetPixel(12, 58) == RGB(243, 221, 199));
+    dc.DrawDragRect(CRect(0, 0, 0, 0), CSize(2, 2), first, CSize(3, 1), &grey, &solid);
     int changed = 0;
     for (int i = 0; i < 100 * 100; ++i)
         changed += dc.GetPixel(i % 100, i / 100) != RGB(12, 34, 56);
@@ -85,8 +88,7 @@ TEST_F(AfxDeviceContext, MapsUnitsOfLength) {
 }
 
 TEST_F(AfxDeviceContext, SplitsOutputFromAttributes) {
-    CDC other;
-    ASSERT_TRUE(other.CreateCompatibleDC(&dc));
+    canvas other(100, 100);
     CDC split; // draws on one, measures on the other
     split.SetOutputDC(dc);
     split.SetAttribDC(other);
@@ -100,6 +102,23 @@ TEST_F(AfxDeviceContext, SplitsOutputFromAttributes) {
     split.MoveTo(5, 5);
     split.LineTo(7, 9);
     EXPECT_TRUE(split.GetCurrentPosition() == CPoint(7, 9) && other.GetCurrentPosition() == CPoint(7, 9));
+    const POINT way[] = {{8, 1}, {2, 9}, {6, 12}};
+    std::vector<CPoint> ends;
+    const std::function<BOOL()> lines[] = {
+        [&] { return split.PolylineTo(way, 2); }, [&] { return split.PolyBezierTo(way, 3); },
+        [&] { return split.ArcTo(CRect(10, 20, 31, 41), CPoint(40, 30), CPoint(20, 0)); }};
+    for (const auto& draw : lines) {
+        EXPECT_TRUE(draw());
+        EXPECT_EQ(split.GetCurrentPosition(), dc.GetCurrentPosition());
+        ends.push_back(split.GetCurrentPosition());
+    }
+    EXPECT_THAT(ends, testing::ElementsAre(CPoint(2, 9), CPoint(6, 12), CPoint(20, 20)));
+    split.BeginPath();
+    split.Rectangle(10, 20, 31, 41);
+    split.EndPath();
+    CRect clips[2];
+    EXPECT_TRUE(split.SelectClipPath(RGN_COPY) && other.GetClipBox(clips[0]) && dc.GetClipBox(clips[1]));
+    EXPECT_THAT(clips, testing::Each(CRect(10, 20, 30, 40)));
     EXPECT_NE(split.SetTextColor(RGB(1, 2, 3)), RGB(1, 2, 3));
     EXPECT_EQ(dc.GetTextColor(), RGB(1, 2, 3));
     split.SaveDC();
