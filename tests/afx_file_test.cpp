@@ -159,7 +159,9 @@ TEST_F(AfxFileModes, NamesAreChangedAndCausesAreTold) {
     status.m_mtime = CTime(2001, 2, 3, 4, 5, 6);
     status.m_attribute |= CFile::readOnly;
     CFile::SetStatus(name, status);
+    CFile(name, CFile::modeRead).GetStatus(open);
     ASSERT_TRUE(CFile::GetStatus(name, status));
+    EXPECT_TRUE(open.m_mtime == status.m_mtime && open.m_ctime == CTime(2002, 1, 1, 1, 1, 1) && open.m_size == 0 && open.m_attribute == status.m_attribute && name == open.m_szFullName);
     EXPECT_TRUE(status.m_mtime == CTime(2001, 2, 3, 4, 5, 6) && (status.m_attribute & CFile::readOnly) != 0);
     status.m_attribute &= ~static_cast<DWORD>(CFile::readOnly);
     CFile::SetStatus(name, status);

@@ -170,6 +170,13 @@ TEST(AfxSync, LocksAreTakenInTimeAndGivenBack) {
     CMultiLock both(objects, 2);
     EXPECT_EQ(both.Lock(0), static_cast<DWORD>(WAIT_TIMEOUT));
     EXPECT_TRUE(both.Lock(0, FALSE) == WAIT_OBJECT_0 && both.IsLocked(0) && !both.IsLocked(1));
+    EXPECT_TRUE(both.Unlock(1, &before) && before == 1 && !both.IsLocked(0) && !both.Unlock(1));
+    {
+        CSingleLock one(&two, TRUE);
+        EXPECT_TRUE(two.Lock(0) && one.Unlock(2, &before) && before == 0 && !one.IsLocked());
+    }
+    manual.SetEvent();
+    EXPECT_TRUE(both.Lock(0) == WAIT_OBJECT_0 && both.IsLocked(1) && both.Unlock(1) && both.IsLocked(1));
     for (const DWORD wrong : {DWORD{0}, DWORD{MAXIMUM_WAIT_OBJECTS + 1}})
         EXPECT_TRUE(raises<CInvalidArgException>([&] { CMultiLock(objects, wrong); }));
     EXPECT_TRUE((CMutex(FALSE, "afx_test"), ::CloseHandle(::OpenMutex(SYNCHRONIZE, FALSE, "afx_test"))));
