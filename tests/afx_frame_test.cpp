@@ -41,8 +41,11 @@ struct bar_frame : CFrameWnd {
     void OnHideMenuBar() override { log.push_back("hide"); }
     void OnOn() { log.push_back("on"); }
     void OnUpdateOff(CCmdUI* item) { item->Enable(!off); }
-    void OnUpdateChecked(CCmdUI* item) { item->SetCheck(checked), item->SetText("Text"); }
-    void OnUpdatePane(CCmdUI* item) { item->Enable(), item->SetText("shown"); }
+    void OnUpdateChecked(CCmdUI* item) {
+        checked == 2 ? item->SetCheck(2) : item->SetRadio(checked);
+        item->SetText("Text");
+    }
+    void OnUpdatePane(CCmdUI* item) { item->Enable(), item->SetRadio(), item->SetText("shown"); }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -82,6 +85,7 @@ TEST_F(AfxFrame, UpdatesItsMenuToolbarAndPanesByItsHandlers) {
     EXPECT_FALSE(frame.enabled(ID_TEST_NOBODY)) << "a command without handler";
     EXPECT_EQ(frame.tools.SendMessage(TB_GETSTATE, ID_TEST_CHECKED), TBSTATE_ENABLED | TBSTATE_CHECKED);
     EXPECT_STREQ(frame.status.GetPaneText(1), "shown");
+    EXPECT_EQ(frame.status.GetPaneStyle(1), UINT{SBPS_POPOUT});
     frame.off = false;
     frame.settle();
     EXPECT_TRUE(frame.enabled(ID_TEST_OFF));
@@ -243,7 +247,7 @@ TEST_F(AfxFrame, LaysOutDockedBarsAndRemembersThem) {
     EXPECT_EQ(top.top, 0);
     EXPECT_GT(top.Width(), 4 * 23) << "four buttons and a gap";
     EXPECT_LT(left.Width(), left.Height()) << "one below the other";
-    EXPECT_TRUE(status.bottom == all.bottom && status.Width() == all.Width());
+    EXPECT_TRUE(status.bottom == all.bottom && status.Width() == all.Width() && status.Height() > 15);
     EXPECT_EQ(middle, CRect(left.right, top.bottom, all.right, status.top));
     EXPECT_EQ(left.top, top.bottom) << "the upper side is above the left one, whichever was enabled first";
 
@@ -265,6 +269,10 @@ TEST_F(AfxFrame, LaysOutDockedBarsAndRemembersThem) {
                          CRect(beside.right, beside.top, beside.right + 10, beside.bottom));
     frame.RecalcLayout();
     EXPECT_EQ(frame.client_of(frame.more).TopLeft(), CPoint(frame.client_of(frame.tools).right, 0));
+    beside.OffsetRect(0, -beside.Height());
+    frame.DockControlBar(&frame.more, AFX_IDW_DOCKBAR_TOP, beside);
+    frame.RecalcLayout();
+    EXPECT_EQ(frame.client_of(frame.more).bottom, frame.client_of(frame.tools).top) << "above all rows";
     frame.LoadBarState("Layout");
     EXPECT_FALSE(frame.tools.IsVisible());
     EXPECT_EQ(frame.client_of(frame.more), CRect(CPoint(0, 0), left.Size()));
@@ -298,15 +306,29 @@ TEST_F(AfxFrame, ButtonsAndPanesKeepTheirStyles) {
     EXPECT_FALSE(frame.enabled(ID_TEST_OFF));
     bar.SetButtonText(1, "Label");
     EXPECT_STREQ(bar.GetButtonText(1), "Label");
+    CRect before, after, button;
+    bar.GetItemRect(99, before);
+    bar.GetItemRect(1, button);
+    TOOLINFO tool{};
+    EXPECT_TRUE(before.IsRectEmpty() && bar.OnToolHitTest(button.CenterPoint(), &tool) == ID_TEST_OFF);
+    EXPECT_TRUE(tool.uId == ID_TEST_OFF && tool.hwnd == bar.m_hWnd && tool.rect == button);
+    EXPECT_EQ(tool.lpszText, LPSTR_TEXTCALLBACK);
+    bar.SetSizes(CSize(24, 22), CSize(16, 15));
+    bar.SetHeight(41);
+    EXPECT_EQ(bar.GetBorders(), CRect(2, 9, 2, 10));
 
     const UINT panes[] = {ID_SEPARATOR, ID_TEST_PANE};
     frame.status.SetIndicators(panes, 2);
-    CRect before, after;
     frame.status.GetItemRect(1, before);
     frame.status.SetPaneInfo(1, ID_TEST_PANE, SBPS_POPOUT, 200);
     frame.status.GetItemRect(1, after);
+    frame.status.GetPaneInfo(1, id, style, image);
+    EXPECT_TRUE(id == ID_TEST_PANE && style == SBPS_POPOUT && image == 200);
     EXPECT_TRUE(before.Width() < 200 && after.Width() >= 200 && after.right <= inside_of(frame.status).right);
-    EXPECT_EQ(frame.status.GetPaneStyle(1), static_cast<UINT>(SBPS_POPOUT));
+    frame.status.SetPaneStyle(1, SBPS_STRETCH);
+    frame.status.GetItemRect(0, before);
+    frame.status.GetItemRect(1, after);
+    EXPECT_NEAR(before.Width(), after.Width(), 2) << "both share the width";
     EXPECT_FALSE(frame.status.SetPaneText(2, "none such"));
     auto* without = new CFrameWnd; // deletes itself
     EXPECT_FALSE(without->Create(nullptr, "x", WS_OVERLAPPEDWINDOW, CFrameWnd::rectDefault, nullptr, "NoSuchMenu"));
@@ -393,13 +415,28 @@ TEST_F(AfxToolBar, HasTheBordersOfItsStyleAroundItsButtons) {
 
 TEST_F(AfxReBar, HoldsTheFramesBars) {
     CReBar rebar;
+    constexpr COLORREF red = RGB(255, 0, 0), blue = RGB(0, 0, 255);
     ASSERT_TRUE(rebar.Create(&frame));
     const CSize wanted = frame.tools.CalcFixedLayout(FALSE, TRUE);
     ASSERT_TRUE(rebar.AddBar(&frame.tools) &&
-                rebar.AddBar(&frame.more, "More", nullptr, RBBS_BREAK | RBBS_GRIPPERALWAYS));
+                rebar.AddBar(&frame.more, red, blue, "More", RBBS_BREAK | RBBS_GRIPPERALWAYS));
     EXPECT_TRUE(raises<CInvalidArgException>([&] { rebar.AddBar(nullptr); }));
     EXPECT_TRUE(rebar.GetReBarCtrl().GetBandCount() == 2 && rebar.GetReBarCtrl().GetRowCount() == 2);
     EXPECT_EQ(::GetParent(frame.tools.m_hWnd), rebar.m_hWnd);
+    REBARBANDINFO band{};
+    char title[9] = "";
+    band.cbSize = REBARBANDINFOA_V6_SIZE;
+    band.fMask = RBBIM_COLORS | RBBIM_TEXT | RBBIM_STYLE | RBBIM_CHILD | RBBIM_ID;
+    band.lpText = title;
+    band.cch = sizeof(title);
+    EXPECT_TRUE(rebar.GetReBarCtrl().GetBandInfo(1, &band) && band.clrFore == red && band.clrBack == blue);
+    EXPECT_TRUE((band.fStyle & RBBS_BREAK) != 0 && band.hwndChild == frame.more.m_hWnd && band.wID == 0xE850);
+    EXPECT_STREQ(title, "More");
+    CRect button;
+    frame.tools.GetItemRect(1, button);
+    frame.tools.MapWindowPoints(&rebar, button);
+    EXPECT_EQ(rebar.OnToolHitTest(button.CenterPoint(), nullptr), ID_TEST_OFF);
+    EXPECT_EQ(rebar.OnToolHitTest(CPoint(1, 1), nullptr), -1) << "the gripper";
     frame.settle();
     const CRect place = frame.client_of(rebar);
     EXPECT_TRUE(place.Width() == inside_of(frame).Width() && place.Height() >= 2 * wanted.cy);
@@ -407,6 +444,10 @@ TEST_F(AfxReBar, HoldsTheFramesBars) {
     EXPECT_TRUE(frame.enabled(ID_TEST_ON));
     frame.tools.SendMessage(WM_COMMAND, ID_TEST_ON);
     EXPECT_THAT(frame.log, ElementsAre("on"));
+    frame.more.SetSizes(CSize(60, 60), CSize(16, 15));
+    rebar.SendMessage(WM_RECALCPARENT);
+    const int grown = frame.more.CalcFixedLayout(FALSE, TRUE).cy - wanted.cy;
+    EXPECT_TRUE(grown > 20 && int(rebar.GetReBarCtrl().GetBarHeight()) == place.Height() + grown);
     rebar.GetReBarCtrl().ShowBand(1, FALSE);
     EXPECT_TRUE(pumped_until([&] { return frame.client_of(rebar).Height() < place.Height() * 2 / 3; })) << "one row";
 }
