@@ -1,5 +1,6 @@
 // The common controls through their classes, and lists of pictures.
 #include "afx_test_app.h"
+#include "pixels.h"
 
 #include <afxcmn.h>
 #include <afxdtctl.h>
@@ -376,6 +377,11 @@ TEST_F(AfxCommonControls, ChecksGoRoundThreeStatesAndShowThem) {
     }
     EXPECT_TRUE(looks[0] != looks[1] && looks[1] != looks[2] && looks[0] == looks[3]);
     list.SetCheckStyle(BS_AUTOCHECKBOX);
+    list.Enable(0, FALSE);
+    list.SetItemData(0, 7);
+    list.SendMessage(WM_KEYDOWN, VK_SPACE);
+    EXPECT_TRUE(list.GetCheck(0) == 1 && !list.IsEnabled(0) && list.GetItemData(0) == 7) << "left alone";
+    list.Enable(0);
     list.SetCheck(1, 2);
     EXPECT_EQ(list.GetCheck(1), 0) << "there is no third state";
     list.SetCheckStyle(BS_CHECKBOX);
@@ -489,6 +495,32 @@ TEST_F(AfxImageList, DrawsCopiesAndReplacesItsPictures) {
     ASSERT_TRUE(both.Create(list, 0, list, 1, 8, 0));
     EXPECT_EQ(drawn(both, 0).first, red);
     EXPECT_EQ(dc.GetPixel(20, 12), green) << "the second lies eight to the right";
+    dc.FillSolidRect(0, 0, 32, 16, blue);
+    EXPECT_TRUE(list.DrawIndirect(&dc, 1, CPoint(10, 2), CSize(5, 6), CPoint(1, 2), ILD_NORMAL));
+    Picture seen(6, 7);
+    ::BitBlt(seen.dc(), 0, 0, 6, 7, dc, 10, 2, SRCCOPY);
+    EXPECT_EQ(letters(seen.values(), 6, {{green, 'g'}, {blue, '.'}}),
+              "ggggg.\nggggg.\nggg...\nggg...\nggg...\nggg...\n......\n");
+}
+
+TEST_F(AfxImageList, OutlivesTheControlsThatShowIt) {
+    CListCtrl rows;
+    CTreeCtrl tree;
+    CTabCtrl tabs;
+    ASSERT_TRUE(rows.Create(shown, place, &parent, 1) && tree.Create(shown, place, &parent, 2) &&
+                tabs.Create(shown, place, &parent, 3));
+    CImageList lists[6];
+    for (CImageList& one : lists)
+        ASSERT_TRUE(one.Create(&list));
+    for (const int kind : {LVSIL_NORMAL, LVSIL_SMALL, LVSIL_STATE})
+        rows.SetImageList(&lists[kind], kind);
+    tree.SetImageList(&lists[3], TVSIL_NORMAL);
+    tree.SetImageList(&lists[4], TVSIL_STATE);
+    tabs.SetImageList(&lists[5]);
+    for (CWnd* control : {static_cast<CWnd*>(&rows), static_cast<CWnd*>(&tree), static_cast<CWnd*>(&tabs)})
+        control->DestroyWindow();
+    for (CImageList& one : lists)
+        EXPECT_EQ(one.GetImageCount(), 2) << &one - lists;
 }
 
 TEST_F(AfxImageList, GoesThroughAnArchiveBetweenOtherThings) {
@@ -554,6 +586,10 @@ TEST_F(AfxCommonControls, BitmapButtonsShowTheBitmapOfTheirState) {
     EXPECT_EQ(shows(0), RGB(255, 0, 0));
     EXPECT_EQ(shows(ODS_SELECTED), RGB(0, 0, 255));
     EXPECT_EQ(shows(ODS_DISABLED), RGB(255, 0, 0)) << "without one of its own";
+    const LPCTSTR up = MAKEINTRESOURCE(IDB_UP), down = MAKEINTRESOURCE(IDB_DOWN);
+    EXPECT_TRUE(button.LoadBitmaps(up, nullptr, down) && shows(ODS_SELECTED) == shows(0));
+    EXPECT_TRUE(shows(ODS_FOCUS) == RGB(0, 0, 255) && button.LoadBitmaps(up, nullptr, nullptr, down));
+    EXPECT_TRUE(shows(ODS_FOCUS) == shows(0) && shows(ODS_DISABLED) == RGB(0, 0, 255));
 }
 
 } // namespace

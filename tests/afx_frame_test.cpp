@@ -14,7 +14,10 @@ using Texts = std::vector<std::string>;
 namespace {
 
 struct bar_frame : CFrameWnd {
-    CToolBar tools, more;
+    struct : CToolBar {
+        using CToolBar::m_hbmImageWell;
+    } tools;
+    CToolBar more;
     CStatusBar status;
     CDialogBar dialog;
     Texts log;
@@ -313,6 +316,9 @@ TEST_F(AfxFrame, ButtonsAndPanesKeepTheirStyles) {
     EXPECT_TRUE(before.IsRectEmpty() && bar.OnToolHitTest(button.CenterPoint(), &tool) == ID_TEST_OFF);
     EXPECT_TRUE(tool.uId == ID_TEST_OFF && tool.hwnd == bar.m_hWnd && tool.rect == button);
     EXPECT_EQ(tool.lpszText, LPSTR_TEXTCALLBACK);
+    const HBITMAP images = frame.tools.m_hbmImageWell;
+    bar.SendMessage(WM_SYSCOLORCHANGE);
+    EXPECT_TRUE(::GetObjectType(images) == 0 && ::GetObjectType(frame.tools.m_hbmImageWell) == OBJ_BITMAP);
     bar.SetSizes(CSize(24, 22), CSize(16, 15));
     bar.SetHeight(41);
     EXPECT_EQ(bar.GetBorders(), CRect(2, 9, 2, 10));

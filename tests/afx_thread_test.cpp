@@ -214,4 +214,40 @@ TEST(AfxSettings, ReadBackWhatWasWrittenInTheRegistryAndInAFile) {
     the_app.use_settings(nullptr);
 }
 
+TEST(AfxSettings, KeepTheFilesThatWereUsedLast) {
+    the_app.LoadStdProfileSettings(2);
+    for (const char* name : {"C:\\1.note", "C:\\2.note", "C:\\3.note"})
+        the_app.AddToRecentFileList(name);
+    EXPECT_TRUE(the_app.OnOpenRecentFile(ID_FILE_MRU_FILE1) && !the_app.OnOpenRecentFile(ID_FILE_MRU_FILE1 + 2));
+    the_app.SaveStdProfileSettings();
+    const auto kept = [](const char* entry) { return the_app.GetProfileString("Recent File List", entry, "none"); };
+    EXPECT_STREQ(kept("File1") + kept("File2"), "C:\\2.notenone") << "what does not open goes";
+    the_app.LoadStdProfileSettings(0);
+    CMenu menu;
+    CCmdUI item;
+    ASSERT_TRUE(menu.CreatePopupMenu() && menu.AppendMenu(MF_STRING, item.m_nID = ID_FILE_MRU_FILE1, "Recent"));
+    item.m_pMenu = &menu;
+    for (const UINT count : {0, 4}) {
+        the_app.LoadStdProfileSettings(count);
+        the_app.OnUpdateRecentFileMenu(&item);
+        CString text;
+        menu.GetMenuString(0, text, MF_BYPOSITION);
+        EXPECT_EQ(text, count == 0 ? "Recent" : "&1 C:\\2.note");
+        EXPECT_EQ((menu.GetMenuState(0, MF_BYPOSITION) & MF_GRAYED) != 0, count == 0);
+    }
+    the_app.LoadStdProfileSettings(0);
+}
+
+TEST(AfxCommandLine, IsTakenFromTheProgramsArguments) {
+    char *words[] = {"program", "/pt", "a.note", "-dde2", "laser", "driver", "port", nullptr}, **before = __argv;
+    const int count = std::exchange(__argc, 7);
+    __argv = words;
+    CCommandLineInfo info;
+    the_app.ParseCommandLine(info);
+    __argc = count, __argv = before;
+    EXPECT_EQ(info.m_nShellCommand, CCommandLineInfo::FilePrintTo);
+    EXPECT_STREQ(info.m_strFileName + info.m_strPrinterName + info.m_strDriverName + info.m_strPortName,
+                 "a.notelaserdriverport");
+}
+
 } // namespace
