@@ -266,18 +266,4 @@ TEST(AfxDamagedArchive, CutOffAnywhereIsRefused) {
     }
 }
 
-TEST(AfxDamagedArchive, WithChangedBytesDoesNoHarm) {
-    const std::string whole = everything();
-    std::size_t refused = 0;
-    for (std::size_t at = 0; at < whole.size(); ++at) {
-        for (int value = 0; value < 256; value += value < 8 || value > 246 ? 1 : 37) {
-            std::string damaged = whole;
-            damaged[at] = static_cast<char>(value);
-            contents all;
-            refused += !reads(damaged, all);
-        }
-    }
-    EXPECT_GT(refused, whole.size()) << "most bytes matter";
-}
-
 } // namespace

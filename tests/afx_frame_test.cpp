@@ -3,7 +3,6 @@
 #include "held_keys.h"
 #include "modal.h"
 #include "pixels.h"
-#include "trapping.h"
 
 #include <afxext.h>
 #include <afxpriv.h>
@@ -535,56 +534,6 @@ TEST_F(AfxFrame, KeepsTheUserOutWhileItIsModal) {
     });
     modal.DoModal();
     EXPECT_TRUE(kept && frame.IsWindowEnabled() && shown.IsWindowEnabled()) << "though in front of another dialog";
-}
-
-// Ends one of its windows, or itself, while commands are updated.
-struct ending_frame : Trapping<CFrameWnd> {
-    template <class Bar> Bar* add() {
-        auto* bar = new Trapping<Bar>;
-        bar->m_bAutoDelete = TRUE;
-        return bar;
-    }
-    CToolBar* tools = add<CToolBar>();
-    CStatusBar* status = add<CStatusBar>();
-    CDialogBar* dialog = add<CDialogBar>();
-    CWnd* ends = nullptr;
-
-    bool open() {
-        const UINT pane = ID_TEST_PANE;
-        return LoadFrame(IDR_FRAME) && tools->Create(this) && tools->LoadToolBar(IDR_FRAME) && status->Create(this) &&
-               status->SetIndicators(&pane, 1) && dialog->Create(this, IDD_FORM, CBRS_TOP, 0xE850);
-    }
-
-    void OnUpdate(CCmdUI*) {
-        if (ends != nullptr)
-            std::exchange(ends, nullptr)->DestroyWindow();
-    }
-    DECLARE_MESSAGE_MAP()
-};
-
-BEGIN_MESSAGE_MAP(ending_frame, CFrameWnd)
-ON_UPDATE_COMMAND_UI_RANGE(ID_TEST_ON, ID_TEST_PANE, &ending_frame::OnUpdate)
-END_MESSAGE_MAP()
-
-TEST_F(AfxFrame, UpdateHandlersMayEndWhatIsUpdated) {
-    using Part = CWnd* (*)(ending_frame&);
-    const Part whole = [](ending_frame& frame) -> CWnd* { return &frame; };
-    for (const Part updated : {Part([](ending_frame& frame) -> CWnd* { return frame.tools; }),
-                               Part([](ending_frame& frame) -> CWnd* { return frame.status; }),
-                               Part([](ending_frame& frame) -> CWnd* { return frame.dialog; }), whole})
-        for (Part ends : {updated, whole}) {
-            auto* frame = new ending_frame;
-            ASSERT_TRUE(frame->open());
-            frame->ShowWindow(SW_SHOWNOACTIVATE);
-            frame->ends = ends(*frame);
-            const HWND wnd = frame->m_hWnd, end = frame->ends->m_hWnd;
-            if (updated == whole)
-                ::SendMessage(wnd, WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(::GetSubMenu(::GetMenu(wnd), 1)), 1);
-            else
-                updated(*frame)->SendMessage(WM_IDLEUPDATECMDUI, TRUE);
-            EXPECT_FALSE(::IsWindow(end)) << "its handler was asked";
-            ::DestroyWindow(wnd);
-        }
 }
 
 } // namespace
