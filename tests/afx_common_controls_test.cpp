@@ -395,58 +395,39 @@ TEST_F(AfxCommonControls, ChecksGoRoundThreeStatesAndShowThem) {
 TEST_F(AfxCommonControls, ADraggedItemGoesWhereItIsDropped) {
     struct open_list : CDragListBox {
         using CDragListBox::OnChildNotify;
-        void DrawInsert(int item) override { marked = item, CDragListBox::DrawInsert(item); }
-        int marked = -1;
-    } list;
-    ASSERT_TRUE(list.Create(shown | LBS_NOTIFY, CRect(0, 0, 80, 60), &parent, 1));
-    const auto reset = [&] {
-        list.ResetContent();
+        void DrawInsert(int item) override { marks.push_back(item), CDragListBox::DrawInsert(item); }
+        std::vector<int> marks;
+    };
+    const std::tuple<int, int, UINT, std::string> rows[] = {
+        {2, 0, DL_DROPPED, "c2a0b1"}, {0, 2, DL_DROPPED, "b1a0c2"}, {0, 0, DL_DROPPED, "a0b1c2"},
+        {0, 1, DL_DROPPED, "a0b1c2"}, {1, 0, DL_DROPPED, "b1a0c2"}, {1, 0, DL_CANCELDRAG, "a0b1c2"},
+        {1, -1, DL_DROPPED, "a0b1c2"}};
+    for (const auto& [from, before, end, then] : rows) {
+        open_list list;
+        ASSERT_TRUE(list.Create(shown | LBS_NOTIFY, CRect(0, 0, 80, 60), &parent, 1));
         for (int i = 0; i < 3; ++i)
             list.SetItemData(list.AddString(CString(static_cast<char>('a' + i))), static_cast<DWORD_PTR>(i));
-    };
-    const auto row = [&](int item) {
-        CRect place;
-        list.GetItemRect(item, place);
-        CPoint middle = place.CenterPoint();
-        list.ClientToScreen(&middle);
-        return middle;
-    };
-    const auto order = [&] {
-        std::string found;
-        for (int i = 0; i < list.GetCount(); ++i) {
-            CString text;
-            list.GetText(i, text);
-            EXPECT_EQ(text[0] - 'a', static_cast<int>(list.GetItemData(i))) << "the data go along";
-            found += text;
-        }
-        return found;
-    };
-    // As the control tells of it.
-    const auto tell = [&](UINT what, CPoint at) {
-        DRAGLISTINFO drag{what, list.m_hWnd, at};
-        LRESULT result = 0;
-        EXPECT_TRUE(list.OnChildNotify(::RegisterWindowMessage(DRAGLISTMSGSTRING), 1, afx_param(&drag), &result));
-        return result;
-    };
-    for (const auto& [from, before, then] :
-         {std::tuple{2, 0, "cab"}, {0, 2, "bac"}, {0, 0, "abc"}, {0, 1, "abc"}, {1, 0, "bac"}}) {
-        reset();
         list.SetCurSel(from);
-        EXPECT_NE(tell(DL_BEGINDRAG, row(from)), 0);
-        EXPECT_EQ(tell(DL_DRAGGING, row(before)), DL_MOVECURSOR);
-        EXPECT_EQ(list.marked, before);
-        tell(DL_DROPPED, row(before));
-        EXPECT_EQ(order(), then) << from << " before " << before;
-        EXPECT_EQ(then[list.GetCurSel()], 'a' + from) << "it stays selected";
-        EXPECT_EQ(list.marked, -1);
+        CRect row;
+        list.GetItemRect(std::max(before, 0), row);
+        CPoint place = before < 0 ? CPoint(-500, -500) : row.CenterPoint();
+        list.ClientToScreen(&place);
+        std::vector<LRESULT> answers;
+        for (const UINT what : {UINT{DL_BEGINDRAG}, UINT{DL_DRAGGING}, end}) { // as the control tells of it
+            DRAGLISTINFO drag{what, list.m_hWnd, place};
+            EXPECT_TRUE(list.OnChildNotify(::RegisterWindowMessage(DRAGLISTMSGSTRING), 1, afx_param(&drag),
+                                           &answers.emplace_back()));
+        }
+        EXPECT_TRUE(answers[0] != 0 && answers[1] == (before < 0 ? DL_STOPCURSOR : DL_MOVECURSOR));
+        EXPECT_THAT(list.marks, testing::ElementsAre(before, -1));
+        CString order, text;
+        for (int i = 0; i < 3; ++i) {
+            list.GetText(i, text);
+            order.AppendFormat("%s%d", text, static_cast<int>(list.GetItemData(i)));
+        }
+        EXPECT_EQ(order, then.c_str()) << from << " before " << before;
+        EXPECT_EQ(list.GetItemData(list.GetCurSel()), from) << "it stays selected";
     }
-    reset();
-    list.SetCurSel(1);
-    EXPECT_EQ(tell(DL_DRAGGING, CPoint(-500, -500)), DL_STOPCURSOR);
-    tell(DL_DROPPED, CPoint(-500, -500));
-    tell(DL_DRAGGING, row(0));
-    tell(DL_CANCELDRAG, row(0));
-    EXPECT_TRUE(order() == "abc" && list.marked == -1);
 }
 
 // -- Lists of pictures ------------------------------------------------------------------------------------------------
