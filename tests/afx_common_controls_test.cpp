@@ -116,6 +116,40 @@ TEST_F(AfxCommonControls, ATreeTellsWhatItsItemsWereGiven) {
     EXPECT_TRUE(edit != nullptr && edit == tree.GetEditControl() && text_of(*edit) == "new");
 }
 
+TEST_F(AfxCommonControls, AListTellsWhatItsItemsWereGiven) {
+    CListCtrl list;
+    ASSERT_TRUE(list.CreateEx(WS_EX_CLIENTEDGE, WS_VISIBLE | LVS_REPORT, place, &parent, 1));
+    EXPECT_TRUE((list.GetExStyle() & WS_EX_CLIENTEDGE) != 0 && list.InsertColumn(0, "first", LVCFMT_LEFT, 40) == 0);
+    list.InsertColumn(1, "second", LVCFMT_RIGHT, 30, 7);
+    list.SetExtendedStyle(LVS_EX_CHECKBOXES);
+    constexpr UINT all = LVIF_TEXT | LVIF_IMAGE | LVIF_STATE | LVIF_PARAM;
+    const CString longest('x', 300);
+    list.InsertItem(0, longest, 3);
+    list.InsertItem(all, 0, "new", LVIS_CUT, LVIS_CUT | LVIS_SELECTED, 4, 77);
+    list.InsertItem(1, "old");
+    list.SetItem(1, 0, all, "set", 5, LVIS_CUT | LVIS_SELECTED, LVIS_SELECTED, 88);
+    list.SetItemText(1, 1, "sub");
+    list.SetCheck(2);
+    CString rows;
+    for (int i = 0; i < 3; ++i) {
+        LVITEM item{LVIF_IMAGE, i};
+        list.GetItem(&item);
+        rows.AppendFormat("%s/%s %d %x %d %d;", list.GetItemText(i, 0), list.GetItemText(i, 1), item.iImage,
+                          list.GetItemState(i, LVIS_CUT | LVIS_SELECTED), static_cast<int>(list.GetItemData(i)),
+                          list.GetCheck(i));
+    }
+    EXPECT_EQ(rows, "new/ 4 4 77 0;set/sub 5 2 88 0;" + longest + "/ 3 0 0 1;");
+    LVCOLUMN column{LVCF_FMT | LVCF_WIDTH | LVCF_SUBITEM};
+    EXPECT_TRUE(list.GetColumn(1, &column) && column.fmt == LVCFMT_RIGHT && column.cx == 30 && column.iSubItem == 7);
+    CRect label, second;
+    EXPECT_TRUE(list.GetItemRect(1, label, LVIR_LABEL) && list.GetSubItemRect(1, 1, LVIR_BOUNDS, second));
+    UINT flags = 0;
+    EXPECT_EQ(std::pair(list.HitTest(label.CenterPoint(), &flags), flags), std::pair(1, UINT{LVHT_ONITEMLABEL}));
+    EXPECT_TRUE(second.left == 40 && second.Width() == 30 && second.top == label.top);
+    int order[2] = {};
+    EXPECT_TRUE(list.GetColumnOrderArray(order) && order[1] == 1);
+}
+
 TEST_F(AfxCommonControls, TabsPanesAndScalesKeepWhatTheyWereGiven) {
     CToolTipCtrl tips;
     CTabCtrl tabs;

@@ -114,6 +114,7 @@ TEST(AfxTimeEdges, FieldsThatAreNoneAreRefused) {
     for (const auto& w : wrong)
         EXPECT_TRUE(raises<CInvalidArgException>([&] { CTime(w[0], w[1], w[2], w[3], w[4], w[5]); })) << w[0] << w[1];
     EXPECT_EQ(CTime(2023, 2, 29, 0, 0, 0), CTime(2023, 3, 1, 0, 0, 0)) << "days of longer months run on";
+    EXPECT_TRUE(CTime(1970, 1, 2, 0, 0, 0).GetYear() == 1970 && CTime(3000, 12, 31, 0, 0, 0).GetYear() == 3000);
     const SYSTEMTIME never{};
     EXPECT_EQ(CTime(never), CTime());
     const FILETIME far_off = {0xFFFFFFFF, 0x7FFFFFFF};
