@@ -87,10 +87,6 @@ TEST(AfxList, KeepsPlacesWhileOthersGo) {
     EXPECT_STREQ(list.GetAt(list.FindIndex(7)), "e");
     EXPECT_EQ(list.FindIndex(8), nullptr);
     EXPECT_STREQ(list.RemoveTail(), "e");
-    CTypedPtrList<CPtrList, int*> numbers;
-    int number = 5;
-    numbers.AddTail(&number);
-    EXPECT_EQ(*numbers.GetHead(), 5);
 }
 
 TEST(AfxMap, FindsWhatWasNotRemoved) {

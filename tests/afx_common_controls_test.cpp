@@ -22,14 +22,6 @@ TEST_F(AfxCommonControls, AHotKeyHasANameWithItsModifiers) {
     EXPECT_EQ(key.GetHotKeyName(), part(VK_CONTROL) + " + " + part(VK_SHIFT) + " + " + part('P'));
 }
 
-TEST_F(AfxCommonControls, AFilmIsPlayedFromTheResources) {
-    CAnimateCtrl film;
-    ASSERT_TRUE(film.Create(shown | ACS_TRANSPARENT, place, &parent, 1));
-    EXPECT_FALSE(film.Open(9999)) << "there is none";
-    ASSERT_TRUE(film.Open(IDR_FILM));
-    EXPECT_TRUE(film.Seek(3) && film.Play(0, UINT(-1), UINT(-1)) && film.Stop() && film.Close());
-}
-
 TEST_F(AfxCommonControls, AToolbarKeepsItsButtonsAndTheirStates) {
     CToolBarCtrl bar;
     ASSERT_TRUE(bar.Create(shown, place, &parent, 1));
@@ -198,51 +190,43 @@ TEST_F(AfxCommonControls, TabsPanesAndScalesKeepWhatTheyWereGiven) {
     EXPECT_EQ(slider.GetToolTips(), &tips);
 }
 
-// Where this system's controls do nothing, what they are told is all that shows.
-template <class Control, class Call>
-void expect_told(CWnd& parent, UINT message, WPARAM wParam, LPARAM lParam, Call call) {
-    struct listener : Control {
-        LRESULT WindowProc(UINT m, WPARAM w, LPARAM l) override {
-            if (!listening)
-                return Control::WindowProc(m, w, l);
-            EXPECT_EQ(std::tuple(m, w, l), std::exchange(awaited, {}));
-            return 1;
-        }
-        std::tuple<UINT, WPARAM, LPARAM> awaited;
-        bool listening = false;
-    } control;
-    ASSERT_TRUE(control.Create(WS_CHILD, CRect(0, 0, 100, 60), &parent, 1));
-    control.awaited = {message, wParam, lParam};
-    control.listening = true, call(control), control.listening = false;
-    EXPECT_EQ(std::get<0>(control.awaited), 0U) << "it was not told " << message;
-}
+// Where this system's list does nothing, what it is told is all that shows.
+struct told_list : CListCtrl {
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (listening)
+            return told.emplace_back(message, wParam, lParam), MAKELONG(3, 7);
+        return CListCtrl::WindowProc(message, wParam, lParam);
+    }
+    std::vector<std::tuple<UINT, WPARAM, LPARAM>> told;
+    bool listening = false;
+};
 
-TEST_F(AfxCommonControls, ControlsAreToldWhatTheProgramSays) {
+TEST_F(AfxCommonControls, ListsAreToldWhatTheProgramSays) {
+    told_list list;
+    ASSERT_TRUE(list.Create(shown, place, &parent, 1));
     LVGROUP group{};
     LVITEMINDEX item{2, 3};
-    const auto key = reinterpret_cast<WPARAM>(&item);
-    CRect where;
-    const LPARAM at = afx_param(&where), of = afx_param(&group);
+    CRect where, part;
+    int across = 0, down = 0;
     const PFNLVGROUPCOMPARE sorter = [](INT, INT, void*) { return 0; };
-    const auto sort = reinterpret_cast<WPARAM>(sorter);
-    expect_told<CListCtrl>(parent, LVM_INSERTGROUP, 2, of, [&](auto& l) { l.InsertGroup(2, &group); });
-    expect_told<CListCtrl>(parent, LVM_SORTGROUPS, sort, of, [&](auto& l) { l.SortGroups(sorter, &group); });
-    expect_told<CListCtrl>(parent, LVM_GETGROUPRECT, 7, at, [&](auto& l) { l.GetGroupRect(7, where, LVGGR_HEADER); });
-    EXPECT_EQ(where.top, LVGGR_HEADER);
-    expect_told<CListCtrl>(parent, LVM_GETITEMINDEXRECT, key, at,
-                           [&](auto& l) { l.GetItemIndexRect(&item, 4, LVIR_LABEL, where); });
-    EXPECT_TRUE(where.top == 4 && where.left == LVIR_LABEL);
-    expect_told<CListCtrl>(parent, LVM_GETNEXTITEMINDEX, key, 9, [&](auto& l) { l.GetNextItemIndex(&item, 9); });
-    expect_told<CTreeCtrl>(parent, TVM_SETEXTENDEDSTYLE, 1, 2, [](auto& t) { t.SetExtendedStyle(1, 2); });
-    expect_told<CHeaderCtrl>(parent, HDM_CLEARFILTER, WPARAM(-1), 0, [](auto& h) { h.ClearAllFilters(); });
-    expect_told<CHeaderCtrl>(parent, HDM_SETHOTDIVIDER, 1, 0x40003, [](auto& h) { h.SetHotDivider(CPoint(3, 4)); });
-    expect_told<CReBarCtrl>(parent, RB_MAXIMIZEBAND, 2, TRUE, [](auto& r) { r.RestoreBand(2); });
-    expect_told<CReBarCtrl>(parent, RB_BEGINDRAG, 2, 0xFFFFFFFF, [](auto& r) { r.BeginDrag(2); });
-    expect_told<CMonthCalCtrl>(parent, MCM_SETCURRENTVIEW, 0, MCMV_YEAR, [](auto& m) { m.SetYearView(); });
-    expect_told<CMonthCalCtrl>(parent, MCM_SETCALENDARBORDER, TRUE, 8, [](auto& m) { m.SetCalendarBorder(8); });
-    CListCtrl list;
-    ASSERT_TRUE(list.Create(shown, place, &parent, 1));
+    const auto key = reinterpret_cast<WPARAM>(&item), sort = reinterpret_cast<WPARAM>(sorter);
+    const LPARAM of = afx_param(&group);
     EXPECT_FALSE(list.SetItemIndexState(&item, LVIS_SELECTED, LVIS_SELECTED)) << "there is no such item";
+    list.listening = true;
+    list.InsertGroup(2, &group);
+    list.SortGroups(sorter, &group);
+    list.GetGroupRect(7, where, LVGGR_HEADER);
+    list.GetItemIndexRect(&item, 4, LVIR_LABEL, part);
+    list.GetNextItemIndex(&item, 9);
+    EXPECT_TRUE(list.GetItemSpacing(TRUE, &across, &down) && across == 3 && down == 7);
+    list.listening = false;
+    using testing::FieldsAre;
+    EXPECT_THAT(list.told,
+                testing::ElementsAre(FieldsAre(LVM_INSERTGROUP, 2, of), FieldsAre(LVM_SORTGROUPS, sort, of),
+                                     FieldsAre(LVM_GETGROUPRECT, 7, afx_param(&where)),
+                                     FieldsAre(LVM_GETITEMINDEXRECT, key, afx_param(&part)),
+                                     FieldsAre(LVM_GETNEXTITEMINDEX, key, 9), FieldsAre(LVM_GETITEMSPACING, TRUE, 0)));
+    EXPECT_TRUE(where.top == LVGGR_HEADER && part.top == 4 && part.left == LVIR_LABEL);
 }
 
 TEST_F(AfxCommonControls, RichTextIsReadAndWrittenInItsRanges) {

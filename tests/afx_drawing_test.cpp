@@ -32,18 +32,6 @@ TEST_F(AfxDeviceContext, GivesBackWhatWasSelected) {
     ::DeleteDC(plain);
 }
 
-TEST_F(AfxDeviceContext, ConvertsUnitsAndPutsThemBack) {
-    const int saved = dc.SaveDC();
-    dc.SetMapMode(MM_ANISOTROPIC);
-    EXPECT_EQ(dc.SetWindowExt(50, 50), CSize(1, 1));
-    dc.SetViewportExt(100, -100);
-    EXPECT_EQ(dc.SetViewportOrg(0, 100), CPoint(0, 0));
-    CRect rect(0, 100, 20, 80);
-    dc.DPtoLP(rect);
-    EXPECT_EQ(rect, CRect(0, 0, 10, 10));
-    EXPECT_TRUE(dc.RestoreDC(saved) && dc.GetMapMode() == MM_TEXT);
-}
-
 TEST_F(AfxDeviceContext, DragRectanglesVanishAgain) {
     dc.FillSolidRect(0, 0, 100, 100, RGB(12, 34, 56));
     const CRect first(10, 10, 60, 60), second(20, 20, 70, 70);
@@ -170,15 +158,6 @@ TEST_F(AfxDeviceContext, ShortensTextsAndMeasuresGlyphs) {
     CRect place(0, 0, 1, 1);
     dc.DrawTextEx(CString("x"), place, DT_CALCRECT, &margins);
     EXPECT_EQ(place.Width(), dc.GetTextExtent("x").cx + 10) << "and the left margin";
-    WORD glyphs[2] = {};
-    auto* const placed_at = reinterpret_cast<LPWSTR>(glyphs);
-    GCP_RESULTS placed{sizeof(placed), nullptr, nullptr, nullptr, nullptr, nullptr, placed_at, 2, 0};
-    CString letters("Wi");
-    EXPECT_EQ(LOWORD(dc.GetCharacterPlacement(letters, 0, &placed, 0)), dc.GetTextExtent(letters).cx);
-    int widths[2] = {}, letter = 0;
-    CSize all;
-    EXPECT_TRUE(dc.GetCharWidthI(0, 2, glyphs, widths) && dc.GetTextExtentPointI(glyphs, 2, &all));
-    EXPECT_TRUE(dc.GetCharWidth('i', 'i', &letter) && letter == widths[1] && all.cx == widths[0] + widths[1]);
     dc.SelectObject(before);
 }
 

