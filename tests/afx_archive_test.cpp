@@ -132,12 +132,6 @@ TEST(AfxArchive, RefusesWhatDoesNotFit) {
         file.Write(bytes.data(), static_cast<UINT>(bytes.size()));
         EXPECT_EQ(read([](CArchive& ar) { delete ar.ReadObject(nullptr); }), cause);
     }
-    file.SetLength(0);
-    file.Write("\xFF\xFF\xFF\xFF\xFF\xFF\x7F", 7); // two thousand million characters that are not there
-    CString text;
-    CByteArray numbers;
-    EXPECT_NE(read([&](CArchive& ar) { ar >> text; }), -1);
-    EXPECT_EQ(read([&](CArchive& ar) { numbers.Serialize(ar); }), CArchiveException::endOfFile);
 }
 
 TEST(AfxArchive, SharesItsFileAfterFlush) {

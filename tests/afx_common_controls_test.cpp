@@ -376,11 +376,13 @@ TEST_F(AfxCommonControls, ChecksGoRoundThreeStatesAndShowThem) {
         list.UpdateWindow();
         CClientDC dc(&list);
         std::vector<COLORREF> look;
-        for (int x = 0; x < row.Height(); ++x)
+        for (int x = 0; x < row.Width(); ++x)
             for (int y = row.top; y < row.bottom; ++y)
                 look.push_back(dc.GetPixel(x, y));
         looks.push_back(look);
-        EXPECT_EQ(dc.GetPixel(row.right - 2, 0), dc.GetPixel(row.right - 3, 0)) << "the dots of a focus";
+        EXPECT_GT(std::ranges::count(look, ::GetSysColor(COLOR_HIGHLIGHTTEXT)), 10) << "its text";
+        for (const int x : {2, 3})
+            EXPECT_EQ(dc.GetPixel(row.right - x, 0), ::GetSysColor(COLOR_HIGHLIGHT)) << "the dots of a focus";
         list.SendMessage(WM_KEYDOWN, VK_SPACE);
     }
     EXPECT_TRUE(looks[0] != looks[1] && looks[1] != looks[2] && looks[0] == looks[3]);

@@ -308,7 +308,7 @@ TEST_F(AfxFrame, ButtonsAndPanesKeepTheirStyles) {
     EXPECT_FALSE(frame.enabled(ID_TEST_OFF));
     bar.SetButtonText(1, "Label");
     EXPECT_STREQ(bar.GetButtonText(1), "Label");
-    CRect before, after, button;
+    CRect before(1, 2, 3, 4), after, button;
     bar.GetItemRect(99, before);
     bar.GetItemRect(1, button);
     TOOLINFO tool{};

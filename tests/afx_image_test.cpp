@@ -186,21 +186,6 @@ TEST_F(AfxImage, WhatGdiPlusCannotReadIsSavedByItsColours) {
     }
 }
 
-TEST_F(AfxImage, StreamsHoldThemToo) {
-    IStream* stream = nullptr;
-    ASSERT_EQ(::CreateStreamOnHGlobal(nullptr, TRUE, &stream), S_OK);
-    CImage image;
-    ASSERT_TRUE(image.Create(5, 3, 24));
-    paint(image);
-    EXPECT_EQ(image.Save(stream, Gdiplus::ImageFormatPNG), S_OK);
-    EXPECT_TRUE(FAILED(image.Save(stream, GUID_NULL))) << "a stream has no name";
-    ATL::CImage back;
-    stream->Seek({}, STREAM_SEEK_SET, nullptr);
-    EXPECT_EQ(back.Load(stream), S_OK);
-    EXPECT_EQ(shown(back), figure);
-    EXPECT_EQ(stream->Release(), 0u) << "nobody keeps it";
-}
-
 void set_argb(CImage& image, int x, DWORD colour) {
     *static_cast<DWORD*>(image.GetPixelAddress(x, 0)) = colour;
 }

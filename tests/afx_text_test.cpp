@@ -147,8 +147,7 @@ TEST(AfxGenericText, FunctionsOfTheOldNamesAreThere) {
     EXPECT_TRUE(_tcscmp(text, _T("one, two")) == 0 && _tcsicmp(text, _T("ONE, TWO")) == 0);
     EXPECT_TRUE(_tcschr(text, _T(',')) == text + 3 && _tcsrchr(text, 'o') == text + 7 && _tcsinc(text) == text + 1);
     EXPECT_TRUE(_tcsstr(text, _T("two")) == text + 5 && _tcsncmp(text, _T("onto"), 2) == 0 && _tcsclen(text) == 8);
-    EXPECT_STREQ(_tcsupr(_tcsrev(text)), "OWT ,ENO");
-    EXPECT_STREQ(_tcstok(text, _T(" ,")), "OWT");
+    EXPECT_STREQ(_tcstok(_tcsupr(_tcsrev(text)), _T(" ,")), "OWT");
     EXPECT_TRUE(_tcsncpy_s(text, 20, _T("three"), 2) == 0 && _tcsnicmp(text, _T("TH"), 3) == 0);
 }
 

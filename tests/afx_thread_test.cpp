@@ -218,6 +218,7 @@ TEST(AfxSettings, KeepTheFilesThatWereUsedLast) {
     the_app.LoadStdProfileSettings(2);
     for (const char* name : {"C:\\1.note", "C:\\2.note", "C:\\3.note"})
         the_app.AddToRecentFileList(name);
+    the_app.SaveStdProfileSettings();
     EXPECT_TRUE(the_app.OnOpenRecentFile(ID_FILE_MRU_FILE1) && !the_app.OnOpenRecentFile(ID_FILE_MRU_FILE1 + 2));
     the_app.SaveStdProfileSettings();
     const auto kept = [](const char* entry) { return the_app.GetProfileString("Recent File List", entry, "none"); };
