@@ -249,10 +249,6 @@ TEST_F(AfxCommonControls, RichTextIsReadAndWrittenInItsRanges) {
     bold.dwEffects = CFE_BOLD;
     EXPECT_TRUE(edit.SetSelectionCharFormat(bold));
     EXPECT_EQ(edit.GetSelText(), "first");
-    PARAFORMAT2 apart{}, found{};
-    apart.dwMask = PFM_SPACEBEFORE;
-    apart.dySpaceBefore = 120;
-    EXPECT_TRUE(edit.SetParaFormat(apart) && edit.GetParaFormat(found) != 0 && found.dySpaceBefore == 120);
     EXPECT_EQ(std::string(line, static_cast<std::size_t>(edit.GetSelText(line))), "first");
 }
 
@@ -348,8 +344,6 @@ TEST_F(AfxCommonControls, TipsAreChangedAndTakenBack) {
     EXPECT_FALSE(tips.HitTest(&parent, CPoint(55, 5), &found));
     tips.DelTool(&parent, 3);
     EXPECT_EQ(tips.GetToolCount(), 1);
-    tips.SetMaxTipWidth(120);
-    EXPECT_EQ(tips.GetMaxTipWidth(), 120);
     CToolInfo info;
     tips.UpdateTipText(CString('x', 600), &tool);
     EXPECT_TRUE(tips.GetToolInfo(info, &tool) && info.lpszText == info.szText && info.szText[0] == 'x');

@@ -27,9 +27,6 @@ TEST_F(AfxDeviceContext, GivesBackWhatWasSelected) {
     EXPECT_FALSE(pen.CreatePen(PS_SOLID, 1, RGB(0, 0, 0))) << "it holds one already";
     const HGDIOBJ gone = pen.m_hObject;
     EXPECT_TRUE(pen.DeleteObject() && !pen.DeleteObject() && ::GetObjectType(gone) == 0);
-    const HDC plain = ::CreateCompatibleDC(dc);
-    EXPECT_EQ(CDC::FromHandle(plain)->m_hAttribDC, plain);
-    ::DeleteDC(plain);
 }
 
 TEST_F(AfxDeviceContext, DragRectanglesVanishAgain) {

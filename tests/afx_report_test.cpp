@@ -117,18 +117,4 @@ TEST(AfxOle, IsBegunForItsThreadOnce) {
     EXPECT_TRUE(names.find("CByteArray ") != names.npos && names.find("CFrameWnd ") == names.npos) << names;
 }
 
-TEST(AfxMemory, AddressesAreCheckedBeforeTheyAreUsed) {
-    const auto page = static_cast<char*>(::VirtualAlloc(nullptr, 8192, MEM_RESERVE, PAGE_READWRITE));
-    ASSERT_NE(page, nullptr);
-    ::VirtualAlloc(page, 4096, MEM_COMMIT, PAGE_READONLY);
-    EXPECT_TRUE(AfxIsValidAddress(page, 4096, FALSE));
-    EXPECT_FALSE(AfxIsValidAddress(page, 4096, TRUE)) << "for reading only";
-    EXPECT_FALSE(AfxIsValidAddress(page, 4097, FALSE)) << "behind it there is nothing";
-    EXPECT_FALSE(AfxIsValidAddress(nullptr, 1, FALSE) || AfxIsValidAddress(page, static_cast<UINT_PTR>(-1), FALSE))
-        << "around the end of all memory";
-    EXPECT_TRUE(AfxIsValidAddress("constant", 4, FALSE));
-    EXPECT_TRUE(AfxIsValidString("text") && !AfxIsValidString(nullptr) && !AfxIsValidString(page + 4096, 3));
-    ::VirtualFree(page, 0, MEM_RELEASE);
-}
-
 } // namespace

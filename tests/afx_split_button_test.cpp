@@ -38,13 +38,10 @@ protected:
         ASSERT_TRUE(button.Create(WS_CHILD | WS_VISIBLE, CRect(5, 5, 65, 30), &parent, 7));
         NMBCDROPDOWN notice{{button, 7, BCN_DROPDOWN}, {}};
         parent.SendMessage(WM_NOTIFY, 7, reinterpret_cast<LPARAM>(&notice));
-        dispatch();
-        button.DestroyWindow();
-    }
-    static void dispatch() { // the command may be posted
         MSG message;
-        while (::PeekMessage(&message, nullptr, 0, 0, PM_REMOVE))
+        while (::PeekMessage(&message, nullptr, 0, 0, PM_REMOVE)) // the command may be posted
             ::DispatchMessage(&message);
+        button.DestroyWindow();
     }
     static CMenu* menu_of(UINT command) {
         auto* menu = new CMenu;
