@@ -208,8 +208,12 @@ std::string everything() {
     strict_node strict;
     all.list.AddTail(&strict), all.list.AddTail(&strict);
     all.numbers.Add(5), all.names.Add("one"), all.more_names.Add("x"), all.doubles.Add(1 / 3.0);
-    all.words.Add(0x1234), all.doubled.Add(0x12345678), all.nodes.Add(&a), all.lines.AddTail("y");
-    all.by_number[9] = &b, all.by_name["b"] = &b;
+    all.words.Add(0x1234);
+    all.doubled.Add(0x12345678);
+    all.nodes.Add(&a);
+    all.lines.AddTail("y");
+    all.by_number[9] = &b;
+    all.by_name["b"] = &b;
     all.time = 12345;
     all.rect = CRect(1, 2, 3, 4);
     all.line = "line";

@@ -124,14 +124,17 @@ TEST_F(AfxCommonControls, AListTellsWhatItsItemsWereGiven) {
     list.SetCheck(2);
     CString rows;
     for (int i = 0; i < 3; ++i) {
-        LVITEM item{LVIF_IMAGE, i};
+        LVITEM item{};
+        item.mask = LVIF_IMAGE;
+        item.iItem = i;
         list.GetItem(&item);
         rows.AppendFormat("%s/%s %d %x %d %d;", list.GetItemText(i, 0), list.GetItemText(i, 1), item.iImage,
                           list.GetItemState(i, LVIS_CUT | LVIS_SELECTED), static_cast<int>(list.GetItemData(i)),
                           list.GetCheck(i));
     }
     EXPECT_EQ(rows, "new/ 4 4 77 0;set/sub 5 2 88 0;" + longest + "/ 3 0 0 1;");
-    LVCOLUMN column{LVCF_FMT | LVCF_WIDTH | LVCF_SUBITEM};
+    LVCOLUMN column{};
+    column.mask = LVCF_FMT | LVCF_WIDTH | LVCF_SUBITEM;
     EXPECT_TRUE(list.GetColumn(1, &column) && column.fmt == LVCFMT_RIGHT && column.cx == 30 && column.iSubItem == 7);
     CRect label, second;
     EXPECT_TRUE(list.GetItemRect(1, label, LVIR_LABEL) && list.GetSubItemRect(1, 1, LVIR_BOUNDS, second));
@@ -193,9 +196,10 @@ TEST_F(AfxCommonControls, TabsPanesAndScalesKeepWhatTheyWereGiven) {
 // Where this system's list does nothing, what it is told is all that shows.
 struct told_list : CListCtrl {
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-        if (listening)
-            return told.emplace_back(message, wParam, lParam), MAKELONG(3, 7);
-        return CListCtrl::WindowProc(message, wParam, lParam);
+        if (!listening)
+            return CListCtrl::WindowProc(message, wParam, lParam);
+        told.emplace_back(message, wParam, lParam);
+        return MAKELONG(3, 7);
     }
     std::vector<std::tuple<UINT, WPARAM, LPARAM>> told;
     bool listening = false;

@@ -50,15 +50,19 @@ TEST(AfxOleTime, ComesFromTheSystemsOtherForms) {
     const COleDateTime time(2024, 7, 14, 8, 9, 10);
     FILETIME file;
     AfxTimeToFileTime(CTime(2024, 7, 14, 8, 9, 10), &file);
-    VARIANT text, none, empty, object;
-    text.vt = VT_BSTR, none.vt = VT_NULL, empty.vt = VT_EMPTY, object.vt = VT_DISPATCH, object.pdispVal = nullptr;
+    VARIANT text{};
+    text.vt = VT_BSTR;
     text.bstrVal = ::SysAllocString(L"2024-07-14 08:09:10");
     for (const COleDateTime& same : {COleDateTime(file), COleDateTime(text),
                                      COleDateTime(WORD(44 << 9 | 7 << 5 | 14), WORD(8 << 11 | 9 << 5 | 5))})
         EXPECT_TRUE(same == time && same.GetStatus() == COleDateTime::valid) << same.Format().GetString();
-    EXPECT_TRUE(COleDateTime(none).GetStatus() == COleDateTime::null &&
-                COleDateTime(object).GetStatus() == COleDateTime::invalid);
-    EXPECT_TRUE(COleDateTime(empty).GetStatus() == COleDateTime::valid && COleDateTime(empty).m_dt == 0);
+    const auto status_of = [](VARTYPE type) {
+        VARIANT value{};
+        value.vt = type;
+        return COleDateTime(value).GetStatus();
+    };
+    EXPECT_THAT((std::vector{status_of(VT_NULL), status_of(VT_EMPTY), status_of(VT_DISPATCH)}),
+                testing::ElementsAre(COleDateTime::null, COleDateTime::valid, COleDateTime::invalid));
     EXPECT_LT(std::abs((COleDateTime::GetCurrentTime() - COleDateTime(std::time(nullptr))).GetTotalSeconds()), 5);
     ::SysFreeString(text.bstrVal);
 }

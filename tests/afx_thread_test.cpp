@@ -240,12 +240,13 @@ TEST(AfxSettings, KeepTheFilesThatWereUsedLast) {
 }
 
 TEST(AfxCommandLine, IsTakenFromTheProgramsArguments) {
-    char *words[] = {"program", "/pt", "a.note", "-dde2", "laser", "driver", "port", nullptr}, **before = __argv;
+    const char* words[] = {"program", "/pt", "a.note", "-dde2", "laser", "driver", "port", nullptr};
     const int count = std::exchange(__argc, 7);
-    __argv = words;
+    char** const before = std::exchange(__argv, const_cast<char**>(words));
     CCommandLineInfo info;
     the_app.ParseCommandLine(info);
-    __argc = count, __argv = before;
+    __argc = count;
+    __argv = before;
     EXPECT_EQ(info.m_nShellCommand, CCommandLineInfo::FilePrintTo);
     EXPECT_STREQ(info.m_strFileName + info.m_strPrinterName + info.m_strDriverName + info.m_strPortName,
                  "a.notelaserdriverport");
