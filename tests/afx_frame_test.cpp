@@ -304,6 +304,8 @@ TEST_F(AfxFrame, ButtonsAndPanesKeepTheirStyles) {
     int image = 0;
     bar.GetButtonInfo(0, id, style, image);
     EXPECT_TRUE(style == UINT(TBBS_CHECKBOX | TBBS_CHECKED) && image == 1);
+    bar.GetButtonInfo(4, id, style, image);
+    EXPECT_TRUE(id == ID_TEST_NOBODY && image == 3);
     bar.SetButtonStyle(1, TBBS_BUTTON | TBBS_DISABLED);
     EXPECT_FALSE(frame.enabled(ID_TEST_OFF));
     bar.SetButtonText(1, "Label");
@@ -329,6 +331,7 @@ TEST_F(AfxFrame, ButtonsAndPanesKeepTheirStyles) {
     frame.status.GetItemRect(1, after);
     frame.status.GetPaneInfo(1, id, style, image);
     EXPECT_TRUE(id == ID_TEST_PANE && style == SBPS_POPOUT && image == 200);
+    EXPECT_EQ(HIWORD(frame.status.SendMessage(SB_GETTEXTLENGTH, 1)), SBT_POPOUT);
     EXPECT_TRUE(before.Width() < 200 && after.Width() >= 200 && after.right <= inside_of(frame.status).right);
     frame.status.SetPaneStyle(1, SBPS_STRETCH);
     frame.status.GetItemRect(0, before);
@@ -410,8 +413,10 @@ TEST(AfxControlBar, TakesItsPartOfItsParentAndPaintsItsEdges) {
 
 TEST_F(AfxToolBar, HasTheBordersOfItsStyleAroundItsButtons) {
     CToolBar& tools = frame.tools;
+    EXPECT_FALSE(tools.EnableToolTips(FALSE)) << "its style had none";
     tools.SetBarStyle(tools.GetBarStyle() | CBRS_BORDER_TOP | CBRS_TOOLTIPS);
     EXPECT_TRUE(tools.EnableToolTips()) << "its style has them";
+    EXPECT_EQ(on_screen(tools).Height() - inside_of(tools).Height(), 2 + 1 + 1 + 2);
     CClientDC(&tools).SetPixel(3, 3, RGB(255, 0, 0));
     tools.SendMessage(WM_NCPAINT, 1);
     EXPECT_EQ(CWindowDC(&tools).GetPixel(10, 0), ::GetSysColor(COLOR_3DHIGHLIGHT));
