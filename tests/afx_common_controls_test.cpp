@@ -224,12 +224,12 @@ TEST_F(AfxCommonControls, ListsAreToldWhatTheProgramSays) {
     list.GetNextItemIndex(&item, 9);
     EXPECT_TRUE(list.GetItemSpacing(TRUE, &across, &down) && across == 3 && down == 7);
     list.listening = false;
-    using testing::FieldsAre;
-    EXPECT_THAT(list.told,
-                testing::ElementsAre(FieldsAre(LVM_INSERTGROUP, 2, of), FieldsAre(LVM_SORTGROUPS, sort, of),
-                                     FieldsAre(LVM_GETGROUPRECT, 7, afx_param(&where)),
-                                     FieldsAre(LVM_GETITEMINDEXRECT, key, afx_param(&part)),
-                                     FieldsAre(LVM_GETNEXTITEMINDEX, key, 9), FieldsAre(LVM_GETITEMSPACING, TRUE, 0)));
+    EXPECT_THAT(list.told, testing::ElementsAre(testing::FieldsAre(LVM_INSERTGROUP, 2, of),
+                                                testing::FieldsAre(LVM_SORTGROUPS, sort, of),
+                                                testing::FieldsAre(LVM_GETGROUPRECT, 7, afx_param(&where)),
+                                                testing::FieldsAre(LVM_GETITEMINDEXRECT, key, afx_param(&part)),
+                                                testing::FieldsAre(LVM_GETNEXTITEMINDEX, key, 9),
+                                                testing::FieldsAre(LVM_GETITEMSPACING, TRUE, 0)));
     EXPECT_TRUE(where.top == LVGGR_HEADER && part.top == 4 && part.left == LVIR_LABEL);
 }
 
