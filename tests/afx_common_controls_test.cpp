@@ -164,10 +164,12 @@ TEST_F(AfxCommonControls, TabsPanesAndScalesKeepWhatTheyWereGiven) {
 
     CStatusBarCtrl status;
     ASSERT_TRUE(status.Create(shown | SBARS_TOOLTIPS, place, &parent, 2));
-    int ends[] = {30, 70}, type = 0, across = 0, down = 0, between = 0, found[3] = {};
+    int ends[] = {30, 70}, kinds[3] = {}, across = 0, down = 0, between = 0, found[3] = {};
     EXPECT_TRUE(status.SetParts(2, ends) && status.SetText("pane", 1, SBT_POPOUT));
-    EXPECT_TRUE(status.GetText(1, &type) == "pane" && type == SBT_POPOUT && status.GetText(name, 1, &(type = 0)) == 4);
-    EXPECT_TRUE(type == SBT_POPOUT && status.GetTextLength(1, &(type = 0)) == 4 && type == SBT_POPOUT);
+    EXPECT_STREQ(status.GetText(1, &kinds[0]), "pane");
+    EXPECT_TRUE(status.GetText(name, 1, &kinds[1]) == 4 && status.GetTextLength(1, &kinds[2]) == 4);
+    EXPECT_THAT(kinds, testing::Each(SBT_POPOUT));
+    EXPECT_STREQ(name, "pane");
     status.SetTipText(1, "tip");
     EXPECT_STREQ(status.GetTipText(1), "tip");
     EXPECT_TRUE(status.GetBorders(found) && status.GetBorders(across, down, between));

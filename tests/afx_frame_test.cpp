@@ -43,10 +43,7 @@ struct bar_frame : CFrameWnd {
     void OnHideMenuBar() override { log.push_back("hide"); }
     void OnOn() { log.push_back("on"); }
     void OnUpdateOff(CCmdUI* item) { item->Enable(!off); }
-    void OnUpdateChecked(CCmdUI* item) {
-        checked == 2 ? item->SetCheck(2) : item->SetRadio(checked);
-        item->SetText("Text");
-    }
+    void OnUpdateChecked(CCmdUI* item) { item->SetCheck(checked), item->SetText("Text"); }
     void OnUpdatePane(CCmdUI* item) { item->Enable(), item->SetRadio(), item->SetText("shown"); }
     DECLARE_MESSAGE_MAP()
 };
