@@ -223,7 +223,6 @@ TEST(AfxSettings, KeepTheFilesThatWereUsedLast) {
     the_app.SaveStdProfileSettings();
     const auto kept = [](const char* entry) { return the_app.GetProfileString("Recent File List", entry, "none"); };
     EXPECT_STREQ(kept("File1") + kept("File2"), "C:\\2.notenone") << "what does not open goes";
-    the_app.LoadStdProfileSettings(0);
     CMenu menu;
     CCmdUI item;
     ASSERT_TRUE(menu.CreatePopupMenu() && menu.AppendMenu(MF_STRING, item.m_nID = ID_FILE_MRU_FILE1, "Recent"));
