@@ -39,11 +39,9 @@ TEST_F(AfxCommonControls, AToolbarKeepsItsButtonsAndTheirStates) {
     EXPECT_EQ(bar.CommandToIndex(102), 2u);
     CString text;
     EXPECT_TRUE(bar.GetString(first, text) == 5 && text == "First" && text.GetLength() == 5);
-    EXPECT_LT(bar.GetString(77, text), 0);
     EXPECT_TRUE(bar.SetCmdID(0, 200) && bar.CommandToIndex(200) == 0u);
     EXPECT_TRUE(bar.ChangeBitmap(200, 3) && bar.GetBitmap(200) == 3);
     EXPECT_TRUE(bar.DeleteButton(0) && bar.GetButtonCount() == 2);
-    EXPECT_FALSE(bar.DeleteButton(5));
 }
 
 TEST_F(AfxCommonControls, AToolbarsButtonsAreChangedMovedAndRestored) {

@@ -166,6 +166,12 @@ TEST_F(AfxImage, WhatGdiPlusCannotReadIsSavedByItsColours) {
         ASSERT_EQ(back.Load("a.bmp"), S_OK);
         EXPECT_EQ(shown(back), figure);
     }
+    IStream* stream = nullptr;
+    ASSERT_EQ(::CreateStreamOnHGlobal(nullptr, TRUE, &stream), S_OK);
+    EXPECT_EQ(masked.Save(stream, Gdiplus::ImageFormatPNG), S_OK);
+    stream->Seek({}, STREAM_SEEK_SET, nullptr);
+    EXPECT_TRUE(device.Load(stream) == S_OK && stream->Release() == 0) << "nobody keeps it";
+    EXPECT_EQ(shown(device), figure);
 }
 
 void set_argb(CImage& image, int x, DWORD colour) {
