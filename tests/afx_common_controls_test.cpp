@@ -1,5 +1,6 @@
 // The common controls through their classes, and lists of pictures.
 #include "afx_test_app.h"
+#include "pixels.h"
 
 #include <afxcmn.h>
 #include <afxdtctl.h>
@@ -21,14 +22,6 @@ TEST_F(AfxCommonControls, AHotKeyHasANameWithItsModifiers) {
     EXPECT_EQ(key.GetHotKeyName(), part(VK_CONTROL) + " + " + part(VK_SHIFT) + " + " + part('P'));
 }
 
-TEST_F(AfxCommonControls, AFilmIsPlayedFromTheResources) {
-    CAnimateCtrl film;
-    ASSERT_TRUE(film.Create(shown | ACS_TRANSPARENT, place, &parent, 1));
-    EXPECT_FALSE(film.Open(9999)) << "there is none";
-    ASSERT_TRUE(film.Open(IDR_FILM));
-    EXPECT_TRUE(film.Seek(3) && film.Play(0, UINT(-1), UINT(-1)) && film.Stop() && film.Close());
-}
-
 TEST_F(AfxCommonControls, AToolbarKeepsItsButtonsAndTheirStates) {
     CToolBarCtrl bar;
     ASSERT_TRUE(bar.Create(shown, place, &parent, 1));
@@ -46,11 +39,9 @@ TEST_F(AfxCommonControls, AToolbarKeepsItsButtonsAndTheirStates) {
     EXPECT_EQ(bar.CommandToIndex(102), 2u);
     CString text;
     EXPECT_TRUE(bar.GetString(first, text) == 5 && text == "First" && text.GetLength() == 5);
-    EXPECT_LT(bar.GetString(77, text), 0);
     EXPECT_TRUE(bar.SetCmdID(0, 200) && bar.CommandToIndex(200) == 0u);
     EXPECT_TRUE(bar.ChangeBitmap(200, 3) && bar.GetBitmap(200) == 3);
     EXPECT_TRUE(bar.DeleteButton(0) && bar.GetButtonCount() == 2);
-    EXPECT_FALSE(bar.DeleteButton(5));
 }
 
 TEST_F(AfxCommonControls, AToolbarsButtonsAreChangedMovedAndRestored) {
@@ -80,51 +71,166 @@ TEST_F(AfxCommonControls, AToolbarsButtonsAreChangedMovedAndRestored) {
     ::RegDeleteKey(HKEY_CURRENT_USER, "Software\\afx_test");
 }
 
-// Where this system's controls do nothing, what they are told is all that shows.
-template <class Control, class Call>
-void expect_told(CWnd& parent, UINT message, WPARAM wParam, LPARAM lParam, Call call) {
-    struct listener : Control {
-        LRESULT WindowProc(UINT m, WPARAM w, LPARAM l) override {
-            if (!listening)
-                return Control::WindowProc(m, w, l);
-            EXPECT_EQ(std::tuple(m, w, l), std::exchange(awaited, {}));
-            return 1;
-        }
-        std::tuple<UINT, WPARAM, LPARAM> awaited;
-        bool listening = false;
-    } control;
-    ASSERT_TRUE(control.Create(WS_CHILD, CRect(0, 0, 100, 60), &parent, 1));
-    control.awaited = {message, wParam, lParam};
-    control.listening = true, call(control), control.listening = false;
-    EXPECT_EQ(std::get<0>(control.awaited), 0U) << "it was not told " << message;
+// The items from one on, those below an item in brackets behind it.
+CString outline(const CTreeCtrl& tree, HTREEITEM item) {
+    CString all;
+    for (; item != nullptr; item = tree.GetNextSiblingItem(item)) {
+        int image = 0, chosen = 0;
+        EXPECT_TRUE(tree.GetItemImage(item, image, chosen));
+        all.AppendFormat("%s %d/%d %x %d %d", tree.GetItemText(item), image, chosen,
+                         tree.GetItemState(item, TVIS_BOLD | TVIS_CUT), static_cast<int>(tree.GetItemData(item)),
+                         tree.GetCheck(item));
+        all += tree.ItemHasChildren(item) ? "(" + outline(tree, tree.GetChildItem(item)) + ")" : ";";
+    }
+    return all;
 }
 
-TEST_F(AfxCommonControls, ControlsAreToldWhatTheProgramSays) {
+TEST_F(AfxCommonControls, ATreeTellsWhatItsItemsWereGiven) {
+    CTreeCtrl tree;
+    ASSERT_TRUE(tree.CreateEx(WS_EX_CLIENTEDGE, WS_VISIBLE | TVS_CHECKBOXES | TVS_EDITLABELS, place, &parent, 1));
+    EXPECT_TRUE((tree.GetExStyle() & WS_EX_CLIENTEDGE) != 0 && tree.GetParent() == &parent);
+    constexpr UINT all = TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE | TVIF_STATE | TVIF_PARAM;
+    const CString longest('x', 300);
+    const HTREEITEM root = tree.InsertItem("root", 3, 4), last = tree.InsertItem(longest, root),
+                    first = tree.InsertItem(all, "new", 5, 6, TVIS_BOLD | TVIS_CUT, TVIS_BOLD, 77, root, TVI_FIRST);
+    tree.SetItem(root, all, "top", 1, 2, TVIS_BOLD | TVIS_CUT, TVIS_CUT, 88);
+    tree.SetCheck(last);
+    EXPECT_EQ(outline(tree, tree.GetRootItem()), "top 1/2 4 88 0(new 5/6 10 77 0;" + longest + " 0/0 0 0 1;)");
+    tree.Expand(root, TVE_EXPAND);
+    CRect whole, text;
+    EXPECT_TRUE(tree.GetItemRect(first, whole, FALSE) && tree.GetItemRect(first, text, TRUE));
+    EXPECT_TRUE(whole.left == 0 && text.left > 0 && whole.Width() > text.Width() && whole.top == text.top);
+    UINT flags = 0;
+    EXPECT_EQ(std::pair(tree.HitTest(text.CenterPoint(), &flags), flags), std::pair(first, UINT{TVHT_ONITEMLABEL}));
+    CEdit* edit = tree.EditLabel(first);
+    EXPECT_TRUE(edit != nullptr && edit == tree.GetEditControl() && text_of(*edit) == "new");
+}
+
+TEST_F(AfxCommonControls, AListTellsWhatItsItemsWereGiven) {
+    CListCtrl list;
+    ASSERT_TRUE(list.CreateEx(WS_EX_CLIENTEDGE, WS_VISIBLE | LVS_REPORT, place, &parent, 1));
+    EXPECT_TRUE((list.GetExStyle() & WS_EX_CLIENTEDGE) != 0 && list.InsertColumn(0, "first", LVCFMT_LEFT, 40) == 0);
+    list.InsertColumn(1, "second", LVCFMT_RIGHT, 30, 7);
+    list.SetExtendedStyle(LVS_EX_CHECKBOXES);
+    constexpr UINT all = LVIF_TEXT | LVIF_IMAGE | LVIF_STATE | LVIF_PARAM;
+    const CString longest('x', 300);
+    list.InsertItem(0, longest, 3);
+    list.InsertItem(all, 0, "new", LVIS_CUT, LVIS_CUT | LVIS_SELECTED, 4, 77);
+    list.InsertItem(1, "old");
+    list.SetItem(1, 0, all, "set", 5, LVIS_CUT | LVIS_SELECTED, LVIS_SELECTED, 88);
+    list.SetItemText(1, 1, "sub");
+    list.SetCheck(2);
+    CString rows;
+    for (int i = 0; i < 3; ++i) {
+        LVITEM item{};
+        item.mask = LVIF_IMAGE;
+        item.iItem = i;
+        list.GetItem(&item);
+        rows.AppendFormat("%s/%s %d %x %d %d;", list.GetItemText(i, 0), list.GetItemText(i, 1), item.iImage,
+                          list.GetItemState(i, LVIS_CUT | LVIS_SELECTED), static_cast<int>(list.GetItemData(i)),
+                          list.GetCheck(i));
+    }
+    EXPECT_EQ(rows, "new/ 4 4 77 0;set/sub 5 2 88 0;" + longest + "/ 3 0 0 1;");
+    LVCOLUMN column{};
+    column.mask = LVCF_FMT | LVCF_WIDTH | LVCF_SUBITEM;
+    EXPECT_TRUE(list.GetColumn(1, &column) && column.fmt == LVCFMT_RIGHT && column.cx == 30 && column.iSubItem == 7);
+    CRect label, second;
+    EXPECT_TRUE(list.GetItemRect(1, label, LVIR_LABEL) && list.GetSubItemRect(1, 1, LVIR_BOUNDS, second));
+    UINT flags = 0;
+    EXPECT_EQ(std::pair(list.HitTest(label.CenterPoint(), &flags), flags), std::pair(1, UINT{LVHT_ONITEMLABEL}));
+    EXPECT_TRUE(second.left == 40 && second.Width() == 30 && second.top == label.top);
+    int order[2] = {};
+    EXPECT_TRUE(list.GetColumnOrderArray(order) && order[1] == 1);
+}
+
+TEST_F(AfxCommonControls, TabsPanesAndScalesKeepWhatTheyWereGiven) {
+    CToolTipCtrl tips;
+    CTabCtrl tabs;
+    ASSERT_TRUE(tips.Create(&parent) && tabs.Create(shown | TCS_TOOLTIPS, place, &parent, 1));
+    constexpr DWORD lit = TCIS_HIGHLIGHTED, pressed = TCIS_BUTTONPRESSED;
+    EXPECT_EQ(tabs.InsertItem(0, "last", 9), 0);
+    tabs.InsertItem(TCIF_TEXT | TCIF_IMAGE | TCIF_PARAM, 0, "first", 3, 44);
+    tabs.SetItemState(0, lit, lit | pressed);
+    tabs.SetItemState(1, lit | pressed, pressed);
+    char name[10] = "";
+    TCITEM tab{TCIF_TEXT | TCIF_IMAGE | TCIF_PARAM, 0, 0, name, sizeof(name), 0, 0};
+    EXPECT_TRUE(tabs.GetItem(0, &tab) && name == std::string("first") && tab.iImage == 3 && tab.lParam == 44);
+    EXPECT_THAT((std::vector{tabs.GetItemState(0, lit | pressed), tabs.GetItemState(1, lit | pressed)}),
+                testing::ElementsAre(lit, pressed));
+    tabs.SetToolTips(&tips);
+    EXPECT_EQ(tabs.GetToolTips(), &tips);
+
+    CStatusBarCtrl status;
+    ASSERT_TRUE(status.Create(shown | SBARS_TOOLTIPS, place, &parent, 2));
+    int ends[] = {30, 70}, kinds[3] = {}, across = 0, down = 0, between = 0, found[3] = {};
+    EXPECT_TRUE(status.SetParts(2, ends) && status.SetText("pane", 1, SBT_POPOUT));
+    EXPECT_STREQ(status.GetText(1, &kinds[0]), "pane");
+    EXPECT_TRUE(status.GetText(name, 1, &kinds[1]) == 4 && status.GetTextLength(1, &kinds[2]) == 4);
+    EXPECT_THAT(kinds, testing::Each(SBT_POPOUT));
+    EXPECT_STREQ(name, "pane");
+    status.SetTipText(1, "tip");
+    EXPECT_STREQ(status.GetTipText(1), "tip");
+    EXPECT_TRUE(status.GetBorders(found) && status.GetBorders(across, down, between));
+    EXPECT_THAT(found, testing::ElementsAre(across, down, between));
+
+    CSliderCtrl slider;
+    CSpinButtonCtrl spin;
+    CProgressCtrl progress;
+    ASSERT_TRUE(slider.Create(shown | TBS_ENABLESELRANGE | TBS_TOOLTIPS, place, &parent, 3) &&
+                spin.Create(shown, place, &parent, 4) && progress.Create(shown, place, &parent, 5));
+    int least[4] = {}, most[4] = {};
+    slider.SetRange(-5, 20);
+    slider.SetSelection(3, 8);
+    slider.SetToolTips(&tips);
+    spin.SetRange(-7, 30);
+    progress.SetRange(9, 40);
+    slider.GetRange(least[0], most[0]);
+    slider.GetSelection(least[1], most[1]);
+    spin.GetRange(least[2], most[2]);
+    progress.GetRange(least[3], most[3]);
+    EXPECT_THAT(least, testing::ElementsAre(-5, 3, -7, 9));
+    EXPECT_THAT(most, testing::ElementsAre(20, 8, 30, 40));
+    EXPECT_EQ(slider.GetToolTips(), &tips);
+}
+
+// Where this system's list does nothing, what it is told is all that shows.
+struct told_list : CListCtrl {
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (!listening)
+            return CListCtrl::WindowProc(message, wParam, lParam);
+        told.emplace_back(message, wParam, lParam);
+        return MAKELONG(3, 7);
+    }
+    std::vector<std::tuple<UINT, WPARAM, LPARAM>> told;
+    bool listening = false;
+};
+
+TEST_F(AfxCommonControls, ListsAreToldWhatTheProgramSays) {
+    told_list list;
+    ASSERT_TRUE(list.Create(shown, place, &parent, 1));
     LVGROUP group{};
     LVITEMINDEX item{2, 3};
-    const auto key = reinterpret_cast<WPARAM>(&item);
-    CRect where;
-    const LPARAM at = afx_param(&where), of = afx_param(&group);
+    CRect where, part;
+    int across = 0, down = 0;
     const PFNLVGROUPCOMPARE sorter = [](INT, INT, void*) { return 0; };
-    const auto sort = reinterpret_cast<WPARAM>(sorter);
-    expect_told<CListCtrl>(parent, LVM_INSERTGROUP, 2, of, [&](auto& l) { l.InsertGroup(2, &group); });
-    expect_told<CListCtrl>(parent, LVM_SORTGROUPS, sort, of, [&](auto& l) { l.SortGroups(sorter, &group); });
-    expect_told<CListCtrl>(parent, LVM_GETGROUPRECT, 7, at, [&](auto& l) { l.GetGroupRect(7, where, LVGGR_HEADER); });
-    EXPECT_EQ(where.top, LVGGR_HEADER);
-    expect_told<CListCtrl>(parent, LVM_GETITEMINDEXRECT, key, at,
-                           [&](auto& l) { l.GetItemIndexRect(&item, 4, LVIR_LABEL, where); });
-    EXPECT_TRUE(where.top == 4 && where.left == LVIR_LABEL);
-    expect_told<CListCtrl>(parent, LVM_GETNEXTITEMINDEX, key, 9, [&](auto& l) { l.GetNextItemIndex(&item, 9); });
-    expect_told<CTreeCtrl>(parent, TVM_SETEXTENDEDSTYLE, 1, 2, [](auto& t) { t.SetExtendedStyle(1, 2); });
-    expect_told<CHeaderCtrl>(parent, HDM_CLEARFILTER, WPARAM(-1), 0, [](auto& h) { h.ClearAllFilters(); });
-    expect_told<CHeaderCtrl>(parent, HDM_SETHOTDIVIDER, 1, 0x40003, [](auto& h) { h.SetHotDivider(CPoint(3, 4)); });
-    expect_told<CReBarCtrl>(parent, RB_MAXIMIZEBAND, 2, TRUE, [](auto& r) { r.RestoreBand(2); });
-    expect_told<CReBarCtrl>(parent, RB_BEGINDRAG, 2, 0xFFFFFFFF, [](auto& r) { r.BeginDrag(2); });
-    expect_told<CMonthCalCtrl>(parent, MCM_SETCURRENTVIEW, 0, MCMV_YEAR, [](auto& m) { m.SetYearView(); });
-    expect_told<CMonthCalCtrl>(parent, MCM_SETCALENDARBORDER, TRUE, 8, [](auto& m) { m.SetCalendarBorder(8); });
-    CListCtrl list;
-    ASSERT_TRUE(list.Create(shown, place, &parent, 1));
+    const auto key = reinterpret_cast<WPARAM>(&item), sort = reinterpret_cast<WPARAM>(sorter);
+    const LPARAM of = afx_param(&group);
     EXPECT_FALSE(list.SetItemIndexState(&item, LVIS_SELECTED, LVIS_SELECTED)) << "there is no such item";
+    list.listening = true;
+    list.InsertGroup(2, &group);
+    list.SortGroups(sorter, &group);
+    list.GetGroupRect(7, where, LVGGR_HEADER);
+    list.GetItemIndexRect(&item, 4, LVIR_LABEL, part);
+    list.GetNextItemIndex(&item, 9);
+    EXPECT_TRUE(list.GetItemSpacing(TRUE, &across, &down) && across == 3 && down == 7);
+    list.listening = false;
+    EXPECT_THAT(list.told, testing::ElementsAre(testing::FieldsAre(LVM_INSERTGROUP, 2, of),
+                                                testing::FieldsAre(LVM_SORTGROUPS, sort, of),
+                                                testing::FieldsAre(LVM_GETGROUPRECT, 7, afx_param(&where)),
+                                                testing::FieldsAre(LVM_GETITEMINDEXRECT, key, afx_param(&part)),
+                                                testing::FieldsAre(LVM_GETNEXTITEMINDEX, key, 9),
+                                                testing::FieldsAre(LVM_GETITEMSPACING, TRUE, 0)));
+    EXPECT_TRUE(where.top == LVGGR_HEADER && part.top == 4 && part.left == LVIR_LABEL);
 }
 
 TEST_F(AfxCommonControls, RichTextIsReadAndWrittenInItsRanges) {
@@ -147,21 +253,7 @@ TEST_F(AfxCommonControls, RichTextIsReadAndWrittenInItsRanges) {
     bold.dwEffects = CFE_BOLD;
     EXPECT_TRUE(edit.SetSelectionCharFormat(bold));
     EXPECT_EQ(edit.GetSelText(), "first");
-    PARAFORMAT2 apart{}, found{};
-    apart.dwMask = PFM_SPACEBEFORE;
-    apart.dySpaceBefore = 120;
-    EXPECT_TRUE(edit.SetParaFormat(apart) && edit.GetParaFormat(found) != 0 && found.dySpaceBefore == 120);
     EXPECT_EQ(std::string(line, static_cast<std::size_t>(edit.GetSelText(line))), "first");
-    std::string stream;
-    EDITSTREAM out{reinterpret_cast<DWORD_PTR>(&stream), 0, [](DWORD_PTR to, LPBYTE bytes, LONG count, LONG* done) {
-                       reinterpret_cast<std::string*>(to)->append(reinterpret_cast<char*>(bytes), *done = count);
-                       return DWORD{0};
-                   }};
-    edit.StreamOut(SF_RTF, out);
-    EXPECT_EQ(stream.rfind("{\\rtf", 0), 0u) << stream.substr(0, 40);
-    const std::size_t first = stream.find("first");
-    EXPECT_LT(stream.find("\\b"), first) << stream;
-    EXPECT_LT(first, stream.find("\\b0")) << stream;
 }
 
 // -- Dates ------------------------------------------------------------------------------------------------------------
@@ -256,8 +348,6 @@ TEST_F(AfxCommonControls, TipsAreChangedAndTakenBack) {
     EXPECT_FALSE(tips.HitTest(&parent, CPoint(55, 5), &found));
     tips.DelTool(&parent, 3);
     EXPECT_EQ(tips.GetToolCount(), 1);
-    tips.SetMaxTipWidth(120);
-    EXPECT_EQ(tips.GetMaxTipWidth(), 120);
     CToolInfo info;
     tips.UpdateTipText(CString('x', 600), &tool);
     EXPECT_TRUE(tips.GetToolInfo(info, &tool) && info.lpszText == info.szText && info.szText[0] == 'x');
@@ -284,15 +374,22 @@ TEST_F(AfxCommonControls, ChecksGoRoundThreeStatesAndShowThem) {
         list.UpdateWindow();
         CClientDC dc(&list);
         std::vector<COLORREF> look;
-        for (int x = 0; x < row.Height(); ++x)
+        for (int x = 0; x < row.Width(); ++x)
             for (int y = row.top; y < row.bottom; ++y)
                 look.push_back(dc.GetPixel(x, y));
         looks.push_back(look);
-        EXPECT_EQ(dc.GetPixel(row.right - 2, 0), dc.GetPixel(row.right - 3, 0)) << "the dots of a focus";
+        EXPECT_GT(std::ranges::count(look, ::GetSysColor(COLOR_HIGHLIGHTTEXT)), 10) << "its text";
+        for (const int x : {2, 3})
+            EXPECT_EQ(dc.GetPixel(row.right - x, 0), ::GetSysColor(COLOR_HIGHLIGHT)) << "the dots of a focus";
         list.SendMessage(WM_KEYDOWN, VK_SPACE);
     }
     EXPECT_TRUE(looks[0] != looks[1] && looks[1] != looks[2] && looks[0] == looks[3]);
     list.SetCheckStyle(BS_AUTOCHECKBOX);
+    list.Enable(0, FALSE);
+    list.SetItemData(0, 7);
+    list.SendMessage(WM_KEYDOWN, VK_SPACE);
+    EXPECT_TRUE(list.GetCheck(0) == 1 && !list.IsEnabled(0) && list.GetItemData(0) == 7) << "left alone";
+    list.Enable(0);
     list.SetCheck(1, 2);
     EXPECT_EQ(list.GetCheck(1), 0) << "there is no third state";
     list.SetCheckStyle(BS_CHECKBOX);
@@ -306,58 +403,39 @@ TEST_F(AfxCommonControls, ChecksGoRoundThreeStatesAndShowThem) {
 TEST_F(AfxCommonControls, ADraggedItemGoesWhereItIsDropped) {
     struct open_list : CDragListBox {
         using CDragListBox::OnChildNotify;
-        void DrawInsert(int item) override { marked = item, CDragListBox::DrawInsert(item); }
-        int marked = -1;
-    } list;
-    ASSERT_TRUE(list.Create(shown | LBS_NOTIFY, CRect(0, 0, 80, 60), &parent, 1));
-    const auto reset = [&] {
-        list.ResetContent();
+        void DrawInsert(int item) override { marks.push_back(item), CDragListBox::DrawInsert(item); }
+        std::vector<int> marks;
+    };
+    const std::tuple<int, int, UINT, std::string> rows[] = {
+        {2, 0, DL_DROPPED, "c2a0b1"}, {0, 2, DL_DROPPED, "b1a0c2"}, {0, 0, DL_DROPPED, "a0b1c2"},
+        {0, 1, DL_DROPPED, "a0b1c2"}, {1, 0, DL_DROPPED, "b1a0c2"}, {1, 0, DL_CANCELDRAG, "a0b1c2"},
+        {1, -1, DL_DROPPED, "a0b1c2"}};
+    for (const auto& [from, before, end, then] : rows) {
+        open_list list;
+        ASSERT_TRUE(list.Create(shown | LBS_NOTIFY, CRect(0, 0, 80, 60), &parent, 1));
         for (int i = 0; i < 3; ++i)
             list.SetItemData(list.AddString(CString(static_cast<char>('a' + i))), static_cast<DWORD_PTR>(i));
-    };
-    const auto row = [&](int item) {
-        CRect place;
-        list.GetItemRect(item, place);
-        CPoint middle = place.CenterPoint();
-        list.ClientToScreen(&middle);
-        return middle;
-    };
-    const auto order = [&] {
-        std::string found;
-        for (int i = 0; i < list.GetCount(); ++i) {
-            CString text;
-            list.GetText(i, text);
-            EXPECT_EQ(text[0] - 'a', static_cast<int>(list.GetItemData(i))) << "the data go along";
-            found += text;
-        }
-        return found;
-    };
-    // As the control tells of it.
-    const auto tell = [&](UINT what, CPoint at) {
-        DRAGLISTINFO drag{what, list.m_hWnd, at};
-        LRESULT result = 0;
-        EXPECT_TRUE(list.OnChildNotify(::RegisterWindowMessage(DRAGLISTMSGSTRING), 1, afx_param(&drag), &result));
-        return result;
-    };
-    for (const auto& [from, before, then] :
-         {std::tuple{2, 0, "cab"}, {0, 2, "bac"}, {0, 0, "abc"}, {0, 1, "abc"}, {1, 0, "bac"}}) {
-        reset();
         list.SetCurSel(from);
-        EXPECT_NE(tell(DL_BEGINDRAG, row(from)), 0);
-        EXPECT_EQ(tell(DL_DRAGGING, row(before)), DL_MOVECURSOR);
-        EXPECT_EQ(list.marked, before);
-        tell(DL_DROPPED, row(before));
-        EXPECT_EQ(order(), then) << from << " before " << before;
-        EXPECT_EQ(then[list.GetCurSel()], 'a' + from) << "it stays selected";
-        EXPECT_EQ(list.marked, -1);
+        CRect row;
+        list.GetItemRect(std::max(before, 0), row);
+        CPoint place = before < 0 ? CPoint(-500, -500) : row.CenterPoint();
+        list.ClientToScreen(&place);
+        std::vector<LRESULT> answers;
+        for (const UINT what : {UINT{DL_BEGINDRAG}, UINT{DL_DRAGGING}, end}) { // as the control tells of it
+            DRAGLISTINFO drag{what, list.m_hWnd, place};
+            EXPECT_TRUE(list.OnChildNotify(::RegisterWindowMessage(DRAGLISTMSGSTRING), 1, afx_param(&drag),
+                                           &answers.emplace_back()));
+        }
+        EXPECT_TRUE(answers[0] != 0 && answers[1] == (before < 0 ? DL_STOPCURSOR : DL_MOVECURSOR));
+        EXPECT_THAT(list.marks, testing::ElementsAre(before, -1));
+        CString order, text;
+        for (int i = 0; i < 3; ++i) {
+            list.GetText(i, text);
+            order.AppendFormat("%s%d", text, static_cast<int>(list.GetItemData(i)));
+        }
+        EXPECT_EQ(order, then.c_str()) << from << " before " << before;
+        EXPECT_EQ(list.GetItemData(list.GetCurSel()), from) << "it stays selected";
     }
-    reset();
-    list.SetCurSel(1);
-    EXPECT_EQ(tell(DL_DRAGGING, CPoint(-500, -500)), DL_STOPCURSOR);
-    tell(DL_DROPPED, CPoint(-500, -500));
-    tell(DL_DRAGGING, row(0));
-    tell(DL_CANCELDRAG, row(0));
-    EXPECT_TRUE(order() == "abc" && list.marked == -1);
 }
 
 // -- Lists of pictures ------------------------------------------------------------------------------------------------
@@ -406,6 +484,32 @@ TEST_F(AfxImageList, DrawsCopiesAndReplacesItsPictures) {
     ASSERT_TRUE(both.Create(list, 0, list, 1, 8, 0));
     EXPECT_EQ(drawn(both, 0).first, red);
     EXPECT_EQ(dc.GetPixel(20, 12), green) << "the second lies eight to the right";
+    dc.FillSolidRect(0, 0, 32, 16, blue);
+    EXPECT_TRUE(list.DrawIndirect(&dc, 1, CPoint(10, 2), CSize(5, 6), CPoint(1, 2), ILD_NORMAL));
+    Picture seen(6, 7);
+    ::BitBlt(seen.dc(), 0, 0, 6, 7, dc, 10, 2, SRCCOPY);
+    EXPECT_EQ(letters(seen.values(), 6, {{green, 'g'}, {blue, '.'}}),
+              "ggggg.\nggggg.\nggg...\nggg...\nggg...\nggg...\n......\n");
+}
+
+TEST_F(AfxImageList, OutlivesTheControlsThatShowIt) {
+    CListCtrl rows;
+    CTreeCtrl tree;
+    CTabCtrl tabs;
+    ASSERT_TRUE(rows.Create(shown, place, &parent, 1) && tree.Create(shown, place, &parent, 2) &&
+                tabs.Create(shown, place, &parent, 3));
+    CImageList lists[6];
+    for (CImageList& one : lists)
+        ASSERT_TRUE(one.Create(&list));
+    for (const int kind : {LVSIL_NORMAL, LVSIL_SMALL, LVSIL_STATE})
+        rows.SetImageList(&lists[kind], kind);
+    tree.SetImageList(&lists[3], TVSIL_NORMAL);
+    tree.SetImageList(&lists[4], TVSIL_STATE);
+    tabs.SetImageList(&lists[5]);
+    for (CWnd* control : {static_cast<CWnd*>(&rows), static_cast<CWnd*>(&tree), static_cast<CWnd*>(&tabs)})
+        control->DestroyWindow();
+    for (CImageList& one : lists)
+        EXPECT_EQ(one.GetImageCount(), 2) << &one - lists;
 }
 
 TEST_F(AfxImageList, GoesThroughAnArchiveBetweenOtherThings) {
@@ -426,15 +530,6 @@ TEST_F(AfxImageList, GoesThroughAnArchiveBetweenOtherThings) {
         EXPECT_EQ(read.GetImageCount(), 2);
         EXPECT_EQ(drawn(read, 1), std::pair(green, blue));
     });
-    for (const int length : {0, 3, 10, 40, 90}) {
-        CMemFile cut;
-        cut.Write(bytes_of(file).data() + 4, static_cast<UINT>(length));
-        cut.SeekToBegin();
-        CArchive ar(&cut, CArchive::load);
-        CImageList read;
-        EXPECT_FALSE(read.Read(&ar)) << length;
-        EXPECT_EQ(read.m_hImageList, nullptr);
-    }
 }
 
 TEST_F(AfxImageList, DragsOneOfItsPictures) {
@@ -471,6 +566,10 @@ TEST_F(AfxCommonControls, BitmapButtonsShowTheBitmapOfTheirState) {
     EXPECT_EQ(shows(0), RGB(255, 0, 0));
     EXPECT_EQ(shows(ODS_SELECTED), RGB(0, 0, 255));
     EXPECT_EQ(shows(ODS_DISABLED), RGB(255, 0, 0)) << "without one of its own";
+    const LPCTSTR up = MAKEINTRESOURCE(IDB_UP), down = MAKEINTRESOURCE(IDB_DOWN);
+    EXPECT_TRUE(button.LoadBitmaps(up, nullptr, down) && shows(ODS_SELECTED) == shows(0));
+    EXPECT_TRUE(shows(ODS_FOCUS) == RGB(0, 0, 255) && button.LoadBitmaps(up, nullptr, nullptr, down));
+    EXPECT_TRUE(shows(ODS_FOCUS) == shows(0) && shows(ODS_DISABLED) == RGB(0, 0, 255));
 }
 
 } // namespace

@@ -27,21 +27,6 @@ TEST_F(AfxDeviceContext, GivesBackWhatWasSelected) {
     EXPECT_FALSE(pen.CreatePen(PS_SOLID, 1, RGB(0, 0, 0))) << "it holds one already";
     const HGDIOBJ gone = pen.m_hObject;
     EXPECT_TRUE(pen.DeleteObject() && !pen.DeleteObject() && ::GetObjectType(gone) == 0);
-    const HDC plain = ::CreateCompatibleDC(dc);
-    EXPECT_EQ(CDC::FromHandle(plain)->m_hAttribDC, plain);
-    ::DeleteDC(plain);
-}
-
-TEST_F(AfxDeviceContext, ConvertsUnitsAndPutsThemBack) {
-    const int saved = dc.SaveDC();
-    dc.SetMapMode(MM_ANISOTROPIC);
-    EXPECT_EQ(dc.SetWindowExt(50, 50), CSize(1, 1));
-    dc.SetViewportExt(100, -100);
-    EXPECT_EQ(dc.SetViewportOrg(0, 100), CPoint(0, 0));
-    CRect rect(0, 100, 20, 80);
-    dc.DPtoLP(rect);
-    EXPECT_EQ(rect, CRect(0, 0, 10, 10));
-    EXPECT_TRUE(dc.RestoreDC(saved) && dc.GetMapMode() == MM_TEXT);
 }
 
 TEST_F(AfxDeviceContext, DragRectanglesVanishAgain) {
@@ -50,7 +35,10 @@ TEST_F(AfxDeviceContext, DragRectanglesVanishAgain) {
     dc.DrawDragRect(first, CSize(2, 2), nullptr, CSize(0, 0));
     EXPECT_TRUE(dc.GetPixel(10, 10) != RGB(12, 34, 56) || dc.GetPixel(11, 10) != RGB(12, 34, 56));
     dc.DrawDragRect(second, CSize(2, 2), first, CSize(2, 2));
-    dc.DrawDragRect(CRect(0, 0, 0, 0), CSize(2, 2), second, CSize(2, 2));
+    CBrush solid(RGB(255, 255, 255)), grey(RGB(128, 128, 128));
+    dc.DrawDragRect(first, CSize(3, 1), second, CSize(2, 2), &solid, CDC::GetHalftoneBrush());
+    EXPECT_TRUE(dc.GetPixel(20, 69) == RGB(12, 34, 56) && dc.GetPixel(12, 58) == RGB(243, 221, 199));
+    dc.DrawDragRect(CRect(0, 0, 0, 0), CSize(2, 2), first, CSize(3, 1), &grey, &solid);
     int changed = 0;
     for (int i = 0; i < 100 * 100; ++i)
         changed += dc.GetPixel(i % 100, i / 100) != RGB(12, 34, 56);
@@ -85,8 +73,7 @@ TEST_F(AfxDeviceContext, MapsUnitsOfLength) {
 }
 
 TEST_F(AfxDeviceContext, SplitsOutputFromAttributes) {
-    CDC other;
-    ASSERT_TRUE(other.CreateCompatibleDC(&dc));
+    canvas other(100, 100);
     CDC split; // draws on one, measures on the other
     split.SetOutputDC(dc);
     split.SetAttribDC(other);
@@ -100,6 +87,23 @@ TEST_F(AfxDeviceContext, SplitsOutputFromAttributes) {
     split.MoveTo(5, 5);
     split.LineTo(7, 9);
     EXPECT_TRUE(split.GetCurrentPosition() == CPoint(7, 9) && other.GetCurrentPosition() == CPoint(7, 9));
+    const POINT way[] = {{8, 1}, {2, 9}, {6, 12}};
+    std::vector<CPoint> ends;
+    const std::function<BOOL()> lines[] = {
+        [&] { return split.PolylineTo(way, 2); }, [&] { return split.PolyBezierTo(way, 3); },
+        [&] { return split.ArcTo(CRect(10, 20, 31, 41), CPoint(40, 30), CPoint(20, 0)); }};
+    for (const auto& draw : lines) {
+        EXPECT_TRUE(draw());
+        EXPECT_EQ(split.GetCurrentPosition(), dc.GetCurrentPosition());
+        ends.push_back(split.GetCurrentPosition());
+    }
+    EXPECT_THAT(ends, testing::ElementsAre(CPoint(2, 9), CPoint(6, 12), CPoint(20, 20)));
+    split.BeginPath();
+    split.Rectangle(10, 20, 31, 41);
+    split.EndPath();
+    CRect clips[2];
+    EXPECT_TRUE(split.SelectClipPath(RGN_COPY) && other.GetClipBox(clips[0]) && dc.GetClipBox(clips[1]));
+    EXPECT_THAT(clips, testing::Each(CRect(10, 20, 30, 40)));
     EXPECT_NE(split.SetTextColor(RGB(1, 2, 3)), RGB(1, 2, 3));
     EXPECT_EQ(dc.GetTextColor(), RGB(1, 2, 3));
     split.SaveDC();
@@ -151,15 +155,6 @@ TEST_F(AfxDeviceContext, ShortensTextsAndMeasuresGlyphs) {
     CRect place(0, 0, 1, 1);
     dc.DrawTextEx(CString("x"), place, DT_CALCRECT, &margins);
     EXPECT_EQ(place.Width(), dc.GetTextExtent("x").cx + 10) << "and the left margin";
-    WORD glyphs[2] = {};
-    auto* const placed_at = reinterpret_cast<LPWSTR>(glyphs);
-    GCP_RESULTS placed{sizeof(placed), nullptr, nullptr, nullptr, nullptr, nullptr, placed_at, 2, 0};
-    CString letters("Wi");
-    EXPECT_EQ(LOWORD(dc.GetCharacterPlacement(letters, 0, &placed, 0)), dc.GetTextExtent(letters).cx);
-    int widths[2] = {}, letter = 0;
-    CSize all;
-    EXPECT_TRUE(dc.GetCharWidthI(0, 2, glyphs, widths) && dc.GetTextExtentPointI(glyphs, 2, &all));
-    EXPECT_TRUE(dc.GetCharWidth('i', 'i', &letter) && letter == widths[1] && all.cx == widths[0] + widths[1]);
     dc.SelectObject(before);
 }
 

@@ -124,6 +124,7 @@ TEST_F(AfxFileModes, FoundOnesTellWhatTheyAre) {
     EXPECT_FALSE(find.FindNextFile()) << "nothing was looked for";
     std::string folders, files;
     CTime changed;
+    FILETIME raw{};
     for (BOOL more = find.FindFile(folder + "\\*"); more;) {
         more = find.FindNextFile();
         ((find.IsDirectory() ? folders : files) += "[").append(find.GetFileName()).append("]");
@@ -133,6 +134,7 @@ TEST_F(AfxFileModes, FoundOnesTellWhatTheyAre) {
             continue;
         EXPECT_TRUE(find.GetLength() == 5 && find.GetFileTitle() == "file" && find.GetFilePath() == name);
         EXPECT_TRUE(find.GetLastWriteTime(changed) && (CTime::GetCurrentTime() - changed).GetTotalSeconds() < 60);
+        EXPECT_TRUE(find.GetLastWriteTime(&raw) && CTime(raw) == changed);
         CString url = name;
         url.Replace('\\', '/'), url.Replace(" ", "%20");
         EXPECT_EQ(find.GetFileURL(), "file:///" + url);
@@ -144,7 +146,7 @@ TEST_F(AfxFileModes, FoundOnesTellWhatTheyAre) {
 }
 
 TEST_F(AfxFileModes, NamesAreChangedAndCausesAreTold) {
-    CFile(name, write_new).Close();
+    CFile(name, write_new).Write("12345", 5);
     CFile(folder + "\\second.tmp", write_new).Close();
     EXPECT_EQ(cause_of<CFileException>([&] { CFile::Rename(name, folder + "\\second.tmp"); }),
               CFileException::accessDenied);
@@ -156,11 +158,16 @@ TEST_F(AfxFileModes, NamesAreChangedAndCausesAreTold) {
     EXPECT_STREQ(status.m_szFullName, name);
     for (const CTime& time : {status.m_ctime, status.m_atime, status.m_mtime})
         EXPECT_LT((CTime::GetCurrentTime() - time).GetTotalSeconds(), 60);
-    status.m_mtime = CTime(2001, 2, 3, 4, 5, 6);
+    status.m_mtime = CTime(2002, 2, 3, 4, 5, 6);
+    status.m_atime = CTime(2003, 2, 3, 4, 5, 6);
     status.m_attribute |= CFile::readOnly;
     CFile::SetStatus(name, status);
-    ASSERT_TRUE(CFile::GetStatus(name, status));
-    EXPECT_TRUE(status.m_mtime == CTime(2001, 2, 3, 4, 5, 6) && (status.m_attribute & CFile::readOnly) != 0);
+    CFileStatus by_name, open;
+    ASSERT_TRUE(CFile::GetStatus(name, by_name) && CFile(name, CFile::modeRead).GetStatus(open));
+    for (const CFileStatus& now : {by_name, open}) {
+        EXPECT_TRUE(now.m_mtime == status.m_mtime && now.m_atime == status.m_atime);
+        EXPECT_TRUE(now.m_attribute == status.m_attribute && now.m_size == 5 && name == now.m_szFullName);
+    }
     status.m_attribute &= ~static_cast<DWORD>(CFile::readOnly);
     CFile::SetStatus(name, status);
     CFile::Rename(name, folder + "\\.dot");

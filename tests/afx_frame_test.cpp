@@ -2,7 +2,7 @@
 #include "afx_test_app.h"
 #include "held_keys.h"
 #include "modal.h"
-#include "trapping.h"
+#include "pixels.h"
 
 #include <afxext.h>
 #include <afxpriv.h>
@@ -13,7 +13,10 @@ using Texts = std::vector<std::string>;
 namespace {
 
 struct bar_frame : CFrameWnd {
-    CToolBar tools, more;
+    struct : CToolBar {
+        using CToolBar::m_hbmImageWell;
+    } tools;
+    CToolBar more;
     CStatusBar status;
     CDialogBar dialog;
     Texts log;
@@ -41,7 +44,7 @@ struct bar_frame : CFrameWnd {
     void OnOn() { log.push_back("on"); }
     void OnUpdateOff(CCmdUI* item) { item->Enable(!off); }
     void OnUpdateChecked(CCmdUI* item) { item->SetCheck(checked), item->SetText("Text"); }
-    void OnUpdatePane(CCmdUI* item) { item->Enable(), item->SetText("shown"); }
+    void OnUpdatePane(CCmdUI* item) { item->Enable(), item->SetRadio(), item->SetText("shown"); }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -81,6 +84,7 @@ TEST_F(AfxFrame, UpdatesItsMenuToolbarAndPanesByItsHandlers) {
     EXPECT_FALSE(frame.enabled(ID_TEST_NOBODY)) << "a command without handler";
     EXPECT_EQ(frame.tools.SendMessage(TB_GETSTATE, ID_TEST_CHECKED), TBSTATE_ENABLED | TBSTATE_CHECKED);
     EXPECT_STREQ(frame.status.GetPaneText(1), "shown");
+    EXPECT_EQ(frame.status.GetPaneStyle(1), UINT{SBPS_POPOUT});
     frame.off = false;
     frame.settle();
     EXPECT_TRUE(frame.enabled(ID_TEST_OFF));
@@ -242,7 +246,7 @@ TEST_F(AfxFrame, LaysOutDockedBarsAndRemembersThem) {
     EXPECT_EQ(top.top, 0);
     EXPECT_GT(top.Width(), 4 * 23) << "four buttons and a gap";
     EXPECT_LT(left.Width(), left.Height()) << "one below the other";
-    EXPECT_TRUE(status.bottom == all.bottom && status.Width() == all.Width());
+    EXPECT_TRUE(status.bottom == all.bottom && status.Width() == all.Width() && status.Height() > 15);
     EXPECT_EQ(middle, CRect(left.right, top.bottom, all.right, status.top));
     EXPECT_EQ(left.top, top.bottom) << "the upper side is above the left one, whichever was enabled first";
 
@@ -264,6 +268,10 @@ TEST_F(AfxFrame, LaysOutDockedBarsAndRemembersThem) {
                          CRect(beside.right, beside.top, beside.right + 10, beside.bottom));
     frame.RecalcLayout();
     EXPECT_EQ(frame.client_of(frame.more).TopLeft(), CPoint(frame.client_of(frame.tools).right, 0));
+    beside.OffsetRect(0, -beside.Height());
+    frame.DockControlBar(&frame.more, AFX_IDW_DOCKBAR_TOP, beside);
+    frame.RecalcLayout();
+    EXPECT_EQ(frame.client_of(frame.more).bottom, frame.client_of(frame.tools).top) << "above all rows";
     frame.LoadBarState("Layout");
     EXPECT_FALSE(frame.tools.IsVisible());
     EXPECT_EQ(frame.client_of(frame.more), CRect(CPoint(0, 0), left.Size()));
@@ -293,19 +301,39 @@ TEST_F(AfxFrame, ButtonsAndPanesKeepTheirStyles) {
     int image = 0;
     bar.GetButtonInfo(0, id, style, image);
     EXPECT_TRUE(style == UINT(TBBS_CHECKBOX | TBBS_CHECKED) && image == 1);
+    bar.GetButtonInfo(4, id, style, image);
+    EXPECT_TRUE(id == ID_TEST_NOBODY && image == 3);
     bar.SetButtonStyle(1, TBBS_BUTTON | TBBS_DISABLED);
     EXPECT_FALSE(frame.enabled(ID_TEST_OFF));
     bar.SetButtonText(1, "Label");
     EXPECT_STREQ(bar.GetButtonText(1), "Label");
+    CRect before(1, 2, 3, 4), after, button;
+    bar.GetItemRect(99, before);
+    bar.GetItemRect(1, button);
+    TOOLINFO tool{};
+    EXPECT_TRUE(before.IsRectEmpty() && bar.OnToolHitTest(button.CenterPoint(), &tool) == ID_TEST_OFF);
+    EXPECT_TRUE(tool.uId == ID_TEST_OFF && tool.hwnd == bar.m_hWnd && tool.rect == button);
+    EXPECT_EQ(tool.lpszText, LPSTR_TEXTCALLBACK);
+    const HBITMAP images = frame.tools.m_hbmImageWell;
+    bar.SendMessage(WM_SYSCOLORCHANGE);
+    EXPECT_TRUE(::GetObjectType(images) == 0 && ::GetObjectType(frame.tools.m_hbmImageWell) == OBJ_BITMAP);
+    bar.SetSizes(CSize(24, 22), CSize(16, 15));
+    bar.SetHeight(41);
+    EXPECT_EQ(bar.GetBorders(), CRect(2, 9, 2, 10));
 
     const UINT panes[] = {ID_SEPARATOR, ID_TEST_PANE};
     frame.status.SetIndicators(panes, 2);
-    CRect before, after;
     frame.status.GetItemRect(1, before);
     frame.status.SetPaneInfo(1, ID_TEST_PANE, SBPS_POPOUT, 200);
     frame.status.GetItemRect(1, after);
+    frame.status.GetPaneInfo(1, id, style, image);
+    EXPECT_TRUE(id == ID_TEST_PANE && style == SBPS_POPOUT && image == 200);
+    EXPECT_EQ(HIWORD(frame.status.SendMessage(SB_GETTEXTLENGTH, 1)), SBT_POPOUT);
     EXPECT_TRUE(before.Width() < 200 && after.Width() >= 200 && after.right <= inside_of(frame.status).right);
-    EXPECT_EQ(frame.status.GetPaneStyle(1), static_cast<UINT>(SBPS_POPOUT));
+    frame.status.SetPaneStyle(1, SBPS_STRETCH);
+    frame.status.GetItemRect(0, before);
+    frame.status.GetItemRect(1, after);
+    EXPECT_NEAR(before.Width(), after.Width(), 2) << "both share the width";
     EXPECT_FALSE(frame.status.SetPaneText(2, "none such"));
     auto* without = new CFrameWnd; // deletes itself
     EXPECT_FALSE(without->Create(nullptr, "x", WS_OVERLAPPEDWINDOW, CFrameWnd::rectDefault, nullptr, "NoSuchMenu"));
@@ -323,22 +351,69 @@ TEST_F(AfxToolBar, HasABackgroundWhereTheFrameLeavesItsOwnToTheView) {
     frame.SetActiveView(nullptr);
 }
 
+// Of a size of its own.
+struct plain_bar : CControlBar {
+    CSize size;
+    CSize CalcFixedLayout(BOOL, BOOL) override { return size; }
+    void OnUpdateCmdUI(CFrameWnd*, BOOL) override {}
+    using CControlBar::DoPaint;
+};
+
+TEST(AfxControlBar, TakesItsPartOfItsParentAndPaintsItsEdges) {
+    CWnd parent, rest;
+    ASSERT_TRUE(create_popup(parent)); // 120 x 80
+    constexpr DWORD sides[] = {CBRS_ALIGN_LEFT | CBRS_BORDER_RIGHT | CBRS_BORDER_BOTTOM | CBRS_GRIPPER,
+                               CBRS_ALIGN_TOP | CBRS_BORDER_LEFT | CBRS_BORDER_TOP | CBRS_GRIPPER, CBRS_ALIGN_RIGHT,
+                               CBRS_ALIGN_BOTTOM};
+    plain_bar bars[4];
+    std::vector<CRect> places;
+    for (int i = 0; i < 4; ++i) {
+        bars[i].size = CSize(14 + i, 9 + i);
+        bars[i].SetBarStyle(sides[i]);
+        ASSERT_TRUE(bars[i].CWnd::Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(), &parent, 100 + i));
+    }
+    ASSERT_TRUE(rest.Create(nullptr, "", WS_CHILD, CRect(), &parent, 200));
+    CRect left(1, 2, 3, 4), all;
+    parent.RepositionBars(100, 103, 200, CWnd::reposExtra, left);
+    for (const CWnd* wnd : {static_cast<CWnd*>(&bars[0]), static_cast<CWnd*>(&bars[1]), static_cast<CWnd*>(&bars[2]),
+                            static_cast<CWnd*>(&bars[3]), &rest})
+        places.push_back(place_in(parent, *wnd));
+    EXPECT_THAT(places, ElementsAre(CRect(0, 0, 14, 9), CRect(14, 0, 29, 10), CRect(104, 10, 120, 21),
+                                    CRect(14, 68, 31, 80), CRect(15, 12, 101, 64)));
+    parent.RepositionBars(100, 103, 200, CWnd::reposQuery, left, CRect(10, 20, 310, 220));
+    parent.RepositionBars(101, 102, 200, CWnd::reposQuery, all, nullptr, FALSE);
+    EXPECT_EQ(left, CRect(24, 30, 294, 208)) << "what the bars leave";
+    EXPECT_EQ(all, CRect(0, 0, 31, 11)) << "what they need";
+    bars[1].SetBorders(1, 2, 3, 4);
+    bars[1].CalcInsideRect(left = CRect(0, 0, 50, 40), TRUE);
+    bars[0].SetBorders(1, 2, 3, 4);
+    bars[0].CalcInsideRect(all = CRect(0, 0, 50, 40), FALSE);
+    EXPECT_EQ(left, CRect(8, 3, 47, 36));
+    EXPECT_EQ(all, CRect(1, 8, 46, 35));
+    Picture seen(30, 10);
+    CDC* dc = CDC::FromHandle(seen.dc());
+    bars[1].DoPaint(dc);
+    dc->SetViewportOrg(16, 0);
+    bars[0].DoPaint(dc);
+    const COLORREF light = ::GetSysColor(COLOR_3DHIGHLIGHT), dark = ::GetSysColor(COLOR_3DSHADOW);
+    EXPECT_EQ(letters(seen.values(), 30, {{0, '.'}, {light, '-'}, {dark, '#'}}), "---------------..............#\n"
+                                                                                 "-............................#\n"
+                                                                                 "-............................#\n"
+                                                                                 "-...--#...........--------#..#\n"
+                                                                                 "-...-.#...........-.......#..#\n"
+                                                                                 "-...-.#...........#########..#\n"
+                                                                                 "-...-.#......................#\n"
+                                                                                 "-...###......................#\n"
+                                                                                 "-...............##############\n"
+                                                                                 "-.............................\n");
+}
+
 TEST_F(AfxToolBar, HasTheBordersOfItsStyleAroundItsButtons) {
-    struct : CToolBar {
-        using CToolBar::DrawBorders;
-    } bar;
-    canvas dc(20, 20);
-    const auto inside = [&](DWORD style) {
-        CRect rect(0, 0, 20, 20);
-        bar.SetBarStyle(style);
-        return bar.DrawBorders(&dc, rect), rect;
-    };
-    EXPECT_EQ(inside(CBRS_BORDER_LEFT | CBRS_BORDER_RIGHT), CRect(1, 0, 19, 20));
-    EXPECT_EQ(inside(CBRS_BORDER_TOP | CBRS_BORDER_BOTTOM), CRect(0, 1, 20, 19));
-    EXPECT_EQ(inside(CBRS_BORDER_ANY | CBRS_FLOATING), CRect(0, 0, 20, 20));
     CToolBar& tools = frame.tools;
+    EXPECT_FALSE(tools.EnableToolTips(FALSE)) << "its style had none";
     tools.SetBarStyle(tools.GetBarStyle() | CBRS_BORDER_TOP | CBRS_TOOLTIPS);
     EXPECT_TRUE(tools.EnableToolTips()) << "its style has them";
+    EXPECT_EQ(on_screen(tools).Height() - inside_of(tools).Height(), 2 + 1 + 1 + 2);
     CClientDC(&tools).SetPixel(3, 3, RGB(255, 0, 0));
     tools.SendMessage(WM_NCPAINT, 1);
     EXPECT_EQ(CWindowDC(&tools).GetPixel(10, 0), ::GetSysColor(COLOR_3DHIGHLIGHT));
@@ -347,13 +422,28 @@ TEST_F(AfxToolBar, HasTheBordersOfItsStyleAroundItsButtons) {
 
 TEST_F(AfxReBar, HoldsTheFramesBars) {
     CReBar rebar;
+    constexpr COLORREF red = RGB(255, 0, 0), blue = RGB(0, 0, 255);
     ASSERT_TRUE(rebar.Create(&frame));
     const CSize wanted = frame.tools.CalcFixedLayout(FALSE, TRUE);
     ASSERT_TRUE(rebar.AddBar(&frame.tools) &&
-                rebar.AddBar(&frame.more, "More", nullptr, RBBS_BREAK | RBBS_GRIPPERALWAYS));
+                rebar.AddBar(&frame.more, red, blue, "More", RBBS_BREAK | RBBS_GRIPPERALWAYS));
     EXPECT_TRUE(raises<CInvalidArgException>([&] { rebar.AddBar(nullptr); }));
     EXPECT_TRUE(rebar.GetReBarCtrl().GetBandCount() == 2 && rebar.GetReBarCtrl().GetRowCount() == 2);
     EXPECT_EQ(::GetParent(frame.tools.m_hWnd), rebar.m_hWnd);
+    REBARBANDINFO band{};
+    char title[9] = "";
+    band.cbSize = REBARBANDINFOA_V6_SIZE;
+    band.fMask = RBBIM_COLORS | RBBIM_TEXT | RBBIM_STYLE | RBBIM_CHILD | RBBIM_ID;
+    band.lpText = title;
+    band.cch = sizeof(title);
+    EXPECT_TRUE(rebar.GetReBarCtrl().GetBandInfo(1, &band) && band.clrFore == red && band.clrBack == blue);
+    EXPECT_TRUE((band.fStyle & RBBS_BREAK) != 0 && band.hwndChild == frame.more.m_hWnd && band.wID == 0xE850);
+    EXPECT_STREQ(title, "More");
+    CRect button;
+    frame.tools.GetItemRect(1, button);
+    frame.tools.MapWindowPoints(&rebar, button);
+    EXPECT_EQ(rebar.OnToolHitTest(button.CenterPoint(), nullptr), ID_TEST_OFF);
+    EXPECT_EQ(rebar.OnToolHitTest(CPoint(1, 1), nullptr), -1) << "the gripper";
     frame.settle();
     const CRect place = frame.client_of(rebar);
     EXPECT_TRUE(place.Width() == inside_of(frame).Width() && place.Height() >= 2 * wanted.cy);
@@ -361,6 +451,10 @@ TEST_F(AfxReBar, HoldsTheFramesBars) {
     EXPECT_TRUE(frame.enabled(ID_TEST_ON));
     frame.tools.SendMessage(WM_COMMAND, ID_TEST_ON);
     EXPECT_THAT(frame.log, ElementsAre("on"));
+    frame.more.SetSizes(CSize(60, 60), CSize(16, 15));
+    rebar.SendMessage(WM_RECALCPARENT);
+    const int grown = frame.more.CalcFixedLayout(FALSE, TRUE).cy - wanted.cy;
+    EXPECT_TRUE(grown > 20 && int(rebar.GetReBarCtrl().GetBarHeight()) == place.Height() + grown);
     rebar.GetReBarCtrl().ShowBand(1, FALSE);
     EXPECT_TRUE(pumped_until([&] { return frame.client_of(rebar).Height() < place.Height() * 2 / 3; })) << "one row";
 }
@@ -442,56 +536,6 @@ TEST_F(AfxFrame, KeepsTheUserOutWhileItIsModal) {
     });
     modal.DoModal();
     EXPECT_TRUE(kept && frame.IsWindowEnabled() && shown.IsWindowEnabled()) << "though in front of another dialog";
-}
-
-// Ends one of its windows, or itself, while commands are updated.
-struct ending_frame : Trapping<CFrameWnd> {
-    template <class Bar> Bar* add() {
-        auto* bar = new Trapping<Bar>;
-        bar->m_bAutoDelete = TRUE;
-        return bar;
-    }
-    CToolBar* tools = add<CToolBar>();
-    CStatusBar* status = add<CStatusBar>();
-    CDialogBar* dialog = add<CDialogBar>();
-    CWnd* ends = nullptr;
-
-    bool open() {
-        const UINT pane = ID_TEST_PANE;
-        return LoadFrame(IDR_FRAME) && tools->Create(this) && tools->LoadToolBar(IDR_FRAME) && status->Create(this) &&
-               status->SetIndicators(&pane, 1) && dialog->Create(this, IDD_FORM, CBRS_TOP, 0xE850);
-    }
-
-    void OnUpdate(CCmdUI*) {
-        if (ends != nullptr)
-            std::exchange(ends, nullptr)->DestroyWindow();
-    }
-    DECLARE_MESSAGE_MAP()
-};
-
-BEGIN_MESSAGE_MAP(ending_frame, CFrameWnd)
-ON_UPDATE_COMMAND_UI_RANGE(ID_TEST_ON, ID_TEST_PANE, &ending_frame::OnUpdate)
-END_MESSAGE_MAP()
-
-TEST_F(AfxFrame, UpdateHandlersMayEndWhatIsUpdated) {
-    using Part = CWnd* (*)(ending_frame&);
-    const Part whole = [](ending_frame& frame) -> CWnd* { return &frame; };
-    for (const Part updated : {Part([](ending_frame& frame) -> CWnd* { return frame.tools; }),
-                               Part([](ending_frame& frame) -> CWnd* { return frame.status; }),
-                               Part([](ending_frame& frame) -> CWnd* { return frame.dialog; }), whole})
-        for (Part ends : {updated, whole}) {
-            auto* frame = new ending_frame;
-            ASSERT_TRUE(frame->open());
-            frame->ShowWindow(SW_SHOWNOACTIVATE);
-            frame->ends = ends(*frame);
-            const HWND wnd = frame->m_hWnd, end = frame->ends->m_hWnd;
-            if (updated == whole)
-                ::SendMessage(wnd, WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(::GetSubMenu(::GetMenu(wnd), 1)), 1);
-            else
-                updated(*frame)->SendMessage(WM_IDLEUPDATECMDUI, TRUE);
-            EXPECT_FALSE(::IsWindow(end)) << "its handler was asked";
-            ::DestroyWindow(wnd);
-        }
 }
 
 } // namespace

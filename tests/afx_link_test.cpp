@@ -35,42 +35,13 @@ TEST_F(AfxLinks, TheirTextsAndStatesAreReadAndSet) {
 
 TEST_F(AfxLinks, RoomAndTextsAreBounded) {
     WCHAR id[MAX_LINKID_TEXT] = L"before", url[L_MAX_URL_LENGTH] = L"before";
-    EXPECT_FALSE(links.GetItemID(0, id, MAX_LINKID_TEXT - 1) || links.GetItemUrl(0, url, MAX_LINKID_TEXT - 1) ||
-                 links.GetItemID(0, nullptr, 1000));
-    EXPECT_TRUE(std::wstring(id) == L"before" && std::wstring(url) == L"before");
-    EXPECT_TRUE(links.GetItemID(0, id, MAX_LINKID_TEXT) && std::wstring(id) == L"first");
-    EXPECT_TRUE(links.GetItemUrl(0, url, MAX_LINKID_TEXT) && std::wstring(url) == L"http://one/");
-    const std::wstring longer(60, L'f');
+    const std::wstring longer(60, L'f'), longest(MAX_LINKID_TEXT - 1, L'x');
+    EXPECT_FALSE(links.GetItemID(0, id, MAX_LINKID_TEXT - 1) || links.GetItemUrl(0, nullptr, 1000));
+    EXPECT_TRUE(std::wstring(id) == L"before" && links.GetItemID(0, id, MAX_LINKID_TEXT) &&
+                std::wstring(id) == L"first");
     EXPECT_TRUE(links.SetItemUrl(0, longer.c_str()) && links.GetItemUrl(0, url, 61) && url == longer);
-    EXPECT_FALSE(links.GetItemUrl(0, url, 60) || links.GetItem(nullptr) || links.SetItem(nullptr) ||
-                 links.HitTest(nullptr) || links.GetItemState(0, nullptr));
-    const std::wstring longest(MAX_LINKID_TEXT - 1, L'x');
+    EXPECT_FALSE(links.GetItemUrl(0, url, 60) || links.SetItemID(0, (longest + L"x").c_str()));
     EXPECT_TRUE(links.SetItemID(0, longest.c_str()) && links.GetItemID(0, id, MAX_LINKID_TEXT) && id == longest);
-    EXPECT_FALSE(links.SetItemID(0, (longest + L"x").c_str()) || links.SetItemID(0, nullptr) ||
-                 links.SetItemUrl(0, std::wstring(L_MAX_URL_LENGTH, L'x').c_str()));
-}
-
-TEST_F(AfxLinks, TheirPlaceIsMeasured) {
-    links.UpdateWindow();
-    LHITTESTINFO hit{};
-    std::string found; // along the first line
-    for (hit.pt = {0, 8}; hit.pt.x < 100; ++hit.pt.x) {
-        const char link = links.HitTest(&hit) ? static_cast<char>('0' + hit.item.iLink) : '-';
-        if (!found.ends_with(link))
-            found += link;
-    }
-    EXPECT_EQ(found, "-0-1-");
-    SIZE wide{}, narrow{};
-    EXPECT_EQ(links.GetIdealSize(500, &wide), wide.cy);
-    EXPECT_EQ(links.GetIdealSize(30, &narrow), narrow.cy);
-    EXPECT_TRUE(wide.cy > 0 && narrow.cy > wide.cy && wide.cx > narrow.cx);
-    EXPECT_GT(links.GetIdealHeight(), 0);
-}
-
-TEST_F(AfxLinks, TakeStylesWithoutMarkup) {
-    CLinkCtrl again;
-    EXPECT_TRUE(again.CreateEx(WS_EX_CLIENTEDGE, shown, place, &parent, 8) && text_of(again).empty());
-    EXPECT_TRUE((again.GetExStyle() & WS_EX_CLIENTEDGE) != 0 && again.GetDlgCtrlID() == 8);
 }
 
 } // namespace

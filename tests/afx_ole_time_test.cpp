@@ -34,12 +34,37 @@ TEST(AfxOleTime, CountsOverTheDayThatIsZero) {
     const COleDateTimeSpan span(-1, -2, -3, -4);
     EXPECT_TRUE(span.GetDays() == -1 && span.GetHours() == -2 && span.GetMinutes() == -3 && span.GetSeconds() == -4);
     EXPECT_EQ(COleDateTimeSpan(0.99999999).GetDays(), 1) << "whole seconds";
+    const COleDateTimeSpan unknown = COleDateTime(1e8) - after, half(0.5);
     COleDateTime none = after;
     none.SetStatus(COleDateTime::null);
     EXPECT_EQ((none + span).GetStatus(), COleDateTime::null);
-    EXPECT_EQ((none - before).GetStatus(), COleDateTimeSpan::null);
+    const COleDateTimeSpan nothing = none - before;
+    EXPECT_THAT((std::vector{nothing.GetStatus(), (nothing + half).GetStatus(), (half + nothing).GetStatus()}),
+                testing::Each(COleDateTimeSpan::null));
+    EXPECT_TRUE((half + unknown).GetStatus() == COleDateTimeSpan::invalid && (half + half).GetTotalDays() == 1);
     EXPECT_EQ((after + COleDateTimeSpan(1e8)).GetStatus(), COleDateTime::invalid);
-    EXPECT_EQ((COleDateTime(1e8) - after).Format("%D"), "Invalid DateTimeSpan");
+    EXPECT_EQ(unknown.Format("%D"), "Invalid DateTimeSpan");
+}
+
+TEST(AfxOleTime, ComesFromTheSystemsOtherForms) {
+    const COleDateTime time(2024, 7, 14, 8, 9, 10);
+    FILETIME file;
+    AfxTimeToFileTime(CTime(2024, 7, 14, 8, 9, 10), &file);
+    VARIANT text{};
+    text.vt = VT_BSTR;
+    text.bstrVal = ::SysAllocString(L"2024-07-14 08:09:10");
+    for (const COleDateTime& same : {COleDateTime(file), COleDateTime(text),
+                                     COleDateTime(WORD(44 << 9 | 7 << 5 | 14), WORD(8 << 11 | 9 << 5 | 5))})
+        EXPECT_TRUE(same == time && same.GetStatus() == COleDateTime::valid) << same.Format().GetString();
+    const auto status_of = [](VARTYPE type) {
+        VARIANT value{};
+        value.vt = type;
+        return COleDateTime(value).GetStatus();
+    };
+    EXPECT_THAT((std::vector{status_of(VT_NULL), status_of(VT_EMPTY), status_of(VT_DISPATCH)}),
+                testing::ElementsAre(COleDateTime::null, COleDateTime::valid, COleDateTime::invalid));
+    EXPECT_LT(std::abs((COleDateTime::GetCurrentTime() - COleDateTime(std::time(nullptr))).GetTotalSeconds()), 5);
+    ::SysFreeString(text.bstrVal);
 }
 
 TEST(AfxOleTime, IsWrittenReadAndStored) {

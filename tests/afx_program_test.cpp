@@ -13,7 +13,12 @@ END_MESSAGE_MAP()
 namespace {
 
 class framework : public testing::Environment {
-    void SetUp() override { ASSERT_TRUE(AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), 0)); }
+    void SetUp() override {
+        ASSERT_TRUE(AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), 0));
+        char folder[MAX_PATH];
+        ::GetWindowsDirectory(folder, MAX_PATH);
+        ::DeleteFile(CString(folder) + "\\" + the_app.m_pszProfileName); // what tests before this one left
+    }
 };
 const testing::Environment* const environment = testing::AddGlobalTestEnvironment(new framework);
 

@@ -1,7 +1,6 @@
 // Buttons with a menu beside them.
 #include "afx_test_app.h"
 #include "newer_controls.h"
-#include "pixels.h"
 
 #include <afxcmn.h>
 
@@ -14,8 +13,6 @@ public:
         CString text;
         menu->GetMenuString(0, text, MF_BYPOSITION);
         texts.push_back(text.GetString());
-        if (while_shown)
-            while_shown();
         PostMessage(WM_KEYDOWN, VK_DOWN);
         PostMessage(WM_KEYDOWN, VK_RETURN);
     }
@@ -26,7 +23,6 @@ public:
 public:
     std::vector<std::string> texts;
     std::vector<UINT> commands;
-    std::function<void()> while_shown;
     int told = 0;
 };
 
@@ -42,13 +38,10 @@ protected:
         ASSERT_TRUE(button.Create(WS_CHILD | WS_VISIBLE, CRect(5, 5, 65, 30), &parent, 7));
         NMBCDROPDOWN notice{{button, 7, BCN_DROPDOWN}, {}};
         parent.SendMessage(WM_NOTIFY, 7, reinterpret_cast<LPARAM>(&notice));
-        dispatch();
-        button.DestroyWindow();
-    }
-    static void dispatch() { // the command may be posted
         MSG message;
-        while (::PeekMessage(&message, nullptr, 0, 0, PM_REMOVE))
+        while (::PeekMessage(&message, nullptr, 0, 0, PM_REMOVE)) // the command may be posted
             ::DispatchMessage(&message);
+        button.DestroyWindow();
     }
     static CMenu* menu_of(UINT command) {
         auto* menu = new CMenu;
@@ -70,32 +63,6 @@ TEST_F(AfxSplitButton, ShowsItsMenuAndItsParentGetsTheCommand) {
     own.SetDropDownMenu(IDR_FRAME, 1);
     drop(own);
     EXPECT_EQ(parent.texts.back(), "On");
-}
-
-TEST_F(AfxSplitButton, ItsMenuOutlivesWhatHappensWhileItIsShown) {
-    CSplitButton replaced(menu_of(300));
-    auto* deleted = new CSplitButton(menu_of(301));
-    parent.while_shown = [&] { replaced.SetDropDownMenu(menu_of(400)); };
-    drop(replaced);
-    parent.while_shown = [&] { delete std::exchange(deleted, nullptr); };
-    CSplitButton& going = *deleted;
-    ASSERT_TRUE(going.Create(WS_CHILD | WS_VISIBLE, CRect(5, 5, 65, 30), &parent, 7));
-    NMBCDROPDOWN notice{{going, 7, BCN_DROPDOWN}, {}};
-    parent.SendMessage(WM_NOTIFY, 7, reinterpret_cast<LPARAM>(&notice));
-    dispatch();
-    EXPECT_THAT(parent.commands, testing::ElementsAre(300u, 301u));
-}
-
-TEST_F(AfxSplitButton, DeletesItsMenus) {
-    const Counts before;
-    for (int i = 0; i < 200; ++i) {
-        CSplitButton button(menu_of(300));
-        CMenu* second = menu_of(301);
-        button.SetDropDownMenu(second);
-        button.SetDropDownMenu(second);
-        EXPECT_TRUE(::IsMenu(*second));
-    }
-    EXPECT_LT(before.grown(), 20);
 }
 
 } // namespace

@@ -21,6 +21,8 @@ struct test_app : CWinApp {
     }
     BOOL ProcessMessageFilter(int code, LPMSG) override { return code == filtered; }
     using CWinApp::EnableShellOpen, CWinApp::SetDialogBkColor;
+    using CWinApp::LoadStdProfileSettings, CWinApp::OnOpenRecentFile, CWinApp::OnUpdateRecentFileMenu,
+        CWinApp::SaveStdProfileSettings;
     void WinHelp(DWORD_PTR topic, UINT command) override { helped.push_back(topic << 8 | command); }
     // The registry's key, or null for a file.
     void use_settings(const char* key) {

@@ -36,7 +36,6 @@
 #define IDC_ROWS 1117
 #define IDC_TREE 1118
 #define IDC_TABS 1119
-#define IDR_FILM 160
 #define IDB_UP 161
 #define IDB_DOWN 162
 #define IDR_NEW_CONTROLS 163

@@ -39,19 +39,13 @@ TEST(AfxStringEdges, NoTextIsAnEmptyOne) {
     EXPECT_TRUE(text.IsEmpty() && CString(none_wide).IsEmpty() && CString(none, 3).IsEmpty());
     EXPECT_TRUE(text == none && text.Compare(none) == 0 && text.CollateNoCase(none) == 0 && !(text < none));
     EXPECT_TRUE(text.Find(none) == -1 && text.Insert(0, none) == 0 && text.Replace(none, "x") == 0);
-    EXPECT_TRUE(text.SpanIncluding(none).IsEmpty() && text.TrimLeft(none).IsEmpty());
     text.Format(none);
     EXPECT_TRUE(text.IsEmpty());
     EXPECT_FALSE(text.LoadString(0xFFF0u) || text.GetEnvironmentVariable("NO SUCH VARIABLE"));
-    EXPECT_EQ(CString('x', -3).GetLength(), 0);
     char printed[20];
     const CString letter = 'x';
     EXPECT_EQ(sprintf(printed, "%s%d%s", letter, 5, letter + "y") + sprintf_s(printed, "%s%s", "z", letter), 6);
     EXPECT_STREQ(printed, "zx");
-    const struct : CString { using CString::CString; } derived("d");
-    text.Format("%s", derived);
-    EXPECT_EQ(_snprintf_s(printed, sizeof(printed), _TRUNCATE, "%s%s", text, derived), 2);
-    EXPECT_STREQ(printed, "dd");
     text = L'\x20AC';
     text += L'\x20AC';
     EXPECT_EQ(text, CString(L'\x20AC') + CString(L"\x20AC"));
@@ -79,10 +73,6 @@ TEST(AfxStringEdges, BuffersKeepTheTextUntilTheyAreReleased) {
     EXPECT_STREQ(text, "sho");
     const CString zeros("a\0b", 3);
     EXPECT_TRUE(zeros.GetLength() == 3 && (zeros + zeros).GetLength() == 6 && zeros.Mid(2) == "b");
-    CString copy = zeros;
-    copy.Preallocate(1000);
-    copy.FreeExtra();
-    EXPECT_EQ(copy.GetLength(), 3);
     BSTR wide = zeros.AllocSysString();
     EXPECT_EQ(::SysStringLen(wide), 3u);
     CString("other").SetSysString(&wide);
@@ -118,6 +108,7 @@ TEST(AfxTimeEdges, FieldsThatAreNoneAreRefused) {
     for (const auto& w : wrong)
         EXPECT_TRUE(raises<CInvalidArgException>([&] { CTime(w[0], w[1], w[2], w[3], w[4], w[5]); })) << w[0] << w[1];
     EXPECT_EQ(CTime(2023, 2, 29, 0, 0, 0), CTime(2023, 3, 1, 0, 0, 0)) << "days of longer months run on";
+    EXPECT_TRUE(CTime(1970, 1, 2, 0, 0, 0).GetYear() == 1970 && CTime(3000, 12, 31, 0, 0, 0).GetYear() == 3000);
     const SYSTEMTIME never{};
     EXPECT_EQ(CTime(never), CTime());
     const FILETIME far_off = {0xFFFFFFFF, 0x7FFFFFFF};
@@ -154,8 +145,7 @@ TEST(AfxGenericText, FunctionsOfTheOldNamesAreThere) {
     EXPECT_TRUE(_tcscmp(text, _T("one, two")) == 0 && _tcsicmp(text, _T("ONE, TWO")) == 0);
     EXPECT_TRUE(_tcschr(text, _T(',')) == text + 3 && _tcsrchr(text, 'o') == text + 7 && _tcsinc(text) == text + 1);
     EXPECT_TRUE(_tcsstr(text, _T("two")) == text + 5 && _tcsncmp(text, _T("onto"), 2) == 0 && _tcsclen(text) == 8);
-    EXPECT_STREQ(_tcsupr(_tcsrev(text)), "OWT ,ENO");
-    EXPECT_STREQ(_tcstok(text, _T(" ,")), "OWT");
+    EXPECT_STREQ(_tcstok(_tcsupr(_tcsrev(text)), _T(" ,")), "OWT");
     EXPECT_TRUE(_tcsncpy_s(text, 20, _T("three"), 2) == 0 && _tcsnicmp(text, _T("TH"), 3) == 0);
 }
 

@@ -170,6 +170,13 @@ TEST(AfxSync, LocksAreTakenInTimeAndGivenBack) {
     CMultiLock both(objects, 2);
     EXPECT_EQ(both.Lock(0), static_cast<DWORD>(WAIT_TIMEOUT));
     EXPECT_TRUE(both.Lock(0, FALSE) == WAIT_OBJECT_0 && both.IsLocked(0) && !both.IsLocked(1));
+    EXPECT_TRUE(both.Unlock(1, &before) && before == 1 && !both.IsLocked(0) && !both.Unlock(1));
+    {
+        CSingleLock one(&two, TRUE);
+        EXPECT_TRUE(two.Lock(0) && one.Unlock(2, &before) && before == 0 && !one.IsLocked());
+    }
+    manual.SetEvent();
+    EXPECT_TRUE(both.Lock(0) == WAIT_OBJECT_0 && both.IsLocked(1) && both.Unlock(1) && both.IsLocked(1));
     for (const DWORD wrong : {DWORD{0}, DWORD{MAXIMUM_WAIT_OBJECTS + 1}})
         EXPECT_TRUE(raises<CInvalidArgException>([&] { CMultiLock(objects, wrong); }));
     EXPECT_TRUE((CMutex(FALSE, "afx_test"), ::CloseHandle(::OpenMutex(SYNCHRONIZE, FALSE, "afx_test"))));
@@ -205,6 +212,43 @@ TEST(AfxSettings, ReadBackWhatWasWrittenInTheRegistryAndInAFile) {
     const CString place = CString("Software\\ZopwntTest\\") + the_app.m_pszProfileName;
     EXPECT_EQ(the_app.DelRegTree(HKEY_CURRENT_USER, place), ERROR_SUCCESS) << "where it was";
     the_app.use_settings(nullptr);
+}
+
+TEST(AfxSettings, KeepTheFilesThatWereUsedLast) {
+    the_app.LoadStdProfileSettings(2);
+    for (const char* name : {"C:\\1.note", "C:\\2.note", "C:\\3.note"})
+        the_app.AddToRecentFileList(name);
+    the_app.SaveStdProfileSettings();
+    EXPECT_TRUE(the_app.OnOpenRecentFile(ID_FILE_MRU_FILE1) && !the_app.OnOpenRecentFile(ID_FILE_MRU_FILE1 + 2));
+    the_app.SaveStdProfileSettings();
+    const auto kept = [](const char* entry) { return the_app.GetProfileString("Recent File List", entry, "none"); };
+    EXPECT_STREQ(kept("File1") + kept("File2"), "C:\\2.notenone") << "what does not open goes";
+    CMenu menu;
+    CCmdUI item;
+    ASSERT_TRUE(menu.CreatePopupMenu() && menu.AppendMenu(MF_STRING, item.m_nID = ID_FILE_MRU_FILE1, "Recent"));
+    item.m_pMenu = &menu;
+    for (const UINT count : {0, 4}) {
+        the_app.LoadStdProfileSettings(count);
+        the_app.OnUpdateRecentFileMenu(&item);
+        CString text;
+        menu.GetMenuString(0, text, MF_BYPOSITION);
+        EXPECT_EQ(text, count == 0 ? "Recent" : "&1 C:\\2.note");
+        EXPECT_EQ((menu.GetMenuState(0, MF_BYPOSITION) & MF_GRAYED) != 0, count == 0);
+    }
+    the_app.LoadStdProfileSettings(0);
+}
+
+TEST(AfxCommandLine, IsTakenFromTheProgramsArguments) {
+    const char* words[] = {"program", "/pt", "a.note", "-dde2", "laser", "driver", "port", nullptr};
+    const int count = std::exchange(__argc, 7);
+    char** const before = std::exchange(__argv, const_cast<char**>(words));
+    CCommandLineInfo info;
+    the_app.ParseCommandLine(info);
+    __argc = count;
+    __argv = before;
+    EXPECT_EQ(info.m_nShellCommand, CCommandLineInfo::FilePrintTo);
+    EXPECT_STREQ(info.m_strFileName + info.m_strPrinterName + info.m_strDriverName + info.m_strPortName,
+                 "a.notelaserdriverport");
 }
 
 } // namespace

@@ -1,9 +1,14 @@
 // Rectangles that follow the pointer, and device contexts that record.
 #include "afx_test_app.h"
+#include "pixels.h"
 
 #include <afxext.h>
 
+#include <numeric>
+
 namespace {
+
+constexpr COLORREF white = RGB(255, 255, 255);
 
 // A tracking is run by messages that lie in the queue before it begins.
 struct AfxTracker : WithParent {
@@ -42,13 +47,30 @@ TEST_F(AfxTracker, MovesSidesCornersAndTheWhole) {
     tracker.m_rect.SetRect(95, 20, 80, 60);
     EXPECT_EQ(tracker.HitTest({10, 10}), CRectTracker::hitNothing);
 
-    CRectTracker band;
+    struct : CRectTracker {
+        void OnChangedRect(const CRect&) override { look(); }
+        std::function<void()> look;
+    } band;
+    std::vector<std::vector<COLORREF>> seen;
+    band.look = [&] {
+        Picture now(120, 80);
+        now.capture(parent);
+        seen.push_back(now.values());
+    };
     queue(WM_LBUTTONUP, 10, 10);
     EXPECT_FALSE(band.TrackRubberBand(&parent, {10, 10})) << "a click";
     queue(WM_MOUSEMOVE, 50, 40);
-    queue(WM_LBUTTONUP, 50, 40);
+    queue(WM_MOUSEMOVE, 70, 60);
+    queue(WM_MOUSEMOVE, 90, 70);
+    queue(WM_LBUTTONUP, 90, 70);
     EXPECT_TRUE(band.TrackRubberBand(&parent, {10, 10}));
-    EXPECT_EQ(band.m_rect, CRect(10, 10, 50, 40));
+    EXPECT_EQ(band.m_rect, CRect(10, 10, 90, 70));
+    band.look();
+    std::vector<long> changed_pixels;
+    for (const auto& now : seen)
+        changed_pixels.push_back(
+            120 * 80 - std::inner_product(now.begin(), now.end(), seen[0].begin(), 0L, std::plus(), std::equal_to()));
+    EXPECT_THAT(changed_pixels, testing::ElementsAre(0, 0, 68, 108, 0)) << "half of the frame's pixels, and no trace";
 }
 
 TEST_F(AfxTracker, DrawsHandlesWhereItFindsThem) {
@@ -69,6 +91,51 @@ TEST_F(AfxTracker, DrawsHandlesWhereItFindsThem) {
         }
         EXPECT_EQ(black, 8 * 16) << style;
     }
+}
+
+TEST_F(AfxTracker, ShowsItsStyleAndItsCursors) {
+    Picture seen(55, 12);
+    seen.clear(white);
+    CDC* dc = CDC::FromHandle(seen.dc());
+    std::vector<CRect> outside;
+    int left = 2;
+    const UINT styles[] = {CRectTracker::solidLine, CRectTracker::dottedLine, CRectTracker::hatchInside,
+                           CRectTracker::hatchedBorder | CRectTracker::resizeOutside};
+    for (const UINT style : styles) {
+        CRectTracker tracker(CRect(left, 3, left < 38 ? left + 8 : 52, 9), style);
+        tracker.m_nHandleSize = 3;
+        tracker.Draw(dc);
+        tracker.GetTrueRect(&outside.emplace_back());
+        left += 12;
+    }
+    EXPECT_EQ(letters(seen.values(), 55, {{white, '.'}, {0, '#'}}),
+              ".......................................................\n"
+              "....................................###....####....###.\n"
+              ".##########...###...###.............###....###.....###.\n"
+              ".#........#...........#.....#.......###....###.....###.\n"
+              ".#........#...........#....#...........................\n"
+              ".#........#..#............#............................\n"
+              ".#........#..#...................#.....................\n"
+              ".#........#..#..................#......................\n"
+              ".#........#...........#........#....###....###.....###.\n"
+              ".##########....###...##.............###....####....###.\n"
+              "....................................###....###.....###.\n"
+              ".......................................................\n");
+    EXPECT_THAT(outside, testing::ElementsAre(CRect(1, 2, 11, 10), CRect(13, 2, 23, 10), CRect(26, 3, 34, 9),
+                                              CRect(36, 1, 54, 11)));
+    const CRectTracker tracker(CRect(20, 20, 80, 60), CRectTracker::resizeInside);
+    const std::pair<CPoint, LPCTSTR> cursors[] = {{{21, 21}, IDC_SIZENWSE}, {{78, 40}, IDC_SIZEWE},
+                                                  {{50, 21}, IDC_SIZENS},   {{22, 58}, IDC_SIZENESW},
+                                                  {{50, 40}, IDC_SIZEALL},  {{5, 5}, nullptr}};
+    for (const auto& [place, cursor] : cursors) {
+        CPoint point = place;
+        parent.ClientToScreen(&point);
+        ::SetCursorPos(point.x, point.y);
+        ::SetCursor(nullptr);
+        EXPECT_EQ(tracker.SetCursor(&parent, HTCLIENT), cursor != nullptr);
+        EXPECT_EQ(::GetCursor(), cursor != nullptr ? ::LoadCursor(nullptr, cursor) : nullptr) << place.x;
+    }
+    EXPECT_FALSE(tracker.SetCursor(&parent, HTCAPTION));
 }
 
 TEST_F(AfxTracker, ARecordingIsPlayedWhereItIsWanted) {
