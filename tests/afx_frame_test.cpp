@@ -135,6 +135,12 @@ TEST_F(AfxFrame, ShowsPromptsOfMenusAndOfButtonsUnderThePointer) {
     tip.hdr = {frame.tools.m_hWnd, ID_TEST_ON, static_cast<UINT>(TTN_NEEDTEXTA)};
     EXPECT_EQ(frame.SendMessage(WM_NOTIFY, ID_TEST_ON, reinterpret_cast<LPARAM>(&tip)), 0);
     EXPECT_STREQ(tip.szText, "On");
+    ::SetWindowLongPtr(frame.more, GWLP_ID, ID_TEST_ON);
+    TOOLTIPTEXTW wide{};
+    wide.hdr = {frame.more, reinterpret_cast<UINT_PTR>(frame.more.m_hWnd), static_cast<UINT>(TTN_NEEDTEXTW)};
+    wide.uFlags = TTF_IDISHWND;
+    frame.SendMessage(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&wide));
+    EXPECT_STREQ(wide.szText, L"On");
 }
 
 // A key goes through the frame, then the command that the platform makes of it; the next key ends the menu.
@@ -219,9 +225,52 @@ TEST_F(AfxFrame, HasTheProgramsIconAndUpdatesItselfWhenIdle) {
     frame.DelayUpdateFrameTitle();
     frame.DelayUpdateFrameMenu(other);
     EXPECT_TRUE(text_of(frame) != "later" && frame.GetMenu()->m_hMenu != other.m_hMenu);
-    frame.settle();
+    frame.ShowControlBar(&frame.tools, FALSE, TRUE);
+    EXPECT_TRUE(frame.tools.IsWindowVisible());
+    the_app.OnIdle(0);
     EXPECT_TRUE(text_of(frame) == "later" && frame.GetMenu()->m_hMenu == other.m_hMenu);
+    EXPECT_FALSE(frame.tools.IsWindowVisible());
+    the_app.m_pMainWnd = &frame;
+    frame.SetTitle("last");
+    frame.DelayUpdateFrameTitle();
+    the_app.OnIdle(0);
+    EXPECT_EQ(text_of(frame), "last");
+    the_app.m_pMainWnd = nullptr;
     frame.OnUpdateFrameMenu(nullptr);
+    frame.ShowWindow(SW_MINIMIZE);
+    frame.ActivateFrame();
+    EXPECT_FALSE(frame.IsIconic());
+}
+
+// Writes down the items that it is asked about; at the second one the first goes.
+struct asked_frame : CFrameWnd {
+    BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override {
+        if (code != CN_UPDATE_COMMAND_UI)
+            return CFrameWnd::OnCmdMsg(id, code, extra, info);
+        const auto& item = *static_cast<CCmdUI*>(extra);
+        const UINT told[] = {id, item.m_nID, item.m_nIndex, item.m_nIndexMax, item.m_pSubMenu != nullptr};
+        for (const UINT number : told)
+            log += std::to_string(number);
+        log += " ";
+        return id == 2 ? item.m_pMenu->DeleteMenu(0, MF_BYPOSITION) : FALSE;
+    }
+    void PostNcDestroy() override {}
+    std::string log;
+};
+
+TEST(AfxFrameMenu, IsUpdatedItemByItemThoughItChanges) {
+    asked_frame frame;
+    CMenu menu, inner;
+    ASSERT_TRUE(frame.Create(nullptr, "asked") && menu.CreatePopupMenu() && inner.CreatePopupMenu());
+    inner.AppendMenu(MF_STRING, 7, "inner");
+    menu.AppendMenu(MF_STRING, 1, "first");
+    menu.AppendMenu(MF_STRING, 2, "second");
+    menu.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(inner.m_hMenu), "more");
+    menu.AppendMenu(MF_SEPARATOR);
+    menu.AppendMenu(MF_STRING, 3, "third");
+    frame.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu.m_hMenu), 1);
+    EXPECT_EQ(frame.log, "11050 22150 77141 33340 ");
+    inner.Detach();
 }
 
 TEST_F(AfxFrame, LaysOutDockedBarsAndRemembersThem) {
@@ -282,6 +331,10 @@ TEST_F(AfxFrame, DialogBarsUpdateTheirControlsAndSendTheirCommands) {
     CWnd* button = frame.dialog.GetDlgItem(IDC_FORM_BUTTON);
     button->SendMessage(BM_CLICK);
     EXPECT_THAT(frame.log, ElementsAre("on"));
+    CDialog box;
+    ASSERT_TRUE(box.Create(IDD_TEST, &frame));
+    EXPECT_EQ(box.SendMessage(WM_COMMAND, ID_TEST_ON), 1) << "a dialog's go to its owner, too";
+    EXPECT_THAT(frame.log, ElementsAre("on", "on"));
 }
 
 TEST_F(AfxFrame, ButtonsAndPanesKeepTheirStyles) {
