@@ -48,6 +48,8 @@ struct unpacker : CWnd {
     void OnDisplayChange(UINT depth, int cx, int cy) { note("display", depth, cx, cy); }
     void OnParentNotify(UINT message, LPARAM) { note("parent", LOWORD(message), HIWORD(message)); }
     void OnNcXButtonDown(short hit, UINT button, CPoint at) { note("ncx", hit, button, at.x); }
+    void OnXButtonUp(UINT keys, UINT button, CPoint at) { note("x", keys, button, at.y); }
+    void OnChangeUIState(UINT action, UINT element) { note("state", action, element); }
     void OnMouseHWheel(UINT flags, short delta, CPoint at) { note("hwheel", flags, delta, at.x); }
     void OnAppCommand(CWnd* wnd, UINT id, UINT device, UINT keys) { note("app", is(wnd), id, device, keys); }
     void OnInputLangChange(UINT set, UINT layout) { note("language", set, layout); }
@@ -84,6 +86,8 @@ ON_WM_COPYDATA()
 ON_WM_DISPLAYCHANGE()
 ON_WM_PARENTNOTIFY()
 ON_WM_NCXBUTTONDOWN()
+ON_WM_XBUTTONUP()
+ON_WM_CHANGEUISTATE()
 ON_WM_MOUSEHWHEEL()
 ON_WM_APPCOMMAND()
 ON_WM_INPUTLANGCHANGE()
@@ -127,6 +131,8 @@ TEST(AfxMessageMap, HandlersSeeTheParametersOfTheirMessages) {
         {WM_DISPLAYCHANGE, 32, MAKELPARAM(640, 480), "display 32 640 480", 0},
         {WM_PARENTNOTIFY, MAKEWPARAM(WM_LBUTTONDOWN, 9), point, "parent 513 9", 0},
         {WM_NCXBUTTONDOWN, MAKEWPARAM(HTTRANSPARENT, XBUTTON2), point, "ncx -1 2 -3", 1},
+        {WM_XBUTTONUP, MAKEWPARAM(MK_CONTROL, XBUTTON2), point, "x 8 2 4", 1},
+        {WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0, "state 2 1", 0},
         {WM_MOUSEHWHEEL, MAKEWPARAM(MK_SHIFT, -120), point, "hwheel 4 -120 -3", 0},
         {WM_APPCOMMAND, static_cast<WPARAM>(self), MAKELPARAM(MK_CONTROL, FAPPCOMMAND_MOUSE | 8), "app 1 8 32768 8", 1},
         {WM_INPUTLANGCHANGE, 1, 0x4190409, "language 1 68748297", 1},

@@ -40,6 +40,17 @@ TEST(AfxMenu, TakesItemsByPlaceAndByCommand) {
     const CString longest('m', 700);
     menu.AppendMenu(MF_STRING, 30, longest);
     EXPECT_EQ(text_of(menu, 4), longest);
+    CBitmap picture;
+    ASSERT_TRUE(picture.CreateBitmap(4, 4, 1, 1, nullptr));
+    EXPECT_TRUE(menu.AppendMenu(MF_STRING, 40, &picture));
+    EXPECT_TRUE(menu.InsertMenu(40, MF_BYCOMMAND, 41, &picture));
+    EXPECT_TRUE(menu.ModifyMenu(30, MF_BYCOMMAND, 42, &picture));
+    std::vector<UINT> pictures;
+    for (UINT i = 0; i < menu.GetMenuItemCount(); ++i) {
+        if ((menu.GetMenuState(i, MF_BYPOSITION) & (MF_BITMAP | MF_POPUP)) == MF_BITMAP)
+            pictures.push_back(menu.GetMenuItemID(static_cast<int>(i)));
+    }
+    EXPECT_THAT(pictures, testing::ElementsAre(42u, 41u, 40u));
     CString text = "before";
     EXPECT_TRUE(menu.GetMenuString(99, text, MF_BYCOMMAND) == 0 && text.IsEmpty());
 }

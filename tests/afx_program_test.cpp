@@ -108,6 +108,28 @@ TEST(AfxProgram, ShowsThatItIsBusyUntilTheLastWaitEnds) {
     EXPECT_EQ(::GetCursor(), arrow);
 }
 
+TEST(AfxProgram, BoxesBearItsNameAndAnIconThatFits) {
+    const std::tuple<UINT, LPCTSTR, int> cases[] = {{MB_OK, IDI_EXCLAMATION, IDOK},
+                                                    {MB_YESNO, IDI_QUESTION, IDNO},
+                                                    {MB_RETRYCANCEL, IDI_HAND, IDRETRY},
+                                                    {MB_OKCANCEL | MB_ICONINFORMATION, IDI_INFORMATION, IDCANCEL}};
+    for (const auto& [type, icon, answer] : cases) {
+        CString caption;
+        LRESULT shown = 0;
+        const WhileModal work([&, button = answer] {
+            CWnd* box = CWnd::FromHandle(shown_dialog());
+            if (box == nullptr)
+                return false;
+            box->GetWindowText(caption);
+            shown = ::SendMessage(::FindWindowEx(*box, nullptr, "Static", nullptr), STM_GETICON, 0, 0);
+            return box->PostMessage(WM_COMMAND, static_cast<WPARAM>(button)) != FALSE;
+        });
+        EXPECT_EQ(the_app.CWinApp::DoMessageBox("text", type, 0), answer);
+        EXPECT_STREQ(caption, the_app.m_pszAppName);
+        EXPECT_EQ(shown, reinterpret_cast<LRESULT>(::LoadIcon(nullptr, icon))) << type;
+    }
+}
+
 TEST(AfxDrawing, PointFontsAreAsHighAsTheDeviceSays) {
     const int inch = CClientDC(nullptr).GetDeviceCaps(LOGPIXELSY);
     for (const int tenths : {80, 105, 1, 720, -80}) {

@@ -123,6 +123,29 @@ TEST_F(AfxSheet, PagesMayRefuse) {
     EXPECT_EQ(log, "1.set 1.kill 1.kill 1.kill 1.apply 1.ok 1.query 1.query 1.cancel ");
 }
 
+TEST_F(AfxSheet, ChangesAreAppliedWhileItStays) {
+    sheet.SetActivePage(&second);
+    const auto changed = [&] {
+        EXPECT_EQ(sheet.GetActiveIndex(), 1);
+        const HWND apply = ::GetDlgItem(sheet, ID_APPLY_NOW);
+        EXPECT_FALSE(::IsWindowEnabled(apply));
+        second.SetModified();
+        EXPECT_TRUE(::IsWindowEnabled(apply));
+        press(PSBTN_APPLYNOW);
+    };
+    const auto unchanged = [&] {
+        EXPECT_FALSE(::IsWindowEnabled(::GetDlgItem(sheet, ID_APPLY_NOW)));
+        second.SetModified();
+        second.SetModified(FALSE);
+        EXPECT_FALSE(::IsWindowEnabled(::GetDlgItem(sheet, ID_APPLY_NOW)));
+        sheet.SetTitle("Other");
+        EXPECT_EQ(text_of(sheet), "Other");
+        second.EndDialog(77);
+    };
+    EXPECT_EQ(run(sheet, {changed, unchanged}), 77);
+    EXPECT_EQ(log, "2.set 2.kill 2.apply 2.ok 2.set ");
+}
+
 // Goes from page to page, but past the second where it is told to, and not on where it refuses.
 struct wizard_page : marked_page {
     using marked_page::marked_page;
