@@ -291,25 +291,6 @@ TEST(AfxReflection, GivesAControlItsMessagesBeforeItsParent) {
                                          "compare", "update"));
 }
 
-TEST(AfxExceptions, MacrosDeleteWhatTheyCatchUnlessItIsThrownOn) {
-    bool caught = false;
-    TRY{TRY{throw new CUserException;
-}
-CATCH(CMemoryException, e) {
-    ADD_FAILURE() << "another class" << e->m_bAutoDelete;
-}
-AND_CATCH(CUserException, e) {
-    THROW_LAST();
-}
-END_CATCH
-} // namespace
-CATCH_ALL(e) {
-    caught = e->IsKindOf(RUNTIME_CLASS(CUserException));
-}
-END_CATCH_ALL
-EXPECT_TRUE(caught);
-}
-
 TEST(AfxExceptions, NewRaisesTheFrameworksOwn) {
     volatile std::size_t much = ~std::size_t(0) / 4;
     EXPECT_TRUE(raises<CMemoryException>([&] { delete[] new char[much]; }));

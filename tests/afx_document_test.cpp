@@ -183,9 +183,8 @@ TEST_F(NoteProgram, TellsWhyAFileCannotBeOpened) {
 
 TEST_F(NoteProgram, AsksForTheNameOfANewFile) {
     struct : CDocManager {
-        BOOL DoPromptFileName(CString& name, UINT title, DWORD, BOOL open, CDocTemplate* kind) override {
-            asked.push_back(std::string(name) + " " + std::to_string(title));
-            EXPECT_TRUE(!open && kind != nullptr);
+        BOOL DoPromptFileName(CString& name, UINT title, DWORD, BOOL, CDocTemplate*) override {
+            asked.push_back((title == AFX_IDS_SAVEFILE ? "save " : "copy ") + std::string(name));
             name = answer;
             return !answer.IsEmpty();
         }
@@ -206,8 +205,7 @@ TEST_F(NoteProgram, AsksForTheNameOfANewFile) {
     EXPECT_EQ(title(), "Plan: of it - Tests") << "it was a copy";
     command(ID_FILE_SAVE);
     EXPECT_EQ(title(), "afx_document_test.note - Tests");
-    const std::string save = " " + std::to_string(AFX_IDS_SAVEFILE), copy = " " + std::to_string(AFX_IDS_SAVEFILECOPY);
-    EXPECT_THAT(asking.asked, ElementsAre("Plan.note" + save, "Plan.note" + save, copy, "Plan.note" + save));
+    EXPECT_THAT(asking.asked, ElementsAre("save Plan.note", "save Plan.note", "copy ", "save Plan.note"));
     the_app.m_pDocManager = own;
     the_app.OnIdle(0);
     EXPECT_TRUE(note::events.ends_with("2idle")) << note::events;
@@ -431,6 +429,7 @@ TEST_F(AfxSeveralDocuments, OfSeveralKindsAreOfferedToTheUser) {
             if (list == nullptr || !box->IsWindowVisible())
                 return false;
             names.clear();
+            EXPECT_EQ(list->GetCurSel(), 0);
             for (int i = 0; i < list->GetCount(); ++i) {
                 CString name;
                 list->GetText(i, name);

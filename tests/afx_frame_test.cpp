@@ -2,7 +2,6 @@
 #include "afx_test_app.h"
 #include "held_keys.h"
 #include "modal.h"
-#include "trapping.h"
 
 #include <afxext.h>
 #include <afxpriv.h>
@@ -19,6 +18,7 @@ struct bar_frame : CFrameWnd {
     Texts log;
     bool off = true;
     int checked = 2; // undecided
+    UINT gone = 0;   // the item that goes while the menu is updated
 
     bool open() {
         return LoadFrame(IDR_FRAME) && tools.Create(this, WS_CHILD | WS_VISIBLE | CBRS_TOP | CBRS_FLYBY) &&
@@ -40,7 +40,11 @@ struct bar_frame : CFrameWnd {
     void OnHideMenuBar() override { log.push_back("hide"); }
     void OnOn() { log.push_back("on"); }
     void OnUpdateOff(CCmdUI* item) { item->Enable(!off); }
-    void OnUpdateChecked(CCmdUI* item) { item->SetCheck(checked), item->SetText("Text"); }
+    void OnUpdateChecked(CCmdUI* item) {
+        item->SetCheck(checked), item->SetText("Text");
+        if (item->m_pMenu != nullptr)
+            item->m_pMenu->RemoveMenu(gone, MF_BYCOMMAND);
+    }
     void OnUpdatePane(CCmdUI* item) { item->Enable(), item->SetText("shown"); }
     DECLARE_MESSAGE_MAP()
 };
@@ -94,6 +98,10 @@ TEST_F(AfxFrame, UpdatesItsMenuToolbarAndPanesByItsHandlers) {
     CString name;
     popup->GetMenuString(ID_TEST_CHECKED, name, MF_BYCOMMAND);
     EXPECT_STREQ(name, "Text");
+    frame.gone = ID_TEST_ON;
+    popup->EnableMenuItem(ID_TEST_NOBODY, MF_ENABLED);
+    frame.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(popup->m_hMenu), 1);
+    EXPECT_TRUE(is(ID_TEST_NOBODY, MF_GRAYED)) << "the next one is not passed over";
     const HMENU gone = ::CreatePopupMenu();
     ::DestroyMenu(gone);
     for (const HMENU none : {gone, HMENU{}})
@@ -188,34 +196,6 @@ TEST_F(AfxFrame, HidesItsMenuBarUntilAKeyAsksForIt) {
     early.DestroyWindow();
 }
 
-TEST_F(AfxFrame, MayEndWhileItsMenuBarComesOrGoes) {
-    struct short_lived : CFrameWnd {
-        void OnShowMenuBar() override { end(); }
-        void OnHideMenuBar() override { end(); }
-        void end() {
-            EXPECT_FALSE(SetMenuBarState(AFX_MBS_VISIBLE) || SetMenuBarState(AFX_MBS_HIDDEN)) << "while it changes";
-            if (IsWindowEnabled())
-                DestroyWindow();
-        }
-    };
-    const MSG keys[] = {{nullptr, WM_SYSCOMMAND, SC_KEYMENU, 0, 0, {0, 0}},
-                        {nullptr, WM_KEYDOWN, VK_ESCAPE, 1, 0, {0, 0}}};
-    for (MSG key : keys) {
-        auto* ending = new short_lived;
-        ASSERT_TRUE(ending->Create(nullptr, "ending", WS_POPUP | WS_DISABLED));
-        const HWND hwnd = key.hwnd = ending->m_hWnd;
-        ending->SetMenuBarVisibility(AFX_MBV_DISPLAYONFOCUS);
-        if (key.message == WM_KEYDOWN)
-            ending->SetMenuBarState(AFX_MBS_VISIBLE);
-        ending->EnableWindow();
-        if (key.message == WM_SYSCOMMAND)
-            ::SendMessage(hwnd, key.message, key.wParam, 0);
-        else
-            EXPECT_TRUE(ending->PreTranslateMessage(&key));
-        EXPECT_FALSE(::IsWindow(hwnd));
-    }
-}
-
 TEST_F(AfxFrame, HasTheProgramsIconAndUpdatesItselfWhenIdle) {
     const auto icon = reinterpret_cast<HICON>(::GetClassLongPtr(frame, GCLP_HICON));
     EXPECT_TRUE(icon != nullptr && icon == the_app.LoadIcon(AFX_IDI_STD_FRAME));
@@ -240,37 +220,6 @@ TEST_F(AfxFrame, HasTheProgramsIconAndUpdatesItselfWhenIdle) {
     frame.ShowWindow(SW_MINIMIZE);
     frame.ActivateFrame();
     EXPECT_FALSE(frame.IsIconic());
-}
-
-// Writes down the items that it is asked about; at the second one the first goes.
-struct asked_frame : CFrameWnd {
-    BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override {
-        if (code != CN_UPDATE_COMMAND_UI)
-            return CFrameWnd::OnCmdMsg(id, code, extra, info);
-        const auto& item = *static_cast<CCmdUI*>(extra);
-        const UINT told[] = {id, item.m_nID, item.m_nIndex, item.m_nIndexMax, item.m_pSubMenu != nullptr};
-        for (const UINT number : told)
-            log += std::to_string(number);
-        log += " ";
-        return id == 2 ? item.m_pMenu->DeleteMenu(0, MF_BYPOSITION) : FALSE;
-    }
-    void PostNcDestroy() override {}
-    std::string log;
-};
-
-TEST(AfxFrameMenu, IsUpdatedItemByItemThoughItChanges) {
-    asked_frame frame;
-    CMenu menu, inner;
-    ASSERT_TRUE(frame.Create(nullptr, "asked") && menu.CreatePopupMenu() && inner.CreatePopupMenu());
-    inner.AppendMenu(MF_STRING, 7, "inner");
-    menu.AppendMenu(MF_STRING, 1, "first");
-    menu.AppendMenu(MF_STRING, 2, "second");
-    menu.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(inner.m_hMenu), "more");
-    menu.AppendMenu(MF_SEPARATOR);
-    menu.AppendMenu(MF_STRING, 3, "third");
-    frame.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu.m_hMenu), 1);
-    EXPECT_EQ(frame.log, "11050 22150 77141 33340 ");
-    inner.Detach();
 }
 
 TEST_F(AfxFrame, LaysOutDockedBarsAndRemembersThem) {
@@ -495,56 +444,6 @@ TEST_F(AfxFrame, KeepsTheUserOutWhileItIsModal) {
     });
     modal.DoModal();
     EXPECT_TRUE(kept && frame.IsWindowEnabled() && shown.IsWindowEnabled()) << "though in front of another dialog";
-}
-
-// Ends one of its windows, or itself, while commands are updated.
-struct ending_frame : Trapping<CFrameWnd> {
-    template <class Bar> Bar* add() {
-        auto* bar = new Trapping<Bar>;
-        bar->m_bAutoDelete = TRUE;
-        return bar;
-    }
-    CToolBar* tools = add<CToolBar>();
-    CStatusBar* status = add<CStatusBar>();
-    CDialogBar* dialog = add<CDialogBar>();
-    CWnd* ends = nullptr;
-
-    bool open() {
-        const UINT pane = ID_TEST_PANE;
-        return LoadFrame(IDR_FRAME) && tools->Create(this) && tools->LoadToolBar(IDR_FRAME) && status->Create(this) &&
-               status->SetIndicators(&pane, 1) && dialog->Create(this, IDD_FORM, CBRS_TOP, 0xE850);
-    }
-
-    void OnUpdate(CCmdUI*) {
-        if (ends != nullptr)
-            std::exchange(ends, nullptr)->DestroyWindow();
-    }
-    DECLARE_MESSAGE_MAP()
-};
-
-BEGIN_MESSAGE_MAP(ending_frame, CFrameWnd)
-ON_UPDATE_COMMAND_UI_RANGE(ID_TEST_ON, ID_TEST_PANE, &ending_frame::OnUpdate)
-END_MESSAGE_MAP()
-
-TEST_F(AfxFrame, UpdateHandlersMayEndWhatIsUpdated) {
-    using Part = CWnd* (*)(ending_frame&);
-    const Part whole = [](ending_frame& frame) -> CWnd* { return &frame; };
-    for (const Part updated : {Part([](ending_frame& frame) -> CWnd* { return frame.tools; }),
-                               Part([](ending_frame& frame) -> CWnd* { return frame.status; }),
-                               Part([](ending_frame& frame) -> CWnd* { return frame.dialog; }), whole})
-        for (Part ends : {updated, whole}) {
-            auto* frame = new ending_frame;
-            ASSERT_TRUE(frame->open());
-            frame->ShowWindow(SW_SHOWNOACTIVATE);
-            frame->ends = ends(*frame);
-            const HWND wnd = frame->m_hWnd, end = frame->ends->m_hWnd;
-            if (updated == whole)
-                ::SendMessage(wnd, WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(::GetSubMenu(::GetMenu(wnd), 1)), 1);
-            else
-                updated(*frame)->SendMessage(WM_IDLEUPDATECMDUI, TRUE);
-            EXPECT_FALSE(::IsWindow(end)) << "its handler was asked";
-            ::DestroyWindow(wnd);
-        }
 }
 
 } // namespace

@@ -118,6 +118,10 @@ TEST(AfxScrollView, ScrollsWithinItsDocumentInLogicalUnits) {
         EXPECT_EQ(view.GetScrollPosition(), -origin());
     }
     EXPECT_EQ(path, "0,15 0,165 100,165 90,165 90,150 90,0 0,0 10,0 ");
+    view.ScrollToPosition(CPoint(400, 900));
+    view.SetScrollSizes(MM_TEXT, client.Size() + CSize(60, 300), CSize(100, 150), CSize(10, 15));
+    EXPECT_EQ(origin(), CPoint(-60, -300)) << "so far as there is something";
+    view.SetScrollSizes(MM_TEXT, CSize(1000, 2000), CSize(100, 150), CSize(10, 15));
     const int end = 2000 - client.Height();
     for (const UINT code : {SB_BOTTOM, SB_LINEDOWN}) {
         view.SendMessage(WM_VSCROLL, code);
@@ -581,7 +585,7 @@ TEST_F(AfxDynamicSplitter, HasItsPartsInTheirPlaces) {
     frame.SetActiveView(static_cast<CView*>(splitter.GetPane(0, 0)));
     EXPECT_EQ(frame.SendMessage(WM_COMMAND, ID_WINDOW_SPLIT), 1);
     EXPECT_EQ(first_pane(), CSize((right - 2) / 2, (bottom - 2) / 2));
-    frame.SendMessage(WM_COMMAND, ID_PREV_PANE);
+    splitter.SendMessage(WM_COMMAND, ID_PREV_PANE);
     EXPECT_EQ(frame.GetActiveView(), splitter.GetPane(1, 1));
     splitter.GetPane(1, 0)->SendMessage(WM_MOUSEACTIVATE, reinterpret_cast<WPARAM>(frame.m_hWnd), HTCLIENT);
     EXPECT_EQ(frame.GetActiveView(), splitter.GetPane(1, 0)) << "which is clicked";
