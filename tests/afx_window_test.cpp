@@ -99,12 +99,18 @@ TEST(AfxWindow, IsCentredOverItsOwnerWithinTheWorkArea) {
     EXPECT_EQ(at(CRect(work.BottomRight() - CSize(30, 30), CSize(30, 30)), {60, 50}),
               work.BottomRight() - CSize(60, 50));
     EXPECT_EQ(at(CRect(corner, CSize(200, 100)), {work.Width() + 50, 20}).x, corner.x) << "its left part is seen";
+    CWnd child, within;
+    owner.MoveWindow(CRect(corner, CSize(200, 100)));
+    ASSERT_TRUE(within.Create(nullptr, "", WS_CHILD, CRect(20, 10, 50, 40), &owner, 1));
+    ASSERT_TRUE(child.Create(nullptr, "", WS_CHILD, CRect(0, 0, 10, 20), &owner, 2));
+    child.CenterWindow(&within);
+    EXPECT_EQ(place_in(owner, child), CRect(30, 15, 40, 35));
     wnd.DestroyWindow();
     owner.DestroyWindow();
 }
 
 TEST(AfxWindow, DoesWhatItsOperationsSay) {
-    CWnd wnd, child, within;
+    CWnd wnd;
     ASSERT_TRUE(create_visible_popup(wnd));
     wnd.ValidateRect(nullptr);
     CRgn part;
@@ -121,10 +127,6 @@ TEST(AfxWindow, DoesWhatItsOperationsSay) {
     place.length = 0;
     EXPECT_TRUE(wnd.SetWindowPlacement(&place));
     EXPECT_EQ(on_screen(wnd), CRect(100, 120, 180, 170));
-    ASSERT_TRUE(within.Create(nullptr, "", WS_CHILD, CRect(20, 10, 50, 40), &wnd, 1));
-    ASSERT_TRUE(child.Create(nullptr, "", WS_CHILD, CRect(0, 0, 10, 20), &wnd, 2));
-    child.CenterWindow(&within);
-    EXPECT_EQ(place_in(wnd, child), CRect(30, 15, 40, 35));
 }
 
 TEST(AfxWindow, TemporaryObjectsLastUntilIdleHoweverManyThereAre) {
