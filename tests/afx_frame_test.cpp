@@ -187,11 +187,6 @@ TEST_F(AfxFrame, HidesItsMenuBarUntilAKeyAsksForIt) {
     EXPECT_EQ(frame.GetMenu(), nullptr) << "the menu of a document stays hidden, too";
     frame.DestroyWindow();
     EXPECT_FALSE(::IsMenu(menu)) << "it goes with the window";
-    bar_frame early;
-    early.SetMenuBarVisibility(AFX_MBV_DISPLAYONFOCUS);
-    EXPECT_TRUE(early.open() && early.GetMenu() == nullptr && early.SetMenuBarState(AFX_MBS_VISIBLE));
-    EXPECT_EQ(early.GetMenu()->GetMenuItemCount(), 2u);
-    early.DestroyWindow();
 }
 
 TEST_F(AfxFrame, HasTheProgramsIconAndUpdatesItselfWhenIdle) {

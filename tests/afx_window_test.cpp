@@ -13,25 +13,6 @@ HWND make_plain() {
     return ::CreateWindow("STATIC", "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
 }
 
-TEST(AfxWindow, SeesItsMessagesFromTheFirstToTheLast) {
-    recorder wnd;
-    ASSERT_TRUE(create_popup(wnd));
-    const HWND hwnd = wnd.m_hWnd;
-    EXPECT_TRUE(wnd.had_handle);
-    EXPECT_EQ(CWnd::FromHandlePermanent(hwnd), &wnd);
-    const auto at = [&](UINT message) { return std::find(wnd.seen.begin(), wnd.seen.end(), message); };
-    EXPECT_LE(at(WM_NCCREATE) - wnd.seen.begin(), 1) << "at most the size question comes before";
-    EXPECT_TRUE(at(WM_NCCREATE) < at(WM_NCCALCSIZE) && at(WM_NCCALCSIZE) < at(WM_CREATE));
-    ASSERT_NE(at(WM_CREATE), wnd.seen.end());
-
-    wnd.seen.clear();
-    EXPECT_TRUE(wnd.DestroyWindow());
-    ASSERT_GE(wnd.seen.size(), 2u);
-    EXPECT_THAT(std::vector(wnd.seen.end() - 2, wnd.seen.end()), ElementsAre(WM_NCDESTROY, recorder::object_released));
-    EXPECT_TRUE(wnd.GetSafeHwnd() == nullptr && CWnd::FromHandlePermanent(hwnd) == nullptr);
-    EXPECT_FALSE(wnd.DestroyWindow());
-}
-
 TEST(AfxWindow, ReleasesTheObjectOnceWhenCreationFails) {
     recorder refused, rejected, unknown, failed;
     refused.refuse = true;
