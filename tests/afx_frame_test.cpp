@@ -42,7 +42,7 @@ struct bar_frame : CFrameWnd {
     void OnUpdateOff(CCmdUI* item) { item->Enable(!off); }
     void OnUpdateChecked(CCmdUI* item) {
         item->SetCheck(checked), item->SetText("Text");
-        if (item->m_pMenu != nullptr)
+        if (gone != 0 && item->m_pMenu != nullptr)
             item->m_pMenu->RemoveMenu(gone, MF_BYCOMMAND);
     }
     void OnUpdatePane(CCmdUI* item) { item->Enable(), item->SetText("shown"); }

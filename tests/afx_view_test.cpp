@@ -534,7 +534,8 @@ TEST_F(AfxDynamicSplitter, TurnsPanesThatShareABarTogether) {
     EXPECT_EQ(scroll(WM_HSCROLL, SB_PAGEDOWN, *view.GetScrollBarCtrl(SB_HORZ)), "80,120 0,120 80,0 ");
     EXPECT_TRUE(splitter.DoScroll(&view, MAKEWORD(SB_LINERIGHT, SB_LINEUP)));
     EXPECT_EQ(turned(), "88,110 0,110 88,0 ");
-    EXPECT_EQ(scroll(WM_VSCROLL, SB_BOTTOM, nullptr), turned()) << "by a bar of its own, which is not there";
+    EXPECT_EQ(scroll(WM_VSCROLL, SB_BOTTOM, nullptr), "88,110 0,110 88,0 ")
+        << "by a bar of its own, which is not there";
     EXPECT_EQ(view.GetScrollPosition(), CPoint(88, 110));
 }
 
