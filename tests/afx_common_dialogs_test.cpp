@@ -281,38 +281,6 @@ TEST_F(AfxCommonDialogs, AFileIsChosenBesideControlsOfTheProgram) {
     EXPECT_TRUE(older.AddText(d::note, "note") == E_FAIL && older.GetIFileSaveDialog() == nullptr);
 }
 
-TEST_F(AfxCommonDialogs, SeveralFilesAreChosenBesideControlsOfTheProgram) {
-    char folder[MAX_PATH];
-    ::GetTempPath(MAX_PATH, folder);
-    for (const char* name : {"one.txt", "two.txt"})
-        CFile(CString(folder) + name, CFile::modeCreate | CFile::modeWrite).Close();
-    const struct {
-        const char *names, *chosen;
-        DWORD room;
-        INT_PTR answer;
-    } cases[] = {{"\"one.txt\" \"two.txt\"", "one.txt two.txt ", 1000, IDOK},
-                 {"two.txt", "two.txt ", 1000, IDOK},
-                 {"\"one.txt\" \"two.txt\"", "", 12, IDCANCEL}};
-    for (const auto& c : cases) {
-        CFileDialog dialog(TRUE, nullptr, nullptr, OFN_ALLOWMULTISELECT | OFN_FILEMUSTEXIST, nullptr, &parent);
-        std::vector<char> room(c.room, 'x');
-        room[0] = '\0';
-        dialog.m_ofn.lpstrInitialDir = folder;
-        dialog.m_ofn.lpstrFile = room.data(), dialog.m_ofn.nMaxFile = c.room;
-        EXPECT_EQ(dialog.AddText(1, "note"), S_OK);
-        answer_picker(dialog, c.names, IDOK, c.answer);
-        std::string names;
-        for (POSITION at = dialog.GetStartPosition(); c.answer == IDOK && at != nullptr;) {
-            const CString path = dialog.GetNextPathName(at);
-            EXPECT_EQ(path.Left(lstrlen(folder)).CompareNoCase(folder), 0) << path.GetString();
-            names += path.Mid(lstrlen(folder)) + " ";
-        }
-        EXPECT_EQ(names, c.chosen);
-    }
-    for (const char* name : {"one.txt", "two.txt"})
-        CFile::Remove(CString(folder) + name);
-}
-
 TEST_F(AfxCommonDialogs, AFolderIsChosen) {
     char folder[MAX_PATH];
     ::GetWindowsDirectory(folder, MAX_PATH);

@@ -29,7 +29,7 @@ struct data_dialog : CDialog {
         DDX_Check(pDX, IDC_BOX, box);
         DDX_Radio(pDX, IDC_RED, colour);
         DDX_LBString(pDX, IDC_FRUITS, fruit);
-        DDX_CBString(pDX, IDC_TOWNS, town);
+        DDX_CBStringExact(pDX, IDC_TOWNS, town);
         DDX_CBIndex(pDX, IDC_CHOICE, choice);
         DDX_Scroll(pDX, IDC_LEVEL, level);
         DDX_Slider(pDX, IDC_SLIDE, slide);
@@ -42,7 +42,7 @@ struct data_dialog : CDialog {
         if (missing != 0)
             DDX_Check(pDX, missing, box);
     }
-    CString name = "text", fruit = "cherry", town = "Rome";
+    CString name = "text", fruit = "cherry", town = "Bo";
     int count = 42, box = 2, colour = 2, choice = 1, level = 17, slide = 33, missing = 0;
     double factor = 0.125;
     char letters[4] = "abc";

@@ -12,6 +12,7 @@
 #include <fstream>
 
 #include <dde.h>
+#include <shlobj.h>
 
 using testing::ElementsAre;
 
@@ -30,6 +31,7 @@ public:
     ~note() override { --alive; }
     void DeleteContents() override { text.clear(); }
     void OnDocumentEvent(DocumentEvent event) override { events += std::to_string(event); }
+    void OnIdle() override { events += "idle"; }
     void Serialize(CArchive& archive) override {
         if (archive.IsStoring()) {
             archive.GetFile()->Write(text.data(), static_cast<UINT>(text.size()));
@@ -163,6 +165,71 @@ TEST_F(NoteProgram, TellsWhyAFileCannotBeOpened) {
     EXPECT_EQ(document().text + title(), "Untitled - Tests") << "half a document is none";
     EXPECT_FALSE(document().OnOpenDocument(path_.c_str()));
     EXPECT_EQ(document().text, "");
+    the_app.take_boxes();
+    using e = CFileException;
+    const std::tuple<int, BOOL, UINT> cases[] = {
+        {e::badPath, FALSE, AFX_IDP_FAILED_INVALID_PATH},         {e::diskFull, TRUE, AFX_IDP_FAILED_DISK_FULL},
+        {e::sharingViolation, TRUE, AFX_IDP_FAILED_ACCESS_WRITE}, {e::accessDenied, FALSE, AFX_IDP_FAILED_ACCESS_READ},
+        {e::hardIO, TRUE, AFX_IDP_FAILED_IO_ERROR_WRITE},         {e::badSeek, FALSE, AFX_IDP_FAILED_IO_ERROR_READ},
+        {e::directoryFull, FALSE, AFX_IDP_FAILED_TO_OPEN_DOC}};
+    for (const auto& [cause, saving, id] : cases) {
+        e exception(cause);
+        document().ReportSaveLoadException("C:\\a.note", &exception, saving, AFX_IDP_FAILED_TO_OPEN_DOC);
+        CString text;
+        AfxFormatString1(text, id, "a.note");
+        EXPECT_THAT(the_app.take_boxes(), ElementsAre(std::string(text))) << cause;
+    }
+}
+
+TEST_F(NoteProgram, AsksForTheNameOfANewFile) {
+    struct : CDocManager {
+        BOOL DoPromptFileName(CString& name, UINT title, DWORD, BOOL, CDocTemplate*) override {
+            asked.push_back((title == AFX_IDS_SAVEFILE ? "save " : "copy ") + std::string(name));
+            name = answer;
+            return !answer.IsEmpty();
+        }
+        CString answer;
+        std::vector<std::string> asked;
+    } asking;
+    start();
+    CDocManager* const own = std::exchange(the_app.m_pDocManager, &asking);
+    document().SetTitle("Plan: of it");
+    command(ID_FILE_SAVE);
+    EXPECT_EQ(title(), "Plan: of it - Tests") << "the user wants none";
+    asking.answer = path_.c_str();
+    document().fails = true;
+    command(ID_FILE_SAVE_AS);
+    EXPECT_FALSE(std::filesystem::exists(path_)) << "what was begun";
+    document().fails = false;
+    EXPECT_TRUE(document().DoSave(nullptr, FALSE));
+    EXPECT_EQ(title(), "Plan: of it - Tests") << "it was a copy";
+    command(ID_FILE_SAVE);
+    EXPECT_EQ(title(), "afx_document_test.note - Tests");
+    EXPECT_THAT(asking.asked, ElementsAre("save Plan.note", "save Plan.note", "copy ", "save Plan.note"));
+    the_app.m_pDocManager = own;
+    the_app.OnIdle(0);
+    EXPECT_TRUE(note::events.ends_with("2idle")) << note::events;
+    command(ID_FILE_CLOSE);
+    EXPECT_EQ(the_app.m_pMainWnd, nullptr);
+}
+
+TEST_F(NoteProgram, OpensWhatIsDroppedAndAsksWhenTheSessionEnds) {
+    write("dropped");
+    start();
+    const HGLOBAL memory = ::GlobalAlloc(GHND, sizeof(DROPFILES) + path_.size() + 2);
+    auto* head = static_cast<DROPFILES*>(::GlobalLock(memory));
+    head->pFiles = sizeof(DROPFILES);
+    path_.copy(reinterpret_cast<char*>(head + 1), path_.size());
+    ::GlobalUnlock(memory);
+    frame().SendMessage(WM_DROPFILES, reinterpret_cast<WPARAM>(memory));
+    EXPECT_EQ(document().text, "dropped");
+    document().SetModifiedFlag();
+    the_app.answer = IDCANCEL;
+    EXPECT_EQ(frame().SendMessage(WM_QUERYENDSESSION), 0);
+    the_app.answer = IDNO;
+    EXPECT_EQ(frame().SendMessage(WM_QUERYENDSESSION), 1);
+    frame().SendMessage(WM_ENDSESSION, TRUE);
+    EXPECT_EQ(note::alive, 0);
 }
 
 TEST_F(NoteProgram, OpensWhatTheUserChoosesUnlessNothingIsChosen) {
@@ -218,8 +285,9 @@ TEST_F(AfxSeveralDocuments, AFileThatIsOpenIsShownNotOpenedAgain) {
     CDocument* first = the_app.OpenDocumentFile(path.c_str());
     ASSERT_NE(first, nullptr);
     CMDIChildWnd* child = frame->MDIGetActive();
+    frame->MDIMaximize(child);
     the_app.OnFileNew();
-    EXPECT_NE(frame->MDIGetActive(), child);
+    EXPECT_EQ(text_of(*frame), "Tests - [Untitled1]") << "it is as large as the one before";
     std::string other_case = path;
     ::CharUpper(other_case.data());
     EXPECT_EQ(the_app.OpenDocumentFile(other_case.c_str()), first);
@@ -253,6 +321,23 @@ TEST_F(AfxSeveralDocuments, LieInOneFrameThatShowsTheActiveOnes) {
     EXPECT_EQ(text_of(*frame), "Tests - Untitled1");
     EXPECT_NE(frame->MDIGetActive(), second);
 
+    frame->MDIActivate(second);
+    CWnd* const first = second->GetNextWindow();
+    const auto is_aligned = [&](UINT command) { // at the left, and above
+        frame->SendMessage(WM_COMMAND, command);
+        const CPoint apart = on_screen(*second).TopLeft() - on_screen(*first).TopLeft();
+        return std::pair(apart.x == 0, apart.y == 0);
+    };
+    EXPECT_EQ(is_aligned(ID_WINDOW_TILE_HORZ), std::pair(true, false));
+    EXPECT_EQ(is_aligned(ID_WINDOW_TILE_VERT), std::pair(false, true));
+    EXPECT_EQ(is_aligned(ID_WINDOW_CASCADE), std::pair(false, false));
+    first->SendMessage(WM_MOUSEACTIVATE, reinterpret_cast<WPARAM>(frame->m_hWnd), HTCLIENT);
+    EXPECT_EQ(frame->MDIGetActive(), first);
+    frame->SendMessage(WM_COMMAND, AFX_IDM_FIRST_MDICHILD + 1); // of the list in the menu
+    EXPECT_EQ(frame->MDIGetActive(), second);
+    MSG next{frame->m_hWnd, WM_KEYDOWN, VK_F6, 0, 0, {}};
+    EXPECT_TRUE((HeldKeys({VK_CONTROL}), frame->PreTranslateMessage(&next)));
+    EXPECT_EQ(frame->MDIGetActive(), first);
     frame->MDIActivate(second);
     frame->SendMessage(WM_COMMAND, ID_WINDOW_NEW);
     EXPECT_EQ(text_of(*second), "Untitled2:1");
@@ -343,6 +428,7 @@ TEST_F(AfxSeveralDocuments, OfSeveralKindsAreOfferedToTheUser) {
             if (list == nullptr || !box->IsWindowVisible())
                 return false;
             names.clear();
+            EXPECT_EQ(list->GetCurSel(), 0);
             for (int i = 0; i < list->GetCount(); ++i) {
                 CString name;
                 list->GetText(i, name);
@@ -424,18 +510,6 @@ TEST(AfxRecentFiles, AreKeptLatestFirstAndShownInTheMenu) {
     CRecentFileList empty(0, "Recent Test", "File%d", 3);
     update(empty, fresh);
     EXPECT_NE(fresh.GetMenuState(0, MF_BYPOSITION) & MF_GRAYED, 0u);
-}
-
-TEST(AfxResourceText, TakesPartsAndFillsPlaces) {
-    CString part;
-    const char* text = "one\n\nthree";
-    EXPECT_TRUE(AfxExtractSubString(part, text, 2) && part == "three");
-    EXPECT_TRUE(AfxExtractSubString(part, text, 1) && part == "");
-    EXPECT_FALSE(AfxExtractSubString(part, text, 3));
-    part = text;
-    EXPECT_TRUE(AfxExtractSubString(part, part, 2) && part == "three") << "out of itself";
-    AfxFormatString2(part, AFX_IDP_PARSE_INT_RANGE, "1", "9");
-    EXPECT_STREQ(part, "Enter a whole number between 1 and 9.");
 }
 
 } // namespace

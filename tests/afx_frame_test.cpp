@@ -22,6 +22,7 @@ struct bar_frame : CFrameWnd {
     Texts log;
     bool off = true;
     int checked = 2; // undecided
+    UINT gone = 0;   // the item that goes while the menu is updated
 
     bool open() {
         return LoadFrame(IDR_FRAME) && tools.Create(this, WS_CHILD | WS_VISIBLE | CBRS_TOP | CBRS_FLYBY) &&
@@ -43,7 +44,11 @@ struct bar_frame : CFrameWnd {
     void OnHideMenuBar() override { log.push_back("hide"); }
     void OnOn() { log.push_back("on"); }
     void OnUpdateOff(CCmdUI* item) { item->Enable(!off); }
-    void OnUpdateChecked(CCmdUI* item) { item->SetCheck(checked), item->SetText("Text"); }
+    void OnUpdateChecked(CCmdUI* item) {
+        item->SetCheck(checked), item->SetText("Text");
+        if (gone != 0 && item->m_pMenu != nullptr)
+            item->m_pMenu->RemoveMenu(gone, MF_BYCOMMAND);
+    }
     void OnUpdatePane(CCmdUI* item) { item->Enable(), item->SetRadio(), item->SetText("shown"); }
     DECLARE_MESSAGE_MAP()
 };
@@ -98,6 +103,10 @@ TEST_F(AfxFrame, UpdatesItsMenuToolbarAndPanesByItsHandlers) {
     CString name;
     popup->GetMenuString(ID_TEST_CHECKED, name, MF_BYCOMMAND);
     EXPECT_STREQ(name, "Text");
+    frame.gone = ID_TEST_ON;
+    popup->EnableMenuItem(ID_TEST_NOBODY, MF_ENABLED);
+    frame.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(popup->m_hMenu), 1);
+    EXPECT_TRUE(is(ID_TEST_NOBODY, MF_GRAYED)) << "the next one is not passed over";
     const HMENU gone = ::CreatePopupMenu();
     ::DestroyMenu(gone);
     for (const HMENU none : {gone, HMENU{}})
@@ -139,6 +148,12 @@ TEST_F(AfxFrame, ShowsPromptsOfMenusAndOfButtonsUnderThePointer) {
     tip.hdr = {frame.tools.m_hWnd, ID_TEST_ON, static_cast<UINT>(TTN_NEEDTEXTA)};
     EXPECT_EQ(frame.SendMessage(WM_NOTIFY, ID_TEST_ON, reinterpret_cast<LPARAM>(&tip)), 0);
     EXPECT_STREQ(tip.szText, "On");
+    ::SetWindowLongPtr(frame.more, GWLP_ID, ID_TEST_ON);
+    TOOLTIPTEXTW wide{};
+    wide.hdr = {frame.more, reinterpret_cast<UINT_PTR>(frame.more.m_hWnd), static_cast<UINT>(TTN_NEEDTEXTW)};
+    wide.uFlags = TTF_IDISHWND;
+    frame.SendMessage(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&wide));
+    EXPECT_STREQ(wide.szText, L"On");
 }
 
 // A key goes through the frame, then the command that the platform makes of it; the next key ends the menu.
@@ -175,43 +190,8 @@ TEST_F(AfxFrame, HidesItsMenuBarUntilAKeyAsksForIt) {
     EXPECT_THAT(std::exchange(frame.log, {}), ElementsAre("hide"));
     frame.OnUpdateFrameMenu(nullptr);
     EXPECT_EQ(frame.GetMenu(), nullptr) << "the menu of a document stays hidden, too";
-    EXPECT_TRUE(raises<CInvalidArgException>([&] { frame.SetMenuBarVisibility(AFX_MBV_DISPLAYONF10); }));
-    EXPECT_TRUE(raises<CInvalidArgException>([&] { frame.SetMenuBarState(0); }));
     frame.DestroyWindow();
     EXPECT_FALSE(::IsMenu(menu)) << "it goes with the window";
-    bar_frame early;
-    early.SetMenuBarVisibility(AFX_MBV_DISPLAYONFOCUS);
-    EXPECT_TRUE(early.open() && early.GetMenu() == nullptr && early.SetMenuBarState(AFX_MBS_VISIBLE));
-    EXPECT_EQ(early.GetMenu()->GetMenuItemCount(), 2u);
-    early.DestroyWindow();
-}
-
-TEST_F(AfxFrame, MayEndWhileItsMenuBarComesOrGoes) {
-    struct short_lived : CFrameWnd {
-        void OnShowMenuBar() override { end(); }
-        void OnHideMenuBar() override { end(); }
-        void end() {
-            EXPECT_FALSE(SetMenuBarState(AFX_MBS_VISIBLE) || SetMenuBarState(AFX_MBS_HIDDEN)) << "while it changes";
-            if (IsWindowEnabled())
-                DestroyWindow();
-        }
-    };
-    const MSG keys[] = {{nullptr, WM_SYSCOMMAND, SC_KEYMENU, 0, 0, {0, 0}},
-                        {nullptr, WM_KEYDOWN, VK_ESCAPE, 1, 0, {0, 0}}};
-    for (MSG key : keys) {
-        auto* ending = new short_lived;
-        ASSERT_TRUE(ending->Create(nullptr, "ending", WS_POPUP | WS_DISABLED));
-        const HWND hwnd = key.hwnd = ending->m_hWnd;
-        ending->SetMenuBarVisibility(AFX_MBV_DISPLAYONFOCUS);
-        if (key.message == WM_KEYDOWN)
-            ending->SetMenuBarState(AFX_MBS_VISIBLE);
-        ending->EnableWindow();
-        if (key.message == WM_SYSCOMMAND)
-            ::SendMessage(hwnd, key.message, key.wParam, 0);
-        else
-            EXPECT_TRUE(ending->PreTranslateMessage(&key));
-        EXPECT_FALSE(::IsWindow(hwnd));
-    }
 }
 
 TEST_F(AfxFrame, HasTheProgramsIconAndUpdatesItselfWhenIdle) {
@@ -223,9 +203,21 @@ TEST_F(AfxFrame, HasTheProgramsIconAndUpdatesItselfWhenIdle) {
     frame.DelayUpdateFrameTitle();
     frame.DelayUpdateFrameMenu(other);
     EXPECT_TRUE(text_of(frame) != "later" && frame.GetMenu()->m_hMenu != other.m_hMenu);
-    frame.settle();
+    frame.ShowControlBar(&frame.tools, FALSE, TRUE);
+    EXPECT_TRUE(frame.tools.IsWindowVisible());
+    the_app.OnIdle(0);
     EXPECT_TRUE(text_of(frame) == "later" && frame.GetMenu()->m_hMenu == other.m_hMenu);
+    EXPECT_FALSE(frame.tools.IsWindowVisible());
+    the_app.m_pMainWnd = &frame;
+    frame.SetTitle("last");
+    frame.DelayUpdateFrameTitle();
+    the_app.OnIdle(0);
+    EXPECT_EQ(text_of(frame), "last");
+    the_app.m_pMainWnd = nullptr;
     frame.OnUpdateFrameMenu(nullptr);
+    frame.ShowWindow(SW_MINIMIZE);
+    frame.ActivateFrame();
+    EXPECT_FALSE(frame.IsIconic());
 }
 
 TEST_F(AfxFrame, LaysOutDockedBarsAndRemembersThem) {
@@ -290,6 +282,10 @@ TEST_F(AfxFrame, DialogBarsUpdateTheirControlsAndSendTheirCommands) {
     CWnd* button = frame.dialog.GetDlgItem(IDC_FORM_BUTTON);
     button->SendMessage(BM_CLICK);
     EXPECT_THAT(frame.log, ElementsAre("on"));
+    CDialog box;
+    ASSERT_TRUE(box.Create(IDD_TEST, &frame));
+    EXPECT_EQ(box.SendMessage(WM_COMMAND, ID_TEST_ON), 1) << "a dialog's go to its owner, too";
+    EXPECT_THAT(frame.log, ElementsAre("on", "on"));
 }
 
 TEST_F(AfxFrame, ButtonsAndPanesKeepTheirStyles) {

@@ -113,6 +113,23 @@ TEST(AfxProgram, ShowsThatItIsBusyUntilTheLastWaitEnds) {
     EXPECT_EQ(::GetCursor(), arrow);
 }
 
+TEST(AfxProgram, BoxesBearItsNameAndAnIconThatFits) {
+    const std::pair<UINT, LPCTSTR> cases[] = {{MB_OK, IDI_EXCLAMATION},
+                                              {MB_YESNO, IDI_QUESTION},
+                                              {MB_RETRYCANCEL, IDI_HAND},
+                                              {MB_OKCANCEL | MB_ICONINFORMATION, IDI_INFORMATION}};
+    for (const auto& [type, icon] : cases) {
+        LRESULT shown = 0;
+        const WhileModal work([&] {
+            const HWND box = ::FindWindow("#32770", the_app.m_pszAppName);
+            shown = ::SendMessage(::FindWindowEx(box, nullptr, "Static", nullptr), STM_GETICON, 0, 0);
+            return shown != 0 && ::EndDialog(box, 77);
+        });
+        EXPECT_EQ(the_app.CWinApp::DoMessageBox("text", type, 0), 77);
+        EXPECT_EQ(shown, reinterpret_cast<LRESULT>(::LoadIcon(nullptr, icon))) << type;
+    }
+}
+
 TEST(AfxDrawing, PointFontsAreAsHighAsTheDeviceSays) {
     const int inch = CClientDC(nullptr).GetDeviceCaps(LOGPIXELSY);
     for (const int tenths : {80, 105, 1, 720, -80}) {

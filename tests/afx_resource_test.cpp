@@ -130,16 +130,6 @@ TEST(AfxShell, KnowsTheDocumentsUntilTheyAreTakenBack) {
     EXPECT_EQ(kind->MatchDocType("x.txt", open), CDocTemplate::yesAttemptForeign);
 }
 
-TEST(AfxDebug, OnlyVerifyEvaluatesInARelease) {
-    int evaluated = 0;
-    VERIFY(++evaluated);
-    ASSERT(++evaluated);
-    TRACE("%d", ++evaluated);
-    TRACE(traceAppMsg, 0, "%d", ++evaluated);
-    TRACE(0, 1, "%d", ++evaluated);
-    EXPECT_EQ(evaluated, 1);
-}
-
 TEST(AfxModule, FrameworksTextsStandBehindTheProgramsOwn) {
     CString text;
     EXPECT_TRUE(text.LoadString(AFX_IDS_UNTITLED) && text == "Untitled");

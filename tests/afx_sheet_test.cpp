@@ -86,6 +86,13 @@ TEST_F(AfxSheet, OkTakesThePagesDataOver) {
         EXPECT_TRUE(sheet.GetTabControl()->GetItem(1, &item) && std::string("Changed") == title);
         EXPECT_NEAR(on_screen(sheet).CenterPoint().x, ::GetSystemMetrics(SM_CXSCREEN) / 2, 1);
         first.CheckDlgButton(IDC_MARK, TRUE);
+        const HWND apply = ::GetDlgItem(sheet, ID_APPLY_NOW);
+        for (const BOOL changed : {TRUE, FALSE}) {
+            first.SetModified(changed);
+            EXPECT_EQ(::IsWindowEnabled(apply), changed);
+        }
+        sheet.SetTitle("Other");
+        EXPECT_EQ(text_of(sheet), "Other");
         show(1);
         second.CheckDlgButton(IDC_MARK, TRUE);
         press(PSBTN_OK);
@@ -121,6 +128,8 @@ TEST_F(AfxSheet, PagesMayRefuse) {
     const auto cancelled = [&] { first.cancels = true, press(PSBTN_CANCEL); };
     EXPECT_EQ(run(sheet, {wrong_entry, not_applied, not_cancelled, cancelled}), IDCANCEL);
     EXPECT_EQ(log, "1.set 1.kill 1.kill 1.kill 1.apply 1.ok 1.query 1.query 1.cancel ");
+    sheet.SetActivePage(&second);
+    EXPECT_EQ(run(sheet, {[&] { second.EndDialog(77); }}), 77) << "unless the program ends it, from any page";
 }
 
 // Goes from page to page, but past the second where it is told to, and not on where it refuses.

@@ -63,7 +63,6 @@ struct recorder : CWnd {
 
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
         seen.push_back(message);
-        had_handle = had_handle && m_hWnd != nullptr;
         if (message == WM_CREATE && refuse)
             return -1;
         return CWnd::WindowProc(message, wParam, lParam);
@@ -76,7 +75,7 @@ struct recorder : CWnd {
     void PostNcDestroy() override { seen.push_back(object_released); }
 
     std::vector<UINT> seen;
-    bool refuse = false, fail = false, accept = true, had_handle = true;
+    bool refuse = false, fail = false, accept = true;
 };
 
 // The cause that the work's exception tells; -1 where it raises none.

@@ -6,13 +6,17 @@
 #include <afxext.h>
 #include <afxpriv.h>
 
+using testing::ElementsAre;
+
 namespace {
+
+constexpr COLORREF red = RGB(255, 0, 0), white = RGB(255, 255, 255);
 
 class page_view : public CScrollView {
     DECLARE_DYNCREATE(page_view)
 
 public:
-    void OnDraw(CDC*) override {}
+    void OnDraw(CDC* dc) override { dc->SetPixel(40, 50, red); }
     CSize GetWheelScrollDistance(CSize by, BOOL across, BOOL down) override {
         return CScrollView::GetWheelScrollDistance(CSize(by.cx * wheel, by.cy * wheel), across, down);
     }
@@ -20,6 +24,7 @@ public:
         active = on != FALSE;
         CScrollView::OnActivateView(on, to, from);
     }
+    using CScrollView::CalcWindowRect, CScrollView::CenterOnPoint, CScrollView::FillOutsideRect;
     using CScrollView::GetTrueClientSize, CScrollView::OnPrepareDC, CScrollView::m_bCenter;
     int wheel = 1;
     bool active = false;
@@ -41,7 +46,12 @@ IMPLEMENT_DYNCREATE(form, CFormView)
 struct told_splitter : CSplitterWnd {
     std::string log;
     int narrowest = 0;
-    using CSplitterWnd::OnDraw, CSplitterWnd::OnDrawSplitter, CSplitterWnd::splitBorder;
+    std::vector<CRect> drawn;
+    using CSplitterWnd::OnDraw, CSplitterWnd::splitBorder;
+    void OnDrawSplitter(CDC* dc, ESplitType type, const CRect& rect) override {
+        drawn.push_back(rect);
+        CSplitterWnd::OnDrawSplitter(dc, type, rect);
+    }
     void StartTracking(int ht) override { log += "start " + std::to_string(ht), CSplitterWnd::StartTracking(ht); }
     void StopTracking(BOOL take) override { log += " stop " + std::to_string(take), CSplitterWnd::StopTracking(take); }
     void TrackRowSize(int y, int row) override { log += " row", CSplitterWnd::TrackRowSize(y, row); }
@@ -97,15 +107,24 @@ TEST(AfxScrollView, ScrollsWithinItsDocumentInLogicalUnits) {
     CSize whole, bars;
     EXPECT_TRUE(view.GetTrueClientSize(whole, bars));
     EXPECT_EQ(whole, client.Size() + CSize(::GetSystemMetrics(SM_CXVSCROLL), ::GetSystemMetrics(SM_CYHSCROLL)));
-    const auto scroll = [&](UINT message, UINT code) { view.SendMessage(message, code); };
-    scroll(WM_VSCROLL, SB_LINEDOWN);
-    scroll(WM_VSCROLL, SB_PAGEDOWN);
-    scroll(WM_HSCROLL, SB_LINERIGHT);
-    EXPECT_EQ(view.GetScrollPosition(), CPoint(10, 165));
-    EXPECT_EQ(origin(), CPoint(-10, -165));
+    frame.SetActiveView(&view);
+    std::string path;
+    constexpr std::pair<UINT, UINT> steps[] = {
+        {WM_VSCROLL, SB_LINEDOWN}, {WM_VSCROLL, SB_PAGEDOWN}, {WM_HSCROLL, SB_PAGERIGHT}, {WM_HSCROLL, SB_LINELEFT},
+        {WM_VSCROLL, SB_LINEUP},   {WM_VSCROLL, SB_PAGEUP},   {WM_HSCROLL, SB_LEFT},      {WM_HSCROLL, SB_LINERIGHT}};
+    for (const auto& [message, code] : steps) {
+        frame.SendMessage(message, code);
+        path += std::to_string(-origin().x) + "," + std::to_string(-origin().y) + " ";
+        EXPECT_EQ(view.GetScrollPosition(), -origin());
+    }
+    EXPECT_EQ(path, "0,15 0,165 100,165 90,165 90,150 90,0 0,0 10,0 ");
+    view.ScrollToPosition(CPoint(400, 900));
+    view.SetScrollSizes(MM_TEXT, client.Size() + CSize(60, 300), CSize(100, 150), CSize(10, 15));
+    EXPECT_EQ(origin(), CPoint(-60, -300)) << "so far as there is something";
+    view.SetScrollSizes(MM_TEXT, CSize(1000, 2000), CSize(100, 150), CSize(10, 15));
     const int end = 2000 - client.Height();
     for (const UINT code : {SB_BOTTOM, SB_LINEDOWN}) {
-        scroll(WM_VSCROLL, code);
+        view.SendMessage(WM_VSCROLL, code);
         EXPECT_EQ(view.GetScrollPosition().y, end) << code;
     }
     view.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, WHEEL_DELTA));
@@ -116,13 +135,11 @@ TEST(AfxScrollView, ScrollsWithinItsDocumentInLogicalUnits) {
     EXPECT_EQ(view.GetScrollPosition().y, end - 9 * 15) << "twice as far, but not with a key";
     view.ScrollToPosition(CPoint(-5, 40));
     EXPECT_EQ(view.GetScrollPosition(), CPoint(0, 40));
-    {
-        CClientDC dc(&view);
-        view.OnPrepareDC(&dc);
-        POINT origin{};
-        ::LPtoDP(dc, &origin, 1);
-        EXPECT_EQ(CPoint(origin), CPoint(0, -40));
-    }
+    canvas shown(50, 50);
+    view.SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(shown.m_hDC));
+    EXPECT_EQ(shown.GetPixel(40, 10), red);
+    view.UpdateWindow();
+    EXPECT_EQ(CClientDC(&view).GetPixel(40, 10), red);
     view.SetScrollSizes(MM_LOENGLISH, CSize(100, 3000));
     view.ScrollToPosition(CPoint(0, -500));
     EXPECT_NEAR(view.GetScrollPosition().y, -500, 2) << "y grows upwards";
@@ -141,10 +158,44 @@ TEST(AfxScrollView, ScrollsWithinItsDocumentInLogicalUnits) {
     EXPECT_EQ(dc.GetViewportOrg(), CPoint((all.Width() - 50) / 2, (all.Height() - 60) / 2));
     const CRect around = on_screen(frame);
     view.SetScrollSizes(MM_TEXT, CSize(700, 600));
+    int mode = 0;
+    SIZE total, page, line;
+    view.GetDeviceScrollSizes(mode, total, page, line);
+    const LONG told[] = {mode, total.cx, total.cy, page.cx, page.cy, line.cx, line.cy};
+    EXPECT_THAT(told, ElementsAre(MM_TEXT, 700, 600, 70, 60, 7, 6));
     view.ResizeParentToFit(TRUE);
     EXPECT_EQ(on_screen(frame), around) << "it may only shrink";
     view.ResizeParentToFit(FALSE);
     EXPECT_GE(inside_of(view).Width(), 700);
+}
+
+TEST(AfxScrollView, FitsItsDocumentInOrFillsWhatLiesOutside) {
+    view_frame frame;
+    auto& view = frame.open<page_view>();
+    view.SetScaleToFitSize(CSize(200, 50));
+    for (const int width : {420, 300}) {
+        frame.SetWindowPos(nullptr, 0, 0, width, 320, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+        CClientDC dc(&view);
+        view.OnPrepareDC(&dc);
+        CPoint corner(200, 50);
+        dc.LPtoDP(&corner);
+        EXPECT_EQ(corner, inside_of(view).BottomRight()) << width;
+    }
+    view.SetScrollSizes(MM_TEXT, CSize(3000, 2000));
+    view.CenterOnPoint(CPoint(500, 700));
+    const CPoint middle = inside_of(view).CenterPoint();
+    EXPECT_EQ(view.GetScrollPosition(), CPoint(500 - middle.x, 700 - middle.y));
+    view.SetScrollSizes(MM_TEXT, CSize(20, 10));
+    canvas shown(30, 20);
+    shown.SetViewportOrg(7, 8);
+    CBrush brush(red);
+    view.FillOutsideRect(&shown, &brush);
+    EXPECT_EQ(shown.SetViewportOrg(0, 0), CPoint(7, 8));
+    const COLORREF found[] = {shown.GetPixel(19, 9), shown.GetPixel(20, 9), shown.GetPixel(19, 10)};
+    EXPECT_THAT(found, ElementsAre(white, red, red));
+    CRect around(0, 0, 10, 10);
+    view.CalcWindowRect(around, CWnd::adjustOutside);
+    EXPECT_EQ(around.Width(), 10 + 2 * ::GetSystemMetrics(SM_CXEDGE));
 }
 
 TEST(AfxFormView, ExchangesDataAndScrollsItsTemplate) {
@@ -288,18 +339,8 @@ struct AfxEditView : testing::Test {
     searched_view& view = frame.open<searched_view>();
 };
 
-TEST_F(AfxEditView, EditsFindsAndMarksItsDocument) {
+TEST_F(AfxEditView, FindsTextInBothDirections) {
     view.SetWindowText("one two One");
-    CMenu menu;
-    ASSERT_TRUE(menu.CreatePopupMenu() && menu.AppendMenu(MF_STRING, ID_EDIT_COPY, "Copy"));
-    const auto copies = [&] {
-        frame.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu.m_hMenu));
-        return (menu.GetMenuState(0, MF_BYPOSITION) & MF_GRAYED) == 0;
-    };
-    EXPECT_FALSE(copies());
-    EXPECT_EQ(frame.SendMessage(WM_COMMAND, ID_EDIT_SELECT_ALL), 1);
-    EXPECT_EQ(view.selected(), "one two One");
-    EXPECT_TRUE(copies());
     view.UpdateWindow();
     view.SetTabStops(8);
     EXPECT_TRUE(view.GetUpdateRect(nullptr)) << "its tabs lie elsewhere";
@@ -310,8 +351,53 @@ TEST_F(AfxEditView, EditsFindsAndMarksItsDocument) {
     view.SendMessage(EM_SETSEL, 11, 11);
     EXPECT_TRUE(view.FindText("One", FALSE)) << "upwards from the text's end";
     EXPECT_TRUE(view.FindText("one", FALSE));
-    frame.SendMessage(WM_COMMAND, ID_EDIT_CLEAR);
-    EXPECT_EQ(std::string(view.LockBuffer()), " two One");
+}
+
+TEST_F(AfxEditView, OffersTheCommandsThatItsTextAllows) {
+    CMenu menu;
+    menu.CreatePopupMenu();
+    for (const UINT id : {ID_EDIT_CUT, ID_EDIT_COPY, ID_EDIT_CLEAR, ID_EDIT_PASTE, ID_EDIT_UNDO, ID_EDIT_SELECT_ALL,
+                          ID_EDIT_FIND, ID_EDIT_REPLACE, ID_EDIT_REPEAT})
+        menu.AppendMenu(MF_STRING, id, "item");
+    const auto after = [&](UINT command) {
+        frame.SendMessage(WM_COMMAND, command);
+        frame.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu.m_hMenu));
+        std::string states;
+        for (UINT i = 0; i < 9; ++i)
+            states += (menu.GetMenuState(i, MF_BYPOSITION) & MF_GRAYED) != 0 ? '-' : '+';
+        return states + " " + text_of(view);
+    };
+    view.OpenClipboard();
+    ::EmptyClipboard();
+    ::CloseClipboard();
+    CDocument document;
+    document.m_bAutoDelete = FALSE;
+    view.SetWindowText("text");
+    document.AddView(&view);
+    EXPECT_EQ(after(ID_EDIT_SELECT_ALL), "+++--+++- text");
+    EXPECT_FALSE(document.IsModified());
+    EXPECT_EQ(after(ID_EDIT_COPY), "++++-+++- text");
+    EXPECT_EQ(after(ID_EDIT_CUT), "---++---- ");
+    EXPECT_TRUE(document.IsModified());
+    EXPECT_EQ(after(ID_EDIT_UNDO), "++++++++- text");
+    after(ID_EDIT_CLEAR);
+    EXPECT_EQ(after(ID_EDIT_PASTE), "---+++++- text");
+    document.RemoveView(&view);
+    view.SetWindowText("more");
+    CMemFile file;
+    store(file, [&](CArchive& ar) {
+        ar << WORD{0x4142};
+        view.SerializeRaw(ar);
+    });
+    EXPECT_EQ(bytes_of(file), "BAmore");
+    view.DeleteContents();
+    file.SeekToBegin();
+    load(file, [&](CArchive& ar) {
+        WORD before = 0;
+        ar >> before;
+        view.SerializeRaw(ar);
+    });
+    EXPECT_EQ(text_of(view), "more");
 }
 
 TEST_F(AfxEditView, SearchesAndReplacesByItsBox) {
@@ -388,7 +474,6 @@ TEST_F(AfxDynamicSplitter, FollowsTheMouseToCrossingsAndBackAgain) {
     EXPECT_EQ(::GetCapture(), nullptr);
     send(WM_LBUTTONDBLCLK, CPoint(moved.x, 10));
     EXPECT_TRUE(splitter.GetColumnCount() == 1 && splitter.GetRowCount() == 2);
-    EXPECT_EQ(splitter.GetDlgItem(AFX_IDW_HSCROLL_FIRST + 1), nullptr);
     send(WM_LBUTTONDOWN, CPoint(10, moved.y));
     frame.SetCapture();
     EXPECT_TRUE(splitter.log.ends_with("stop 0")) << "another has the mouse";
@@ -402,13 +487,11 @@ TEST_F(AfxDynamicSplitter, FollowsTheMouseToCrossingsAndBackAgain) {
 }
 
 TEST_F(AfxDynamicSplitter, SplitsWherePulledAndJoinsWhatBecomesTooSmall) {
-    EXPECT_EQ(splitter.GetRowCount() * splitter.GetColumnCount(), 1);
     const CRect client = inside_of(splitter);
     drag(CPoint(client.right - 4, 3), CPoint(client.right - 4, 100)); // the box above the scroll bar
     ASSERT_EQ(splitter.GetRowCount(), 2);
     EXPECT_NEAR(first_pane().cy, 97, 4);
     EXPECT_EQ(least, 20);
-    EXPECT_TRUE(splitter.GetPane(1, 0)->IsKindOf(RUNTIME_CLASS(page_view)));
     drag(CPoint(50, first_pane().cy + 3), CPoint(50, 150));
     EXPECT_NEAR(first_pane().cy, 147, 4);
     EXPECT_TRUE(splitter.SplitColumn(120) && splitter.GetColumnCount() == 2);
@@ -417,27 +500,89 @@ TEST_F(AfxDynamicSplitter, SplitsWherePulledAndJoinsWhatBecomesTooSmall) {
     EXPECT_EQ(frame.GetActiveView(), splitter.GetPane(0, 1));
     const auto is_active = [&](int column) { return static_cast<page_view*>(splitter.GetPane(0, column))->active; };
     EXPECT_TRUE(!is_active(0) && is_active(1));
-    EXPECT_FALSE(splitter.SplitRow(50) || splitter.SplitColumn(50)) << "there are two already";
     const CWnd* lower = splitter.GetPane(1, 0);
     drag(CPoint(20, first_pane().cy + 3), CPoint(20, 5));
     EXPECT_EQ(splitter.GetRowCount(), 1) << "the upper row became too small";
     EXPECT_EQ(splitter.GetPane(0, 0), lower);
-    EXPECT_EQ(splitter.GetDlgItem(AFX_IDW_VSCROLL_FIRST + 1), nullptr) << "its bar goes with it";
 }
 
 TEST_F(AfxDynamicSplitter, TurnsPanesThatShareABarTogether) {
-    ASSERT_TRUE(splitter.SplitColumn(120));
-    for (int column : {0, 1})
-        static_cast<page_view*>(splitter.GetPane(0, column))
-            ->SetScrollSizes(MM_TEXT, CSize(10, 2000), CSize(0, 90), CSize(0, 10));
+    ASSERT_TRUE(splitter.SplitColumn(120) && splitter.SplitRow(80));
+    CStatic marks[3];
+    for (int i = 0; i < 3; ++i) {
+        auto& pane = *static_cast<page_view*>(splitter.GetPane(i / 2, i % 2));
+        pane.SetScrollSizes(MM_TEXT, CSize(1000, 2000), CSize(80, 90), CSize(8, 10));
+        ASSERT_TRUE(marks[i].Create("", WS_CHILD, CRect(0, 0, 5, 5), &pane));
+    }
     auto& view = *static_cast<page_view*>(splitter.GetPane(0, 0));
     frame.SetActiveView(&view);
+    const auto turned = [&] {
+        std::string all;
+        for (CStatic& mark : marks) {
+            const CPoint at = place_in(*mark.GetParent(), mark).TopLeft();
+            all += std::to_string(-at.x) + "," + std::to_string(-at.y) + " ";
+        }
+        return all;
+    };
+    const auto scroll = [&](UINT message, UINT code, HWND bar) {
+        splitter.SendMessage(message, code, reinterpret_cast<LPARAM>(bar));
+        return turned();
+    };
     splitter.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA));
-    EXPECT_EQ(view.GetScrollPosition().y, 30) << "each by as much, from where it was";
-    EXPECT_EQ(view.GetScrollBarCtrl(SB_VERT)->GetScrollPos(), 30);
-    splitter.SendMessage(WM_VSCROLL, SB_BOTTOM);
-    splitter.SendMessage(WM_HSCROLL, SB_RIGHT);
-    EXPECT_EQ(view.GetScrollPosition().y, 30) << "by a bar of its own, which is not there";
+    EXPECT_EQ(turned(), "0,30 0,30 0,0 ") << "each by as much, from where it was";
+    EXPECT_EQ(scroll(WM_VSCROLL, SB_PAGEDOWN, *view.GetScrollBarCtrl(SB_VERT)), "0,120 0,120 0,0 ");
+    EXPECT_EQ(scroll(WM_HSCROLL, SB_PAGEDOWN, *view.GetScrollBarCtrl(SB_HORZ)), "80,120 0,120 80,0 ");
+    EXPECT_TRUE(splitter.DoScroll(&view, MAKEWORD(SB_LINERIGHT, SB_LINEUP)));
+    EXPECT_EQ(turned(), "88,110 0,110 88,0 ");
+    EXPECT_EQ(scroll(WM_VSCROLL, SB_BOTTOM, nullptr), "88,110 0,110 88,0 ")
+        << "by a bar of its own, which is not there";
+    EXPECT_EQ(view.GetScrollPosition(), CPoint(88, 110));
+}
+
+TEST_F(AfxDynamicSplitter, HasItsPartsInTheirPlaces) {
+    const auto parts = [&] {
+        std::vector<CRect> all;
+        constexpr int first = AFX_IDW_PANE_FIRST, row = AFX_IDW_VSCROLL_FIRST, column = AFX_IDW_HSCROLL_FIRST;
+        for (const int id : {first, first + 1, first + 16, first + 17, row, row + 1, column, column + 1}) {
+            if (CWnd* part = splitter.GetDlgItem(id))
+                all.push_back(place_in(splitter, *part));
+        }
+        splitter.drawn.clear();
+        canvas screen(1, 1);
+        splitter.OnDraw(&screen);
+        all.insert(all.end(), splitter.drawn.begin(), splitter.drawn.end());
+        return all;
+    };
+    const CRect all = inside_of(splitter);
+    const LONG right = all.right - 2 - ::GetSystemMetrics(SM_CXVSCROLL), bars_right = all.right - 2;
+    const LONG bottom = all.bottom - 2 - ::GetSystemMetrics(SM_CYHSCROLL), bars_bottom = all.bottom - 2;
+    EXPECT_THAT(parts(), ElementsAre(CRect(2, 2, right, bottom), CRect(right, 9, bars_right, bottom),
+                                     CRect(9, bottom, right, bars_bottom), CRect(right, 2, bars_right, 9),
+                                     CRect(2, bottom, 9, bars_bottom), all));
+    ASSERT_TRUE(splitter.SplitRow(80) && splitter.SplitColumn(120));
+    EXPECT_THAT(parts(), ElementsAre(CRect(2, 2, 120, 80), CRect(127, 2, right, 80), CRect(2, 87, 120, bottom),
+                                     CRect(127, 87, right, bottom), CRect(right, 2, bars_right, 80),
+                                     CRect(right, 87, bars_right, bottom), CRect(2, bottom, 120, bars_bottom),
+                                     CRect(127, bottom, right, bars_bottom), CRect(0, 80, right + 2, 87),
+                                     CRect(120, 0, 127, bottom + 2), CRect(0, 0, 122, 82), CRect(125, 0, all.right, 82),
+                                     CRect(0, 85, 122, all.bottom), CRect(125, 85, all.right, all.bottom)));
+    const std::pair<CPoint, LPCTSTR> pointers[] = {
+        {{60, 83}, IDC_SIZENS}, {{123, 40}, IDC_SIZEWE}, {{123, 83}, IDC_SIZEALL}};
+    for (auto [at, name] : pointers) {
+        splitter.ClientToScreen(&at);
+        ::SetCursorPos(at.x, at.y);
+        splitter.SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(splitter.m_hWnd), HTCLIENT);
+        EXPECT_EQ(::GetCursor(), ::LoadCursor(nullptr, name));
+    }
+    send(WM_LBUTTONDBLCLK, CPoint(123, 83));
+    EXPECT_EQ(parts().size(), 6u);
+    frame.SetActiveView(static_cast<CView*>(splitter.GetPane(0, 0)));
+    EXPECT_EQ(frame.SendMessage(WM_COMMAND, ID_WINDOW_SPLIT), 1);
+    EXPECT_EQ(first_pane(), CSize((right - 2) / 2, (bottom - 2) / 2));
+    splitter.SendMessage(WM_COMMAND, ID_PREV_PANE);
+    EXPECT_EQ(frame.GetActiveView(), splitter.GetPane(1, 1));
+    splitter.GetPane(1, 0)->SendMessage(WM_MOUSEACTIVATE, reinterpret_cast<WPARAM>(frame.m_hWnd), HTCLIENT);
+    EXPECT_EQ(frame.GetActiveView(), splitter.GetPane(1, 0)) << "which is clicked";
 }
 
 TEST(AfxSplitter, HoldsPanesOfItsOwnAndSplittersAgain) {

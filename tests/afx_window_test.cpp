@@ -13,25 +13,6 @@ HWND make_plain() {
     return ::CreateWindow("STATIC", "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
 }
 
-TEST(AfxWindow, SeesItsMessagesFromTheFirstToTheLast) {
-    recorder wnd;
-    ASSERT_TRUE(create_popup(wnd));
-    const HWND hwnd = wnd.m_hWnd;
-    EXPECT_TRUE(wnd.had_handle);
-    EXPECT_EQ(CWnd::FromHandlePermanent(hwnd), &wnd);
-    const auto at = [&](UINT message) { return std::find(wnd.seen.begin(), wnd.seen.end(), message); };
-    EXPECT_LE(at(WM_NCCREATE) - wnd.seen.begin(), 1) << "at most the size question comes before";
-    EXPECT_TRUE(at(WM_NCCREATE) < at(WM_NCCALCSIZE) && at(WM_NCCALCSIZE) < at(WM_CREATE));
-    ASSERT_NE(at(WM_CREATE), wnd.seen.end());
-
-    wnd.seen.clear();
-    EXPECT_TRUE(wnd.DestroyWindow());
-    ASSERT_GE(wnd.seen.size(), 2u);
-    EXPECT_THAT(std::vector(wnd.seen.end() - 2, wnd.seen.end()), ElementsAre(WM_NCDESTROY, recorder::object_released));
-    EXPECT_TRUE(wnd.GetSafeHwnd() == nullptr && CWnd::FromHandlePermanent(hwnd) == nullptr);
-    EXPECT_FALSE(wnd.DestroyWindow());
-}
-
 TEST(AfxWindow, ReleasesTheObjectOnceWhenCreationFails) {
     recorder refused, rejected, unknown, failed;
     refused.refuse = true;
@@ -99,8 +80,34 @@ TEST(AfxWindow, IsCentredOverItsOwnerWithinTheWorkArea) {
     EXPECT_EQ(at(CRect(work.BottomRight() - CSize(30, 30), CSize(30, 30)), {60, 50}),
               work.BottomRight() - CSize(60, 50));
     EXPECT_EQ(at(CRect(corner, CSize(200, 100)), {work.Width() + 50, 20}).x, corner.x) << "its left part is seen";
+    CWnd child, within;
+    owner.MoveWindow(CRect(corner, CSize(200, 100)));
+    ASSERT_TRUE(within.Create(nullptr, "", WS_CHILD, CRect(20, 10, 50, 40), &owner, 1));
+    ASSERT_TRUE(child.Create(nullptr, "", WS_CHILD, CRect(0, 0, 10, 20), &owner, 2));
+    child.CenterWindow(&within);
+    EXPECT_EQ(place_in(owner, child), CRect(30, 15, 40, 35));
     wnd.DestroyWindow();
     owner.DestroyWindow();
+}
+
+TEST(AfxWindow, DoesWhatItsOperationsSay) {
+    CWnd wnd;
+    ASSERT_TRUE(create_visible_popup(wnd));
+    wnd.ValidateRect(nullptr);
+    CRgn part;
+    part.CreateRectRgn(1, 2, 30, 40);
+    CRect dirty;
+    wnd.InvalidateRgn(&part);
+    EXPECT_TRUE(wnd.GetUpdateRect(dirty));
+    EXPECT_EQ(dirty, CRect(1, 2, 30, 40));
+    wnd.ValidateRgn(&part);
+    EXPECT_FALSE(wnd.GetUpdateRect(dirty));
+    WINDOWPLACEMENT place{}; // without its length
+    EXPECT_TRUE(wnd.GetWindowPlacement(&place));
+    place.rcNormalPosition = CRect(100, 120, 180, 170);
+    place.length = 0;
+    EXPECT_TRUE(wnd.SetWindowPlacement(&place));
+    EXPECT_EQ(on_screen(wnd), CRect(100, 120, 180, 170));
 }
 
 TEST(AfxWindow, TemporaryObjectsLastUntilIdleHoweverManyThereAre) {

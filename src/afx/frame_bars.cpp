@@ -147,9 +147,11 @@ UINT items_of(const CMenu& menu) {
 void keep_place(CCmdUI& state) {
     const UINT count = items_of(*state.m_pMenu);
     if (count < state.m_nIndexMax) {
-        state.m_nIndex -= state.m_nIndexMax - count;
-        while (state.m_nIndex < count && state.m_pMenu->GetMenuItemID(static_cast<int>(state.m_nIndex)) == state.m_nID)
-            ++state.m_nIndex;
+        const UINT behind = state.m_nIndex + 1;
+        UINT next = behind - std::min(behind, state.m_nIndexMax - count);
+        while (next < count && state.m_pMenu->GetMenuItemID(static_cast<int>(next)) == state.m_nID)
+            ++next;
+        state.m_nIndex = next - 1; // the caller goes on from there
     }
     state.m_nIndexMax = count;
 }

@@ -46,9 +46,11 @@ BOOL CMDIChildWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD d
     const bool anywhere = rect.left == CW_USEDEFAULT;
     const int width = anywhere ? CW_USEDEFAULT : rect.right - rect.left;
     const int height = anywhere ? CW_USEDEFAULT : rect.bottom - rect.top;
-    // Shown only when its view is complete, as maximised as the one before.
-    return CreateEx(WS_EX_MDICHILD, lpszClassName, lpszWindowName, dwStyle | WS_CHILD, rect.left, rect.top, width,
-                    height, main->m_hWndMDIClient, nullptr, pContext);
+    BOOL maximized = FALSE; // the platform shows the child at once, and restores the one before
+    main->MDIGetActive(&maximized);
+    const DWORD as_before = maximized ? WS_MAXIMIZE : 0;
+    return CreateEx(WS_EX_MDICHILD, lpszClassName, lpszWindowName, dwStyle | WS_CHILD | as_before, rect.left, rect.top,
+                    width, height, main->m_hWndMDIClient, nullptr, pContext);
 }
 
 BOOL CMDIChildWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pParentWnd, CCreateContext* pContext) {
