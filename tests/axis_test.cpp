@@ -108,8 +108,8 @@ struct MarkedAxis : CWntAxis {
     void OnPaint() {
         CPaintDC dc(this);
         dc.FillSolidRect(CRect(0, 0, 40, 40), RGB(255, 255, 0));
-        DrawBorder(&dc, 14, 14, 4, 3, 0, 0);
-        DrawBorder(&dc, 19, 14, 4, 3, 1, 1);
+        DrawBorder(&dc, 14, 14, 4, 3, 0, 1);
+        DrawBorder(&dc, 19, 14, 4, 3, 1, 0);
         upright ? vertical_time_scale(&dc, 25) : horizontal_time_scale(&dc, 25);
     }
     bool upright = false;
@@ -143,7 +143,7 @@ TEST_F(AxisTest, DerivedAxesDrawBordersAndTimeMarks) {
     EXPECT_EQ(sketch(seen, borders, {{shadow, 's'}, {light, 'l'}, {RGB(255, 255, 0), ' '}}),
               "           \n"
               " sssl llls \n"
-              " s  l l??s \n" // filled
+              " s??l l  s \n" // filled and not
               " llll ssss \n"
               "           \n");
     short day[3] = {};

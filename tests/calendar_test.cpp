@@ -60,8 +60,13 @@ TEST_F(CalendarTest, ShowsTheWeeksFromToday) {
         const auto row = pixels.values.begin() + y * width;
         return std::count(row + 1, row + width - 1, ::GetSysColor(COLOR_BTNTEXT));
     };
-    EXPECT_LT(ink(6), ink(9));
-    EXPECT_GT(ink(height - 17 + 7), ink(height - 17 + 10));
+    std::vector<std::ptrdiff_t> up, down;
+    for (int row = 4; row < 14; ++row) {
+        up.push_back(ink(row));
+        down.push_back(ink(height - 17 + row));
+    }
+    EXPECT_THAT(up, testing::ElementsAre(0, 1, 3, 5, 7, 9, 11, 0, 0, 0));
+    EXPECT_THAT(down, testing::ElementsAre(0, 0, 11, 9, 7, 5, 3, 1, 0, 0));
 }
 
 TEST_F(CalendarTest, ScrollsByWeeks) {

@@ -30,7 +30,7 @@ TEST(GaugeViews, ReadoutsKeepTheirSizeWhileTheValueMoves) {
     for (const int i : {0, 1}) {
         GaugeModel model = model_of(gauge_digital, {":MINVAL=-1000000", ":MAXVAL=9", ":NOTITLE=X"});
         model.set_current_value(i ? -1'000'000 : 7);
-        const Scene scene(model, 300, 160);
+        const Scene scene(model, 160, 160);
         for (const Picture::Figure& f : scene.value.figures())
             heights[i] = std::max<int>(heights[i], f.bounds.top - f.bounds.bottom);
     }

@@ -191,7 +191,9 @@ TEST_F(GaugeTest, CallsAskForThePaintThatTheyNeed) {
     };
     EXPECT_TRUE(asks([&] { gauge_.SetTitles("a", "b"); }) && asks([&] { gauge_.SetRange(0, 200); }));
     EXPECT_TRUE(asks([&] { gauge_.Clear(); }) && asks([&] { gauge_.SetTestMode(0); }));
+    const Pixels bar = repainted(gauge_);
     EXPECT_TRUE(asks([&] { gauge_.SendMessage(WM_COMMAND, 104); }));
+    EXPECT_NE(repainted(gauge_), bar) << "another view";
     EXPECT_FALSE(
         asks([&] { gauge_.SetType(0), gauge_.ClearMarks(), gauge_.AddMark(200, "BLUE"), gauge_.SetCurVal(60); }));
     EXPECT_GT(repainted(gauge_).count(RGB(0, 0, 255)), 500);
