@@ -175,6 +175,15 @@ TEST_F(CalendarTest, StaysUsableBeyondItsDates) {
         ASSERT_EQ(program.boxes.size(), boxes); // told, not followed
         EXPECT_THAT(program.boxes.back(), testing::HasSubstr("1970"));
     };
+    try {
+        CWntTime(3001, 1, 1, 0, 0, 0, 0);
+        ADD_FAILURE() << "there is no such date";
+    } catch (COleException* error) {
+        char text[11] = "xxxxxxxxxx";
+        error->GetErrorMessage(text, sizeof text);
+        EXPECT_STREQ(text, "This date ");
+        error->Delete();
+    }
     for (int i = 0; i < weeks_since_1970 + 3; ++i)
         calendar_.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(150, 5));
     EXPECT_TRUE(program.boxes.empty());

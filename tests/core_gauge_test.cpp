@@ -29,6 +29,16 @@ TEST(ValueHistory, HoldsTheHighestOfAllSinceTheLastClear) {
     EXPECT_EQ(history.highest(), -50);
 }
 
+TEST(GaugeModel, BeginsAsTheBuiltInScriptSays) {
+    GaugeModel model(0xC8D0D4, 0xFFFFFF, 0x404040);
+    for (const std::string_view line : gauge_built_in_script)
+        model.load_line(line);
+    EXPECT_EQ(std::tuple(model.type, model.minimum, model.maximum, model.current, model.scales),
+              std::tuple(gauge_peak_line, 0, 100, 76, 20));
+    EXPECT_EQ(std::string(model.title_text()) + "|" + std::string(model.unit_text()),
+              "Titeltext dieses GAUGE Widgets|Unit");
+}
+
 TEST(GaugeModel, EveryKeyMarksItsPartForRepaint) {
     const std::vector<std::string_view> cases[] = {
         {":MSG=x", ":ID=x", ":UNITTITLE=x", ":SCALES=1000", ":BORDERSTYLE=TOP", ":CLRBORDER=RED", ":UPDATE",

@@ -170,18 +170,19 @@ TEST(VersionSheet, ShowsTheComponents) {
 TEST(VersionSheet, ShowsTheEnvironmentEachTimeItOpens) {
     const std::string old_path = std::getenv("PATH");
     ::SetEnvironmentVariableA("HOSTNAME", "machine");
-    CWntVersion sheet("Versions", nullptr, 1);
+    CWntVersion sheet(1U, nullptr, 1);
     for (const std::string& path : {std::string(79, 'p'), std::string(80, 'p')}) {
         ::SetEnvironmentVariableA("PATH", path.c_str());
         std::string shown;
         const auto read = [&](HWND window) {
+            EXPECT_FALSE(::IsWindowVisible(::GetDlgItem(window, ID_APPLY_NOW)));
             for (const Texts& row : rows_of(window, 1005))
                 shown += row[0] + " " + row[1] + ": " + row[2] + "\n";
         };
         EXPECT_EQ(run(sheet, PSBTN_OK, read), IDOK);
         ::SetEnvironmentVariableA("PATH", old_path.c_str());
         EXPECT_THAT(shown, MatchesRegex("0 Computer: .+\n1 Username: .+\n2 Plattform: Win32 on Windows NT\n"
-                                        "4 Version: \\d+.\\d+\n4 Build Nummer: \\d+\n"
+                                        "4 Version: \\d\\d?\\.\\d+\n4 Build Nummer: \\d+\n"
                                         "3 Windows directory: C:.windows\n3 Windows System directory: .*system32\n"
                                         "3 Current workdirectory: .+\n0 Hostname: machine\n5 Path: p*\n"));
         EXPECT_EQ(shown.find(path) != shown.npos, path.size() < 80); // longer ones are left out
