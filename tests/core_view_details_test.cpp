@@ -24,6 +24,15 @@ TEST(GaugeViews, PercentagesAreRounded) {
         EXPECT_TRUE(w.text != "100 %" || (w.bounds.left < 280 && w.bounds.right < 300)) << "at the bar's end";
 }
 
+TEST(GaugeViews, ADialsTitleFindsRoomBetweenItsLabels) {
+    std::vector<int> middles;
+    const Scene dial(model_of(gauge_analog, {":BARTITLE=1", ":TITLE=Level", ":SCALES=10"}), 240, 240);
+    for (const Writing& w : writings_of(dial))
+        if (w.text == "Level")
+            middles.push_back(static_cast<int>(w.bounds.top + w.bounds.bottom) / 2);
+    EXPECT_EQ(middles, std::vector{153});
+}
+
 // The size follows from the widest number of the range.
 TEST(GaugeViews, ReadoutsKeepTheirSizeWhileTheValueMoves) {
     int heights[2] = {}; // of the display's segments
