@@ -36,6 +36,9 @@ TEST_F(AfxDataDialog, ShowsAndTakesOverEveryKindOfData) {
     EXPECT_EQ(dialog.GetDlgItem(IDC_NAME)->SendMessage(EM_GETLIMITTEXT), 5);
     dialog.SetDlgItemText(IDC_NAME, "other");
     EXPECT_EQ(dialog.changes, 1);
+    char room[6] = "";
+    EXPECT_EQ(dialog.GetDlgItemText(IDC_NAME, room, 6), 5);
+    EXPECT_STREQ(room, "other");
     dialog.SetDlgItemText(IDC_COUNT, " -7 ");
     dialog.SetDlgItemText(IDC_FACTOR, "2.5e3");
     dialog.SetDlgItemText(IDC_LETTERS, "xyz");

@@ -121,9 +121,12 @@ TEST_F(NoteProgram, MakesChangesSavesAndOpensADocument) {
     frame().SendMessage(WM_CLOSE);
     EXPECT_NE(the_app.m_pMainWnd, nullptr);
     the_app.answer = IDYES;
+    frame().ShowWindow(SW_MAXIMIZE);
+    frame().SetTitle("");
     command(ID_FILE_NEW);
+    EXPECT_TRUE(frame().IsZoomed()) << "only the first one is shown as the program was started";
     EXPECT_EQ(on_disk(), "second");
-    EXPECT_EQ(document().text + title(), "Untitled - Tests");
+    EXPECT_EQ(document().text + title(), "Untitled");
     EXPECT_EQ(the_app.OpenDocumentFile(path_.c_str()), &document()) << "the one document is used again";
     EXPECT_EQ(document().text, "second");
     note_view in_no_frame;
@@ -270,6 +273,7 @@ struct AfxSeveralDocuments : testing::Test {
         the_app.answer = IDOK;
         EXPECT_EQ(note::alive, 0);
         end_documents();
+        EXPECT_FALSE(::IsMenu(of_documents)) << "it goes with the template";
     }
     static void add(CRuntimeClass* document, UINT id) {
         the_app.AddDocTemplate(
@@ -277,6 +281,7 @@ struct AfxSeveralDocuments : testing::Test {
     }
 
     CMDIFrameWnd* frame = new CMDIFrameWnd; // deletes itself
+    HMENU of_documents = nullptr;
 };
 
 TEST_F(AfxSeveralDocuments, AFileThatIsOpenIsShownNotOpenedAgain) {
@@ -296,7 +301,7 @@ TEST_F(AfxSeveralDocuments, AFileThatIsOpenIsShownNotOpenedAgain) {
     for (POSITION at = the_app.GetFirstDocTemplatePosition(); at != nullptr; ++templates)
         the_app.GetNextDocTemplate(at);
     EXPECT_EQ(templates, 1);
-    const HMENU of_documents = frame->GetMenu()->m_hMenu;
+    of_documents = frame->GetMenu()->m_hMenu;
     child->GetNextWindow()->SendMessage(WM_CLOSE);
     EXPECT_EQ(frame->GetMenu()->m_hMenu, of_documents) << "one is left";
     child->SendMessage(WM_CLOSE);

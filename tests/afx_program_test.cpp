@@ -114,6 +114,7 @@ TEST(AfxProgram, ShowsThatItIsBusyUntilTheLastWaitEnds) {
 }
 
 TEST(AfxProgram, BoxesBearItsNameAndAnIconThatFits) {
+    EXPECT_STREQ(AfxGetAppName(), "Tests");
     const std::pair<UINT, LPCTSTR> cases[] = {{MB_OK, IDI_EXCLAMATION},
                                               {MB_YESNO, IDI_QUESTION},
                                               {MB_RETRYCANCEL, IDI_HAND},

@@ -48,7 +48,8 @@ TEST(AfxWideText, IsWrittenInPlaceAndFormatted) {
     text.Format(L"%s", CStringW(L'x', 5000));
     EXPECT_EQ(text.GetLength(), 5000);
     text.Format(nullptr);
-    text.AppendFormat(L"%03d", 7);
+    text.AppendFormat(L"%02d", 0);
+    text.AppendFormat(L"%d", 7);
     text.SetAt(0, L'_');
     EXPECT_TRUE(text.Insert(1, text) == 6 && text == L"__0707" && text.Delete(1, 3) == 3 && text == L"_07");
     EXPECT_TRUE(text.FindOneOf(L"70") == 1 && raises<CInvalidArgException>([&] { text.SetAt(3, L'x'); }));
