@@ -1,6 +1,5 @@
 #include "widget_window.h"
 
-#include <climits>
 #include <cstring>
 #include <numeric>
 #include <string>
@@ -148,7 +147,9 @@ TEST_F(ButtonTest, PressMovesThePictureAndReleaseBringsItBack) {
     Tcbtn_properties p = plain();
     p.borderheight = 1;
     shown(p);
-    CClientDC(button_.GetDlgItem(surface_id)).FillSolidRect(5, 3, 9, 4, red); // what is moved
+    CClientDC content(button_.GetDlgItem(surface_id)); // what is moved, from edge to edge
+    content.FillSolidRect(2, 2, 12, 7, red);
+    content.FillSolidRect(5, 3, 9, 4, blue);
     std::vector<Pixels> pictures = {pixels_of(button_)};
     EXPECT_EQ(mouse(WM_LBUTTONDOWN, 7, 5), 3);
     pictures.push_back(pixels_of(button_));
@@ -185,6 +186,12 @@ TEST_F(ButtonTest, IsPaintedAgainWhereItDiffers) {
     EXPECT_EQ(pixels_of(button_).count(poison), 0);
 
     cover(button_, surface_id, poison);
+    button_.load("", 2); // nothing new is drawn without its ground
+    EXPECT_GT(pixels_of(button_).count(poison), 1000);
+    script({":CLRBACK=RED"});
+    EXPECT_EQ(pixels_of(button_).count(poison), 0);
+
+    cover(button_, surface_id, poison);
     button_.MoveWindow(0, 0, 50, 20); // narrower: its right and lower edges move
     button_.UpdateWindow();
     EXPECT_EQ(pixels_of(button_).count(poison), 0);
@@ -202,25 +209,7 @@ TEST_F(ButtonTest, EdgesOutsideAndHiddenDoNothing) {
     EXPECT_EQ(mouse(WM_LBUTTONUP, 10, 10), 2);
     script({":VISIBLE=0"});
     EXPECT_EQ(mouse(WM_LBUTTONDOWN, 10, 10), 2); // nothing is drawn, so nothing sinks
-}
-
-TEST_F(ButtonTest, AnyBlockAndSizeIsHarmless) {
-    open(button_, 80, 30);
     Tcbtn_properties p;
-    const int odd[] = {INT_MIN, INT_MIN + 1, -7, 0, 3, 255, INT_MAX - 1, INT_MAX};
-    for (const int value : odd) {
-        std::memset(&p, 'x', sizeof p); // titles and identifiers without an end
-        p.titlestyle = static_cast<std::uint8_t>(value & 3), p.align = static_cast<std::uint8_t>(value & 15);
-        p.visible = 1, p.fixed = 0, p.bordertype = value & 3, p.borderstyle = 15, p.borderheight = value;
-        p.clrback = p.clrtext = p.clrsun = p.clrshadow = p.clrborder = value;
-        for (const CSize size : {CSize(80, 30), CSize(4, 4), CSize(0, 0), CSize(1, 300)}) {
-            button_.SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
-            button_.setproperties(&p);
-            mouse(WM_LBUTTONDOWN, 2, 2);
-            mouse(WM_LBUTTONUP, 2, 2);
-            full_repaint(button_);
-        }
-    }
     CWntButton* volatile none = nullptr;
     EXPECT_EQ(none->getproperties(&p) + none->load(":TITLE=x", 0) + button_.getproperties(nullptr), 0);
 }
