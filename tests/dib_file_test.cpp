@@ -136,6 +136,11 @@ TEST(DibFile, CreatesBlankBitmaps) {
     Picture picture(4, 3);
     dib.Draw(picture.dc(), 0, 0, 0, 0);
     EXPECT_EQ(picture.at(0, 0), RGB(0x0A, 0x14, 0x37));
+    std::uint32_t sum = 2166136261u; // of the whole table
+    for (const RGBQUAD& colour : CDibFile::rgbQuadDefaultTable)
+        for (const BYTE part : {colour.rgbBlue, colour.rgbGreen, colour.rgbRed, colour.rgbReserved})
+            sum = (sum ^ part) * 16777619u;
+    EXPECT_EQ(sum, 1945435233u);
     const int objects = live_gdi_objects();
     for (int i = 0; i < 30; ++i)
         check(dib.CreateNew256Color(4, 3, 11, 1), 8);
