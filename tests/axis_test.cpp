@@ -77,7 +77,9 @@ TEST_F(AxisTest, TextsAndTheirAbsence) {
     axis_.SetFlags(2, 3, 1);
     size(300, 40);
     axis_.SetTexts(3, nullptr);
+    axis_.UpdateWindow();
     axis_.SetTexts(3, texts.data());
+    EXPECT_TRUE(::GetUpdateRect(axis_, nullptr, FALSE));
     full_repaint(axis_);
     axis_.SetTicks(50); // what lies beyond the last label has none
     EXPECT_TRUE(::GetUpdateRect(axis_, nullptr, FALSE));
@@ -112,7 +114,9 @@ TEST_F(AxisTest, TimeTicksAndLabels) {
 TEST_F(AxisTest, ConvertsBetweenPixelsAndWhatItShows) {
     axis_.SetFlags(2, 7, 0);
     size(315, 40);
+    axis_.UpdateWindow();
     axis_.SetRange(-12.0f, 88.0f);
+    EXPECT_TRUE(::GetUpdateRect(axis_, nullptr, FALSE));
     axis_.SetTicks(9);
     axis_.MakeRange();
     EXPECT_THAT((std::vector{axis_.GetGridCount(), axis_.GetScaleLineCount(), axis_.GetScaleLinePos(2),
@@ -128,6 +132,7 @@ TEST_F(AxisTest, ConvertsBetweenPixelsAndWhatItShows) {
                 testing::ElementsAre(1, 0, 0, 0, 1, 1));
     EXPECT_THAT((std::vector{inside, strict, beyond}), testing::Pointwise(testing::FloatEq(), {8.0f, 5.0f, 108.0f}));
     EXPECT_THAT((std::vector{pixel, beyond_pixel, clamped}), testing::ElementsAre(65, 316, 64));
+    beyond_pixel = -9;
     constexpr __int64 start = 32 * 8'640'000; // of 1 February 1980
     axis_.SetRange(start, start + 6'300);
     axis_.SetCurrentDay(1980, 2, 1);
