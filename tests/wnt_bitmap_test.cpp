@@ -40,8 +40,8 @@ TEST(WntBitmap, BeginsAsAGreyRamp) {
     EXPECT_TRUE(!bitmap.GetPixelAddress(5, 0) && !bitmap.GetPixelAddress(0, 3));
     EXPECT_FALSE(bitmap.Create(-1, 4) || bitmap.Create(INT_MAX, INT_MAX) || bitmap.Create(65'536, 32'768));
     BITMAPINFO endless = {{40, 1, 1, 1, 24, BI_RGB, 0, 0, 0, 65'537, 0}, {}};
-    EXPECT_FALSE(bitmap.Create(&endless, nullptr));
-    bitmap.Draw(nullptr, 0, 0); // nothing is kept, and nothing harms
+    EXPECT_FALSE(bitmap.Create(&endless, nullptr) || bitmap.Load(148U)); // a resource without a file's header
+    bitmap.Draw(nullptr, 0, 0);                                          // nothing is kept, and nothing harms
     bitmap.CopyBits(&bitmap, 0, 0, 1, 1, 0, 0, all_pixels);
     CWntBitmapPalette palette;
     CWntBitmap ramp;
@@ -186,17 +186,17 @@ TEST(WntBitmap, DrawsTheRowsThatAFileGave) {
         disk.write(bytes);
         CWntBitmap bitmap;
         ASSERT_TRUE(bitmap.Load(disk.name()));
-        Picture picture(4, 4);
-        bitmap.Draw(CDC::FromHandle(picture.dc()), 0, 0, 4, 4);
+        Picture picture(6, 5);
+        bitmap.Draw(CDC::FromHandle(picture.dc()), 2, 1, 4, 4);
         if (std::abs(height) == 4) {
-            Picture natural(4, 4);
-            bitmap.Draw(CDC::FromHandle(natural.dc()), 0, 0);
+            Picture natural(6, 5);
+            bitmap.Draw(CDC::FromHandle(natural.dc()), 2, 1);
             EXPECT_EQ(natural.values(), picture.values()) << height;
         }
         for (int y = 0; y < 4; ++y) { // from below
             const int row = height > 0 ? y : 3 - y;
             const bool given = std::abs(height) == 4 && row < 2;
-            EXPECT_EQ(picture.at(1, y), given ? two_rows.colour_at(1, row) : colour_of(0)) << height << ' ' << y;
+            EXPECT_EQ(picture.at(3, y), given ? two_rows.colour_at(1, row) : colour_of(0)) << height << ' ' << y;
         }
     }
 }
@@ -256,8 +256,8 @@ TEST(BitmapPalette, LoadsAndSavesPaletteFiles) {
         EXPECT_FALSE(palette.Save(&reading));
     }
     CWntBitmapPalette none;
-    EXPECT_FALSE(none.Save(INVALID_HANDLE_VALUE) || none.Load(static_cast<HANDLE>(nullptr)) || none.Create(nullptr) ||
-                 none.GetNumColors());
+    EXPECT_FALSE(none.SetSysPalColors() || none.Save(INVALID_HANDLE_VALUE) || none.Load(static_cast<HANDLE>(nullptr)) ||
+                 none.Create(nullptr) || none.GetNumColors());
 }
 
 TEST(BitmapPalette, RefusesFaultyFilesAndKeepsItsColours) {
