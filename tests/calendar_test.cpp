@@ -180,22 +180,15 @@ TEST_F(CalendarTest, MenusOfTheRegions) {
 
 TEST_F(CalendarTest, StaysUsableBeyondItsDates) {
     const int weeks_since_1970 = static_cast<int>(today_.time_since_epoch().count()) / 7;
-    const auto expect_no_dates = [&](std::size_t boxes) {
-        full_repaint(calendar_);
-        EXPECT_FALSE(::GetUpdateRect(calendar_.m_hWnd, nullptr, FALSE));
-        EXPECT_EQ(pixels_of(calendar_).at(200, 100), CalendarReference::grey);
-        calendar_.SendMessage(WM_COMMAND, 105);
-        ASSERT_EQ(program.boxes.size(), boxes); // told, not followed
-        EXPECT_EQ(program.boxes.back(), "This date does not exist or lies outside the years 1970 to 3000.");
-    };
     for (int i = 0; i < weeks_since_1970 + 3; ++i)
         calendar_.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(150, 5));
     EXPECT_TRUE(program.boxes.empty());
-    expect_no_dates(1);
-    drag(WM_LBUTTONDOWN, 60), drag(WM_MOUSEMOVE, 200), drag(WM_MOUSEMOVE, -20'000), drag(WM_LBUTTONUP, 100);
-    for (int i = 0; i < 55'000; ++i) // beyond the year 3000
-        calendar_.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(150, height - 5));
-    expect_no_dates(2);
+    full_repaint(calendar_);
+    EXPECT_FALSE(::GetUpdateRect(calendar_.m_hWnd, nullptr, FALSE));
+    EXPECT_EQ(pixels_of(calendar_).at(200, 100), CalendarReference::grey);
+    calendar_.SendMessage(WM_COMMAND, 105); // told, not followed
+    EXPECT_THAT(program.boxes,
+                testing::ElementsAre("This date does not exist or lies outside the years 1970 to 3000."));
 }
 
 TEST_F(CalendarTest, RefusedDatesTellTheirCodeAndAText) {
