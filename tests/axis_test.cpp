@@ -1,4 +1,5 @@
 #include "axis_reference.h"
+#include "modal.h"
 #include "widget_window.h"
 
 #include <string>
@@ -6,6 +7,11 @@
 namespace {
 
 constexpr COLORREF shadow = RGB(10, 20, 30);
+
+struct ZoomedAxis : CWntAxis {
+    void OnZoomed() override { ++zoomed; }
+    int zoomed = 0;
+};
 
 struct AxisTest : WidgetTest {
     void SetUp() override {
@@ -45,7 +51,7 @@ struct AxisTest : WidgetTest {
     }
 
     const COLORREF shadow_ = ::GetSysColor(COLOR_BTNSHADOW);
-    CWntAxis axis_;
+    ZoomedAxis axis_;
 };
 
 TEST_F(AxisTest, NumericTicksAndLabelsOfAllPositions) {
@@ -71,7 +77,9 @@ TEST_F(AxisTest, TextsAndTheirAbsence) {
     axis_.SetFlags(2, 3, 1);
     size(300, 40);
     axis_.SetTexts(3, nullptr);
+    axis_.UpdateWindow();
     axis_.SetTexts(3, texts.data());
+    EXPECT_TRUE(::GetUpdateRect(axis_, nullptr, FALSE));
     full_repaint(axis_);
     axis_.SetTicks(50); // what lies beyond the last label has none
     EXPECT_TRUE(::GetUpdateRect(axis_, nullptr, FALSE));
@@ -103,8 +111,44 @@ TEST_F(AxisTest, TimeTicksAndLabels) {
     EXPECT_EQ(shown_end.hour, 18);
 }
 
+TEST_F(AxisTest, ConvertsBetweenPixelsAndWhatItShows) {
+    axis_.SetFlags(2, 7, 0);
+    size(315, 40);
+    axis_.UpdateWindow();
+    axis_.SetRange(-12.0f, 88.0f);
+    EXPECT_TRUE(::GetUpdateRect(axis_, nullptr, FALSE));
+    axis_.SetTicks(9);
+    axis_.MakeRange();
+    EXPECT_THAT((std::vector{axis_.GetGridCount(), axis_.GetScaleLineCount(), axis_.GetScaleLinePos(2),
+                             axis_.GetScaleLinePos(99), axis_.GetTickWidth()}),
+                testing::ElementsAre(100, 20, 54, 316, 3));
+    EXPECT_FLOAT_EQ(axis_.PixelPerGrid(), 3.15f);
+    float inside = 5, strict = 5, beyond = 5;
+    int pixel = -9, clamped = -9, beyond_pixel = -9;
+    __int64 time = -9;
+    EXPECT_THAT((std::vector{axis_.CalcFloatCoord(63, &inside), axis_.CalcFloatCoord(378, &strict),
+                             axis_.ScreenToValue(378, &beyond), axis_.ValueToScreen(8.5f, &pixel),
+                             axis_.ValueToScreen(99.0f, &beyond_pixel), axis_.CalcPixelCoord(8.5f, &clamped)}),
+                testing::ElementsAre(1, 0, 0, 0, 1, 1));
+    EXPECT_THAT((std::vector{inside, strict, beyond}), testing::Pointwise(testing::FloatEq(), {8.0f, 5.0f, 108.0f}));
+    EXPECT_THAT((std::vector{pixel, beyond_pixel, clamped}), testing::ElementsAre(65, 316, 64));
+    beyond_pixel = -9;
+    constexpr __int64 start = 32 * 8'640'000; // of 1 February 1980
+    axis_.SetRange(start, start + 6'300);
+    axis_.SetCurrentDay(1980, 2, 1);
+    EXPECT_THAT(
+        (std::vector{axis_.ScreenToValue(7, &time), axis_.ValueToScreen(start + 170, &pixel),
+                     axis_.ValueToScreen(start - 1, &clamped), axis_.ValueToScreen(start + 6'301, &beyond_pixel),
+                     axis_.SetCurrentTime(190), axis_.SetCurrentTime(start + 210)}),
+        testing::ElementsAre(1, 0, -1, 1, 9, 10));
+    EXPECT_THAT((std::vector<__int64>{time - start, pixel, clamped, beyond_pixel}),
+                testing::ElementsAre(140, 8, -1, 316));
+}
+
 // Draws what a derived class can besides.
 struct MarkedAxis : CWntAxis {
+    using CWntAxis::position_description_, CWntAxis::title_, CWntAxis::value_title_;
+    using CWntAxis::title_font_, CWntAxis::value_font_;
     void OnPaint() {
         CPaintDC dc(this);
         dc.FillSolidRect(CRect(0, 0, 40, 40), RGB(255, 255, 0));
@@ -125,6 +169,7 @@ TEST_F(AxisTest, DerivedAxesDrawBordersAndTimeMarks) {
     const CRect borders(13, 13, 24, 18);
     Pixels seen;
     CString marks;
+    Picture printed(40, 36);
     for (int position = 0; position < 4; ++position) {
         axis.SetFlags(position, 7, 0);
         axis.SetRange(0.0f, 100.0f);
@@ -133,12 +178,13 @@ TEST_F(AxisTest, DerivedAxesDrawBordersAndTimeMarks) {
         for (int i = 0; i < seen.width * seen.height; ++i)
             if (seen.values[i] == shadow && !borders.PtInRect(CPoint(i % seen.width, i / seen.width)))
                 marks.AppendFormat("%d,%d ", i % seen.width, i / seen.width);
-        marks += "| ";
+        axis.SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(printed.dc()));
+        marks += axis.position_description_ + CString("| ");
     }
-    EXPECT_STREQ(marks, "11,31 11,32 11,33 11,34 11,35 | "
-                        "28,27 29,27 30,27 31,27 32,27 33,27 34,27 35,27 36,27 37,27 38,27 39,27 | "
-                        "11,1 11,2 11,3 11,4 11,5 | "
-                        "1,27 2,27 3,27 4,27 5,27 6,27 7,27 8,27 9,27 10,27 11,27 12,27 | ");
+    EXPECT_STREQ(marks, "11,31 11,32 11,33 11,34 11,35 X Axis at top| "
+                        "28,27 29,27 30,27 31,27 32,27 33,27 34,27 35,27 36,27 37,27 38,27 39,27 Y Axis at left| "
+                        "11,1 11,2 11,3 11,4 11,5 X Axis at bottom| "
+                        "1,27 2,27 3,27 4,27 5,27 6,27 7,27 8,27 9,27 10,27 11,27 12,27 Y Axis at right| ");
     const COLORREF light = ::GetSysColor(COLOR_BTNHIGHLIGHT);
     EXPECT_EQ(sketch(seen, borders, {{shadow, 's'}, {light, 'l'}, {RGB(255, 255, 0), ' '}}),
               "           \n"
@@ -146,6 +192,14 @@ TEST_F(AxisTest, DerivedAxesDrawBordersAndTimeMarks) {
               " s??l l  s \n" // filled and not
               " llll ssss \n"
               "           \n");
+    CString title = "title", value_title = "value";
+    axis.SetTitle(&title);
+    axis.SetValueTitle(&value_title);
+    LOGFONT fonts[2] = {};
+    axis.title_font_.GetLogFont(&fonts[0]);
+    axis.value_font_.GetLogFont(&fonts[1]);
+    EXPECT_THAT((std::vector<LONG>{fonts[0].lfHeight, fonts[1].lfHeight}), testing::ElementsAre(-25, -15));
+    EXPECT_EQ(axis.title_ + "," + axis.value_title_, "title,value");
     short day[3] = {};
     EXPECT_EQ(axis.SetCurrentDay(2026, 11, 21), 1);
     axis.GetCurrentDay(&day[0], &day[1], &day[2]);
@@ -154,7 +208,7 @@ TEST_F(AxisTest, DerivedAxesDrawBordersAndTimeMarks) {
 
 TEST_F(AxisTest, AFollowedRangeIsSeenAtOnce) {
     axis_.FollowRange(0, 6'000); // before it has a size
-    axis_.SetFlags(2, 0, 2);
+    axis_.SetAxisType(2);
     for (const CSize& extent : {CSize(300, 40), CSize(500, 60), CSize(90, 30)}) {
         size(extent.cx, extent.cy);
         full_repaint(axis_);
@@ -162,6 +216,9 @@ TEST_F(AxisTest, AFollowedRangeIsSeenAtOnce) {
         EXPECT_FALSE(::GetUpdateRect(axis_, nullptr, FALSE));
         const Pixels seen = pixels_of(axis_);
         EXPECT_TRUE(seen == repainted(axis_)) << extent.cx;
+        Picture copy(extent.cx, extent.cy);
+        axis_.FollowRange(extent.cx, extent.cx + 6'000, CDC::FromHandle(copy.dc()));
+        EXPECT_EQ(copy.values(), seen.values) << extent.cx;
     }
     axis_.SetRange(0LL, 6'000LL); // one that is set waits for its paint
     EXPECT_TRUE(::GetUpdateRect(axis_, nullptr, FALSE));
@@ -180,7 +237,11 @@ TEST_F(AxisTest, ZoomControlFollowsTheMouse) {
     const auto captured = [this] { return ::GetCapture() == axis_.m_hWnd; };
     size(300, 60);
     axis_.SetRange(0.0f, 100.0f);
+    double from = -1, to = -1;
+    EXPECT_EQ(axis_.GetZoom(&from, &to), 0); // not shown yet
+    axis_.UpdateWindow();
     axis_.SendMessage(WM_COMMAND, 100);
+    EXPECT_TRUE(::GetUpdateRect(axis_, nullptr, FALSE));
     EXPECT_EQ(zoom(), "#######");
 
     drag({297, 55}, {200, 55}); // the far grip
@@ -201,14 +262,67 @@ TEST_F(AxisTest, ZoomControlFollowsTheMouse) {
     ::ReleaseCapture();
     mouse(WM_MOUSEMOVE, 130, 55, MK_LBUTTON);
     EXPECT_EQ(zoom(), "#####..");
+    EXPECT_EQ(axis_.zoomed, 2);
     axis_.SetAxisPosition(1);
     size(60, 300);
     axis_.SetRange(0.0f, 100.0f);
     drag({5, 297}, {5, 200});
-    double from = -1, to = -1;
     EXPECT_EQ(axis_.GetZoom(&from, &to), 1);
     EXPECT_NEAR(from, 1.0 / 3, 0.02) << "counted from the lower end";
     EXPECT_NEAR(to, 1, 0.02);
+}
+
+TEST_F(AxisTest, ZoomControlLooksLikeItsSketches) {
+    axis_.SetAxisType(2); // without ticks
+    axis_.SendMessage(WM_COMMAND, 100);
+    std::vector<Pixels> shown;
+    for (const int position : {1, 2, 3}) {
+        axis_.SetAxisPosition(position);
+        size(6, 6);
+        axis_.SetRange(0.0f, 100.0f); // the slider keeps the place that it has here
+        size(11, 9);
+        shown.push_back(repainted(axis_));
+    }
+    const std::vector<std::pair<COLORREF, char>> names = {{shadow, 's'},
+                                                          {::GetSysColor(COLOR_BTNHIGHLIGHT), 'l'},
+                                                          {RGB(128, 128, 128), '.'},
+                                                          {RGB(0, 255, 0), 'b'},
+                                                          {RGB(0, 128, 0), '#'}};
+    std::string rows;
+    for (int y = 0; y < 9; ++y, rows += '\n')
+        for (const Pixels& each : shown)
+            rows += " " + sketch(each, CRect(0, y, 11, y + 1), names).substr(0, 11);
+    EXPECT_EQ(rows, R"( lllllllslls l####sssssl lllssssssss
+ l######s..s ssssssbbbbl ###sbbbbbbb
+ l######s..s sbbbbbbbbbl ###sbbbbbbb
+ l######s..s sbbbbbbbbbl ###sbbbbbbb
+ l######s..s sbbbbbbbbbl ###sbbbbbbb
+ ssssssss..s sbbbbbbbbbl ssssbbbbbbb
+ sbbbbbbl..s sbbbbbbbbbl l..sbbbbbbb
+ sbbbbbbl..s lllllllllll l..sbbbbbbb
+ llllllllsss sssssssssss sssllllllll
+)");
+}
+
+TEST_F(AxisTest, PropertiesShowItsLimitsAndOrientation) {
+    CString shown;
+    for (const int position : {0, 1, 2, 3}) {
+        axis_.SetFlags(position, 7, 0);
+        const WhileModal modal([&] {
+            CWnd* dialog = CWnd::FromHandle(shown_dialog());
+            for (int id = 1026; dialog && id <= 1028; ++id) {
+                CString text;
+                dialog->GetDlgItemText(id, text);
+                shown += text + ";";
+            }
+            if (dialog)
+                shown += dialog->IsDlgButtonChecked(1127) ? "x " : "- ";
+            return dialog && dialog->PostMessage(WM_COMMAND, IDOK);
+        });
+        axis_.SendMessage(WM_COMMAND, 101);
+    }
+    EXPECT_STREQ(shown, "   0.00; 100.00;   0.00;-    0.00; 100.00;   0.00;- "
+                        "   0.00; 100.00;   0.00;x    0.00; 100.00;   0.00;x ");
 }
 
 TEST_F(AxisTest, DraggingTheZoomPaintsAllThatChanges) {

@@ -5,8 +5,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <climits>
+#include <iterator>
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -62,13 +65,21 @@ TEST(Keywords, LookupsKeepTheirOddAnswers) {
     EXPECT_EQ(leading_key_lookup(button_keys, "BORDERH=3", 19), 10);
     EXPECT_EQ(leading_key_lookup(button_keys, "WORDWRAP X", 18), -1);
 
-    for (const auto& [name, value] : {std::pair{"DARKYELLOW", 0x008080u},
-                                      {"GRAY", 0xC0C0C0u},
-                                      {"DARKGRAY", 0x808080u},
-                                      {"BLUE", 0xFF0000u},
-                                      {"DARKRED", 0x000080u},
-                                      {"CYAN", 0xFFFF00u}})
-        EXPECT_EQ(colour_values[colour_lookup(name)], value) << name;
+    std::ostringstream words; // in the order of their codes
+    for (const KeywordTable table :
+         std::initializer_list<KeywordTable>{border_type_words, title_style_words, look_words, gauge_type_words,
+                                             line_style_words, marker_shape_words, side_words})
+        std::ranges::copy(table, std::ostream_iterator<std::string_view>(words, " "));
+    for (int i = 0; i < colour_count; ++i)
+        words << colour_words[i] << ' ' << std::hex << colour_values[i] << ' ';
+    EXPECT_EQ(words.str(),
+              "NOBORDER FLAT 3DUP 3DDOWN PLAIN INSET OUTSET BOLD MOTIF MSWIN MAC "
+              "PERCENTBAR THERMOMETER ANALOG DIGITAL PEAKLINE TURNKNOB "
+              "SOLID ALTERNATE DOT SHORTDASH DASHDOT DOUBLEDOT LONGDASH DASHDOUBLEDOT "
+              "CIRCLE TRIANGLE RECTANGLE SEXAGON OCTAGON TOP LEFT BOTTOM RIGHT "
+              "BLACK 0 WHITE ffffff BLUE ff0000 YELLOW ffff GREEN ff00 MAGENTA ff00ff RED ff CYAN ffff00 "
+              "DARKGRAY 808080 GRAY c0c0c0 DARKBLUE 800000 DARKYELLOW 8080 DARKGREEN 8000 DARKMAGENTA 800080 "
+              "DARKRED 80 DARKCYAN 808000 ");
     expect_codes(colour_lookup, {{"DARKBLUE ", 255}, {text_of(nullptr), 255}});
     EXPECT_EQ(std::string(keyword_at(side_words, 0)) + keyword_at(side_words, 3) + line_style_word(0), "TOPRIGHTSOLID");
     EXPECT_TRUE(!keyword_at(side_words, 4) && !line_style_word(7) && !keyword_at(colour_words, 255) &&

@@ -36,6 +36,7 @@ TEST(SharedMemory, GoesWithItsLastUser) {
     MEMORY_BASIC_INFORMATION memory = {};
     ::VirtualQuery(place, &memory, sizeof memory);
     EXPECT_EQ(memory.State, static_cast<DWORD>(MEM_FREE));
+    EXPECT_EQ(::OpenFileMappingA(FILE_MAP_READ, FALSE, block_name), nullptr);
 }
 
 TEST(SharedMemory, IsNullWhereThereIsNoSuchBlock) {
@@ -176,8 +177,11 @@ std::string shown_by(CWntErrorBox&& box) {
         for (const int id : {1003, 1004, 1005}) {
             CString text;
             box.GetDlgItemText(id, text);
-            CClientDC dc(box.GetDlgItem(id));
-            texts += text + (dc.GetPixel(1, 1) == ::GetSysColor(COLOR_WINDOW) ? "|" : ".");
+            CRect client;
+            box.GetDlgItem(id)->GetClientRect(&client);
+            Picture picture(client.right, client.bottom);
+            picture.capture(box.GetDlgItem(id)->m_hWnd);
+            texts += text + (picture.count(::GetSysColor(COLOR_BTNFACE)) == 0 ? "|" : ".");
         }
         box.PostMessage(WM_COMMAND, IDOK);
         return true;
@@ -193,12 +197,13 @@ TEST(ErrorBox, ShowsItsTextsAndBreaksEndlessWords) {
     const std::string shown = shown_by(CWntErrorBox(endless, "message", endless));
     EXPECT_EQ(std::count(shown.begin(), shown.end(), 'x'), 400'000);
     EXPECT_EQ(shown.find(std::string(1001, 'x')), std::string::npos);
+    EXPECT_EQ(std::count(shown.begin(), shown.end(), '\n'), 2 * 199);
 }
 
 TEST(FileSel, OpensInTheMiddleOfItsParent) {
     CWnd host;
     ASSERT_TRUE(host.CreateEx(0, nullptr, "host", WS_POPUP | WS_VISIBLE, CRect(200, 100, 1000, 700), nullptr, 0));
-    CWntFileSel choice(TRUE, "dll", "ZOPWNT.dll", OFN_HIDEREADONLY, "Libraries|*.dll||", &host);
+    CWntFileSel choice(TRUE, "dll", "ZOPWNT", OFN_HIDEREADONLY, "Libraries|*.dll||", &host);
     CRect place;
     WhileModal modal([&] {
         if (!choice.m_hWnd || !::IsWindowVisible(::GetParent(choice.m_hWnd)))

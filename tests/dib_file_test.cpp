@@ -67,15 +67,34 @@ TEST(Bitmaps, ShowAndSaveEveryKindOfFile) {
         const auto pixels = bytes.begin() + file.head_bytes() + file.gap;
         const Bytes stored(pixels, pixels + static_cast<std::ptrdiff_t>(count));
         EXPECT_EQ(bits_of(dib, count), stored);
-        EXPECT_EQ(bits_of(CDibFile(dib), count), stored);
+        const CDibFile copy(dib);
+        EXPECT_EQ(bits_of(copy, count), stored);
 
-        ASSERT_EQ(dib.Save(disk.name()), 1);
+        ASSERT_EQ(copy.Save(disk.name()), 1);
         Bytes expected(bytes.begin(), bytes.begin() + file.head_bytes());
         expected.insert(expected.end(), stored.begin(), stored.end());
         const std::uint32_t facts[3] = {static_cast<std::uint32_t>(expected.size()), 0, file.head_bytes()};
         std::memcpy(expected.data() + 2, facts, sizeof facts);
         EXPECT_EQ(disk.bytes(), expected);
     }
+}
+
+TEST(Bitmaps, AreDrawnWhereTheyAreAskedTo) {
+    CWntBitmap bitmap;
+    CDibFile dib;
+    ASSERT_TRUE(bitmap.Create(3, 2) && dib.CreateNewTrueColor(3, 2, 0));
+    const auto drawn = [](auto draw) { // corners inclusive, from above
+        Picture picture(20, 16);
+        picture.clear(RGB(255, 255, 255));
+        draw(picture.dc());
+        const RECT ink = picture.ink(RGB(255, 255, 255));
+        return std::vector<LONG>{ink.left, 15 - ink.top, ink.right, 15 - ink.bottom};
+    };
+    using testing::ElementsAre;
+    EXPECT_THAT(drawn([&](HDC dc) { dib.Draw(dc, 4, 7, 0, 9); }), ElementsAre(4, 7, 6, 8));
+    EXPECT_THAT(drawn([&](HDC dc) { dib.DrawRealized(dc, 4, 7, 5, 6); }), ElementsAre(4, 7, 8, 12));
+    EXPECT_THAT(drawn([&](HDC dc) { bitmap.Draw(CDC::FromHandle(dc), 4, 7); }), ElementsAre(4, 7, 6, 8));
+    EXPECT_THAT(drawn([&](HDC dc) { bitmap.Draw(CDC::FromHandle(dc), 4, 7, 5, 6); }), ElementsAre(4, 7, 8, 12));
 }
 
 TEST(DibFile, IsReadFromWhereAFileStands) {
@@ -128,7 +147,12 @@ TEST(DibFile, CreatesBlankBitmaps) {
     CDibFile dib;
     const auto check = [&](int made, int bits) {
         EXPECT_TRUE(made && dib.GetBitsPerPixel() == bits);
-        EXPECT_EQ(bits_of(dib, 4U * 3 * bits / 8), Bytes(4U * 3 * bits / 8, 11));
+        const Bytes expected(4U * 3 * bits / 8, 11);
+        EXPECT_EQ(bits_of(dib, expected.size()), expected);
+        dib.SetColor(255, 255, 255);
+        dib.Line(1, 1, 2, 1);
+        const Bytes lined = bits_of(dib, expected.size());
+        EXPECT_EQ(std::count(lined.begin(), lined.end(), 11), 10 * bits / 8);
     };
     check(dib.CreateNewHighColor(4, 3, 11), 16);
     check(dib.CreateNewTrueColor(4, 3, 0x10B), 24);
@@ -136,6 +160,11 @@ TEST(DibFile, CreatesBlankBitmaps) {
     Picture picture(4, 3);
     dib.Draw(picture.dc(), 0, 0, 0, 0);
     EXPECT_EQ(picture.at(0, 0), RGB(0x0A, 0x14, 0x37));
+    std::uint32_t sum = 2166136261u; // of the whole table
+    for (const RGBQUAD& colour : CDibFile::rgbQuadDefaultTable)
+        for (const BYTE part : {colour.rgbBlue, colour.rgbGreen, colour.rgbRed, colour.rgbReserved})
+            sum = (sum ^ part) * 16777619u;
+    EXPECT_EQ(sum, 1945435233u);
     const int objects = live_gdi_objects();
     for (int i = 0; i < 30; ++i)
         check(dib.CreateNew256Color(4, 3, 11, 1), 8);
@@ -182,10 +211,6 @@ TEST(DibFileScreen, FollowsTheScreensDepth) {
     EXPECT_EQ(dib.GetBitsPerPixel(), depth);
     EXPECT_EQ(dib.DrawRealized(screen, 0, 0, 0, 0), depth > 8);
     EXPECT_EQ(dib.GetLastError(), depth > 8 ? 0 : 1);
-    const TemporaryFile dump;
-    dib.SaveBitmapInfo(dump.name());
-    EXPECT_THAT(dump.text(),
-                testing::HasSubstr(depth == 8 ? "  0,  0,  0,  0   ,  0,  0,128,  0" : "// no color table used."));
     dib.SetColor(0, 255, 255);
     dib.Line(0, 0, 15, 0);
     EXPECT_EQ(bits_of(dib, 1)[0] != 0, depth < 32);
@@ -235,71 +260,27 @@ TEST(DibFile, IsRenderedIntoByOpenGL) {
     EXPECT_EQ(picture.count(RGB(255, 0, 0)), 32 * 32);
 }
 
-// Over broken files nothing may crash, and what was loaded can be drawn, drawn on and saved.
-constexpr std::int64_t most_pixels = 1 << 18; // larger ones only take time
-
-struct BitmapFaults : testing::Test {
-    BitmapFaults() { palette.Create(&other); }
-
-    static bool small(std::int64_t width, std::int64_t height) { return width * std::abs(height) <= most_pixels; }
-
-    void try_dib() {
-        CDibFile dib;
-        const int loaded = dib.StreamIn(disk);
-        ASSERT_TRUE((dib.IsValid() != 0) == (loaded != 0) && (dib.GetLastError() == 0) == (loaded != 0));
-        dib.SetColor(200, 100, 255);
-        dib.SetPixel(dib.GetWidth() - 1, dib.GetHeight() - 1);
-        if (!loaded || !small(dib.GetWidth(), dib.GetHeight()))
-            return;
-        ++dibs;
-        dib.Line(INT_MIN, 3, INT_MAX, 1);
-        dib.Line(-5, -5, 5, 50'000);
-        dib.DrawRealized(picture.dc(), 1, 1, 30, 30);
-        CDibFile copy(dib);
-        copy.ClearBits(0x5A);
-        ASSERT_EQ(copy.StreamOut(disk), 1);
-        dib.StreamIn(INVALID_HANDLE_VALUE); // what it held goes
-    }
-
-    void try_bitmap() {
-        CWntBitmap bitmap;
-        const BOOL loaded = bitmap.Load(&disk);
-        ASSERT_TRUE(loaded || bitmap.GetWidth() == 16); // as it was
-        bitmap.Draw(nullptr, 0, 0);
-        bitmap.CopyBits(&other, 0, 0, 3, 3, 0, 0, 5);
-        other.CopyBits(&bitmap, 0, 0, 3, 3, 0, 0, 0xFFFFFFFF);
-        if (!loaded || !small(bitmap.GetWidth(), bitmap.GetHeight()))
-            return;
-        ++bitmaps;
-        bitmap.Draw(CDC::FromHandle(picture.dc()), 0, 0);
-        ASSERT_TRUE(bitmap.MapColorsToPalette(&palette) && bitmap.Save(&disk));
-        colours.Create(&bitmap);
-        colours.Draw(CDC::FromHandle(picture.dc()), CRect(0, 0, 20, 10), FALSE);
-    }
-
-    void try_file(const Bytes& bytes) {
+// What is loaded of them can be drawn and drawn on; large ones only take time.
+TEST(Bitmaps, BrokenFilesDoNoHarm) {
+    const TemporaryFile disk;
+    Picture picture(40, 40);
+    int files = 0, loaded = 0;
+    const auto small = [](auto& loaded) { return loaded.GetWidth() * std::abs(1LL * loaded.GetHeight()) <= 1 << 18; };
+    try_broken_bitmap_files([&](const Bytes& bytes) {
+        disk.write(bytes);
         ++files;
-        for (const bool dib : {false, true}) {
-            disk.SetLength(0);
-            disk.Write(bytes.data(), static_cast<UINT>(bytes.size()));
-            disk.SeekToBegin();
-            dib ? try_dib() : try_bitmap();
+        CDibFile dib;
+        CWntBitmap bitmap;
+        if (dib.Load(disk.name()) && small(dib)) {
+            ++loaded;
+            dib.SetColor(200, 100, 255);
+            dib.Line(-5, -5, 5, 50'000);
+            CDibFile(dib).DrawRealized(picture.dc(), 1, 1, 30, 30);
         }
-    }
-
-    TemporaryFile held;
-    CFile disk{held.name(), CFile::modeReadWrite};
-    Picture picture{40, 40};
-    CWntBitmap other;
-    CWntBitmapPalette palette, colours;
-    int files = 0, dibs = 0, bitmaps = 0;
-};
-
-TEST_F(BitmapFaults, DoNoHarm) {
-    const int objects = live_gdi_objects();
-    try_broken_bitmap_files([this](const Bytes& bytes) { try_file(bytes); });
-    EXPECT_GE(std::min(dibs, bitmaps), files / 10);
-    EXPECT_LE(live_gdi_objects(), objects + 1); // the last palette
+        if (bitmap.Load(disk.name()) && small(bitmap))
+            bitmap.Draw(CDC::FromHandle(picture.dc()), 0, 0);
+    });
+    EXPECT_GE(loaded, files / 10);
 }
 
 } // namespace

@@ -8,6 +8,7 @@ using Texts = std::vector<std::string>;
 namespace {
 
 struct Tracer : CWntTrace {
+    using CWntTrace::display;
     using CWntTrace::setstream;
     using CWntTrace::stream;
 };
@@ -78,7 +79,7 @@ TEST_F(TraceTest, LinesGoToTheOpenStream) {
     trace.Trace("\n");
     trace.Trace(-2, "outdented\n");
     trace.Trace(600, "deep\n");
-    trace.SetFlags(0);
+    trace.SetFlags(2);
     trace.Trace("lost\n");
     trace.SetFilename("trace banner.txt"); // switches it on; the stream stays
     EXPECT_THAT(text_of("trace banner.txt"),
@@ -117,7 +118,7 @@ TEST_F(TraceTest, WindowShowsAndSelectsTheNewestLine) {
     trace.SetFlags(1);
     trace.Trace("unseen");
     trace.SetFlags(2);
-    trace.Trace("two");
+    trace.display("two");
     EXPECT_THAT(lines(), ElementsAre("first", "one", "one", "one more", "one", "two"));
     ::SendMessage(list(), WM_SETREDRAW, FALSE, 0);
     for (int i = 6; i < 9'999; ++i)
@@ -133,6 +134,13 @@ TEST_F(TraceTest, WindowShowsAndSelectsTheNewestLine) {
     EXPECT_THAT(lines(), IsEmpty());
     trace.DestroyWindow();
     ::WritePrivateProfileStringA("Position", nullptr, nullptr, settings);
+    {
+        Tracer fresh;
+        open(fresh, 0, 0);
+        const HWND window = ::FindWindowA("#32770", "Tracer");
+        EXPECT_EQ(on_screen(*CWnd::FromHandle(window)).TopLeft(), CPoint(10, 10));
+    }
+    EXPECT_EQ(::FindWindowA("#32770", "Tracer"), nullptr);
 }
 
 TEST_F(TraceTest, LongLinesAndBadFormatsAreOnlyReported) {
