@@ -158,20 +158,6 @@ TEST(PulseDecimation, PaintsWhatAllSamplesPaint) {
     }
 }
 
-TEST(PulseDecimation, TimeGrowsWithColumnsNotWithSamples) {
-    struct Counter final : ColumnPainter {
-        int runs = 0;
-        void run(const ColumnRun&) override { ++runs; }
-        bool covered(std::int64_t, double, double) override { return true; }
-    } counter;
-    PulseSeries series(200'000);
-    for (int i = 0; i < 200'000; ++i)
-        series.append(i, i % 3 ? i % 100 : hole); // a hole in every block
-    paint_columns(series, {200'000, 100}, 0, 100, 1000, counter);
-    EXPECT_LT(counter.runs,
-              100 * 2 * (2 * 64 + 16 * 4)); // the ends of each column's blocks and the samples beside them
-}
-
 // Curves as they are drawn, a letter for each pixel.
 using Curve = std::pair<CurveStyle, std::vector<std::pair<int, int>>>;
 std::string drawn(const std::vector<Curve>& curves) {

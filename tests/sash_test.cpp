@@ -157,25 +157,6 @@ TEST_F(Sash, PassesOnWhatItsPanesTell) {
     EXPECT_FALSE(inner.SetPanes(&sash_, nullptr)); // it holds the sash
 }
 
-TEST_F(Sash, MayBeDestroyedOnAnyNotification) {
-    for (const UINT code : {WNT_SASH_MOVING, WNT_SASH_MOVED, WNT_SASH_FOLDED})
-        for (const bool live : {true, false}) {
-            auto* sash = new CWntSash;
-            ASSERT_TRUE(sash->Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 205, 100), &host_, 20));
-            sash->SetLiveDrag(live);
-            sash->SetFoldPane(1);
-            const HWND window = sash->m_hWnd;
-            host_.answer = [&](WntSashNotify& n) -> LRESULT {
-                if (n.hdr.code == code)
-                    delete std::exchange(sash, nullptr);
-                return 0;
-            };
-            for (const UINT message : {WM_LBUTTONDOWN, WM_MOUSEMOVE, WM_LBUTTONUP, WM_LBUTTONDBLCLK})
-                ::SendMessage(window, message, 0, MAKELPARAM(message == WM_LBUTTONDOWN ? 102 : 52, 10));
-            EXPECT_FALSE(sash || ::IsWindow(window)) << code;
-        }
-}
-
 TEST_F(Sash, AFoldedBarStaysUntilItIsReallyMoved) {
     sash_.SetLeastSizes(80, 0);
     sash_.SetFoldPane(1);

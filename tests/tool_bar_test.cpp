@@ -116,6 +116,19 @@ TEST_F(ToolBar, SeparatorsAreEngravedEitherWay) {
     }
 }
 
+TEST_F(ToolBar, ArrowsTellOfMenus) {
+    script({":SPLIT=100,0", ":MENU=110,a", ":ITEM=101,0", ":ITEM=102,0"});
+    bar_->MoveWindow(0, 0, 54, 26);
+    EXPECT_EQ(sketch(repainted(*bar_), CRect(26, 11, 50, 16),
+                     {{::GetSysColor(COLOR_BTNTEXT), '#'}, {::GetSysColor(COLOR_BTNFACE), '.'}}),
+              R"(................#...#...
+..#####..........#...#..
+...###............#...#.
+....#............#...#..
+................#...#...
+)");
+}
+
 TEST_F(ToolBar, TakesPicturesFromIconsAndFiles) {
     CWntToolItem item(100, "warn"), kept;
     item.tip = "tip";
@@ -124,7 +137,6 @@ TEST_F(ToolBar, TakesPicturesFromIconsAndFiles) {
     item.large = ::LoadIconA(nullptr, IDI_ERROR);
     item.group = 7;
     item.enabled = false;
-    item.check = 2;
     bar_->SetPictures(nullptr, nullptr);
     bar_->AddItem(item);
     ASSERT_EQ(bar_->GetItem(0, &kept), 1);
