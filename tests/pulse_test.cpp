@@ -126,7 +126,7 @@ TEST_F(Pulse, LooksBackByMouseAndKeysAndReturns) {
 TEST_F(Pulse, KeysAndTheBarGoByPartsOfWhatIsShown) {
     feed(0, 60'000);
     const HWND bar = chart_.GetDlgItem(4)->m_hWnd;
-    SCROLLINFO info = {sizeof info, SIF_ALL};
+    SCROLLINFO info = {sizeof info, SIF_ALL, 0, 0, 0, 0, 0};
     ::GetScrollInfo(bar, SB_CTL, &info);
     EXPECT_THAT((std::vector{info.nMin, info.nMax, static_cast<int>(info.nPage), info.nPos}),
                 testing::ElementsAre(0, 1000, 100, 900));
@@ -161,7 +161,7 @@ TEST_F(Pulse, KeysAndTheBarGoByPartsOfWhatIsShown) {
     }
     EXPECT_NEAR(static_cast<double>(at[0]), 33'000, 30);
     EXPECT_NEAR(static_cast<double>(at[1] - at[0]), 100, 30);
-    MSG escape = {chart_.m_hWnd, WM_KEYDOWN, VK_ESCAPE};
+    MSG escape = {chart_.m_hWnd, WM_KEYDOWN, VK_ESCAPE, 0, 0, {}};
     const auto wanted = [&] { return chart_.SendMessage(WM_GETDLGCODE, 0, reinterpret_cast<LPARAM>(&escape)); };
     EXPECT_EQ(wanted(), DLGC_WANTARROWS | DLGC_WANTCHARS | DLGC_WANTMESSAGE);
     key(VK_ESCAPE);
