@@ -1,7 +1,7 @@
 #include "widgets/gauge/gauge_scale.h"
 #include "widgets/gauge/value_history.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <climits>
 
@@ -29,14 +29,17 @@ TEST(ValueHistory, HoldsTheHighestOfAllSinceTheLastClear) {
     EXPECT_EQ(history.highest(), -50);
 }
 
-TEST(GaugeModel, BeginsAsTheBuiltInScriptSays) {
-    GaugeModel model(0xC8D0D4, 0xFFFFFF, 0x404040);
+TEST(GaugeModel, BeginsWithASample) {
+    GaugeModel model;
     for (const std::string_view line : gauge_built_in_script)
         model.load_line(line);
-    EXPECT_EQ(std::tuple(model.type, model.minimum, model.maximum, model.current, model.scales),
-              std::tuple(gauge_peak_line, 0, 100, 76, 20));
-    EXPECT_EQ(std::string(model.title_text()) + "|" + std::string(model.unit_text()),
-              "Titeltext dieses GAUGE Widgets|Unit");
+    EXPECT_THAT((std::vector{model.type, model.minimum, model.maximum, model.current, model.scales, model.border_type,
+                             model.border_sides, model.border_height, static_cast<int>(model.text_colour)}),
+                testing::ElementsAre(gauge_peak_line, 0, 100, 76, 20, 2, 15, 0, 0));
+    EXPECT_THAT(model.mark_values, testing::ElementsAre(100, 20, 30, 40, 50, 60, 70, 0, 0, 0));
+    EXPECT_THAT(model.mark_colours, testing::ElementsAre(12, 4, 11, 3, 14, 6, 1, 0, 0, 0));
+    EXPECT_EQ(std::string(model.title_text()).append(model.unit_text()).append(field_text(model.id)),
+              "Titeltext dieses GAUGE WidgetsUnitGAUGE01");
 }
 
 TEST(GaugeModel, EveryKeyMarksItsPartForRepaint) {

@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <cmath>
 #include <deque>
-#include <functional>
 #include <limits>
 #include <string>
 
@@ -157,20 +156,6 @@ TEST(PulseDecimation, PaintsWhatAllSamplesPaint) {
         }
         ASSERT_TRUE(pixels == expected) << "seed " << seed;
     }
-}
-
-TEST(PulseDecimation, TimeGrowsWithColumnsNotWithSamples) {
-    struct Counter final : ColumnPainter {
-        int runs = 0;
-        void run(const ColumnRun&) override { ++runs; }
-        bool covered(std::int64_t, double, double) override { return true; }
-    } counter;
-    PulseSeries series(200'000);
-    for (int i = 0; i < 200'000; ++i)
-        series.append(i, i % 3 ? i % 100 : hole); // a hole in every block
-    paint_columns(series, {200'000, 100}, 0, 100, 1000, counter);
-    EXPECT_LT(counter.runs,
-              100 * 2 * (2 * 64 + 16 * 4)); // the ends of each column's blocks and the samples beside them
 }
 
 // Curves as they are drawn, a letter for each pixel.
@@ -432,24 +417,6 @@ TEST(PulseView, StaysWhereItIsPut) {
     view.zoom(100, 0);
     EXPECT_EQ(view.x(100'000), 594);    // six columns a hundredth, all of the last one's
     EXPECT_EQ(view.x(view.start()), 0); // where the axis begins
-}
-
-TEST(PulseView, HoldsAtAnyCall) {
-    Random random(3);
-    const std::int64_t odd[] = {INT64_MIN, -1, 0, 1, INT64_MAX, PulseSeries::latest};
-    PulseView view;
-    const auto some = [&] { return random.one_in(3) ? random.of(odd) : random.upto(1'000'000) - 500'000; };
-    const std::function<void()> calls[] = {[&] { view.resize(static_cast<std::int32_t>(some())); },
-                                           [&] { view.zoom(some(), some()); },
-                                           [&] { view.show(some(), some()); },
-                                           [&] { view.scroll(some()); },
-                                           [&] { view.set_history(some(), some()); },
-                                           [&] { view.set_live(random.one_in(2)); }};
-    for (int i = 0; i < 20'000; ++i) {
-        random.of(calls)();
-        ASSERT_LT(view.start(), view.end());
-        ASSERT_TRUE(PulseView::shortest_span <= view.span() && view.span() <= PulseView::longest_span);
-    }
 }
 
 } // namespace

@@ -128,9 +128,12 @@ TEST_F(PulseFile, KeepsTheFirstError) {
         file.SetLineCount(count);
         EXPECT_EQ(file.SetLineTitle(index, "title"), error) << count << ' ' << index;
     }
-    EXPECT_STREQ(CWntPulseFile::ErrorText(2), "wrong use of get");
-    EXPECT_STREQ(CWntPulseFile::ErrorText(9), "errpr while writing data");
-    EXPECT_STREQ(CWntPulseFile::ErrorText(10), "undifined error");
+    std::string texts;
+    for (int error = 1; error <= 10; ++error)
+        texts.append(CWntPulseFile::ErrorText(error)).append(";");
+    EXPECT_EQ(texts, "undifined error;wrong use of get;wrong use of put;wrong open mode;file not open;"
+                     "error while reading data;out of range;file already open;errpr while writing data;"
+                     "undifined error;");
 
     CWntPulseFile file(CWntPulseFile::write, "a.txt");
     EXPECT_EQ(code_of([&] { file.Put(1, 1, -1); }), invalid_argument);

@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 
 #include <cmath>
+#include <sstream>
 
 using namespace wnt;
 
@@ -50,17 +51,41 @@ TEST(GaugeViews, StayInsideTheirStageAndTextsApartAtEverySize) {
         }
 }
 
+// Each text with its place and size, and its colour where it is not the one of texts.
+std::string texts_of(const Scene& scene) {
+    std::ostringstream all;
+    all << '\n';
+    for (const Writing& w : writings_of(scene)) {
+        all << (all.str().size() > 1 ? " " : "") << w.text << '@' << std::lround(w.at.x) << ',' << std::lround(w.at.y)
+            << '*' << w.tenths;
+        if (w.colour != 0x800000)
+            all << '#' << std::hex << w.colour << std::dec;
+    }
+    return all.str();
+}
+
 TEST(GaugeViews, ShowValueTitlesAndScale) {
+    std::string texts;
     for (int type = 0; type < gauge_type_count; ++type) {
-        GaugeModel model =
-            model_of(type, {":TITLE=Pressure", ":UNITTITLE=bar", ":MAXVAL=500", ":CURVAL=137", ":SCALES=50"});
-        const Scene scene(model, 240, 220);
-        EXPECT_TRUE(writes(scene, "Pressure") && writes(scene, "bar") && writes(scene, "500")) << type;
-        EXPECT_TRUE(type == gauge_digital || writes(scene, "137")) << type; // that one has segments
+        GaugeModel model = model_of(type, {":TITLE=Flow", ":UNITTITLE=bar", ":MINVAL=-40", ":MAXVAL=160", ":CURVAL=137",
+                                           ":SCALES=2", ":CLRTEXT=DARKBLUE"});
+        texts += texts_of({model, 240, 220});
+        model.load_line(":BARTITLE=X");
+        if (type == gauge_percent_bar || type == gauge_analog)
+            texts += texts_of({model, 240, 220});
         model.load_line(":NOTITLE=1");
         const Scene untitled(model, 240, 220);
-        EXPECT_FALSE(writes(untitled, "Pressure") || writes(untitled, "bar")) << type;
+        EXPECT_FALSE(writes(untitled, "Flow") || writes(untitled, "bar")) << type;
     }
+    EXPECT_EQ(texts, R"(
+Flow@120,192*132 -40@23,25*136 60@121,25*136 160@219,25*136  89 %@120,77*281#0 137@120,147*167#ffffff  bar@120,151*125#c6c4c4
+-40@25,32*155 60@121,32*155 160@217,32*155 Flow@28,91*281#0  89 %@212,98*179#0  89 %@212,98*179 137@121,162*189#ffffff  bar@121,166*141#c6c4c4
+Flow@120,192*132 -40@101,59*72 60@101,116*72 160@101,174*72 137@121,8*97#ffffff  bar@121,10*72#c6c4c4
+-40@84,55*84 60@120,147*84 160@156,55*84 bar@120,58*84 Flow@120,192*132 137@120,32*119#ffffff
+-40@79,62*96 60@120,166*96 160@161,62*96 bar@120,66*96 Flow@120,133*96 137@120,36*135#ffffff
+Flow@120,192*132 bar@184,74*196#b5b3b2 -40@19,16*118#b5b3b2 160@221,16*118#b5b3b2
+Flow@120,192*132 -40@27,33*87 60@27,104*87 160@27,175*87 137@120,9*130#ffffff  bar@120,11*97#c6c4c4
+-40@65,35*84 60@120,163*84 160@175,35*84 Flow@120,192*132 137@120,10*119#ffffff  bar@120,13*89#c6c4c4)");
     EXPECT_TRUE(writes({model_of(gauge_percent_bar, {":CURVAL=7"}), 240, 220}, "  7 %"));
 }
 

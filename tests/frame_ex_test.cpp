@@ -67,7 +67,23 @@ TEST_F(FrameExTest, ScrollingShowsWhatAFullRepaintShows) {
 
 TEST_F(FrameExTest, FoldsByItsHeaderAndByKeys) {
     const int folded = frame_.GetHeaderHeight() + 2; // and the border
+    frame_.LoadLine(":CLRTEXT=RED", 0);
+    const auto mark = [&] { return sketch(repainted(frame_), CRect(5, 10, 18, 16), {{RGB(255, 0, 0), '#'}}); };
+    EXPECT_EQ(mark(), R"(?###########?
+??#########??
+???#######???
+????#####????
+?????###?????
+??????#??????
+)");
     frame_.SendMessage(WM_LBUTTONDOWN, 0, MAKELPARAM(50, 10));
+    EXPECT_EQ(mark(), R"(????####?????
+????#####????
+????######???
+????#####????
+????####?????
+????###??????
+)");
     EXPECT_TRUE(on_screen(frame_).Height() == folded && !child_.IsWindowVisible());
     frame_.SendMessage(WM_KEYDOWN, VK_SPACE, 0);
     EXPECT_TRUE(on_screen(frame_).Height() == 150 && child_.IsWindowVisible());
@@ -135,14 +151,6 @@ TEST_F(FrameExTest, ScrollsByKeys) {
         EXPECT_EQ(on_screen(child_).top, top - down) << key;
     }
     EXPECT_EQ(frame_.SendMessage(WM_GETDLGCODE), DLGC_WANTARROWS);
-}
-
-TEST_F(FrameExTest, MayBeDestroyedWhenItTells) {
-    auto* doomed = new CWntFrameEx;
-    ASSERT_TRUE(doomed->Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 100), &host_, 9));
-    host_.answer = [&](WntFrameNotify&) { return delete std::exchange(doomed, nullptr), 0; };
-    doomed->SendMessage(WM_LBUTTONDOWN, 0, MAKELPARAM(20, 10));
-    EXPECT_FALSE(doomed);
 }
 
 } // namespace

@@ -87,9 +87,12 @@ TEST_F(GaugeTest, StaleFaceIsNotPaintedOver) {
 }
 
 TEST_F(GaugeTest, ColourLinesArePaintedAsColourValues) {
-    open_with(100, 100,
-              {":TYPE=ANALOG", ":NOTITLE=X", ":BORDERHEIGHT=3", ":BORDERTYPE=3DUP", ":CLRBACK=GRAY", ":CLRSUN=CYAN",
-               ":CLRSHADOW=RED"});
+    open_with(100, 100, {":TYPE=ANALOG", ":NOTITLE=X", ":BORDERHEIGHT=3", ":BORDERTYPE=3DUP"});
+    const Pixels plain = pixels_of(gauge_);
+    EXPECT_THAT((std::vector{plain.at(1, 50), plain.at(98, 50), plain.at(4, 4)}),
+                testing::ElementsAre(::GetSysColor(COLOR_BTNHIGHLIGHT), ::GetSysColor(COLOR_3DDKSHADOW),
+                                     ::GetSysColor(COLOR_BTNFACE)));
+    script({":CLRBACK=GRAY", ":CLRSUN=CYAN", ":CLRSHADOW=RED"});
     const Pixels p = pixels_of(gauge_);
     EXPECT_TRUE(p.at(1, 50) == RGB(7, 0, 0) && p.at(50, 1) == RGB(7, 0, 0)); // left and top: sun
     EXPECT_TRUE(p.at(98, 50) == RGB(6, 0, 0) && p.at(4, 4) == RGB(9, 0, 0)); // right: shadow; background
@@ -98,7 +101,9 @@ TEST_F(GaugeTest, ColourLinesArePaintedAsColourValues) {
 }
 
 TEST_F(GaugeTest, TestModeGivesRoomToBarAndButton) {
-    open_with(120, 120, {":DEMO=X", ":MINVAL=5", ":MAXVAL=70000", ":CURVAL=40"});
+    open(gauge_, 120, 120);
+    gauge_.SetTestMode(1);
+    script({":MINVAL=5", ":MAXVAL=70000", ":CURVAL=40"});
     gauge_.SetWindowPos(nullptr, 0, 0, 130, 120, SWP_NOMOVE | SWP_NOZORDER);
     const auto place = [&](int id) { return place_in(gauge_, *gauge_.GetDlgItem(id)); };
     EXPECT_EQ(place(100), CRect(0, 0, 130, 110));
@@ -106,12 +111,16 @@ TEST_F(GaugeTest, TestModeGivesRoomToBarAndButton) {
     EXPECT_EQ(place(104), CRect(120, 110, 130, 120));
 
     HWND bar = gauge_.GetDlgItem(103)->m_hWnd;
+    int low = 0, high = 0;
+    ::GetScrollRange(bar, SB_CTL, &low, &high);
+    EXPECT_THAT((std::vector{low, high, ::GetScrollPos(bar, SB_CTL)}), testing::ElementsAre(5, 70000, 40));
     const auto scroll = [&](int request, int position = 0) {
         gauge_.SendMessage(WM_HSCROLL, MAKEWPARAM(request, position), reinterpret_cast<LPARAM>(bar));
         return ::GetScrollPos(bar, SB_CTL);
     };
     const Pixels before = pixels_of(*gauge_.GetDlgItem(surface_id));
     EXPECT_EQ(scroll(SB_LINERIGHT), 41);
+    EXPECT_EQ(gauge_.GetCurVal(), 41);
     EXPECT_FALSE(before == pixels_of(*gauge_.GetDlgItem(surface_id)));
     EXPECT_EQ(scroll(SB_THUMBTRACK, 333), 333);
     EXPECT_EQ(scroll(SB_RIGHT), 70000);
@@ -127,7 +136,10 @@ TEST_F(GaugeTest, LoadsScriptFiles) {
     for (const char* nothing : {"no such file", "\"", static_cast<const char*>(nullptr)})
         gauge_.LoadFromFile(nothing);
     script({":CLEARMARKS"});
+    EXPECT_TRUE(gauge_.GetExStyle() & WS_EX_ACCEPTFILES);
+    ::ValidateRect(gauge_.m_hWnd, nullptr);
     drop_file(gauge_, "gauge test.dat");
+    EXPECT_TRUE(::GetUpdateRect(gauge_.m_hWnd, nullptr, FALSE));
     EXPECT_GT(pixels_of(gauge_).count(RGB(0, 0, 255)), 1000);
     EXPECT_EQ(::GlobalFlags(drop_file(gauge_, "")) & GMEM_INVALID_HANDLE, GMEM_INVALID_HANDLE);
     ::DeleteFileA("gauge test.dat");
@@ -154,7 +166,8 @@ TEST_F(GaugeTest, HoldsAtAnySizeRangeAndCall) {
     EXPECT_LT(live_gdi_objects(), objects + 50);
     CWntGauge* volatile none = nullptr;
     none->SetCurVal(1);
-    EXPECT_EQ(none->LoadLine(":CURVAL=1", 0), 0);
+    EXPECT_EQ(none->LoadLine(":CURVAL=1", 0) + none->GetCurVal(), 0);
+    EXPECT_STREQ(CWntGauge::GAUGEstrstr("one, two, twofold", "two"), "two, twofold");
     gauge_.DestroyWindow();
     gauge_.SetCurVal(7);
     gauge_.LoadLine("", 2);

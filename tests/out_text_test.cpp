@@ -127,8 +127,6 @@ TEST_F(TextTest, LengthsAndSizesAreBounded) {
     EXPECT_LT(width(written(2)), width(written(3)));
     for (const int none : {0, -1, INT_MIN})
         EXPECT_EQ(width(written(none)), 0);
-    char nothing[] = "";
-    EXPECT_EQ(width(ink([&](CWntOut& o) { o.chars(50, 50, nothing, 0), o.titlechars(0, 0, 99, 99, nothing); })), 0);
     for (const int size : {INT_MAX, INT_MIN, INT_MAX / 6 + 1, -80, 0}) {
         ink([&](CWntOut& o) {
             o.settext(1, 2, 3, size, 5, 6), o.chars(20, 20, word, 6), o.titlechars(0, 0, 50, size, word);

@@ -8,14 +8,22 @@
 TEST_F(SurfaceTest, DeviceContextCycle) {
     CWntOut bare;
     EXPECT_EQ(bare.reset(), 0);
-    bare.line(0, 0, 5, 5);
+    EXPECT_THAT((std::vector{bare.bkcolour, bare.fillcolour_, bare.linecolour_, COLORREF(bare.fontsize)}),
+                testing::ElementsAre(0xFFFFFF, 0xFF0000, 0, 80));
+    CFont font;
+    bare.setbackground(RGB(1, 2, 3), 4);
+    bare.setbackgroundbitmap(5);
+    bare.setfont(&font);
+    EXPECT_THAT((std::vector{bare.bkcolour, COLORREF(bare.bkflag), COLORREF(bare.bkbitmap)}),
+                testing::ElementsAre(RGB(1, 2, 3), 4, 5));
+    EXPECT_EQ(bare.font, &font);
     host_.ShowWindow(SW_HIDE);
     EXPECT_EQ(out.reset(), 0); // hidden with its host
     host_.ShowWindow(SW_SHOWNOACTIVATE);
     out.SetWindowPos(nullptr, 0, 0, 90, 70, SWP_NOZORDER);
-    EXPECT_EQ(out.ymax, 70); // one more than after reset()
+    EXPECT_EQ(CSize(out.xmax, out.ymax), CSize(90, 70)); // one more than after reset()
     ASSERT_EQ(out.reset(), 1);
-    EXPECT_EQ(out.ymax, 69);
+    EXPECT_EQ(CSize(out.xmax, out.ymax), CSize(89, 69));
     const HDC own = out.dc;
     out.endpaint();
     EXPECT_EQ(out.dc, own);

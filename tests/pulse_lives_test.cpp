@@ -19,15 +19,19 @@ TEST_F(PulseLives, RecordsAndReads) {
     EXPECT_EQ(chart_.OpenFile(path, 0), 0); // what is recorded goes on
     EXPECT_EQ(chart_.StopRecording(), 1);
     EXPECT_EQ(chart_.StopRecording() + chart_.StartRecording("no such folder\\x.txt") + chart_.IsRecording(), 0);
+    EXPECT_STREQ(chart_.GetRecordingError(), "the file cannot be opened");
     CWntPulse reader;
     ASSERT_TRUE(reader.Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 300, 600, 500), &host_, 6));
-    reader.SetColours(paper, blue, paper);
+    reader.SetColours(paper, blue, RGB(0, 200, 0));
     ASSERT_EQ(reader.OpenFile(path, 1), 1);
     const long reading = repainted(reader).count(blue);
     while (reader.IsReading())
         reader.SendMessage(WM_TIMER, 2, 0);
     EXPECT_EQ(host_.told.back(), std::tuple(WNT_PULSE_READ, 1));
-    EXPECT_GT(reading, repainted(reader).count(blue) + 200) << "how far it is";
+    const Pixels read = repainted(reader);
+    EXPECT_GT(reading, read.count(blue) + 200) << "how far it is";
+    EXPECT_GT(read.count(paper), 2 * read.count(RGB(0, 200, 0)));
+    EXPECT_GT(read.count(RGB(0, 200, 0)), 300) << "a grid";
     EXPECT_TRUE(reader.GetCurveCount() == 2 && reader.GetSampleCount(0) + reader.GetSampleCount(1) == 500);
     __int64 from = 0, to = 0;
     reader.GetShownTime(&from, &to);
@@ -48,7 +52,7 @@ TEST_F(PulseLives, CopiesWhatIsShown) {
     chart_.AddSample(level_, 1, 400); // of a curve that is hidden
     chart_.ShowCurve(level_, 0);
     chart_.ShowTime(350, 450);
-    ASSERT_EQ(chart_.CopyValues(), 1);
+    chart_.SendMessage(WM_COMMAND, WNT_PULSE_CMD_COPY_VALUES);
     ASSERT_TRUE(host_.OpenClipboard());
     const HANDLE block = ::GetClipboardData(CF_TEXT);
     const CString text = block ? static_cast<const char*>(::GlobalLock(block)) : "";
@@ -64,7 +68,7 @@ TEST_F(PulseLives, CopiesItsPictureAlsoFromUnderOtherWindows) {
     CWnd above;
     ASSERT_TRUE(above.CreateEx(0, nullptr, "above", WS_POPUP | WS_VISIBLE, place, nullptr, 0));
     CClientDC(&above).FillSolidRect(CRect(0, 0, 600, 300), poison);
-    ASSERT_EQ(chart_.CopyPicture(), 1);
+    chart_.SendMessage(WM_COMMAND, WNT_PULSE_CMD_COPY_PICTURE);
     above.DestroyWindow();
     ASSERT_TRUE(host_.OpenClipboard());
     CDC copy;

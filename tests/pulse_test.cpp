@@ -43,7 +43,7 @@ TEST_F(Pulse, ScrollsAsIfPaintedAnew) {
 }
 
 TEST_F(Pulse, SamplesStandAtTheirTimesAndValues) {
-    EXPECT_EQ(chart_.SetLook(flow_, 0, 0, 0) + chart_.SetLook(level_, 7, 0, 0), 2);
+    EXPECT_EQ(chart_.SetLook(flow_, 0, 1, 0) + chart_.SetLook(level_, 7, 0, 0), 2);
     EXPECT_EQ(chart_.SetLook(flow_, -1, 0, 0) + chart_.SetLook(flow_, 8, 0, 0), 0);
     const double values[] = {0, 25, 100, 50};
     const __int64 times[] = {0, 2000, 4000, 6000};
@@ -60,6 +60,12 @@ TEST_F(Pulse, SamplesStandAtTheirTimesAndValues) {
         const CRect near_by(std::max(x - 1, left), rows[i], std::min(x + 1, right) + 1, rows[i] + 1);
         EXPECT_FALSE(::extent(seen, red, near_by).IsRectEmpty()) << values[i];
     }
+    const CRect before(left + (right - left) / 4, rows[0], left + (right - left) / 4 + 1, rows[0] + 1);
+    EXPECT_FALSE(::extent(seen, red, before).IsRectEmpty()) << "a step";
+    chart_.SetLook(flow_, 0, 0, 1);
+    show();
+    EXPECT_TRUE(::extent(pixels_of(chart_), red, before).IsRectEmpty());
+    EXPECT_EQ(pixels_of(chart_).at(left + 2, rows[0] - 2), red) << "a mark";
     chart_.AddSample(flow_, std::nan(""), 6010);
     EXPECT_EQ(chart_.AddSamples(flow_, values, times, 4), 0); // they run back
     EXPECT_EQ(chart_.AddSample(9, 1, 7000) + chart_.AddSample(-1, 1, 7000), 0);
@@ -120,6 +126,10 @@ TEST_F(Pulse, LooksBackByMouseAndKeysAndReturns) {
 TEST_F(Pulse, KeysAndTheBarGoByPartsOfWhatIsShown) {
     feed(0, 60'000);
     const HWND bar = chart_.GetDlgItem(4)->m_hWnd;
+    SCROLLINFO info = {sizeof info, SIF_ALL, 0, 0, 0, 0, 0};
+    ::GetScrollInfo(bar, SB_CTL, &info);
+    EXPECT_THAT((std::vector{info.nMin, info.nMax, static_cast<int>(info.nPage), info.nPos}),
+                testing::ElementsAre(0, 1000, 100, 900));
     const auto moved = [&](const std::function<void()>& by) { // in thousandths of what is shown
         const __int64 before = start();
         by();
@@ -135,8 +145,6 @@ TEST_F(Pulse, KeysAndTheBarGoByPartsOfWhatIsShown) {
         by_bar.push_back(scrolled(code));
     EXPECT_THAT(by_keys, testing::ElementsAre(-98, 98, -1000, 1000));
     EXPECT_EQ(by_bar, by_keys);
-    SCROLLINFO info = {sizeof info, SIF_ALL};
-    ::GetScrollInfo(bar, SB_CTL, &info);
     info.nPos = info.nMax / 2;
     ::SetScrollInfo(bar, SB_CTL, &info, FALSE);
     scrolled(MAKEWPARAM(SB_THUMBPOSITION, info.nPos));
@@ -153,7 +161,7 @@ TEST_F(Pulse, KeysAndTheBarGoByPartsOfWhatIsShown) {
     }
     EXPECT_NEAR(static_cast<double>(at[0]), 33'000, 30);
     EXPECT_NEAR(static_cast<double>(at[1] - at[0]), 100, 30);
-    MSG escape = {chart_.m_hWnd, WM_KEYDOWN, VK_ESCAPE};
+    MSG escape = {chart_.m_hWnd, WM_KEYDOWN, VK_ESCAPE, 0, 0, {}};
     const auto wanted = [&] { return chart_.SendMessage(WM_GETDLGCODE, 0, reinterpret_cast<LPARAM>(&escape)); };
     EXPECT_EQ(wanted(), DLGC_WANTARROWS | DLGC_WANTCHARS | DLGC_WANTMESSAGE);
     key(VK_ESCAPE);
@@ -195,6 +203,23 @@ TEST_F(Pulse, ALoneRightAxisHasTheFirstRange) {
         axis.ScreenToValue(0, &highest);
         EXPECT_NEAR(highest, line[6] == 'R' ? 100 : 10, 1) << line;
     }
+}
+
+TEST_F(Pulse, GridLinesStandAtTicksOfTheAxes) {
+    constexpr COLORREF grid = RGB(0, 200, 0);
+    chart_.SetColours(paper, 0, grid);
+    chart_.ShowTime(0, 60'000);
+    show();
+    const Pixels seen = pixels_of(chart_);
+    std::vector<int> columns, rows;
+    for (int x = 0; x < seen.width; ++x)
+        if (seen.at(x, 60) == grid)
+            columns.push_back(x);
+    for (int y = 0; y < seen.height; ++y)
+        if (seen.at(100, y) == grid)
+            rows.push_back(y);
+    EXPECT_THAT(columns, testing::ElementsAre(52, 151, 250, 349, 448));
+    EXPECT_THAT(rows, testing::ElementsAre(44, 64, 85, 105, 125, 145, 166, 186, 206, 227, 246));
 }
 
 TEST_F(Pulse, TheTimeAxisZoomsToWhatItsSliderCovers) {
@@ -265,8 +290,10 @@ TEST_F(Pulse, CallsChangeWhatIsShown) {
     EXPECT_EQ(chart_.SetRecordingParts(4095, 0) + chart_.SetRecordingParts(-1, 0) + chart_.StopReading(), 0);
 
     const __int64 live = start(), page = chart_.GetSpan();
+    host_.told.clear();
     chart_.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(MK_SHIFT, WHEEL_DELTA), 0); // back by a part of what is shown
     EXPECT_TRUE(start() < live && start() > live - page);
+    EXPECT_THAT(host_.told, testing::ElementsAre(std::tuple(WNT_PULSE_VIEW, 0)));
     const HWND bar = chart_.GetDlgItem(4)->m_hWnd;
     chart_.SendMessage(WM_HSCROLL, SB_LEFT, reinterpret_cast<LPARAM>(bar));
     EXPECT_NEAR(static_cast<double>(start()), 0, 20);
@@ -304,6 +331,7 @@ TEST_F(Pulse, TakesFilesThatAreDropped) {
     ASSERT_EQ(chart_.StartRecording("pulse drop.txt"), 1);
     chart_.AddSample(flow_, 5, CWntPulse::Now());
     chart_.StopRecording();
+    EXPECT_TRUE(chart_.GetExStyle() & WS_EX_ACCEPTFILES);
     drop_file(chart_, "pulse drop.txt");
     EXPECT_TRUE(chart_.IsReading() && ::GetFocus() == chart_.m_hWnd);
     EXPECT_EQ(chart_.StopReading(), 1);
@@ -316,28 +344,33 @@ TEST_F(Pulse, TakesFilesThatAreDropped) {
 TEST_F(Pulse, CursorsReadOff) {
     feed(0, 6000);
     const Pixels without = pixels_of(chart_);
-    chart_.SetFocus();
-    mouse(WM_LBUTTONDOWN, 300, 150);
+    __int64 first = 0, second = 0, told = 0;
+    host_.answer = [&](WntPulseNotify& n) {
+        told = n.time;
+        return 0;
+    };
+    mouse(WM_LBUTTONDOWN, 300, 150); // takes the focus
     mouse(WM_LBUTTONUP, 300, 150, 0);
-    __int64 first = 0, second = 0;
     ASSERT_EQ(chart_.GetCursor(0, &first), 1);
     EXPECT_EQ(chart_.GetCursor(1, &second), 0);
     EXPECT_EQ(host_.told.back(), std::tuple(WNT_PULSE_CURSOR, 0));
+    EXPECT_EQ(told, first);
     mouse(WM_LBUTTONDOWN, 400, 150, MK_LBUTTON | MK_CONTROL);
     mouse(WM_LBUTTONUP, 400, 150, MK_CONTROL);
     ASSERT_EQ(chart_.GetCursor(1, &second), 1);
     EXPECT_GT(second, first);
     show();
     EXPECT_NE(pixels_of(chart_), without);
-    // What the tip tells of both.
+    chart_.SetCursor(0, 4000);
+    chart_.SetCursor(1, 1275);
     CString text;
     CWnd::FromHandle(thread_window("tooltips_class32", true))->GetWindowText(text);
-    double value = 0;
-    ASSERT_EQ(chart_.GetValueAt(level_, first, &value), 1);
-    CString expected;
-    expected.Format("Level: %g (", value);
-    EXPECT_NE(text.Find(expected), -1) << text.GetString();
-    EXPECT_NE(text.Find("+0:00:"), -1) << text.GetString();
+    EXPECT_STREQ(text, "1979-12-31 00:00:40.00\n-0:00:27.25\nFlow: 89.5743 (-16.9361)\nLevel: 5 (-4)");
+    chart_.SetCursor(1, 4000 + 372'307);
+    CWnd::FromHandle(thread_window("tooltips_class32", true))->GetWindowText(text);
+    EXPECT_STREQ(text, "1979-12-31 00:00:40.00\n+1:02:03.07\nFlow: 89.5743\nLevel: 5");
+    chart_.SetCursor(0, first);
+    chart_.SetCursor(1, second);
     key(VK_RIGHT);
     __int64 moved = 0;
     chart_.GetCursor(0, &moved);

@@ -76,6 +76,9 @@ TEST_F(Tabs, OnlyTheSelectedPageIsShownWhereTheStripLeavesRoom) {
     EXPECT_TRUE(host_.told.empty()) << "calls tell nothing";
     CWntTabs inner;
     ASSERT_TRUE(inner.Create(nullptr, "", WS_CHILD, CRect(0, 0, 9, 9), &tabs_, 30));
+    EXPECT_EQ(tabs_.InsertTab(1, "Inner", &inner) + tabs_.InsertTab(9, "Far", nullptr), 2);
+    EXPECT_EQ(tabs_.GetTabText(1) + tabs_.GetTabText(2) + tabs_.GetTabText(3), "Inner&TwoFar");
+    EXPECT_TRUE(tabs_.FindPage(&inner) == 1 && tabs_.FindPage(&host_) == -1 && tabs_.GetPage(1) == &inner);
     CWntTabs* volatile none = nullptr;
     EXPECT_EQ(tabs_.AddTab("again", &pages_[0]) + tabs_.AddTab("host", &host_) + tabs_.AddTab("self", &tabs_) +
                   inner.AddTab("outer", &tabs_) + tabs_.SetSide(4) + none->GetTabCount() + none->LoadLine("", 2),
@@ -210,6 +213,20 @@ TEST_F(Tabs, WhatDoesNotFitScrollsOrIsInTheMenu) {
     }
     const auto seen = [&](int tab) { return !tabs_.GetTabRect(tab).IsRectEmpty(); };
     EXPECT_TRUE(seen(0) && !seen(11));
+    tabs_.LoadLine(":CLRTEXT=RED", 0);
+    const auto buttons = [&] {
+        const Pixels seen = repainted(strip());
+        return sketch(seen, CRect(seen.width - 30, 11, seen.width - 4, 18),
+                      {{red, '#'}, {::GetSysColor(COLOR_GRAYTEXT), 'g'}});
+    };
+    EXPECT_EQ(buttons(), R"(????g???????????????#?????
+???gg???????????????##????
+??ggg???????????????###???
+?gggg???????????????####??
+??ggg???????????????###???
+???gg???????????????##????
+????g???????????????#?????
+)");
     const CPoint on(295, 12);
     click(on);
     EXPECT_TRUE(!seen(0) && seen(1) && tabs_.GetSelected() == 0);
@@ -229,6 +246,14 @@ TEST_F(Tabs, WhatDoesNotFitScrollsOrIsInTheMenu) {
 
     tabs_.SetOverflow(CWntTabs::by_menu);
     tabs_.ShowTab(0);
+    EXPECT_EQ(buttons(), R"(??????????????????????????
+??????????????????????????
+??????????????????#######?
+???????????????????#####??
+????????????????????###???
+?????????????????????#????
+??????????????????????????
+)");
     const WhileModal menu([&] {
         const HWND shown = shown_popup();
         if (!shown)
@@ -396,30 +421,6 @@ TEST_F(Tabs, MayBeDestroyedOnAnyNotification) {
         ::SendMessageA(window, WM_LBUTTONUP, 0, MAKELPARAM(270, 12));
         ::SendMessageA(window, WM_KEYDOWN, VK_DELETE, 0);
         EXPECT_FALSE(tabs || ::IsWindow(window)) << code;
-    }
-}
-
-TEST_F(Tabs, MayBeDestroyedWhenAPageLosesTheFocus) {
-    CWntTabs* tabs = nullptr;
-    const std::function<void()> ways[] = {
-        [&] { tabs->GetWindow(GW_CHILD)->SendMessage(WM_LBUTTONDOWN, 0, MAKELPARAM(20, 12)); },
-        [&] { tabs->Select(2); }, [&] { tabs->RemoveTab(0); }, [&] { tabs->SetPage(0, nullptr); },
-        [&] {
-            for (const auto& [line, mode] : {std::pair{"", 1}, {":TAB=a", 0}, {":DISABLED=YES", 0}, {"", 2}})
-                tabs->LoadLine(line, mode);
-        }};
-    for (const auto& leave : ways) {
-        tabs = new Trapping<CWntTabs>;
-        CButton pages[3];
-        open(*tabs, pages, 280);
-        pages[0].ModifyStyle(0, BS_NOTIFY);
-        pages[0].SetFocus();
-        host_.on_message = [&](UINT message) {
-            if (message == WM_COMMAND)
-                delete std::exchange(tabs, nullptr);
-        };
-        leave();
-        EXPECT_FALSE(tabs || pages[0].m_hWnd) << &leave - ways;
     }
 }
 

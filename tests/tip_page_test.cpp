@@ -113,6 +113,35 @@ TEST_F(TipPage, ItsPartsKeepApartAndABarShowsWhereItIsNeeded) {
     load(std::string(70'000, 't')); // broken, since it has no blanks
     EXPECT_GT(::SendMessage(text, EM_GETLINECOUNT, 0, 0), 500);
     load("short");
+    page_->MoveWindow(0, 0, 300, 100);
+    const Pixels seen = repainted(*page_);
+    EXPECT_EQ(sketch(seen, CRect(31, 16, 44, 30),
+                     {{::GetSysColor(COLOR_BTNSHADOW), '.'},
+                      {RGB(128, 96, 0), 'o'},
+                      {RGB(255, 208, 64), 'y'},
+                      {RGB(112, 112, 112), '='}}),
+              R"(.....ooooo...
+...ooyyyyyoo.
+..oyyyyyyyyyo
+..oyoooyyyyyo
+.oyyoooyyyyyy
+.oyyyyyyyyyyy
+.oyyyyyyyyyyy
+.oyyyyyyyyyyy
+..oyyyyyyyyyo
+..oyyyyyyyyyo
+...ooyyyyyoo.
+....=======..
+.............
+....=======..
+)");
+    EXPECT_EQ(sketch(seen, CRect(8, 20, 13, 21),
+                     {{::GetSysColor(COLOR_BTNSHADOW), '.'}, {::GetSysColor(COLOR_BTNFACE), ','}}),
+              ",,?..\n");
+    CWnd& paper = *CWnd::FromHandle(text);
+    EXPECT_EQ(pixels_of(paper).at(2, size_of(paper).cy - 2), ::GetSysColor(COLOR_WINDOW));
+    EXPECT_EQ(pixels_of(*page_->GetDlgItem(start_id)).at(size_of(*page_->GetDlgItem(start_id)).cx - 2, 2),
+              ::GetSysColor(COLOR_BTNFACE));
     for (const CSize size : {CSize(400, 240), CSize(320, 180), CSize(700, 90), CSize(190, 300)}) {
         page_->MoveWindow(0, 0, size.cx, size.cy);
         CRect all(CPoint(0, 0), size), both;
@@ -181,23 +210,6 @@ TEST_F(TipPage, EscapeAndTabInItsTextAreTheDialogs) {
     }
     page_->DestroyWindow();
     dialog.DestroyWindow();
-}
-
-TEST_F(TipPage, MayBeDestroyedWhenItTells) {
-    for (const UINT id : {next_id, start_id}) {
-        auto* doomed = new CWntTipPage;
-        open(*doomed, 300, 200);
-        const TemporaryFile file({'a', '\n', '\n', 'b'});
-        doomed->LoadTips(file.name());
-        const HWND button = doomed->GetDlgItem(static_cast<int>(id))->m_hWnd;
-        host_.on_message = [&](UINT message) {
-            if (message == WM_NOTIFY)
-                delete std::exchange(doomed, nullptr);
-        };
-        ::SendMessageA(button, BM_CLICK, 0, 0);
-        EXPECT_FALSE(doomed || ::IsWindow(button)) << id;
-        host_.on_message = [](UINT) {};
-    }
 }
 
 } // namespace

@@ -10,7 +10,6 @@ inline constexpr COLORREF red = RGB(255, 0, 0), green = RGB(0, 255, 0), key_colo
 // Owner of bars: keeps commands and notifications, and tells states.
 struct ToolHost : CWnd {
     std::vector<UINT> commands, told;
-    int index = -1; // of the last item that was told of
     std::function<void(UINT)> on_command = [](UINT) {};
     std::function<void(UINT, WPARAM)> on_message = [](UINT, WPARAM) {};
     std::function<LRESULT(WntToolNotify&)> answer = [](WntToolNotify&) { return 0; };
@@ -38,7 +37,6 @@ struct ToolHost : CWnd {
         if (header.code < WNT_TOOL_DROPPING || header.code > WNT_TOOL_MOVED)
             return FALSE;
         told.push_back(header.code);
-        index = reinterpret_cast<WntToolNotify&>(header).index;
         *result = answer(reinterpret_cast<WntToolNotify&>(header));
         return TRUE;
     }

@@ -116,11 +116,34 @@ TEST_F(ToolBar, SeparatorsAreEngravedEitherWay) {
     }
 }
 
+TEST_F(ToolBar, ArrowsTellOfMenus) {
+    script({":SPLIT=100,0", ":MENU=110,a", ":ITEM=101,0", ":ITEM=102,0"});
+    bar_->MoveWindow(0, 0, 54, 26);
+    EXPECT_EQ(sketch(repainted(*bar_), CRect(26, 11, 50, 16),
+                     {{::GetSysColor(COLOR_BTNTEXT), '#'}, {::GetSysColor(COLOR_BTNFACE), '.'}}),
+              R"(................#...#...
+..#####..........#...#..
+...###............#...#.
+....#............#...#..
+................#...#...
+)");
+}
+
 TEST_F(ToolBar, TakesPicturesFromIconsAndFiles) {
-    CWntToolItem item(100, "warn");
+    CWntToolItem item(100, "warn"), kept;
+    item.tip = "tip";
+    item.picture = 3;
     item.icon = ::LoadIconA(nullptr, IDI_WARNING);
+    item.large = ::LoadIconA(nullptr, IDI_ERROR);
+    item.group = 7;
+    item.enabled = false;
     bar_->SetPictures(nullptr, nullptr);
     bar_->AddItem(item);
+    ASSERT_EQ(bar_->GetItem(0, &kept), 1);
+    const auto record = [](const CWntToolItem& i) {
+        return std::tuple(i.id, i.text, i.kind, i.tip, i.picture, i.icon, i.large, i.group, i.check, i.enabled);
+    };
+    EXPECT_EQ(record(kept), record(item));
     const CRect r = place(100);
     const Pixels icon = repainted(*bar_);
     EXPECT_EQ(icon.at(r.left + 3, r.top + 3), ::GetSysColor(COLOR_BTNFACE)); // beside the triangle
@@ -209,6 +232,8 @@ TEST_F(ToolBar, FollowsScriptsInFilesAndRefusesWhatIsNone) {
     EXPECT_EQ(unmade.AddItem(CWntToolItem(5, "x")), 1);
     ASSERT_TRUE(unmade.Create(nullptr, "", WS_CHILD, CRect(0, 0, 100, 26), &host_, 10));
     EXPECT_TRUE(unmade.GetItemRect(0, nullptr));
+    EXPECT_EQ(unmade.RemoveAll(), 1);
+    EXPECT_EQ(unmade.GetItemCount(), 0);
 }
 
 } // namespace
