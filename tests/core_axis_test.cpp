@@ -123,12 +123,11 @@ TEST(AxisConversion, EmptyRangesGiveTheOrigin) {
 }
 
 TEST(AxisTicks, ShareAPixelOnlyOnce) {
-    const auto no_texts = [](std::int64_t) { return nullptr; };
     AxisModel axis = axis_of(axis_bottom, 40);
     // A labelled tick takes the place of one without a label on the same pixel.
     axis.grid = {100, 0, 1.0f, 0.0f, 1.0f};
     const auto labelled = [](const AxisTick& tick) { return !tick.label.empty(); };
-    const auto ticks = value_ticks(axis, no_texts);
+    const auto ticks = value_ticks(axis, [](std::int64_t) { return nullptr; });
     EXPECT_EQ(Pair(std::ranges::count_if(ticks, labelled), ticks.size()), Pair(20, 41));
     axis.set_time_range(0, 40'000 * day);
     EXPECT_LE(time_ticks(axis).size(), 41u);
