@@ -62,6 +62,7 @@ TEST_F(Pulse, SamplesStandAtTheirTimesAndValues) {
     }
     const CRect before(left + (right - left) / 4, rows[0], left + (right - left) / 4 + 1, rows[0] + 1);
     EXPECT_FALSE(::extent(seen, red, before).IsRectEmpty()) << "a step";
+    EXPECT_NE(seen.at(left + 2, rows[0] - 2), red) << "no mark";
     chart_.SetLook(flow_, 0, 0, 1);
     show();
     EXPECT_TRUE(::extent(pixels_of(chart_), red, before).IsRectEmpty());
