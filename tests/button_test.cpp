@@ -56,6 +56,27 @@ struct ButtonTest : WidgetTest {
     CWntButton button_;
 };
 
+TEST_F(ButtonTest, AnyBlockAndSizeIsHarmless) {
+    open(button_, 80, 30);
+    Tcbtn_properties p;
+    const int odd[] = {INT_MIN, INT_MIN + 1, -7, 0, 3, 255, INT_MAX - 1, INT_MAX};
+    for (const int value : odd) {
+        std::memset(&p, 'x', sizeof p); // titles and identifiers without an end
+        p.titlestyle = static_cast<std::uint8_t>(value & 3), p.align = static_cast<std::uint8_t>(value & 15);
+        p.visible = 1, p.fixed = 0, p.bordertype = value & 3, p.borderstyle = 15, p.borderheight = value;
+        p.clrback = p.clrtext = p.clrsun = p.clrshadow = p.clrborder = value;
+        for (const CSize size : {CSize(80, 30), CSize(4, 4), CSize(0, 0), CSize(1, 300)}) {
+            button_.SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
+            button_.setproperties(&p);
+            mouse(WM_LBUTTONDOWN, 2, 2);
+            mouse(WM_LBUTTONUP, 2, 2);
+            full_repaint(button_);
+        }
+    }
+    CWntButton* volatile none = nullptr;
+    EXPECT_EQ(none->getproperties(&p) + none->load(":TITLE=x", 0) + button_.getproperties(nullptr), 0);
+}
+
 } // namespace
 
 TEST_F(ButtonTest, BordersLookLikeTheirSketches) {

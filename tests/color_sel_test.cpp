@@ -24,6 +24,29 @@ struct ColorSelTest : WidgetTest {
     CWntColorSel selector_;
 };
 
+TEST_F(ColorSelTest, OddPalettesAndPanelsAreHarmless) {
+    DWORD few[7] = {1, 2, 3, 4, 5, 6, 7};
+    std::vector<DWORD> many(256, RGB(10, 20, 30));
+    char name[] = "x";
+    char* names[] = {name};
+    int colours[] = {INT_MAX};
+    selector_.SetColorItems(names, colours, 1);
+    selector_.Set3DCells(1), selector_.SetHoverSample(1), selector_.ShowSliders(1);
+    const std::pair<DWORD*, int> palettes[] = {{few, 7}, {few, 1}, {many.data(), 256}, {few, -3}, {nullptr, 4}};
+    for (const auto& [table, count] : palettes) {
+        selector_.SetColorPalette(table, count);
+        for (const CSize size : {CSize(160, 90), CSize(7, 7), CSize(0, 0), CSize(70, 3), CSize(390, 290)}) {
+            selector_.SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
+            for (const int id : {INT_MIN, -1, 300, INT_MAX}) {
+                selector_.SetSelectedColorID(id);
+                selector_.GetSelectedColor();
+                full_repaint(selector_);
+            }
+            pick(1, 1), pick(-5, 400);
+        }
+    }
+}
+
 } // namespace
 
 TEST_F(ColorSelTest, ShowsThePaletteAndTellsPicks) {

@@ -308,4 +308,44 @@ TEST(AxisLabels, AreTrimmedAndBounded) {
         EXPECT_EQ(time_label(TimeLabel::month_name, {1, month, 80, 0, 0, 0, 0}), "");
 }
 
+TEST(AxisConversion, HoldsAtAnyValueAndSize) {
+    const float values[] = {0, -1, 1e-45f, 3e38f, -3e38f, INFINITY, -INFINITY, NAN};
+    const int sizes[] = {0, 1, -5, INT_MAX, INT_MIN};
+    const std::int64_t times[] = {0, -1, INT64_MIN, INT64_MAX, 40 * day};
+    for (int position = 0; position < 4; ++position)
+        for (int size : sizes) {
+            AxisModel axis = axis_of(position, size);
+            for (float minimum : values)
+                for (float maximum : values) {
+                    axis.set_range(minimum, maximum);
+                    for (float value : values) {
+                        pixel_of(axis, value), clamped_pixel(axis, value);
+                        float back = NAN;
+                        axis.screen_to_value(truncated_int(value), &back);
+                        EXPECT_TRUE(std::isfinite(back));
+                        axis.scale_line_pos(truncated_int(value));
+                    }
+                }
+            for (std::int64_t start : times)
+                for (std::int64_t end : times) {
+                    axis.set_time_range(start, end);
+                    for (std::int64_t time : times) {
+                        pixel_of(axis, time);
+                        axis.set_current_time(time);
+                        axis.screen_to_value(static_cast<int>(time % 1000), &axis.current_day_value);
+                    }
+                    EXPECT_LE(ticks_of(axis.time_grid()).size(), 20'000u) << start << ".." << end;
+                }
+        }
+    AxisModel empty = axis_of(axis_bottom, 300, 5, 5);
+    float value = 0;
+    EXPECT_TRUE(pixel_of(empty, 5.0f) == Pair(0, 0) && clamped_pixel(empty, 5) == Pair(0, -12345));
+    EXPECT_EQ(empty.calc_float_coord(5, &value), 0);
+    EXPECT_EQ(pixel_of(empty, std::int64_t{0}), Pair(0, 0)); // a view without a span
+    empty.set_range(0, 100);
+    EXPECT_EQ(pixel_of(empty, NAN), Pair(0, 0));
+    empty.set_range(3, 103);
+    EXPECT_EQ(Pair(empty.scale_line_pos(0), empty.scale_line_pos(2)), Pair(21, 81)) << "of 10 and of 30";
+}
+
 } // namespace

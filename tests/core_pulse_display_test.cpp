@@ -419,4 +419,22 @@ TEST(PulseView, StaysWhereItIsPut) {
     EXPECT_EQ(view.x(view.start()), 0); // where the axis begins
 }
 
+TEST(PulseView, HoldsAtAnyCall) {
+    Random random(3);
+    const std::int64_t odd[] = {INT64_MIN, -1, 0, 1, INT64_MAX, PulseSeries::latest};
+    PulseView view;
+    const auto some = [&] { return random.one_in(3) ? random.of(odd) : random.upto(1'000'000) - 500'000; };
+    const std::function<void()> calls[] = {[&] { view.resize(static_cast<std::int32_t>(some())); },
+                                           [&] { view.zoom(some(), some()); },
+                                           [&] { view.show(some(), some()); },
+                                           [&] { view.scroll(some()); },
+                                           [&] { view.set_history(some(), some()); },
+                                           [&] { view.set_live(random.one_in(2)); }};
+    for (int i = 0; i < 20'000; ++i) {
+        random.of(calls)();
+        ASSERT_LT(view.start(), view.end());
+        ASSERT_TRUE(PulseView::shortest_span <= view.span() && view.span() <= PulseView::longest_span);
+    }
+}
+
 } // namespace

@@ -153,4 +153,12 @@ TEST_F(FrameExTest, ScrollsByKeys) {
     EXPECT_EQ(frame_.SendMessage(WM_GETDLGCODE), DLGC_WANTARROWS);
 }
 
+TEST_F(FrameExTest, MayBeDestroyedWhenItTells) {
+    auto* doomed = new CWntFrameEx;
+    ASSERT_TRUE(doomed->Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 100), &host_, 9));
+    host_.answer = [&](WntFrameNotify&) { return delete std::exchange(doomed, nullptr), 0; };
+    doomed->SendMessage(WM_LBUTTONDOWN, 0, MAKELPARAM(20, 10));
+    EXPECT_FALSE(doomed);
+}
+
 } // namespace

@@ -217,4 +217,46 @@ TEST_F(Sash, StoresItselfInAProfile) {
     EXPECT_EQ(sash_.StoreState(nullptr, "main") + sash_.StoreState(file, ""), 0);
 }
 
+TEST_F(Sash, MayBeDestroyedOnAnyNotification) {
+    for (const UINT code : {WNT_SASH_MOVING, WNT_SASH_MOVED, WNT_SASH_FOLDED})
+        for (const bool live : {true, false}) {
+            auto* sash = new CWntSash;
+            ASSERT_TRUE(sash->Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 205, 100), &host_, 20));
+            sash->SetLiveDrag(live);
+            sash->SetFoldPane(1);
+            const HWND window = sash->m_hWnd;
+            host_.answer = [&](WntSashNotify& n) -> LRESULT {
+                if (n.hdr.code == code)
+                    delete std::exchange(sash, nullptr);
+                return 0;
+            };
+            for (const UINT message : {WM_LBUTTONDOWN, WM_MOUSEMOVE, WM_LBUTTONUP, WM_LBUTTONDBLCLK})
+                ::SendMessage(window, message, 0, MAKELPARAM(message == WM_LBUTTONDOWN ? 102 : 52, 10));
+            EXPECT_FALSE(sash || ::IsWindow(window)) << code;
+        }
+}
+
+// Whatever hosts do while panes follow.
+TEST_F(Sash, MayLoseItsDragOrItselfWhilePanesAreResized) {
+    struct Pane : CWnd {
+        std::function<void()> resized = [] {};
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+            const LRESULT result = CWnd::WindowProc(message, wParam, lParam);
+            if (message == WM_SIZE)
+                resized();
+            return result;
+        }
+    } pane;
+    ASSERT_TRUE(pane.Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 1, 1), &sash_, 14));
+    ASSERT_TRUE(sash_.SetPanes(&pane, nullptr));
+    mouse(WM_LBUTTONDOWN, 102);
+    pane.resized = [] { ::ReleaseCapture(); };
+    mouse(WM_MOUSEMOVE, 62);
+    EXPECT_EQ(sash_.GetPosition(), 100);
+    pane.resized = [&] { sash_.DestroyWindow(); };
+    mouse(WM_LBUTTONDOWN, 102);
+    mouse(WM_MOUSEMOVE, 62);
+    EXPECT_FALSE(sash_.m_hWnd);
+}
+
 } // namespace

@@ -442,4 +442,28 @@ TEST_F(Tabs, FollowScripts) {
     EXPECT_EQ(tabs_.LoadFromFile("no such file"), 0);
 }
 
+TEST_F(Tabs, MayBeDestroyedWhenAPageLosesTheFocus) {
+    CWntTabs* tabs = nullptr;
+    const std::function<void()> ways[] = {
+        [&] { tabs->GetWindow(GW_CHILD)->SendMessage(WM_LBUTTONDOWN, 0, MAKELPARAM(20, 12)); },
+        [&] { tabs->Select(2); }, [&] { tabs->RemoveTab(0); }, [&] { tabs->SetPage(0, nullptr); },
+        [&] {
+            for (const auto& [line, mode] : {std::pair{"", 1}, {":TAB=a", 0}, {":DISABLED=YES", 0}, {"", 2}})
+                tabs->LoadLine(line, mode);
+        }};
+    for (const auto& leave : ways) {
+        tabs = new Trapping<CWntTabs>;
+        CButton pages[3];
+        open(*tabs, pages, 280);
+        pages[0].ModifyStyle(0, BS_NOTIFY);
+        pages[0].SetFocus();
+        host_.on_message = [&](UINT message) {
+            if (message == WM_COMMAND)
+                delete std::exchange(tabs, nullptr);
+        };
+        leave();
+        EXPECT_FALSE(tabs || pages[0].m_hWnd) << &leave - ways;
+    }
+}
+
 } // namespace

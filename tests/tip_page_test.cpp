@@ -212,4 +212,21 @@ TEST_F(TipPage, EscapeAndTabInItsTextAreTheDialogs) {
     dialog.DestroyWindow();
 }
 
+TEST_F(TipPage, MayBeDestroyedWhenItTells) {
+    for (const UINT id : {next_id, start_id}) {
+        auto* doomed = new CWntTipPage;
+        open(*doomed, 300, 200);
+        const TemporaryFile file({'a', '\n', '\n', 'b'});
+        doomed->LoadTips(file.name());
+        const HWND button = doomed->GetDlgItem(static_cast<int>(id))->m_hWnd;
+        host_.on_message = [&](UINT message) {
+            if (message == WM_NOTIFY)
+                delete std::exchange(doomed, nullptr);
+        };
+        ::SendMessageA(button, BM_CLICK, 0, 0);
+        EXPECT_FALSE(doomed || ::IsWindow(button)) << id;
+        host_.on_message = [](UINT) {};
+    }
+}
+
 } // namespace

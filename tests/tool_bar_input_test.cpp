@@ -223,4 +223,29 @@ TEST_F(ToolBar, MayBeDestroyedByAnythingItTells) {
     }
 }
 
+TEST_F(ToolBar, ItemsMayGoWhileTheyArePressed) {
+    script({":ITEM=100,0"});
+    const CPoint at = place(100).CenterPoint();
+    mouse(WM_LBUTTONDOWN, at);
+    script({":ITEM=101,0"});
+    mouse(WM_LBUTTONUP, at);
+    EXPECT_TRUE(host_.commands.empty() && ::GetCapture() != bar_->m_hWnd);
+}
+
+TEST_F(ToolBar, AnOwnerMayGoBeforeItsBar) {
+    auto* owner = new Trapping<ToolHost>;
+    ASSERT_TRUE(owner->CreateEx(0, nullptr, "owner", WS_POPUP, CRect(0, 0, 9, 9), &host_, 0));
+    bar_->SetOwner(owner);
+    script({":ITEM=100,0", ":ITEM=101,0", ":DROPDOWN=102,0", ":MENU=110,a", ":MENU=111,b"});
+    owner->state = [&](CCmdUI& ui) {
+        ui.Enable(ui.m_nID != 100);
+        const std::unique_ptr<ToolHost> ended(std::exchange(owner, nullptr));
+        ended->DestroyWindow();
+    };
+    bar_->UpdateItems();
+    EXPECT_FALSE(owner);
+    EXPECT_EQ(checked(100) + checked(101), 10);
+    click(102); // whose menu has nobody to go to
+}
+
 } // namespace

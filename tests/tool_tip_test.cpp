@@ -233,4 +233,23 @@ TEST_F(ToolTip, KeepsToTheFrameworksWays) {
     EXPECT_EQ(none->ShowTip(&button_) + bare.AddTip(&button_, {"a", ""}) + tips_->AddTip(nullptr, {"a", ""}), 0);
 }
 
+TEST_F(ToolTip, MayBeDestroyedWhenItAsks) {
+    for (const bool by_pointer : {true, false}) {
+        tips_ = std::make_unique<CToolTipCtrlEx>();
+        ASSERT_TRUE(tips_->Create(&host_, TTS_ALWAYSTIP));
+        tips_->SetDelayTime(TTDT_INITIAL, 1);
+        tips_->AddTool(&host_, LPSTR_TEXTCALLBACK, CRect(100, 100, 150, 150), 7);
+        host_.fill = [&](WntTip& tip) {
+            tip.text = "gone";
+            tips_.reset();
+        };
+        point_at({5, 150});
+        if (by_pointer)
+            point_at({120, 120});
+        else
+            EXPECT_EQ(tips_->ShowTip(&host_, 7), 0);
+        EXPECT_TRUE(pumped_until([&] { return !tips_; })) << by_pointer;
+    }
+}
+
 } // namespace
