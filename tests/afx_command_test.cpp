@@ -213,6 +213,13 @@ TEST(AfxCommands, AreHandledByRangeAndAnswer) {
     AFX_CMDHANDLERINFO info{};
     EXPECT_TRUE(wnd.OnCmdMsg(201, CN_COMMAND, nullptr, &info));
     EXPECT_EQ(info.pTarget, &wnd);
+    const struct {
+        DLGTEMPLATE head;
+        WORD menu, name, title;
+    } form = {{WS_POPUP, 0, 0, 0, 0, 20, 20}, 0, 0, 0};
+    CDialog dialog;
+    ASSERT_TRUE(dialog.CreateIndirect(&form.head, &wnd));
+    EXPECT_FALSE(dialog.OnCmdMsg(201, CN_COMMAND, nullptr, &info)) << "the number of a control";
 }
 
 // A control that sees to its own notifications.

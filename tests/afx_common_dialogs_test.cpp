@@ -281,6 +281,16 @@ TEST_F(AfxCommonDialogs, AFileIsChosenBesideControlsOfTheProgram) {
     EXPECT_TRUE(older.AddText(d::note, "note") == E_FAIL && older.GetIFileSaveDialog() == nullptr);
 }
 
+TEST(AfxPageSetup, TellsItsMargins) {
+    CPageSetupDialog box;
+    box.m_psd.rtMargin = {1, 2, 3, 4};
+    box.m_psd.rtMinMargin = {5, 6, 7, 8};
+    CRect margins, least;
+    box.GetMargins(margins, least);
+    EXPECT_EQ(margins, CRect(1, 2, 3, 4));
+    EXPECT_EQ(least, CRect(5, 6, 7, 8));
+}
+
 TEST_F(AfxCommonDialogs, AFolderIsChosen) {
     char folder[MAX_PATH];
     ::GetWindowsDirectory(folder, MAX_PATH);

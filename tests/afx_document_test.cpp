@@ -424,6 +424,13 @@ IMPLEMENT_DYNCREATE(listed_note, note)
 
 TEST_F(AfxSeveralDocuments, OfSeveralKindsAreOfferedToTheUser) {
     add(RUNTIME_CLASS(listed_note), IDS_LIST_KIND);
+    const std::string path = (std::filesystem::temp_directory_path() / "afx_any.kind").string();
+    std::ofstream(path) << "text";
+    CDocument* any = the_app.OpenDocumentFile(path.c_str());
+    ASSERT_NE(any, nullptr);
+    EXPECT_FALSE(any->IsKindOf(RUNTIME_CLASS(listed_note))) << "both would do: the first one takes it";
+    any->OnCloseDocument();
+    ::DeleteFile(path.c_str());
     std::vector<std::string> names;
     // Chooses a kind in the box for new documents; -1: none after all.
     const auto make = [&](int kind) {

@@ -111,6 +111,13 @@ TEST(AfxProgram, ShowsThatItIsBusyUntilTheLastWaitEnds) {
     EXPECT_EQ(::GetCursor(), wait);
     the_app.EndWaitCursor();
     EXPECT_EQ(::GetCursor(), arrow);
+    {
+        CWaitCursor wait_again;
+        ::SetCursor(arrow);
+        wait_again.Restore();
+        EXPECT_EQ(::GetCursor(), wait);
+    }
+    EXPECT_EQ(::GetCursor(), arrow);
 }
 
 TEST(AfxProgram, BoxesBearItsNameAndAnIconThatFits) {

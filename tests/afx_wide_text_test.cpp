@@ -1,6 +1,8 @@
 // Texts of wide characters, and between them and those of the code page.
 #include "afx_test_app.h"
 
+#include <afxpriv.h>
+
 namespace {
 
 TEST(AfxWideText, ComesFromBothKindsAndGoesBack) {
@@ -16,6 +18,9 @@ TEST(AfxWideText, ComesFromBothKindsAndGoesBack) {
     wide = static_cast<LPCWSTR>(nullptr);
     EXPECT_TRUE(wide.IsEmpty() && wide == L"" && CStringW(L"abc", -1).IsEmpty() && CStringW(L'x', -2).IsEmpty());
     EXPECT_EQ(std::wstring(LPCWSTR(L"a" + CStringW(L"b") + L'c')), L"abc");
+    char room[] = "xxxxxx";
+    _wcstombsz(room, L"abcdef", 4);
+    EXPECT_STREQ(room, "abc");
 }
 
 TEST(AfxWideText, PartsAndPlacesAreClamped) {
