@@ -348,4 +348,28 @@ TEST(AxisConversion, HoldsAtAnyValueAndSize) {
     EXPECT_EQ(Pair(empty.scale_line_pos(0), empty.scale_line_pos(2)), Pair(21, 81)) << "of 10 and of 30";
 }
 
+TEST(AxisTicks, AreNeverMoreThanPixels) {
+    const auto no_texts = [](std::int64_t) { return nullptr; };
+    for (float minimum : {0.0f, -3e38f, NAN, -INFINITY})
+        for (float maximum : {1e-45f, 100.0f, 3e38f, INFINITY, NAN})
+            for (int type : {axis_numeric, axis_text}) {
+                AxisModel axis = axis_of(axis_bottom, 500, minimum, maximum);
+                axis.type = type;
+                axis.grid.count = INT_MAX;
+                EXPECT_LE(value_ticks(axis, no_texts).size(), 502u) << minimum << ".." << maximum;
+                axis.set_texts(INT_MAX);
+                EXPECT_LE(value_ticks(axis, no_texts).size(), 502u);
+            }
+    AxisModel axis = axis_of(axis_bottom, 500);
+    for (std::int64_t end : {day, 40'000 * day, INT64_MAX}) {
+        axis.set_time_range(0, end);
+        EXPECT_LE(time_ticks(axis).size(), 501u);
+    }
+    // A labelled tick takes the place of one without a label on the same pixel.
+    axis.resize(40, 40);
+    axis.grid = {100, 0, 1.0f, 0.0f, 1.0f};
+    const auto labelled = [](const AxisTick& tick) { return !tick.label.empty(); };
+    EXPECT_EQ(std::ranges::count_if(value_ticks(axis, no_texts), labelled), 20);
+}
+
 } // namespace

@@ -127,10 +127,24 @@ TEST(VersionFacts, NameEveryValue) {
 }
 
 TEST(VersionFacts, AreEmptyWhereTheBlockDoesNotHoldThem) {
-    Bytes endless = version_block(fixed_info, {0x04B00409}); // no name has an end
+    const Bytes good = version_block(fixed_info, {0x04B00409});
+    constexpr std::size_t info_end = 40 + sizeof(VS_FIXEDFILEINFO);
+    const auto check = [](const Bytes& block, bool has_info) {
+        ASSERT_TRUE(write_version_file(subject, block));
+        for (int kind = 2; kind <= 6; ++kind)
+            fact(subject, kind);
+        EXPECT_TRUE(has_info || fact(subject, 1).empty()) << block.size();
+    };
+    check(Bytes(good.begin(), good.begin() + 20), true); // what is missing counts as zeros
+    for (const std::size_t at : {std::size_t{0}, std::size_t{2}, info_end, info_end + 32}) // a wrong length
+        for (const WORD told : {51, 0xFFFF}) {
+            Bytes block = good;
+            std::memcpy(&block[at], &told, sizeof told);
+            check(block, at > 2 || told == 0xFFFF);
+        }
+    Bytes endless = good; // no name has an end
     std::fill(endless.begin() + 6, endless.end(), 'x');
-    ASSERT_TRUE(write_version_file(subject, endless));
-    EXPECT_EQ(fact(subject, 1) + fact(subject, 6), "");
+    check(endless, false);
     EXPECT_TRUE(::DeleteFileA(subject));
     const std::string long_path(5000, 'x');
     for (const char* path : {subject, "", "version_test.exe", "C:\\", "*", long_path.c_str(), (const char*)nullptr})

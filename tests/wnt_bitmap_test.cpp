@@ -348,4 +348,24 @@ TEST(BitmapPaths, AreAskedForAndFailuresTold) {
     EXPECT_TRUE(bitmap.Load(disk.name())); // beside others
 }
 
+// Behind compressed pixels of the caller's may be anything: they are as long as the header says, or not known.
+TEST(WntBitmap, EndsWhereRunLengthsInPlaceEnd) {
+    BYTE runs[] = {40, 1, 0, 1, 7, 7, 7, 7};
+    BITMAPINFO info[2] = {{{40, 40, 40, 1, 8, BI_RLE8, 4, 0, 0, 2, 0}, {}}, {}};
+    info[1].bmiHeader.biSize = 0xFFFFFF; // the table goes on here
+    const TemporaryFile disk;
+    for (const long white : {40, 0}) {
+        CWntBitmap bitmap, other;
+        CWntBitmapPalette palette;
+        Picture picture(40, 40);
+        ASSERT_TRUE(bitmap.Create(info, runs) && palette.Create(&other));
+        bitmap.Draw(CDC::FromHandle(picture.dc()), 0, 0);
+        EXPECT_EQ(picture.count(RGB(255, 255, 255)), white);
+        other.CopyBits(&bitmap, 0, 39, 5, 1, 0, 0, all_pixels);
+        EXPECT_TRUE(bitmap.Save(disk.name()) && bitmap.MapColorsToPalette(&palette));
+        EXPECT_TRUE(disk.bytes().size() == 1078 + 1600 && disk.bytes()[1078 + 4] == 0 && runs[4] == 7);
+        info->bmiHeader.biSizeImage = 0;
+    }
+}
+
 } // namespace
