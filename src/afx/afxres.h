@@ -108,7 +108,6 @@
 #define ID_INDICATOR_REC 0xE705
 #define ID_INDICATOR_KANA 0xE706
 
-// A program's icons of these numbers are those of frames that have none of their own.
 // Pointers, which CWinApp::LoadCursor takes from the system where the program has none of its own.
 #define AFX_IDC_CONTEXTHELP 30977
 #define AFX_IDC_MAGNIFY 30978
@@ -123,6 +122,7 @@
 #define AFX_IDC_TRACK4WAY 30987
 #define AFX_IDC_MOVE4WAY 30988
 
+// A program's icons of these numbers are those of frames that have none of their own.
 #define AFX_IDI_STD_MDIFRAME 1
 #define AFX_IDI_STD_FRAME 2
 
