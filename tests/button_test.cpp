@@ -233,9 +233,6 @@ TEST_F(ButtonTest, EdgesOutsideAndHiddenDoNothing) {
     EXPECT_EQ(mouse(WM_LBUTTONUP, 10, 10), 2);
     script({":VISIBLE=0"});
     EXPECT_EQ(mouse(WM_LBUTTONDOWN, 10, 10), 2); // nothing is drawn, so nothing sinks
-    Tcbtn_properties p;
-    CWntButton* volatile none = nullptr;
-    EXPECT_EQ(none->getproperties(&p) + none->load(":TITLE=x", 0) + button_.getproperties(nullptr), 0);
 }
 
 TEST_F(ButtonTest, ScrollBarMovesItsOwnThumb) {

@@ -337,15 +337,6 @@ TEST(AxisConversion, HoldsAtAnyValueAndSize) {
                     EXPECT_LE(ticks_of(axis.time_grid()).size(), 20'000u) << start << ".." << end;
                 }
         }
-    AxisModel empty = axis_of(axis_bottom, 300, 5, 5);
-    float value = 0;
-    EXPECT_TRUE(pixel_of(empty, 5.0f) == Pair(0, 0) && clamped_pixel(empty, 5) == Pair(0, -12345));
-    EXPECT_EQ(empty.calc_float_coord(5, &value), 0);
-    EXPECT_EQ(pixel_of(empty, std::int64_t{0}), Pair(0, 0)); // a view without a span
-    empty.set_range(0, 100);
-    EXPECT_EQ(pixel_of(empty, NAN), Pair(0, 0));
-    empty.set_range(3, 103);
-    EXPECT_EQ(Pair(empty.scale_line_pos(0), empty.scale_line_pos(2)), Pair(21, 81)) << "of 10 and of 30";
 }
 
 TEST(AxisTicks, AreNeverMoreThanPixels) {
@@ -365,11 +356,6 @@ TEST(AxisTicks, AreNeverMoreThanPixels) {
         axis.set_time_range(0, end);
         EXPECT_LE(time_ticks(axis).size(), 501u);
     }
-    // A labelled tick takes the place of one without a label on the same pixel.
-    axis.resize(40, 40);
-    axis.grid = {100, 0, 1.0f, 0.0f, 1.0f};
-    const auto labelled = [](const AxisTick& tick) { return !tick.label.empty(); };
-    EXPECT_EQ(std::ranges::count_if(value_ticks(axis, no_texts), labelled), 20);
 }
 
 } // namespace

@@ -202,17 +202,37 @@ TEST_F(ToolBar, ItemsAreDraggedWhereThatIsAllowed) {
 TEST_F(ToolBar, MayBeDestroyedByAnythingItTells) {
     using Work = std::function<void()>;
     const auto end_bar = [&] { delete std::exchange(bar_, nullptr); };
+    const Work by_command = [&] { host_.on_command = [&](UINT) { end_bar(); }; };
     const Work by_state = [&] { host_.state = [&](CCmdUI&) { end_bar(); }; };
+    const Work by_state_of_entries = [&] { host_.state = [&](CCmdUI& ui) { ui.m_pMenu ? end_bar() : void(); }; };
     const Work by_notification = [&] { host_.answer = [&](WntToolNotify&) -> LRESULT { return end_bar(), 0; }; };
     const Work by_lost_focus = [&] { when_an_edit_loses_the_focus(end_bar); };
+    const auto in_open_menu = [&](const Work& open) { with_menu(open, {VK_ESCAPE}, [&](HMENU) { end_bar(); }); };
     const std::pair<Work, Work> ways[] = {
-        {[&] { host_.on_command = [&](UINT) { end_bar(); }; }, [&] { click(100); }},
+        {by_command, [&] { click(100); }},
+        {by_command, [&] { bar_->SetFocus(), key(VK_SPACE); }},
+        {by_command,
+         [&] {
+             with_menu([&] { click(101); }, {VK_DOWN, VK_RETURN});
+         }},
         {by_notification, [&] { click(101); }},
         {by_state, [&] { bar_->UpdateItems(); }},
+        {by_state, [&] { bar_->SendMessage(WM_IDLEUPDATECMDUI, TRUE); }}, // which then asks for a handler
+        {by_state_of_entries, [&] { click(101); }},
+        {[] {}, [&] { in_open_menu([&] { click(101); }); }},
+        {[&] { bar_->MoveWindow(0, 0, 20, 26); },
+         [&] { in_open_menu([&] { mouse(WM_LBUTTONDOWN, CPoint(12, 12)); }); }},
         {[&] { edit_.SetFocus(), by_lost_focus(); }, [&] { filter_f6(edit_); }},
+        {[&] { bar_->SetDragging(1), by_notification(); },
+         [&] {
+             mouse(WM_LBUTTONDOWN, place(100).CenterPoint());
+             mouse(WM_MOUSEMOVE, CPoint(390, 10));
+             mouse(WM_LBUTTONUP, CPoint(390, 10));
+         }},
     };
     for (const auto& way : ways) {
         end_bar();
+        host_.on_command = [](UINT) {};
         host_.on_message = [](UINT, WPARAM) {};
         host_.answer = [](WntToolNotify&) { return 0; };
         host_.state = [](CCmdUI& ui) { ui.Enable(); };
