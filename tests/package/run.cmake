@@ -68,7 +68,7 @@ endfunction()
 # `printed` tells.
 function(step_printing document pixels)
   set(page "${WORK}/printed/${document}.ppm") # the print server needs a moment
-  execute_process(COMMAND ${SOURCE}/../with_printer ${WORK}/printed bash -c
+  execute_process(COMMAND ${SOURCE}/tests/with_printer ${WORK}/printed bash -c
       "\"$@\" && for ((i = 0; i < 600; ++i)); do [ ! -f '${page}' ] || exit 0; sleep 0.1; done; exit 1" - ${ARGN}
     WORKING_DIRECTORY ${WORK} RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE output)
   if(status EQUAL 77)
@@ -90,7 +90,7 @@ file(REMOVE_RECURSE ${WORK})
 step(${CMAKE_COMMAND} --install ${BUILD} --prefix ${WORK}/first)
 file(RENAME ${WORK}/first ${WORK}/package) # a package that may be moved
 set(EXAMPLES ${WORK}/package/share/zopwnt/examples) # the package's: with nothing of the checkout around them
-build_host(${SOURCE} ${WORK}/drive)
+build_host(${SOURCE}/examples/tests/drive ${WORK}/drive)
 file(COPY ${WORK}/drive/drive.exe DESTINATION ${WORK}/package/bin)
 
 take_block(cmake 0 ${WORK}/guide/CMakeLists.txt)

@@ -1,9 +1,9 @@
 // The plant's front end and its simulator, as an operator and as a plant that fails would use them.
-#include "../../tests/package/program.h"
+#include "program.h"
 
-#include "../plant/plant_blocks.h"
-#include "../plant/recorded_days.h"
-#include "../plant/resource.h"
+#include "../../plant/plant_blocks.h"
+#include "../../plant/recorded_days.h"
+#include "../../plant/resource.h"
 
 #include <filesystem>
 

@@ -1,10 +1,10 @@
 // Uses the example programs as somebody would who has no source of theirs: drive sketch|channel|guide|plant PROGRAM
 // FOLDER
-#include "../end_to_end/dropping.h"
+#include "../../../tests/end_to_end/dropping.h"
 #include "program.h"
 
-#include "../../examples/measuring_channel/resource.h"
-#include "../../examples/sketch/resource.h"
+#include "../../measuring_channel/resource.h"
+#include "../../sketch/resource.h"
 
 #include <cstdio>
 #include <fstream>
