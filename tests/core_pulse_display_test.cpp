@@ -12,53 +12,26 @@
 
 using namespace wnt;
 
+extern "C" int fuzz_pulse_series(const std::uint8_t* data, std::size_t size);
+
 namespace {
 
 constexpr double hole = std::numeric_limits<double>::quiet_NaN();
 
+// Streams that the fuzz target compares with a plain queue: a capacity, then samples of a kind, a pause and a value.
 TEST(PulseSeries, HoldsTheNewestSamplesAndTheirBlocks) {
-    for (const std::size_t capacity : {1, 5, 16, 100, 255, 256, 9000}) {
+    for (const int capacity : {0, 5, 16, 100, 255, 256, 9000}) {
         Random random(static_cast<unsigned>(capacity));
-        PulseSeries series(capacity);
-        std::deque<PulsePoint> plain; // what a history is, without blocks
-        std::int64_t time = -500;
-        for (int i = 0; i < 30'000; ++i) {
-            time += random.one_in(50) ? random.upto(5000) : random.upto(3);
+        std::vector<std::uint8_t> bytes = {static_cast<std::uint8_t>(capacity),
+                                           static_cast<std::uint8_t>(capacity >> 8)};
+        for (int i = 0; i < 12'000; ++i) {
+            const int pause = random.one_in(50) ? random.upto(5000) : random.upto(3);
             const double value = random.one_in(200) ? hole : random.unit();
-            ASSERT_TRUE(series.append(time, value));
-            plain.push_back({time, value});
-            if (plain.size() > capacity)
-                plain.pop_front();
-            if (!random.one_in(300))
-                continue;
-            const auto size = static_cast<int>(plain.size());
-            ASSERT_EQ(series.first(), static_cast<std::uint64_t>(i + 1 - size));
-            ASSERT_EQ(series.size(), plain.size());
-            int from = random.upto(size), to = random.upto(size);
-            if (from > to)
-                std::swap(from, to);
-            PulseBlock expected;
-            for (int k = from; k < to; ++k) {
-                const PulsePoint& point = plain[k];
-                if (std::isnan(point.value)) {
-                    expected.pause = PulseBlock::hole;
-                    continue;
-                }
-                const std::int64_t pause = k ? point.time - plain[k - 1].time : 0;
-                expected.include({point.value, point.value, pause});
-            }
-            const PulseBlock found = series.summary(series.first() + from, series.first() + to);
-            ASSERT_EQ(found.low, expected.low);
-            ASSERT_EQ(found.high, expected.high);
-            // The oldest sample's block may still know the pause before it.
-            if (from > 16) {
-                ASSERT_EQ(found.pause, expected.pause) << from << " to " << to;
-            }
-            const std::int64_t sought = time - random.upto(3000);
-            const auto at = std::lower_bound(plain.begin(), plain.end(), sought,
-                                             [](const PulsePoint& p, std::int64_t t) { return p.time < t; });
-            ASSERT_EQ(series.seek(sought, series.first() + random.upto(size + 5)),
-                      series.first() + static_cast<std::uint64_t>(at - plain.begin()));
+            const auto* parts = reinterpret_cast<const std::uint8_t*>(&value);
+            bytes.insert(bytes.end(), {1, static_cast<std::uint8_t>(pause), static_cast<std::uint8_t>(pause >> 8)});
+            bytes.insert(bytes.end(), parts, parts + sizeof value);
+            if (random.one_in(1000))
+                fuzz_pulse_series(bytes.data(), bytes.size());
         }
     }
 }
