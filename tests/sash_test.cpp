@@ -27,6 +27,15 @@ TEST_F(Sash, PlacesItsPanesEitherWay) {
     EXPECT_TRUE(place(first_) == CRect(0, 0, 100, 100) && place(second_) == CRect(105, 0, 205, 100));
     sash_.SetUpright(0); // shares are kept: 100 of 200
     EXPECT_TRUE(place(first_) == CRect(0, 0, 205, 48) && place(second_) == CRect(0, 53, 205, 100));
+    EXPECT_EQ(sketch(repainted(sash_), CRect(88, 48, 118, 53),
+                     {{::GetSysColor(COLOR_BTNHIGHLIGHT), '-'},
+                      {::GetSysColor(COLOR_3DDKSHADOW), '#'},
+                      {::GetSysColor(COLOR_BTNFACE), '.'}}),
+              "------------------------------\n"
+              "...##...##...##...##...##.....\n"
+              "...##...##...##...##...##.....\n"
+              "..............................\n"
+              "##############################\n");
     EXPECT_EQ(sash_.SetShare(0.25) + sash_.SetBarSize(15), 2);
     EXPECT_EQ(place(first_), CRect(0, 0, 205, 21));
     EXPECT_EQ(place(second_), CRect(0, 36, 205, 100));

@@ -289,6 +289,20 @@ TEST_F(Tabs, TheSelectedTabIsJoinedToItsPageAtEverySide) {
         EXPECT_TRUE(seen.at(page.right, page.bottom - 3) == blue || side == CWntTabs::at_right) << side;
         EXPECT_TRUE(seen.at(page.left - 1, page.bottom - 3) == red || side == CWntTabs::at_left) << side;
     }
+    tabs_.SetSide(CWntTabs::at_top);
+    const auto corner = [&](LONG at) {
+        return sketch(repainted(tabs_), CRect(at - 6, 0, at + 6, 4),
+                      {{red, 'r'}, {blue, 'b'}, {white, '.'}, {::GetSysColor(COLOR_HIGHLIGHT), '='}});
+    };
+    EXPECT_EQ(corner(tabs_.GetTabRect(1).left) + corner(tabs_.GetTabRect(1).right), R"(......rrrrrr
+.....r======
+rrrrr.======
+????r.......
+rrrrrr......
+======b.....
+======.brrrr
+.......b????
+)");
 }
 
 TEST_F(Tabs, TextsAreWholeAndTurnedWithTheSide) {
