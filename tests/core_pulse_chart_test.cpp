@@ -241,13 +241,8 @@ TEST_F(PulseTransfer, AClockThatIsPutBackLosesNothing) {
     }
     // And the axis' own clock never runs back, nor does it skip the hour that spring takes.
     for (const std::int64_t change : {two_thirty, std::int64_t{1'774'746'000}})
-        for (std::int64_t i = -90; i < 200; ++i) {
-            const std::int64_t time = axis_time_of(change + 60 * i);
-            EXPECT_EQ(time - axis_time_of(change), 6000 * i);
-#ifndef _WIN32
-            EXPECT_EQ(moment_of_axis_time(time), change + 60 * i);
-#endif
-        }
+        for (std::int64_t i = -90; i < 200; ++i)
+            EXPECT_EQ(axis_time_of(change + 60 * i) - axis_time_of(change), 6000 * i);
 }
 
 TEST_F(PulseTransfer, FilesFollowEachOtherBySizeAndDay) {

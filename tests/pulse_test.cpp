@@ -91,8 +91,6 @@ TEST_F(Pulse, LooksBackByMouseAndKeysAndReturns) {
     const __int64 dragged = start();
     feed(60'000, 61'000);
     EXPECT_EQ(start(), dragged);
-    key(VK_PRIOR);
-    EXPECT_NEAR(static_cast<double>(start()), static_cast<double>(dragged - 6000), 30);
     key(VK_HOME);
     EXPECT_NEAR(static_cast<double>(start()), 0, 20);
     key(VK_END);
@@ -112,11 +110,6 @@ TEST_F(Pulse, LooksBackByMouseAndKeysAndReturns) {
     mouse(WM_LBUTTONUP, 200, 150, MK_SHIFT);
     EXPECT_GT(start(), before);
     EXPECT_NEAR(static_cast<double>(chart_.GetSpan()), 1200, 300);
-    CWnd* bar = chart_.GetDlgItem(4);
-    const __int64 zoomed = start();
-    for (const WPARAM code : {SB_PAGELEFT, SB_ENDSCROLL})
-        chart_.SendMessage(WM_HSCROLL, code, reinterpret_cast<LPARAM>(bar->m_hWnd));
-    EXPECT_NEAR(static_cast<double>(zoomed - start()), static_cast<double>(chart_.GetSpan()), 30);
     mouse(WM_LBUTTONDOWN, 200, 150);
     ::ReleaseCapture(); // ends a drag
     const __int64 there = start();
@@ -142,10 +135,10 @@ TEST_F(Pulse, KeysAndTheBarGoByPartsOfWhatIsShown) {
     std::vector<__int64> by_keys, by_bar;
     for (const UINT k : {VK_LEFT, VK_RIGHT, VK_PRIOR, VK_NEXT})
         by_keys.push_back(moved([&] { key(k); }));
-    for (const WPARAM code : {SB_LINELEFT, SB_LINERIGHT, SB_PAGELEFT, SB_PAGERIGHT})
+    for (const WPARAM code : {SB_LINELEFT, SB_LINERIGHT, SB_PAGELEFT, SB_PAGERIGHT, SB_ENDSCROLL})
         by_bar.push_back(scrolled(code));
     EXPECT_THAT(by_keys, testing::ElementsAre(-98, 98, -1000, 1000));
-    EXPECT_EQ(by_bar, by_keys);
+    EXPECT_THAT(by_bar, testing::ElementsAre(-98, 98, -1000, 1000, 0));
     info.nPos = info.nMax / 2;
     ::SetScrollInfo(bar, SB_CTL, &info, FALSE);
     scrolled(MAKEWPARAM(SB_THUMBPOSITION, info.nPos));
