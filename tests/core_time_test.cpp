@@ -85,26 +85,6 @@ TEST(Time, NamesTheDayTwoDaysLate) {
     }
 }
 
-TEST(Time, RefusesWhatCannotBeConverted) {
-    constexpr std::int64_t day = 24 * hour_seconds, still_1969 = 5 * hour_seconds - 1;
-    const std::tuple<const char*, std::int32_t, std::vector<std::int64_t>> cases[] = {
-        {"UTC0", 0, {0, last_second}},
-        {"UTC0", general_failure, {-1, last_second + 1, INT64_MIN, INT64_MAX}},
-        {"EST5EDT", general_failure, {still_1969}},
-        {"EST5EDT", 0, {still_1969 + 1}},
-        {"JST-9", invalid_argument, {0, 364 * day}}, // the year began before the first moment
-        {"JST-9", 0, {365 * day}}};
-    for (const auto& [zone, code, moments] : cases) {
-        set_zone(zone);
-        for (std::int64_t seconds : moments) {
-            const CWntTime moment = at(seconds);
-            EXPECT_EQ(code_of([&] { moment.GetJulianDay(); }), code) << zone << ' ' << seconds;
-            EXPECT_EQ(code_of([&] { moment.GetCalendarWeek(0); }), code) << zone << ' ' << seconds;
-            EXPECT_EQ(code_of([&] { moment.GetFirstWeekend(); }), code) << zone << ' ' << seconds;
-        }
-    }
-}
-
 TEST(Time, ChecksItsValuesAndStaysAtZero) {
     using Values = std::array<int, 7>;
     struct Case {
