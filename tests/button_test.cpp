@@ -180,20 +180,22 @@ TEST_F(ButtonTest, PressMovesThePictureAndReleaseBringsItBack) {
     pictures.push_back(pixels_of(button_));
     mouse(WM_LBUTTONUP, 7, 5); // finds it raised
     EXPECT_EQ(pixels_of(button_), pictures.back());
-    button_.draw_button(0); // as an owner presses it
-    pictures.push_back(pixels_of(button_));
+    for (const unsigned char up : {0, 1}) { // as an owner presses it and lets it go
+        button_.draw_button(up);
+        pictures.push_back(pixels_of(button_));
+    }
     EXPECT_EQ(side_by_side(pictures), R"(
- SSSSSSSSSSSSSSS. DDDDDDDDDDDDDDD. SSSSSSSSSSSSSSS. DDDDDDDDDDDDDDD.
- S..............D D..............S S..............D D..............S
- S.TTTTTTTTTTTT.D D..............S S..............D D..............S
- S.TTTBBBBBBBBB.D D..............S S..TTBBBBBB....D D..............S
- S.TTTBBBBBBBBB.D D..............S S..TTBBBBBB....D D..............S
- S.TTTBBBBBBBBB.D D....TTBBBBBBB.S S..TTBBBBBB....D D....TTBBBBBB..S
- S.TTTBBBBBBBBB.D D....TTBBBBBBB.S S..............D D....TTBBBBBB..S
- S.TTTTTTTTTTTT.D D....TTBBBBBBT.S S..............D D....TTBBBBBB..S
- S.TTTTTTTTTTTT.D D....TTBBBBBBT.S S..............D D..............S
- S..............D D..............S S..............D D..............S
- DDDDDDDDDDDDDDDD SSSSSSSSSSSSSSSS DDDDDDDDDDDDDDDD SSSSSSSSSSSSSSSS)");
+ SSSSSSSSSSSSSSS. DDDDDDDDDDDDDDD. SSSSSSSSSSSSSSS. DDDDDDDDDDDDDDD. SSSSSSSSSSSSSSS.
+ S..............D D..............S S..............D D..............S S..............D
+ S.TTTTTTTTTTTT.D D..............S S..............D D..............S S..............D
+ S.TTTBBBBBBBBB.D D..............S S..TTBBBBBB....D D..............S S..TTBBBBBB....D
+ S.TTTBBBBBBBBB.D D..............S S..TTBBBBBB....D D..............S S..TTBBBBBB....D
+ S.TTTBBBBBBBBB.D D....TTBBBBBBB.S S..TTBBBBBB....D D....TTBBBBBB..S S..TTBBBBBB....D
+ S.TTTBBBBBBBBB.D D....TTBBBBBBB.S S..............D D....TTBBBBBB..S S..............D
+ S.TTTTTTTTTTTT.D D....TTBBBBBBT.S S..............D D....TTBBBBBB..S S..............D
+ S.TTTTTTTTTTTT.D D....TTBBBBBBT.S S..............D D..............S S..............D
+ S..............D D..............S S..............D D..............S S..............D
+ DDDDDDDDDDDDDDDD SSSSSSSSSSSSSSSS DDDDDDDDDDDDDDDD SSSSSSSSSSSSSSSS DDDDDDDDDDDDDDDD)");
 }
 
 TEST_F(ButtonTest, IsPaintedAgainWhereItDiffers) {
@@ -227,12 +229,23 @@ TEST_F(ButtonTest, IsPaintedAgainWhereItDiffers) {
 
 TEST_F(ButtonTest, EdgesOutsideAndHiddenDoNothing) {
     open(button_, 50, 30);
+    const Tcbtn_properties first = properties();
+    EXPECT_FALSE(button_.GetStyle() & WS_CLIPCHILDREN); // though asked for
+    std::string inside;
+    for (const CPoint at : {CPoint(0, 10), CPoint(10, 0), CPoint(1, 29), CPoint(49, 1), CPoint(50, 9), CPoint(9, 30)})
+        inside += button_.mouse_in_button(at) ? '1' : '0';
+    EXPECT_EQ(inside, "001100");
     EXPECT_TRUE(mouse(WM_LBUTTONDOWN, 0, 10) == 2 && mouse(WM_LBUTTONDOWN, 10, 0) == 2);
     EXPECT_EQ(mouse(WM_LBUTTONDOWN, 10, 10), 3);
     EXPECT_EQ(mouse(WM_LBUTTONUP, 60, 10), 3); // released outside: stays sunk
     EXPECT_EQ(mouse(WM_LBUTTONUP, 10, 10), 2);
     script({":VISIBLE=0"});
     EXPECT_EQ(mouse(WM_LBUTTONDOWN, 10, 10), 2); // nothing is drawn, so nothing sinks
+    script({":TITLE=x", ":CLRTEXT=RED", ":ALIGN=BOTTOMLEFT"});
+    button_.DestroyWindow();
+    open(button_, 50, 30);
+    const Tcbtn_properties again = properties();
+    EXPECT_EQ(std::memcmp(&again, &first, sizeof first), 0);
 }
 
 TEST_F(ButtonTest, ScrollBarMovesItsOwnThumb) {

@@ -67,6 +67,7 @@ TEST_F(CalendarTest, ShowsTheWeeksFromToday) {
     calendar_.DrawButton(CRect(0, height - 1, width - 1, height - 17), 0, 1);
     pixels = pixels_of(calendar_);
     EXPECT_TRUE(pixels.at(0, 8) == dark && pixels.at(90, 16) == light);
+    EXPECT_EQ(pixels.at(150, 12), ::GetSysColor(COLOR_BTNTEXT)); // the tip is pressed to the right
     for (int row = 4; row < 14; ++row)
         sunk.push_back(ink(row));
     EXPECT_THAT(sunk, testing::ElementsAre(0, 0, 0, 11, 9, 7, 5, 3, 1, 0));
@@ -91,6 +92,10 @@ TEST_F(CalendarTest, ShowsTheDateThatIsSet) {
     const auto noon_of = [](Days day) { return CTime((day.time_since_epoch().count() * 24 + 12) * 3600); };
     const Days set = today_ + weeks(70);
     const CTime noon = noon_of(set);
+    calendar_.DrawHeadline(CRect(0, 182, 299, 166), noon); // part by part, as an owner paints it
+    calendar_.DrawMonths(CRect(0, 165, 16, 17), noon, noon);
+    calendar_.DrawBody(CRect(17, 165, 299, 17), noon, noon);
+    expect_shown(set);
     drag(WM_LBUTTONDOWN, 60);
     drag(WM_MOUSEMOVE, 125);
     EXPECT_TRUE(calendar_.SetShownDate(noon) && ::GetCapture() == nullptr);
@@ -128,6 +133,13 @@ TEST_F(CalendarTest, DragsInTheMonthColumn) {
     expect_shown(today_ - weeks(4));
     expect_dragged(WM_LBUTTONDOWN, 60, -4); // a press alone moves nothing
     expect_dragged(WM_LBUTTONUP, 60, -4);
+    calendar_.MoveWindow(0, 0, width - 7, height - 7);
+    EXPECT_TRUE(::GetUpdateRect(calendar_, nullptr, FALSE));
+    drag(WM_LBUTTONDOWN, 60);
+    calendar_.DestroyWindow(); // and the drag with it
+    open(calendar_, width, height);
+    drag(WM_MOUSEMOVE, 125);
+    expect_shown(today_);
 }
 
 TEST_F(CalendarTest, MenusOfTheRegions) {

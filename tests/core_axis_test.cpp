@@ -242,29 +242,18 @@ TEST(AxisTime, RecordsAreRoundedDown) {
 }
 
 TEST(AxisTime, LevelFollowsTheSpan) {
-    const std::pair<std::int64_t, int> cases[] = {
-        {401 * day, 12}, {400 * day, 11},   {201 * day, 11}, {200 * day, 10}, {91 * day, 10},    {90 * day, 9},
-        {8 * day, 9},    {8 * day - 10, 8}, {7 * day, 8},    {3 * day, 8},    {3 * day - 10, 7}, {2 * day, 7},
-        {720'000, 7},    {719'999, 6},      {186'000, 6},    {185'999, 5},    {96'000, 5},       {95'999, 4},
-        {12'000, 4},     {11'999, 3},       {3'100, 3},      {3'099, 2},      {1'600, 2},        {1'599, 1},
-        {0, 1},          {-400 * day, 1}};
-    const std::int64_t intervals[] = {50,      600, 1'500,   6'000,    9'000,    18'000,
-                                      360'000, day, 7 * day, 30 * day, 90 * day, 365 * day};
-    for (const auto& [span, level] : cases) {
-        const TimeLevel& found = time_level(16'000 * day, 16'000 * day + span);
-        EXPECT_EQ(found.level, level) << span;
-        EXPECT_EQ(found.interval(), intervals[level - 1]);
-        using enum TimeRounding;
-        const TimeRounding from[] = {
-            minute, minute, minute, minute, minute, minute, hour, TimeRounding::day, TimeRounding::day,
-            month,  month,  year};
-        EXPECT_EQ(found.rounding, from[level - 1]) << level;
-        const TimeLabel labels[] = {TimeLabel::seconds,    TimeLabel::seconds,      TimeLabel::seconds,
-                                    TimeLabel::minutes,    TimeLabel::minutes,      TimeLabel::minutes,
-                                    TimeLabel::hours,      TimeLabel::date,         TimeLabel::date,
-                                    TimeLabel::month_name, TimeLabel::month_number, TimeLabel::year};
-        EXPECT_EQ(found.label, labels[level - 1]) << level;
+    std::ostringstream levels; // length of the ticks, interval, rounding and label
+    for (const std::int64_t begin : {-400 * day, 1'600LL, 3'100LL, 12'000LL, 96'000LL, 186'000LL, 720'000LL, 3 * day,
+                                     8 * day, 91 * day, 201 * day, 401 * day}) {
+        const auto level = [&](std::int64_t span) { return time_level(16'000 * day, 16'000 * day + span); };
+        const TimeLevel found = level(begin);
+        EXPECT_EQ(level(begin - begin / 1'000'000 - 1).level, std::max(found.level - 1, 1)) << begin;
+        levels << found.level << ": " << found.tick_length << ' ' << found.interval() << ' '
+               << static_cast<int>(found.rounding) << ' ' << static_cast<int>(found.label) << ", ";
     }
+    EXPECT_EQ(levels.str(), "1: 2 50 1 1, 2: 2 600 1 1, 3: 2 1500 1 1, 4: 3 6000 1 2, 5: 3 9000 1 2, 6: 3 18000 1 2, "
+                            "7: 3 360000 2 3, 8: 5 8640000 3 4, 9: 5 60480000 3 4, 10: 5 259200000 4 5, "
+                            "11: 7 777600000 4 6, 12: 7 3153600000 5 7, ");
 }
 
 TEST(AxisTime, TicksEqualAWalkFromTheOrigin) {

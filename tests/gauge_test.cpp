@@ -195,6 +195,26 @@ TEST_F(GaugeTest, TitleIsTheSystemsText) {
     EXPECT_TRUE(magenta(pixels_of(gauge_).values) == magenta(expected.values()));
 }
 
+TEST_F(GaugeTest, CallsShowWhatAScriptSays) {
+    open_with(120, 100,
+              {":TYPE=THERMOMETER", ":TITLE=Flow", ":UNITTITLE=bar", ":MINVAL=-20", ":MAXVAL=60", ":CLEARMARKS",
+               ":SETMARK=5,RED", ":SETMARK=60,BLUE", ":CURVAL=30"});
+    const Pixels scripted = repainted(gauge_);
+    script({":MINVAL=0", ":MAXVAL=100", ":CURVAL=50"});
+    const Pixels cleared = repainted(gauge_);
+    open_with(120, 100, {}); // begins as a sample again
+    gauge_.SetType(1);
+    gauge_.SetTitles("Flow", "bar");
+    gauge_.SetRange(-20, 60);
+    gauge_.ClearMarks();
+    gauge_.AddMark(5, "RED");
+    gauge_.AddMark(60, "BLUE");
+    gauge_.SetCurVal(30);
+    EXPECT_EQ(repainted(gauge_), scripted);
+    gauge_.Clear();
+    EXPECT_EQ(repainted(gauge_), cleared);
+}
+
 TEST_F(GaugeTest, CallsAskForThePaintThatTheyNeed) {
     open_with(100, 100, {":TYPE=PERCENTBAR", ":NOTITLE=X"});
     const auto asks = [&](auto call) {

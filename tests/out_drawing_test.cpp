@@ -10,6 +10,7 @@ using Draw = void (*)(CWntOut&);
 
 Tpt pairs[] = {{0, 0}, {1, 3}, {4, 0}, {5, 3}};
 Tpt square[] = {{0, 0}, {5, 0}, {5, 3}, {0, 3}};
+POINT corners[] = {{1, 0}, {3, 2}, {3, 0}};
 
 template <class Made> Made current(HDC dc, UINT kind) {
     Made made = {};
@@ -53,12 +54,16 @@ TEST_F(SurfaceTest, LinesAndBoxesCoverTheirPixels) {
         {"boxa1", [](CWntOut& o) { o.boxa1(5, 0, 2, 3); }, "..LLLL\n..LFFL\n..LFFL\n..LLLL\n"},
         {"boxa2, one pixel", [](CWntOut& o) { o.boxa2(3, 2, 3, 2); }, "......\n...F..\n......\n......\n"},
         {"crosslines", [](CWntOut& o) { o.crosslines(pairs, 2, 2); }, ".LLLL.\n......\n......\nLLLL..\n"},
+        {"crosslines between POINTs", [](CWntOut& o) { o.crosslines(corners, 2, 1); },
+         "......\n...L..\n..LL..\n.L....\n"},
         {"square marker", [](CWntOut& o) { o.drawmarker(2, 1, 1, 4); }, "......\n.LLL..\n.L.L..\n.LLL..\n"},
         {"cross, plus", [](CWntOut& o) { o.drawmarker(1, 1, 1, 0), o.drawmarker(4, 2, 1, 1); },
          "....L.\nL.LLLL\n.L..L.\nL.L...\n"},
         {"hatched, its gaps decided by a bit of the colour",
          [](CWntOut& o) { o.fillcolour(red, 0), o.fillcolour(green, 3), o.solidpoly(square, 4); },
          "FFFFFF\nF....F\nF....F\nFFFFFF\n"},
+        {"a cross, a plus", [](CWntOut& o) { o.drawcross(1, 1, 1), o.drawplus(4, 2, 1); },
+         "....L.\nL.LLLL\n.L..L.\nL.L...\n"},
         {"no marker", [](CWntOut& o) { o.drawmarker(2, 2, 1, 6), o.drawmarker(2, 2, 1, -1); },
          "......\n......\n......\n......\n"},
         {"tracked boxes, one without height",

@@ -188,6 +188,30 @@ TEST_F(SurfaceTest, ScrollMovesBlocks) {
     EXPECT_EQ(scrolled(0, 3, 1, 9, 2, 0), "L.L...\n......\n......\nFFF...\n"); // a block from above the area
 }
 
+TEST_F(SurfaceTest, ModesOfOutputLeaveTheWindowAlone) {
+    const auto changed = [](CWntOut& o) {
+        o.outmode = 4;
+        o.boxa2(0, 0, 1, 0);
+        o.scroll(0, 0, 2, 1, 3, 2, 0);
+        o.excludeclip(3, 0, 5, 3);
+        o.boxa1(3, 3, 5, 3);
+        EXPECT_EQ(o.testclip(900, 900, 901, 901), 0);
+        o.targetmode = 1;
+        EXPECT_EQ(o.testclip(900, 900, 901, 901) + o.clipit(900, 900, 901, 901), 2);
+        o.outmode = o.targetmode = 0;
+    };
+    EXPECT_EQ(drawn(6, 4, changed), "...LLL\n......\n......\nFF....\n");
+    EXPECT_EQ(out.reset(), 1);
+    out.ReleaseDrawing();
+    EXPECT_TRUE(!out.dc && !out.pen && !out.brush);
+    for (int CWntOut::*mode : {&CWntOut::outmode, &CWntOut::targetmode}) {
+        out.*mode = 1;
+        EXPECT_EQ(out.reset(), 0);
+        out.*mode = 0;
+    }
+    EXPECT_EQ(out.facename + CWntOut().facename, "Arial");
+}
+
 // On screens of fewer colours the last argument says how many bits a pixel they have.
 TEST_F(SurfaceTest, ScreenShowsTheColoursOfLinesAndFills) {
     const std::string command = ::GetCommandLineA();
@@ -221,10 +245,11 @@ TEST_F(SurfaceTest, ScreenShowsTheColoursOfLinesAndFills) {
 
 TEST_F(SurfaceTest, ScreenLosesRubberBandsDrawnTwice) {
     static Tpt corners[] = {{5, 5}, {60, 20}, {30, 70}};
+    static POINT others[] = {{5, 5}, {60, 20}, {30, 70}};
     using Draw = void (*)(CWntOut&);
     const Draw bands[] = {[](CWntOut& o) { o.trackline(0, 0, 99, 79); },
                           [](CWntOut& o) { o.trackbox(10, 10, 50, 30, 0x200); },
-                          [](CWntOut& o) { o.trackpoly(corners, 3); }};
+                          [](CWntOut& o) { o.trackpoly(corners, 3); }, [](CWntOut& o) { o.trackpoly(others, 3); }};
     ASSERT_EQ(out.reset(), 1);
     out.fillcolour(3, 0);
     out.boxa2(0, 0, 99, 79);
