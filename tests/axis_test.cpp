@@ -148,15 +148,21 @@ TEST_F(AxisTest, ConvertsBetweenPixelsAndWhatItShows) {
 // Draws what a derived class can besides.
 struct MarkedAxis : CWntAxis {
     using CWntAxis::position_description_, CWntAxis::title_, CWntAxis::value_title_;
-    using CWntAxis::title_font_, CWntAxis::value_font_;
+    using CWntAxis::title_font_, CWntAxis::value_font_, CWntAxis::engraved_ticks_;
     void OnPaint() {
         CPaintDC dc(this);
         dc.FillSolidRect(CRect(0, 0, 40, 40), RGB(255, 255, 0));
+        if (zooms) {
+            SetZoomRects(1);
+            PaintZoomControl(&dc);
+            return;
+        }
+        shadowline(&dc, 24, 14, 24, 17, 1);
         DrawBorder(&dc, 14, 14, 4, 3, 0, 1);
         DrawBorder(&dc, 19, 14, 4, 3, 1, 0);
         upright ? vertical_time_scale(&dc, 25) : horizontal_time_scale(&dc, 25);
     }
-    bool upright = false;
+    bool upright = false, zooms = false;
     DECLARE_MESSAGE_MAP()
 };
 BEGIN_MESSAGE_MAP(MarkedAxis, CWntAxis)
@@ -166,7 +172,7 @@ END_MESSAGE_MAP()
 TEST_F(AxisTest, DerivedAxesDrawBordersAndTimeMarks) {
     MarkedAxis axis;
     open(axis, 40, 36);
-    const CRect borders(13, 13, 24, 18);
+    const CRect borders(13, 13, 26, 18);
     Pixels seen;
     CString marks;
     Picture printed(40, 36);
@@ -187,11 +193,20 @@ TEST_F(AxisTest, DerivedAxesDrawBordersAndTimeMarks) {
                         "1,27 2,27 3,27 4,27 5,27 6,27 7,27 8,27 9,27 10,27 11,27 12,27 Y Axis at right| ");
     const COLORREF light = ::GetSysColor(COLOR_BTNHIGHLIGHT);
     EXPECT_EQ(sketch(seen, borders, {{shadow, 's'}, {light, 'l'}, {RGB(255, 255, 0), ' '}}),
-              "           \n"
-              " sssl llls \n"
-              " s??l l  s \n" // filled and not
-              " llll ssss \n"
-              "           \n");
+              "             \n"
+              " sssl llls sl\n"
+              " s??l l  s sl\n" // filled and not
+              " llll ssss sl\n"
+              "             \n");
+    axis.engraved_ticks_ = FALSE;
+    const Pixels engraved = {40, 36, printed.values()};
+    axis.SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(printed.dc()));
+    EXPECT_EQ(engraved.count(light) - printed.count(light), 28);
+    axis.zooms = true;
+    axis.SetAxisPosition(1);
+    EXPECT_EQ(sketch(repainted(axis), CRect(0, 0, 9, 3),
+                     {{RGB(255, 255, 0), ' '}, {shadow, 's'}, {light, 'l'}, {RGB(0, 128, 0), '#'}}),
+              "llllllls \nl######s \nl######s \n");
     CString title = "title", value_title = "value";
     axis.SetTitle(&title);
     axis.SetValueTitle(&value_title);

@@ -47,20 +47,6 @@ TEST_F(SurfaceTest, DeviceContextCycle) {
     EXPECT_EQ(pixels_of(out).at(0, 39), green);
 }
 
-TEST_F(SurfaceTest, DrawsOnOtherDevicesWithoutAWindow) {
-    Picture picture(4, 3);
-    picture.clear(ground);
-    CWntOut bare;
-    bare.targetmode = 1;
-    ASSERT_EQ(bare.reset(picture.dc()), 1);
-    bare.xmax = picture.width() - 1;
-    bare.ymax = picture.height() - 1;
-    bare.linecolour(red, 0);
-    bare.hline(0, 0, 2);
-    bare.endpaint();
-    EXPECT_EQ(letters(picture.values(), 4, {{ground, '.'}, {red, 'L'}}), "....\n....\nLLL.\n");
-}
-
 TEST_F(SurfaceTest, ParentSeesInputFirst) {
     const auto forwarded = [&](UINT message) {
         host_.seen.clear();
