@@ -278,6 +278,10 @@ TEST_F(AxisTest, ZoomControlFollowsTheMouse) {
     mouse(WM_MOUSEMOVE, 130, 55, MK_LBUTTON);
     EXPECT_EQ(zoom(), "#####..");
     EXPECT_EQ(axis_.zoomed, 2);
+
+    drag({100, 55}, {290, 55}); // further than the end
+    mouse(WM_LBUTTONUP, 290, 55);
+    EXPECT_EQ(zoom(), ".... ##");
     axis_.SetAxisPosition(1);
     size(60, 300);
     axis_.SetRange(0.0f, 100.0f);
@@ -285,6 +289,11 @@ TEST_F(AxisTest, ZoomControlFollowsTheMouse) {
     EXPECT_EQ(axis_.GetZoom(&from, &to), 1);
     EXPECT_NEAR(from, 1.0 / 3, 0.02) << "counted from the lower end";
     EXPECT_NEAR(to, 1, 0.02);
+    mouse(WM_LBUTTONUP, 5, 200);
+    drag({5, 3}, {5, 90}); // the other grip
+    EXPECT_EQ(axis_.GetZoom(&from, &to), 1);
+    EXPECT_NEAR(from, 1.0 / 3, 0.02);
+    EXPECT_NEAR(to, 0.7, 0.02);
 }
 
 TEST_F(AxisTest, ZoomControlLooksLikeItsSketches) {
@@ -368,9 +377,10 @@ TEST_F(AxisTest, PointerTellsWhatADragWouldDo) {
         axis_.SetFlags(across ? 2 : 3, 100, 0);
         size(300, 300);
         axis_.SetRange(0.0f, 100.0f);
-        for (const int at : {3, 150, 297}) {
+        for (const int at : {0, 4, 5, 294, 295, 299}) {
             const CPoint place = across ? CPoint(at, 295) : CPoint(295, at);
-            const CString name = CString("IDC_AXIS_") + (across ? "X_" : "Y_") + (at == 150 ? "MOVE" : "ENLARGE");
+            const CString name =
+                CString("IDC_AXIS_") + (across ? "X_" : "Y_") + (at == 5 || at == 294 ? "MOVE" : "ENLARGE");
             EXPECT_EQ(pointer_at(axis_, place), pointer(name)) << name << at; // as the system asks before each move
         }
     }

@@ -2,7 +2,6 @@
 #include "widgets/axis/axis_ticks.h"
 #include "arithmetic.h"
 #include "widgets/axis/time_value.h"
-#include "widgets/axis/zoom_control.h"
 
 #include <gmock/gmock.h>
 
@@ -170,37 +169,24 @@ TEST(AxisTicks, StandWithTheirLabels) {
         each->set_view_time({1, 1, 2026, 0, 0, 0, 0}, {1, 1, 2026, 0, 1, 0, 0});
     EXPECT_EQ(shown(time_ticks(across)), "0' 0s 20'15s 40'30s 60'45s ");
     EXPECT_EQ(shown(time_ticks(up)), "200' 150' 100' 50' ");
+    std::string long_spans; // by dates, and by times, whose year is 1900 less
+    for (const int days : {500, 250, 100, 30}) {
+        const TAxisdatetime start = {17, 5, 2026, 13, 45, 31, 7};
+        TAxisdatetime end = split_time(time_value(start) + days * day);
+        end.year += 1900;
+        across.set_view_time(start, end);
+        long_spans += shown(time_ticks(across)) + "/ ";
+        across.set_time_range(time_value(start), time_value(end));
+        long_spans += shown(time_ticks(across)) + "/ ";
+    }
+    EXPECT_EQ(long_spans, "36|126 / 18|126 77| / 23|7 52| / 28|8 57| / 10|Mai 34| 58| / 22|Jun 47| 71| / "
+                          "17|23.5.126 37| 56| 75|13.6.126 / 12|21.5.126 31| 50| 70|11.6.126 / ");
     EXPECT_TRUE(up.view_start.year == 2026 && up.view_end.minute == 1 && up.type == axis_time);
     EXPECT_THAT(
         (std::vector{across.set_current_time(across.start_value), across.set_current_time(across.start_value + 1),
                      across.set_current_time(across.end_value)}),
         ElementsAre(-1, 0, 81));
     EXPECT_EQ(across.last_converted, across.end_value);
-}
-
-TEST(AxisZoom, GripsAndLimitsOfTheSlider) {
-    AxisModel axis;
-    axis.position = axis_bottom;
-    axis.resize(200, 40);
-    ZoomControl zoom;
-    zoom.lay_out(axis, true);
-    const auto grab = [&](std::int32_t x) {
-        zoom.lay_out(axis, true);
-        zoom.last_x = x;
-        return zoom.hover(true, x, 35);
-    };
-    EXPECT_EQ(grab(4), ZoomGrip::enlarge);
-    EXPECT_FALSE(zoom.far_end);
-    EXPECT_EQ(grab(5), ZoomGrip::move);
-    EXPECT_TRUE(zoom.far_end);
-    EXPECT_EQ(grab(195), ZoomGrip::enlarge);
-    EXPECT_TRUE(zoom.far_end);
-    EXPECT_EQ(grab(200), ZoomGrip::none);
-    grab(100);
-    zoom.drag(true, 130, 35);
-    zoom.drag(true, 170, 35); // the far end stays in the box, the near one follows
-    EXPECT_EQ(zoom.slider.left, zoom.box.left + 70);
-    EXPECT_EQ(zoom.slider.right, zoom.box.right);
 }
 
 TEST(AxisTime, ProportionIsExactBeyond64Bits) {
@@ -254,29 +240,6 @@ TEST(AxisTime, LevelFollowsTheSpan) {
     EXPECT_EQ(levels.str(), "1: 2 50 1 1, 2: 2 600 1 1, 3: 2 1500 1 1, 4: 3 6000 1 2, 5: 3 9000 1 2, 6: 3 18000 1 2, "
                             "7: 3 360000 2 3, 8: 5 8640000 3 4, 9: 5 60480000 3 4, 10: 5 259200000 4 5, "
                             "11: 7 777600000 4 6, 12: 7 3153600000 5 7, ");
-}
-
-TEST(AxisTime, TicksEqualAWalkFromTheOrigin) {
-    const std::int64_t spans[] = {500 * day, 250 * day, 100 * day, 30 * day, 3 * day, 2 * day};
-    const TAxisdatetime start{17, 5, 2026, 13, 45, 31, 7};
-    for (std::int64_t span : spans)
-        for (bool counted_from_1900 : {false, true}) {
-            AxisModel axis;
-            TAxisdatetime end = split_time(time_value(start) + span);
-            end.year += 1900;
-            if (counted_from_1900)
-                axis.set_time_range(time_value(start), time_value(start) + span);
-            else
-                axis.set_view_time(start, end);
-            const TimeGrid grid = axis.time_grid();
-            std::vector<std::int64_t> walked;
-            for (std::int64_t t = grid.origin(); t < axis.end_value; t += grid.level().interval())
-                if (t >= axis.start_value)
-                    walked.push_back(t);
-            EXPECT_FALSE(walked.empty());
-            EXPECT_EQ(ticks_of(grid), walked) << span;
-            EXPECT_EQ(grid.origin() < 0, counted_from_1900);
-        }
 }
 
 TEST(AxisLabels, AreTrimmedAndBounded) {
