@@ -19,9 +19,6 @@ TEST(GaugeScale, OfOneValueIsThatValuesZoneThroughout) {
 TEST(GaugeViews, PercentagesAreRounded) {
     for (const auto& [value, text] : {std::pair{":CURVAL=1", " 33 %"}, {":CURVAL=2", " 67 %"}, {":CURVAL=3", "100 %"}})
         EXPECT_TRUE(writes(Scene(model_of(gauge_percent_bar, {":MAXVAL=3", value}), 300, 80), text)) << text;
-    const Scene titled(model_of(gauge_percent_bar, {":BARTITLE=1", ":TITLE=Level", ":CURVAL=100"}), 300, 80);
-    for (const Writing& w : writings_of(titled))
-        EXPECT_TRUE(w.text != "100 %" || (w.bounds.left < 280 && w.bounds.right < 300)) << "at the bar's end";
 }
 
 TEST(GaugeViews, ADialsTitleFindsRoomBetweenItsLabels) {
@@ -35,22 +32,17 @@ TEST(GaugeViews, ADialsTitleFindsRoomBetweenItsLabels) {
 
 // The size follows from the widest number of the range.
 TEST(GaugeViews, ReadoutsKeepTheirSizeWhileTheValueMoves) {
-    std::size_t segments[2] = {}; // of the display, lit or not
-    for (const int i : {0, 1}) {
-        GaugeModel model = model_of(gauge_digital, {":MINVAL=-1000000", ":MAXVAL=9", ":NOTITLE=X"});
-        model.set_current_value(i ? -1'000'000 : 7);
-        const Scene scene(model, 160, 160);
-        segments[i] = scene.value.figures().size();
-    }
-    EXPECT_EQ(segments[0], segments[1]);
-    for (const int type : {gauge_thermometer, gauge_analog, gauge_turn_knob}) {
-        std::vector<int> sizes;
+    for (const int type : {gauge_digital, gauge_thermometer, gauge_analog, gauge_turn_knob}) {
+        std::vector<std::size_t> sizes; // of the text, or segments of the display, lit or not
         for (const int value : {7, -1'000'000}) {
             GaugeModel model = model_of(type, {":MINVAL=-1000000", ":MAXVAL=9"});
             model.set_current_value(value);
-            for (const Writing& w : writings_of({model, 160, 160}))
-                if (!w.on_face && w.text == std::to_string(value))
-                    sizes.push_back(w.tenths);
+            const Scene scene(model, 160, 160);
+            if (type == gauge_digital)
+                sizes.push_back(scene.value.figures().size());
+            for (const Writing& w : writings_of(scene))
+                if (type != gauge_digital && !w.on_face && w.text == std::to_string(value))
+                    sizes.push_back(static_cast<std::size_t>(w.tenths));
         }
         ASSERT_EQ(sizes.size(), 2u) << type;
         EXPECT_EQ(sizes[0], sizes[1]) << type;

@@ -29,18 +29,23 @@ TEST(Bitmaps, ShowAndSaveEveryKindOfFile) {
         CFile open(disk.name(), CFile::modeRead);
         open.Seek(77, CFile::begin);
         const int height = std::abs(file.height);
-        Picture picture(file.width, height), large(2 * file.width, 3 * height);
-        const auto check_pictures = [&] {
+        Picture picture(file.width + 3, height + 1), large(2 * file.width + 5, 3 * height + 4);
+        const auto check_pictures = [&] { // drawn to the right and from below the upper edge on
             for (int i = 0; i < file.width * height; ++i)
-                ASSERT_EQ(picture.at(i % file.width, i / file.width), file.colour_at(i % file.width, i / file.width));
-            EXPECT_EQ(large.at(2 * file.width - 1, 0), picture.at(file.width - 1, 0));
+                ASSERT_EQ(picture.at(2 + i % file.width, i / file.width),
+                          file.colour_at(i % file.width, i / file.width));
+            for (const int y : {0, height - 1}) {
+                EXPECT_EQ(large.at(4, 3 * y + 1), picture.at(2, y));
+                EXPECT_EQ(large.at(4 + 2 * file.width - 1, 3 * y + 1), picture.at(2 + file.width - 1, y));
+            }
+            EXPECT_EQ(large.at(4 + 2 * file.width, 0) + picture.at(2 + file.width, 0) + picture.at(2, height), 0u);
             picture.clear(0);
             large.clear(0);
         };
         CWntBitmap bitmap;
         ASSERT_TRUE(bitmap.Load(&open));
-        bitmap.Draw(CDC::FromHandle(picture.dc()), 0, 0);
-        bitmap.Draw(CDC::FromHandle(large.dc()), 0, 0, 2 * file.width, 3 * height);
+        bitmap.Draw(CDC::FromHandle(picture.dc()), 2, 1);
+        bitmap.Draw(CDC::FromHandle(large.dc()), 4, 4, 2 * file.width, 3 * height);
         check_pictures();
         CWntBitmapPalette palette;
         const UINT colours = file.bits == 8 ? std::min(file.colours(), 256U) : file.colours();
@@ -62,8 +67,8 @@ TEST(Bitmaps, ShowAndSaveEveryKindOfFile) {
                   std::tuple(file.width, file.height, file.bits));
         if (file.height < 0 || file.width * file.bits % 32 == 0) {
             const int plain = file.colours() == 0; // intended: a palette that is selected counts as a failure
-            EXPECT_TRUE(dib.Draw(picture.dc(), 0, 0, 0, 0) == plain && dib.GetLastError() == !plain);
-            const int drawn = dib.DrawRealized(large.dc(), 0, 0, 2 * file.width, 3 * height);
+            EXPECT_TRUE(dib.Draw(picture.dc(), 2, 1, 0, 9) == plain && dib.GetLastError() == !plain);
+            const int drawn = dib.DrawRealized(large.dc(), 4, 4, 2 * file.width, 3 * height);
             EXPECT_TRUE(drawn == plain && dib.GetLastError() == !plain);
             EXPECT_EQ(::GetCurrentObject(large.dc(), OBJ_PAL), ::GetStockObject(DEFAULT_PALETTE)); // again
             check_pictures();
@@ -83,24 +88,6 @@ TEST(Bitmaps, ShowAndSaveEveryKindOfFile) {
         std::memcpy(expected.data() + 2, facts, sizeof facts);
         EXPECT_EQ(disk.bytes(), expected);
     }
-}
-
-TEST(Bitmaps, AreDrawnWhereTheyAreAskedTo) {
-    CWntBitmap bitmap;
-    CDibFile dib;
-    ASSERT_TRUE(bitmap.Create(3, 2) && dib.CreateNewTrueColor(3, 2, 0));
-    const auto drawn = [](auto draw) { // corners inclusive, from above
-        Picture picture(20, 16);
-        picture.clear(RGB(255, 255, 255));
-        draw(picture.dc());
-        const RECT ink = picture.ink(RGB(255, 255, 255));
-        return std::vector<LONG>{ink.left, 15 - ink.top, ink.right, 15 - ink.bottom};
-    };
-    using testing::ElementsAre;
-    EXPECT_THAT(drawn([&](HDC dc) { dib.Draw(dc, 4, 7, 0, 9); }), ElementsAre(4, 7, 6, 8));
-    EXPECT_THAT(drawn([&](HDC dc) { dib.DrawRealized(dc, 4, 7, 5, 6); }), ElementsAre(4, 7, 8, 12));
-    EXPECT_THAT(drawn([&](HDC dc) { bitmap.Draw(CDC::FromHandle(dc), 4, 7); }), ElementsAre(4, 7, 6, 8));
-    EXPECT_THAT(drawn([&](HDC dc) { bitmap.Draw(CDC::FromHandle(dc), 4, 7, 5, 6); }), ElementsAre(4, 7, 8, 12));
 }
 
 TEST(DibFile, TellsWhatFailed) {
