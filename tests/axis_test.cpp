@@ -38,7 +38,7 @@ struct AxisTest : WidgetTest {
         Picture expected(shown.width, shown.height);
         const AxisLook look = {position, time ? time_ticks_start : value_ticks_start,
                                time ? time_labels_start : value_labels_start};
-        AxisReference().paint(expected.dc(), shown.width, shown.height, look, marks);
+        paint_axis(expected.dc(), shown.width, shown.height, look, marks);
         EXPECT_TRUE(shown.values == expected.values()) << "position " << position;
     }
 

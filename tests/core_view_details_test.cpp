@@ -16,20 +16,6 @@ TEST(GaugeScale, OfOneValueIsThatValuesZoneThroughout) {
     EXPECT_TRUE(zones[0].from == 0 && zones[0].to == 1);
 }
 
-TEST(GaugeViews, PercentagesAreRounded) {
-    for (const auto& [value, text] : {std::pair{":CURVAL=1", " 33 %"}, {":CURVAL=2", " 67 %"}, {":CURVAL=3", "100 %"}})
-        EXPECT_TRUE(writes(Scene(model_of(gauge_percent_bar, {":MAXVAL=3", value}), 300, 80), text)) << text;
-}
-
-TEST(GaugeViews, ADialsTitleFindsRoomBetweenItsLabels) {
-    std::vector<int> middles;
-    const Scene dial(model_of(gauge_analog, {":BARTITLE=1", ":TITLE=Level", ":SCALES=10"}), 240, 240);
-    for (const Writing& w : writings_of(dial))
-        if (w.text == "Level")
-            middles.push_back(static_cast<int>(w.bounds.top + w.bounds.bottom) / 2);
-    EXPECT_EQ(middles, std::vector{153});
-}
-
 // The size follows from the widest number of the range.
 TEST(GaugeViews, ReadoutsKeepTheirSizeWhileTheValueMoves) {
     for (const int type : {gauge_digital, gauge_thermometer, gauge_analog, gauge_turn_knob}) {

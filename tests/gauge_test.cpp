@@ -2,6 +2,7 @@
 #include "widget_window.h"
 
 #include <random>
+#include <set>
 
 namespace {
 
@@ -98,6 +99,16 @@ TEST_F(GaugeTest, ColourLinesArePaintedAsColourValues) {
     EXPECT_TRUE(p.at(98, 50) == RGB(6, 0, 0) && p.at(4, 4) == RGB(9, 0, 0)); // right: shadow; background
     gauge_.SetCurVal(0);
     EXPECT_NE(pixels_of(gauge_).at(33, 67), p.at(33, 67)); // the least value's needle points down to the left
+}
+
+TEST_F(GaugeTest, EdgesAreMixedMoreFinelyInSmallPictures) {
+    const auto shades = [&](int size) {
+        open_with(size, size, {":TYPE=ANALOG", ":NOTITLE=X"});
+        const Pixels shown = pixels_of(gauge_);
+        return std::set<COLORREF>(shown.values.begin(), shown.values.end()).size();
+    };
+    EXPECT_GT(shades(400), 1.3 * shades(401));
+    EXPECT_GT(shades(401), 100u);
 }
 
 TEST_F(GaugeTest, TestModeGivesRoomToBarAndButton) {

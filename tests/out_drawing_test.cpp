@@ -62,8 +62,6 @@ TEST_F(SurfaceTest, LinesAndBoxesCoverTheirPixels) {
         {"hatched, its gaps decided by a bit of the colour",
          [](CWntOut& o) { o.fillcolour(red, 0), o.fillcolour(green, 3), o.solidpoly(square, 4); },
          "FFFFFF\nF....F\nF....F\nFFFFFF\n"},
-        {"a cross, a plus", [](CWntOut& o) { o.drawcross(1, 1, 1), o.drawplus(4, 2, 1); },
-         "....L.\nL.LLLL\n.L..L.\nL.L...\n"},
         {"no marker", [](CWntOut& o) { o.drawmarker(2, 2, 1, 6), o.drawmarker(2, 2, 1, -1); },
          "......\n......\n......\n......\n"},
         {"tracked boxes, one without height",
