@@ -97,8 +97,6 @@ TEST_F(GaugeTest, ColourLinesArePaintedAsColourValues) {
     const Pixels p = pixels_of(gauge_);
     EXPECT_TRUE(p.at(1, 50) == RGB(7, 0, 0) && p.at(50, 1) == RGB(7, 0, 0)); // left and top: sun
     EXPECT_TRUE(p.at(98, 50) == RGB(6, 0, 0) && p.at(4, 4) == RGB(9, 0, 0)); // right: shadow; background
-    gauge_.SetCurVal(0);
-    EXPECT_NE(pixels_of(gauge_).at(33, 67), p.at(33, 67)); // the least value's needle points down to the left
 }
 
 TEST_F(GaugeTest, EdgesAreMixedMoreFinelyInSmallPictures) {
@@ -145,7 +143,7 @@ TEST_F(GaugeTest, LoadsScriptFiles) {
     EXPECT_EQ(gauge_.LoadFromFile("\"gauge test.dat\" and more"), 1);
     EXPECT_GT(pixels_of(gauge_).count(RGB(0, 0, 255)), 1000); // the long line ended the reading, the bar is at 90
     for (const char* nothing : {"no such file", "\"", static_cast<const char*>(nullptr)})
-        gauge_.LoadFromFile(nothing);
+        EXPECT_EQ(gauge_.LoadFromFile(nothing), 1);
     script({":CLEARMARKS"});
     EXPECT_TRUE(gauge_.GetExStyle() & WS_EX_ACCEPTFILES);
     ::ValidateRect(gauge_.m_hWnd, nullptr);

@@ -222,14 +222,10 @@ struct PaletteFile {
     }
 };
 
-COLORREF colour_of(const PALETTEENTRY& entry) {
-    return RGB(entry.peRed, entry.peGreen, entry.peBlue);
-}
-
 COLORREF colour_of(const CPalette& palette, int i) {
     PALETTEENTRY entry = {};
     palette.GetPaletteEntries(static_cast<UINT>(i), 1, &entry);
-    return colour_of(entry);
+    return RGB(entry.peRed, entry.peGreen, entry.peBlue);
 }
 
 // Also behind other things, and more than the multimedia layer buffers.
