@@ -113,6 +113,7 @@ TEST_F(AxisTest, TimeTicksAndLabels) {
 
 TEST_F(AxisTest, ConvertsBetweenPixelsAndWhatItShows) {
     axis_.SetFlags(2, 7, 0);
+    EXPECT_EQ(axis_.GetGridCount(), 7);
     size(315, 40);
     axis_.UpdateWindow();
     axis_.SetRange(-12.0f, 88.0f);
@@ -201,7 +202,7 @@ TEST_F(AxisTest, DerivedAxesDrawBordersAndTimeMarks) {
     axis.engraved_ticks_ = FALSE;
     const Pixels engraved = {40, 36, printed.values()};
     axis.SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(printed.dc()));
-    EXPECT_EQ(engraved.count(light) - printed.count(light), 28);
+    EXPECT_EQ(std::pair(engraved.count(light) - printed.count(light), printed.count(shadow)), std::pair(28L, 103L));
     axis.zooms = true;
     axis.SetAxisPosition(1);
     EXPECT_EQ(sketch(repainted(axis), CRect(0, 0, 9, 3),
@@ -226,11 +227,11 @@ TEST_F(AxisTest, AFollowedRangeIsSeenAtOnce) {
     axis_.SetAxisType(2);
     for (const CSize& extent : {CSize(300, 40), CSize(500, 60), CSize(90, 30)}) {
         size(extent.cx, extent.cy);
-        full_repaint(axis_);
+        const Pixels before = repainted(axis_);
         axis_.FollowRange(extent.cx, extent.cx + 6'000);
         EXPECT_FALSE(::GetUpdateRect(axis_, nullptr, FALSE));
         const Pixels seen = pixels_of(axis_);
-        EXPECT_TRUE(seen == repainted(axis_)) << extent.cx;
+        EXPECT_TRUE(seen == repainted(axis_) && seen != before) << extent.cx;
         Picture copy(extent.cx, extent.cy);
         axis_.FollowRange(extent.cx, extent.cx + 6'000, CDC::FromHandle(copy.dc()));
         EXPECT_EQ(copy.values(), seen.values) << extent.cx;
@@ -291,7 +292,7 @@ TEST_F(AxisTest, ZoomControlFollowsTheMouse) {
     EXPECT_NEAR(to, 1, 0.02);
     mouse(WM_LBUTTONUP, 5, 200);
     drag({5, 3}, {5, 90}); // the other grip
-    EXPECT_EQ(axis_.GetZoom(&from, &to), 1);
+    axis_.GetZoom(&from, &to);
     EXPECT_NEAR(from, 1.0 / 3, 0.02);
     EXPECT_NEAR(to, 0.7, 0.02);
 }

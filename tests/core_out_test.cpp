@@ -121,7 +121,6 @@ TEST(KeyCode, Translates) {
                  {character, 3, 0x2E, 0, {control}, 1, 4, 'C'},
                  {key_down, 0x70, 0x3B, 0, {control}, 1, 2, 0x81},
                  {key_down, 0x7B, 0x58, 0, {shift, control}, 1, 2, 24 | 0x80},
-                 {key_down, 0x70, 0x3B, 0, {}, 1, 2, 1},
                  {character, 1, 0x1E, 0, {control}, 1, 4, 'A'},
                  {character, 26, 0x2C, 0, {control}, 1, 4, 'Z'},
                  {0x104, 0x73, 0x3E, alt, {}, 0, 0, 0},
