@@ -236,7 +236,7 @@ TEST_F(ButtonTest, EdgesOutsideAndHiddenDoNothing) {
     EXPECT_EQ(mouse(WM_LBUTTONUP, 10, 10), 2);
     script({":VISIBLE=0"});
     EXPECT_EQ(mouse(WM_LBUTTONDOWN, 10, 10), 2); // nothing is drawn, so nothing sinks
-    script({":TITLE=x", ":CLRTEXT=RED", ":ALIGN=BOTTOMLEFT"});
+    script({":TITLE=x", ":CLRTEXT=RED", ":FRAME=1", ":WORDWRAP=1", ":FIXED=1", ":TYPE=MAC"});
     button_.DestroyWindow();
     open(button_, 50, 30);
     const Tcbtn_properties again = properties();

@@ -71,8 +71,6 @@ TEST_F(ColorSelTest, ShowsThePaletteAndTellsPicks) {
     full_repaint(selector_);
     EXPECT_EQ(pick(130, 45), 6);
     EXPECT_EQ(pixels_of(selector_).at(80, 15), greys[6]); // the sample
-    selector_.SetSelectedColor(5);
-    EXPECT_EQ(selector_.GetSelectedColorID(), 6);
 }
 
 TEST_F(ColorSelTest, LooksLikeItsSketches) {
@@ -146,6 +144,7 @@ TEST_F(ColorSelTest, ItemsTakeThePickedColour) {
     selector_.SetColorItems(names, colours, 2);
     EXPECT_TRUE(names_list.IsWindowVisible() && place_in(selector_, names_list) == CRect(80, 0, 160, 90));
 
+    EXPECT_EQ(names_list.GetStyle() & 0xFFFF, LBS_SORT | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT);
     full_repaint(selector_);
     char first[20] = "";
     names_list.SendMessage(LB_GETTEXT, 0, reinterpret_cast<LPARAM>(first));
@@ -195,6 +194,7 @@ TEST_F(ColorSelTest, SlidersFollowTheMouse) {
     for (const int id : {102, 103, 104}) {
         CWnd* slider = selector_.GetDlgItem(id);
         EXPECT_TRUE(slider->IsWindowVisible());
+        EXPECT_EQ(slider->GetStyle() & 0x1FFFF, WS_TABSTOP | TBS_VERT | TBS_BOTH);
         sliders.push_back(slider->SendMessage(TBM_GETPOS));
         sliders.push_back(slider->SendMessage(TBM_GETRANGEMAX));
     }
