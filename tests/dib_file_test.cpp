@@ -38,7 +38,9 @@ TEST(Bitmaps, ShowAndSaveEveryKindOfFile) {
                 EXPECT_EQ(large.at(4, 3 * y + 1), picture.at(2, y));
                 EXPECT_EQ(large.at(4 + 2 * file.width - 1, 3 * y + 1), picture.at(2 + file.width - 1, y));
             }
-            EXPECT_EQ(large.at(4 + 2 * file.width, 0) + picture.at(2 + file.width, 0) + picture.at(2, height), 0u);
+            EXPECT_THAT(
+                (std::vector{large.at(4 + 2 * file.width, 0), picture.at(2 + file.width, 0), picture.at(2, height)}),
+                testing::Each(0u));
             picture.clear(0);
             large.clear(0);
         };

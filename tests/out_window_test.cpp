@@ -189,7 +189,7 @@ TEST_F(SurfaceTest, ModesOfOutputLeaveTheWindowAlone) {
     EXPECT_EQ(drawn(6, 4, changed), "...LLL\n......\n......\nFF....\n");
     EXPECT_EQ(out.reset(), 1);
     out.ReleaseDrawing();
-    EXPECT_TRUE(!out.dc && !out.pen && !out.brush);
+    EXPECT_THAT((std::vector<void*>{out.dc, out.pen, out.brush}), testing::Each(nullptr));
     for (int CWntOut::*mode : {&CWntOut::outmode, &CWntOut::targetmode}) {
         out.*mode = 1;
         EXPECT_EQ(out.reset(), 0);
