@@ -24,9 +24,8 @@ template <class... Parts> std::string text(const char* format, Parts... parts) {
 
 void measure(BenchTable& table, const char* name, CWntAxis& axis, const AxisLook& look,
              const std::function<void(int)>& set, const MarksOfStates& marks) {
-    const AxisReference reference;
     const auto paint = [&](HDC dc, int state) {
-        reference.paint(dc, width, height, look, marks[static_cast<std::size_t>(state)]);
+        paint_axis(dc, width, height, look, marks[static_cast<std::size_t>(state)]);
     };
     measure_paint(table, name, axis, states, set, paint, 0, height);
 }

@@ -38,7 +38,7 @@ struct AxisTest : WidgetTest {
         Picture expected(shown.width, shown.height);
         const AxisLook look = {position, time ? time_ticks_start : value_ticks_start,
                                time ? time_labels_start : value_labels_start};
-        AxisReference().paint(expected.dc(), shown.width, shown.height, look, marks);
+        paint_axis(expected.dc(), shown.width, shown.height, look, marks);
         EXPECT_TRUE(shown.values == expected.values()) << "position " << position;
     }
 
@@ -113,6 +113,7 @@ TEST_F(AxisTest, TimeTicksAndLabels) {
 
 TEST_F(AxisTest, ConvertsBetweenPixelsAndWhatItShows) {
     axis_.SetFlags(2, 7, 0);
+    EXPECT_EQ(axis_.GetGridCount(), 7);
     size(315, 40);
     axis_.UpdateWindow();
     axis_.SetRange(-12.0f, 88.0f);
@@ -148,15 +149,21 @@ TEST_F(AxisTest, ConvertsBetweenPixelsAndWhatItShows) {
 // Draws what a derived class can besides.
 struct MarkedAxis : CWntAxis {
     using CWntAxis::position_description_, CWntAxis::title_, CWntAxis::value_title_;
-    using CWntAxis::title_font_, CWntAxis::value_font_;
+    using CWntAxis::title_font_, CWntAxis::value_font_, CWntAxis::engraved_ticks_;
     void OnPaint() {
         CPaintDC dc(this);
         dc.FillSolidRect(CRect(0, 0, 40, 40), RGB(255, 255, 0));
+        if (zooms) {
+            SetZoomRects(1);
+            PaintZoomControl(&dc);
+            return;
+        }
+        shadowline(&dc, 24, 14, 24, 17, 1);
         DrawBorder(&dc, 14, 14, 4, 3, 0, 1);
         DrawBorder(&dc, 19, 14, 4, 3, 1, 0);
         upright ? vertical_time_scale(&dc, 25) : horizontal_time_scale(&dc, 25);
     }
-    bool upright = false;
+    bool upright = false, zooms = false;
     DECLARE_MESSAGE_MAP()
 };
 BEGIN_MESSAGE_MAP(MarkedAxis, CWntAxis)
@@ -166,7 +173,7 @@ END_MESSAGE_MAP()
 TEST_F(AxisTest, DerivedAxesDrawBordersAndTimeMarks) {
     MarkedAxis axis;
     open(axis, 40, 36);
-    const CRect borders(13, 13, 24, 18);
+    const CRect borders(13, 13, 26, 18);
     Pixels seen;
     CString marks;
     Picture printed(40, 36);
@@ -187,11 +194,20 @@ TEST_F(AxisTest, DerivedAxesDrawBordersAndTimeMarks) {
                         "1,27 2,27 3,27 4,27 5,27 6,27 7,27 8,27 9,27 10,27 11,27 12,27 Y Axis at right| ");
     const COLORREF light = ::GetSysColor(COLOR_BTNHIGHLIGHT);
     EXPECT_EQ(sketch(seen, borders, {{shadow, 's'}, {light, 'l'}, {RGB(255, 255, 0), ' '}}),
-              "           \n"
-              " sssl llls \n"
-              " s??l l  s \n" // filled and not
-              " llll ssss \n"
-              "           \n");
+              "             \n"
+              " sssl llls sl\n"
+              " s??l l  s sl\n" // filled and not
+              " llll ssss sl\n"
+              "             \n");
+    axis.engraved_ticks_ = FALSE;
+    const Pixels engraved = {40, 36, printed.values()};
+    axis.SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(printed.dc()));
+    EXPECT_EQ(std::pair(engraved.count(light) - printed.count(light), printed.count(shadow)), std::pair(28L, 103L));
+    axis.zooms = true;
+    axis.SetAxisPosition(1);
+    EXPECT_EQ(sketch(repainted(axis), CRect(0, 0, 9, 3),
+                     {{RGB(255, 255, 0), ' '}, {shadow, 's'}, {light, 'l'}, {RGB(0, 128, 0), '#'}}),
+              "llllllls \nl######s \nl######s \n");
     CString title = "title", value_title = "value";
     axis.SetTitle(&title);
     axis.SetValueTitle(&value_title);
@@ -211,11 +227,12 @@ TEST_F(AxisTest, AFollowedRangeIsSeenAtOnce) {
     axis_.SetAxisType(2);
     for (const CSize& extent : {CSize(300, 40), CSize(500, 60), CSize(90, 30)}) {
         size(extent.cx, extent.cy);
-        full_repaint(axis_);
+        const Pixels before = repainted(axis_);
         axis_.FollowRange(extent.cx, extent.cx + 6'000);
         EXPECT_FALSE(::GetUpdateRect(axis_, nullptr, FALSE));
         const Pixels seen = pixels_of(axis_);
-        EXPECT_TRUE(seen == repainted(axis_)) << extent.cx;
+        EXPECT_NE(seen, before) << extent.cx;
+        EXPECT_EQ(seen, repainted(axis_)) << extent.cx;
         Picture copy(extent.cx, extent.cy);
         axis_.FollowRange(extent.cx, extent.cx + 6'000, CDC::FromHandle(copy.dc()));
         EXPECT_EQ(copy.values(), seen.values) << extent.cx;
@@ -263,6 +280,10 @@ TEST_F(AxisTest, ZoomControlFollowsTheMouse) {
     mouse(WM_MOUSEMOVE, 130, 55, MK_LBUTTON);
     EXPECT_EQ(zoom(), "#####..");
     EXPECT_EQ(axis_.zoomed, 2);
+
+    drag({100, 55}, {290, 55}); // further than the end
+    mouse(WM_LBUTTONUP, 290, 55);
+    EXPECT_EQ(zoom(), ".... ##");
     axis_.SetAxisPosition(1);
     size(60, 300);
     axis_.SetRange(0.0f, 100.0f);
@@ -270,13 +291,18 @@ TEST_F(AxisTest, ZoomControlFollowsTheMouse) {
     EXPECT_EQ(axis_.GetZoom(&from, &to), 1);
     EXPECT_NEAR(from, 1.0 / 3, 0.02) << "counted from the lower end";
     EXPECT_NEAR(to, 1, 0.02);
+    mouse(WM_LBUTTONUP, 5, 200);
+    drag({5, 3}, {5, 90}); // the other grip
+    axis_.GetZoom(&from, &to);
+    EXPECT_NEAR(from, 1.0 / 3, 0.02);
+    EXPECT_NEAR(to, 0.7, 0.02);
 }
 
 TEST_F(AxisTest, ZoomControlLooksLikeItsSketches) {
     axis_.SetAxisType(2); // without ticks
     axis_.SendMessage(WM_COMMAND, 100);
     std::vector<Pixels> shown;
-    for (const int position : {1, 2, 3}) {
+    for (const int position : {0, 1, 2, 3}) {
         axis_.SetAxisPosition(position);
         size(6, 6);
         axis_.SetRange(0.0f, 100.0f); // the slider keeps the place that it has here
@@ -292,15 +318,15 @@ TEST_F(AxisTest, ZoomControlLooksLikeItsSketches) {
     for (int y = 0; y < 9; ++y, rows += '\n')
         for (const Pixels& each : shown)
             rows += " " + sketch(each, CRect(0, y, 11, y + 1), names).substr(0, 11);
-    EXPECT_EQ(rows, R"( lllllllslls l####sssssl lllssssssss
- l######s..s ssssssbbbbl ###sbbbbbbb
- l######s..s sbbbbbbbbbl ###sbbbbbbb
- l######s..s sbbbbbbbbbl ###sbbbbbbb
- l######s..s sbbbbbbbbbl ###sbbbbbbb
- ssssssss..s sbbbbbbbbbl ssssbbbbbbb
- sbbbbbbl..s sbbbbbbbbbl l..sbbbbbbb
- sbbbbbbl..s lllllllllll l..sbbbbbbb
- llllllllsss sssssssssss sssllllllll
+    EXPECT_EQ(rows, R"( lllllllllls lllllllslls l####sssssl lllssssssss
+ l.........s l######s..s ssssssbbbbl ###sbbbbbbb
+ l.........s l######s..s sbbbbbbbbbl ###sbbbbbbb
+ l.........s l######s..s sbbbbbbbbbl ###sbbbbbbb
+ l.........s l######s..s sbbbbbbbbbl ###sbbbbbbb
+ l.........s ssssssss..s sbbbbbbbbbl ssssbbbbbbb
+ l.........s sbbbbbbl..s sbbbbbbbbbl l..sbbbbbbb
+ l.lllsssssl sbbbbbbl..s lllllllllll l..sbbbbbbb
+ sssssslllll llllllllsss sssssssssss sssllllllll
 )");
 }
 
@@ -353,9 +379,10 @@ TEST_F(AxisTest, PointerTellsWhatADragWouldDo) {
         axis_.SetFlags(across ? 2 : 3, 100, 0);
         size(300, 300);
         axis_.SetRange(0.0f, 100.0f);
-        for (const int at : {3, 150, 297}) {
+        for (const int at : {0, 4, 5, 294, 295, 299}) {
             const CPoint place = across ? CPoint(at, 295) : CPoint(295, at);
-            const CString name = CString("IDC_AXIS_") + (across ? "X_" : "Y_") + (at == 150 ? "MOVE" : "ENLARGE");
+            const CString name =
+                CString("IDC_AXIS_") + (across ? "X_" : "Y_") + (at == 5 || at == 294 ? "MOVE" : "ENLARGE");
             EXPECT_EQ(pointer_at(axis_, place), pointer(name)) << name << at; // as the system asks before each move
         }
     }

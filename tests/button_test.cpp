@@ -127,9 +127,18 @@ TEST_F(ButtonTest, TitlesStandByTheirAlignmentInTheirStyle) {
     p.bordertype = 0;
     p.underline = 1;
     std::strcpy(p.title, text);
-    const std::tuple<int, CPoint, CPoint> places[] = {
-        {0, {3, 3}, {3, 4}}, {5, {246, 22}, {46, 8}}, {10, {124, 12}, {24, 6}}, {255, {0, 0}, {0, 1}}};
-    for (const auto& [align, at, line] : places) {
+    struct Pass {
+        COLORREF colour;
+        int dx, dy;
+    };
+    const std::vector<Pass> plain_text = {{red, 0, 0}}, inset = {{green, -1, 1}, {yellow, 1, -1}, {red, 0, 0}},
+                            outset = {{yellow, -1, 1}, {green, 1, -1}, {red, 0, 0}}, bold = {{red, 0, 0}, {red, 1, 0}};
+    const std::tuple<int, int, CPoint, CPoint, std::vector<Pass>> titles[] = {
+        {0, 0, {3, 3}, {3, 4}, plain_text},      {5, 0, {246, 22}, {46, 8}, plain_text},
+        {10, 0, {124, 12}, {24, 6}, plain_text}, {255, 0, {0, 0}, {0, 1}, plain_text},
+        {10, 1, {124, 12}, {24, 6}, inset},      {10, 2, {124, 12}, {24, 6}, outset},
+        {10, 3, {124, 12}, {24, 6}, bold}};
+    for (const auto& [align, style, at, line, passes] : titles) {
         Picture expected(width, height);
         expected.clear(white);
         CWntOut surface;
@@ -137,29 +146,15 @@ TEST_F(ButtonTest, TitlesStandByTheirAlignmentInTheirStyle) {
         surface.reset(expected.dc());
         surface.xmax = width - 1;
         surface.ymax = height - 1;
-        surface.linecolour(red, 0);
         surface.settext(0, 0, 0, 15, 0, 0);
-        surface.hline(line.x, line.y, 200);
-        surface.chars(at.x, at.y, text, align);
-        p.align = static_cast<std::uint8_t>(align);
-        EXPECT_EQ(shown(p).values, expected.values()) << align;
-    }
-
-    p.align = 10;
-    const Pixels plain_title = shown(p);
-    const std::tuple<int, COLORREF, COLORREF> styles[] = {{1, green, yellow}, {2, yellow, green}, {3, white, white}};
-    for (const auto& [style, above, below] : styles) {
-        p.titlestyle = static_cast<std::uint8_t>(style);
-        const Pixels styled = shown(p);
-        for (int i = width + 1; i < width * (height - 1) - 1; ++i) {
-            const auto inked = [&](int from) { return plain_title.values[i + from] == red; };
-            const bool bold = style == 3 && inked(-1);
-            const COLORREF expected = inked(0) || bold    ? red
-                                      : inked(-width - 1) ? below
-                                      : inked(width + 1)  ? above
-                                                          : white;
-            ASSERT_EQ(styled.values[i], expected) << style << ": " << i % width << ',' << i / width;
+        for (const Pass& pass : passes) {
+            surface.linecolour(pass.colour, 0);
+            surface.hline(line.x + pass.dx, line.y + pass.dy, 200);
+            surface.chars(at.x + pass.dx, at.y + pass.dy, text, align);
         }
+        p.align = static_cast<std::uint8_t>(align);
+        p.titlestyle = static_cast<std::uint8_t>(style);
+        EXPECT_EQ(shown(p).values, expected.values()) << align << ' ' << style;
     }
 }
 
@@ -180,20 +175,22 @@ TEST_F(ButtonTest, PressMovesThePictureAndReleaseBringsItBack) {
     pictures.push_back(pixels_of(button_));
     mouse(WM_LBUTTONUP, 7, 5); // finds it raised
     EXPECT_EQ(pixels_of(button_), pictures.back());
-    button_.draw_button(0); // as an owner presses it
-    pictures.push_back(pixels_of(button_));
+    for (const unsigned char up : {0, 1}) { // as an owner presses it and lets it go
+        button_.draw_button(up);
+        pictures.push_back(pixels_of(button_));
+    }
     EXPECT_EQ(side_by_side(pictures), R"(
- SSSSSSSSSSSSSSS. DDDDDDDDDDDDDDD. SSSSSSSSSSSSSSS. DDDDDDDDDDDDDDD.
- S..............D D..............S S..............D D..............S
- S.TTTTTTTTTTTT.D D..............S S..............D D..............S
- S.TTTBBBBBBBBB.D D..............S S..TTBBBBBB....D D..............S
- S.TTTBBBBBBBBB.D D..............S S..TTBBBBBB....D D..............S
- S.TTTBBBBBBBBB.D D....TTBBBBBBB.S S..TTBBBBBB....D D....TTBBBBBB..S
- S.TTTBBBBBBBBB.D D....TTBBBBBBB.S S..............D D....TTBBBBBB..S
- S.TTTTTTTTTTTT.D D....TTBBBBBBT.S S..............D D....TTBBBBBB..S
- S.TTTTTTTTTTTT.D D....TTBBBBBBT.S S..............D D..............S
- S..............D D..............S S..............D D..............S
- DDDDDDDDDDDDDDDD SSSSSSSSSSSSSSSS DDDDDDDDDDDDDDDD SSSSSSSSSSSSSSSS)");
+ SSSSSSSSSSSSSSS. DDDDDDDDDDDDDDD. SSSSSSSSSSSSSSS. DDDDDDDDDDDDDDD. SSSSSSSSSSSSSSS.
+ S..............D D..............S S..............D D..............S S..............D
+ S.TTTTTTTTTTTT.D D..............S S..............D D..............S S..............D
+ S.TTTBBBBBBBBB.D D..............S S..TTBBBBBB....D D..............S S..TTBBBBBB....D
+ S.TTTBBBBBBBBB.D D..............S S..TTBBBBBB....D D..............S S..TTBBBBBB....D
+ S.TTTBBBBBBBBB.D D....TTBBBBBBB.S S..TTBBBBBB....D D....TTBBBBBB..S S..TTBBBBBB....D
+ S.TTTBBBBBBBBB.D D....TTBBBBBBB.S S..............D D....TTBBBBBB..S S..............D
+ S.TTTTTTTTTTTT.D D....TTBBBBBBT.S S..............D D....TTBBBBBB..S S..............D
+ S.TTTTTTTTTTTT.D D....TTBBBBBBT.S S..............D D..............S S..............D
+ S..............D D..............S S..............D D..............S S..............D
+ DDDDDDDDDDDDDDDD SSSSSSSSSSSSSSSS DDDDDDDDDDDDDDDD SSSSSSSSSSSSSSSS DDDDDDDDDDDDDDDD)");
 }
 
 TEST_F(ButtonTest, IsPaintedAgainWhereItDiffers) {
@@ -227,12 +224,23 @@ TEST_F(ButtonTest, IsPaintedAgainWhereItDiffers) {
 
 TEST_F(ButtonTest, EdgesOutsideAndHiddenDoNothing) {
     open(button_, 50, 30);
-    EXPECT_TRUE(mouse(WM_LBUTTONDOWN, 0, 10) == 2 && mouse(WM_LBUTTONDOWN, 10, 0) == 2);
+    const Tcbtn_properties first = properties();
+    EXPECT_FALSE(button_.GetStyle() & WS_CLIPCHILDREN); // though asked for
+    std::string inside;
+    for (const CPoint at : {CPoint(0, 10), CPoint(10, 0), CPoint(1, 29), CPoint(49, 1), CPoint(50, 9), CPoint(9, 30)})
+        inside += button_.mouse_in_button(at) ? '1' : '0';
+    EXPECT_EQ(inside, "001100");
+    EXPECT_EQ(mouse(WM_LBUTTONDOWN, 0, 10), 2);
     EXPECT_EQ(mouse(WM_LBUTTONDOWN, 10, 10), 3);
     EXPECT_EQ(mouse(WM_LBUTTONUP, 60, 10), 3); // released outside: stays sunk
     EXPECT_EQ(mouse(WM_LBUTTONUP, 10, 10), 2);
     script({":VISIBLE=0"});
     EXPECT_EQ(mouse(WM_LBUTTONDOWN, 10, 10), 2); // nothing is drawn, so nothing sinks
+    script({":TITLE=x", ":CLRTEXT=RED", ":FRAME=1", ":WORDWRAP=1", ":FIXED=1", ":TYPE=MAC"});
+    button_.DestroyWindow();
+    open(button_, 50, 30);
+    const Tcbtn_properties again = properties();
+    EXPECT_EQ(std::memcmp(&again, &first, sizeof first), 0);
 }
 
 TEST_F(ButtonTest, ScrollBarMovesItsOwnThumb) {

@@ -55,23 +55,21 @@ TEST_F(CalendarTest, ShowsTheWeeksFromToday) {
         EXPECT_TRUE(pixels.at(0, top + 8) == light && pixels.at(90, top) == light) << top;
         EXPECT_TRUE(pixels.at(width - 1, top + 8) == dark && pixels.at(90, top + 16) == dark) << top;
     }
-    const auto ink = [&](int y) { // of the arrows, which point away
-        const auto row = pixels.values.begin() + y * width;
-        return std::count(row + 1, row + width - 1, ::GetSysColor(COLOR_BTNTEXT));
+    const auto arrow = [&](int top) { // how wide its rows are; it points away
+        std::string widths;
+        for (int y = top + 4; y < top + 14; ++y) {
+            const auto row = pixels.values.begin() + y * width;
+            widths += std::to_string(std::count(row + 1, row + width - 1, ::GetSysColor(COLOR_BTNTEXT))) + " ";
+        }
+        return widths;
     };
-    std::vector<std::ptrdiff_t> up, down, sunk;
-    for (int row = 4; row < 14; ++row) {
-        up.push_back(ink(row));
-        down.push_back(ink(height - 17 + row));
-    }
+    EXPECT_EQ(arrow(0), "0 1 3 5 7 9 11 0 0 0 ");
+    EXPECT_EQ(arrow(height - 17), "0 0 11 9 7 5 3 1 0 0 ");
     calendar_.DrawButton(CRect(0, height - 1, width - 1, height - 17), 0, 1);
     pixels = pixels_of(calendar_);
     EXPECT_TRUE(pixels.at(0, 8) == dark && pixels.at(90, 16) == light);
-    for (int row = 4; row < 14; ++row)
-        sunk.push_back(ink(row));
-    EXPECT_THAT(sunk, testing::ElementsAre(0, 0, 0, 11, 9, 7, 5, 3, 1, 0));
-    EXPECT_THAT(up, testing::ElementsAre(0, 1, 3, 5, 7, 9, 11, 0, 0, 0));
-    EXPECT_THAT(down, testing::ElementsAre(0, 0, 11, 9, 7, 5, 3, 1, 0, 0));
+    EXPECT_EQ(pixels.at(150, 12), ::GetSysColor(COLOR_BTNTEXT)); // the tip is pressed to the right
+    EXPECT_EQ(arrow(0), "0 0 0 11 9 7 5 3 1 0 ");
 }
 
 TEST_F(CalendarTest, ScrollsByWeeks) {
@@ -91,6 +89,10 @@ TEST_F(CalendarTest, ShowsTheDateThatIsSet) {
     const auto noon_of = [](Days day) { return CTime((day.time_since_epoch().count() * 24 + 12) * 3600); };
     const Days set = today_ + weeks(70);
     const CTime noon = noon_of(set);
+    calendar_.DrawHeadline(CRect(0, 182, 299, 166), noon); // part by part, as an owner paints it
+    calendar_.DrawMonths(CRect(0, 165, 16, 17), noon, noon);
+    calendar_.DrawBody(CRect(17, 165, 299, 17), noon, noon);
+    expect_shown(set);
     drag(WM_LBUTTONDOWN, 60);
     drag(WM_MOUSEMOVE, 125);
     EXPECT_TRUE(calendar_.SetShownDate(noon) && ::GetCapture() == nullptr);
@@ -128,6 +130,13 @@ TEST_F(CalendarTest, DragsInTheMonthColumn) {
     expect_shown(today_ - weeks(4));
     expect_dragged(WM_LBUTTONDOWN, 60, -4); // a press alone moves nothing
     expect_dragged(WM_LBUTTONUP, 60, -4);
+    calendar_.MoveWindow(0, 0, width - 7, height - 7);
+    EXPECT_TRUE(::GetUpdateRect(calendar_, nullptr, FALSE));
+    drag(WM_LBUTTONDOWN, 60);
+    calendar_.DestroyWindow(); // and the drag with it
+    open(calendar_, width, height);
+    drag(WM_MOUSEMOVE, 125);
+    expect_shown(today_);
 }
 
 TEST_F(CalendarTest, MenusOfTheRegions) {

@@ -71,8 +71,6 @@ TEST_F(ColorSelTest, ShowsThePaletteAndTellsPicks) {
     full_repaint(selector_);
     EXPECT_EQ(pick(130, 45), 6);
     EXPECT_EQ(pixels_of(selector_).at(80, 15), greys[6]); // the sample
-    selector_.SetSelectedColor(5);
-    EXPECT_EQ(selector_.GetSelectedColorID(), 6);
 }
 
 TEST_F(ColorSelTest, LooksLikeItsSketches) {
@@ -119,8 +117,20 @@ DDDDDDDD.DDDDDDD.DDDDDDD.DDDDDDD.DDDDDDD.DDDDDDD.DDDDDDD.DDDDDDD.H
 D................................................................H
 HHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHH
 )");
+    cover(selector_, surface_id, poison); // part by part, as an owner paints it
+    EXPECT_EQ(selector_.ComputeSelectedColor(), 3);
+    const long hovered = pixels_of(selector_).count(poison);
+    selector_.SetSelectedColorPanel(2);
+    const Pixels panel = pixels_of(selector_);
+    EXPECT_THAT((std::vector{66 * 11 - hovered, hovered - panel.count(poison)}), testing::ElementsAre(7 * 3, 56 * 3));
+    EXPECT_EQ(panel.at(40, 2), colours[2]);
+    selector_.PaintPanel(0);
+    EXPECT_EQ(pixels_of(selector_).count(poison), 0);
     point_at(8 * 3 + 5, 2); // the strip
     EXPECT_EQ(repainted(selector_).at(4, 2), ::GetSysColor(COLOR_BTNFACE));
+    selector_.SetHoverSample(0);
+    selector_.UpdateWindow();
+    EXPECT_EQ(pixels_of(selector_).at(4, 2), colours[5]);
 }
 
 TEST_F(ColorSelTest, ItemsTakeThePickedColour) {
@@ -130,9 +140,11 @@ TEST_F(ColorSelTest, ItemsTakeThePickedColour) {
     CWnd& names_list = *selector_.GetDlgItem(list_id);
     selector_.SetColorItems(names, nullptr, 2);
     EXPECT_FALSE(names_list.IsWindowVisible());
+    EXPECT_EQ(names_list.SendMessage(LB_GETCOUNT), 0);
     selector_.SetColorItems(names, colours, 2);
     EXPECT_TRUE(names_list.IsWindowVisible() && place_in(selector_, names_list) == CRect(80, 0, 160, 90));
 
+    EXPECT_EQ(names_list.GetStyle() & 0xFFFF, LBS_SORT | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT);
     full_repaint(selector_);
     char first[20] = "";
     names_list.SendMessage(LB_GETTEXT, 0, reinterpret_cast<LPARAM>(first));
@@ -167,13 +179,14 @@ TEST_F(ColorSelTest, ItemsTakeThePickedColour) {
 
 TEST_F(ColorSelTest, SlidersFollowTheMouse) {
     EXPECT_FALSE(selector_.GetDlgItem(102)->IsWindowVisible());
-    selector_.ShowSliders(1);
-    selector_.SetWindowPos(nullptr, 0, 0, 220, 90, SWP_NOMOVE | SWP_NOZORDER);
-    EXPECT_EQ(place_in(selector_, *selector_.GetDlgItem(104)), CRect(40, 0, 60, 90));
-    EXPECT_EQ(place_in(selector_, *selector_.GetDlgItem(surface_id)), CRect(60, 0, 220, 90));
     DWORD table[16] = {};
     table[3] = RGB(10, 20, 200);
     selector_.SetColorPalette(table, 16);
+    selector_.SetWindowPos(nullptr, 0, 0, 220, 90, SWP_NOMOVE | SWP_NOZORDER);
+    const Pixels fresh = repainted(selector_);
+    selector_.ShowSliders(1);
+    EXPECT_EQ(place_in(selector_, *selector_.GetDlgItem(104)), CRect(40, 0, 60, 90));
+    EXPECT_EQ(place_in(selector_, *selector_.GetDlgItem(surface_id)), CRect(60, 0, 220, 90));
     full_repaint(selector_);
     point_at(3 * 27 + 5, 45); // the panel is as wide as the window, 27 a cell
     selector_.GetDlgItem(surface_id)->SendMessage(WM_MOUSEMOVE, 0, 0);
@@ -181,8 +194,14 @@ TEST_F(ColorSelTest, SlidersFollowTheMouse) {
     for (const int id : {102, 103, 104}) {
         CWnd* slider = selector_.GetDlgItem(id);
         EXPECT_TRUE(slider->IsWindowVisible());
+        EXPECT_EQ(slider->GetStyle() & 0x1FFFF, WS_TABSTOP | TBS_VERT | TBS_BOTH);
         sliders.push_back(slider->SendMessage(TBM_GETPOS));
         sliders.push_back(slider->SendMessage(TBM_GETRANGEMAX));
     }
     EXPECT_THAT(sliders, testing::ElementsAre(10, 255, 20, 255, 200, 255));
+    selector_.Set3DCells(1);
+    selector_.SetHoverSample(1);
+    selector_.DestroyWindow(); // a new one begins without all that, but for its palette
+    open(selector_, 220, 90);
+    EXPECT_EQ(pixels_of(selector_), fresh);
 }

@@ -120,6 +120,10 @@ TEST(Objlist, RefusesMisuse) {
     const auto create = [](CWntObjlist* each) { return each->create(nullptr, 100); };
     ASSERT_TRUE(create(&list) == 1 && create(&list) == 1); // the second frees what the first made
     ASSERT_TRUE(list.additem(key, 4, data) == 1 && !list.previousitem(key));
+    list.seek(1, 0);
+    ASSERT_EQ(create(&list), 1);
+    EXPECT_EQ(list.queryitemno() + list.atstart, 0);
+    ASSERT_EQ(list.additem(key, 4, data), 1);
     for (int length : {-1, INT_MIN, INT_MAX})
         EXPECT_TRUE(list.additem(key, length, data) == 0 && list.insertitem(key, length, data) == -1) << length;
     EXPECT_TRUE(list.additem(nullptr, 4, data) == 0 && list.insertitem(key, 4, nullptr) == -1);

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <climits>
+#include <sstream>
 
 using namespace wnt;
 
@@ -111,44 +112,53 @@ TEST(KeyCode, Translates) {
         std::intptr_t flags;
         int held[2]; // keys whose state is down, the message's own one among them
         int result, category, value;
-    } cases[] = {
-        {character, 9, 0x0F, 0, {9, 0}, 1, 3, 2},
-        {character, 9, 0x0F, 0, {9, shift}, 1, 3, 3},
-        {key_down, 36, 0x47, 0, {36, control}, 1, 3, 15},
-        {key_down, 40, 0x50, 0, {40, control}, 1, 3, 22},
-        {key_down, 46, 0x53, 0, {46, control}, 1, 3, 6},
-        {key_down, 37, 0x4B, 0, {}, 1, 1, 37},    // its state is up: a plain character
-        {character, '!', 0x02, 0, {33}, 1, 3, 9}, // its code is Page Up's
-        {character, 3, 0x2E, 0, {control}, 1, 4, 'C'},
-        {key_down, 0x70, 0x3B, 0, {control}, 1, 2, 0x81},
-        {key_down, 0x7B, 0x58, 0, {shift, control}, 1, 2, 24 | 0x80},
-        {key_down, 0x70, 0x3B, 0, {}, 1, 2, 1},
-        {character, 1, 0x1E, 0, {control}, 1, 4, 'A'},
-        {character, 26, 0x2C, 0, {control}, 1, 4, 'Z'},
-        {character, ' ', 0x39, 0, {' '}, 1, 1, ' '},
-        {key_down, 0x7C, 0x64, 0, {}, 1, 1, 0x7C}, // F13 has no function key's scan code
-        {0x104, 0x73, 0x3E, alt, {}, 0, 0, 0},
-        {system_character, 'x', 0x2D, alt, {}, 1, 5, 'X'},
-        {system_character, 'a', 0x1E, alt, {}, 1, 5, 'A'},
-        {system_character, 'z', 0x2C, alt, {}, 1, 5, 'Z'},
-        {system_character, '/', 0x35, alt, {}, 0, 0, 0},
-        {character, '@', 0x10, alt, {control}, 1, 1, '@'}, // AltGr is no modifier
-        {key_down, 'A', 0x1E, 0, {'A'}, 0, 0, 0},
-        {key_down, 36, 0x47, released, {36}, 0, 0, 0},
-    };
+    } cases[] = {// a key whose state is up is a plain character, AltGr no modifier
+                 {character, 9, 0x0F, 0, {9, shift}, 1, 3, 3},
+                 {key_down, 36, 0x47, 0, {36, control}, 1, 3, 15},
+                 {key_down, 40, 0x50, 0, {40, control}, 1, 3, 22},
+                 {key_down, 46, 0x53, 0, {46, control}, 1, 3, 6},
+                 {key_down, 37, 0x4B, 0, {}, 1, 1, 37},
+                 {key_down, 0x70, 0x3B, 0, {control}, 1, 2, 0x81},
+                 {key_down, 0x7B, 0x58, 0, {shift, control}, 1, 2, 24 | 0x80},
+                 {character, 1, 0x1E, 0, {control}, 1, 4, 'A'},
+                 {character, 26, 0x2C, 0, {control}, 1, 4, 'Z'},
+                 {0x104, 0x73, 0x3E, alt, {}, 0, 0, 0},
+                 {system_character, 'a', 0x1E, alt, {}, 1, 5, 'A'},
+                 {system_character, 'z', 0x2C, alt, {}, 1, 5, 'Z'},
+                 {system_character, '/', 0x35, alt, {}, 0, 0, 0},
+                 {character, '@', 0x10, alt, {control}, 1, 1, '@'},
+                 {key_down, 36, 0x47, released, {36}, 0, 0, 0}};
     for (const auto& c : cases) {
         std::ranges::copy(c.held, held_keys);
         int out[2] = {-1, -1};
         EXPECT_EQ(translate_key(out, c.message, c.key, c.flags | c.scan << 16, key_state), c.result) << c.key;
         EXPECT_TRUE(out[0] == c.category && out[1] == c.value) << c.key << ": " << out[0] << ' ' << out[1];
     }
-    const std::pair<int, int> editing_codes[] = {{8, 1},   {13, 4},  {27, 0},  {33, 9},  {34, 10}, {35, 8}, {36, 7},
-                                                 {37, 11}, {38, 13}, {39, 12}, {40, 14}, {45, 5},  {46, 6}};
-    for (const auto& [key, code] : editing_codes) {
-        held_keys[0] = key;
+    // What keys give that are held down alone, the characters with their codes too, and function keys' scan codes.
+    const auto given = [](unsigned message, int last) {
+        std::ostringstream all;
+        for (int key = 0; key <= last; ++key) {
+            held_keys[0] = key;
+            int out[2] = {};
+            if (translate_key(out, message, key, 0, key_state))
+                all << key << ':' << out[0] << ',' << out[1] << ' ';
+        }
+        return all.str();
+    };
+    EXPECT_EQ(given(character, 47),
+              "3:0,0 8:3,1 9:3,2 13:3,4 17:4,81 27:3,0 32:1,32 33:3,9 34:3,10 35:3,8 36:3,7 37:3,11 38:3,13 39:3,12 "
+              "40:3,14 41:1,41 42:1,42 43:1,43 44:1,44 45:3,5 46:3,6 47:1,47 ");
+    EXPECT_EQ(given(key_down, 128),
+              "33:3,9 34:3,10 35:3,8 36:3,7 37:3,11 38:3,13 39:3,12 40:3,14 41:1,41 42:1,42 43:1,43 44:1,44 45:3,5 "
+              "46:3,6 47:1,47 112:1,112 113:1,113 114:1,114 115:1,115 116:1,116 117:1,117 118:1,118 119:1,119 "
+              "120:1,120 121:1,121 122:1,122 123:1,123 124:1,124 125:1,125 126:1,126 127:1,127 ");
+    std::string function_keys;
+    for (int scan = 0; scan < 0x80; ++scan) {
         int out[2] = {};
-        EXPECT_TRUE(translate_key(out, character, key, 0, key_state) && out[0] == 3 && out[1] == code) << key;
+        translate_key(out, key_down, 0x75, scan << 16, key_state);
+        function_keys += out[0] == 2 ? std::to_string(scan) + " " : "";
     }
+    EXPECT_EQ(function_keys, "59 60 61 62 63 64 65 66 67 68 87 88 ");
 }
 
 TEST(PageScale, FitsButForEqualSidesAndSpecks) {

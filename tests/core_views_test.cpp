@@ -1,7 +1,7 @@
 #include "gauge_scenes.h"
+#include "widgets/gauge/views/scale_parts.h"
 #include "test_random.h"
 #include "widgets/painting/shape_raster.h"
-#include "widgets/gauge/views/view_parts.h"
 
 #include <gmock/gmock.h>
 
@@ -121,32 +121,73 @@ TEST(GaugeViews, ShowTheUnitAtEverySizeAndRange) {
 }
 
 TEST(GaugeViews, BordersTakeTheLightFromTheTopLeft) {
-    const Colour back = 0xF5F5F5, sun = 0xFFFFFF, shadow = 0x6A6A6A;
-    const struct {
-        const char* type;
-        const char* sides;
-        Colour left, right, top, bottom;
-    } cases[] = {{":BORDERTYPE=NOBORDER", ":BORDERSTYLE=LEFT RIGHT TOP BOTTOM", back, back, back, back},
-                 {":BORDERTYPE=FLAT", ":BORDERSTYLE=LEFT RIGHT TOP BOTTOM", shadow, shadow, shadow, shadow},
-                 {":BORDERTYPE=3DUP", ":BORDERSTYLE=LEFT RIGHT TOP BOTTOM", sun, shadow, sun, shadow},
-                 {":BORDERTYPE=3DDOWN", ":BORDERSTYLE=LEFT RIGHT TOP BOTTOM", shadow, sun, shadow, sun},
-                 {":BORDERTYPE=3DUP", ":BORDERSTYLE=RIGHT TOP", back, shadow, sun, back}};
-    for (const auto& c : cases) {
-        const Scene scene(zoned(gauge_analog, 10, {":BORDERHEIGHT=3", c.type, c.sides}), 240, 240);
-        const auto at = [&](float x, float y) {
-            Colour top = 0;
+    const auto border = [](const Lines& lines) { // left, right, top, bottom, inside: sun, shadow or background
+        GaugeModel model = zoned(gauge_analog, 10, lines);
+        model.border_height = 3;
+        const Scene scene(model, 240, 240);
+        std::string colours;
+        for (const PointF& at : {PointF{2.5f, 120}, {237.5f, 120}, {120, 237.5f}, {120, 2.5f}, {120, 4}}) {
+            char top = ' ';
             for (const auto& f : scene.face.figures())
-                if (const BoxF& b = f.bounds;
-                    f.kind == Picture::Kind::box && b.left <= x && x <= b.right && b.bottom <= y && y <= b.top)
-                    top = f.colour;
-            return top;
-        };
-        EXPECT_EQ(at(2.5f, 120), c.left) << c.type;
-        EXPECT_EQ(at(237.5f, 120), c.right) << c.type;
-        EXPECT_EQ(at(120, 237.5f), c.top) << c.type;
-        EXPECT_EQ(at(120, 2.5f), c.bottom) << c.type;
-        EXPECT_EQ(at(120, 4), back) << c.type;
+                if (f.kind == Picture::Kind::box &&
+                    !intersection(f.bounds, {at.x, at.y, at.x + 0.1f, at.y + 0.1f}).empty())
+                    top = f.colour == 0xFFFFFF ? 's' : f.colour == 0x6A6A6A ? 'd' : f.colour == 0xF5F5F5 ? '.' : '?';
+            colours += top;
+        }
+        return colours;
+    };
+    EXPECT_EQ(border({":BORDERTYPE=NOBORDER"}), ".....");
+    EXPECT_EQ(border({":BORDERTYPE=FLAT"}), "dddd.");
+    EXPECT_EQ(border({":BORDERTYPE=3DUP"}), "sdsd.");
+    EXPECT_EQ(border({":BORDERTYPE=3DDOWN"}), "dsds.");
+    EXPECT_EQ(border({":BORDERTYPE=3DUP", ":BORDERSTYLE=RIGHT TOP"}), ".ds..");
+}
+
+TEST(GaugeScale, OfOneValueIsThatValuesZoneThroughout) {
+    const auto zones = zones_of(model_of(gauge_analog, {":MINVAL=7", ":MAXVAL=7"}));
+    ASSERT_EQ(zones.size(), 1u);
+    EXPECT_TRUE(zones[0].from == 0 && zones[0].to == 1);
+}
+
+// The size follows from the widest number of the range.
+TEST(GaugeViews, ReadoutsKeepTheirSizeWhileTheValueMoves) {
+    for (const int type : {gauge_digital, gauge_thermometer, gauge_analog, gauge_turn_knob}) {
+        std::vector<std::size_t> sizes; // of the text, or segments of the display, lit or not
+        for (const int value : {7, -1'000'000}) {
+            GaugeModel model = model_of(type, {":MINVAL=-1000000", ":MAXVAL=9"});
+            model.set_current_value(value);
+            const Scene scene(model, 160, 160);
+            if (type == gauge_digital)
+                sizes.push_back(scene.value.figures().size());
+            for (const Writing& w : writings_of(scene))
+                if (type != gauge_digital && !w.on_face && w.text == std::to_string(value))
+                    sizes.push_back(static_cast<std::size_t>(w.tenths));
+        }
+        ASSERT_EQ(sizes.size(), 2u) << type;
+        EXPECT_EQ(sizes[0], sizes[1]) << type;
     }
+}
+
+TEST(GaugeViews, WhatIsTooLongEndsInDots) {
+    EvenMeter meter; // six units a letter
+    for (const auto& [width, shown] :
+         {std::pair{60.5f, "abcdefghij"}, {59.0f, "abcdefg.."}, {30.5f, "abc.."}, {17.0f, "a"}, {5.0f, ""}})
+        EXPECT_EQ(fit(meter, "abcdefghij", 80, width, 80).text, shown) << width;
+}
+
+TEST(GaugeViews, AGapFollowsTheNewestPeak) {
+    GaugeModel model = zoned(gauge_peak_line, 10);
+    for (int i = 0; i < 500; ++i)
+        model.set_current_value(100 + i % 2);
+    const Scene scene(model, 240, 240);
+    std::vector<bool> shown; // column by column, each of two figures
+    const auto& figures = scene.value.figures();
+    for (std::size_t i = 0; i < figures.size() && (figures[i].bounds.empty() || figures[i].colour != black); i += 2)
+        shown.push_back(!figures[i].bounds.empty());
+    ASSERT_GT(shown.size(), 10u);
+    const auto newest = static_cast<std::size_t>(model.history.count() - 1);
+    EXPECT_EQ(std::ranges::count(shown, false), 1);
+    EXPECT_FALSE(shown[(newest + 1) % shown.size()]);
 }
 
 // A polygon on a canvas of its own, drawn part by part.

@@ -23,20 +23,31 @@ TEST(Bitmaps, ShowAndSaveEveryKindOfFile) {
     for (const BitmapFile& file : all_bitmap_files()) {
         SCOPED_TRACE(testing::Message() << file.bits << " bits, width " << file.width << ", core " << file.core);
         const Bytes bytes = file.bytes();
-        const TemporaryFile disk(bytes);
+        Bytes behind_others(77, 0xEE);
+        behind_others.insert(behind_others.end(), bytes.begin(), bytes.end());
+        const TemporaryFile disk(behind_others);
+        CFile open(disk.name(), CFile::modeRead);
+        open.Seek(77, CFile::begin);
         const int height = std::abs(file.height);
-        Picture picture(file.width, height), large(2 * file.width, 3 * height);
-        const auto check_pictures = [&] {
+        Picture picture(file.width + 3, height + 1), large(2 * file.width + 5, 3 * height + 4);
+        const auto check_pictures = [&] { // drawn to the right and from below the upper edge on
             for (int i = 0; i < file.width * height; ++i)
-                ASSERT_EQ(picture.at(i % file.width, i / file.width), file.colour_at(i % file.width, i / file.width));
-            EXPECT_EQ(large.at(2 * file.width - 1, 0), picture.at(file.width - 1, 0));
+                ASSERT_EQ(picture.at(2 + i % file.width, i / file.width),
+                          file.colour_at(i % file.width, i / file.width));
+            for (const int y : {0, height - 1}) {
+                EXPECT_EQ(large.at(4, 3 * y + 1), picture.at(2, y));
+                EXPECT_EQ(large.at(4 + 2 * file.width - 1, 3 * y + 1), picture.at(2 + file.width - 1, y));
+            }
+            EXPECT_THAT(
+                (std::vector{large.at(4 + 2 * file.width, 0), picture.at(2 + file.width, 0), picture.at(2, height)}),
+                testing::Each(0u));
             picture.clear(0);
             large.clear(0);
         };
         CWntBitmap bitmap;
-        ASSERT_TRUE(bitmap.Load(disk.name()));
-        bitmap.Draw(CDC::FromHandle(picture.dc()), 0, 0);
-        bitmap.Draw(CDC::FromHandle(large.dc()), 0, 0, 2 * file.width, 3 * height);
+        ASSERT_TRUE(bitmap.Load(&open));
+        bitmap.Draw(CDC::FromHandle(picture.dc()), 2, 1);
+        bitmap.Draw(CDC::FromHandle(large.dc()), 4, 4, 2 * file.width, 3 * height);
         check_pictures();
         CWntBitmapPalette palette;
         const UINT colours = file.bits == 8 ? std::min(file.colours(), 256U) : file.colours();
@@ -48,7 +59,9 @@ TEST(Bitmaps, ShowAndSaveEveryKindOfFile) {
         EXPECT_EQ(palette.GetNumColors(), static_cast<int>(colours));
 
         CDibFile dib;
-        ASSERT_EQ(dib.Load(disk.name()), !file.core);
+        open.Seek(77, CFile::begin);
+        ASSERT_EQ(dib.StreamIn(open), !file.core);
+        open.Close();
         EXPECT_EQ(dib.GetLastError(), file.core ? 6 : 0);
         if (file.core)
             continue;
@@ -56,8 +69,8 @@ TEST(Bitmaps, ShowAndSaveEveryKindOfFile) {
                   std::tuple(file.width, file.height, file.bits));
         if (file.height < 0 || file.width * file.bits % 32 == 0) {
             const int plain = file.colours() == 0; // intended: a palette that is selected counts as a failure
-            EXPECT_TRUE(dib.Draw(picture.dc(), 0, 0, 0, 0) == plain && dib.GetLastError() == !plain);
-            const int drawn = dib.DrawRealized(large.dc(), 0, 0, 2 * file.width, 3 * height);
+            EXPECT_TRUE(dib.Draw(picture.dc(), 2, 1, 0, 9) == plain && dib.GetLastError() == !plain);
+            const int drawn = dib.DrawRealized(large.dc(), 4, 4, 2 * file.width, 3 * height);
             EXPECT_TRUE(drawn == plain && dib.GetLastError() == !plain);
             EXPECT_EQ(::GetCurrentObject(large.dc(), OBJ_PAL), ::GetStockObject(DEFAULT_PALETTE)); // again
             check_pictures();
@@ -77,37 +90,6 @@ TEST(Bitmaps, ShowAndSaveEveryKindOfFile) {
         std::memcpy(expected.data() + 2, facts, sizeof facts);
         EXPECT_EQ(disk.bytes(), expected);
     }
-}
-
-TEST(Bitmaps, AreDrawnWhereTheyAreAskedTo) {
-    CWntBitmap bitmap;
-    CDibFile dib;
-    ASSERT_TRUE(bitmap.Create(3, 2) && dib.CreateNewTrueColor(3, 2, 0));
-    const auto drawn = [](auto draw) { // corners inclusive, from above
-        Picture picture(20, 16);
-        picture.clear(RGB(255, 255, 255));
-        draw(picture.dc());
-        const RECT ink = picture.ink(RGB(255, 255, 255));
-        return std::vector<LONG>{ink.left, 15 - ink.top, ink.right, 15 - ink.bottom};
-    };
-    using testing::ElementsAre;
-    EXPECT_THAT(drawn([&](HDC dc) { dib.Draw(dc, 4, 7, 0, 9); }), ElementsAre(4, 7, 6, 8));
-    EXPECT_THAT(drawn([&](HDC dc) { dib.DrawRealized(dc, 4, 7, 5, 6); }), ElementsAre(4, 7, 8, 12));
-    EXPECT_THAT(drawn([&](HDC dc) { bitmap.Draw(CDC::FromHandle(dc), 4, 7); }), ElementsAre(4, 7, 6, 8));
-    EXPECT_THAT(drawn([&](HDC dc) { bitmap.Draw(CDC::FromHandle(dc), 4, 7, 5, 6); }), ElementsAre(4, 7, 8, 12));
-}
-
-TEST(DibFile, IsReadFromWhereAFileStands) {
-    Bytes bytes = BitmapFile{24, 5, 3}.bytes();
-    const auto pixels = bytes.begin() + 54;
-    const Bytes stored(pixels, pixels + 5 * 3 * 3);
-    bytes.insert(bytes.begin(), 77, 0xEE);
-    const TemporaryFile disk(bytes);
-    CFile file(disk.name(), CFile::modeRead);
-    file.Seek(77, CFile::begin);
-    CDibFile dib;
-    ASSERT_EQ(dib.StreamIn(file), 1);
-    EXPECT_EQ(bits_of(dib, stored.size()), stored);
 }
 
 TEST(DibFile, TellsWhatFailed) {

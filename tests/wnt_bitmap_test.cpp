@@ -34,6 +34,7 @@ TEST(WntBitmap, BeginsAsAGreyRamp) {
     CRect area;
     bitmap.GetRect(&area);
     EXPECT_EQ(area, CRect(0, 0, 5, 3));
+    EXPECT_EQ(bitmap.StorageWidth(), 8u);
     auto* bits = static_cast<BYTE*>(bitmap.GetBitsAddress());
     EXPECT_EQ(Bytes(bits, bits + 24), Bytes(24, 0));
     EXPECT_TRUE(bitmap.GetPixelAddress(0, 0) == bits + 16 && bitmap.GetPixelAddress(4, 2) == bits + 4);
@@ -221,14 +222,10 @@ struct PaletteFile {
     }
 };
 
-COLORREF colour_of(const PALETTEENTRY& entry) {
-    return RGB(entry.peRed, entry.peGreen, entry.peBlue);
-}
-
 COLORREF colour_of(const CPalette& palette, int i) {
     PALETTEENTRY entry = {};
     palette.GetPaletteEntries(static_cast<UINT>(i), 1, &entry);
-    return colour_of(entry);
+    return RGB(entry.peRed, entry.peGreen, entry.peBlue);
 }
 
 // Also behind other things, and more than the multimedia layer buffers.
