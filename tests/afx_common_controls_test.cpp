@@ -118,7 +118,7 @@ TEST_F(AfxCommonControls, AListTellsWhatItsItemsWereGiven) {
     list.InsertItem(all, 0, "new", LVIS_CUT, LVIS_CUT | LVIS_SELECTED, 4, 77);
     list.InsertItem(1, "old");
     list.SetItem(1, 0, all, "set", 5, LVIS_CUT | LVIS_SELECTED, LVIS_SELECTED, 88);
-    list.SetItemText(1, 1, "sub");
+    list.SetItem(1, 1, LVIF_TEXT, "sub", 0, 0, 0, 0);
     list.SetCheck(2);
     CString rows;
     for (int i = 0; i < 3; ++i) {
@@ -193,21 +193,28 @@ TEST_F(AfxCommonControls, TabsPanesAndScalesKeepWhatTheyWereGiven) {
     EXPECT_EQ(slider.GetToolTips(), &tips);
 }
 
-// Where this system's list does nothing, what it is told is all that shows.
-struct told_list : CListCtrl {
+using Messages = std::vector<std::tuple<UINT, WPARAM, LPARAM>>;
+
+// What a control is told is all that shows where this system's does nothing, or nothing that can be asked for.
+template <class Control> struct told_by : Control {
+    told_by(CWnd& parent, const std::function<void(Control&)>& work) {
+        EXPECT_TRUE(this->CWnd::Create(nullptr, "", WS_CHILD, CRect(), &parent, 1));
+        listening = true;
+        work(*this);
+        listening = false;
+    }
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
         if (!listening)
-            return CListCtrl::WindowProc(message, wParam, lParam);
+            return Control::WindowProc(message, wParam, lParam);
         told.emplace_back(message, wParam, lParam);
         return MAKELONG(3, 7);
     }
-    std::vector<std::tuple<UINT, WPARAM, LPARAM>> told;
+    Messages told;
     bool listening = false;
 };
 
 TEST_F(AfxCommonControls, ListsAreToldWhatTheProgramSays) {
-    told_list list;
-    ASSERT_TRUE(list.Create(shown, place, &parent, 1));
+    CListCtrl plain;
     LVGROUP group{};
     LVITEMINDEX item{2, 3};
     CRect where, part;
@@ -215,22 +222,138 @@ TEST_F(AfxCommonControls, ListsAreToldWhatTheProgramSays) {
     const PFNLVGROUPCOMPARE sorter = [](INT, INT, void*) { return 0; };
     const auto key = reinterpret_cast<WPARAM>(&item), sort = reinterpret_cast<WPARAM>(sorter);
     const LPARAM of = afx_param(&group);
-    EXPECT_FALSE(list.SetItemIndexState(&item, LVIS_SELECTED, LVIS_SELECTED)) << "there is no such item";
-    list.listening = true;
-    list.InsertGroup(2, &group);
-    list.SortGroups(sorter, &group);
-    list.GetGroupRect(7, where, LVGGR_HEADER);
-    list.GetItemIndexRect(&item, 4, LVIR_LABEL, part);
-    list.GetNextItemIndex(&item, 9);
-    EXPECT_TRUE(list.GetItemSpacing(TRUE, &across, &down) && across == 3 && down == 7);
-    list.listening = false;
-    EXPECT_THAT(list.told, testing::ElementsAre(testing::FieldsAre(LVM_INSERTGROUP, 2, of),
-                                                testing::FieldsAre(LVM_SORTGROUPS, sort, of),
-                                                testing::FieldsAre(LVM_GETGROUPRECT, 7, afx_param(&where)),
-                                                testing::FieldsAre(LVM_GETITEMINDEXRECT, key, afx_param(&part)),
-                                                testing::FieldsAre(LVM_GETNEXTITEMINDEX, key, 9),
-                                                testing::FieldsAre(LVM_GETITEMSPACING, TRUE, 0)));
+    ASSERT_TRUE(plain.Create(shown, place, &parent, 1));
+    EXPECT_FALSE(plain.SetItemIndexState(&item, LVIS_SELECTED, LVIS_SELECTED)) << "there is no such item";
+    const told_by<CListCtrl> list(parent, [&](CListCtrl& list) {
+        list.InsertGroup(2, &group);
+        list.SortGroups(sorter, &group);
+        list.GetGroupRect(7, where, LVGGR_HEADER);
+        list.GetItemIndexRect(&item, 4, LVIR_LABEL, part);
+        list.GetNextItemIndex(&item, 9);
+        EXPECT_TRUE(list.GetItemSpacing(TRUE, &across, &down) && across == 3 && down == 7);
+        list.SetColumnWidth(5, 6);
+        list.SetIconSpacing(8, 9);
+        list.ApproximateViewRect(CSize(10, 11), 12);
+        list.MoveGroup(13, 14);
+        list.EnsureVisible(15, TRUE);
+        list.RedrawItems(16, 17);
+    });
+    EXPECT_EQ(list.told, (Messages{{LVM_INSERTGROUP, 2, of},
+                                   {LVM_SORTGROUPS, sort, of},
+                                   {LVM_GETGROUPRECT, 7, afx_param(&where)},
+                                   {LVM_GETITEMINDEXRECT, key, afx_param(&part)},
+                                   {LVM_GETNEXTITEMINDEX, key, 9},
+                                   {LVM_GETITEMSPACING, TRUE, 0},
+                                   {LVM_SETCOLUMNWIDTH, 5, 6},
+                                   {LVM_SETICONSPACING, 0, MAKELONG(8, 9)},
+                                   {LVM_APPROXIMATEVIEWRECT, 12, MAKELONG(10, 11)},
+                                   {LVM_MOVEGROUP, 13, 14},
+                                   {LVM_ENSUREVISIBLE, 15, TRUE},
+                                   {LVM_REDRAWITEMS, 16, 17}}));
     EXPECT_TRUE(where.top == LVGGR_HEADER && part.top == 4 && part.left == LVIR_LABEL);
+}
+
+TEST_F(AfxCommonControls, SmallerOnesAreToldWhatTheProgramSays) {
+    int most = 0, least = 0;
+    CPoint at;
+    CRect rect;
+    const told_by<CAnimateCtrl> film(parent, [](CAnimateCtrl& film) {
+        film.Play(2, 5, 9);
+        film.Seek(4);
+        film.Stop();
+        film.Close();
+    });
+    EXPECT_EQ(
+        film.told,
+        (Messages{{ACM_PLAY, 9, MAKELONG(2, 5)}, {ACM_PLAY, 0, MAKELONG(4, 4)}, {ACM_STOP, 0, 0}, {ACM_OPEN, 0, 0}}));
+    const told_by<CSliderCtrl> slider(parent, [](CSliderCtrl& slider) {
+        slider.SetLineSize(1);
+        slider.SetPageSize(2);
+        slider.SetTicFreq(3);
+        slider.SetTic(4);
+        slider.SetThumbLength(5);
+        slider.VerifyPos();
+        slider.ClearSel(TRUE);
+    });
+    EXPECT_EQ(slider.told, (Messages{{TBM_SETLINESIZE, 0, 1},
+                                     {TBM_SETPAGESIZE, 0, 2},
+                                     {TBM_SETTICFREQ, 3, 0},
+                                     {TBM_SETTIC, 0, 4},
+                                     {TBM_SETTHUMBLENGTH, 5, 0},
+                                     {TBM_GETPOS, 0, 0},
+                                     {TBM_SETPOS, TRUE, MAKELONG(3, 7)},
+                                     {TBM_CLEARSEL, TRUE, 0}}));
+    const told_by<CProgressCtrl> progress(parent, [](CProgressCtrl& progress) {
+        progress.SetRange32(1, 2);
+        progress.OffsetPos(3);
+        progress.SetStep(4);
+        progress.SetBarColor(5);
+        progress.SetMarquee(TRUE, 6);
+    });
+    EXPECT_EQ(progress.told, (Messages{{PBM_SETRANGE32, 1, 2},
+                                       {PBM_DELTAPOS, 3, 0},
+                                       {PBM_SETSTEP, 4, 0},
+                                       {PBM_SETBARCOLOR, 0, 5},
+                                       {PBM_SETMARQUEE, TRUE, 6}}));
+    const told_by<CToolBarCtrl> bar(parent, [&](CToolBarCtrl& bar) {
+        bar.PressButton(1);
+        bar.Indeterminate(2, FALSE);
+        bar.SetState(3, 4);
+        bar.SetButtonSize(CSize(5, 6));
+        bar.SetBitmapSize(CSize(7, 8));
+        bar.SetRows(9, TRUE, rect);
+        bar.SetPadding(10, 11);
+        EXPECT_TRUE(bar.GetPadding(&least, &most) && least == 3 && most == 7);
+        bar.SetButtonWidth(12, 13);
+        bar.GetItemRect(14, rect);
+        bar.GetRect(15, rect);
+    });
+    EXPECT_EQ(bar.told, (Messages{{TB_PRESSBUTTON, 1, TRUE},
+                                  {TB_INDETERMINATE, 2, FALSE},
+                                  {TB_SETSTATE, 3, 4},
+                                  {TB_SETBUTTONSIZE, 0, MAKELONG(5, 6)},
+                                  {TB_SETBITMAPSIZE, 0, MAKELONG(7, 8)},
+                                  {TB_SETROWS, MAKELONG(9, TRUE), afx_param(&rect)},
+                                  {TB_SETPADDING, 0, MAKELONG(10, 11)},
+                                  {TB_GETPADDING, 0, 0},
+                                  {TB_SETBUTTONWIDTH, 0, MAKELONG(12, 13)},
+                                  {TB_GETITEMRECT, 14, afx_param(&rect)},
+                                  {TB_GETRECT, 15, afx_param(&rect)}}));
+    const told_by<CEdit> edit(parent, [&](CEdit& edit) {
+        edit.SetMargins(1, 2);
+        edit.LineScroll(3, 4);
+        at = edit.PosFromChar(5);
+        edit.CharFromPos(CPoint(6, 7));
+    });
+    EXPECT_EQ(edit.told, (Messages{{EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELONG(1, 2)},
+                                   {EM_LINESCROLL, 4, 3},
+                                   {EM_POSFROMCHAR, 5, 0},
+                                   {EM_CHARFROMPOS, 0, MAKELONG(6, 7)}}));
+    EXPECT_EQ(at, CPoint(3, 7));
+    const told_by<CListBox> box(parent, [](CListBox& box) {
+        box.SelItemRange(TRUE, 1, 2);
+        box.SelItemRange(FALSE, 3, 4);
+        box.SetCaretIndex(5, FALSE);
+        box.SetItemHeight(6, 7);
+        box.SetSel(8, TRUE);
+    });
+    EXPECT_EQ(box.told, (Messages{{LB_SELITEMRANGEEX, 1, 2},
+                                  {LB_SELITEMRANGEEX, 4, 3},
+                                  {LB_SETCARETINDEX, 5, FALSE},
+                                  {LB_SETITEMHEIGHT, 6, 7},
+                                  {LB_SETSEL, TRUE, 8}}));
+    const told_by<CTabCtrl> tabs(parent, [&](CTabCtrl& tabs) {
+        tabs.SetItemSize(CSize(1, 2));
+        tabs.SetPadding(CSize(3, 4));
+        tabs.SetExtendedStyle(5, 6);
+        tabs.HighlightItem(7, TRUE);
+        tabs.AdjustRect(TRUE, rect);
+    });
+    EXPECT_EQ(tabs.told, (Messages{{TCM_SETITEMSIZE, 0, MAKELONG(1, 2)},
+                                   {TCM_SETPADDING, 0, MAKELONG(3, 4)},
+                                   {TCM_SETEXTENDEDSTYLE, 6, 5},
+                                   {TCM_HIGHLIGHTITEM, 7, TRUE},
+                                   {TCM_ADJUSTRECT, TRUE, afx_param(&rect)}}));
 }
 
 TEST_F(AfxCommonControls, RichTextIsReadAndWrittenInItsRanges) {

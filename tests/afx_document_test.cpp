@@ -59,8 +59,13 @@ public:
     void OnDraw(CDC*) override {}
     void OnInitialUpdate() override { log.push_back("initial"), CView::OnInitialUpdate(); }
     void OnUpdate(CView*, LPARAM hint, CObject*) override { log.push_back("update " + std::to_string(hint)); }
+    void OnPrintDirect() { log.push_back("print on " + std::string(the_app.m_pCmdInfo->m_strPrinterName)); }
+    DECLARE_MESSAGE_MAP()
 };
 IMPLEMENT_DYNCREATE(note_view, CView)
+BEGIN_MESSAGE_MAP(note_view, CView)
+ON_COMMAND(ID_FILE_PRINT_DIRECT, &note_view::OnPrintDirect)
+END_MESSAGE_MAP()
 
 // A program with one kind of document, answering its questions by itself.
 struct NoteProgram : testing::Test {
@@ -184,6 +189,27 @@ TEST_F(NoteProgram, TellsWhyAFileCannotBeOpened) {
     }
 }
 
+TEST_F(NoteProgram, PrintsOneFileUnseenAndUnasked) {
+    write("printed");
+    CCommandLineInfo print;
+    print.m_nShellCommand = CCommandLineInfo::FilePrintTo;
+    print.m_strFileName = path_.c_str();
+    print.m_strPrinterName = "laser";
+    EXPECT_FALSE(the_app.ProcessShellCommand(print)) << "there is nothing more to do";
+    EXPECT_EQ(note_view::log.back() + " " + document().text, "print on laser printed");
+    EXPECT_TRUE(the_app.m_pCmdInfo == nullptr && !frame().IsWindowVisible());
+    the_app.m_nCmdShow = SW_HIDE; // as a program that the shell has started
+    const TemporaryFile other({'b'});
+    EXPECT_TRUE(the_app.OnDDECommand((std::string("[print(\"") + other.name() + "\")]").data()));
+    EXPECT_EQ(note_view::log.back() + document().text, "print on b");
+    MSG close;
+    EXPECT_TRUE(::PeekMessage(&close, frame(), WM_CLOSE, WM_CLOSE, PM_REMOVE)) << "it ends as nobody sees it";
+    CCommandLineInfo later;
+    later.m_nShellCommand = CCommandLineInfo::FileDDE;
+    the_app.m_nCmdShow = SW_SHOW;
+    EXPECT_TRUE(the_app.ProcessShellCommand(later) && the_app.m_nCmdShow == SW_SHOW) << "it takes no commands";
+}
+
 TEST_F(NoteProgram, AsksForTheNameOfANewFile) {
     struct : CDocManager {
         BOOL DoPromptFileName(CString& name, UINT title, DWORD, BOOL, CDocTemplate*) override {
@@ -293,6 +319,10 @@ TEST_F(AfxSeveralDocuments, AFileThatIsOpenIsShownNotOpenedAgain) {
     frame->MDIMaximize(child);
     the_app.OnFileNew();
     EXPECT_EQ(text_of(*frame), "Tests - [Untitled1]") << "it is as large as the one before";
+    CMDIChildWnd* hidden = frame->MDIGetActive();
+    hidden->ShowWindow(SW_HIDE);
+    hidden->ActivateFrame();
+    EXPECT_TRUE(hidden->IsWindowVisible() && hidden->IsZoomed());
     std::string other_case = path;
     ::CharUpper(other_case.data());
     EXPECT_EQ(the_app.OpenDocumentFile(other_case.c_str()), first);
@@ -307,14 +337,31 @@ TEST_F(AfxSeveralDocuments, AFileThatIsOpenIsShownNotOpenedAgain) {
     child->SendMessage(WM_CLOSE);
     EXPECT_NE(frame->GetMenu()->m_hMenu, of_documents);
     ::DeleteFile(path.c_str());
+    const HMENU own = ::CreateMenu();
+    CMDIChildWnd* plain = frame->CreateNewChild(RUNTIME_CLASS(CMDIChildWnd), IDR_FRAME, own);
+    EXPECT_TRUE(plain == frame->MDIGetActive() && plain->IsWindowVisible() && frame->GetMenu()->m_hMenu == own);
+    auto* placed = new CMDIChildWnd;
+    EXPECT_TRUE(placed->Create(nullptr, "placed", WS_VISIBLE | WS_CAPTION, CRect(10, 20, 210, 140), frame));
+    EXPECT_EQ(place_in(*CWnd::FromHandle(frame->m_hWndMDIClient), *placed), CRect(10, 20, 210, 140));
+    placed->DestroyWindow();
+    plain->DestroyWindow();
+    EXPECT_TRUE(frame->GetMenu()->m_hMenu != own && ::DestroyMenu(own));
 }
 
 TEST_F(AfxSeveralDocuments, LieInOneFrameThatShowsTheActiveOnes) {
     EXPECT_FALSE(frame->OnCmdMsg(ID_FILE_SAVE, CN_COMMAND, nullptr, nullptr)) << "no document is there to take it";
+    CCmdUI tile;
+    tile.m_nID = ID_WINDOW_TILE_VERT;
+    CMenu commands;
+    commands.CreatePopupMenu();
+    commands.AppendMenu(MF_STRING, ID_WINDOW_TILE_VERT, "Tile");
+    tile.m_pMenu = &commands;
+    const auto offered = [&] { return tile.DoUpdate(frame, FALSE), commands.GetMenuState(0, MF_BYPOSITION) == 0; };
+    EXPECT_FALSE(offered());
 
     frame->SendMessage(WM_COMMAND, ID_FILE_NEW);
     frame->SendMessage(WM_COMMAND, ID_FILE_NEW);
-    EXPECT_EQ(the_app.GetOpenDocumentCount(), 2);
+    EXPECT_TRUE(the_app.GetOpenDocumentCount() == 2 && offered());
     CMDIChildWnd* second = frame->MDIGetActive();
     ASSERT_NE(second, nullptr);
     EXPECT_EQ(text_of(*frame), "Tests - Untitled2");
@@ -400,6 +447,13 @@ TEST_F(AfxSeveralDocuments, AreOpenedByTheShellsCommands) {
     EXPECT_TRUE(the_app.OnDDECommand(std::string(command).data()));
     auto* opened = static_cast<note*>(frame->GetActiveFrame()->GetActiveDocument());
     EXPECT_TRUE(opened != nullptr && opened->text == "a note");
+    const TemporaryFile other({'b'});
+    const std::string print = std::string("[printto(\"") + other.name() + "\",\"laser\",\"driver\",\"port\")]";
+    EXPECT_TRUE(the_app.OnDDECommand(std::string(print).data()) && note_view::log.back() == "print on laser");
+    EXPECT_EQ(the_app.GetOpenDocumentCount(), 1) << "the printed one was not open";
+    frame->SendMessage(WM_DDE_TERMINATE, reinterpret_cast<WPARAM>(shell.m_hWnd));
+    EXPECT_TRUE(::PeekMessage(&answer, shell, WM_DDE_TERMINATE, WM_DDE_TERMINATE, PM_REMOVE));
+    EXPECT_EQ(talk(WM_DDE_EXECUTE, 0), 2) << "no longer";
     for (std::string wrong :
          {"", "[open(x)]", "[open(\"x\"]", "[open(\"x)]", "[close(\"x\")]", "[printto(\"x\",\"y\")]"})
         EXPECT_FALSE(the_app.OnDDECommand(wrong.data())) << wrong;
@@ -410,6 +464,13 @@ TEST_F(AfxSeveralDocuments, AreOpenedByTheShellsCommands) {
     LONG room = sizeof(start);
     ::RegQueryValue(HKEY_CURRENT_USER, "Software\\Classes\\Test.List\\shell\\open\\command", start, &room);
     EXPECT_STREQ(CString(start).Right(5), " /dde");
+    const std::pair<const char*, LPCTSTR> talk_begins[] = {{"ddeexec", "[open(\"%1\")]"},
+                                                           {"ddeexec\\application", the_app.m_pszExeName}};
+    for (const auto& [key, value] : talk_begins) {
+        room = sizeof(start);
+        ::RegQueryValue(HKEY_CURRENT_USER, CString("Software\\Classes\\Test.List\\shell\\open\\") + key, start, &room);
+        EXPECT_STREQ(start, value);
+    }
     the_app.m_pDocManager->UnregisterShellFileTypes();
 }
 

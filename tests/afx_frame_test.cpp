@@ -320,6 +320,13 @@ TEST_F(AfxFrame, ButtonsAndPanesKeepTheirStyles) {
     const UINT panes[] = {ID_SEPARATOR, ID_TEST_PANE};
     frame.status.SetIndicators(panes, 2);
     frame.status.GetItemRect(1, before);
+    EXPECT_EQ(frame.status.GetStyle() & SBARS_SIZEGRIP, DWORD{SBARS_SIZEGRIP});
+    frame.status.GetPaneInfo(1, id, style, image);
+    EXPECT_TRUE(id == ID_TEST_PANE && style == SBPS_DISABLED);
+    CClientDC dc(&frame.status);
+    dc.SelectObject(frame.status.GetFont());
+    EXPECT_EQ(image, dc.GetTextExtent(frame.status.GetPaneText(1)).cx);
+    EXPECT_NEAR(before.Width(), image + 8, 2);
     frame.status.SetPaneInfo(1, ID_TEST_PANE, SBPS_POPOUT, 200);
     frame.status.GetItemRect(1, after);
     frame.status.GetPaneInfo(1, id, style, image);

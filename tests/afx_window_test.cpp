@@ -74,6 +74,14 @@ TEST(AfxWindow, IsCentredOverItsOwnerWithinTheWorkArea) {
         return on_screen(wnd).TopLeft();
     };
     EXPECT_NE(::GetClassLongPtr(wnd, GCLP_HCURSOR), 0u);
+    WNDCLASS known{};
+    const auto ground = reinterpret_cast<HBRUSH>(7);
+    const HCURSOR cross = ::LoadCursor(nullptr, IDC_CROSS);
+    const HICON shield = ::LoadIcon(nullptr, IDI_HAND);
+    LPCTSTR name = AfxRegisterWndClass(CS_DBLCLKS, cross, ground, shield);
+    EXPECT_TRUE(::GetClassInfo(AfxGetInstanceHandle(), name, &known) && known.style == CS_DBLCLKS);
+    EXPECT_TRUE(known.hCursor == cross && known.hbrBackground == ground && known.hIcon == shield);
+    EXPECT_STRNE(AfxRegisterWndClass(CS_DBLCLKS, cross, ground, nullptr), name);
     const CPoint corner = work.TopLeft();
     EXPECT_EQ(at(CRect(corner, CSize(200, 100)), {40, 20}), corner + CSize(80, 40));
     EXPECT_EQ(at(CRect(corner, CSize(20, 10)), {60, 50}), corner);
