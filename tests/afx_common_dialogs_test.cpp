@@ -119,10 +119,11 @@ TEST_F(AfxCommonDialogs, AFontIsDescribedAsItWasChosen) {
     CHARFORMAT format{}, chosen{};
     dialog.GetCharFormat(format);
     EXPECT_EQ(format.yHeight, 36 * 20);
+    format.crTextColor = RGB(255, 0, 0);
     CFontDialog other(format, CF_EFFECTS | CF_SCREENFONTS, nullptr, &parent);
     EXPECT_EQ(run(other, [&] { return press(other, IDOK); }), IDOK);
     other.GetCharFormat(chosen);
-    EXPECT_EQ(chosen.crTextColor, other.GetColor());
+    EXPECT_EQ(chosen.crTextColor, RGB(255, 0, 0));
     EXPECT_TRUE(chosen.yHeight == format.yHeight && chosen.dwEffects == (CFE_BOLD | CFE_ITALIC | CFE_UNDERLINE));
     EXPECT_STREQ(chosen.szFaceName, face);
     format.dwMask = CFM_BOLD;

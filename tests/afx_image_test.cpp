@@ -295,29 +295,4 @@ TEST_F(AfxImage, ComesFromResources) {
     EXPECT_EQ(image.GetPixel(4, 4), red);
 }
 
-TEST_F(AfxImage, LivesLeaveNothing) {
-    CImage kept;
-    ASSERT_TRUE(kept.Create(5, 3, 32, CImage::createAlphaChannel));
-    ASSERT_TRUE(kept.Save("a.png") == S_OK && kept.Create(5, 3, 8) && kept.Save("a.gif") == S_OK);
-    Picture target(5, 3);
-    const auto live = [&] {
-        CImage image, other;
-        for (const char* name : {"a.png", "a.gif", "a.png"})
-            ASSERT_EQ(image.Load(name), S_OK) << name;
-        EXPECT_TRUE(image.Draw(target.dc(), 0, 0) && image.Save("b.bmp") == S_OK);
-        image.GetDC();
-        EXPECT_TRUE(other.Create(3, 3, 8));
-        other.LoadFromResource(::GetModuleHandle(nullptr), IDB_UP);
-        other.GetDC();
-        ::DeleteObject(other.Detach());
-        CImage::ReleaseGDIPlus();
-    };
-    for (int i = 0; i < 5; ++i)
-        live();
-    const Counts before;
-    for (int i = 0; i < 100; ++i)
-        live();
-    EXPECT_LT(before.grown(), 5);
-}
-
 } // namespace
