@@ -24,28 +24,6 @@ TEST_F(AfxCommonControls, AHotKeyHasANameWithItsModifiers) {
     EXPECT_EQ(key.GetHotKeyName(), part(VK_CONTROL) + " + " + part(VK_SHIFT) + " + " + part('P'));
 }
 
-TEST_F(AfxCommonControls, AToolbarKeepsItsButtonsAndTheirStates) {
-    CToolBarCtrl bar;
-    ASSERT_TRUE(bar.Create(shown, place, &parent, 1));
-    EXPECT_EQ(bar.AddBitmap(4, IDR_FRAME), 0);
-    const int first = bar.AddStrings("First\0Second\0"), loaded = bar.AddString(IDS_CAPTION);
-    EXPECT_TRUE(first == 0 && loaded >= 1);
-    EXPECT_EQ(bar.AddString(9999), -1);
-    TBBUTTON buttons[3]{};
-    for (int i = 0; i < 3; ++i)
-        buttons[i] = {i, 100 + i, TBSTATE_ENABLED, TBSTYLE_CHECK, {}, 0, first};
-    ASSERT_TRUE(bar.AddButtons(3, buttons));
-    EXPECT_TRUE(bar.CheckButton(101) && bar.IsButtonChecked(101) && !bar.IsButtonChecked(100));
-    EXPECT_TRUE(bar.EnableButton(102, FALSE) && !bar.IsButtonEnabled(102));
-    EXPECT_TRUE(bar.HideButton(100) && bar.IsButtonHidden(100));
-    EXPECT_EQ(bar.CommandToIndex(102), 2u);
-    CString text;
-    EXPECT_TRUE(bar.GetString(first, text) == 5 && text == "First" && text.GetLength() == 5);
-    EXPECT_TRUE(bar.SetCmdID(0, 200) && bar.CommandToIndex(200) == 0u);
-    EXPECT_TRUE(bar.ChangeBitmap(200, 3) && bar.GetBitmap(200) == 3);
-    EXPECT_TRUE(bar.DeleteButton(0) && bar.GetButtonCount() == 2);
-}
-
 TEST_F(AfxCommonControls, AToolbarsButtonsAreChangedMovedAndRestored) {
     class restorer : public CWnd { // offers the buttons of a bar that is being restored
         BOOL OnNotify(WPARAM, LPARAM lParam, LRESULT* result) override {
@@ -58,12 +36,15 @@ TEST_F(AfxCommonControls, AToolbarsButtonsAreChangedMovedAndRestored) {
     } owner;
     CToolBarCtrl bar;
     ASSERT_TRUE(create_popup(owner) && bar.Create(shown, place, &owner, 1));
-    bar.AddStrings("&First\0Second\0");
+    EXPECT_TRUE(bar.AddBitmap(4, IDR_FRAME) == 0 && bar.AddStrings("&First\0Second\0") == 0);
+    EXPECT_TRUE(bar.AddString(IDS_CAPTION) > 0 && bar.AddString(9999) == -1);
     TBBUTTON buttons[2]{};
     for (int i = 0; i < 2; ++i)
         buttons[i].idCommand = 100 + i, buttons[i].fsState = TBSTATE_ENABLED, buttons[i].iString = i;
     ASSERT_TRUE(bar.AddButtons(2, buttons));
     char text[7] = "";
+    CString whole;
+    EXPECT_TRUE(bar.GetString(1, whole) == 6 && whole == "Second");
     EXPECT_TRUE(bar.GetButtonText(101) == "Second" && bar.GetString(1, text, 7) == 6 && bar.GetString(1, text, 3) < 0);
     EXPECT_TRUE(bar.MoveButton(1, 0) && bar.CommandToIndex(101) == 0);
     bar.SaveState(HKEY_CURRENT_USER, "Software\\afx_test", "bar");
@@ -234,23 +215,19 @@ TEST_F(AfxCommonControls, ListsAreToldWhatTheProgramSays) {
         list.SetColumnWidth(5, 6);
         list.SetIconSpacing(8, 9);
         list.ApproximateViewRect(CSize(10, 11), 12);
-        list.MoveGroup(13, 14);
         list.EnsureVisible(15, TRUE);
-        list.RedrawItems(16, 17);
     });
-    EXPECT_THAT(list.told,
-                ElementsAre(LVM_INSERTGROUP, 2, of, LVM_SORTGROUPS, sort, of, LVM_GETGROUPRECT, 7, afx_param(&where),
-                            LVM_GETITEMINDEXRECT, key, afx_param(&part), LVM_GETNEXTITEMINDEX, key, 9,
-                            LVM_GETITEMSPACING, TRUE, 0, LVM_SETCOLUMNWIDTH, 5, 6, LVM_SETICONSPACING, 0,
-                            MAKELONG(8, 9), LVM_APPROXIMATEVIEWRECT, 12, MAKELONG(10, 11), LVM_MOVEGROUP, 13, 14,
-                            LVM_ENSUREVISIBLE, 15, TRUE, LVM_REDRAWITEMS, 16, 17));
+    EXPECT_THAT(list.told, ElementsAre(LVM_INSERTGROUP, 2, of, LVM_SORTGROUPS, sort, of, LVM_GETGROUPRECT, 7,
+                                       afx_param(&where), LVM_GETITEMINDEXRECT, key, afx_param(&part),
+                                       LVM_GETNEXTITEMINDEX, key, 9, LVM_GETITEMSPACING, TRUE, 0, LVM_SETCOLUMNWIDTH, 5,
+                                       6, LVM_SETICONSPACING, 0, MAKELONG(8, 9), LVM_APPROXIMATEVIEWRECT, 12,
+                                       MAKELONG(10, 11), LVM_ENSUREVISIBLE, 15, TRUE));
     EXPECT_TRUE(where.top == LVGGR_HEADER && part.top == 4 && part.left == LVIR_LABEL);
 }
 
 TEST_F(AfxCommonControls, SmallerOnesAreToldWhatTheProgramSays) {
     EXPECT_TRUE(CAnimateCtrl().Create(shown, place, &parent, 1) && CPagerCtrl().Create(shown, place, &parent, 2));
     int most = 0, least = 0;
-    CPoint at;
     CRect rect;
     const told_by<CAnimateCtrl> film(parent, [](CAnimateCtrl& film) {
         film.Play(2, 5, 9);
@@ -261,6 +238,11 @@ TEST_F(AfxCommonControls, SmallerOnesAreToldWhatTheProgramSays) {
     EXPECT_THAT(film.told,
                 ElementsAre(ACM_PLAY, 9, MAKELONG(2, 5), ACM_PLAY, 0, MAKELONG(4, 4), ACM_STOP, 0, 0, ACM_OPEN, 0, 0));
     const told_by<CToolBarCtrl> bar(parent, [&](CToolBarCtrl& bar) {
+        bar.CheckButton(1);
+        bar.EnableButton(2, FALSE);
+        bar.HideButton(7);
+        bar.SetCmdID(8, 16);
+        bar.ChangeBitmap(17, 18);
         bar.Indeterminate(2, FALSE);
         bar.SetState(3, 4);
         bar.SetButtonSize(CSize(5, 6));
@@ -271,19 +253,12 @@ TEST_F(AfxCommonControls, SmallerOnesAreToldWhatTheProgramSays) {
         bar.GetItemRect(14, rect);
         bar.GetRect(15, rect);
     });
-    EXPECT_THAT(bar.told, ElementsAre(TB_INDETERMINATE, 2, FALSE, TB_SETSTATE, 3, 4, TB_SETBUTTONSIZE, 0,
-                                      MAKELONG(5, 6), TB_SETROWS, MAKELONG(9, TRUE), afx_param(&rect), TB_SETPADDING, 0,
-                                      MAKELONG(10, 11), TB_GETPADDING, 0, 0, TB_SETBUTTONWIDTH, 0, MAKELONG(12, 13),
-                                      TB_GETITEMRECT, 14, afx_param(&rect), TB_GETRECT, 15, afx_param(&rect)));
-    const told_by<CEdit> edit(parent, [&](CEdit& edit) {
-        edit.SetMargins(1, 2);
-        edit.LineScroll(3, 4);
-        at = edit.PosFromChar(5);
-        edit.CharFromPos(CPoint(6, 7));
-    });
-    EXPECT_THAT(edit.told, ElementsAre(EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELONG(1, 2), EM_LINESCROLL, 4,
-                                       3, EM_POSFROMCHAR, 5, 0, EM_CHARFROMPOS, 0, MAKELONG(6, 7)));
-    EXPECT_EQ(at, CPoint(3, 7));
+    EXPECT_THAT(bar.told,
+                ElementsAre(TB_CHECKBUTTON, 1, TRUE, TB_ENABLEBUTTON, 2, FALSE, TB_HIDEBUTTON, 7, TRUE, TB_SETCMDID, 8,
+                            16, TB_CHANGEBITMAP, 17, 18, TB_INDETERMINATE, 2, FALSE, TB_SETSTATE, 3, 4,
+                            TB_SETBUTTONSIZE, 0, MAKELONG(5, 6), TB_SETROWS, MAKELONG(9, TRUE), afx_param(&rect),
+                            TB_SETPADDING, 0, MAKELONG(10, 11), TB_GETPADDING, 0, 0, TB_SETBUTTONWIDTH, 0,
+                            MAKELONG(12, 13), TB_GETITEMRECT, 14, afx_param(&rect), TB_GETRECT, 15, afx_param(&rect)));
     const told_by<CPagerCtrl> pager(parent, [&](CPagerCtrl& pager) {
         pager.SetChild(parent);
         pager.SetButtonSize(1);
@@ -352,14 +327,11 @@ TEST_F(AfxCommonControls, MonthsSelectDaysAndStretchesOfThem) {
     const CTime first(2024, 2, 10, 0, 0, 0), last(2024, 2, 16, 0, 0, 0);
     CTime found, other;
     EXPECT_TRUE(one.SetCurSel(first) && one.GetCurSel(found) && found == first);
-    EXPECT_FALSE(one.GetSelRange(found, other)) << "one day at a time";
-    EXPECT_FALSE(one.SetSelRange(first, last));
     ASSERT_TRUE(several.Create(shown | MCS_MULTISELECT, place, &parent, 2));
     several.SetMaxSelCount(7);
     EXPECT_EQ(several.GetMaxSelCount(), 7);
     EXPECT_TRUE(several.SetSelRange(first, last) && several.GetSelRange(found, other));
     EXPECT_TRUE(found == first && other == last);
-    EXPECT_FALSE(several.SetSelRange(first, last + CTimeSpan(1, 0, 0, 0))) << "eight days";
     several.SetToday(&first);
     EXPECT_TRUE(several.GetToday(found) && found.GetDay() == 10);
     int day = -1;
@@ -574,26 +546,6 @@ TEST_F(AfxImageList, OutlivesTheControlsThatShowIt) {
         control->DestroyWindow();
     for (CImageList& one : lists)
         EXPECT_EQ(one.GetImageCount(), 2) << &one - lists;
-}
-
-TEST_F(AfxImageList, GoesThroughAnArchiveBetweenOtherThings) {
-    CMemFile file;
-    store(file, [&](CArchive& ar) {
-        ar << 7;
-        ASSERT_TRUE(list.Write(&ar));
-        ar << CString("behind");
-    });
-    load(file, [&](CArchive& ar) {
-        int before = 0;
-        CString behind;
-        CImageList read;
-        ar >> before;
-        ASSERT_TRUE(read.Read(&ar));
-        ar >> behind;
-        EXPECT_TRUE(before == 7 && behind == "behind");
-        EXPECT_EQ(read.GetImageCount(), 2);
-        EXPECT_EQ(drawn(read, 1), std::pair(green, blue));
-    });
 }
 
 // -- Buttons of bitmaps -----------------------------------------------------------------------------------------------

@@ -306,7 +306,6 @@ TEST(AfxPrinting, TellsWhatWasChosen) {
     the_app.SelectPrinter(named, second);
     EXPECT_EQ(::GlobalFlags(first), UINT{GMEM_INVALID_HANDLE});
     CPrintDialog box(FALSE, PD_ALLPAGES);
-    EXPECT_EQ(box.m_pd.Flags, DWORD{PD_RETURNDC});
     EXPECT_EQ(CPrintDialog(TRUE, PD_NOSELECTION).m_pd.Flags, DWORD{PD_PRINTSETUP | PD_NOSELECTION});
     ASSERT_TRUE(the_app.GetPrinterDeviceDefaults(&box.m_pd));
     EXPECT_STREQ(box.GetDriverName() + "|" + box.GetDeviceName() + "|" + box.GetPortName(), "driver|printer|port");

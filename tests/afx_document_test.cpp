@@ -204,10 +204,6 @@ TEST_F(NoteProgram, PrintsOneFileUnseenAndUnasked) {
     EXPECT_EQ(note_view::log.back() + document().text, "print on b");
     MSG close;
     EXPECT_TRUE(::PeekMessage(&close, frame(), WM_CLOSE, WM_CLOSE, PM_REMOVE)) << "it ends as nobody sees it";
-    CCommandLineInfo later;
-    later.m_nShellCommand = CCommandLineInfo::FileDDE;
-    the_app.m_nCmdShow = SW_SHOW;
-    EXPECT_TRUE(the_app.ProcessShellCommand(later) && the_app.m_nCmdShow == SW_SHOW) << "it takes no commands";
 }
 
 TEST_F(NoteProgram, AsksForTheNameOfANewFile) {
@@ -511,24 +507,29 @@ TEST_F(AfxSeveralDocuments, OfSeveralKindsAreOfferedToTheUser) {
 }
 
 TEST(AfxCommandLine, SaysWhatTheShellWants) {
-    const std::tuple<std::vector<std::string>, int, const char*, const char*> cases[] = {
+    const std::tuple<std::vector<const char*>, int, const char*, const char*> cases[] = {
         {{}, CCommandLineInfo::FileNew, "", ""},
         {{"a.note"}, CCommandLineInfo::FileOpen, "a.note", ""},
         {{"/p", "a.note"}, CCommandLineInfo::FilePrint, "a.note", ""},
-        {{"/pt", "a.note", "laser", "driver", "port"}, CCommandLineInfo::FilePrintTo, "a.note", "laser"},
+        {{"/pt", "a.note", "-dde2", "laser", "driver", "port"},
+         CCommandLineInfo::FilePrintTo,
+         "a.note",
+         "laserdriverport"},
         {{"-dde"}, CCommandLineInfo::FileDDE, "", ""},
         {{"/Unregister"}, CCommandLineInfo::AppUnregister, "", ""},
         {{"-unknown", "b.note"}, CCommandLineInfo::FileOpen, "b.note", ""}};
     for (const auto& [words, command, file, printer] : cases) {
+        std::vector<const char*> arguments = words;
+        arguments.insert(arguments.begin(), "program");
+        const int count = std::exchange(__argc, static_cast<int>(arguments.size()));
+        char** const before = std::exchange(__argv, const_cast<char**>(arguments.data()));
         CCommandLineInfo info;
-        for (std::size_t i = 0; i < words.size(); ++i) {
-            const std::string& word = words[i];
-            const bool flag = word[0] == '/' || word[0] == '-';
-            info.ParseParam(word.c_str() + flag, flag, i + 1 == words.size());
-        }
+        the_app.ParseCommandLine(info);
+        __argc = count;
+        __argv = before;
         EXPECT_EQ(info.m_nShellCommand, command) << file;
         EXPECT_STREQ(info.m_strFileName, file);
-        EXPECT_STREQ(info.m_strPrinterName, printer);
+        EXPECT_STREQ(info.m_strPrinterName + info.m_strDriverName + info.m_strPortName, printer);
     }
 }
 

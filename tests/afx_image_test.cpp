@@ -274,25 +274,4 @@ TEST_F(AfxImage, DrawsIntoRectangles) {
     EXPECT_FALSE(image.PlgBlt(Picture(2, 2).dc(), nullptr));
 }
 
-TEST_F(AfxImage, ItsContextIsCounted) {
-    CImage image;
-    ASSERT_TRUE(image.Create(2, 2, 24));
-    const HDC dc = image.GetDC();
-    EXPECT_EQ(image.GetDC(), dc);
-    image.ReleaseDC();
-    EXPECT_EQ(::GetCurrentObject(dc, OBJ_BITMAP), static_cast<HBITMAP>(image)) << "the first still holds it";
-    image.ReleaseDC();
-    canvas other(1, 1);
-    const HGDIOBJ before = ::SelectObject(other, image);
-    EXPECT_TRUE(before != nullptr && image.GetDC() == nullptr) << "it was free, and is not";
-    ::SelectObject(other, before);
-}
-
-TEST_F(AfxImage, ComesFromResources) {
-    CImage image;
-    image.LoadFromResource(::GetModuleHandle(nullptr), IDB_UP);
-    EXPECT_TRUE(image.IsDIBSection() && image.GetWidth() == 8 && image.GetHeight() == 8);
-    EXPECT_EQ(image.GetPixel(4, 4), red);
-}
-
 } // namespace
