@@ -5,6 +5,10 @@
 #include <afxcontrolbars.h>
 #include <afxdlgs.h>
 
+#include <cstring>
+
+using testing::ElementsAre;
+
 namespace {
 
 struct AfxCommonDialogs : WithParent {
@@ -115,9 +119,11 @@ TEST_F(AfxCommonDialogs, AFontIsDescribedAsItWasChosen) {
     CHARFORMAT format{}, chosen{};
     dialog.GetCharFormat(format);
     EXPECT_EQ(format.yHeight, 36 * 20);
+    format.crTextColor = RGB(255, 0, 0);
     CFontDialog other(format, CF_EFFECTS | CF_SCREENFONTS, nullptr, &parent);
     EXPECT_EQ(run(other, [&] { return press(other, IDOK); }), IDOK);
     other.GetCharFormat(chosen);
+    EXPECT_EQ(chosen.crTextColor, RGB(255, 0, 0));
     EXPECT_TRUE(chosen.yHeight == format.yHeight && chosen.dwEffects == (CFE_BOLD | CFE_ITALIC | CFE_UNDERLINE));
     EXPECT_STREQ(chosen.szFaceName, face);
     format.dwMask = CFM_BOLD;
@@ -281,14 +287,51 @@ TEST_F(AfxCommonDialogs, AFileIsChosenBesideControlsOfTheProgram) {
     EXPECT_TRUE(older.AddText(d::note, "note") == E_FAIL && older.GetIFileSaveDialog() == nullptr);
 }
 
-TEST(AfxPageSetup, TellsItsMargins) {
-    CPageSetupDialog box;
-    box.m_psd.rtMargin = {1, 2, 3, 4};
-    box.m_psd.rtMinMargin = {5, 6, 7, 8};
+template <class Record> HGLOBAL in_memory(const Record& record) {
+    const HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, sizeof(record));
+    std::memcpy(::GlobalLock(memory), &record, sizeof(record));
+    ::GlobalUnlock(memory);
+    return memory;
+}
+
+TEST(AfxPrinting, TellsWhatWasChosen) {
+    const struct {
+        DEVNAMES places;
+        char driver[7], device[8], port[5];
+    } names{{8, 15, 23, 0}, "driver", "printer", "port"};
+    DEVMODE mode{};
+    mode.dmCopies = 5;
+    const HGLOBAL first = in_memory(mode), second = in_memory(mode), named = in_memory(names);
+    the_app.SelectPrinter(nullptr, first);
+    the_app.SelectPrinter(named, second);
+    EXPECT_EQ(::GlobalFlags(first), UINT{GMEM_INVALID_HANDLE});
+    CPrintDialog box(FALSE, PD_ALLPAGES);
+    EXPECT_EQ(CPrintDialog(TRUE, PD_NOSELECTION).m_pd.Flags, DWORD{PD_PRINTSETUP | PD_NOSELECTION});
+    ASSERT_TRUE(the_app.GetPrinterDeviceDefaults(&box.m_pd));
+    EXPECT_STREQ(box.GetDriverName() + "|" + box.GetDeviceName() + "|" + box.GetPortName(), "driver|printer|port");
+    box.m_pd.nFromPage = 3, box.m_pd.nToPage = 4, box.m_pd.nCopies = 6;
+    std::vector<int> told;
+    for (const DWORD flags : {PD_USEDEVMODECOPIES, PD_PAGENUMS, PD_SELECTION | PD_COLLATE}) {
+        box.m_pd.Flags = flags;
+        told.insert(told.end(), {box.GetCopies(), box.GetFromPage(), box.GetToPage(), box.PrintAll(), box.PrintRange(),
+                                 box.PrintSelection(), box.PrintCollate()});
+    }
+    EXPECT_THAT(told, ElementsAre(5, -1, -1, 1, 0, 0, 0, 6, 3, 4, 0, 1, 0, 0, 6, -1, -1, 0, 0, 1, 1));
+
+    CPageSetupDialog page(PSD_MARGINS);
+    page.m_psd.hDevNames = named;
+    page.m_psd.hDevMode = second;
+    page.m_psd.ptPaperSize = {9, 10};
+    page.m_psd.rtMargin = {1, 2, 3, 4};
+    page.m_psd.rtMinMargin = {5, 6, 7, 8};
+    EXPECT_STREQ(page.GetDriverName() + "|" + page.GetDeviceName() + "|" + page.GetPortName(), "driver|printer|port");
+    EXPECT_TRUE(page.GetPaperSize() == CSize(9, 10) && page.GetDevMode()->dmCopies == 5);
     CRect margins, least;
-    box.GetMargins(margins, least);
+    page.GetMargins(margins, least);
     EXPECT_EQ(margins, CRect(1, 2, 3, 4));
     EXPECT_EQ(least, CRect(5, 6, 7, 8));
+    the_app.SelectPrinter(nullptr, nullptr, FALSE);
+    EXPECT_TRUE(::GlobalFree(named) == nullptr && ::GlobalFree(second) == nullptr) << "the caller's still";
 }
 
 TEST_F(AfxCommonDialogs, AFolderIsChosen) {

@@ -59,8 +59,13 @@ public:
     void OnDraw(CDC*) override {}
     void OnInitialUpdate() override { log.push_back("initial"), CView::OnInitialUpdate(); }
     void OnUpdate(CView*, LPARAM hint, CObject*) override { log.push_back("update " + std::to_string(hint)); }
+    void OnPrintDirect() { log.push_back("print on " + std::string(the_app.m_pCmdInfo->m_strPrinterName)); }
+    DECLARE_MESSAGE_MAP()
 };
 IMPLEMENT_DYNCREATE(note_view, CView)
+BEGIN_MESSAGE_MAP(note_view, CView)
+ON_COMMAND(ID_FILE_PRINT_DIRECT, &note_view::OnPrintDirect)
+END_MESSAGE_MAP()
 
 // A program with one kind of document, answering its questions by itself.
 struct NoteProgram : testing::Test {
@@ -184,6 +189,23 @@ TEST_F(NoteProgram, TellsWhyAFileCannotBeOpened) {
     }
 }
 
+TEST_F(NoteProgram, PrintsOneFileUnseenAndUnasked) {
+    write("printed");
+    CCommandLineInfo print;
+    print.m_nShellCommand = CCommandLineInfo::FilePrintTo;
+    print.m_strFileName = path_.c_str();
+    print.m_strPrinterName = "laser";
+    EXPECT_FALSE(the_app.ProcessShellCommand(print)) << "there is nothing more to do";
+    EXPECT_EQ(note_view::log.back() + " " + document().text, "print on laser printed");
+    EXPECT_TRUE(the_app.m_pCmdInfo == nullptr && !frame().IsWindowVisible());
+    the_app.m_nCmdShow = SW_HIDE; // as a program that the shell has started
+    const TemporaryFile other({'b'});
+    EXPECT_TRUE(the_app.OnDDECommand((std::string("[print(\"") + other.name() + "\")]").data()));
+    EXPECT_EQ(note_view::log.back() + document().text, "print on b");
+    MSG close;
+    EXPECT_TRUE(::PeekMessage(&close, frame(), WM_CLOSE, WM_CLOSE, PM_REMOVE)) << "it ends as nobody sees it";
+}
+
 TEST_F(NoteProgram, AsksForTheNameOfANewFile) {
     struct : CDocManager {
         BOOL DoPromptFileName(CString& name, UINT title, DWORD, BOOL, CDocTemplate*) override {
@@ -293,6 +315,10 @@ TEST_F(AfxSeveralDocuments, AFileThatIsOpenIsShownNotOpenedAgain) {
     frame->MDIMaximize(child);
     the_app.OnFileNew();
     EXPECT_EQ(text_of(*frame), "Tests - [Untitled1]") << "it is as large as the one before";
+    CMDIChildWnd* hidden = frame->MDIGetActive();
+    hidden->ShowWindow(SW_HIDE);
+    hidden->ActivateFrame();
+    EXPECT_TRUE(hidden->IsWindowVisible() && hidden->IsZoomed());
     std::string other_case = path;
     ::CharUpper(other_case.data());
     EXPECT_EQ(the_app.OpenDocumentFile(other_case.c_str()), first);
@@ -307,6 +333,15 @@ TEST_F(AfxSeveralDocuments, AFileThatIsOpenIsShownNotOpenedAgain) {
     child->SendMessage(WM_CLOSE);
     EXPECT_NE(frame->GetMenu()->m_hMenu, of_documents);
     ::DeleteFile(path.c_str());
+    const HMENU own = ::CreateMenu();
+    CMDIChildWnd* plain = frame->CreateNewChild(RUNTIME_CLASS(CMDIChildWnd), IDR_FRAME, own);
+    EXPECT_TRUE(plain == frame->MDIGetActive() && plain->IsWindowVisible() && frame->GetMenu()->m_hMenu == own);
+    auto* placed = new CMDIChildWnd;
+    EXPECT_TRUE(placed->Create(nullptr, "placed", WS_VISIBLE | WS_CAPTION, CRect(10, 20, 210, 140), frame));
+    EXPECT_EQ(place_in(*CWnd::FromHandle(frame->m_hWndMDIClient), *placed), CRect(10, 20, 210, 140));
+    placed->DestroyWindow();
+    plain->DestroyWindow();
+    EXPECT_TRUE(frame->GetMenu()->m_hMenu != own && ::DestroyMenu(own));
 }
 
 TEST_F(AfxSeveralDocuments, LieInOneFrameThatShowsTheActiveOnes) {
@@ -400,6 +435,14 @@ TEST_F(AfxSeveralDocuments, AreOpenedByTheShellsCommands) {
     EXPECT_TRUE(the_app.OnDDECommand(std::string(command).data()));
     auto* opened = static_cast<note*>(frame->GetActiveFrame()->GetActiveDocument());
     EXPECT_TRUE(opened != nullptr && opened->text == "a note");
+    std::ofstream("printed.note") << "b";
+    std::string print = "[printto(\"printed.note\",\"laser\",\"driver\",\"port\")]";
+    EXPECT_TRUE(the_app.OnDDECommand(print.data()) && note_view::log.back() == "print on laser");
+    EXPECT_EQ(the_app.GetOpenDocumentCount(), 1) << "the printed one was not open";
+    ::DeleteFile("printed.note");
+    frame->SendMessage(WM_DDE_TERMINATE, reinterpret_cast<WPARAM>(shell.m_hWnd));
+    EXPECT_TRUE(::PeekMessage(&answer, shell, WM_DDE_TERMINATE, WM_DDE_TERMINATE, PM_REMOVE));
+    EXPECT_EQ(talk(WM_DDE_EXECUTE, 0), 2) << "no longer";
     for (std::string wrong :
          {"", "[open(x)]", "[open(\"x\"]", "[open(\"x)]", "[close(\"x\")]", "[printto(\"x\",\"y\")]"})
         EXPECT_FALSE(the_app.OnDDECommand(wrong.data())) << wrong;
@@ -410,6 +453,9 @@ TEST_F(AfxSeveralDocuments, AreOpenedByTheShellsCommands) {
     LONG room = sizeof(start);
     ::RegQueryValue(HKEY_CURRENT_USER, "Software\\Classes\\Test.List\\shell\\open\\command", start, &room);
     EXPECT_STREQ(CString(start).Right(5), " /dde");
+    room = sizeof(start);
+    ::RegQueryValue(HKEY_CURRENT_USER, "Software\\Classes\\Test.List\\shell\\open\\ddeexec", start, &room);
+    EXPECT_STREQ(start, "[open(\"%1\")]");
     the_app.m_pDocManager->UnregisterShellFileTypes();
 }
 
@@ -461,24 +507,29 @@ TEST_F(AfxSeveralDocuments, OfSeveralKindsAreOfferedToTheUser) {
 }
 
 TEST(AfxCommandLine, SaysWhatTheShellWants) {
-    const std::tuple<std::vector<std::string>, int, const char*, const char*> cases[] = {
+    const std::tuple<std::vector<const char*>, int, const char*, const char*> cases[] = {
         {{}, CCommandLineInfo::FileNew, "", ""},
         {{"a.note"}, CCommandLineInfo::FileOpen, "a.note", ""},
         {{"/p", "a.note"}, CCommandLineInfo::FilePrint, "a.note", ""},
-        {{"/pt", "a.note", "laser", "driver", "port"}, CCommandLineInfo::FilePrintTo, "a.note", "laser"},
+        {{"/pt", "a.note", "-dde2", "laser", "driver", "port"},
+         CCommandLineInfo::FilePrintTo,
+         "a.note",
+         "laserdriverport"},
         {{"-dde"}, CCommandLineInfo::FileDDE, "", ""},
         {{"/Unregister"}, CCommandLineInfo::AppUnregister, "", ""},
         {{"-unknown", "b.note"}, CCommandLineInfo::FileOpen, "b.note", ""}};
     for (const auto& [words, command, file, printer] : cases) {
+        std::vector<const char*> arguments = words;
+        arguments.insert(arguments.begin(), "program");
+        const int count = std::exchange(__argc, static_cast<int>(arguments.size()));
+        char** const before = std::exchange(__argv, const_cast<char**>(arguments.data()));
         CCommandLineInfo info;
-        for (std::size_t i = 0; i < words.size(); ++i) {
-            const std::string& word = words[i];
-            const bool flag = word[0] == '/' || word[0] == '-';
-            info.ParseParam(word.c_str() + flag, flag, i + 1 == words.size());
-        }
+        the_app.ParseCommandLine(info);
+        __argc = count;
+        __argv = before;
         EXPECT_EQ(info.m_nShellCommand, command) << file;
         EXPECT_STREQ(info.m_strFileName, file);
-        EXPECT_STREQ(info.m_strPrinterName, printer);
+        EXPECT_STREQ(info.m_strPrinterName + info.m_strDriverName + info.m_strPortName, printer);
     }
 }
 

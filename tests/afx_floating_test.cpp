@@ -222,7 +222,14 @@ TEST_F(AfxMiniFrame, IsASmallPopupOfItsOwner) {
         EXPECT_TRUE((frame.SendMessage(WM_ACTIVATE, active), small->active == active)) << "together with its owner";
     EXPECT_EQ(small->GetExStyle() & WS_EX_TOOLWINDOW, static_cast<DWORD>(WS_EX_TOOLWINDOW));
     EXPECT_EQ(::GetWindow(small->m_hWnd, GW_OWNER), frame.m_hWnd);
-    EXPECT_EQ(small->SendMessage(WM_NCHITTEST, 0, MAKELPARAM(101, 140)), HTCAPTION) << "any edge moves it";
+    const std::pair<DWORD, LRESULT> edges[] = {
+        {MFS_THICKFRAME, HTLEFT}, {MFS_THICKFRAME | MFS_4THICKFRAME, HTBORDER}, {MFS_MOVEFRAME, HTCAPTION}};
+    for (const auto& [style, hit] : edges) {
+        auto* one = new CMiniFrameWnd;
+        ASSERT_TRUE(one->Create(nullptr, "one", WS_POPUP | WS_CAPTION | style, CRect(100, 100, 200, 180), &frame));
+        EXPECT_EQ(one->SendMessage(WM_NCHITTEST, 0, MAKELPARAM(101, 140)), hit);
+        one->DestroyWindow();
+    }
     CRect window(0, 0, 50, 50);
     CMiniFrameWnd::CalcBorders(window, small->GetStyle(), small->GetExStyle());
     small->SetWindowPos(nullptr, 0, 0, window.Width(), window.Height(), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);

@@ -70,7 +70,6 @@ struct AfxFrame : testing::Test {
 
     bar_frame frame;
 };
-using AfxToolBar = AfxFrame;
 using AfxReBar = AfxFrame;
 
 TEST_F(AfxFrame, UpdatesItsMenuToolbarAndPanesByItsHandlers) {
@@ -313,6 +312,9 @@ TEST_F(AfxFrame, ButtonsAndPanesKeepTheirStyles) {
     const HBITMAP images = frame.tools.m_hbmImageWell;
     bar.SendMessage(WM_SYSCOLORCHANGE);
     EXPECT_TRUE(::GetObjectType(images) == 0 && ::GetObjectType(frame.tools.m_hbmImageWell) == OBJ_BITMAP);
+    EXPECT_FALSE(bar.EnableToolTips(FALSE)) << "its style had none";
+    bar.SetBarStyle(bar.GetBarStyle() | CBRS_TOOLTIPS);
+    EXPECT_TRUE(bar.EnableToolTips()) << "its style has them";
     bar.SetSizes(CSize(24, 22), CSize(16, 15));
     bar.SetHeight(41);
     EXPECT_EQ(bar.GetBorders(), CRect(2, 9, 2, 10));
@@ -320,6 +322,13 @@ TEST_F(AfxFrame, ButtonsAndPanesKeepTheirStyles) {
     const UINT panes[] = {ID_SEPARATOR, ID_TEST_PANE};
     frame.status.SetIndicators(panes, 2);
     frame.status.GetItemRect(1, before);
+    EXPECT_EQ(frame.status.GetStyle() & SBARS_SIZEGRIP, DWORD{SBARS_SIZEGRIP});
+    frame.status.GetPaneInfo(1, id, style, image);
+    EXPECT_TRUE(id == ID_TEST_PANE && style == SBPS_DISABLED);
+    CClientDC dc(&frame.status);
+    dc.SelectObject(frame.status.GetFont());
+    EXPECT_EQ(image, dc.GetTextExtent(frame.status.GetPaneText(1)).cx);
+    EXPECT_NEAR(before.Width(), image + 8, 2);
     frame.status.SetPaneInfo(1, ID_TEST_PANE, SBPS_POPOUT, 200);
     frame.status.GetItemRect(1, after);
     frame.status.GetPaneInfo(1, id, style, image);
@@ -333,18 +342,6 @@ TEST_F(AfxFrame, ButtonsAndPanesKeepTheirStyles) {
     EXPECT_FALSE(frame.status.SetPaneText(2, "none such"));
     auto* without = new CFrameWnd; // deletes itself
     EXPECT_FALSE(without->Create(nullptr, "x", WS_OVERLAPPEDWINDOW, CFrameWnd::rectDefault, nullptr, "NoSuchMenu"));
-}
-
-TEST_F(AfxToolBar, HasABackgroundWhereTheFrameLeavesItsOwnToTheView) {
-    CCreateContext context;
-    context.m_pNewViewClass = RUNTIME_CLASS(CEditView);
-    auto* view = static_cast<CView*>(frame.CreateView(&context));
-    frame.SetActiveView(view);
-    frame.settle();
-    canvas dc(40, 20);
-    frame.tools.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc.m_hDC));
-    EXPECT_EQ(dc.GetPixel(5, 5), ::GetSysColor(COLOR_BTNFACE));
-    frame.SetActiveView(nullptr);
 }
 
 // Of a size of its own.
@@ -402,18 +399,6 @@ TEST(AfxControlBar, TakesItsPartOfItsParentAndPaintsItsEdges) {
                                                                                  "-...###......................#\n"
                                                                                  "-...............##############\n"
                                                                                  "-.............................\n");
-}
-
-TEST_F(AfxToolBar, HasTheBordersOfItsStyleAroundItsButtons) {
-    CToolBar& tools = frame.tools;
-    EXPECT_FALSE(tools.EnableToolTips(FALSE)) << "its style had none";
-    tools.SetBarStyle(tools.GetBarStyle() | CBRS_BORDER_TOP | CBRS_TOOLTIPS);
-    EXPECT_TRUE(tools.EnableToolTips()) << "its style has them";
-    EXPECT_EQ(on_screen(tools).Height() - inside_of(tools).Height(), 2 + 1 + 1 + 2);
-    CClientDC(&tools).SetPixel(3, 3, RGB(255, 0, 0));
-    tools.SendMessage(WM_NCPAINT, 1);
-    EXPECT_EQ(CWindowDC(&tools).GetPixel(10, 0), ::GetSysColor(COLOR_3DHIGHLIGHT));
-    EXPECT_EQ(CClientDC(&tools).GetPixel(3, 3), RGB(255, 0, 0)) << "the buttons are painted by themselves";
 }
 
 TEST_F(AfxReBar, HoldsTheFramesBars) {

@@ -1,9 +1,11 @@
 // What programs open and close all day gives everything back: dialogs, sheets, drawings, windows of documents.
 #include "afx_data_dialog.h"
 #include "pixels.h"
+#include "temporary_file.h"
 
 #include <afxdlgs.h>
 #include <afxext.h>
+#include <atlimage.h>
 
 namespace {
 
@@ -94,7 +96,8 @@ TEST(AfxHandles, DrawingsGiveEverythingBack) {
     ASSERT_TRUE(create_visible_popup(window));
     CBitmap image;
     ASSERT_TRUE(image.LoadBitmap(IDR_FRAME));
-    expect_flat([&](int) {
+    const TemporaryFile file;
+    expect_flat([&](int life) {
         try {
             CClientDC dc(&window);
             canvas memory(50, 50);
@@ -107,6 +110,13 @@ TEST(AfxHandles, DrawingsGiveEverythingBack) {
             memory.FillRect(CRect(0, 0, 50, 50), &pattern);
             memory.SelectObject(old);
             CClientDC(nullptr).SaveDC();
+            CImage picture;
+            picture.LoadFromResource(::GetModuleHandle(nullptr), IDB_UP);
+            if (life % 50 == 0) { // slower, and in files
+                ASSERT_EQ(picture.Save(file.name(), Gdiplus::ImageFormatPNG), S_OK);
+                ASSERT_EQ(picture.Load(file.name()), S_OK);
+            }
+            picture.GetDC();
             AfxThrowUserException();
         } catch (CUserException* exception) {
             exception->Delete();

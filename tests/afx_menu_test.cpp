@@ -35,7 +35,9 @@ TEST(AfxMenu, TakesItemsByPlaceAndByCommand) {
     more.Detach(); // the outer menu's now
     EXPECT_NE(menu.GetSubMenu(3), nullptr);
     CMenu extended;
+    EXPECT_FALSE(extended.LoadMenu(9999u));
     ASSERT_TRUE(extended.LoadMenu(206u));
+    EXPECT_EQ(CMenu::FromHandlePermanent(extended.m_hMenu), &extended);
     EXPECT_NE(extended.GetMenuState(1, MF_BYPOSITION) & MF_SEPARATOR, 0u);
     const CString longest('m', 700);
     menu.AppendMenu(MF_STRING, 30, longest);
@@ -63,18 +65,6 @@ TEST(AfxMenu, KeepsTheStatesOfItems) {
     EXPECT_TRUE(menu.GetMenuItemInfo(50, &info) && info.dwItemData == 77);
     EXPECT_FALSE(menu.GetMenuItemInfo(51, &info));
     EXPECT_TRUE(menu.SetMenuContextHelpId(5) && menu.GetMenuContextHelpId() == 5u);
-}
-
-TEST(AfxMenu, OwnsWhatItLoadedAndNothingElse) {
-    CMenu menu;
-    EXPECT_FALSE(menu.LoadMenu(UINT(9999)));
-    ASSERT_TRUE(menu.LoadMenu(IDR_FRAME));
-    const HMENU handle = menu.m_hMenu;
-    EXPECT_EQ(CMenu::FromHandlePermanent(handle), &menu);
-    EXPECT_TRUE(menu.DestroyMenu());
-    EXPECT_FALSE(menu.DestroyMenu() || ::IsMenu(handle));
-    CMenu* none = nullptr;
-    EXPECT_EQ(none->GetSafeHmenu(), nullptr);
 }
 
 // Writes down which items it measures and draws.

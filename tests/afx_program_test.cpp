@@ -2,6 +2,8 @@
 #include "afx_test_app.h"
 #include "modal.h"
 
+#include <SDKDDKVer.h>
+#include <afxdialogex.h>
 #include <afxpriv.h>
 
 test_app the_app;
@@ -23,20 +25,20 @@ class framework : public testing::Environment {
 const testing::Environment* const environment = testing::AddGlobalTestEnvironment(new framework);
 
 // Does one thing when it opens, and one when its data is exchanged.
-struct test_dialog : CDialog {
-    explicit test_dialog(CWnd* parent = nullptr) : CDialog(IDD_TEST, parent) {}
+struct test_dialog : CDialogEx {
+    explicit test_dialog(CWnd* parent = nullptr) : CDialogEx(MAKEINTRESOURCE(IDD_TEST), parent) {}
     BOOL OnInitDialog() override {
-        CDialog::OnInitDialog();
+        CDialogEx::OnInitDialog();
         if (on_open)
             on_open();
         return TRUE;
     }
     void DoDataExchange(CDataExchange* exchange) override {
-        CDialog::DoDataExchange(exchange);
+        CDialogEx::DoDataExchange(exchange);
         if (exchange->m_bSaveAndValidate && !valid)
             throw new CUserException;
     }
-    using CDialog::OnOK;
+    using CDialogEx::OnOK;
     void press(UINT id) { PostMessage(WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), 0); }
 
     std::function<void()> on_open;
@@ -121,6 +123,7 @@ TEST(AfxProgram, ShowsThatItIsBusyUntilTheLastWaitEnds) {
 }
 
 TEST(AfxProgram, BoxesBearItsNameAndAnIconThatFits) {
+    EXPECT_STREQ(AfxGetAppName(), "Tests");
     const std::pair<UINT, LPCTSTR> cases[] = {{MB_OK, IDI_EXCLAMATION},
                                               {MB_YESNO, IDI_QUESTION},
                                               {MB_RETRYCANCEL, IDI_HAND},
@@ -128,7 +131,7 @@ TEST(AfxProgram, BoxesBearItsNameAndAnIconThatFits) {
     for (const auto& [type, icon] : cases) {
         LRESULT shown = 0;
         const WhileModal work([&] {
-            const HWND box = ::FindWindow("#32770", the_app.m_pszAppName);
+            const HWND box = ::FindWindow("#32770", AfxGetAppName());
             shown = ::SendMessage(::FindWindowEx(box, nullptr, "Static", nullptr), STM_GETICON, 0, 0);
             return shown != 0 && ::EndDialog(box, 77);
         });

@@ -13,6 +13,7 @@
 
 // Answers message boxes by itself and keeps their texts.
 struct test_app : CWinApp {
+    test_app() : CWinApp("Tests") {}
     int DoMessageBox(LPCTSTR text, UINT, UINT) override {
         if (box_fails)
             AfxThrowMemoryException();

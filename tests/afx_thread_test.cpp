@@ -238,17 +238,4 @@ TEST(AfxSettings, KeepTheFilesThatWereUsedLast) {
     the_app.LoadStdProfileSettings(0);
 }
 
-TEST(AfxCommandLine, IsTakenFromTheProgramsArguments) {
-    const char* words[] = {"program", "/pt", "a.note", "-dde2", "laser", "driver", "port", nullptr};
-    const int count = std::exchange(__argc, 7);
-    char** const before = std::exchange(__argv, const_cast<char**>(words));
-    CCommandLineInfo info;
-    the_app.ParseCommandLine(info);
-    __argc = count;
-    __argv = before;
-    EXPECT_EQ(info.m_nShellCommand, CCommandLineInfo::FilePrintTo);
-    EXPECT_STREQ(info.m_strFileName + info.m_strPrinterName + info.m_strDriverName + info.m_strPortName,
-                 "a.notelaserdriverport");
-}
-
 } // namespace

@@ -4,8 +4,6 @@
 
 #include <afxext.h>
 
-#include <numeric>
-
 namespace {
 
 constexpr COLORREF white = RGB(255, 255, 255);
@@ -47,30 +45,14 @@ TEST_F(AfxTracker, MovesSidesCornersAndTheWhole) {
     tracker.m_rect.SetRect(95, 20, 80, 60);
     EXPECT_EQ(tracker.HitTest({10, 10}), CRectTracker::hitNothing);
 
-    struct : CRectTracker {
-        void OnChangedRect(const CRect&) override { look(); }
-        std::function<void()> look;
-    } band;
-    std::vector<std::vector<COLORREF>> seen;
-    band.look = [&] {
-        Picture now(120, 80);
-        now.capture(parent);
-        seen.push_back(now.values());
-    };
+    CRectTracker band;
     queue(WM_LBUTTONUP, 10, 10);
     EXPECT_FALSE(band.TrackRubberBand(&parent, {10, 10})) << "a click";
     queue(WM_MOUSEMOVE, 50, 40);
-    queue(WM_MOUSEMOVE, 70, 60);
     queue(WM_MOUSEMOVE, 90, 70);
     queue(WM_LBUTTONUP, 90, 70);
     EXPECT_TRUE(band.TrackRubberBand(&parent, {10, 10}));
     EXPECT_EQ(band.m_rect, CRect(10, 10, 90, 70));
-    band.look();
-    std::vector<long> changed_pixels;
-    for (const auto& now : seen)
-        changed_pixels.push_back(
-            120 * 80 - std::inner_product(now.begin(), now.end(), seen[0].begin(), 0L, std::plus(), std::equal_to()));
-    EXPECT_THAT(changed_pixels, testing::ElementsAre(0, 0, 68, 108, 0)) << "half of the frame's pixels, and no trace";
 }
 
 TEST_F(AfxTracker, DrawsHandlesWhereItFindsThem) {

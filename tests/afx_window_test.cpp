@@ -74,6 +74,12 @@ TEST(AfxWindow, IsCentredOverItsOwnerWithinTheWorkArea) {
         return on_screen(wnd).TopLeft();
     };
     EXPECT_NE(::GetClassLongPtr(wnd, GCLP_HCURSOR), 0u);
+    WNDCLASS known{};
+    const auto ground = reinterpret_cast<HBRUSH>(7);
+    const HCURSOR cross = ::LoadCursor(nullptr, IDC_CROSS);
+    LPCTSTR name = AfxRegisterWndClass(CS_DBLCLKS, cross, ground);
+    EXPECT_TRUE(::GetClassInfo(AfxGetInstanceHandle(), name, &known) && known.style == CS_DBLCLKS);
+    EXPECT_TRUE(known.hCursor == cross && known.hbrBackground == ground);
     const CPoint corner = work.TopLeft();
     EXPECT_EQ(at(CRect(corner, CSize(200, 100)), {40, 20}), corner + CSize(80, 40));
     EXPECT_EQ(at(CRect(corner, CSize(20, 10)), {60, 50}), corner);
@@ -108,6 +114,20 @@ TEST(AfxWindow, DoesWhatItsOperationsSay) {
     place.length = 0;
     EXPECT_TRUE(wnd.SetWindowPlacement(&place));
     EXPECT_EQ(on_screen(wnd), CRect(100, 120, 180, 170));
+}
+
+using AfxModalOwner = WithParent;
+
+TEST_F(AfxModalOwner, IsWhatIsNoChild) {
+    CWnd child, popup;
+    ASSERT_TRUE(child.Create(nullptr, "child", shown, place, &parent, 5));
+    ASSERT_TRUE(popup.CreateEx(0, nullptr, "popup", WS_POPUP, place, &parent, 0));
+    HWND top = parent;
+    EXPECT_EQ(CWnd::GetSafeOwner(&child, &top), &parent);
+    EXPECT_TRUE(top == nullptr && parent.IsWindowEnabled());
+    EXPECT_EQ(CWnd::GetSafeOwner(&popup, &top), &popup);
+    EXPECT_TRUE(top == parent.m_hWnd && !parent.IsWindowEnabled()) << "the one behind is disabled, too";
+    EXPECT_TRUE(CWnd::GetSafeOwner(&popup, &top) == &popup && top == nullptr);
 }
 
 TEST(AfxWindow, TemporaryObjectsLastUntilIdleHoweverManyThereAre) {

@@ -127,14 +127,18 @@ ON_COMMAND(ID_FILE_PRINT_DIRECT, &PagesView::OnFilePrint)
 ON_COMMAND(ID_FILE_PRINT, &PagesView::OnFilePrint)
 END_MESSAGE_MAP()
 
-TEST_F(PrintTest, ViewsPrintPageAfterPageInTheirUnits) {
-    auto* frame = new CFrameWnd;
-    ASSERT_TRUE(frame->Create(nullptr, "view pages"));
+PagesView* shown_in(CFrameWnd* frame, const char* title) {
+    EXPECT_TRUE(frame->Create(nullptr, title));
     CCreateContext context;
     context.m_pNewViewClass = RUNTIME_CLASS(PagesView);
     auto* view = static_cast<PagesView*>(frame->CreateView(&context));
-    ASSERT_NE(view, nullptr);
     frame->SetActiveView(view);
+    return view;
+}
+
+TEST_F(PrintTest, ViewsPrintPageAfterPageInTheirUnits) {
+    auto* frame = new CFrameWnd;
+    PagesView* view = shown_in(frame, "view pages");
     frame->SendMessage(WM_COMMAND, ID_FILE_PRINT_DIRECT);
     EXPECT_EQ(view->log, "begin 1 2 3 end");
     EXPECT_EQ(view->shown, "view pages, Page 1, view pages, Page 2, view pages, Page 3, ");
@@ -154,11 +158,7 @@ TEST_F(PrintTest, ViewsPrintPageAfterPageInTheirUnits) {
 TEST_F(PrintTest, TheUserChoosesPagesOrThinksBetterOfIt) {
     constexpr int pages = 0x0422, from = 0x0480, to = 0x0481; // the dialog's own controls
     auto* frame = new CFrameWnd;
-    ASSERT_TRUE(frame->Create(nullptr, "chosen pages"));
-    CCreateContext context;
-    context.m_pNewViewClass = RUNTIME_CLASS(PagesView);
-    auto* view = static_cast<PagesView*>(frame->CreateView(&context));
-    frame->SetActiveView(view);
+    PagesView* view = shown_in(frame, "chosen pages");
     program.m_pMainWnd = frame;
     const auto answer = [&](int button) {
         WhileModal modal([&] {
