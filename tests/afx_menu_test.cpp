@@ -65,6 +65,11 @@ TEST(AfxMenu, KeepsTheStatesOfItems) {
     EXPECT_TRUE(menu.GetMenuItemInfo(50, &info) && info.dwItemData == 77);
     EXPECT_FALSE(menu.GetMenuItemInfo(51, &info));
     EXPECT_TRUE(menu.SetMenuContextHelpId(5) && menu.GetMenuContextHelpId() == 5u);
+    const HMENU handle = menu.m_hMenu;
+    EXPECT_TRUE(menu.DestroyMenu());
+    EXPECT_FALSE(menu.DestroyMenu() || ::IsMenu(handle));
+    CMenu* none = nullptr;
+    EXPECT_EQ(none->GetSafeHmenu(), nullptr);
 }
 
 // Writes down which items it measures and draws.
