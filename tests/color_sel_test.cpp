@@ -166,6 +166,9 @@ TEST_F(ColorSelTest, ItemsTakeThePickedColour) {
     names_list.SendMessage(WM_KEYDOWN, VK_HOME); // the list tells what is chosen in it
     selector_.SetSelectedColorID(3);
     EXPECT_THAT(colours, testing::ElementsAre(3, 1));
+    colours[1] = 77;
+    selector_.SetSelectedColorID(1);
+    EXPECT_EQ(selector_.GetSelectedColor(), 77u) << "found by the colour, not by the item";
     selector_.ShowSliders(1);
     EXPECT_EQ(place_in(selector_, names_list), CRect(110, 0, 160, 90)); // its half of what they leave
     selector_.ShowSliders(0);

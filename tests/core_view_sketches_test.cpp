@@ -139,4 +139,15 @@ TEST(GaugeViews, DigitsHaveTheirSegments) {
 -.:::::..::::-x.+*xxx-..=xxx*-.::::=o.:oxxx*.=*xxx*;.::::+=.*xxx*o.:oxxx*:-*xxx*-,)");
 }
 
+// Pixel by pixel.
+TEST(GaugeViews, ValuesOnTheirDivisionsStayInside) {
+    std::string column;
+    for (const std::string& row : sketch(zoned(gauge_peak_line, 200, {":NOTITLE=X"}), 60, 60, 1))
+        column += row[30];
+    EXPECT_EQ(column, "..-@'''''''''''''''''''-''''''''''''''''''''-'.x@@@@@@@@@'..") << "a peak below the frame";
+    EXPECT_EQ(sketch(zoned(gauge_digital, 100, {":NOTITLE=X"}), 100, 60, 1)[44],
+              ".x...########.########.########.xxxxxxxx.xxxxxxxx.========.========.========.========.========....'.")
+        << "lamps up to it";
+}
+
 } // namespace
