@@ -134,24 +134,6 @@ TEST(AfxArchive, RefusesWhatDoesNotFit) {
     }
 }
 
-TEST(AfxArchive, SharesItsFileAfterFlush) {
-    CMemFile file;
-    store(file, [&](CArchive& ar) {
-        ar << 1;
-        ar.Flush();
-        ar.GetFile()->Write("raw", 3);
-        ar << 2;
-    });
-    CArchive ar(&file, CArchive::load);
-    int number = 0;
-    char raw[4] = "";
-    ar >> number;
-    ar.Flush(); // the file stands behind what was read
-    EXPECT_TRUE(ar.GetFile()->Read(raw, 3) == 3 && std::string("raw") == raw);
-    ar >> number;
-    EXPECT_EQ(number, 2);
-}
-
 // A file with everything in it.
 struct contents {
     graph_node *first = nullptr, *second = nullptr;

@@ -214,13 +214,15 @@ TEST(DibFile, IsDrawnOnWithinItsBounds) {
     dib.SetPixel(0, 1);
     EXPECT_EQ(bits_of(dib, 12), (Bytes{0, 0, 0, 0, 0, 0, 0, 0, 0, 3, 2, 1}));
     dib.Line(INT_MIN, 2, INT_MAX, 2);
-    const CDibFile copy(dib);
+    CDibFile copy(dib);
     const CDibFile& same = dib;
     dib = same;
     EXPECT_EQ(bits_of(dib, 27)[26], 1);
     dib.ClearBits(0x102);
     EXPECT_EQ(bits_of(dib, 27), Bytes(27, 2));
-    EXPECT_EQ(bits_of(copy, 12)[9], 3);
+    copy.SetColor(1, 2, 7);
+    copy.SetPixel(0, 1);
+    EXPECT_EQ(bits_of(copy, 12), (Bytes{0, 0, 0, 0, 0, 0, 0, 0, 0, 7, 2, 1}));
     dib = CDibFile();
     EXPECT_EQ(dib.IsValid() + dib.GetLastError(), 0);
 }
