@@ -49,6 +49,7 @@ TEST(AfxArchive, TextsMayBeOfAnyLength) {
     store(file, [&](CArchive& ar) {
         for (const int length : lengths)
             ar << CString('b', length);
+        ar.WriteString("line\r\n\r\n");
     });
     CArchive ar(&file, CArchive::load, 128);
     for (const int length : lengths) {
@@ -56,7 +57,9 @@ TEST(AfxArchive, TextsMayBeOfAnyLength) {
         ar >> text;
         EXPECT_EQ(text, CString('b', length)) << length;
     }
-    CString line;
+    CString line, empty = "full";
+    EXPECT_TRUE(ar.ReadString(line) && ar.ReadString(empty));
+    EXPECT_EQ(line + empty, "line");
     EXPECT_FALSE(ar.ReadString(line)) << "that was all";
 }
 

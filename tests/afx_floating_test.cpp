@@ -174,12 +174,12 @@ TEST_F(AfxFloating, ABarIsResizedByWholeLinesOfButtons) {
 }
 
 TEST_F(AfxDockState, PutsEveryBarBackWhereItWas) {
-    frame.DockControlBar(&frame.tools, AFX_IDW_DOCKBAR_TOP); // the second row now
+    frame.DockControlBar(&frame.tools, AFX_IDW_DOCKBAR_TOP, on_screen(frame.more) + CPoint(250, 0)); // in one row
     frame.RecalcLayout();
     const auto places = [&] {
         frame.SendMessage(WM_IDLEUPDATECMDUI, TRUE);
-        return std::vector<int>{on_screen(frame.tools).top, on_screen(frame.more).top, frame.tools.IsFloating(),
-                                frame.more.IsFloating(), frame.more.IsVisible()};
+        return std::vector<int>{on_screen(frame.tools).left, on_screen(frame.tools).top, on_screen(frame.more).top,
+                                frame.tools.IsFloating(),    frame.more.IsFloating(),    frame.more.IsVisible()};
     };
     CDockState rows, floating, read;
     frame.GetDockState(rows);
@@ -202,6 +202,8 @@ TEST_F(AfxDockState, PutsEveryBarBackWhereItWas) {
     store(file, [&](CArchive& ar) { rows.Serialize(ar); });
     load(file, [&](CArchive& ar) { read.Serialize(ar); });
     EXPECT_EQ(read.m_arrBarInfo.GetSize(), 2);
+    read.SaveState("Rows");
+    read.LoadState("Rows");
     frame.SetDockState(read);
     EXPECT_EQ(places(), in_rows);
 }

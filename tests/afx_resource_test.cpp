@@ -77,7 +77,7 @@ TEST(AfxWindowStyle, ChangesAndAnswersWhetherItDid) {
     CWnd wnd;
     ASSERT_TRUE(create_popup(wnd));
     EXPECT_TRUE(wnd.ModifyStyle(0, WS_VSCROLL, SWP_FRAMECHANGED));
-    EXPECT_FALSE(wnd.ModifyStyle(0, WS_VSCROLL));
+    EXPECT_FALSE(wnd.ModifyStyle(WS_VSCROLL, WS_VSCROLL)) << "what is taken away is given back";
     EXPECT_TRUE(wnd.ModifyStyleEx(0, WS_EX_CLIENTEDGE));
     SCROLLINFO info{0, SIF_RANGE | SIF_PAGE | SIF_POS, 0, 99, 10, 20, 0};
     wnd.SetScrollInfo(SB_VERT, &info);

@@ -111,6 +111,8 @@ TEST(AfxScrollView, ScrollsWithinItsDocumentInLogicalUnits) {
     EXPECT_EQ(shown.GetPixel(40, 10), red);
     view.UpdateWindow();
     EXPECT_EQ(CClientDC(&view).GetPixel(40, 10), red);
+    view.SendMessage(WM_INITIALUPDATE);
+    EXPECT_TRUE(view.GetUpdateRect(nullptr)) << "whatever its document tells";
     view.SetScrollSizes(MM_LOENGLISH, CSize(100, 3000));
     view.ScrollToPosition(CPoint(0, -500));
     EXPECT_NEAR(view.GetScrollPosition().y, -500, 2) << "y grows upwards";
@@ -408,6 +410,9 @@ TEST_F(AfxDynamicSplitter, HasItsPartsInTheirPlaces) {
     EXPECT_EQ(frame.GetActiveView(), splitter.GetPane(1, 1));
     splitter.GetPane(1, 0)->SendMessage(WM_MOUSEACTIVATE, reinterpret_cast<WPARAM>(frame.m_hWnd), HTCLIENT);
     EXPECT_EQ(frame.GetActiveView(), splitter.GetPane(1, 0)) << "which is clicked";
+    splitter.SetScrollStyle(WS_HSCROLL);
+    EXPECT_TRUE(splitter.GetDlgItem(AFX_IDW_HSCROLL_FIRST)->IsWindowVisible());
+    EXPECT_FALSE(splitter.GetDlgItem(AFX_IDW_VSCROLL_FIRST)->IsWindowVisible());
 }
 
 TEST(AfxSplitter, HoldsPanesOfItsOwnAndSplittersAgain) {
