@@ -49,7 +49,7 @@ TEST(AfxArchive, TextsMayBeOfAnyLength) {
     store(file, [&](CArchive& ar) {
         for (const int length : lengths)
             ar << CString('b', length);
-        ar.WriteString("line\r\n\r\n");
+        ar.WriteString("line\r\n\n");
     });
     CArchive ar(&file, CArchive::load, 128);
     for (const int length : lengths) {
