@@ -151,6 +151,8 @@ struct wizard_page : marked_page {
 };
 
 TEST(AfxWizard, StepsRefusesAndFinishes) {
+    const CPropertyPage titled(IDD_PAGE, IDS_CAPTION, IDS_FORMAT, ID_TEST_PANE);
+    EXPECT_EQ(titled.m_psp.dwFlags & 0xFFFFF008, PSP_USETITLE | PSP_USEHEADERTITLE | PSP_USEHEADERSUBTITLE);
     std::string log;
     wizard_page first("1", log), last("2", log);
     last.buttons = PSWIZB_BACK | PSWIZB_FINISH;

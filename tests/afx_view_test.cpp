@@ -363,7 +363,10 @@ TEST_F(AfxDynamicSplitter, TurnsPanesThatShareABarTogether) {
     EXPECT_EQ(turned(), "88,110 0,110 88,0 ");
     EXPECT_EQ(scroll(WM_VSCROLL, SB_BOTTOM, nullptr), "88,110 0,110 88,0 ")
         << "by a bar of its own, which is not there";
-    EXPECT_EQ(view.GetScrollPosition(), CPoint(88, 110));
+    EXPECT_TRUE(splitter.DoScrollBy(&view, CSize(5, 7)));
+    EXPECT_EQ(turned(), "93,117 0,117 93,0 ");
+    EXPECT_EQ(static_cast<CView*>(splitter.GetPane(0, 1))->GetScrollBarCtrl(SB_HORZ),
+              splitter.GetDlgItem(AFX_IDW_HSCROLL_FIRST + 1));
 }
 
 TEST_F(AfxDynamicSplitter, HasItsPartsInTheirPlaces) {
