@@ -48,7 +48,7 @@ void boxes(CWntOut& out, const Cell& c) {
     out.boxr0(c.x, c.y + h + 8, w - 8, h - 6);
     out.boxr1(c.x + w, c.y + h + 8, w - 8, h - 6);
     out.boxr2(c.x, c.y + 2, w - 8, h - 6);
-    out.fillcolour(::GetSysColor(COLOR_BTNFACE), 0); // on paper its light edges could not be seen
+    out.fillcolour(RGB(200, 204, 208), 0); // on paper its light edges could not be seen
     out.boxr2(c.x + w - 4, c.y, w, h - 2);
     out.drawshadow(c.x + w, c.y + 4, c.x + w + w / 2 - 8, c.y + h - 6, 1);
     out.drawshadow(c.x + w + w / 2, c.y + 4, c.x + 2 * w - 8, c.y + h - 6, 0);

@@ -199,6 +199,11 @@ TEST(WntBitmap, DrawsTheRowsThatAFileGave) {
             const bool given = std::abs(height) == 4 && row < 2;
             EXPECT_EQ(picture.at(3, y), given ? two_rows.colour_at(1, row) : colour_of(0)) << height << ' ' << y;
         }
+        if (height == 4) {
+            *bitmap.GetPixelAddress(1, 0) = 5;
+            bitmap.Draw(CDC::FromHandle(picture.dc()), 2, 1, 4, 4);
+            EXPECT_EQ(picture.at(3, 3), colour_of(5)) << "the host's pixel";
+        }
     }
 }
 

@@ -140,10 +140,16 @@ ULONGLONG CWntBitmap::stored_bytes() const {
     return m_pBits ? std::min<ULONGLONG>(wnt::storage_bytes(header_of(m_pBMI)), m_bits_size) : 0;
 }
 
+void* CWntBitmap::GetBitsAddress() const {
+    m_bits_given = m_bits_size;
+    return m_pBits;
+}
+
 BYTE* CWntBitmap::GetPixelAddress(int x, int y) const {
     const wnt::BitmapHeader header = header_of(m_pBMI);
     if (!m_pBits || x >= header.width || y >= header.height)
         return nullptr;
+    m_bits_given = m_bits_size;
     const std::int64_t row = std::int64_t{header.height} - y - 1;
     const auto offset = row * wnt::storage_width(header.width) + x;
     return reinterpret_cast<BYTE*>(reinterpret_cast<std::uintptr_t>(m_pBits) + static_cast<std::uintptr_t>(offset));
@@ -220,6 +226,7 @@ BOOL CWntBitmap::MapColorsToPalette(CPalette* palette) {
             static_cast<BYTE>(palette->GetNearestPaletteIndex(RGB(colour.rgbRed, colour.rgbGreen, colour.rgbBlue)));
     }
     translate(m_pBits, stored_bytes(), nearest);
+    m_bits_given = m_bits_size;
     PALETTEENTRY entries[colours];
     const UINT count = palette->GetPaletteEntries(0, colours, entries);
     for (UINT i = 0; i < count; ++i) {

@@ -70,7 +70,7 @@ public:
     /// Header and colour table, which stay the bitmap's; null for an empty one.
     BITMAPINFO* GetBitmapInfoAddress() const { return m_pBMI; }
     /// The pixels; null for an empty bitmap.
-    void* GetBitsAddress() const { return m_pBits; }
+    void* GetBitsAddress() const;
     /// The colour table, or the masks in front of it; null for an empty bitmap.
     RGBQUAD* GetClrTabAddress() const { return m_pBMI ? m_pBMI->bmiColors : nullptr; }
     /// The colours of the table, as the header tells them, at most 256 up to 8 bits. The three masks in front of them
@@ -96,8 +96,9 @@ private:
     BITMAPINFO* m_pBMI = nullptr;
     BYTE* m_pBits = nullptr;
     BOOL m_bMyBits = TRUE;
-    ULONGLONG m_bits_size = 0;  // what the pixel buffer holds, whatever the header says
-    ULONGLONG m_bits_given = 0; // what a file filled of it; the rest is zeros
+    ULONGLONG m_bits_size = 0; // what the pixel buffer holds, whatever the header says
+    // What a file filled of it; the rest is zeros, until others can write to it.
+    mutable ULONGLONG m_bits_given = 0;
 };
 
 #undef AFX_API
