@@ -144,6 +144,9 @@ TEST_F(ColorSelTest, ItemsTakeThePickedColour) {
     selector_.SetColorItems(names, colours, 2);
     EXPECT_TRUE(names_list.IsWindowVisible() && place_in(selector_, names_list) == CRect(80, 0, 160, 90));
 
+    LOGFONT font = {};
+    ASSERT_TRUE(names_list.GetFont() && names_list.GetFont()->GetLogFont(&font));
+    EXPECT_STREQ(font.lfFaceName, "MS Sans Serif");
     EXPECT_EQ(names_list.GetStyle() & 0xFFFF, LBS_SORT | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT);
     full_repaint(selector_);
     char first[20] = "";
