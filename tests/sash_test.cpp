@@ -55,6 +55,11 @@ TEST_F(Sash, PlacesItsPanesEitherWay) {
                  sash_.SetBarSize(0) || sash_.SetKeptPane(3) || sash_.SetLeastSizes(-1, 0) || sash_.Fold(1));
     CWntSash* volatile none = nullptr;
     EXPECT_EQ(none->SetPosition(1) + none->GetPosition() + none->Fold(1) + none->SetPanes(nullptr, nullptr), 0);
+    CWntSash thick;
+    thick.SetBarSize(9); // before there is a window
+    ASSERT_TRUE(thick.Create(nullptr, "", WS_CHILD, CRect(0, 0, 109, 50), &host_, 10));
+    EXPECT_TRUE(thick.SetPanes(nullptr, &second_) && place_in(thick, second_) == CRect(59, 0, 109, 50));
+    ASSERT_TRUE(sash_.SetPanes(&first_, &second_));
     first_.DestroyWindow(); // its place stays blank
     sash_.SetPosition(150);
     EXPECT_EQ(place(second_), CRect(155, 0, 305, 100));
