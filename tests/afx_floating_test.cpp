@@ -178,8 +178,9 @@ TEST_F(AfxDockState, PutsEveryBarBackWhereItWas) {
     frame.RecalcLayout();
     const auto places = [&] {
         frame.SendMessage(WM_IDLEUPDATECMDUI, TRUE);
-        return std::vector<int>{on_screen(frame.tools).left, on_screen(frame.tools).top, on_screen(frame.more).top,
-                                frame.tools.IsFloating(),    frame.more.IsFloating(),    frame.more.IsVisible()};
+        return std::vector<int>{on_screen(frame.tools).left,  on_screen(frame.tools).top, on_screen(frame.more).top,
+                                frame.tools.IsFloating(),     frame.more.IsFloating(),    frame.more.IsVisible(),
+                                on_screen(frame.more).Width()};
     };
     CDockState rows, floating, read;
     frame.GetDockState(rows);
