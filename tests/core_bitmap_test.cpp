@@ -39,6 +39,17 @@ TEST(BitmapSizes, FollowTheirRulesToTheEndsOfTheRange) {
     EXPECT_TRUE(dib_colours(compressed) == 5 && bitmap_colours(compressed) == 256);
 }
 
+TEST(BitmapSizes, ShortRunLengthsReachFewRows) {
+    // A row's end, a run, three pixels, four rows up, a run, the end, and what is behind it.
+    const std::uint8_t stream[] = {0, 0, 5, 7, 0, 3, 1, 2, 3, 0, 0, 2, 9, 4, 2, 8, 0, 0, 0, 1, 3, 3};
+    for (const int bits : {8, 4}) {
+        EXPECT_EQ(rows_of_runs(sized(20'000, 20'000, bits), stream), 6) << bits;
+        EXPECT_EQ(rows_of_runs(sized(20'000, 3, bits), stream), 2) << bits;
+        EXPECT_EQ(rows_of_runs(sized(20, 20, bits), stream), 20) << "it might fill them";
+        EXPECT_EQ(rows_of_runs(sized(20'000, 20'000, bits), {}), 0);
+    }
+}
+
 // A file that is cut, or promises what it does not hold, is refused before memory is taken for it. Of less data than
 // the picture needs the rest reads as 0.
 TEST(BitmapReaders, BoundWhatTheFilePromises) {

@@ -207,6 +207,31 @@ TEST(WntBitmap, DrawsTheRowsThatAFileGave) {
     }
 }
 
+TEST(WntBitmap, DrawsTheRowsThatRunLengthsReach) {
+    const BitmapFile four{8, 4, 4};
+    const Bytes plain = four.bytes();
+    for (const int height : {4, 400'000'000}) {
+        Bytes bytes(plain.begin(), plain.begin() + four.head_bytes());
+        const Bytes runs = {0, 0, 0, 2, 1, 0, 2, 7, 0, 1}; // two pixels in the second row from below
+        const auto size = static_cast<std::uint32_t>(runs.size());
+        const std::uint32_t rle8 = BI_RLE8;
+        std::memcpy(&bytes[22], &height, sizeof height);
+        std::memcpy(&bytes[30], &rle8, sizeof rle8);
+        std::memcpy(&bytes[34], &size, sizeof size);
+        bytes.insert(bytes.end(), runs.begin(), runs.end());
+        bytes[2] = static_cast<unsigned char>(bytes.size());
+        bytes[3] = static_cast<unsigned char>(bytes.size() >> 8);
+        const TemporaryFile disk(bytes);
+        CWntBitmap bitmap;
+        ASSERT_TRUE(bitmap.Load(disk.name())) << height;
+        Picture picture(4, 4);
+        bitmap.Draw(CDC::FromHandle(picture.dc()), 0, 4 - height, 4, height); // its lowest rows
+        const COLORREF found[] = {picture.at(0, 0), picture.at(0, 1), picture.at(1, 1),
+                                  picture.at(3, 1), picture.at(1, 2), picture.at(3, 3)};
+        EXPECT_THAT(found, testing::ElementsAre(0u, 0u, colour_of(7), 0u, 0u, 0u)) << height << ": others stay";
+    }
+}
+
 constexpr int colours = 20;
 
 struct PaletteFile {

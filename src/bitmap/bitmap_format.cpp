@@ -146,6 +146,34 @@ std::int32_t rows_within(const BitmapHeader& header, std::uint64_t bytes) {
         std::min<std::uint64_t>((bytes + row - 1) / row, static_cast<std::uint32_t>(rows)));
 }
 
+std::int32_t rows_of_runs(const BitmapHeader& header, std::span<const std::uint8_t> stream) {
+    constexpr std::uint64_t most_bytes_of_a_byte = 128; // two bytes make 255 pixels
+    const std::int32_t rows = row_count(std::abs(row_count(header.height)));
+    const auto padded = padded_bytes(header);
+    if (header.height < 0 || !padded || *padded <= most_bytes_of_a_byte * stream.size())
+        return rows;
+    std::int32_t row = 0, reached = 0;
+    for (std::size_t i = 0; i + 1 < stream.size() && row < rows;) {
+        const unsigned count = stream[i], code = stream[i + 1];
+        i += 2;
+        if (count > 0) {
+            reached = row + 1;
+        } else if (code == 0) {
+            ++row;
+        } else if (code == 1) {
+            break;
+        } else if (code == 2) {
+            row += i + 1 < stream.size() ? stream[i + 1] : 0;
+            i += 2;
+        } else {
+            reached = row + 1;
+            const unsigned bytes = header.bits == 4 ? (code + 1) / 2 : code;
+            i += bytes + bytes % 2;
+        }
+    }
+    return std::min(reached, rows);
+}
+
 HeapBytes header_block(std::uint64_t colours) {
     return zeroed_bytes(info_header_bytes + 4 * std::max<std::uint64_t>(colours, least_colours_held));
 }

@@ -78,6 +78,9 @@ std::optional<std::uint64_t> placed_bytes(const BitmapHeader& header);
 /// The rows of uncompressed pixels that so many bytes reach into.
 std::int32_t rows_within(const BitmapHeader& header, std::uint64_t bytes);
 
+/// The same of a stream of run lengths, where it is too short to fill the picture: the rows up to the last pixel.
+std::int32_t rows_of_runs(const BitmapHeader& header, std::span<const std::uint8_t> stream);
+
 /// A zeroed block for a 40-byte header with so many colours of four bytes, and for 256 at least.
 HeapBytes header_block(std::uint64_t colours);
 inline std::uint8_t* colour_table(std::uint8_t* block) {
