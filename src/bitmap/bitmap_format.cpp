@@ -152,7 +152,7 @@ std::int32_t rows_of_runs(const BitmapHeader& header, std::span<const std::uint8
     const auto padded = padded_bytes(header);
     if (header.height < 0 || !padded || *padded <= most_bytes_of_a_byte * stream.size())
         return rows;
-    std::int32_t row = 0, reached = 0;
+    std::int64_t row = 0, reached = 0;
     for (std::size_t i = 0; i + 1 < stream.size() && row < rows;) {
         const unsigned count = stream[i], code = stream[i + 1];
         i += 2;
@@ -171,7 +171,7 @@ std::int32_t rows_of_runs(const BitmapHeader& header, std::span<const std::uint8
             i += bytes + bytes % 2;
         }
     }
-    return std::min(reached, rows);
+    return static_cast<std::int32_t>(std::min<std::int64_t>(reached, rows));
 }
 
 HeapBytes header_block(std::uint64_t colours) {
