@@ -162,6 +162,7 @@ TEST(GaugeScale, ThinsToRoundSteps) {
                             {360, 12, 40, 2, 12},     // no round value: steps that end on the last division
                             {100, 997, 300, 20, 100}, // a prime number of divisions
                             {100, 999, 300, 20, 100}, // tens within half a pixel
+                            {100, 999, 1600, 5, 20},  // twos within a thousandth of it
                             {10, 999, 500, 10, 100},  // ones
                             {0, 10, 0, 10, 10}};
     for (const auto& [maximum, divisions, length, minor, major] : cases) {

@@ -59,8 +59,8 @@ std::int32_t thinned_step(std::int64_t range, std::int32_t divisions, std::int32
     return std::min(round_up(first / unit), divisions / unit) * unit;
 }
 
-// Steps close to round values where divisions lie on none: every multiple of `major` is then a round value within half
-// a pixel, and `minor` parts it evenly. A `major` of 0 where there are no such steps.
+// Steps close to round values where divisions lie on none: every multiple of `major` is then a round value within the
+// tolerance of labels, and `minor` parts it evenly. A `major` of 0 where there are no such steps.
 TickSteps near_round_steps(std::int64_t range, std::int32_t divisions, std::int32_t length, TickSteps least) {
     for (std::int64_t power = 1; power <= range; power *= 10) {
         for (const std::int64_t value : {power, 2 * power, 5 * power}) {
@@ -68,7 +68,7 @@ TickSteps near_round_steps(std::int64_t range, std::int32_t divisions, std::int3
             if (value > range || major < least.major)
                 continue;
             const std::int64_t drift = std::abs(range * major - divisions * value) * (divisions / major);
-            if (2.0 * static_cast<double>(drift) * length > static_cast<double>(range) * divisions)
+            if (static_cast<double>(drift) * length > label_tolerance(length) * static_cast<double>(range) * divisions)
                 continue;
             for (std::int32_t minor = std::max(least.minor, 1); minor <= 4 * least.minor; ++minor) {
                 const std::int32_t parts = major / minor;

@@ -2,6 +2,7 @@
 
 #include "widgets/gauge/gauge_model.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 
@@ -13,6 +14,12 @@ double scale_fraction(std::int32_t minimum, std::int32_t maximum, std::int32_t v
 
 /// Value at division 0..divisions of the scale, rounded to the nearest; other divisions are clamped.
 std::int32_t division_value(std::int32_t minimum, std::int32_t maximum, std::int32_t divisions, std::int32_t division);
+
+/// How far from its whole number a label may stand on a scale of some pixels: half a pixel, or a thousandth of a long
+/// one.
+constexpr double label_tolerance(double length) {
+    return std::max(0.5, length / 1000);
+}
 
 /// Which divisions are drawn: every `minor`-th gets a tick, every `major`-th, a multiple of it, a label.
 struct TickSteps {

@@ -34,9 +34,10 @@ float fraction_of(const GaugeModel& model, std::int32_t value) {
 
 namespace {
 
-// A label tells the truth when its whole number lies within half a pixel of the tick.
+// A label tells the truth when its whole number lies close to the tick.
 bool labelled_truly(const GaugeModel& model, const Tick& tick, float length) {
-    return std::abs(fraction_of(model, tick.value) - tick.fraction) * length <= 0.5f || model.minimum == model.maximum;
+    return std::abs(fraction_of(model, tick.value) - tick.fraction) * length <= label_tolerance(length) ||
+           model.minimum == model.maximum;
 }
 
 // The scale's end always has its tick and label: they push those before them aside.
