@@ -66,7 +66,7 @@ void check_bitmap(std::span<const std::uint8_t> file) {
     require(drawn && pixels.size >= *drawn);
     read_all(pixels.bytes.get(), pixels.size);
     const std::span<const std::uint8_t> given(pixels.bytes.get(), static_cast<std::size_t>(pixels.given));
-    require(rows_of_runs(header, given) <= std::abs(std::int64_t{header.height}));
+    require(rows_within(header, given) <= std::abs(std::int64_t{header.height}));
 }
 
 } // namespace

@@ -84,6 +84,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         require(std::isfinite(plain[i].value) ? kept.value == plain[i].value : std::isnan(kept.value));
         const auto found = series.seek(kept.time, series.first() + (i * 7919) % (plain.size() + 1));
         require(series[found].time == kept.time && (found == series.first() || series[found - 1].time < kept.time));
+        const auto next = series.seek(kept.time + 1, series.first() + (i * 104729) % (plain.size() + 6));
+        require(next > found && series[next - 1].time <= kept.time);
+        require(next == series.end() || series[next].time > kept.time);
     }
     check_summary(series, plain, 0, plain.size());
     check_summary(series, plain, plain.size() / 3, plain.size() - plain.size() / 4);

@@ -20,7 +20,7 @@ constexpr double hole = std::numeric_limits<double>::quiet_NaN();
 
 // Streams that the fuzz target compares with a plain queue: a capacity, then samples of a kind, a pause and a value.
 TEST(PulseSeries, HoldsTheNewestSamplesAndTheirBlocks) {
-    for (const int capacity : {0, 5, 16, 100, 255, 256, 9000}) {
+    for (const int capacity : {0, 1, 5, 16, 100, 255, 256, 9000}) {
         Random random(static_cast<unsigned>(capacity));
         std::vector<std::uint8_t> bytes = {static_cast<std::uint8_t>(capacity),
                                            static_cast<std::uint8_t>(capacity >> 8)};

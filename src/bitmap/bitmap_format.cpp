@@ -10,6 +10,7 @@ namespace {
 
 // Decoders of compressed pixels look a few bytes ahead.
 constexpr std::uint64_t spare_bytes = 16;
+constexpr std::uint32_t run_lengths_8 = 1, run_lengths_4 = 2;
 constexpr std::uint32_t bit_fields = 3; // not compressed, either
 
 std::uint16_t word_at(const std::uint8_t* at) {
@@ -136,22 +137,13 @@ std::optional<std::uint64_t> placed_bytes(const BitmapHeader& header) {
     return header.width < 1 || header.height == 0 ? 0 : header.image_size;
 }
 
-std::int32_t rows_within(const BitmapHeader& header, std::uint64_t bytes) {
-    const std::int32_t rows = row_count(std::abs(row_count(header.height)));
-    const auto padded = padded_bytes(header);
-    if (!padded || bytes >= *padded || (header.compression != uncompressed && header.compression != bit_fields))
-        return rows;
-    const std::uint64_t row = *padded / rows_of(header);
-    return static_cast<std::int32_t>(
-        std::min<std::uint64_t>((bytes + row - 1) / row, static_cast<std::uint32_t>(rows)));
+bool has_runs(const BitmapHeader& header) {
+    return header.compression == run_lengths_8 || header.compression == run_lengths_4;
 }
 
-std::int32_t rows_of_runs(const BitmapHeader& header, std::span<const std::uint8_t> stream) {
-    constexpr std::uint64_t most_bytes_of_a_byte = 128; // two bytes make 255 pixels
-    const std::int32_t rows = row_count(std::abs(row_count(header.height)));
-    const auto padded = padded_bytes(header);
-    if (header.height < 0 || !padded || *padded <= most_bytes_of_a_byte * stream.size())
-        return rows;
+namespace {
+
+std::int32_t rows_of_runs(const BitmapHeader& header, std::span<const std::uint8_t> stream, std::int32_t rows) {
     std::int64_t row = 0, reached = 0;
     for (std::size_t i = 0; i + 1 < stream.size() && row < rows;) {
         const unsigned count = stream[i], code = stream[i + 1];
@@ -172,6 +164,25 @@ std::int32_t rows_of_runs(const BitmapHeader& header, std::span<const std::uint8
         }
     }
     return static_cast<std::int32_t>(std::min<std::int64_t>(reached, rows));
+}
+
+} // namespace
+
+std::int32_t rows_within(const BitmapHeader& header, std::span<const std::uint8_t> pixels) {
+    constexpr std::uint64_t most_bytes_of_a_byte = 128; // two bytes of run lengths make 255 pixels
+    const std::int32_t rows = row_count(std::abs(row_count(header.height)));
+    const auto padded = padded_bytes(header);
+    if (!padded || pixels.size() >= *padded)
+        return rows;
+    if (has_runs(header))
+        return header.height < 0 || *padded <= most_bytes_of_a_byte * pixels.size()
+                   ? rows
+                   : rows_of_runs(header, pixels, rows);
+    if (header.compression != uncompressed && header.compression != bit_fields)
+        return rows;
+    const std::uint64_t row = *padded / rows_of(header);
+    return static_cast<std::int32_t>(
+        std::min<std::uint64_t>((pixels.size() + row - 1) / row, static_cast<std::uint32_t>(rows)));
 }
 
 HeapBytes header_block(std::uint64_t colours) {

@@ -75,11 +75,11 @@ std::optional<std::uint64_t> drawn_bytes(const BitmapHeader& header);
 /// anything.
 std::optional<std::uint64_t> placed_bytes(const BitmapHeader& header);
 
-/// The rows of uncompressed pixels that so many bytes reach into.
-std::int32_t rows_within(const BitmapHeader& header, std::uint64_t bytes);
-
-/// The same of a stream of run lengths, where it is too short to fill the picture: the rows up to the last pixel.
-std::int32_t rows_of_runs(const BitmapHeader& header, std::span<const std::uint8_t> stream);
+/// Whether the pixels are run lengths.
+bool has_runs(const BitmapHeader& header);
+/// The rows that pixels reach into: all where there are enough of them. Of run lengths that are too short to fill the
+/// picture, the rows up to the last pixel.
+std::int32_t rows_within(const BitmapHeader& header, std::span<const std::uint8_t> pixels);
 
 /// A zeroed block for a 40-byte header with so many colours of four bytes, and for 256 at least.
 HeapBytes header_block(std::uint64_t colours);

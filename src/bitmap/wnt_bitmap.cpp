@@ -165,13 +165,9 @@ void CWntBitmap::Draw(CDC* dc, int x, int y, int cx, int cy) {
     if (!m_pBits || !needed || *needed == 0 || *needed > m_bits_size)
         return;
     const std::int32_t rows = wnt::row_count(header.height);
-    const bool runs = header.compression == BI_RLE8 || header.compression == BI_RLE4;
-    const std::int32_t given = runs ? wnt::rows_of_runs(header, {m_pBits, static_cast<std::size_t>(m_bits_given)})
-                                    : wnt::rows_within(header, m_bits_given);
+    const std::int32_t given = wnt::rows_within(header, {m_pBits, static_cast<std::size_t>(m_bits_given)});
     if (given == rows)
         stretch(dc->GetSafeHdc(), {x, y, cx, cy}, rows, m_pBMI);
-    else if (runs)
-        draw_reached(dc->GetSafeHdc(), {x, y, cx, cy}, given);
     else
         draw_given(dc->GetSafeHdc(), {x, y, cx, cy}, given);
 }
@@ -182,36 +178,28 @@ void CWntBitmap::stretch(HDC dc, const RECT& place, int rows, const BITMAPINFO* 
     ::StretchDIBits(dc, x, y, cx, cy, 0, 0, header_of(m_pBMI).width, rows, m_pBits, info, DIB_RGB_COLORS, SRCCOPY);
 }
 
-// Where some rows from the first on go, left, top, width and height.
-static RECT part_of(const RECT& place, std::int32_t all, int rows) {
-    const auto [x, y, cx, cy] = place;
-    const auto height = static_cast<int>(std::int64_t{cy} * rows / std::abs(std::int64_t{all}));
-    return {x, all < 0 ? y : wnt::wrapped::add(y, cy - height), cx, height};
-}
-
-// A few bytes may promise gigabytes: the rows that a file did not give are painted as the zeros that they are.
+// A few bytes may promise gigabytes: the rows that a file did not give are painted as the zeros that they are. What run
+// lengths leave out is not painted, and they are taken apart for as many rows as the header says.
 void CWntBitmap::draw_given(HDC dc, const RECT& place, int given) const {
     const wnt::BitmapHeader header = header_of(m_pBMI);
     const auto [x, y, cx, cy] = place;
-    const RGBQUAD zero = header.bits <= 8 ? m_pBMI->bmiColors[0] : RGBQUAD{};
-    const wnt::GdiObject<HBRUSH> brush(::CreateSolidBrush(RGB(zero.rgbRed, zero.rgbGreen, zero.rgbBlue)));
-    const wnt::SelectGuard selected(dc, brush.get());
-    ::PatBlt(dc, x, y, cx, cy, PATCOPY);
-    stretch(dc, part_of(place, header.height, given), given, m_pBMI);
-}
-
-// Run lengths are taken apart for as many rows as the header says. What they leave out is not painted.
-void CWntBitmap::draw_reached(HDC dc, const RECT& place, int reached) const {
-    if (reached == 0)
+    if (!wnt::has_runs(header)) {
+        const RGBQUAD zero = header.bits <= 8 ? m_pBMI->bmiColors[0] : RGBQUAD{};
+        const wnt::GdiObject<HBRUSH> brush(::CreateSolidBrush(RGB(zero.rgbRed, zero.rgbGreen, zero.rgbBlue)));
+        const wnt::SelectGuard selected(dc, brush.get());
+        ::PatBlt(dc, x, y, cx, cy, PATCOPY);
+    }
+    if (given == 0)
         return;
     struct {
         BITMAPINFOHEADER header;
-        RGBQUAD colours[colours];
+        RGBQUAD colours[wnt::least_colours_held];
     } lower;
     std::memcpy(&lower, m_pBMI, sizeof lower);
-    lower.header.biHeight = reached;
-    stretch(dc, part_of(place, header_of(m_pBMI).height, reached), reached,
-            reinterpret_cast<const BITMAPINFO*>(&lower));
+    lower.header.biHeight = header.height < 0 ? -given : given;
+    const auto height = static_cast<int>(std::int64_t{cy} * given / std::abs(std::int64_t{header.height}));
+    const int from = header.height < 0 ? y : wnt::wrapped::add(y, cy - height);
+    stretch(dc, {x, from, cx, height}, given, reinterpret_cast<const BITMAPINFO*>(&lower));
 }
 
 // The block's last byte lies in its upper row, at its right.

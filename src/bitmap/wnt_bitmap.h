@@ -90,7 +90,6 @@ private:
     BOOL load_data(BYTE* data, DWORD size);
     void stretch(HDC dc, const RECT& place, int rows, const BITMAPINFO* info) const;
     void draw_given(HDC dc, const RECT& place, int given) const;
-    void draw_reached(HDC dc, const RECT& place, int reached) const;
     bool holds_block(int x, int y, int w, int h) const;
     ULONGLONG stored_bytes() const;
 
